@@ -1,0 +1,127 @@
+# Shared by the scripts beside it, which source it: the root of the project, and the program built
+# and run on a scratch copy of the sample suite.
+# shellcheck shell=bash
+
+wortel=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+programma=$wortel/build/run/bin/plexoran
+
+afbreken() {
+    echo "${0##*/}: $*" >&2
+    exit 1
+}
+
+# Prints those of the given files and folders that exist.
+bestaande() {
+    local pad
+    for pad in "$@"; do
+        if [[ -e $pad ]]; then
+            printf '%s\n' "$pad"
+        fi
+    done
+}
+
+# A character set of UTF-8 keeps names with accents whole, also on a machine without any locale.
+zorg_voor_utf8() {
+    if [[ $(locale charmap 2>/dev/null) != UTF-8 ]]; then
+        export LC_ALL=C.UTF-8
+    fi
+}
+
+# Configures the preset $1; further arguments go to cmake.
+configureer() {
+    local preset=$1
+    shift
+    if command -v ccache >/dev/null; then
+        set -- -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"
+    fi
+    (cd "$wortel" && cmake --preset "$preset" "$@")
+}
+
+# The program as users get it, without tests and benchmarks, in $programma. What the build says goes
+# to standard error, so that the output of the program itself stays clean.
+bouw_programma() {
+    {
+        "$wortel/script/afhankelijkheden" bouw
+        configureer release -B "$wortel/build/run" -DPLEXORAN_TESTS=OFF -DPLEXORAN_BENCH=OFF
+        cmake --build "$wortel/build/run" --target plexoran
+    } >&2
+}
+
+nieuwe_kladmap() {
+    local basis=${XDG_RUNTIME_DIR:-}
+    [[ -d $basis && -w $basis ]] || basis=${TMPDIR:-/tmp}
+    mktemp -d "$basis/plexoran-XXXXXX"
+}
+
+# Windows-1252 to and from the system's own names. What has no counterpart stays as it is: then the
+# program meets the bytes that the disk has.
+naar_codepagina() { zet_om UTF-8 WINDOWS-1252 "$1"; }
+van_codepagina() { zet_om WINDOWS-1252 UTF-8 "$1"; }
+zet_om() {
+    local omgezet
+    omgezet=$(iconv -f "$1" -t "$2" <<<"$3" 2>/dev/null) || omgezet=$3
+    printf '%s\n' "$omgezet"
+}
+
+# Prints the value of every line "KEY=value" whose value lies in the suite, as a path inside it with
+# slashes; the root itself is left out.
+suitemappen() {
+    local regel
+    while IFS= read -r regel || [[ -n $regel ]]; do
+        regel=${regel%$'\r'}
+        if [[ $regel == *=@SUITE@\\* ]]; then
+            regel=$(van_codepagina "${regel#*=@SUITE@\\}")
+            printf '%s\n' "${regel//\\//}"
+        fi
+    done <"$1"
+}
+
+# Makes folder $1 a sample suite: the files of voorbeeld/, the folders that its "Mappen.ini" names,
+# and that file itself with the folder's own path filled in.
+maak_suite() {
+    local map=$1 sjabloon=$wortel/voorbeeld/Mappen.ini.sjabloon onder pad
+    [[ -f $sjabloon ]] || afbreken "het bestand $sjabloon ontbreekt"
+    mkdir -p "$map"
+    cp -R "$wortel/voorbeeld/." "$map/"
+    chmod -R u+w "$map"
+    rm "$map/Mappen.ini.sjabloon"
+    while IFS= read -r onder; do
+        mkdir -p "$map/$onder"
+    done < <(suitemappen "$sjabloon")
+    pad=$(naar_codepagina "$map")
+    vul_sjabloon "$sjabloon" "$pad" >"$map/Mappen.ini"
+}
+
+# The template $1 with the path $2 filled in, byte by byte.
+vul_sjabloon() (
+    LC_ALL=C
+    # The x keeps the ends of the last lines, which $(...) would drop.
+    inhoud=$(cat "$1" && printf x)
+    inhoud=${inhoud%x}
+    printf '%s' "${inhoud//@SUITE@/"$2"}"
+)
+
+# Draws every window on a fresh sample suite, off screen: a PNG each in folder $1, at $2 percent.
+# Nothing of the user's own settings, theme or screen reaches the pictures, and a drawing that fails
+# leaves the older ones as they were.
+teken_vensters() {
+    local doel=$1 procent=$2 klad schaal status=0
+    klad=$(nieuwe_kladmap)
+    schaal=$(awk -v p="$procent" 'BEGIN { print p / 100 }')
+    maak_suite "$klad/suite"
+    mkdir -m 700 "$klad/eigen"
+    mkdir "$klad/beeld"
+    env -u QT_STYLE_OVERRIDE -u QT_QPA_PLATFORMTHEME -u QT_SCREEN_SCALE_FACTORS \
+        HOME="$klad/eigen" XDG_CONFIG_HOME="$klad/eigen" XDG_DATA_HOME="$klad/eigen" \
+        XDG_RUNTIME_DIR="$klad/eigen" TMPDIR="$klad/eigen" \
+        QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 QT_SCALE_FACTOR="$schaal" \
+        "$programma" --mappen "$klad/suite/Mappen.ini" --afbeeldingen "$klad/beeld" || status=$?
+    if ((status == 0)) && [[ -s $klad/beeld/frmLedenAdmin.png ]]; then
+        mkdir -p "$doel"
+        cp "$klad/beeld"/*.png "$doel/"
+        rm -rf "$klad"
+        return
+    fi
+    rm -rf "$klad"
+    afbreken "het programma maakte de afbeeldingen niet (status $status)"
+}

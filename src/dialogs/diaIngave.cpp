@@ -1,0 +1,333 @@
+#include "dialogs/diaIngave.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QTimer>
+
+#include <algorithm>
+
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/knop.h"
+
+namespace plexoran {
+namespace {
+
+// In twips.
+constexpr int VensterBreed = 5500;
+constexpr int VensterHoog = 7650;
+constexpr int RijBoven = 500;
+constexpr int RijAfstand = 300;
+constexpr int RijHoog = 285;
+constexpr int LabelLinks = 300;
+constexpr int LabelBreed = 1100;
+constexpr int VakLinks = 1500;
+constexpr int VakBreed = 2500;
+constexpr int GeslachtBreed = 500;
+constexpr int Rand = 100;
+
+constexpr double Veldletter = 8.0;
+constexpr double Groepletter = 10.0;
+constexpr int AchterDeTekst = 50; // caret position on returning to a field
+
+constexpr int Nummer(Kolom kolom)
+{
+    return static_cast<int>(kolom);
+}
+
+void Kleur(QWidget* widget, QPalette::ColorRole rol, const QColor& kleur)
+{
+    QPalette palet = widget->palette();
+    palet.setColor(QPalette::Active, rol, kleur);
+    palet.setColor(QPalette::Inactive, rol, kleur);
+    palet.setColor(QPalette::Disabled, rol, kleur);
+    widget->setPalette(palet);
+}
+
+} // namespace
+
+diaIngave::diaIngave(Ingave& ingave, std::int16_t& terugkeerveld, std::function<void()> bewaar,
+                     QWidget* hoofdvenster)
+    : QDialog(hoofdvenster), ingave_(ingave), Terugkeerveld(terugkeerveld),
+      bewaar_(std::move(bewaar)), hoofdvenster_(hoofdvenster)
+{
+    ingave_.IngaveGeannuleerd = false;
+    Bouw();
+    BouwVelden();
+    StelTabvolgordeIn();
+    PlaatsNaastHoofdvenster();
+}
+
+void diaIngave::Bouw()
+{
+    setObjectName(QStringLiteral("diaIngave"));
+    setWindowTitle(QStringLiteral("Ingeven persoonsgegevens"));
+    resize(maten_.Twips(VensterBreed), maten_.Twips(VensterHoog));
+    setMinimumSize(size());
+
+    Label1 = new QLabel(ingave_.IngaveModus == "Aanmaken"
+                            ? QStringLiteral("Aanmaken nieuwe regel")
+                            : QStringLiteral("Regelnummer %1").arg(ingave_.rij),
+                        this);
+    Noem(Label1, QStringLiteral("Label1"));
+    Label1->setAlignment(Qt::AlignCenter);
+    Label2 = new QLabel(QStringLiteral("Rood = verplichte ingave"), this);
+    Noem(Label2, QStringLiteral("Label2"));
+
+    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
+    cmdOK->setDefault(true);
+    cmdAnnuleren =
+        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+    connect(cmdOK, &QPushButton::clicked, this, &diaIngave::close);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &diaIngave::reject);
+    // A click on a button leaves no field: OK looks at all of them itself.
+    cmdOK->setFocusPolicy(Qt::TabFocus);
+    cmdAnnuleren->setFocusPolicy(Qt::TabFocus);
+}
+
+void diaIngave::BouwVelden()
+{
+    for (int veld = 1; veld <= AantalKolommen; ++veld)
+        BouwVeld(veld);
+    BouwGeslacht();
+    BouwHulp();
+    PasVeldenAanGroepAan();
+    // Each pick is one of its own group; without it the sex buttons would switch these off.
+    auto* terugkeer = new QButtonGroup(this);
+    for (int veld = Nummer(Kolom::Voornaam); veld <= AantalKolommen; ++veld)
+        terugkeer->addButton(opt1[static_cast<std::size_t>(veld)], veld);
+    connect(terugkeer, &QButtonGroup::idClicked, this, &diaIngave::KiesTerugkeerveld);
+}
+
+void diaIngave::BouwVeld(int veld)
+{
+    const auto plaats = static_cast<std::size_t>(veld);
+    const auto kolom = static_cast<Kolom>(veld);
+    const QString naam = NaarQString(Kolomnamen[plaats - 1]);
+    const QFont letter = maten_.Letter(Veldletter);
+
+    auto* label = new QLabel(naam + QLatin1Char(':'), this);
+    Noem(label, QStringLiteral("lbl1_%1").arg(veld));
+    label->setFont(letter);
+    auto* vak = new Tekstvak(this);
+    Noem(vak, QStringLiteral("txt1_%1").arg(veld), naam);
+    vak->setFont(letter);
+    vak->ZetTekst(Begintekst(kolom, ingave_.IngaveVelden[plaats - 1]));
+    label->setBuddy(vak);
+    vak->ZetToetsregel(
+        [kolom](char teken, std::size_t lengte) { return TypTeken(kolom, teken, lengte); });
+    connect(vak, &Tekstvak::verlaten, this, [this, veld] { Verlaat(veld); });
+    lbl1[plaats] = label;
+    txt1[plaats] = vak;
+
+    if (veld < Nummer(Kolom::Voornaam)) {
+        vak->setEnabled(false);
+        vak->setReadOnly(true);
+        Kleur(vak, QPalette::Base, palette().color(QPalette::Button));
+        return;
+    }
+    auto* opt = new QRadioButton(this);
+    Noem(opt, QStringLiteral("opt1_%1").arg(veld), QStringLiteral("Terugkeerveld %1").arg(naam));
+    opt->setToolTip(QStringLiteral("Kies hier het terugkeerveld tbv snelle ingave"));
+    opt->setFocusPolicy(Qt::TabFocus);
+    opt1[plaats] = opt;
+    if (kolom == Kolom::Achternaam) {
+        QFont vet = letter;
+        vet.setBold(true);
+        label->setFont(vet);
+        Kleur(label, QPalette::WindowText, QColor(255, 0, 0));
+    }
+}
+
+void diaIngave::BouwGeslacht()
+{
+    Frame1 = new QWidget(this);
+    Noem(Frame1, QStringLiteral("Frame1"), QStringLiteral("Geslacht"));
+    auto* rij = new QHBoxLayout(Frame1);
+    rij->setContentsMargins(0, 0, 0, 0);
+    const auto keus = [&](const QString& naam, const QString& tekst, const QString& letter) {
+        auto* knop = new QRadioButton(tekst, Frame1);
+        Noem(knop, naam);
+        knop->setFont(maten_.Letter(Veldletter));
+        knop->setFocusPolicy(Qt::TabFocus);
+        rij->addWidget(knop);
+        connect(knop, &QRadioButton::clicked, this, [this, letter] { KiesGeslacht(letter); });
+        return knop;
+    };
+    optMan = keus(QStringLiteral("optMan"), QStringLiteral("Man"), QStringLiteral("M"));
+    optVrouw = keus(QStringLiteral("optVrouw"), QStringLiteral("Vrouw"), QStringLiteral("V"));
+    rij->addStretch();
+
+    lbl1[Nummer(Kolom::MV)]->clear();
+    Tekstvak* vak = Vak(Kolom::MV);
+    vak->setAlignment(Qt::AlignCenter);
+    optMan->setChecked(vak->text() == QLatin1String("M"));
+    optVrouw->setChecked(vak->text() == QLatin1String("V"));
+}
+
+void diaIngave::BouwHulp()
+{
+    cmdH = MaakKnop(QStringLiteral("cmdH_1"), QStringLiteral("?"), 0, this);
+    cmdH->setAccessibleName(QStringLiteral("Hulp voor Status"));
+    cmdH->setToolTip(QStringLiteral("Hulp voor Status"));
+    cmdH->setFocusPolicy(Qt::TabFocus);
+    connect(cmdH, &QPushButton::clicked, this, &diaIngave::ToonHulp);
+}
+
+void diaIngave::PasVeldenAanGroepAan()
+{
+    Tekstvak* groep = Vak(Kolom::Groep);
+    groep->ZetTekst(ingave_.groeptekst);
+    groep->setAlignment(Qt::AlignCenter);
+    QFont letter = maten_.Letter(Groepletter);
+    letter.setBold(true);
+    groep->setFont(letter);
+    Kleur(groep, QPalette::Text, QColor(255, 0, 0));
+    Kleur(groep, QPalette::Base, QColor(255, 255, 0));
+
+    if (!ingave_.importgroep) {
+        lbl1[Nummer(Kolom::NBBgr)]->setText(QStringLiteral("Subgroep"));
+        lbl1[Nummer(Kolom::NBBnr)]->setText(QStringLiteral("-----"));
+    }
+    for (QWidget* deel : std::initializer_list<QWidget*>{
+             lbl1[Nummer(Kolom::NBBnr)], Vak(Kolom::NBBnr), opt1[Nummer(Kolom::NBBnr)]})
+        deel->setVisible(ingave_.importgroep);
+}
+
+/// As the eye reads: the fields from top to bottom, then the return fields, then the buttons.
+void diaIngave::StelTabvolgordeIn()
+{
+    QList<QWidget*> volgorde;
+    for (int veld = Nummer(Kolom::Voornaam); veld <= AantalKolommen; ++veld) {
+        volgorde << Vak(veld);
+        if (veld == Nummer(Kolom::MV))
+            volgorde << optMan << optVrouw;
+        if (veld == Nummer(Kolom::Status))
+            volgorde << cmdH;
+    }
+    for (int veld = Nummer(Kolom::Voornaam); veld <= AantalKolommen; ++veld)
+        volgorde << opt1[static_cast<std::size_t>(veld)];
+    volgorde << cmdAnnuleren << cmdOK;
+    for (qsizetype i = 1; i < volgorde.size(); ++i)
+        QWidget::setTabOrder(volgorde[i - 1], volgorde[i]);
+}
+
+void diaIngave::resizeEvent(QResizeEvent* gebeurtenis)
+{
+    QDialog::resizeEvent(gebeurtenis);
+    PlaatsDelen();
+}
+
+/// The places given in twips; what the window is wider than that goes to the text boxes.
+void diaIngave::PlaatsDelen()
+{
+    const auto tw = [this](int twips) { return maten_.Twips(twips); };
+    const int extra = std::max(0, width() - tw(VensterBreed));
+    const int vakbreed = tw(VakBreed) + extra;
+    Label1->setGeometry(0, tw(Rand), width(), tw(RijBoven - 2 * Rand));
+    for (int veld = 1; veld <= AantalKolommen; ++veld) {
+        const auto plaats = static_cast<std::size_t>(veld);
+        const int boven = tw(RijBoven + (veld - 1) * RijAfstand);
+        const int hoog = tw(RijHoog);
+        const bool geslacht = veld == Nummer(Kolom::MV);
+        const int labelbreed = std::max(tw(LabelBreed), lbl1[plaats]->sizeHint().width());
+        lbl1[plaats]->setGeometry(std::min(tw(LabelLinks), tw(VakLinks) - labelbreed), boven,
+                                  labelbreed, hoog);
+        txt1[plaats]->setGeometry(tw(VakLinks), boven, geslacht ? tw(GeslachtBreed) : vakbreed,
+                                  hoog);
+        if (opt1[plaats] != nullptr)
+            opt1[plaats]->setGeometry(tw(VakLinks) + vakbreed + tw(Rand), boven,
+                                      opt1[plaats]->sizeHint().width(), hoog);
+    }
+    const int geslachtBoven = Vak(Kolom::MV)->y();
+    Frame1->setGeometry(tw(VakLinks + GeslachtBreed + Rand), geslachtBoven,
+                        vakbreed - tw(GeslachtBreed + Rand), tw(RijHoog));
+    const QRadioButton* statuskeus = opt1[Nummer(Kolom::Status)];
+    cmdH->setGeometry(statuskeus->x() + tw(300), statuskeus->y(), tw(RijHoog), tw(RijHoog));
+
+    const QSize ok = cmdOK->sizeHint();
+    const QSize annuleren = cmdAnnuleren->sizeHint();
+    const int knopBoven = height() - ok.height() - tw(Rand);
+    cmdOK->setGeometry(width() - ok.width() - tw(Rand), knopBoven, ok.width(), ok.height());
+    cmdAnnuleren->setGeometry(cmdOK->x() - annuleren.width() - tw(300), knopBoven,
+                              annuleren.width(), ok.height());
+    Label2->adjustSize();
+    Label2->move(tw(Rand), knopBoven - tw(250));
+}
+
+void diaIngave::PlaatsNaastHoofdvenster()
+{
+    const QRect scherm = hoofdvenster_->screen()->availableGeometry();
+    const QRect hoofd = hoofdvenster_->frameGeometry();
+    const int links = hoofd.right() + 1 - width() - maten_.Twips(Rand);
+    const int boven = scherm.top() + (scherm.height() - height()) / 2;
+    move(std::clamp(links, scherm.left(), std::max(scherm.left(), scherm.right() - width())),
+         std::max(scherm.top(), boven));
+}
+
+void diaIngave::showEvent(QShowEvent* gebeurtenis)
+{
+    QDialog::showEvent(gebeurtenis);
+    if (!geactiveerd_) {
+        geactiveerd_ = true;
+        // Showing ends with selecting all of the first field; the return field comes after that.
+        QTimer::singleShot(0, this, &diaIngave::Activeer);
+    }
+}
+
+void diaIngave::Activeer()
+{
+    if (!KanTerugkeerveld(Terugkeerveld))
+        return;
+    opt1[static_cast<std::size_t>(Terugkeerveld)]->setChecked(true);
+    GaNaar(Terugkeerveld);
+}
+
+void diaIngave::GaNaar(int veld)
+{
+    Tekstvak* vak = Vak(veld);
+    vak->setFocus(Qt::OtherFocusReason);
+    vak->deselect();
+    vak->setCursorPosition(std::min(AchterDeTekst, static_cast<int>(vak->text().size())));
+}
+
+void diaIngave::KiesTerugkeerveld(int veld)
+{
+    Terugkeerveld = static_cast<std::int16_t>(veld);
+    bewaar_();
+    if (KanTerugkeerveld(veld))
+        GaNaar(veld);
+}
+
+void diaIngave::KiesGeslacht(const QString& letter)
+{
+    Vak(Kolom::MV)->setText(letter);
+}
+
+void diaIngave::ToonHulp()
+{
+    Meld(this, QMessageBox::Information,
+         QStringLiteral("Status: type 'overl' of 'overleden'. (is overleden)\r\n\r\n"
+                        "Deze speler wordt niet meer getoond bij 'Zittingindelen'.\r\n\r\n\r\n"
+                        "Tekst mag in hoofdletters of kleine letters."),
+         QStringLiteral("Hulp voor Status"));
+}
+
+void diaIngave::reject()
+{
+    ingave_.IngaveGeannuleerd = true;
+    close();
+}
+
+/// The close box counts as OK; this asymmetry with Escape is intended.
+void diaIngave::closeEvent(QCloseEvent* gebeurtenis)
+{
+    if (!IngaveControle()) {
+        gebeurtenis->ignore();
+        return;
+    }
+    gebeurtenis->accept();
+    done(ingave_.IngaveGeannuleerd ? Rejected : Accepted);
+}
+
+} // namespace plexoran

@@ -1,0 +1,58 @@
+// The rules of the fields at work: typing, leaving a field, the check at the end.
+#include <QTimer>
+
+#include <utility>
+
+#include "dialogs/diaIngave.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
+
+namespace plexoran {
+
+/// The text is mended at once; the messages follow when what took the focus away is done.
+void diaIngave::Verlaat(int veld)
+{
+    const auto kolom = static_cast<Kolom>(veld);
+    Tekstvak* vak = Vak(veld);
+    const Tekst tekst = vak->GeefTekst();
+    const Veldverlaten verlaten = VerlaatVeld(kolom, tekst);
+    if (verlaten.tekst != tekst)
+        vak->Vervang(verlaten.tekst);
+    if (verlaten.reparaties.empty())
+        return;
+    teMelden_.insert(teMelden_.end(), verlaten.reparaties.begin(), verlaten.reparaties.end());
+    QTimer::singleShot(0, this, &diaIngave::MeldReparaties);
+}
+
+void diaIngave::MeldReparaties()
+{
+    const auto reparaties = std::exchange(teMelden_, {});
+    for (const Reparatie reparatie : reparaties)
+        Meld(this, QMessageBox::Information,
+             reparatie == Reparatie::Komma
+                 ? QStringLiteral("Komma's worden veranderd in Underscores")
+                 : QStringLiteral("Bij dummy-speler 'Partner...' worden spaties veranderd in "
+                                  "Underscores"));
+}
+
+bool diaIngave::IngaveControle()
+{
+    if (ingave_.IngaveGeannuleerd)
+        return true;
+    for (int veld = static_cast<int>(Kolom::Voornaam); veld <= AantalKolommen; ++veld)
+        Verlaat(veld);
+    MeldReparaties();
+
+    ingave_.IngaveFout = false;
+    if (IsBlanco(Vak(Kolom::Achternaam)->GeefTekst())) {
+        Meld(this, QMessageBox::Warning, QStringLiteral("U moet minimaal de ACHTERNAAM invullen!"));
+        ingave_.IngaveFout = true;
+        Vak(Kolom::Achternaam)->setFocus(Qt::OtherFocusReason);
+        return false;
+    }
+    for (int veld = 1; veld <= AantalKolommen; ++veld)
+        ingave_.IngaveVelden[static_cast<std::size_t>(veld - 1)] = Vak(veld)->GeefTekst();
+    return true;
+}
+
+} // namespace plexoran

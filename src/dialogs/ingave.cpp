@@ -1,0 +1,57 @@
+#include "dialogs/ingave.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int EersteIngaveveld = static_cast<int>(Kolom::Voornaam);
+constexpr std::size_t LangsteNBBnr = 8;
+
+} // namespace
+
+bool KanTerugkeerveld(int veld)
+{
+    return veld >= EersteIngaveveld && veld <= AantalKolommen &&
+           veld != static_cast<int>(Kolom::MV);
+}
+
+Tekst Begintekst(Kolom veld, Tekstblik tekst)
+{
+    if (veld == Kolom::MV && tekst.empty())
+        return "M";
+    return veld == Kolom::NBBgr ? Hoofdletters(tekst) : Tekst(tekst);
+}
+
+std::optional<char> TypTeken(Kolom veld, char teken, std::size_t lengte)
+{
+    if (veld == Kolom::NBBgr)
+        return teken >= 'a' && teken <= 'z' ? Hoofdletter(teken) : teken;
+    if (veld != Kolom::NBBnr)
+        return teken;
+    const bool cijfer = teken >= '0' && teken <= '9';
+    return cijfer && lengte < LangsteNBBnr ? std::optional(teken) : std::nullopt;
+}
+
+Veldverlaten VerlaatVeld(Kolom veld, Tekstblik tekst)
+{
+    constexpr Tekstblik partner = "PARTNER";
+    Veldverlaten uit{Tekst(tekst), {}};
+    if (tekst.find(',') != Tekstblik::npos) {
+        uit.tekst = Vervang(uit.tekst, ',', '_');
+        uit.reparaties.push_back(Reparatie::Komma);
+    }
+    if (veld == Kolom::Achternaam && uit.tekst.find(' ') != Tekst::npos &&
+        Hoofdletters(tekst.substr(0, partner.size())) == partner) {
+        uit.tekst = Vervang(uit.tekst, ' ', '_');
+        uit.reparaties.push_back(Reparatie::Partner);
+    }
+    if (veld == Kolom::NBBgr)
+        uit.tekst = Hoofdletters(uit.tekst);
+    return uit;
+}
+
+bool HeeftAchternaam(const Rijvelden& velden)
+{
+    return !IsBlanco(velden[Plaats(Kolom::Achternaam)]);
+}
+
+} // namespace plexoran

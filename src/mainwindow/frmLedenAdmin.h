@@ -1,0 +1,131 @@
+// The main window: one group of the register in a grid, and every command of the program.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+
+#include <functional>
+
+#include "dialogs/ingave.h"
+#include "mainwindow/rooster.h"
+#include "platform/scherm/maten.h"
+#include "register/administratie.h"
+
+namespace plexoran {
+
+class Nummerlijst;
+
+/// What the start needs from outside.
+struct Opstart {
+    Pad mappenIni;
+    /// Whether no other instance of the program runs.
+    std::function<bool()> eersteExemplaar;
+};
+
+class frmLedenAdmin : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit frmLedenAdmin(Administratie& administratie, QWidget* ouder = nullptr);
+
+    /// The start-up, in its fixed order. Nothing when the program can go on, else the exit status
+    /// with which it ends at once.
+    [[nodiscard]] std::optional<int> Laad(const Opstart& opstart);
+
+    /// Shows the selected group anew, after a choice or a change.
+    void ToonGroep();
+
+  protected:
+    void closeEvent(QCloseEvent* gebeurtenis) override;
+
+  private:
+    enum class Opslag { Gelukt, RegisterBehouden, Mislukt };
+
+    // Building (frmLedenAdmin_bouw.cpp)
+    void MaakKnoppen();
+    void Bouw();
+    QWidget* BouwBovenkant();
+    QWidget* BouwOpdrachten();
+    QGroupBox* BouwVerwijderkader();
+    QGroupBox* BouwSorteerkader();
+    void Verbind();
+
+    // Start-up (frmLedenAdmin_start.cpp)
+    void LeesInstellingenBijStart();
+    void LeesGroepenBijStart();
+    void LeesSpelersBijStart();
+    void MeldLezing(const Leesverslag& verslag);
+    [[nodiscard]] QString WatNietGelezenIs(const Leesverslag& verslag) const;
+    void MeldMapfout(const QString& wat, const Fout& fout);
+
+    // Groups
+    void VulGroepen();
+    void KiesGroep(int plaats);
+    [[nodiscard]] Tekst Groeptekst() const;
+    void PasKnoppenAan(const Groepsbeeld& beeld);
+    void BewaarInstellingen();
+
+    // Commands
+    void VoegToe();
+    void Wijzig();
+    bool ToonIngave(Ingave& ingave);
+    void VerwijderGekozen();
+    void VerwijderVanTot();
+    void WijzigGroepsnamen();
+    bool BewaarGroepen(const Groepen& oud);
+    void StartGatenlijst();
+    [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
+    [[nodiscard]] bool IsRegelGekozen();
+
+    // Saving
+    Opslag SlaOp();
+    void LeesOpnieuw();
+    [[nodiscard]] bool OpnieuwProberen(const Fout& fout);
+    void MeldRegisterBehouden(Opslag opslag);
+
+    Administratie& administratie_;
+    Maten maten_;
+    bool nietOpgeslagen_ = false;         ///< the table holds changes that the file lacks
+    bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
+    bool opstarten_ = false;              ///< keeps `chkKolBr` from redrawing
+
+    Rooster* picP0;
+    QLabel* lblToel;
+    QLabel* Label1;
+    QLabel* Label3;
+    QLabel* lblVan;
+    QLabel* lblTot;
+    QComboBox* cmbGr;
+    QCheckBox* chkKolBr;
+    QCheckBox* chkToonAlle;
+    QComboBox* cmbVerwVan;
+    QComboBox* cmbVerwTot;
+    Nummerlijst* regelnummers_;
+    QPushButton* cmdMaakGrNamen;
+    QPushButton* cmdAanm;
+    QPushButton* cmdWijzig;
+    QPushButton* cmdVerwijder;
+    QPushButton* cmdVerwijderVT;
+    QPushButton* cmdVerplaats;
+    QPushButton* cmdKopieer;
+    QPushButton* cmdVerwGroep;
+    QPushButton* cmdSortlijst1;
+    QPushButton* cmdSortlijst2;
+    QPushButton* cmdSortlijst3;
+    QPushButton* cmdZoekDubbeleNamen;
+    QPushButton* cmdSpToevoegen;
+    QPushButton* cmdHaalNBBnamen;
+    QPushButton* cmdKoppel;
+    QPushButton* cmdParenOnderhoud;
+    QPushButton* cmdPrint;
+    QPushButton* cmdToelichting;
+    QPushButton* cmdToonGatenlijst;
+    QPushButton* cmdMaakScripts;
+    QPushButton* cmdEinde;
+};
+
+} // namespace plexoran

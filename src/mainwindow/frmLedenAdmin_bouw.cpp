@@ -1,0 +1,253 @@
+// Building the main window: its controls, their captions and places.
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QListView>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "mainwindow/frmLedenAdmin.h"
+#include "mainwindow/nummerlijst.h"
+#include "platform/scherm/knop.h"
+
+namespace plexoran {
+namespace {
+
+// In twips, where the window begins.
+constexpr int RoosterBoven = 1000;
+constexpr int RoosterLinks = 100;
+constexpr int KeuzeLinks = 7000;
+constexpr int Label1Boven = 200;
+constexpr int GroepBoven = 500;
+constexpr int GroepBreed = 3500;
+constexpr int NamenBoven = 400;
+constexpr int NamenTussen = 200;
+constexpr int KolBrBoven = 60;
+
+constexpr int Tussenruimte = 8; // pixels between the columns of commands
+
+QComboBox* MaakNummerkeus(const QString& naam, const QString& gesproken, Nummerlijst* nummers,
+                          QWidget* ouder)
+{
+    auto* keus = new QComboBox(ouder);
+    Noem(keus, naam, gesproken);
+    // Asking the width of every number would take as long as showing the group.
+    keus->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    keus->setMinimumContentsLength(6);
+    keus->setModel(nummers);
+    if (auto* lijst = qobject_cast<QListView*>(keus->view()))
+        lijst->setUniformItemSizes(true);
+    return keus;
+}
+
+/// A column of commands that keeps its place when some of them are hidden.
+QVBoxLayout* MaakKolom(std::initializer_list<QWidget*> delen)
+{
+    auto* kolom = new QVBoxLayout;
+    kolom->setSpacing(4);
+    for (QWidget* deel : delen) {
+        QSizePolicy beleid = deel->sizePolicy();
+        beleid.setRetainSizeWhenHidden(true);
+        deel->setSizePolicy(beleid);
+        kolom->addWidget(deel);
+    }
+    kolom->addStretch();
+    return kolom;
+}
+
+QLabel* MaakLabel(const QString& naam, const QString& tekst, QWidget* ouder)
+{
+    auto* label = new QLabel(tekst, ouder);
+    Noem(label, naam);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+/// The captions as they stand, each with the letter that works with Alt.
+void frmLedenAdmin::MaakKnoppen()
+{
+    const auto knop = [this](const char16_t* naam, const char16_t* tekst, char16_t letter) {
+        return MaakKnop(QString::fromUtf16(naam), QString::fromUtf16(tekst), letter, this);
+    };
+    cmdMaakGrNamen = knop(u"cmdMaakGrNamen", u"Spelergroepsnaam aanvullen", u'S');
+    cmdAanm = knop(u"cmdAanm", u"Nieuwe Speler toevoegen", u'N');
+    cmdWijzig = knop(u"cmdWijzig", u"Geselecteerde Speler wijzigen", u'w');
+    cmdVerplaats = knop(u"cmdVerplaats", u"Verplaats speler(s) naar andere groep", u'V');
+    cmdKopieer = knop(u"cmdKopieer", u"Kopieer speler(s) naar andere groep", u'K');
+    cmdVerwijder = knop(u"cmdVerwijder", u"Geselecteerde regel verwijderen...", u'G');
+    cmdVerwijderVT = knop(u"cmdVerwijderVT", u"Verwijder ...", u'j');
+    cmdVerwGroep = knop(u"cmdVerwGroep", u"Verwijder een hele subgroep ...", u'h');
+    cmdSortlijst1 = knop(u"cmdSortlijst1", u" Key", u'y');
+    cmdSortlijst2 = knop(u"cmdSortlijst2", u" NBB-nr", u'B');
+    cmdSortlijst3 = knop(u"cmdSortlijst3", u"NBB-groep", u'o');
+    cmdZoekDubbeleNamen = knop(u"cmdZoekDubbeleNamen", u"Zoek dubbele namen", u'Z');
+    cmdSpToevoegen = knop(u"cmdSpToevoegen", u"Toevoegen (_Rev)", u'R');
+    cmdHaalNBBnamen = knop(u"cmdHaalNBBnamen", u"Importeer NBB-spelers", u'I');
+    cmdKoppel = knop(u"cmdKoppel", u"Koppel zwevende NBB-speler", u'l');
+    cmdParenOnderhoud = knop(u"cmdParenOnderhoud", u"Paren-onderhoud", u'u');
+    cmdPrint = knop(u"cmdPrint", u"Printen...", u'P');
+    cmdToelichting = knop(u"cmdToelichting", u"Toelichting", u'c');
+    cmdToonGatenlijst = knop(u"cmdToonGatenlijst", u"Toon vrije NBB-nummers", u'T');
+    cmdMaakScripts = knop(u"cmdMaakScripts", u"MaakScripts ...", u'M');
+    cmdEinde = knop(u"cmdEinde", u"Einde", u'E');
+
+    cmdMaakGrNamen->setToolTip(
+        QStringLiteral("Voor de duidelijkheid kunt u tekst toevoegen. Bijv: Gro2-Clubleden"));
+    cmdWijzig->setToolTip(QStringLiteral("U kunt ook dubbelklikken op een regel"));
+    cmdVerwijder->setToolTip(QStringLiteral("Selecteer een regel"));
+    cmdToonGatenlijst->setToolTip(
+        QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
+    // Their windows are not there yet.
+    for (QPushButton* later : {cmdVerplaats, cmdKopieer, cmdVerwGroep, cmdSortlijst1, cmdSortlijst2,
+                               cmdSortlijst3, cmdZoekDubbeleNamen, cmdSpToevoegen, cmdHaalNBBnamen,
+                               cmdKoppel, cmdParenOnderhoud, cmdPrint, cmdToelichting})
+        later->setEnabled(false);
+}
+
+void frmLedenAdmin::Bouw()
+{
+    setObjectName(QStringLiteral("frmLedenAdmin"));
+    setWindowTitle(QStringLiteral("Onderhoud Plexoran[*]"));
+    MaakKnoppen();
+    picP0 = new Rooster(maten_, this);
+
+    auto* midden = new QWidget(this);
+    auto* lagen = new QVBoxLayout(midden);
+    lagen->setContentsMargins(0, 0, 0, 0);
+    lagen->setSpacing(0);
+    lagen->addWidget(BouwBovenkant());
+    auto* roosterrij = new QHBoxLayout;
+    roosterrij->setContentsMargins(maten_.Twips(RoosterLinks), 0, maten_.Twips(RoosterLinks), 0);
+    roosterrij->addWidget(picP0);
+    lagen->addLayout(roosterrij, 1);
+    lagen->addWidget(BouwOpdrachten());
+    setCentralWidget(midden);
+    resize(maten_.Twips(15360), maten_.Twips(10500));
+    setMinimumSize(maten_.Twips(15000), maten_.Twips(9000));
+    Verbind();
+}
+
+QWidget* frmLedenAdmin::BouwBovenkant()
+{
+    auto* boven = new QWidget(this);
+    boven->setFixedHeight(maten_.Twips(RoosterBoven));
+    lblToel = MaakLabel(QStringLiteral("lblToel"), QString(), boven);
+    lblToel->setWordWrap(true);
+    lblToel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    lblToel->setGeometry(maten_.Twips(RoosterLinks), maten_.Twips(KolBrBoven),
+                         maten_.Twips(KeuzeLinks - 3 * RoosterLinks),
+                         maten_.Twips(RoosterBoven - 2 * KolBrBoven));
+    Label1 = MaakLabel(QStringLiteral("Label1"), QStringLiteral("Kies spelergroep:"), boven);
+    Label1->adjustSize();
+    Label1->move(maten_.Twips(KeuzeLinks), maten_.Twips(Label1Boven));
+    cmbGr = new QComboBox(boven);
+    Noem(cmbGr, QStringLiteral("cmbGr"), QStringLiteral("Spelergroep"));
+    cmbGr->setMaxVisibleItems(25);
+    cmbGr->setGeometry(maten_.Twips(KeuzeLinks), maten_.Twips(GroepBoven), maten_.Twips(GroepBreed),
+                       cmbGr->sizeHint().height());
+    const int naast = cmbGr->geometry().right() + 1 + maten_.Twips(NamenTussen);
+    cmdMaakGrNamen->setParent(boven);
+    cmdMaakGrNamen->adjustSize();
+    cmdMaakGrNamen->move(naast, maten_.Twips(NamenBoven));
+    chkKolBr =
+        new QCheckBox(MetSneltoets(QStringLiteral("Kolombreedte volgens header"), u'd'), boven);
+    Noem(chkKolBr, QStringLiteral("chkKolBr"));
+    chkKolBr->adjustSize();
+    chkKolBr->move(naast, cmdMaakGrNamen->y() - chkKolBr->height() - maten_.Twips(KolBrBoven) / 2);
+    QWidget::setTabOrder(cmbGr, chkKolBr);
+    QWidget::setTabOrder(chkKolBr, cmdMaakGrNamen);
+    return boven;
+}
+
+QWidget* frmLedenAdmin::BouwOpdrachten()
+{
+    auto* opdrachten = new QWidget(this);
+    Label3 = MaakLabel(QStringLiteral("Label3"), QString(), opdrachten);
+    auto* rij = new QHBoxLayout(opdrachten);
+    rij->setContentsMargins(maten_.Twips(RoosterLinks), 6, maten_.Twips(RoosterLinks), 8);
+    rij->setSpacing(Tussenruimte);
+    rij->addLayout(MaakKolom({Label3, cmdAanm, cmdWijzig, cmdVerplaats, cmdKopieer}), 1);
+    rij->addLayout(MaakKolom({cmdVerwijder, BouwVerwijderkader(), cmdVerwGroep}), 1);
+
+    auto* lijsten = new QHBoxLayout;
+    lijsten->setSpacing(Tussenruimte);
+    lijsten->addLayout(MaakKolom({BouwSorteerkader(), cmdZoekDubbeleNamen}), 1);
+    lijsten->addLayout(MaakKolom({cmdHaalNBBnamen, cmdKoppel, cmdToonGatenlijst, cmdSpToevoegen,
+                                  cmdParenOnderhoud}),
+                       1);
+    lijsten->addLayout(MaakKolom({cmdToelichting, cmdMaakScripts, cmdEinde}));
+    // Its caption holds the group's name, of any length, and must not widen the window.
+    cmdPrint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* rechts = new QVBoxLayout;
+    rechts->setSpacing(4);
+    rechts->addLayout(lijsten, 1);
+    rechts->addWidget(cmdPrint);
+    rij->addLayout(rechts, 2);
+    return opdrachten;
+}
+
+QGroupBox* frmLedenAdmin::BouwVerwijderkader()
+{
+    auto* kader = new QGroupBox(QStringLiteral("Verwijder regels van/tot"), this);
+    Noem(kader, QStringLiteral("Frame2"));
+    regelnummers_ = new Nummerlijst(this);
+    cmbVerwVan = MaakNummerkeus(QStringLiteral("cmbVerwVan"), QStringLiteral("Van regel"),
+                                regelnummers_, kader);
+    cmbVerwTot = MaakNummerkeus(QStringLiteral("cmbVerwTot"), QStringLiteral("Tot en met regel"),
+                                regelnummers_, kader);
+    lblVan = MaakLabel(QStringLiteral("lblVan"), QStringLiteral("Van regel:"), kader);
+    lblTot = MaakLabel(QStringLiteral("lblTot"), QStringLiteral("T/m regel:"), kader);
+    auto* vakken = new QGridLayout(kader);
+    vakken->setContentsMargins(8, 4, 8, 6);
+    vakken->setVerticalSpacing(3);
+    vakken->addWidget(lblVan, 0, 0);
+    vakken->addWidget(cmbVerwVan, 0, 1);
+    vakken->addWidget(lblTot, 1, 0);
+    vakken->addWidget(cmbVerwTot, 1, 1);
+    vakken->addWidget(cmdVerwijderVT, 2, 0, 1, 2);
+    vakken->setColumnStretch(1, 1);
+    return kader;
+}
+
+QGroupBox* frmLedenAdmin::BouwSorteerkader()
+{
+    auto* kader = new QGroupBox(QStringLiteral("Sorteerlijst op:"), this);
+    Noem(kader, QStringLiteral("Frame1"));
+    chkToonAlle = new QCheckBox(MetSneltoets(QStringLiteral("Alle groepen"), u'A'), kader);
+    Noem(chkToonAlle, QStringLiteral("chkToonAlle"));
+    QSizePolicy beleid = cmdSortlijst2->sizePolicy();
+    beleid.setRetainSizeWhenHidden(true);
+    cmdSortlijst2->setSizePolicy(beleid);
+    auto* vakken = new QGridLayout(kader);
+    vakken->setContentsMargins(8, 4, 8, 6);
+    vakken->setVerticalSpacing(3);
+    vakken->addWidget(cmdSortlijst1, 0, 0);
+    vakken->addWidget(cmdSortlijst2, 0, 1);
+    vakken->addWidget(cmdSortlijst3, 0, 2);
+    vakken->addWidget(chkToonAlle, 1, 0, 1, 3);
+    return kader;
+}
+
+void frmLedenAdmin::Verbind()
+{
+    connect(cmbGr, &QComboBox::currentIndexChanged, this, &frmLedenAdmin::ToonGroep);
+    connect(chkKolBr, &QCheckBox::toggled, this, [this](bool aan) {
+        if (!opstarten_)
+            picP0->ZetBreedteregel(aan ? Breedteregel::VolgensHeader
+                                       : Breedteregel::VolgensTeksten);
+    });
+    connect(picP0, &Rooster::wijzigGevraagd, this, &frmLedenAdmin::Wijzig);
+    connect(picP0, &Rooster::verwijderGevraagd, this, &frmLedenAdmin::VerwijderGekozen);
+    connect(cmdAanm, &QPushButton::clicked, this, &frmLedenAdmin::VoegToe);
+    connect(cmdWijzig, &QPushButton::clicked, this, &frmLedenAdmin::Wijzig);
+    connect(cmdVerwijder, &QPushButton::clicked, this, &frmLedenAdmin::VerwijderGekozen);
+    connect(cmdVerwijderVT, &QPushButton::clicked, this, &frmLedenAdmin::VerwijderVanTot);
+    connect(cmdMaakGrNamen, &QPushButton::clicked, this, &frmLedenAdmin::WijzigGroepsnamen);
+    connect(cmdToonGatenlijst, &QPushButton::clicked, this, &frmLedenAdmin::StartGatenlijst);
+    connect(cmdEinde, &QPushButton::clicked, this, &frmLedenAdmin::close);
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+N")), this), &QShortcut::activated,
+            this, &frmLedenAdmin::VoegToe);
+}
+
+} // namespace plexoran

@@ -1,0 +1,90 @@
+#include "mainwindow/roostermaten.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace plexoran {
+namespace {
+
+constexpr double PerMillimeter = 1000.0; // micrometres
+constexpr Tekstblik puntjes = "...";
+
+} // namespace
+
+int RegelOp(double y, int regels)
+{
+    const double regel = std::floor((y - rooster::Bovenmarge) / rooster::Regelhoogte) + 1;
+    return regel < 1 || regel > regels ? 0 : static_cast<int>(regel);
+}
+
+double BovenkantVan(int regel)
+{
+    return (regel - 1) * rooster::Regelhoogte + rooster::Bovenmarge;
+}
+
+double OnderkantVan(int regel)
+{
+    return regel * rooster::Regelhoogte + rooster::Bovenmarge;
+}
+
+double Vlakhoogte(int regels)
+{
+    return OnderkantVan(regels);
+}
+
+Kolommaten MeetCellen(const Spelertabel& tabel, const std::vector<int>& rijen,
+                      const Tekstmeter& meter)
+{
+    Kolommaten maten{};
+    for (const int rij : rijen) {
+        for (std::size_t i = 0; i < maten.size(); ++i) {
+            const auto kolom = static_cast<Kolom>(i + 1);
+            maten[i] = std::max(maten[i], meter.Breedte(tabel.Cel(rij, kolom)));
+        }
+    }
+    return maten;
+}
+
+Kolomranden MaakKolommen(const Kolommaten& cellen, const Kolommaten& headers, Breedteregel regel)
+{
+    const bool volgensHeader = regel == Breedteregel::VolgensHeader;
+    const Kolommaten& maten = volgensHeader ? headers : cellen;
+    const double marge = (volgensHeader ? 2 : 4) * rooster::Celmarge;
+    Kolomranden randen{};
+    for (std::size_t i = 0; i < maten.size(); ++i) {
+        const double breedte = static_cast<double>(maten[i]) / PerMillimeter + marge;
+        randen[i + 1] = randen[i] + std::max(breedte, rooster::SmalsteKolom);
+    }
+    return randen;
+}
+
+int KolomOp(double x, const Kolomranden& randen)
+{
+    if (x < 0)
+        return 0;
+    const auto rand = std::upper_bound(randen.begin(), randen.end(), x);
+    return rand == randen.end() ? 0 : static_cast<int>(rand - randen.begin());
+}
+
+Tekst PasTekst(Tekstblik tekst, double kolombreedte, const Tekstmeter& meter)
+{
+    const double ruimte = kolombreedte - 2 * rooster::Celmarge - rooster::Speling;
+    const auto beschikbaar = static_cast<std::int64_t>(std::floor(ruimte * PerMillimeter));
+    const auto breedte = [&](char teken) { return meter.Breedte(Tekstblik(&teken, 1)); };
+
+    // Cutting a character a round and measuring again would be quadratic; the characters that stay
+    // are those whose widths, summed from the left, leave room for the dots.
+    const std::int64_t vrij = beschikbaar - meter.Breedte(puntjes);
+    std::int64_t som = 0;
+    std::size_t metPuntjes = 0;
+    for (std::size_t i = 0; i < tekst.size(); ++i) {
+        som += breedte(tekst[i]);
+        if (som <= vrij)
+            metPuntjes = i + 1;
+        if (som > beschikbaar)
+            return Tekst(tekst.substr(0, metPuntjes)).append(puntjes);
+    }
+    return Tekst(tekst);
+}
+
+} // namespace plexoran

@@ -1,0 +1,49 @@
+// The geometry of the grid, without a display. Lengths are millimetres on the grid's own surface,
+// measured from its top left corner; lines and columns count from 1.
+#pragma once
+
+#include <vector>
+
+#include "platform/tekstmeter.h"
+#include "register/spelertabel.h"
+
+namespace plexoran {
+
+namespace rooster {
+inline constexpr double Regelhoogte = 4.4;
+inline constexpr double Bovenmarge = 5.0; ///< room for the header above the first line
+inline constexpr double Celmarge = 1.0;   ///< padding of a cell, on one side
+inline constexpr double Speling = 0.6;    ///< kept free in a cell besides its padding
+inline constexpr double SmalsteKolom = 10.0;
+} // namespace rooster
+
+/// The line at a height: 0 above the first line and below the last of `regels` lines.
+[[nodiscard]] int RegelOp(double y, int regels);
+[[nodiscard]] double BovenkantVan(int regel);
+[[nodiscard]] double OnderkantVan(int regel);
+/// Height of the surface that holds `regels` lines.
+[[nodiscard]] double Vlakhoogte(int regels);
+
+/// Widest text of each column, in micrometres; element 0 is column 1.
+using Kolommaten = std::array<std::int64_t, AantalKolommen>;
+
+/// The widest cell text of each column over these rows of the table.
+[[nodiscard]] Kolommaten MeetCellen(const Spelertabel& tabel, const std::vector<int>& rijen,
+                                    const Tekstmeter& meter);
+
+enum class Breedteregel { VolgensTeksten, VolgensHeader };
+
+/// Left edges of the columns and, last, the right edge of the final one.
+using Kolomranden = std::array<double, AantalKolommen + 1>;
+
+[[nodiscard]] Kolomranden MaakKolommen(const Kolommaten& cellen, const Kolommaten& headers,
+                                       Breedteregel regel);
+
+/// The column at a place, 0 outside all columns.
+[[nodiscard]] int KolomOp(double x, const Kolomranden& randen);
+
+/// The text as it is drawn in a column of this width: whole when it fits, else shortened from its
+/// end and closed by "...".
+[[nodiscard]] Tekst PasTekst(Tekstblik tekst, double kolombreedte, const Tekstmeter& meter);
+
+} // namespace plexoran

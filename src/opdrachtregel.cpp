@@ -1,0 +1,84 @@
+#include "opdrachtregel.h"
+
+#include <QCommandLineParser>
+
+#include <cstdio>
+
+namespace plexoran {
+namespace {
+
+constexpr auto gebruik = R"(Gebruik: plexoran [opties]
+
+Plexoran houdt het spelersregister van een bridgeclub bij.
+
+Opties:
+  --mappen BESTAND      lees de mappen uit dit bestand in plaats van uit het
+                        bestand "Mappen.ini" bij het programma
+  --afbeeldingen MAP    bewaar van elk venster een afbeelding (PNG) in deze map
+                        en stop
+  --help                toon deze uitleg
+  --version             toon de versie
+
+Zonder --mappen wordt "Mappen.ini" gezocht in de map van het programma of, als
+in de naam van die map "Admin" voorkomt, in de map erboven.
+)";
+
+constexpr int VerkeerdGebruik = 2;
+
+Opdrachten Weiger(const QString& reden)
+{
+    const std::string tekst = reden.toStdString();
+    std::fprintf(stderr, "plexoran: %s\nProbeer 'plexoran --help'.\n", tekst.c_str());
+    Opdrachten opdrachten;
+    opdrachten.eindstatus = VerkeerdGebruik;
+    return opdrachten;
+}
+
+Opdrachten Antwoord(const char* tekst)
+{
+    std::fputs(tekst, stdout);
+    Opdrachten opdrachten;
+    opdrachten.eindstatus = std::fflush(stdout) == 0 ? 0 : 1;
+    return opdrachten;
+}
+
+} // namespace
+
+Opdrachten LeesOpdrachtregel(int argc, char** argv)
+{
+    QStringList woorden;
+    for (int i = 0; i < argc; ++i)
+        woorden << QString::fromLocal8Bit(argv[i]);
+
+    const QCommandLineOption mappen(QStringLiteral("mappen"), {}, QStringLiteral("BESTAND"));
+    const QCommandLineOption afbeeldingen(QStringLiteral("afbeeldingen"), {},
+                                          QStringLiteral("MAP"));
+    const QCommandLineOption help(QStringLiteral("help"));
+    const QCommandLineOption versie(QStringLiteral("version"));
+    QCommandLineParser lezer;
+    lezer.addOptions({mappen, afbeeldingen, help, versie});
+    const bool begrepen = lezer.parse(woorden);
+
+    if (!lezer.unknownOptionNames().isEmpty())
+        return Weiger(
+            QStringLiteral("onbekende optie '%1'").arg(lezer.unknownOptionNames().constFirst()));
+    if (!begrepen)
+        return Weiger(QStringLiteral("bij een optie ontbreekt haar waarde"));
+    if (!lezer.positionalArguments().isEmpty())
+        return Weiger(
+            QStringLiteral("onbekend woord '%1'").arg(lezer.positionalArguments().constFirst()));
+    if (lezer.isSet(help))
+        return Antwoord(gebruik);
+    if (lezer.isSet(versie))
+        return Antwoord("Plexoran " PLEXORAN_VERSIE "\n");
+    for (const auto& optie : {mappen, afbeeldingen}) {
+        if (lezer.isSet(optie) && lezer.value(optie).isEmpty())
+            return Weiger(
+                QStringLiteral("bij --%1 ontbreekt haar waarde").arg(optie.names().constFirst()));
+    }
+    return {.mappenIni = lezer.value(mappen).toStdString(),
+            .afbeeldingen = lezer.value(afbeeldingen).toStdString(),
+            .eindstatus = std::nullopt};
+}
+
+} // namespace plexoran

@@ -1,0 +1,20 @@
+// The command line.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace plexoran {
+
+struct Opdrachten {
+    std::string mappenIni;    ///< UTF-8; empty: beside the program
+    std::string afbeeldingen; ///< UTF-8; folder for a picture of every window, then stop
+    /// The program ends at once with this status; what it had to say has been said.
+    std::optional<int> eindstatus;
+};
+
+/// Answers `--help` and `--version` on standard output and refuses what it does not know on
+/// standard error with status 2, all without a display.
+[[nodiscard]] Opdrachten LeesOpdrachtregel(int argc, char** argv);
+
+} // namespace plexoran

@@ -1,0 +1,35 @@
+// The border between the register's bytes (Windows-1252) and Unicode. Bytes to Unicode cannot fail:
+// the five undefined bytes stand for the control characters of the same number and come back as
+// the same bytes. Unicode to bytes answers which characters did not fit.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/tekst.h"
+
+namespace plexoran {
+
+[[nodiscard]] std::u16string NaarUtf16(Tekstblik tekst);
+[[nodiscard]] std::string NaarUtf8(Tekstblik tekst);
+
+/// A character that the code page lacks, and what was taken for it.
+struct Vervanging {
+    std::u16string teken; ///< the character, one or two code units
+    Tekst door;           ///< nearest plain letters; empty when there are none and it was left out
+};
+
+struct Omzetting {
+    Tekst tekst;
+    std::vector<Vervanging> vervangen; ///< in order of appearance; empty when everything fitted
+};
+
+/// Composes (NFC) and converts; a character that the code page lacks becomes its nearest plain
+/// letter, or is left out, and is listed.
+[[nodiscard]] Omzetting NaarCodepagina(std::u16string_view tekst);
+
+/// The exact conversion: nothing when any character does not fit.
+[[nodiscard]] std::optional<Tekst> ExactNaarCodepagina(std::u16string_view tekst);
+
+} // namespace plexoran

@@ -1,0 +1,179 @@
+#include "platform/echteSchijf.h"
+
+#include <utility>
+
+#include "platform/codepagina.h"
+#include "platform/greep.h"
+#include "platform/systeempad.h"
+
+namespace plexoran {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Melding(const std::error_code& code)
+{
+#ifdef _WIN32
+    if (code.category() == std::system_category())
+        return NaarUtf8(code.message()); // Windows gives its words in the code page
+#endif
+    return code.message();
+}
+
+tl::unexpected<Fout> Mislukt(const fs::path& waar, const std::error_code& code)
+{
+    const bool ontbreekt =
+        code == std::errc::no_such_file_or_directory || code == std::errc::not_a_directory;
+    return tl::unexpected(Fout{ontbreekt ? Foutsoort::Ontbreekt : Foutsoort::Geweigerd,
+                               Leesbaar(waar), 0, Melding(code)});
+}
+
+Uitkomst<void> Uitslag(const fs::path& waar, const std::error_code& code)
+{
+    if (code)
+        return Mislukt(waar, code);
+    return {};
+}
+
+class EchteSchrijver : public Schrijver {
+  public:
+    explicit EchteSchrijver(fs::path pad) : pad_(std::move(pad)) {}
+
+    std::error_code Open() { return greep_.MaakNieuw(pad_); }
+    Uitkomst<void> Schrijf(Tekstblik bytes) override
+    {
+        return Uitslag(pad_, greep_.Schrijf(bytes));
+    }
+    Uitkomst<void> Sync() override { return Uitslag(pad_, greep_.Sync()); }
+    Uitkomst<void> Sluit() override { return Uitslag(pad_, greep_.Sluit()); }
+
+  private:
+    fs::path pad_;
+    systeem::Greep greep_;
+};
+
+} // namespace
+
+Uitkomst<Padsoort> EchteSchijf::Soort(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    std::error_code fout;
+    const fs::file_type soort = fs::status(waar, fout).type();
+    if (soort == fs::file_type::not_found)
+        return Padsoort::Niets;
+    if (soort == fs::file_type::none || fout)
+        return Mislukt(waar, fout);
+    return soort == fs::file_type::directory ? Padsoort::Map : Padsoort::Bestand;
+}
+
+Uitkomst<Tekst> EchteSchijf::LeesBestand(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    systeem::Greep greep;
+    Tekst inhoud;
+    std::error_code fout = greep.OpenLezen(waar);
+    if (!fout)
+        fout = greep.LeesAlles(inhoud);
+    if (fout)
+        return Mislukt(waar, fout);
+    return inhoud;
+}
+
+Uitkomst<Stempel> EchteSchijf::NeemStempel(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    Stempel stempel;
+    if (const auto fout = systeem::NeemStempel(waar, stempel))
+        return Mislukt(waar, fout);
+    return stempel;
+}
+
+Uitkomst<std::vector<Tekst>> EchteSchijf::Bestanden(const Pad& map)
+{
+    const fs::path waar = Systeempad(map);
+    std::vector<Tekst> namen;
+    std::error_code fout;
+    for (fs::directory_iterator plaats(waar, fout); !fout && plaats != fs::directory_iterator();
+         plaats.increment(fout)) {
+        std::error_code nietTeZien; // as a link that leads nowhere
+        if (!plaats->is_regular_file(nietTeZien))
+            continue;
+        if (auto naam = NaamVan(plaats->path().filename()))
+            namen.push_back(std::move(*naam));
+    }
+    if (fout)
+        return Mislukt(waar, fout);
+    return namen;
+}
+
+Uitkomst<void> EchteSchijf::MaakMap(const Pad& map)
+{
+    const fs::path waar = Systeempad(map);
+    std::error_code fout;
+    fs::create_directories(waar, fout);
+    if (fout == std::errc::not_a_directory) // nothing is missing: a file stands in the way
+        fout = std::make_error_code(std::errc::file_exists);
+    return Uitslag(waar, fout);
+}
+
+Uitkomst<Pad> EchteSchijf::Doel(const Pad& pad)
+{
+    fs::path waar = Systeempad(pad);
+    constexpr int hoogstens = 40; // as many as the systems follow themselves
+    for (int gevolgd = 0; gevolgd <= hoogstens; ++gevolgd) {
+        std::error_code fout;
+        const fs::file_type soort = fs::symlink_status(waar, fout).type();
+        if (soort == fs::file_type::none)
+            return Mislukt(waar, fout);
+        if (soort != fs::file_type::symlink)
+            return gevolgd == 0 ? pad : PadVan(waar);
+        const fs::path heen = fs::read_symlink(waar, fout);
+        if (fout)
+            return Mislukt(waar, fout);
+        waar = waar.parent_path() / heen;
+    }
+    return Mislukt(waar, std::make_error_code(std::errc::too_many_symbolic_link_levels));
+}
+
+Uitkomst<std::unique_ptr<Schrijver>> EchteSchijf::MaakNieuw(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    auto schrijver = std::make_unique<EchteSchrijver>(waar);
+    if (const auto fout = schrijver->Open())
+        return Mislukt(waar, fout);
+    return schrijver;
+}
+
+Uitkomst<void> EchteSchijf::NeemRechtenOver(const Pad& van, const Pad& naar)
+{
+    const fs::path waar = Systeempad(van);
+    return Uitslag(waar, systeem::NeemRechtenOver(waar, Systeempad(naar)));
+}
+
+Uitkomst<void> EchteSchijf::Hernoem(const Pad& van, const Pad& naar)
+{
+    const fs::path waar = Systeempad(naar);
+    return Uitslag(waar, systeem::Hernoem(Systeempad(van), waar));
+}
+
+Uitkomst<void> EchteSchijf::Verwijder(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    return Uitslag(waar, systeem::Verwijder(waar));
+}
+
+Uitkomst<void> EchteSchijf::SyncMapVan(const Pad& pad)
+{
+    fs::path map = Systeempad(pad).parent_path();
+    if (map.empty())
+        map = ".";
+    return Uitslag(map, systeem::SyncMap(map));
+}
+
+std::string EchteSchijf::Toonpad(const Pad& pad) const
+{
+    return Leesbaar(Systeempad(pad));
+}
+
+} // namespace plexoran

@@ -1,0 +1,28 @@
+// The one kind of error of the house. Rules return it and never word a message; the window that
+// started the action puts it into Dutch.
+#pragma once
+
+#include <string>
+
+#include <tl/expected.hpp>
+
+namespace plexoran {
+
+enum class Foutsoort {
+    Ontbreekt,        ///< the file or folder is not there
+    Beschadigd,       ///< it was read, but does not hold what it should
+    Geweigerd,        ///< the system refused: rights, a full disk, a broken device
+    Gewijzigd,        ///< someone else changed the file since it was read
+    GeenReservekopie, ///< the copy that must come before a save could not be made
+};
+
+struct [[nodiscard]] Fout {
+    Foutsoort soort = Foutsoort::Geweigerd;
+    std::string bestand; ///< as the system names it, UTF-8, for the eye only
+    int regel = 0;       ///< line of the file from 1; 0 where no line is to blame
+    std::string systeem; ///< the system's own words, UTF-8; may be empty
+};
+
+template <class T> using Uitkomst = tl::expected<T, Fout>;
+
+} // namespace plexoran

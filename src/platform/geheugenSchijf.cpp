@@ -1,0 +1,290 @@
+#include "platform/geheugenSchijf.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "platform/codepagina.h"
+
+namespace plexoran {
+namespace {
+
+/// One spelling per path: `\` between the parts, none double, none at the end.
+Pad Genormaliseerd(const Pad& pad)
+{
+    Pad uit;
+    const bool vanafWortel = !pad.empty() && (pad.front() == '\\' || pad.front() == '/');
+    for (std::size_t begin = 0; begin < pad.size();) {
+        const auto eind = std::min(pad.find_first_of("\\/", begin), pad.size());
+        const Tekstblik deel = Tekstblik(pad).substr(begin, eind - begin);
+        begin = eind + 1;
+        if (deel == "..") {
+            uit.resize(std::min(uit.rfind('\\'), uit.size()));
+        } else if (!deel.empty() && deel != ".") {
+            if (vanafWortel || !uit.empty())
+                uit += '\\';
+            uit += deel;
+        }
+    }
+    return uit;
+}
+
+Tekst Sleutel(const Pad& pad)
+{
+    return Hoofdletters(Genormaliseerd(pad));
+}
+
+/// The folder of a path that `Genormaliseerd` made; empty at the top.
+Tekst MapVan(const Tekst& pad)
+{
+    const auto streep = pad.rfind('\\');
+    return streep == Tekst::npos ? Tekst() : pad.substr(0, streep);
+}
+
+Tekst NaamIn(const Pad& pad)
+{
+    return pad.substr(pad.rfind('\\') + 1);
+}
+
+tl::unexpected<Fout> Mislukt(const Pad& pad, std::errc oorzaak)
+{
+    const auto soort = oorzaak == std::errc::no_such_file_or_directory ? Foutsoort::Ontbreekt
+                                                                       : Foutsoort::Geweigerd;
+    return tl::unexpected(Fout{soort, NaarUtf8(pad), 0, std::make_error_code(oorzaak).message()});
+}
+
+} // namespace
+
+class GeheugenSchijf::GeheugenSchrijver : public Schrijver {
+  public:
+    GeheugenSchrijver(GeheugenSchijf& schijf, std::shared_ptr<Knoop> knoop)
+        : schijf_(schijf), knoop_(std::move(knoop))
+    {}
+    Uitkomst<void> Schrijf(Tekstblik bytes) override
+    {
+        knoop_->inhoud += bytes;
+        knoop_->stempel.grootte = knoop_->inhoud.size();
+        knoop_->stempel.tijd = schijf_.Tik();
+        return {};
+    }
+    Uitkomst<void> Sync() override
+    {
+        knoop_->gesynct = knoop_->inhoud;
+        return {};
+    }
+    Uitkomst<void> Sluit() override { return {}; }
+
+  private:
+    GeheugenSchijf& schijf_;
+    std::shared_ptr<Knoop> knoop_;
+};
+
+std::shared_ptr<GeheugenSchijf::Knoop> GeheugenSchijf::NieuweKnoop()
+{
+    auto knoop = std::make_shared<Knoop>();
+    knoop->stempel.nummer = ++laatsteNummer_;
+    knoop->stempel.tijd = Tik();
+    return knoop;
+}
+
+bool GeheugenSchijf::IsMap(const Tekst& sleutel) const
+{
+    return sleutel.empty() || mappen_.contains(sleutel);
+}
+
+Uitkomst<void> GeheugenSchijf::MagInMapVan(const Tekst& sleutel, const Pad& pad) const
+{
+    const Tekst map = MapVan(sleutel);
+    if (!IsMap(map))
+        return Mislukt(pad, std::errc::no_such_file_or_directory);
+    const auto plaats = mappen_.find(map);
+    if (plaats != mappen_.end() && plaats->second.alleenLezen)
+        return Mislukt(pad, std::errc::permission_denied);
+    return {};
+}
+
+Uitkomst<GeheugenSchijf::Knoop*> GeheugenSchijf::Vind(const Pad& pad) const
+{
+    const Tekst sleutel = Sleutel(pad);
+    if (IsMap(sleutel))
+        return Mislukt(pad, std::errc::is_a_directory);
+    const auto plaats = namen_.find(sleutel);
+    if (plaats == namen_.end())
+        return Mislukt(pad, std::errc::no_such_file_or_directory);
+    return plaats->second.knoop.get();
+}
+
+void GeheugenSchijf::Zet(const Pad& pad, Tekstblik inhoud)
+{
+    const Pad netjes = Genormaliseerd(pad);
+    ZetMap(MapVan(netjes));
+    auto knoop = NieuweKnoop();
+    knoop->inhoud = inhoud;
+    knoop->gesynct = inhoud;
+    knoop->stempel.grootte = inhoud.size();
+    const Naam naam{netjes, std::move(knoop)};
+    namen_.insert_or_assign(Sleutel(pad), naam);
+    gesyncteNamen_.insert_or_assign(Sleutel(pad), naam);
+}
+
+void GeheugenSchijf::ZetMap(const Pad& map)
+{
+    for (Pad deel = Genormaliseerd(map); !deel.empty(); deel = MapVan(deel))
+        mappen_.try_emplace(Hoofdletters(deel), Map{deel});
+}
+
+void GeheugenSchijf::ZetTijd(const Pad& pad, std::int64_t tijd)
+{
+    namen_.at(Sleutel(pad)).knoop->stempel.tijd = tijd;
+}
+
+void GeheugenSchijf::ZetAlleenLezen(const Pad& pad, bool alleenLezen)
+{
+    const auto map = mappen_.find(Sleutel(pad));
+    if (map != mappen_.end())
+        map->second.alleenLezen = alleenLezen;
+    else
+        namen_.at(Sleutel(pad)).knoop->alleenLezen = alleenLezen;
+}
+
+std::optional<Tekst> GeheugenSchijf::Inhoud(const Pad& pad) const
+{
+    const auto knoop = Vind(pad);
+    return knoop ? std::optional((*knoop)->inhoud) : std::nullopt;
+}
+
+std::vector<Pad> GeheugenSchijf::AlleBestanden() const
+{
+    std::vector<Pad> uit;
+    for (const auto& [sleutel, naam] : namen_)
+        uit.push_back(naam.pad);
+    return uit;
+}
+
+std::map<Pad, Tekst> GeheugenSchijf::NaStroomuitval(Namen namen) const
+{
+    std::map<Pad, Tekst> uit;
+    for (const auto& [sleutel, naam] : namen == Namen::Alle ? namen_ : gesyncteNamen_)
+        uit[naam.pad] = naam.knoop->gesynct;
+    return uit;
+}
+
+Uitkomst<Padsoort> GeheugenSchijf::Soort(const Pad& pad)
+{
+    const Tekst sleutel = Sleutel(pad);
+    if (IsMap(sleutel))
+        return Padsoort::Map;
+    return namen_.contains(sleutel) ? Padsoort::Bestand : Padsoort::Niets;
+}
+
+Uitkomst<Tekst> GeheugenSchijf::LeesBestand(const Pad& pad)
+{
+    return Vind(pad).map([](const Knoop* knoop) { return knoop->inhoud; });
+}
+
+Uitkomst<Stempel> GeheugenSchijf::NeemStempel(const Pad& pad)
+{
+    return Vind(pad).map([](const Knoop* knoop) { return knoop->stempel; });
+}
+
+Uitkomst<std::vector<Tekst>> GeheugenSchijf::Bestanden(const Pad& map)
+{
+    const Tekst gezocht = Sleutel(map);
+    if (!IsMap(gezocht))
+        return Mislukt(map, std::errc::no_such_file_or_directory);
+    std::vector<Tekst> uit;
+    for (const auto& [sleutel, naam] : namen_) {
+        if (MapVan(sleutel) == gezocht)
+            uit.push_back(NaamIn(naam.pad));
+    }
+    return uit;
+}
+
+Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)
+{
+    for (Tekst sleutel = Sleutel(map); !IsMap(sleutel); sleutel = MapVan(sleutel)) {
+        if (namen_.contains(sleutel))
+            return Mislukt(map, std::errc::file_exists);
+        const bool hoogste = IsMap(MapVan(sleutel));
+        if (const auto mag = MagInMapVan(sleutel, map); hoogste && !mag)
+            return mag;
+    }
+    ZetMap(map);
+    return {};
+}
+
+Uitkomst<Pad> GeheugenSchijf::Doel(const Pad& pad)
+{
+    return pad;
+}
+
+Uitkomst<std::unique_ptr<Schrijver>> GeheugenSchijf::MaakNieuw(const Pad& pad)
+{
+    const Tekst sleutel = Sleutel(pad);
+    if (const auto mag = MagInMapVan(sleutel, pad); !mag)
+        return tl::unexpected(mag.error());
+    if (IsMap(sleutel) || namen_.contains(sleutel))
+        return Mislukt(pad, std::errc::file_exists);
+    auto knoop = NieuweKnoop();
+    namen_.emplace(sleutel, Naam{Genormaliseerd(pad), knoop});
+    return std::make_unique<GeheugenSchrijver>(*this, std::move(knoop));
+}
+
+Uitkomst<void> GeheugenSchijf::NeemRechtenOver(const Pad& van, const Pad& naar)
+{
+    const auto oud = Vind(van);
+    if (!oud)
+        return tl::unexpected(oud.error());
+    if ((*oud)->alleenLezen)
+        return Mislukt(van, std::errc::permission_denied);
+    return Vind(naar).map([](const Knoop*) {});
+}
+
+Uitkomst<void> GeheugenSchijf::Hernoem(const Pad& van, const Pad& naar)
+{
+    const auto oud = Vind(van);
+    if (!oud)
+        return tl::unexpected(oud.error());
+    const Tekst sleutel = Sleutel(naar);
+    if (IsMap(sleutel))
+        return Mislukt(naar, std::errc::is_a_directory);
+    for (const Tekst& plaats : {Sleutel(van), sleutel}) {
+        if (const auto mag = MagInMapVan(plaats, naar); !mag)
+            return mag;
+    }
+    if (sleutel == Sleutel(van))
+        return {};
+    const auto knoop = namen_.extract(Sleutel(van)).mapped().knoop;
+    // A name that is there already keeps its case.
+    namen_.try_emplace(sleutel, Naam{Genormaliseerd(naar), nullptr}).first->second.knoop = knoop;
+    return {};
+}
+
+Uitkomst<void> GeheugenSchijf::Verwijder(const Pad& pad)
+{
+    if (const auto knoop = Vind(pad); !knoop)
+        return tl::unexpected(knoop.error());
+    if (const auto mag = MagInMapVan(Sleutel(pad), pad); !mag)
+        return mag;
+    namen_.erase(Sleutel(pad));
+    return {};
+}
+
+Uitkomst<void> GeheugenSchijf::SyncMapVan(const Pad& pad)
+{
+    const Tekst map = MapVan(Sleutel(pad));
+    if (!IsMap(map))
+        return Mislukt(pad, std::errc::no_such_file_or_directory);
+    std::erase_if(gesyncteNamen_, [&](const auto& item) { return MapVan(item.first) == map; });
+    for (const auto& [sleutel, naam] : namen_) {
+        if (MapVan(sleutel) == map)
+            gesyncteNamen_.emplace(sleutel, naam);
+    }
+    return {};
+}
+
+std::string GeheugenSchijf::Toonpad(const Pad& pad) const
+{
+    return NaarUtf8(pad);
+}
+
+} // namespace plexoran

@@ -1,0 +1,17 @@
+// The numeric value of a text, as the suite's files use it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "platform/tekst.h"
+
+namespace plexoran {
+
+/// The number with which the text begins: spaces, a sign, digits and a fraction after a point;
+/// what follows is ignored. Without digits it is 0. A value with a fraction is rounded to the
+/// nearest whole number, a half to the even one. Nothing when it does not fit.
+[[nodiscard]] std::optional<std::int16_t> Geheel16(Tekstblik tekst);
+[[nodiscard]] std::optional<std::int32_t> Geheel32(Tekstblik tekst);
+
+} // namespace plexoran

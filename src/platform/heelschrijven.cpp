@@ -1,0 +1,115 @@
+#include "platform/heelschrijven.h"
+
+#include <atomic>
+#include <utility>
+
+#include <QCoreApplication>
+
+namespace plexoran {
+namespace {
+
+constexpr Tekstblik kenmerk = ".~";
+
+/// Digits that no other save uses at this moment; those of a killed program may come back.
+Tekst UniekNummer()
+{
+    static std::atomic<unsigned> teller = 0;
+    constexpr unsigned rond = 10'000;
+    return MetNullen(QCoreApplication::applicationPid(), 1) + MetNullen(++teller % rond, 4);
+}
+
+struct Tijdelijk {
+    Pad pad;
+    std::unique_ptr<Schrijver> schrijver;
+};
+
+Uitkomst<Tijdelijk> MaakTijdelijk(Schijf& schijf, const Pad& doel)
+{
+    constexpr int pogingen = 100;
+    for (int poging = 1;; ++poging) {
+        Pad pad = doel;
+        pad += kenmerk;
+        pad += UniekNummer();
+        auto schrijver = schijf.MaakNieuw(pad);
+        if (schrijver)
+            return Tijdelijk{std::move(pad), std::move(*schrijver)};
+        const auto soort = schijf.Soort(pad);
+        const bool bezet = soort && *soort != Padsoort::Niets;
+        if (!bezet || poging == pogingen)
+            return tl::unexpected(schrijver.error());
+    }
+}
+
+/// Ends with the writer closed, also on a failure: an open file cannot be removed everywhere.
+Uitkomst<void> VulEnSluit(std::unique_ptr<Schrijver> schrijver, Tekstblik inhoud)
+{
+    return schrijver->Schrijf(inhoud).and_then([&] { return schrijver->Sync(); }).and_then([&] {
+        return schrijver->Sluit();
+    });
+}
+
+/// The old file's rights come before the contents, so that what few may read is never readable to
+/// many, and so that they are synced along.
+Uitkomst<void> VulEnRuil(Schijf& schijf, Tijdelijk& tijdelijk, const Pad& doel, bool vervangt,
+                         Tekstblik inhoud)
+{
+    std::unique_ptr<Schrijver> schrijver = std::move(tijdelijk.schrijver);
+    Uitkomst<void> rechten;
+    if (vervangt)
+        rechten = schijf.NeemRechtenOver(doel, tijdelijk.pad);
+    return rechten.and_then([&] { return VulEnSluit(std::move(schrijver), inhoud); }).and_then([&] {
+        return schijf.Hernoem(tijdelijk.pad, doel);
+    });
+}
+
+} // namespace
+
+Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
+{
+    const auto doel = schijf.Doel(pad);
+    if (!doel)
+        return tl::unexpected(doel.error());
+    const auto soort = schijf.Soort(*doel);
+    if (!soort)
+        return tl::unexpected(soort.error());
+    auto tijdelijk = MaakTijdelijk(schijf, *doel);
+    if (!tijdelijk)
+        return tl::unexpected(tijdelijk.error());
+
+    const bool vervangt = *soort != Padsoort::Niets;
+    auto geruild = VulEnRuil(schijf, *tijdelijk, *doel, vervangt, inhoud);
+    if (!geruild) {
+        // When this fails too, RuimTijdelijkeOp comes later; the first failure is the one to tell.
+        static_cast<void>(schijf.Verwijder(tijdelijk->pad));
+        return geruild;
+    }
+    return schijf.SyncMapVan(*doel);
+}
+
+void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu)
+{
+    // A save of a link works in the folder of what it leads to.
+    const auto doel = schijf.Doel(Samen(map, naam));
+    if (!doel)
+        return;
+    const auto streep = doel->find_last_of("\\/");
+    const Pad doelmap = doel->substr(0, streep);
+    const Tekst begin = Hoofdletters(Tekstblik(*doel).substr(streep + 1)) + Tekst(kenmerk);
+    const auto bestanden = schijf.Bestanden(doelmap);
+    if (!bestanden)
+        return;
+    constexpr std::int64_t uur = 3'600'000'000'000;
+    for (const Tekst& bestand : *bestanden) {
+        const bool tijdelijk = Hoofdletters(bestand).starts_with(begin) &&
+                               bestand.size() > begin.size() &&
+                               bestand.find_first_not_of("0123456789", begin.size()) == Tekst::npos;
+        if (!tijdelijk)
+            continue;
+        const Pad pad = Samen(doelmap, bestand);
+        const auto stempel = schijf.NeemStempel(pad);
+        if (stempel && stempel->tijd < nu - uur)
+            static_cast<void>(schijf.Verwijder(pad));
+    }
+}
+
+} // namespace plexoran

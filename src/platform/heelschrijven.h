@@ -1,0 +1,19 @@
+// Writing a file whole, so that at every moment the disk holds either the old file or the new one.
+#pragma once
+
+#include "platform/schijf.h"
+
+namespace plexoran {
+
+/// Makes a temporary file in the same folder with the old file's rights, writes and syncs it,
+/// renames it over the old file and syncs the folder. Where `pad` is a link, the file it leads to
+/// is the one that is replaced. On any failure before the rename the temporary file is removed and
+/// the old file untouched. A failing folder sync is reported too: the new file is in place then,
+/// but may not survive a loss of power.
+[[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud);
+
+/// Removes temporary files that a killed save of `naam` left in `map` more than an hour ago.
+/// `nu` is nanoseconds since 1970. Failures do no harm and are passed over.
+void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu);
+
+} // namespace plexoran

@@ -1,0 +1,88 @@
+#include "platform/programma.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLockFile>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <filesystem>
+
+#include "platform/systeempad.h"
+
+namespace plexoran {
+namespace {
+
+std::filesystem::path NaarPad(const QString& naam)
+{
+    return QDir::toNativeSeparators(naam).toStdU16String();
+}
+
+QString NaarNaam(const std::filesystem::path& pad)
+{
+    return QString::fromStdU16String(pad.u16string());
+}
+
+/// A folder of this user and this computer alone, so that a lock of another computer never stands
+/// in the way.
+QString Slotmap()
+{
+    const QString map = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return map.isEmpty() ? QDir::tempPath() : map;
+}
+
+} // namespace
+
+Pad Programmamap()
+{
+    return PadVan(NaarPad(QCoreApplication::applicationDirPath()));
+}
+
+Pad PadVanOpdrachtregel(const std::string& utf8)
+{
+    return PadVan(NaarPad(QDir().absoluteFilePath(QString::fromStdString(utf8))));
+}
+
+void ZetWerkmap(const Pad& map)
+{
+    std::error_code fout;
+    std::filesystem::current_path(Systeempad(map), fout);
+}
+
+Uitkomst<void> StartProgramma(Schijf& schijf, const Pad& pad)
+{
+    const auto soort = schijf.Soort(pad);
+    if (!soort)
+        return tl::unexpected(soort.error());
+    Fout fout{
+        .soort = Foutsoort::Ontbreekt, .bestand = schijf.Toonpad(pad), .regel = 0, .systeem = {}};
+    if (*soort != Padsoort::Bestand)
+        return tl::unexpected(fout);
+    const auto programma = Systeempad(pad);
+    QProcess proces;
+    proces.setProgram(NaarNaam(programma));
+    proces.setWorkingDirectory(NaarNaam(programma.parent_path()));
+    if (proces.startDetached())
+        return {};
+    fout.soort = Foutsoort::Geweigerd;
+    fout.systeem = proces.errorString().toStdString();
+    return tl::unexpected(fout);
+}
+
+struct Exemplaarslot::Binnenkant {
+    QLockFile slot{Slotmap() + QStringLiteral("/plexoran.lock")};
+};
+
+Exemplaarslot::Exemplaarslot() = default;
+Exemplaarslot::~Exemplaarslot() = default;
+
+bool Exemplaarslot::Neem()
+{
+    binnenkant_ = std::make_unique<Binnenkant>();
+    QLockFile& slot = binnenkant_->slot;
+    // A lock never grows old; that of a process that is gone is taken over at once.
+    slot.setStaleLockTime(0);
+    return slot.tryLock(0) || slot.error() != QLockFile::LockFailedError;
+}
+
+} // namespace plexoran

@@ -1,0 +1,44 @@
+#include "platform/regels.h"
+
+namespace plexoran {
+
+Stukken::Iterator::Iterator(Tekstblik rest, bool opKomma) : rest_(rest), opKomma_(opKomma)
+{
+    Volgend();
+}
+
+Stukken::Iterator& Stukken::Iterator::operator++()
+{
+    Volgend();
+    return *this;
+}
+
+void Stukken::Iterator::Volgend()
+{
+    if (rest_.empty()) {
+        klaar_ = true;
+        return;
+    }
+    const auto eind = rest_.find_first_of(opKomma_ ? Tekstblik(",\r\n") : Tekstblik("\r\n"));
+    stuk_ = rest_.substr(0, eind);
+    if (eind == Tekstblik::npos) {
+        rest_ = {};
+        return;
+    }
+    const bool paar = rest_.substr(eind, 2) == "\r\n";
+    rest_.remove_prefix(eind + (paar ? 2 : 1));
+}
+
+Tekstblik EersteItem(Tekstblik inhoud)
+{
+    const auto items = Items(inhoud);
+    const auto eerste = items.begin();
+    return eerste == items.end() ? Tekstblik() : *eerste;
+}
+
+bool IsLeeg(Tekstblik inhoud)
+{
+    return inhoud.find_first_not_of(" \r\n") == Tekstblik::npos;
+}
+
+} // namespace plexoran

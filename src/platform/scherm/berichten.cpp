@@ -1,0 +1,68 @@
+#include "platform/scherm/berichten.h"
+
+#include <QPushButton>
+
+namespace plexoran {
+namespace {
+
+QString Titel(const QString& titel)
+{
+    return titel.isEmpty() ? QString::fromLatin1(Programmatitel) : titel;
+}
+
+/// Texts carry names from files: never let one be taken for markup.
+void Vul(QMessageBox& venster, const QString& tekst)
+{
+    venster.setTextFormat(Qt::PlainText);
+    venster.setText(tekst);
+}
+
+} // namespace
+
+void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
+{
+    QMessageBox venster(icoon, Titel(titel), QString(), QMessageBox::Ok, ouder);
+    Vul(venster, tekst);
+    venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
+    venster.exec();
+}
+
+bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
+{
+    QMessageBox venster(icoon, Titel(titel), QString(), QMessageBox::Ok | QMessageBox::Cancel,
+                        ouder);
+    Vul(venster, tekst);
+    venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
+    venster.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuleren"));
+    return venster.exec() == QMessageBox::Ok;
+}
+
+int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
+         const QStringList& antwoorden)
+{
+    QMessageBox venster(icoon, Titel(QString()), QString(), QMessageBox::NoButton, ouder);
+    Vul(venster, tekst);
+    QList<QAbstractButton*> knoppen;
+    for (const QString& antwoord : antwoorden)
+        knoppen << venster.addButton(antwoord, QMessageBox::ActionRole);
+    venster.setDefaultButton(qobject_cast<QPushButton*>(knoppen.first()));
+    venster.setEscapeButton(knoppen.last());
+    venster.exec();
+    const auto plaats = knoppen.indexOf(venster.clickedButton());
+    return static_cast<int>(plaats < 0 ? knoppen.size() - 1 : plaats);
+}
+
+QString Bijzonderheden(const Fout& fout)
+{
+    QStringList regels;
+    if (!fout.bestand.empty())
+        regels << QStringLiteral("Bestand: ") + QString::fromStdString(fout.bestand);
+    if (fout.regel > 0)
+        regels << QStringLiteral("Regel: ") + QString::number(fout.regel);
+    if (!fout.systeem.empty())
+        regels << QStringLiteral("Melding van het systeem: ") +
+                      QString::fromStdString(fout.systeem);
+    return regels.join(QLatin1Char('\n'));
+}
+
+} // namespace plexoran

@@ -1,0 +1,29 @@
+// Message boxes: real QMessageBoxes with exactly the text, title, icon and buttons that the caller
+// names. The buttons read OK and Annuleren on every system.
+#pragma once
+
+#include <QMessageBox>
+
+#include "platform/fout.h"
+
+namespace plexoran {
+
+inline constexpr auto Programmatitel = "Plexoran";
+
+/// Shows a text with an OK button; an empty title is the program's name.
+void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
+          const QString& titel = QString());
+
+/// OK and Annuleren; true for OK. Escape and the close box count as Annuleren.
+[[nodiscard]] bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
+                         const QString& titel = QString());
+
+/// Answers worded by the caller; returns the place of the one that was picked. The last one is the
+/// harmless one: Escape and the close box pick it.
+[[nodiscard]] int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
+                       const QStringList& antwoorden);
+
+/// Which file and line, and the system's own words, as the closing lines of a message.
+[[nodiscard]] QString Bijzonderheden(const Fout& fout);
+
+} // namespace plexoran

@@ -1,0 +1,47 @@
+#include "platform/scherm/maten.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace plexoran {
+namespace {
+
+constexpr double TwipsPerPixel = 15.0;
+constexpr double StandaardPunten = 9.0;
+constexpr double PuntenPerInch = 72.0;
+constexpr double MmPerInch = 25.4;
+constexpr double StandaardDpi = 96.0;
+
+} // namespace
+
+Maten::Maten()
+{
+    const double pixels = QFontInfo(QApplication::font()).pixelSize();
+    factor_ = std::max(1.0, pixels / (StandaardPunten * StandaardDpi / PuntenPerInch));
+    pixelsPerMm_ = factor_ * StandaardDpi / MmPerInch;
+}
+
+int Maten::Twips(int twips) const
+{
+    return qRound(factor_ * twips / TwipsPerPixel);
+}
+
+QFont Maten::Letter(double punten) const
+{
+    QFont letter = QApplication::font();
+    letter.setPixelSize(qRound(factor_ * punten * StandaardDpi / PuntenPerInch));
+    return letter;
+}
+
+void Noem(QWidget* widget, const QString& naam, const QString& gesproken)
+{
+    widget->setObjectName(naam);
+    if (!gesproken.isEmpty())
+        widget->setAccessibleName(gesproken);
+}
+
+} // namespace plexoran

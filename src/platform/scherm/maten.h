@@ -1,0 +1,32 @@
+// Positions and sizes given in twips, of which 15 are one logical pixel at the standard font. With
+// a larger font everything grows by the same factor, so that nothing is clipped.
+#pragma once
+
+#include <QFont>
+
+class QWidget;
+
+namespace plexoran {
+
+class Maten {
+  public:
+    /// For the fonts of the application as they are now.
+    Maten();
+
+    /// Twips to logical pixels.
+    [[nodiscard]] int Twips(int twips) const;
+    /// Millimetres to logical pixels; whole only after rounding by the caller.
+    [[nodiscard]] double PixelsPerMm() const { return pixelsPerMm_; }
+    /// A font of this many points at the standard font, larger with a larger one.
+    [[nodiscard]] QFont Letter(double punten) const;
+
+  private:
+    double factor_;
+    double pixelsPerMm_;
+};
+
+/// Gives a control its name: for style sheets, tests and, when it has no text of its own, as
+/// `gesproken` for screen readers.
+void Noem(QWidget* widget, const QString& naam, const QString& gesproken = QString());
+
+} // namespace plexoran

@@ -1,0 +1,164 @@
+#include "platform/scherm/tekstvak.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QTimer>
+
+#include <algorithm>
+#include <limits>
+
+#include "platform/codepagina.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
+
+namespace plexoran {
+namespace {
+
+/// Line ends and tabs become a space, the other control characters go.
+QString ZonderStuurtekens(const QString& tekst)
+{
+    QString uit;
+    for (const QChar teken : tekst) {
+        const bool scheiding = teken == QChar::LineFeed || teken == QChar::CarriageReturn ||
+                               teken == QChar::Tabulation || teken == QChar::LineSeparator ||
+                               teken == QChar::ParagraphSeparator;
+        if (scheiding)
+            uit += QLatin1Char(' ');
+        else if (teken.category() != QChar::Other_Control)
+            uit += teken;
+    }
+    return uit;
+}
+
+/// What an edit put into a text, found by what both texts begin and end with.
+struct Ingevoegd {
+    QString voor;
+    QString tekst;
+    QString na;
+};
+
+Ingevoegd VindIngevoegd(const QString& oud, const QString& nieuw)
+{
+    const auto kortste = std::min(oud.size(), nieuw.size());
+    qsizetype voor = 0;
+    while (voor < kortste && oud[voor] == nieuw[voor])
+        ++voor;
+    qsizetype na = 0;
+    while (na < kortste - voor && oud[oud.size() - 1 - na] == nieuw[nieuw.size() - 1 - na])
+        ++na;
+    // An accent that is typed after its letter belongs to that letter.
+    if (voor > 0 && voor < nieuw.size() - na && nieuw[voor].isMark())
+        --voor;
+    return {nieuw.left(voor), nieuw.mid(voor, nieuw.size() - voor - na), nieuw.right(na)};
+}
+
+QString Melding(const std::vector<Vervanging>& vervangen)
+{
+    QStringList regels;
+    for (const Vervanging& vervanging : vervangen) {
+        const QString teken = QString::fromStdU16String(vervanging.teken);
+        const QString regel = vervanging.door.empty()
+                                  ? QStringLiteral("'%1' is weggelaten.").arg(teken)
+                                  : QStringLiteral("In plaats van '%1' staat er nu '%2'.")
+                                        .arg(teken, NaarQString(vervanging.door));
+        if (!regels.contains(regel))
+            regels << regel;
+    }
+    const QString begin =
+        regels.size() == 1
+            ? QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard.")
+            : QStringLiteral("Deze tekens kunnen niet in het spelerbestand worden bewaard.");
+    return begin + QStringLiteral("\n\n") + regels.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+Tekstvak::Tekstvak(QWidget* ouder) : QLineEdit(ouder)
+{
+    setMaxLength(std::numeric_limits<int>::max());
+    connect(this, &QLineEdit::textEdited, this, &Tekstvak::Zuiver);
+}
+
+void Tekstvak::ZetTekst(Tekstblik tekst)
+{
+    setText(NaarQString(tekst));
+    setCursorPosition(0);
+    begintekst_ = text();
+    beginbytes_ = tekst;
+    vorige_ = begintekst_;
+}
+
+Tekst Tekstvak::GeefTekst() const
+{
+    return text() == begintekst_ ? beginbytes_ : NaarTekst(text());
+}
+
+void Tekstvak::Vervang(Tekstblik tekst)
+{
+    ZetSchoon(NaarQString(tekst));
+}
+
+void Tekstvak::ZetSchoon(const QString& tekst)
+{
+    if (tekst != text()) {
+        const auto totEind = text().size() - cursorPosition();
+        setText(tekst);
+        setCursorPosition(static_cast<int>(std::max<qsizetype>(0, tekst.size() - totEind)));
+    }
+    vorige_ = tekst;
+}
+
+QString Tekstvak::VolgensToetsregel(const QString& ingevoegd, qsizetype lengte) const
+{
+    if (!toetsregel_)
+        return ingevoegd;
+    Tekst uit;
+    for (const char teken : NaarTekst(ingevoegd)) {
+        const auto toegestaan = toetsregel_(teken, static_cast<std::size_t>(lengte) + uit.size());
+        if (toegestaan)
+            uit += *toegestaan;
+    }
+    return NaarQString(uit);
+}
+
+void Tekstvak::Zuiver()
+{
+    const Ingevoegd deel = VindIngevoegd(vorige_, text());
+    const Omzetting omzetting = NaarCodepagina(ZonderStuurtekens(deel.tekst).toStdU16String());
+    const QString schoon =
+        VolgensToetsregel(NaarQString(omzetting.tekst), deel.voor.size() + deel.na.size());
+    ZetSchoon(deel.voor + schoon + deel.na);
+    // Shown when the key or paste has been dealt with: a box inside it would eat what follows.
+    if (!omzetting.vervangen.empty())
+        QTimer::singleShot(0, this, [this, tekst = Melding(omzetting.vervangen)] {
+            Meld(this, QMessageBox::Warning, tekst);
+        });
+}
+
+/// A key is judged by the text as it stands, a selection that it would replace included.
+void Tekstvak::keyPressEvent(QKeyEvent* gebeurtenis)
+{
+    const QString getypt = gebeurtenis->text();
+    const bool teken = getypt.size() == 1 && getypt.front().isPrint() &&
+                       !(gebeurtenis->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (!toetsregel_ || !teken) {
+        QLineEdit::keyPressEvent(gebeurtenis);
+        return;
+    }
+    const QString toegestaan = VolgensToetsregel(getypt, text().size());
+    if (toegestaan.isEmpty())
+        return;
+    QKeyEvent vervangend(gebeurtenis->type(), gebeurtenis->key(), gebeurtenis->modifiers(),
+                         toegestaan, gebeurtenis->isAutoRepeat());
+    QLineEdit::keyPressEvent(&vervangend);
+}
+
+void Tekstvak::focusOutEvent(QFocusEvent* gebeurtenis)
+{
+    QLineEdit::focusOutEvent(gebeurtenis);
+    const auto reden = gebeurtenis->reason();
+    if (reden != Qt::PopupFocusReason && reden != Qt::ActiveWindowFocusReason)
+        emit verlaten();
+}
+
+} // namespace plexoran

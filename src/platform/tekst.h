@@ -1,0 +1,32 @@
+// Single-byte text in Windows-1252: one byte is one character, so lengths, cuts and columns are
+// byte arithmetic and a file comes back to the byte.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace plexoran {
+
+using Tekst = std::string;
+using Tekstblik = std::string_view;
+
+/// The capital of a character; signs and letters without a capital in the code page stay.
+[[nodiscard]] char Hoofdletter(char teken);
+
+/// The text in capitals, accented letters included.
+[[nodiscard]] Tekst Hoofdletters(Tekstblik tekst);
+
+/// Without leading and trailing spaces. Only spaces: tabs and other signs stay.
+[[nodiscard]] Tekstblik ZonderSpaties(Tekstblik tekst);
+
+/// Whether the text is empty or holds spaces only.
+[[nodiscard]] bool IsBlanco(Tekstblik tekst);
+
+/// Every `van` replaced by `door`.
+[[nodiscard]] Tekst Vervang(Tekstblik tekst, char van, char door);
+
+/// The number in decimal with at least `breedte` digits, padded with leading zeros.
+[[nodiscard]] Tekst MetNullen(std::int64_t getal, int breedte);
+
+} // namespace plexoran

@@ -1,0 +1,62 @@
+// The 50 fixed groups and the names that the user gave them, "RVDGroepen.txt":
+//
+//     Gr01-<name> CR LF
+//     ...
+//     Gr50-<name> CR LF
+//
+// A name is known by its place: the n-th item that begins with "Gr" is the n-th group, whatever
+// number stands in it. An item ends at a comma or a line end; other items are passed over.
+#pragma once
+
+#include <array>
+
+#include "register/mappen.h"
+
+namespace plexoran {
+
+inline constexpr int AantalGroepen = 50;
+inline constexpr std::size_t LengteGroepscode = 5;
+
+/// "Gr01-" to "Gr50-"; `nummer` counts from 1.
+[[nodiscard]] Tekst Groepscode(int nummer);
+
+/// The group code of a text that begins with one, such as a drop-down's: its first five characters.
+[[nodiscard]] inline Tekstblik CodeUit(Tekstblik tekst)
+{
+    return tekst.substr(0, LengteGroepscode);
+}
+
+class Groepen {
+  public:
+    /// `nummer` counts from 1.
+    [[nodiscard]] const Tekst& Naam(int nummer) const { return namen_.at(Plaats(nummer)); }
+    /// A comma cannot stand in the file; it is kept out by the windows and, last, here: it becomes
+    /// an underscore, a line end a space.
+    void ZetNaam(int nummer, Tekstblik naam);
+    /// Code and name together, as every drop-down shows a group.
+    [[nodiscard]] Tekst Toontekst(int nummer) const { return Groepscode(nummer) + Naam(nummer); }
+
+  private:
+    static std::size_t Plaats(int nummer) { return static_cast<std::size_t>(nummer - 1); }
+
+    std::array<Tekst, AantalGroepen> namen_;
+};
+
+/// Codec of the file. Reading takes what it can: names beyond the 50th are passed over.
+[[nodiscard]] Groepen GroepenUit(Tekstblik inhoud);
+[[nodiscard]] Tekst GroepenTekst(const Groepen& groepen);
+/// Whether the text holds group names and nothing else, so that writing it anew loses nothing.
+[[nodiscard]] bool IsGroepenbestand(Tekstblik inhoud);
+
+/// Makes sure that there is a group file with 50 lines: a missing or empty one is made, and one
+/// whose first item is blank is made anew, copied aside first when it holds anything.
+[[nodiscard]] Uitkomst<void> MaakGroepenbestand(Schijf& schijf, const Mappen& mappen);
+
+/// A file that cannot be read gives groups without names.
+[[nodiscard]] Groepen LeesGroepen(Schijf& schijf, const Mappen& mappen);
+
+/// Writes the file whole. One that holds anything else than group names is first copied aside.
+[[nodiscard]] Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen,
+                                            const Groepen& groepen);
+
+} // namespace plexoran

@@ -1,0 +1,54 @@
+#include "register/instellingen.h"
+
+#include "platform/getal.h"
+#include "platform/regels.h"
+#include "register/reservekopie.h"
+
+namespace plexoran {
+namespace {
+
+constexpr Tekstblik optind = "OPTIND=";
+constexpr Tekstblik lostgr = "LOSTGR=";
+
+} // namespace
+
+bool IsInstellingenbestand(Tekstblik inhoud)
+{
+    return IsLeeg(inhoud) || InstellingenTekst(InstellingenUit(inhoud)) == inhoud;
+}
+
+Instellingen InstellingenUit(Tekstblik inhoud)
+{
+    Instellingen instellingen;
+    for (const Tekstblik item : Items(inhoud)) {
+        const Tekst sleutel = Hoofdletters(item.substr(0, optind.size()));
+        if (sleutel != optind && sleutel != lostgr)
+            continue;
+        const auto waarde = Geheel16(item.substr(sleutel.size()));
+        if (!waarde)
+            break;
+        (sleutel == optind ? instellingen.OPTIND : instellingen.LOSTGR) = *waarde;
+    }
+    return instellingen;
+}
+
+Tekst InstellingenTekst(const Instellingen& instellingen)
+{
+    return Tekst(optind) + std::to_string(instellingen.OPTIND) + "\r\n" + Tekst(lostgr) +
+           std::to_string(instellingen.LOSTGR) + "\r\n";
+}
+
+Instellingen LeesInstellingen(Schijf& schijf, const Mappen& mappen)
+{
+    const auto inhoud = schijf.LeesBestand(mappen.Instellingenbestand());
+    return inhoud ? InstellingenUit(*inhoud) : Instellingen();
+}
+
+Uitkomst<void> SchrijfInstellingen(Schijf& schijf, const Mappen& mappen,
+                                   const Instellingen& instellingen)
+{
+    return VervangMetKopie(schijf, mappen.SPEMAP, mappen.Instellingenbestand(),
+                           InstellingenTekst(instellingen), IsInstellingenbestand);
+}
+
+} // namespace plexoran

@@ -1,0 +1,32 @@
+// The program's own settings, "Plexo.ini":
+//
+//     OPTIND=<number> CR LF
+//     LOSTGR=<number> CR LF
+//
+// It is read item by item (an item ends at a comma or a line end) and always written whole.
+#pragma once
+
+#include "register/mappen.h"
+
+namespace plexoran {
+
+struct Instellingen {
+    std::int16_t OPTIND = 0; ///< the return field of fast entry
+    std::int16_t LOSTGR = 0; ///< list position, from 0, of the group shown last
+};
+
+/// The settings in the text of a "Plexo.ini"; those not found stay 0. A number that does not fit
+/// 16 bits ends the reading.
+[[nodiscard]] Instellingen InstellingenUit(Tekstblik inhoud);
+[[nodiscard]] Tekst InstellingenTekst(const Instellingen& instellingen);
+/// Whether the text holds both settings and nothing else, so that writing it anew loses nothing.
+[[nodiscard]] bool IsInstellingenbestand(Tekstblik inhoud);
+
+/// A file that is missing or cannot be read gives 0 for both.
+[[nodiscard]] Instellingen LeesInstellingen(Schijf& schijf, const Mappen& mappen);
+
+/// Writes the file whole. One that holds anything else than settings is first copied aside.
+[[nodiscard]] Uitkomst<void> SchrijfInstellingen(Schijf& schijf, const Mappen& mappen,
+                                                 const Instellingen& instellingen);
+
+} // namespace plexoran

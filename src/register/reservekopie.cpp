@@ -1,0 +1,71 @@
+#include "register/reservekopie.h"
+
+#include "platform/heelschrijven.h"
+#include "platform/klok.h"
+#include "platform/regels.h"
+
+namespace plexoran {
+namespace {
+
+/// "RVDspelers" and ".txt" of a path to "RVDspelers.txt".
+std::pair<Tekst, Tekst> NaamEnSoort(const Pad& bestand)
+{
+    const auto map = bestand.find_last_of('\\');
+    const Tekst naam = map == Pad::npos ? bestand : bestand.substr(map + 1);
+    const auto punt = naam.find_last_of('.');
+    if (punt == Tekst::npos)
+        return {naam, {}};
+    return {naam.substr(0, punt), naam.substr(punt)};
+}
+
+Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
+{
+    const auto [naam, soort] = NaamEnSoort(bestand);
+    const Pad basis = Samen(kopiemap, naam + " " + Tijdstempel());
+    Pad pad = basis + soort;
+    for (int volgnummer = 2;; ++volgnummer) {
+        const auto wat = schijf.Soort(pad);
+        if (!wat)
+            return tl::unexpected(wat.error());
+        if (*wat == Padsoort::Niets)
+            return pad;
+        pad = basis + "-" + std::to_string(volgnummer) + soort;
+    }
+}
+
+} // namespace
+
+Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand)
+{
+    const Pad kopiemap = Samen(spelersmap, "Reservekopie");
+    return schijf.MaakMap(kopiemap)
+        .and_then([&] { return VrijeNaam(schijf, kopiemap, bestand); })
+        .and_then([&](const Pad& kopie) -> Uitkomst<Pad> {
+            const auto inhoud = schijf.LeesBestand(bestand);
+            if (!inhoud)
+                return tl::unexpected(inhoud.error());
+            return SchrijfHeel(schijf, kopie, *inhoud).map([&] { return kopie; });
+        })
+        .map_error([](Fout fout) {
+            fout.soort = Foutsoort::GeenReservekopie;
+            return fout;
+        });
+}
+
+Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                               Tekstblik nieuw, bool (*begrepen)(Tekstblik))
+{
+    const auto oud = schijf.LeesBestand(bestand);
+    if (!oud && oud.error().soort != Foutsoort::Ontbreekt)
+        return tl::unexpected(oud.error());
+    if (oud && *oud == nieuw)
+        return {};
+    if (oud && !IsLeeg(*oud) && !begrepen(*oud)) {
+        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand);
+        if (!kopie)
+            return tl::unexpected(kopie.error());
+    }
+    return SchrijfHeel(schijf, bestand, nieuw);
+}
+
+} // namespace plexoran

@@ -1,0 +1,22 @@
+// Copies of files that a save is about to replace although not all of them was understood.
+//
+// They stand in the folder "Reservekopie" in the players folder, named after the file with date and
+// time: "RVDspelers 2026-03-01 142355.txt". A copy never replaces another.
+#pragma once
+
+#include "platform/schijf.h"
+
+namespace plexoran {
+
+/// Copies `bestand` to the folder "Reservekopie" in `spelersmap`; returns the path of the copy.
+/// Any failure is reported as `GeenReservekopie`.
+[[nodiscard]] Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap,
+                                             const Pad& bestand);
+
+/// Writes a small file whole. When the file that stands there holds something that `begrepen` does
+/// not know, a copy is made first; a file that already holds `nieuw` is left alone.
+[[nodiscard]] Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap,
+                                             const Pad& bestand, Tekstblik nieuw,
+                                             bool (*begrepen)(Tekstblik));
+
+} // namespace plexoran

@@ -1,0 +1,169 @@
+#include "register/spelerbestand.h"
+
+#include <limits>
+
+#include "platform/heelschrijven.h"
+#include "platform/regels.h"
+#include "register/groepen.h"
+#include "register/reservekopie.h"
+
+namespace plexoran {
+namespace {
+
+constexpr std::size_t eersteIngaveveld = Plaats(Kolom::Voornaam);
+
+/// The stamp of the file; none when it is missing.
+Uitkomst<std::optional<Stempel>> StempelVan(Schijf& schijf, const Pad& pad)
+{
+    const auto stempel = schijf.NeemStempel(pad);
+    if (stempel)
+        return *stempel;
+    if (stempel.error().soort == Foutsoort::Ontbreekt)
+        return std::nullopt;
+    return tl::unexpected(stempel.error());
+}
+
+Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers)
+{
+    const Tekst tekst = SpelersTekst(spelers);
+    const auto uitkomst = SchrijfHeel(schijf, pad, tekst);
+    // The last step can fail when the new file is already in place; it is not someone else's then.
+    if (!uitkomst && schijf.LeesBestand(pad) != tekst)
+        return uitkomst;
+    spelers.kopieNodig = false;
+    const auto stempel = schijf.NeemStempel(pad);
+    spelers.gelezen = stempel ? std::optional(*stempel) : std::nullopt;
+    return uitkomst;
+}
+
+} // namespace
+
+Uitkomst<void> MaakSpelerbestand(Schijf& schijf, const Mappen& mappen, Register& spelers)
+{
+    const auto map = schijf.MaakMap(mappen.SPEMAP);
+    if (!map)
+        return map;
+    const Pad pad = mappen.Spelerbestand();
+    const auto inhoud = schijf.LeesBestand(pad);
+    if (!inhoud && inhoud.error().soort != Foutsoort::Ontbreekt)
+        return tl::unexpected(inhoud.error());
+    if (inhoud && !IsBlanco(EersteItem(*inhoud)))
+        return {};
+    if (inhoud && !IsLeeg(*inhoud)) {
+        const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad);
+        if (!kopie)
+            return tl::unexpected(kopie.error());
+    }
+    spelers.HKEY = Sleutelbasis;
+    Register leeg;
+    leeg.HKEY = Sleutelbasis;
+    return SchrijfHeel(schijf, pad, SpelersTekst(leeg));
+}
+
+Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
+{
+    const Pad pad = mappen.Spelerbestand();
+    Leesverslag verslag;
+    const auto stempel = StempelVan(schijf, pad);
+    auto inhoud = schijf.LeesBestand(pad);
+    if (!inhoud || !stempel) {
+        verslag.fout = inhoud ? stempel.error() : inhoud.error();
+        spelers.gelezen = std::nullopt;
+        spelers.kopieNodig = true;
+        return verslag;
+    }
+    Spelerlezing lezing = SpelersUit(std::move(*inhoud));
+    if (lezing.tabel)
+        spelers.tabel = std::move(*lezing.tabel);
+    spelers.HKEY = lezing.HKEY.value_or(spelers.HKEY);
+    spelers.gelezen = *stempel;
+    spelers.kopieNodig = lezing.verliest;
+    verslag.zonderAchternaam = std::move(lezing.zonderAchternaam);
+    if (lezing.fout) {
+        verslag.velden = lezing.fout->velden;
+        verslag.fout = Fout{.soort = Foutsoort::Beschadigd,
+                            .bestand = schijf.Toonpad(pad),
+                            .regel = lezing.fout->regel,
+                            .systeem = {}};
+    }
+    return verslag;
+}
+
+Tekst SpelersTekst(const Register& spelers)
+{
+    const Spelertabel& tabel = spelers.tabel;
+    Tekst tekst;
+    tekst.reserve(tabel.Geheugen());
+    tekst += "HKEY=" + std::to_string(spelers.HKEY) + "\r\n";
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Key).empty())
+            continue;
+        tekst += std::to_string(rij);
+        tekst += ',';
+        tabel.VoegCellenAan(tekst, rij);
+        tekst += "\r\n";
+    }
+    return tekst;
+}
+
+Uitkomst<void> SchrijfSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers,
+                              Overschrijven overschrijven)
+{
+    if (spelers.tabel.Rijen() == 0)
+        return {};
+    if (spelers.HKEY < Sleutelbasis)
+        spelers.HKEY = Sleutelbasis;
+
+    const Pad pad = mappen.Spelerbestand();
+    const auto stempel = StempelVan(schijf, pad);
+    if (!stempel)
+        return tl::unexpected(stempel.error());
+    const bool bestaat = stempel->has_value();
+    const bool gewijzigd = bestaat && spelers.gelezen != *stempel;
+    if (gewijzigd && overschrijven == Overschrijven::AlleenEigen)
+        return tl::unexpected(Fout{.soort = Foutsoort::Gewijzigd,
+                                   .bestand = schijf.Toonpad(pad),
+                                   .regel = 0,
+                                   .systeem = {}});
+    if (bestaat && (gewijzigd || spelers.kopieNodig)) {
+        const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad);
+        if (!kopie)
+            return tl::unexpected(kopie.error());
+    }
+    return SchrijfRegister(schijf, pad, spelers);
+}
+
+std::optional<std::int32_t> NieuweSleutel(Register& spelers)
+{
+    if (spelers.HKEY == 0)
+        spelers.HKEY = Sleutelbasis;
+    if (spelers.HKEY == std::numeric_limits<std::int32_t>::max())
+        return std::nullopt;
+    return ++spelers.HKEY;
+}
+
+bool VoegSpelerToe(Register& spelers, Tekstblik groeptekst, const Rijvelden& velden)
+{
+    const auto sleutel = NieuweSleutel(spelers);
+    if (!sleutel)
+        return false;
+    Rijvelden rij;
+    rij[Plaats(Kolom::Nr)] = std::to_string(spelers.tabel.Rijen() + 1);
+    rij[Plaats(Kolom::Key)] = std::to_string(*sleutel);
+    rij[Plaats(Kolom::Groep)] = CodeUit(groeptekst);
+    for (std::size_t i = eersteIngaveveld; i < rij.size(); ++i)
+        rij[i] = ZonderSpaties(velden[i]);
+    spelers.tabel.VoegToe(rij);
+    return true;
+}
+
+void WijzigSpeler(Register& spelers, int rij, const Rijvelden& velden)
+{
+    Rijvelden nieuw = spelers.tabel.Velden(rij);
+    nieuw[Plaats(Kolom::Groep)] = CodeUit(velden[Plaats(Kolom::Groep)]);
+    for (std::size_t i = eersteIngaveveld; i < nieuw.size(); ++i)
+        nieuw[i] = velden[i];
+    spelers.tabel.ZetRij(rij, nieuw);
+}
+
+} // namespace plexoran

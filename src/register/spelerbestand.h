@@ -1,0 +1,87 @@
+// The player file, "RVDspelers.txt", the register that all programs of the suite share:
+//
+//     HKEY=<highest key ever issued> CR LF
+//     <Nr>,<Key>,<Groep>,<Voornaam>,...,<NBBgr>,<NBBnr> CR LF        one line a player, 18 fields
+//
+// Single bytes in Windows-1252, no quoting, so no field can hold a comma. It is always written
+// whole. Reading skips blank lines, takes the key line wherever it stands, and leaves out players
+// without a surname.
+#pragma once
+
+#include <optional>
+
+#include "register/mappen.h"
+#include "register/spelertabel.h"
+
+namespace plexoran {
+
+/// `HKEY` is never below it in the file, so that the first key issued is 100001.
+inline constexpr std::int32_t Sleutelbasis = 100000;
+
+/// Where and why the reading of the lines ended before the last one.
+struct Regelfout {
+    int regel = 0;  ///< line of the file, from 1
+    int velden = 0; ///< fields on that line; 0 for a key line with an impossible number
+};
+
+/// The outcome of reading a text. The lines are first counted and then filled in: a line that
+/// cannot be counted (fewer than 6 fields, or an impossible key) leaves no table at all, one that
+/// cannot be filled in (fewer than 18 fields) ends the table before it.
+struct Spelerlezing {
+    std::optional<Spelertabel> tabel;
+    std::optional<std::int32_t> HKEY; ///< of the last key line read; none without one
+    std::optional<Regelfout> fout;
+    std::vector<int> zonderAchternaam; ///< line numbers that were left out
+    bool verliest = false;             ///< writing the table would lose something of the text
+};
+
+[[nodiscard]] Spelerlezing SpelersUit(Tekst inhoud);
+
+/// The register in memory and what is known of its file.
+struct Register {
+    Spelertabel tabel;
+    std::int32_t HKEY = 0;          ///< highest key ever issued
+    std::optional<Stempel> gelezen; ///< the file as it was when it was read or written last
+    bool kopieNodig = false;        ///< the next save would lose something that the file holds
+};
+
+/// What a read left out, for the user.
+struct Leesverslag {
+    std::optional<Fout> fout; ///< the reading ended here; the lines before it are in the table
+    int velden = 0;           ///< fields on the line to blame, where one is
+    std::vector<int> zonderAchternaam;
+};
+
+enum class Overschrijven { AlleenEigen, OokGewijzigd };
+
+/// Makes sure that the players folder and the player file exist and that the file has a key line.
+/// A file whose first item is blank is made anew, copied aside first when it holds anything.
+[[nodiscard]] Uitkomst<void> MaakSpelerbestand(Schijf& schijf, const Mappen& mappen,
+                                               Register& spelers);
+
+/// Replaces the table by what the file holds. A file of which no line could be taken leaves the
+/// table as it was; without a key line `HKEY` keeps its value.
+Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers);
+
+/// The text of the player file for this register. Rows without a key are left out, and the rows
+/// after them keep their positions as numbers.
+[[nodiscard]] Tekst SpelersTekst(const Register& spelers);
+
+/// Writes the file whole; a table without rows is not written: the file keeps its contents.
+/// A file that someone else changed since it was read is only replaced with `OokGewijzigd`, after a
+/// copy; so is a file of which something was not taken into the table.
+/// On any error the file is as it was and the table whole.
+[[nodiscard]] Uitkomst<void> SchrijfSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers,
+                                            Overschrijven overschrijven);
+
+/// Appends a player of the group with which `groeptekst` begins: a new key, columns 4 to 18 of
+/// `velden` without their outer spaces. False when the keys have run out; nothing is changed then.
+[[nodiscard]] bool VoegSpelerToe(Register& spelers, Tekstblik groeptekst, const Rijvelden& velden);
+
+/// The next register key, which counts as issued; none when the keys have run out.
+[[nodiscard]] std::optional<std::int32_t> NieuweSleutel(Register& spelers);
+
+/// Stores columns 4 to 18 of `velden` as they are, and the code with which the group begins.
+void WijzigSpeler(Register& spelers, int rij, const Rijvelden& velden);
+
+} // namespace plexoran

@@ -1,0 +1,188 @@
+// Reading the text of a player file in one walk over its bytes.
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+#include "platform/getal.h"
+#include "register/groepen.h"
+#include "register/spelerbestand.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int VeldenVoorTelling = 6; // up to and including the surname
+constexpr Tekstblik sleutelkop = "HKEY=";
+
+/// Finds commas, CRs and LFs, eight bytes at a time.
+class Scheidingen {
+  public:
+    explicit Scheidingen(Tekstblik tekst) : tekst_(tekst) { Laad(); }
+
+    /// The place of the next separator, or the length of the text.
+    std::size_t Volgende()
+    {
+        while (treffers_ == 0) {
+            begin_ += 8;
+            if (begin_ >= tekst_.size())
+                return tekst_.size();
+            Laad();
+        }
+        const auto plaats = begin_ + EersteByte(treffers_);
+        treffers_ &= treffers_ - 1;
+        return plaats;
+    }
+
+  private:
+    static constexpr std::uint64_t Elk(std::uint64_t byte) { return byte * 0x0101010101010101U; }
+
+    /// The top bit of every byte of `woord` that equals `byte`, and no other bit.
+    static std::uint64_t Gelijk(std::uint64_t woord, char byte)
+    {
+        const std::uint64_t verschil = woord ^ Elk(static_cast<unsigned char>(byte));
+        return ~(((verschil & Elk(0x7F)) + Elk(0x7F)) | verschil | Elk(0x7F));
+    }
+
+    static std::size_t EersteByte(std::uint64_t treffers)
+    {
+        return static_cast<std::size_t>(std::countr_zero(treffers)) / 8;
+    }
+
+    void Laad()
+    {
+        static_assert(std::endian::native == std::endian::little);
+        std::uint64_t woord = 0;
+        if (tekst_.size() - begin_ >= 8)
+            std::memcpy(&woord, tekst_.data() + begin_, 8);
+        else
+            std::memcpy(&woord, tekst_.data() + begin_, tekst_.size() - begin_);
+        treffers_ = Gelijk(woord, ',') | Gelijk(woord, '\n') | Gelijk(woord, '\r');
+    }
+
+    Tekstblik tekst_;
+    std::size_t begin_ = 0;
+    std::uint64_t treffers_ = 0;
+};
+
+class Lezer {
+  public:
+    explicit Lezer(Tekst inhoud) : inhoud_(std::move(inhoud)), scheidingen_(inhoud_) {}
+
+    Spelerlezing Lees()
+    {
+        rijen_.reserve(static_cast<std::size_t>(std::count(inhoud_.begin(), inhoud_.end(), '\n')));
+        while (begin_ < inhoud_.size() && geteld_)
+            LeesRegel();
+        if (uit_.fout)
+            uit_.verliest = true;
+        if (geteld_)
+            uit_.tabel.emplace(std::move(inhoud_), std::move(rijen_));
+        return std::move(uit_);
+    }
+
+  private:
+    void LeesRegel()
+    {
+        ++regel_;
+        SplitsRegel();
+        const Tekstblik regel(inhoud_.data() + begin_, eind_ - begin_);
+        if (regel.starts_with(sleutelkop))
+            NeemSleutel(regel.substr(sleutelkop.size()));
+        else if (velden_ > 1 || !IsBlanco(regel))
+            NeemSpeler();
+        begin_ = volgende_;
+    }
+
+    /// Finds the end of the line and the bounds of its first 18 cells.
+    void SplitsRegel()
+    {
+        velden_ = 0;
+        grenzen_[0] = static_cast<std::uint32_t>(begin_);
+        for (;;) {
+            const auto plaats = scheidingen_.Volgende();
+            if (++velden_ <= AantalKolommen)
+                grenzen_[static_cast<std::size_t>(velden_)] =
+                    static_cast<std::uint32_t>(plaats + 1);
+            if (plaats < inhoud_.size() && inhoud_[plaats] == ',')
+                continue;
+            eind_ = plaats;
+            volgende_ = plaats + 1;
+            if (plaats + 1 < inhoud_.size() && inhoud_[plaats] == '\r' &&
+                inhoud_[plaats + 1] == '\n') {
+                scheidingen_.Volgende();
+                ++volgende_;
+            }
+            return;
+        }
+    }
+
+    void NeemSleutel(Tekstblik tekst)
+    {
+        const auto waarde = Geheel32(ZonderSpaties(tekst));
+        if (waarde)
+            uit_.HKEY = std::max(*waarde, Sleutelbasis);
+        else
+            BreekAf(0);
+    }
+
+    void NeemSpeler()
+    {
+        if (velden_ < VeldenVoorTelling) {
+            BreekAf(velden_);
+            return;
+        }
+        if (uit_.fout) // filling in ended at an earlier line; this one was only counted
+            return;
+        if (Lengte(Kolom::Achternaam) == 0) {
+            uit_.zonderAchternaam.push_back(regel_);
+            uit_.verliest = true;
+            return;
+        }
+        if (velden_ < AantalKolommen) {
+            uit_.fout = Regelfout{regel_, velden_};
+            return;
+        }
+        if (velden_ > AantalKolommen || Lengte(Kolom::Key) == 0 ||
+            Lengte(Kolom::Groep) > LengteGroepscode)
+            uit_.verliest = true;
+        rijen_.push_back(grenzen_);
+    }
+
+    [[nodiscard]] std::size_t Lengte(Kolom kolom) const
+    {
+        const auto plaats = Plaats(kolom);
+        return grenzen_[plaats + 1] - grenzen_[plaats] - 1;
+    }
+
+    void BreekAf(int velden)
+    {
+        uit_.fout = Regelfout{regel_, velden};
+        geteld_ = false;
+    }
+
+    Tekst inhoud_;
+    Scheidingen scheidingen_;
+    Spelerlezing uit_;
+    std::vector<Spelertabel::Celgrenzen> rijen_;
+    Spelertabel::Celgrenzen grenzen_{};
+    std::size_t begin_ = 0;
+    std::size_t eind_ = 0;
+    std::size_t volgende_ = 0;
+    int velden_ = 0;
+    int regel_ = 0;
+    bool geteld_ = true;
+};
+
+} // namespace
+
+Spelerlezing SpelersUit(Tekst inhoud)
+{
+    if (inhoud.size() > Spelertabel::GrootsteTekst) {
+        Spelerlezing uit;
+        uit.fout = Regelfout{};
+        uit.verliest = true;
+        return uit;
+    }
+    return Lezer(std::move(inhoud)).Lees();
+}
+
+} // namespace plexoran

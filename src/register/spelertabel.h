@@ -1,0 +1,97 @@
+// The player table: the register in memory, rows of 18 texts, both counted from 1.
+//
+// The table keeps the bytes of the file in one buffer and, per row, where its 18 cells begin, so
+// that it costs little more than the file. A row that is changed is written anew behind the buffer
+// and its old bytes stay unused until the register is read again, as it is after every save.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "platform/tekst.h"
+
+namespace plexoran {
+
+inline constexpr int AantalKolommen = 18;
+
+enum class Kolom : int {
+    Nr = 1, ///< row number as the file has it; renumbered by deleting and saving
+    Key,    ///< register key, six digits
+    Groep,  ///< group code, five characters at the most
+    Voornaam,
+    Tusv,
+    Achternaam,
+    Telef,
+    Email,
+    Adres,
+    Postc,
+    Plaats,
+    Land,
+    MV,
+    Div1,
+    Div2,
+    Status,
+    NBBgr, ///< federation member group in the import group, else the subgroup
+    NBBnr, ///< federation number
+};
+
+/// The names of the columns, in their order.
+inline constexpr std::array<Tekstblik, AantalKolommen> Kolomnamen{
+    "Nr",    "Key",    "Groep", "Voornaam", "Tusv", "Achternaam", "Telef",  "Email", "Adres",
+    "Postc", "Plaats", "Land",  "M/V",      "Div1", "Div2",       "Status", "NBBgr", "NBBnr"};
+
+/// The 18 texts of a row; element 0 is column 1.
+using Rijvelden = std::array<Tekst, AantalKolommen>;
+
+[[nodiscard]] constexpr std::size_t Plaats(Kolom kolom)
+{
+    return static_cast<std::size_t>(kolom) - 1;
+}
+
+class Spelertabel {
+  public:
+    /// Where the cells of a row lie in the buffer: cell c is `[grens[c-1], grens[c] - 1)`, so that
+    /// the one byte between two cells (the comma) belongs to neither.
+    using Celgrenzen = std::array<std::uint32_t, AantalKolommen + 1>;
+
+    /// The largest buffer that the bounds can address.
+    static constexpr std::size_t GrootsteTekst = 0xFFFF0000;
+
+    Spelertabel() = default;
+    /// Takes a text of at most `GrootsteTekst` bytes and the bounds of its rows.
+    Spelertabel(Tekst tekst, std::vector<Celgrenzen> rijen);
+
+    [[nodiscard]] int Rijen() const { return static_cast<int>(rijen_.size()); }
+
+    /// The view holds until the table is changed.
+    [[nodiscard]] Tekstblik Cel(int rij, Kolom kolom) const;
+    /// The cells 2 to 18 as they stand in a file, joined by commas.
+    void VoegCellenAan(Tekst& uit, int rij) const;
+
+    /// A comma cannot stand in a cell; the windows keep it out and, last, the table does: it
+    /// becomes an underscore, a line end a space.
+    void ZetRij(int rij, const Rijvelden& velden);
+    void ZetCel(int rij, Kolom kolom, Tekstblik tekst);
+    void VoegToe(const Rijvelden& velden);
+
+    /// Takes these rows out and gives every row that stays its new position as `Nr`. Rows may come
+    /// in any order and more than once.
+    void Verwijder(std::span<const int> rijen);
+
+    [[nodiscard]] Rijvelden Velden(int rij) const;
+
+    /// Bytes of memory in use, for measuring.
+    [[nodiscard]] std::size_t Geheugen() const;
+
+  private:
+    [[nodiscard]] const Celgrenzen& Grenzen(int rij) const;
+    Celgrenzen SchrijfVelden(const Rijvelden& velden);
+    void MaakRuimte(std::size_t bytes);
+
+    Tekst tekst_;
+    std::vector<Celgrenzen> rijen_;
+};
+
+} // namespace plexoran

@@ -1,0 +1,210 @@
+#include "platform/heelschrijven.h"
+
+#include <limits>
+
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+#include "platform/geheugenSchijf.h"
+#include "platform/tijdelijkeMap.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr const char* bestand = "C:\\club\\spelers.txt";
+using Namen = std::vector<Tekst>;
+
+/// Saves with the first, second, ... operation refused, until nothing is left to refuse. After
+/// each refusal the old file must stand there alone; only after the folder sync, the last
+/// operation, it is the new one.
+template <class Bereid, class Bekijk>
+void FaalBijElkeStap(Schijf& binnen, const Pad& pad, const Tekst& oud, Bereid bereid, Bekijk bekijk)
+{
+    FalendeSchijf schijf(binnen);
+    bereid();
+    ASSERT_TRUE(SchrijfHeel(schijf, pad, "de nieuwe inhoud"));
+    const int stappen = schijf.Aantal();
+    ASSERT_GE(stappen, 8); // target, kind, make, rights, write, sync, close, rename, folder
+    for (int stap = 1; stap <= stappen; ++stap) {
+        bereid();
+        schijf.FaalBij(stap);
+        const auto uitkomst = SchrijfHeel(schijf, pad, "de nieuwe inhoud");
+        ASSERT_FALSE(uitkomst) << "stap " << stap;
+        EXPECT_EQ(uitkomst.error().soort, Foutsoort::Geweigerd);
+        EXPECT_EQ(uitkomst.error().systeem, "schijf vol");
+        EXPECT_EQ(bekijk(), stap < stappen ? oud : "de nieuwe inhoud") << "stap " << stap;
+        EXPECT_EQ(binnen.Bestanden(pad.substr(0, pad.find_last_of('\\'))), Namen{"spelers.txt"})
+            << "stap " << stap;
+    }
+}
+
+} // namespace
+
+TEST(HeelSchrijven, NieuwBestand)
+{
+    GeheugenSchijf schijf;
+    schijf.ZetMap("C:\\club");
+    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "inhoud"));
+    EXPECT_EQ(schijf.Inhoud(bestand), "inhoud");
+    EXPECT_EQ(schijf.AlleBestanden(), Namen{bestand});
+}
+
+TEST(HeelSchrijven, VervangtHetOude)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet(bestand, "veel langere oude inhoud");
+    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "nieuw"));
+    EXPECT_EQ(schijf.Inhoud(bestand), "nieuw");
+    EXPECT_EQ(schijf.AlleBestanden(), Namen{bestand});
+}
+
+TEST(HeelSchrijven, MapOntbreekt)
+{
+    GeheugenSchijf schijf;
+    const auto uitkomst = SchrijfHeel(schijf, bestand, "nieuw");
+    ASSERT_FALSE(uitkomst);
+    EXPECT_EQ(uitkomst.error().soort, Foutsoort::Ontbreekt);
+}
+
+TEST(HeelSchrijven, FaaltBijElkeStapInGeheugen)
+{
+    GeheugenSchijf schijf;
+    FaalBijElkeStap(
+        schijf, bestand, "oud", [&] { schijf.Zet(bestand, "oud"); },
+        [&] { return schijf.Inhoud(bestand).value_or("weg"); });
+}
+
+TEST(HeelSchrijven, FaaltBijElkeStapOpDeEchteSchijf)
+{
+    const TijdelijkeMap map;
+    EchteSchijf schijf;
+    FaalBijElkeStap(
+        schijf, Samen(map.AlsPad(), "spelers.txt"), "oud", [&] { map.Zet("spelers.txt", "oud"); },
+        [&] { return map.Inhoud("spelers.txt"); });
+}
+
+TEST(HeelSchrijven, EersteFoutWordtGemeld)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet(bestand, "oud");
+    FalendeSchijf schijf(binnen);
+    schijf.FaalVanaf(5); // the write, and the removal of the temporary file as well
+    const auto uitkomst = SchrijfHeel(schijf, bestand, "nieuw");
+    ASSERT_FALSE(uitkomst);
+    EXPECT_EQ(uitkomst.error().bestand.rfind("C:\\club\\spelers.txt.~", 0), 0U);
+    EXPECT_EQ(binnen.Inhoud(bestand), "oud");
+}
+
+TEST(HeelSchrijven, StroomuitvalNaElkeStap)
+{
+    for (const auto namen : {GeheugenSchijf::Namen::Gesynct, GeheugenSchijf::Namen::Alle}) {
+        bool klaar = false;
+        bool oudGezien = false;
+        for (int stap = 1; !klaar; ++stap) {
+            GeheugenSchijf binnen;
+            binnen.Zet(bestand, "oud");
+            FalendeSchijf schijf(binnen);
+            schijf.FaalVanaf(stap);
+            klaar = SchrijfHeel(schijf, bestand, "nieuw").has_value();
+            const auto over = binnen.NaStroomuitval(namen);
+            ASSERT_TRUE(over.contains(bestand)) << "stap " << stap;
+            const Tekst& inhoud = over.at(bestand);
+            EXPECT_TRUE(inhoud == "nieuw" || (inhoud == "oud" && !klaar))
+                << "stap " << stap << ": " << inhoud;
+            oudGezien = oudGezien || inhoud == "oud";
+        }
+        EXPECT_TRUE(oudGezien);
+    }
+}
+
+TEST(HeelSchrijven, RechtenVoorDeInhoud)
+{
+    // The temporary file of a secret file is never readable to all with its contents in it.
+    GeheugenSchijf binnen;
+    binnen.Zet(bestand, "oud");
+    binnen.ZetAlleenLezen(bestand);
+    FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
+    EXPECT_FALSE(SchrijfHeel(schijf, bestand, "nieuw"));
+    EXPECT_EQ(schijf.Aantal(), 3); // make, rights, remove
+    EXPECT_EQ(binnen.AlleBestanden(), Namen{bestand});
+}
+
+namespace {
+
+constexpr std::int64_t seconde = 1'000'000'000;
+constexpr std::int64_t uur = 3600 * seconde;
+constexpr std::int64_t nu = 500'000 * uur;
+
+} // namespace
+
+TEST(RuimTijdelijkeOp, AlleenOudeVanDitBestand)
+{
+    GeheugenSchijf schijf;
+    const Namen blijven = {"spelers.txt",        "spelers.txt.~",      "spelers.txt.~12a",
+                           "spelers.txt.bak",    "andere.txt.~123",    "xspelers.txt.~123",
+                           "spelers.txt.~9.txt", "map\\spelers.txt.~1"};
+    for (const Tekst& naam : blijven) {
+        schijf.Zet(Samen("C:\\club", naam), "x");
+        schijf.ZetTijd(Samen("C:\\club", naam), nu - 1000 * uur);
+    }
+    for (const char* naam : {"spelers.txt.~1230001", "SPELERS.TXT.~7"}) {
+        schijf.Zet(Samen("C:\\club", naam), "x");
+        schijf.ZetTijd(Samen("C:\\club", naam), nu - uur - 1);
+    }
+    RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
+    EXPECT_EQ(schijf.AlleBestanden().size(), blijven.size());
+    for (const Tekst& naam : blijven)
+        EXPECT_TRUE(schijf.Inhoud(Samen("C:\\club", naam))) << naam;
+}
+
+TEST(RuimTijdelijkeOp, JongeBlijven)
+{
+    GeheugenSchijf schijf;
+    for (const std::int64_t tijd : {nu - uur, nu - seconde, nu + 5 * uur}) {
+        schijf.Zet("C:\\club\\spelers.txt.~1", "x");
+        schijf.ZetTijd("C:\\club\\spelers.txt.~1", tijd);
+        RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
+        EXPECT_TRUE(schijf.Inhoud("C:\\club\\spelers.txt.~1")) << tijd;
+    }
+}
+
+TEST(RuimTijdelijkeOp, MislukkenIsGeenRamp)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet("C:\\club\\spelers.txt.~1", "x");
+    binnen.Zet("C:\\club\\spelers.txt.~2", "x");
+    FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
+    schijf.FaalBij(1);
+    RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
+    EXPECT_EQ(binnen.AlleBestanden(), Namen{"C:\\club\\spelers.txt.~1"});
+    RuimTijdelijkeOp(schijf, "C:\\weg", "spelers.txt", nu);
+}
+
+TEST(RuimTijdelijkeOp, WatEenSaveAchterliet)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet(bestand, "oud");
+    FalendeSchijf schijf(binnen);
+    schijf.FaalVanaf(6); // killed before the sync
+    EXPECT_FALSE(SchrijfHeel(schijf, bestand, "nieuw"));
+    ASSERT_EQ(binnen.AlleBestanden().size(), 2U);
+    RuimTijdelijkeOp(binnen, "C:\\club", "spelers.txt", nu);
+    EXPECT_EQ(binnen.AlleBestanden(), Namen{bestand});
+}
+
+#ifndef _WIN32
+
+TEST(RuimTijdelijkeOp, InDeMapVanHetDoelVanEenLink)
+{
+    const TijdelijkeMap map;
+    std::filesystem::create_directory(map.Weg() / "ver");
+    map.Zet("ver/echt.txt", "oud");
+    map.Zet("ver/echt.txt.~55", "rest");
+    std::filesystem::create_symlink("ver/echt.txt", map.Weg() / "link.txt");
+    EchteSchijf schijf;
+    RuimTijdelijkeOp(schijf, map.AlsPad(), "link.txt", std::numeric_limits<std::int64_t>::max());
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "ver/echt.txt.~55"));
+    EXPECT_EQ(map.Inhoud("ver/echt.txt"), "oud");
+}
+
+#endif
