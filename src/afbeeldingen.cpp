@@ -7,6 +7,7 @@
 
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
+#include "federation/diaRekProgkeus.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/tekstbrug.h"
 
@@ -60,6 +61,9 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Groepen groepen = administratie.groepen;
     diaGrNamen namenVenster(groepen, &hoofdvenster);
     gelukt = Bewaar(namenVenster, doel) && gelukt;
+
+    diaRekProgkeus programmaVenster(&hoofdvenster);
+    gelukt = Bewaar(programmaVenster, doel) && gelukt;
     return gelukt ? 0 : 1;
 }
 

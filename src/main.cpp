@@ -40,7 +40,8 @@ int main(int argc, char** argv)
 
     EchteSchijf schijf;
     Exemplaarslot slot;
-    Administratie administratie{.schijf = schijf};
+    const auto winkel = MaakInstellingenwinkel(schijf);
+    Administratie administratie{.schijf = schijf, .winkel = *winkel};
     frmLedenAdmin venster(administratie);
     const Opstart opstart{.mappenIni = opdrachten.mappenIni.empty()
                                            ? MappenIniPad(Programmamap())

@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+#include "platform/instellingenwinkel.h"
+
 namespace plexoran {
 namespace {
 
@@ -21,6 +23,8 @@ Opties:
 
 Zonder --mappen wordt "Mappen.ini" gezocht in de map van het programma of, als
 in de naam van die map "Admin" voorkomt, in de map erboven.
+De mappen van de rekenprogramma's worden gelezen uit:
+  %1
 )";
 
 constexpr int VerkeerdGebruik = 2;
@@ -34,9 +38,9 @@ Opdrachten Weiger(const QString& reden)
     return opdrachten;
 }
 
-Opdrachten Antwoord(const char* tekst)
+Opdrachten Antwoord(const QString& tekst)
 {
-    std::fputs(tekst, stdout);
+    std::fputs(tekst.toUtf8().constData(), stdout);
     Opdrachten opdrachten;
     opdrachten.eindstatus = std::fflush(stdout) == 0 ? 0 : 1;
     return opdrachten;
@@ -68,9 +72,9 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
         return Weiger(
             QStringLiteral("onbekend woord '%1'").arg(lezer.positionalArguments().constFirst()));
     if (lezer.isSet(help))
-        return Antwoord(gebruik);
+        return Antwoord(QString::fromUtf8(gebruik).arg(QString::fromStdString(Winkelplaats())));
     if (lezer.isSet(versie))
-        return Antwoord("Plexoran " PLEXORAN_VERSIE "\n");
+        return Antwoord(QStringLiteral("Plexoran " PLEXORAN_VERSIE "\n"));
     for (const auto& optie : {mappen, afbeeldingen}) {
         if (lezer.isSet(optie) && lezer.value(optie).isEmpty())
             return Weiger(

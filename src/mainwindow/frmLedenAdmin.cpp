@@ -319,7 +319,12 @@ void frmLedenAdmin::LeesOpnieuw()
 {
     nietOpgeslagen_ = false;
     setWindowModified(false);
-    MeldLezing(LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers));
+    const Leesverslag verslag =
+        LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
+    if (!verslag.fout && verslag.zonderAchternaam.empty())
+        return;
+    ToonGroep(); // the grid must not show the old rows behind the box
+    MeldLezing(verslag);
 }
 
 bool frmLedenAdmin::OpnieuwProberen(const Fout& fout)

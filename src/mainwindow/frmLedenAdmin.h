@@ -52,10 +52,14 @@ class frmLedenAdmin : public QMainWindow {
     QWidget* BouwOpdrachten();
     QGroupBox* BouwVerwijderkader();
     QGroupBox* BouwSorteerkader();
+    void StelTabvolgordeIn();
     void Verbind();
 
     // Start-up (frmLedenAdmin_start.cpp)
+    [[nodiscard]] bool LeesMappenBijStart(const Pad& mappenIni);
+    void MaakLedenmapBijStart();
     void LeesInstellingenBijStart();
+    void ZoekRekenprogrammaBijStart();
     void LeesGroepenBijStart();
     void LeesSpelersBijStart();
     void MeldLezing(const Leesverslag& verslag);

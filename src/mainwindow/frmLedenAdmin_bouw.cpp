@@ -124,7 +124,7 @@ void frmLedenAdmin::Bouw()
     lagen->addWidget(BouwOpdrachten());
     setCentralWidget(midden);
     resize(maten_.Twips(15360), maten_.Twips(10500));
-    setMinimumSize(maten_.Twips(15000), maten_.Twips(9000));
+    StelTabvolgordeIn();
     Verbind();
 }
 
@@ -155,8 +155,7 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     Noem(chkKolBr, QStringLiteral("chkKolBr"));
     chkKolBr->adjustSize();
     chkKolBr->move(naast, cmdMaakGrNamen->y() - chkKolBr->height() - maten_.Twips(KolBrBoven) / 2);
-    QWidget::setTabOrder(cmbGr, chkKolBr);
-    QWidget::setTabOrder(chkKolBr, cmdMaakGrNamen);
+    boven->setMinimumWidth(chkKolBr->geometry().right() + maten_.Twips(RoosterLinks));
     return boven;
 }
 
@@ -227,6 +226,40 @@ QGroupBox* frmLedenAdmin::BouwSorteerkader()
     vakken->addWidget(cmdSortlijst3, 0, 2);
     vakken->addWidget(chkToonAlle, 1, 0, 1, 3);
     return kader;
+}
+
+/// As the eye reads: the top, the grid, then the columns of commands from left to right.
+void frmLedenAdmin::StelTabvolgordeIn()
+{
+    const QList<QWidget*> volgorde{cmbGr,
+                                   chkKolBr,
+                                   cmdMaakGrNamen,
+                                   picP0->Toetsenvlak(),
+                                   cmdAanm,
+                                   cmdWijzig,
+                                   cmdVerplaats,
+                                   cmdKopieer,
+                                   cmdVerwijder,
+                                   cmbVerwVan,
+                                   cmbVerwTot,
+                                   cmdVerwijderVT,
+                                   cmdVerwGroep,
+                                   cmdSortlijst1,
+                                   cmdSortlijst2,
+                                   cmdSortlijst3,
+                                   chkToonAlle,
+                                   cmdZoekDubbeleNamen,
+                                   cmdHaalNBBnamen,
+                                   cmdKoppel,
+                                   cmdToonGatenlijst,
+                                   cmdSpToevoegen,
+                                   cmdParenOnderhoud,
+                                   cmdToelichting,
+                                   cmdMaakScripts,
+                                   cmdEinde,
+                                   cmdPrint};
+    for (qsizetype i = 1; i < volgorde.size(); ++i)
+        QWidget::setTabOrder(volgorde[i - 1], volgorde[i]);
 }
 
 void frmLedenAdmin::Verbind()

@@ -1,4 +1,6 @@
 // The start-up of the main window, in its fixed order.
+#include "federation/diaRekProgkeus.h"
+#include "federation/zoekrekenprogramma.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/heelschrijven.h"
 #include "platform/klok.h"
@@ -33,25 +35,11 @@ std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
         "Met dit programma moet u de gegevens van de spelers vastleggen en bewaren.\n"
         "Bij het opzetten van de zitting moet u kiezen uit deze spelers."));
 
-    auto mappen = LeesMappenIni(administratie_.schijf, opstart.mappenIni);
-    if (!mappen) {
-        Meld(nullptr, QMessageBox::Critical,
-             QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen. Daarin staat in "
-                            "welke mappen de spelers worden bewaard; zonder dat bestand kan dit "
-                            "programma niet werken.\n\nZet het bestand 'Mappen.ini' van uw "
-                            "programma's op deze plaats, of start Plexoran met --mappen en de "
-                            "naam van het bestand.\n\n") +
-                 Bijzonderheden(mappen.error()));
+    if (!LeesMappenBijStart(opstart.mappenIni))
         return 1;
-    }
-    administratie_.mappen = std::move(*mappen);
-    const auto ledenmap = administratie_.schijf.MaakMap(administratie_.mappen.Ledenmap());
-    if (!ledenmap)
-        MeldMapfout(QStringLiteral("De map voor de ledenbestanden van de bond (NBB4-Leden) kon "
-                                   "niet worden gemaakt."),
-                    ledenmap.error());
-
+    MaakLedenmapBijStart();
     LeesInstellingenBijStart();
+    ZoekRekenprogrammaBijStart();
     opstarten_ = true;
     chkKolBr->setChecked(true);
     opstarten_ = false;
@@ -64,7 +52,46 @@ std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
     if (administratie_.mappen.NBB28UIT == 1)
         cmdToonGatenlijst->hide();
     cmdKoppel->hide();
+    picP0->Toetsenvlak()->setFocus();
     return std::nullopt;
+}
+
+bool frmLedenAdmin::LeesMappenBijStart(const Pad& mappenIni)
+{
+    auto mappen = LeesMappenIni(administratie_.schijf, mappenIni);
+    if (mappen) {
+        administratie_.mappen = std::move(*mappen);
+        return true;
+    }
+    const Fout& fout = mappen.error();
+    const QString wat =
+        fout.soort == Foutsoort::Beschadigd
+            ? QStringLiteral("Het bestand 'Mappen.ini' noemt de map van de spelers niet: er staat "
+                             "geen map achter SPEMAP=.")
+            : QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen.");
+    Meld(nullptr, QMessageBox::Critical,
+         wat +
+             QStringLiteral("\n\nIn dat bestand staat in welke mappen uw gegevens worden "
+                            "bewaard; zonder kan dit programma niet werken. Zet het goede "
+                            "bestand op deze plaats, of start Plexoran met --mappen en de naam "
+                            "van het bestand.\n\n") +
+             Bijzonderheden(fout));
+    return false;
+}
+
+void frmLedenAdmin::MaakLedenmapBijStart()
+{
+    const Mappen& mappen = administratie_.mappen;
+    const QString wat = QStringLiteral("De map voor de ledenbestanden van de bond (NBB4-Leden) kon "
+                                       "niet worden gemaakt.");
+    if (mappen.WINMAP.empty()) {
+        Meld(this, QMessageBox::Warning,
+             wat + QStringLiteral("\n\nEr staat geen map achter WINMAP= in 'Mappen.ini'."));
+        return;
+    }
+    const auto map = administratie_.schijf.MaakMap(mappen.Ledenmap());
+    if (!map)
+        MeldMapfout(wat, map.error());
 }
 
 void frmLedenAdmin::LeesInstellingenBijStart()
@@ -80,15 +107,27 @@ void frmLedenAdmin::LeesInstellingenBijStart()
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
 }
 
+void frmLedenAdmin::ZoekRekenprogrammaBijStart()
+{
+    administratie_.rekenprogramma = ZoekRekenprogramma(administratie_.winkel, [this] {
+        diaRekProgkeus keus(this);
+        keus.exec();
+        return keus.Antwoord();
+    });
+    const Tekst& dataRoot = administratie_.rekenprogramma.DataRoot;
+    if (!dataRoot.empty())
+        administratie_.DataMap = Samen(dataRoot, "data");
+}
+
 void frmLedenAdmin::LeesGroepenBijStart()
 {
     const Pad pad = administratie_.mappen.Groepenbestand();
     // The players folder holds the group file too, so it must be there before that file is made.
-    const auto gemaakt =
-        administratie_.schijf.MaakMap(administratie_.mappen.SPEMAP).and_then([this] {
-            return MaakGroepenbestand(administratie_.schijf, administratie_.mappen);
-        });
-    if (!gemaakt)
+    const auto map = administratie_.schijf.MaakMap(administratie_.mappen.SPEMAP);
+    if (!map)
+        MeldMapfout(QStringLiteral("De map van de spelers kon niet worden gemaakt."), map.error());
+    const auto gemaakt = MaakGroepenbestand(administratie_.schijf, administratie_.mappen);
+    if (map && !gemaakt)
         MeldMapfout(QStringLiteral("Het bestand met de groepsnamen kon niet worden gemaakt of "
                                    "gelezen."),
                     gemaakt.error());
@@ -108,10 +147,12 @@ void frmLedenAdmin::LeesSpelersBijStart()
     RuimTijdelijkeOp(administratie_.schijf, administratie_.mappen.SPEMAP, "RVDspelers.txt", Nu());
     const auto gemaakt =
         MaakSpelerbestand(administratie_.schijf, administratie_.mappen, administratie_.spelers);
-    if (!gemaakt)
-        MeldMapfout(QStringLiteral("Het spelerbestand kon niet worden gemaakt of gelezen."),
-                    gemaakt.error());
-    MeldLezing(LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers));
+    const Leesverslag verslag =
+        LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
+    // A file that cannot be read is told of below.
+    if (!gemaakt && !verslag.fout)
+        MeldMapfout(QStringLiteral("Het spelerbestand kon niet worden gemaakt."), gemaakt.error());
+    MeldLezing(verslag);
 }
 
 void frmLedenAdmin::MeldMapfout(const QString& wat, const Fout& fout)

@@ -8,6 +8,10 @@
 
 #include <filesystem>
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 #include "platform/systeempad.h"
 
 namespace plexoran {
@@ -23,12 +27,18 @@ QString NaarNaam(const std::filesystem::path& pad)
     return QString::fromStdU16String(pad.u16string());
 }
 
-/// A folder of this user and this computer alone, so that a lock of another computer never stands
+/// A file of this user and this computer alone, so that a lock of another computer never stands
 /// in the way.
-QString Slotmap()
+QString Slotbestand()
 {
-    const QString map = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return map.isEmpty() ? QDir::tempPath() : map;
+#ifdef _WIN32
+    return QDir::tempPath() + QStringLiteral("/plexoran.lock"); // the user's own
+#else
+    if (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+               QStringLiteral("/plexoran.lock");
+    return QDir::tempPath() + QStringLiteral("/plexoran-%1.lock").arg(geteuid());
+#endif
 }
 
 } // namespace
@@ -70,7 +80,7 @@ Uitkomst<void> StartProgramma(Schijf& schijf, const Pad& pad)
 }
 
 struct Exemplaarslot::Binnenkant {
-    QLockFile slot{Slotmap() + QStringLiteral("/plexoran.lock")};
+    QLockFile slot{Slotbestand()};
 };
 
 Exemplaarslot::Exemplaarslot() = default;

@@ -40,6 +40,8 @@ Tekst InstellingenTekst(const Instellingen& instellingen)
 
 Instellingen LeesInstellingen(Schijf& schijf, const Mappen& mappen)
 {
+    if (mappen.ADMMAP.empty())
+        return {};
     const auto inhoud = schijf.LeesBestand(mappen.Instellingenbestand());
     return inhoud ? InstellingenUit(*inhoud) : Instellingen();
 }
@@ -47,6 +49,9 @@ Instellingen LeesInstellingen(Schijf& schijf, const Mappen& mappen)
 Uitkomst<void> SchrijfInstellingen(Schijf& schijf, const Mappen& mappen,
                                    const Instellingen& instellingen)
 {
+    if (mappen.ADMMAP.empty())
+        return tl::unexpected(
+            Fout{.soort = Foutsoort::Ontbreekt, .bestand = "Plexo.ini", .regel = 0, .systeem = {}});
     return VervangMetKopie(schijf, mappen.SPEMAP, mappen.Instellingenbestand(),
                            InstellingenTekst(instellingen), IsInstellingenbestand);
 }

@@ -71,7 +71,15 @@ Mappen MappenUit(Tekstblik inhoud)
 
 Uitkomst<Mappen> LeesMappenIni(Schijf& schijf, const Pad& pad)
 {
-    return schijf.LeesBestand(pad).map([](const Tekst& inhoud) { return MappenUit(inhoud); });
+    return schijf.LeesBestand(pad).and_then([&](const Tekst& inhoud) -> Uitkomst<Mappen> {
+        Mappen mappen = MappenUit(inhoud);
+        if (mappen.SPEMAP.empty())
+            return tl::unexpected(Fout{.soort = Foutsoort::Beschadigd,
+                                       .bestand = schijf.Toonpad(pad),
+                                       .regel = 0,
+                                       .systeem = {}});
+        return mappen;
+    });
 }
 
 } // namespace plexoran

@@ -9,7 +9,8 @@
 
 namespace plexoran {
 
-/// The members bear the names of the keys. Folders come without a closing `\`.
+/// The members bear the names of the keys. Folders come without a closing `\`; one that is not
+/// named is empty, and nothing may be read or written in it.
 struct Mappen {
     Tekst RVDMAP;              ///< root folder of the suite
     Tekst APPEXE;              ///< name of the suite's main application
@@ -39,6 +40,7 @@ struct Mappen {
 /// fit 16 bits counts as 0.
 [[nodiscard]] Mappen MappenUit(Tekstblik inhoud);
 
+/// `Beschadigd` when the file names no players folder: without it there is no register.
 [[nodiscard]] Uitkomst<Mappen> LeesMappenIni(Schijf& schijf, const Pad& pad);
 
 } // namespace plexoran

@@ -1,0 +1,57 @@
+#include "federation/diaRekProgkeus.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "platform/scherm/knop.h"
+
+namespace plexoran {
+
+diaRekProgkeus::diaRekProgkeus(QWidget* ouder) : QDialog(ouder)
+{
+    setObjectName(QStringLiteral("diaRekProgkeus"));
+    setWindowTitle(QStringLiteral("Maak een keus"));
+    auto* Label1 =
+        new QLabel(QStringLiteral("Op deze computer zijn 2 Rekenprogramma's aangetroffen."), this);
+    Noem(Label1, QStringLiteral("Label1"));
+    auto* Label2 = new QLabel(QStringLiteral("Maak een keus"), this);
+    Noem(Label2, QStringLiteral("Label2"));
+
+    auto* Frame1 = new QGroupBox(this);
+    Noem(Frame1, QStringLiteral("Frame1"), QStringLiteral("Rekenprogramma"));
+    Option1 = new QRadioButton(MetSneltoets(QStringLiteral("NBB-Rekenprogamma"), u'N'), Frame1);
+    Noem(Option1, QStringLiteral("Option1"));
+    Option2 = new QRadioButton(MetSneltoets(QStringLiteral("Bridge-It"), u'B'), Frame1);
+    Noem(Option2, QStringLiteral("Option2"));
+    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
+    cmdOK->setDefault(true);
+    cmdOK->setEnabled(false);
+
+    auto* keuzes = new QVBoxLayout(Frame1);
+    keuzes->addWidget(Option1);
+    keuzes->addWidget(Option2);
+    auto* lagen = new QVBoxLayout(this);
+    for (QWidget* deel : std::initializer_list<QWidget*>{Label1, Label2, Frame1})
+        lagen->addWidget(deel);
+    lagen->addWidget(cmdOK, 0, Qt::AlignRight);
+    lagen->setSizeConstraint(QLayout::SetFixedSize);
+
+    connect(Option1, &QRadioButton::clicked, this, [this] { Kies(Programma::NBBR); });
+    connect(Option2, &QRadioButton::clicked, this, [this] { Kies(Programma::BridgeIt); });
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+void diaRekProgkeus::Kies(Programma programma)
+{
+    antwoord_ = programma;
+    cmdOK->setEnabled(true);
+}
+
+void diaRekProgkeus::reject()
+{
+    antwoord_ = Programma::Geen;
+    QDialog::reject();
+}
+
+} // namespace plexoran

@@ -1,0 +1,15 @@
+// Finding the installed scoring program in the per-user settings.
+#pragma once
+
+#include <functional>
+
+#include "platform/instellingenwinkel.h"
+#include "register/rekenprogramma.h"
+
+namespace plexoran {
+
+/// Looks for both programs. When both are there `kies` asks the user, whose answer may be `Geen`.
+[[nodiscard]] Rekenprogramma ZoekRekenprogramma(Instellingenwinkel& winkel,
+                                                const std::function<Programma()>& kies);
+
+} // namespace plexoran
