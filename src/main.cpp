@@ -9,6 +9,7 @@
 #include "opdrachtregel.h"
 #include "platform/echteSchijf.h"
 #include "platform/programma.h"
+#include "platform/scherm/pictogram.h"
 
 using namespace plexoran;
 
@@ -35,6 +36,7 @@ int main(int argc, char** argv)
     QApplication programma(argc, argv);
     QApplication::setApplicationName(QStringLiteral("plexoran"));
     QApplication::setApplicationDisplayName(QString());
+    QApplication::setWindowIcon(Pictogram());
     QTranslator vertaling;
     SpreekNederlands(vertaling);
 

@@ -124,6 +124,7 @@ void diaIngave::BouwVeld(int veld)
         vak->setEnabled(false);
         vak->setReadOnly(true);
         Kleur(vak, QPalette::Base, palette().color(QPalette::Button));
+        Kleur(vak, QPalette::Text, palette().color(QPalette::WindowText));
         return;
     }
     auto* opt = new QRadioButton(this);

@@ -73,7 +73,7 @@ class frmLedenAdmin : public QMainWindow {
     void PasKnoppenAan(const Groepsbeeld& beeld);
     void BewaarInstellingen();
 
-    // Commands
+    // Commands (frmLedenAdmin_opdrachten.cpp)
     void VoegToe();
     void Wijzig();
     bool ToonIngave(Ingave& ingave);
@@ -85,7 +85,7 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
     [[nodiscard]] bool IsRegelGekozen();
 
-    // Saving
+    // Saving (frmLedenAdmin_opslag.cpp)
     Opslag SlaOp();
     void LeesOpnieuw();
     [[nodiscard]] bool OpnieuwProberen(const Fout& fout);

@@ -1,0 +1,174 @@
+// The commands of the main window.
+#include "dialogs/diaGrNamen.h"
+#include "dialogs/diaIngave.h"
+#include "mainwindow/frmLedenAdmin.h"
+#include "mainwindow/verwijderen.h"
+#include "platform/programma.h"
+#include "platform/scherm/berichten.h"
+
+namespace plexoran {
+
+bool frmLedenAdmin::IsRegelGekozen()
+{
+    if (picP0->Regel() > 0)
+        return true;
+    Meld(this, QMessageBox::Warning, QStringLiteral("Er is geen regel geselecteerd!"));
+    return false;
+}
+
+bool frmLedenAdmin::ToonIngave(Ingave& ingave)
+{
+    const Tekst groeptekst = Groeptekst();
+    ingave.groeptekst = groeptekst;
+    ingave.importgroep = CodeUit(groeptekst) == administratie_.mappen.DFIMPG;
+    diaIngave venster(
+        ingave, administratie_.instellingen.OPTIND, [this] { BewaarInstellingen(); }, this);
+    venster.exec();
+    return !ingave.IngaveGeannuleerd;
+}
+
+void frmLedenAdmin::VoegToe()
+{
+    Ingave ingave;
+    ingave.IngaveModus = "Aanmaken";
+    ingave.rij = administratie_.spelers.tabel.Rijen() + 1;
+    if (!ToonIngave(ingave))
+        return;
+    if (!VoegSpelerToe(administratie_.spelers, Groeptekst(), ingave.IngaveVelden)) {
+        Meld(this, QMessageBox::Critical,
+             QStringLiteral("De speler is niet toegevoegd: de spelersleutels zijn op. Kijk het "
+                            "getal na achter HKEY= in het spelerbestand."));
+        return;
+    }
+    (void)SlaOp();
+    ToonGroep();
+    picP0->BrengInBeeld(picP0->Regels());
+}
+
+void frmLedenAdmin::Wijzig()
+{
+    if (!IsRegelGekozen())
+        return;
+    const int regel = picP0->Regel();
+    Ingave ingave;
+    ingave.rij = picP0->GetoondeRijen()[static_cast<std::size_t>(regel - 1)];
+    ingave.IngaveVelden = administratie_.spelers.tabel.Velden(ingave.rij);
+    if (!ToonIngave(ingave))
+        return;
+    WijzigSpeler(administratie_.spelers, ingave.rij, ingave.IngaveVelden);
+    (void)SlaOp();
+    ToonGroep();
+}
+
+/// `vraag` names the lines; the warning is the same for one line and for many.
+bool frmLedenAdmin::VraagVerwijderen(const QString& vraag)
+{
+    const QStringList regels{
+        QStringLiteral("\t\tLET OP!"),
+        QString(),
+        QStringLiteral("Als u spelers verwijdert die nog voorkomen in bestaande zittingen dan zal "
+                       "hun naam daarin niet meer verschijnen."),
+        QStringLiteral("Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen."),
+        QString(),
+        QStringLiteral("Het opnieuw invoeren van een speler die per vergissing is verwijderd heeft "
+                       "alleen zin als men in elke relevante zitting zijn naam opnieuw ingeeft."),
+        QString(),
+        vraag,
+        QString(),
+    };
+    return Vraag(this, QMessageBox::Information,
+                 regels.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"),
+                 QStringLiteral("Verwijderen"));
+}
+
+void frmLedenAdmin::VerwijderGekozen()
+{
+    if (!IsRegelGekozen())
+        return;
+    const int regel = picP0->Regel();
+    if (!VraagVerwijderen(
+            QStringLiteral("Weet u zeker dat u regel %1 wilt verwijderen?").arg(regel)))
+        return;
+    VerwijderRij(administratie_.spelers.tabel, picP0->GetoondeRijen(), regel);
+    const Opslag opslag = SlaOp();
+    ToonGroep();
+    if (opslag != Opslag::Mislukt)
+        Meld(this, QMessageBox::Information, QStringLiteral("De regel is verwijderd."));
+    MeldRegisterBehouden(opslag);
+}
+
+void frmLedenAdmin::VerwijderVanTot()
+{
+    const int van = cmbVerwVan->currentIndex() + 1;
+    const int tot = cmbVerwTot->currentIndex() + 1;
+    if (van > tot) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Er is niets verwijderd: regel %1 komt na regel %2. Kies bij 'Van "
+                            "regel' de eerste en bij 'T/m regel' de laatste regel.")
+                 .arg(van)
+                 .arg(tot));
+        return;
+    }
+    if (!VraagVerwijderen(QStringLiteral("Weet u zeker dat u regel %1 t/m regel %2 wilt "
+                                         "verwijderen?")
+                              .arg(van)
+                              .arg(tot)))
+        return;
+    const int groep = cmbGr->currentIndex();
+    VerwijderRijen(administratie_.spelers.tabel, picP0->GetoondeRijen(), van, tot);
+    const Opslag opslag = SlaOp();
+    ToonGroep();
+    if (opslag != Opslag::Mislukt)
+        Meld(this, QMessageBox::Information, QStringLiteral("De regels zijn verwijderd."));
+    MeldRegisterBehouden(opslag);
+    KiesGroep(groep);
+}
+
+void frmLedenAdmin::WijzigGroepsnamen()
+{
+    const Groepen oud = administratie_.groepen;
+    diaGrNamen venster(administratie_.groepen, this);
+    venster.exec();
+    if (venster.Geannuleerd() || !BewaarGroepen(oud))
+        return;
+    VulGroepen();
+    KiesGroep(0);
+}
+
+/// Names that cannot be saved are taken back, so that screen and file stay one.
+bool frmLedenAdmin::BewaarGroepen(const Groepen& oud)
+{
+    for (;;) {
+        const auto uitkomst =
+            SchrijfGroepen(administratie_.schijf, administratie_.mappen, administratie_.groepen);
+        if (uitkomst)
+            return true;
+        const int antwoord =
+            Kies(this, QMessageBox::Critical,
+                 QStringLiteral("De groepsnamen konden niet worden bewaard. Het bestand is "
+                                "gebleven zoals het was.\n\n") +
+                     Bijzonderheden(uitkomst.error()),
+                 {QStringLiteral("Opnieuw proberen"), QStringLiteral("Annuleren")});
+        if (antwoord != 0) {
+            administratie_.groepen = oud;
+            return false;
+        }
+    }
+}
+
+void frmLedenAdmin::StartGatenlijst()
+{
+    const auto uitkomst = StartProgramma(administratie_.schijf,
+                                         Samen(administratie_.mappen.RVDMAP, "Gatenlijst.exe"));
+    if (uitkomst)
+        return;
+    if (uitkomst.error().soort == Foutsoort::Ontbreekt)
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Het programma 'Gatenlijst.exe' is niet te vinden."));
+    else
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart.\n\n") +
+                 Bijzonderheden(uitkomst.error()));
+}
+
+} // namespace plexoran

@@ -1,0 +1,87 @@
+// Saving after a command, and reading back.
+#include "mainwindow/frmLedenAdmin.h"
+#include "platform/scherm/berichten.h"
+
+namespace plexoran {
+
+/// Save and reload. A change that could not be saved stays in the table and is tried again with the
+/// next save and at the end of the program.
+frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
+{
+    const bool leeg = administratie_.spelers.tabel.Rijen() == 0;
+    Overschrijven overschrijven = Overschrijven::AlleenEigen;
+    for (;;) {
+        const auto uitkomst = SchrijfSpelers(administratie_.schijf, administratie_.mappen,
+                                             administratie_.spelers, overschrijven);
+        if (uitkomst)
+            break;
+        nietOpgeslagen_ = true;
+        setWindowModified(true);
+        ToonGroep();
+        if (uitkomst.error().soort != Foutsoort::Gewijzigd) {
+            if (!OpnieuwProberen(uitkomst.error()))
+                return Opslag::Mislukt;
+            continue;
+        }
+        const int antwoord = Kies(
+            this, QMessageBox::Warning,
+            QStringLiteral("Het spelerbestand is door een ander programma gewijzigd nadat het hier "
+                           "is ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er komt "
+                           "eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: uw "
+                           "laatste wijziging vervalt.\n\n") +
+                Bijzonderheden(uitkomst.error()),
+            {QStringLiteral("Opslaan"), QStringLiteral("Opnieuw inlezen"),
+             QStringLiteral("Later beslissen")});
+        if (antwoord == 0) {
+            overschrijven = Overschrijven::OokGewijzigd;
+            continue;
+        }
+        if (antwoord == 1)
+            LeesOpnieuw();
+        return Opslag::Mislukt;
+    }
+    LeesOpnieuw();
+    return leeg && administratie_.spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden
+                                                            : Opslag::Gelukt;
+}
+
+void frmLedenAdmin::LeesOpnieuw()
+{
+    nietOpgeslagen_ = false;
+    setWindowModified(false);
+    const Leesverslag verslag =
+        LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
+    if (!verslag.fout && verslag.zonderAchternaam.empty())
+        return;
+    ToonGroep(); // the grid must not show the old rows behind the box
+    MeldLezing(verslag);
+}
+
+bool frmLedenAdmin::OpnieuwProberen(const Fout& fout)
+{
+    const QString wat =
+        fout.soort == Foutsoort::GeenReservekopie
+            ? QStringLiteral("Er is niets opgeslagen: het spelerbestand bevat gegevens die niet "
+                             "zijn ingelezen, en de kopie die daarvan eerst moet worden gemaakt "
+                             "in de map Reservekopie is mislukt.")
+            : QStringLiteral("De spelers konden niet worden opgeslagen.");
+    return Kies(this, QMessageBox::Critical,
+                wat +
+                    QStringLiteral(
+                        "\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging "
+                        "staat nog wel in dit programma: verhelp de oorzaak en probeer het "
+                        "opnieuw, of ga door; bij de volgende wijziging en bij het afsluiten "
+                        "wordt het weer geprobeerd.\n\n") +
+                    Bijzonderheden(fout),
+                {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")}) == 0;
+}
+
+void frmLedenAdmin::MeldRegisterBehouden(Opslag opslag)
+{
+    if (opslag == Opslag::RegisterBehouden)
+        Meld(this, QMessageBox::Information,
+             QStringLiteral("Een register zonder spelers wordt niet opgeslagen: het spelerbestand "
+                            "houdt zijn laatste inhoud, en die ziet u nu weer."));
+}
+
+} // namespace plexoran
