@@ -1,0 +1,54 @@
+#include "federation/diaRekProgkeus.h"
+
+#include <QGroupBox>
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+#include "hulp/venstergrepen.h"
+
+namespace plexoran {
+namespace {
+
+TEST(DiaRekProgkeus, ToontZijnTekstenZonderKeus)
+{
+    const diaRekProgkeus venster(nullptr);
+    EXPECT_EQ(venster.windowTitle(), "Maak een keus");
+    EXPECT_EQ(Vind<QLabel>(venster, "Label1")->text(),
+              "Op deze computer zijn 2 Rekenprogramma's aangetroffen.");
+    EXPECT_EQ(Vind<QLabel>(venster, "Label2")->text(), "Maak een keus");
+    EXPECT_EQ(Opschrift(Vind<QRadioButton>(venster, "Option1")), "NBB-Rekenprogamma");
+    EXPECT_EQ(Opschrift(Vind<QRadioButton>(venster, "Option2")), "Bridge-It");
+    EXPECT_EQ(Vind<QRadioButton>(venster, "Option1")->parentWidget(),
+              Vind<QGroupBox>(venster, "Frame1"));
+    EXPECT_FALSE(Vind<QPushButton>(venster, "cmdOK")->isEnabled());
+    EXPECT_EQ(venster.Antwoord(), Programma::Geen);
+}
+
+TEST(DiaRekProgkeus, ElkeKeusMaaktOkBruikbaar)
+{
+    for (const auto& [optie, programma] : {std::pair{"Option1", Programma::NBBR},
+                                           std::pair{"Option2", Programma::BridgeIt}}) {
+        diaRekProgkeus venster(nullptr);
+        venster.show();
+        Vind<QRadioButton>(venster, optie)->click();
+        auto* cmdOK = Vind<QPushButton>(venster, "cmdOK");
+        EXPECT_TRUE(cmdOK->isEnabled()) << optie;
+        cmdOK->click();
+        EXPECT_EQ(venster.Antwoord(), programma);
+        EXPECT_FALSE(venster.isVisible());
+    }
+}
+
+TEST(DiaRekProgkeus, SluitenZonderOkIsGeenAntwoord)
+{
+    diaRekProgkeus venster(nullptr);
+    venster.show();
+    Vind<QRadioButton>(venster, "Option2")->click();
+    QTest::keyClick(&venster, Qt::Key_Escape);
+    EXPECT_FALSE(venster.isVisible());
+    EXPECT_EQ(venster.Antwoord(), Programma::Geen);
+}
+
+} // namespace
+} // namespace plexoran
