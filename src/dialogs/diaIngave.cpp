@@ -211,6 +211,7 @@ void diaIngave::StelTabvolgordeIn()
     volgorde << cmdAnnuleren << cmdOK;
     for (qsizetype i = 1; i < volgorde.size(); ++i)
         QWidget::setTabOrder(volgorde[i - 1], volgorde[i]);
+    Vak(Kolom::Voornaam)->setFocus();
 }
 
 void diaIngave::resizeEvent(QResizeEvent* gebeurtenis)

@@ -44,6 +44,8 @@ class frmLedenAdmin : public QMainWindow {
 
   private:
     enum class Opslag { Gelukt, RegisterBehouden, Mislukt };
+    /// What the user wants after a save that failed.
+    enum class Vervolg { Opnieuw, Overschrijven, LeesOpnieuw, Later };
 
     // Building (frmLedenAdmin_bouw.cpp)
     void MaakKnoppen();
@@ -88,7 +90,8 @@ class frmLedenAdmin : public QMainWindow {
     // Saving (frmLedenAdmin_opslag.cpp)
     Opslag SlaOp();
     void LeesOpnieuw();
-    [[nodiscard]] bool OpnieuwProberen(const Fout& fout);
+    [[nodiscard]] Vervolg VraagVervolg(const Fout& fout);
+    [[nodiscard]] Vervolg VraagNaWijziging(const Fout& fout);
     void MeldRegisterBehouden(Opslag opslag);
 
     Administratie& administratie_;

@@ -163,26 +163,28 @@ QWidget* frmLedenAdmin::BouwOpdrachten()
 {
     auto* opdrachten = new QWidget(this);
     Label3 = MaakLabel(QStringLiteral("Label3"), QString(), opdrachten);
-    auto* rij = new QHBoxLayout(opdrachten);
-    rij->setContentsMargins(maten_.Twips(RoosterLinks), 6, maten_.Twips(RoosterLinks), 8);
-    rij->setSpacing(Tussenruimte);
-    rij->addLayout(MaakKolom({Label3, cmdAanm, cmdWijzig, cmdVerplaats, cmdKopieer}), 1);
-    rij->addLayout(MaakKolom({cmdVerwijder, BouwVerwijderkader(), cmdVerwGroep}), 1);
+    auto* kolommen = new QHBoxLayout;
+    kolommen->setSpacing(Tussenruimte);
+    kolommen->addLayout(MaakKolom({Label3, cmdAanm, cmdWijzig, cmdVerplaats, cmdKopieer}), 1);
+    kolommen->addLayout(MaakKolom({cmdVerwijder, BouwVerwijderkader(), cmdVerwGroep}), 1);
+    kolommen->addLayout(MaakKolom({BouwSorteerkader(), cmdZoekDubbeleNamen}), 1);
+    kolommen->addLayout(MaakKolom({cmdHaalNBBnamen, cmdKoppel, cmdToonGatenlijst, cmdSpToevoegen,
+                                   cmdParenOnderhoud}),
+                        1);
 
-    auto* lijsten = new QHBoxLayout;
-    lijsten->setSpacing(Tussenruimte);
-    lijsten->addLayout(MaakKolom({BouwSorteerkader(), cmdZoekDubbeleNamen}), 1);
-    lijsten->addLayout(MaakKolom({cmdHaalNBBnamen, cmdKoppel, cmdToonGatenlijst, cmdSpToevoegen,
-                                  cmdParenOnderhoud}),
-                       1);
-    lijsten->addLayout(MaakKolom({cmdToelichting, cmdMaakScripts, cmdEinde}));
     // Its caption holds the group's name, of any length, and must not widen the window.
     cmdPrint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* rechts = new QVBoxLayout;
-    rechts->setSpacing(4);
-    rechts->addLayout(lijsten, 1);
-    rechts->addWidget(cmdPrint);
-    rij->addLayout(rechts, 2);
+    auto* onder = new QHBoxLayout;
+    onder->setSpacing(Tussenruimte);
+    onder->addWidget(cmdPrint, 1);
+    for (QPushButton* knop : {cmdToelichting, cmdMaakScripts, cmdEinde})
+        onder->addWidget(knop);
+
+    auto* lagen = new QVBoxLayout(opdrachten);
+    lagen->setContentsMargins(maten_.Twips(RoosterLinks), 6, maten_.Twips(RoosterLinks), 8);
+    lagen->setSpacing(Tussenruimte);
+    lagen->addLayout(kolommen);
+    lagen->addLayout(onder);
     return opdrachten;
 }
 
@@ -254,10 +256,10 @@ void frmLedenAdmin::StelTabvolgordeIn()
                                    cmdToonGatenlijst,
                                    cmdSpToevoegen,
                                    cmdParenOnderhoud,
+                                   cmdPrint,
                                    cmdToelichting,
                                    cmdMaakScripts,
-                                   cmdEinde,
-                                   cmdPrint};
+                                   cmdEinde};
     for (qsizetype i = 1; i < volgorde.size(); ++i)
         QWidget::setTabOrder(volgorde[i - 1], volgorde[i]);
 }

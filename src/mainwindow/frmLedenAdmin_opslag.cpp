@@ -9,7 +9,7 @@ namespace plexoran {
 frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
 {
     const bool leeg = administratie_.spelers.tabel.Rijen() == 0;
-    Overschrijven overschrijven = Overschrijven::AlleenEigen;
+    auto overschrijven = Overschrijven::AlleenEigen;
     for (;;) {
         const auto uitkomst = SchrijfSpelers(administratie_.schijf, administratie_.mappen,
                                              administratie_.spelers, overschrijven);
@@ -18,27 +18,14 @@ frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
         nietOpgeslagen_ = true;
         setWindowModified(true);
         ToonGroep();
-        if (uitkomst.error().soort != Foutsoort::Gewijzigd) {
-            if (!OpnieuwProberen(uitkomst.error()))
-                return Opslag::Mislukt;
-            continue;
-        }
-        const int antwoord = Kies(
-            this, QMessageBox::Warning,
-            QStringLiteral("Het spelerbestand is door een ander programma gewijzigd nadat het hier "
-                           "is ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er komt "
-                           "eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: uw "
-                           "laatste wijziging vervalt.\n\n") +
-                Bijzonderheden(uitkomst.error()),
-            {QStringLiteral("Opslaan"), QStringLiteral("Opnieuw inlezen"),
-             QStringLiteral("Later beslissen")});
-        if (antwoord == 0) {
+        const Vervolg vervolg = VraagVervolg(uitkomst.error());
+        if (vervolg == Vervolg::Overschrijven)
             overschrijven = Overschrijven::OokGewijzigd;
-            continue;
+        else if (vervolg != Vervolg::Opnieuw) {
+            if (vervolg == Vervolg::LeesOpnieuw)
+                LeesOpnieuw();
+            return Opslag::Mislukt;
         }
-        if (antwoord == 1)
-            LeesOpnieuw();
-        return Opslag::Mislukt;
     }
     LeesOpnieuw();
     return leeg && administratie_.spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden
@@ -57,23 +44,38 @@ void frmLedenAdmin::LeesOpnieuw()
     MeldLezing(verslag);
 }
 
-bool frmLedenAdmin::OpnieuwProberen(const Fout& fout)
+frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
 {
+    if (fout.soort == Foutsoort::Gewijzigd)
+        return VraagNaWijziging(fout);
     const QString wat =
         fout.soort == Foutsoort::GeenReservekopie
             ? QStringLiteral("Er is niets opgeslagen: het spelerbestand bevat gegevens die niet "
                              "zijn ingelezen, en de kopie die daarvan eerst moet worden gemaakt "
                              "in de map Reservekopie is mislukt.")
             : QStringLiteral("De spelers konden niet worden opgeslagen.");
-    return Kies(this, QMessageBox::Critical,
-                wat +
-                    QStringLiteral(
-                        "\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging "
-                        "staat nog wel in dit programma: verhelp de oorzaak en probeer het "
-                        "opnieuw, of ga door; bij de volgende wijziging en bij het afsluiten "
-                        "wordt het weer geprobeerd.\n\n") +
-                    Bijzonderheden(fout),
-                {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")}) == 0;
+    const QString gevolg = QStringLiteral(
+        "\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging staat nog wel "
+        "in dit programma: verhelp de oorzaak en probeer het opnieuw, of ga door; bij de volgende "
+        "wijziging en bij het afsluiten wordt het weer geprobeerd.\n\n");
+    const int antwoord = Kies(this, QMessageBox::Critical, wat + gevolg + Bijzonderheden(fout),
+                              {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")});
+    return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
+}
+
+frmLedenAdmin::Vervolg frmLedenAdmin::VraagNaWijziging(const Fout& fout)
+{
+    const int antwoord =
+        Kies(this, QMessageBox::Warning,
+             QStringLiteral("Het spelerbestand is door een ander programma gewijzigd nadat het "
+                            "hier is ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er "
+                            "komt eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: "
+                            "uw laatste wijziging vervalt.\n\n") +
+                 Bijzonderheden(fout),
+             {QStringLiteral("Opslaan"), QStringLiteral("Opnieuw inlezen"),
+              QStringLiteral("Later beslissen")});
+    constexpr std::array vervolgen{Vervolg::Overschrijven, Vervolg::LeesOpnieuw, Vervolg::Later};
+    return vervolgen.at(static_cast<std::size_t>(antwoord));
 }
 
 void frmLedenAdmin::MeldRegisterBehouden(Opslag opslag)

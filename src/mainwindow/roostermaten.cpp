@@ -35,11 +35,16 @@ double Vlakhoogte(int regels)
 Kolommaten MeetCellen(const Spelertabel& tabel, const std::vector<int>& rijen,
                       const Tekstmeter& meter)
 {
+    // A text that could not be wider than the widest so far, even of the widest characters, need
+    // not be looked at: in a large group that is nearly all of them.
+    const std::int64_t breedste =
+        *std::max_element(meter.opschuiving.begin(), meter.opschuiving.end());
     Kolommaten maten{};
     for (const int rij : rijen) {
         for (std::size_t i = 0; i < maten.size(); ++i) {
-            const auto kolom = static_cast<Kolom>(i + 1);
-            maten[i] = std::max(maten[i], meter.Breedte(tabel.Cel(rij, kolom)));
+            const Tekstblik cel = tabel.Cel(rij, static_cast<Kolom>(i + 1));
+            if (static_cast<std::int64_t>(cel.size()) * breedste > maten[i])
+                maten[i] = std::max(maten[i], meter.Breedte(cel));
         }
     }
     return maten;

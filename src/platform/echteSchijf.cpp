@@ -111,7 +111,9 @@ Uitkomst<void> EchteSchijf::MaakMap(const Pad& map)
 {
     const fs::path waar = Systeempad(map);
     std::error_code fout;
-    fs::create_directories(waar, fout);
+    const bool gemaakt = fs::create_directory(waar, fout);
+    if (!gemaakt && !fout && !fs::is_directory(waar, fout))
+        fout = std::make_error_code(std::errc::file_exists);
     if (fout == std::errc::not_a_directory) // nothing is missing: a file stands in the way
         fout = std::make_error_code(std::errc::file_exists);
     return Uitslag(waar, fout);

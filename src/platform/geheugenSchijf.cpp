@@ -88,7 +88,8 @@ std::shared_ptr<GeheugenSchijf::Knoop> GeheugenSchijf::NieuweKnoop()
 
 bool GeheugenSchijf::IsMap(const Tekst& sleutel) const
 {
-    return sleutel.empty() || mappen_.contains(sleutel);
+    const bool station = sleutel.empty() || sleutel.ends_with(':');
+    return station || mappen_.contains(sleutel);
 }
 
 Uitkomst<void> GeheugenSchijf::MagInMapVan(const Tekst& sleutel, const Pad& pad) const
@@ -201,13 +202,16 @@ Uitkomst<std::vector<Tekst>> GeheugenSchijf::Bestanden(const Pad& map)
 
 Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)
 {
-    for (Tekst sleutel = Sleutel(map); !IsMap(sleutel); sleutel = MapVan(sleutel)) {
-        if (namen_.contains(sleutel))
-            return Mislukt(map, std::errc::file_exists);
-        const bool hoogste = IsMap(MapVan(sleutel));
-        if (const auto mag = MagInMapVan(sleutel, map); hoogste && !mag)
-            return mag;
-    }
+    const Tekst sleutel = Sleutel(map);
+    if (IsMap(sleutel))
+        return {};
+    const Tekst boven = MapVan(sleutel);
+    if (namen_.contains(sleutel) || namen_.contains(boven))
+        return Mislukt(map, std::errc::file_exists);
+    if (!IsMap(boven))
+        return Mislukt(map, std::errc::no_such_file_or_directory);
+    if (const auto mag = MagInMapVan(sleutel, map); !mag)
+        return mag;
     ZetMap(map);
     return {};
 }

@@ -41,9 +41,9 @@ Uitkomst<Tijdelijk> MaakTijdelijk(Schijf& schijf, const Pad& doel)
 }
 
 /// Ends with the writer closed, also on a failure: an open file cannot be removed everywhere.
-Uitkomst<void> VulEnSluit(std::unique_ptr<Schrijver> schrijver, Tekstblik inhoud)
+Uitkomst<void> VulEnSluit(std::unique_ptr<Schrijver> schrijver, const Vuller& vul)
 {
-    return schrijver->Schrijf(inhoud).and_then([&] { return schrijver->Sync(); }).and_then([&] {
+    return vul(*schrijver).and_then([&] { return schrijver->Sync(); }).and_then([&] {
         return schrijver->Sluit();
     });
 }
@@ -51,13 +51,13 @@ Uitkomst<void> VulEnSluit(std::unique_ptr<Schrijver> schrijver, Tekstblik inhoud
 /// The old file's rights come before the contents, so that what few may read is never readable to
 /// many, and so that they are synced along.
 Uitkomst<void> VulEnRuil(Schijf& schijf, Tijdelijk& tijdelijk, const Pad& doel, bool vervangt,
-                         Tekstblik inhoud)
+                         const Vuller& vul)
 {
     std::unique_ptr<Schrijver> schrijver = std::move(tijdelijk.schrijver);
     Uitkomst<void> rechten;
     if (vervangt)
         rechten = schijf.NeemRechtenOver(doel, tijdelijk.pad);
-    return rechten.and_then([&] { return VulEnSluit(std::move(schrijver), inhoud); }).and_then([&] {
+    return rechten.and_then([&] { return VulEnSluit(std::move(schrijver), vul); }).and_then([&] {
         return schijf.Hernoem(tijdelijk.pad, doel);
     });
 }
@@ -65,6 +65,12 @@ Uitkomst<void> VulEnRuil(Schijf& schijf, Tijdelijk& tijdelijk, const Pad& doel, 
 } // namespace
 
 Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
+{
+    return SchrijfHeel(schijf, pad,
+                       [inhoud](Schrijver& schrijver) { return schrijver.Schrijf(inhoud); });
+}
+
+Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul)
 {
     const auto doel = schijf.Doel(pad);
     if (!doel)
@@ -77,7 +83,7 @@ Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
         return tl::unexpected(tijdelijk.error());
 
     const bool vervangt = *soort != Padsoort::Niets;
-    auto geruild = VulEnRuil(schijf, *tijdelijk, *doel, vervangt, inhoud);
+    auto geruild = VulEnRuil(schijf, *tijdelijk, *doel, vervangt, vul);
     if (!geruild) {
         // When this fails too, RuimTijdelijkeOp comes later; the first failure is the one to tell.
         static_cast<void>(schijf.Verwijder(tijdelijk->pad));

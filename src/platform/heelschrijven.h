@@ -1,6 +1,8 @@
 // Writing a file whole, so that at every moment the disk holds either the old file or the new one.
 #pragma once
 
+#include <functional>
+
 #include "platform/schijf.h"
 
 namespace plexoran {
@@ -11,6 +13,12 @@ namespace plexoran {
 /// the old file untouched. A failing folder sync is reported too: the new file is in place then,
 /// but may not survive a loss of power.
 [[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud);
+
+/// Writes the contents piece by piece; its errors are handed on.
+using Vuller = std::function<Uitkomst<void>(Schrijver&)>;
+
+/// The same for contents that need not stand in memory as a whole.
+[[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul);
 
 /// Removes temporary files that a killed save of `naam` left in `map` more than an hour ago.
 /// `nu` is nanoseconds since 1970. Failures do no harm and are passed over.

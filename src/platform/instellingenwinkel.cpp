@@ -57,7 +57,9 @@ class Bestandswinkel : public Instellingenwinkel {
 std::optional<Tekst> WaardeUit(Tekstblik inhoud, Tekstblik toepassing, Tekstblik sectie,
                                Tekstblik sleutel)
 {
-    const Tekst kop = Hoofdletters("[" + Samen(toepassing, sectie) + "]");
+    Tekst kop(1, '[');
+    kop += Hoofdletters(Samen(toepassing, sectie));
+    kop += ']';
     const Tekst gezocht = Hoofdletters(sleutel);
     std::optional<Tekst> waarde;
     bool inSectie = false;

@@ -20,11 +20,6 @@ bool NietsBegrepen(Tekstblik)
 
 } // namespace
 
-Tekst Groepscode(int nummer)
-{
-    return "Gr" + MetNullen(nummer, 2) + "-";
-}
-
 void Groepen::ZetNaam(int nummer, Tekstblik naam)
 {
     Tekst schoon = Vervang(naam, ',', '_');

@@ -10,21 +10,10 @@
 
 #include <array>
 
+#include "register/groepscode.h"
 #include "register/mappen.h"
 
 namespace plexoran {
-
-inline constexpr int AantalGroepen = 50;
-inline constexpr std::size_t LengteGroepscode = 5;
-
-/// "Gr01-" to "Gr50-"; `nummer` counts from 1.
-[[nodiscard]] Tekst Groepscode(int nummer);
-
-/// The group code of a text that begins with one, such as a drop-down's: its first five characters.
-[[nodiscard]] inline Tekstblik CodeUit(Tekstblik tekst)
-{
-    return tekst.substr(0, LengteGroepscode);
-}
 
 class Groepen {
   public:

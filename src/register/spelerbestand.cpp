@@ -23,12 +23,41 @@ Uitkomst<std::optional<Stempel>> StempelVan(Schijf& schijf, const Pad& pad)
     return tl::unexpected(stempel.error());
 }
 
+void VoegRijToe(Tekst& tekst, const Spelertabel& tabel, int rij)
+{
+    if (tabel.Cel(rij, Kolom::Key).empty())
+        return;
+    tekst += std::to_string(rij);
+    tekst += ',';
+    tabel.VoegCellenAan(tekst, rij);
+    tekst += "\r\n";
+}
+
+/// Hands out the text of the file in pieces, the first of which begins with the key line.
+template <class Neem> Uitkomst<void> InStukken(const Register& spelers, Neem neem)
+{
+    constexpr std::size_t stukgrootte = 262144;
+    Tekst stuk;
+    stuk.reserve(stukgrootte + stukgrootte / 8);
+    stuk += "HKEY=" + std::to_string(spelers.HKEY) + "\r\n";
+    for (int rij = 1; rij <= spelers.tabel.Rijen(); ++rij) {
+        VoegRijToe(stuk, spelers.tabel, rij);
+        if (stuk.size() < stukgrootte)
+            continue;
+        if (auto genomen = neem(stuk); !genomen)
+            return genomen;
+        stuk.clear();
+    }
+    return neem(stuk);
+}
+
 Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers)
 {
-    const Tekst tekst = SpelersTekst(spelers);
-    const auto uitkomst = SchrijfHeel(schijf, pad, tekst);
+    const auto uitkomst = SchrijfHeel(schijf, pad, [&](Schrijver& schrijver) {
+        return InStukken(spelers, [&](Tekstblik stuk) { return schrijver.Schrijf(stuk); });
+    });
     // The last step can fail when the new file is already in place; it is not someone else's then.
-    if (!uitkomst && schijf.LeesBestand(pad) != tekst)
+    if (!uitkomst && schijf.LeesBestand(pad) != SpelersTekst(spelers))
         return uitkomst;
     spelers.kopieNodig = false;
     const auto stempel = schijf.NeemStempel(pad);
@@ -91,18 +120,11 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 
 Tekst SpelersTekst(const Register& spelers)
 {
-    const Spelertabel& tabel = spelers.tabel;
     Tekst tekst;
-    tekst.reserve(tabel.Geheugen());
-    tekst += "HKEY=" + std::to_string(spelers.HKEY) + "\r\n";
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Key).empty())
-            continue;
-        tekst += std::to_string(rij);
-        tekst += ',';
-        tabel.VoegCellenAan(tekst, rij);
-        tekst += "\r\n";
-    }
+    (void)InStukken(spelers, [&](Tekstblik stuk) -> Uitkomst<void> {
+        tekst += stuk;
+        return {};
+    });
     return tekst;
 }
 

@@ -69,7 +69,7 @@ class Lezer {
 
     Spelerlezing Lees()
     {
-        rijen_.reserve(static_cast<std::size_t>(std::count(inhoud_.begin(), inhoud_.end(), '\n')));
+        rijen_.reserve(GeschatAantalRegels());
         while (begin_ < inhoud_.size() && geteld_)
             LeesRegel();
         if (uit_.fout)
@@ -80,6 +80,17 @@ class Lezer {
     }
 
   private:
+    /// From the first part of the text, and never more than lines of 18 fields can fit in it. A
+    /// wrong guess costs a little time or memory only.
+    [[nodiscard]] std::size_t GeschatAantalRegels() const
+    {
+        constexpr std::size_t proef = 65536;
+        const Tekstblik begin = Tekstblik(inhoud_).substr(0, proef);
+        const auto regels =
+            static_cast<std::size_t>(std::count(begin.begin(), begin.end(), '\n')) + 1;
+        return std::min(regels * (inhoud_.size() / proef + 1), inhoud_.size() / AantalKolommen);
+    }
+
     void LeesRegel()
     {
         ++regel_;

@@ -1,9 +1,6 @@
 #include "register/spelertabel.h"
 
 #include <algorithm>
-#include <cassert>
-
-#include "register/groepen.h"
 
 namespace plexoran {
 namespace {
@@ -21,21 +18,6 @@ Spelertabel::Spelertabel(Tekst tekst, std::vector<Celgrenzen> rijen)
     : tekst_(std::move(tekst)), rijen_(std::move(rijen))
 {
     assert(tekst_.size() <= GrootsteTekst);
-}
-
-const Spelertabel::Celgrenzen& Spelertabel::Grenzen(int rij) const
-{
-    assert(rij >= 1 && rij <= Rijen());
-    return rijen_[static_cast<std::size_t>(rij - 1)];
-}
-
-Tekstblik Spelertabel::Cel(int rij, Kolom kolom) const
-{
-    const Celgrenzen& grenzen = Grenzen(rij);
-    const auto plaats = Plaats(kolom);
-    const Tekstblik cel(tekst_.data() + grenzen[plaats], grenzen[plaats + 1] - grenzen[plaats] - 1);
-    // The file may carry the group's name behind its code; only the code is the cell.
-    return kolom == Kolom::Groep ? CodeUit(cel) : cel;
 }
 
 void Spelertabel::VoegCellenAan(Tekst& uit, int rij) const

@@ -6,11 +6,12 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 #include <span>
 #include <vector>
 
-#include "platform/tekst.h"
+#include "register/groepscode.h"
 
 namespace plexoran {
 
@@ -66,7 +67,15 @@ class Spelertabel {
     [[nodiscard]] int Rijen() const { return static_cast<int>(rijen_.size()); }
 
     /// The view holds until the table is changed.
-    [[nodiscard]] Tekstblik Cel(int rij, Kolom kolom) const;
+    [[nodiscard]] Tekstblik Cel(int rij, Kolom kolom) const
+    {
+        const Celgrenzen& grenzen = Grenzen(rij);
+        const auto plaats = Plaats(kolom);
+        const Tekstblik cel(tekst_.data() + grenzen[plaats],
+                            grenzen[plaats + 1] - grenzen[plaats] - 1);
+        // The file may carry the group's name behind its code; only the code is the cell.
+        return kolom == Kolom::Groep ? CodeUit(cel) : cel;
+    }
     /// The cells 2 to 18 as they stand in a file, joined by commas.
     void VoegCellenAan(Tekst& uit, int rij) const;
 
@@ -86,7 +95,11 @@ class Spelertabel {
     [[nodiscard]] std::size_t Geheugen() const;
 
   private:
-    [[nodiscard]] const Celgrenzen& Grenzen(int rij) const;
+    [[nodiscard]] const Celgrenzen& Grenzen(int rij) const
+    {
+        assert(rij >= 1 && rij <= Rijen());
+        return rijen_[static_cast<std::size_t>(rij - 1)];
+    }
     Celgrenzen SchrijfVelden(const Rijvelden& velden);
     void MaakRuimte(std::size_t bytes);
 

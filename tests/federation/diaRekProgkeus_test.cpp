@@ -27,8 +27,8 @@ TEST(DiaRekProgkeus, ToontZijnTekstenZonderKeus)
 
 TEST(DiaRekProgkeus, ElkeKeusMaaktOkBruikbaar)
 {
-    for (const auto& [optie, programma] : {std::pair{"Option1", Programma::NBBR},
-                                           std::pair{"Option2", Programma::BridgeIt}}) {
+    for (const auto& [optie, programma] :
+         {std::pair{"Option1", Programma::NBBR}, std::pair{"Option2", Programma::BridgeIt}}) {
         diaRekProgkeus venster(nullptr);
         venster.show();
         Vind<QRadioButton>(venster, optie)->click();

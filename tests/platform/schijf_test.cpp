@@ -172,6 +172,7 @@ TYPED_TEST(SchijfTest, NamenUitEenMap)
 {
     this->Schrijf(this->In("b.txt"), "");
     this->Schrijf(this->In("Ren\xE9 \x80.txt"), "x");
+    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map")));
     ASSERT_TRUE(this->schijf_.MaakMap(this->In("map\\dieper")));
     this->Schrijf(this->In("map\\c.txt"), "");
     EXPECT_EQ(Gesorteerd(this->schijf_.Bestanden(this->opstelling_.map)),
@@ -183,13 +184,20 @@ TYPED_TEST(SchijfTest, NamenUitEenMap)
 
 TYPED_TEST(SchijfTest, MaakMap)
 {
-    EXPECT_TRUE(this->schijf_.MaakMap(this->In("een\\twee\\drie")));
-    EXPECT_EQ(this->schijf_.Soort(this->In("een\\twee\\drie")), Padsoort::Map);
+    EXPECT_TRUE(this->schijf_.MaakMap(this->In("een")));
+    EXPECT_TRUE(this->schijf_.MaakMap(this->In("een\\twee")));
+    EXPECT_EQ(this->schijf_.Soort(this->In("een\\twee")), Padsoort::Map);
     EXPECT_TRUE(this->schijf_.MaakMap(this->In("EEN\\twee"))); // is there already
-    EXPECT_EQ(this->schijf_.Soort(this->In("een\\twee\\drie")), Padsoort::Map);
+    EXPECT_EQ(this->schijf_.Soort(this->In("een\\twee")), Padsoort::Map);
     this->Schrijf(this->In("a.txt"), "x");
     EXPECT_EQ(SoortVan(this->schijf_.MaakMap(this->In("a.txt"))), Foutsoort::Geweigerd);
     EXPECT_EQ(SoortVan(this->schijf_.MaakMap(this->In("a.txt\\b"))), Foutsoort::Geweigerd);
+}
+
+TYPED_TEST(SchijfTest, MaakMapMaaktDeMappenErbovenNiet)
+{
+    EXPECT_EQ(SoortVan(this->schijf_.MaakMap(this->In("weg\\twee"))), Foutsoort::Ontbreekt);
+    EXPECT_EQ(this->schijf_.Soort(this->In("weg")), Padsoort::Niets);
 }
 
 TYPED_TEST(SchijfTest, StempelVerandertMetHetBestand)
@@ -487,7 +495,7 @@ TEST(GeheugenSchijfTest, AlleenLezen)
     schijf.ZetAlleenLezen("C:\\b\\y.txt");
     EXPECT_EQ(SoortVan(schijf.MaakNieuw("C:\\a\\z.txt")), Foutsoort::Geweigerd);
     EXPECT_EQ(SoortVan(schijf.Verwijder("C:\\a\\x.txt")), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(schijf.MaakMap("C:\\a\\m\\n")), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf.MaakMap("C:\\a\\m")), Foutsoort::Geweigerd);
     EXPECT_EQ(SoortVan(schijf.Hernoem("C:\\a\\x.txt", "C:\\b\\x.txt")), Foutsoort::Geweigerd);
     EXPECT_EQ(SoortVan(schijf.Hernoem("C:\\b\\y.txt", "C:\\a\\y.txt")), Foutsoort::Geweigerd);
     EXPECT_EQ(SoortVan(SchrijfHeel(schijf, "C:\\b\\y.txt", "nieuw")), Foutsoort::Geweigerd);

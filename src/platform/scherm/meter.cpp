@@ -23,7 +23,8 @@ Tekstmeter MaakMeter(const QFont& letter, double pixelsPerMm)
     const QFontMetricsF maten(letter);
     Tekstmeter meter;
     for (std::size_t i = 0; i < meter.opschuiving.size(); ++i) {
-        const QString teken = NaarQString(Tekst(1, static_cast<char>(i)));
+        // One character at a time: shaping a text would cost a good part of the start.
+        const QChar teken = NaarUtf16(Tekst(1, static_cast<char>(i))).front();
         meter.opschuiving[i] =
             qRound(maten.horizontalAdvance(teken) / pixelsPerMm * MicrometerPerMm);
     }

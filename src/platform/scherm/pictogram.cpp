@@ -40,7 +40,7 @@ QPixmap Teken(int maat)
 QIcon Pictogram()
 {
     QIcon pictogram;
-    for (const int maat : {16, 24, 32, 48, 64, 128, 256})
+    for (const int maat : {16, 32, 64, 128})
         pictogram.addPixmap(Teken(maat));
     return pictogram;
 }

@@ -141,7 +141,9 @@ void Tekstvak::keyPressEvent(QKeyEvent* gebeurtenis)
     const QString getypt = gebeurtenis->text();
     const bool teken = getypt.size() == 1 && getypt.front().isPrint() &&
                        !(gebeurtenis->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (!toetsregel_ || !teken) {
+    // What the code page lacks is dealt with when it stands in the box, with its message.
+    const bool past = ExactNaarCodepagina(getypt.toStdU16String()).has_value();
+    if (!toetsregel_ || !teken || !past) {
         QLineEdit::keyPressEvent(gebeurtenis);
         return;
     }

@@ -1,0 +1,106 @@
+// What the benchmarks share: sizes, the clock around one piece of work, and the lower limits.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <memory>
+#include <vector>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+#include "hulp/proefsuite.h"
+
+namespace plexoran {
+
+/// The fastest repetition tells what the work costs when nothing else uses the machine.
+inline double Laagste(const std::vector<double>& waarden)
+{
+    return *std::min_element(waarden.begin(), waarden.end());
+}
+
+/// The sizes at which every operation over the whole register is measured.
+inline void Groottes(benchmark::internal::Benchmark* meting)
+{
+    meting->Arg(1'000)->Arg(10'000)->Arg(100'000);
+    meting->UseManualTime()->Unit(benchmark::kMillisecond)->ComputeStatistics("min", Laagste);
+}
+
+/// The allocator gets more generous with what it keeps as a program goes on. Fixed, so that every
+/// measurement pays for fresh memory as a program that just started does, whatever ran before it.
+inline void ZetGeheugenVast()
+{
+#ifdef __GLIBC__
+    constexpr int grens = 128 * 1024;
+    mallopt(M_MMAP_THRESHOLD, grens);
+    mallopt(M_TRIM_THRESHOLD, grens);
+#endif
+}
+
+/// Times `werk(toestand)` alone, on a `toestand` that `vooraf()` makes anew every time; making it
+/// and clearing it away do not count.
+template <class Vooraf, class Werk>
+void Meet(benchmark::State& meting, const Vooraf& vooraf, const Werk& werk)
+{
+    using Klok = std::chrono::steady_clock;
+    for (auto _ : meting) {
+        auto toestand = vooraf();
+        const auto begin = Klok::now();
+        werk(toestand);
+        const auto eind = Klok::now();
+        benchmark::DoNotOptimize(toestand);
+        meting.SetIterationTime(std::chrono::duration<double>(eind - begin).count());
+    }
+}
+
+/// Times `werk()`, which needs nothing made ready.
+template <class Werk> void Meet(benchmark::State& meting, const Werk& werk)
+{
+    Meet(
+        meting, [] { return 0; }, [&](int) { werk(); });
+}
+
+inline bool IsScheiding(char teken)
+{
+    return teken == ',' || teken == '\r' || teken == '\n';
+}
+
+/// The least that anything can do that finds the cells of a text. Summed in bytes over blocks of
+/// one length: of that compilers make vector code, twenty times as fast as one long sum.
+inline std::int64_t TelScheidingen(Tekstblik tekst)
+{
+    constexpr std::size_t blok = 240; // so that its sum fits a byte
+    std::int64_t aantal = 0;
+    for (; tekst.size() >= blok; tekst.remove_prefix(blok)) {
+        std::uint8_t som = 0;
+        for (std::size_t i = 0; i < blok; ++i) {
+            const char teken = tekst[i];
+            som =
+                static_cast<std::uint8_t>(som + (teken == ',') + (teken == '\r') + (teken == '\n'));
+        }
+        aantal += som;
+    }
+    return aantal + std::count_if(tekst.begin(), tekst.end(), IsScheiding);
+}
+
+/// The lower limit of loading: the file once into one buffer that nobody cleared before, and its
+/// separators counted.
+inline std::int64_t LeesEnTel(const std::filesystem::path& pad, std::unique_ptr<char[]>& buffer)
+{
+    const std::size_t lengte = std::filesystem::file_size(pad);
+    buffer = std::make_unique_for_overwrite<char[]>(lengte);
+    std::filebuf bestand;
+    // Without a buffer of its own the stream reads straight into ours.
+    bestand.pubsetbuf(nullptr, 0);
+    if (bestand.open(pad, std::ios::in | std::ios::binary) == nullptr ||
+        bestand.sgetn(buffer.get(), static_cast<std::streamsize>(lengte)) !=
+            static_cast<std::streamsize>(lengte))
+        return 0;
+    return TelScheidingen({buffer.get(), lengte});
+}
+
+} // namespace plexoran

@@ -1,0 +1,154 @@
+// Showing a group that is the whole register, and painting a screenful of it, in the real main
+// window.
+#include <QApplication>
+#include <QImage>
+#include <QScrollBar>
+
+#include <map>
+#include <memory>
+
+#include "hulp/meten.h"
+#include "hulp/register.h"
+#include "mainwindow/frmLedenAdmin.h"
+#include "platform/echteSchijf.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int Basis = 100; ///< players of the register with which painting is compared
+
+/// The machine's own settings stay out of the measurement.
+class LegeWinkel : public Instellingenwinkel {
+  public:
+    std::optional<Tekst> Waarde(Tekstblik, Tekstblik, Tekstblik) override { return std::nullopt; }
+};
+
+/// The main window on a register of one size, everybody in the shown group.
+struct Proef {
+    explicit Proef(int spelers)
+        : suite(MaakRegister(spelers, Verdeling::EenGroep)), administratie{.schijf = schijf,
+                                                                           .winkel = winkel},
+          venster(administratie)
+    {
+        const auto status =
+            venster.Laad({.mappenIni = suite.MappenIni(), .eersteExemplaar = [] { return true; }});
+        goed = !status && administratie.spelers.tabel.Rijen() == spelers;
+        venster.show();
+        QApplication::processEvents();
+    }
+
+    QWidget& P1() const { return *venster.findChild<QWidget*>(QStringLiteral("P1")); }
+    QScrollBar& VScroll1() const
+    {
+        return *venster.findChild<QScrollBar*>(QStringLiteral("VScroll1"));
+    }
+
+    EchteSchijf schijf;
+    LegeWinkel winkel;
+    Proefsuite suite;
+    Administratie administratie;
+    frmLedenAdmin venster;
+    bool goed = false;
+};
+
+std::map<int, std::unique_ptr<Proef>>& Proeven()
+{
+    static std::map<int, std::unique_ptr<Proef>> proeven;
+    return proeven;
+}
+
+Proef& ProefVan(benchmark::State& meting)
+{
+    const int spelers = static_cast<int>(meting.range(0));
+    auto& proef = Proeven()[spelers];
+    if (!proef)
+        proef = std::make_unique<Proef>(spelers);
+    if (!proef->goed)
+        meting.SkipWithError("het register werd niet gelezen");
+    return *proef;
+}
+
+// ---------------------------------------------------------------- showing
+
+/// Loading in this program, so that showing is compared within one run.
+void Laden(benchmark::State& meting)
+{
+    Proef& proef = ProefVan(meting);
+    Meet(
+        meting, [] { return Register(); },
+        [&](Register& spelers) { LeesSpelers(proef.schijf, proef.suite.Instellingen(), spelers); });
+}
+BENCHMARK(Laden)->Apply(Groottes);
+
+void Tonen(benchmark::State& meting)
+{
+    Proef& proef = ProefVan(meting);
+    Meet(
+        meting,
+        [] {
+            QApplication::processEvents();
+            return 0;
+        },
+        [&](int) { proef.venster.ToonGroep(); });
+}
+BENCHMARK(Tonen)->Apply(Groottes);
+
+/// Until the user sees it: the layout and the paint that follow are part of it.
+void TonenTotBeeld(benchmark::State& meting)
+{
+    Proef& proef = ProefVan(meting);
+    Meet(meting, [&] {
+        proef.venster.ToonGroep();
+        QApplication::processEvents();
+    });
+}
+BENCHMARK(TonenTotBeeld)->Apply(Groottes);
+
+/// The lower limit: every byte of the shown rows looked at once, in memory.
+void TonenGrens(benchmark::State& meting)
+{
+    const Tekst tekst = MaakRegister(static_cast<int>(meting.range(0)), Verdeling::EenGroep);
+    Meet(meting, [&] { benchmark::DoNotOptimize(TelScheidingen(tekst)); });
+}
+BENCHMARK(TonenGrens)->Apply(Groottes);
+
+// ---------------------------------------------------------------- painting
+
+void MeetTekenen(benchmark::State& meting)
+{
+    QWidget& vlak = ProefVan(meting).P1();
+    QImage beeld(vlak.size(), QImage::Format_ARGB32_Premultiplied);
+    Meet(meting, [&] { vlak.render(&beeld); });
+}
+
+/// The first rows are the same players whatever the size.
+void Tekenen(benchmark::State& meting)
+{
+    ProefVan(meting).VScroll1().setValue(0);
+    MeetTekenen(meting);
+}
+BENCHMARK(Tekenen)->Arg(Basis)->Apply(Groottes);
+
+/// Scrolled to the last rows.
+void TekenenOnderaan(benchmark::State& meting)
+{
+    QScrollBar& balk = ProefVan(meting).VScroll1();
+    balk.setValue(balk.maximum());
+    MeetTekenen(meting);
+}
+BENCHMARK(TekenenOnderaan)->Arg(Basis)->Apply(Groottes);
+
+} // namespace
+} // namespace plexoran
+
+int main(int argc, char** argv)
+{
+    plexoran::ZetGeheugenVast();
+    const QApplication programma(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    plexoran::Proeven().clear();
+    return 0;
+}

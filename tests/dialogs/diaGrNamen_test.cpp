@@ -1,0 +1,240 @@
+#include "dialogs/diaGrNamen.h"
+
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/venstergrepen.h"
+
+using namespace plexoran;
+
+namespace {
+
+const QString kommas = QStringLiteral("Komma's worden veranderd in Underscores. (_)");
+
+class diaGrNamenTest : public testing::Test {
+  protected:
+    diaGrNamenTest()
+    {
+        groepen.ZetNaam(1, "Clubleden");
+        groepen.ZetNaam(8, "Introduc\xE9s");
+        groepen.ZetNaam(50, " laatste ");
+        hoofd.show();
+    }
+    ~diaGrNamenTest() override { wachter.Klaar(); }
+
+    void Open()
+    {
+        venster.reset();
+        venster = std::make_unique<diaGrNamen>(groepen, &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
+
+    template <class T> [[nodiscard]] T* Deel(const std::string& naam) const
+    {
+        return Vind<T>(*venster, naam.c_str());
+    }
+    [[nodiscard]] Tekstvak* Vak(int nummer) const
+    {
+        return Deel<Tekstvak>("txt1_" + std::to_string(nummer));
+    }
+    [[nodiscard]] QScrollBar* Balk() const { return Deel<QScrollBar>("VScroll1"); }
+    void TypIn(int nummer, const QString& tekst) const
+    {
+        Schrijf(*venster, ("txt1_" + std::to_string(nummer)).c_str(), tekst);
+    }
+    void KlikOK() const { Klik(Deel<QPushButton>("cmdOK")); }
+    [[nodiscard]] bool InBeeld(const QWidget* vak) const
+    {
+        const auto* P0 = Deel<QWidget>("P0");
+        return P0->rect().contains({vak->mapTo(P0, QPoint()), vak->size()});
+    }
+
+    Groepen groepen;
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<diaGrNamen> venster;
+};
+
+} // namespace
+
+TEST_F(diaGrNamenTest, DeTeksten)
+{
+    EXPECT_EQ("Groepsnamen ingeven/wijzigen", venster->windowTitle().toStdString());
+    const auto* Frame2 = Deel<QWidget>("Frame2");
+    for (const auto& [naam, tekst] :
+         {std::pair("Label2", "Geef eventueel een herkenbare tekst aan de groep."),
+          std::pair("Label1", "U bent vrij in de toe te voegen tekst."),
+          std::pair("Label3", "'Gr01-' enz, blijft een vast voorvoegsel")}) {
+        const auto* label = Deel<QLabel>(naam);
+        EXPECT_EQ(tekst, label->text().toStdString());
+        EXPECT_EQ(Frame2, label->parentWidget());
+        EXPECT_LE(label->sizeHint().width(), label->width()) << naam;
+        EXPECT_LE(label->sizeHint().height(), label->height()) << naam;
+    }
+    EXPECT_EQ("OK", Deel<QPushButton>("cmdOK")->text().remove(u'&').toStdString());
+    EXPECT_EQ("Annuleren", Deel<QPushButton>("cmdAnnuleren")->text().remove(u'&').toStdString());
+}
+
+TEST_F(diaGrNamenTest, VijftigRijenMetHunOpschriftEnNaam)
+{
+    const auto* P1 = Deel<QWidget>("P1");
+    for (int nummer = 1; nummer <= 50; ++nummer) {
+        const std::string cijfers = (nummer < 10 ? "0" : "") + std::to_string(nummer);
+        const auto* label = Deel<QLabel>("lbl1_" + std::to_string(nummer));
+        EXPECT_EQ("Groep " + cijfers + ": ", label->text().toStdString());
+        EXPECT_LE(label->sizeHint().width(), label->width());
+        EXPECT_EQ(P1, Vak(nummer)->parentWidget());
+        EXPECT_TRUE(P1->rect().contains(Vak(nummer)->geometry())) << nummer;
+        EXPECT_EQ(groepen.Naam(nummer), Vak(nummer)->GeefTekst());
+    }
+    EXPECT_EQ("Introducés", Vak(8)->text().toStdString());
+    EXPECT_EQ(nullptr, venster->findChild<QWidget*>(QStringLiteral("txt1_51")));
+}
+
+TEST_F(diaGrNamenTest, DeRijenSchuivenInHunVenster)
+{
+    const auto* P0 = Deel<QWidget>("P0");
+    const auto* P1 = Deel<QWidget>("P1");
+    EXPECT_EQ(QPoint(qRound(100 / 15.0), qRound(700 / 15.0)), P0->pos());
+    EXPECT_EQ(0, Balk()->minimum());
+    EXPECT_EQ(0, Balk()->value());
+    EXPECT_EQ(P1->height() - P0->height(), Balk()->maximum());
+    EXPECT_TRUE(Balk()->isEnabled());
+    Balk()->setValue(123);
+    EXPECT_EQ(QPoint(0, -123), P1->pos());
+    Balk()->setValue(Balk()->maximum());
+    EXPECT_TRUE(InBeeld(Vak(50)));
+}
+
+TEST_F(diaGrNamenTest, InEenHoogVensterIsDeBalkUit)
+{
+    venster->resize(venster->width(), 5000);
+    QApplication::processEvents();
+    EXPECT_EQ(0, Balk()->maximum());
+    EXPECT_FALSE(Balk()->isEnabled());
+}
+
+TEST_F(diaGrNamenTest, MetTabKomtElkVakInBeeld)
+{
+    Vak(1)->setFocus();
+    for (int nummer = 2; nummer <= 50; ++nummer) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(Vak(nummer)->hasFocus()) << nummer;
+        ASSERT_TRUE(InBeeld(Vak(nummer))) << nummer;
+    }
+    for (int nummer = 49; nummer >= 1; --nummer) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        ASSERT_TRUE(Vak(nummer)->hasFocus()) << nummer;
+        ASSERT_TRUE(InBeeld(Vak(nummer))) << nummer;
+    }
+}
+
+TEST_F(diaGrNamenTest, HetWielSchuiftEnDoetAanHetEindNiets)
+{
+    const auto wiel = [this](QWidget* doel, int hoek) {
+        QWheelEvent gebeurtenis({20, 20}, doel->mapToGlobal(QPointF(20, 20)), {}, {0, hoek},
+                                Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&gebeurtenis);
+        qApp->notify(doel, &gebeurtenis);
+    };
+    wiel(Deel<QWidget>("P1"), -120);
+    EXPECT_GT(Balk()->value(), 0);
+    for (int i = 0; i < 100; ++i)
+        wiel(Deel<QWidget>("P1"), -120);
+    EXPECT_EQ(Balk()->maximum(), Balk()->value());
+    wiel(Balk(), -120);
+    EXPECT_EQ(Balk()->maximum(), Balk()->value());
+}
+
+TEST_F(diaGrNamenTest, OKBewaartDeTekstenZonderSpatiesEromheen)
+{
+    TypIn(2, QStringLiteral("  Avond & café "));
+    TypIn(3, QStringLiteral("     "));
+    KlikOK();
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_FALSE(venster->Geannuleerd());
+    EXPECT_EQ("Clubleden", groepen.Naam(1));
+    EXPECT_EQ("Avond & caf\xE9", groepen.Naam(2));
+    EXPECT_EQ("", groepen.Naam(3));
+    EXPECT_EQ("Introduc\xE9s", groepen.Naam(8));
+    EXPECT_EQ("laatste", groepen.Naam(50));
+}
+
+TEST_F(diaGrNamenTest, EnterIsOK)
+{
+    TypIn(2, QStringLiteral("Avond"));
+    QTest::keyClick(Vak(2), Qt::Key_Return);
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ("Avond", groepen.Naam(2));
+}
+
+TEST_F(diaGrNamenTest, AnnulerenEscapeEnHetSluitvakLatenDeNamenStaan)
+{
+    for (int weg = 0; weg < 3; ++weg) {
+        Open();
+        TypIn(1, QStringLiteral("Anders"));
+        if (weg == 0)
+            Klik(Deel<QPushButton>("cmdAnnuleren"));
+        else if (weg == 1)
+            QTest::keyClick(Vak(1), Qt::Key_Escape);
+        else
+            venster->close();
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_TRUE(venster->Geannuleerd());
+        EXPECT_EQ("Clubleden", groepen.Naam(1));
+        EXPECT_EQ(" laatste ", groepen.Naam(50));
+    }
+}
+
+TEST_F(diaGrNamenTest, EenKommaWordtBijHetVerlatenEenUnderscore)
+{
+    TypIn(2, QStringLiteral("a,b,c"));
+    wachter.Informatie(kommas);
+    QTest::keyClick(Vak(2), Qt::Key_Tab);
+    QApplication::processEvents();
+    wachter.Klaar();
+    EXPECT_EQ("a_b_c", Vak(2)->text().toStdString());
+}
+
+TEST_F(diaGrNamenTest, EenKommaKomtOokMetEnterOfOKNietInDeNaam)
+{
+    for (int weg = 0; weg < 2; ++weg) {
+        Open();
+        TypIn(2, QStringLiteral("a,b"));
+        wachter.Informatie(kommas);
+        if (weg == 0)
+            QTest::keyClick(Vak(2), Qt::Key_Return);
+        else
+            KlikOK();
+        wachter.Klaar();
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_EQ("a_b", groepen.Naam(2));
+        groepen.ZetNaam(2, "");
+    }
+}
+
+TEST_F(diaGrNamenTest, EenTekenDatNietKanWordtGemeld)
+{
+    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard."
+                                        "\n\nIn plaats van 'ő' staat er nu 'o'."));
+    TypIn(2, QStringLiteral("Erdő"));
+    wachter.Klaar();
+    EXPECT_EQ("Erdo", Vak(2)->text().toStdString());
+}
+
+TEST_F(diaGrNamenTest, OngedefinieerdeBytesBlijven)
+{
+    groepen.ZetNaam(4, "\x81\x8D\x01");
+    Open();
+    TypIn(5, QStringLiteral("x"));
+    KlikOK();
+    EXPECT_EQ("\x81\x8D\x01", groepen.Naam(4));
+    EXPECT_EQ("x", groepen.Naam(5));
+}

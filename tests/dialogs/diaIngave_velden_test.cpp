@@ -1,0 +1,416 @@
+// The fields of the entry dialog at work: typing, pasting, leaving, accepting and cancelling.
+#include "dialogs/ingaveproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+class diaIngaveVeldenTest : public Ingaveproef {};
+
+const QString ab = QStringLiteral("a,b");
+
+} // namespace
+
+// ---- Per key ----------------------------------------------------------------------------------
+
+TEST_F(diaIngaveVeldenTest, DeSubgroepTyptHoofdletters)
+{
+    Open();
+    TypIn(17, QStringLiteral("c-lijn 2é"));
+    EXPECT_EQ("C-LIJN 2é", Tekst_(17)) << "een accent pas bij het verlaten";
+    Tab();
+    EXPECT_EQ("C-LIJN 2É", Tekst_(17));
+}
+
+TEST_F(diaIngaveVeldenTest, HetNummerTyptAlleenCijfersEnHoogstensAcht)
+{
+    Open();
+    TypIn(18, QString());
+    Typ(Vak(18), QStringLiteral("1a2b-3 4.5é678,90"));
+    EXPECT_EQ("12345678", Tekst_(18));
+    QTest::keyClick(Vak(18), Qt::Key_Backspace);
+    EXPECT_EQ("1234567", Tekst_(18));
+    QTest::keyClick(Vak(18), Qt::Key_Left);
+    QTest::keyClick(Vak(18), Qt::Key_Delete);
+    EXPECT_EQ("123456", Tekst_(18));
+}
+
+/// Meant: the key is judged by the text as it stands, a selection that it would replace included.
+TEST_F(diaIngaveVeldenTest, BijAchtCijfersWordtOokOverEenSelectieNietsGetypt)
+{
+    velden[17] = "12345678";
+    Open();
+    Vak(18)->setFocus();
+    Vak(18)->selectAll();
+    Typ(Vak(18), QStringLiteral("9"));
+    EXPECT_EQ("12345678", Tekst_(18));
+}
+
+TEST_F(diaIngaveVeldenTest, PlakkenInDeSubgroepGeeftHoofdletters)
+{
+    Open();
+    PlakIn(17, QStringLiteral("nieuwe groep"));
+    EXPECT_EQ("NIEUWE GROEP", Tekst_(17));
+}
+
+TEST_F(diaIngaveVeldenTest, PlakkenInHetNummerHoudtDeCijfersDiePassen)
+{
+    Open();
+    PlakIn(18, QStringLiteral("nr. 12.345-678 9"));
+    EXPECT_EQ("12345678", Tekst_(18));
+    PlakIn(18, QStringLiteral("abc,def"));
+    EXPECT_EQ("", Tekst_(18));
+}
+
+TEST_F(diaIngaveVeldenTest, PlakkenInHetMiddenVanHetNummerPastOpDeRest)
+{
+    velden[17] = "123456";
+    Open();
+    Vak(18)->setFocus();
+    Vak(18)->setCursorPosition(3);
+    QApplication::clipboard()->setText(QStringLiteral("a987b6"));
+    QTest::keyClick(Vak(18), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ("12398456", Tekst_(18));
+}
+
+TEST_F(diaIngaveVeldenTest, EenBewaardNummerMetLettersBlijftTotMenHetWijzigt)
+{
+    velden[17] = "12a-3456789";
+    Open();
+    EXPECT_EQ("12a-3456789", Tekst_(18));
+    KlikOK();
+    EXPECT_EQ("12a-3456789", ingave.IngaveVelden[17]);
+}
+
+// ---- Leaving a field --------------------------------------------------------------------------
+
+TEST_F(diaIngaveVeldenTest, EenKommaWordtBijHetVerlatenEenUnderscoreInElkVeld)
+{
+    Open();
+    for (const int veld : {4, 5, 6, 7, 8, 9, 10, 11, 12, 14, 15, 16}) {
+        SCOPED_TRACE(veld);
+        TypIn(veld, ab);
+        EXPECT_EQ("a,b", Tekst_(veld));
+        VerwachtKomma();
+        Tab();
+        wachter.Klaar();
+        EXPECT_EQ("a_b", Tekst_(veld));
+    }
+    TypIn(17, ab);
+    VerwachtKomma();
+    Tab();
+    EXPECT_EQ("A_B", Tekst_(17));
+    TypIn(13, QStringLiteral(","));
+    VerwachtKomma();
+    Tab();
+    EXPECT_EQ("_", Tekst_(13));
+}
+
+TEST_F(diaIngaveVeldenTest, EenKlikOpEenAnderVeldIsOokVerlaten)
+{
+    Open();
+    TypIn(4, ab);
+    VerwachtKomma();
+    Klik(Vak(9), {10, 8});
+    wachter.Klaar();
+    EXPECT_EQ("a_b", Tekst_(4));
+    EXPECT_EQ(Vak(9), venster->focusWidget());
+}
+
+TEST_F(diaIngaveVeldenTest, EenGeplakteKommaGaatDezelfdeWeg)
+{
+    Open();
+    PlakIn(9, QStringLiteral("Laan 1, 2,3"));
+    EXPECT_EQ("Laan 1, 2,3", Tekst_(9));
+    VerwachtKomma();
+    Enter(9);
+    wachter.Klaar();
+    EXPECT_TRUE(Geaccepteerd());
+    EXPECT_EQ("Laan 1_ 2_3", ingave.IngaveVelden[8]);
+}
+
+TEST_F(diaIngaveVeldenTest, EnterRuimtDeKommaVanHetVeldWaarMenIs)
+{
+    Open();
+    TypIn(9, ab);
+    VerwachtKomma();
+    Enter(9);
+    wachter.Klaar();
+    EXPECT_TRUE(Geaccepteerd());
+    EXPECT_EQ("a_b", ingave.IngaveVelden[8]);
+}
+
+TEST_F(diaIngaveVeldenTest, HetSluitvakRuimtDeKommaOok)
+{
+    Open();
+    TypIn(9, ab);
+    VerwachtKomma();
+    EXPECT_TRUE(venster->close());
+    wachter.Klaar();
+    EXPECT_TRUE(Geaccepteerd());
+    EXPECT_EQ("a_b", ingave.IngaveVelden[8]);
+}
+
+TEST_F(diaIngaveVeldenTest, DeKnopOKRuimtDeKommaOok)
+{
+    Open();
+    TypIn(9, ab);
+    VerwachtKomma();
+    KlikOK();
+    wachter.Klaar();
+    EXPECT_TRUE(Geaccepteerd());
+    EXPECT_EQ("a_b", ingave.IngaveVelden[8]);
+}
+
+TEST_F(diaIngaveVeldenTest, BijAnnulerenKomtErGeenBericht)
+{
+    for (int weg = 0; weg < 2; ++weg) {
+        Open();
+        TypIn(9, ab);
+        if (weg == 0)
+            Klik(Deel<QPushButton>("cmdAnnuleren"));
+        else
+            QTest::keyClick(Vak(9), Qt::Key_Escape);
+        QApplication::processEvents();
+        EXPECT_FALSE(IsOpen());
+        EXPECT_TRUE(ingave.IngaveGeannuleerd);
+    }
+}
+
+TEST_F(diaIngaveVeldenTest, EenLozePartnerKrijgtUnderscores)
+{
+    Open();
+    for (const auto& [getypt, wordt] :
+         {std::pair("Partner Jan", "Partner_Jan"), std::pair("partner x", "partner_x")}) {
+        TypIn(6, QString::fromLatin1(getypt));
+        VerwachtPartner();
+        Tab();
+        wachter.Klaar();
+        EXPECT_EQ(wordt, Tekst_(6));
+    }
+    TypIn(6, QStringLiteral("Jan Partner"));
+    Tab();
+    EXPECT_EQ("Jan Partner", Tekst_(6));
+    TypIn(4, QStringLiteral("Partner Jan"));
+    Tab();
+    EXPECT_EQ("Partner Jan", Tekst_(4));
+}
+
+TEST_F(diaIngaveVeldenTest, EerstHetBerichtVanDeKommaDanDatVanDePartner)
+{
+    Open();
+    TypIn(6, QStringLiteral("Partner, Jan"));
+    VerwachtKomma();
+    VerwachtPartner();
+    Enter(6);
+    wachter.Klaar();
+    EXPECT_TRUE(Geaccepteerd());
+    EXPECT_EQ("Partner__Jan", ingave.IngaveVelden[5]);
+}
+
+TEST_F(diaIngaveVeldenTest, EenSubgroepMetAccentIsOokZonderVerlatenInHoofdletters)
+{
+    Open();
+    TypIn(17, QStringLiteral("café"));
+    Enter(17);
+    EXPECT_EQ("CAF\xC9", ingave.IngaveVelden[16]);
+}
+
+// ---- Accepting and cancelling -----------------------------------------------------------------
+
+TEST_F(diaIngaveVeldenTest, ZonderAchternaamWordtGeweigerd)
+{
+    for (const char* naam : {"", "    "}) {
+        Open();
+        TypIn(6, QString::fromLatin1(naam));
+        Vak(9)->setFocus();
+        VerwachtGeenAchternaam();
+        KlikOK();
+        wachter.Klaar();
+        EXPECT_TRUE(IsOpen());
+        EXPECT_TRUE(ingave.IngaveFout);
+        EXPECT_EQ(Vak(6), venster->focusWidget());
+        EXPECT_EQ("veld6", ingave.IngaveVelden[5]) << "er is niets teruggegeven";
+
+        TypIn(6, QStringLiteral("  Bos"));
+        KlikOK();
+        EXPECT_TRUE(Geaccepteerd());
+        EXPECT_FALSE(ingave.IngaveFout);
+        EXPECT_EQ("  Bos", ingave.IngaveVelden[5]) << "met zijn spaties";
+    }
+}
+
+/// Meant: the close box is acceptance, with its check; only the button and Escape cancel.
+TEST_F(diaIngaveVeldenTest, HetSluitvakIsAccepterenMetDeControle)
+{
+    Open();
+    TypIn(4, QStringLiteral("Anders"));
+    EXPECT_TRUE(venster->close());
+    EXPECT_TRUE(Geaccepteerd());
+    EXPECT_EQ("Anders", ingave.IngaveVelden[3]);
+
+    Open();
+    TypIn(6, QString());
+    VerwachtGeenAchternaam();
+    EXPECT_FALSE(venster->close());
+    wachter.Klaar();
+    EXPECT_TRUE(IsOpen());
+    EXPECT_FALSE(ingave.IngaveGeannuleerd);
+}
+
+TEST_F(diaIngaveVeldenTest, AnnulerenEnEscapeSlaanDeControleOver)
+{
+    for (int weg = 0; weg < 2; ++weg) {
+        Open();
+        TypIn(6, QString());
+        if (weg == 0)
+            Klik(Deel<QPushButton>("cmdAnnuleren"));
+        else
+            QTest::keyClick(Vak(6), Qt::Key_Escape);
+        EXPECT_FALSE(IsOpen());
+        EXPECT_TRUE(ingave.IngaveGeannuleerd);
+        EXPECT_EQ(QDialog::Rejected, venster->result());
+        EXPECT_EQ(velden, ingave.IngaveVelden);
+    }
+}
+
+TEST_F(diaIngaveVeldenTest, NaEenWeigeringKanMenNogAnnuleren)
+{
+    Open();
+    TypIn(6, QString());
+    VerwachtGeenAchternaam();
+    KlikOK();
+    wachter.Klaar();
+    Klik(Deel<QPushButton>("cmdAnnuleren"));
+    EXPECT_FALSE(IsOpen());
+    EXPECT_TRUE(ingave.IngaveGeannuleerd);
+}
+
+TEST_F(diaIngaveVeldenTest, EnterInElkVeldAccepteert)
+{
+    for (const int veld : {4, 13, 18}) {
+        Open();
+        Enter(veld);
+        EXPECT_TRUE(Geaccepteerd()) << veld;
+    }
+}
+
+/// Meant: field 3 hands back the whole text of the group list.
+TEST_F(diaIngaveVeldenTest, AlleVeldenKomenTerugOngetrimd)
+{
+    Open();
+    TypIn(4, QStringLiteral(" Jan "));
+    TypIn(10, QStringLiteral("  "));
+    KlikOK();
+    Rijvelden verwacht = velden;
+    verwacht[2] = "Gr05-Bondsleden";
+    verwacht[3] = " Jan ";
+    verwacht[9] = "  ";
+    EXPECT_EQ(verwacht, ingave.IngaveVelden);
+}
+
+TEST_F(diaIngaveVeldenTest, HetVerborgenNummerKomtOnveranderdTerug)
+{
+    velden[17] = "0012\x81z";
+    OpenGewoneGroep();
+    TypIn(4, QStringLiteral("Anders"));
+    KlikOK();
+    EXPECT_EQ("0012\x81z", ingave.IngaveVelden[17]);
+}
+
+TEST_F(diaIngaveVeldenTest, EenNieuweSpelerOpentLeegOpHetGeslachtNa)
+{
+    velden = {};
+    Open("Gr02-Avond", false, "Aanmaken");
+    for (int veld = 4; veld <= 18; ++veld)
+        EXPECT_EQ(veld == 13 ? "M" : "", Tekst_(veld)) << veld;
+    TypIn(6, QStringLiteral("Bos"));
+    KlikOK();
+    Rijvelden verwacht;
+    verwacht[2] = "Gr02-Avond";
+    verwacht[5] = "Bos";
+    verwacht[12] = "M";
+    EXPECT_EQ(verwacht, ingave.IngaveVelden);
+}
+
+// ---- Bytes ------------------------------------------------------------------------------------
+
+TEST_F(diaIngaveVeldenTest, WatMenNietAanraaktKomtTotOpDeByteTerug)
+{
+    Tekst alles;
+    for (int code = 0; code < 256; ++code)
+        if (code != ',' && code != '\r' && code != '\n')
+            alles += static_cast<char>(code);
+    velden = {};
+    for (const int veld : {4, 5, 7, 8, 9, 10, 11, 12, 14, 15, 16})
+        velden[static_cast<std::size_t>(veld - 1)] = alles;
+    velden[5] = Tekst("\x81\x8D\x8F\x90\x9D\t\x00\x7F \xA0", 10);
+    velden[12] = "\x8F";
+    velden[13] = Tekst(64 * 1024, '\x90');
+    velden[14] = Tekst(64 * 1024, 'x') + "\t\x01";
+    velden[16] = "A\x81\x01";
+    velden[17] = "\x9D\x02z";
+    for (const bool importgroep : {true, false}) {
+        Open("Gr05-X", importgroep);
+        TypIn(4, QStringLiteral("Jan"));
+        Tab();
+        KlikOK();
+        Rijvelden verwacht = velden;
+        verwacht[2] = "Gr05-X";
+        verwacht[3] = "Jan";
+        EXPECT_TRUE(Geaccepteerd());
+        EXPECT_EQ(verwacht, ingave.IngaveVelden);
+    }
+}
+
+TEST_F(diaIngaveVeldenTest, EenGeplakteTekstVan64KBBlijftHeel)
+{
+    Open();
+    const QString lang(64 * 1024, u'x');
+    PlakIn(15, lang);
+    KlikOK();
+    EXPECT_EQ(lang.toStdString(), ingave.IngaveVelden[14]);
+}
+
+TEST_F(diaIngaveVeldenTest, AccentenEnHetEuroteken)
+{
+    Open();
+    TypIn(4, QStringLiteral("Zoë Œ€ž"));
+    KlikOK();
+    EXPECT_EQ("Zo\xEB \x8C\x80\x9E", ingave.IngaveVelden[3]);
+}
+
+TEST_F(diaIngaveVeldenTest, EenGetyptTekenDatNietKanWordtVervangenEnGemeld)
+{
+    Open();
+    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard."
+                                        "\n\nIn plaats van 'ő' staat er nu 'o'."));
+    TypIn(4, QStringLiteral("Erdő"));
+    wachter.Klaar();
+    EXPECT_EQ("Erdo", Tekst_(4));
+}
+
+TEST_F(diaIngaveVeldenTest, EenGetyptTekenZonderLetterDieErOpLijktWordtGeweigerdEnGemeld)
+{
+    Open();
+    for (const int veld : {4, 17}) {
+        TypIn(veld, QString());
+        wachter.Waarschuwing(QStringLiteral("Dit teken kan niet in het spelerbestand worden "
+                                            "bewaard.\n\n'漢' is weggelaten."));
+        Typ(Vak(veld), QStringLiteral("漢"));
+        QApplication::processEvents();
+        wachter.Klaar();
+        EXPECT_EQ("", Tekst_(veld));
+    }
+}
+
+TEST_F(diaIngaveVeldenTest, GeplakteTekensDieNietKunnenWordenGemeld)
+{
+    Open();
+    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet in het spelerbestand worden "
+                                        "bewaard.\n\nIn plaats van 'ő' staat er nu 'o'.\n'漢' is "
+                                        "weggelaten."));
+    PlakIn(4, QStringLiteral("Erdő 漢ő"));
+    wachter.Klaar();
+    EXPECT_EQ("Erdo o", Tekst_(4));
+}

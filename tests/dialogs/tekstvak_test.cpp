@@ -1,0 +1,207 @@
+#include "platform/scherm/tekstvak.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/venstergrepen.h"
+
+using namespace plexoran;
+
+namespace {
+
+class TekstvakTest : public testing::Test {
+  protected:
+    void SetUp() override
+    {
+        venster.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&venster));
+        vak.setFocus();
+    }
+    ~TekstvakTest() override { wachter.Klaar(); }
+
+    void Plak(const QString& tekst)
+    {
+        QApplication::clipboard()->setText(tekst);
+        QTest::keyClick(&vak, Qt::Key_V, Qt::ControlModifier);
+        QApplication::processEvents();
+    }
+    void VerwachtTeken(const QString& regels)
+    {
+        wachter.Waarschuwing(
+            QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard.\n\n") + regels);
+    }
+
+    Berichtwachter wachter;
+    QWidget venster;
+    Tekstvak vak{&venster};
+    Tekstvak tweede{&venster};
+};
+
+Tekst AlleBytes()
+{
+    Tekst alles;
+    for (int code = 0; code < 256; ++code)
+        alles += static_cast<char>(code);
+    return alles;
+}
+
+} // namespace
+
+TEST_F(TekstvakTest, GeeftElkeByteTerug)
+{
+    vak.ZetTekst(AlleBytes());
+    EXPECT_EQ(AlleBytes(), vak.GeefTekst());
+    EXPECT_EQ(0, vak.cursorPosition());
+}
+
+TEST_F(TekstvakTest, GeeftEenTekstVanElkeLengteTerug)
+{
+    const Tekst lang = Tekst(100'000, 'x') + "\x81";
+    vak.ZetTekst(lang);
+    EXPECT_EQ(lang, vak.GeefTekst());
+    QTest::keyClick(&vak, Qt::Key_End);
+    Typ(&vak, QStringLiteral("y"));
+    EXPECT_EQ(lang + "y", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, OngedefinieerdeBytesBlijvenOokNaEenWijzigingErnaast)
+{
+    vak.ZetTekst("a\x81\x8D\x8F\x90\x9Dz");
+    QTest::keyClick(&vak, Qt::Key_End);
+    Typ(&vak, QStringLiteral("é"));
+    EXPECT_EQ("a\x81\x8D\x8F\x90\x9Dz\xE9", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, NaTerugtypenStaanDeBeginbytesErWeer)
+{
+    vak.ZetTekst("\x01\tz");
+    QTest::keyClick(&vak, Qt::Key_End);
+    Typ(&vak, QStringLiteral("x"));
+    QTest::keyClick(&vak, Qt::Key_Backspace);
+    EXPECT_EQ("\x01\tz", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, EenLosAccentHoortBijZijnLetter)
+{
+    Typ(&vak, QStringLiteral("e\u0301"));
+    EXPECT_EQ("\xE9", vak.GeefTekst());
+    EXPECT_EQ("é", vak.text().toStdString());
+}
+
+TEST_F(TekstvakTest, EenGetyptTekenDatNietKanWordtDeNaasteLetter)
+{
+    VerwachtTeken(QStringLiteral("In plaats van 'ő' staat er nu 'o'."));
+    Typ(&vak, QStringLiteral("aőb"));
+    QApplication::processEvents();
+    wachter.Klaar();
+    EXPECT_EQ("aob", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, EenTekenZonderNaasteLetterWordtWeggelaten)
+{
+    VerwachtTeken(QStringLiteral("'漢' is weggelaten."));
+    Typ(&vak, QStringLiteral("a漢b"));
+    QApplication::processEvents();
+    wachter.Klaar();
+    EXPECT_EQ("ab", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, MetEenToetsregelWordtHetOokGemeld)
+{
+    vak.ZetToetsregel([](char teken, std::size_t) { return teken; });
+    VerwachtTeken(QStringLiteral("In plaats van 'ő' staat er nu 'o'."));
+    Typ(&vak, QStringLiteral("ő"));
+    QApplication::processEvents();
+    wachter.Klaar();
+    EXPECT_EQ("o", vak.GeefTekst());
+    VerwachtTeken(QStringLiteral("'漢' is weggelaten."));
+    Typ(&vak, QStringLiteral("漢"));
+    QApplication::processEvents();
+    wachter.Klaar();
+    EXPECT_EQ("o", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, ElkTekenWordtEenKeerGenoemd)
+{
+    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet in het spelerbestand worden "
+                                        "bewaard.\n\nIn plaats van 'ő' staat er nu 'o'.\n'漢' is "
+                                        "weggelaten."));
+    Plak(QStringLiteral("ő漢ő漢"));
+    wachter.Klaar();
+    EXPECT_EQ("oo", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, EenTekenVanTweeEenheden)
+{
+    VerwachtTeken(QStringLiteral("'😀' is weggelaten."));
+    Plak(QStringLiteral("a😀b"));
+    wachter.Klaar();
+    EXPECT_EQ("ab", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, RegeleindenEnTabsWordenSpatiesEnStuurtekensGaanWeg)
+{
+    Plak(QStringLiteral("een\r\ntwee\tdrie\u0007vier\u2028vijf"));
+    const Tekst tekst = vak.GeefTekst();
+    EXPECT_EQ(Tekst::npos, tekst.find_first_of("\r\n\t\x07"));
+    EXPECT_TRUE(tekst == "een  twee drievier vijf" || tekst == "een twee drievier vijf") << tekst;
+}
+
+TEST_F(TekstvakTest, DeToetsregelGeldtVoorTypenEnPlakken)
+{
+    vak.ZetToetsregel([](char teken, std::size_t lengte) -> std::optional<char> {
+        if (teken < '0' || teken > '9' || lengte >= 3)
+            return std::nullopt;
+        return teken;
+    });
+    Typ(&vak, QStringLiteral("a1b2"));
+    EXPECT_EQ("12", vak.GeefTekst());
+    Plak(QStringLiteral("x3y4"));
+    EXPECT_EQ("123", vak.GeefTekst());
+    QTest::keyClick(&vak, Qt::Key_Backspace);
+    EXPECT_EQ("12", vak.GeefTekst()) << "wissen mag altijd";
+}
+
+TEST_F(TekstvakTest, VervangHoudtDeCursorEvenVerVanHetEind)
+{
+    vak.ZetTekst("a,b,cd");
+    vak.setCursorPosition(4);
+    vak.Vervang("a_b_cd");
+    EXPECT_EQ(4, vak.cursorPosition());
+    vak.Vervang("xa_b_cd");
+    EXPECT_EQ(5, vak.cursorPosition());
+    EXPECT_EQ("xa_b_cd", vak.GeefTekst());
+}
+
+TEST_F(TekstvakTest, VerlatenKomtBijEenAnderDeelEnNietBijEenMenu)
+{
+    int keren = 0;
+    QObject::connect(&vak, &Tekstvak::verlaten, &venster, [&] { ++keren; });
+    tweede.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(1, keren);
+    vak.setFocus();
+    QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QApplication::sendEvent(&vak, &menu);
+    QFocusEvent programma(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(&vak, &programma);
+    EXPECT_EQ(1, keren);
+}
+
+TEST_F(TekstvakTest, GeslepteTekstWordtOokGezuiverd)
+{
+    VerwachtTeken(QStringLiteral("In plaats van 'ő' staat er nu 'o'."));
+    QMimeData tekst;
+    tekst.setText(QStringLiteral("xő\ny"));
+    QDragEnterEvent begin(QPoint(3, 3), Qt::CopyAction, &tekst, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&vak, &begin);
+    QDropEvent val(QPointF(3, 3), Qt::CopyAction, &tekst, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&vak, &val);
+    QApplication::processEvents();
+    wachter.Klaar();
+    EXPECT_EQ("xo y", vak.GeefTekst());
+}

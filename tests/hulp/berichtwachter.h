@@ -1,0 +1,96 @@
+// Watches the modal windows of a test: every message box and dialog that shows must be the next one
+// that the test expects, and is answered at once. One that was not expected is closed harmlessly
+// and fails the test; one that did not come fails it at the end; nothing ever hangs.
+#pragma once
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+#include <optional>
+
+namespace plexoran {
+
+/// An expected message box. The whole text is compared, or its beginning where the rest is the
+/// system's own words.
+struct Bericht {
+    QString tekst;
+    QString antwoord = QStringLiteral("OK"); ///< the caption of the button that is pressed
+    QMessageBox::Icon icoon = QMessageBox::Information;
+    QString titel = QStringLiteral("Plexoran");
+    QStringList knoppen{}; ///< all of them, left to right; not looked at when empty
+    bool alleenBegin = false;
+};
+
+class Berichtwachter : public QObject {
+  public:
+    /// Answers instead of a caption: the Escape key, or the close box of the window.
+    static inline const QString Escape = QStringLiteral("<Escape>");
+    static inline const QString Sluitvak = QStringLiteral("<sluitvak>");
+
+    Berichtwachter();
+    /// Fails the test when something expected did not come.
+    ~Berichtwachter() override;
+
+    /// Boxes and dialogs must come in the order in which they were announced.
+    void Verwacht(Bericht bericht);
+    void Informatie(const QString& tekst);
+    void Waarschuwing(const QString& tekst);
+
+    /// The next modal dialog that is no message box is handed to `stappen`, which must close it.
+    /// Boxes that come while it is open are announced after it.
+    void Bedien(std::function<void(QDialog&)> stappen);
+    template <class T> void Bedien(std::function<void(T&)> stappen)
+    {
+        Bedien([this, stappen = std::move(stappen)](QDialog& dialoog) {
+            auto* venster = qobject_cast<T*>(&dialoog);
+            if (venster == nullptr)
+                Faal(QStringLiteral("een ander venster dan verwacht: ") + dialoog.objectName());
+            else
+                stappen(*venster);
+        });
+    }
+
+    /// Fails when something expected did not come, and forgets it.
+    void Klaar();
+    /// Whether everything that was announced has come.
+    [[nodiscard]] bool AllesGezien() const { return verwacht_.empty(); }
+
+    /// Waits until everything that was announced has come and been closed.
+    void WachtOpAlles();
+
+    /// Only for the test of this class: failures go there instead of to the test.
+    void VangFouten(QStringList* fouten) { fouten_ = fouten; }
+    void ZetGeduld(int milliseconden) { geduld_ = milliseconden; }
+
+    bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
+
+  private:
+    struct Verwachting {
+        std::optional<Bericht> bericht;
+        std::function<void(QDialog&)> stappen;
+    };
+
+    void Verschenen(QDialog& dialoog);
+    void Behandel(QMessageBox& venster);
+    void BehandelDialoog(QDialog& dialoog);
+    void Vergelijk(const QMessageBox& venster, const Bericht& bericht);
+    void Beantwoord(QMessageBox& venster, const QString& antwoord);
+    void SluitOnschuldig(QMessageBox& venster);
+    void Waak();
+    void Faal(const QString& tekst) const;
+
+    std::deque<Verwachting> verwacht_;
+    QTimer wekker_;
+    QPointer<QWidget> bewaakt_; ///< the modal or popup widget that is open
+    QElapsedTimer sinds_;
+    int geduld_ = 5000; ///< milliseconds that one modal widget may stay open
+    int open_ = 0;      ///< dialogs and boxes being dealt with
+    QStringList* fouten_ = nullptr;
+};
+
+} // namespace plexoran

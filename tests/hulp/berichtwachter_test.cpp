@@ -1,0 +1,154 @@
+// The watcher itself: whatever a program does wrong must become a failure, and nothing may hang.
+#include "hulp/berichtwachter.h"
+
+#include <QApplication>
+#include <QMenu>
+
+#include <gtest/gtest.h>
+
+#include "platform/scherm/berichten.h"
+
+using namespace plexoran;
+
+namespace {
+
+class BerichtwachterTest : public testing::Test {
+  protected:
+    BerichtwachterTest() { wachter.VangFouten(&fouten); }
+
+    void VerwachtFout(const char* begin)
+    {
+        ASSERT_EQ(1, fouten.size()) << fouten.join(u'\n').toStdString();
+        EXPECT_TRUE(fouten.constFirst().startsWith(QString::fromUtf8(begin)))
+            << fouten.constFirst().toStdString();
+        fouten.clear();
+    }
+
+    QStringList fouten;
+    Berichtwachter wachter;
+};
+
+const QString Hallo = QStringLiteral("Hallo");
+
+} // namespace
+
+TEST_F(BerichtwachterTest, HetVerwachteBerichtIsGeenFout)
+{
+    wachter.Informatie(Hallo);
+    Meld(nullptr, QMessageBox::Information, Hallo);
+    wachter.Verwacht({.tekst = Hallo, .antwoord = QStringLiteral("Annuleren")});
+    EXPECT_FALSE(Vraag(nullptr, QMessageBox::Information, Hallo));
+    wachter.Verwacht({.tekst = Hallo});
+    EXPECT_TRUE(Vraag(nullptr, QMessageBox::Information, Hallo));
+    wachter.Klaar();
+    EXPECT_EQ(QStringList(), fouten);
+}
+
+TEST_F(BerichtwachterTest, EenOnverwachtBerichtGaatOnschuldigDichtEnIsEenFout)
+{
+    EXPECT_FALSE(Vraag(nullptr, QMessageBox::Information, Hallo));
+    VerwachtFout("onverwacht bericht: Hallo");
+    EXPECT_EQ(1, Kies(nullptr, QMessageBox::Warning, Hallo,
+                      {QStringLiteral("Doe het"), QStringLiteral("Laat maar")}));
+    VerwachtFout("onverwacht bericht: Hallo");
+}
+
+TEST_F(BerichtwachterTest, WatNietKomtIsEenFout)
+{
+    wachter.Informatie(Hallo);
+    wachter.Klaar();
+    VerwachtFout("verwacht, maar niet gekomen: Hallo");
+    wachter.Bedien([](QDialog&) {});
+    wachter.Klaar();
+    VerwachtFout("het verwachte venster is niet gekomen");
+    wachter.Klaar();
+    EXPECT_EQ(QStringList(), fouten);
+}
+
+TEST_F(BerichtwachterTest, ElkVerschilIsEenFout)
+{
+    wachter.Informatie(QStringLiteral("Hallo daar"));
+    Meld(nullptr, QMessageBox::Information, Hallo);
+    VerwachtFout("de tekst is");
+    wachter.Informatie(Hallo);
+    Meld(nullptr, QMessageBox::Information, QStringLiteral("Hallo daar"));
+    VerwachtFout("de tekst is");
+    wachter.Informatie(Hallo);
+    Meld(nullptr, QMessageBox::Warning, Hallo);
+    VerwachtFout("icoon");
+    wachter.Informatie(Hallo);
+    Meld(nullptr, QMessageBox::Information, Hallo, QStringLiteral("Titel"));
+    VerwachtFout("de titel is");
+    wachter.Informatie(Hallo);
+    EXPECT_TRUE(Vraag(nullptr, QMessageBox::Information, Hallo));
+    VerwachtFout("de rij knoppen is");
+    wachter.Verwacht({.tekst = Hallo, .antwoord = QStringLiteral("Misschien")});
+    EXPECT_FALSE(Vraag(nullptr, QMessageBox::Information, Hallo));
+    VerwachtFout("geen knop 'Misschien'");
+}
+
+TEST_F(BerichtwachterTest, AlleenHetBeginTeltAlsDatGevraagdIs)
+{
+    wachter.Verwacht({.tekst = QStringLiteral("Hal"), .alleenBegin = true});
+    Meld(nullptr, QMessageBox::Information, Hallo);
+    EXPECT_EQ(QStringList(), fouten);
+    wachter.Verwacht({.tekst = QStringLiteral("Hul"), .alleenBegin = true});
+    Meld(nullptr, QMessageBox::Information, Hallo);
+    VerwachtFout("de tekst is");
+}
+
+TEST_F(BerichtwachterTest, DeVolgordeTelt)
+{
+    wachter.Bedien([](QDialog& dialoog) { dialoog.accept(); });
+    Meld(nullptr, QMessageBox::Information, Hallo);
+    VerwachtFout("onverwacht bericht: Hallo");
+    QDialog dialoog;
+    EXPECT_EQ(QDialog::Accepted, dialoog.exec());
+    EXPECT_EQ(QStringList(), fouten);
+}
+
+TEST_F(BerichtwachterTest, EenBerichtTijdensDeStappenVanEenVenster)
+{
+    wachter.Bedien([](QDialog& dialoog) {
+        Meld(&dialoog, QMessageBox::Information, Hallo);
+        dialoog.accept();
+    });
+    wachter.Informatie(Hallo);
+    QDialog dialoog;
+    EXPECT_EQ(QDialog::Accepted, dialoog.exec());
+    wachter.Klaar();
+    EXPECT_EQ(QStringList(), fouten);
+}
+
+TEST_F(BerichtwachterTest, EenOnverwachtVensterGaatDicht)
+{
+    QDialog dialoog;
+    dialoog.setObjectName(QStringLiteral("diaVreemd"));
+    EXPECT_EQ(QDialog::Rejected, dialoog.exec());
+    VerwachtFout("onverwacht venster: diaVreemd");
+}
+
+TEST_F(BerichtwachterTest, StappenDieHetVensterOpenLatenZijnEenFout)
+{
+    wachter.Bedien([](QDialog&) {});
+    QDialog dialoog;
+    EXPECT_EQ(QDialog::Rejected, dialoog.exec());
+    VerwachtFout("de stappen lieten het venster open");
+}
+
+TEST_F(BerichtwachterTest, StappenDieStrandenZijnEenFoutEnSluitenHetVenster)
+{
+    wachter.Bedien([](QDialog&) { throw std::runtime_error("niet gevonden: txt1_99"); });
+    QDialog dialoog;
+    EXPECT_EQ(QDialog::Rejected, dialoog.exec());
+    VerwachtFout("niet gevonden: txt1_99");
+}
+
+TEST_F(BerichtwachterTest, WatTeLangOpenBlijftGaatDicht)
+{
+    wachter.ZetGeduld(100);
+    QMenu menu;
+    menu.addAction(Hallo);
+    EXPECT_EQ(nullptr, menu.exec());
+    VerwachtFout("te lang open: QMenu");
+}

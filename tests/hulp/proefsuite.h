@@ -1,0 +1,70 @@
+// A copy of the sample suite in a folder of its own, as its user would have it.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/instellingenwinkel.h"
+#include "platform/tijdelijkeMap.h"
+
+namespace plexoran {
+
+class Proefsuite {
+  public:
+    /// With every folder that its "Mappen.ini" names.
+    Proefsuite();
+
+    [[nodiscard]] const std::filesystem::path& Weg() const { return map_.Weg(); }
+    /// As `Mappen.ini` writes it.
+    [[nodiscard]] Pad AlsPad() const { return map_.AlsPad(); }
+    [[nodiscard]] Pad MappenIni() const { return Samen(map_.AlsPad(), "Mappen.ini"); }
+
+    /// One key of "Mappen.ini", such as "NEWPAGR"; every line of that key goes first.
+    void ZetSleutel(const std::string& sleutel, const std::string& waarde) const;
+    void WisSleutel(const std::string& sleutel) const;
+
+    void Zet(const std::filesystem::path& naam, const std::string& inhoud) const
+    {
+        map_.Zet(naam, inhoud);
+    }
+    /// The bytes of a file; empty when it is missing.
+    [[nodiscard]] std::string Inhoud(const std::filesystem::path& naam) const
+    {
+        return map_.Inhoud(naam);
+    }
+    [[nodiscard]] bool Bestaat(const std::filesystem::path& naam) const
+    {
+        return std::filesystem::exists(map_.Weg() / naam);
+    }
+    void Verwijder(const std::filesystem::path& naam) const
+    {
+        std::filesystem::remove_all(map_.Weg() / naam);
+    }
+    /// The names in a folder, sorted; none when it is missing.
+    [[nodiscard]] std::vector<std::string> Namen(const std::filesystem::path& map) const;
+
+    [[nodiscard]] std::string Spelers() const { return Inhoud("Spelers/RVDspelers.txt"); }
+    [[nodiscard]] std::string Groepen() const { return Inhoud("Spelers/RVDGroepen.txt"); }
+    [[nodiscard]] std::string Instellingen() const { return Inhoud("Admin/Plexo.ini"); }
+
+  private:
+    TijdelijkeMap map_;
+};
+
+/// The per-user settings of other programs, in memory; empty: no scoring program is installed.
+class Proefwinkel : public Instellingenwinkel {
+  public:
+    void Zet(const Tekst& toepassing, const Tekst& sleutel, const Tekst& waarde)
+    {
+        waarden_[toepassing + "\\Options\\" + sleutel] = waarde;
+    }
+    [[nodiscard]] std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie,
+                                              Tekstblik sleutel) override;
+
+  private:
+    std::map<Tekst, Tekst> waarden_;
+};
+
+} // namespace plexoran

@@ -1,0 +1,60 @@
+// Working a window as its user does. Controls are found by their names.
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+
+#include <stdexcept>
+#include <string>
+
+namespace plexoran {
+
+/// Finds a control of a window by its name.
+template <class T> T* Vind(const QWidget& in, const char* naam)
+{
+    auto* deel = in.findChild<T*>(QString::fromLatin1(naam));
+    if (deel == nullptr)
+        throw std::runtime_error(std::string("niet gevonden: ") + naam);
+    return deel;
+}
+
+/// A caption as it reads on the screen, without the mark of its mnemonic.
+inline std::string Opschrift(const QAbstractButton* knop)
+{
+    return knop->text()
+        .replace(QStringLiteral("&&"), QStringLiteral("\1"))
+        .remove(QLatin1Char('&'))
+        .replace(QLatin1Char('\1'), QLatin1Char('&'))
+        .toStdString();
+}
+
+/// Between two acts of a user the program gets the time to do what it put off.
+inline void Klik(QWidget* deel, QPoint plek = {})
+{
+    QTest::mouseClick(deel, Qt::LeftButton, {}, plek);
+    QApplication::processEvents();
+}
+
+/// Types a text, key by key; any character will do.
+inline void Typ(QWidget* deel, const QString& tekst)
+{
+    for (const QChar teken : tekst)
+        QTest::sendKeyEvent(QTest::Click, deel, Qt::Key_unknown, QString(teken), {});
+}
+
+/// Replaces what stands in a text box, by typing.
+inline void Schrijf(QWidget& in, const char* vak, const QString& tekst)
+{
+    auto* regel = Vind<QLineEdit>(in, vak);
+    regel->setFocus();
+    regel->selectAll();
+    if (tekst.isEmpty())
+        QTest::keyClick(regel, Qt::Key_Backspace);
+    else
+        Typ(regel, tekst);
+    QApplication::processEvents();
+}
+
+} // namespace plexoran

@@ -1,0 +1,54 @@
+// The main of tests that show windows: off screen, in Dutch, looking the same on every machine. A
+// warning of Qt fails the test in which it comes.
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <cstdio>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A display that the user chose is kept, so that a test can be looked at.
+void ZetAlsLeeg(const char* naam, const char* waarde)
+{
+    if (!qEnvironmentVariableIsSet(naam))
+        qputenv(naam, waarde);
+}
+
+void Vang(QtMsgType soort, const QMessageLogContext&, const QString& tekst)
+{
+    // What the off-screen display cannot do is no fault of the program.
+    const bool vanHetScherm = tekst.startsWith(QLatin1String("This plugin does not support"));
+    if (vanHetScherm || tekst.contains(QLatin1String("XDG_RUNTIME_DIR")))
+        return;
+    std::fprintf(stderr, "Qt: %s\n", qPrintable(tekst));
+    if (soort != QtDebugMsg && soort != QtInfoMsg)
+        ADD_FAILURE() << "waarschuwing van Qt: " << tekst.toStdString();
+}
+
+void SpreekNederlands(QTranslator& vertaling)
+{
+    const QLocale nederlands(QLocale::Dutch, QLocale::Netherlands);
+    QLocale::setDefault(nederlands);
+    if (vertaling.load(nederlands, QStringLiteral("qtbase"), QStringLiteral("_"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&vertaling);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    ZetAlsLeeg("QT_QPA_PLATFORM", "offscreen");
+    ZetAlsLeeg("QT_FONT_DPI", "96");
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(Vang);
+    QApplication programma(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QTranslator vertaling;
+    SpreekNederlands(vertaling);
+    return RUN_ALL_TESTS();
+}

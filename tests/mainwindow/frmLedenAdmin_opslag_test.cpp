@@ -1,0 +1,367 @@
+// Saving that fails, and a file that someone else changed.
+#include "mainwindow/vensterproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+const QString Opnieuw = QStringLiteral("Opnieuw proberen");
+const QString Doorgaan = QStringLiteral("Doorgaan");
+const QString Opslaan = QStringLiteral("Opslaan");
+const QString NietOpslaan = QStringLiteral("Niet opslaan");
+const QString Annuleren = QStringLiteral("Annuleren");
+const QString LeesIn = QStringLiteral("Opnieuw inlezen");
+const QString Later = QStringLiteral("Later beslissen");
+
+class OpslagTest : public Hoofdvensterproef {
+  protected:
+    void SetUp() override
+    {
+        ASSERT_NO_FATAL_FAILURE(Start());
+        oud = suite.Spelers();
+        nieuw = oud + "149,100172,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n";
+        nieuw.replace(nieuw.find("HKEY=100171"), 11, "HKEY=100172");
+    }
+
+    [[nodiscard]] QString Bestandsregel() const
+    {
+        const auto pad = suite.Weg() / "Spelers" / "RVDspelers.txt";
+        return QStringLiteral("Bestand: ") + QString::fromStdString(pad.string());
+    }
+
+    void VerwachtMislukt(const QString& antwoord)
+    {
+        wachter.Verwacht(
+            {.tekst = QStringLiteral(
+                          "De spelers konden niet worden opgeslagen.\n\nHet spelerbestand op de "
+                          "schijf is heel gebleven. Uw laatste wijziging staat nog wel in dit "
+                          "programma: verhelp de oorzaak en probeer het opnieuw, of ga door; bij "
+                          "de volgende wijziging en bij het afsluiten wordt het weer "
+                          "geprobeerd.\n\n") +
+                      Bestandsregel(),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Critical,
+             .knoppen = {Opnieuw, Doorgaan},
+             .alleenBegin = true});
+    }
+
+    void VerwachtGewijzigd(const QString& antwoord)
+    {
+        wachter.Verwacht(
+            {.tekst = QStringLiteral(
+                          "Het spelerbestand is door een ander programma gewijzigd nadat het hier "
+                          "is ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er komt "
+                          "eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: uw "
+                          "laatste wijziging vervalt.\n\n") +
+                      Bestandsregel(),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Warning,
+             .knoppen = {Opslaan, LeesIn, Later}});
+    }
+
+    void VerwachtSluitvraag(const QString& antwoord)
+    {
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Warning,
+             .knoppen = {Opslaan, NietOpslaan, Annuleren}});
+    }
+
+    void VerwachtIngave(const QString& achternaam = QStringLiteral("Nieuweling"))
+    {
+        wachter.Bedien([achternaam](QDialog& ingave) {
+            Schrijf(ingave, "txt1_6", achternaam);
+            Klik(Vind<QPushButton>(ingave, "cmdOK"));
+        });
+    }
+    void VoegToe()
+    {
+        Klik(Knop("cmdAanm"));
+        wachter.Klaar();
+    }
+    /// Leaves the program with a player that the file lacks.
+    void VoegToeZonderOpslag()
+    {
+        schijf.FaalVanaf(1);
+        VerwachtIngave();
+        VerwachtMislukt(Doorgaan);
+        VoegToe();
+        schijf.FaalNiet();
+    }
+    /// As another program of the suite would do.
+    void WijzigVanBuiten()
+    {
+        vreemd = "HKEY=100300\r\n1,100250,Gr01-,An,,Buiten,,,,,,,V,,,,,\r\n";
+        suite.Zet("Spelers/RVDspelers.txt", vreemd);
+    }
+    [[nodiscard]] std::vector<std::string> Kopieen() const
+    {
+        std::vector<std::string> inhouden;
+        for (const auto& naam : suite.Namen("Spelers/Reservekopie"))
+            inhouden.push_back(
+                suite.Inhoud(std::filesystem::path("Spelers") / "Reservekopie" / naam));
+        return inhouden;
+    }
+    [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
+
+    std::string oud;
+    std::string nieuw;
+    std::string vreemd;
+};
+
+} // namespace
+
+TEST_F(OpslagTest, FaalbijElkeStapLaatEenHeelBestandEnDeSpelerInDeTabel)
+{
+    // How many steps a save has, is measured first, on a change that leaves the bytes as they are.
+    KiesRegel(1);
+    schijf.FaalNiet();
+    wachter.Bedien([](QDialog& ingave) { Klik(Vind<QPushButton>(ingave, "cmdOK")); });
+    Klik(Knop("cmdWijzig"));
+    const int stappen = schijf.Aantal();
+    ASSERT_EQ(oud, suite.Spelers());
+    ASSERT_GE(stappen, 5);
+
+    for (int stap = 1; stap <= stappen; ++stap) {
+        SCOPED_TRACE(stap);
+        suite.Zet("Spelers/RVDspelers.txt", oud);
+        ASSERT_NO_FATAL_FAILURE(Herstart());
+        schijf.FaalVanaf(stap);
+        VerwachtIngave();
+        VerwachtMislukt(Doorgaan);
+        VoegToe();
+        const std::string bestand = suite.Spelers();
+        EXPECT_TRUE(bestand == oud || bestand == nieuw);
+        EXPECT_EQ("Aantal regels: 51", Aantal());
+        EXPECT_TRUE(venster->isWindowModified());
+        // What the failure left is put right by the next save.
+        schijf.FaalNiet();
+        VerwachtSluitvraag(Opslaan);
+        ASSERT_TRUE(venster->close());
+        wachter.Klaar();
+        EXPECT_EQ(nieuw, suite.Spelers());
+        EXPECT_EQ(std::vector<std::string>{}, Kopieen());
+    }
+}
+
+TEST_F(OpslagTest, OpnieuwProberenSlaatAlsnogOp)
+{
+    schijf.FaalBij(1);
+    VerwachtIngave();
+    VerwachtMislukt(Opnieuw);
+    VoegToe();
+    EXPECT_EQ(nieuw, suite.Spelers());
+    EXPECT_FALSE(venster->isWindowModified());
+    EXPECT_EQ("Aantal regels: 51", Aantal());
+}
+
+TEST_F(OpslagTest, OpnieuwProberenMagVakerMislukken)
+{
+    schijf.FaalVanaf(1);
+    VerwachtIngave();
+    VerwachtMislukt(Opnieuw);
+    VerwachtMislukt(Opnieuw);
+    VerwachtMislukt(Berichtwachter::Escape);
+    VoegToe();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_TRUE(venster->isWindowModified());
+    schijf.FaalNiet();
+}
+
+TEST_F(OpslagTest, DeVolgendeWijzigingSlaatOokDeVorigeOp)
+{
+    VoegToeZonderOpslag();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 51", Aantal());
+    VerwachtIngave(QStringLiteral("Tweede"));
+    VoegToe();
+    std::string beide = nieuw + "150,100173,Gr01-,,,Tweede,,,,,,,M,,,,,\r\n";
+    beide.replace(beide.find("HKEY=100172"), 11, "HKEY=100173");
+    EXPECT_EQ(beide, suite.Spelers());
+    EXPECT_FALSE(venster->isWindowModified());
+}
+
+TEST_F(OpslagTest, EenMislukteVerwijderingHeetNietVerwijderd)
+{
+    KiesRegel(1);
+    schijf.FaalVanaf(1);
+    wachter.Verwacht({.tekst = QStringLiteral("\t\tLET OP!"),
+                      .titel = QStringLiteral("Verwijderen"),
+                      .alleenBegin = true});
+    VerwachtMislukt(Doorgaan);
+    Klik(Knop("cmdVerwijder"));
+    wachter.Klaar(); // and not: De regel is verwijderd.
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 49", Aantal());
+    EXPECT_TRUE(venster->isWindowModified());
+    schijf.FaalNiet();
+}
+
+TEST_F(OpslagTest, SluitenMetOpslaan)
+{
+    VoegToeZonderOpslag();
+    VerwachtSluitvraag(Opslaan);
+    EXPECT_TRUE(venster->close());
+    wachter.Klaar();
+    EXPECT_EQ(nieuw, suite.Spelers());
+}
+
+TEST_F(OpslagTest, SluitenZonderOpslaan)
+{
+    VoegToeZonderOpslag();
+    VerwachtSluitvraag(NietOpslaan);
+    EXPECT_TRUE(venster->close());
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(OpslagTest, SluitenMetAnnulerenOfEscapeBlijftOpen)
+{
+    VoegToeZonderOpslag();
+    for (const QString& antwoord : {Annuleren, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
+        VerwachtSluitvraag(antwoord);
+        EXPECT_FALSE(venster->close());
+        wachter.Klaar();
+        EXPECT_TRUE(venster->isVisible());
+    }
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_TRUE(venster->isWindowModified());
+}
+
+TEST_F(OpslagTest, SluitenMetOpslaanDatMisluktBlijftOpen)
+{
+    VoegToeZonderOpslag();
+    schijf.FaalVanaf(1);
+    VerwachtSluitvraag(Opslaan);
+    VerwachtMislukt(Doorgaan);
+    EXPECT_FALSE(venster->close());
+    wachter.Klaar();
+    EXPECT_TRUE(venster->isVisible());
+    schijf.FaalNiet();
+}
+
+TEST_F(OpslagTest, VanBuitenGewijzigdOpslaanMaaktEerstEenKopie)
+{
+    WijzigVanBuiten();
+    VerwachtIngave();
+    VerwachtGewijzigd(Opslaan);
+    VoegToe();
+    EXPECT_EQ(nieuw, suite.Spelers());
+    EXPECT_EQ(std::vector<std::string>{vreemd}, Kopieen());
+    const auto namen = suite.Namen("Spelers/Reservekopie");
+    ASSERT_EQ(1U, namen.size());
+    EXPECT_TRUE(namen.front().starts_with("RVDspelers 2")) << namen.front();
+    EXPECT_FALSE(venster->isWindowModified());
+}
+
+TEST_F(OpslagTest, VanBuitenGewijzigdOpnieuwInlezenLaatDeWijzigingVervallen)
+{
+    WijzigVanBuiten();
+    VerwachtIngave();
+    VerwachtGewijzigd(LeesIn);
+    VoegToe();
+    EXPECT_EQ(vreemd, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 1", Aantal());
+    EXPECT_EQ(100300, administratie.spelers.HKEY);
+    EXPECT_EQ(std::vector<std::string>{}, Kopieen());
+    EXPECT_FALSE(venster->isWindowModified());
+}
+
+TEST_F(OpslagTest, VanBuitenGewijzigdLaterBeslissenHoudtBeide)
+{
+    WijzigVanBuiten();
+    VerwachtIngave();
+    VerwachtGewijzigd(Later);
+    VoegToe();
+    EXPECT_EQ(vreemd, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 51", Aantal());
+    EXPECT_TRUE(venster->isWindowModified());
+    // Escape is the harmless answer.
+    VerwachtSluitvraag(Opslaan);
+    VerwachtGewijzigd(Berichtwachter::Escape);
+    EXPECT_FALSE(venster->close());
+    wachter.Klaar();
+    EXPECT_EQ(vreemd, suite.Spelers());
+}
+
+TEST_F(OpslagTest, VanBuitenVerwijderdWordtWeerGeschreven)
+{
+    suite.Verwijder("Spelers/RVDspelers.txt");
+    VerwachtIngave();
+    VoegToe();
+    EXPECT_EQ(nieuw, suite.Spelers());
+}
+
+TEST_F(OpslagTest, DezelfdeInhoudVanBuitenGeldtNietAlsHetEigenBestand)
+{
+    suite.Verwijder("Spelers/RVDspelers.txt");
+    suite.Zet("Spelers/RVDspelers.txt", oud);
+    VerwachtIngave();
+    VerwachtGewijzigd(Opslaan);
+    VoegToe();
+    EXPECT_EQ(nieuw, suite.Spelers());
+    EXPECT_EQ(std::vector<std::string>{oud}, Kopieen());
+}
+
+// ---- Group names and settings -----------------------------------------------------------------
+
+TEST_F(OpslagTest, GroepsnamenDieNietTeBewarenZijnWordenTeruggenomen)
+{
+    const std::string groepen = suite.Groepen();
+    KiesGroep(6);
+    schijf.FaalVanaf(1);
+    wachter.Bedien([](QDialog& namen) {
+        Schrijf(namen, "txt1_11", QStringLiteral("Nieuw"));
+        Klik(Vind<QPushButton>(namen, "cmdOK"));
+    });
+    for (const QString& antwoord : {Opnieuw, Annuleren})
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("De groepsnamen konden niet worden bewaard. Het bestand is "
+                                     "gebleven zoals het was.\n\nBestand: ") +
+                      QString::fromStdString((suite.Weg() / "Spelers" / "RVDGroepen.txt").string()),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Critical,
+             .knoppen = {Opnieuw, Annuleren},
+             .alleenBegin = true});
+    Klik(Knop("cmdMaakGrNamen"));
+    wachter.Klaar();
+    schijf.FaalNiet();
+    EXPECT_EQ(groepen, suite.Groepen());
+    EXPECT_EQ("", administratie.groepen.Naam(11));
+    EXPECT_EQ("Gr11-", Keus("cmbGr")->itemText(10).toStdString());
+    EXPECT_EQ(6, GetoondeGroep());
+}
+
+TEST_F(OpslagTest, GroepsnamenOpnieuwProberen)
+{
+    schijf.FaalBij(1);
+    wachter.Bedien([](QDialog& namen) {
+        Schrijf(namen, "txt1_11", QStringLiteral("Nieuw"));
+        Klik(Vind<QPushButton>(namen, "cmdOK"));
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("De groepsnamen konden niet worden bewaard."),
+                      .antwoord = Opnieuw,
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Klik(Knop("cmdMaakGrNamen"));
+    wachter.Klaar();
+    EXPECT_EQ("Gr11-Nieuw", RegelsVan(suite.Groepen()).at(10));
+    EXPECT_EQ("Gr11-Nieuw", Keus("cmbGr")->itemText(10).toStdString());
+}
+
+TEST_F(OpslagTest, InstellingenDieMislukkenWordenEenKeerGemeldEnGaanLaterGewoonGoed)
+{
+    schijf.FaalVanaf(1);
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("De instellingen van het programma kunnen niet worden bewaard."),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    KiesGroep(2);
+    KiesGroep(3);
+    wachter.Klaar();
+    EXPECT_EQ("OPTIND=4\r\nLOSTGR=0\r\n", suite.Instellingen());
+    schijf.FaalNiet();
+    KiesGroep(6);
+    EXPECT_EQ("OPTIND=4\r\nLOSTGR=5\r\n", suite.Instellingen());
+}

@@ -1,0 +1,426 @@
+// The groups and the commands of the main window on the sample suite.
+#include <map>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
+#include "mainwindow/vensterproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+const QString geenRegel = QStringLiteral("Er is geen regel geselecteerd!");
+
+class HoofdvensterTest : public Hoofdvensterproef {
+  protected:
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
+
+    [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
+};
+
+} // namespace
+
+// ---- Groups -----------------------------------------------------------------------------------
+
+TEST_F(HoofdvensterTest, EenGewoneGroep)
+{
+    KiesGroep(2);
+    EXPECT_EQ("Aantal regels: 25", Aantal());
+    EXPECT_EQ("Print deze groep: Gr02-Donderdagmiddag ...", Opschrift(Knop("cmdPrint")));
+    EXPECT_EQ("Subgr", Header(17)->text().toStdString());
+    EXPECT_EQ("", Header(18)->text().toStdString());
+    EXPECT_EQ("Subgroep", Opschrift(Knop("cmdSortlijst3")));
+    EXPECT_FALSE(Knop("cmdSortlijst2")->isVisible());
+    EXPECT_FALSE(Knop("cmdHaalNBBnamen")->isVisible());
+    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
+    EXPECT_EQ("OPTIND=4\r\nLOSTGR=1\r\n", suite.Instellingen());
+}
+
+TEST_F(HoofdvensterTest, DeImportgroep)
+{
+    KiesGroep(5);
+    EXPECT_EQ("Aantal regels: 36", Aantal());
+    EXPECT_EQ("Print deze groep: Gr05-Bondsleden ...", Opschrift(Knop("cmdPrint")));
+    EXPECT_EQ("NBBgr", Header(17)->text().toStdString());
+    EXPECT_EQ("NBBnr", Header(18)->text().toStdString());
+    EXPECT_EQ("NBBgroep", Opschrift(Knop("cmdSortlijst3")));
+    EXPECT_EQ(" NBB-nr", Opschrift(Knop("cmdSortlijst2")));
+    EXPECT_TRUE(Knop("cmdSortlijst2")->isVisible());
+    EXPECT_TRUE(Knop("cmdHaalNBBnamen")->isVisible());
+    EXPECT_TRUE(Knop("cmdKoppel")->isVisible());
+    EXPECT_EQ("OPTIND=4\r\nLOSTGR=4\r\n", suite.Instellingen());
+}
+
+TEST_F(HoofdvensterTest, EenGroepsnaamMetAccentenEnTekensStaatHeelOpDeKnop)
+{
+    KiesGroep(9);
+    EXPECT_EQ("Print deze groep: Gr09-Wintercompetitie Café 't Anker ...",
+              Opschrift(Knop("cmdPrint")));
+}
+
+TEST_F(HoofdvensterTest, EenLegeGroepTekentNiets)
+{
+    KiesGroep(4);
+    EXPECT_EQ("Aantal regels: 0", Aantal());
+    EXPECT_EQ(0, Keus("cmbVerwVan")->count());
+    EXPECT_EQ(0, Keus("cmbVerwTot")->count());
+    EXPECT_EQ("", Keus("cmbVerwVan")->currentText().toStdString());
+    for (const char* knop : {"cmdWijzig", "cmdVerwijder", "cmdVerwijderVT"})
+        EXPECT_FALSE(Knop(knop)->isEnabled()) << knop;
+    EXPECT_TRUE(Knop("cmdAanm")->isEnabled());
+    Knop("cmdAanm")->setFocus(); // without the frame of the focus
+    const QImage beeld = Vlak()->grab().toImage();
+    for (int y = 0; y < beeld.height(); ++y)
+        for (int x = 0; x < beeld.width(); ++x)
+            ASSERT_EQ(QColor(Qt::white), beeld.pixelColor(x, y)) << x << "," << y;
+}
+
+TEST_F(HoofdvensterTest, NaEenLegeGroepKomenDeKnoppenTerug)
+{
+    KiesGroep(4);
+    KiesGroep(3);
+    for (const char* knop : {"cmdWijzig", "cmdVerwijder", "cmdVerwijderVT"})
+        EXPECT_TRUE(Knop(knop)->isEnabled()) << knop;
+    EXPECT_EQ("Aantal regels: 9", Aantal());
+}
+
+TEST_F(HoofdvensterTest, DeRegellijstenHebbenEenTotHetAantal)
+{
+    KiesGroep(3);
+    for (const char* naam : {"cmbVerwVan", "cmbVerwTot"}) {
+        const QComboBox* keus = Keus(naam);
+        ASSERT_EQ(9, keus->count());
+        for (int i = 0; i < 9; ++i)
+            EXPECT_EQ(QString::number(i + 1), keus->itemText(i));
+    }
+}
+
+TEST_F(HoofdvensterTest, HetKiezenVanEenGroepWistDeGekozenRegel)
+{
+    KiesRegel(3);
+    ASSERT_EQ(3, GekozenRegel());
+    KiesGroep(2);
+    EXPECT_EQ(0, GekozenRegel());
+    EXPECT_FALSE(Deel("Line1")->isVisible());
+    EXPECT_FALSE(Deel("Line2")->isVisible());
+}
+
+TEST_F(HoofdvensterTest, DeLaatsteGroepKomtNaEenHerstartTerug)
+{
+    KiesGroep(8);
+    ASSERT_NO_FATAL_FAILURE(Herstart());
+    EXPECT_EQ(8, GetoondeGroep());
+    EXPECT_EQ("Aantal regels: 10", Aantal());
+}
+
+TEST_F(HoofdvensterTest, DeOpschriftenEnWenkenVanDeOpdrachten)
+{
+    const std::vector<std::pair<const char*, const char*>> opschriften{
+        {"cmdAanm", "Nieuwe Speler toevoegen"},
+        {"cmdWijzig", "Geselecteerde Speler wijzigen"},
+        {"cmdVerplaats", "Verplaats speler(s) naar andere groep"},
+        {"cmdKopieer", "Kopieer speler(s) naar andere groep"},
+        {"cmdVerwGroep", "Verwijder een hele subgroep ..."},
+        {"cmdVerwijder", "Geselecteerde regel verwijderen..."},
+        {"cmdVerwijderVT", "Verwijder ..."},
+        {"cmdSortlijst1", " Key"},
+        {"cmdSortlijst2", " NBB-nr"},
+        {"cmdZoekDubbeleNamen", "Zoek dubbele namen"},
+        {"cmdSpToevoegen", "Toevoegen (_Rev)"},
+        {"cmdHaalNBBnamen", "Importeer NBB-spelers"},
+        {"cmdKoppel", "Koppel zwevende NBB-speler"},
+        {"cmdParenOnderhoud", "Paren-onderhoud"},
+        {"cmdToelichting", "Toelichting"},
+        {"cmdMaakGrNamen", "Spelergroepsnaam aanvullen"},
+        {"cmdToonGatenlijst", "Toon vrije NBB-nummers"},
+        {"cmdMaakScripts", "MaakScripts ..."},
+        {"cmdEinde", "Einde"}};
+    for (const auto& [naam, tekst] : opschriften)
+        EXPECT_EQ(tekst, Opschrift(Knop(naam))) << naam;
+    EXPECT_EQ("Selecteer een regel", Knop("cmdVerwijder")->toolTip().toStdString());
+    EXPECT_EQ("U kunt ook dubbelklikken op een regel", Knop("cmdWijzig")->toolTip().toStdString());
+    EXPECT_EQ("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 ",
+              Knop("cmdToonGatenlijst")->toolTip().toStdString());
+    EXPECT_EQ("Voor de duidelijkheid kunt u tekst toevoegen. Bijv: Gro2-Clubleden",
+              Knop("cmdMaakGrNamen")->toolTip().toStdString());
+    EXPECT_EQ("Verwijder regels van/tot", Vind<QGroupBox>(*venster, "Frame2")->title());
+    EXPECT_EQ("Kolombreedte volgens header",
+              Opschrift(Vind<QAbstractButton>(*venster, "chkKolBr")));
+    EXPECT_EQ("Alle groepen", Opschrift(Vind<QAbstractButton>(*venster, "chkToonAlle")));
+    QStringList teksten;
+    for (const QLabel* label : Deel("Frame2")->findChildren<QLabel*>())
+        teksten << label->text();
+    EXPECT_TRUE(teksten.contains(QStringLiteral("Van regel:")));
+    EXPECT_TRUE(teksten.contains(QStringLiteral("T/m regel:")));
+}
+
+TEST_F(HoofdvensterTest, ElkeOpdrachtHeeftEenEigenLetter)
+{
+    KiesGroep(5); // shows every button
+    std::map<QChar, QString> letters;
+    for (const QAbstractButton* knop : venster->findChildren<QAbstractButton*>()) {
+        const auto en = knop->text().replace(QStringLiteral("&&"), QString()).indexOf(u'&');
+        if (knop->objectName().startsWith(QStringLiteral("cmd_")) ||
+            !(knop->objectName().startsWith(QStringLiteral("cmd")) ||
+              knop->objectName().startsWith(QStringLiteral("chk"))))
+            continue;
+        ASSERT_GE(en, 0) << knop->objectName().toStdString();
+        const QChar letter = knop->text().at(en + 1).toUpper();
+        EXPECT_FALSE(letters.contains(letter))
+            << knop->objectName().toStdString() << " en " << letters[letter].toStdString();
+        letters[letter] = knop->objectName();
+    }
+    EXPECT_EQ(23U, letters.size());
+}
+
+/// Meant: this button has no handler.
+TEST_F(HoofdvensterTest, MaakScriptsDoetNiets)
+{
+    const std::string spelers = suite.Spelers();
+    ASSERT_TRUE(Knop("cmdMaakScripts")->isEnabled());
+    Klik(Knop("cmdMaakScripts"));
+    EXPECT_EQ(spelers, suite.Spelers());
+    EXPECT_TRUE(venster->isVisible());
+}
+
+// ---- Adding and changing ----------------------------------------------------------------------
+
+TEST_F(HoofdvensterTest, EenNieuweSpelerKomtAchteraanMetDeVolgendeSleutel)
+{
+    const std::string oud = suite.Spelers();
+    KiesGroep(2);
+    wachter.Bedien([](QDialog& ingave) {
+        EXPECT_EQ("diaIngave", ingave.objectName().toStdString());
+        EXPECT_EQ("Aanmaken nieuwe regel", Vind<QLabel>(ingave, "Label1")->text().toStdString());
+        EXPECT_EQ("Gr02-Donderdagmiddag", Vind<QLineEdit>(ingave, "txt1_3")->text().toStdString());
+        Schrijf(ingave, "txt1_4", QStringLiteral("  Zoë "));
+        Schrijf(ingave, "txt1_5", QStringLiteral("van 't"));
+        Schrijf(ingave, "txt1_6", QStringLiteral("IJssel"));
+        Klik(Vind<QPushButton>(ingave, "cmdOK"));
+    });
+    Klik(Knop("cmdAanm"));
+    wachter.Klaar();
+    std::string nieuw = oud + "149,100172,Gr02-,Zo\xEB,van 't,IJssel,,,,,,,M,,,,,\r\n";
+    nieuw.replace(nieuw.find("HKEY=100171"), 11, "HKEY=100172");
+    EXPECT_EQ(nieuw, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 26", Aantal());
+    EXPECT_EQ(0, GekozenRegel());
+}
+
+TEST_F(HoofdvensterTest, HetAnnulerenVanEenNieuweSpelerVerbruiktGeenSleutel)
+{
+    const std::string oud = suite.Spelers();
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_6", QStringLiteral("Toch niet"));
+        Klik(Vind<QPushButton>(ingave, "cmdAnnuleren"));
+    });
+    Klik(Knop("cmdAanm"));
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ(100171, administratie.spelers.HKEY);
+    EXPECT_EQ("Aantal regels: 50", Aantal());
+}
+
+TEST_F(HoofdvensterTest, DeNieuweSpelerIsInBeeld)
+{
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_6", QStringLiteral("Laatste"));
+        Klik(Vind<QPushButton>(ingave, "cmdOK"));
+    });
+    Klik(Knop("cmdAanm"));
+    wachter.Klaar();
+    EXPECT_EQ(Balk("VScroll1")->maximum(), Balk("VScroll1")->value());
+    EXPECT_GT(Balk("VScroll1")->maximum(), 0);
+}
+
+TEST_F(HoofdvensterTest, HetWijzigenVerandertAlleenDieRegel)
+{
+    std::string nieuw = suite.Spelers();
+    KiesGroep(2);
+    KiesRegel(3);
+    const std::string sleutel = GekozenSleutel();
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_11", QStringLiteral(" Nieuw-Oord "));
+        Klik(Vind<QPushButton>(ingave, "cmdOK"));
+    });
+    Klik(Knop("cmdWijzig"));
+    wachter.Klaar();
+    // A changed player is stored as it was handed back, outer spaces included.
+    const auto begin = nieuw.find("," + sleutel + ",");
+    auto plaats = begin;
+    for (int komma = 0; komma < 9; ++komma)
+        plaats = nieuw.find(',', plaats + 1);
+    nieuw.replace(plaats + 1, nieuw.find(',', plaats + 1) - plaats - 1, " Nieuw-Oord ");
+    EXPECT_EQ(nieuw, suite.Spelers());
+    EXPECT_EQ(0, GekozenRegel());
+    EXPECT_EQ(100171, administratie.spelers.HKEY);
+}
+
+TEST_F(HoofdvensterTest, OpenenEnAccepterenLaatHetBestandZoalsHetIs)
+{
+    const std::string oud = suite.Spelers();
+    for (const int groep : {1, 5}) {
+        KiesGroep(groep);
+        for (const int regel : {1, 4, 9}) {
+            KiesRegel(regel);
+            wachter.Bedien([](QDialog& ingave) { Klik(Vind<QPushButton>(ingave, "cmdOK")); });
+            Toets(Qt::Key_Return);
+            wachter.Klaar();
+        }
+    }
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(HoofdvensterTest, OngedefinieerdeBytesVanEenGewijzigdeSpelerBlijven)
+{
+    const std::string regel =
+        "1,100001,Gr01-,\x81\x8D,\x8F,Bos\x90\x9D,\t\x01,,,,,,X,,,,\xE9,12a\r\n";
+    suite.Zet("Spelers/RVDspelers.txt", "HKEY=100171\r\n" + regel);
+    ASSERT_NO_FATAL_FAILURE(Herstart());
+    KiesRegel(1);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_8", QStringLiteral("x@y.example"));
+        Klik(Vind<QPushButton>(ingave, "cmdOK"));
+    });
+    Klik(Knop("cmdWijzig"));
+    wachter.Klaar();
+    EXPECT_EQ("HKEY=100171\r\n1,100001,Gr01-,\x81\x8D,\x8F,Bos\x90\x9D,\t\x01,x@y.example,,,,,X,,,,"
+              "\xC9,12a\r\n",
+              suite.Spelers());
+}
+
+TEST_F(HoofdvensterTest, ZonderGekozenRegelIsErNietsTeWijzigen)
+{
+    wachter.Waarschuwing(geenRegel);
+    Klik(Knop("cmdWijzig"));
+    wachter.Waarschuwing(geenRegel);
+    Toets(Qt::Key_F2);
+    wachter.Waarschuwing(geenRegel);
+    QTest::mouseDClick(Vlak(), Qt::LeftButton, {}, {40, static_cast<int>(Y(4))});
+    wachter.Klaar();
+}
+
+TEST_F(HoofdvensterTest, ToetsenEnDubbelklikOpenenDeIngave)
+{
+    KiesGroep(2);
+    const std::vector<std::function<void()>> wegen{
+        [this] { Toets(Qt::Key_Return); }, [this] { Toets(Qt::Key_Enter); },
+        [this] { Toets(Qt::Key_F2); }, [this] { DubbelklikRegel(3); },
+        [this] { Klik(Knop("cmdWijzig")); }};
+    for (const auto& weg : wegen) {
+        KiesRegel(3);
+        wachter.Bedien([](QDialog& ingave) {
+            EXPECT_EQ("Regelnummer 44", Vind<QLabel>(ingave, "Label1")->text().toStdString());
+            Klik(Vind<QPushButton>(ingave, "cmdAnnuleren"));
+        });
+        weg();
+        wachter.Klaar();
+    }
+}
+
+TEST_F(HoofdvensterTest, CtrlNVoegtToeVanafElkDeel)
+{
+    for (const char* deel : {"P1", "cmbGr", "cmdEinde"}) {
+        venster->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        Deel(deel)->setFocus();
+        wachter.Bedien([](QDialog& ingave) {
+            EXPECT_EQ("Aanmaken nieuwe regel",
+                      Vind<QLabel>(ingave, "Label1")->text().toStdString());
+            QTest::keyClick(&ingave, Qt::Key_Escape);
+        });
+        QTest::keyClick(Deel(deel), Qt::Key_N, Qt::ControlModifier);
+        wachter.Klaar();
+    }
+}
+
+// ---- The companion program --------------------------------------------------------------------
+
+TEST_F(HoofdvensterTest, ZonderGatenlijstEenBericht)
+{
+    wachter.Waarschuwing(QStringLiteral("Het programma 'Gatenlijst.exe' is niet te vinden."));
+    Klik(Knop("cmdToonGatenlijst"));
+    wachter.Klaar();
+}
+
+#ifndef _WIN32
+TEST_F(HoofdvensterTest, DeGatenlijstWordtGestart)
+{
+    suite.Zet("Gatenlijst.exe", "#!/bin/sh\npwd > gestart.tmp && mv gestart.tmp gestart.txt\n");
+    ASSERT_EQ(0, ::chmod((suite.Weg() / "Gatenlijst.exe").c_str(), 0755));
+    Klik(Knop("cmdToonGatenlijst"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return suite.Bestaat("gestart.txt"); }));
+    EXPECT_EQ(std::filesystem::canonical(suite.Weg()).string() + "\n", suite.Inhoud("gestart.txt"));
+}
+
+TEST_F(HoofdvensterTest, EenGatenlijstDieNietStartGeeftEenBericht)
+{
+    suite.Zet("Gatenlijst.exe", "dit is geen programma");
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart.\n\n"
+                                 "Bestand: ") +
+                  QString::fromStdString((suite.Weg() / "Gatenlijst.exe").string()),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    Klik(Knop("cmdToonGatenlijst"));
+    wachter.Klaar();
+}
+#endif
+
+// ---- Group names ------------------------------------------------------------------------------
+
+TEST_F(HoofdvensterTest, GroepsnamenKomenInHetBestandEnDeEersteGroepWordtGetoond)
+{
+    std::string nieuw = suite.Groepen();
+    nieuw.replace(nieuw.find("Gr11-"), 5, "Gr11-Na de zomer");
+    KiesGroep(6);
+    wachter.Bedien([](QDialog& namen) {
+        EXPECT_EQ("diaGrNamen", namen.objectName().toStdString());
+        Schrijf(namen, "txt1_11", QStringLiteral("  Na de zomer "));
+        Klik(Vind<QPushButton>(namen, "cmdOK"));
+    });
+    Klik(Knop("cmdMaakGrNamen"));
+    wachter.Klaar();
+    EXPECT_EQ(nieuw, suite.Groepen());
+    EXPECT_EQ(1, GetoondeGroep());
+    EXPECT_EQ("Aantal regels: 50", Aantal());
+    EXPECT_EQ("Gr11-Na de zomer", Keus("cmbGr")->itemText(10).toStdString());
+    EXPECT_EQ(50, Keus("cmbGr")->count());
+    EXPECT_EQ("OPTIND=4\r\nLOSTGR=0\r\n", suite.Instellingen());
+}
+
+TEST_F(HoofdvensterTest, HetAnnulerenVanDeGroepsnamenLaatAllesStaan)
+{
+    const std::string oud = suite.Groepen();
+    KiesGroep(6);
+    wachter.Bedien([](QDialog& namen) {
+        Schrijf(namen, "txt1_11", QStringLiteral("Toch niet"));
+        Klik(Vind<QPushButton>(namen, "cmdAnnuleren"));
+    });
+    Klik(Knop("cmdMaakGrNamen"));
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Groepen());
+    EXPECT_EQ(6, GetoondeGroep());
+    EXPECT_EQ("Gr11-", Keus("cmbGr")->itemText(10).toStdString());
+    EXPECT_EQ("", administratie.groepen.Naam(11));
+}
+
+// ---- The end ----------------------------------------------------------------------------------
+
+TEST_F(HoofdvensterTest, HetEindeZetDeWerkmapOpDeSuite)
+{
+    Klik(Knop("cmdEinde"));
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ(std::filesystem::canonical(suite.Weg()), std::filesystem::current_path());
+}
+
+TEST_F(HoofdvensterTest, HetSluitenSchrijftNiets)
+{
+    const std::string spelers = suite.Spelers();
+    schijf.FaalNiet();
+    ASSERT_TRUE(venster->close());
+    EXPECT_EQ(0, schijf.Aantal());
+    EXPECT_EQ(spelers, suite.Spelers());
+}

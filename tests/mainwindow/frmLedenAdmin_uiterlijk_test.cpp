@@ -1,0 +1,209 @@
+// Places, sizes and nothing cut off, from the smallest window up and with larger fonts.
+#include <QGroupBox>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+#include "mainwindow/vensterproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+/// Room inside a button for its caption.
+int Tekstruimte(const QPushButton* knop)
+{
+    QStyleOptionButton optie;
+    optie.initFrom(knop);
+    optie.text = knop->text();
+    return knop->style()->subElementRect(QStyle::SE_PushButtonContents, &optie, knop).width();
+}
+
+bool IsHeader(const QWidget* deel)
+{
+    return deel->objectName().startsWith(QStringLiteral("cmd_"));
+}
+
+class UiterlijkTest : public Hoofdvensterproef {
+  protected:
+    ~UiterlijkTest() override
+    {
+        venster.reset();
+        QApplication::setFont(letter_);
+    }
+
+    template <class T> std::vector<T*> Zichtbaar() const
+    {
+        std::vector<T*> delen;
+        for (T* deel : venster->findChildren<T*>()) {
+            if (deel->isVisible() && !deel->objectName().isEmpty())
+                delen.push_back(deel);
+        }
+        return delen;
+    }
+
+    [[nodiscard]] QRect Plek(const QWidget* deel) const
+    {
+        return {deel->mapTo(venster.get(), QPoint()), deel->size()};
+    }
+
+    void VerwachtNietsAfgeknipt() const
+    {
+        for (const QPushButton* knop : Zichtbaar<QPushButton>()) {
+            const std::string naam = knop->objectName().toStdString();
+            const QFontMetrics maten(knop->font());
+            EXPECT_LE(maten.size(Qt::TextShowMnemonic, knop->text()).width(), Tekstruimte(knop))
+                << naam << ": " << knop->text().toStdString();
+            EXPECT_LE(maten.height(), knop->height()) << naam;
+        }
+        for (const QLabel* label : Zichtbaar<QLabel>()) {
+            const std::string naam = label->objectName().toStdString();
+            const QRect vak = label->contentsRect();
+            const QRect nodig =
+                QFontMetrics(label->font())
+                    .boundingRect(QRect(0, 0, vak.width(), 9999),
+                                  label->wordWrap() ? Qt::TextWordWrap : 0, label->text());
+            EXPECT_LE(nodig.width(), vak.width()) << naam;
+            EXPECT_LE(nodig.height(), vak.height()) << naam;
+        }
+        for (const QCheckBox* vink : Zichtbaar<QCheckBox>())
+            EXPECT_LE(vink->sizeHint().width(), vink->width()) << vink->objectName().toStdString();
+        for (const QComboBox* keus : Zichtbaar<QComboBox>())
+            EXPECT_LE(keus->minimumSizeHint().height(), keus->height())
+                << keus->objectName().toStdString();
+    }
+
+    /// Controls lie inside the window and not over each other.
+    void VerwachtNetjesNaastElkaar() const
+    {
+        std::vector<QWidget*> delen;
+        for (QWidget* deel : Zichtbaar<QWidget>()) {
+            const bool bediening = qobject_cast<QPushButton*>(deel) != nullptr ||
+                                   qobject_cast<QLabel*>(deel) != nullptr ||
+                                   qobject_cast<QCheckBox*>(deel) != nullptr ||
+                                   qobject_cast<QComboBox*>(deel) != nullptr ||
+                                   deel->objectName() == "picP0";
+            if (bediening && !IsHeader(deel) &&
+                !deel->parentWidget()->inherits("QComboBoxPrivateContainer"))
+                delen.push_back(deel);
+        }
+        ASSERT_GT(delen.size(), 20U);
+        for (std::size_t i = 0; i < delen.size(); ++i) {
+            const std::string naam = delen[i]->objectName().toStdString();
+            EXPECT_TRUE(venster->rect().contains(Plek(delen[i]))) << naam;
+            for (std::size_t j = 0; j < i; ++j)
+                EXPECT_FALSE(Plek(delen[i]).intersects(Plek(delen[j])))
+                    << naam << " en " << delen[j]->objectName().toStdString();
+        }
+    }
+
+  private:
+    QFont letter_ = QApplication::font();
+};
+
+} // namespace
+
+TEST_F(UiterlijkTest, DePlaatsenBovenaan)
+{
+    ASSERT_NO_FATAL_FAILURE(Start());
+    const Maten maten;
+    ASSERT_EQ(100, maten.Twips(1500)) << "de letter van de tests is de standaard";
+    EXPECT_EQ(QPoint(maten.Twips(7000), maten.Twips(200)), Plek(Label("Label1")).topLeft());
+    EXPECT_EQ(QPoint(maten.Twips(7000), maten.Twips(500)), Plek(Keus("cmbGr")).topLeft());
+    const QRect namen = Plek(Knop("cmdMaakGrNamen"));
+    EXPECT_EQ(maten.Twips(400), namen.top());
+    EXPECT_EQ(Plek(Keus("cmbGr")).right() + 1 + maten.Twips(200), namen.left());
+    EXPECT_EQ(namen.left(), Plek(Vink("chkKolBr")).left());
+}
+
+TEST_F(UiterlijkTest, HetKleinsteVensterIsHoogstens1024Bij700)
+{
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    EXPECT_EQ(QSize(1024, 700), venster->size());
+    EXPECT_LE(venster->minimumSizeHint().width(), 1024);
+    EXPECT_LE(venster->minimumSizeHint().height(), 700);
+}
+
+TEST_F(UiterlijkTest, NietsIsAfgekniptInHetKleinsteVenster)
+{
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    for (const int groep : {1, 4, 5, 9}) {
+        SCOPED_TRACE(groep);
+        KiesGroep(groep);
+        QApplication::processEvents();
+        VerwachtNietsAfgeknipt();
+        VerwachtNetjesNaastElkaar();
+    }
+}
+
+TEST_F(UiterlijkTest, NietsIsAfgekniptInEenGrootVenster)
+{
+    ASSERT_NO_FATAL_FAILURE(Start(1800, 1100));
+    KiesGroep(5);
+    QApplication::processEvents();
+    VerwachtNietsAfgeknipt();
+    VerwachtNetjesNaastElkaar();
+    EXPECT_GT(Vlak()->width(), 1700);
+    EXPECT_GT(Vlak()->height(), 600);
+}
+
+TEST_F(UiterlijkTest, NietsIsAfgekniptMetGrotereLetters)
+{
+    for (const double punten : {11.0, 13.5, 18.0}) {
+        SCOPED_TRACE(punten);
+        QFont groot = QApplication::font();
+        groot.setPointSizeF(punten);
+        QApplication::setFont(groot);
+        ASSERT_NO_FATAL_FAILURE(Start(1, 1)); // as small as it will go
+        KiesGroep(5);
+        QApplication::processEvents();
+        VerwachtNietsAfgeknipt();
+        VerwachtNetjesNaastElkaar();
+    }
+}
+
+TEST_F(UiterlijkTest, EenHeelLangeGroepsnaamMaaktHetVensterNietBreder)
+{
+    suite.Zet("Spelers/RVDGroepen.txt", "Gr01-" + std::string(3000, 'x') + "\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    EXPECT_EQ(1024, venster->width());
+    EXPECT_LE(venster->minimumSizeHint().width(), 1024);
+}
+
+TEST_F(UiterlijkTest, ElkeOpdrachtIsMetTabTeBereiken)
+{
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    KiesGroep(5);
+    QApplication::processEvents();
+    std::set<QString> bereikt;
+    for (int i = 0; i < 60; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        bereikt.insert(QApplication::focusWidget()->objectName());
+    }
+    for (const QWidget* deel : Zichtbaar<QWidget>()) {
+        const bool knop = qobject_cast<const QAbstractButton*>(deel) != nullptr ||
+                          qobject_cast<const QComboBox*>(deel) != nullptr;
+        if (knop && deel->isEnabled() && !IsHeader(deel)) {
+            EXPECT_TRUE(bereikt.contains(deel->objectName())) << deel->objectName().toStdString();
+        }
+    }
+    EXPECT_TRUE(bereikt.contains(QStringLiteral("P1")));
+}
+
+TEST_F(UiterlijkTest, ElkDeelHeeftEenNaamVoorWieNietKijkt)
+{
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    for (const QWidget* deel : Zichtbaar<QWidget>()) {
+        const auto* knop = qobject_cast<const QAbstractButton*>(deel);
+        const bool stom = qobject_cast<const QComboBox*>(deel) != nullptr ||
+                          qobject_cast<const QScrollBar*>(deel) != nullptr;
+        if (stom || (knop != nullptr && knop->text().isEmpty() && !IsHeader(deel))) {
+            EXPECT_FALSE(deel->accessibleName().isEmpty()) << deel->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(UiterlijkTest, DeEersteFocusStaatNietOpEenKnop)
+{
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    EXPECT_TRUE(Vlak()->hasFocus());
+}

@@ -1,0 +1,222 @@
+// Deleting one line and a range, on the sample suite.
+#include <algorithm>
+
+#include "mainwindow/vensterproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+/// The warning before a deletion, to the letter.
+QString LetOp(const QString& vraag)
+{
+    return QStringLiteral(
+               "\t\tLET OP!\r\n"
+               "\r\n"
+               "Als u spelers verwijdert die nog voorkomen in bestaande zittingen dan zal hun naam "
+               "daarin niet meer verschijnen.\r\n"
+               "Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen.\r\n"
+               "\r\n"
+               "Het opnieuw invoeren van een speler die per vergissing is verwijderd heeft alleen "
+               "zin als men in elke relevante zitting zijn naam opnieuw ingeeft.\r\n"
+               "\r\n") +
+           vraag + QStringLiteral("\r\n\r\n");
+}
+
+Bericht Verwijdervraag(const QString& vraag, const QString& antwoord)
+{
+    return {.tekst = LetOp(vraag),
+            .antwoord = antwoord,
+            .icoon = QMessageBox::Information,
+            .titel = QStringLiteral("Verwijderen"),
+            .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+}
+
+const QString OK = QStringLiteral("OK");
+const QString Annuleren = QStringLiteral("Annuleren");
+const QString regel3 = QStringLiteral("Weet u zeker dat u regel 3 wilt verwijderen?");
+const QString geenRegel = QStringLiteral("Er is geen regel geselecteerd!");
+
+class VerwijderTest : public Hoofdvensterproef {
+  protected:
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
+
+    /// The lines of the player file without the one of this key, numbered anew.
+    static std::string ZonderSleutels(const std::string& bestand,
+                                      const std::vector<std::string>& sleutels)
+    {
+        std::string uit;
+        int nr = 0;
+        for (const std::string& regel : RegelsVan(bestand)) {
+            if (regel.starts_with("HKEY=")) {
+                uit += regel + "\r\n";
+                continue;
+            }
+            const auto komma = regel.find(',');
+            const std::string sleutel = regel.substr(komma + 1, 6);
+            if (std::find(sleutels.begin(), sleutels.end(), sleutel) == sleutels.end())
+                uit += std::to_string(++nr) + regel.substr(komma) + "\r\n";
+        }
+        return uit;
+    }
+
+    [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
+};
+
+} // namespace
+
+TEST_F(VerwijderTest, VerwijdertDeGetoondeRegelNietDeTabelrij)
+{
+    const std::string oud = suite.Spelers();
+    KiesGroep(2);
+    KiesRegel(3);
+    const std::string sleutel = GekozenSleutel();
+    wachter.Verwacht(Verwijdervraag(regel3, OK));
+    wachter.Informatie(QStringLiteral("De regel is verwijderd."));
+    Klik(Knop("cmdVerwijder"));
+    wachter.Klaar();
+    EXPECT_NE("100003", sleutel);
+    EXPECT_EQ(ZonderSleutels(oud, {sleutel}), suite.Spelers());
+    EXPECT_EQ("Aantal regels: 24", Aantal());
+    EXPECT_EQ(0, GekozenRegel());
+    EXPECT_EQ(2, GetoondeGroep());
+}
+
+TEST_F(VerwijderTest, DeleteVerwijdertDeGekozenRegel)
+{
+    const std::string oud = suite.Spelers();
+    KiesRegel(3);
+    wachter.Verwacht(Verwijdervraag(regel3, OK));
+    wachter.Informatie(QStringLiteral("De regel is verwijderd."));
+    Toets(Qt::Key_Delete);
+    wachter.Klaar();
+    EXPECT_EQ(ZonderSleutels(oud, {"100003"}), suite.Spelers());
+}
+
+TEST_F(VerwijderTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
+{
+    const std::string oud = suite.Spelers();
+    KiesRegel(3);
+    for (const QString& antwoord : {Annuleren, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
+        wachter.Verwacht(Verwijdervraag(regel3, antwoord));
+        Klik(Knop("cmdVerwijder"));
+        wachter.Klaar();
+        EXPECT_EQ(3, GekozenRegel());
+    }
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 50", Aantal());
+}
+
+TEST_F(VerwijderTest, ZonderGekozenRegelIsErNietsTeVerwijderen)
+{
+    const std::string oud = suite.Spelers();
+    wachter.Waarschuwing(geenRegel);
+    Klik(Knop("cmdVerwijder"));
+    wachter.Waarschuwing(geenRegel);
+    Toets(Qt::Key_Delete);
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(VerwijderTest, VerwijdertVanTotEnMet)
+{
+    const std::string oud = suite.Spelers();
+    KiesGroep(3);
+    std::vector<std::string> sleutels;
+    for (const int regel : {4, 5, 6}) {
+        KiesRegel(regel);
+        sleutels.push_back(GekozenSleutel());
+    }
+    Keus("cmbVerwVan")->setCurrentIndex(3);
+    Keus("cmbVerwTot")->setCurrentIndex(5);
+    wachter.Verwacht(Verwijdervraag(
+        QStringLiteral("Weet u zeker dat u regel 4 t/m regel 6 wilt verwijderen?"), OK));
+    wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
+    Klik(Knop("cmdVerwijderVT"));
+    wachter.Klaar();
+    EXPECT_EQ(ZonderSleutels(oud, sleutels), suite.Spelers());
+    EXPECT_EQ("Aantal regels: 6", Aantal());
+    EXPECT_EQ(3, GetoondeGroep());
+    EXPECT_EQ(6, Keus("cmbVerwTot")->count());
+}
+
+TEST_F(VerwijderTest, EenHeleGroepVerwijderenLaatDeGroepLeegStaan)
+{
+    KiesGroep(3);
+    Keus("cmbVerwTot")->setCurrentIndex(8);
+    wachter.Verwacht(Verwijdervraag(
+        QStringLiteral("Weet u zeker dat u regel 1 t/m regel 9 wilt verwijderen?"), OK));
+    wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
+    Klik(Knop("cmdVerwijderVT"));
+    wachter.Klaar();
+    EXPECT_EQ("Aantal regels: 0", Aantal());
+    EXPECT_EQ(3, GetoondeGroep());
+    EXPECT_EQ(139U + 1, RegelsVan(suite.Spelers()).size());
+}
+
+TEST_F(VerwijderTest, AnnulerenVanVanTotVerwijdertNiets)
+{
+    const std::string oud = suite.Spelers();
+    KiesGroep(3);
+    Keus("cmbVerwVan")->setCurrentIndex(1);
+    Keus("cmbVerwTot")->setCurrentIndex(1);
+    wachter.Verwacht(Verwijdervraag(
+        QStringLiteral("Weet u zeker dat u regel 2 t/m regel 2 wilt verwijderen?"), Annuleren));
+    Klik(Knop("cmdVerwijderVT"));
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 9", Aantal());
+}
+
+TEST_F(VerwijderTest, VanNaTotWordtGeweigerd)
+{
+    const std::string oud = suite.Spelers();
+    KiesGroep(3);
+    Keus("cmbVerwVan")->setCurrentIndex(4);
+    Keus("cmbVerwTot")->setCurrentIndex(2);
+    wachter.Waarschuwing(
+        QStringLiteral("Er is niets verwijderd: regel 5 komt na regel 3. Kies bij 'Van regel' de "
+                       "eerste en bij 'T/m regel' de laatste regel."));
+    Klik(Knop("cmdVerwijderVT"));
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+/// Meant: a register without players is never written, so the last players come back.
+TEST_F(VerwijderTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
+{
+    const std::string oud = "HKEY=100009\r\n1,100001,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n"
+                            "2,100002,Gr01-,Piet,,Dam,,,,,,,M,,,,,\r\n";
+    suite.Zet("Spelers/RVDspelers.txt", oud);
+    ASSERT_NO_FATAL_FAILURE(Herstart());
+    Keus("cmbVerwTot")->setCurrentIndex(1);
+    wachter.Verwacht(Verwijdervraag(
+        QStringLiteral("Weet u zeker dat u regel 1 t/m regel 2 wilt verwijderen?"), OK));
+    wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
+    wachter.Informatie(
+        QStringLiteral("Een register zonder spelers wordt niet opgeslagen: het spelerbestand houdt "
+                       "zijn laatste inhoud, en die ziet u nu weer."));
+    Klik(Knop("cmdVerwijderVT"));
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 2", Aantal());
+}
+
+TEST_F(VerwijderTest, DeSleutelVanEenVerwijderdeSpelerKomtNooitTerug)
+{
+    KiesGroep(10);
+    Toets(Qt::Key_End);
+    wachter.Verwacht(
+        Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 8 wilt verwijderen?"), OK));
+    wachter.Informatie(QStringLiteral("De regel is verwijderd."));
+    Toets(Qt::Key_Delete);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_6", QStringLiteral("Nieuw"));
+        Klik(Vind<QPushButton>(ingave, "cmdOK"));
+    });
+    Klik(Knop("cmdAanm"));
+    wachter.Klaar();
+    const auto regels = RegelsVan(suite.Spelers());
+    EXPECT_EQ("HKEY=100172", regels.front());
+    EXPECT_EQ("148,100172,Gr10-,,,Nieuw,,,,,,,M,,,,,", regels.back());
+}

@@ -1,0 +1,304 @@
+// The start-up on files that are damaged, unreadable or of something else.
+#include "mainwindow/opstartproef.h"
+
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
+using namespace plexoran;
+
+namespace {
+
+const std::string ruis("\x93\xFF\x00\x01PK\x03\x04\r\n\x81,\x8D\x00\x00\n\xE2\x28\xA1", 22);
+
+} // namespace
+
+TEST_F(Opstartproef, RuisInHetSpelerbestandWordtGemeldEnPasNaEenKopieVervangen)
+{
+    ZetSpelers(ruis);
+    ZetGroepen(KaleGroepen());
+    VerwachtNietTotHetEinde(0, 1, 1);
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ(ruis, Spelers());
+    EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDspelers"));
+
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_EQ(std::vector<Tekst>{ruis}, Kopieen("RVDspelers"));
+    EXPECT_EQ("HKEY=100001\r\n1,100001,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n", Spelers());
+}
+
+TEST_F(Opstartproef, EenTeKorteRegelInDeEersteGangLaatDeTabelLeeg)
+{
+    const std::string oud = "HKEY=100007\r\n" + Speler("1", "100001", "Gr01-", "Bos") +
+                            "\r\n2,100002,Gr01-,Piet,\r\n" + Speler("3", "100003", "Gr01-", "Dam") +
+                            "\r\n";
+    ZetSpelers(oud);
+    VerwachtNietTotHetEinde(0, 5, 3);
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("Aantal regels: 0", Label("Label3")->text().toStdString());
+    EXPECT_EQ(oud, Spelers());
+    EXPECT_EQ(100007, administratie.spelers.HKEY);
+
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+    EXPECT_EQ("HKEY=100008\r\n1,100008,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n", Spelers());
+}
+
+TEST_F(Opstartproef, EenHalveRegelAanHetEindHoudtDeRijenErvoor)
+{
+    const std::string heel = "HKEY=100007\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n" +
+                             Speler("2", "100002", "Gr02-", "Dam") + "\r\n";
+    const std::string oud = heel + "3,100003,Gr01-,Jan,,Elst,06-1234";
+    ZetSpelers(oud);
+    VerwachtNietTotHetEinde(2, 7, 4);
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
+    EXPECT_EQ(oud, Spelers());
+
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+    EXPECT_EQ("HKEY=100008\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n" +
+                  Speler("2", "100002", "Gr02-", "Dam") +
+                  "\r\n3,100008,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n",
+              Spelers());
+
+    // What was left out stands in the copy; the next save needs none.
+    VoegToe(QStringLiteral("Tweede"));
+    EXPECT_EQ(1U, Kopieen("RVDspelers").size());
+}
+
+TEST_F(Opstartproef, EenOnmogelijkeSleutelregelWordtGemeld)
+{
+    ZetSpelers("HKEY=99999999999\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n");
+    wachter.Waarschuwing(isNogLeeg);
+    wachter.Informatie(QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan "
+                                      "nu 0 spelers in de tabel.\n\n") +
+                       Spelerbestand + QStringLiteral("\nRegel: 1") + blijftZoHetIs);
+    ASSERT_EQ(std::nullopt, Laad());
+}
+
+TEST_F(Opstartproef, LegeRegelsGevenGeenBericht)
+{
+    const std::string oud =
+        "HKEY=100007\r\n\r\n   \r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n\r\n\r\n";
+    ZetSpelers(oud);
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
+    EXPECT_EQ(oud, Spelers());
+}
+
+TEST_F(Opstartproef, ZonderSleutelregelBegintDeTellingBijDeBasis)
+{
+    ZetSpelers(Speler("1", "100007", "Gr01-", "Bos") + "\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ(0, administratie.spelers.HKEY);
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_EQ("HKEY=100001\r\n" + Speler("1", "100007", "Gr01-", "Bos") +
+                  "\r\n2,100001,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n",
+              Spelers());
+    EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDspelers"));
+}
+
+TEST_F(Opstartproef, SpelersZonderAchternaamWordenGenoemdEnBlijvenInEenKopie)
+{
+    const std::string oud = "HKEY=100007\r\n" + Speler("1", "100001", "Gr01-", "") + "\r\n" +
+                            Speler("2", "100002", "Gr01-", "Bos") + "\r\n" +
+                            Speler("3", "100003", "Gr01-", "") + "\r\n";
+    ZetSpelers(oud);
+    wachter.Informatie(QStringLiteral("Spelers zonder achternaam zijn niet ingelezen (aantal: 2, "
+                                      "op regel 2, 4 van het spelerbestand).") +
+                       blijftZoHetIs);
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+}
+
+TEST_F(Opstartproef, EenVeldVan64KBKomtOnveranderdTerug)
+{
+    const std::string lang(64 * 1024, 'x');
+    const std::string regel = "1,100001,Gr01-,Jan,,Bos,,," + lang + ",,,,M,,,,,";
+    ZetSpelers("HKEY=100001\r\n" + regel + "\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    QApplication::processEvents(); // painting it too
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_EQ("HKEY=100002\r\n" + regel + "\r\n2,100002,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n",
+              Spelers());
+}
+
+TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
+{
+    ZetSpelers(ruis);
+    ZetGroepen(KaleGroepen());
+    geheugen.Zet("C:\\RVD\\Spelers\\Reservekopie", "een bestand waar de map moet komen");
+    VerwachtNietTotHetEinde(0, 1, 1);
+    ASSERT_NO_FATAL_FAILURE(Start());
+    wachter.Bedien([](QDialog& dialoog) {
+        Schrijf(dialoog, "txt1_6", QStringLiteral("Nieuweling"));
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral(
+             "Er is niets opgeslagen: het spelerbestand bevat gegevens die niet zijn ingelezen, en "
+             "de kopie die daarvan eerst moet worden gemaakt in de map Reservekopie is "
+             "mislukt.\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging "
+             "staat nog wel in dit programma: verhelp de oorzaak en probeer het opnieuw, of ga "
+             "door; bij de volgende wijziging en bij het afsluiten wordt het weer "
+             "geprobeerd.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"),
+         .antwoord = QStringLiteral("Doorgaan"),
+         .icoon = QMessageBox::Critical,
+         .knoppen = {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")},
+         .alleenBegin = true});
+    Klik(Knop("cmdAanm"));
+    wachter.Klaar();
+    EXPECT_EQ(ruis, Spelers());
+    EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
+    EXPECT_TRUE(venster->isWindowModified());
+}
+
+TEST_F(Opstartproef, OnzinInPlexoIniWordtGemeldEnKomtInEenKopie)
+{
+    ZetInstellingen("dit is\r\ngeen instelling\r\n");
+    wachter.Informatie(
+        QStringLiteral("Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit "
+                       "programma. Voordat het wordt vervangen, komt er een kopie van in de map "
+                       "Reservekopie.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"));
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(1, GetoondeGroep());
+    EXPECT_EQ("OPTIND=0\r\nLOSTGR=0\r\n", Plexo());
+    EXPECT_EQ(std::vector<Tekst>{"dit is\r\ngeen instelling\r\n"}, Kopieen("Plexo"));
+}
+
+/// Reading ends at the number that does not fit 16 bits.
+TEST_F(Opstartproef, EenTeGrootGetalInPlexoIniBeeindigtHetLezen)
+{
+    ZetInstellingen("OPTIND=7\r\nLOSTGR=99999\r\nLOSTGR=3\r\n");
+    wachter.Verwacht({.tekst = QStringLiteral("Het bestand 'Plexo.ini' bevat iets anders"),
+                      .alleenBegin = true});
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(1, GetoondeGroep());
+    EXPECT_EQ(7, administratie.instellingen.OPTIND);
+}
+
+TEST_F(Opstartproef, OnzinInDeGroepsnamenWordtGemeldEnBlijftStaan)
+{
+    const std::string oud = "dit is geen groep\r\nGr01-Clubleden\r\n" + ruis;
+    ZetGroepen(oud);
+    wachter.Informatie(QStringLiteral(
+        "Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn. Die zijn "
+        "overgeslagen. Voordat het bestand wordt vervangen, komt er een kopie van in de map "
+        "Reservekopie.\n\nBestand: C:\\RVD\\Spelers\\RVDGroepen.txt"));
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("Gr01-Clubleden", Keus("cmbGr")->itemText(0).toStdString());
+    EXPECT_EQ("Gr02-", Keus("cmbGr")->itemText(1).toStdString());
+    EXPECT_EQ(oud, Groepen());
+
+    wachter.Bedien([](QDialog& namen) { Klik(Vind<QPushButton>(namen, "cmdOK")); });
+    Klik(Knop("cmdMaakGrNamen"));
+    wachter.Klaar();
+    EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDGroepen"));
+    std::string nieuw = KaleGroepen();
+    nieuw.replace(0, 5, "Gr01-Clubleden");
+    EXPECT_EQ(nieuw, Groepen());
+}
+
+TEST_F(Opstartproef, EenOnleesbaarSpelerbestandWordtGemeldEnNietVervangen)
+{
+    geheugen.ZetMap("C:\\RVD\\Spelers\\RVDspelers.txt"); // a folder of that name
+    wachter.Waarschuwing(isNogLeeg);
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan nu 0 "
+                                 "spelers in de tabel.\n\n") +
+                  Spelerbestand,
+         .alleenBegin = true});
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(Padsoort::Map, geheugen.Soort("C:\\RVD\\Spelers\\RVDspelers.txt").value());
+}
+
+TEST_F(Opstartproef, InEenSpelersmapDieNietBeschrevenMagWordenWerktHetKijken)
+{
+    const std::string oud = "HKEY=100007\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n";
+    ZetSpelers(oud);
+    ZetGroepen(KaleGroepen());
+    geheugen.ZetAlleenLezen("C:\\RVD\\Spelers");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
+}
+
+TEST_F(Opstartproef, InstellingenDieNietTeBewarenZijnWordenEenKeerGemeld)
+{
+    geheugen.ZetAlleenLezen("C:\\RVD\\Admin");
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("De instellingen van het programma kunnen niet worden bewaard. De "
+                                 "gegevens van de spelers zijn niet in gevaar: alleen de groep die "
+                                 "u het laatst zag en het terugkeerveld worden niet "
+                                 "onthouden.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Start());
+    KiesGroep(2);
+    KiesGroep(3);
+    EXPECT_EQ(3, GetoondeGroep());
+}
+
+#ifndef _WIN32
+// The same on the real disk, as a user who may read and not write.
+
+class OpstartOpSchijf : public Hoofdvensterproef {
+  protected:
+    /// Runs as a user without the rights of the administrator.
+    struct Gewoon {
+        Gewoon()
+        {
+            if (::geteuid() == 0 && ::seteuid(65534) == 0)
+                gewisseld = true;
+        }
+        ~Gewoon()
+        {
+            if (gewisseld && ::seteuid(0) != 0)
+                ADD_FAILURE() << "de rechten komen niet terug";
+        }
+        bool gewisseld = false;
+    };
+};
+
+TEST_F(OpstartOpSchijf, EenOnleesbaarMappenIniEindigtMetStatusEen)
+{
+    namespace fs = std::filesystem;
+    fs::permissions(suite.Weg() / "Mappen.ini", fs::perms::none);
+    const Gewoon gewoon;
+    wachter.Verwacht({.tekst = QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen."),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    venster = std::make_unique<frmLedenAdmin>(administratie);
+    const auto status =
+        venster->Laad({.mappenIni = suite.MappenIni(), .eersteExemplaar = [] { return true; }});
+    ASSERT_TRUE(status.has_value());
+    EXPECT_EQ(1, *status);
+}
+
+TEST_F(OpstartOpSchijf, OpEenAlleenLezenMapBlijftAllesStaan)
+{
+    namespace fs = std::filesystem;
+    const std::string spelers = suite.Spelers();
+    const auto leesbaar = fs::perms::owner_read | fs::perms::owner_exec | fs::perms::group_read |
+                          fs::perms::group_exec | fs::perms::others_read | fs::perms::others_exec;
+    fs::permissions(suite.Weg() / "Spelers", leesbaar);
+    fs::create_directory(suite.Weg() / "Bestanden" / "NBB4-Leden");
+    const Gewoon gewoon;
+    ASSERT_NO_FATAL_FAILURE(Start());
+    wachter.Bedien([](QDialog& dialoog) {
+        Schrijf(dialoog, "txt1_6", QStringLiteral("Nieuweling"));
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("De spelers konden niet worden opgeslagen.\n\nHet "
+                                              "spelerbestand op de schijf is heel gebleven."),
+                      .antwoord = QStringLiteral("Doorgaan"),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Klik(Knop("cmdAanm"));
+    wachter.Klaar();
+    EXPECT_EQ(spelers, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 51", Label("Label3")->text().toStdString());
+}
+#endif

@@ -1,0 +1,419 @@
+// The steps of the start-up and their order, seen from outside.
+#include <QRadioButton>
+
+#include <algorithm>
+
+#include "mainwindow/opstartproef.h"
+
+using namespace plexoran;
+
+// ---- The steps --------------------------------------------------------------------------------
+
+TEST_F(Opstartproef, TweedeExemplaarMeldtZichEnLeestOfSchrijftNiets)
+{
+    wachter.Informatie(isAlGestart);
+    const auto status = Laad(false);
+    ASSERT_TRUE(status.has_value());
+    EXPECT_EQ(0, *status);
+    EXPECT_EQ(std::vector<std::string>{}, schijf.log);
+    EXPECT_EQ(std::vector<Pad>{"C:\\RVD\\Mappen.ini"}, geheugen.AlleBestanden());
+}
+
+TEST_F(Opstartproef, HetEersteExemplaarWordtGevraagdVoordatIetsGelezenIs)
+{
+    venster = std::make_unique<frmLedenAdmin>(administratie);
+    std::size_t gedaan = 99;
+    ASSERT_EQ(std::nullopt,
+              venster->Laad({.mappenIni = "C:\\RVD\\Mappen.ini", .eersteExemplaar = [&] {
+                                 gedaan = schijf.log.size();
+                                 return true;
+                             }}));
+    EXPECT_EQ(0U, gedaan);
+}
+
+TEST_F(Opstartproef, DeStappenKomenInHunVolgorde)
+{
+    ASSERT_EQ(std::nullopt, Laad());
+    const std::vector<std::ptrdiff_t> stappen{Wanneer("lees C:\\RVD\\Mappen.ini"),
+                                              Wanneer("map C:\\RVD\\Bestanden\\NBB4-Leden"),
+                                              Wanneer("lees C:\\RVD\\Admin\\Plexo.ini"),
+                                              Wanneer("rekenprogramma"),
+                                              Wanneer("map C:\\RVD\\Spelers"),
+                                              Wanneer("lees C:\\RVD\\Spelers\\RVDGroepen.txt"),
+                                              Wanneer("schrijf C:\\RVD\\Spelers\\RVDGroepen.txt"),
+                                              Wanneer("lees C:\\RVD\\Spelers\\RVDspelers.txt"),
+                                              Wanneer("schrijf C:\\RVD\\Spelers\\RVDspelers.txt"),
+                                              Wanneer("schrijf C:\\RVD\\Admin\\Plexo.ini")};
+    EXPECT_TRUE(std::is_sorted(stappen.begin(), stappen.end()))
+        << testing::PrintToString(schijf.log);
+    EXPECT_EQ(0, stappen.front());
+    EXPECT_EQ(1, std::count(schijf.log.begin(), schijf.log.end(), "lees C:\\RVD\\Mappen.ini"));
+}
+
+TEST_F(Opstartproef, ZonderMappenIniNoemtHetBerichtHetHelePadEnIsDeStatusEen)
+{
+    static_cast<void>(geheugen.Verwijder("C:\\RVD\\Mappen.ini"));
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen.") +
+                  mappenvraag +
+                  QStringLiteral("Bestand: C:\\RVD\\Mappen.ini\nMelding van het systeem: "),
+         .icoon = QMessageBox::Critical,
+         .knoppen = {QStringLiteral("OK")},
+         .alleenBegin = true});
+    const auto status = Laad();
+    ASSERT_TRUE(status.has_value());
+    EXPECT_EQ(1, *status);
+    EXPECT_EQ(std::vector<std::string>{"lees C:\\RVD\\Mappen.ini"}, schijf.log);
+    EXPECT_EQ(std::vector<Pad>{}, geheugen.AlleBestanden());
+}
+
+TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
+{
+    for (const std::string& inhoud : {std::string(), std::string("RVDMAP=C:\\RVD\r\nSPEMAP=\r\n"),
+                                      std::string("\x00\xFF\x01\r\n,,=\xAB", 10)}) {
+        geheugen.Zet("C:\\RVD\\Mappen.ini", inhoud);
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("Het bestand 'Mappen.ini' noemt de map van de spelers niet: "
+                                     "er staat geen map achter SPEMAP=.") +
+                      mappenvraag + QStringLiteral("Bestand: C:\\RVD\\Mappen.ini"),
+             .icoon = QMessageBox::Critical});
+        const auto status = Laad();
+        ASSERT_TRUE(status.has_value());
+        EXPECT_EQ(1, *status);
+        EXPECT_EQ(std::vector<Pad>{"C:\\RVD\\Mappen.ini"}, geheugen.AlleBestanden());
+    }
+}
+
+TEST_F(Opstartproef, ZonderWINMAPGaatDeStartDoor)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\RVD\\Spelers\r\nADMMAP=C:\\RVD\\Admin\r\n");
+    wachter.Waarschuwing(
+        QStringLiteral("De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden "
+                       "gemaakt.\n\nEr staat geen map achter WINMAP= in 'Mappen.ini'."));
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("HKEY=100000\r\n", Spelers());
+    EXPECT_EQ(Padsoort::Niets, geheugen.Soort("\\NBB4-Leden").value());
+}
+
+TEST_F(Opstartproef, DeMapVoorLedenbestandenWordtGemaaktAlsZeOntbreekt)
+{
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(Padsoort::Map, geheugen.Soort("C:\\RVD\\Bestanden\\NBB4-Leden").value());
+}
+
+TEST_F(Opstartproef, DeMapVoorLedenbestandenMagErAlZijn)
+{
+    geheugen.Zet("C:\\RVD\\Bestanden\\NBB4-Leden\\Club.csv", "blijft");
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("blijft", geheugen.Inhoud("C:\\RVD\\Bestanden\\NBB4-Leden\\Club.csv"));
+}
+
+TEST_F(Opstartproef, EenLedenmapDieNietTeMakenIsWordtGemeldEnHoudtNietsTegen)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "WINMAP=D:\\weg\r\n");
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet "
+                                 "worden gemaakt.") +
+                  mapvraag + QStringLiteral("Bestand: D:\\weg\\NBB4-Leden\n"),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("HKEY=100000\r\n", Spelers());
+}
+
+TEST_F(Opstartproef, MaaktOntbrekendeBestandenTotOpDeByte)
+{
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(KaleGroepen(), Groepen());
+    EXPECT_EQ("HKEY=100000\r\n", Spelers());
+    EXPECT_EQ("OPTIND=0\r\nLOSTGR=0\r\n", Plexo());
+    EXPECT_EQ(4U, geheugen.AlleBestanden().size());
+    EXPECT_EQ(100000, administratie.spelers.HKEY);
+}
+
+TEST_F(Opstartproef, MaaktEenOntbrekendeSpelersmap)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "SPEMAP=C:\\RVD\\Nieuw\r\n");
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(KaleGroepen(), geheugen.Inhoud("C:\\RVD\\Nieuw\\RVDGroepen.txt"));
+    EXPECT_EQ("HKEY=100000\r\n", geheugen.Inhoud("C:\\RVD\\Nieuw\\RVDspelers.txt"));
+}
+
+/// A drive that is away must not turn into an empty register.
+TEST_F(Opstartproef, EenSpelersmapWaarvanOokDeMapErbovenOntbreektWordtGemeldEnNietGemaakt)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "SPEMAP=D:\\weg\\Spelers\r\n");
+    wachter.Verwacht({.tekst = QStringLiteral("De map van de spelers kon niet worden gemaakt.") +
+                               mapvraag + QStringLiteral("Bestand: D:\\weg\\Spelers\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    wachter.Waarschuwing(isNogLeeg);
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan nu 0 "
+                                 "spelers in de tabel.\n\nBestand: "
+                                 "D:\\weg\\Spelers\\RVDspelers.txt\nMelding van het systeem: "),
+         .alleenBegin = true});
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(Padsoort::Niets, geheugen.Soort("D:\\weg\\Spelers").value());
+    EXPECT_EQ(Padsoort::Niets, geheugen.Soort("D:\\weg").value());
+}
+
+TEST_F(Opstartproef, EenLeegGroepenbestandWordtGevuldZonderKopie)
+{
+    for (const char* leeg : {"", "  \r\n\r\n  "}) {
+        ZetGroepen(leeg);
+        ASSERT_EQ(std::nullopt, Laad());
+        EXPECT_EQ(KaleGroepen(), Groepen());
+        EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDGroepen"));
+    }
+}
+
+TEST_F(Opstartproef, EenBlancoEersteItemKostHetGroepenbestandMaarErKomtEenKopie)
+{
+    const std::string oud = "   \r\nGr01-Clubleden\r\nGr02-Avond\r\n";
+    ZetGroepen(oud);
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(KaleGroepen(), Groepen());
+    EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDGroepen"));
+}
+
+TEST_F(Opstartproef, EenKommaVooraanIsOokEenBlancoEersteItem)
+{
+    ZetGroepen(",Gr01-Clubleden\r\n");
+    ZetSpelers(",100001,Gr01-,Jan,,Jansen,,,,,,,M,,,,,\r\n");
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(KaleGroepen(), Groepen());
+    EXPECT_EQ("HKEY=100000\r\n", Spelers());
+    EXPECT_EQ(std::vector<Tekst>{",Gr01-Clubleden\r\n"}, Kopieen("RVDGroepen"));
+    EXPECT_EQ(std::vector<Tekst>{",100001,Gr01-,Jan,,Jansen,,,,,,,M,,,,,\r\n"},
+              Kopieen("RVDspelers"));
+}
+
+TEST_F(Opstartproef, EenLeegSpelerbestandKrijgtEenSleutelregelZonderKopie)
+{
+    for (const char* leeg : {"", "\r\n \r\n"}) {
+        ZetSpelers(leeg);
+        ASSERT_EQ(std::nullopt, Laad());
+        EXPECT_EQ("HKEY=100000\r\n", Spelers());
+        EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDspelers"));
+    }
+}
+
+TEST_F(Opstartproef, EenBlancoEersteItemKostHetSpelerbestandMaarErKomtEenKopie)
+{
+    const std::string oud = "\r\nHKEY=100200\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n";
+    ZetSpelers(oud);
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("HKEY=100000\r\n", Spelers());
+    EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+}
+
+TEST_F(Opstartproef, AlsDeKopieNietKanBlijftHetBlancoSpelerbestandStaan)
+{
+    const std::string oud = "\r\nHKEY=100200\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n";
+    ZetSpelers(oud);
+    ZetGroepen(KaleGroepen());
+    geheugen.Zet("C:\\RVD\\Spelers\\Reservekopie", "een bestand waar de map moet komen");
+    wachter.Verwacht({.tekst = QStringLiteral("Het spelerbestand kon niet worden gemaakt.") +
+                               mapvraag + QStringLiteral("Bestand: C:\\RVD\\Spelers\\Reservekopie"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(oud, Spelers());
+}
+
+TEST_F(Opstartproef, EenSpelerbestandMetAlleenDeSleutelregelGeeftGeenBericht)
+{
+    ZetSpelers("HKEY=100123\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ(100123, administratie.spelers.HKEY);
+    EXPECT_EQ("Aantal regels: 0", Label("Label3")->text().toStdString());
+    EXPECT_EQ("HKEY=100123\r\n", Spelers());
+}
+
+TEST_F(Opstartproef, VultDeGroepenlijstMetCodeEnNaam)
+{
+    std::string groepen = KaleGroepen();
+    groepen.replace(groepen.find("Gr02-"), 5, "Gr02-Caf\xE9 & bar");
+    ZetGroepen(groepen);
+    ASSERT_EQ(std::nullopt, Laad());
+    const QComboBox* cmbGr = Keus("cmbGr");
+    ASSERT_EQ(50, cmbGr->count());
+    EXPECT_EQ("Gr01-", cmbGr->itemText(0).toStdString());
+    EXPECT_EQ("Gr02-Café & bar", cmbGr->itemText(1).toStdString());
+    EXPECT_EQ("Gr50-", cmbGr->itemText(49).toStdString());
+    EXPECT_EQ(groepen, Groepen());
+}
+
+/// Meant: names go by their place, whatever number stands in the file.
+TEST_F(Opstartproef, EenGroepsnaamHoortBijZijnPlaatsNietBijZijnNummer)
+{
+    ZetGroepen("Gr01-\r\nGr02-\r\nGr07-Junioren\r\n");
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("Gr03-Junioren", Keus("cmbGr")->itemText(2).toStdString());
+    EXPECT_EQ("Gr07-", Keus("cmbGr")->itemText(6).toStdString());
+}
+
+// ---- Settings and buttons ---------------------------------------------------------------------
+
+TEST_F(Opstartproef, DeLaatsteGroepKomtTerug)
+{
+    ZetInstellingen("OPTIND=8\r\nLOSTGR=11\r\n");
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(12, GetoondeGroep());
+    EXPECT_EQ(8, administratie.instellingen.OPTIND);
+    EXPECT_EQ("OPTIND=8\r\nLOSTGR=11\r\n", Plexo());
+}
+
+TEST_F(Opstartproef, DeLaatsteVanDeLijstMag)
+{
+    ZetInstellingen("OPTIND=0\r\nLOSTGR=49\r\n");
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(50, GetoondeGroep());
+}
+
+TEST_F(Opstartproef, EenPlaatsBuitenDeLijstIsDeEersteGroep)
+{
+    for (const char* plaats : {"50", "-1", "32767", "-32768"}) {
+        ZetInstellingen(std::string("OPTIND=8\r\nLOSTGR=") + plaats + "\r\n");
+        ASSERT_EQ(std::nullopt, Laad());
+        EXPECT_EQ(1, GetoondeGroep()) << plaats;
+        EXPECT_EQ("OPTIND=8\r\nLOSTGR=0\r\n", Plexo());
+    }
+}
+
+TEST_F(Opstartproef, ZonderInstellingenDeEersteGroep)
+{
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ(1, GetoondeGroep());
+    EXPECT_EQ(0, administratie.instellingen.OPTIND);
+}
+
+TEST_F(Opstartproef, NEWPAGREenToontHetParenOnderhoud)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "NEWPAGR=1\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_TRUE(Knop("cmdParenOnderhoud")->isVisible());
+}
+
+TEST_F(Opstartproef, NEWPAGRTweeOfAfwezigVerbergtHetParenOnderhoud)
+{
+    for (const char* regel : {"NEWPAGR=2\r\n", "", "NEWPAGR=65537\r\n"}) {
+        geheugen.Zet("C:\\RVD\\Mappen.ini", ini + regel);
+        ASSERT_NO_FATAL_FAILURE(Start());
+        EXPECT_FALSE(Knop("cmdParenOnderhoud")->isVisible()) << regel;
+    }
+}
+
+TEST_F(Opstartproef, NBB28UITEenVerbergtDeGatenlijst)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "NBB28UIT=1\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_FALSE(Knop("cmdToonGatenlijst")->isVisible());
+    KiesGroep(5);
+    EXPECT_FALSE(Knop("cmdToonGatenlijst")->isVisible());
+}
+
+TEST_F(Opstartproef, NBB28UITAndersToontDeGatenlijst)
+{
+    for (const char* regel : {"NBB28UIT=2\r\n", ""}) {
+        geheugen.Zet("C:\\RVD\\Mappen.ini", ini + regel);
+        ASSERT_NO_FATAL_FAILURE(Start());
+        EXPECT_TRUE(Knop("cmdToonGatenlijst")->isVisible()) << regel;
+    }
+}
+
+TEST_F(Opstartproef, ODNBB4SPVerbergtHetImporterenOokInDeImportgroep)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "ODKEYS=x,ODNBB4SP,ODNBB28\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    KiesGroep(5);
+    EXPECT_FALSE(Knop("cmdHaalNBBnamen")->isVisible());
+    EXPECT_TRUE(Knop("cmdToonGatenlijst")->isVisible());
+}
+
+/// Meant: with this word no display of a group touches the import button, so it stays as it began.
+TEST_F(Opstartproef, ODNBB28VerbergtDeGatenlijstEnLaatHetImporterenStaan)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "ODKEYS=ODNBB28\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    for (const int groep : {1, 5, 2}) {
+        KiesGroep(groep);
+        EXPECT_FALSE(Knop("cmdToonGatenlijst")->isVisible());
+        EXPECT_TRUE(Knop("cmdHaalNBBnamen")->isVisible());
+    }
+}
+
+/// Meant: hidden after the first display, also when that is the import group.
+TEST_F(Opstartproef, HetKoppelenIsNaDeStartVerborgenOokInDeImportgroep)
+{
+    ZetInstellingen("OPTIND=0\r\nLOSTGR=4\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    ASSERT_EQ(5, GetoondeGroep());
+    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
+    EXPECT_TRUE(Knop("cmdHaalNBBnamen")->isVisible());
+    KiesGroep(6);
+    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
+    KiesGroep(5);
+    EXPECT_TRUE(Knop("cmdKoppel")->isVisible());
+    KiesGroep(1);
+    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
+}
+
+TEST_F(Opstartproef, DeKolombreedteVolgtEerstDeHeader)
+{
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_TRUE(Vink("chkKolBr")->isChecked());
+    EXPECT_FALSE(Vink("chkToonAlle")->isChecked());
+}
+
+TEST_F(Opstartproef, DeVasteTeksten)
+{
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("Onderhoud Plexoran[*]", venster->windowTitle().toStdString());
+    EXPECT_FALSE(venster->isWindowModified());
+    EXPECT_EQ("Met dit programma moet u de gegevens van de spelers vastleggen en bewaren.\n"
+              "Bij het opzetten van de zitting moet u kiezen uit deze spelers.",
+              Label("lblToel")->text().toStdString());
+    EXPECT_EQ("Kies spelergroep:", Label("Label1")->text().toStdString());
+}
+
+TEST_F(Opstartproef, DeImportgroepStaatInDeMappen)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "dfimpg=Gr02-\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("Subgr", Header(17)->text().toStdString());
+    KiesGroep(2);
+    EXPECT_EQ("NBBgr", Header(17)->text().toStdString());
+    EXPECT_EQ("NBBnr", Header(18)->text().toStdString());
+    KiesGroep(5);
+    EXPECT_EQ("Subgr", Header(17)->text().toStdString());
+}
+
+// ---- The scoring program ----------------------------------------------------------------------
+
+TEST_F(Opstartproef, DeDatamapVanHetRekenprogrammaDatErIs)
+{
+    winkel.Zet("Bridge-It", "DataRoot", "C:\\Bridge");
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("C:\\Bridge\\data", administratie.DataMap);
+}
+
+TEST_F(Opstartproef, ZonderRekenprogrammaBlijftDeDatamapLeeg)
+{
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("", administratie.DataMap);
+}
+
+TEST_F(Opstartproef, TweeRekenprogrammasVragenEenKeus)
+{
+    winkel.Zet("Bridge-It", "DataRoot", "C:\\Bridge");
+    winkel.Zet("NBB-Rekenprogramma", "DataRoot", "C:\\NBBR");
+    wachter.Bedien([](QDialog& keus) {
+        EXPECT_EQ("diaRekProgkeus", keus.objectName().toStdString());
+        Klik(Vind<QRadioButton>(keus, "Option1"), {8, 8});
+        Klik(Vind<QPushButton>(keus, "cmdOK"));
+    });
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("C:\\NBBR\\data", administratie.DataMap);
+}

@@ -1,0 +1,194 @@
+// The start-up on a disk in memory that writes down what happens to it.
+#pragma once
+
+#include <algorithm>
+
+#include "mainwindow/vensterproef.h"
+#include "platform/geheugenSchijf.h"
+
+namespace plexoran {
+
+inline const QString isAlGestart = QStringLiteral("Het programma is al gestart!...");
+inline const QString isNogLeeg =
+    QStringLiteral("Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!");
+inline const QString mappenvraag = QStringLiteral(
+    "\n\nIn dat bestand staat in welke mappen uw gegevens worden bewaard; zonder kan dit programma "
+    "niet werken. Zet het goede bestand op deze plaats, of start Plexoran met --mappen en de naam "
+    "van het bestand.\n\n");
+inline const QString mapvraag =
+    QStringLiteral("\n\nKijk na of de map in 'Mappen.ini' bestaat en of u "
+                   "erin mag schrijven.\n\n");
+inline const QString blijftZoHetIs =
+    QStringLiteral("\n\nHet bestand zelf is niet veranderd. Voordat dit programma het de eerste "
+                   "keer vervangt, komt er een kopie van in de map Reservekopie.");
+inline const QString Spelerbestand = QStringLiteral("Bestand: C:\\RVD\\Spelers\\RVDspelers.txt");
+
+inline const std::string ini = "RVDMAP=C:\\RVD\r\n"
+                               "ADMMAP=C:\\RVD\\Admin\r\n"
+                               "SPEMAP=C:\\RVD\\Spelers\r\n"
+                               "WINMAP=C:\\RVD\\Bestanden\r\n"
+                               "DFIMPG=Gr05-\r\n";
+
+/// The group file as it is made new.
+inline std::string KaleGroepen()
+{
+    std::string tekst;
+    for (int nummer = 1; nummer <= 50; ++nummer)
+        tekst += std::string("Gr") + (nummer < 10 ? "0" : "") + std::to_string(nummer) + "-\r\n";
+    return tekst;
+}
+
+inline std::string Speler(const std::string& nr, const std::string& sleutel,
+                          const std::string& groep, const std::string& achternaam)
+{
+    return nr + "," + sleutel + "," + groep + ",Jan,," + achternaam + ",,,,,,,M,,,,,";
+}
+
+/// Writes down each operation that the start-up does on the disk inside.
+class Logschijf : public Schijf {
+  public:
+    explicit Logschijf(Schijf& binnen) : binnen_(binnen) {}
+
+    std::vector<std::string> log;
+
+    Uitkomst<Padsoort> Soort(const Pad& pad) override { return binnen_.Soort(pad); }
+    Uitkomst<Tekst> LeesBestand(const Pad& pad) override
+    {
+        log.push_back("lees " + pad);
+        return binnen_.LeesBestand(pad);
+    }
+    Uitkomst<Stempel> NeemStempel(const Pad& pad) override { return binnen_.NeemStempel(pad); }
+    Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) override
+    {
+        return binnen_.Bestanden(map);
+    }
+    Uitkomst<void> MaakMap(const Pad& map) override
+    {
+        log.push_back("map " + map);
+        return binnen_.MaakMap(map);
+    }
+    Uitkomst<Pad> Doel(const Pad& pad) override { return binnen_.Doel(pad); }
+    Uitkomst<std::unique_ptr<Schrijver>> MaakNieuw(const Pad& pad) override
+    {
+        return binnen_.MaakNieuw(pad);
+    }
+    Uitkomst<void> NeemRechtenOver(const Pad& van, const Pad& naar) override
+    {
+        return binnen_.NeemRechtenOver(van, naar);
+    }
+    Uitkomst<void> Hernoem(const Pad& van, const Pad& naar) override
+    {
+        log.push_back("schrijf " + naar);
+        return binnen_.Hernoem(van, naar);
+    }
+    Uitkomst<void> Verwijder(const Pad& pad) override { return binnen_.Verwijder(pad); }
+    Uitkomst<void> SyncMapVan(const Pad& pad) override { return binnen_.SyncMapVan(pad); }
+    std::string Toonpad(const Pad& pad) const override { return binnen_.Toonpad(pad); }
+
+  private:
+    Schijf& binnen_;
+};
+
+class Logwinkel : public Proefwinkel {
+  public:
+    explicit Logwinkel(Logschijf& schijf) : schijf_(schijf) {}
+    std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
+    {
+        schijf_.log.emplace_back("rekenprogramma");
+        return Proefwinkel::Waarde(toepassing, sectie, sleutel);
+    }
+
+  private:
+    Logschijf& schijf_;
+};
+
+class Opstartproef : public Vensterproef {
+  protected:
+    Opstartproef()
+    {
+        geheugen.ZetMap("C:\\RVD\\Admin");
+        geheugen.ZetMap("C:\\RVD\\Spelers");
+        geheugen.ZetMap("C:\\RVD\\Bestanden");
+        geheugen.Zet("C:\\RVD\\Mappen.ini", ini);
+    }
+    ~Opstartproef() override { venster.reset(); }
+
+    std::optional<int> Laad(bool eersteExemplaar = true)
+    {
+        venster = std::make_unique<frmLedenAdmin>(administratie);
+        const auto status =
+            venster->Laad({.mappenIni = "C:\\RVD\\Mappen.ini",
+                           .eersteExemplaar = [eersteExemplaar] { return eersteExemplaar; }});
+        wachter.Klaar();
+        return status;
+    }
+    void Start()
+    {
+        ASSERT_EQ(std::nullopt, Laad());
+        ASSERT_NO_FATAL_FAILURE(Toon());
+    }
+
+    void ZetSpelers(const std::string& inhoud)
+    {
+        geheugen.Zet("C:\\RVD\\Spelers\\RVDspelers.txt", inhoud);
+    }
+    void ZetGroepen(const std::string& inhoud)
+    {
+        geheugen.Zet("C:\\RVD\\Spelers\\RVDGroepen.txt", inhoud);
+    }
+    void ZetInstellingen(const std::string& inhoud)
+    {
+        geheugen.Zet("C:\\RVD\\Admin\\Plexo.ini", inhoud);
+    }
+    std::optional<Tekst> Spelers() { return geheugen.Inhoud("C:\\RVD\\Spelers\\RVDspelers.txt"); }
+    std::optional<Tekst> Groepen() { return geheugen.Inhoud("C:\\RVD\\Spelers\\RVDGroepen.txt"); }
+    std::optional<Tekst> Plexo() { return geheugen.Inhoud("C:\\RVD\\Admin\\Plexo.ini"); }
+
+    /// The contents of the copies of a file, such as "RVDspelers".
+    std::vector<Tekst> Kopieen(const Tekst& naam)
+    {
+        std::vector<Tekst> inhouden;
+        for (const Pad& pad : geheugen.AlleBestanden()) {
+            if (pad.starts_with("C:\\RVD\\Spelers\\Reservekopie\\" + naam + " "))
+                inhouden.push_back(*geheugen.Inhoud(pad));
+        }
+        return inhouden;
+    }
+
+    /// Where a line first stands in the log; far behind everything when it does not.
+    std::ptrdiff_t Wanneer(const std::string& regel) const
+    {
+        const auto plaats = std::find(schijf.log.begin(), schijf.log.end(), regel);
+        EXPECT_NE(schijf.log.end(), plaats) << regel << " is niet gebeurd";
+        return plaats - schijf.log.begin();
+    }
+
+    void VerwachtNietTotHetEinde(int spelers, int velden, int regel)
+    {
+        wachter.Waarschuwing(isNogLeeg);
+        wachter.Informatie(
+            QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan nu %1 "
+                           "spelers in de tabel. De genoemde regel heeft %2 velden in plaats van "
+                           "18.\n\n")
+                .arg(spelers)
+                .arg(velden) +
+            Spelerbestand + QStringLiteral("\nRegel: %1").arg(regel) + blijftZoHetIs);
+    }
+
+    void VoegToe(const QString& achternaam)
+    {
+        wachter.Bedien([achternaam](QDialog& dialoog) {
+            Schrijf(dialoog, "txt1_6", achternaam);
+            Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+        });
+        Klik(Knop("cmdAanm"));
+        wachter.Klaar();
+    }
+
+    GeheugenSchijf geheugen;
+    Logschijf schijf{geheugen};
+    Logwinkel winkel{schijf};
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+};
+
+} // namespace plexoran

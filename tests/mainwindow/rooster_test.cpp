@@ -1,0 +1,411 @@
+// The grid at work: selecting by mouse and keys, scrolling, column widths, what is drawn.
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <cmath>
+
+#include "mainwindow/vensterproef.h"
+#include "platform/scherm/meter.h"
+
+using namespace plexoran;
+
+namespace {
+
+class RoosterTest : public Hoofdvensterproef {
+  protected:
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
+
+    void KlikOpHoogte(double mm) const { Klik(Vlak(), {40, static_cast<int>(std::ceil(Y(mm)))}); }
+
+    /// The guide lines lie on the boundaries of a line, over the whole drawn width.
+    void VerwachtLijnenOm(int regel) const
+    {
+        for (const auto& [naam, mm] :
+             {std::pair("Line1", (regel - 1) * 4.4 + 5), std::pair("Line2", regel * 4.4 + 5)}) {
+            const QWidget* lijn = Deel(naam);
+            EXPECT_TRUE(lijn->isVisible()) << naam;
+            EXPECT_NEAR(Y(mm), lijn->y() + lijn->height() / 2.0, 1.0) << naam;
+            EXPECT_LE(lijn->height(), 3) << naam;
+            EXPECT_EQ(-Balk("HScroll1")->value(), lijn->x()) << naam;
+            EXPECT_NEAR(Tekenbreedte(), lijn->width(), 1.0) << naam;
+        }
+    }
+    [[nodiscard]] int Tekenbreedte() const
+    {
+        const QPushButton* laatste = Header(18);
+        return laatste->x() + laatste->width();
+    }
+    /// Whether the whole line can be seen, below the header.
+    [[nodiscard]] bool InBeeld(int regel) const
+    {
+        const double boven = Y((regel - 1) * 4.4 + 5);
+        const double onder = Y(regel * 4.4 + 5);
+        return boven >= Deel("P9")->height() - 1 && onder <= Vlak()->height() + 1;
+    }
+
+    void Wiel(QPoint hoek, QWidget* boven = nullptr) const
+    {
+        QWidget* doel = boven == nullptr ? Vlak() : boven;
+        const QPointF plek(20, 40);
+        QWheelEvent gebeurtenis(plek, doel->mapToGlobal(plek), {}, hoek, Qt::NoButton,
+                                Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&gebeurtenis); // only then it goes on to the parents
+        qApp->notify(doel, &gebeurtenis);
+    }
+
+    [[nodiscard]] QImage Beeld() const
+    {
+        Deel("cmdEinde")->setFocus(); // without the frame of the focus
+        QApplication::processEvents();
+        return Vlak()->grab().toImage();
+    }
+};
+
+int Donkere(const QImage& beeld, QRect deel)
+{
+    int aantal = 0;
+    deel = deel.intersected(beeld.rect());
+    for (int y = deel.top(); y <= deel.bottom(); ++y)
+        for (int x = deel.left(); x <= deel.right(); ++x)
+            aantal += beeld.pixelColor(x, y).lightness() < 120;
+    return aantal;
+}
+
+} // namespace
+
+// ---- Selecting by mouse -----------------------------------------------------------------------
+
+TEST_F(RoosterTest, OpZevenDeEersteOpTienDeTweedeEnErbovenGeen)
+{
+    KlikOpHoogte(7);
+    EXPECT_EQ(1, GekozenRegel());
+    VerwachtLijnenOm(1);
+    KlikOpHoogte(10);
+    EXPECT_EQ(2, GekozenRegel());
+    VerwachtLijnenOm(2);
+    KlikOpHoogte(4);
+    EXPECT_EQ(0, GekozenRegel());
+    EXPECT_FALSE(Deel("Line1")->isVisible());
+    EXPECT_FALSE(Deel("Line2")->isVisible());
+}
+
+TEST_F(RoosterTest, OnderDeLaatsteRegelIsGeenKeus)
+{
+    KiesGroep(3); // nine lines
+    KlikOpHoogte(5 + 9 * 4.4 - 1);
+    EXPECT_EQ(9, GekozenRegel());
+    KlikOpHoogte(5 + 9 * 4.4 + 1);
+    EXPECT_EQ(0, GekozenRegel());
+}
+
+TEST_F(RoosterTest, DeRechterknopKiestNiets)
+{
+    KiesRegel(2);
+    QTest::mouseClick(Vlak(), Qt::RightButton, {}, OpRegel(5));
+    EXPECT_EQ(2, GekozenRegel());
+}
+
+TEST_F(RoosterTest, NaSchuivenKiestEenKlikDeRegelDieErStaat)
+{
+    Balk("VScroll1")->setValue(100);
+    KiesRegel(9);
+    EXPECT_EQ(9, GekozenRegel());
+    VerwachtLijnenOm(9);
+}
+
+TEST_F(RoosterTest, DeLijnenSchuivenMee)
+{
+    KiesRegel(9);
+    Vink("chkKolBr")->click(); // columns as wide as their texts
+    Balk("VScroll1")->setValue(57);
+    Balk("HScroll1")->setValue(31);
+    ASSERT_EQ(31, Balk("HScroll1")->value());
+    VerwachtLijnenOm(9);
+}
+
+TEST_F(RoosterTest, EenKlikOpDeHeaderVerbergtDeLijnenEnLaatDeKeus)
+{
+    KiesRegel(4);
+    Klik(Header(6), {5, 5});
+    EXPECT_FALSE(Deel("Line1")->isVisible());
+    EXPECT_FALSE(Deel("Line2")->isVisible());
+    EXPECT_EQ(4, GekozenRegel());
+    wachter.Bedien([](QDialog& ingave) {
+        EXPECT_EQ("Regelnummer 4", Vind<QLabel>(ingave, "Label1")->text().toStdString());
+        Klik(Vind<QPushButton>(ingave, "cmdAnnuleren"));
+    });
+    Klik(Knop("cmdWijzig"));
+    wachter.Klaar();
+}
+
+TEST_F(RoosterTest, DeHeaderNeemtDeFocusNiet)
+{
+    Vlak()->setFocus();
+    Klik(Header(6), {5, 5});
+    EXPECT_TRUE(Vlak()->hasFocus());
+    EXPECT_EQ(18, Deel("P2")->findChildren<QPushButton*>().size());
+}
+
+// ---- Keys -------------------------------------------------------------------------------------
+
+TEST_F(RoosterTest, PijlenHomeEnEnd)
+{
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(1, GekozenRegel());
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(2, GekozenRegel());
+    Toets(Qt::Key_Up);
+    Toets(Qt::Key_Up);
+    EXPECT_EQ(1, GekozenRegel()) << "niet boven de eerste";
+    Toets(Qt::Key_End);
+    EXPECT_EQ(50, GekozenRegel());
+    EXPECT_TRUE(InBeeld(50));
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(50, GekozenRegel()) << "niet onder de laatste";
+    Toets(Qt::Key_Home);
+    EXPECT_EQ(1, GekozenRegel());
+    EXPECT_EQ(0, Balk("VScroll1")->value());
+    VerwachtLijnenOm(1);
+}
+
+TEST_F(RoosterTest, ElkeStapOmlaagBlijftInBeeldEnOmhoogOok)
+{
+    for (int regel = 1; regel <= 50; ++regel) {
+        Toets(Qt::Key_Down);
+        ASSERT_EQ(regel, GekozenRegel());
+        ASSERT_TRUE(InBeeld(regel)) << regel;
+    }
+    for (int regel = 49; regel >= 1; --regel) {
+        Toets(Qt::Key_Up);
+        ASSERT_EQ(regel, GekozenRegel());
+        ASSERT_TRUE(InBeeld(regel)) << regel;
+    }
+}
+
+TEST_F(RoosterTest, PageDownEnPageUpGaanEenSchermVerder)
+{
+    KiesRegel(1);
+    Toets(Qt::Key_PageDown);
+    const int stap = GekozenRegel() - 1;
+    EXPECT_GT(stap, 3);
+    EXPECT_LE(stap * 4.4 * Maten().PixelsPerMm(), Vlak()->height());
+    EXPECT_TRUE(InBeeld(1 + stap));
+    Toets(Qt::Key_PageDown);
+    EXPECT_EQ(1 + 2 * stap, GekozenRegel());
+    Toets(Qt::Key_PageUp);
+    EXPECT_EQ(1 + stap, GekozenRegel());
+    for (int i = 0; i < 20; ++i)
+        Toets(Qt::Key_PageDown);
+    EXPECT_EQ(50, GekozenRegel());
+    for (int i = 0; i < 20; ++i)
+        Toets(Qt::Key_PageUp);
+    EXPECT_EQ(1, GekozenRegel());
+    EXPECT_TRUE(InBeeld(1));
+}
+
+TEST_F(RoosterTest, InEenLegeGroepDoenDeToetsenNiets)
+{
+    KiesGroep(4);
+    for (const Qt::Key toets :
+         {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown, Qt::Key_PageUp})
+        Toets(toets);
+    EXPECT_EQ(0, GekozenRegel());
+    Klik(Vlak(), {40, 60});
+    EXPECT_EQ(0, GekozenRegel());
+}
+
+TEST_F(RoosterTest, HetRoosterSpreektZijnRegel)
+{
+    EXPECT_EQ("Geen regel geselecteerd", Vlak()->accessibleDescription().toStdString());
+    KiesRegel(1);
+    EXPECT_TRUE(Vlak()->accessibleDescription().startsWith(
+        QStringLiteral("Regel 1, Nr 1, Key 100001, Groep Gr01-, Voornaam Willem, Tusv van der, "
+                       "Achternaam Horst, ")))
+        << Vlak()->accessibleDescription().toStdString();
+    EXPECT_FALSE(Vlak()->accessibleName().isEmpty());
+}
+
+// ---- Scrolling --------------------------------------------------------------------------------
+
+TEST_F(RoosterTest, DeBalkenReikenTotHetEindVanDeRegelsEnDeKolommen)
+{
+    EXPECT_EQ(0, Balk("HScroll1")->maximum()) << "met smalle kolommen past alles";
+    Vink("chkKolBr")->click();
+    const QScrollBar* op = Balk("VScroll1");
+    const QScrollBar* opzij = Balk("HScroll1");
+    EXPECT_EQ(0, op->minimum());
+    EXPECT_NEAR((5 + 50 * 4.4) * Maten().PixelsPerMm() - Vlak()->height(), op->maximum(), 2.0);
+    EXPECT_NEAR(Tekenbreedte() - Vlak()->width(), opzij->maximum(), 2.0);
+    EXPECT_EQ(Maten().Twips(280), op->width());
+    EXPECT_EQ(Maten().Twips(280), opzij->height());
+    KiesGroep(3);
+    EXPECT_EQ(0, op->maximum()) << "negen regels passen";
+}
+
+TEST_F(RoosterTest, HetVlakIsZoBreedAlsHetKaderMinRandEnBalk)
+{
+    const QWidget* kader = Deel("picP0");
+    EXPECT_NEAR(kader->width() - Maten().Twips(220) - Maten().Twips(280), Vlak()->width(), 1);
+    EXPECT_EQ(QPoint(Maten().Twips(100), Maten().Twips(1000)),
+              kader->mapTo(venster.get(), QPoint()));
+    venster->resize(1300, 800);
+    QApplication::processEvents();
+    EXPECT_NEAR(kader->width() - Maten().Twips(220) - Maten().Twips(280), Vlak()->width(), 1);
+}
+
+TEST_F(RoosterTest, DeHeaderSchuiftOpzijMeeEnNietOmlaag)
+{
+    Vink("chkKolBr")->click();
+    const int links = Header(6)->mapTo(venster.get(), QPoint()).x();
+    const int boven = Header(6)->mapTo(venster.get(), QPoint()).y();
+    Balk("HScroll1")->setValue(40);
+    Balk("VScroll1")->setValue(40);
+    EXPECT_EQ(links - 40, Header(6)->mapTo(venster.get(), QPoint()).x());
+    EXPECT_EQ(boven, Header(6)->mapTo(venster.get(), QPoint()).y());
+}
+
+TEST_F(RoosterTest, HetWielSchuiftDeRegels)
+{
+    Vink("chkKolBr")->click();
+    Wiel({0, -120});
+    EXPECT_GT(Balk("VScroll1")->value(), 0);
+    EXPECT_EQ(0, Balk("HScroll1")->value());
+    Wiel({0, 120});
+    EXPECT_EQ(0, Balk("VScroll1")->value());
+    Wiel({-120, 0});
+    EXPECT_GT(Balk("HScroll1")->value(), 0);
+    EXPECT_EQ(0, Balk("VScroll1")->value());
+}
+
+TEST_F(RoosterTest, HetWielAanHetEindVanZijnBereikDoetNiets)
+{
+    Vink("chkKolBr")->click();
+    for (int i = 0; i < 5; ++i)
+        Wiel({0, 120});
+    EXPECT_EQ(0, Balk("VScroll1")->value());
+    for (int i = 0; i < 100; ++i)
+        Wiel({0, -120});
+    EXPECT_EQ(Balk("VScroll1")->maximum(), Balk("VScroll1")->value());
+    for (int i = 0; i < 5; ++i) {
+        Wiel({0, -120});
+        Wiel({0, -120}, Balk("VScroll1"));
+        Wiel({-120, 0}, Balk("HScroll1"));
+    }
+    EXPECT_EQ(Balk("VScroll1")->maximum(), Balk("VScroll1")->value());
+    KiesGroep(4); // nothing to scroll at all
+    Wiel({0, -120});
+    EXPECT_EQ(0, Balk("VScroll1")->value());
+}
+
+TEST_F(RoosterTest, EenAndereGroepBegintBoven)
+{
+    Balk("VScroll1")->setValue(300);
+    KiesGroep(2);
+    EXPECT_EQ(0, Balk("VScroll1")->value());
+}
+
+TEST_F(RoosterTest, NaEenWijzigingBlijftHetBeeldStaan)
+{
+    Toets(Qt::Key_End);
+    const int waarde = Balk("VScroll1")->value();
+    wachter.Bedien([](QDialog& ingave) { Klik(Vind<QPushButton>(ingave, "cmdOK")); });
+    Toets(Qt::Key_Return);
+    wachter.Klaar();
+    EXPECT_EQ(waarde, Balk("VScroll1")->value());
+    Toets(Qt::Key_Up); // the arrows go on where the selection was
+    EXPECT_EQ(50, GekozenRegel());
+}
+
+// ---- Column widths ----------------------------------------------------------------------------
+
+TEST_F(RoosterTest, DeHeadersSluitenAanEnHebbenDeBreedteVanHunNaam)
+{
+    const double perMm = Maten().PixelsPerMm();
+    const Tekstmeter meter = MaakMeter(Header(1)->font(), perMm);
+    int links = 0;
+    for (int i = 1; i <= 18; ++i) {
+        const QPushButton* header = Header(i);
+        EXPECT_EQ(links, header->x()) << i;
+        const double mm =
+            static_cast<double>(meter.Breedte(header->text().toStdString())) / 1000 + 2;
+        EXPECT_NEAR(std::max(10.0, mm) * perMm, header->width(), 1.0) << i;
+        EXPECT_EQ(Deel("P2")->height(), header->height());
+        links += header->width();
+    }
+}
+
+TEST_F(RoosterTest, ZonderVinkjeVolgtDeBreedteDeTeksten)
+{
+    const int smal = Header(8)->width();
+    QTest::mouseClick(Vink("chkKolBr"), Qt::LeftButton, {}, {8, Vink("chkKolBr")->height() / 2});
+    ASSERT_FALSE(Vink("chkKolBr")->isChecked());
+    const double perMm = Maten().PixelsPerMm();
+    const Tekstmeter meter = MaakMeter(Header(1)->font(), perMm);
+    for (int i = 1; i <= 18; ++i) {
+        std::int64_t breedst = 0;
+        const Spelertabel& tabel = administratie.spelers.tabel;
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+            if (tabel.Cel(rij, Kolom::Groep) == "Gr01-")
+                breedst = std::max(breedst, meter.Breedte(tabel.Cel(rij, static_cast<Kolom>(i))));
+        EXPECT_NEAR(std::max(10.0, static_cast<double>(breedst) / 1000 + 4) * perMm,
+                    Header(i)->width(), 1.0)
+            << i;
+    }
+    EXPECT_GT(Header(8)->width(), smal); // e-mail
+    Vink("chkKolBr")->click();
+    EXPECT_EQ(smal, Header(8)->width());
+}
+
+TEST_F(RoosterTest, HetVinkjeLaatDeGekozenRegelStaan)
+{
+    KiesRegel(5);
+    Vink("chkKolBr")->click();
+    EXPECT_EQ(5, GekozenRegel());
+    VerwachtLijnenOm(5);
+}
+
+// ---- What is drawn ----------------------------------------------------------------------------
+
+TEST_F(RoosterTest, TekentBandLijnenEnTeksten)
+{
+    KiesGroep(3);
+    const QImage beeld = Beeld();
+    const int x = Header(3)->x() + Header(3)->width(); // boundary between Groep and Voornaam
+    const int y = qRound(Y(9.4));                      // boundary between the lines 1 and 2
+    EXPECT_EQ(QColor(235, 235, 235), beeld.pixelColor(x - 3, y + 3));
+    EXPECT_EQ(QColor(Qt::white), beeld.pixelColor(Header(15)->x() + 8, y + 8)) << "naast de band";
+    EXPECT_EQ(QColor(200, 200, 200), beeld.pixelColor(x, y + 5));
+    EXPECT_EQ(QColor(200, 200, 200), beeld.pixelColor(x + 12, y));
+    EXPECT_EQ(QColor(Qt::white), beeld.pixelColor(x + 12, qRound(Y(5 + 9 * 4.4)) + 9))
+        << "onder de laatste regel";
+    EXPECT_GT(Donkere(beeld, QRect(Header(6)->x(), y, Header(6)->width(), 16)), 10)
+        << "de achternaam van regel 2";
+}
+
+TEST_F(RoosterTest, EenTeLangeTekstBlijftInZijnCel)
+{
+    suite.Zet("Spelers/RVDspelers.txt",
+              "HKEY=100001\r\n1,100001,Gr01-,,,WWWWWWWWWWWWWWWWWWWWWWWWWW,,,,,,,,,,,,\r\n");
+    ASSERT_NO_FATAL_FAILURE(Herstart());
+    const QImage beeld = Beeld();
+    const int y = qRound(Y(5)) + 2;
+    const QPushButton* header = Header(6);
+    const int marge = static_cast<int>(Maten().PixelsPerMm());
+    EXPECT_GT(Donkere(beeld, {header->x(), y, header->width(), 13}), 20);
+    EXPECT_EQ(0, Donkere(beeld, {header->x() + header->width() - marge, y, marge, 13}));
+    EXPECT_EQ(0, Donkere(beeld, {Header(7)->x() + 1, y, Header(7)->width() - 2, 13}));
+}
+
+TEST_F(RoosterTest, EenGewijzigdeNaamStaatErMeteen)
+{
+    const QImage voor = Beeld();
+    KiesRegel(2);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_6", QStringLiteral("WWWWWW"));
+        Klik(Vind<QPushButton>(ingave, "cmdOK"));
+    });
+    Klik(Knop("cmdWijzig"));
+    wachter.Klaar();
+    const QRect cel(Header(6)->x(), qRound(Y(9.4)) + 1, Header(6)->width(), 14);
+    EXPECT_NE(voor.copy(cel), Beeld().copy(cel));
+}

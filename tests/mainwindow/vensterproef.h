@@ -1,0 +1,151 @@
+// What the tests of the main window share. Controls are found by their names.
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/proefsuite.h"
+#include "hulp/venstergrepen.h"
+#include "mainwindow/frmLedenAdmin.h"
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+#include "platform/scherm/tekstbrug.h"
+
+namespace plexoran {
+
+class Vensterproef : public testing::Test {
+  protected:
+    void Toon(int breed = 1024, int hoog = 700) const
+    {
+        venster->resize(breed, hoog);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+
+    [[nodiscard]] QPushButton* Knop(const char* naam) const
+    {
+        return Vind<QPushButton>(*venster, naam);
+    }
+    [[nodiscard]] QLabel* Label(const char* naam) const { return Vind<QLabel>(*venster, naam); }
+    [[nodiscard]] QComboBox* Keus(const char* naam) const
+    {
+        return Vind<QComboBox>(*venster, naam);
+    }
+    [[nodiscard]] QCheckBox* Vink(const char* naam) const
+    {
+        return Vind<QCheckBox>(*venster, naam);
+    }
+    [[nodiscard]] QScrollBar* Balk(const char* naam) const
+    {
+        return Vind<QScrollBar>(*venster, naam);
+    }
+    [[nodiscard]] QWidget* Deel(const char* naam) const { return Vind<QWidget>(*venster, naam); }
+    [[nodiscard]] QWidget* Vlak() const { return Deel("P1"); }
+    /// Element `nummer` of the header buttons.
+    [[nodiscard]] QPushButton* Header(int nummer) const
+    {
+        return Knop(("cmd_" + std::to_string(nummer)).c_str());
+    }
+
+    void KiesGroep(int nummer) const { Keus("cmbGr")->setCurrentIndex(nummer - 1); }
+    [[nodiscard]] int GetoondeGroep() const { return Keus("cmbGr")->currentIndex() + 1; }
+
+    /// Where a height on the surface of the grid, in millimetres, is on the screen.
+    [[nodiscard]] double Y(double mm) const
+    {
+        return mm * Maten().PixelsPerMm() - Balk("VScroll1")->value();
+    }
+    [[nodiscard]] QPoint OpRegel(int regel) const
+    {
+        return {40, static_cast<int>(Y(5 + (regel - 0.5) * 4.4))};
+    }
+    void KiesRegel(int regel) const { Klik(Vlak(), OpRegel(regel)); }
+    void DubbelklikRegel(int regel) const
+    {
+        QTest::mouseDClick(Vlak(), Qt::LeftButton, {}, OpRegel(regel));
+    }
+    void Toets(Qt::Key toets, Qt::KeyboardModifiers bij = {}) const
+    {
+        QTest::keyClick(Vlak(), toets, bij);
+    }
+    /// The selected line as the grid speaks it; 0 for none.
+    [[nodiscard]] int GekozenRegel() const
+    {
+        const QString tekst = Vlak()->accessibleDescription();
+        return tekst.startsWith(QStringLiteral("Regel "))
+                   ? tekst.mid(6).section(QLatin1Char(','), 0, 0).toInt()
+                   : 0;
+    }
+    /// The register key of the player on the selected line.
+    [[nodiscard]] std::string GekozenSleutel() const
+    {
+        const QString tekst = Vlak()->accessibleDescription();
+        return tekst.section(QStringLiteral("Key "), 1).left(6).toStdString();
+    }
+
+    Berichtwachter wachter;
+    std::unique_ptr<frmLedenAdmin> venster;
+};
+
+/// The lines of a text whose lines end in CR LF; another end shows up in the line.
+inline std::vector<std::string> RegelsVan(const std::string& tekst)
+{
+    std::vector<std::string> regels;
+    for (std::size_t begin = 0; begin < tekst.size();) {
+        const auto eind = tekst.find("\r\n", begin);
+        if (eind == std::string::npos) {
+            regels.push_back(tekst.substr(begin) + "<zonder regeleinde>");
+            break;
+        }
+        regels.push_back(tekst.substr(begin, eind - begin));
+        begin = eind + 2;
+    }
+    return regels;
+}
+
+/// The main window on a copy of the sample suite, with production saving.
+class Hoofdvensterproef : public Vensterproef {
+  protected:
+    /// Closing the window changes the working folder to the suite's, which is gone then.
+    ~Hoofdvensterproef() override
+    {
+        venster.reset();
+        std::filesystem::current_path(werkmap_);
+    }
+
+    void Start(int breed = 1024, int hoog = 700)
+    {
+        venster = std::make_unique<frmLedenAdmin>(administratie);
+        ASSERT_EQ(std::nullopt, venster->Laad({.mappenIni = suite.MappenIni(),
+                                               .eersteExemplaar = [] { return true; }}));
+        ASSERT_NO_FATAL_FAILURE(Toon(breed, hoog));
+    }
+
+    /// Ends the program and starts it again on the same folders.
+    void Herstart()
+    {
+        ASSERT_TRUE(venster->close());
+        venster.reset();
+        administratie.mappen = {};
+        administratie.instellingen = {};
+        administratie.groepen = {};
+        administratie.spelers = {};
+        ASSERT_NO_FATAL_FAILURE(Start());
+    }
+
+    Proefsuite suite;
+    Proefwinkel winkel;
+    EchteSchijf echteSchijf;
+    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+
+  private:
+    std::filesystem::path werkmap_ = std::filesystem::current_path();
+};
+
+} // namespace plexoran

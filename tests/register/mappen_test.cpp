@@ -1,0 +1,193 @@
+#include "register/mappen.h"
+
+#include "platform/falendeSchijf.h"
+#include "platform/geheugenSchijf.h"
+#include <gtest/gtest.h>
+
+using namespace plexoran;
+
+TEST(MappenIniPad, NaastHetProgramma)
+{
+    EXPECT_EQ(MappenIniPad("C:\\RVD\\Plexoran"), "C:\\RVD\\Plexoran\\Mappen.ini");
+}
+
+TEST(MappenIniPad, MetAdminEenMapHoger)
+{
+    EXPECT_EQ(MappenIniPad("C:\\RVD\\Admin"), "C:\\RVD\\Mappen.ini");
+    EXPECT_EQ(MappenIniPad("C:\\RVD\\LedenAdmin2"), "C:\\RVD\\Mappen.ini");
+}
+
+TEST(MappenIniPad, AndereHoofdlettersZijnGeenAdmin)
+{
+    EXPECT_EQ(MappenIniPad("C:\\RVD\\admin"), "C:\\RVD\\admin\\Mappen.ini");
+    EXPECT_EQ(MappenIniPad("C:\\RVD\\ADMIN"), "C:\\RVD\\ADMIN\\Mappen.ini");
+}
+
+TEST(MappenIniPad, AdminErgensInHetPadTelt)
+{
+    // One folder up from the program, not from the folder with the word: that is meant.
+    EXPECT_EQ(MappenIniPad("C:\\Administratie\\RVD\\Plexoran"),
+              "C:\\Administratie\\RVD\\Mappen.ini");
+}
+
+TEST(MappenIniPad, MetDeSchuineStreepVanAndereSystemen)
+{
+    EXPECT_EQ(MappenIniPad("/opt/rvd/Admin"), "/opt/rvd/Mappen.ini");
+    EXPECT_EQ(MappenIniPad("/opt/rvd/plexoran"), "/opt/rvd/plexoran\\Mappen.ini");
+}
+
+TEST(MappenIniPad, ZonderMapErboven)
+{
+    EXPECT_EQ(MappenIniPad("Admin"), "Mappen.ini");
+}
+
+TEST(MappenUit, ElkeSleutel)
+{
+    const Mappen mappen = MappenUit("RVDMAP=C:\\RVD\r\n"
+                                    "APPEXE=RVD.exe\r\n"
+                                    "ZITMAP=C:\\RVD\\Zit\r\n"
+                                    "ADMMAP=C:\\RVD\\Admin\r\n"
+                                    "INDMAP=C:\\RVD\\Ind\r\n"
+                                    "SPEMAP=C:\\RVD\\Spelers\r\n"
+                                    "COMMAP=C:\\RVD\\Com\r\n"
+                                    "NEWPAGR=1\r\n"
+                                    "DFIMPG=Gr05-\r\n"
+                                    "NBB28UIT=2\r\n"
+                                    "WINMAP=C:\\RVD\\Win\r\n"
+                                    "ODKEYS=ODNBB4SP ODNBB28\r\n");
+    EXPECT_EQ(mappen.RVDMAP, "C:\\RVD");
+    EXPECT_EQ(mappen.APPEXE, "RVD.exe");
+    EXPECT_EQ(mappen.ZITMAP, "C:\\RVD\\Zit");
+    EXPECT_EQ(mappen.ADMMAP, "C:\\RVD\\Admin");
+    EXPECT_EQ(mappen.INDMAP, "C:\\RVD\\Ind");
+    EXPECT_EQ(mappen.SPEMAP, "C:\\RVD\\Spelers");
+    EXPECT_EQ(mappen.COMMAP, "C:\\RVD\\Com");
+    EXPECT_EQ(mappen.NEWPAGR, 1);
+    EXPECT_EQ(mappen.DFIMPG, "Gr05-");
+    EXPECT_EQ(mappen.NBB28UIT, 2);
+    EXPECT_EQ(mappen.WINMAP, "C:\\RVD\\Win");
+    EXPECT_EQ(mappen.ODKEYS, "ODNBB4SP ODNBB28");
+}
+
+TEST(MappenUit, AfwezigeSleutelsZijnLeegOfNul)
+{
+    const Mappen mappen = MappenUit("");
+    EXPECT_EQ(mappen.SPEMAP, "");
+    EXPECT_EQ(mappen.ODKEYS, "");
+    EXPECT_EQ(mappen.NEWPAGR, 0);
+    EXPECT_EQ(mappen.NBB28UIT, 0);
+}
+
+TEST(MappenUit, SleutelInKleineLettersWaardeBlijft)
+{
+    const Mappen mappen = MappenUit("spemap=C:\\Club\\spelers\r\nNewPaGr=1\r\nnbb28uit=1\r\n");
+    EXPECT_EQ(mappen.SPEMAP, "C:\\Club\\spelers");
+    EXPECT_EQ(mappen.NEWPAGR, 1);
+    EXPECT_EQ(mappen.NBB28UIT, 1);
+}
+
+TEST(MappenUit, WaardeMetIsTekens)
+{
+    EXPECT_EQ(MappenUit("SPEMAP=C:\\a=b=\r\n").SPEMAP, "C:\\a=b=");
+    EXPECT_EQ(MappenUit("SPEMAP==x\r\n").SPEMAP, "=x");
+}
+
+TEST(MappenUit, WaardeWordtNietBijgesneden)
+{
+    EXPECT_EQ(MappenUit("SPEMAP=  C:\\x , y \t\r\n").SPEMAP, "  C:\\x , y \t");
+}
+
+TEST(MappenUit, LaatsteRegelWint)
+{
+    const Mappen mappen = MappenUit("SPEMAP=eerste\r\nDFIMPG=Gr05-\r\nSPEMAP=tweede\r\n"
+                                    "NEWPAGR=1\r\nNEWPAGR=3\r\ndfimpg=\r\n");
+    EXPECT_EQ(mappen.SPEMAP, "tweede");
+    EXPECT_EQ(mappen.NEWPAGR, 3);
+    EXPECT_EQ(mappen.DFIMPG, "");
+}
+
+TEST(MappenUit, AlleenHetBeginVanDeRegelTelt)
+{
+    const Mappen mappen = MappenUit(" SPEMAP=a\r\n;SPEMAP=b\r\nSPEMAP =c\r\nSPEMAPX=d\r\n"
+                                    "SPEMAP\r\nSPE\r\n\r\n[SPEMAP=]\r\nXSPEMAP=e\r\n");
+    EXPECT_EQ(mappen.SPEMAP, "");
+}
+
+TEST(MappenUit, GetalMetTekstErachter)
+{
+    EXPECT_EQ(MappenUit("NEWPAGR=1 ja\r\n").NEWPAGR, 1);
+    EXPECT_EQ(MappenUit("NEWPAGR=  12\r\n").NEWPAGR, 12);
+    EXPECT_EQ(MappenUit("NEWPAGR=-3\r\n").NEWPAGR, -3);
+    EXPECT_EQ(MappenUit("NEWPAGR=ja1\r\n").NEWPAGR, 0);
+    EXPECT_EQ(MappenUit("NEWPAGR=\r\n").NEWPAGR, 0);
+}
+
+TEST(MappenUit, GetalDatNietPastIsNul)
+{
+    EXPECT_EQ(MappenUit("NEWPAGR=32767\r\n").NEWPAGR, 32767);
+    EXPECT_EQ(MappenUit("NEWPAGR=32768\r\n").NEWPAGR, 0);
+    EXPECT_EQ(MappenUit("NBB28UIT=-32768\r\n").NBB28UIT, -32768);
+    EXPECT_EQ(MappenUit("NBB28UIT=-32769\r\n").NBB28UIT, 0);
+    // 65537 would be 1 in 16 bits.
+    EXPECT_EQ(MappenUit("NEWPAGR=65537\r\n").NEWPAGR, 0);
+    EXPECT_EQ(MappenUit("NEWPAGR=99999999999999999999999999\r\n").NEWPAGR, 0);
+    // The last line wins, also when it does not fit; the lines after it are read.
+    const Mappen mappen = MappenUit("NEWPAGR=1\r\nNEWPAGR=40000\r\nSPEMAP=x\r\n");
+    EXPECT_EQ(mappen.NEWPAGR, 0);
+    EXPECT_EQ(mappen.SPEMAP, "x");
+}
+
+TEST(MappenUit, ElkRegeleinde)
+{
+    const Mappen mappen = MappenUit("SPEMAP=a\nADMMAP=b\rWINMAP=c\r\nCOMMAP=d");
+    EXPECT_EQ(mappen.SPEMAP, "a");
+    EXPECT_EQ(mappen.ADMMAP, "b");
+    EXPECT_EQ(mappen.WINMAP, "c");
+    EXPECT_EQ(mappen.COMMAP, "d");
+}
+
+TEST(MappenUit, OngedefinieerdeBytesEnNullen)
+{
+    using namespace std::string_literals;
+    EXPECT_EQ(MappenUit("SPEMAP=C:\\\x81\x8D\0\xE9\r\n"s).SPEMAP, "C:\\\x81\x8D\0\xE9"s);
+}
+
+TEST(MappenUit, LangeRegel)
+{
+    const Tekst lang(65536, 'x');
+    EXPECT_EQ(MappenUit("SPEMAP=" + lang + "\r\nADMMAP=b\r\n").SPEMAP, lang);
+}
+
+TEST(Mappen, AfgeleidePaden)
+{
+    const Mappen mappen = MappenUit("SPEMAP=C:\\S\r\nADMMAP=C:\\A\r\nWINMAP=C:\\W\r\n");
+    EXPECT_EQ(mappen.Spelerbestand(), "C:\\S\\RVDspelers.txt");
+    EXPECT_EQ(mappen.Groepenbestand(), "C:\\S\\RVDGroepen.txt");
+    EXPECT_EQ(mappen.Instellingenbestand(), "C:\\A\\Plexo.ini");
+    EXPECT_EQ(mappen.Ledenmap(), "C:\\W\\NBB4-Leden");
+}
+
+TEST(LeesMappenIni, VanDeSchijf)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\S\r\n");
+    const auto mappen = LeesMappenIni(schijf, "C:\\RVD\\Mappen.ini");
+    ASSERT_TRUE(mappen);
+    EXPECT_EQ(mappen->SPEMAP, "C:\\S");
+}
+
+TEST(LeesMappenIni, OntbreektOfOnleesbaar)
+{
+    GeheugenSchijf binnen;
+    const auto weg = LeesMappenIni(binnen, "C:\\RVD\\Mappen.ini");
+    ASSERT_FALSE(weg);
+    EXPECT_EQ(weg.error().soort, Foutsoort::Ontbreekt);
+
+    binnen.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\S\r\n");
+    FalendeSchijf schijf(binnen);
+    schijf.FaalBij(1);
+    const auto geweigerd = LeesMappenIni(schijf, "C:\\RVD\\Mappen.ini");
+    ASSERT_FALSE(geweigerd);
+    EXPECT_EQ(geweigerd.error().soort, Foutsoort::Geweigerd);
+    EXPECT_EQ(geweigerd.error().bestand, "C:\\RVD\\Mappen.ini");
+}

@@ -1,0 +1,391 @@
+#include "register/spelerbestand.h"
+
+#include <limits>
+
+#include "platform/falendeSchijf.h"
+#include "register/registerhulp.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr auto eigen = Overschrijven::AlleenEigen;
+
+/// Columns 4 to 18 filled with their numbers, the first three with what must not be used.
+Rijvelden Ingave()
+{
+    Rijvelden velden{"nr", "key", "Gr49-Vreemd"};
+    for (std::size_t i = 3; i < velden.size(); ++i)
+        velden[i] = "v" + std::to_string(i + 1);
+    return velden;
+}
+
+Tekst BewaarEnLees(GeheugenSchijf& schijf, Register& spelers)
+{
+    EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    EXPECT_FALSE(LeesSpelers(schijf, Proefmappen(), spelers).fout);
+    return schijf.Inhoud(spelerbestand).value_or("weg");
+}
+
+} // namespace
+
+TEST(MaakSpelerbestand, MapEnBestandWordenGemaakt)
+{
+    GeheugenSchijf schijf;
+    schijf.ZetMap("C:\\club");
+    Register spelers;
+    ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+    EXPECT_EQ(schijf.Inhoud(spelerbestand), "HKEY=100000\r\n");
+    EXPECT_EQ(spelers.HKEY, 100000);
+    EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{spelerbestand});
+    const auto verslag = LeesSpelers(schijf, Proefmappen(), spelers);
+    EXPECT_FALSE(verslag.fout);
+    EXPECT_EQ(spelers.tabel.Rijen(), 0);
+}
+
+TEST(MaakSpelerbestand, LeegZonderKopie)
+{
+    for (const Tekst leeg : {"", "\r\n", "    ", " \n \r\r\n"}) {
+        GeheugenSchijf schijf;
+        schijf.Zet(spelerbestand, leeg);
+        Register spelers;
+        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+        EXPECT_EQ(schijf.Inhoud(spelerbestand), "HKEY=100000\r\n");
+        EXPECT_TRUE(Kopieen(schijf).empty());
+    }
+}
+
+TEST(MaakSpelerbestand, EersteItemBlancoMetKopie)
+{
+    // Meant: a blank first item makes the file anew whatever follows; the copy keeps it.
+    for (const Tekst& half : {"\r\n" + vijfSpelers, "  \n" + vijfSpelers, Tekst(",\r\n"),
+                              Tekst(",100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n")}) {
+        GeheugenSchijf schijf;
+        schijf.Zet(spelerbestand, half);
+        Register spelers;
+        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+        EXPECT_EQ(schijf.Inhoud(spelerbestand), "HKEY=100000\r\n");
+        EXPECT_EQ(spelers.HKEY, 100000);
+        EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{half});
+    }
+}
+
+TEST(MaakSpelerbestand, AndersBlijftHetZoalsHetIs)
+{
+    for (const Tekst& inhoud :
+         {vijfSpelers, Tekst("onzin"), Tekst("\t\r\n"), Tekst("HKEY=\r\n"), Tekst("\0", 1)}) {
+        GeheugenSchijf schijf;
+        schijf.Zet(spelerbestand, inhoud);
+        const auto voor = schijf.NeemStempel(spelerbestand);
+        Register spelers;
+        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+        EXPECT_EQ(schijf.Inhoud(spelerbestand), inhoud);
+        EXPECT_EQ(schijf.NeemStempel(spelerbestand), *voor);
+        EXPECT_EQ(spelers.HKEY, 0);
+    }
+}
+
+TEST(MaakSpelerbestand, OnleesbaarBlijftStaan)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet(spelerbestand, vijfSpelers);
+    FalendeSchijf schijf(binnen);
+    schijf.FaalBij(2); // after the folder, the reading
+    Register spelers;
+    const auto uitkomst = MaakSpelerbestand(schijf, Proefmappen(), spelers);
+    ASSERT_FALSE(uitkomst);
+    EXPECT_EQ(uitkomst.error().soort, Foutsoort::Geweigerd);
+    EXPECT_EQ(binnen.Inhoud(spelerbestand), vijfSpelers);
+}
+
+TEST(LeesSpelers, VijfSpelers)
+{
+    GeheugenSchijf schijf;
+    const Register spelers = Gelezen(schijf, vijfSpelers);
+    EXPECT_EQ(spelers.tabel.Rijen(), 5);
+    EXPECT_EQ(spelers.HKEY, 100042);
+    EXPECT_EQ(spelers.gelezen, *schijf.NeemStempel(spelerbestand));
+    EXPECT_FALSE(spelers.kopieNodig);
+}
+
+TEST(LeesSpelers, ZonderSleutelregelBlijftDeSleutel)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet(spelerbestand, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n");
+    Register spelers;
+    LeesSpelers(schijf, Proefmappen(), spelers);
+    EXPECT_EQ(spelers.HKEY, 0);
+    spelers.HKEY = 100777;
+    LeesSpelers(schijf, Proefmappen(), spelers);
+    EXPECT_EQ(spelers.HKEY, 100777);
+}
+
+TEST(LeesSpelers, FoutInDeEersteGangLaatDeTabelZoalsHijWas)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    schijf.Zet(spelerbestand, "HKEY=100050\r\n1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n1,2,3\r\n");
+    const auto verslag = LeesSpelers(schijf, Proefmappen(), spelers);
+    ASSERT_TRUE(verslag.fout);
+    EXPECT_EQ(verslag.fout->soort, Foutsoort::Beschadigd);
+    EXPECT_EQ(verslag.fout->bestand, "C:\\club\\Spelers\\RVDspelers.txt");
+    EXPECT_EQ(verslag.fout->regel, 3);
+    EXPECT_EQ(verslag.velden, 3);
+    EXPECT_EQ(spelers.tabel.Rijen(), 5);
+    EXPECT_EQ(spelers.HKEY, 100050);
+    EXPECT_TRUE(spelers.kopieNodig);
+
+    Register nieuw;
+    EXPECT_TRUE(LeesSpelers(schijf, Proefmappen(), nieuw).fout);
+    EXPECT_EQ(nieuw.tabel.Rijen(), 0);
+}
+
+TEST(LeesSpelers, FoutInDeTweedeGangHoudtDeRijenErvoor)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    schijf.Zet(spelerbestand, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n2,100002,Gr01-,B,,C,,\r\n");
+    const auto verslag = LeesSpelers(schijf, Proefmappen(), spelers);
+    ASSERT_TRUE(verslag.fout);
+    EXPECT_EQ(verslag.fout->regel, 2);
+    EXPECT_EQ(verslag.velden, 8);
+    EXPECT_EQ(spelers.tabel.Rijen(), 1);
+    EXPECT_TRUE(spelers.kopieNodig);
+}
+
+TEST(LeesSpelers, OntbrekendOfOnleesbaarLaatDeTabelZoalsHijWas)
+{
+    GeheugenSchijf binnen;
+    Register spelers = Gelezen(binnen, vijfSpelers);
+    FalendeSchijf schijf(binnen);
+    for (int stap = 1; stap <= 2; ++stap) { // the stamp, the reading
+        schijf.FaalBij(stap);
+        const auto verslag = LeesSpelers(schijf, Proefmappen(), spelers);
+        ASSERT_TRUE(verslag.fout);
+        EXPECT_EQ(verslag.fout->soort, Foutsoort::Geweigerd);
+        EXPECT_EQ(spelers.tabel.Rijen(), 5);
+        EXPECT_EQ(spelers.HKEY, 100042);
+        EXPECT_TRUE(spelers.kopieNodig);
+        EXPECT_FALSE(spelers.gelezen);
+    }
+    ASSERT_TRUE(binnen.Verwijder(spelerbestand));
+    const auto weg = LeesSpelers(binnen, Proefmappen(), spelers);
+    ASSERT_TRUE(weg.fout);
+    EXPECT_EQ(weg.fout->soort, Foutsoort::Ontbreekt);
+    EXPECT_EQ(spelers.tabel.Rijen(), 5);
+}
+
+TEST(LeesSpelers, MeldtWieGeenAchternaamHeeft)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet(spelerbestand, "HKEY=100003\r\n1,100001,Gr01-,An,,,,,,,,,,,,,,\r\n");
+    Register spelers;
+    const auto verslag = LeesSpelers(schijf, Proefmappen(), spelers);
+    EXPECT_FALSE(verslag.fout);
+    EXPECT_EQ(verslag.zonderAchternaam, std::vector<int>{2});
+}
+
+TEST(SpelersTekst, PreciesHetBestand)
+{
+    GeheugenSchijf schijf;
+    EXPECT_EQ(SpelersTekst(Gelezen(schijf, vijfSpelers)), vijfSpelers);
+    EXPECT_EQ(SpelersTekst(Register{.tabel = {}, .HKEY = 100000, .gelezen = {}}),
+              "HKEY=100000\r\n");
+}
+
+TEST(SchrijfSpelers, OnbewerkteVeldenKomenOpDeByteTerug)
+{
+    const Tekst vreemd = "HKEY=100003\r\n"
+                         "1, 100001 ,Gr01-, An\x81\x8D,\x8F\x90\x9D,\xC9\tx , , ,,,,,,,,,, \r\n"
+                         "2,abc,XYZ,,,\x1A,,,,,,,,,,,,\x7F\r\n";
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vreemd);
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), vreemd);
+    EXPECT_TRUE(Kopieen(schijf).empty());
+}
+
+TEST(SchrijfSpelers, GrootRegisterKomtOpDeByteTerug)
+{
+    Tekst groot = "HKEY=130000\r\n";
+    for (int nr = 1; nr <= 30'000; ++nr)
+        groot += std::to_string(nr) + "," + std::to_string(100000 + nr) + ",Gr01-,,," +
+                 Tekst(static_cast<std::size_t>(nr % 90 + 1), 'x') + ",,,,,,,,,,,,\r\n";
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, groot);
+    ASSERT_EQ(spelers.tabel.Rijen(), 30'000);
+    EXPECT_TRUE(SpelersTekst(spelers) == groot);
+    EXPECT_TRUE(BewaarEnLees(schijf, spelers) == groot);
+}
+
+TEST(SchrijfSpelers, NummersWordenDePlaatsen)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, "HKEY=100003\r\n"
+                                       "7,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
+                                       ",100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
+                                       "x,100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), "HKEY=100003\r\n"
+                                             "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
+                                             "2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
+                                             "3,100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
+}
+
+TEST(SchrijfSpelers, OvergeslagenRijenLatenEenGatInDeNummers)
+{
+    // Meant: the numbers close up only at the next save.
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    spelers.tabel.ZetCel(2, Kolom::Key, "");
+    spelers.tabel.ZetCel(3, Kolom::Key, "");
+    const Tekst metGat = "HKEY=100042\r\n"
+                         "1,100001,Gr01-,An,,Bos,,,,,,,V,,,,,\r\n"
+                         "4,100004,Gr05-,Dirk,,Eik,,,,,,,M,,,,NBB1,12345678\r\n"
+                         "5,100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,"
+                         "een,twee,,,\r\n";
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), metGat);
+    EXPECT_EQ(spelers.tabel.Rijen(), 3);
+    EXPECT_EQ(spelers.tabel.Cel(2, Kolom::Nr), "4");
+    const Tekst dicht = BewaarEnLees(schijf, spelers);
+    EXPECT_NE(dicht.find("\r\n2,100004,"), Tekst::npos);
+    EXPECT_NE(dicht.find("\r\n3,100042,"), Tekst::npos);
+}
+
+TEST(SchrijfSpelers, TweeEnDrieVanVijfVerwijderd)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    spelers.tabel.Verwijder(std::vector<int>{2, 3});
+    EXPECT_EQ(BewaarEnLees(schijf, spelers),
+              "HKEY=100042\r\n"
+              "1,100001,Gr01-,An,,Bos,,,,,,,V,,,,,\r\n"
+              "2,100004,Gr05-,Dirk,,Eik,,,,,,,M,,,,NBB1,12345678\r\n"
+              "3,100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,een,twee,,,\r\n");
+}
+
+TEST(SchrijfSpelers, LegeTabelLaatHetBestand)
+{
+    // Meant: a register is never written without players.
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    spelers.tabel.Verwijder(std::vector<int>{1, 2, 3, 4, 5});
+    const auto voor = schijf.NeemStempel(spelerbestand);
+    EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    EXPECT_EQ(schijf.Inhoud(spelerbestand), vijfSpelers);
+    EXPECT_EQ(schijf.NeemStempel(spelerbestand), *voor);
+}
+
+TEST(SchrijfSpelers, SleutelOnderDeBasisWordtDeBasis)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n");
+    ASSERT_EQ(spelers.HKEY, 0);
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), "HKEY=100000\r\n"
+                                             "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n");
+    EXPECT_EQ(spelers.HKEY, 100000);
+}
+
+TEST(SchrijfSpelers, AnderRegeleindeWordtCrLf)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\n\nHKEY=100001");
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), "HKEY=100001\r\n"
+                                             "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n");
+}
+
+TEST(SchrijfSpelers, VerdwenenBestandKomtTerug)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    ASSERT_TRUE(schijf.Verwijder(spelerbestand));
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), vijfSpelers);
+}
+
+TEST(NieuweSleutel, VanafDeBasis)
+{
+    Register spelers;
+    EXPECT_EQ(NieuweSleutel(spelers), 100001);
+    EXPECT_EQ(NieuweSleutel(spelers), 100002);
+    EXPECT_EQ(spelers.HKEY, 100002);
+}
+
+TEST(NieuweSleutel, NaDeHoogste)
+{
+    Register spelers;
+    spelers.HKEY = 100041;
+    EXPECT_EQ(NieuweSleutel(spelers), 100042);
+}
+
+TEST(NieuweSleutel, Op)
+{
+    constexpr auto hoogste = std::numeric_limits<std::int32_t>::max();
+    Register spelers;
+    spelers.HKEY = hoogste - 1;
+    EXPECT_EQ(NieuweSleutel(spelers), hoogste);
+    EXPECT_FALSE(NieuweSleutel(spelers));
+    EXPECT_EQ(spelers.HKEY, hoogste);
+    EXPECT_FALSE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
+    EXPECT_EQ(spelers.tabel.Rijen(), 0);
+    EXPECT_EQ(spelers.HKEY, hoogste);
+}
+
+TEST(VoegSpelerToe, AchteraanMetNieuweSleutel)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr02-Clubleden", Ingave()));
+    const Tekst rij = "6,100043,Gr02-,v4,v5,v6,v7,v8,v9,v10,v11,v12,v13,v14,v15,v16,v17,v18\r\n";
+    Tekst verwacht = vijfSpelers + rij;
+    verwacht.replace(0, 13, "HKEY=100043\r\n");
+    EXPECT_EQ(SpelersTekst(spelers), verwacht);
+    EXPECT_EQ(spelers.tabel.Cel(6, Kolom::Nr), "6");
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), verwacht);
+}
+
+TEST(VoegSpelerToe, SleutelNegenennegentigGeeftHonderdduizendEnEen)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, "HKEY=99\r\n");
+    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
+    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Key), "100001");
+}
+
+TEST(VoegSpelerToe, VeldenZonderBuitensteSpaties)
+{
+    Register spelers;
+    Rijvelden velden = Ingave();
+    velden[Plaats(Kolom::Voornaam)] = "  An Marie ";
+    velden[Plaats(Kolom::Tusv)] = "   ";
+    velden[Plaats(Kolom::Adres)] = " \tPad 1, boven";
+    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", velden));
+    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Voornaam), "An Marie");
+    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Tusv), "");
+    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Adres), "\tPad 1_ boven");
+}
+
+TEST(VoegSpelerToe, SleutelKomtNietTerugNaVerwijderen)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
+    BewaarEnLees(schijf, spelers);
+    spelers.tabel.Verwijder(std::vector<int>{6});
+    BewaarEnLees(schijf, spelers);
+    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
+    EXPECT_EQ(spelers.tabel.Cel(6, Kolom::Key), "100044");
+}
+
+TEST(WijzigSpeler, AllesBehalveNummerEnSleutel)
+{
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    Rijvelden velden = Ingave();
+    velden[Plaats(Kolom::Voornaam)] = "  An "; // stored as handed over
+    velden[Plaats(Kolom::Land)] = "";
+    WijzigSpeler(spelers, 4, velden);
+    Tekst verwacht = vijfSpelers;
+    const Tekst oud = "4,100004,Gr05-,Dirk,,Eik,,,,,,,M,,,,NBB1,12345678";
+    verwacht.replace(verwacht.find(oud), oud.size(),
+                     "4,100004,Gr49-,  An ,v5,v6,v7,v8,v9,v10,v11,,v13,v14,v15,v16,v17,v18");
+    EXPECT_EQ(BewaarEnLees(schijf, spelers), verwacht);
+    EXPECT_EQ(spelers.HKEY, 100042);
+}

@@ -1,0 +1,240 @@
+#include "register/spelertabel.h"
+
+#include <algorithm>
+#include <random>
+
+#include "register/registerhulp.h"
+
+using namespace plexoran;
+
+namespace {
+
+Spelertabel Tabel(Tekst inhoud)
+{
+    return *SpelersUit(std::move(inhoud)).tabel;
+}
+
+Spelertabel VijfRijen()
+{
+    return Tabel(vijfSpelers);
+}
+
+Tekst Cellen(const Spelertabel& tabel, int rij)
+{
+    Tekst tekst;
+    tabel.VoegCellenAan(tekst, rij);
+    return tekst;
+}
+
+/// The column over all rows, joined.
+Tekst Kolomtekst(const Spelertabel& tabel, Kolom kolom)
+{
+    Tekst tekst;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+        tekst += Tekst(tabel.Cel(rij, kolom)) + ";";
+    return tekst;
+}
+
+Rijvelden Genummerd(char letter)
+{
+    Rijvelden velden;
+    for (std::size_t i = 0; i < velden.size(); ++i)
+        velden[i] = letter + std::to_string(i + 1);
+    return velden;
+}
+
+} // namespace
+
+TEST(Kolomnamen, InHunVolgorde)
+{
+    Tekst namen;
+    for (const Tekstblik naam : Kolomnamen)
+        namen += Tekst(naam) + " ";
+    EXPECT_EQ(namen, "Nr Key Groep Voornaam Tusv Achternaam Telef Email Adres Postc Plaats Land "
+                     "M/V Div1 Div2 Status NBBgr NBBnr ");
+}
+
+TEST(Kolom, NummersVanDeVelden)
+{
+    EXPECT_EQ(static_cast<int>(Kolom::Nr), 1);
+    EXPECT_EQ(static_cast<int>(Kolom::Groep), 3);
+    EXPECT_EQ(static_cast<int>(Kolom::Achternaam), 6);
+    EXPECT_EQ(static_cast<int>(Kolom::NBBgr), 17);
+    EXPECT_EQ(static_cast<int>(Kolom::NBBnr), 18);
+}
+
+TEST(Spelertabel, LeegBijHetBegin)
+{
+    EXPECT_EQ(Spelertabel().Rijen(), 0);
+}
+
+TEST(Spelertabel, ElkeCelVanEenRij)
+{
+    const Spelertabel tabel = Tabel("1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18\r\n"
+                                    "a,b,c,d,e,f,g,h,i,j,k,l,m,n,o,p,q,r\r\n");
+    ASSERT_EQ(tabel.Rijen(), 2);
+    for (int kolom = 1; kolom <= 18; ++kolom) {
+        EXPECT_EQ(tabel.Cel(1, static_cast<Kolom>(kolom)), std::to_string(kolom));
+        EXPECT_EQ(tabel.Cel(2, static_cast<Kolom>(kolom)),
+                  Tekst(1, static_cast<char>('a' + kolom - 1)));
+    }
+    EXPECT_EQ(Cellen(tabel, 2), "b,c,d,e,f,g,h,i,j,k,l,m,n,o,p,q,r");
+}
+
+TEST(Spelertabel, ZetCelVerandertNietsAnders)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.ZetCel(2, Kolom::Plaats, "'s-Hertogenbosch");
+    EXPECT_EQ(Cellen(tabel, 1), "100001,Gr01-,An,,Bos,,,,,,,V,,,,,");
+    EXPECT_EQ(Cellen(tabel, 2), "100005,Gr01-,Bea,de,Cock,,,,,'s-Hertogenbosch,,V,,,,A-lijn,");
+    EXPECT_EQ(Cellen(tabel, 3), "100003,Gr02-,Cor,van der,Dam,,,,,,,M,,,overl,,");
+    EXPECT_EQ(tabel.Cel(2, Kolom::Nr), "2");
+    tabel.ZetCel(2, Kolom::Plaats, "");
+    EXPECT_EQ(Cellen(tabel, 2), "100005,Gr01-,Bea,de,Cock,,,,,,,V,,,,A-lijn,");
+}
+
+TEST(Spelertabel, ZetCelMetEenBlikOpDeTabelZelf)
+{
+    Spelertabel tabel = VijfRijen();
+    for (int keer = 0; keer < 100; ++keer) // long enough for the buffer to move
+        tabel.ZetCel(1, Kolom::Email, tabel.Cel(5, Kolom::Email));
+    EXPECT_EQ(tabel.Cel(1, Kolom::Email), "e@f.example");
+}
+
+TEST(Spelertabel, KommaEnRegeleindeKunnenNietInEenCel)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.ZetCel(1, Kolom::Adres, "Pad 1, boven\r\nachter");
+    EXPECT_EQ(tabel.Cel(1, Kolom::Adres), "Pad 1_ boven  achter");
+    Rijvelden velden = Genummerd('x');
+    velden[17] = ",\n";
+    tabel.ZetRij(2, velden);
+    EXPECT_EQ(tabel.Cel(2, Kolom::NBBnr), "_ ");
+    tabel.VoegToe(velden);
+    EXPECT_EQ(tabel.Cel(6, Kolom::NBBnr), "_ ");
+}
+
+TEST(Spelertabel, VanDeGroepTellenVijfTekens)
+{
+    Spelertabel tabel = Tabel("1,100001,Gr01-Leden,An,,Bos,,,,,,,,,,,,x\r\n");
+    EXPECT_EQ(tabel.Cel(1, Kolom::Groep), "Gr01-");
+    EXPECT_EQ(Cellen(tabel, 1), "100001,Gr01-,An,,Bos,,,,,,,,,,,,x");
+    tabel.ZetCel(1, Kolom::Groep, "Gr02-Jeugd");
+    EXPECT_EQ(Cellen(tabel, 1), "100001,Gr02-,An,,Bos,,,,,,,,,,,,x");
+    tabel.ZetCel(1, Kolom::Groep, "Gr");
+    EXPECT_EQ(Cellen(tabel, 1), "100001,Gr,An,,Bos,,,,,,,,,,,,x");
+}
+
+TEST(Spelertabel, VoegToeAchterEenLaatsteRegelZonderEinde)
+{
+    Spelertabel tabel = Tabel("1,100001,Gr01-,An,,Bos,,,,,,,,,,,,12");
+    tabel.VoegToe(Genummerd('x'));
+    ASSERT_EQ(tabel.Rijen(), 2);
+    EXPECT_EQ(tabel.Cel(1, Kolom::NBBnr), "12");
+    EXPECT_EQ(tabel.Cel(2, Kolom::Nr), "x1");
+    EXPECT_EQ(tabel.Cel(2, Kolom::NBBnr), "x18");
+}
+
+TEST(Spelertabel, VeldenGeeftDeRij)
+{
+    Spelertabel tabel;
+    tabel.VoegToe(Genummerd('x'));
+    tabel.VoegToe(Genummerd('y'));
+    EXPECT_EQ(tabel.Velden(1), Genummerd('x'));
+    EXPECT_EQ(tabel.Velden(2), Genummerd('y'));
+}
+
+TEST(Spelertabel, VerwijderTweeEnDrieVanVijf)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.Verwijder(std::vector<int>{2, 3});
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;3;");
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100001;100004;100042;");
+    EXPECT_EQ(Cellen(tabel, 3), "100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,"
+                                "een,twee,,,");
+}
+
+TEST(Spelertabel, VerwijderInElkeVolgordeEnDubbel)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.Verwijder(std::vector<int>{5, 1, 5, 3});
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;");
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100005;100004;");
+}
+
+TEST(Spelertabel, VerwijderNietsOfAlles)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.Verwijder(std::vector<int>{});
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;3;4;5;");
+    tabel.Verwijder(std::vector<int>{1, 2, 3, 4, 5});
+    EXPECT_EQ(tabel.Rijen(), 0);
+    tabel.VoegToe(Genummerd('x'));
+    EXPECT_EQ(tabel.Velden(1), Genummerd('x'));
+}
+
+TEST(Spelertabel, VerwijderLaatEenRijMetLeegNummerStaan)
+{
+    Spelertabel tabel = Tabel(",100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
+                              "2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
+                              ",100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
+    tabel.Verwijder(std::vector<int>{2});
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;");
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100001;100003;");
+}
+
+TEST(Spelertabel, VerwijderNaWijzigen)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.ZetCel(4, Kolom::Voornaam, "Dirkje");
+    tabel.ZetCel(1, Kolom::Voornaam, "Anna");
+    tabel.Verwijder(std::vector<int>{3});
+    EXPECT_EQ(Kolomtekst(tabel, Kolom::Voornaam), "Anna;Bea;Dirkje;Els;");
+}
+
+TEST(Spelertabel, GeheugenTeltDeTekst)
+{
+    EXPECT_GE(VijfRijen().Geheugen(), vijfSpelers.size());
+}
+
+TEST(Spelertabel, DoetAlsEenGewoneLijst)
+{
+    constexpr int stappen = 20'000;
+    std::mt19937 toeval(1952);
+    const auto tot = [&](std::size_t n) { return static_cast<int>(toeval() % n); };
+    Spelertabel tabel = VijfRijen();
+    std::vector<Rijvelden> lijst;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+        lijst.push_back(tabel.Velden(rij));
+
+    for (int stap = 0; stap < stappen; ++stap) {
+        const int soort = lijst.empty() ? 0 : tot(10);
+        const auto plaats = static_cast<std::size_t>(tot(std::max<std::size_t>(lijst.size(), 1)));
+        const int rij = static_cast<int>(plaats) + 1;
+        if (soort < 3 && lijst.size() < 200) {
+            Rijvelden velden;
+            for (Tekst& veld : velden)
+                veld = Tekst(static_cast<std::size_t>(tot(9)), static_cast<char>('a' + tot(26)));
+            velden[2] = velden[2].substr(0, 5);
+            tabel.VoegToe(velden);
+            lijst.push_back(velden);
+        } else if (soort < 9) {
+            const auto kolom = static_cast<std::size_t>(tot(18));
+            const Tekst tekst(static_cast<std::size_t>(tot(6)), static_cast<char>('A' + tot(26)));
+            tabel.ZetCel(rij, static_cast<Kolom>(kolom + 1), tekst);
+            lijst[plaats][kolom] = tekst;
+        } else {
+            tabel.Verwijder(std::vector<int>{rij});
+            lijst.erase(lijst.begin() + rij - 1);
+            for (std::size_t i = 0; i < lijst.size(); ++i)
+                lijst[i][0] = std::to_string(i + 1);
+        }
+        ASSERT_EQ(tabel.Rijen(), static_cast<int>(lijst.size())) << "stap " << stap;
+        if (!lijst.empty()) {
+            const auto kijk = static_cast<std::size_t>(tot(lijst.size()));
+            ASSERT_EQ(tabel.Velden(static_cast<int>(kijk) + 1), lijst[kijk]) << "stap " << stap;
+        }
+    }
+    for (std::size_t i = 0; i < lijst.size(); ++i)
+        EXPECT_EQ(tabel.Velden(static_cast<int>(i) + 1), lijst[i]);
+}
