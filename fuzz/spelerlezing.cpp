@@ -52,7 +52,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
 {
     const Tekst inhoud = AlsTekst(data, lengte);
     Spelerlezing lezing = SpelersUit(inhoud);
-    EisGelijkAanGewoon(lezing, gewoon::Lees(inhoud));
+    const gewoon::Lezing gewone = gewoon::Lees(inhoud);
+    EisGelijkAanGewoon(lezing, gewone);
     if (!lezing.tabel)
         return 0;
 
@@ -60,8 +61,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
     spelers.HKEY = lezing.HKEY.value_or(Sleutelbasis);
     spelers.tabel = std::move(*lezing.tabel);
     const Tekst tekst = SpelersTekst(spelers);
-    Eis(lezing.verliest == (gewoon::Spelersinhoud(inhoud) != gewoon::Spelersinhoud(tekst)),
-        "verliest");
+    Eis(lezing.verliest == gewoon::Verliest(gewone, inhoud, tekst), "verliest");
 
     const Spelerlezing terug = SpelersUit(tekst);
     Eis(terug.tabel && !terug.fout && !terug.verliest, "het eigen bestand wordt heel gelezen");

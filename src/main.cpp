@@ -1,31 +1,14 @@
 // Picks the folder configuration and opens the main window.
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
 
 #include "afbeeldingen.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "opdrachtregel.h"
 #include "platform/echteSchijf.h"
 #include "platform/programma.h"
-#include "platform/scherm/pictogram.h"
+#include "platform/scherm/inrichting.h"
 
 using namespace plexoran;
-
-namespace {
-
-/// Qt's own texts, such as those of the context menus, in Dutch whatever the system speaks.
-void SpreekNederlands(QTranslator& vertaling)
-{
-    const QLocale nederlands(QLocale::Dutch, QLocale::Netherlands);
-    QLocale::setDefault(nederlands);
-    if (vertaling.load(nederlands, QStringLiteral("qtbase"), QStringLiteral("_"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&vertaling);
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -36,9 +19,7 @@ int main(int argc, char** argv)
     QApplication programma(argc, argv);
     QApplication::setApplicationName(QStringLiteral("plexoran"));
     QApplication::setApplicationDisplayName(QString());
-    QApplication::setWindowIcon(Pictogram());
-    QTranslator vertaling;
-    SpreekNederlands(vertaling);
+    RichtIn(programma);
 
     EchteSchijf schijf;
     Exemplaarslot slot;

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/knop.h"
+#include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
 namespace {
@@ -19,7 +19,6 @@ constexpr int VensterBreed = 8400;
 constexpr int VensterHoog = 7800;
 constexpr int VlakLinks = 100;
 constexpr int VlakBoven = 700;
-constexpr int VlakBreed = 7900;
 constexpr int BalkBreed = 280;
 constexpr int RijAfstand = 390;
 constexpr int RijHoog = 345;
@@ -35,6 +34,7 @@ diaGrNamen::diaGrNamen(Groepen& groepen, QWidget* ouder)
     Bouw();
     BouwKader();
     BouwRijen();
+    txt1[1]->setFocus();
 }
 
 void diaGrNamen::Bouw()
@@ -56,8 +56,8 @@ void diaGrNamen::Bouw()
     cmdAnnuleren->setFocusPolicy(Qt::TabFocus);
     connect(cmdOK, &QPushButton::clicked, this, &diaGrNamen::accept);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &diaGrNamen::reject);
-    resize(maten_.Twips(VensterBreed), maten_.Twips(VensterHoog));
-    setMinimumSize(maten_.Twips(VensterBreed), maten_.Twips(3000));
+    PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
+    setMinimumHeight(maten_.Twips(3000));
 }
 
 void diaGrNamen::BouwKader()
@@ -84,28 +84,25 @@ void diaGrNamen::BouwKader()
         label(QStringLiteral("Label3"), QStringLiteral("'Gr01-' enz, blijft een vast voorvoegsel")),
         1, 1);
     vakken->setColumnStretch(1, 1);
+    setMinimumWidth(std::max(maten_.Twips(VensterBreed),
+                             vakken->minimumSize().width() + maten_.Twips(4 * VlakLinks)));
 }
 
 void diaGrNamen::BouwRijen()
 {
-    const auto tw = [this](int twips) { return maten_.Twips(twips); };
     for (int nummer = 1; nummer <= AantalGroepen; ++nummer) {
         const auto plaats = static_cast<std::size_t>(nummer);
-        const int boven = tw(RijAfstand) * (nummer - 1);
         const QString kop = QStringLiteral("Groep %1: ").arg(nummer, 2, 10, QLatin1Char('0'));
         auto* label = new QLabel(kop, P1);
         Noem(label, QStringLiteral("lbl1_%1").arg(nummer));
-        label->setGeometry(0, boven, tw(LabelBreed), tw(RijHoog));
         auto* vak = new Tekstvak(P1);
         Noem(vak, QStringLiteral("txt1_%1").arg(nummer), kop.trimmed());
         vak->ZetTekst(groepen_.Naam(nummer));
-        vak->setGeometry(tw(LabelBreed), boven, tw(VlakBreed - LabelBreed), tw(RijHoog));
         label->setBuddy(vak);
         connect(vak, &Tekstvak::verlaten, this, [this, vak] { Verlaat(vak); });
         lbl1[plaats] = label;
         txt1[plaats] = vak;
     }
-    P1->resize(tw(VlakBreed), tw(RijAfstand) * AantalGroepen);
     QWidget::setTabOrder(txt1[AantalGroepen], cmdAnnuleren);
     QWidget::setTabOrder(cmdAnnuleren, cmdOK);
     // A field that the Tab key reaches outside the visible rows is scrolled into view.
@@ -131,14 +128,30 @@ void diaGrNamen::resizeEvent(QResizeEvent* gebeurtenis)
     PlaatsDelen();
 }
 
+void diaGrNamen::PlaatsRijen(int breed)
+{
+    const auto tw = [this](int twips) { return maten_.Twips(twips); };
+    const int labelbreed = std::max(tw(LabelBreed), lbl1[AantalGroepen]->sizeHint().width());
+    for (int nummer = 1; nummer <= AantalGroepen; ++nummer) {
+        const auto plaats = static_cast<std::size_t>(nummer);
+        const int boven = tw(RijAfstand) * (nummer - 1);
+        lbl1[plaats]->setGeometry(0, boven, labelbreed, tw(RijHoog));
+        txt1[plaats]->setGeometry(labelbreed, boven, breed - labelbreed - tw(Rand) / 2,
+                                  tw(RijHoog));
+    }
+    P1->resize(breed, tw(RijAfstand) * AantalGroepen);
+}
+
 void diaGrNamen::PlaatsDelen()
 {
     const auto tw = [this](int twips) { return maten_.Twips(twips); };
     const QSize knop = cmdAnnuleren->sizeHint();
     const int knopBoven = height() - knop.height() - tw(Rand);
     const int hoog = knopBoven - tw(VlakBoven) - tw(Rand);
-    P0->setGeometry(tw(VlakLinks), tw(VlakBoven), tw(VlakBreed), hoog);
-    VScroll1->setGeometry(tw(VlakLinks + VlakBreed), tw(VlakBoven), tw(BalkBreed), hoog);
+    const int breed = width() - tw(VlakLinks + BalkBreed + Rand);
+    P0->setGeometry(tw(VlakLinks), tw(VlakBoven), breed, hoog);
+    PlaatsRijen(breed);
+    VScroll1->setGeometry(tw(VlakLinks) + breed, tw(VlakBoven), tw(BalkBreed), hoog);
     const int over = std::max(0, P1->height() - P0->height());
     VScroll1->setRange(0, over);
     VScroll1->setPageStep(std::max(1, hoog));

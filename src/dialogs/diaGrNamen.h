@@ -32,6 +32,7 @@ class diaGrNamen : public QDialog {
     void BouwKader();
     void BouwRijen();
     void PlaatsDelen();
+    void PlaatsRijen(int breed);
     void BrengInBeeld(const QWidget* vak);
     void Verlaat(Tekstvak* vak);
     void MeldKommas();

@@ -8,7 +8,7 @@
 #include <algorithm>
 
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/knop.h"
+#include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
 namespace {
@@ -16,6 +16,7 @@ namespace {
 // In twips.
 constexpr int VensterBreed = 5500;
 constexpr int VensterHoog = 7650;
+constexpr int KleinsteHoogte = 6900; // all fields and the buttons below them
 constexpr int RijBoven = 500;
 constexpr int RijAfstand = 300;
 constexpr int RijHoog = 285;
@@ -28,6 +29,7 @@ constexpr int Rand = 100;
 
 constexpr double Veldletter = 8.0;
 constexpr double Groepletter = 10.0;
+constexpr double KleinsteGroepletter = 7.0;
 constexpr int AchterDeTekst = 50; // caret position on returning to a field
 
 constexpr int Nummer(Kolom kolom)
@@ -62,8 +64,8 @@ void diaIngave::Bouw()
 {
     setObjectName(QStringLiteral("diaIngave"));
     setWindowTitle(QStringLiteral("Ingeven persoonsgegevens"));
-    resize(maten_.Twips(VensterBreed), maten_.Twips(VensterHoog));
-    setMinimumSize(size());
+    setMinimumSize(maten_.Twips(VensterBreed), maten_.Twips(KleinsteHoogte));
+    PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
 
     Label1 = new QLabel(ingave_.IngaveModus == "Aanmaken"
                             ? QStringLiteral("Aanmaken nieuwe regel")
@@ -147,7 +149,7 @@ void diaIngave::BouwGeslacht()
     auto* rij = new QHBoxLayout(Frame1);
     rij->setContentsMargins(0, 0, 0, 0);
     const auto keus = [&](const QString& naam, const QString& tekst, const QString& letter) {
-        auto* knop = new QRadioButton(tekst, Frame1);
+        auto* knop = new QRadioButton(MetSneltoets(tekst, tekst.front().unicode()), Frame1);
         Noem(knop, naam);
         knop->setFont(maten_.Letter(Veldletter));
         knop->setFocusPolicy(Qt::TabFocus);
@@ -180,9 +182,8 @@ void diaIngave::PasVeldenAanGroepAan()
     Tekstvak* groep = Vak(Kolom::Groep);
     groep->ZetTekst(ingave_.groeptekst);
     groep->setAlignment(Qt::AlignCenter);
-    QFont letter = maten_.Letter(Groepletter);
-    letter.setBold(true);
-    groep->setFont(letter);
+    groep->setToolTip(groep->text());
+    groep->setFont(Groepsletter(groep->text()));
     Kleur(groep, QPalette::Text, QColor(255, 0, 0));
     Kleur(groep, QPalette::Base, QColor(255, 255, 0));
 
@@ -193,6 +194,19 @@ void diaIngave::PasVeldenAanGroepAan()
     for (QWidget* deel : std::initializer_list<QWidget*>{
              lbl1[Nummer(Kolom::NBBnr)], Vak(Kolom::NBBnr), opt1[Nummer(Kolom::NBBnr)]})
         deel->setVisible(ingave_.importgroep);
+}
+
+/// Bold and large, but for a long name as small as it must be to stand in its box.
+QFont diaIngave::Groepsletter(const QString& tekst) const
+{
+    const int ruimte = maten_.Twips(VakBreed - Rand);
+    for (double punten = Groepletter;; punten -= 0.5) {
+        QFont letter = maten_.Letter(punten);
+        letter.setBold(true);
+        if (punten <= KleinsteGroepletter ||
+            QFontMetrics(letter).horizontalAdvance(tekst) <= ruimte)
+            return letter;
+    }
 }
 
 /// As the eye reads: the fields from top to bottom, then the return fields, then the buttons.
@@ -233,7 +247,7 @@ void diaIngave::PlaatsDelen()
         const int hoog = tw(RijHoog);
         const bool geslacht = veld == Nummer(Kolom::MV);
         const int labelbreed = std::max(tw(LabelBreed), lbl1[plaats]->sizeHint().width());
-        lbl1[plaats]->setGeometry(std::min(tw(LabelLinks), tw(VakLinks) - labelbreed), boven,
+        lbl1[plaats]->setGeometry(std::min(tw(LabelLinks), tw(VakLinks - Rand) - labelbreed), boven,
                                   labelbreed, hoog);
         txt1[plaats]->setGeometry(tw(VakLinks), boven, geslacht ? tw(GeslachtBreed) : vakbreed,
                                   hoog);

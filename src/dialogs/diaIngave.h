@@ -40,6 +40,7 @@ class diaIngave : public QDialog {
     void BouwGeslacht();
     void BouwHulp();
     void PasVeldenAanGroepAan();
+    [[nodiscard]] QFont Groepsletter(const QString& tekst) const;
     void StelTabvolgordeIn();
     void PlaatsDelen();
     void PlaatsNaastHoofdvenster();

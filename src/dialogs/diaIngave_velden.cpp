@@ -44,14 +44,16 @@ bool diaIngave::IngaveControle()
     MeldReparaties();
 
     ingave_.IngaveFout = false;
-    if (IsBlanco(Vak(Kolom::Achternaam)->GeefTekst())) {
+    Rijvelden velden;
+    for (int veld = 1; veld <= AantalKolommen; ++veld)
+        velden[static_cast<std::size_t>(veld - 1)] = Vak(veld)->GeefTekst();
+    if (!HeeftAchternaam(velden)) {
         Meld(this, QMessageBox::Warning, QStringLiteral("U moet minimaal de ACHTERNAAM invullen!"));
         ingave_.IngaveFout = true;
         Vak(Kolom::Achternaam)->setFocus(Qt::OtherFocusReason);
         return false;
     }
-    for (int veld = 1; veld <= AantalKolommen; ++veld)
-        ingave_.IngaveVelden[static_cast<std::size_t>(veld - 1)] = Vak(veld)->GeefTekst();
+    ingave_.IngaveVelden = std::move(velden);
     return true;
 }
 

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "platform/scherm/knop.h"
+#include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
 

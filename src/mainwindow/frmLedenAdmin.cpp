@@ -6,7 +6,7 @@
 #include "mainwindow/nummerlijst.h"
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/knop.h"
+#include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
 namespace {
@@ -32,10 +32,7 @@ Tekst frmLedenAdmin::Groeptekst() const
 
 void frmLedenAdmin::VulGroepen()
 {
-    const QSignalBlocker stil(cmbGr);
-    cmbGr->clear();
-    for (int nummer = 1; nummer <= AantalGroepen; ++nummer)
-        cmbGr->addItem(NaarQString(administratie_.groepen.Toontekst(nummer)));
+    VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
 }
 
 /// Selecting runs the display, also when the place stays the same.

@@ -12,6 +12,7 @@
 
 #include "dialogs/ingave.h"
 #include "mainwindow/rooster.h"
+#include "mainwindow/sorteerlijst.h"
 #include "platform/scherm/maten.h"
 #include "register/administratie.h"
 
@@ -60,6 +61,7 @@ class frmLedenAdmin : public QMainWindow {
     // Start-up (frmLedenAdmin_start.cpp)
     [[nodiscard]] bool LeesMappenBijStart(const Pad& mappenIni);
     void MaakLedenmapBijStart();
+    void RuimRestenOp();
     void LeesInstellingenBijStart();
     void ZoekRekenprogrammaBijStart();
     void LeesGroepenBijStart();
@@ -84,12 +86,21 @@ class frmLedenAdmin : public QMainWindow {
     void WijzigGroepsnamen();
     bool BewaarGroepen(const Groepen& oud);
     void StartGatenlijst();
+    void Verplaats();
+    void Kopieer();
+    void VerwijderGroep();
     [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
     [[nodiscard]] bool IsRegelGekozen();
+
+    // Lists (frmLedenAdmin_lijsten.cpp)
+    void ToonSorteerlijst(Sorteersoort soort);
+    void MeldGeenGetal(Sorteersoort soort, const GeenGetal& fout);
+    void ToonDubbeleNamen();
 
     // Saving (frmLedenAdmin_opslag.cpp)
     Opslag SlaOp();
     void LeesOpnieuw();
+    void MerkNietOpgeslagen(bool nietOpgeslagen);
     [[nodiscard]] Vervolg VraagVervolg(const Fout& fout);
     [[nodiscard]] Vervolg VraagNaWijziging(const Fout& fout);
     void MeldRegisterBehouden(Opslag opslag);

@@ -7,7 +7,7 @@
 
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/nummerlijst.h"
-#include "platform/scherm/knop.h"
+#include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
 namespace {
@@ -23,7 +23,8 @@ constexpr int NamenBoven = 400;
 constexpr int NamenTussen = 200;
 constexpr int KolBrBoven = 60;
 
-constexpr int Tussenruimte = 8; // pixels between the columns of commands
+constexpr double Toelichtingletter = 8; // points
+constexpr int Tussenruimte = 8;         // pixels between the columns of commands
 
 QComboBox* MaakNummerkeus(const QString& naam, const QString& gesproken, Nummerlijst* nummers,
                           QWidget* ouder)
@@ -52,14 +53,6 @@ QVBoxLayout* MaakKolom(std::initializer_list<QWidget*> delen)
     }
     kolom->addStretch();
     return kolom;
-}
-
-QLabel* MaakLabel(const QString& naam, const QString& tekst, QWidget* ouder)
-{
-    auto* label = new QLabel(tekst, ouder);
-    Noem(label, naam);
-    label->setTextFormat(Qt::PlainText);
-    return label;
 }
 
 } // namespace
@@ -99,9 +92,8 @@ void frmLedenAdmin::MaakKnoppen()
     cmdToonGatenlijst->setToolTip(
         QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
     // Their windows are not there yet.
-    for (QPushButton* later : {cmdVerplaats, cmdKopieer, cmdVerwGroep, cmdSortlijst1, cmdSortlijst2,
-                               cmdSortlijst3, cmdZoekDubbeleNamen, cmdSpToevoegen, cmdHaalNBBnamen,
-                               cmdKoppel, cmdParenOnderhoud, cmdPrint, cmdToelichting})
+    for (QPushButton* later :
+         {cmdSpToevoegen, cmdHaalNBBnamen, cmdKoppel, cmdParenOnderhoud, cmdPrint, cmdToelichting})
         later->setEnabled(false);
 }
 
@@ -123,7 +115,7 @@ void frmLedenAdmin::Bouw()
     lagen->addLayout(roosterrij, 1);
     lagen->addWidget(BouwOpdrachten());
     setCentralWidget(midden);
-    resize(maten_.Twips(15360), maten_.Twips(10500));
+    PasInScherm(this, {maten_.Twips(15360), maten_.Twips(10500)});
     StelTabvolgordeIn();
     Verbind();
 }
@@ -134,6 +126,7 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     boven->setFixedHeight(maten_.Twips(RoosterBoven));
     lblToel = MaakLabel(QStringLiteral("lblToel"), QString(), boven);
     lblToel->setWordWrap(true);
+    lblToel->setFont(maten_.Letter(Toelichtingletter));
     lblToel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lblToel->setGeometry(maten_.Twips(RoosterLinks), maten_.Twips(KolBrBoven),
                          maten_.Twips(KeuzeLinks - 3 * RoosterLinks),
@@ -280,7 +273,20 @@ void frmLedenAdmin::Verbind()
     connect(cmdVerwijderVT, &QPushButton::clicked, this, &frmLedenAdmin::VerwijderVanTot);
     connect(cmdMaakGrNamen, &QPushButton::clicked, this, &frmLedenAdmin::WijzigGroepsnamen);
     connect(cmdToonGatenlijst, &QPushButton::clicked, this, &frmLedenAdmin::StartGatenlijst);
+    connect(cmdVerplaats, &QPushButton::clicked, this, &frmLedenAdmin::Verplaats);
+    connect(cmdKopieer, &QPushButton::clicked, this, &frmLedenAdmin::Kopieer);
+    connect(cmdVerwGroep, &QPushButton::clicked, this, &frmLedenAdmin::VerwijderGroep);
+    connect(cmdZoekDubbeleNamen, &QPushButton::clicked, this, &frmLedenAdmin::ToonDubbeleNamen);
+    for (const auto& [knop, soort] : {std::pair{cmdSortlijst1, Sorteersoort::Key},
+                                      std::pair{cmdSortlijst2, Sorteersoort::NBBnr},
+                                      std::pair{cmdSortlijst3, Sorteersoort::NBBgroep}})
+        connect(knop, &QPushButton::clicked, this,
+                [this, soort = soort] { ToonSorteerlijst(soort); });
     connect(cmdEinde, &QPushButton::clicked, this, &frmLedenAdmin::close);
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+G")), this), &QShortcut::activated,
+            this, [this] { cmbGr->setFocus(Qt::ShortcutFocusReason); });
+    connect(new QShortcut(QKeySequence(QStringLiteral("F6")), this), &QShortcut::activated, this,
+            [this] { picP0->Toetsenvlak()->setFocus(Qt::ShortcutFocusReason); });
     connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+N")), this), &QShortcut::activated,
             this, &frmLedenAdmin::VoegToe);
 }

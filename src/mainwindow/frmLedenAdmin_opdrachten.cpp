@@ -1,6 +1,9 @@
 // The commands of the main window.
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
+#include "dialogs/diaKopieer.h"
+#include "dialogs/diaVerplaats.h"
+#include "dialogs/frmVerwSubgroep.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/verwijderen.h"
 #include "platform/programma.h"
@@ -156,10 +159,45 @@ bool frmLedenAdmin::BewaarGroepen(const Groepen& oud)
     }
 }
 
+void frmLedenAdmin::Verplaats()
+{
+    diaVerplaats venster(administratie_, this);
+    venster.exec();
+    if (venster.IngaveGeannuleerd())
+        return;
+    const Opslag opslag = SlaOp();
+    ToonGroep();
+    if (opslag != Opslag::Mislukt)
+        Meld(this, QMessageBox::Information, QStringLiteral("De spelers(s) zijn verplaatst."));
+}
+
+void frmLedenAdmin::Kopieer()
+{
+    diaKopieer venster(administratie_, this);
+    venster.exec();
+    if (venster.IngaveGeannuleerd())
+        return;
+    (void)SlaOp();
+    ToonGroep();
+}
+
+void frmLedenAdmin::VerwijderGroep()
+{
+    frmVerwSubgroep venster(administratie_, this);
+    venster.exec();
+    if (!venster.IetsVerwijderd())
+        return;
+    const Opslag opslag = SlaOp();
+    ToonGroep();
+    MeldRegisterBehouden(opslag);
+}
+
 void frmLedenAdmin::StartGatenlijst()
 {
-    const auto uitkomst = StartProgramma(administratie_.schijf,
-                                         Samen(administratie_.mappen.RVDMAP, "Gatenlijst.exe"));
+    const Tekst& map = administratie_.mappen.RVDMAP;
+    const auto uitkomst =
+        map.empty() ? Uitkomst<void>(tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}}))
+                    : StartProgramma(administratie_.schijf, Samen(map, "Gatenlijst.exe"));
     if (uitkomst)
         return;
     if (uitkomst.error().soort == Foutsoort::Ontbreekt)

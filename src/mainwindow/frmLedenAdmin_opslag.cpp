@@ -15,8 +15,7 @@ frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
                                              administratie_.spelers, overschrijven);
         if (uitkomst)
             break;
-        nietOpgeslagen_ = true;
-        setWindowModified(true);
+        MerkNietOpgeslagen(true);
         ToonGroep();
         const Vervolg vervolg = VraagVervolg(uitkomst.error());
         if (vervolg == Vervolg::Overschrijven)
@@ -27,18 +26,25 @@ frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
             return Opslag::Mislukt;
         }
     }
+    MerkNietOpgeslagen(false);
     LeesOpnieuw();
     return leeg && administratie_.spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden
                                                             : Opslag::Gelukt;
 }
 
+void frmLedenAdmin::MerkNietOpgeslagen(bool nietOpgeslagen)
+{
+    nietOpgeslagen_ = nietOpgeslagen;
+    setWindowModified(nietOpgeslagen);
+}
+
 void frmLedenAdmin::LeesOpnieuw()
 {
-    nietOpgeslagen_ = false;
-    setWindowModified(false);
     const Leesverslag verslag =
         LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
-    if (!verslag.fout && verslag.zonderAchternaam.empty())
+    if (verslag.tabelVervangen)
+        MerkNietOpgeslagen(false);
+    if (verslag.AllesGelezen())
         return;
     ToonGroep(); // the grid must not show the old rows behind the box
     MeldLezing(verslag);
@@ -57,7 +63,7 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
     const QString gevolg = QStringLiteral(
         "\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging staat nog wel "
         "in dit programma: verhelp de oorzaak en probeer het opnieuw, of ga door; bij de volgende "
-        "wijziging en bij het afsluiten wordt het weer geprobeerd.\n\n");
+        "wijziging wordt het weer geprobeerd, en bij het afsluiten wordt het gevraagd.\n\n");
     const int antwoord = Kies(this, QMessageBox::Critical, wat + gevolg + Bijzonderheden(fout),
                               {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")});
     return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
@@ -65,15 +71,20 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
 
 frmLedenAdmin::Vervolg frmLedenAdmin::VraagNaWijziging(const Fout& fout)
 {
-    const int antwoord =
-        Kies(this, QMessageBox::Warning,
-             QStringLiteral("Het spelerbestand is door een ander programma gewijzigd nadat het "
-                            "hier is ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er "
-                            "komt eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: "
-                            "uw laatste wijziging vervalt.\n\n") +
-                 Bijzonderheden(fout),
-             {QStringLiteral("Opslaan"), QStringLiteral("Opnieuw inlezen"),
-              QStringLiteral("Later beslissen")});
+    const QString wat =
+        administratie_.spelers.gelezen
+            ? QStringLiteral("Het spelerbestand is door een ander programma gewijzigd nadat het "
+                             "hier is ingelezen.")
+            : QStringLiteral("Het spelerbestand op de schijf is hier niet ingelezen.");
+    const int antwoord = Kies(
+        this, QMessageBox::Warning,
+        wat +
+            QStringLiteral("\n\nOpslaan: uw gegevens vervangen dat bestand; er "
+                           "komt eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: "
+                           "uw laatste wijziging vervalt.\n\n") +
+            Bijzonderheden(fout),
+        {QStringLiteral("Opslaan"), QStringLiteral("Opnieuw inlezen"),
+         QStringLiteral("Later beslissen")});
     constexpr std::array vervolgen{Vervolg::Overschrijven, Vervolg::LeesOpnieuw, Vervolg::Later};
     return vervolgen.at(static_cast<std::size_t>(antwoord));
 }

@@ -38,6 +38,7 @@ std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
     if (!LeesMappenBijStart(opstart.mappenIni))
         return 1;
     MaakLedenmapBijStart();
+    RuimRestenOp();
     LeesInstellingenBijStart();
     ZoekRekenprogrammaBijStart();
     opstarten_ = true;
@@ -71,10 +72,11 @@ bool frmLedenAdmin::LeesMappenBijStart(const Pad& mappenIni)
             : QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen.");
     Meld(nullptr, QMessageBox::Critical,
          wat +
-             QStringLiteral("\n\nIn dat bestand staat in welke mappen uw gegevens worden "
-                            "bewaard; zonder kan dit programma niet werken. Zet het goede "
-                            "bestand op deze plaats, of start Plexoran met --mappen en de naam "
-                            "van het bestand.\n\n") +
+             QStringLiteral(
+                 "\n\nIn dat bestand staat in welke mappen uw gegevens worden "
+                 "bewaard; zonder dat bestand kan dit programma niet werken. Zet het goede "
+                 "bestand op deze plaats, of start Plexoran met --mappen en de naam "
+                 "van het bestand.\n\n") +
              Bijzonderheden(fout));
     return false;
 }
@@ -94,10 +96,20 @@ void frmLedenAdmin::MaakLedenmapBijStart()
         MeldMapfout(wat, map.error());
 }
 
+/// What a program that was killed while saving may have left beside the files.
+void frmLedenAdmin::RuimRestenOp()
+{
+    const Mappen& mappen = administratie_.mappen;
+    for (const char* naam : {"RVDspelers.txt", "RVDGroepen.txt"})
+        RuimTijdelijkeOp(administratie_.schijf, mappen.SPEMAP, naam, Nu());
+    if (!mappen.ADMMAP.empty())
+        RuimTijdelijkeOp(administratie_.schijf, mappen.ADMMAP, "Plexo.ini", Nu());
+}
+
 void frmLedenAdmin::LeesInstellingenBijStart()
 {
-    const Pad pad = administratie_.mappen.Instellingenbestand();
     administratie_.instellingen = LeesInstellingen(administratie_.schijf, administratie_.mappen);
+    const Pad pad = administratie_.mappen.Instellingenbestand();
     const auto inhoud = administratie_.schijf.LeesBestand(pad);
     if (inhoud && !IsInstellingenbestand(*inhoud))
         Meld(this, QMessageBox::Information,
@@ -131,20 +143,19 @@ void frmLedenAdmin::LeesGroepenBijStart()
         MeldMapfout(QStringLiteral("Het bestand met de groepsnamen kon niet worden gemaakt of "
                                    "gelezen."),
                     gemaakt.error());
-    const auto inhoud = administratie_.schijf.LeesBestand(pad);
+    administratie_.groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
+    const auto& inhoud = administratie_.groepen.bestandstekst;
     if (inhoud && !IsGroepenbestand(*inhoud))
         Meld(this, QMessageBox::Information,
              QStringLiteral("Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn. "
                             "Die zijn overgeslagen. Voordat het bestand wordt vervangen, komt er "
                             "een kopie van in de map Reservekopie.\n\nBestand: ") +
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
-    administratie_.groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
     VulGroepen();
 }
 
 void frmLedenAdmin::LeesSpelersBijStart()
 {
-    RuimTijdelijkeOp(administratie_.schijf, administratie_.mappen.SPEMAP, "RVDspelers.txt", Nu());
     const auto gemaakt =
         MaakSpelerbestand(administratie_.schijf, administratie_.mappen, administratie_.spelers);
     const Leesverslag verslag =
@@ -196,6 +207,11 @@ QString frmLedenAdmin::WatNietGelezenIs(const Leesverslag& verslag) const
                                 "regel %2 van het spelerbestand).")
                      .arg(verslag.zonderAchternaam.size())
                      .arg(Opsomming(verslag.zonderAchternaam));
+    if (verslag.zonderSleutelregel)
+        delen << QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de hoogste "
+                                "spelersleutel. Nieuwe spelers krijgen daardoor een sleutel vanaf "
+                                "100001, die al van een andere speler kan zijn. Voeg geen spelers "
+                                "toe voordat die regel is hersteld.");
     return delen.join(QStringLiteral("\n\n"));
 }
 

@@ -16,12 +16,13 @@ namespace {
 constexpr int BalkdikteTwips = 280;
 constexpr int VrijNaastVlakTwips = 220;
 constexpr double Letterpunten = 9.0;
+constexpr int KleinsteAantalRegels = 4; // that stay in sight however small the window
 
 } // namespace
 
 Rooster::Rooster(const Maten& maten, QWidget* ouder)
     : QFrame(ouder), balkdikte_(maten.Twips(BalkdikteTwips)),
-      zijmarge_(maten.Twips(VrijNaastVlakTwips) / 2), pixelsPerMm_(maten.PixelsPerMm()),
+      naastVlak_(maten.Twips(VrijNaastVlakTwips)), pixelsPerMm_(maten.PixelsPerMm()),
       P1(new Roostervlak(inhoud_, pixelsPerMm_, this)), P9(new QWidget(this)), P2(new QWidget(P9)),
       HScroll1(new QScrollBar(Qt::Horizontal, this)), VScroll1(new QScrollBar(Qt::Vertical, this))
 {
@@ -32,7 +33,11 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
     P1->setFont(letter);
     BouwHeader(letter);
     BouwSchuifbalken();
+    setMinimumHeight(qRound(OnderkantVan(KleinsteAantalRegels) * pixelsPerMm_) + balkdikte_);
     connect(P1, &Roostervlak::regelGekozen, this, &Rooster::BrengInBeeld);
+    connect(P1, &Roostervlak::opzij, this, [this](int stappen) {
+        HScroll1->setValue(HScroll1->value() + stappen * HScroll1->singleStep());
+    });
     connect(P1, &Roostervlak::wijzigGevraagd, this, &Rooster::wijzigGevraagd);
     connect(P1, &Roostervlak::verwijderGevraagd, this, &Rooster::verwijderGevraagd);
 }
@@ -72,8 +77,11 @@ void Rooster::Toon(const Spelertabel& tabel, Weergave weergave,
     inhoud_.weergave = std::move(weergave);
     inhoud_.kolomnamen = kolomnamen;
     inhoud_.celmaten = MeetCellen(tabel, inhoud_.weergave, inhoud_.meter);
-    for (std::size_t i = 0; i < kolomnamen.size(); ++i)
+    for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
         inhoud_.headermaten[i] = inhoud_.meter.Breedte(kolomnamen[i]);
+        if (kolomnamen[i].empty())
+            inhoud_.celmaten[i] = 0;
+    }
     P1->KiesRegel(0);
     PasKolommenAan();
 }
@@ -129,13 +137,14 @@ void Rooster::resizeEvent(QResizeEvent* gebeurtenis)
 void Rooster::PlaatsDelen()
 {
     const int rand = frameWidth();
-    const int breedte = width() - 2 * zijmarge_ - balkdikte_;
+    const int breedte = width() - naastVlak_ - balkdikte_;
+    const int links = naastVlak_ / 2;
     const int hoogte = height() - 2 * rand - balkdikte_;
-    P1->setGeometry(zijmarge_, rand, breedte, hoogte);
-    P9->setGeometry(zijmarge_, rand, breedte, qRound(rooster::Bovenmarge * pixelsPerMm_));
+    P1->setGeometry(links, rand, breedte, hoogte);
+    P9->setGeometry(links, rand, breedte, qRound(rooster::Bovenmarge * pixelsPerMm_));
     P9->raise();
-    VScroll1->setGeometry(zijmarge_ + breedte, rand, balkdikte_, hoogte);
-    HScroll1->setGeometry(zijmarge_, rand + hoogte, breedte, balkdikte_);
+    VScroll1->setGeometry(links + breedte, rand, balkdikte_, hoogte);
+    HScroll1->setGeometry(links, rand + hoogte, breedte, balkdikte_);
     PasKolommenAan();
 }
 

@@ -50,7 +50,7 @@ class Rooster : public QFrame {
     void StelSchuifbalkenIn();
 
     int balkdikte_;
-    int zijmarge_;
+    int naastVlak_; ///< pixels of the frame that stay free beside the rows
     double pixelsPerMm_;
     Breedteregel breedteregel_ = Breedteregel::VolgensHeader;
     Roosterinhoud inhoud_;

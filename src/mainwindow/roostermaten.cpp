@@ -63,14 +63,6 @@ Kolomranden MaakKolommen(const Kolommaten& cellen, const Kolommaten& headers, Br
     return randen;
 }
 
-int KolomOp(double x, const Kolomranden& randen)
-{
-    if (x < 0)
-        return 0;
-    const auto rand = std::upper_bound(randen.begin(), randen.end(), x);
-    return rand == randen.end() ? 0 : static_cast<int>(rand - randen.begin());
-}
-
 Tekst PasTekst(Tekstblik tekst, double kolombreedte, const Tekstmeter& meter)
 {
     const double ruimte = kolombreedte - 2 * rooster::Celmarge - rooster::Speling;

@@ -39,9 +39,6 @@ using Kolomranden = std::array<double, AantalKolommen + 1>;
 [[nodiscard]] Kolomranden MaakKolommen(const Kolommaten& cellen, const Kolommaten& headers,
                                        Breedteregel regel);
 
-/// The column at a place, 0 outside all columns.
-[[nodiscard]] int KolomOp(double x, const Kolomranden& randen);
-
 /// The text as it is drawn in a column of this width: whole when it fits, else shortened from its
 /// end and closed by "...".
 [[nodiscard]] Tekst PasTekst(Tekstblik tekst, double kolombreedte, const Tekstmeter& meter);

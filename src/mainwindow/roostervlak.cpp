@@ -134,7 +134,7 @@ void Roostervlak::TekenTeksten(QPainter& schilder, int regel, double links, doub
         const double eind = inhoud_.randen[i + 1];
         if (X(eind) < links || X(begin) > rechts)
             continue;
-        const Tekstblik cel = inhoud_.tabel->Cel(rij, static_cast<Kolom>(i + 1));
+        const Tekstblik cel = inhoud_.Cel(rij, i);
         if (!cel.empty())
             schilder.drawText(QPointF(X(begin + rooster::Celmarge), qRound(basislijn)),
                               NaarQString(PasTekst(cel, eind - begin, inhoud_.meter)));
@@ -195,6 +195,8 @@ void Roostervlak::keyPressEvent(QKeyEvent* gebeurtenis)
             KiesRegel(std::clamp(doel, 1, inhoud_.Regels()));
     } else if (toets == Qt::Key_Return || toets == Qt::Key_Enter || toets == Qt::Key_F2) {
         emit wijzigGevraagd();
+    } else if (toets == Qt::Key_Left || toets == Qt::Key_Right) {
+        emit opzij(toets == Qt::Key_Left ? -1 : 1);
     } else if (toets == Qt::Key_Delete) {
         emit verwijderGevraagd();
     } else {
@@ -237,7 +239,7 @@ void Roostervlak::SpreekRegel()
         const int rij = inhoud_.weergave[static_cast<std::size_t>(regel_ - 1)];
         tekst = QStringLiteral("Regel %1").arg(regel_);
         for (std::size_t i = 0; i < AantalKolommen; ++i) {
-            const Tekstblik cel = inhoud_.tabel->Cel(rij, static_cast<Kolom>(i + 1));
+            const Tekstblik cel = inhoud_.Cel(rij, i);
             if (!cel.empty())
                 tekst += QStringLiteral(", %1 %2").arg(NaarQString(inhoud_.kolomnamen[i]),
                                                        NaarQString(cel));

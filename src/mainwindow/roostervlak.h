@@ -20,6 +20,13 @@ struct Roosterinhoud {
     Tekstmeter meter;
 
     [[nodiscard]] int Regels() const { return static_cast<int>(weergave.size()); }
+
+    /// The text of a cell as the grid shows it: a column without a name shows nothing.
+    [[nodiscard]] Tekstblik Cel(int rij, std::size_t kolom) const
+    {
+        return kolomnamen[kolom].empty() ? Tekstblik()
+                                         : tabel->Cel(rij, static_cast<Kolom>(kolom + 1));
+    }
 };
 
 class Roostervlak : public QWidget {
@@ -42,6 +49,8 @@ class Roostervlak : public QWidget {
     void regelGekozen(int regel);
     void wijzigGevraagd();
     void verwijderGevraagd();
+    /// Left and right: -1 or 1 step sideways.
+    void opzij(int stappen);
 
   protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;

@@ -1,5 +1,6 @@
 #include "platform/getal.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace plexoran {
@@ -72,6 +73,17 @@ std::optional<std::int16_t> Geheel16(Tekstblik tekst)
 std::optional<std::int32_t> Geheel32(Tekstblik tekst)
 {
     return Passend<std::int32_t>(tekst);
+}
+
+std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte)
+{
+    Tekstblik cijfers = ZonderSpaties(tekst);
+    if (cijfers.empty() || !std::all_of(cijfers.begin(), cijfers.end(), IsCijfer))
+        return std::nullopt;
+    cijfers.remove_prefix(std::min(cijfers.find_first_not_of('0'), cijfers.size() - 1));
+    Tekst uit(breedte - std::min(breedte, cijfers.size()), '0');
+    uit += cijfers;
+    return uit;
 }
 
 } // namespace plexoran

@@ -14,4 +14,8 @@ namespace plexoran {
 [[nodiscard]] std::optional<std::int16_t> Geheel16(Tekstblik tekst);
 [[nodiscard]] std::optional<std::int32_t> Geheel32(Tekstblik tekst);
 
+/// A text of digits, outer spaces apart, as a number of at least `breedte` digits with leading
+/// zeros. Nothing for any other text.
+[[nodiscard]] std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte);
+
 } // namespace plexoran

@@ -28,9 +28,6 @@ class Greep {
     [[nodiscard]] std::error_code Sluit();
 
   private:
-    /// Refuses folders, pipes and devices.
-    [[nodiscard]] std::error_code Grootte(std::size_t& grootte) const;
-
     int nummer_ = -1;
 };
 

@@ -62,15 +62,7 @@ Uitkomst<void> VulEnRuil(Schijf& schijf, Tijdelijk& tijdelijk, const Pad& doel, 
     });
 }
 
-} // namespace
-
-Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
-{
-    return SchrijfHeel(schijf, pad,
-                       [inhoud](Schrijver& schrijver) { return schrijver.Schrijf(inhoud); });
-}
-
-Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul)
+Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, const Vuller& vul)
 {
     const auto doel = schijf.Doel(pad);
     if (!doel)
@@ -90,6 +82,23 @@ Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul)
         return geruild;
     }
     return schijf.SyncMapVan(*doel);
+}
+
+} // namespace
+
+Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
+{
+    return SchrijfHeel(schijf, pad,
+                       [inhoud](Schrijver& schrijver) { return schrijver.Schrijf(inhoud); });
+}
+
+Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul)
+{
+    // What failed may be a temporary file; the user knows the file by its own name.
+    return Vervang(schijf, pad, vul).map_error([&](Fout fout) {
+        fout.bestand = schijf.Toonpad(pad);
+        return fout;
+    });
 }
 
 void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu)

@@ -60,6 +60,14 @@ Tekst Vervang(Tekstblik tekst, char van, char door)
     return uit;
 }
 
+Tekst AlsVeld(Tekstblik tekst)
+{
+    Tekst uit = Vervang(tekst, ',', '_');
+    std::replace_if(
+        uit.begin(), uit.end(), [](char teken) { return teken == '\r' || teken == '\n'; }, ' ');
+    return uit;
+}
+
 Tekst MetNullen(std::int64_t getal, int breedte)
 {
     Tekst cijfers = std::to_string(getal);

@@ -26,6 +26,10 @@ using Tekstblik = std::string_view;
 /// Every `van` replaced by `door`.
 [[nodiscard]] Tekst Vervang(Tekstblik tekst, char van, char door);
 
+/// What the suite's files can hold of a text as a field: a comma becomes an underscore, a line end
+/// a space. The windows keep both out before; this is the last guard.
+[[nodiscard]] Tekst AlsVeld(Tekstblik tekst);
+
 /// The number in decimal with at least `breedte` digits, padded with leading zeros.
 [[nodiscard]] Tekst MetNullen(std::int64_t getal, int breedte);
 

@@ -1,6 +1,7 @@
 #include "register/groepen.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/regels.h"
 #include "register/reservekopie.h"
@@ -13,20 +14,26 @@ bool IsGroepsitem(Tekstblik item)
     return item.starts_with("Gr");
 }
 
-bool NietsBegrepen(Tekstblik)
+bool HeeftGroepscode(Tekstblik item)
 {
-    return false;
+    const auto isCijfer = [](char teken) { return teken >= '0' && teken <= '9'; };
+    return item.size() >= LengteGroepscode && IsGroepsitem(item) && isCijfer(item[2]) &&
+           isCijfer(item[3]) && item[4] == '-';
 }
 
 } // namespace
 
 void Groepen::ZetNaam(int nummer, Tekstblik naam)
 {
-    Tekst schoon = Vervang(naam, ',', '_');
-    std::replace_if(
-        schoon.begin(), schoon.end(), [](char teken) { return teken == '\r' || teken == '\n'; },
-        ' ');
-    namen_.at(Plaats(nummer)) = std::move(schoon);
+    namen_.at(Plaats(nummer)) = AlsVeld(naam);
+}
+
+std::vector<Tekst> Groepen::Toonteksten() const
+{
+    std::vector<Tekst> teksten;
+    for (int nummer = 1; nummer <= AantalGroepen; ++nummer)
+        teksten.push_back(Toontekst(nummer));
+    return teksten;
 }
 
 Groepen GroepenUit(Tekstblik inhoud)
@@ -46,8 +53,8 @@ Groepen GroepenUit(Tekstblik inhoud)
 Tekst GroepenTekst(const Groepen& groepen)
 {
     Tekst tekst;
-    for (int nummer = 1; nummer <= AantalGroepen; ++nummer)
-        tekst += groepen.Toontekst(nummer) + "\r\n";
+    for (const Tekst& regel : groepen.Toonteksten())
+        tekst += regel + "\r\n";
     return tekst;
 }
 
@@ -57,7 +64,7 @@ bool IsGroepenbestand(Tekstblik inhoud)
     for (const Tekstblik item : Items(inhoud)) {
         if (item.empty())
             continue;
-        if (!IsGroepsitem(item) || item.size() < LengteGroepscode || ++nummer > AantalGroepen)
+        if (!HeeftGroepscode(item) || ++nummer > AantalGroepen)
             return false;
     }
     return true;
@@ -71,19 +78,29 @@ Uitkomst<void> MaakGroepenbestand(Schijf& schijf, const Mappen& mappen)
         return tl::unexpected(inhoud.error());
     if (inhoud && !IsBlanco(EersteItem(*inhoud)))
         return {};
-    return VervangMetKopie(schijf, mappen.SPEMAP, pad, GroepenTekst(Groepen()), NietsBegrepen);
+    return VervangMetKopie(schijf, mappen.SPEMAP, pad, GroepenTekst(Groepen()),
+                           [](Tekstblik) { return false; });
 }
 
 Groepen LeesGroepen(Schijf& schijf, const Mappen& mappen)
 {
-    const auto inhoud = schijf.LeesBestand(mappen.Groepenbestand());
-    return inhoud ? GroepenUit(*inhoud) : Groepen();
+    auto inhoud = schijf.LeesBestand(mappen.Groepenbestand());
+    if (!inhoud)
+        return {};
+    Groepen groepen = GroepenUit(*inhoud);
+    groepen.bestandstekst = std::move(*inhoud);
+    return groepen;
 }
 
-Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen, const Groepen& groepen)
+Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen, Groepen& groepen)
 {
-    return VervangMetKopie(schijf, mappen.SPEMAP, mappen.Groepenbestand(), GroepenTekst(groepen),
-                           IsGroepenbestand);
+    Tekst nieuw = GroepenTekst(groepen);
+    const auto magWeg = [&](Tekstblik oud) {
+        return groepen.bestandstekst == oud && IsGroepenbestand(oud);
+    };
+    return VervangMetKopie(schijf, mappen.SPEMAP, mappen.Groepenbestand(), nieuw, magWeg).map([&] {
+        groepen.bestandstekst = std::move(nieuw);
+    });
 }
 
 } // namespace plexoran

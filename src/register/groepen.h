@@ -9,6 +9,8 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <vector>
 
 #include "register/groepscode.h"
 #include "register/mappen.h"
@@ -24,6 +26,12 @@ class Groepen {
     void ZetNaam(int nummer, Tekstblik naam);
     /// Code and name together, as every drop-down shows a group.
     [[nodiscard]] Tekst Toontekst(int nummer) const { return Groepscode(nummer) + Naam(nummer); }
+    /// The text of the file that the names were read from or written to; none when there is no such
+    /// text, so that a file that stands there is not known.
+    std::optional<Tekst> bestandstekst;
+
+    /// Those of all groups, in their order.
+    [[nodiscard]] std::vector<Tekst> Toonteksten() const;
 
   private:
     static std::size_t Plaats(int nummer) { return static_cast<std::size_t>(nummer - 1); }
@@ -44,8 +52,8 @@ class Groepen {
 /// A file that cannot be read gives groups without names.
 [[nodiscard]] Groepen LeesGroepen(Schijf& schijf, const Mappen& mappen);
 
-/// Writes the file whole. One that holds anything else than group names is first copied aside.
-[[nodiscard]] Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen,
-                                            const Groepen& groepen);
+/// Writes the file whole. One that holds anything else than group names, or that is not the one
+/// that was read, is first copied aside.
+[[nodiscard]] Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen, Groepen& groepen);
 
 } // namespace plexoran

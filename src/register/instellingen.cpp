@@ -10,19 +10,32 @@ namespace {
 constexpr Tekstblik optind = "OPTIND=";
 constexpr Tekstblik lostgr = "LOSTGR=";
 
+/// The setting that an item is of; empty for another item.
+Tekst SleutelVan(Tekstblik item)
+{
+    Tekst sleutel = Hoofdletters(item.substr(0, optind.size()));
+    return sleutel == optind || sleutel == lostgr ? sleutel : Tekst();
+}
+
 } // namespace
 
 bool IsInstellingenbestand(Tekstblik inhoud)
 {
-    return IsLeeg(inhoud) || InstellingenTekst(InstellingenUit(inhoud)) == inhoud;
+    for (const Tekstblik item : Items(inhoud)) {
+        const bool instelling =
+            !SleutelVan(item).empty() && Geheel16(item.substr(optind.size())).has_value();
+        if (!IsBlanco(item) && !instelling)
+            return false;
+    }
+    return true;
 }
 
 Instellingen InstellingenUit(Tekstblik inhoud)
 {
     Instellingen instellingen;
     for (const Tekstblik item : Items(inhoud)) {
-        const Tekst sleutel = Hoofdletters(item.substr(0, optind.size()));
-        if (sleutel != optind && sleutel != lostgr)
+        const Tekst sleutel = SleutelVan(item);
+        if (sleutel.empty())
             continue;
         const auto waarde = Geheel16(item.substr(sleutel.size()));
         if (!waarde)

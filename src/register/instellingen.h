@@ -19,7 +19,7 @@ struct Instellingen {
 /// 16 bits ends the reading.
 [[nodiscard]] Instellingen InstellingenUit(Tekstblik inhoud);
 [[nodiscard]] Tekst InstellingenTekst(const Instellingen& instellingen);
-/// Whether the text holds both settings and nothing else, so that writing it anew loses nothing.
+/// Whether the text holds settings and nothing else, so that writing it anew loses nothing.
 [[nodiscard]] bool IsInstellingenbestand(Tekstblik inhoud);
 
 /// A file that is missing or cannot be read gives 0 for both.

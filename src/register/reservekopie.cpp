@@ -53,14 +53,14 @@ Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad&
 }
 
 Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
-                               Tekstblik nieuw, bool (*begrepen)(Tekstblik))
+                               Tekstblik nieuw, const std::function<bool(Tekstblik)>& magWeg)
 {
     const auto oud = schijf.LeesBestand(bestand);
     if (!oud && oud.error().soort != Foutsoort::Ontbreekt)
         return tl::unexpected(oud.error());
     if (oud && *oud == nieuw)
         return {};
-    if (oud && !IsLeeg(*oud) && !begrepen(*oud)) {
+    if (oud && !IsLeeg(*oud) && !magWeg(*oud)) {
         const auto kopie = MaakReservekopie(schijf, spelersmap, bestand);
         if (!kopie)
             return tl::unexpected(kopie.error());

@@ -1,8 +1,10 @@
-// Copies of files that a save is about to replace although not all of them was understood.
+// Copies of files that a save is about to replace although not everything in them was understood.
 //
 // They stand in the folder "Reservekopie" in the players folder, named after the file with date and
 // time: "RVDspelers 2026-03-01 142355.txt". A copy never replaces another.
 #pragma once
+
+#include <functional>
 
 #include "platform/schijf.h"
 
@@ -13,10 +15,10 @@ namespace plexoran {
 [[nodiscard]] Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap,
                                              const Pad& bestand);
 
-/// Writes a small file whole. When the file that stands there holds something that `begrepen` does
-/// not know, a copy is made first; a file that already holds `nieuw` is left alone.
+/// Writes a small file whole. A file that stands there and that `magWeg` does not let go is copied
+/// first, unless it is empty; one that already holds `nieuw` is left alone.
 [[nodiscard]] Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap,
                                              const Pad& bestand, Tekstblik nieuw,
-                                             bool (*begrepen)(Tekstblik));
+                                             const std::function<bool(Tekstblik)>& magWeg);
 
 } // namespace plexoran

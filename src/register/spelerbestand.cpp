@@ -102,6 +102,8 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
         return verslag;
     }
     Spelerlezing lezing = SpelersUit(std::move(*inhoud));
+    verslag.tabelVervangen = lezing.tabel.has_value();
+    verslag.zonderSleutelregel = lezing.zonderSleutelregel;
     if (lezing.tabel)
         spelers.tabel = std::move(*lezing.tabel);
     spelers.HKEY = lezing.HKEY.value_or(spelers.HKEY);
@@ -147,10 +149,12 @@ Uitkomst<void> SchrijfSpelers(Schijf& schijf, const Mappen& mappen, Register& sp
                                    .bestand = schijf.Toonpad(pad),
                                    .regel = 0,
                                    .systeem = {}});
-    if (bestaat && (gewijzigd || spelers.kopieNodig)) {
+    const bool alGekopieerd = spelers.gekopieerd == *stempel; // before a save that failed
+    if (bestaat && (gewijzigd || spelers.kopieNodig) && !alGekopieerd) {
         const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad);
         if (!kopie)
             return tl::unexpected(kopie.error());
+        spelers.gekopieerd = *stempel;
     }
     return SchrijfRegister(schijf, pad, spelers);
 }
@@ -162,6 +166,13 @@ std::optional<std::int32_t> NieuweSleutel(Register& spelers)
     if (spelers.HKEY == std::numeric_limits<std::int32_t>::max())
         return std::nullopt;
     return ++spelers.HKEY;
+}
+
+bool ZijnErSleutels(const Register& spelers, std::size_t aantal)
+{
+    const std::int64_t over = std::int64_t{std::numeric_limits<std::int32_t>::max()} -
+                              (spelers.HKEY == 0 ? Sleutelbasis : spelers.HKEY);
+    return over >= static_cast<std::int64_t>(aantal);
 }
 
 bool VoegSpelerToe(Register& spelers, Tekstblik groeptekst, const Rijvelden& velden)

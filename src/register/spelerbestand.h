@@ -32,6 +32,7 @@ struct Spelerlezing {
     std::optional<std::int32_t> HKEY; ///< of the last key line read; none without one
     std::optional<Regelfout> fout;
     std::vector<int> zonderAchternaam; ///< line numbers that were left out
+    bool zonderSleutelregel = false;   ///< there are players, but no key line
     bool verliest = false;             ///< writing the table would lose something of the text
 };
 
@@ -40,16 +41,24 @@ struct Spelerlezing {
 /// The register in memory and what is known of its file.
 struct Register {
     Spelertabel tabel;
-    std::int32_t HKEY = 0;          ///< highest key ever issued
-    std::optional<Stempel> gelezen; ///< the file as it was when it was read or written last
-    bool kopieNodig = false;        ///< the next save would lose something that the file holds
+    std::int32_t HKEY = 0;             ///< highest key ever issued
+    std::optional<Stempel> gelezen;    ///< the file as it was when it was read or written last
+    bool kopieNodig = false;           ///< the next save would lose something that the file holds
+    std::optional<Stempel> gekopieerd; ///< the state of the file of which a copy was made
 };
 
-/// What a read left out, for the user.
+/// What a read left out or missed, for the user.
 struct Leesverslag {
     std::optional<Fout> fout; ///< the reading ended here; the lines before it are in the table
     int velden = 0;           ///< fields on the line to blame, where one is
     std::vector<int> zonderAchternaam;
+    bool zonderSleutelregel = false;
+    bool tabelVervangen = false; ///< the table is the file's now
+
+    [[nodiscard]] bool AllesGelezen() const
+    {
+        return !fout && zonderAchternaam.empty() && !zonderSleutelregel;
+    }
 };
 
 enum class Overschrijven { AlleenEigen, OokGewijzigd };
@@ -80,6 +89,9 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 
 /// The next register key, which counts as issued; none when the keys have run out.
 [[nodiscard]] std::optional<std::int32_t> NieuweSleutel(Register& spelers);
+
+/// Whether that many keys can still be issued.
+[[nodiscard]] bool ZijnErSleutels(const Register& spelers, std::size_t aantal);
 
 /// Stores columns 4 to 18 of `velden` as they are, and the code with which the group begins.
 void WijzigSpeler(Register& spelers, int rij, const Rijvelden& velden);

@@ -72,7 +72,8 @@ class Lezer {
         rijen_.reserve(GeschatAantalRegels());
         while (begin_ < inhoud_.size() && geteld_)
             LeesRegel();
-        if (uit_.fout)
+        uit_.zonderSleutelregel = !uit_.HKEY && !rijen_.empty();
+        if (uit_.fout || uit_.zonderSleutelregel)
             uit_.verliest = true;
         if (geteld_)
             uit_.tabel.emplace(std::move(inhoud_), std::move(rijen_));
@@ -128,11 +129,16 @@ class Lezer {
 
     void NeemSleutel(Tekstblik tekst)
     {
-        const auto waarde = Geheel32(ZonderSpaties(tekst));
-        if (waarde)
-            uit_.HKEY = std::max(*waarde, Sleutelbasis);
-        else
+        const Tekstblik getal = ZonderSpaties(tekst);
+        const auto waarde = Geheel32(getal);
+        if (!waarde) {
             BreekAf(0);
+            return;
+        }
+        // Another key line, or anything behind the number, is not written again.
+        if (uit_.HKEY || !AlsGetal(getal, 1))
+            uit_.verliest = true;
+        uit_.HKEY = std::max(*waarde, Sleutelbasis);
     }
 
     void NeemSpeler()

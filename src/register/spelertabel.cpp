@@ -1,19 +1,6 @@
 #include "register/spelertabel.h"
 
-#include <algorithm>
-
 namespace plexoran {
-namespace {
-
-char KanInCel(char teken)
-{
-    if (teken == ',')
-        return '_';
-    return teken == '\r' || teken == '\n' ? ' ' : teken;
-}
-
-} // namespace
-
 Spelertabel::Spelertabel(Tekst tekst, std::vector<Celgrenzen> rijen)
     : tekst_(std::move(tekst)), rijen_(std::move(rijen))
 {
@@ -45,9 +32,24 @@ void Spelertabel::ZetRij(int rij, const Rijvelden& velden)
 
 void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
 {
-    Rijvelden velden = Velden(rij);
-    velden[Plaats(kolom)] = tekst;
-    ZetRij(rij, velden);
+    const Tekst nieuw = AlsVeld(tekst); // a copy, since it may be a view into this table
+    const auto lengte = Grenzen(rij)[AantalKolommen] - Grenzen(rij)[0];
+    MaakRuimte(lengte + nieuw.size() + 1);
+
+    const Celgrenzen oud = Grenzen(rij);
+    const auto plaats = Plaats(kolom);
+    const auto begin = static_cast<std::uint32_t>(tekst_.size());
+    tekst_.append(tekst_, oud[0], oud[plaats] - oud[0]);
+    tekst_ += nieuw;
+    tekst_ += ',';
+    const auto verder = static_cast<std::uint32_t>(tekst_.size());
+    if (plaats + 1 < AantalKolommen) {
+        tekst_.append(tekst_, oud[plaats + 1], oud[AantalKolommen] - oud[plaats + 1] - 1);
+        tekst_ += ',';
+    }
+    Celgrenzen& grenzen = rijen_[static_cast<std::size_t>(rij - 1)];
+    for (std::size_t i = 0; i < grenzen.size(); ++i)
+        grenzen[i] = i <= plaats ? oud[i] - oud[0] + begin : oud[i] - oud[plaats + 1] + verder;
 }
 
 void Spelertabel::VoegToe(const Rijvelden& velden)
@@ -65,7 +67,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
     Celgrenzen grenzen{};
     for (std::size_t i = 0; i < velden.size(); ++i) {
         grenzen[i] = static_cast<std::uint32_t>(tekst_.size());
-        std::transform(velden[i].begin(), velden[i].end(), std::back_inserter(tekst_), KanInCel);
+        tekst_ += AlsVeld(velden[i]);
         tekst_ += ',';
     }
     grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());

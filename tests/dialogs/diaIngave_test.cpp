@@ -112,8 +112,8 @@ TEST_F(diaIngaveTest, DeOpschriftenInDeImportgroep)
         "",       "Div1:",  "Div2:",  "Status:",   "NBBgr:",  "NBBnr:"};
     for (int veld = 1; veld <= 18; ++veld)
         EXPECT_EQ(namen[static_cast<std::size_t>(veld - 1)], Label(veld)->text().toStdString());
-    EXPECT_EQ("Man", Deel<QRadioButton>("optMan")->text().toStdString());
-    EXPECT_EQ("Vrouw", Deel<QRadioButton>("optVrouw")->text().toStdString());
+    EXPECT_EQ("Man", Opschrift(Deel<QRadioButton>("optMan")));
+    EXPECT_EQ("Vrouw", Opschrift(Deel<QRadioButton>("optVrouw")));
 }
 
 TEST_F(diaIngaveTest, BuitenDeImportgroepEenSubgroepEnGeenNummer)

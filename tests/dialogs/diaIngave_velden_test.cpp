@@ -2,6 +2,7 @@
 #include "dialogs/ingaveproef.h"
 
 using namespace plexoran;
+using namespace std::string_literals;
 
 namespace {
 
@@ -344,7 +345,7 @@ TEST_F(diaIngaveVeldenTest, WatMenNietAanraaktKomtTotOpDeByteTerug)
     velden = {};
     for (const int veld : {4, 5, 7, 8, 9, 10, 11, 12, 14, 15, 16})
         velden[static_cast<std::size_t>(veld - 1)] = alles;
-    velden[5] = Tekst("\x81\x8D\x8F\x90\x9D\t\x00\x7F \xA0", 10);
+    velden[5] = "\x81\x8D\x8F\x90\x9D\t\x00\x7F \xA0"s;
     velden[12] = "\x8F";
     velden[13] = Tekst(64 * 1024, '\x90');
     velden[14] = Tekst(64 * 1024, 'x') + "\t\x01";

@@ -85,15 +85,6 @@ void Berichtwachter::Klaar()
                  : QStringLiteral("het verwachte venster is niet gekomen"));
 }
 
-void Berichtwachter::WachtOpAlles()
-{
-    QElapsedTimer tijd;
-    tijd.start();
-    while ((!verwacht_.empty() || open_ > 0) && tijd.elapsed() < geduld_)
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    Klaar();
-}
-
 /// A window shows just before its own event loop begins; it is dealt with inside that loop.
 bool Berichtwachter::eventFilter(QObject* object, QEvent* gebeurtenis)
 {
@@ -109,12 +100,10 @@ void Berichtwachter::Verschenen(QDialog& dialoog)
 {
     if (!dialoog.isVisible())
         return;
-    ++open_;
     if (auto* bericht = qobject_cast<QMessageBox*>(&dialoog))
         Behandel(*bericht);
     else
         BehandelDialoog(dialoog);
-    --open_;
 }
 
 void Berichtwachter::Behandel(QMessageBox& venster)

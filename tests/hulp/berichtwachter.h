@@ -44,24 +44,9 @@ class Berichtwachter : public QObject {
     /// The next modal dialog that is no message box is handed to `stappen`, which must close it.
     /// Boxes that come while it is open are announced after it.
     void Bedien(std::function<void(QDialog&)> stappen);
-    template <class T> void Bedien(std::function<void(T&)> stappen)
-    {
-        Bedien([this, stappen = std::move(stappen)](QDialog& dialoog) {
-            auto* venster = qobject_cast<T*>(&dialoog);
-            if (venster == nullptr)
-                Faal(QStringLiteral("een ander venster dan verwacht: ") + dialoog.objectName());
-            else
-                stappen(*venster);
-        });
-    }
 
     /// Fails when something expected did not come, and forgets it.
     void Klaar();
-    /// Whether everything that was announced has come.
-    [[nodiscard]] bool AllesGezien() const { return verwacht_.empty(); }
-
-    /// Waits until everything that was announced has come and been closed.
-    void WachtOpAlles();
 
     /// Only for the test of this class: failures go there instead of to the test.
     void VangFouten(QStringList* fouten) { fouten_ = fouten; }
@@ -89,7 +74,6 @@ class Berichtwachter : public QObject {
     QPointer<QWidget> bewaakt_; ///< the modal or popup widget that is open
     QElapsedTimer sinds_;
     int geduld_ = 5000; ///< milliseconds that one modal widget may stay open
-    int open_ = 0;      ///< dialogs and boxes being dealt with
     QStringList* fouten_ = nullptr;
 };
 

@@ -34,26 +34,6 @@ Proefsuite::Proefsuite()
     Zet("Mappen.ini", Vervangen(LeesVoorbeeld("Mappen.ini.sjabloon"), "@SUITE@", AlsPad()));
 }
 
-void Proefsuite::WisSleutel(const std::string& sleutel) const
-{
-    const std::string oud = Inhoud("Mappen.ini");
-    std::string nieuw;
-    for (std::size_t begin = 0; begin < oud.size();) {
-        const auto eind = std::min(oud.find('\n', begin), oud.size() - 1) + 1;
-        const std::string regel = oud.substr(begin, eind - begin);
-        if (!regel.starts_with(sleutel + "="))
-            nieuw += regel;
-        begin = eind;
-    }
-    Zet("Mappen.ini", nieuw);
-}
-
-void Proefsuite::ZetSleutel(const std::string& sleutel, const std::string& waarde) const
-{
-    WisSleutel(sleutel);
-    Zet("Mappen.ini", Inhoud("Mappen.ini") + sleutel + "=" + waarde + "\r\n");
-}
-
 std::vector<std::string> Proefsuite::Namen(const fs::path& map) const
 {
     std::vector<std::string> namen;

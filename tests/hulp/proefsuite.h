@@ -21,10 +21,6 @@ class Proefsuite {
     [[nodiscard]] Pad AlsPad() const { return map_.AlsPad(); }
     [[nodiscard]] Pad MappenIni() const { return Samen(map_.AlsPad(), "Mappen.ini"); }
 
-    /// One key of "Mappen.ini", such as "NEWPAGR"; every line of that key goes first.
-    void ZetSleutel(const std::string& sleutel, const std::string& waarde) const;
-    void WisSleutel(const std::string& sleutel) const;
-
     void Zet(const std::filesystem::path& naam, const std::string& inhoud) const
     {
         map_.Zet(naam, inhoud);

@@ -1,13 +1,12 @@
 // The main of tests that show windows: off screen, in Dutch, looking the same on every machine. A
 // warning of Qt fails the test in which it comes.
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
 
 #include <cstdio>
 
 #include <gtest/gtest.h>
+
+#include "platform/scherm/inrichting.h"
 
 namespace {
 
@@ -29,15 +28,6 @@ void Vang(QtMsgType soort, const QMessageLogContext&, const QString& tekst)
         ADD_FAILURE() << "waarschuwing van Qt: " << tekst.toStdString();
 }
 
-void SpreekNederlands(QTranslator& vertaling)
-{
-    const QLocale nederlands(QLocale::Dutch, QLocale::Netherlands);
-    QLocale::setDefault(nederlands);
-    if (vertaling.load(nederlands, QStringLiteral("qtbase"), QStringLiteral("_"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&vertaling);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -48,7 +38,6 @@ int main(int argc, char** argv)
     qInstallMessageHandler(Vang);
     QApplication programma(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QTranslator vertaling;
-    SpreekNederlands(vertaling);
+    plexoran::RichtIn(programma);
     return RUN_ALL_TESTS();
 }

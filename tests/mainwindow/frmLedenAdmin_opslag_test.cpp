@@ -36,8 +36,8 @@ class OpslagTest : public Hoofdvensterproef {
                           "De spelers konden niet worden opgeslagen.\n\nHet spelerbestand op de "
                           "schijf is heel gebleven. Uw laatste wijziging staat nog wel in dit "
                           "programma: verhelp de oorzaak en probeer het opnieuw, of ga door; bij "
-                          "de volgende wijziging en bij het afsluiten wordt het weer "
-                          "geprobeerd.\n\n") +
+                          "de volgende wijziging wordt het weer geprobeerd, en bij het afsluiten "
+                          "wordt het gevraagd.\n\n") +
                       Bestandsregel(),
              .antwoord = antwoord,
              .icoon = QMessageBox::Critical,

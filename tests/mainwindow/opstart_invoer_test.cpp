@@ -6,10 +6,11 @@
 #endif
 
 using namespace plexoran;
+using namespace std::string_literals;
 
 namespace {
 
-const std::string ruis("\x93\xFF\x00\x01PK\x03\x04\r\n\x81,\x8D\x00\x00\n\xE2\x28\xA1", 22);
+const std::string ruis = "\x93\xFF\x00\x01PK\x03\x04\r\n\x81,\x8D\x00\x00\n\xE2\x28\xA1"s;
 
 } // namespace
 
@@ -89,14 +90,21 @@ TEST_F(Opstartproef, LegeRegelsGevenGeenBericht)
 
 TEST_F(Opstartproef, ZonderSleutelregelBegintDeTellingBijDeBasis)
 {
-    ZetSpelers(Speler("1", "100007", "Gr01-", "Bos") + "\r\n");
+    const std::string oud = Speler("1", "100007", "Gr01-", "Bos") + "\r\n";
+    ZetSpelers(oud);
+    wachter.Informatie(QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de "
+                                      "hoogste spelersleutel. Nieuwe spelers krijgen daardoor een "
+                                      "sleutel vanaf 100001, die al van een andere speler kan "
+                                      "zijn. Voeg geen spelers toe voordat die regel is "
+                                      "hersteld.") +
+                       blijftZoHetIs);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ(0, administratie.spelers.HKEY);
     VoegToe(QStringLiteral("Nieuweling"));
     EXPECT_EQ("HKEY=100001\r\n" + Speler("1", "100007", "Gr01-", "Bos") +
                   "\r\n2,100001,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n",
               Spelers());
-    EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDspelers"));
+    EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
 }
 
 TEST_F(Opstartproef, SpelersZonderAchternaamWordenGenoemdEnBlijvenInEenKopie)
@@ -143,8 +151,9 @@ TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
              "de kopie die daarvan eerst moet worden gemaakt in de map Reservekopie is "
              "mislukt.\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging "
              "staat nog wel in dit programma: verhelp de oorzaak en probeer het opnieuw, of ga "
-             "door; bij de volgende wijziging en bij het afsluiten wordt het weer "
-             "geprobeerd.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"),
+             "door; bij de volgende wijziging wordt het weer geprobeerd, en bij het afsluiten "
+             "wordt "
+             "het gevraagd.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"),
          .antwoord = QStringLiteral("Doorgaan"),
          .icoon = QMessageBox::Critical,
          .knoppen = {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")},

@@ -6,6 +6,7 @@
 #include "mainwindow/opstartproef.h"
 
 using namespace plexoran;
+using namespace std::string_literals;
 
 // ---- The steps --------------------------------------------------------------------------------
 
@@ -70,7 +71,7 @@ TEST_F(Opstartproef, ZonderMappenIniNoemtHetBerichtHetHelePadEnIsDeStatusEen)
 TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
 {
     for (const std::string& inhoud : {std::string(), std::string("RVDMAP=C:\\RVD\r\nSPEMAP=\r\n"),
-                                      std::string("\x00\xFF\x01\r\n,,=\xAB", 10)}) {
+                                      "\x00\xFF\x01\r\n,,=\xAB"s}) {
         geheugen.Zet("C:\\RVD\\Mappen.ini", inhoud);
         wachter.Verwacht(
             {.tekst = QStringLiteral("Het bestand 'Mappen.ini' noemt de map van de spelers niet: "

@@ -12,8 +12,9 @@ inline const QString isAlGestart = QStringLiteral("Het programma is al gestart!.
 inline const QString isNogLeeg =
     QStringLiteral("Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!");
 inline const QString mappenvraag = QStringLiteral(
-    "\n\nIn dat bestand staat in welke mappen uw gegevens worden bewaard; zonder kan dit programma "
-    "niet werken. Zet het goede bestand op deze plaats, of start Plexoran met --mappen en de naam "
+    "\n\nIn dat bestand staat in welke mappen uw gegevens worden bewaard; zonder dat bestand kan "
+    "dit programma niet werken. Zet het goede bestand op deze plaats, of start Plexoran met "
+    "--mappen en de naam "
     "van het bestand.\n\n");
 inline const QString mapvraag =
     QStringLiteral("\n\nKijk na of de map in 'Mappen.ini' bestaat en of u "

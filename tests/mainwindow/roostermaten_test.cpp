@@ -133,17 +133,6 @@ TEST(MaakKolommen, NooitSmallerDanTien)
     }
 }
 
-TEST(KolomOp, KentDeKolommenEnErbuitenNiets)
-{
-    const Kolomranden randen = MaakKolommen({}, {}, Breedteregel::VolgensHeader);
-    EXPECT_EQ(0, KolomOp(-0.1, randen));
-    EXPECT_EQ(1, KolomOp(0, randen));
-    EXPECT_EQ(1, KolomOp(9.9, randen));
-    EXPECT_EQ(2, KolomOp(10, randen));
-    EXPECT_EQ(18, KolomOp(179.9, randen));
-    EXPECT_EQ(0, KolomOp(180.1, randen));
-}
-
 // ---- Fitting a text ---------------------------------------------------------------------------
 
 namespace {

@@ -20,6 +20,8 @@ struct Lezing {
     int foutregel = 0;   ///< from 1; 0 without an error
     int foutvelden = -1; ///< 0 for an impossible key; -1 without an error
     std::vector<int> zonderAchternaam;
+    int sleutelregels = 0;
+    bool sleutelVerliest = false; ///< a key line holds something that is not written again
 };
 
 inline std::vector<std::string> Regels(const std::string& inhoud)
@@ -107,6 +109,16 @@ inline std::optional<std::int32_t> Getal(const std::string& tekst)
     return static_cast<std::int32_t>(waarde);
 }
 
+/// Whether a text is digits and nothing else, outer spaces apart.
+inline bool IsKaalGetal(const std::string& tekst)
+{
+    const auto begin = tekst.find_first_not_of(' ');
+    if (begin == std::string::npos)
+        return false;
+    const auto kern = tekst.substr(begin, tekst.find_last_not_of(' ') - begin + 1);
+    return kern.find_first_not_of("0123456789") == std::string::npos;
+}
+
 /// Counting; false on an error.
 inline bool EersteGang(const std::vector<std::string>& regels, Lezing& uit)
 {
@@ -115,6 +127,7 @@ inline bool EersteGang(const std::vector<std::string>& regels, Lezing& uit)
             continue;
         if (IsSleutelregel(regels[i])) {
             const auto getal = Getal(regels[i].substr(5));
+            uit.sleutelVerliest |= ++uit.sleutelregels > 1 || !IsKaalGetal(regels[i].substr(5));
             if (getal)
                 uit.HKEY = *getal < 100000 ? 100000 : *getal;
             else
@@ -171,6 +184,13 @@ inline std::vector<std::string> Spelersinhoud(const std::string& inhoud)
             uit.push_back(regel.substr(std::min(regel.find(','), regel.size())));
     }
     return uit;
+}
+
+/// Whether writing `tekst`, which was made of what was read, loses something of the file.
+inline bool Verliest(const Lezing& lezing, const std::string& inhoud, const std::string& tekst)
+{
+    return lezing.sleutelVerliest || (lezing.sleutelregels == 0 && !lezing.rijen.empty()) ||
+           Spelersinhoud(inhoud) != Spelersinhoud(tekst);
 }
 
 } // namespace plexoran::gewoon

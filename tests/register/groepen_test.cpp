@@ -126,6 +126,8 @@ TEST(IsGroepenbestand, AlleenWieNietsVerliest)
     EXPECT_FALSE(IsGroepenbestand(VijftigCodes() + "Gr51-te veel\r\n"));
     EXPECT_FALSE(IsGroepenbestand("Gr01-Club, dinsdag\r\n"));
     EXPECT_FALSE(IsGroepenbestand("Gr01\r\n"));
+    EXPECT_FALSE(IsGroepenbestand("Grote clubleden\r\n"));
+    EXPECT_FALSE(IsGroepenbestand("Gr1--a\r\n"));
     EXPECT_FALSE(IsGroepenbestand("; namen\r\nGr01-a\r\n"));
 }
 
@@ -155,13 +157,38 @@ TEST(SchrijfGroepen, PreciesDeTekst)
 
 TEST(SchrijfGroepen, OnzinWordtEerstGekopieerd)
 {
-    for (const Tekst& onzin : {Tekst("dit is iets anders\r\n"), Tekst("Gr01-Club, dinsdag\r\n"),
-                               VijftigCodes() + "Gr51-te veel\r\n", Tekst("\0\x81", 2)}) {
+    for (const Tekst& onzin :
+         {Tekst("dit is iets anders\r\n"), Tekst("Gr01-Club, dinsdag\r\n"),
+          Tekst("Grote clubleden\r\n"), VijftigCodes() + "Gr51-te veel\r\n", Tekst("\0\x81", 2)}) {
         GeheugenSchijf schijf;
         schijf.Zet(groepenbestand, onzin);
-        ASSERT_TRUE(SchrijfGroepen(schijf, Proefmappen(), Groepen()));
-        EXPECT_EQ(schijf.Inhoud(groepenbestand), VijftigCodes());
+        Groepen groepen = LeesGroepen(schijf, Proefmappen());
+        groepen.ZetNaam(1, "Clubleden");
+        ASSERT_TRUE(SchrijfGroepen(schijf, Proefmappen(), groepen));
+        EXPECT_EQ(schijf.Inhoud(groepenbestand), GroepenTekst(groepen));
         EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{onzin});
+        groepen.ZetNaam(1, "Leden");
+        ASSERT_TRUE(SchrijfGroepen(schijf, Proefmappen(), groepen));
+        EXPECT_EQ(Kopieen(schijf).size(), 1U);
+    }
+}
+
+TEST(SchrijfGroepen, WatErStondMaarNietGelezenWerdWordtEerstGekopieerd)
+{
+    // Read once from a disk that failed just then, or changed by another program since.
+    const Tekst ander = "Gr01-Clubleden\r\nGr02-Jeugd\r\n";
+    for (const bool gelezen : {false, true}) {
+        GeheugenSchijf schijf;
+        Groepen groepen;
+        if (gelezen) {
+            schijf.Zet(groepenbestand, "Gr01-Clubleden\r\n");
+            groepen = LeesGroepen(schijf, Proefmappen());
+        }
+        schijf.Zet(groepenbestand, ander);
+        groepen.ZetNaam(3, "Nieuw");
+        ASSERT_TRUE(SchrijfGroepen(schijf, Proefmappen(), groepen));
+        EXPECT_EQ(schijf.Inhoud(groepenbestand), GroepenTekst(groepen));
+        EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{ander});
     }
 }
 

@@ -112,7 +112,7 @@ void StroomuitvalBijElkeStap(const std::function<void(GeheugenSchijf&)>& bereid,
             klaar = proef.bewaar(schijf).has_value();
             const auto over = binnen.NaStroomuitval(namen);
             ASSERT_TRUE(over.contains(proef.bestand)) << "stap " << stap;
-            const Tekst inhoud = over.at(proef.bestand);
+            const Tekst& inhoud = over.at(proef.bestand);
             gezien.insert(inhoud);
             ASSERT_TRUE(inhoud == proef.nieuw || (inhoud == proef.oud && !klaar)) << inhoud;
             const bool kopie = std::any_of(over.begin(), over.end(), [&](const auto& bestand) {
@@ -174,21 +174,23 @@ Proef Spelersproef(Schijf& binnen, const Mappen& mappen, Register& spelers, cons
     return proef;
 }
 
-Proef Groepenproef(Schijf& binnen, const Mappen& mappen, const Tekst& oud)
+Proef Groepenproef(Schijf& binnen, const Mappen& mappen, Groepen& groepen, const Tekst& oud)
 {
-    Groepen groepen;
-    groepen.ZetNaam(1, "Clubleden");
     Proef proef;
     proef.bestand = mappen.Groepenbestand();
     proef.oud = oud;
-    proef.nieuw = GroepenTekst(groepen);
     proef.metKopie = !IsGroepenbestand(oud);
-    proef.bereid = [&binnen, mappen, oud] {
+    proef.bereid = [&binnen, &groepen, mappen, oud] {
         ZetBestand(binnen, mappen, mappen.Groepenbestand(), oud);
+        groepen = LeesGroepen(binnen, mappen);
+        groepen.ZetNaam(1, "Clubleden");
     };
-    proef.bewaar = [mappen, groepen](Schijf& schijf) {
+    proef.bereid();
+    proef.nieuw = GroepenTekst(groepen);
+    proef.bewaar = [&groepen, mappen](Schijf& schijf) {
         return SchrijfGroepen(schijf, mappen, groepen);
     };
+    proef.naAfloop = [&groepen, nieuw = proef.nieuw] { EXPECT_EQ(GroepenTekst(groepen), nieuw); };
     return proef;
 }
 
@@ -231,13 +233,14 @@ Proef Startproef(Schijf& binnen, const Mappen& mappen, bool spelerbestandIsHet)
 void ElkBestand(Schijf& binnen, const Mappen& mappen)
 {
     Register spelers;
+    Groepen groepen;
     for (const Tekst& oud : {vijfSpelers, metVeldTeVeel}) {
         SCOPED_TRACE("spelers");
         FaalBijElkeStap(binnen, mappen, Spelersproef(binnen, mappen, spelers, oud));
     }
     for (const Tekst oud : {"Gr01-Oud\r\n", "Gr01-Oud, en nog iets\r\n"}) {
         SCOPED_TRACE("groepen");
-        FaalBijElkeStap(binnen, mappen, Groepenproef(binnen, mappen, oud));
+        FaalBijElkeStap(binnen, mappen, Groepenproef(binnen, mappen, groepen, oud));
     }
     for (const Tekst oud : {"OPTIND=4\r\nLOSTGR=3\r\n", "onzin\r\n"}) {
         SCOPED_TRACE("instellingen");
@@ -286,8 +289,16 @@ TEST(Opslagfout, StroomuitvalBijElkeStap)
         return [pad, inhoud](GeheugenSchijf& schijf) { schijf.Zet(pad, inhoud); };
     };
     GeheugenSchijf los;
-    for (const Tekst oud : {"Gr01-Oud\r\n", "Gr01-Oud, en nog iets\r\n"})
-        StroomuitvalBijElkeStap(zet(groepenbestand, oud), Groepenproef(los, mappen, oud));
+    Groepen groepen;
+    for (const Tekst oud : {"Gr01-Oud\r\n", "Gr01-Oud, en nog iets\r\n"}) {
+        const Proef proef = Groepenproef(los, mappen, groepen, oud);
+        const auto bereid = [&](GeheugenSchijf& schijf) {
+            schijf.Zet(groepenbestand, oud);
+            groepen = LeesGroepen(schijf, mappen);
+            groepen.ZetNaam(1, "Clubleden");
+        };
+        StroomuitvalBijElkeStap(bereid, proef);
+    }
     for (const bool spelerbestandIsHet : {true, false}) {
         const Proef proef = Startproef(los, mappen, spelerbestandIsHet);
         StroomuitvalBijElkeStap(zet(proef.bestand, proef.oud), proef);

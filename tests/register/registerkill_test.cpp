@@ -22,12 +22,15 @@ constexpr int spelersAantal = 2000;
 Tekst Registertekst(int aantal, const Tekst& plaats, const Tekst& einde)
 {
     Tekst tekst = "HKEY=" + std::to_string(100000 + aantal) + "\r\n";
-    for (int nr = 1; nr <= aantal; ++nr)
-        tekst += std::to_string(nr) + "," + std::to_string(100000 + nr) +
-                 ",Gr01-,Voornaam,van der,Achternaam-Meisjesnaam,06-12345678,"
-                 "voornaam.achternaam@bridgeclub.example,Burgemeesterspad 108 driehoog,"
-                 "1234 AB," +
-                 plaats + ",,M,,,,A-lijn," + einde + "\r\n";
+    for (int nr = 1; nr <= aantal; ++nr) {
+        tekst += std::to_string(nr) + "," + std::to_string(100000 + nr);
+        tekst += ",Gr01-,Voornaam,van der,Achternaam-Meisjesnaam,06-12345678,"
+                 "voornaam.achternaam@bridgeclub.example,Burgemeesterspad 108 driehoog,1234 AB,";
+        tekst += plaats;
+        tekst += ",,M,,,,A-lijn,";
+        tekst += einde;
+        tekst += "\r\n";
+    }
     return tekst;
 }
 

@@ -85,12 +85,18 @@ TEST(Reservekopie, LegeSleutel)
     VerwachtKopie("HKEY=100002\r\n" + goedeRegel + "2,,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n");
 }
 
+TEST(Reservekopie, GeenOfGeenKaleSleutelregel)
+{
+    VerwachtKopie(goedeRegel);
+    VerwachtKopie("HKEY=100900\r\nHKEY=100001\r\n" + goedeRegel);
+    VerwachtKopie("HKEY=100001 zie schrift\r\n" + goedeRegel);
+}
+
 TEST(Reservekopie, NietAlsErNietsVerlorenGaat)
 {
     VerwachtGeenKopie(vijfSpelers);
     VerwachtGeenKopie("HKEY=100000\r\n");
     VerwachtGeenKopie("");
-    VerwachtGeenKopie(goedeRegel);
     VerwachtGeenKopie("\n\n  \n" + goedeRegel + "HKEY=5\r\n\r\n");
     VerwachtGeenKopie("HKEY=100001\r1,100001,Gr01-,An,,Bos,,,,,,,,,,,,");
     VerwachtGeenKopie("HKEY=100001\r\n,x,G,\x81,, ,,,,,,,,,,,,\r\n");
@@ -155,6 +161,36 @@ TEST(Reservekopie, OnleesbaarGeweestWordtNooitStilVervangen)
     }
 }
 
+TEST(Reservekopie, EenTweedePogingMaaktGeenTweedeKopie)
+{
+    const Tekst inhoud = "HKEY=100002\r\n2,100002,Gr01-Leden,Bea,,Cock,,,,,,,,,,,,\r\n";
+    GeheugenSchijf binnen;
+    Register spelers = Gelezen(binnen, inhoud);
+    binnen.ZetAlleenLezen(spelerbestand);
+    for (int poging = 1; poging <= 3; ++poging) {
+        EXPECT_FALSE(SchrijfSpelers(binnen, Proefmappen(), spelers, eigen));
+        EXPECT_EQ(Kopieen(binnen), std::vector<Tekst>{inhoud});
+    }
+    binnen.ZetAlleenLezen(spelerbestand, false);
+    EXPECT_TRUE(SchrijfSpelers(binnen, Proefmappen(), spelers, eigen));
+    EXPECT_EQ(Kopieen(binnen), std::vector<Tekst>{inhoud});
+}
+
+TEST(Reservekopie, EenAnderBestandSindsDeKopieVraagtEenNieuwe)
+{
+    const Tekst een = "HKEY=100002\r\n2,100002,Gr01-Leden,Bea,,Cock,,,,,,,,,,,,\r\n";
+    const Tekst twee = "HKEY=100002\r\n2,100002,Gr01-Jeugd,Bea,,Cock,,,,,,,,,,,,\r\n";
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, een);
+    schijf.ZetAlleenLezen(spelerbestand);
+    EXPECT_FALSE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    schijf.Zet(spelerbestand, twee);
+    EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::OokGewijzigd));
+    auto kopieen = Kopieen(schijf);
+    std::sort(kopieen.begin(), kopieen.end());
+    EXPECT_EQ(kopieen, (std::vector<Tekst>{twee, een}));
+}
+
 TEST(Reservekopie, NaamMetDatumEnTijd)
 {
     GeheugenSchijf schijf;
@@ -210,7 +246,8 @@ TEST(Reservekopie, ZonderKopieGeenOpslag)
     EXPECT_TRUE(spelers.kopieNodig);
 
     schijf.Zet(groepenbestand, "onzin");
-    const auto groepen = SchrijfGroepen(schijf, Proefmappen(), Groepen());
+    Groepen zonderNamen;
+    const auto groepen = SchrijfGroepen(schijf, Proefmappen(), zonderNamen);
     ASSERT_FALSE(groepen);
     EXPECT_EQ(groepen.error().soort, Foutsoort::GeenReservekopie);
     EXPECT_EQ(schijf.Inhoud(groepenbestand), "onzin");

@@ -120,6 +120,23 @@ TEST(LeesSpelers, ZonderSleutelregelBlijftDeSleutel)
     EXPECT_EQ(spelers.HKEY, 100777);
 }
 
+TEST(LeesSpelers, MeldtEenOntbrekendeSleutelregel)
+{
+    const auto lees = [](Tekstblik inhoud) {
+        GeheugenSchijf schijf;
+        schijf.Zet(spelerbestand, inhoud);
+        Register spelers;
+        return LeesSpelers(schijf, Proefmappen(), spelers);
+    };
+    const auto zonder = lees("1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n");
+    EXPECT_TRUE(zonder.zonderSleutelregel);
+    EXPECT_TRUE(zonder.tabelVervangen);
+    EXPECT_FALSE(zonder.AllesGelezen());
+    EXPECT_TRUE(lees("").AllesGelezen());
+    EXPECT_TRUE(lees(vijfSpelers).AllesGelezen());
+    EXPECT_FALSE(lees("1,2,3").tabelVervangen);
+}
+
 TEST(LeesSpelers, FoutInDeEersteGangLaatDeTabelZoalsHijWas)
 {
     GeheugenSchijf schijf;
@@ -189,8 +206,9 @@ TEST(SpelersTekst, PreciesHetBestand)
 {
     GeheugenSchijf schijf;
     EXPECT_EQ(SpelersTekst(Gelezen(schijf, vijfSpelers)), vijfSpelers);
-    EXPECT_EQ(SpelersTekst(Register{.tabel = {}, .HKEY = 100000, .gelezen = {}}),
-              "HKEY=100000\r\n");
+    Register leeg;
+    leeg.HKEY = 100000;
+    EXPECT_EQ(SpelersTekst(leeg), "HKEY=100000\r\n");
 }
 
 TEST(SchrijfSpelers, OnbewerkteVeldenKomenOpDeByteTerug)
@@ -326,6 +344,19 @@ TEST(NieuweSleutel, Op)
     EXPECT_FALSE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
     EXPECT_EQ(spelers.tabel.Rijen(), 0);
     EXPECT_EQ(spelers.HKEY, hoogste);
+}
+
+TEST(ZijnErSleutels, TotDeHoogste)
+{
+    constexpr auto hoogste = std::numeric_limits<std::int32_t>::max();
+    Register spelers;
+    spelers.HKEY = hoogste - 2;
+    EXPECT_TRUE(ZijnErSleutels(spelers, 0));
+    EXPECT_TRUE(ZijnErSleutels(spelers, 2));
+    EXPECT_FALSE(ZijnErSleutels(spelers, 3));
+    spelers.HKEY = 0; // the first key follows the base
+    EXPECT_TRUE(ZijnErSleutels(spelers, static_cast<std::size_t>(hoogste - 100000)));
+    EXPECT_FALSE(ZijnErSleutels(spelers, static_cast<std::size_t>(hoogste - 99999)));
 }
 
 TEST(VoegSpelerToe, AchteraanMetNieuweSleutel)

@@ -14,6 +14,14 @@ Tekst Regel(const Tekst& achternaam, const Tekst& einde = "\r\n")
     return "1,100001,Gr01-,,," + achternaam + ",,,,,,,,,,,," + einde;
 }
 
+Tekst Aaneen(std::initializer_list<Tekst> delen)
+{
+    Tekst tekst;
+    for (const Tekst& deel : delen)
+        tekst += deel;
+    return tekst;
+}
+
 /// The surnames of the table, joined.
 Tekst Namen(const Spelerlezing& lezing)
 {
@@ -23,14 +31,16 @@ Tekst Namen(const Spelerlezing& lezing)
     return tekst;
 }
 
-/// Reads to the end, without losing anything, to these surnames.
+/// Reads to the end, without leaving anything out, to these surnames.
 void VerwachtHeel(const Tekst& inhoud, Tekstblik namen)
 {
     const Spelerlezing lezing = SpelersUit(inhoud);
     ASSERT_TRUE(lezing.tabel) << inhoud;
     EXPECT_EQ(Namen(lezing), namen);
     EXPECT_FALSE(lezing.fout) << inhoud;
-    EXPECT_FALSE(lezing.verliest) << inhoud;
+    // Players without a key line are read in full, but their file is not what a save makes of it.
+    EXPECT_EQ(lezing.zonderSleutelregel, !lezing.HKEY && !namen.empty()) << inhoud;
+    EXPECT_EQ(lezing.verliest, lezing.zonderSleutelregel) << inhoud;
     EXPECT_TRUE(lezing.zonderAchternaam.empty());
 }
 
@@ -101,6 +111,20 @@ TEST(Spelerlezing, LaatsteSleutelregelTelt)
     EXPECT_EQ(Sleutel("HKEY=100009\r\nHKEY=100007\r\n"), 100007);
 }
 
+TEST(Spelerlezing, SleutelregelMetMeerDanHetOpslaanTerugschrijft)
+{
+    for (const Tekst sleutel :
+         {"HKEY=100009\r\nHKEY=100007", "HKEY=100007,zie schrift", "HKEY=100007.2", "HKEY=1OOOO7",
+          "HKEY=-3", "HKEY=+100007", "HKEY="}) {
+        const Spelerlezing lezing = SpelersUit(sleutel + "\r\n" + Regel("a"));
+        EXPECT_EQ(Namen(lezing), "a;");
+        EXPECT_FALSE(lezing.fout);
+        EXPECT_TRUE(lezing.verliest) << sleutel;
+    }
+    for (const Tekst sleutel : {"HKEY=100007", "HKEY=  99 ", "HKEY=00100007"})
+        EXPECT_FALSE(SpelersUit(sleutel + "\r\n" + Regel("a")).verliest) << sleutel;
+}
+
 TEST(Spelerlezing, SleutelBlijftOnderDeHoogsteVanDeRijen)
 {
     // Meant: the file is taken at its word.
@@ -137,7 +161,8 @@ TEST(Spelerlezing, ElkRegeleinde)
 TEST(Spelerlezing, RegelnummersBijElkRegeleinde)
 {
     for (const Tekst einde : {"\r\n", "\n", "\r"})
-        VerwachtFout(SpelersUit(Regel("a", einde) + einde + Regel("b", einde) + "x" + einde), 4, 1);
+        VerwachtFout(SpelersUit(Aaneen({Regel("a", einde), einde, Regel("b", einde), "x", einde})),
+                     4, 1);
     // LF CR are two line ends, with an empty line between.
     VerwachtFout(SpelersUit(Regel("a", "\n\r") + "x"), 3, 1);
 }
@@ -154,7 +179,8 @@ TEST(Spelerlezing, TabIsGeenSpatie)
 
 TEST(Spelerlezing, VeldenBlijvenZoalsZeZijn)
 {
-    const Tekst regel = " 7 , 100001 ,Gr01-, An ,\tvan\x81\x8D\x8F\x90\x9D,\xC9\0b "s;
+    const Tekst regel =
+        "HKEY=100001\r\n 7 , 100001 ,Gr01-, An ,\tvan\x81\x8D\x8F\x90\x9D,\xC9\0b "s;
     const Spelerlezing lezing = SpelersUit(regel + ",,,,,,,,,,,, x \r\n");
     ASSERT_TRUE(lezing.tabel);
     EXPECT_EQ(lezing.tabel->Cel(1, Kolom::Nr), " 7 ");
@@ -189,13 +215,14 @@ TEST(Spelerlezing, ElkeByteNaElkeScheiding)
         if (teken == ',' || teken == '\r' || teken == '\n' || teken == ' ')
             continue;
         for (const Tekst scheiding : {"\r\n", "\n", "\r"}) {
-            const Tekst rij = Tekst(1, teken) + ",1,G,,," + teken + ",,,,,,,,,,,," + teken;
+            const Tekst los(1, teken);
             const Spelerlezing lezing =
-                SpelersUit(Regel("a", scheiding) + rij + scheiding + Regel("b", scheiding));
+                SpelersUit(Aaneen({Regel("a", scheiding), los, ",1,G,,,", los, ",,,,,,,,,,,,", los,
+                                   scheiding, Regel("b", scheiding)}));
             ASSERT_TRUE(lezing.tabel && lezing.tabel->Rijen() == 3) << byte;
-            EXPECT_EQ(lezing.tabel->Cel(2, Kolom::Nr), Tekst(1, teken));
-            EXPECT_EQ(lezing.tabel->Cel(2, Kolom::Achternaam), Tekst(1, teken));
-            EXPECT_EQ(lezing.tabel->Cel(2, Kolom::NBBnr), Tekst(1, teken));
+            EXPECT_EQ(lezing.tabel->Cel(2, Kolom::Nr), los);
+            EXPECT_EQ(lezing.tabel->Cel(2, Kolom::Achternaam), los);
+            EXPECT_EQ(lezing.tabel->Cel(2, Kolom::NBBnr), los);
         }
     }
 }
@@ -407,11 +434,10 @@ TEST(Spelerlezing, AlsDeGewoneLezer)
                       gewone.rijen[static_cast<std::size_t>(rij - 1)])
                 << inhoud;
         }
-        // A copy before the next save exactly when that save would lose a part of a player.
+        // A copy before the next save exactly when that save would lose something.
         Register spelers;
         spelers.tabel = *lezing.tabel;
-        ASSERT_EQ(lezing.verliest,
-                  gewoon::Spelersinhoud(inhoud) != gewoon::Spelersinhoud(SpelersTekst(spelers)))
+        ASSERT_EQ(lezing.verliest, gewoon::Verliest(gewone, inhoud, SpelersTekst(spelers)))
             << inhoud;
     }
     // Each outcome must come often, or the comparison shows nothing.

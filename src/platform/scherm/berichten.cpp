@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 
+#include "platform/scherm/frmBericht.h"
+
 namespace plexoran {
 namespace {
 
@@ -23,6 +25,20 @@ void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const Q
 {
     QMessageBox venster(icoon, Titel(titel), QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
+    venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
+    venster.exec();
+}
+
+void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel)
+{
+    constexpr int regelsInBericht = 25;
+    if (tekst.count(QLatin1Char('\n')) > regelsInBericht) {
+        frmBericht(tekst, titel, ouder).exec();
+        return;
+    }
+    QMessageBox venster(QMessageBox::NoIcon, titel, QString(), QMessageBox::Ok, ouder);
+    Vul(venster, tekst);
+    venster.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
     venster.exec();
 }

@@ -14,6 +14,10 @@ inline constexpr auto Programmatitel = "Plexoran";
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
           const QString& titel = QString());
 
+/// Shows a text without an icon that can be copied; a long one in a window of its own,
+/// `frmBericht`, in which it scrolls.
+void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel);
+
 /// OK and Annuleren; true for OK. Escape and the close box count as Annuleren.
 [[nodiscard]] bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
                          const QString& titel = QString());

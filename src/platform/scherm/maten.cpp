@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QFontMetricsF>
+#include <QScreen>
 #include <QWidget>
 
 #include <algorithm>
@@ -35,6 +35,12 @@ QFont Maten::Letter(double punten) const
     QFont letter = QApplication::font();
     letter.setPixelSize(qRound(factor_ * punten * StandaardDpi / PuntenPerInch));
     return letter;
+}
+
+void PasInScherm(QWidget* venster, QSize maat)
+{
+    constexpr QSize kader(16, 40); // what a window manager puts around it
+    venster->resize(maat.boundedTo(venster->screen()->availableSize() - kader));
 }
 
 void Noem(QWidget* widget, const QString& naam, const QString& gesproken)

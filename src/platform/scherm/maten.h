@@ -25,6 +25,9 @@ class Maten {
     double pixelsPerMm_;
 };
 
+/// Makes a window this large, or as large as the screen allows.
+void PasInScherm(QWidget* venster, QSize maat);
+
 /// Gives a control its name: for style sheets, tests and, when it has no text of its own, as
 /// `gesproken` for screen readers.
 void Noem(QWidget* widget, const QString& naam, const QString& gesproken = QString());

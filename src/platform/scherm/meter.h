@@ -7,8 +7,8 @@
 
 namespace plexoran {
 
-/// "Arial", or its metric equal where it is missing, without kerning, so that the width of a text
-/// is the sum of its characters'.
+/// "Arial", or its metric equivalent where it is missing, without kerning, so that the width of a
+/// text is the sum of its characters'.
 [[nodiscard]] QFont Roosterletter(int pixels);
 
 [[nodiscard]] Tekstmeter MaakMeter(const QFont& letter, double pixelsPerMm);

@@ -159,8 +159,10 @@ void Tekstvak::focusOutEvent(QFocusEvent* gebeurtenis)
 {
     QLineEdit::focusOutEvent(gebeurtenis);
     const auto reden = gebeurtenis->reason();
-    if (reden != Qt::PopupFocusReason && reden != Qt::ActiveWindowFocusReason)
-        emit verlaten();
+    if (reden == Qt::PopupFocusReason || reden == Qt::ActiveWindowFocusReason)
+        return;
+    emit verlaten();
+    setCursorPosition(0); // a long text shows its beginning when nobody works in it
 }
 
 } // namespace plexoran

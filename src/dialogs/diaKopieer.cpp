@@ -1,0 +1,187 @@
+#include "dialogs/diaKopieer.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+#include "dialogs/keuslijst.h"
+#include "dialogs/kopieren.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+
+diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie)
+{
+    Bouw();
+    for (QComboBox* groepen : {cmbGrnamen, cmbUitGroep})
+        VulKeus(*groepen, administratie_.groepen.Toonteksten());
+    // The number box may be shown or hidden, but is never ticked: copies get no federation number.
+    chkNBBnrOok->setChecked(false);
+    chkNBBnrOok->setEnabled(false);
+    chkNBBgrOok->setChecked(true);
+    KiesBron();
+    Verbind();
+}
+
+void diaKopieer::MaakDelen(QGroupBox* kader)
+{
+    const auto keus = [&](const QString& naam, const QString& gesproken) {
+        auto* nieuw = new QComboBox(kader);
+        Noem(nieuw, naam, gesproken);
+        return nieuw;
+    };
+    cmbUitGroep = keus(QStringLiteral("cmbUitGroep"), QStringLiteral("Uit spelergroep"));
+    cmbNBBgr = keus(QStringLiteral("cmbNBBgr"), QStringLiteral("Selecteer de spelers van"));
+    cmbGrnamen = keus(QStringLiteral("cmbGrnamen"), QStringLiteral("Kopieer hen naar groep"));
+    lstKeus = new Meerkeuzelijst(kader);
+    Noem(lstKeus, QStringLiteral("lstKeus"), QStringLiteral("Spelers"));
+    Label3 = MaakLabel(QStringLiteral("Label3"), QString(), kader);
+    chkNBBgrOok = new QCheckBox(kader);
+    Noem(chkNBBgrOok, QStringLiteral("chkNBBgrOok"));
+    chkNBBnrOok = new QCheckBox(QStringLiteral("NBBnummer ook kopieren"), kader);
+    Noem(chkNBBnrOok, QStringLiteral("chkNBBnrOok"));
+    cmdSelAll =
+        MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'S', kader);
+    cmdSelNone =
+        MaakKnop(QStringLiteral("cmdSelNone"), QStringLiteral("Selecteer niets"), u'n', kader);
+    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Kopieer"), u'K', this);
+    cmdAnnuleren =
+        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+}
+
+void diaKopieer::Bouw()
+{
+    setObjectName(QStringLiteral("diaKopieer"));
+    setWindowTitle(QStringLiteral("Kopieer speler(s) naar een andere groep"));
+    auto* Frame1 = new QGroupBox(QStringLiteral("Spelers kopiëren"), this);
+    Noem(Frame1, QStringLiteral("Frame1"));
+    MaakDelen(Frame1);
+
+    auto* vakken = new QGridLayout(Frame1);
+    const auto label = [&](const QString& naam, const QString& tekst) {
+        return MaakLabel(naam, tekst, Frame1);
+    };
+    vakken->addWidget(label(QStringLiteral("Label4"), QStringLiteral("Uit spelergroep:")), 0, 0);
+    vakken->addWidget(cmbUitGroep, 0, 1);
+    vakken->addWidget(Label3, 1, 0);
+    vakken->addWidget(cmbNBBgr, 1, 1);
+    vakken->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Selecteer de spelers(s) ")),
+                      2, 0, 1, 2);
+    vakken->addWidget(lstKeus, 3, 0, 1, 2);
+    vakken->addLayout(Knoppenrij({cmdSelAll, cmdSelNone}), 4, 0, 1, 2);
+    vakken->addWidget(label(QStringLiteral("Label2"), QStringLiteral("Kopieer hen naar groep:")), 5,
+                      0);
+    vakken->addWidget(cmbGrnamen, 5, 1);
+    vakken->addWidget(chkNBBgrOok, 6, 0, 1, 2);
+    vakken->addWidget(chkNBBnrOok, 7, 0, 1, 2);
+    vakken->setRowStretch(3, 1);
+    vakken->setColumnStretch(1, 1);
+
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addWidget(Frame1, 1);
+    lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
+    const Maten maten;
+    resize(maten.Twips(7500), maten.Twips(8700));
+    cmdOK->setEnabled(false);
+    cmdOK->setDefault(true);
+}
+
+void diaKopieer::Verbind()
+{
+    connect(cmbUitGroep, &QComboBox::currentIndexChanged, this, &diaKopieer::KiesBron);
+    // Also when the value that is shown is picked again.
+    connect(cmbNBBgr, &QComboBox::activated, this, &diaKopieer::KiesWaarde);
+    connect(cmdSelAll, &QPushButton::clicked, this, [this] {
+        lstKeus->KiesAlles(true);
+        lstKeus->ZetHuidige(0);
+    });
+    connect(cmdSelNone, &QPushButton::clicked, this, [this] {
+        lstKeus->KiesAlles(false);
+        lstKeus->ZetHuidige(0);
+    });
+    connect(cmdOK, &QPushButton::clicked, this, &diaKopieer::Kopieer);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    connect(lstKeus, &Meerkeuzelijst::keuzeVeranderd, this,
+            [this] { cmdOK->setEnabled(lstKeus->IetsGekozen()); });
+    cmdOK->setEnabled(lstKeus->IetsGekozen());
+}
+
+Tekst diaKopieer::Bronregel(int plaats) const
+{
+    return Kopieerregel(administratie_.spelers.tabel, rijen_[static_cast<std::size_t>(plaats)]);
+}
+
+void diaKopieer::VulKeuslijst()
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    rijen_ = RijenVanGroep(tabel, Groepscode(cmbUitGroep->currentIndex() + 1));
+    Waardenlijst waarden;
+    for (const int rij : rijen_) {
+        const Tekstblik waarde = tabel.Cel(rij, Kolom::NBBgr);
+        waarden.Voeg(IsBlanco(waarde) ? "geen" : Tekst(waarde));
+    }
+    lstKeus->Vul(static_cast<int>(rijen_.size()),
+                 [this](int plaats) { return NaarQString(Bronregel(plaats)); });
+    VulKeus(*cmbNBBgr, waarden.Waarden());
+    if (!rijen_.empty()) {
+        lstKeus->ZetHuidige(0);
+        lstKeus->Kies(0, true);
+    }
+}
+
+void diaKopieer::KiesBron()
+{
+    VulKeuslijst();
+    const bool importgroep =
+        Groepscode(cmbUitGroep->currentIndex() + 1) == administratie_.mappen.DFIMPG;
+    chkNBBgrOok->setText(importgroep ? QStringLiteral("NBBgroep ook kopieren")
+                                     : QStringLiteral("Subgroeptekst ook mee kopieren"));
+    chkNBBnrOok->setVisible(importgroep);
+    Label3->setText(importgroep ? QStringLiteral("Selecteer de spelers van 'NBBgroep':")
+                                : QStringLiteral("Selecteer de spelers van 'Subgroep':"));
+}
+
+/// A plain search in the whole line, names included; what was chosen already stays.
+void diaKopieer::KiesWaarde()
+{
+    const int plaats = cmbNBBgr->currentIndex();
+    if (plaats < 0)
+        return;
+    const Tekst gezocht = Hoofdletters(NaarTekst(cmbNBBgr->itemText(plaats)));
+    lstKeus->KiesOok(
+        [&](int regel) { return Hoofdletters(Bronregel(regel)).find(gezocht) != Tekst::npos; });
+    lstKeus->ZetHuidige(0);
+}
+
+void diaKopieer::Kopieer()
+{
+    const QString bron = cmbUitGroep->currentText();
+    const QString doel = cmbGrnamen->currentText();
+    const QString vraag =
+        QStringLiteral("U gaat spelers kopiëren van groep '%1' naar groep '%2'.\r\n\r\n"
+                       "Pas op: Reeds bestaande spelers in '%2' zullen er daarna 2 keer in staan "
+                       "en zult u handmatig moeten verwijderen!")
+            .arg(bron, doel);
+    if (!Vraag(this, QMessageBox::Information, vraag))
+        return;
+    Kopieeropdracht opdracht{.keys = {},
+                             .naarGroep = Groepscode(cmbGrnamen->currentIndex() + 1),
+                             .metNBBgr = chkNBBgrOok->isChecked(),
+                             .metNBBnr = chkNBBnrOok->isChecked()};
+    for (const int plaats : lstKeus->GekozenPlaatsen())
+        opdracht.keys.emplace_back(KeyVan(Bronregel(plaats)));
+    if (!KopieerSpelers(administratie_.spelers, opdracht)) {
+        Meld(this, QMessageBox::Critical,
+             QStringLiteral("Er is niets gekopieerd: de spelersleutels zijn op. Kijk het getal na "
+                            "achter HKEY= in het spelerbestand."));
+        return;
+    }
+    Meld(this, QMessageBox::Information,
+         QStringLiteral("Er zijn %1 spelers gekopieerd.").arg(opdracht.keys.size()));
+    ingaveGeannuleerd_ = false;
+    accept();
+}
+
+} // namespace plexoran

@@ -1,0 +1,53 @@
+// Copying players to another group, as new rows with new keys.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include "platform/scherm/meerkeuzelijst.h"
+#include "register/administratie.h"
+
+class QGroupBox;
+
+namespace plexoran {
+
+class diaKopieer : public QDialog {
+    Q_OBJECT
+
+  public:
+    diaKopieer(Administratie& administratie, QWidget* ouder);
+
+    /// The close box and Escape cancel too.
+    [[nodiscard]] bool IngaveGeannuleerd() const { return ingaveGeannuleerd_; }
+
+  private:
+    void MaakDelen(QGroupBox* kader);
+    void Bouw();
+    void Verbind();
+    void VulKeuslijst();
+    void KiesBron();
+    void KiesWaarde();
+    void Kopieer();
+    [[nodiscard]] Tekst Bronregel(int plaats) const;
+
+    Administratie& administratie_;
+    std::vector<int> rijen_; ///< of the lines in the list
+    bool ingaveGeannuleerd_ = true;
+
+    QComboBox* cmbUitGroep = nullptr;
+    QComboBox* cmbNBBgr = nullptr;
+    QComboBox* cmbGrnamen = nullptr;
+    Meerkeuzelijst* lstKeus = nullptr;
+    QLabel* Label3 = nullptr;
+    QCheckBox* chkNBBgrOok = nullptr;
+    QCheckBox* chkNBBnrOok = nullptr;
+    QPushButton* cmdSelAll = nullptr;
+    QPushButton* cmdSelNone = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* cmdAnnuleren = nullptr;
+};
+
+} // namespace plexoran

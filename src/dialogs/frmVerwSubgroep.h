@@ -1,0 +1,39 @@
+// Deleting every player of a subgroup.
+#pragma once
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include "register/administratie.h"
+
+namespace plexoran {
+
+class frmVerwSubgroep : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmVerwSubgroep(Administratie& administratie, QWidget* ouder);
+
+    /// Whether anything was deleted, so that there is something to save.
+    [[nodiscard]] bool IetsVerwijderd() const { return ietsVerwijderd_; }
+
+  private:
+    void Bouw();
+    void KiesGroep();
+    void Verwijder();
+    [[nodiscard]] Tekst Code() const { return Groepscode(cmbRVDgr->currentIndex() + 1); }
+
+    Administratie& administratie_;
+    std::vector<Tekst> subgroepen_;
+    bool ietsVerwijderd_ = false;
+
+    QLabel* Label3 = nullptr;
+    QComboBox* cmbRVDgr = nullptr;
+    QComboBox* cmbSubGr = nullptr;
+    QPushButton* cmdVerwijder = nullptr;
+    QPushButton* cmdEinde = nullptr;
+};
+
+} // namespace plexoran

@@ -1,0 +1,64 @@
+// The parts of which windows are built. Captions stand in the source as they read on the screen.
+#pragma once
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include <vector>
+
+#include "platform/scherm/maten.h"
+#include "platform/scherm/tekstbrug.h"
+
+namespace plexoran {
+
+/// The caption with its mnemonic: the first `letter` in it is underlined and works with Alt. A
+/// caption without that letter, or `letter` 0, gets none.
+[[nodiscard]] inline QString MetSneltoets(const QString& tekst, char16_t letter)
+{
+    const auto plaats = letter == 0 ? -1 : tekst.indexOf(QChar(letter));
+    if (plaats < 0)
+        return ZonderSneltoets(tekst);
+    return ZonderSneltoets(tekst.left(plaats)) + QLatin1Char('&') +
+           ZonderSneltoets(tekst.mid(plaats));
+}
+
+[[nodiscard]] inline QPushButton* MaakKnop(const QString& naam, const QString& tekst,
+                                           char16_t letter, QWidget* ouder)
+{
+    auto* knop = new QPushButton(MetSneltoets(tekst, letter), ouder);
+    Noem(knop, naam);
+    knop->setAutoDefault(false);
+    return knop;
+}
+
+[[nodiscard]] inline QLabel* MaakLabel(const QString& naam, const QString& tekst, QWidget* ouder)
+{
+    auto* label = new QLabel(tekst, ouder);
+    Noem(label, naam);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+/// Buttons beside each other, at the right.
+[[nodiscard]] inline QHBoxLayout* Knoppenrij(std::initializer_list<QPushButton*> knoppen)
+{
+    auto* rij = new QHBoxLayout;
+    rij->addStretch();
+    for (QPushButton* knop : knoppen)
+        rij->addWidget(knop);
+    return rij;
+}
+
+/// Fills a drop-down anew, silently, and selects its first entry.
+inline void VulKeus(QComboBox& keus, const std::vector<Tekst>& teksten)
+{
+    const QSignalBlocker stil(&keus);
+    keus.clear();
+    for (const Tekst& tekst : teksten)
+        keus.addItem(NaarQString(tekst));
+    keus.setCurrentIndex(teksten.empty() ? -1 : 0);
+}
+
+} // namespace plexoran

@@ -1,0 +1,58 @@
+#include "platform/scherm/inrichting.h"
+
+#include <QFontInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QProxyStyle>
+#include <QTranslator>
+
+#include "platform/scherm/pictogram.h"
+
+namespace plexoran {
+namespace {
+
+/// The system's own style but for a few habits.
+class Huisstijl : public QProxyStyle {
+  public:
+    int styleHint(StyleHint gewoonte, const QStyleOption* optie, const QWidget* widget,
+                  QStyleHintReturn* uitslag) const override
+    {
+        // A list of fifty groups would stand over the whole screen as a menu; pictures on the
+        // buttons of message boxes would be the only ones in the program.
+        if (gewoonte == SH_ComboBox_Popup || gewoonte == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
+        return QProxyStyle::styleHint(gewoonte, optie, widget, uitslag);
+    }
+};
+
+void SpreekNederlands(QApplication& programma)
+{
+    const QLocale nederlands(QLocale::Dutch, QLocale::Netherlands);
+    QLocale::setDefault(nederlands);
+    auto* vertaling = new QTranslator(&programma);
+    if (vertaling->load(nederlands, QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(vertaling);
+}
+
+/// A bare system may answer "the standard font" with one for typewriter text.
+void ZorgVoorVensterletter()
+{
+    QFont letter = QApplication::font();
+    if (!QFontInfo(letter).fixedPitch())
+        return;
+    letter.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+    QApplication::setFont(letter);
+}
+
+} // namespace
+
+void RichtIn(QApplication& programma)
+{
+    QApplication::setStyle(new Huisstijl);
+    SpreekNederlands(programma);
+    ZorgVoorVensterletter();
+    QApplication::setWindowIcon(Pictogram());
+}
+
+} // namespace plexoran

@@ -1,0 +1,211 @@
+#include "platform/scherm/meerkeuzelijst.h"
+
+#include <QAbstractListModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace plexoran {
+namespace {
+
+class Regelmodel : public QAbstractListModel {
+  public:
+    explicit Regelmodel(Meerkeuzelijst& lijst) : QAbstractListModel(&lijst), lijst_(lijst) {}
+
+    void Herlaad(const std::function<void()>& vul)
+    {
+        beginResetModel();
+        vul();
+        endResetModel();
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& ouder) const override
+    {
+        return ouder.isValid() ? 0 : lijst_.Aantal();
+    }
+
+    [[nodiscard]] QVariant data(const QModelIndex& plaats, int rol) const override
+    {
+        if (!plaats.isValid())
+            return {};
+        if (rol == Qt::DisplayRole)
+            return lijst_.Regel(plaats.row());
+        if (rol == Qt::AccessibleTextRole) {
+            const QString stand = lijst_.Gekozen(plaats.row()) ? QStringLiteral("gekozen")
+                                                               : QStringLiteral("niet gekozen");
+            return QStringLiteral("%1, %2").arg(lijst_.Regel(plaats.row()).simplified(), stand);
+        }
+        return {};
+    }
+
+  private:
+    Meerkeuzelijst& lijst_;
+};
+
+/// Paints chosen lines as selected; one height for all, and no width of its own.
+class Regeltekenaar : public QStyledItemDelegate {
+  public:
+    explicit Regeltekenaar(Meerkeuzelijst& lijst) : QStyledItemDelegate(&lijst), lijst_(lijst) {}
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& /*optie*/,
+                                 const QModelIndex& /*plaats*/) const override
+    {
+        return {1, lijst_.fontMetrics().height() + 4};
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* optie, const QModelIndex& plaats) const override
+    {
+        QStyledItemDelegate::initStyleOption(optie, plaats);
+        optie->textElideMode = Qt::ElideNone;
+        optie->state.setFlag(QStyle::State_Selected, lijst_.Gekozen(plaats.row()));
+    }
+
+  private:
+    Meerkeuzelijst& lijst_;
+};
+
+} // namespace
+
+Meerkeuzelijst::Meerkeuzelijst(QWidget* ouder) : QListView(ouder)
+{
+    setModel(new Regelmodel(*this));
+    setItemDelegate(new Regeltekenaar(*this));
+    setSelectionMode(NoSelection);
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    // The key stands far to the right in each line, out of sight.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void Meerkeuzelijst::Vul(int aantal, std::function<QString(int)> regel)
+{
+    static_cast<Regelmodel*>(model())->Herlaad([&] {
+        regel_ = std::move(regel);
+        gekozen_.assign(static_cast<std::size_t>(aantal), false);
+        aantalGekozen_ = 0;
+    });
+    emit keuzeVeranderd();
+}
+
+QString Meerkeuzelijst::Regel(int plaats) const
+{
+    return regel_(plaats);
+}
+
+std::vector<int> Meerkeuzelijst::GekozenPlaatsen() const
+{
+    std::vector<int> plaatsen;
+    plaatsen.reserve(static_cast<std::size_t>(aantalGekozen_));
+    for (int plaats = 0; plaats < Aantal(); ++plaats) {
+        if (Gekozen(plaats))
+            plaatsen.push_back(plaats);
+    }
+    return plaatsen;
+}
+
+void Meerkeuzelijst::Zet(int plaats, bool aan)
+{
+    const auto i = static_cast<std::size_t>(plaats);
+    if (gekozen_[i] == aan)
+        return;
+    gekozen_[i] = aan;
+    aantalGekozen_ += aan ? 1 : -1;
+}
+
+void Meerkeuzelijst::Gewijzigd()
+{
+    viewport()->update();
+    emit keuzeVeranderd();
+}
+
+void Meerkeuzelijst::Kies(int plaats, bool aan)
+{
+    Zet(plaats, aan);
+    Gewijzigd();
+}
+
+void Meerkeuzelijst::KiesAlles(bool aan)
+{
+    gekozen_.assign(gekozen_.size(), aan);
+    aantalGekozen_ = aan ? Aantal() : 0;
+    Gewijzigd();
+}
+
+void Meerkeuzelijst::KiesOok(const std::function<bool(int)>& hoort)
+{
+    for (int plaats = 0; plaats < Aantal(); ++plaats) {
+        if (hoort(plaats))
+            Zet(plaats, true);
+    }
+    Gewijzigd();
+}
+
+void Meerkeuzelijst::ZetHuidige(int plaats)
+{
+    if (plaats < 0 || plaats >= Aantal())
+        return;
+    setCurrentIndex(model()->index(plaats, 0));
+    scrollTo(currentIndex());
+}
+
+/// From the current line up to and including another one.
+void Meerkeuzelijst::KiesTot(int plaats, bool aan)
+{
+    const int huidige = currentIndex().isValid() ? currentIndex().row() : plaats;
+    for (int i = std::min(huidige, plaats); i <= std::max(huidige, plaats); ++i)
+        Zet(i, aan);
+    Gewijzigd();
+}
+
+void Meerkeuzelijst::mousePressEvent(QMouseEvent* gebeurtenis)
+{
+    const QModelIndex onder = indexAt(gebeurtenis->position().toPoint());
+    if (gebeurtenis->button() != Qt::LeftButton || !onder.isValid())
+        return;
+    if (gebeurtenis->modifiers() & Qt::ShiftModifier) {
+        KiesTot(onder.row(), true);
+    } else {
+        slepenKiest_ = !Gekozen(onder.row());
+        Kies(onder.row(), slepenKiest_);
+    }
+    setCurrentIndex(onder);
+}
+
+void Meerkeuzelijst::mouseMoveEvent(QMouseEvent* gebeurtenis)
+{
+    const QModelIndex onder = indexAt(gebeurtenis->position().toPoint());
+    if (!(gebeurtenis->buttons() & Qt::LeftButton) || !onder.isValid() || onder == currentIndex())
+        return;
+    KiesTot(onder.row(), slepenKiest_);
+    setCurrentIndex(onder);
+}
+
+/// The second click of two quick ones is a click like the first.
+void Meerkeuzelijst::mouseDoubleClickEvent(QMouseEvent* gebeurtenis)
+{
+    mousePressEvent(gebeurtenis);
+}
+
+void Meerkeuzelijst::keyPressEvent(QKeyEvent* gebeurtenis)
+{
+    const int vorige = currentIndex().row();
+    if (gebeurtenis->matches(QKeySequence::SelectAll)) {
+        KiesAlles(true);
+    } else if (gebeurtenis->key() == Qt::Key_Space) {
+        if (vorige >= 0)
+            Kies(vorige, !Gekozen(vorige));
+    } else {
+        QListView::keyPressEvent(gebeurtenis);
+        const int nu = currentIndex().row();
+        if ((gebeurtenis->modifiers() & Qt::ShiftModifier) && vorige >= 0 && nu != vorige) {
+            for (int i = std::min(vorige, nu); i <= std::max(vorige, nu); ++i)
+                Zet(i, true);
+            Gewijzigd();
+        }
+    }
+}
+
+} // namespace plexoran

@@ -1,0 +1,19 @@
+// The one text order of the house, the same on every system: character by character, blank before
+// other signs (by code) before digits before letters; letters without regard to case or accent (Æ
+// as AE, Œ as OE, ß as SS, Ø as O, Þ as TH). Texts that are equal so far are ordered by their
+// bytes, so that the order is total.
+#pragma once
+
+#include <vector>
+
+#include "platform/tekst.h"
+
+namespace plexoran {
+
+/// Keys that compare byte by byte as their texts compare in the text order.
+[[nodiscard]] Tekst Sorteersleutel(Tekstblik tekst);
+
+/// The texts in text order.
+void Sorteer(std::vector<Tekst>& teksten);
+
+} // namespace plexoran
