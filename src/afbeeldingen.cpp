@@ -7,8 +7,13 @@
 
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
+#include "dialogs/diaKopieer.h"
+#include "dialogs/diaSortlijst.h"
+#include "dialogs/diaVerplaats.h"
+#include "dialogs/frmVerwSubgroep.h"
 #include "federation/diaRekProgkeus.h"
 #include "mainwindow/frmLedenAdmin.h"
+#include "mainwindow/sorteerlijst.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
@@ -43,28 +48,59 @@ Ingave Voorbeeldingave(const Administratie& administratie)
     return ingave;
 }
 
+class Fotograaf {
+  public:
+    explicit Fotograaf(const std::string& map) : map_(QString::fromStdString(map))
+    {
+        gelukt_ = map_.mkpath(QStringLiteral("."));
+    }
+
+    void Neem(QWidget& venster) { gelukt_ = Bewaar(venster, map_) && gelukt_; }
+    void Neem(QWidget&& venster) { Neem(venster); }
+    [[nodiscard]] bool Gelukt() const { return gelukt_; }
+
+  private:
+    QDir map_;
+    bool gelukt_ = false;
+};
+
+void NeemSorteerlijst(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, const Spelertabel& tabel)
+{
+    const auto lijst = VulSorteerlijst(tabel, Sorteersoort::NBBgroep, std::nullopt);
+    if (!lijst)
+        return;
+    fotograaf.Neem(diaSortlijst({.soort = Sorteersoort::NBBgroep,
+                                 .importgroep = false,
+                                 .regels = static_cast<int>(lijst->size()),
+                                 .regel =
+                                     [&](int regel) {
+                                         return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
+                                                          Sorteersoort::NBBgroep);
+                                     }},
+                                &hoofdvenster));
+}
+
 } // namespace
 
 int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                      const std::string& map)
 {
-    const QDir doel(QString::fromStdString(map));
-    bool gelukt = doel.mkpath(QStringLiteral("."));
-    gelukt = Bewaar(hoofdvenster, doel) && gelukt;
-
+    Fotograaf fotograaf(map);
+    // A screen that is only drawn may be small; the pictures show the standard size.
+    const Maten maten;
+    hoofdvenster.resize(maten.Twips(15360), maten.Twips(10500));
+    fotograaf.Neem(hoofdvenster);
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;
-    diaIngave ingaveVenster(
-        ingave, terugkeerveld, [] {}, &hoofdvenster);
-    gelukt = Bewaar(ingaveVenster, doel) && gelukt;
-
+    fotograaf.Neem(diaIngave(ingave, terugkeerveld, [] {}, &hoofdvenster));
     Groepen groepen = administratie.groepen;
-    diaGrNamen namenVenster(groepen, &hoofdvenster);
-    gelukt = Bewaar(namenVenster, doel) && gelukt;
-
-    diaRekProgkeus programmaVenster(&hoofdvenster);
-    gelukt = Bewaar(programmaVenster, doel) && gelukt;
-    return gelukt ? 0 : 1;
+    fotograaf.Neem(diaGrNamen(groepen, &hoofdvenster));
+    fotograaf.Neem(diaRekProgkeus(&hoofdvenster));
+    fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
+    fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));
+    fotograaf.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
+    NeemSorteerlijst(fotograaf, hoofdvenster, administratie.spelers.tabel);
+    return fotograaf.Gelukt() ? 0 : 1;
 }
 
 } // namespace plexoran

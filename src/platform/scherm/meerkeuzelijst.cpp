@@ -10,6 +10,8 @@
 namespace plexoran {
 namespace {
 
+constexpr qsizetype VerborgenNaSpaties = 60;
+
 class Regelmodel : public QAbstractListModel {
   public:
     explicit Regelmodel(Meerkeuzelijst& lijst) : QAbstractListModel(&lijst), lijst_(lijst) {}
@@ -60,6 +62,10 @@ class Regeltekenaar : public QStyledItemDelegate {
     {
         QStyledItemDelegate::initStyleOption(optie, plaats);
         optie->textElideMode = Qt::ElideNone;
+        // In a wide window too the key stays out of sight.
+        const auto verborgen = optie->text.indexOf(QString(VerborgenNaSpaties, QLatin1Char(' ')));
+        if (verborgen >= 0)
+            optie->text.truncate(verborgen);
         optie->state.setFlag(QStyle::State_Selected, lijst_.Gekozen(plaats.row()));
     }
 

@@ -1,6 +1,8 @@
 // A list of lines of which any number can be chosen. A click or the space bar chooses a line or
 // lets it go; dragging and Shift do the same for many; Ctrl+A chooses all.
 //
+// What follows sixty spaces in a line belongs to it but is not shown.
+//
 // The lines are asked for when they are painted and the choice is one bit a line, so that a list of
 // a hundred thousand opens and chooses all without a wait.
 #pragma once
