@@ -92,7 +92,8 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     fotograaf.Neem(hoofdvenster);
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;
-    fotograaf.Neem(diaIngave(ingave, terugkeerveld, [] {}, &hoofdvenster));
+    fotograaf.Neem(diaIngave(
+        ingave, terugkeerveld, [] {}, &hoofdvenster));
     Groepen groepen = administratie.groepen;
     fotograaf.Neem(diaGrNamen(groepen, &hoofdvenster));
     fotograaf.Neem(diaRekProgkeus(&hoofdvenster));

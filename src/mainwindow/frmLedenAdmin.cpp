@@ -51,7 +51,8 @@ void frmLedenAdmin::ToonGroep()
     const Tekst code(CodeUit(groeptekst));
     const Groepsbeeld beeld = BeeldVan(administratie_.mappen, code);
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    Weergave weergave = BouwWeergave(tabel, code);
+    Celmeter celmeter(tabel, picP0->Meter());
+    Weergave weergave = BouwWeergave(tabel, code, [&](int rij) { celmeter.Meet(rij); });
     const int regels = static_cast<int>(weergave.size());
 
     Label3->setText(QStringLiteral("Aantal regels: %1").arg(regels));
@@ -67,7 +68,7 @@ void frmLedenAdmin::ToonGroep()
     cmdPrint->setText(MetSneltoets(printtekst, u'P'));
     cmdPrint->setToolTip(printtekst);
 
-    picP0->Toon(tabel, std::move(weergave), beeld.kolomnamen);
+    picP0->Toon(tabel, std::move(weergave), celmeter.Maten(), beeld.kolomnamen);
     if (administratie_.instellingen.LOSTGR != cmbGr->currentIndex())
         picP0->NaarBoven();
     administratie_.instellingen.LOSTGR = static_cast<std::int16_t>(cmbGr->currentIndex());

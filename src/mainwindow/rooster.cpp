@@ -70,13 +70,13 @@ void Rooster::BouwSchuifbalken()
     connect(VScroll1, &QScrollBar::valueChanged, this, schuif);
 }
 
-void Rooster::Toon(const Spelertabel& tabel, Weergave weergave,
+void Rooster::Toon(const Spelertabel& tabel, Weergave weergave, const Kolommaten& celmaten,
                    const std::array<Tekstblik, AantalKolommen>& kolomnamen)
 {
     inhoud_.tabel = &tabel;
     inhoud_.weergave = std::move(weergave);
     inhoud_.kolomnamen = kolomnamen;
-    inhoud_.celmaten = MeetCellen(tabel, inhoud_.weergave, inhoud_.meter);
+    inhoud_.celmaten = celmaten;
     for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
         inhoud_.headermaten[i] = inhoud_.meter.Breedte(kolomnamen[i]);
         if (kolomnamen[i].empty())

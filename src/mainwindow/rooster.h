@@ -21,12 +21,14 @@ class Rooster : public QFrame {
 
     /// Shows these rows of the table, which must outlive their display; clears the selection. The
     /// scroll bars keep their place as far as the rows reach.
-    void Toon(const Spelertabel& tabel, Weergave weergave,
+    void Toon(const Spelertabel& tabel, Weergave weergave, const Kolommaten& celmaten,
               const std::array<Tekstblik, AantalKolommen>& kolomnamen);
     void ZetBreedteregel(Breedteregel regel);
     void NaarBoven();
     void BrengInBeeld(int regel);
 
+    /// The widths in the font of the grid.
+    [[nodiscard]] const Tekstmeter& Meter() const { return inhoud_.meter; }
     [[nodiscard]] int Regel() const { return P1->Regel(); }
     void KiesRegel(int regel) { P1->KiesRegel(regel); }
     [[nodiscard]] int Regels() const { return inhoud_.Regels(); }

@@ -2,8 +2,6 @@
 // measured from its top left corner; lines and columns count from 1.
 #pragma once
 
-#include <vector>
-
 #include "platform/tekstmeter.h"
 #include "register/spelertabel.h"
 
@@ -27,9 +25,19 @@ inline constexpr double SmalsteKolom = 10.0;
 /// Widest text of each column, in micrometres; element 0 is column 1.
 using Kolommaten = std::array<std::int64_t, AantalKolommen>;
 
-/// The widest cell text of each column over these rows of the table.
-[[nodiscard]] Kolommaten MeetCellen(const Spelertabel& tabel, const std::vector<int>& rijen,
-                                    const Tekstmeter& meter);
+/// Finds the widest cell text of each column over the rows that it is shown.
+class Celmeter {
+  public:
+    Celmeter(const Spelertabel& tabel, const Tekstmeter& meter);
+    void Meet(int rij);
+    [[nodiscard]] const Kolommaten& Maten() const { return maten_; }
+
+  private:
+    const Spelertabel& tabel_;
+    const Tekstmeter& meter_;
+    std::int64_t breedste_; ///< the widest character
+    Kolommaten maten_{};
+};
 
 enum class Breedteregel { VolgensTeksten, VolgensHeader };
 

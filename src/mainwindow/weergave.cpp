@@ -2,12 +2,15 @@
 
 namespace plexoran {
 
-Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode)
+Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode,
+                      const std::function<void(int)>& bijElkeRij)
 {
     Weergave weergave;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) == groepscode)
-            weergave.push_back(rij);
+        if (tabel.Cel(rij, Kolom::Groep) != groepscode)
+            continue;
+        weergave.push_back(rij);
+        bijElkeRij(rij);
     }
     return weergave;
 }

@@ -1,6 +1,7 @@
 // Which rows of the player table the grid shows, and which commands belong to the shown group.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "register/mappen.h"
@@ -11,7 +12,10 @@ namespace plexoran {
 /// The rows of the players in a group, in table order: element i is the row on grid line i + 1.
 using Weergave = std::vector<int>;
 
-[[nodiscard]] Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode);
+/// Each of them is handed to `bijElkeRij` on the way, so that a large table is walked only once.
+[[nodiscard]] Weergave BouwWeergave(
+    const Spelertabel& tabel, Tekstblik groepscode,
+    const std::function<void(int)>& bijElkeRij = [](int) {});
 
 /// What the option words do to a button when a group is shown.
 enum class Zichtbaarheid { Ongemoeid, Tonen, Verbergen };

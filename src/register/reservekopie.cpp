@@ -38,7 +38,10 @@ Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
 Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand)
 {
     const Pad kopiemap = Samen(spelersmap, "Reservekopie");
-    return schijf.MaakMap(kopiemap)
+    return schijf
+        .MaakMap(kopiemap)
+        // The copy is only as safe as the name of the folder that it is in.
+        .and_then([&] { return schijf.SyncMapVan(kopiemap); })
         .and_then([&] { return VrijeNaam(schijf, kopiemap, bestand); })
         .and_then([&](const Pad& kopie) -> Uitkomst<Pad> {
             const auto inhoud = schijf.LeesBestand(bestand);

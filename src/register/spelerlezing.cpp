@@ -72,7 +72,10 @@ class Lezer {
         rijen_.reserve(GeschatAantalRegels());
         while (begin_ < inhoud_.size() && geteld_)
             LeesRegel();
-        uit_.zonderSleutelregel = !uit_.HKEY && !rijen_.empty();
+        if (geteld_)
+            uit_.zonderSleutelregel = !uit_.HKEY && !rijen_.empty();
+        else
+            uit_.zonderAchternaam.clear(); // nothing of the file is taken, so nothing is left out
         if (uit_.fout || uit_.zonderSleutelregel)
             uit_.verliest = true;
         if (geteld_)

@@ -79,7 +79,16 @@ TEST(Regelgrenzen, LiggenOmDeVierenveertigTiendeVanafVijf)
 
 // ---- Columns ----------------------------------------------------------------------------------
 
-TEST(MeetCellen, NeemtPerKolomDeBreedsteVanDeGetoondeRijen)
+Kolommaten MeetCellen(const Spelertabel& tabel, const std::vector<int>& rijen,
+                      const Tekstmeter& meter)
+{
+    Celmeter celmeter(tabel, meter);
+    for (const int rij : rijen)
+        celmeter.Meet(rij);
+    return celmeter.Maten();
+}
+
+TEST(Celmeter, NeemtPerKolomDeBreedsteVanDeGetoondeRijen)
 {
     Spelertabel tabel;
     tabel.VoegToe(Rij("Jansen", "Breda"));

@@ -77,3 +77,32 @@ TEST(Getal, HeelLangeCijferreeks)
     EXPECT_EQ(Geheel32("99999999999999999999999999999999999999"), std::nullopt);
     EXPECT_EQ(Geheel32("00000000000000000000000000000000000012"), 12);
 }
+
+TEST(Getal, AlsGetalVultAanMetNullen)
+{
+    EXPECT_EQ(AlsGetal("12345", 8), "00012345");
+    EXPECT_EQ(AlsGetal("100001", 6), "100001");
+    EXPECT_EQ(AlsGetal("0", 6), "000000");
+    EXPECT_EQ(AlsGetal("000", 2), "00");
+    EXPECT_EQ(AlsGetal("7", 0), "7");
+}
+
+TEST(Getal, AlsGetalKortNietAf)
+{
+    EXPECT_EQ(AlsGetal("123456789", 6), "123456789");
+    EXPECT_EQ(AlsGetal("0000000123456789", 6), "123456789");
+    EXPECT_EQ(AlsGetal("99999999999999999999999999", 8), "99999999999999999999999999");
+}
+
+TEST(Getal, AlsGetalLeestOverSpatiesEromheen)
+{
+    EXPECT_EQ(AlsGetal("  12 ", 4), "0012");
+    EXPECT_EQ(AlsGetal("1 2", 4), std::nullopt);
+}
+
+TEST(Getal, WatGeenCijfersZijnIsGeenGetal)
+{
+    for (const char* tekst :
+         {"", "   ", "abc", "12a", "a12", "-5", "+5", "1.5", "1,5", "\t1", "\xB2", "0x10", "1e3"})
+        EXPECT_EQ(AlsGetal(tekst, 6), std::nullopt) << tekst;
+}

@@ -169,7 +169,8 @@ void Meerkeuzelijst::KiesTot(int plaats, bool aan)
 void Meerkeuzelijst::mousePressEvent(QMouseEvent* gebeurtenis)
 {
     const QModelIndex onder = indexAt(gebeurtenis->position().toPoint());
-    if (gebeurtenis->button() != Qt::LeftButton || !onder.isValid())
+    sleept_ = gebeurtenis->button() == Qt::LeftButton && onder.isValid();
+    if (!sleept_)
         return;
     if (gebeurtenis->modifiers() & Qt::ShiftModifier) {
         KiesTot(onder.row(), true);
@@ -183,7 +184,8 @@ void Meerkeuzelijst::mousePressEvent(QMouseEvent* gebeurtenis)
 void Meerkeuzelijst::mouseMoveEvent(QMouseEvent* gebeurtenis)
 {
     const QModelIndex onder = indexAt(gebeurtenis->position().toPoint());
-    if (!(gebeurtenis->buttons() & Qt::LeftButton) || !onder.isValid() || onder == currentIndex())
+    if (!sleept_ || !(gebeurtenis->buttons() & Qt::LeftButton) || !onder.isValid() ||
+        onder == currentIndex())
         return;
     KiesTot(onder.row(), slepenKiest_);
     setCurrentIndex(onder);

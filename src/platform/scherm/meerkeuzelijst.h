@@ -55,6 +55,7 @@ class Meerkeuzelijst : public QListView {
 
     std::vector<bool> gekozen_;
     int aantalGekozen_ = 0;
+    bool sleept_ = false;     ///< the button went down on a line
     bool slepenKiest_ = true; ///< what dragging does with the lines it passes
     std::function<QString(int)> regel_;
 };

@@ -1,0 +1,270 @@
+#include "dialogs/diaKopieer.h"
+
+#include <QAbstractItemView>
+#include <QGroupBox>
+
+#include <limits>
+
+#include "dialogs/groepsproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+const std::string spaties60(60, ' ');
+using Plaatsen = std::vector<int>;
+using Teksten_t = std::vector<std::string>;
+
+class diaKopieerTest : public Groepsproef<diaKopieer> {
+  protected:
+    /// As a user does with the mouse: open the list and click an entry.
+    void KiesWaarde(int plaats) const
+    {
+        auto* keus = Keus("cmbNBBgr");
+        keus->showPopup();
+        QApplication::processEvents();
+        keus->view()->setCurrentIndex(keus->model()->index(plaats, 0));
+        QTest::keyClick(keus->view(), Qt::Key_Return);
+        QApplication::processEvents();
+    }
+    void KiesBron(int nummer) const { Keus("cmbUitGroep")->setCurrentIndex(nummer - 1); }
+    [[nodiscard]] QCheckBox* Vink(const char* naam) const { return Deel<QCheckBox>(naam); }
+
+    static Bericht Kopieervraag(const QString& bron, const QString& doel, const QString& antwoord)
+    {
+        return {.tekst = QStringLiteral("U gaat spelers kopiëren van groep '") + bron +
+                         QStringLiteral("' naar groep '") + doel +
+                         QStringLiteral("'.\r\n\r\nPas op: Reeds bestaande spelers in '") + doel +
+                         QStringLiteral("' zullen er daarna 2 keer in staan en zult u handmatig "
+                                        "moeten verwijderen!"),
+                .antwoord = antwoord,
+                .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+    }
+};
+
+const QString ClubNaam = QStringLiteral("Gr01-Clubleden & co");
+const QString OK = QStringLiteral("OK");
+
+} // namespace
+
+TEST_F(diaKopieerTest, DeTeksten)
+{
+    EXPECT_EQ("Kopieer speler(s) naar een andere groep", venster->windowTitle().toStdString());
+    EXPECT_EQ("Spelers kopiëren", Deel<QGroupBox>("Frame1")->title().toStdString());
+    EXPECT_EQ("Uit spelergroep:", Labeltekst("Label4"));
+    EXPECT_EQ("Selecteer de spelers(s) ", Labeltekst("Label1"));
+    EXPECT_EQ("Kopieer hen naar groep:", Labeltekst("Label2"));
+    EXPECT_EQ("Selecteer alles", Opschrift(Knop("cmdSelAll")));
+    EXPECT_EQ("Selecteer niets", Opschrift(Knop("cmdSelNone")));
+    EXPECT_EQ("Kopieer", Opschrift(Knop("cmdOK")));
+    EXPECT_EQ("Annuleren", Opschrift(Knop("cmdAnnuleren")));
+    VerwachtAlleGroepen("cmbGrnamen");
+    VerwachtAlleGroepen("cmbUitGroep");
+}
+
+TEST_F(diaKopieerTest, DeOpschriftenHangenVanDeBronAf)
+{
+    for (const int groep : {1, 5, 2}) {
+        KiesBron(groep);
+        const bool import = groep == 5;
+        EXPECT_EQ(import ? "NBBgroep ook kopieren" : "Subgroeptekst ook mee kopieren",
+                  Opschrift(Vink("chkNBBgrOok")));
+        EXPECT_EQ(import ? "Selecteer de spelers van 'NBBgroep':"
+                         : "Selecteer de spelers van 'Subgroep':",
+                  Labeltekst("Label3"));
+        EXPECT_EQ(import, Vink("chkNBBnrOok")->isVisible());
+        EXPECT_EQ("NBBnummer ook kopieren", Opschrift(Vink("chkNBBnrOok")));
+        // Meant: the number is never copied through this screen.
+        EXPECT_FALSE(Vink("chkNBBnrOok")->isEnabled());
+        EXPECT_FALSE(Vink("chkNBBnrOok")->isChecked());
+        EXPECT_TRUE(Vink("chkNBBgrOok")->isEnabled());
+        EXPECT_TRUE(Vink("chkNBBgrOok")->isChecked());
+    }
+}
+
+TEST_F(diaKopieerTest, DeEersteRegelIsGekozenEnDeRestNiet)
+{
+    EXPECT_EQ((Teksten_t{"Gr01-\tBos   An   (A-lijn)" + spaties60 + "100001",
+                         "Gr01-\tEik   Dirk (geen)" + spaties60 + "100004",
+                         "Gr01-\tFuik   Els   (A-lijn)" + spaties60 + "100005"}),
+              Regels());
+    EXPECT_EQ((Teksten_t{"A-lijn", "geen"}), Teksten("cmbNBBgr"));
+    EXPECT_EQ(0, Keus("cmbNBBgr")->currentIndex());
+    EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    KiesBron(5);
+    EXPECT_EQ((Teksten_t{"Gr05-\tCock   Bea de  (DINSDAG)" + spaties60 + "100002",
+                         "Gr05-\tGans   Fred   (MAANDAG)" + spaties60 + "100006"}),
+              Regels());
+    EXPECT_EQ((Teksten_t{"DINSDAG", "MAANDAG"}), Teksten("cmbNBBgr"));
+    EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
+}
+
+TEST_F(diaKopieerTest, EenLegeGroepHeeftNietsTeKopieren)
+{
+    KiesBron(9);
+    EXPECT_EQ(0, Lijst()->Aantal());
+    EXPECT_EQ(0, Keus("cmbNBBgr")->count());
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+    Klik(Knop("cmdSelAll"));
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+    KiesBron(1);
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+}
+
+/// Meant: values are not trimmed here, but one of blanks counts as "geen".
+TEST_F(diaKopieerTest, WaardenMetSpaties)
+{
+    administratie.spelers.tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", " x", ""},
+                                             {"100002", "Gr01-", "Bo", "", "Cos", "  ", ""},
+                                             {"100003", "Gr01-", "Cy", "", "Dos", "x", ""},
+                                             {"100004", "Gr01-", "Di", "", "Eos", "", ""}});
+    Open();
+    EXPECT_EQ((Teksten_t{" x", "geen", "x"}), Teksten("cmbNBBgr"));
+}
+
+TEST_F(diaKopieerTest, EenWaardeKiezenVoegtToeEnLaatNietsLos)
+{
+    KiesWaarde(1);
+    EXPECT_EQ(Plaatsen({0, 1}), Lijst()->GekozenPlaatsen());
+    Klik(Knop("cmdSelNone"));
+    KiesWaarde(1); // the value that is shown already
+    EXPECT_EQ(Plaatsen({1}), Lijst()->GekozenPlaatsen());
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    KiesWaarde(0);
+    EXPECT_EQ(Plaatsen({0, 1, 2}), Lijst()->GekozenPlaatsen());
+    EXPECT_EQ(0, Lijst()->currentIndex().row());
+}
+
+TEST_F(diaKopieerTest, MetDePijltoetsenKiestHetOok)
+{
+    Keus("cmbNBBgr")->setFocus();
+    QTest::keyClick(Keus("cmbNBBgr"), Qt::Key_Down);
+    EXPECT_EQ(Plaatsen({0, 1}), Lijst()->GekozenPlaatsen());
+}
+
+/// Meant: the value is looked for in the whole line, names included, without regard to case.
+TEST_F(diaKopieerTest, DeWaardeWordtInDeHeleRegelGezocht)
+{
+    administratie.spelers.tabel =
+        MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "", ""},
+                   {"100002", "Gr01-", "Bo", "", "van Geenen", "CAF\xC9", ""},
+                   {"100003", "Gr01-", "Cy", "", "caf\xE9houder", "x", ""},
+                   {"100004", "Gr01-", "Di", "", "Eos", "CAFE", ""}});
+    Open();
+    EXPECT_EQ((Teksten_t{"geen", "CAFÉ", "x", "CAFE"}), Teksten("cmbNBBgr"));
+    Klik(Knop("cmdSelNone"));
+    KiesWaarde(0);
+    EXPECT_EQ(Plaatsen({0, 1}), Lijst()->GekozenPlaatsen());
+    Klik(Knop("cmdSelNone"));
+    KiesWaarde(1);
+    EXPECT_EQ(Plaatsen({1, 2}), Lijst()->GekozenPlaatsen());
+}
+
+TEST_F(diaKopieerTest, AllesEnNietsWerkenDeKnopBijEnGaanNaarDeEersteRegel)
+{
+    KlikRegel(2);
+    Klik(Knop("cmdSelAll"));
+    EXPECT_EQ(3U, Lijst()->GekozenPlaatsen().size());
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    EXPECT_EQ(0, Lijst()->currentIndex().row());
+    KlikRegel(2);
+    Klik(Knop("cmdSelNone"));
+    EXPECT_FALSE(Lijst()->IetsGekozen());
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+    EXPECT_EQ(0, Lijst()->currentIndex().row());
+}
+
+TEST_F(diaKopieerTest, KopieertNaDeVraagEnMeldtHetAantal)
+{
+    auto moet = AlleRijen(administratie.spelers.tabel);
+    for (const std::size_t bron : {std::size_t{0}, std::size_t{4}}) {
+        moet.push_back(moet[bron]);
+        moet.back()[1] = bron == 0 ? "100043" : "100044";
+        moet.back()[2] = "Gr08-";
+        moet.back()[17] = "";
+    }
+    KlikRegel(2);
+    Keus("cmbGrnamen")->setCurrentIndex(7);
+    wachter.Verwacht(Kopieervraag(ClubNaam, QStringLiteral("Gr08-Introducés"), OK));
+    wachter.Informatie(QStringLiteral("Er zijn 2 spelers gekopieerd."));
+    Klik(Knop("cmdOK"));
+    wachter.Klaar();
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_FALSE(venster->IngaveGeannuleerd());
+    EXPECT_EQ(moet, AlleRijen(administratie.spelers.tabel));
+    EXPECT_EQ(100044, administratie.spelers.HKEY);
+}
+
+TEST_F(diaKopieerTest, ZonderSubgroeptekst)
+{
+    Vink("chkNBBgrOok")->click();
+    wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, OK));
+    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    Klik(Knop("cmdOK"));
+    wachter.Klaar();
+    EXPECT_EQ("Gr01-", Cel(7, Kolom::Groep));
+    EXPECT_EQ("Bos", Cel(7, Kolom::Achternaam));
+    EXPECT_EQ("", Cel(7, Kolom::NBBgr));
+    EXPECT_EQ("A-lijn", Cel(1, Kolom::NBBgr));
+}
+
+/// Meant: not even out of the import group, where the box for it is shown.
+TEST_F(diaKopieerTest, HetNummerGaatNooitMee)
+{
+    KiesBron(5);
+    wachter.Verwacht(Kopieervraag(QStringLiteral("Gr05-Bondsleden"), ClubNaam, OK));
+    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    Vink("chkNBBnrOok")->click();
+    Klik(Knop("cmdOK"));
+    wachter.Klaar();
+    EXPECT_EQ("DINSDAG", Cel(7, Kolom::NBBgr));
+    EXPECT_EQ("", Cel(7, Kolom::NBBnr));
+}
+
+TEST_F(diaKopieerTest, AnnulerenVanDeVraagLaatHetVensterOpen)
+{
+    const auto oud = AlleRijen(administratie.spelers.tabel);
+    for (const QString& antwoord :
+         {QStringLiteral("Annuleren"), Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
+        wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, antwoord));
+        Klik(Knop("cmdOK"));
+        wachter.Klaar();
+        EXPECT_TRUE(venster->isVisible());
+        EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
+    }
+    EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
+    EXPECT_EQ(100042, administratie.spelers.HKEY);
+}
+
+TEST_F(diaKopieerTest, AnnulerenEscapeEnHetSluitvakVeranderenNiets)
+{
+    const auto oud = AlleRijen(administratie.spelers.tabel);
+    for (int weg = 0; weg < 3; ++weg) {
+        ASSERT_NO_FATAL_FAILURE(Open());
+        if (weg == 0)
+            Klik(Knop("cmdAnnuleren"));
+        else if (weg == 1)
+            QTest::keyClick(Lijst(), Qt::Key_Escape);
+        else
+            venster->close();
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_TRUE(venster->IngaveGeannuleerd());
+    }
+    EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
+}
+
+TEST_F(diaKopieerTest, AlsDeSleutelsOpZijnBlijftHetVensterOpen)
+{
+    administratie.spelers.HKEY = std::numeric_limits<std::int32_t>::max();
+    wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, OK));
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Er is niets gekopieerd: de spelersleutels zijn op. Kijk het "
+                                 "getal na achter HKEY= in het spelerbestand."),
+         .icoon = QMessageBox::Critical});
+    Klik(Knop("cmdOK"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_TRUE(venster->IngaveGeannuleerd());
+    EXPECT_EQ(6, administratie.spelers.tabel.Rijen());
+}

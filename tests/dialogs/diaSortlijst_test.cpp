@@ -1,0 +1,302 @@
+#include "dialogs/diaSortlijst.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <cmath>
+#include <memory>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "hulp/tekstvanger.h"
+#include "hulp/venstergrepen.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr auto opKey = Sorteersoort::Key;
+constexpr auto opNummer = Sorteersoort::NBBnr;
+constexpr auto opGroep = Sorteersoort::NBBgroep;
+
+class diaSortlijstTest : public testing::Test {
+  protected:
+    diaSortlijstTest()
+    {
+        hoofd.resize(1000, 700);
+        hoofd.show();
+    }
+
+    void Open(Sorteersoort soort, bool importgroep, std::vector<Tekst> nieuw)
+    {
+        regels = std::move(nieuw);
+        Toon({.soort = soort,
+              .importgroep = importgroep,
+              .regels = static_cast<int>(regels.size()),
+              .regel = [this](int regel) -> Tekstblik {
+                  gevraagd.insert(regel);
+                  return regels[static_cast<std::size_t>(regel)];
+              }});
+    }
+    void OpenVeel(int aantal)
+    {
+        vaste = "100001,An,van der,Bos,A-lijn,12345678";
+        Toon({.soort = opKey, .importgroep = false, .regels = aantal, .regel = [this](int regel) {
+                  gevraagd.insert(regel);
+                  return Tekstblik(vaste);
+              }});
+    }
+    void Toon(Sorteerbeeld beeld)
+    {
+        venster = std::make_unique<diaSortlijst>(std::move(beeld), &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+
+    [[nodiscard]] QWidget* P1() const { return Vind<QWidget>(*venster, "P1"); }
+    [[nodiscard]] QScrollBar* Balk() const { return Vind<QScrollBar>(*venster, "VScroll1"); }
+    void Schilder()
+    {
+        vanger = std::make_unique<Tekstvanger>(P1()->size());
+        P1()->render(vanger.get(), {}, {}, QWidget::RenderFlags());
+    }
+    [[nodiscard]] std::vector<std::string> Geschilderd()
+    {
+        Schilder();
+        std::vector<std::string> teksten;
+        for (const Getekend& deel : vanger->Teksten())
+            teksten.push_back(deel.tekst);
+        return teksten;
+    }
+    [[nodiscard]] Getekend Deel(const std::string& tekst) const
+    {
+        for (const Getekend& deel : vanger->Teksten()) {
+            if (deel.tekst == tekst)
+                return deel;
+        }
+        ADD_FAILURE() << "niet geschilderd: " << tekst;
+        return {};
+    }
+    /// The width of the letter "A" on the surface.
+    [[nodiscard]] double A() const
+    {
+        return QFontMetrics(P1()->font()).horizontalAdvance(QLatin1Char('A'));
+    }
+
+    QWidget hoofd;
+    std::vector<Tekst> regels;
+    Tekst vaste;
+    std::set<int> gevraagd;
+    std::unique_ptr<diaSortlijst> venster;
+    std::unique_ptr<Tekstvanger> vanger;
+};
+
+const std::vector<Tekst> tweeRegels{"100001,An,,Bos,DINSDAG,12345",
+                                    "100007,Zo\xEB,van der,Dam,MAANDAG,99999999"};
+
+} // namespace
+
+TEST(Sorteerkolommen, RandenPerSoort)
+{
+    EXPECT_EQ((Sorteerranden{1, 14.5F, 34.5F, 46.5F, 73.5F, 88.5F, 104.5F}), ZetKolommen(opKey));
+    EXPECT_EQ((Sorteerranden{1, 13, 33, 45, 72, 87, 105}), ZetKolommen(opNummer));
+    EXPECT_EQ((Sorteerranden{1, 13, 33, 45, 72, 89, 105}), ZetKolommen(opGroep));
+}
+
+TEST(Sorteerkolommen, HetGesorteerdeVeldIsVet)
+{
+    EXPECT_EQ(1, VetVeld(opKey));
+    EXPECT_EQ(6, VetVeld(opNummer));
+    EXPECT_EQ(5, VetVeld(opGroep));
+}
+
+TEST_F(diaSortlijstTest, DeTekstenPerSoort)
+{
+    for (const auto& [soort, titel] :
+         {std::pair(opKey, "Spelers gesorteerd op 'RVD-key'."),
+          std::pair(opNummer, "Spelers gesorteerd op 'NBB-nummer'."),
+          std::pair(opGroep, "Spelers gesorteerd op 'NBB-groep en Naam'.")}) {
+        ASSERT_NO_FATAL_FAILURE(Open(soort, true, tweeRegels));
+        EXPECT_EQ("Gesorteerde spelerlijst", venster->windowTitle().toStdString());
+        EXPECT_EQ(titel, Vind<QLabel>(*venster, "Label1")->text().toStdString());
+        EXPECT_EQ("Terug", Opschrift(Vind<QPushButton>(*venster, "cmdOK")));
+    }
+}
+
+TEST_F(diaSortlijstTest, SchildertKopEnRegelsInHunVolgorde)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(opNummer, true, tweeRegels));
+    EXPECT_EQ((std::vector<std::string>{"Key", "Voornaam", "Tus", "Achternaam", "NBBgroep", "NBBnr",
+                                        "100001", "An", "Bos", "DINSDAG", "12345", "100007", "Zoë",
+                                        "van der", "Dam", "MAANDAG", "99999999"}),
+              Geschilderd());
+}
+
+/// Meant: only the two headers change, not the data.
+TEST_F(diaSortlijstTest, BuitenDeImportgroepHetenDeLaatsteKolommenAnders)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, false, tweeRegels));
+    EXPECT_EQ((std::vector<std::string>{"Key", "Voornaam", "Tus", "Achternaam", "Subgroep", "-----",
+                                        "100001", "An", "Bos", "DINSDAG", "12345", "100007", "Zoë",
+                                        "van der", "Dam", "MAANDAG", "99999999"}),
+              Geschilderd());
+}
+
+TEST_F(diaSortlijstTest, KopVetEnHetGesorteerdeVeldVet)
+{
+    for (const auto& [soort, vet] : {std::pair(opKey, "100001"), std::pair(opNummer, "12345"),
+                                     std::pair(opGroep, "DINSDAG")}) {
+        ASSERT_NO_FATAL_FAILURE(Open(soort, true, tweeRegels));
+        Schilder();
+        for (const char* kop : {"Key", "Voornaam", "Tus", "Achternaam", "NBBgroep", "NBBnr"})
+            EXPECT_TRUE(Deel(kop).vet) << kop;
+        for (const char* veld : {"100001", "An", "Bos", "DINSDAG", "12345"})
+            EXPECT_EQ(std::string(vet) == veld, Deel(veld).vet) << veld;
+    }
+}
+
+TEST_F(diaSortlijstTest, DeVeldenStaanOpHunPlaats)
+{
+    for (const Sorteersoort soort : {opKey, opNummer, opGroep}) {
+        ASSERT_NO_FATAL_FAILURE(Open(soort, true, tweeRegels));
+        Schilder();
+        const Sorteerranden t = ZetKolommen(soort);
+        const auto bij = [&](float rand) { return std::round(static_cast<double>(rand) * A()); };
+        EXPECT_NEAR(bij(t[0]), Deel("Key").x, 0.5);
+        EXPECT_NEAR(bij(t[3]), Deel("Achternaam").x, 0.5);
+        EXPECT_NEAR(bij(t[5]), Deel("NBBnr").x, 0.5);
+        EXPECT_NEAR(bij(t[0] + 1), Deel("100001").x, 0.5);
+        EXPECT_NEAR(bij(t[1] + 1), Deel("An").x, 0.5);
+        EXPECT_NEAR(bij(t[2] + 1), Deel("van der").x, 0.5);
+        EXPECT_NEAR(bij(t[3] + 1), Deel("Bos").x, 0.5);
+        EXPECT_NEAR(bij(t[4] + 1), Deel("DINSDAG").x, 0.5);
+        for (const char* nummer : {"12345", "99999999"})
+            EXPECT_NEAR(bij(t[5] + 15), Deel(nummer).x + Deel(nummer).breed, 1.5) << nummer;
+        EXPECT_LT(Deel("Key").y, Deel("100001").y);
+        EXPECT_LT(Deel("100001").y, Deel("100007").y);
+        EXPECT_EQ(Deel("100001").y, Deel("12345").y);
+    }
+}
+
+TEST_F(diaSortlijstTest, EenRegelMetTeWeinigOfLegeVelden)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, true, {"", ",,,,,", "7,An"}));
+    const auto teksten = Geschilderd();
+    EXPECT_EQ((std::vector<std::string>{"7", "An"}),
+              std::vector<std::string>(teksten.begin() + 6, teksten.end()));
+}
+
+TEST_F(diaSortlijstTest, EenLegeLijstIsAlleenDeKop)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, true, {}));
+    EXPECT_EQ(6U, Geschilderd().size());
+    EXPECT_FALSE(Balk()->isEnabled());
+}
+
+TEST_F(diaSortlijstTest, RoosterlijnenInHunGrijs)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, true, tweeRegels));
+    Schilder();
+    int staand = 0;
+    std::set<double> liggend;
+    for (const QLineF& lijn : vanger->Lijnen()) {
+        if (lijn.x1() == lijn.x2())
+            ++staand;
+        else if (lijn.y1() == lijn.y2())
+            liggend.insert(lijn.y1());
+    }
+    EXPECT_EQ(7, staand);
+    ASSERT_EQ(3U, liggend.size()); // under the header and after both lines
+    const QImage beeld = P1()->grab().toImage();
+    const double schaal = beeld.devicePixelRatio();
+    EXPECT_EQ(QColor(160, 160, 160), beeld.pixelColor(static_cast<int>(20 * A() * schaal),
+                                                      static_cast<int>(*liggend.begin() * schaal)));
+}
+
+TEST_F(diaSortlijstTest, EenKorteLijstHeeftDeSchuifbalkUit)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, true, tweeRegels));
+    EXPECT_FALSE(Balk()->isEnabled());
+    EXPECT_EQ(0, Balk()->minimum());
+    EXPECT_EQ(0, Balk()->maximum());
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    EXPECT_TRUE(Balk()->isEnabled());
+    EXPECT_EQ(0, Balk()->value());
+    venster->resize(venster->width(), 10'000);
+    QApplication::processEvents();
+    EXPECT_FALSE(Balk()->isEnabled());
+}
+
+TEST_F(diaSortlijstTest, OpentMetAlleKolommenInBeeld)
+{
+    for (const Sorteersoort soort : {opKey, opNummer, opGroep}) {
+        ASSERT_NO_FATAL_FAILURE(Open(soort, true, tweeRegels));
+        EXPECT_GE(P1()->width(), ZetKolommen(soort).back() * static_cast<float>(A()));
+        EXPECT_TRUE(P1()->hasFocus());
+        EXPECT_EQ(Vind<QWidget>(*venster, "P0")->width(), P1()->width());
+    }
+}
+
+TEST_F(diaSortlijstTest, SchuiftMetBalkToetsenEnWiel)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    const auto toets = [&](Qt::Key welke) { QTest::keyClick(P1(), welke); };
+    toets(Qt::Key_Down);
+    const int stap = Balk()->value();
+    EXPECT_GT(stap, 0);
+    toets(Qt::Key_Up);
+    EXPECT_EQ(0, Balk()->value());
+    toets(Qt::Key_PageDown);
+    EXPECT_GT(Balk()->value(), 5 * stap);
+    toets(Qt::Key_End);
+    EXPECT_EQ(Balk()->maximum(), Balk()->value());
+    toets(Qt::Key_PageUp);
+    EXPECT_LT(Balk()->value(), Balk()->maximum());
+    toets(Qt::Key_Home);
+    EXPECT_EQ(0, Balk()->value());
+    QWheelEvent wiel({20, 20}, P1()->mapToGlobal(QPointF(20, 20)), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&wiel);
+    qApp->notify(P1(), &wiel);
+    EXPECT_GT(Balk()->value(), 0);
+}
+
+TEST_F(diaSortlijstTest, OnderaanStaatDeLaatsteRegelHeelInBeeld)
+{
+    std::vector<Tekst> veel;
+    for (int i = 0; i < 200; ++i)
+        veel.push_back(std::to_string(i) + "e,An,,Bos,,");
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, true, veel));
+    Balk()->setValue(Balk()->maximum());
+    Schilder();
+    EXPECT_LT(Deel("199e").y, P1()->height());
+    EXPECT_GT(Deel("199e").y, P1()->height() / 2.0);
+    EXPECT_LT(Deel("Key").y, 0); // the header scrolls along
+}
+
+TEST_F(diaSortlijstTest, HonderdduizendRegelsAlleenWatTeZienIs)
+{
+    QElapsedTimer klok;
+    klok.start();
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(100'000));
+    Balk()->setValue(Balk()->maximum());
+    QApplication::processEvents();
+    EXPECT_LT(klok.elapsed(), 2000);
+    EXPECT_LT(gevraagd.size(), 200U);
+    EXPECT_TRUE(gevraagd.count(99'999));
+}
+
+TEST_F(diaSortlijstTest, TerugEnterEnEscapeSluiten)
+{
+    for (int weg = 0; weg < 3; ++weg) {
+        ASSERT_NO_FATAL_FAILURE(Open(opKey, true, tweeRegels));
+        if (weg == 0)
+            Klik(Vind<QPushButton>(*venster, "cmdOK"));
+        else
+            QTest::keyClick(P1(), weg == 1 ? Qt::Key_Return : Qt::Key_Escape);
+        EXPECT_FALSE(venster->isVisible()) << weg;
+    }
+}

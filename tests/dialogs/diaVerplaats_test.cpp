@@ -1,0 +1,132 @@
+#include "dialogs/diaVerplaats.h"
+
+#include <QElapsedTimer>
+
+#include "dialogs/groepsproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+const std::string spaties60(60, ' ');
+
+class diaVerplaatsTest : public Groepsproef<diaVerplaats> {};
+
+} // namespace
+
+TEST_F(diaVerplaatsTest, DeTeksten)
+{
+    EXPECT_EQ("Verplaats speler(s) naar een andere groep", venster->windowTitle().toStdString());
+    EXPECT_EQ("Selecteer de spelers(s) ", Labeltekst("Label1"));
+    EXPECT_EQ("Verplaats hen naar de volgende groep:", Labeltekst("Label2"));
+    EXPECT_EQ("Spelers van 'Gr05-' kunnen niet worden verplaatst. ", Labeltekst("Label3"));
+    EXPECT_EQ("Spelers mogen wel naar groep 'Gr05-' worden verplaatst.", Labeltekst("Label4"));
+    EXPECT_EQ("Selecteer alles", Opschrift(Knop("cmdSelAll")));
+    EXPECT_EQ("Selecteer niets", Opschrift(Knop("cmdSelNone")));
+    EXPECT_EQ("Verplaats", Opschrift(Knop("cmdOK")));
+    EXPECT_EQ("Annuleren", Opschrift(Knop("cmdAnnuleren")));
+    VerwachtAlleGroepen("cmbGrnamen");
+}
+
+/// Meant: the labels name "Gr05-" whatever the import group is called.
+TEST_F(diaVerplaatsTest, DeImportgroepStaatNietInDeLijst)
+{
+    EXPECT_EQ((std::vector<std::string>{"Gr01-\tBos   An " + spaties60 + "100001",
+                                        "Gr02-\tDam   Cor van der" + spaties60 + "100003",
+                                        "Gr01-\tEik   Dirk " + spaties60 + "100004",
+                                        "Gr01-\tFuik   Els " + spaties60 + "100005"}),
+              Regels());
+    administratie.mappen.DFIMPG = "Gr01-";
+    Open();
+    EXPECT_EQ(3, Lijst()->Aantal());
+    EXPECT_EQ("Spelers van 'Gr05-' kunnen niet worden verplaatst. ", Labeltekst("Label3"));
+}
+
+TEST_F(diaVerplaatsTest, ZonderKeuzeKanErNietVerplaatstWorden)
+{
+    EXPECT_FALSE(Lijst()->IetsGekozen());
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+    KlikRegel(1);
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    KlikRegel(1);
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+    Klik(Knop("cmdSelAll"));
+    EXPECT_EQ(4U, Lijst()->GekozenPlaatsen().size());
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    Klik(Knop("cmdSelNone"));
+    EXPECT_FALSE(Lijst()->IetsGekozen());
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+}
+
+TEST_F(diaVerplaatsTest, VerplaatstDeGekozenSpelers)
+{
+    auto moet = AlleRijen(administratie.spelers.tabel);
+    moet[0][2] = moet[3][2] = "Gr08-";
+    KlikRegel(0);
+    KlikRegel(2);
+    Keus("cmbGrnamen")->setCurrentIndex(7);
+    EXPECT_TRUE(venster->IngaveGeannuleerd());
+    Klik(Knop("cmdOK"));
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_FALSE(venster->IngaveGeannuleerd());
+    EXPECT_EQ(moet, AlleRijen(administratie.spelers.tabel));
+}
+
+TEST_F(diaVerplaatsTest, NaarDeImportgroepKanMaarNietTerug)
+{
+    KlikRegel(1);
+    Keus("cmbGrnamen")->setCurrentIndex(4);
+    Klik(Knop("cmdOK"));
+    EXPECT_EQ("Gr05-", Cel(3, Kolom::Groep));
+    Open();
+    EXPECT_EQ(3, Lijst()->Aantal());
+}
+
+TEST_F(diaVerplaatsTest, AnnulerenEscapeEnHetSluitvakVeranderenNiets)
+{
+    const auto oud = AlleRijen(administratie.spelers.tabel);
+    for (int weg = 0; weg < 3; ++weg) {
+        ASSERT_NO_FATAL_FAILURE(Open());
+        Klik(Knop("cmdSelAll"));
+        Keus("cmbGrnamen")->setCurrentIndex(7);
+        if (weg == 0)
+            Klik(Knop("cmdAnnuleren"));
+        else if (weg == 1)
+            QTest::keyClick(Lijst(), Qt::Key_Escape);
+        else
+            venster->close();
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_TRUE(venster->IngaveGeannuleerd());
+        EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
+    }
+}
+
+TEST_F(diaVerplaatsTest, MetHetToetsenbordAlleen)
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(std::vector{0}, Lijst()->GekozenPlaatsen());
+    QTest::keyClick(venster.get(), Qt::Key_V, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !venster->isVisible(); }));
+    EXPECT_FALSE(venster->IngaveGeannuleerd());
+}
+
+TEST_F(diaVerplaatsTest, AlleenSpelersVanDeImportgroepGeeftEenLegeLijst)
+{
+    administratie.spelers.tabel = MaakTabel({{"100002", "Gr05-", "Bea", "", "Cock", "", ""}});
+    Open();
+    EXPECT_EQ(0, Lijst()->Aantal());
+    Klik(Knop("cmdSelAll"));
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+}
+
+TEST_F(diaVerplaatsTest, HonderdduizendSpelersZonderWachten)
+{
+    administratie.spelers.tabel = MaakTabel(std::vector<Proefspeler>(
+        100'000, {"100001", "Gr01-", "An", "van der", "Boskamp", "A-lijn", "12345678"}));
+    QElapsedTimer klok;
+    klok.start();
+    Open();
+    Klik(Knop("cmdSelAll"));
+    EXPECT_LT(klok.elapsed(), 2000);
+    EXPECT_EQ(100'000U, Lijst()->GekozenPlaatsen().size());
+}

@@ -1,0 +1,128 @@
+#include "dialogs/frmVerwSubgroep.h"
+
+#include "dialogs/groepsproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+using Teksten_t = std::vector<std::string>;
+
+class frmVerwSubgroepTest : public Groepsproef<frmVerwSubgroep> {
+  protected:
+    void KiesGroep(int nummer) const { Keus("cmbRVDgr")->setCurrentIndex(nummer - 1); }
+
+    static Bericht Vraag(const QString& subgroep, const QString& groep, const QString& antwoord)
+    {
+        return {.tekst = QStringLiteral("U gaat alle spelers van Subgroep '") + subgroep +
+                         QStringLiteral("'\r\nuit RVDgroep '") + groep +
+                         QStringLiteral("' verwijderen!\r\n\r\nWeet u het zeker?"),
+                .antwoord = antwoord,
+                .titel = QStringLiteral("Verwijderen?"),
+                .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+    }
+    void VerwachtKlaar(int aantal)
+    {
+        wachter.Informatie(
+            QStringLiteral("Klaar! \r\nEr zijn %1 speler(s) verwijderd.").arg(aantal));
+    }
+};
+
+const QString ClubNaam = QStringLiteral("Gr01-Clubleden & co");
+const QString OK = QStringLiteral("OK");
+
+} // namespace
+
+TEST_F(frmVerwSubgroepTest, DeTeksten)
+{
+    EXPECT_EQ("Verwijderen van een subgroep", venster->windowTitle().toStdString());
+    EXPECT_EQ("Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep.",
+              Labeltekst("Label2"));
+    EXPECT_EQ("Verwijder ALLE spelers ", Labeltekst("Label1"));
+    EXPECT_EQ("uit deze Spelergroep:", Labeltekst("Label4"));
+    EXPECT_EQ("Verwijderen ...", Opschrift(Knop("cmdVerwijder")));
+    EXPECT_EQ("Terug", Opschrift(Knop("cmdEinde")));
+    VerwachtAlleGroepen("cmbRVDgr");
+}
+
+TEST_F(frmVerwSubgroepTest, DeSubgroepenVanDeGroep)
+{
+    EXPECT_EQ("met deze SUBgroep:", Labeltekst("Label3"));
+    EXPECT_EQ((Teksten_t{"A-lijn", "geen"}), Teksten("cmbSubGr"));
+    EXPECT_EQ(0, Keus("cmbSubGr")->currentIndex());
+    EXPECT_TRUE(Knop("cmdVerwijder")->isEnabled());
+    KiesGroep(5);
+    EXPECT_EQ("met deze NBBgroep:", Labeltekst("Label3"));
+    EXPECT_EQ((Teksten_t{"DINSDAG", "MAANDAG"}), Teksten("cmbSubGr"));
+    KiesGroep(9);
+    EXPECT_EQ("met deze SUBgroep:", Labeltekst("Label3"));
+    EXPECT_EQ(0, Keus("cmbSubGr")->count());
+    EXPECT_FALSE(Knop("cmdVerwijder")->isEnabled());
+    KiesGroep(2);
+    EXPECT_TRUE(Knop("cmdVerwijder")->isEnabled());
+}
+
+TEST_F(frmVerwSubgroepTest, VerwijdertNaDeVraagEnVultDeLijstOpnieuw)
+{
+    EXPECT_FALSE(venster->IetsVerwijderd());
+    wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, OK));
+    VerwachtKlaar(2);
+    Klik(Knop("cmdVerwijder"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster->IetsVerwijderd());
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_EQ((Teksten_t{"geen"}), Teksten("cmbSubGr"));
+    ASSERT_EQ(4, administratie.spelers.tabel.Rijen());
+    EXPECT_EQ("100004", Cel(3, Kolom::Key));
+    EXPECT_EQ("3", Cel(3, Kolom::Nr));
+
+    wachter.Verwacht(Vraag(QStringLiteral("geen"), ClubNaam, OK));
+    VerwachtKlaar(1);
+    Klik(Knop("cmdVerwijder"));
+    wachter.Klaar();
+    EXPECT_EQ(0, Keus("cmbSubGr")->count());
+    EXPECT_FALSE(Knop("cmdVerwijder")->isEnabled());
+    EXPECT_EQ(3, administratie.spelers.tabel.Rijen());
+    Klik(Knop("cmdEinde"));
+    EXPECT_FALSE(venster->isVisible());
+}
+
+TEST_F(frmVerwSubgroepTest, DeGekozenSubgroepVanDeGekozenGroep)
+{
+    KiesGroep(5);
+    Keus("cmbSubGr")->setCurrentIndex(1);
+    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK));
+    VerwachtKlaar(1);
+    Klik(Knop("cmdVerwijder"));
+    wachter.Klaar();
+    EXPECT_EQ(5, administratie.spelers.tabel.Rijen());
+    EXPECT_EQ(4, Keus("cmbRVDgr")->currentIndex());
+    EXPECT_EQ((Teksten_t{"DINSDAG"}), Teksten("cmbSubGr"));
+}
+
+/// Meant: a stored value with spaces around it is listed, but never matched.
+TEST_F(frmVerwSubgroepTest, MetSpatiesEromheenWordtErNietsVerwijderd)
+{
+    administratie.spelers.tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", " x ", ""}});
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ((Teksten_t{"x"}), Teksten("cmbSubGr"));
+    wachter.Verwacht(Vraag(QStringLiteral("x"), ClubNaam, OK));
+    VerwachtKlaar(0);
+    Klik(Knop("cmdVerwijder"));
+    wachter.Klaar();
+    EXPECT_EQ(1, administratie.spelers.tabel.Rijen());
+    EXPECT_FALSE(venster->IetsVerwijderd());
+}
+
+TEST_F(frmVerwSubgroepTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
+{
+    const auto oud = AlleRijen(administratie.spelers.tabel);
+    for (const QString& antwoord :
+         {QStringLiteral("Annuleren"), Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
+        wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, antwoord));
+        Klik(Knop("cmdVerwijder"));
+        wachter.Klaar();
+    }
+    EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
+    EXPECT_FALSE(venster->IetsVerwijderd());
+}

@@ -1,0 +1,105 @@
+// What the tests of the dialogs over groups share: a small register and its groups.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/proefsuite.h"
+#include "hulp/tabelmaker.h"
+#include "hulp/venstergrepen.h"
+#include "platform/geheugenSchijf.h"
+#include "platform/scherm/meerkeuzelijst.h"
+#include "register/administratie.h"
+
+namespace plexoran {
+
+template <class Dialoog> class Groepsproef : public testing::Test {
+  protected:
+    Groepsproef()
+    {
+        administratie.mappen.DFIMPG = "Gr05-";
+        administratie.groepen.ZetNaam(1, "Clubleden & co");
+        administratie.groepen.ZetNaam(5, "Bondsleden");
+        administratie.groepen.ZetNaam(8, "Introduc\xE9s");
+        administratie.spelers.HKEY = 100042;
+        administratie.spelers.tabel =
+            MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "A-lijn", "1"},
+                       {"100002", "Gr05-", "Bea", "de", "Cock", "DINSDAG", "2"},
+                       {"100003", "Gr02-", "Cor", "van der", "Dam", "", ""},
+                       {"100004", "Gr01-", "Dirk", "", "Eik", "", "4"},
+                       {"100005", "Gr01-", "Els", "", "Fuik", "A-lijn", ""},
+                       {"100006", "Gr05-", "Fred", "", "Gans", "MAANDAG", "6"}});
+        hoofd.show();
+    }
+    ~Groepsproef() override { wachter.Klaar(); }
+
+    void Open()
+    {
+        venster.reset();
+        venster = std::make_unique<Dialoog>(administratie, &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
+
+    template <class T> [[nodiscard]] T* Deel(const char* naam) const
+    {
+        return Vind<T>(*venster, naam);
+    }
+    [[nodiscard]] QPushButton* Knop(const char* naam) const { return Deel<QPushButton>(naam); }
+    [[nodiscard]] QComboBox* Keus(const char* naam) const { return Deel<QComboBox>(naam); }
+    [[nodiscard]] std::string Labeltekst(const char* naam) const
+    {
+        return Deel<QLabel>(naam)->text().toStdString();
+    }
+    [[nodiscard]] Meerkeuzelijst* Lijst() const { return Deel<Meerkeuzelijst>("lstKeus"); }
+    [[nodiscard]] std::vector<std::string> Regels() const
+    {
+        std::vector<std::string> regels;
+        for (int plaats = 0; plaats < Lijst()->Aantal(); ++plaats)
+            regels.push_back(Lijst()->Regel(plaats).toStdString());
+        return regels;
+    }
+    void KlikRegel(int plaats) const
+    {
+        QTest::mouseClick(Lijst()->viewport(), Qt::LeftButton, {},
+                          Lijst()->visualRect(Lijst()->model()->index(plaats, 0)).center());
+    }
+    [[nodiscard]] std::vector<std::string> Teksten(const char* keus) const
+    {
+        std::vector<std::string> teksten;
+        for (int i = 0; i < Keus(keus)->count(); ++i)
+            teksten.push_back(Keus(keus)->itemText(i).toStdString());
+        return teksten;
+    }
+    /// The 50 groups as every drop-down shows them.
+    void VerwachtAlleGroepen(const char* keus) const
+    {
+        const auto teksten = Teksten(keus);
+        ASSERT_EQ(50U, teksten.size());
+        EXPECT_EQ("Gr01-Clubleden & co", teksten[0]);
+        EXPECT_EQ("Gr02-", teksten[1]);
+        EXPECT_EQ("Gr08-Introducés", teksten[7]);
+        EXPECT_EQ("Gr50-", teksten[49]);
+        EXPECT_EQ(0, Keus(keus)->currentIndex());
+    }
+    [[nodiscard]] Tekst Cel(int rij, Kolom kolom) const
+    {
+        return Tekst(administratie.spelers.tabel.Cel(rij, kolom));
+    }
+
+    GeheugenSchijf schijf;
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<Dialoog> venster;
+};
+
+} // namespace plexoran

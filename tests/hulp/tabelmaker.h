@@ -1,0 +1,76 @@
+// Player tables for tests: written out, or small ones at random.
+#pragma once
+
+#include <random>
+#include <vector>
+
+#include "register/spelertabel.h"
+
+namespace plexoran {
+
+/// The columns that lists, moving and copying look at.
+struct Proefspeler {
+    Tekst key{};
+    Tekst groep{};
+    Tekst voornaam{};
+    Tekst tusv{};
+    Tekst achternaam{};
+    Tekst nbbgr{};
+    Tekst nbbnr{};
+};
+
+inline Spelertabel MaakTabel(const std::vector<Proefspeler>& spelers)
+{
+    Spelertabel tabel;
+    for (const Proefspeler& speler : spelers) {
+        Rijvelden velden;
+        velden[Plaats(Kolom::Nr)] = std::to_string(tabel.Rijen() + 1);
+        velden[Plaats(Kolom::Key)] = speler.key;
+        velden[Plaats(Kolom::Groep)] = speler.groep;
+        velden[Plaats(Kolom::Voornaam)] = speler.voornaam;
+        velden[Plaats(Kolom::Tusv)] = speler.tusv;
+        velden[Plaats(Kolom::Achternaam)] = speler.achternaam;
+        velden[Plaats(Kolom::Plaats)] = "Ede " + speler.key;
+        velden[Plaats(Kolom::NBBgr)] = speler.nbbgr;
+        velden[Plaats(Kolom::NBBnr)] = speler.nbbnr;
+        tabel.VoegToe(velden);
+    }
+    return tabel;
+}
+
+/// Every row with all its cells, so that a change anywhere shows.
+inline std::vector<Rijvelden> AlleRijen(const Spelertabel& tabel)
+{
+    std::vector<Rijvelden> rijen;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+        rijen.push_back(tabel.Velden(rij));
+    return rijen;
+}
+
+inline std::size_t Gooi(std::mt19937& toeval, std::size_t aantal)
+{
+    return std::uniform_int_distribution<std::size_t>(0, aantal - 1)(toeval);
+}
+
+inline Tekst Trek(std::mt19937& toeval, const std::vector<Tekst>& uit)
+{
+    return uit[Gooi(toeval, uit.size())];
+}
+
+/// At most a dozen players, with much in common: keys that occur twice, are short or long, names
+/// and subgroups that differ in case, blanks or the field they stand in.
+inline Spelertabel ToevalligeTabel(std::mt19937& toeval)
+{
+    std::vector<Proefspeler> spelers(Gooi(toeval, 13));
+    for (Proefspeler& speler : spelers)
+        speler = {.key = Trek(toeval, {"100001", "100002", "100003", "100004", "12", "7100001"}),
+                  .groep = Trek(toeval, {"Gr01-", "Gr02-", "Gr05-"}),
+                  .voornaam = Trek(toeval, {"", "a", "ab", "A", "a "}),
+                  .tusv = Trek(toeval, {"", "b", "bc", " "}),
+                  .achternaam = Trek(toeval, {"c", "bc", "abc", "C"}),
+                  .nbbgr = Trek(toeval, {"", "", " ", "x", " x", "X", "geen", "Geen", "x#y", "y"}),
+                  .nbbnr = Trek(toeval, {"", " ", "7", "12345", "00100000"})};
+    return MaakTabel(spelers);
+}
+
+} // namespace plexoran

@@ -1,0 +1,419 @@
+// Sorted lists, double names, moving, copying and deleting a subgroup, on the sample suite.
+#include <QPlainTextEdit>
+
+#include <algorithm>
+
+#include "hulp/tekstvanger.h"
+#include "mainwindow/vensterproef.h"
+#include "platform/scherm/meerkeuzelijst.h"
+
+using namespace plexoran;
+
+namespace {
+
+const QString OK = QStringLiteral("OK");
+const QString registerBehouden =
+    QStringLiteral("Een register zonder spelers wordt niet opgeslagen: het spelerbestand houdt "
+                   "zijn laatste inhoud, en die ziet u nu weer.");
+
+class LijstenTest : public Hoofdvensterproef {
+  protected:
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
+
+    void StartMet(const std::string& spelers)
+    {
+        suite.Zet("Spelers/RVDspelers.txt", spelers);
+        ASSERT_NO_FATAL_FAILURE(Herstart());
+    }
+
+    /// Opens a sorted list, looks whether its title is this one and returns all that it paints.
+    std::vector<std::string> Lijst(const char* knop, const std::string& titel)
+    {
+        std::vector<std::string> teksten;
+        wachter.Bedien([&](QDialog& lijst) {
+            EXPECT_EQ("diaSortlijst", lijst.objectName().toStdString());
+            EXPECT_EQ(titel, Vind<QLabel>(lijst, "Label1")->text().toStdString());
+            auto* P1 = Vind<QWidget>(lijst, "P1");
+            lijst.resize(lijst.width(), 6000); // every line is in sight
+            QApplication::processEvents();
+            Tekstvanger vanger(P1->size());
+            P1->render(&vanger, {}, {}, QWidget::RenderFlags());
+            for (const Getekend& deel : vanger.Teksten())
+                teksten.push_back(deel.tekst);
+            Klik(Vind<QPushButton>(lijst, "cmdOK"));
+        });
+        Klik(Knop(knop));
+        wachter.Klaar();
+        return teksten;
+    }
+    /// The texts that are register keys.
+    static std::vector<std::string> Keys(const std::vector<std::string>& teksten)
+    {
+        std::vector<std::string> keys;
+        std::copy_if(
+            teksten.begin(), teksten.end(), std::back_inserter(keys),
+            [](const std::string& tekst) { return tekst.size() == 6 && tekst.starts_with("100"); });
+        return keys;
+    }
+
+    void VerwachtVerslag(const QString& tekst, const QString& groep)
+    {
+        wachter.Verwacht({.tekst = tekst,
+                          .icoon = QMessageBox::NoIcon,
+                          .titel = QStringLiteral("DUBBELE NAMEN in deze groep: ") + groep,
+                          .knoppen = {OK}});
+    }
+    [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
+
+    static void KiesRegels(QDialog& dialoog, const std::vector<int>& plaatsen)
+    {
+        auto* lstKeus = Vind<Meerkeuzelijst>(dialoog, "lstKeus");
+        for (const int plaats : plaatsen) {
+            lstKeus->ZetHuidige(plaats);
+            QTest::keyClick(lstKeus, Qt::Key_Space);
+        }
+    }
+    /// The line of a player in the player file.
+    [[nodiscard]] std::string Regel(const std::string& key) const
+    {
+        for (const std::string& regel : RegelsVan(suite.Spelers())) {
+            if (regel.find("," + key + ",") != std::string::npos)
+                return regel;
+        }
+        return {};
+    }
+    void VerwachtOpslagfout()
+    {
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("De spelers konden niet worden opgeslagen."),
+             .antwoord = QStringLiteral("Doorgaan"),
+             .icoon = QMessageBox::Critical,
+             .knoppen = {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")},
+             .alleenBegin = true});
+    }
+};
+
+const QString kop =
+    QStringLiteral("RVDkey\tNaam\t\t\tNBBgr\tNBBnr\r\n"
+                   "-----------------------------------------------------------------------\r\n");
+const QString slot =
+    QStringLiteral("\r\nGa na welke regel nog actueel is.\r\n"
+                   "Verwijder 1 van beide, deze zal dan niet meer worden getoond in de overzichten "
+                   "ed.\r\n");
+
+} // namespace
+
+TEST_F(LijstenTest, DeKnoppenStaanAan)
+{
+    for (const char* knop : {"cmdSortlijst1", "cmdSortlijst3", "cmdZoekDubbeleNamen",
+                             "cmdVerplaats", "cmdKopieer", "cmdVerwGroep"}) {
+        EXPECT_TRUE(Knop(knop)->isEnabled()) << knop;
+        EXPECT_TRUE(Knop(knop)->isVisible()) << knop;
+    }
+    EXPECT_FALSE(Knop("cmdSortlijst2")->isVisible());
+    KiesGroep(5);
+    EXPECT_TRUE(Knop("cmdSortlijst2")->isVisible());
+    EXPECT_TRUE(Knop("cmdSortlijst2")->isEnabled());
+}
+
+TEST_F(LijstenTest, OpKeyVanDeGroepOfVanAlleGroepen)
+{
+    KiesGroep(3);
+    const auto teksten = Lijst("cmdSortlijst1", "Spelers gesorteerd op 'RVD-key'.");
+    EXPECT_EQ((std::vector<std::string>{"Key", "Voornaam", "Tus", "Achternaam", "Subgroep", "-----",
+                                        "100111", "Sem", "Kloosterziel", "BEGINNERS"}),
+              std::vector<std::string>(teksten.begin(), teksten.begin() + 10));
+    EXPECT_EQ((std::vector<std::string>{"100111", "100112", "100113", "100114", "100115", "100116",
+                                        "100117", "100118", "100119"}),
+              Keys(teksten));
+    Vink("chkToonAlle")->setChecked(true);
+    const auto alle = Keys(Lijst("cmdSortlijst1", "Spelers gesorteerd op 'RVD-key'."));
+    EXPECT_EQ(148U, alle.size());
+    EXPECT_TRUE(std::is_sorted(alle.begin(), alle.end()));
+}
+
+TEST_F(LijstenTest, OpNummerInDeImportgroep)
+{
+    StartMet("HKEY=100009\r\n1,100001,Gr05-,Jan,,Bos,,,,,,,M,,,,DI,100000\r\n"
+             "2,100002,Gr05-,Piet,,Dam,,,,,,,M,,,,MA,12345\r\n"
+             "3,100003,Gr05-,Klaas,,Eik,,,,,,,M,,,,MA,\r\n"
+             "4,100004,Gr01-,Wim,,Fuik,,,,,,,M,,,,,7\r\n");
+    KiesGroep(5);
+    EXPECT_EQ((std::vector<std::string>{"Key", "Voornaam", "Tus", "Achternaam", "NBBgroep", "NBBnr",
+                                        "100002", "Piet", "Dam", "MA", "12345", "100001", "Jan",
+                                        "Bos", "DI", "100000"}),
+              Lijst("cmdSortlijst2", "Spelers gesorteerd op 'NBB-nummer'."));
+}
+
+TEST_F(LijstenTest, OpGroepEnNaam)
+{
+    KiesGroep(3);
+    const std::string titel = "Spelers gesorteerd op 'NBB-groep en Naam'.";
+    EXPECT_EQ((std::vector<std::string>{"100119", "100114", "100112", "100111", "100113", "100118",
+                                        "100116", "100117", "100115"}),
+              Keys(Lijst("cmdSortlijst3", titel)));
+    Vink("chkToonAlle")->setChecked(true);
+    EXPECT_EQ(148U, Keys(Lijst("cmdSortlijst3", titel)).size());
+}
+
+TEST_F(LijstenTest, EenLegeLijstGeeftDeMeldingVanZijnSoort)
+{
+    KiesGroep(4);
+    wachter.Informatie(QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium."));
+    Klik(Knop("cmdSortlijst1"));
+    wachter.Informatie(
+        QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'."));
+    Klik(Knop("cmdSortlijst3"));
+    wachter.Klaar();
+    StartMet("HKEY=100009\r\n1,100001,Gr05-,Jan,,Bos,,,,,,,M,,,,DI,  \r\n");
+    KiesGroep(5);
+    wachter.Informatie(
+        QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-nummer'."));
+    Klik(Knop("cmdSortlijst2"));
+    wachter.Klaar();
+}
+
+TEST_F(LijstenTest, WatGeenGetalIsWordtGenoemd)
+{
+    StartMet("HKEY=100009\r\n1,10A001,Gr05-,Jan,de,Bos,,,,,,,M,,,,DI,lid 1\r\n");
+    KiesGroep(5);
+    wachter.Waarschuwing(QStringLiteral("De lijst kan niet worden gemaakt: de key van Jan de Bos "
+                                        "(Gr05-) is geen getal: '10A001'."));
+    Klik(Knop("cmdSortlijst1"));
+    wachter.Waarschuwing(QStringLiteral("De lijst kan niet worden gemaakt: het NBB-nummer van Jan "
+                                        "de Bos (Gr05-) is geen getal: 'lid 1'."));
+    Klik(Knop("cmdSortlijst2"));
+    wachter.Klaar();
+}
+
+TEST_F(LijstenTest, DubbeleNamenInDeGroep)
+{
+    KiesGroep(3);
+    VerwachtVerslag(QStringLiteral("Géén dubbele namen gevonden!\r\n"), QStringLiteral("Gr03-"));
+    Klik(Knop("cmdZoekDubbeleNamen"));
+    wachter.Klaar();
+    StartMet("HKEY=100009\r\n1,100001,Gr02-,Jan,,Bos,,,,,,,M,,,,,\r\n"
+             "2,100002,Gr01-,Jan,,Bos,,,,,,,M,,,,A-lijn,7\r\n"
+             "3,100003,Gr01-,Jan,de,Vries,,,,,,,M,,,,,\r\n"
+             "4,100004,Gr05-,Jan,,Bos,,,,,,,M,,,,DI,12345\r\n"
+             "5,100005,Gr01-,Jande,,Vries,,,,,,,M,,,,B,\r\n");
+    KiesGroep(1);
+    VerwachtVerslag(kop +
+                        QStringLiteral("100002\tJan\t\tBos\tA-lijn\t7\r\n"
+                                       "100004\tJan\t\tBos\tDI\t12345\r\n"
+                                       "100003\tJan\tde\tVries\t\t\r\n"
+                                       "100005\tJande\t\tVries\tB\t\r\n") +
+                        slot,
+                    QStringLiteral("Gr01-"));
+    Klik(Knop("cmdZoekDubbeleNamen"));
+    wachter.Klaar();
+    KiesGroep(5);
+    VerwachtVerslag(QStringLiteral("Géén dubbele namen gevonden!\r\n"), QStringLiteral("Gr05-"));
+    Klik(Knop("cmdZoekDubbeleNamen"));
+    wachter.Klaar();
+}
+
+TEST_F(LijstenTest, EenLangVerslagSchuiftInZijnEigenVenster)
+{
+    std::string spelers = "HKEY=100009\r\n";
+    for (int i = 1; i <= 8; ++i)
+        spelers +=
+            std::to_string(i) + ",10000" + std::to_string(i) + ",Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n";
+    StartMet(spelers);
+    std::string moet = kop.toStdString();
+    for (int i = 1; i <= 8; ++i) {
+        for (int j = i + 1; j <= 8; ++j) {
+            for (const int k : {i, j})
+                moet += "10000" + std::to_string(k) + "\tJan\t\tBos\t\t\r\n";
+        }
+    }
+    moet += slot.toStdString();
+    wachter.Bedien([&](QDialog& bericht) {
+        EXPECT_EQ("frmBericht", bericht.objectName().toStdString());
+        EXPECT_EQ("DUBBELE NAMEN in deze groep: Gr01-", bericht.windowTitle().toStdString());
+        auto* tekst = Vind<QPlainTextEdit>(bericht, "txtBericht");
+        // A text box knows line ends as one character.
+        EXPECT_EQ(QString::fromStdString(moet).remove(u'\r'), tekst->toPlainText());
+        EXPECT_TRUE(tekst->isReadOnly());
+        EXPECT_TRUE(tekst->textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard));
+        EXPECT_EQ("OK", Opschrift(Vind<QPushButton>(bericht, "cmdOK")));
+        Klik(Vind<QPushButton>(bericht, "cmdOK"));
+    });
+    Klik(Knop("cmdZoekDubbeleNamen"));
+    wachter.Klaar();
+}
+
+TEST_F(LijstenTest, LijstenVeranderenHetBestandNiet)
+{
+    const std::string oud = suite.Spelers();
+    Lijst("cmdSortlijst1", "Spelers gesorteerd op 'RVD-key'.");
+    VerwachtVerslag(QStringLiteral("Géén dubbele namen gevonden!\r\n"), QStringLiteral("Gr03-"));
+    KiesGroep(3);
+    Klik(Knop("cmdZoekDubbeleNamen"));
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(LijstenTest, VerplaatsenSlaatOpEnMeldtHet)
+{
+    KiesGroep(1);
+    auto moet = RegelsVan(suite.Spelers());
+    for (const std::size_t regel : {1U, 3U})
+        moet[regel].replace(moet[regel].find("Gr01-"), 5, "Gr04-");
+    wachter.Bedien([](QDialog& dialoog) {
+        KiesRegels(dialoog, {0, 2});
+        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(3);
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    wachter.Informatie(QStringLiteral("De spelers(s) zijn verplaatst."));
+    Klik(Knop("cmdVerplaats"));
+    wachter.Klaar();
+    EXPECT_EQ(moet, RegelsVan(suite.Spelers()));
+    EXPECT_EQ("Aantal regels: 48", Aantal());
+    KiesGroep(4);
+    EXPECT_EQ("Aantal regels: 2", Aantal());
+}
+
+TEST_F(LijstenTest, AnnulerenSlaatNietsOpEnMeldtNiets)
+{
+    const std::string oud = suite.Spelers();
+    schijf.FaalVanaf(1); // any attempt to save would be told
+    for (const char* knop : {"cmdVerplaats", "cmdKopieer", "cmdVerwGroep"}) {
+        for (const bool sluitvak : {false, true}) {
+            wachter.Bedien([=](QDialog& dialoog) {
+                if (sluitvak)
+                    dialoog.close();
+                else
+                    QTest::keyClick(&dialoog, Qt::Key_Escape);
+            });
+            Klik(Knop(knop));
+            wachter.Klaar();
+        }
+    }
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_FALSE(venster->isWindowModified());
+}
+
+TEST_F(LijstenTest, VerplaatsenDatNietOpgeslagenKanWordenBlijftInHetProgramma)
+{
+    const std::string oud = suite.Spelers();
+    KiesGroep(1);
+    schijf.FaalVanaf(1);
+    wachter.Bedien([](QDialog& dialoog) {
+        KiesRegels(dialoog, {0});
+        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(3);
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    VerwachtOpslagfout();
+    Klik(Knop("cmdVerplaats"));
+    wachter.Klaar();
+    schijf.FaalNiet();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 49", Aantal());
+    EXPECT_TRUE(venster->isWindowModified());
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
+         .antwoord = QStringLiteral("Opslaan"),
+         .icoon = QMessageBox::Warning});
+    venster->close();
+    wachter.Klaar();
+    EXPECT_NE(std::string::npos, Regel("100001").find(",Gr04-,"));
+}
+
+TEST_F(LijstenTest, KopierenVraagtEnMeldtEnSlaatOp)
+{
+    const auto oud = RegelsVan(suite.Spelers());
+    KiesGroep(7);
+    wachter.Bedien([this](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbUitGroep")->setCurrentIndex(2);
+        KiesRegels(dialoog, {1});
+        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(6);
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+        EXPECT_FALSE(dialoog.isVisible());
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral(
+             "U gaat spelers kopiëren van groep 'Gr03-Jeugd' naar groep 'Gr07-Zomerdrive'.\r\n\r\n"
+             "Pas op: Reeds bestaande spelers in 'Gr07-Zomerdrive' zullen er daarna 2 keer in "
+             "staan en zult u handmatig moeten verwijderen!"),
+         .knoppen = {OK, QStringLiteral("Annuleren")}});
+    wachter.Informatie(QStringLiteral("Er zijn 2 spelers gekopieerd."));
+    Klik(Knop("cmdKopieer"));
+    wachter.Klaar();
+    auto moet = oud;
+    moet[0] = "HKEY=100173";
+    moet.push_back("149,100172,Gr07-,Sem,,Kloosterziel,010-0000184,,Stationsweg 59,0411 JR,"
+                   "Wielerdam,,M,,,,BEGINNERS,");
+    moet.push_back("150,100173,Gr07-,Noor,van,Dorremolen,06-00000396,,Zuidereind 32,0423 TB,"
+                   "Elzenmade,,V,,,,BEGINNERS,");
+    EXPECT_EQ(moet, RegelsVan(suite.Spelers()));
+    EXPECT_EQ("Aantal regels: 2", Aantal());
+}
+
+TEST_F(LijstenTest, EenSubgroepVerwijderen)
+{
+    const std::string oud = suite.Spelers();
+    KiesGroep(3);
+    wachter.Bedien([](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+        Vind<QComboBox>(dialoog, "cmbSubGr")->setCurrentIndex(1);
+        Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
+        Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'GEVORDERDEN'\r\nuit RVDgroep "
+                                 "'Gr03-Jeugd' verwijderen!\r\n\r\nWeet u het zeker?"),
+         .titel = QStringLiteral("Verwijderen?"),
+         .knoppen = {OK, QStringLiteral("Annuleren")}});
+    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+    Klik(Knop("cmdVerwGroep"));
+    wachter.Klaar();
+    EXPECT_EQ("Aantal regels: 5", Aantal());
+    const auto regels = RegelsVan(suite.Spelers());
+    ASSERT_EQ(145U, regels.size());
+    for (std::size_t i = 1; i < regels.size(); ++i)
+        EXPECT_TRUE(regels[i].starts_with(std::to_string(i) + ",")) << regels[i];
+    EXPECT_EQ("", Regel("100115"));
+    EXPECT_NE("", Regel("100119"));
+    EXPECT_NE(oud, suite.Spelers());
+}
+
+/// Meant: a register without players is never written, so the last players come back.
+TEST_F(LijstenTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
+{
+    const std::string oud = "HKEY=100009\r\n1,100001,Gr01-,Jan,,Bos,,,,,,,M,,,,A,\r\n";
+    StartMet(oud);
+    wachter.Bedien([](QDialog& dialoog) {
+        Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
+        Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'A'\r\nuit RVDgroep "
+                                 "'Gr01-Clubleden' verwijderen!\r\n\r\nWeet u het zeker?"),
+         .titel = QStringLiteral("Verwijderen?")});
+    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 1 speler(s) verwijderd."));
+    wachter.Informatie(registerBehouden);
+    Klik(Knop("cmdVerwGroep"));
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 1", Aantal());
+}
+
+TEST_F(LijstenTest, HetRoosterBlijftOpZijnPlaatsNaVerplaatsen)
+{
+    KiesGroep(1);
+    Balk("VScroll1")->setValue(100);
+    const int stand = Balk("VScroll1")->value();
+    ASSERT_GT(stand, 0);
+    wachter.Bedien([](QDialog& dialoog) {
+        KiesRegels(dialoog, {60}); // somebody of another group
+        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(3);
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    wachter.Informatie(QStringLiteral("De spelers(s) zijn verplaatst."));
+    Klik(Knop("cmdVerplaats"));
+    wachter.Klaar();
+    EXPECT_EQ(stand, Balk("VScroll1")->value());
+    EXPECT_EQ("Aantal regels: 50", Aantal());
+    EXPECT_EQ(1, GetoondeGroep());
+}

@@ -1,0 +1,195 @@
+#include "mainwindow/sorteerlijst.h"
+
+#include <algorithm>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "hulp/tabelmaker.h"
+#include "platform/tekstorde.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr auto opKey = Sorteersoort::Key;
+constexpr auto opNummer = Sorteersoort::NBBnr;
+constexpr auto opGroep = Sorteersoort::NBBgroep;
+
+Sorteerlijst Lijst(const Spelertabel& tabel, Sorteersoort soort,
+                   const std::optional<Tekst>& groep = std::nullopt)
+{
+    const auto lijst = VulSorteerlijst(tabel, soort, groep);
+    if (lijst)
+        return *lijst;
+    ADD_FAILURE() << "geen getal: " << lijst.error().waarde;
+    return {};
+}
+
+Spelertabel VierSpelers()
+{
+    return MaakTabel({{"100012", "Gr01-", "Bea", "de", "Cock", "A-lijn", "100000"},
+                      {"100003", "Gr05-", "Dirk", "", "Eik", "DINSDAG", "12345"},
+                      {"99", "Gr01-", "An", "", "Bos", "", ""},
+                      {"100007", "Gr01-", "Cor", "van der", "Adel", "A-lijn", "  "}});
+}
+
+/// The row as the sorted lists hold it, made with nothing but appending.
+std::optional<Tekst> GewoneRegel(const Rijvelden& rij, Sorteersoort soort)
+{
+    const Tekst& groep = rij[2];
+    Tekst regel;
+    if (soort == opGroep) {
+        const Tekst groepveld = groep + rij[16];
+        for (std::size_t i = 0; i < 12; ++i)
+            regel += i < groepveld.size() ? groepveld[i] : ' ';
+        for (std::size_t i = 0; i < 30; ++i)
+            regel += i < rij[5].size() ? rij[5][i] : ' ';
+    } else {
+        if (soort == opNummer && IsBlanco(rij[17]))
+            return std::nullopt;
+        const auto getal = std::stoll(soort == opKey ? rij[1] : rij[17]);
+        regel = MetNullen(getal, soort == opKey ? 6 : 8) + ",";
+    }
+    return regel + rij[1] + "," + rij[3] + "," + rij[4] + "," + rij[5] + "," + rij[16] + "," +
+           rij[17];
+}
+
+} // namespace
+
+TEST(Sorteerlijst, OpKey)
+{
+    const Sorteerlijst moet{"000099,99,An,,Bos,,", "100003,100003,Dirk,,Eik,DINSDAG,12345",
+                            "100007,100007,Cor,van der,Adel,A-lijn,  ",
+                            "100012,100012,Bea,de,Cock,A-lijn,100000"};
+    EXPECT_EQ(moet, Lijst(VierSpelers(), opKey));
+}
+
+TEST(Sorteerlijst, AlleenDeGroep)
+{
+    const Sorteerlijst moet{"000099,99,An,,Bos,,", "100007,100007,Cor,van der,Adel,A-lijn,  ",
+                            "100012,100012,Bea,de,Cock,A-lijn,100000"};
+    EXPECT_EQ(moet, Lijst(VierSpelers(), opKey, "Gr01-"));
+    EXPECT_EQ(Sorteerlijst(), Lijst(VierSpelers(), opKey, "Gr02-"));
+}
+
+TEST(Sorteerlijst, OpNummerZonderDeLegeNummers)
+{
+    const Sorteerlijst moet{"00012345,100003,Dirk,,Eik,DINSDAG,12345",
+                            "00100000,100012,Bea,de,Cock,A-lijn,100000"};
+    EXPECT_EQ(moet, Lijst(VierSpelers(), opNummer));
+    EXPECT_EQ(Sorteerlijst{moet[0]}, Lijst(VierSpelers(), opNummer, "Gr05-"));
+}
+
+/// Meant: no comma between the fixed part and the key.
+TEST(Sorteerlijst, OpGroepEnNaamZonderKommaNaHetVoorvoegsel)
+{
+    const Sorteerlijst moet{"Gr01-       Bos                           99,An,,Bos,,",
+                            "Gr01-A-lijn Adel                          100007,Cor,van der,Adel,"
+                            "A-lijn,  ",
+                            "Gr01-A-lijn Cock                          100012,Bea,de,Cock,A-lijn,"
+                            "100000",
+                            "Gr05-DINSDAGEik                           100003,Dirk,,Eik,DINSDAG,"
+                            "12345"};
+    EXPECT_EQ(moet, Lijst(VierSpelers(), opGroep));
+}
+
+TEST(Sorteerlijst, HetVoorvoegselVanGroepEnNaamWordtAfgekapt)
+{
+    const Tekst lang = "Abcdefghijabcdefghijabcdefghij";
+    const Spelertabel tabel =
+        MaakTabel({{"100001", "Gr01-", "An", "", lang + "Z", "MAANDAGEN", "1"},
+                   {"100002", "Gr01-", "An", "", lang + "A", "MAANDAGAVOND", "1"}});
+    // Beyond its width a field does not count; what follows the prefix decides.
+    const Sorteerlijst moet{"Gr01-MAANDAG" + lang + "100001,An,," + lang + "Z,MAANDAGEN,1",
+                            "Gr01-MAANDAG" + lang + "100002,An,," + lang + "A,MAANDAGAVOND,1"};
+    EXPECT_EQ(moet, Lijst(tabel, opGroep));
+}
+
+TEST(Sorteerlijst, OpNaamZonderOpAccentEnHoofdletterTeLetten)
+{
+    const Spelertabel tabel = MaakTabel({{"1", "Gr01-", "", "", "Zwaan", "", ""},
+                                         {"2", "Gr01-", "", "", "\xD8stergaard", "", ""},
+                                         {"3", "Gr01-", "", "", "ota", "", ""},
+                                         {"4", "Gr01-", "", "", "'t Hof", "", ""},
+                                         {"5", "Gr01-", "", "", "\x8Eola", "", ""}});
+    Tekst volgorde;
+    for (const Tekst& regel : Lijst(tabel, opGroep))
+        volgorde += VeldenVan(regel, opGroep).substr(0, 1);
+    EXPECT_EQ("42351", volgorde);
+}
+
+TEST(Sorteerlijst, GetallenInHunVolgordeOokMetNullenEnSpaties)
+{
+    const Spelertabel tabel = MaakTabel({{"1", "Gr05-", "", "", "A", "", "00100000"},
+                                         {"2", "Gr05-", "", "", "B", "", " 12345 "},
+                                         {"3", "Gr05-", "", "", "C", "", "99999999"},
+                                         {"4", "Gr05-", "", "", "D", "", "7"}});
+    const Sorteerlijst moet{"00000007,4,,,D,,7", "00012345,2,,,B,, 12345 ",
+                            "00100000,1,,,A,,00100000", "99999999,3,,,C,,99999999"};
+    EXPECT_EQ(moet, Lijst(tabel, opNummer));
+}
+
+TEST(Sorteerlijst, GelijkeRegelsBlijvenAllebei)
+{
+    const Spelertabel tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "", ""},
+                                         {"100001", "Gr01-", "An", "", "Bos", "", ""}});
+    const Sorteerlijst moet(2, "100001,100001,An,,Bos,,");
+    EXPECT_EQ(moet, Lijst(tabel, opKey));
+}
+
+TEST(Sorteerlijst, EenKeyDieGeenGetalIsGeeftGeenLijst)
+{
+    const Spelertabel tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "", ""},
+                                         {"10A002", "Gr02-", "Bo", "", "Cos", "", ""},
+                                         {"", "Gr02-", "Cy", "", "Dos", "", ""}});
+    const auto lijst = VulSorteerlijst(tabel, opKey, std::nullopt);
+    ASSERT_FALSE(lijst);
+    EXPECT_EQ(2, lijst.error().rij);
+    EXPECT_EQ("10A002", lijst.error().waarde);
+    EXPECT_EQ(1U, Lijst(tabel, opKey, "Gr01-").size());
+    EXPECT_EQ(3U, Lijst(tabel, opGroep).size());
+}
+
+TEST(Sorteerlijst, EenNummerDatGeenGetalIsGeeftGeenLijst)
+{
+    const Spelertabel tabel = MaakTabel({{"100001", "Gr05-", "An", "", "Bos", "", ""},
+                                         {"100002", "Gr05-", "Bo", "", "Cos", "", "lid 12"}});
+    const auto lijst = VulSorteerlijst(tabel, opNummer, "Gr05-");
+    ASSERT_FALSE(lijst);
+    EXPECT_EQ(2, lijst.error().rij);
+    EXPECT_EQ("lid 12", lijst.error().waarde);
+    EXPECT_EQ(2U, Lijst(tabel, opKey).size());
+}
+
+TEST(Sorteerlijst, VeldenZonderVoorvoegsel)
+{
+    EXPECT_EQ("99,An,,Bos,,", VeldenVan("000099,99,An,,Bos,,", opKey));
+    EXPECT_EQ("4,,,D,,7", VeldenVan("00000007,4,,,D,,7", opNummer));
+    EXPECT_EQ("99,An,,Bos,,",
+              VeldenVan("Gr01-       Bos                           99,An,,Bos,,", opGroep));
+}
+
+TEST(Sorteerlijst, GelijkAanDeGewoneOpDuizendenKleineRegisters)
+{
+    std::mt19937 toeval(31);
+    for (int keer = 0; keer < 3000; ++keer) {
+        const Spelertabel tabel = ToevalligeTabel(toeval);
+        for (const Sorteersoort soort : {opKey, opNummer, opGroep}) {
+            for (const bool alle : {false, true}) {
+                Sorteerlijst moet;
+                for (const Rijvelden& rij : AlleRijen(tabel)) {
+                    const auto regel = GewoneRegel(rij, soort);
+                    if (!regel || (!alle && rij[2] != "Gr02-"))
+                        continue;
+                    const auto voor = std::find_if(moet.begin(), moet.end(), [&](const Tekst& er) {
+                        return Sorteersleutel(*regel) < Sorteersleutel(er);
+                    });
+                    moet.insert(voor, *regel);
+                }
+                const auto groep = alle ? std::nullopt : std::optional<Tekst>("Gr02-");
+                ASSERT_EQ(moet, Lijst(tabel, soort, groep));
+            }
+        }
+    }
+}
