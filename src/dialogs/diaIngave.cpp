@@ -223,8 +223,7 @@ void diaIngave::StelTabvolgordeIn()
     for (int veld = Nummer(Kolom::Voornaam); veld <= AantalKolommen; ++veld)
         volgorde << opt1[static_cast<std::size_t>(veld)];
     volgorde << cmdAnnuleren << cmdOK;
-    for (qsizetype i = 1; i < volgorde.size(); ++i)
-        QWidget::setTabOrder(volgorde[i - 1], volgorde[i]);
+    ZetTabvolgorde(volgorde);
     Vak(Kolom::Voornaam)->setFocus();
 }
 

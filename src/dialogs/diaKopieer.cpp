@@ -84,8 +84,11 @@ void diaKopieer::Bouw()
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
     const Maten maten;
     resize(maten.Twips(7500), maten.Twips(8700));
+    ZetTabvolgorde({cmbUitGroep, cmbNBBgr, lstKeus, cmdSelAll, cmdSelNone, cmbGrnamen, chkNBBgrOok,
+                    chkNBBnrOok, cmdAnnuleren, cmdOK});
     cmdOK->setEnabled(false);
     cmdOK->setDefault(true);
+    cmbUitGroep->setFocus();
 }
 
 void diaKopieer::Verbind()
@@ -141,6 +144,7 @@ void diaKopieer::KiesBron()
     chkNBBnrOok->setVisible(importgroep);
     Label3->setText(importgroep ? QStringLiteral("Selecteer de spelers van 'NBBgroep':")
                                 : QStringLiteral("Selecteer de spelers van 'Subgroep':"));
+    cmbNBBgr->setAccessibleName(Label3->text());
 }
 
 /// A plain search in the whole line, names included; what was chosen already stays.

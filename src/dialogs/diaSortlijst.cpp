@@ -212,14 +212,25 @@ void diaSortlijst::wheelEvent(QWheelEvent* gebeurtenis)
 
 void diaSortlijst::keyPressEvent(QKeyEvent* gebeurtenis)
 {
+    // Not by handing the key on: a scroll bar that is disabled would hand it back for ever.
     switch (gebeurtenis->key()) {
     case Qt::Key_Up:
+        VScroll1->triggerAction(QScrollBar::SliderSingleStepSub);
+        break;
     case Qt::Key_Down:
+        VScroll1->triggerAction(QScrollBar::SliderSingleStepAdd);
+        break;
     case Qt::Key_PageUp:
+        VScroll1->triggerAction(QScrollBar::SliderPageStepSub);
+        break;
     case Qt::Key_PageDown:
+        VScroll1->triggerAction(QScrollBar::SliderPageStepAdd);
+        break;
     case Qt::Key_Home:
+        VScroll1->triggerAction(QScrollBar::SliderToMinimum);
+        break;
     case Qt::Key_End:
-        QApplication::sendEvent(VScroll1, gebeurtenis);
+        VScroll1->triggerAction(QScrollBar::SliderToMaximum);
         break;
     default:
         QDialog::keyPressEvent(gebeurtenis);

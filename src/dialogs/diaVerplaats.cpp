@@ -58,6 +58,7 @@ void diaVerplaats::Bouw()
     resize(maten.Twips(6900), maten.Twips(8100));
     cmdOK->setEnabled(false);
     cmdOK->setDefault(true);
+    ZetTabvolgorde({lstKeus, cmdSelAll, cmdSelNone, cmbGrnamen, cmdAnnuleren, cmdOK});
     lstKeus->setFocus();
 
     connect(lstKeus, &Meerkeuzelijst::keuzeVeranderd, this,

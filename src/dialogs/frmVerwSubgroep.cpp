@@ -64,6 +64,7 @@ void frmVerwSubgroep::KiesGroep()
 {
     Label3->setText(Code() == administratie_.mappen.DFIMPG ? QStringLiteral("met deze NBBgroep:")
                                                            : QStringLiteral("met deze SUBgroep:"));
+    cmbSubGr->setAccessibleName(Label3->text());
     subgroepen_ = SubgroepenVan(administratie_.spelers.tabel, Code());
     VulKeus(*cmbSubGr, subgroepen_);
     cmdVerwijder->setEnabled(!subgroepen_.empty());

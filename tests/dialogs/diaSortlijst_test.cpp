@@ -240,6 +240,19 @@ TEST_F(diaSortlijstTest, OpentMetAlleKolommenInBeeld)
     }
 }
 
+TEST_F(diaSortlijstTest, EenKorteLijstLaatElkeSchuiftoetsOverZichHeenGaan)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, true, tweeRegels));
+    for (QWidget* vlak : {P1(), static_cast<QWidget*>(Vind<QPushButton>(*venster, "cmdOK"))}) {
+        for (const Qt::Key toets : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                                    Qt::Key_Home, Qt::Key_End}) {
+            QTest::keyClick(vlak, toets);
+            EXPECT_EQ(0, Balk()->value());
+        }
+    }
+    EXPECT_TRUE(venster->isVisible());
+}
+
 TEST_F(diaSortlijstTest, SchuiftMetBalkToetsenEnWiel)
 {
     ASSERT_NO_FATAL_FAILURE(OpenVeel(200));

@@ -1,5 +1,7 @@
 #include "platform/scherm/berichten.h"
 
+#include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 
 #include "platform/scherm/frmBericht.h"
@@ -19,6 +21,22 @@ void Vul(QMessageBox& venster, const QString& tekst)
     venster.setText(tekst);
 }
 
+/// A box whose lines are never broken: in a table a broken line would read as one more.
+class Verslagbericht : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void showEvent(QShowEvent* gebeurtenis) override
+    {
+        QMessageBox::showEvent(gebeurtenis);
+        for (QLabel* label : findChildren<QLabel*>())
+            label->setWordWrap(false);
+        layout()->activate();
+        setFixedSize(layout()->totalSizeHint());
+    }
+};
+
 } // namespace
 
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
@@ -36,7 +54,7 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel)
         frmBericht(tekst, titel, ouder).exec();
         return;
     }
-    QMessageBox venster(QMessageBox::NoIcon, titel, QString(), QMessageBox::Ok, ouder);
+    Verslagbericht venster(QMessageBox::NoIcon, titel, QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
     venster.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));

@@ -41,6 +41,13 @@ namespace plexoran {
     return label;
 }
 
+/// The Tab key goes through these controls in this order.
+inline void ZetTabvolgorde(const QList<QWidget*>& volgorde)
+{
+    for (qsizetype i = 1; i < volgorde.size(); ++i)
+        QWidget::setTabOrder(volgorde[i - 1], volgorde[i]);
+}
+
 /// Buttons beside each other, at the right.
 [[nodiscard]] inline QHBoxLayout* Knoppenrij(std::initializer_list<QPushButton*> knoppen)
 {
