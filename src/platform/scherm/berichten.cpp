@@ -1,5 +1,6 @@
 #include "platform/scherm/berichten.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
@@ -27,6 +28,13 @@ class Verslagbericht : public QMessageBox {
     using QMessageBox::QMessageBox;
 
   protected:
+    bool event(QEvent* gebeurtenis) override
+    {
+        // A message box answers this by breaking its lines again.
+        return gebeurtenis->type() == QEvent::LayoutRequest ? QDialog::event(gebeurtenis)
+                                                            : QMessageBox::event(gebeurtenis);
+    }
+
     void showEvent(QShowEvent* gebeurtenis) override
     {
         QMessageBox::showEvent(gebeurtenis);
