@@ -35,20 +35,15 @@ void diaKopieer::MaakDelen(QGroupBox* kader)
     cmbUitGroep = keus(QStringLiteral("cmbUitGroep"), QStringLiteral("Uit spelergroep"));
     cmbNBBgr = keus(QStringLiteral("cmbNBBgr"), QStringLiteral("Selecteer de spelers van"));
     cmbGrnamen = keus(QStringLiteral("cmbGrnamen"), QStringLiteral("Kopieer hen naar groep"));
-    lstKeus = new Meerkeuzelijst(kader);
-    Noem(lstKeus, QStringLiteral("lstKeus"), QStringLiteral("Spelers"));
     Label3 = MaakLabel(QStringLiteral("Label3"), QString(), kader);
     chkNBBgrOok = new QCheckBox(kader);
     Noem(chkNBBgrOok, QStringLiteral("chkNBBgrOok"));
     chkNBBnrOok = new QCheckBox(QStringLiteral("NBBnummer ook kopieren"), kader);
     Noem(chkNBBnrOok, QStringLiteral("chkNBBnrOok"));
-    cmdSelAll =
-        MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'S', kader);
-    cmdSelNone =
-        MaakKnop(QStringLiteral("cmdSelNone"), QStringLiteral("Selecteer niets"), u'n', kader);
     cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Kopieer"), u'K', this);
     cmdAnnuleren =
         MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+    keus_ = new Spelerkeus(cmdOK, kader);
 }
 
 void diaKopieer::Bouw()
@@ -67,26 +62,22 @@ void diaKopieer::Bouw()
     vakken->addWidget(cmbUitGroep, 0, 1);
     vakken->addWidget(Label3, 1, 0);
     vakken->addWidget(cmbNBBgr, 1, 1);
-    vakken->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Selecteer de spelers(s) ")),
-                      2, 0, 1, 2);
-    vakken->addWidget(lstKeus, 3, 0, 1, 2);
-    vakken->addLayout(Knoppenrij({cmdSelAll, cmdSelNone}), 4, 0, 1, 2);
-    vakken->addWidget(label(QStringLiteral("Label2"), QStringLiteral("Kopieer hen naar groep:")), 5,
+    vakken->addWidget(keus_, 2, 0, 1, 2);
+    vakken->addWidget(label(QStringLiteral("Label2"), QStringLiteral("Kopieer hen naar groep:")), 3,
                       0);
-    vakken->addWidget(cmbGrnamen, 5, 1);
-    vakken->addWidget(chkNBBgrOok, 6, 0, 1, 2);
-    vakken->addWidget(chkNBBnrOok, 7, 0, 1, 2);
-    vakken->setRowStretch(3, 1);
+    vakken->addWidget(cmbGrnamen, 3, 1);
+    vakken->addWidget(chkNBBgrOok, 4, 0, 1, 2);
+    vakken->addWidget(chkNBBnrOok, 5, 0, 1, 2);
+    vakken->setRowStretch(2, 1);
     vakken->setColumnStretch(1, 1);
 
     auto* lagen = new QVBoxLayout(this);
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
     const Maten maten;
-    resize(maten.Twips(7500), maten.Twips(8700));
-    ZetTabvolgorde({cmbUitGroep, cmbNBBgr, lstKeus, cmdSelAll, cmdSelNone, cmbGrnamen, chkNBBgrOok,
-                    chkNBBnrOok, cmdAnnuleren, cmdOK});
-    cmdOK->setEnabled(false);
+    PasInScherm(this, {maten.Twips(7500), maten.Twips(8700)});
+    ZetTabvolgorde({cmbUitGroep, cmbNBBgr, keus_->lstKeus, keus_->cmdSelAll, keus_->cmdSelNone,
+                    cmbGrnamen, chkNBBgrOok, chkNBBnrOok, cmdAnnuleren, cmdOK});
     cmdOK->setDefault(true);
     cmbUitGroep->setFocus();
 }
@@ -96,42 +87,25 @@ void diaKopieer::Verbind()
     connect(cmbUitGroep, &QComboBox::currentIndexChanged, this, &diaKopieer::KiesBron);
     // Also when the value that is shown is picked again.
     connect(cmbNBBgr, &QComboBox::activated, this, &diaKopieer::KiesWaarde);
-    connect(cmdSelAll, &QPushButton::clicked, this, [this] {
-        lstKeus->KiesAlles(true);
-        lstKeus->ZetHuidige(0);
-    });
-    connect(cmdSelNone, &QPushButton::clicked, this, [this] {
-        lstKeus->KiesAlles(false);
-        lstKeus->ZetHuidige(0);
-    });
+    for (QPushButton* knop : {keus_->cmdSelAll, keus_->cmdSelNone})
+        connect(knop, &QPushButton::clicked, this, [this] { keus_->lstKeus->ZetHuidige(0); });
     connect(cmdOK, &QPushButton::clicked, this, &diaKopieer::Kopieer);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
-    connect(lstKeus, &Meerkeuzelijst::keuzeVeranderd, this,
-            [this] { cmdOK->setEnabled(lstKeus->IetsGekozen()); });
-    cmdOK->setEnabled(lstKeus->IetsGekozen());
-}
-
-Tekst diaKopieer::Bronregel(int plaats) const
-{
-    return Kopieerregel(administratie_.spelers.tabel, rijen_[static_cast<std::size_t>(plaats)]);
 }
 
 void diaKopieer::VulKeuslijst()
 {
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    rijen_ = RijenVanGroep(tabel, Groepscode(cmbUitGroep->currentIndex() + 1));
+    std::vector<int> rijen = RijenVanGroep(tabel, Groepscode(cmbUitGroep->currentIndex() + 1));
     Waardenlijst waarden;
-    for (const int rij : rijen_) {
+    for (const int rij : rijen) {
         const Tekstblik waarde = tabel.Cel(rij, Kolom::NBBgr);
         waarden.Voeg(IsBlanco(waarde) ? "geen" : Tekst(waarde));
     }
-    lstKeus->Vul(static_cast<int>(rijen_.size()),
-                 [this](int plaats) { return NaarQString(Bronregel(plaats)); });
     VulKeus(*cmbNBBgr, waarden.Waarden());
-    if (!rijen_.empty()) {
-        lstKeus->ZetHuidige(0);
-        lstKeus->Kies(0, true);
-    }
+    keus_->Vul(std::move(rijen), [&tabel](int rij) { return Kopieerregel(tabel, rij); });
+    if (keus_->lstKeus->Aantal() > 0)
+        keus_->lstKeus->Kies(0, true);
 }
 
 void diaKopieer::KiesBron()
@@ -154,9 +128,9 @@ void diaKopieer::KiesWaarde()
     if (plaats < 0)
         return;
     const Tekst gezocht = Hoofdletters(NaarTekst(cmbNBBgr->itemText(plaats)));
-    lstKeus->KiesOok(
-        [&](int regel) { return Hoofdletters(Bronregel(regel)).find(gezocht) != Tekst::npos; });
-    lstKeus->ZetHuidige(0);
+    keus_->lstKeus->KiesOok(
+        [&](int regel) { return Hoofdletters(keus_->Regel(regel)).find(gezocht) != Tekst::npos; });
+    keus_->lstKeus->ZetHuidige(0);
 }
 
 void diaKopieer::Kopieer()
@@ -170,12 +144,10 @@ void diaKopieer::Kopieer()
             .arg(bron, doel);
     if (!Vraag(this, QMessageBox::Information, vraag))
         return;
-    Kopieeropdracht opdracht{.keys = {},
-                             .naarGroep = Groepscode(cmbGrnamen->currentIndex() + 1),
-                             .metNBBgr = chkNBBgrOok->isChecked(),
-                             .metNBBnr = chkNBBnrOok->isChecked()};
-    for (const int plaats : lstKeus->GekozenPlaatsen())
-        opdracht.keys.emplace_back(KeyVan(Bronregel(plaats)));
+    const Kopieeropdracht opdracht{.keys = keus_->GekozenKeys(),
+                                   .naarGroep = Groepscode(cmbGrnamen->currentIndex() + 1),
+                                   .metNBBgr = chkNBBgrOok->isChecked(),
+                                   .metNBBnr = chkNBBnrOok->isChecked()};
     if (!KopieerSpelers(administratie_.spelers, opdracht)) {
         Meld(this, QMessageBox::Critical,
              QStringLiteral("Er is niets gekopieerd: de spelersleutels zijn op. Kijk het getal na "

@@ -5,9 +5,8 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
-#include <QPushButton>
 
-#include "platform/scherm/meerkeuzelijst.h"
+#include "dialogs/spelerkeus.h"
 #include "register/administratie.h"
 
 class QGroupBox;
@@ -31,21 +30,17 @@ class diaKopieer : public QDialog {
     void KiesBron();
     void KiesWaarde();
     void Kopieer();
-    [[nodiscard]] Tekst Bronregel(int plaats) const;
 
     Administratie& administratie_;
-    std::vector<int> rijen_; ///< of the lines in the list
     bool ingaveGeannuleerd_ = true;
 
     QComboBox* cmbUitGroep = nullptr;
     QComboBox* cmbNBBgr = nullptr;
     QComboBox* cmbGrnamen = nullptr;
-    Meerkeuzelijst* lstKeus = nullptr;
+    Spelerkeus* keus_ = nullptr;
     QLabel* Label3 = nullptr;
     QCheckBox* chkNBBgrOok = nullptr;
     QCheckBox* chkNBBnrOok = nullptr;
-    QPushButton* cmdSelAll = nullptr;
-    QPushButton* cmdSelNone = nullptr;
     QPushButton* cmdOK = nullptr;
     QPushButton* cmdAnnuleren = nullptr;
 };

@@ -3,9 +3,8 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QPushButton>
 
-#include "platform/scherm/meerkeuzelijst.h"
+#include "dialogs/spelerkeus.h"
 #include "register/administratie.h"
 
 namespace plexoran {
@@ -21,17 +20,13 @@ class diaVerplaats : public QDialog {
 
   private:
     void Bouw();
-    void VulKeuslijst();
     void Verplaats();
 
     Administratie& administratie_;
-    std::vector<int> rijen_; ///< of the lines in the list
     bool ingaveGeannuleerd_ = true;
 
-    Meerkeuzelijst* lstKeus;
+    Spelerkeus* keus_;
     QComboBox* cmbGrnamen;
-    QPushButton* cmdSelAll;
-    QPushButton* cmdSelNone;
     QPushButton* cmdOK;
     QPushButton* cmdAnnuleren;
 };

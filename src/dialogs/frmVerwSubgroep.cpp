@@ -57,7 +57,8 @@ void frmVerwSubgroep::Bouw()
     lagen->addStretch();
     lagen->addLayout(Knoppenrij({cmdVerwijder, cmdEinde}));
     const Maten maten;
-    resize(maten.Twips(7200), sizeHint().height());
+    PasInScherm(this, {maten.Twips(7200), sizeHint().height()});
+    cmbRVDgr->setFocus();
 }
 
 void frmVerwSubgroep::KiesGroep()

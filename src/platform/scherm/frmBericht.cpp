@@ -23,7 +23,7 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, QWidget* oude
     lagen->addWidget(txtBericht);
     lagen->addLayout(Knoppenrij({cmdOK}));
     const Maten maten;
-    resize(maten.Twips(10800), maten.Twips(8100));
+    PasInScherm(this, {maten.Twips(10800), maten.Twips(8100)});
 }
 
 } // namespace plexoran
