@@ -110,6 +110,30 @@ TEST_F(diaVerplaatsTest, MetHetToetsenbordAlleen)
     EXPECT_FALSE(venster->IngaveGeannuleerd());
 }
 
+/// Enter presses the button that has the focus, not the one that moves the players.
+TEST_F(diaVerplaatsTest, EnterDruktOpDeKnopMetDeFocus)
+{
+    const auto oud = AlleRijen(administratie.spelers.tabel);
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        Open();
+        Keus("cmbGrnamen")->setCurrentIndex(7);
+        QTest::keyClick(Knop("cmdSelAll"), enter);
+        EXPECT_EQ(4U, Lijst()->GekozenPlaatsen().size());
+        QTest::keyClick(Knop("cmdSelNone"), enter);
+        EXPECT_FALSE(Lijst()->IetsGekozen());
+        KlikRegel(0);
+        EXPECT_TRUE(venster->isVisible());
+        QTest::keyClick(Knop("cmdAnnuleren"), enter);
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_TRUE(venster->IngaveGeannuleerd());
+    }
+    EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
+    Open();
+    KlikRegel(0);
+    QTest::keyClick(Lijst(), Qt::Key_Return);
+    EXPECT_FALSE(venster->IngaveGeannuleerd());
+}
+
 TEST_F(diaVerplaatsTest, AlleenSpelersVanDeImportgroepGeeftEenLegeLijst)
 {
     administratie.spelers.tabel = MaakTabel({{"100002", "Gr05-", "Bea", "", "Cock", "", ""}});

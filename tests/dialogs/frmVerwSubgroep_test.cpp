@@ -126,3 +126,29 @@ TEST_F(frmVerwSubgroepTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
     EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
     EXPECT_FALSE(venster->IetsVerwijderd());
 }
+
+TEST_F(frmVerwSubgroepTest, MetHetToetsenbordAlleen)
+{
+    const auto toets = [](Qt::Key welke) { QTest::keyClick(QApplication::focusWidget(), welke); };
+    EXPECT_TRUE(Keus("cmbRVDgr")->hasFocus());
+    toets(Qt::Key_Return); // in a drop-down Enter deletes nothing
+    for (int i = 0; i < 4; ++i)
+        toets(Qt::Key_Down);
+    toets(Qt::Key_Tab);
+    EXPECT_TRUE(Keus("cmbSubGr")->hasFocus());
+    toets(Qt::Key_Return);
+    toets(Qt::Key_Down);
+    toets(Qt::Key_Tab);
+    EXPECT_TRUE(Knop("cmdVerwijder")->hasFocus());
+    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK));
+    VerwachtKlaar(1);
+    toets(Qt::Key_Return);
+    wachter.Klaar();
+    EXPECT_EQ(5, administratie.spelers.tabel.Rijen());
+    venster->activateWindow(); // no window manager does that here
+    ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    toets(Qt::Key_Tab);
+    EXPECT_TRUE(Knop("cmdEinde")->hasFocus());
+    toets(Qt::Key_Return);
+    EXPECT_FALSE(venster->isVisible());
+}

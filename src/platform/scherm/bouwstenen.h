@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -24,10 +25,26 @@ namespace plexoran {
            ZonderSneltoets(tekst.mid(plaats));
 }
 
+/// Enter presses the button that has the focus, and never another one. Qt does so only for buttons
+/// that may become the default by themselves, and those would answer Enter in other controls too.
+class Knop : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void keyPressEvent(QKeyEvent* gebeurtenis) override
+    {
+        if (gebeurtenis->key() == Qt::Key_Return || gebeurtenis->key() == Qt::Key_Enter)
+            click();
+        else
+            QPushButton::keyPressEvent(gebeurtenis);
+    }
+};
+
 [[nodiscard]] inline QPushButton* MaakKnop(const QString& naam, const QString& tekst,
                                            char16_t letter, QWidget* ouder)
 {
-    auto* knop = new QPushButton(MetSneltoets(tekst, letter), ouder);
+    auto* knop = new Knop(MetSneltoets(tekst, letter), ouder);
     Noem(knop, naam);
     knop->setAutoDefault(false);
     return knop;
