@@ -21,6 +21,9 @@ namespace {
 
 bool Bewaar(QWidget& venster, const QDir& map)
 {
+    // A screen that is only drawn may be small; the pictures show the standard size.
+    if (const QSize maat = venster.property(Standaardmaat).toSize(); maat.isValid())
+        venster.resize(maat);
     venster.show();
     QApplication::processEvents();
     const QString bestand = map.filePath(venster.objectName() + QStringLiteral(".png"));
@@ -86,9 +89,6 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                      const std::string& map)
 {
     Fotograaf fotograaf(map);
-    // A screen that is only drawn may be small; the pictures show the standard size.
-    const Maten maten;
-    hoofdvenster.resize(maten.Twips(15360), maten.Twips(10500));
     fotograaf.Neem(hoofdvenster);
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;

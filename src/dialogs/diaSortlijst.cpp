@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/meter.h"
@@ -61,7 +63,7 @@ Sorteervlak::Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, QWidget*
 
 int Sorteervlak::X(float breedtenA) const
 {
-    return qRound(breedtenA * static_cast<float>(breedteA_));
+    return qRound(breedtenA * static_cast<float>(breedteA_)) - links_;
 }
 
 int Sorteervlak::Koptekst() const
@@ -71,12 +73,18 @@ int Sorteervlak::Koptekst() const
 
 QSize Sorteervlak::Vlakmaat() const
 {
-    return {X(randen_.back()) + breedteA_, Koptekst() + beeld_.regels * regelhoogte_ + 2};
+    return {X(randen_.back()) + links_ + breedteA_, Koptekst() + beeld_.regels * regelhoogte_ + 2};
 }
 
 void Sorteervlak::Schuif(int boven)
 {
     boven_ = boven;
+    update();
+}
+
+void Sorteervlak::SchuifOpzij(int links)
+{
+    links_ = links;
     update();
 }
 
@@ -152,11 +160,21 @@ void Sorteervlak::TekenVeld(QPainter& schilder, int veld, int boven, const QStri
 diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)
     : QDialog(hoofdvenster), beeld_(std::move(beeld)), Frame2(new QFrame(this)),
       P0(new QWidget(Frame2)), P1(new Sorteervlak(beeld_, maten_, P0)),
-      VScroll1(new QScrollBar(Qt::Vertical, Frame2))
+      VScroll1(new QScrollBar(Qt::Vertical, Frame2)),
+      HScroll1(new QScrollBar(Qt::Horizontal, Frame2))
 {
     Bouw();
-    const QRect hoofd = hoofdvenster->frameGeometry();
-    move(hoofd.left() + (hoofd.width() - width()) / 2, hoofd.top() + maten_.Twips(600));
+    ZetBij(hoofdvenster->frameGeometry());
+}
+
+/// Below the top of the main window and in its middle, but not beyond the screen.
+void diaSortlijst::ZetBij(const QRect& hoofd)
+{
+    const QRect vrij = screen()->availableGeometry();
+    const int links = hoofd.left() + (hoofd.width() - width()) / 2;
+    const int boven = hoofd.top() + maten_.Twips(600);
+    move(std::max(vrij.left(), std::min(links, vrij.right() + 1 - width())),
+         std::max(vrij.top(), std::min(boven, vrij.bottom() + 1 - height())));
 }
 
 void diaSortlijst::Bouw()
@@ -168,6 +186,10 @@ void diaSortlijst::Bouw()
     Noem(P0, QStringLiteral("P0"));
     Noem(VScroll1, QStringLiteral("VScroll1"), QStringLiteral("Regels verschuiven"));
     VScroll1->setAttribute(Qt::WA_NoMousePropagation);
+    Noem(HScroll1, QStringLiteral("HScroll1"), QStringLiteral("Kolommen verschuiven"));
+    HScroll1->setAttribute(Qt::WA_NoMousePropagation);
+    connect(HScroll1, &QScrollBar::valueChanged, P1,
+            [this](int waarde) { P1->SchuifOpzij(waarde); });
     connect(VScroll1, &QScrollBar::valueChanged, P1, [this](int waarde) { P1->Schuif(waarde); });
     cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Terug"), u'T', this);
     cmdOK->setDefault(true);
@@ -180,7 +202,7 @@ void diaSortlijst::Bouw()
     const QMargins marges = lagen->contentsMargins();
     const int breed = P1->Vlakmaat().width() + maten_.Twips(BalkBreed) + 2 * Frame2->frameWidth() +
                       marges.left() + marges.right();
-    resize(breed, maten_.Twips(VensterHoog));
+    PasInScherm(this, {breed, maten_.Twips(VensterHoog)});
     P1->setFocus();
 }
 
@@ -195,10 +217,17 @@ void diaSortlijst::ZetSchuifbalk()
 {
     const QRect binnen = Frame2->contentsRect();
     const int balk = maten_.Twips(BalkBreed);
-    P0->setGeometry(binnen.adjusted(0, 0, -balk, 0));
+    const QSize vlak = P1->Vlakmaat();
+    const int opzij = std::max(0, vlak.width() - (binnen.width() - balk));
+    P0->setGeometry(binnen.adjusted(0, 0, -balk, opzij > 0 ? -balk : 0));
     P1->setGeometry(P0->rect());
-    VScroll1->setGeometry(binnen.right() + 1 - balk, binnen.top(), balk, binnen.height());
-    const int over = std::max(0, P1->Vlakmaat().height() - P0->height());
+    HScroll1->setGeometry(binnen.left(), binnen.bottom() + 1 - balk, P0->width(), balk);
+    HScroll1->setVisible(opzij > 0);
+    HScroll1->setRange(0, opzij);
+    HScroll1->setPageStep(std::max(1, P0->width()));
+    HScroll1->setSingleStep(P1->Regelhoogte());
+    VScroll1->setGeometry(binnen.right() + 1 - balk, binnen.top(), balk, P0->height());
+    const int over = std::max(0, vlak.height() - P0->height());
     VScroll1->setRange(0, over);
     VScroll1->setPageStep(std::max(1, P0->height() - P1->Regelhoogte()));
     VScroll1->setSingleStep(P1->Regelhoogte());
@@ -207,7 +236,9 @@ void diaSortlijst::ZetSchuifbalk()
 
 void diaSortlijst::wheelEvent(QWheelEvent* gebeurtenis)
 {
-    QApplication::sendEvent(VScroll1, gebeurtenis);
+    const QPoint slag = gebeurtenis->angleDelta();
+    const bool opzij = std::abs(slag.x()) > std::abs(slag.y());
+    QApplication::sendEvent(opzij ? HScroll1 : VScroll1, gebeurtenis);
 }
 
 void diaSortlijst::keyPressEvent(QKeyEvent* gebeurtenis)
@@ -219,6 +250,12 @@ void diaSortlijst::keyPressEvent(QKeyEvent* gebeurtenis)
         break;
     case Qt::Key_Down:
         VScroll1->triggerAction(QScrollBar::SliderSingleStepAdd);
+        break;
+    case Qt::Key_Left:
+        HScroll1->triggerAction(QScrollBar::SliderSingleStepSub);
+        break;
+    case Qt::Key_Right:
+        HScroll1->triggerAction(QScrollBar::SliderSingleStepAdd);
         break;
     case Qt::Key_PageUp:
         VScroll1->triggerAction(QScrollBar::SliderPageStepSub);

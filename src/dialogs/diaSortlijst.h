@@ -32,11 +32,14 @@ class Sorteervlak : public QWidget {
     [[nodiscard]] int Regelhoogte() const { return regelhoogte_; }
     /// The line on top, in pixels from the top of the list.
     void Schuif(int boven);
+    /// The same from its left edge.
+    void SchuifOpzij(int links);
 
   protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
 
   private:
+    /// Where a place on the list is in the surface.
     [[nodiscard]] int X(float breedtenA) const;
     [[nodiscard]] int Koptekst() const;
     void TekenKop(QPainter& schilder) const;
@@ -49,6 +52,7 @@ class Sorteervlak : public QWidget {
     int breedteA_;
     int regelhoogte_;
     int boven_ = 0;
+    int links_ = 0;
 };
 
 class diaSortlijst : public QDialog {
@@ -64,6 +68,7 @@ class diaSortlijst : public QDialog {
 
   private:
     void Bouw();
+    void ZetBij(const QRect& hoofd);
     void ZetSchuifbalk();
 
     Sorteerbeeld beeld_;
@@ -72,6 +77,7 @@ class diaSortlijst : public QDialog {
     QWidget* P0;
     Sorteervlak* P1;
     QScrollBar* VScroll1;
+    QScrollBar* HScroll1; ///< only there when the window is narrower than the list
     QPushButton* cmdOK;
 };
 

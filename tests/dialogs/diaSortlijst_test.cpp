@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QScreen>
 #include <QWheelEvent>
 #include <QtTest/qtestspontaneevent.h>
 
@@ -58,6 +59,14 @@ class diaSortlijstTest : public testing::Test {
 
     [[nodiscard]] QWidget* P1() const { return Vind<QWidget>(*venster, "P1"); }
     [[nodiscard]] QScrollBar* Balk() const { return Vind<QScrollBar>(*venster, "VScroll1"); }
+    [[nodiscard]] QScrollBar* Zijbalk() const { return Vind<QScrollBar>(*venster, "HScroll1"); }
+    void Wiel(QPoint slag) const
+    {
+        QWheelEvent wiel({20, 20}, P1()->mapToGlobal(QPointF(20, 20)), {}, slag, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wiel);
+        qApp->notify(P1(), &wiel);
+    }
     void Schilder()
     {
         vanger = std::make_unique<Tekstvanger>(P1()->size());
@@ -234,9 +243,47 @@ TEST_F(diaSortlijstTest, OpentMetAlleKolommenInBeeld)
 {
     for (const Sorteersoort soort : {opKey, opNummer, opGroep}) {
         ASSERT_NO_FATAL_FAILURE(Open(soort, true, tweeRegels));
+        venster->resize(venster->property(Standaardmaat).toSize());
         EXPECT_GE(P1()->width(), ZetKolommen(soort).back() * static_cast<float>(A()));
         EXPECT_TRUE(P1()->hasFocus());
         EXPECT_EQ(Vind<QWidget>(*venster, "P0")->width(), P1()->width());
+        EXPECT_FALSE(Zijbalk()->isVisible());
+    }
+}
+
+TEST_F(diaSortlijstTest, OpEenSmalSchermSchuivenDeKolommenOpzij)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    venster->resize(500, 400);
+    QApplication::processEvents();
+    EXPECT_TRUE(Zijbalk()->isVisible());
+    EXPECT_EQ(Vind<QWidget>(*venster, "P0")->geometry().bottom() + 1, Zijbalk()->geometry().top());
+    EXPECT_EQ(Balk()->height(), P1()->height());
+    QTest::keyClick(P1(), Qt::Key_Right);
+    const int stap = Zijbalk()->value();
+    EXPECT_GT(stap, 0);
+    QTest::keyClick(P1(), Qt::Key_Left);
+    EXPECT_EQ(0, Zijbalk()->value());
+    Wiel({-120, 0});
+    EXPECT_GT(Zijbalk()->value(), 0);
+    EXPECT_EQ(0, Balk()->value());
+    Zijbalk()->setValue(Zijbalk()->maximum());
+    Schilder();
+    const Getekend nummer = Deel("12345678");
+    EXPECT_LT(nummer.x + nummer.breed, P1()->width());
+    EXPECT_LT(Deel("Key").x, 0);
+    Balk()->setValue(Balk()->maximum());
+    Schilder();
+    EXPECT_LT(Deel("12345678").y, P1()->height());
+}
+
+TEST_F(diaSortlijstTest, OpentBinnenHetScherm)
+{
+    const QRect vrij = hoofd.screen()->availableGeometry();
+    for (const QPoint plek : {QPoint(-900, -900), vrij.bottomRight()}) {
+        hoofd.move(plek);
+        ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+        EXPECT_TRUE(vrij.contains(QRect(venster->pos(), venster->size())));
     }
 }
 
@@ -270,10 +317,7 @@ TEST_F(diaSortlijstTest, SchuiftMetBalkToetsenEnWiel)
     EXPECT_LT(Balk()->value(), Balk()->maximum());
     toets(Qt::Key_Home);
     EXPECT_EQ(0, Balk()->value());
-    QWheelEvent wiel({20, 20}, P1()->mapToGlobal(QPointF(20, 20)), {}, {0, -120}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&wiel);
-    qApp->notify(P1(), &wiel);
+    Wiel({0, -120});
     EXPECT_GT(Balk()->value(), 0);
 }
 

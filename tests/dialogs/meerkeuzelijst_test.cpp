@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "hulp/tekstvanger.h"
 #include "hulp/venstergrepen.h"
 
 using namespace plexoran;
@@ -213,4 +214,18 @@ TEST_F(MeerkeuzelijstTest, HonderdduizendRegelsZonderWachten)
     EXPECT_LT(gevraagd, 1000);
     EXPECT_LT(klok.elapsed(), 1000);
     EXPECT_TRUE(lijst.viewport()->rect().contains(Op(99'999)));
+}
+
+TEST_F(MeerkeuzelijstTest, EenTeLangeRegelEindigtInEenBeletselteken)
+{
+    const QString naam(100, u'x');
+    lijst.Vul(2, [&](int plaats) { return plaats == 0 ? QStringLiteral("kort") : naam; });
+    QApplication::processEvents();
+    Tekstvanger vanger(lijst.viewport()->size());
+    lijst.viewport()->render(&vanger, {}, {}, QWidget::RenderFlags());
+    ASSERT_EQ(2U, vanger.Teksten().size());
+    EXPECT_EQ("kort", vanger.Teksten()[0].tekst);
+    const std::string& lang = vanger.Teksten()[1].tekst;
+    EXPECT_TRUE(lang.starts_with("xxxxx") && lang.ends_with("…")) << lang;
+    EXPECT_LE(vanger.Teksten()[1].breed, lijst.viewport()->width());
 }

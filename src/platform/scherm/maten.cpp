@@ -40,6 +40,7 @@ QFont Maten::Letter(double punten) const
 void PasInScherm(QWidget* venster, QSize maat)
 {
     constexpr QSize kader(16, 40); // what a window manager puts around it
+    venster->setProperty(Standaardmaat, maat);
     venster->resize(maat.boundedTo(venster->screen()->availableSize() - kader));
 }
 

@@ -25,6 +25,9 @@ class Maten {
     double pixelsPerMm_;
 };
 
+/// The property in which `PasInScherm` leaves the size that it was asked for.
+inline constexpr auto Standaardmaat = "standaardmaat";
+
 /// Makes a window this large, or as large as the screen allows.
 void PasInScherm(QWidget* venster, QSize maat);
 

@@ -61,7 +61,7 @@ class Regeltekenaar : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* optie, const QModelIndex& plaats) const override
     {
         QStyledItemDelegate::initStyleOption(optie, plaats);
-        optie->textElideMode = Qt::ElideNone;
+        optie->textElideMode = Qt::ElideRight;
         // In a wide window too the key stays out of sight.
         const auto verborgen = optie->text.indexOf(QString(VerborgenNaSpaties, QLatin1Char(' ')));
         if (verborgen >= 0)
