@@ -82,11 +82,22 @@ class LijstenTest : public Hoofdvensterproef {
         }
         return {};
     }
-    void VerwachtOpslagfout()
+    void Verplaats(const std::vector<int>& plaatsen, int naarGroep)
+    {
+        wachter.Bedien([&](QDialog& dialoog) {
+            KiesRegels(dialoog, plaatsen);
+            Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(naarGroep - 1);
+            Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+        });
+        wachter.Informatie(QStringLiteral("De spelers(s) zijn verplaatst."));
+        Klik(Knop("cmdVerplaats"));
+        wachter.Klaar();
+    }
+    void VerwachtOpslagfout(const QString& antwoord = QStringLiteral("Doorgaan"))
     {
         wachter.Verwacht(
             {.tekst = QStringLiteral("De spelers konden niet worden opgeslagen."),
-             .antwoord = QStringLiteral("Doorgaan"),
+             .antwoord = antwoord,
              .icoon = QMessageBox::Critical,
              .knoppen = {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")},
              .alleenBegin = true});
@@ -260,18 +271,29 @@ TEST_F(LijstenTest, VerplaatsenSlaatOpEnMeldtHet)
     auto moet = RegelsVan(suite.Spelers());
     for (const std::size_t regel : {1U, 3U})
         moet[regel].replace(moet[regel].find("Gr01-"), 5, "Gr04-");
-    wachter.Bedien([](QDialog& dialoog) {
-        KiesRegels(dialoog, {0, 2});
-        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(3);
-        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
-    });
-    wachter.Informatie(QStringLiteral("De spelers(s) zijn verplaatst."));
-    Klik(Knop("cmdVerplaats"));
-    wachter.Klaar();
+    Verplaats({0, 2}, 4);
     EXPECT_EQ(moet, RegelsVan(suite.Spelers()));
     EXPECT_EQ("Aantal regels: 48", Aantal());
     KiesGroep(4);
     EXPECT_EQ("Aantal regels: 2", Aantal());
+}
+
+TEST_F(LijstenTest, EnterOpEenKnopOpentZijnVenster)
+{
+    for (const auto& [knop, naam] :
+         {std::pair("cmdVerplaats", "diaVerplaats"), std::pair("cmdKopieer", "diaKopieer"),
+          std::pair("cmdVerwGroep", "frmVerwSubgroep"),
+          std::pair("cmdSortlijst1", "diaSortlijst")}) {
+        std::string geopend;
+        wachter.Bedien([&](QDialog& dialoog) {
+            geopend = dialoog.objectName().toStdString();
+            dialoog.close();
+        });
+        Knop(knop)->setFocus();
+        QTest::keyClick(Knop(knop), Qt::Key_Return);
+        wachter.Klaar();
+        EXPECT_EQ(naam, geopend);
+    }
 }
 
 TEST_F(LijstenTest, AnnulerenSlaatNietsOpEnMeldtNiets)
@@ -318,6 +340,95 @@ TEST_F(LijstenTest, VerplaatsenDatNietOpgeslagenKanWordenBlijftInHetProgramma)
     venster->close();
     wachter.Klaar();
     EXPECT_NE(std::string::npos, Regel("100001").find(",Gr04-,"));
+}
+
+TEST_F(LijstenTest, KopierenDatNietOpgeslagenKanWordenKanOpnieuw)
+{
+    const std::string oud = suite.Spelers();
+    schijf.FaalVanaf(1);
+    wachter.Bedien([](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(6);
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral(
+             "U gaat spelers kopiëren van groep 'Gr01-Clubleden' naar groep 'Gr07-Zomerdrive'."),
+         .alleenBegin = true});
+    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    VerwachtOpslagfout(QStringLiteral("Opnieuw proberen"));
+    VerwachtOpslagfout(QStringLiteral("Doorgaan"));
+    Klik(Knop("cmdKopieer"));
+    wachter.Klaar();
+    schijf.FaalNiet();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_TRUE(venster->isWindowModified());
+    // The table keeps the copy and is whole: the next command saves it with its own change.
+    KiesGroep(7);
+    EXPECT_EQ("Aantal regels: 1", Aantal());
+    auto moet = RegelsVan(oud);
+    moet[0] = "HKEY=100172";
+    Verplaats({0}, 6);
+    EXPECT_FALSE(venster->isWindowModified());
+    EXPECT_EQ("Aantal regels: 1", Aantal());
+    const auto regels = RegelsVan(suite.Spelers());
+    ASSERT_EQ(moet.size() + 1, regels.size());
+    EXPECT_NE(std::string::npos, regels[1].find(",Gr06-,"));
+    EXPECT_TRUE(regels.back().starts_with("149,100172,Gr07-,Willem,van der,Horst,"));
+    moet[1] = regels[1];
+    moet.push_back(regels.back());
+    EXPECT_EQ(moet, regels);
+}
+
+TEST_F(LijstenTest, BijHetOpnieuwProberenWordtDeKopieEenKeerOpgeslagen)
+{
+    const auto oud = RegelsVan(suite.Spelers());
+    schijf.FaalBij(1);
+    wachter.Bedien([](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(6);
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("U gaat spelers kopiëren"), .alleenBegin = true});
+    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    VerwachtOpslagfout(QStringLiteral("Opnieuw proberen"));
+    Klik(Knop("cmdKopieer"));
+    wachter.Klaar();
+    EXPECT_FALSE(venster->isWindowModified());
+    const auto regels = RegelsVan(suite.Spelers());
+    ASSERT_EQ(oud.size() + 1, regels.size());
+    EXPECT_EQ("HKEY=100172", regels[0]);
+    EXPECT_TRUE(regels.back().starts_with("149,100172,Gr07-,"));
+}
+
+TEST_F(LijstenTest, EenSubgroepVerwijderenDatNietOpgeslagenKanWordenKanOpnieuw)
+{
+    const std::string oud = suite.Spelers();
+    for (const bool opnieuw : {false, true}) {
+        KiesGroep(3);
+        schijf.FaalBij(1);
+        wachter.Bedien([](QDialog& dialoog) {
+            Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+            Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
+            Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+        });
+        wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep '"),
+                          .titel = QStringLiteral("Verwijderen?"),
+                          .alleenBegin = true});
+        wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+        VerwachtOpslagfout(opnieuw ? QStringLiteral("Opnieuw proberen")
+                                   : QStringLiteral("Doorgaan"));
+        Klik(Knop("cmdVerwGroep"));
+        wachter.Klaar();
+        schijf.FaalNiet();
+        EXPECT_EQ(!opnieuw, venster->isWindowModified());
+        EXPECT_EQ(opnieuw ? "Aantal regels: 1" : "Aantal regels: 5", Aantal());
+        if (!opnieuw) {
+            EXPECT_EQ(oud, suite.Spelers());
+        }
+    }
+    const auto regels = RegelsVan(suite.Spelers());
+    ASSERT_EQ(141U, regels.size()); // the first deletion was saved with the second
+    for (std::size_t i = 1; i < regels.size(); ++i)
+        EXPECT_TRUE(regels[i].starts_with(std::to_string(i) + ",")) << regels[i];
 }
 
 TEST_F(LijstenTest, KopierenVraagtEnMeldtEnSlaatOp)
@@ -405,14 +516,7 @@ TEST_F(LijstenTest, HetRoosterBlijftOpZijnPlaatsNaVerplaatsen)
     Balk("VScroll1")->setValue(100);
     const int stand = Balk("VScroll1")->value();
     ASSERT_GT(stand, 0);
-    wachter.Bedien([](QDialog& dialoog) {
-        KiesRegels(dialoog, {60}); // somebody of another group
-        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(3);
-        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
-    });
-    wachter.Informatie(QStringLiteral("De spelers(s) zijn verplaatst."));
-    Klik(Knop("cmdVerplaats"));
-    wachter.Klaar();
+    Verplaats({60}, 4); // somebody of another group
     EXPECT_EQ(stand, Balk("VScroll1")->value());
     EXPECT_EQ("Aantal regels: 50", Aantal());
     EXPECT_EQ(1, GetoondeGroep());
