@@ -92,7 +92,9 @@ TEST_F(diaKopieerTest, DeEersteRegelIsGekozenEnDeRestNiet)
     EXPECT_EQ(0, Keus("cmbNBBgr")->currentIndex());
     EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
     EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    EXPECT_EQ(0, Lijst()->currentIndex().row());
     KiesBron(5);
+    EXPECT_EQ(0, Lijst()->currentIndex().row());
     EXPECT_EQ((Teksten_t{"Gr05-\tCock   Bea de  (DINSDAG)" + spaties60 + "100002",
                          "Gr05-\tGans   Fred   (MAANDAG)" + spaties60 + "100006"}),
               Regels());
@@ -242,14 +244,7 @@ TEST_F(diaKopieerTest, AnnulerenEscapeEnHetSluitvakVeranderenNiets)
     const auto oud = AlleRijen(administratie.spelers.tabel);
     for (int weg = 0; weg < 3; ++weg) {
         ASSERT_NO_FATAL_FAILURE(Open());
-        if (weg == 0)
-            Klik(Knop("cmdAnnuleren"));
-        else if (weg == 1)
-            QTest::keyClick(Lijst(), Qt::Key_Escape);
-        else
-            venster->close();
-        EXPECT_FALSE(venster->isVisible());
-        EXPECT_TRUE(venster->IngaveGeannuleerd());
+        SluitZonder(weg);
     }
     EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
 }

@@ -71,6 +71,18 @@ template <class Dialoog> class Groepsproef : public testing::Test {
         QTest::mouseClick(Lijst()->viewport(), Qt::LeftButton, {},
                           Lijst()->visualRect(Lijst()->model()->index(plaats, 0)).center());
     }
+    /// Closes the window without its command: 0 by its button, 1 by Escape, 2 by the close box.
+    void SluitZonder(int weg)
+    {
+        if (weg == 0)
+            Klik(Knop("cmdAnnuleren"));
+        else if (weg == 1)
+            QTest::keyClick(Lijst(), Qt::Key_Escape);
+        else
+            venster->close();
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_TRUE(venster->IngaveGeannuleerd());
+    }
     [[nodiscard]] std::vector<std::string> Teksten(const char* keus) const
     {
         std::vector<std::string> teksten;
