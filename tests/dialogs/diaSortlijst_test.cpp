@@ -327,6 +327,10 @@ TEST_F(diaSortlijstTest, OnderaanStaatDeLaatsteRegelHeelInBeeld)
     for (int i = 0; i < 200; ++i)
         veel.push_back(std::to_string(i) + "e,An,,Bos,,");
     ASSERT_NO_FATAL_FAILURE(Open(opKey, true, veel));
+    // The line that the lower edge cuts is painted too.
+    Schilder();
+    EXPECT_GT(vanger->Teksten().back().y + Balk()->singleStep(),
+              P1()->height() + QFontMetrics(P1()->font()).ascent());
     Balk()->setValue(Balk()->maximum());
     Schilder();
     EXPECT_LT(Deel("199e").y, P1()->height());
