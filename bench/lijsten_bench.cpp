@@ -209,6 +209,17 @@ void Laden(benchmark::State& meting)
 }
 BENCHMARK(Laden)->Apply(Groottes);
 
+/// The least that anything costs which looks at every player: how that grows tells what the
+/// processor's caches have to do with it.
+void Doorlopen(benchmark::State& meting)
+{
+    Proef& proef = ProefVan(meting, Verdeling::EenGroep);
+    Meet(
+        meting, [&] { return proef.Opnieuw(); },
+        [](const Register& spelers) { benchmark::DoNotOptimize(LoopDoor(spelers.tabel)); });
+}
+BENCHMARK(Doorlopen)->Apply(Groottes);
+
 void DubbeleNamen(benchmark::State& meting)
 {
     const Spelertabel& tabel = ProefVan(meting, Verdeling::EenGroep).gelezen.tabel;
