@@ -74,11 +74,12 @@ void NeemSorteerlijst(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, const S
         return;
     fotograaf.Neem(diaSortlijst({.soort = Sorteersoort::NBBgroep,
                                  .importgroep = false,
-                                 .regels = static_cast<int>(lijst->size()),
+                                 .regels = static_cast<int>(lijst->regels.size()),
                                  .regel =
                                      [&](int regel) {
-                                         return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
-                                                          Sorteersoort::NBBgroep);
+                                         return VeldenVan(
+                                             lijst->regels[static_cast<std::size_t>(regel)],
+                                             Sorteersoort::NBBgroep);
                                      }},
                                 &hoofdvenster));
 }

@@ -130,17 +130,4 @@ bool Waardenlijst::StaatOp(const std::vector<Tekst>& delen, std::size_t begin) c
                       delen_.begin() + static_cast<std::ptrdiff_t>(begin));
 }
 
-Sleutelwijzer::Sleutelwijzer(const Spelertabel& tabel)
-{
-    rijen_.reserve(static_cast<std::size_t>(tabel.Rijen()));
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
-        rijen_.try_emplace(Tekst(tabel.Cel(rij, Kolom::Key)), rij);
-}
-
-int Sleutelwijzer::Rij(Tekstblik key) const
-{
-    const auto plaats = rijen_.find(Tekst(key));
-    return plaats == rijen_.end() ? 0 : plaats->second;
-}
-
 } // namespace plexoran

@@ -40,15 +40,4 @@ class Waardenlijst {
     std::vector<Tekst> waarden_;
 };
 
-/// The first row with each key, as a search from the top of the table finds it.
-class Sleutelwijzer {
-  public:
-    explicit Sleutelwijzer(const Spelertabel& tabel);
-    /// 0 when no row has it.
-    [[nodiscard]] int Rij(Tekstblik key) const;
-
-  private:
-    std::unordered_map<Tekst, int> rijen_;
-};
-
 } // namespace plexoran

@@ -1,8 +1,32 @@
 #include "dialogs/kopieren.h"
 
-#include "dialogs/keuslijst.h"
+#include <array>
+
+#include "register/sleutelwijzer.h"
 
 namespace plexoran {
+namespace {
+
+void VoegKopieToe(Spelertabel& tabel, int bron, Tekstblik key, const Kopieeropdracht& opdracht)
+{
+    std::array<Celtekst, 4> anders{{{Kolom::Key, key}, {Kolom::Groep, opdracht.naarGroep}, {}, {}}};
+    std::size_t aantal = 2;
+    if (!opdracht.metNBBgr)
+        anders[aantal++] = {Kolom::NBBgr, {}};
+    if (!opdracht.metNBBnr)
+        anders[aantal++] = {Kolom::NBBnr, {}};
+    tabel.VoegKopieToe(bron, std::span(anders).first(aantal));
+}
+
+void VoegLegeRijToe(Spelertabel& tabel, const Tekst& key, const Tekst& groep)
+{
+    Rijvelden rij;
+    rij[Plaats(Kolom::Key)] = key;
+    rij[Plaats(Kolom::Groep)] = groep;
+    tabel.VoegToe(rij);
+}
+
+} // namespace
 
 bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
 {
@@ -11,16 +35,11 @@ bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
     const Sleutelwijzer wijzer(spelers.tabel);
     for (const Tekst& key : opdracht.keys) {
         const int bron = wijzer.Rij(key);
-        Rijvelden rij;
+        const Tekst nieuweKey = std::to_string(NieuweSleutel(spelers).value());
         if (bron != 0)
-            rij = spelers.tabel.Velden(bron);
-        if (!opdracht.metNBBgr)
-            rij[Plaats(Kolom::NBBgr)].clear();
-        if (!opdracht.metNBBnr)
-            rij[Plaats(Kolom::NBBnr)].clear();
-        rij[Plaats(Kolom::Key)] = std::to_string(NieuweSleutel(spelers).value());
-        rij[Plaats(Kolom::Groep)] = opdracht.naarGroep;
-        spelers.tabel.VoegToe(rij);
+            VoegKopieToe(spelers.tabel, bron, nieuweKey, opdracht);
+        else
+            VoegLegeRijToe(spelers.tabel, nieuweKey, opdracht.naarGroep);
     }
     return true;
 }

@@ -18,7 +18,9 @@ int VerwijderSubgroep(Spelertabel& tabel, Tekstblik groepscode, Tekstblik subgro
 {
     const bool geen = Hoofdletters(subgroep) == "GEEN";
     std::vector<int> weg;
-    for (const int rij : RijenVanGroep(tabel, groepscode)) {
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Groep) != groepscode)
+            continue;
         const Tekstblik waarde = tabel.Cel(rij, Kolom::NBBgr);
         if (waarde == subgroep || (geen && waarde.empty()))
             weg.push_back(rij);

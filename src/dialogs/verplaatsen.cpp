@@ -1,6 +1,6 @@
 #include "dialogs/verplaatsen.h"
 
-#include "dialogs/keuslijst.h"
+#include "register/sleutelwijzer.h"
 
 namespace plexoran {
 

@@ -1,38 +1,71 @@
 #include "mainwindow/dubbelenamen.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <cstdint>
+#include <functional>
 
 namespace plexoran {
 namespace {
 
-Tekst VolleNaam(const Spelertabel& tabel, int rij)
+/// In a text that is used again, for the sake of its memory.
+const Tekst& ZetVolleNaam(Tekst& naam, const Spelertabel& tabel, int rij)
 {
-    Tekst naam(tabel.Cel(rij, Kolom::Voornaam));
+    naam = tabel.Cel(rij, Kolom::Voornaam);
     naam += tabel.Cel(rij, Kolom::Tusv);
     naam += tabel.Cel(rij, Kolom::Achternaam);
     return naam;
+}
+
+/// Every row behind the hash of its name, sorted, so that namesakes lie together in table order.
+/// A hash table would be read all over for every row, far outside the processor's caches.
+std::vector<std::uint64_t> RijenOpNaam(const Spelertabel& tabel)
+{
+    std::vector<std::uint64_t> rijen;
+    rijen.reserve(static_cast<std::size_t>(tabel.Rijen()));
+    Tekst naam;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        const std::uint64_t hash = std::hash<Tekst>()(ZetVolleNaam(naam, tabel, rij));
+        rijen.push_back(hash << 32U | static_cast<std::uint32_t>(rij));
+    }
+    std::sort(rijen.begin(), rijen.end());
+    return rijen;
+}
+
+/// Per row the next one with the same name; 0 for the last of its name.
+std::vector<int> VolgendeNaamgenoten(const Spelertabel& tabel)
+{
+    const std::vector<std::uint64_t> rijen = RijenOpNaam(tabel);
+    std::vector<int> volgende(rijen.size() + 1, 0);
+    const auto rijVan = [](std::uint64_t element) {
+        return static_cast<int>(element & 0xFFFFFFFF);
+    };
+    Tekst naam;
+    Tekst andere;
+    for (auto een = rijen.begin(); een != rijen.end(); ++een) {
+        const auto verder = std::next(een);
+        if (verder == rijen.end() || *verder >> 32U != *een >> 32U)
+            continue;
+        ZetVolleNaam(naam, tabel, rijVan(*een));
+        // Another name can have the same hash.
+        const auto volgend = std::find_if(verder, rijen.end(), [&](std::uint64_t ander) {
+            return ander >> 32U != *een >> 32U ||
+                   ZetVolleNaam(andere, tabel, rijVan(ander)) == naam;
+        });
+        if (volgend != rijen.end() && *volgend >> 32U == *een >> 32U)
+            volgende[static_cast<std::size_t>(rijVan(*een))] = rijVan(*volgend);
+    }
+    return volgende;
 }
 
 } // namespace
 
 Dubbelen ZoekDubbeleNamen(const Spelertabel& tabel, Tekstblik groepscode)
 {
-    // Per row the next one with the same name; 0 for the last of its name.
-    std::vector<int> volgende(static_cast<std::size_t>(tabel.Rijen()) + 1, 0);
-    std::unordered_map<Tekst, int> laatste;
-    laatste.reserve(volgende.size());
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        const auto [plaats, nieuw] = laatste.try_emplace(VolleNaam(tabel, rij), rij);
-        if (!nieuw) {
-            volgende[static_cast<std::size_t>(plaats->second)] = rij;
-            plaats->second = rij;
-        }
-    }
-
+    const std::vector<int> volgende = VolgendeNaamgenoten(tabel);
     Dubbelen dubbelen;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) != groepscode)
+        if (volgende[static_cast<std::size_t>(rij)] == 0 ||
+            tabel.Cel(rij, Kolom::Groep) != groepscode)
             continue;
         for (int latere = volgende[static_cast<std::size_t>(rij)]; latere != 0;
              latere = volgende[static_cast<std::size_t>(latere)]) {

@@ -17,29 +17,29 @@ constexpr std::size_t BreedteNaamveld = 30;
 constexpr std::array velden{Kolom::Key,        Kolom::Voornaam, Kolom::Tusv,
                             Kolom::Achternaam, Kolom::NBBgr,    Kolom::NBBnr};
 
-void VoegVasteBreedteToe(Tekst& regel, Tekst veld, std::size_t breedte)
+void VoegVasteBreedteToe(Tekst& regel, Tekstblik veld, std::size_t breedte)
 {
-    veld.resize(breedte, ' ');
-    regel += veld;
+    regel += veld.substr(0, breedte);
+    regel.append(breedte - std::min(breedte, veld.size()), ' ');
 }
 
-/// The prefix, with its comma where it has one. Nothing when the value is no number.
-std::optional<Tekst> Voorvoegsel(const Spelertabel& tabel, int rij, Sorteersoort soort)
+/// Group code and column 17, then the surname.
+void VoegGroepEnNaamToe(Tekst& regel, const Spelertabel& tabel, int rij)
 {
-    if (soort == Sorteersoort::NBBgroep) {
-        Tekst regel;
-        VoegVasteBreedteToe(
-            regel, Tekst(tabel.Cel(rij, Kolom::Groep)).append(tabel.Cel(rij, Kolom::NBBgr)),
-            BreedteGroepveld);
-        VoegVasteBreedteToe(regel, Tekst(tabel.Cel(rij, Kolom::Achternaam)), BreedteNaamveld);
-        return regel;
+    const Tekstblik groep = tabel.Cel(rij, Kolom::Groep); // of five characters at the most
+    regel += groep;
+    VoegVasteBreedteToe(regel, tabel.Cel(rij, Kolom::NBBgr), BreedteGroepveld - groep.size());
+    VoegVasteBreedteToe(regel, tabel.Cel(rij, Kolom::Achternaam), BreedteNaamveld);
+}
+
+/// The six fields behind the prefix.
+void VoegVeldenToe(Tekst& regel, const Spelertabel& tabel, int rij)
+{
+    for (const Kolom veld : velden) {
+        regel += tabel.Cel(rij, veld);
+        if (veld != velden.back())
+            regel += ',';
     }
-    const bool opKey = soort == Sorteersoort::Key;
-    auto cijfers = AlsGetal(tabel.Cel(rij, opKey ? Kolom::Key : Kolom::NBBnr),
-                            opKey ? BreedteKey : BreedteNBBnr);
-    if (cijfers)
-        *cijfers += ',';
-    return cijfers;
 }
 
 } // namespace
@@ -47,25 +47,30 @@ std::optional<Tekst> Voorvoegsel(const Spelertabel& tabel, int rij, Sorteersoort
 tl::expected<Sorteerlijst, GeenGetal> VulSorteerlijst(const Spelertabel& tabel, Sorteersoort soort,
                                                       std::optional<Tekst> groepscode)
 {
+    const bool opKey = soort == Sorteersoort::Key;
+    const Kolom kolom = opKey ? Kolom::Key : Kolom::NBBnr;
     Sorteerlijst lijst;
+    Tekst regel;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         if (groepscode && tabel.Cel(rij, Kolom::Groep) != *groepscode)
             continue;
-        if (soort == Sorteersoort::NBBnr && IsBlanco(tabel.Cel(rij, Kolom::NBBnr)))
-            continue;
-        auto regel = Voorvoegsel(tabel, rij, soort);
-        if (!regel) {
-            const Kolom kolom = soort == Sorteersoort::Key ? Kolom::Key : Kolom::NBBnr;
-            return tl::unexpected(GeenGetal{rij, Tekst(tabel.Cel(rij, kolom))});
+        regel.clear();
+        if (soort == Sorteersoort::NBBgroep) {
+            VoegGroepEnNaamToe(regel, tabel, rij);
+        } else {
+            const Tekstblik waarde = tabel.Cel(rij, kolom);
+            if (!opKey && IsBlanco(waarde))
+                continue;
+            const auto cijfers = AlsGetal(waarde, opKey ? BreedteKey : BreedteNBBnr);
+            if (!cijfers)
+                return tl::unexpected(GeenGetal{rij, Tekst(waarde)});
+            regel += *cijfers;
+            regel += ',';
         }
-        for (const Kolom veld : velden) {
-            *regel += tabel.Cel(rij, veld);
-            if (veld != velden.back())
-                *regel += ',';
-        }
-        lijst.push_back(std::move(*regel));
+        VoegVeldenToe(regel, tabel, rij);
+        lijst.regels.push_back(lijst.teksten.Bewaar(regel));
     }
-    Sorteer(lijst);
+    Sorteer(lijst.regels);
     return lijst;
 }
 

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
-#include <numeric>
+#include <cstdint>
+#include <span>
+#include <utility>
 
 namespace plexoran {
 namespace {
@@ -88,6 +89,86 @@ constexpr std::array<Gewicht, 256> MaakGewichten()
 
 constexpr auto gewichten = MaakGewichten();
 
+/// Hands out the weights of a text one by one, and zeros behind its end.
+class Weger {
+  public:
+    explicit Weger(Tekstblik tekst) : plek_(tekst.data()), eind_(tekst.data() + tekst.size()) {}
+
+    unsigned char Volgende()
+    {
+        if (tweede_ != 0)
+            return std::exchange(tweede_, 0);
+        if (plek_ == eind_)
+            return 0;
+        const Gewicht gewicht = gewichten[static_cast<unsigned char>(*plek_++)];
+        tweede_ = gewicht.tweede;
+        return gewicht.eerste;
+    }
+
+  private:
+    const char* plek_;
+    const char* eind_;
+    unsigned char tweede_ = 0;
+};
+
+/// A text and the next of its weights, which compare as numbers.
+struct Sorteerstuk {
+    explicit Sorteerstuk(Tekstblik geheel) : tekst(geheel), weger(geheel) {}
+
+    void NeemVolgende()
+    {
+        for (std::uint64_t& woord : woorden) {
+            woord = 0;
+            for (std::size_t i = 0; i < sizeof(woord); ++i)
+                woord = woord << 8U | weger.Volgende();
+        }
+    }
+
+    std::array<std::uint64_t, 2> woorden{};
+    Tekstblik tekst;
+    Weger weger;
+};
+
+bool KomtVoor(Tekstblik een, Tekstblik ander)
+{
+    Weger eenWeger(een);
+    Weger anderWeger(ander);
+    for (;;) {
+        const unsigned char eenGewicht = eenWeger.Volgende();
+        const unsigned char anderGewicht = anderWeger.Volgende();
+        if (eenGewicht != anderGewicht)
+            return eenGewicht < anderGewicht;
+        if (eenGewicht == 0)
+            return een < ander;
+    }
+}
+
+/// Sorts texts that are equal as far as their weights were taken: some weights at a time as long as
+/// there are many texts with the same ones.
+void SorteerVerder(std::span<Sorteerstuk> stukken, int diepte = 0)
+{
+    constexpr std::size_t weinig = 8;
+    constexpr int diep = 8;
+    if (stukken.size() < weinig || diepte == diep) {
+        std::sort(stukken.begin(), stukken.end(), [](const auto& een, const auto& ander) {
+            return KomtVoor(een.tekst, ander.tekst);
+        });
+        return;
+    }
+    for (Sorteerstuk& stuk : stukken)
+        stuk.NeemVolgende();
+    std::sort(stukken.begin(), stukken.end(),
+              [](const auto& een, const auto& ander) { return een.woorden < ander.woorden; });
+    for (auto begin = stukken.begin(); begin != stukken.end();) {
+        const auto eind = std::find_if(begin, stukken.end(), [&](const Sorteerstuk& stuk) {
+            return stuk.woorden != begin->woorden;
+        });
+        if (eind - begin > 1)
+            SorteerVerder({begin, eind}, diepte + 1);
+        begin = eind;
+    }
+}
+
 } // namespace
 
 Tekst Sorteersleutel(Tekstblik tekst)
@@ -105,18 +186,15 @@ Tekst Sorteersleutel(Tekstblik tekst)
     return sleutel;
 }
 
-void Sorteer(std::vector<Tekst>& teksten)
+void Sorteer(std::vector<Tekstblik>& teksten)
 {
-    std::vector<std::pair<Tekst, std::size_t>> sleutels;
-    sleutels.reserve(teksten.size());
-    for (std::size_t i = 0; i < teksten.size(); ++i)
-        sleutels.emplace_back(Sorteersleutel(teksten[i]), i);
-    std::sort(sleutels.begin(), sleutels.end());
-    std::vector<Tekst> gesorteerd;
-    gesorteerd.reserve(teksten.size());
-    for (const auto& [sleutel, plaats] : sleutels)
-        gesorteerd.push_back(std::move(teksten[plaats]));
-    teksten = std::move(gesorteerd);
+    std::vector<Sorteerstuk> stukken;
+    stukken.reserve(teksten.size());
+    for (const Tekstblik tekst : teksten)
+        stukken.emplace_back(tekst);
+    SorteerVerder(stukken);
+    std::transform(stukken.begin(), stukken.end(), teksten.begin(),
+                   [](const Sorteerstuk& stuk) { return stuk.tekst; });
 }
 
 } // namespace plexoran

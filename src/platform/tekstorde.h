@@ -13,7 +13,7 @@ namespace plexoran {
 /// Keys that compare byte by byte as their texts compare in the text order.
 [[nodiscard]] Tekst Sorteersleutel(Tekstblik tekst);
 
-/// The texts in text order.
-void Sorteer(std::vector<Tekst>& teksten);
+/// Puts the texts in text order. Looks at no more of them than it takes to tell them apart.
+void Sorteer(std::vector<Tekstblik>& teksten);
 
 } // namespace plexoran

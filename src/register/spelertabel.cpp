@@ -1,5 +1,7 @@
 #include "register/spelertabel.h"
 
+#include <algorithm>
+
 namespace plexoran {
 Spelertabel::Spelertabel(Tekst tekst, std::vector<Celgrenzen> rijen)
     : tekst_(std::move(tekst)), rijen_(std::move(rijen))
@@ -33,28 +35,24 @@ void Spelertabel::ZetRij(int rij, const Rijvelden& velden)
 void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
 {
     const Tekst nieuw = AlsVeld(tekst); // a copy, since it may be a view into this table
-    const auto lengte = Grenzen(rij)[AantalKolommen] - Grenzen(rij)[0];
-    MaakRuimte(lengte + nieuw.size() + 1);
-
-    const Celgrenzen oud = Grenzen(rij);
-    const auto plaats = Plaats(kolom);
-    const auto begin = static_cast<std::uint32_t>(tekst_.size());
-    tekst_.append(tekst_, oud[0], oud[plaats] - oud[0]);
-    tekst_ += nieuw;
-    tekst_ += ',';
-    const auto verder = static_cast<std::uint32_t>(tekst_.size());
-    if (plaats + 1 < AantalKolommen) {
-        tekst_.append(tekst_, oud[plaats + 1], oud[AantalKolommen] - oud[plaats + 1] - 1);
-        tekst_ += ',';
+    const auto begin = Grenzen(rij)[Plaats(kolom)];
+    if (Grenzen(rij)[Plaats(kolom) + 1] - begin - 1 == nieuw.size()) {
+        std::copy(nieuw.begin(), nieuw.end(), tekst_.begin() + begin);
+        return;
     }
-    Celgrenzen& grenzen = rijen_[static_cast<std::size_t>(rij - 1)];
-    for (std::size_t i = 0; i < grenzen.size(); ++i)
-        grenzen[i] = i <= plaats ? oud[i] - oud[0] + begin : oud[i] - oud[plaats + 1] + verder;
+    const Celtekst anders{kolom, nieuw};
+    const Celgrenzen grenzen = SchrijfKopie(rij, {&anders, 1});
+    rijen_[static_cast<std::size_t>(rij - 1)] = grenzen;
 }
 
 void Spelertabel::VoegToe(const Rijvelden& velden)
 {
     rijen_.push_back(SchrijfVelden(velden));
+}
+
+void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)
+{
+    rijen_.push_back(SchrijfKopie(rij, anders));
 }
 
 Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
@@ -74,6 +72,43 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
     return grenzen;
 }
 
+Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celtekst> anders)
+{
+    const Celgrenzen& bron = Grenzen(rij);
+    std::size_t lengte = bron[AantalKolommen] - bron[0];
+    for (const Celtekst& cel : anders)
+        lengte += cel.tekst.size() + 1;
+    Tekst kopie; // on its own first, since the texts may be views into this table
+    kopie.reserve(lengte);
+
+    Celgrenzen grenzen{};
+    std::size_t plaats = 0;
+    const auto neemOver = [&](std::size_t tot) { // the cells up to `tot`, as they stand together
+        if (plaats == tot)
+            return;
+        const auto verschil = static_cast<std::uint32_t>(kopie.size()) - bron[plaats];
+        kopie.append(tekst_, bron[plaats], bron[tot] - bron[plaats] - 1);
+        kopie += ',';
+        for (; plaats < tot; ++plaats)
+            grenzen[plaats] = bron[plaats] + verschil;
+    };
+    for (const Celtekst& cel : anders) {
+        assert(Plaats(cel.kolom) >= plaats);
+        neemOver(Plaats(cel.kolom));
+        grenzen[plaats++] = static_cast<std::uint32_t>(kopie.size());
+        kopie += AlsVeld(cel.tekst);
+        kopie += ',';
+    }
+    neemOver(AantalKolommen);
+    grenzen[AantalKolommen] = static_cast<std::uint32_t>(kopie.size());
+
+    MaakRuimte(kopie.size());
+    for (auto& grens : grenzen)
+        grens += static_cast<std::uint32_t>(tekst_.size());
+    tekst_ += kopie;
+    return grenzen;
+}
+
 void Spelertabel::Verwijder(std::span<const int> rijen)
 {
     std::vector<bool> weg(rijen_.size(), false);
@@ -82,28 +117,27 @@ void Spelertabel::Verwijder(std::span<const int> rijen)
         weg[static_cast<std::size_t>(rij - 1)] = true;
     }
 
-    Tekst tekst;
-    tekst.reserve(tekst_.size() + rijen_.size());
-    std::vector<Celgrenzen> over;
-    over.reserve(rijen_.size());
-    for (int rij = 1; rij <= Rijen(); ++rij) {
-        if (weg[static_cast<std::size_t>(rij - 1)])
-            continue;
-        Celgrenzen grenzen = Grenzen(rij);
-        const auto oudBegin = grenzen[1];
-        const auto lengte = grenzen[AantalKolommen] - oudBegin - 1;
-        grenzen[0] = static_cast<std::uint32_t>(tekst.size());
-        tekst += std::to_string(over.size() + 1);
-        tekst += ',';
-        const auto nieuwBegin = static_cast<std::uint32_t>(tekst.size());
-        tekst.append(tekst_, oudBegin, lengte);
-        tekst += ',';
-        for (std::size_t i = 1; i < grenzen.size(); ++i)
-            grenzen[i] = grenzen[i] - oudBegin + nieuwBegin;
-        over.push_back(grenzen);
+    std::size_t over = 0;
+    for (std::size_t i = 0; i < rijen_.size(); ++i) {
+        if (!weg[i])
+            rijen_[over++] = rijen_[i];
     }
-    tekst_ = std::move(tekst);
-    rijen_ = std::move(over);
+    rijen_.resize(over);
+    for (int rij = 1; rij <= Rijen(); ++rij)
+        ZetNr(rij);
+}
+
+/// Gives a row its position as `Nr`: at the end of the old number's bytes where it fits in them.
+void Spelertabel::ZetNr(int rij)
+{
+    const Tekst nr = std::to_string(rij);
+    Celgrenzen& grenzen = rijen_[static_cast<std::size_t>(rij - 1)];
+    if (grenzen[1] - grenzen[0] - 1 < nr.size()) {
+        ZetCel(rij, Kolom::Nr, nr);
+        return;
+    }
+    grenzen[0] = grenzen[1] - 1 - static_cast<std::uint32_t>(nr.size());
+    std::copy(nr.begin(), nr.end(), tekst_.begin() + grenzen[0]);
 }
 
 /// Unused bytes of changed rows are given up when the buffer would outgrow its bounds.

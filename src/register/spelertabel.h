@@ -1,8 +1,10 @@
 // The player table: the register in memory, rows of 18 texts, both counted from 1.
 //
 // The table keeps the bytes of the file in one buffer and, per row, where its 18 cells begin, so
-// that it costs little more than the file. A row that is changed is written anew behind the buffer
-// and its old bytes stay unused until the register is read again, as it is after every save.
+// that it costs little more than the file. A cell is changed where it stands when its length stays
+// the same; else its row is written anew behind the buffer. Bytes that nothing refers to any more,
+// of old rows and of deleted ones, stay unused until the register is read again, as it is after
+// every save.
 #pragma once
 
 #include <array>
@@ -42,6 +44,12 @@ enum class Kolom : int {
 inline constexpr std::array<Tekstblik, AantalKolommen> Kolomnamen{
     "Nr",    "Key",    "Groep", "Voornaam", "Tusv", "Achternaam", "Telef",  "Email", "Adres",
     "Postc", "Plaats", "Land",  "M/V",      "Div1", "Div2",       "Status", "NBBgr", "NBBnr"};
+
+/// What is to stand in a cell.
+struct Celtekst {
+    Kolom kolom;
+    Tekstblik tekst;
+};
 
 /// The 18 texts of a row; element 0 is column 1.
 using Rijvelden = std::array<Tekst, AantalKolommen>;
@@ -84,6 +92,9 @@ class Spelertabel {
     void ZetRij(int rij, const Rijvelden& velden);
     void ZetCel(int rij, Kolom kolom, Tekstblik tekst);
     void VoegToe(const Rijvelden& velden);
+    /// Adds a row that is another one with some of its cells changed: those in `anders`, by rising
+    /// column and none twice.
+    void VoegKopieToe(int rij, std::span<const Celtekst> anders);
 
     /// Takes these rows out and gives every row that stays its new position as `Nr`. Rows may come
     /// in any order and more than once.
@@ -100,7 +111,10 @@ class Spelertabel {
         assert(rij >= 1 && rij <= Rijen());
         return rijen_[static_cast<std::size_t>(rij - 1)];
     }
+    /// Behind the buffer; the row's own bounds are not touched.
     Celgrenzen SchrijfVelden(const Rijvelden& velden);
+    Celgrenzen SchrijfKopie(int rij, std::span<const Celtekst> anders);
+    void ZetNr(int rij);
     void MaakRuimte(std::size_t bytes);
 
     Tekst tekst_;

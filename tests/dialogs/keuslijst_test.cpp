@@ -84,16 +84,6 @@ TEST(Keuslijst, DeKeyIsDeLaatsteZesTekens)
     EXPECT_EQ("", KeyVan(""));
 }
 
-TEST(Sleutelwijzer, DeEersteRijMetDeSleutel)
-{
-    const Sleutelwijzer wijzer(MaakTabel({{"100001"}, {"100002"}, {"100001"}, {""}}));
-    EXPECT_EQ(1, wijzer.Rij("100001"));
-    EXPECT_EQ(2, wijzer.Rij("100002"));
-    EXPECT_EQ(4, wijzer.Rij(""));
-    EXPECT_EQ(0, wijzer.Rij("100003"));
-    EXPECT_EQ(0, wijzer.Rij("10000"));
-}
-
 TEST(Waardenlijst, ElkeWaardeEenKeerInVolgordeVanVerschijnen)
 {
     EXPECT_EQ((std::vector<Tekst>{"b", "geen", "a", "B", " b"}),

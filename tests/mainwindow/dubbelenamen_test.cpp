@@ -128,6 +128,23 @@ TEST(DubbeleNamen, TotEnMetHetMeesteIsHetVolledig)
     EXPECT_TRUE(meer.meer);
 }
 
+/// Among so many names some have the same short hash: that alone makes no double.
+TEST(DubbeleNamen, VeelVerschillendeNamenMetEenDubbele)
+{
+    constexpr int aantal = 250'000;
+    Spelertabel tabel;
+    Rijvelden velden;
+    velden[Plaats(Kolom::Groep)] = "Gr01-";
+    for (int i = 0; i < aantal; ++i) {
+        velden[Plaats(Kolom::Achternaam)] = std::to_string(i);
+        tabel.VoegToe(velden);
+    }
+    velden[Plaats(Kolom::Achternaam)] = "8";
+    velden[Plaats(Kolom::Voornaam)] = "100";
+    tabel.VoegToe(velden);
+    EXPECT_EQ(Paren({{1009, aantal + 1}}), Zoek(tabel));
+}
+
 TEST(DubbeleNamen, DuizendenNaamgenotenHoudenOpBijHetMeeste)
 {
     const Dubbelen dubbelen = ZoekDubbeleNamen(Naamgenoten(20'000, 0, ""), "Gr01-");

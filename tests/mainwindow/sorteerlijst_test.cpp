@@ -16,12 +16,14 @@ constexpr auto opKey = Sorteersoort::Key;
 constexpr auto opNummer = Sorteersoort::NBBnr;
 constexpr auto opGroep = Sorteersoort::NBBgroep;
 
-Sorteerlijst Lijst(const Spelertabel& tabel, Sorteersoort soort,
-                   const std::optional<Tekst>& groep = std::nullopt)
+using Regels = std::vector<Tekst>;
+
+Regels Lijst(const Spelertabel& tabel, Sorteersoort soort,
+             const std::optional<Tekst>& groep = std::nullopt)
 {
     const auto lijst = VulSorteerlijst(tabel, soort, groep);
     if (lijst)
-        return *lijst;
+        return {lijst->regels.begin(), lijst->regels.end()};
     ADD_FAILURE() << "geen getal: " << lijst.error().waarde;
     return {};
 }
@@ -59,38 +61,38 @@ std::optional<Tekst> GewoneRegel(const Rijvelden& rij, Sorteersoort soort)
 
 TEST(Sorteerlijst, OpKey)
 {
-    const Sorteerlijst moet{"000099,99,An,,Bos,,", "100003,100003,Dirk,,Eik,DINSDAG,12345",
-                            "100007,100007,Cor,van der,Adel,A-lijn,  ",
-                            "100012,100012,Bea,de,Cock,A-lijn,100000"};
+    const Regels moet{"000099,99,An,,Bos,,", "100003,100003,Dirk,,Eik,DINSDAG,12345",
+                      "100007,100007,Cor,van der,Adel,A-lijn,  ",
+                      "100012,100012,Bea,de,Cock,A-lijn,100000"};
     EXPECT_EQ(moet, Lijst(VierSpelers(), opKey));
 }
 
 TEST(Sorteerlijst, AlleenDeGroep)
 {
-    const Sorteerlijst moet{"000099,99,An,,Bos,,", "100007,100007,Cor,van der,Adel,A-lijn,  ",
-                            "100012,100012,Bea,de,Cock,A-lijn,100000"};
+    const Regels moet{"000099,99,An,,Bos,,", "100007,100007,Cor,van der,Adel,A-lijn,  ",
+                      "100012,100012,Bea,de,Cock,A-lijn,100000"};
     EXPECT_EQ(moet, Lijst(VierSpelers(), opKey, "Gr01-"));
-    EXPECT_EQ(Sorteerlijst(), Lijst(VierSpelers(), opKey, "Gr02-"));
+    EXPECT_EQ(Regels(), Lijst(VierSpelers(), opKey, "Gr02-"));
 }
 
 TEST(Sorteerlijst, OpNummerZonderDeLegeNummers)
 {
-    const Sorteerlijst moet{"00012345,100003,Dirk,,Eik,DINSDAG,12345",
-                            "00100000,100012,Bea,de,Cock,A-lijn,100000"};
+    const Regels moet{"00012345,100003,Dirk,,Eik,DINSDAG,12345",
+                      "00100000,100012,Bea,de,Cock,A-lijn,100000"};
     EXPECT_EQ(moet, Lijst(VierSpelers(), opNummer));
-    EXPECT_EQ(Sorteerlijst{moet[0]}, Lijst(VierSpelers(), opNummer, "Gr05-"));
+    EXPECT_EQ(Regels{moet[0]}, Lijst(VierSpelers(), opNummer, "Gr05-"));
 }
 
 /// Meant: no comma between the fixed part and the key.
 TEST(Sorteerlijst, OpGroepEnNaamZonderKommaNaHetVoorvoegsel)
 {
-    const Sorteerlijst moet{"Gr01-       Bos                           99,An,,Bos,,",
-                            "Gr01-A-lijn Adel                          100007,Cor,van der,Adel,"
-                            "A-lijn,  ",
-                            "Gr01-A-lijn Cock                          100012,Bea,de,Cock,A-lijn,"
-                            "100000",
-                            "Gr05-DINSDAGEik                           100003,Dirk,,Eik,DINSDAG,"
-                            "12345"};
+    const Regels moet{"Gr01-       Bos                           99,An,,Bos,,",
+                      "Gr01-A-lijn Adel                          100007,Cor,van der,Adel,"
+                      "A-lijn,  ",
+                      "Gr01-A-lijn Cock                          100012,Bea,de,Cock,A-lijn,"
+                      "100000",
+                      "Gr05-DINSDAGEik                           100003,Dirk,,Eik,DINSDAG,"
+                      "12345"};
     EXPECT_EQ(moet, Lijst(VierSpelers(), opGroep));
 }
 
@@ -101,8 +103,8 @@ TEST(Sorteerlijst, HetVoorvoegselVanGroepEnNaamWordtAfgekapt)
         MaakTabel({{"100001", "Gr01-", "An", "", lang + "Z", "MAANDAGEN", "1"},
                    {"100002", "Gr01-", "An", "", lang + "A", "MAANDAGAVOND", "1"}});
     // Beyond its width a field does not count; what follows the prefix decides.
-    const Sorteerlijst moet{"Gr01-MAANDAG" + lang + "100001,An,," + lang + "Z,MAANDAGEN,1",
-                            "Gr01-MAANDAG" + lang + "100002,An,," + lang + "A,MAANDAGAVOND,1"};
+    const Regels moet{"Gr01-MAANDAG" + lang + "100001,An,," + lang + "Z,MAANDAGEN,1",
+                      "Gr01-MAANDAG" + lang + "100002,An,," + lang + "A,MAANDAGAVOND,1"};
     EXPECT_EQ(moet, Lijst(tabel, opGroep));
 }
 
@@ -125,8 +127,8 @@ TEST(Sorteerlijst, GetallenInHunVolgordeOokMetNullenEnSpaties)
                                          {"2", "Gr05-", "", "", "B", "", " 12345 "},
                                          {"3", "Gr05-", "", "", "C", "", "99999999"},
                                          {"4", "Gr05-", "", "", "D", "", "7"}});
-    const Sorteerlijst moet{"00000007,4,,,D,,7", "00012345,2,,,B,, 12345 ",
-                            "00100000,1,,,A,,00100000", "99999999,3,,,C,,99999999"};
+    const Regels moet{"00000007,4,,,D,,7", "00012345,2,,,B,, 12345 ", "00100000,1,,,A,,00100000",
+                      "99999999,3,,,C,,99999999"};
     EXPECT_EQ(moet, Lijst(tabel, opNummer));
 }
 
@@ -134,7 +136,7 @@ TEST(Sorteerlijst, GelijkeRegelsBlijvenAllebei)
 {
     const Spelertabel tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "", ""},
                                          {"100001", "Gr01-", "An", "", "Bos", "", ""}});
-    const Sorteerlijst moet(2, "100001,100001,An,,Bos,,");
+    const Regels moet(2, "100001,100001,An,,Bos,,");
     EXPECT_EQ(moet, Lijst(tabel, opKey));
 }
 
@@ -162,6 +164,30 @@ TEST(Sorteerlijst, EenNummerDatGeenGetalIsGeeftGeenLijst)
     EXPECT_EQ(2U, Lijst(tabel, opKey).size());
 }
 
+/// The lines are views; the list that owns their texts is handed on by moving it.
+TEST(Sorteerlijst, DeRegelsBlijvenHeelAlsDeLijstVerhuist)
+{
+    const Tekst lang(100'000, 'x');
+    std::vector<Proefspeler> spelers;
+    for (int i = 1; i <= 2000; ++i)
+        spelers.push_back(
+            {std::to_string(100'000 + i), "Gr01-", "An", "", "Bos" + lang.substr(0, 90)});
+    spelers[700].voornaam = lang;
+    Sorteerlijst lijst;
+    {
+        auto gevuld = VulSorteerlijst(MaakTabel(spelers), opKey, std::nullopt);
+        ASSERT_TRUE(gevuld);
+        lijst = std::move(*gevuld);
+    }
+    ASSERT_EQ(2000U, lijst.regels.size());
+    for (std::size_t i = 0; i < lijst.regels.size(); ++i) {
+        const Proefspeler& speler = spelers[i];
+        ASSERT_EQ(speler.key + "," + speler.key + "," + speler.voornaam + ",," + speler.achternaam +
+                      ",,",
+                  lijst.regels[i]);
+    }
+}
+
 TEST(Sorteerlijst, VeldenZonderVoorvoegsel)
 {
     EXPECT_EQ("99,An,,Bos,,", VeldenVan("000099,99,An,,Bos,,", opKey));
@@ -177,7 +203,7 @@ TEST(Sorteerlijst, GelijkAanDeGewoneOpDuizendenKleineRegisters)
         const Spelertabel tabel = ToevalligeTabel(toeval);
         for (const Sorteersoort soort : {opKey, opNummer, opGroep}) {
             for (const bool alle : {false, true}) {
-                Sorteerlijst moet;
+                Regels moet;
                 for (const Rijvelden& rij : AlleRijen(tabel)) {
                     const auto regel = GewoneRegel(rij, soort);
                     if (!regel || (!alle && rij[2] != "Gr02-"))

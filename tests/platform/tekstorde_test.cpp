@@ -145,12 +145,53 @@ TEST(Tekstorde, GelijkAanDeGewoneVergelijking)
 
 TEST(Tekstorde, SorteertEnHoudtDubbeleTeksten)
 {
-    std::vector<Tekst> teksten{"bos", "9", "Zo\xEB", "Bos", "", "\xC5s", "bos", "Zoa", "'t Hof"};
+    std::vector<Tekstblik> teksten{"bos",   "9",   "Zo\xEB", "Bos",   "",
+                                   "\xC5s", "bos", "Zoa",    "'t Hof"};
     Sorteer(teksten);
-    const std::vector<Tekst> gesorteerd{"",    "'t Hof", "9",   "\xC5s", "Bos",
-                                        "bos", "bos",    "Zoa", "Zo\xEB"};
+    const std::vector<Tekstblik> gesorteerd{"",    "'t Hof", "9",   "\xC5s", "Bos",
+                                            "bos", "bos",    "Zoa", "Zo\xEB"};
     EXPECT_EQ(gesorteerd, teksten);
-    std::vector<Tekst> geen;
+    std::vector<Tekstblik> geen;
     Sorteer(geen);
     EXPECT_TRUE(geen.empty());
+}
+
+/// Beginnings in common of every length, characters that count as two letters astride every place,
+/// texts that are equal but for case or accent, and more of each than are compared one by one.
+TEST(Tekstorde, SorteertZoalsDeSleutelsOokLangeGelijkeTeksten)
+{
+    std::mt19937 toeval(21);
+    const auto stuk = [&] {
+        return Tekst(toeval() % 20, "aAbBe,9 \xC6\xE6\xDF\xFE"[toeval() % 12]);
+    };
+    for (int keer = 0; keer < 300; ++keer) {
+        std::vector<Tekst> stukken;
+        for (int i = 0; i < 4; ++i)
+            stukken.push_back(stuk());
+        std::vector<Tekst> teksten(toeval() % 200);
+        for (Tekst& tekst : teksten) {
+            const auto delen = toeval() % (keer % 10 == 0 ? 40 : 6);
+            for (std::size_t i = 0; i < delen; ++i)
+                tekst += stukken[toeval() % 8 == 0 ? toeval() % 4 : i % 4];
+        }
+        std::vector<Tekstblik> gesorteerd(teksten.begin(), teksten.end());
+        Sorteer(gesorteerd);
+        std::vector<Tekst> moet = teksten;
+        std::sort(moet.begin(), moet.end(), [](const Tekst& een, const Tekst& ander) {
+            return GewoneSleutel(een) < GewoneSleutel(ander);
+        });
+        ASSERT_EQ(std::vector<Tekstblik>(moet.begin(), moet.end()), gesorteerd);
+    }
+}
+
+TEST(Tekstorde, SorteertVeelHeelLangeGelijkeTeksten)
+{
+    const Tekst lang(1'000'000, 'a');
+    const std::vector<Tekst> bron{lang + "b", lang, lang + "B", lang.substr(1) + "A", lang,
+                                  lang + "c", lang, lang + "a", lang + "9",           "a"};
+    std::vector<Tekstblik> teksten(bron.begin(), bron.end());
+    Sorteer(teksten);
+    const std::vector<Tekstblik> gesorteerd{bron[9], bron[3], bron[1], bron[4], bron[6],
+                                            bron[8], bron[7], bron[2], bron[0], bron[5]};
+    EXPECT_EQ(gesorteerd, teksten);
 }

@@ -114,6 +114,109 @@ TEST(Spelertabel, KommaEnRegeleindeKunnenNietInEenCel)
     EXPECT_EQ(tabel.Cel(6, Kolom::NBBnr), "_ ");
 }
 
+/// Shorter, as long and longer than what stands there, in every column.
+TEST(Spelertabel, ZetCelInElkeKolomEnElkeLengte)
+{
+    for (std::size_t kolom = 0; kolom < AantalKolommen; ++kolom) {
+        Spelertabel tabel = VijfRijen();
+        std::vector<Rijvelden> moet;
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+            moet.push_back(tabel.Velden(rij));
+        for (const char* tekst : {"", "x", "yy", "Gr07-", "100099", "zz", ""}) {
+            for (const std::size_t rij : {std::size_t{4}, std::size_t{0}, std::size_t{2}}) {
+                moet[rij][kolom] = tekst;
+                // Of the group five characters count.
+                if (kolom == Plaats(Kolom::Groep))
+                    moet[rij][kolom] = moet[rij][kolom].substr(0, LengteGroepscode);
+                tabel.ZetCel(static_cast<int>(rij) + 1, static_cast<Kolom>(kolom + 1), tekst);
+                for (std::size_t i = 0; i < moet.size(); ++i)
+                    ASSERT_EQ(moet[i], tabel.Velden(static_cast<int>(i) + 1)) << kolom << tekst;
+            }
+        }
+    }
+}
+
+TEST(Spelertabel, KommaEnRegeleindeInDeEersteEnDeLaatsteCel)
+{
+    for (const Kolom kolom : {Kolom::Nr, Kolom::NBBnr}) {
+        Spelertabel tabel = VijfRijen();
+        const Rijvelden buur = tabel.Velden(4);
+        tabel.ZetCel(3, kolom, "1,2\r3\n");
+        EXPECT_EQ(tabel.Cel(3, kolom), "1_2 3 ");
+        tabel.ZetCel(3, kolom, "\n,\r4,5"); // as long as what stands there
+        EXPECT_EQ(tabel.Cel(3, kolom), " _ 4_5");
+        EXPECT_EQ(tabel.Cel(3, Kolom::Key), "100003");
+        EXPECT_EQ(tabel.Cel(3, Kolom::Status), "overl");
+        EXPECT_EQ(buur, tabel.Velden(4));
+    }
+}
+
+TEST(Spelertabel, ZetCelMetEenBlikOpEenDeelVanDezelfdeCel)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.ZetCel(1, Kolom::Key, tabel.Cel(1, Kolom::Key)); // as long as it is
+    EXPECT_EQ(tabel.Cel(1, Kolom::Key), "100001");
+    tabel.ZetCel(1, Kolom::Key, tabel.Cel(2, Kolom::Key));
+    EXPECT_EQ(tabel.Cel(1, Kolom::Key), "100005");
+    tabel.ZetCel(1, Kolom::Key, tabel.Cel(1, Kolom::Key).substr(3));
+    EXPECT_EQ(tabel.Cel(1, Kolom::Key), "005");
+    tabel.ZetCel(1, Kolom::NBBnr, tabel.Cel(1, Kolom::Key));
+    EXPECT_EQ(tabel.Cel(1, Kolom::NBBnr), "005");
+    tabel.ZetCel(1, Kolom::Nr, tabel.Cel(1, Kolom::NBBnr).substr(1, 1));
+    EXPECT_EQ(tabel.Cel(1, Kolom::Nr), "0");
+}
+
+TEST(Spelertabel, VoegKopieToeVerandertAlleenDeGegevenCellen)
+{
+    Spelertabel tabel = VijfRijen();
+    tabel.VoegKopieToe(5, std::vector<Celtekst>{{Kolom::Nr, "x"},
+                                                {Kolom::Key, "100043"},
+                                                {Kolom::Voornaam, ""},
+                                                {Kolom::Adres, "a,b\nc"},
+                                                {Kolom::NBBnr, "7"}});
+    tabel.VoegKopieToe(2, {});
+    tabel.VoegKopieToe(6, std::vector<Celtekst>{{Kolom::NBBgr, "B"}});
+    ASSERT_EQ(tabel.Rijen(), 8);
+    EXPECT_EQ(tabel.Cel(6, Kolom::Nr), "x");
+    EXPECT_EQ(Cellen(tabel, 5),
+              "100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,een,twee,,,");
+    EXPECT_EQ(Cellen(tabel, 6),
+              "100043,Gr50-,,,Fuik,06-1,e@f.example,a_b c,1234 AB,Ede,NL,V,een,twee,,,7");
+    EXPECT_EQ(tabel.Velden(7), tabel.Velden(2));
+    EXPECT_EQ(Cellen(tabel, 8),
+              "100043,Gr50-,,,Fuik,06-1,e@f.example,a_b c,1234 AB,Ede,NL,V,een,twee,,B,7");
+    tabel.ZetCel(7, Kolom::Plaats, "Oss");
+    EXPECT_EQ(tabel.Cel(2, Kolom::Plaats), "");
+}
+
+TEST(Spelertabel, VoegKopieToeMetBlikkenOpDeTabelZelf)
+{
+    Spelertabel tabel = VijfRijen();
+    for (int keer = 0; keer < 100; ++keer) { // long enough for the buffer to move
+        const int laatste = tabel.Rijen();
+        tabel.VoegKopieToe(laatste,
+                           std::vector<Celtekst>{{Kolom::Key, tabel.Cel(1, Kolom::Key)},
+                                                 {Kolom::Email, tabel.Cel(5, Kolom::Email)},
+                                                 {Kolom::NBBnr, tabel.Cel(laatste, Kolom::Nr)}});
+        Rijvelden moet = tabel.Velden(laatste);
+        moet[Plaats(Kolom::Key)] = "100001";
+        moet[Plaats(Kolom::Email)] = "e@f.example";
+        moet[Plaats(Kolom::NBBnr)] = "5";
+        ASSERT_EQ(moet, tabel.Velden(laatste + 1));
+    }
+}
+
+/// The last cell of the file has no separator behind it, the group's name stands behind its code.
+TEST(Spelertabel, VoegKopieToeVanEenLaatsteRegelZonderEinde)
+{
+    Spelertabel tabel = Tabel("1,100001,Gr01-Leden,An,,Bos,,,,,,,,,,,,12");
+    tabel.VoegKopieToe(1, {});
+    tabel.VoegKopieToe(1, std::vector<Celtekst>{{Kolom::Groep, "Gr02-"}, {Kolom::NBBgr, "x"}});
+    EXPECT_EQ(tabel.Velden(2), tabel.Velden(1));
+    EXPECT_EQ(Cellen(tabel, 2), "100001,Gr01-,An,,Bos,,,,,,,,,,,,12");
+    EXPECT_EQ(Cellen(tabel, 3), "100001,Gr02-,An,,Bos,,,,,,,,,,,x,12");
+}
+
 TEST(Spelertabel, VanDeGroepTellenVijfTekens)
 {
     Spelertabel tabel = Tabel("1,100001,Gr01-Leden,An,,Bos,,,,,,,,,,,,x\r\n");
@@ -183,6 +286,26 @@ TEST(Spelertabel, VerwijderLaatEenRijMetLeegNummerStaan)
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100001;100003;");
 }
 
+/// A number that does not fit where the old one stands.
+TEST(Spelertabel, VerwijderMaaktOokPlaatsVoorEenLangerNummer)
+{
+    Spelertabel tabel;
+    for (int rij = 0; rij < 120; ++rij) {
+        Rijvelden velden = Genummerd('x');
+        velden[0] = rij % 3 == 0 ? "" : rij % 3 == 1 ? "7" : "000000123";
+        velden[1] = std::to_string(rij);
+        tabel.VoegToe(velden);
+    }
+    tabel.Verwijder(std::vector<int>{1, 60, 120});
+    ASSERT_EQ(tabel.Rijen(), 117);
+    for (int rij = 1; rij <= 117; ++rij) {
+        Rijvelden moet = Genummerd('x');
+        moet[0] = std::to_string(rij);
+        moet[1] = std::to_string(rij < 59 ? rij : rij + 1);
+        ASSERT_EQ(tabel.Velden(rij), moet);
+    }
+}
+
 TEST(Spelertabel, VerwijderNaWijzigen)
 {
     Spelertabel tabel = VijfRijen();
@@ -208,7 +331,7 @@ TEST(Spelertabel, DoetAlsEenGewoneLijst)
         lijst.push_back(tabel.Velden(rij));
 
     for (int stap = 0; stap < stappen; ++stap) {
-        const int soort = lijst.empty() ? 0 : tot(10);
+        const int soort = lijst.empty() ? 0 : tot(11);
         const auto plaats = static_cast<std::size_t>(tot(std::max<std::size_t>(lijst.size(), 1)));
         const int rij = static_cast<int>(plaats) + 1;
         if (soort < 3 && lijst.size() < 200) {
@@ -218,7 +341,13 @@ TEST(Spelertabel, DoetAlsEenGewoneLijst)
             velden[2] = velden[2].substr(0, 5);
             tabel.VoegToe(velden);
             lijst.push_back(velden);
-        } else if (soort < 9) {
+        } else if (soort == 3 && lijst.size() < 200) {
+            tabel.VoegKopieToe(
+                rij, std::vector<Celtekst>{{Kolom::Key, lijst[0][1]}, {Kolom::NBBnr, "12"}});
+            lijst.push_back(lijst[plaats]);
+            lijst.back()[1] = lijst[0][1];
+            lijst.back()[17] = "12";
+        } else if (soort < 10) {
             const auto kolom = static_cast<std::size_t>(tot(18));
             const Tekst tekst(static_cast<std::size_t>(tot(6)), static_cast<char>('A' + tot(26)));
             tabel.ZetCel(rij, static_cast<Kolom>(kolom + 1), tekst);

@@ -1,0 +1,42 @@
+// Keeps many texts at the cost of their bytes: one behind the other in large blocks.
+#pragma once
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "platform/tekst.h"
+
+namespace plexoran {
+
+class Tekstvoorraad {
+  public:
+    /// A copy that stays where it is as long as the store lives, also when the store is moved.
+    Tekstblik Bewaar(Tekstblik tekst)
+    {
+        if (blokken_.empty() || blokken_.back().grootte - blokken_.back().vol < tekst.size())
+            blokken_.emplace_back(std::max(Blokgrootte, tekst.size()));
+        Blok& blok = blokken_.back();
+        char* const begin = blok.tekens.get() + blok.vol;
+        std::copy(tekst.begin(), tekst.end(), begin);
+        blok.vol += tekst.size();
+        return {begin, tekst.size()};
+    }
+
+  private:
+    static constexpr std::size_t Blokgrootte = 65536;
+
+    struct Blok {
+        explicit Blok(std::size_t bytes)
+            : tekens(std::make_unique_for_overwrite<char[]>(bytes)), grootte(bytes)
+        {}
+
+        std::unique_ptr<char[]> tekens;
+        std::size_t grootte;
+        std::size_t vol = 0;
+    };
+
+    std::vector<Blok> blokken_;
+};
+
+} // namespace plexoran

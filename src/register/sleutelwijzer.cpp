@@ -1,0 +1,65 @@
+#include "register/sleutelwijzer.h"
+
+#include <bit>
+#include <functional>
+
+namespace plexoran {
+namespace {
+
+constexpr std::size_t Kort = 7;
+constexpr std::uint64_t lang = std::uint64_t{1} << 63U;
+
+/// The characters of a short key with its length in front, so that most keys need not be looked up
+/// in the table. Long keys have the top bit set.
+std::uint64_t Merk(Tekstblik key)
+{
+    if (key.size() > Kort)
+        return std::hash<Tekstblik>()(key) | lang;
+    std::uint64_t merk = key.size();
+    for (const char teken : key)
+        merk = merk << 8U | static_cast<unsigned char>(teken);
+    return merk;
+}
+
+/// Keys that differ in their last digit only, as most neighbours in a register do, lie together in
+/// the processor's cache.
+std::size_t Hash(std::uint64_t merk)
+{
+    constexpr std::uint64_t menger = 0x9E3779B97F4A7C15U;
+    const std::uint64_t begin = (merk >> 4U) * menger;
+    return static_cast<std::size_t>(begin >> 32U << 4U | (merk & 15U));
+}
+
+} // namespace
+
+Sleutelwijzer::Sleutelwijzer(const Spelertabel& tabel)
+    : tabel_(tabel), vakken_(std::bit_ceil(2 * static_cast<std::size_t>(tabel.Rijen()) + 1))
+{
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        const Tekstblik key = tabel.Cel(rij, Kolom::Key);
+        const std::uint64_t merk = Merk(key);
+        Vak& vak = vakken_[Plek(key, merk)];
+        if (vak.rij == 0)
+            vak = {merk, rij};
+    }
+}
+
+int Sleutelwijzer::Rij(Tekstblik key) const
+{
+    return vakken_[Plek(key, Merk(key))].rij;
+}
+
+/// The place of the key, or else the free one where it belongs.
+std::size_t Sleutelwijzer::Plek(Tekstblik key, std::uint64_t merk) const
+{
+    const std::size_t masker = vakken_.size() - 1;
+    std::size_t plek = Hash(merk) & masker;
+    for (; vakken_[plek].rij != 0; plek = (plek + 1) & masker) {
+        const Vak& vak = vakken_[plek];
+        if (vak.merk == merk && ((merk & lang) == 0 || tabel_.Cel(vak.rij, Kolom::Key) == key))
+            break;
+    }
+    return plek;
+}
+
+} // namespace plexoran
