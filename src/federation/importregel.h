@@ -1,0 +1,41 @@
+// The import line: one federation member as the import window lists it and merges it.
+#pragma once
+
+#include <array>
+
+#include "platform/tekst.h"
+
+namespace plexoran {
+
+/// Which optional data travel along; the fields of the others are present but empty.
+struct Importkeuzes {
+    bool naw = true;   ///< address fields
+    bool tel = true;   ///< telephone
+    bool email = true; ///< e-mail
+    bool mv = true;    ///< sex
+};
+
+inline constexpr std::size_t AantalImportvelden = 11;
+
+/// The places of the fields in an import line, which joins them by commas without any quoting: a
+/// comma inside a field splits it in two when the line is split again.
+enum class Importveld : std::size_t {
+    Voornaam,
+    Tusv,
+    Achternaam,
+    Adres,
+    Postc,
+    Plaats,
+    Telef,
+    Email,
+    Land,
+    MV,
+    NBBnr,
+};
+
+/// A line split on its commas; fields that a short line lacks are empty, what follows the
+/// eleventh is left out.
+using Importvelden = std::array<Tekstblik, AantalImportvelden>;
+[[nodiscard]] Importvelden SplitsImportregel(Tekstblik regel);
+
+} // namespace plexoran

@@ -1,0 +1,47 @@
+// Reading one member file of the federation, whatever its source, into import lines.
+#pragma once
+
+#include <vector>
+
+#include "federation/importregel.h"
+#include "platform/schijf.h"
+#include "platform/voortgang.h"
+
+namespace plexoran {
+
+/// The sources, numbered as the options of the import window.
+enum class Ledenbron { Database = 1, Csv, XmlNbb3, XmlNbb4 };
+
+/// What a reading needs to know beside the name of the member file.
+struct Ledenopdracht {
+    Ledenbron bron = Ledenbron::Csv;
+    Pad map;           ///< chosen folder of the files; not used for the database
+    Pad programmamap;  ///< where the intermediate file comes
+    Pad LedenDatabase; ///< used for the database only
+    Importkeuzes keuzes;
+};
+
+/// The name of the subgroup: up to the first blank or, without one, up to the first full stop.
+[[nodiscard]] Tekst SubgroepUitNaam(Tekstblik naam);
+
+/// The intermediate file of a subgroup.
+[[nodiscard]] Pad Tussenbestand(const Pad& programmamap, Tekstblik subgroep);
+
+struct Ledenlezing {
+    std::vector<Tekst> lstN1;      ///< import lines in the order of the file
+    std::vector<Tekst> metIsTeken; ///< lines left out because of a "="
+    int teKorteRegel =
+        0; ///< the line, from 1, with too few columns at which reading ended; 0: none
+    std::size_t vervangenTekens = 0; ///< characters that the code page lacks
+};
+
+/// Reads the member file `naam`. On an error nothing of it is imported.
+[[nodiscard]] Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdracht,
+                                                     Tekstblik naam,
+                                                     const Voortgang& voortgang = {});
+
+/// The names of those files of `namen` in `map` that are of the source's XML kind, in their order.
+[[nodiscard]] std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map,
+                                                const std::vector<Tekst>& namen, Ledenbron bron);
+
+} // namespace plexoran
