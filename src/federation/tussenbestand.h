@@ -31,13 +31,22 @@ enum class Lidveld : std::size_t {
     Email,
 };
 
-/// "M", "V" or empty.
+/// "M" for "MAN" and "MALE", "V" for "VROUW" and "FEMALE", in capitals or not; empty for any other
+/// text, also for one with blanks around it.
 [[nodiscard]] Tekst GeslachtUit(Tekstblik tekst);
 
-/// Takes out leading characters with a code above 240 when the number, trimmed, is not empty.
+/// Without the leading characters with a code above 240, which byte order marks leave; a number of
+/// blanks only is handed back as it is. The mark of UTF-8 begins with 239 and stays.
 [[nodiscard]] Tekstblik ZonderVoorloop(Tekstblik nummer);
 
-/// Replaces the intermediate file.
+/// Adds the line of a member to the text of the file. A line end inside a field becomes a blank, a
+/// CR LF one: lines are members.
+void VoegLidToe(Tekst& regels, const Lidrij& lid);
+
+/// Replaces the intermediate file by the lines and the CR LF that closes them.
+[[nodiscard]] Uitkomst<void> SchrijfTussenregels(Schijf& schijf, const Pad& pad, Tekst regels);
+
+/// The same for members that stand in memory already.
 [[nodiscard]] Uitkomst<void> SchrijfTussenbestand(Schijf& schijf, const Pad& pad,
                                                   const std::vector<Lidrij>& leden);
 
