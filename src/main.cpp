@@ -4,6 +4,7 @@
 #include "afbeeldingen.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "opdrachtregel.h"
+#include "platform/accesskind.h"
 #include "platform/echteSchijf.h"
 #include "platform/programma.h"
 #include "platform/scherm/inrichting.h"
@@ -12,6 +13,8 @@ using namespace plexoran;
 
 int main(int argc, char** argv)
 {
+    if (const auto eindstatus = AlsAccesskind(argc, argv))
+        return *eindstatus;
     const Opdrachten opdrachten = LeesOpdrachtregel(argc, argv);
     if (opdrachten.eindstatus)
         return *opdrachten.eindstatus;

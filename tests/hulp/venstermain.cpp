@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/accesskind.h"
 #include "platform/scherm/inrichting.h"
 
 namespace {
@@ -32,6 +33,8 @@ void Vang(QtMsgType soort, const QMessageLogContext&, const QString& tekst)
 
 int main(int argc, char** argv)
 {
+    if (const auto eindstatus = plexoran::AlsAccesskind(argc, argv))
+        return *eindstatus; // the running program is its own child, as in production
     ZetAlsLeeg("QT_QPA_PLATFORM", "offscreen");
     ZetAlsLeeg("QT_FONT_DPI", "96");
     testing::InitGoogleTest(&argc, argv);
