@@ -1,6 +1,7 @@
 // Reading one member file of the federation, whatever its source, into import lines.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "federation/importregel.h"
@@ -30,17 +31,23 @@ struct Ledenopdracht {
 struct Ledenlezing {
     std::vector<Tekst> lstN1;      ///< import lines in the order of the file
     std::vector<Tekst> metIsTeken; ///< lines left out because of a "="
-    int teKorteRegel =
-        0; ///< the line, from 1, with too few columns at which reading ended; 0: none
+    int teKorteRegel = 0; ///< line, from 1, at which reading ended for want of columns; 0: none
     std::size_t vervangenTekens = 0; ///< characters that the code page lacks
+    std::optional<Fout> nietGeladen; ///< an NBBR-4 file that could not be loaded has no members
 };
 
-/// Reads the member file `naam`. On an error nothing of it is imported.
+/// Reads the member file `naam`; for the database that is an entry of its list. All sources but the
+/// CSV go by way of the intermediate file, which is left on the disk. On an error nothing is
+/// imported: for XML and CSV it is `Beschadigd` when the file was read but is not what it should
+/// be, with the line and what the parser said. The answer of `voortgang` is not looked at, except
+/// by the database reader.
 [[nodiscard]] Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdracht,
                                                      Tekstblik naam,
                                                      const Voortgang& voortgang = {});
 
 /// The names of those files of `namen` in `map` that are of the source's XML kind, in their order.
+/// Member files hold "<ReportableMember>", those of NBBR-4 also "<LeagueId>"; a file that cannot be
+/// read is of no kind.
 [[nodiscard]] std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map,
                                                 const std::vector<Tekst>& namen, Ledenbron bron);
 

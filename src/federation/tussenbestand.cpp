@@ -7,18 +7,9 @@
 namespace plexoran {
 namespace {
 
-/// A text that went into the file with its line ends would come back as several members.
-void VoegVeldToe(Tekst& uit, Tekstblik veld)
+bool HeeftRegeleinde(Tekstblik tekst)
 {
-    for (auto eind = veld.find_first_of("\r\n"); eind != Tekstblik::npos;
-         eind = veld.find_first_of("\r\n")) {
-        uit += veld.substr(0, eind);
-        uit += ' ';
-        const bool paar = veld.substr(eind, 2) == "\r\n";
-        veld.remove_prefix(eind + (paar ? 2 : 1));
-    }
-    uit += veld;
-    uit += ';';
+    return tekst.find('\n') != Tekstblik::npos || tekst.find('\r') != Tekstblik::npos;
 }
 
 } // namespace
@@ -43,10 +34,27 @@ Tekstblik ZonderVoorloop(Tekstblik nummer)
     return nummer;
 }
 
+Tekst ZonderRegeleinden(Tekstblik tekst)
+{
+    Tekst uit;
+    uit.reserve(tekst.size());
+    for (std::size_t i = 0; i < tekst.size(); ++i) {
+        if (tekst.substr(i, 2) == "\r\n")
+            ++i;
+        uit += tekst[i] == '\r' || tekst[i] == '\n' ? ' ' : tekst[i];
+    }
+    return uit;
+}
+
 void VoegLidToe(Tekst& regels, const Lidrij& lid)
 {
-    for (const Tekst& veld : lid)
-        VoegVeldToe(regels, veld);
+    for (const Tekst& veld : lid) {
+        if (HeeftRegeleinde(veld))
+            regels += ZonderRegeleinden(veld);
+        else
+            regels += veld;
+        regels += ';';
+    }
     regels += "\r\n";
 }
 

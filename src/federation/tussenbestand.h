@@ -39,6 +39,9 @@ enum class Lidveld : std::size_t {
 /// blanks only is handed back as it is. The mark of UTF-8 begins with 239 and stays.
 [[nodiscard]] Tekstblik ZonderVoorloop(Tekstblik nummer);
 
+/// Every line end replaced by a blank, a CR LF by one.
+[[nodiscard]] Tekst ZonderRegeleinden(Tekstblik tekst);
+
 /// Adds the line of a member to the text of the file. A line end inside a field becomes a blank, a
 /// CR LF one: lines are members.
 void VoegLidToe(Tekst& regels, const Lidrij& lid);

@@ -1,0 +1,103 @@
+#include "federation/ledenbestand.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "federation/ledencsv.h"
+#include "federation/ledendatabase.h"
+#include "federation/ledentekst.h"
+#include "federation/ledenxml.h"
+#include "federation/tussenbestand.h"
+#include "platform/getal.h"
+
+namespace plexoran {
+namespace {
+
+/// Sources that are converted first are halfway when that is done.
+Voortgang EersteHelft(const Voortgang& voortgang)
+{
+    if (!voortgang)
+        return {};
+    return [&](std::size_t gedaan, std::size_t geheel) { return voortgang(gedaan, 2 * geheel); };
+}
+
+Voortgang TweedeHelft(const Voortgang& voortgang)
+{
+    if (!voortgang)
+        return {};
+    return [&](std::size_t gedaan, std::size_t geheel) {
+        return voortgang(geheel + gedaan, 2 * geheel);
+    };
+}
+
+/// The number of a member file of the database, in the last three characters of its entry.
+int Databasenummer(Tekstblik naam)
+{
+    constexpr std::size_t lengte = 3;
+    return Geheel32(naam.substr(naam.size() - std::min(naam.size(), lengte))).value_or(0);
+}
+
+Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Tekstblik naam,
+                             const Pad& tussenbestand, const Voortgang& voortgang)
+{
+    const Pad bestand = Samen(opdracht.map, naam);
+    switch (opdracht.bron) {
+    case Ledenbron::XmlNbb3:
+        return ConverteerNBB3XML(schijf, bestand, tussenbestand, voortgang);
+    case Ledenbron::XmlNbb4:
+        return ConverteerNBB4XML(schijf, bestand, tussenbestand, voortgang);
+    default:
+        return HaalLeden(schijf, opdracht.LedenDatabase, Databasenummer(naam), tussenbestand,
+                         voortgang)
+            .map([](std::size_t vervangen) {
+                return Xmlomzetting{vervangen, std::nullopt};
+            });
+    }
+}
+
+Uitkomst<Ledenlezing> LeesBestand(Schijf& schijf, const Pad& bestand, const Importkeuzes& keuzes,
+                                  const Voortgang& voortgang)
+{
+    auto inhoud = LeesLedentekst(schijf, bestand);
+    if (!inhoud)
+        return tl::unexpected(std::move(inhoud.error()));
+    auto lezing = LeesLedencsv(*inhoud, keuzes, voortgang);
+    if (!lezing)
+        lezing.error().bestand = schijf.Toonpad(bestand);
+    return lezing;
+}
+
+} // namespace
+
+Tekst SubgroepUitNaam(Tekstblik naam)
+{
+    const auto blanco = naam.find(' ');
+    return Tekst(naam.substr(0, blanco != Tekstblik::npos ? blanco : naam.find('.')));
+}
+
+Pad Tussenbestand(const Pad& programmamap, Tekstblik subgroep)
+{
+    Pad pad = Samen(programmamap, subgroep);
+    pad += " Temp-NBBXMLtoCSV.csv";
+    return pad;
+}
+
+Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdracht,
+                                       Tekstblik naam, const Voortgang& voortgang)
+{
+    if (opdracht.bron == Ledenbron::Csv)
+        return LeesBestand(schijf, Samen(opdracht.map, naam), opdracht.keuzes, voortgang);
+    const Pad tussenbestand = Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam));
+    auto omgezet = ZetOm(schijf, opdracht, naam, tussenbestand, EersteHelft(voortgang));
+    if (!omgezet)
+        return tl::unexpected(std::move(omgezet.error()));
+    auto lezing = LeesBestand(schijf, tussenbestand, opdracht.keuzes, TweedeHelft(voortgang));
+    if (lezing) {
+        lezing->vervangenTekens = omgezet->vervangenTekens;
+        lezing->nietGeladen = std::move(omgezet->nietGeladen);
+    }
+    return lezing;
+}
+
+} // namespace plexoran
