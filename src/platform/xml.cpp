@@ -19,8 +19,6 @@ namespace {
 constexpr unsigned Ontleedwijze = pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol |
                                   pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment;
 
-constexpr std::size_t MeesteGeheugen = std::size_t{1} << 30U;
-
 /// What the parser may still take in this thread.
 constexpr std::size_t Onbeperkt = std::numeric_limits<std::size_t>::max();
 thread_local std::size_t geheugenOver = Onbeperkt;
@@ -42,13 +40,13 @@ void GeefGeheugen(void* waar)
 /// Limits what one document may take; the parser's functions are those of the whole program.
 class Geheugengrens {
   public:
-    Geheugengrens()
+    explicit Geheugengrens(std::size_t bytes)
     {
         static const bool gezet = [] {
             pugi::set_memory_management_functions(NeemGeheugen, GeefGeheugen);
             return true;
         }();
-        geheugenOver = gezet ? MeesteGeheugen : 0;
+        geheugenOver = gezet ? bytes : 0;
     }
     Geheugengrens(const Geheugengrens&) = delete;
     Geheugengrens& operator=(const Geheugengrens&) = delete;
@@ -146,9 +144,10 @@ tl::expected<void, Xmlfout> KeurBuitenste(const pugi::xml_document& document)
 
 } // namespace
 
-Uitkomst<Xmldocument> Xmldocument::Ontleed(Tekstblik bytes, const std::string& bestand)
+Uitkomst<Xmldocument> Xmldocument::Ontleed(Tekstblik bytes, const std::string& bestand,
+                                           std::size_t meesteGeheugen)
 {
-    const Geheugengrens grens;
+    const Geheugengrens grens(meesteGeheugen);
     auto tekst = XmlNaarUtf8(bytes);
     if (!tekst)
         return tl::unexpected(Leesfout(bytes, bestand, tekst.error()));

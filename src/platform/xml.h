@@ -49,8 +49,9 @@ class Xmlknoop {
 class Xmldocument {
   public:
     /// `bestand` names the file in an error, which is `Beschadigd` and tells the line and what the
-    /// parser said. A document that would take more than a gigabyte in memory is refused too.
-    [[nodiscard]] static Uitkomst<Xmldocument> Ontleed(Tekstblik bytes, const std::string& bestand);
+    /// parser said. So is a document whose nodes would take more than `meesteGeheugen` bytes.
+    [[nodiscard]] static Uitkomst<Xmldocument> Ontleed(Tekstblik bytes, const std::string& bestand,
+                                                       std::size_t meesteGeheugen = 512U << 20U);
 
     Xmldocument(Xmldocument&&) noexcept;
     Xmldocument& operator=(Xmldocument&&) noexcept;

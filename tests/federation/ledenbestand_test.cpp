@@ -1,0 +1,185 @@
+#include "federation/ledenbestand.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+#include "platform/geheugenSchijf.h"
+
+namespace plexoran {
+namespace {
+
+using Lijst = std::vector<Tekst>;
+
+Ledenopdracht Opdracht(Ledenbron bron)
+{
+    return {.bron = bron,
+            .map = "C:\\Export",
+            .programmamap = "C:\\P",
+            .LedenDatabase = "C:\\Data\\Members.mdb",
+            .keuzes = {}};
+}
+
+Tekst Xml(const Tekst& leden)
+{
+    return "<ReportableMembersList><Members>" + leden + "</Members></ReportableMembersList>";
+}
+
+TEST(SubgroepUitNaam, TotDeEersteSpatieOfAndersDeEerstePunt)
+{
+    EXPECT_EQ(SubgroepUitNaam("Club.csv"), "Club");
+    EXPECT_EQ(SubgroepUitNaam("Club 30.csv"), "Club");
+    EXPECT_EQ(SubgroepUitNaam("Club 20170125.csv"), "Club");
+    EXPECT_EQ(SubgroepUitNaam("Club Nijmegen.xml"), "Club");
+    EXPECT_EQ(SubgroepUitNaam("Club 007"), "Club");
+    EXPECT_EQ(SubgroepUitNaam("B.C. Club.csv"), "B.C.") << "de spatie gaat voor";
+    EXPECT_EQ(SubgroepUitNaam("B.C.csv"), "B");
+    EXPECT_EQ(SubgroepUitNaam("Club"), "Club");
+    EXPECT_EQ(SubgroepUitNaam(" Club.csv"), "");
+    EXPECT_EQ(SubgroepUitNaam(""), "");
+}
+
+TEST(Tussenbestandnaam, StaatInDeMapVanHetProgramma)
+{
+    EXPECT_EQ(Tussenbestand("F", "Club"), "F\\Club Temp-NBBXMLtoCSV.csv");
+}
+
+TEST(LeesLedenbestand, LeestEenCsvRechtstreeksUitDeMap)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet("C:\\Export\\Club 30.csv", "1;V;Ans;A.;;Ek;;;;;;\r\n");
+    const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club 30.csv");
+    ASSERT_TRUE(lezing.has_value());
+    EXPECT_EQ(lezing->lstN1, Lijst{"Ans,,Ek,,,,,,,V,1"});
+    EXPECT_EQ(schijf.AlleBestanden().size(), 1U) << "zonder tussenbestand";
+}
+
+TEST(LeesLedenbestand, LeestXmlLangsHetTussenbestandDatBlijftStaan)
+{
+    GeheugenSchijf schijf;
+    schijf.ZetMap("C:\\P");
+    schijf.Zet("C:\\Export\\Club 30.xml",
+               Xml("<ReportableMember><LeagueId>1</LeagueId><Achternaam>Partner van "
+                   "\xC5\x90s</Achternaam></ReportableMember>"
+                   "<ReportableMember><LeagueId>2</LeagueId><Email>a=b</Email></ReportableMember>"
+                   "<ReportableMember/>"));
+    const auto vier = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club 30.xml");
+    ASSERT_TRUE(vier.has_value());
+    EXPECT_EQ(vier->lstN1, (Lijst{",,Partner_van_Os,,,,,,,,1", ",,,,,,,,,,"}));
+    EXPECT_EQ(vier->metIsTeken, Lijst{"2;;;;;;;;;;a=b;;;;;;"});
+    EXPECT_EQ(vier->vervangenTekens, 1U);
+    EXPECT_FALSE(vier->nietGeladen.has_value());
+    EXPECT_EQ(
+        schijf.Inhoud("C:\\P\\Club Temp-NBBXMLtoCSV.csv"),
+        "1;;;;;Partner_van_Os;;;;;;;;;;;\r\n2;;;;;;;;;;a=b;;;;;;\r\n;;;;;;;;;;;;;;;;\r\n\r\n");
+    const auto drie = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb3), "Club 30.xml");
+    ASSERT_TRUE(drie.has_value());
+    EXPECT_EQ(drie->lstN1, (Lijst{",,1,Partner van Os,,,,,,,", ",,,,,,,,,,"}));
+}
+
+TEST(LeesLedenbestand, DeVakjesGeldenOokVoorXml)
+{
+    GeheugenSchijf schijf;
+    schijf.ZetMap("C:\\P");
+    schijf.Zet("C:\\Export\\Club.xml",
+               Xml("<ReportableMember><LeagueId>1</LeagueId><Geslacht>Man</Geslacht>"
+                   "<Adres>Brink 1</Adres><Telefoon1>06</Telefoon1><Email>e</Email>"
+                   "<Achternaam>Ek</Achternaam></ReportableMember>"));
+    auto opdracht = Opdracht(Ledenbron::XmlNbb4);
+    opdracht.keuzes = {.naw = false, .tel = true, .email = false, .mv = true};
+    EXPECT_EQ(LeesLedenbestand(schijf, opdracht, "Club.xml")->lstN1, Lijst{",,Ek,,,,06,,,M,1"});
+}
+
+TEST(LeesLedenbestand, EenFoutLaatNietsLezen)
+{
+    GeheugenSchijf schijf;
+    // Left by an earlier reading: must not be taken for this file's members.
+    schijf.Zet("C:\\P\\Club Temp-NBBXMLtoCSV.csv", "9;;;;;Oud;;;;;;;;;;;\r\n\r\n");
+    schijf.Zet("C:\\Export\\Club.xml", "geen xml");
+    const auto drie = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb3), "Club.xml");
+    ASSERT_FALSE(drie.has_value());
+    EXPECT_EQ(drie.error().soort, Foutsoort::Beschadigd);
+    EXPECT_EQ(drie.error().bestand, "C:\\Export\\Club.xml");
+    const auto vier = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club.xml");
+    ASSERT_TRUE(vier.has_value());
+    EXPECT_TRUE(vier->lstN1.empty());
+    EXPECT_TRUE(vier->nietGeladen.has_value());
+    const auto csv = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "weg.csv");
+    ASSERT_FALSE(csv.has_value());
+    EXPECT_EQ(csv.error().soort, Foutsoort::Ontbreekt);
+    EXPECT_EQ(csv.error().bestand, "C:\\Export\\weg.csv");
+    schijf.Zet("C:\\Export\\nul.csv", Tekst("1;;A;;;B\0;;;;;;", 15));
+    const auto nul = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "nul.csv");
+    ASSERT_FALSE(nul.has_value());
+    EXPECT_EQ(nul.error().bestand, "C:\\Export\\nul.csv");
+}
+
+TEST(LeesLedenbestand, MeldtEenTeKorteRegel)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet("C:\\Export\\Club.csv", "a=b\r\n1;;A;;;B;;;;;;\r\n2;;C\r\n");
+    const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club.csv");
+    EXPECT_EQ(lezing->teKorteRegel, 3);
+    EXPECT_EQ(lezing->lstN1.size(), 1U);
+    EXPECT_EQ(lezing->metIsTeken.size(), 1U);
+}
+
+TEST(LeesLedenbestand, TeltOverBeideStappenDoor)
+{
+    GeheugenSchijf schijf;
+    schijf.ZetMap("C:\\P");
+    Tekst leden;
+    for (int i = 0; i < 10'000; ++i)
+        leden += "<ReportableMember/>";
+    schijf.Zet("C:\\Export\\Club.xml", Xml(leden));
+    std::vector<double> standen;
+    const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club.xml",
+                                         [&](std::size_t gedaan, std::size_t geheel) {
+                                             standen.push_back(static_cast<double>(gedaan) /
+                                                               static_cast<double>(geheel));
+                                             return true;
+                                         });
+    EXPECT_EQ(lezing->lstN1.size(), 10'000U);
+    ASSERT_GE(standen.size(), 4U);
+    EXPECT_TRUE(std::is_sorted(standen.begin(), standen.end()));
+    EXPECT_LT(standen.front(), 0.5);
+    EXPECT_GT(standen.back(), 0.5);
+    EXPECT_LE(standen.back(), 1.0);
+}
+
+TEST(BepaalXMLsoort, HoudtAlleenDeBestandenVanDeGekozenSoort)
+{
+    GeheugenSchijf schijf;
+    const auto zet = [&](const char* naam, const Tekst& inhoud) {
+        schijf.Zet(Samen("C:\\Export", naam), inhoud);
+    };
+    const auto utf16 = [](const Tekst& tekst) {
+        Tekst uit = "\xFF\xFE";
+        for (const char teken : tekst) {
+            uit += teken;
+            uit += '\0';
+        }
+        return uit;
+    };
+    const Tekst drie = Xml("<ReportableMember><Naam>x</Naam></ReportableMember>");
+    const Tekst vier = Xml("<ReportableMember><LeagueId>1</LeagueId></ReportableMember>");
+    zet("d.xml", drie);
+    zet("v.xml", vier);
+    zet("a.xml", vier);
+    zet("c.xml", drie);
+    zet("anders.xml", "<LeagueId>1</LeagueId>");
+    zet("hoofd.xml", "<REPORTABLEMEMBER><LeagueId>");
+    zet("leeg.xml", "");
+    zet("v16.xml", utf16(vier));
+    zet("d16.xml", utf16(drie));
+    zet("kapot.xml", "<ReportableMember>\xFF");
+    const Lijst namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",  "hoofd.xml",
+                         "a.xml", "v16.xml", "c.xml",   "leeg.xml",   "kapot.xml"};
+    EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb3),
+              (Lijst{"d.xml", "d16.xml", "c.xml", "kapot.xml"}));
+    EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb4),
+              (Lijst{"v.xml", "a.xml", "v16.xml"}));
+}
+
+} // namespace
+} // namespace plexoran

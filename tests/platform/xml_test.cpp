@@ -1,0 +1,134 @@
+#include "platform/xml.h"
+
+#include <gtest/gtest.h>
+
+namespace plexoran {
+namespace {
+
+/// The text of the outermost element and what was counted, or the error.
+struct Gelezen {
+    Tekst tekst;
+    std::size_t vervangen = 0;
+    Fout fout;
+};
+
+Gelezen Lees(Tekstblik bytes)
+{
+    const auto document = Xmldocument::Ontleed(bytes, "C:\\x.xml");
+    if (!document)
+        return {"(fout)", 0, document.error()};
+    Gelezen uit;
+    uit.vervangen = document->Wortel().LeesTekst(uit.tekst);
+    return uit;
+}
+
+TEST(Xml, GeeftTekstInDeCodepagina)
+{
+    EXPECT_EQ(Lees("<a>Zo\xC3\xAB \xE2\x82\xAC</a>").tekst, "Zo\xEB \x80");
+    EXPECT_EQ(Lees("<a>Zo&#xEB;&#8364;&lt;&amp;&gt;&quot;&apos;</a>").tekst, "Zo\xEB\x80<&>\"'");
+    EXPECT_EQ(Lees("<?xml version='1.0' encoding='windows-1252'?><a>Zo\xEB\x80</a>").tekst,
+              "Zo\xEB\x80");
+    EXPECT_EQ(Lees("<a>een<![CDATA[ & twee]]><!--niet--> en <b>drie<c/></b><?p niet?>!</a>").tekst,
+              "een & twee en drie!");
+}
+
+TEST(Xml, EenTekenBuitenDeCodepaginaWordtDeNaasteLetterEnTelt)
+{
+    const Gelezen gelezen = Lees("<a>\xC5\x91\xC4\x8D \xE4\xB8\xAD\xF0\x9F\x82\xA1x</a>");
+    EXPECT_EQ(gelezen.tekst, "oc x");
+    EXPECT_EQ(gelezen.vervangen, 4U);
+    EXPECT_EQ(Lees("<a>\x65\xCC\x81</a>").tekst, "\xE9") << "los accent";
+    EXPECT_EQ(Lees("<a>\x65\xCC\x81</a>").vervangen, 0U);
+}
+
+TEST(Xml, HoudtWitRondTekstMaarWitAlleenIsGeenTekst)
+{
+    EXPECT_EQ(Lees("<a>  b\t</a>").tekst, "  b\t");
+    EXPECT_EQ(Lees("<a> \r\n\t </a>").tekst, "");
+    EXPECT_EQ(Lees("<a></a>").tekst, "");
+    EXPECT_EQ(Lees("<a/>").tekst, "");
+    EXPECT_EQ(Lees("<a>&#32;</a>").tekst, " ") << "met opzet geschreven";
+    EXPECT_EQ(Lees("<a><![CDATA[ ]]></a>").tekst, " ") << "met opzet geschreven";
+    EXPECT_EQ(Lees("<a>b\r\nc\rd\ne&#13;&#10;f</a>").tekst, "b\nc\nd\ne\r\nf");
+}
+
+TEST(Xml, KinderenZijnElementenTekstenCommentaarEnInstructies)
+{
+    const auto document =
+        Xmldocument::Ontleed("<a>\n <b/>\n tekst <!--c--><![CDATA[d]]><?e f?><G/></a>", "x");
+    ASSERT_TRUE(document.has_value());
+    Tekst soorten;
+    for (auto kind = document->Wortel().EersteKind(); kind; kind = kind.Volgende())
+        soorten += kind.IsElement() ? Tekst(kind.Naam()) + "," : "-,";
+    EXPECT_EQ(soorten, "b,-,-,-,-,G,");
+    EXPECT_EQ(document->Wortel().EersteElement("G").Naam(), "G");
+    EXPECT_EQ(document->Wortel().EersteElement("b").VolgendElement("G").Naam(), "G");
+    EXPECT_FALSE(document->Wortel().EersteElement("g"));
+    EXPECT_FALSE(document->Wortel().EersteElement("G").VolgendElement("b"));
+    EXPECT_FALSE(Xmlknoop().EersteElement("b"));
+}
+
+TEST(Xml, EenFoutZegtWaarEnWat)
+{
+    const Gelezen gelezen = Lees("<a>\r\n<b>\r\n</c>\r\n</a>");
+    EXPECT_EQ(gelezen.fout.soort, Foutsoort::Beschadigd);
+    EXPECT_EQ(gelezen.fout.bestand, "C:\\x.xml");
+    EXPECT_EQ(gelezen.fout.regel, 3);
+    EXPECT_EQ(gelezen.fout.systeem, "Start-end tags mismatch (offset 12)");
+    EXPECT_EQ(Lees("<a>\n\n\n\xFF</a>").fout.regel, 4);
+    EXPECT_EQ(Lees("<a>\n&onbekend;</a>").fout.regel, 2);
+    EXPECT_EQ(Lees("<a>\n&onbekend;</a>").fout.systeem, "Unknown entity &onbekend (offset 4)");
+    EXPECT_EQ(Lees("<a/>\n\n<b/>").fout.regel, 3);
+}
+
+TEST(Xml, WatGeenXmlIsWordtGeweigerd)
+{
+    for (const char* tekst : {"", "   ", "geen xml", "<a>", "<a", "<", "<a></b>", "<a/>nog iets",
+                              "iets<a/>", "<a/><b/>", "<!-- alleen -->", "<a><![CDATA[</a>",
+                              "Naam;Nummer\r\nX;1\r\n", "{\"a\": 1}", "<?xml version='1.0'?>"})
+        EXPECT_EQ(Lees(tekst).tekst, "(fout)") << tekst;
+}
+
+TEST(Xml, VolgtGeenDocumenttype)
+{
+    EXPECT_EQ(Lees("<!DOCTYPE a [<!ENTITY b \"c\">]><a>d</a>").tekst, "d");
+    EXPECT_EQ(Lees("<!DOCTYPE a [<!ENTITY b \"c\">]><a>&b;</a>").tekst, "(fout)");
+    EXPECT_EQ(Lees("<!DOCTYPE a [<!ENTITY b SYSTEM \"file:///etc/hostname\">]><a>&b;</a>").tekst,
+              "(fout)");
+    EXPECT_EQ(Lees("<!DOCTYPE a SYSTEM \"http://club.example/a.dtd\"><a>d</a>").tekst, "d");
+    // Each line ten times the one before it.
+    EXPECT_EQ(Lees("<!DOCTYPE a [<!ENTITY b \"b\"><!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\">"
+                   "<!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;\">]><a>&d;</a>")
+                  .tekst,
+              "(fout)");
+}
+
+TEST(Xml, DiepeNestingVultDeStapelNiet)
+{
+    constexpr int diep = 300'000;
+    Tekst tekst;
+    for (int i = 0; i < diep; ++i)
+        tekst += "<a>";
+    EXPECT_EQ(Lees(tekst).tekst, "(fout)");
+    tekst += "kern";
+    for (int i = 0; i < diep; ++i)
+        tekst += "</a>";
+    EXPECT_EQ(Lees(tekst).tekst, "kern");
+}
+
+TEST(Xml, EenDocumentDatHetGeheugenZouVullenWordtGeweigerd)
+{
+    Tekst tekst = "<a>";
+    for (int i = 0; i < 2'000; ++i)
+        tekst += "<b/>";
+    tekst += "</a>";
+    const auto document = Xmldocument::Ontleed(tekst, "x", 100'000);
+    ASSERT_FALSE(document.has_value());
+    EXPECT_EQ(document.error().soort, Foutsoort::Beschadigd);
+    EXPECT_NE(document.error().systeem.find("memory"), std::string::npos)
+        << document.error().systeem;
+    EXPECT_TRUE(Xmldocument::Ontleed(tekst, "x").has_value());
+}
+
+} // namespace
+} // namespace plexoran
