@@ -1,6 +1,9 @@
 #include "federation/ledenbestand.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include <gtest/gtest.h>
 
@@ -179,6 +182,82 @@ TEST(BepaalXMLsoort, HoudtAlleenDeBestandenVanDeGekozenSoort)
               (Lijst{"d.xml", "d16.xml", "c.xml", "kapot.xml"}));
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb4),
               (Lijst{"v.xml", "a.xml", "v16.xml"}));
+}
+
+/// The sample exports as they stand in the repository.
+class Voorbeelden : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        namespace fs = std::filesystem;
+        schijf_.ZetMap("C:\\P");
+        for (const auto& item : fs::directory_iterator(fs::path(VOORBEELD) / "Ledenbestanden")) {
+            std::ifstream bestand(item.path(), std::ios::binary);
+            const Tekst inhoud(std::istreambuf_iterator<char>(bestand), {});
+            namen_.push_back(item.path().filename().string());
+            schijf_.Zet(Samen("C:\\Export", namen_.back()), inhoud);
+        }
+        std::sort(namen_.begin(), namen_.end());
+    }
+
+    Ledenlezing Lees(Ledenbron bron, Tekstblik naam)
+    {
+        const auto lezing = LeesLedenbestand(schijf_, Opdracht(bron), naam);
+        EXPECT_TRUE(lezing.has_value());
+        return lezing.value_or(Ledenlezing());
+    }
+
+    GeheugenSchijf schijf_;
+    Lijst namen_;
+};
+
+TEST_F(Voorbeelden, ZijnElkVanHunSoort)
+{
+    EXPECT_EQ(BepaalXMLsoort(schijf_, "C:\\Export", namen_, Ledenbron::XmlNbb3),
+              Lijst{"Donderdag 20260901.xml"});
+    EXPECT_EQ(BepaalXMLsoort(schijf_, "C:\\Export", namen_, Ledenbron::XmlNbb4),
+              (Lijst{"Cursus 20260901.xml", "Zomer 20260901.xml"}));
+}
+
+TEST_F(Voorbeelden, DeCsvBestandenGevenHunLeden)
+{
+    const auto maandag = Lees(Ledenbron::Csv, "Maandag 20260901.csv");
+    ASSERT_EQ(maandag.lstN1.size(), 8U);
+    EXPECT_EQ(maandag.metIsTeken, Lijst{"LEDENBESTAND=Maandag;VERSIE=2.8"});
+    EXPECT_EQ(maandag.lstN1[1], "Rob,van,Beukering,Graanstraat 23,0437 BC,Oud-Merwolde,010-0000298,"
+                                "r.vanbeukering@thuispost.example,Nederland,M,91892044");
+    EXPECT_EQ(maandag.lstN1[7],
+              "Gonnie,,Gastvrouw,Brink 2,0411 JK,Wielerdam,06-00000607,,Nederland,V,");
+    const auto dinsdag = Lees(Ledenbron::Csv, "Dinsdag 20260901.csv");
+    ASSERT_EQ(dinsdag.lstN1.size(), 6U);
+    EXPECT_TRUE(dinsdag.lstN1[0].ends_with(",91959164")) << "zonder de bytes van het merk";
+}
+
+TEST_F(Voorbeelden, DeXmlBestandenGevenHunLeden)
+{
+    const auto donderdag = Lees(Ledenbron::XmlNbb3, "Donderdag 20260901.xml");
+    ASSERT_EQ(donderdag.lstN1.size(), 6U);
+    EXPECT_EQ(donderdag.lstN1[4], "Jol\xE8ne,,Bru\xFFnzeele,Dorpsstraat 5,0423 DW,Elzenmade,"
+                                  "06-00000622,j.bruynzeele@thuispost.example,,V,96608153");
+    EXPECT_EQ(donderdag.lstN1[5], "Partner,,Partner van Otto,,,,,,,M,");
+    const auto zomer = Lees(Ledenbron::XmlNbb4, "Zomer 20260901.xml");
+    ASSERT_EQ(zomer.lstN1.size(), 7U);
+    EXPECT_EQ(zomer.vervangenTekens, 2U);
+    EXPECT_EQ(zomer.lstN1[3], "Gyongyi,,Dvor\xE1kova,Wilgenhof 3,0411 HK,Wielerdam,06-00000631,"
+                              "g.dvorakova@wielerpost.example,,V,97714420");
+    EXPECT_EQ(zomer.lstN1[4], "Bob,van,Eeckhof & Zoon,Bloemkwartier 9,0411 ZH,Wielerdam,"
+                              "010-0000634,,,M,98025517");
+    EXPECT_EQ(zomer.lstN1[5], "Partner,,Partner_van_Bob,,,,,,,,9901");
+    const auto cursus = Lees(Ledenbron::XmlNbb4, "Cursus 20260901.xml");
+    ASSERT_EQ(cursus.lstN1.size(), 3U);
+    EXPECT_TRUE(cursus.lstN1[1].starts_with("Ma\xEBlle,,Kraaijenest,"));
+}
+
+TEST(LeesLedenbestand, ZonderDatabaseIsHetEenFout)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet("C:\\P\\Club Temp-NBBXMLtoCSV.csv", "9;;;;;Oud;;;;;;;;;;;\r\n\r\n");
+    EXPECT_FALSE(LeesLedenbestand(schijf, Opdracht(Ledenbron::Database), "Club 007").has_value());
 }
 
 } // namespace
