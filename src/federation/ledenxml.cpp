@@ -59,8 +59,9 @@ Xmlveld VeldVan(Nbbversie versie, const Xmlknoop& kind, std::size_t plaats)
 {
     if (versie == Nbbversie::Drie)
         return plaats < plaatsenNbb3.size() ? plaatsenNbb3[plaats] : Xmlveld::Geen;
+    const std::string_view gezocht = kind.Naam();
     for (const auto& [naam, veld] : namenNbb4) {
-        if (kind.Naam() == naam)
+        if (gezocht == naam)
             return veld;
     }
     return Xmlveld::Geen;
@@ -79,7 +80,11 @@ void PasAchternaamregelToe(Tekst& achternaam)
 /// Turns one member after the other into lines, keeping its buffers.
 class Ledenomzetter {
   public:
-    explicit Ledenomzetter(Nbbversie versie) : versie_(versie) {}
+    Ledenomzetter(Nbbversie versie, std::size_t leden) : versie_(versie)
+    {
+        constexpr std::size_t ruimeRegel = 160;
+        regels_.reserve(leden * ruimeRegel);
+    }
 
     void VoegToe(const Xmlknoop& member)
     {
@@ -165,7 +170,7 @@ Uitkomst<Xmlomzetting> Converteer(const Xmldocument& document, Nbbversie versie,
     constexpr std::size_t elkeZoveel = 4096;
     std::size_t geheel = 0;
     VoorElkLid(document, [&](const Xmlknoop&) { ++geheel; });
-    Ledenomzetter omzetter(versie);
+    Ledenomzetter omzetter(versie, geheel);
     std::size_t gedaan = 0;
     VoorElkLid(document, [&](const Xmlknoop& lid) {
         omzetter.VoegToe(lid);

@@ -9,7 +9,8 @@ namespace {
 
 bool HeeftRegeleinde(Tekstblik tekst)
 {
-    return tekst.find('\n') != Tekstblik::npos || tekst.find('\r') != Tekstblik::npos;
+    return !tekst.empty() &&
+           (tekst.find('\n') != Tekstblik::npos || tekst.find('\r') != Tekstblik::npos);
 }
 
 } // namespace

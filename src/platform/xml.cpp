@@ -55,7 +55,8 @@ class Geheugengrens {
 
 bool IsTekst(const pugi::xml_node& knoop)
 {
-    return knoop.type() == pugi::node_pcdata || knoop.type() == pugi::node_cdata;
+    const auto soort = knoop.type();
+    return soort == pugi::node_pcdata || soort == pugi::node_cdata;
 }
 
 /// The next node below `top` in the order of the document. No recursion: a document may be nested
@@ -218,6 +219,10 @@ std::size_t Xmlknoop::LeesTekst(Tekst& uit) const
 {
     const pugi::xml_node top(knoop_);
     const auto eerste = top.first_child();
+    if (!eerste) {
+        uit.clear();
+        return 0;
+    }
     if (IsTekst(eerste) && !eerste.next_sibling())
         return NaarTekst(eerste.value(), uit);
     std::string utf8;

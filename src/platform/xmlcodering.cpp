@@ -94,7 +94,7 @@ std::uint8_t Byte(Tekstblik tekst, std::size_t plaats)
     return static_cast<std::uint8_t>(tekst[plaats]);
 }
 
-/// How many bytes from `plaats` are printable ASCII, in whole blocks of a length of which
+/// How many bytes from `plaats` are ASCII that XML allows, in whole blocks of a length of which
 /// compilers make vector code.
 std::size_t GewoneBytes(Tekstblik tekst, std::size_t plaats)
 {
@@ -104,7 +104,8 @@ std::size_t GewoneBytes(Tekstblik tekst, std::size_t plaats)
         std::uint8_t vreemd = 0;
         for (std::size_t i = 0; i < blok; ++i) {
             const std::uint8_t byte = Byte(tekst, eind + i);
-            vreemd = static_cast<std::uint8_t>(vreemd | (byte < 0x20) | (byte >= 0x80));
+            const bool wit = byte == '\n' || byte == '\r' || byte == '\t';
+            vreemd = static_cast<std::uint8_t>(vreemd | (((byte < 0x20) & !wit) | (byte >= 0x80)));
         }
         if (vreemd != 0)
             break;
@@ -136,7 +137,7 @@ std::size_t LengteUtf8(Tekstblik tekst, std::size_t plaats)
 Uit UitUtf8(Tekstblik bytes, std::size_t merk)
 {
     for (std::size_t i = merk; i < bytes.size();) {
-        // The end of a block that held a line end comes next, byte by byte.
+        // A block with other characters comes next, one by one; the last may reach beyond it.
         const std::size_t blokeind = std::min(bytes.size(), i + GewoneBytes(bytes, i) + 32);
         i = blokeind - std::min<std::size_t>(blokeind - i, 32);
         while (i < blokeind) {
