@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -115,6 +116,38 @@ TEST(LeesLedenbestand, EenFoutLaatNietsLezen)
     const auto nul = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "nul.csv");
     ASSERT_FALSE(nul.has_value());
     EXPECT_EQ(nul.error().bestand, "C:\\Export\\nul.csv");
+}
+
+/// A disk whose files say that they are huge.
+class ReuzenSchijf : public GeheugenSchijf {
+  public:
+    Uitkomst<Stempel> NeemStempel(const Pad& pad) override
+    {
+        return GeheugenSchijf::NeemStempel(pad).map([](Stempel stempel) {
+            stempel.grootte = (std::uint64_t{512} << 20U) + 1;
+            return stempel;
+        });
+    }
+    Uitkomst<Tekst> LeesBestand(const Pad& /*pad*/) override
+    {
+        ADD_FAILURE() << "een te groot bestand wordt niet gelezen";
+        return Tekst();
+    }
+};
+
+TEST(LeesLedenbestand, EenReusachtigBestandWordtNietGelezen)
+{
+    ReuzenSchijf schijf;
+    schijf.Zet("C:\\Export\\Club.csv", "1;;A;;;B;;;;;;");
+    schijf.Zet("C:\\Export\\Club.xml", Xml("<ReportableMember></ReportableMember>"));
+    for (const auto& [bron, naam] :
+         {std::pair{Ledenbron::Csv, "Club.csv"}, std::pair{Ledenbron::XmlNbb3, "Club.xml"}}) {
+        const auto lezing = LeesLedenbestand(schijf, Opdracht(bron), naam);
+        ASSERT_FALSE(lezing.has_value());
+        EXPECT_EQ(lezing.error().soort, Foutsoort::Beschadigd);
+        EXPECT_NE(lezing.error().systeem, "");
+    }
+    EXPECT_TRUE(BepaalXMLsoort(schijf, "C:\\Export", {"Club.xml"}, Ledenbron::XmlNbb3).empty());
 }
 
 TEST(LeesLedenbestand, MeldtEenTeKorteRegel)
