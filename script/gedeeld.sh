@@ -77,19 +77,33 @@ suitemappen() {
 }
 
 # Makes folder $1 a sample suite: the files of voorbeeld/, the folders that its "Mappen.ini" names,
-# and that file itself with the folder's own path filled in.
+# and that file itself with the folder's own path filled in. Its folder "Instellingen" stands in for
+# the configuration folder of the user, so that the program finds the scoring program of the suite.
 maak_suite() {
     local map=$1 sjabloon=$wortel/voorbeeld/Mappen.ini.sjabloon onder pad
     [[ -f $sjabloon ]] || afbreken "het bestand $sjabloon ontbreekt"
     mkdir -p "$map"
     cp -R "$wortel/voorbeeld/." "$map/"
     chmod -R u+w "$map"
-    rm "$map/Mappen.ini.sjabloon"
+    rm "$map"/*.sjabloon
     while IFS= read -r onder; do
         mkdir -p "$map/$onder"
     done < <(suitemappen "$sjabloon")
     pad=$(naar_codepagina "$map")
     vul_sjabloon "$sjabloon" "$pad" >"$map/Mappen.ini"
+    mkdir -p "$map/Instellingen/plexoran"
+    vul_sjabloon "$wortel/voorbeeld/rekenprogrammas.ini.sjabloon" "$pad" \
+        >"$map/Instellingen/plexoran/rekenprogrammas.ini"
+}
+
+# Lets a program started from here use folder $1 as its configuration folder. What the user has set
+# for other programs, such as theme and fonts, is linked into it; those settings stay as they are.
+gebruik_instellingen() {
+    local doel=$1 eigen=${XDG_CONFIG_HOME:-${HOME:-}/.config} deel
+    while IFS= read -r -d '' deel; do
+        [[ -e $doel/${deel##*/} ]] || ln -sfn "$deel" "$doel/${deel##*/}"
+    done < <(find "$eigen" -mindepth 1 -maxdepth 1 ! -name plexoran -print0 2>/dev/null)
+    export XDG_CONFIG_HOME=$doel
 }
 
 # The template $1 with the path $2 filled in, byte by byte.
@@ -112,7 +126,7 @@ teken_vensters() {
     mkdir -m 700 "$klad/eigen"
     mkdir "$klad/beeld"
     env -u QT_STYLE_OVERRIDE -u QT_QPA_PLATFORMTHEME -u QT_SCREEN_SCALE_FACTORS \
-        HOME="$klad/eigen" XDG_CONFIG_HOME="$klad/eigen" XDG_DATA_HOME="$klad/eigen" \
+        HOME="$klad/eigen" XDG_CONFIG_HOME="$klad/suite/Instellingen" XDG_DATA_HOME="$klad/eigen" \
         XDG_RUNTIME_DIR="$klad/eigen" TMPDIR="$klad/eigen" \
         QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 QT_SCALE_FACTOR="$schaal" \
         "$programma" --mappen "$klad/suite/Mappen.ini" --afbeeldingen "$klad/beeld" || status=$?

@@ -21,12 +21,17 @@ void NeemGegevens(Rekenprogramma& gevonden, Instellingenwinkel& winkel)
 
 } // namespace
 
+bool RegistersleutelBestaat(Instellingenwinkel& winkel, Tekstblik toepassing)
+{
+    return winkel.Waarde(toepassing, sectie, "DataRoot").has_value();
+}
+
 Rekenprogramma ZoekRekenprogramma(Instellingenwinkel& winkel,
                                   const std::function<Programma()>& kies)
 {
     Rekenprogramma gevonden;
-    gevonden.NBBRaanwezig = winkel.Waarde(toepassingNBBR, sectie, "DataRoot").has_value();
-    gevonden.BRITaanwezig = winkel.Waarde(toepassingBridgeIt, sectie, "DataRoot").has_value();
+    gevonden.NBBRaanwezig = RegistersleutelBestaat(winkel, toepassingNBBR);
+    gevonden.BRITaanwezig = RegistersleutelBestaat(winkel, toepassingBridgeIt);
     if (gevonden.NBBRaanwezig && gevonden.BRITaanwezig)
         gevonden.GekozenProgramma = kies();
     else if (gevonden.BRITaanwezig)

@@ -85,6 +85,16 @@ TEST(ZoekRekenprogramma, AlleenNbbrVraagtNiets)
     EXPECT_EQ(gevonden.ProgrammaNaam, "NBB-R");
 }
 
+TEST(ZoekRekenprogramma, EenLegeDataRootTeltAlsGevonden)
+{
+    Tekstwinkel winkel("[Bridge-It\\Options]\nDataRoot=\n[NBB-Rekenprogramma\\Options]\nX=1\n");
+    EXPECT_TRUE(RegistersleutelBestaat(winkel, "Bridge-It"));
+    EXPECT_FALSE(RegistersleutelBestaat(winkel, "NBB-Rekenprogramma"));
+    const Rekenprogramma gevonden = ZoekRekenprogramma(winkel, NietGevraagd);
+    EXPECT_EQ(gevonden.GekozenProgramma, Programma::BridgeIt);
+    EXPECT_EQ(gevonden.DataRoot, "");
+}
+
 TEST(ZoekRekenprogramma, BeideVolgtHetAntwoord)
 {
     Tekstwinkel winkel(beide);
