@@ -144,6 +144,8 @@ class Lezing {
         const std::size_t eerst = lezer_.Berichten();
         if (!lezer_.Neem({stuk.data(), static_cast<std::size_t>(stuk.size())}))
             return "het lezen gaf een onbegrijpelijk antwoord";
+        if (lezer_.Geheel() > grenzen_.rijen)
+            return "de database geeft te veel gegevens";
         for (Ruwerij& rij : lezer_.NeemRijen())
             rijen_.push_back(NaarRij(std::move(rij)));
         const auto nu = Klok::now();

@@ -39,6 +39,7 @@ struct Accessgrenzen {
     std::string programma;                             ///< UTF-8; empty: the running program
     std::chrono::milliseconds zonderVoortgang{10'000}; ///< without a new row
     std::size_t uitvoer = std::size_t{256} << 20;      ///< bytes
+    std::size_t rijen = 500'000;
 };
 
 /// All rows of a table that are not deleted, in the order in which the file has them. `voortgang`

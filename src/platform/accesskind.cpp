@@ -169,13 +169,7 @@ bool SchrijfAlles(int pijp, std::string_view bytes)
 
 Uitkomst<void> Beantwoord(const Accessvraag& vraag, const Antwoorduitvoer& uit)
 {
-#ifdef _WIN32
-    const std::u8string naam(vraag.pad.begin(), vraag.pad.end());
-    const std::filesystem::path bestand(naam);
-#else
-    const std::filesystem::path bestand(vraag.pad);
-#endif
-    if (auto kop = KeurAccesskop(bestand); !kop)
+    if (auto kop = KeurAccesskop(Padnaam(vraag)); !kop)
         return kop;
     return LeesMetLibmdb(vraag, uit);
 }
@@ -200,6 +194,15 @@ int Werk()
 }
 
 } // namespace
+
+std::filesystem::path Padnaam(const Accessvraag& vraag)
+{
+#ifdef _WIN32
+    return std::u8string(vraag.pad.begin(), vraag.pad.end());
+#else
+    return vraag.pad;
+#endif
+}
 
 std::optional<int> AlsAccesskind(int argc, char** argv)
 {

@@ -6,6 +6,7 @@
 // and when the program that asked is gone.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 
@@ -18,6 +19,9 @@ inline constexpr auto Kindwoord = "--lees-access";
 /// To be called first of all in `main`: the status to end with when this process is such a child,
 /// nothing when it is the program itself.
 [[nodiscard]] std::optional<int> AlsAccesskind(int argc, char** argv);
+
+/// The path of the question.
+[[nodiscard]] std::filesystem::path Padnaam(const Accessvraag& vraag);
 
 /// Takes bytes of the answer; false when nobody listens any more.
 using Antwoorduitvoer = std::function<bool(std::string_view)>;

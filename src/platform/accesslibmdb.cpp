@@ -3,7 +3,9 @@
 #include "platform/accesskind.h"
 
 #include <cstring>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 #include <utility>
 
 #include <mdbtools.h>
@@ -127,10 +129,12 @@ class Tabellezing {
     {
         constexpr std::size_t brok = std::size_t{32} << 10; // bytes that go out together
         const std::uint32_t geheel = tabel_->num_rows;
+        if (geheel > HoogstensRijen())
+            return Beschadigd("de tabel " + Tussen(vraag_.tabel) +
+                              " zegt onmogelijk veel rijen te hebben");
         std::string bytes = Tabelbericht(geheel);
         std::uint32_t gelezen = 0;
         mdb_rewind_table(tabel_.get());
-        // libmdb does not look whether the first page is one of the table's own.
         while (geheel > 0 && mdb_fetch_row(tabel_.get())) {
             const auto rij = LeesRij();
             if (!rij)
@@ -151,6 +155,15 @@ class Tabellezing {
                               std::to_string(gelezen));
         bytes += Eindbericht(gelezen);
         return uit_(bytes) ? Uitkomst<void>() : Beschadigd({});
+    }
+
+    /// A row is known by its page and one byte.
+    [[nodiscard]] std::uintmax_t HoogstensRijen() const
+    {
+        constexpr std::uintmax_t perBlad = 256;
+        std::error_code fout;
+        const std::uintmax_t grootte = std::filesystem::file_size(Padnaam(vraag_), fout);
+        return fout ? 0 : grootte / static_cast<std::uintmax_t>(database_->fmt->pg_size) * perBlad;
     }
 
     /// The row on which `mdb_fetch_row` stands.

@@ -222,6 +222,18 @@ TEST(Access, MinderRijenDanDeTabelZegtIsEenFout)
     }
 }
 
+TEST(Access, OnmogelijkVeelRijenWordenNietGelezen)
+{
+    constexpr std::size_t rijenteller = 27 * AccessBladgrootte + 16;
+    const TijdelijkeMap map;
+    std::string bytes = LeesAlsBytes(Accessbestand("Members.mdb"));
+    bytes.replace(rijenteller, 4, "\xFF\xFF\xFF\x7F");
+    map.Zet("Members.mdb", bytes);
+    const auto rijen = LeesLeden(Samen(map.AlsPad(), "Members.mdb"));
+    ASSERT_FALSE(rijen);
+    EXPECT_EQ(rijen.error().systeem, "de tabel \"leden\" zegt onmogelijk veel rijen te hebben");
+}
+
 TEST(Access, EenTekenpaarWordtGeenVraagteken)
 {
     // The one text "Berg", of single bytes, becomes a face of two halves and "g".
@@ -281,6 +293,19 @@ TEST(Access, LeestWatAlleenLezenIsEnWatEenAnderOpenHeeft)
     VergelijkMetTsv(*rijen);
     EXPECT_EQ(map.Inhoud("Ledén.mdb"), bytes);
 }
+
+#ifndef __SANITIZE_ADDRESS__ // under which the limit cannot be set
+
+TEST(Access, TeVeelGeheugenBeeindigtHetKind)
+{
+    Accessgrenzen grenzen;
+    grenzen.zonderVoortgang = std::chrono::minutes(1); // not what ends it here
+    const auto rijen = LeesLeden(Accessbestand("bad/repro-memory-prop-reclen0.mdb"), grenzen);
+    ASSERT_FALSE(rijen);
+    EXPECT_EQ(rijen.error().systeem, "de database is beschadigd: het lezen brak af");
+}
+
+#endif
 
 TEST(Access, OpEenPijpWordtNietGewacht)
 {

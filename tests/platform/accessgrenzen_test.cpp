@@ -111,6 +111,14 @@ TEST_F(Accesskind, TeVeelUitvoerWordtAfgebroken)
             "de database geeft te veel gegevens");
 }
 
+TEST_F(Accesskind, TeVeelRijenWordenNietAfgewacht)
+{
+    grenzen_.rijen = 1;
+    EisFout(std::string(tabel2) + "exec sleep 60\n", "de database geeft te veel gegevens");
+    grenzen_.rijen = 2;
+    EXPECT_TRUE(Lees(std::string(tabel2) + rij + rij + einde2));
+}
+
 /// The script writes its number; afterwards no such process may be left.
 TEST_F(Accesskind, WieStilvaltWordtBeeindigd)
 {
