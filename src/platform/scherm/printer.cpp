@@ -1,0 +1,119 @@
+#include "platform/scherm/printer.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <algorithm>
+
+#include "platform/programma.h"
+#include "platform/scherm/berichten.h"
+
+namespace plexoran {
+namespace {
+
+Bladkeus KeusVan(const QPrinter& printer)
+{
+    switch (printer.printRange()) {
+    case QPrinter::AllPages:
+        return {.soort = Bladkeus::Soort::Alle};
+    case QPrinter::PageRange:
+        return {
+            .soort = Bladkeus::Soort::Reeks, .van = printer.fromPage(), .tot = printer.toPage()};
+    case QPrinter::Selection:
+    case QPrinter::CurrentPage:
+        break;
+    }
+    return {};
+}
+
+/// Qt 6.4 refuses whatever is typed as single pages; a range from and to is enough.
+void VerbergLosseBladen(const QPrintDialog& dialoog)
+{
+    for (const char* naam : {"pagesRadioButton", "pagesLineEdit"}) {
+        if (auto* deel = dialoog.findChild<QWidget*>(QString::fromLatin1(naam)))
+            deel->hide();
+    }
+}
+
+} // namespace
+
+std::vector<int> Bladkeus::Bladen(int totaal, int huidig) const
+{
+    std::vector<int> bladen;
+    const bool reeks = soort == Soort::Reeks && van > 0 && tot > 0;
+    if (soort != Soort::Alle && !reeks)
+        return {huidig};
+    const int eerste = reeks ? van : 1;
+    const int laatste = reeks ? std::min(tot, totaal) : totaal;
+    for (int blad = eerste; blad <= laatste; ++blad)
+        bladen.push_back(blad);
+    return bladen;
+}
+
+Printer::Printer(std::shared_ptr<QPrinter> printer, Bladkeus keus)
+    : printer_(std::move(printer)), keus_(std::move(keus))
+{}
+
+Printer::Printer(Schijf& schijf, Pad bestand, Bladkeus keus)
+    : schijf_(&schijf), bestand_(std::move(bestand)), keus_(std::move(keus))
+{}
+
+Uitkomst<std::unique_ptr<Printtaak>> Printer::Begin(Papierstand stand, const QString& titel) const
+{
+    if (!printer_)
+        return MaakPdfTaak(*schijf_, bestand_, stand, titel);
+    return MaakPrintertaak(printer_, stand, titel);
+}
+
+std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
+{
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(vraag.titel);
+    printer->setPageSize(QPageSize(QPageSize::A4));
+    printer->setPageOrientation(vraag.stand == Papierstand::Staand ? QPageLayout::Portrait
+                                                                   : QPageLayout::Landscape);
+    const bool huidig = vraag.voorstel == Bladkeus::Soort::Huidig;
+    printer->setPrintRange(huidig ? QPrinter::CurrentPage : QPrinter::AllPages);
+
+    QPrintDialog dialoog(printer.get(), ouder);
+    dialoog.setObjectName(QStringLiteral("QPrintDialog"));
+    dialoog.setWindowTitle(QStringLiteral("Printen"));
+    dialoog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                       QAbstractPrintDialog::PrintCollateCopies);
+    dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, huidig);
+    dialoog.setMinMax(1, std::max(1, vraag.bladen));
+    VerbergLosseBladen(dialoog);
+    if (dialoog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    Bladkeus keus = KeusVan(*printer);
+    if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty())
+        return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()),
+                       std::move(keus));
+    return Printer(std::move(printer), std::move(keus));
+}
+
+Uitkomst<Printer> StandaardPrinter()
+{
+    const QPrinterInfo standaard = QPrinterInfo::defaultPrinter();
+    if (standaard.isNull())
+        return tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}});
+    return Printer(std::make_shared<QPrinter>(standaard, QPrinter::HighResolution),
+                   {.soort = Bladkeus::Soort::Alle});
+}
+
+void MeldPrintfout(QWidget* ouder, const Fout& fout)
+{
+    QString tekst =
+        fout.soort == Foutsoort::Ontbreekt && fout.bestand.empty()
+            ? QStringLiteral("Er is niets geprint: op deze computer is geen printer "
+                             "geïnstalleerd of geen standaardprinter gekozen.")
+            : QStringLiteral("Het printen is niet gelukt. Kijk of de printer aan staat of, bij een "
+                             "PDF-bestand, of er op die plaats geschreven mag worden en of er nog "
+                             "ruimte is. De gegevens van het register zijn niet veranderd.");
+    if (!fout.bestand.empty() || !fout.systeem.empty())
+        tekst += QStringLiteral("\n\n") + Bijzonderheden(fout);
+    Meld(ouder, QMessageBox::Critical, tekst);
+}
+
+} // namespace plexoran

@@ -1,0 +1,61 @@
+// Choosing a printer. A PDF file counts as one and stands among the printers of the dialog.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "platform/scherm/printtaak.h"
+
+class QWidget;
+
+namespace plexoran {
+
+/// Which pages the user wants.
+struct Bladkeus {
+    enum class Soort { Alle, Reeks, Huidig };
+    Soort soort = Soort::Huidig;
+    int van = 0; ///< of a range
+    int tot = 0;
+
+    /// The pages to draw, rising, of `totaal` pages of which `huidig` is in view.
+    [[nodiscard]] std::vector<int> Bladen(int totaal, int huidig) const;
+};
+
+/// A printer that was chosen.
+class Printer {
+  public:
+    /// A printer of the system.
+    Printer(std::shared_ptr<QPrinter> printer, Bladkeus keus);
+    /// A PDF file.
+    Printer(Schijf& schijf, Pad bestand, Bladkeus keus = {});
+
+    [[nodiscard]] const Bladkeus& Keus() const { return keus_; }
+    [[nodiscard]] Uitkomst<std::unique_ptr<Printtaak>> Begin(Papierstand stand,
+                                                             const QString& titel) const;
+
+  private:
+    std::shared_ptr<QPrinter> printer_; ///< none for a PDF file
+    Schijf* schijf_ = nullptr;
+    Pad bestand_;
+    Bladkeus keus_;
+};
+
+struct Printvraag {
+    QString titel;     ///< names the job, and the file that is proposed for a PDF
+    Papierstand stand; ///< of the pages
+    int bladen = 1;    ///< how many there are to choose from
+    /// What is chosen when the dialog opens. Without a page in view `Huidig` is not offered.
+    Bladkeus::Soort voorstel = Bladkeus::Soort::Alle;
+};
+
+/// The print dialog of the system; nothing when the user cancels it.
+[[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
+                                                 QWidget* ouder);
+
+/// The default printer of the system; `Ontbreekt` when there is none.
+[[nodiscard]] Uitkomst<Printer> StandaardPrinter();
+
+/// Tells that printing failed.
+void MeldPrintfout(QWidget* ouder, const Fout& fout);
+
+} // namespace plexoran

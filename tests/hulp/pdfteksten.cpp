@@ -1,0 +1,84 @@
+#include "hulp/pdfteksten.h"
+
+#include <QProcess>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+namespace plexoran {
+namespace {
+
+constexpr double MmPerPunt = 25.4 / 72.0;
+
+double Maat(const QXmlStreamAttributes& kenmerken, const char* naam)
+{
+    return kenmerken.value(QLatin1String(naam)).toDouble() * MmPerPunt;
+}
+
+std::string Aaneen(const std::vector<Pdfwoord>& woorden)
+{
+    std::string tekst;
+    for (const Pdfwoord& woord : woorden)
+        tekst += (tekst.empty() ? "" : " ") + woord.tekst;
+    return tekst;
+}
+
+} // namespace
+
+std::string Pdfblad::Regel(double boven) const
+{
+    constexpr double speling = 0.1;
+    std::vector<Pdfwoord> regel;
+    for (const Pdfwoord& woord : woorden) {
+        if (std::abs(woord.boven - boven) < speling)
+            regel.push_back(woord);
+    }
+    std::sort(regel.begin(), regel.end(),
+              [](const Pdfwoord& een, const Pdfwoord& ander) { return een.links < ander.links; });
+    return Aaneen(regel);
+}
+
+std::string Pdfblad::Tekst() const
+{
+    return Aaneen(woorden);
+}
+
+const Pdfwoord& Pdfblad::Woord(const std::string& tekst) const
+{
+    for (const Pdfwoord& woord : woorden) {
+        if (woord.tekst == tekst)
+            return woord;
+    }
+    throw std::runtime_error("niet op het blad: " + tekst + "; er staat: " + Tekst());
+}
+
+std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
+{
+    QProcess lezer;
+    lezer.start(QStringLiteral("pdftotext"),
+                {QStringLiteral("-bbox"), QString::fromStdU16String(bestand.u16string()),
+                 QStringLiteral("-")});
+    if (!lezer.waitForFinished() || lezer.exitCode() != 0)
+        throw std::runtime_error("pdftotext leest " + bestand.string() +
+                                 " niet: " + lezer.readAllStandardError().toStdString());
+    std::vector<Pdfblad> bladen;
+    QXmlStreamReader xml(lezer.readAllStandardOutput());
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QXmlStreamAttributes bij = xml.attributes();
+        if (xml.name() == QLatin1String("page"))
+            bladen.push_back({Maat(bij, "width"), Maat(bij, "height"), {}});
+        else if (xml.name() == QLatin1String("word") && !bladen.empty())
+            bladen.back().woorden.push_back({.tekst = xml.readElementText().toStdString(),
+                                             .links = Maat(bij, "xMin"),
+                                             .boven = Maat(bij, "yMin"),
+                                             .rechts = Maat(bij, "xMax"),
+                                             .onder = Maat(bij, "yMax")});
+    }
+    return bladen;
+}
+
+} // namespace plexoran

@@ -1,0 +1,35 @@
+// What a PDF file shows and where, as read back by a program that did not write it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace plexoran {
+
+/// A word on a page; millimetres from the top left corner of the sheet.
+struct Pdfwoord {
+    std::string tekst; ///< UTF-8
+    double links = 0;
+    double boven = 0; ///< where the letters of the font can begin
+    double rechts = 0;
+    double onder = 0;
+};
+
+struct Pdfblad {
+    double breed = 0;
+    double hoog = 0;
+    std::vector<Pdfwoord> woorden; ///< in the order of drawing
+
+    /// The words beside each other on the line with this top, from left to right, by single blanks.
+    [[nodiscard]] std::string Regel(double boven) const;
+    /// All words, by single blanks.
+    [[nodiscard]] std::string Tekst() const;
+    /// The first word that reads so; throws when there is none.
+    [[nodiscard]] const Pdfwoord& Woord(const std::string& tekst) const;
+};
+
+/// Throws when the file is no PDF.
+[[nodiscard]] std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand);
+
+} // namespace plexoran

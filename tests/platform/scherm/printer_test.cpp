@@ -1,0 +1,275 @@
+#include "platform/scherm/printer.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+
+#include <numeric>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/pdfteksten.h"
+#include "hulp/proefsuite.h"
+#include "hulp/venstergrepen.h"
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+#include "platform/geheugenSchijf.h"
+#include "platform/scherm/letterkast.h"
+#include "platform/tijdelijkeMap.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr double Tiende = 0.1; // millimetre
+constexpr double MmPerPunt = 25.4 / 72.0;
+
+std::vector<int> Alle(int aantal)
+{
+    std::vector<int> bladen(static_cast<std::size_t>(aantal));
+    std::iota(bladen.begin(), bladen.end(), 1);
+    return bladen;
+}
+
+class PrinterTest : public testing::Test {
+  protected:
+    [[nodiscard]] Pad Bestand() const { return Samen(map.AlsPad(), "lijst.pdf"); }
+    [[nodiscard]] std::vector<Pdfblad> Lees() const { return LeesPdf(map.Weg() / "lijst.pdf"); }
+
+    /// A job of this many pages, each with its number on it.
+    static Uitkomst<void> Print(const Printer& printer, int bladen,
+                                Papierstand stand = Papierstand::Staand)
+    {
+        auto taak = printer.Begin(stand, QStringLiteral("Proef"));
+        if (!taak)
+            return tl::unexpected(taak.error());
+        for (int blad = 1; blad <= bladen; ++blad) {
+            if (blad > 1) {
+                if (const auto nieuw = (*taak)->NieuwBlad(); !nieuw)
+                    return nieuw;
+            }
+            (*taak)->Vlak().Schrijf(20, 30, {}, "Blad" + std::to_string(blad));
+        }
+        return (*taak)->Eind();
+    }
+
+    /// Works the print dialog; `stappen` choose, then Print is pressed.
+    std::optional<Printer> Kies(const Printvraag& vraag,
+                                const std::function<void(QDialog&)>& stappen, bool akkoord = true)
+    {
+        wachter.Bedien([&](QDialog& dialoog) {
+            stappen(dialoog);
+            auto* knoppen = dialoog.findChild<QDialogButtonBox*>();
+            if (knoppen == nullptr)
+                throw std::runtime_error("de printdialoog heeft geen knoppen");
+            QPushButton* knop = nullptr;
+            for (QAbstractButton* deel : knoppen->buttons()) {
+                const auto rol = knoppen->buttonRole(deel);
+                if (rol == (akkoord ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole))
+                    knop = qobject_cast<QPushButton*>(deel);
+            }
+            if (knop == nullptr)
+                throw std::runtime_error("de printdialoog heeft die knop niet");
+            knop->click();
+        });
+        hoofd.show();
+        auto keus = KiesPrinter(schijf, vraag, &hoofd);
+        wachter.Klaar();
+        return keus;
+    }
+    /// Chooses the PDF file among the printers.
+    void NaarPdf(QDialog& dialoog) const
+    {
+        auto* printers = Vind<QComboBox>(dialoog, "printers");
+        const int plaats = printers->findText(QStringLiteral("PDF"), Qt::MatchContains);
+        ASSERT_GE(plaats, 0);
+        printers->setCurrentIndex(plaats);
+        emit printers->activated(plaats);
+        Vind<QLineEdit>(dialoog, "filename")
+            ->setText(QString::fromStdString((map.Weg() / "lijst.pdf").string()));
+    }
+
+    TijdelijkeMap map;
+    EchteSchijf schijf;
+    QWidget hoofd;
+    Berichtwachter wachter;
+};
+
+} // namespace
+
+TEST_F(PrinterTest, PdfHeeftDeTekstenOpHunTiendeMillimeter)
+{
+    const Letterkast kast;
+    const Letter titel{.type = Lettertype::Arial, .punten = 14, .vet = true};
+    const Letter gewoon{.type = Lettertype::Arial, .punten = 7};
+    const Letter vast{.type = Lettertype::CourierNew, .punten = 9};
+    auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, QStringLiteral("Proef"));
+    ASSERT_TRUE(taak);
+    Tekenvlak& vlak = (*taak)->Vlak();
+    vlak.Schrijf(15, 15, titel, "AVAWATiTo\xEB");
+    vlak.Schrijf(123.4, 280.5, gewoon, "office \x80");
+    vlak.Schrijf(33.3, 100, vast, "0123456789");
+    vlak.Lijn(0, 0, 210, 297, {100, 100, 100}, 0.1);
+    vlak.Vul(50, 50, 10, 10, {200, 0, 0});
+    ASSERT_TRUE((*taak)->Eind());
+
+    const auto bladen = Lees();
+    ASSERT_EQ(1U, bladen.size());
+    EXPECT_NEAR(210, bladen[0].breed, Tiende);
+    EXPECT_NEAR(297, bladen[0].hoog, Tiende);
+    const Pdfwoord& kop = bladen[0].Woord("AVAWATiToë");
+    EXPECT_NEAR(15, kop.links, Tiende);
+    EXPECT_NEAR(15, kop.boven, Tiende);
+    EXPECT_NEAR(15 + kast.Breedte(titel, "AVAWATiTo\xEB"), kop.rechts, Tiende);
+    const Pdfwoord& euro = bladen[0].Woord("€");
+    EXPECT_NEAR(123.4 + kast.Breedte(gewoon, "office "), euro.links, Tiende);
+    EXPECT_NEAR(280.5, euro.boven, Tiende);
+    const Pdfwoord& cijfers = bladen[0].Woord("0123456789");
+    EXPECT_NEAR(33.3, cijfers.links, Tiende);
+    EXPECT_NEAR(33.3 + 10 * 1229.0 / 2048 * 9 * MmPerPunt, cijfers.rechts, Tiende);
+}
+
+TEST_F(PrinterTest, PdfLiggendMetMeerBladen)
+{
+    ASSERT_TRUE(Print(Printer(schijf, Bestand()), 3, Papierstand::Liggend));
+    const auto bladen = Lees();
+    ASSERT_EQ(3U, bladen.size());
+    for (std::size_t i = 0; i < bladen.size(); ++i) {
+        EXPECT_NEAR(297, bladen[i].breed, Tiende);
+        EXPECT_NEAR(210, bladen[i].hoog, Tiende);
+        EXPECT_EQ("Blad" + std::to_string(i + 1), bladen[i].Tekst());
+        EXPECT_NEAR(20, bladen[i].woorden[0].links, Tiende);
+        EXPECT_NEAR(30, bladen[i].woorden[0].boven, Tiende);
+    }
+}
+
+TEST_F(PrinterTest, AfgebrokenKomtErGeenBestand)
+{
+    map.Zet("lijst.pdf", "van gisteren");
+    {
+        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, QStringLiteral("Proef"));
+        ASSERT_TRUE(taak);
+        (*taak)->Vlak().Schrijf(10, 10, {}, "half");
+        ASSERT_TRUE((*taak)->NieuwBlad());
+        (*taak)->BreekAf();
+    }
+    EXPECT_EQ("van gisteren", map.Inhoud("lijst.pdf"));
+    {
+        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, QStringLiteral("Proef"));
+        ASSERT_TRUE(taak);
+    }
+    EXPECT_EQ("van gisteren", map.Inhoud("lijst.pdf"));
+}
+
+/// Whatever step of the saving fails: an error comes back and the old file is whole.
+TEST_F(PrinterTest, EenVolleSchijfIsEenFoutEnLaatHetOudeBestand)
+{
+    int mislukt = 0;
+    for (int stap = 1;; ++stap) {
+        GeheugenSchijf geheugen;
+        geheugen.Zet("C:\\Uit\\lijst.pdf", "van gisteren");
+        FalendeSchijf falend(geheugen, FalendeSchijf::Telt::AlleenSchrijven);
+        falend.FaalBij(stap);
+        const auto uitkomst = Print(Printer(falend, "C:\\Uit\\lijst.pdf"), 2);
+        if (uitkomst)
+            break;
+        ++mislukt;
+        EXPECT_EQ(Foutsoort::Geweigerd, uitkomst.error().soort);
+        const auto inhoud = geheugen.LeesBestand("C:\\Uit\\lijst.pdf");
+        ASSERT_TRUE(inhoud);
+        EXPECT_TRUE(*inhoud == "van gisteren" || inhoud->substr(0, 5) == "%PDF-") << stap;
+    }
+    EXPECT_GT(mislukt, 3);
+}
+
+TEST_F(PrinterTest, EenMapDieErNietIsWordtGeweigerd)
+{
+    const auto uitkomst = Print(Printer(schijf, Samen(map.AlsPad(), "weg\\lijst.pdf")), 1);
+    ASSERT_FALSE(uitkomst);
+    EXPECT_NE(std::string::npos, uitkomst.error().bestand.find("lijst.pdf"));
+}
+
+TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestand)
+{
+    const auto printer = Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand},
+                              [this](QDialog& dialoog) { NaarPdf(dialoog); });
+    ASSERT_TRUE(printer);
+    ASSERT_TRUE(Print(*printer, 2));
+    EXPECT_EQ(2U, Lees().size());
+    EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 4));
+}
+
+TEST_F(PrinterTest, DeDialoogGeeftEenReeksBladen)
+{
+    const auto printer =
+        Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Liggend, .bladen = 9},
+             [this](QDialog& dialoog) {
+                 NaarPdf(dialoog);
+                 Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
+                 Vind<QSpinBox>(dialoog, "from")->setValue(3);
+                 Vind<QSpinBox>(dialoog, "to")->setValue(5);
+             });
+    ASSERT_TRUE(printer);
+    EXPECT_EQ((std::vector<int>{3, 4, 5}), printer->Keus().Bladen(9, 7));
+}
+
+TEST_F(PrinterTest, HetBladInBeeldIsHetVoorstel)
+{
+    const auto printer = Kies({.titel = QStringLiteral("Proef"),
+                               .stand = Papierstand::Staand,
+                               .bladen = 9,
+                               .voorstel = Bladkeus::Soort::Huidig},
+                              [this](QDialog& dialoog) { NaarPdf(dialoog); });
+    ASSERT_TRUE(printer);
+    EXPECT_EQ((std::vector<int>{7}), printer->Keus().Bladen(9, 7));
+}
+
+TEST_F(PrinterTest, AnnulerenGeeftGeenPrinter)
+{
+    EXPECT_FALSE(Kies(
+        {.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand},
+        [this](QDialog& dialoog) { NaarPdf(dialoog); }, false));
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
+}
+
+TEST(Bladkeus, EenReeksDieNietBovenNulIsKiestHetBladInBeeld)
+{
+    const auto reeks = [](int van, int tot) {
+        return Bladkeus{.soort = Bladkeus::Soort::Reeks, .van = van, .tot = tot};
+    };
+    EXPECT_EQ((std::vector<int>{2}), reeks(0, 0).Bladen(5, 2));
+    EXPECT_EQ((std::vector<int>{2}), reeks(0, 3).Bladen(5, 2));
+    EXPECT_EQ((std::vector<int>{2}), reeks(1, 0).Bladen(5, 2));
+    EXPECT_EQ((std::vector<int>{1}), reeks(1, 1).Bladen(5, 2));
+    EXPECT_EQ((std::vector<int>{4, 5}), reeks(4, 99).Bladen(5, 2));
+    EXPECT_TRUE(reeks(6, 9).Bladen(5, 2).empty());
+}
+
+/// Where the machine has a printer there is nothing to see here.
+TEST(StandaardPrinterTest, ZonderPrinterIsHetEenFout)
+{
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        GTEST_SKIP() << "op deze computer is een standaardprinter";
+    const auto printer = StandaardPrinter();
+    ASSERT_FALSE(printer);
+    EXPECT_EQ(Foutsoort::Ontbreekt, printer.error().soort);
+}
+
+TEST(MeldPrintfoutTest, ZegtWatErMisIs)
+{
+    Berichtwachter wachter;
+    wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
+                                              "printer geïnstalleerd of geen standaardprinter "
+                                              "gekozen."),
+                      .icoon = QMessageBox::Critical});
+    MeldPrintfout(nullptr, {Foutsoort::Ontbreekt, {}, 0, {}});
+    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    MeldPrintfout(nullptr, {Foutsoort::Geweigerd, "/uit/lijst.pdf", 0, "schijf vol"});
+}

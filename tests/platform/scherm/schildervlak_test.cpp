@@ -1,0 +1,100 @@
+#include "platform/scherm/schildervlak.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using namespace plexoran;
+
+namespace {
+
+constexpr double PuntenPerMm = 4.0;
+constexpr Kleur Grijs{100, 100, 100};
+
+/// A white sheet of 100 by 50 mm, looked at dot by dot.
+class SchildervlakTest : public testing::Test {
+  protected:
+    template <class Werk> void Teken(const Werk& werk, double schaal = 1.0)
+    {
+        beeld = QImage(static_cast<int>(100 * PuntenPerMm * schaal),
+                       static_cast<int>(50 * PuntenPerMm * schaal), QImage::Format_RGB32);
+        beeld.setDevicePixelRatio(schaal);
+        beeld.fill(Qt::white);
+        QPainter schilder(&beeld);
+        Schildervlak vlak(schilder, kast, PuntenPerMm, Schildervlak::Doel::Scherm, {8, 4});
+        werk(vlak);
+    }
+
+    /// The box around all dots that are not white, in dots.
+    [[nodiscard]] QRect Inkt() const
+    {
+        QRect inkt;
+        for (int y = 0; y < beeld.height(); ++y) {
+            for (int x = 0; x < beeld.width(); ++x) {
+                if (beeld.pixelColor(x, y) != QColor(Qt::white))
+                    inkt |= QRect(x, y, 1, 1);
+            }
+        }
+        return inkt;
+    }
+
+    Letterkast kast;
+    QImage beeld;
+};
+
+} // namespace
+
+TEST_F(SchildervlakTest, EenTekstStaatWaarHijGevraagdIs)
+{
+    const Letter letter{.type = Lettertype::Arial, .punten = 20};
+    for (const double schaal : {1.0, 1.5, 2.0}) {
+        Teken([&](Schildervlak& vlak) { vlak.Schrijf(10, 5, letter, "HHHH"); }, schaal);
+        const QRect inkt = Inkt();
+        const double perMm = PuntenPerMm * schaal;
+        const double stam = kast.Breedte(letter, "H") * 0.08; // white before the stem of an H
+        EXPECT_NEAR((2 + 10 + stam) * perMm, inkt.left(), 1.5) << schaal;
+        EXPECT_NEAR((2 + 10 + kast.Breedte(letter, "HHHH") - stam) * perMm, inkt.right() + 1, 1.5);
+        // The base line: the letters reach 0.905 of the size above it.
+        const double basis = 1 + 5 + 0.905 * 20 * 25.4 / 72;
+        EXPECT_NEAR(basis * perMm, inkt.bottom() + 1, 1.01) << schaal;
+    }
+}
+
+TEST_F(SchildervlakTest, LijnenZijnScherpOpElkScherm)
+{
+    for (const double schaal : {1.0, 1.25, 1.5, 2.0, 2.25}) {
+        Teken([](Schildervlak& vlak) { vlak.Lijn(10.03, 5.07, 60.02, 5.07, Grijs, 0.1); }, schaal);
+        const QRect inkt = Inkt();
+        EXPECT_EQ(1, inkt.height()) << schaal;
+        EXPECT_NEAR(50 * PuntenPerMm * schaal, inkt.width(), 1.01) << schaal;
+        EXPECT_NEAR((1 + 5.07) * PuntenPerMm * schaal, inkt.top(), 1.01) << schaal;
+        for (int x = inkt.left(); x <= inkt.right(); ++x)
+            ASSERT_EQ(QColor(100, 100, 100), beeld.pixelColor(x, inkt.top())) << schaal;
+    }
+}
+
+TEST_F(SchildervlakTest, EenVlakWordtGevuld)
+{
+    Teken([](Schildervlak& vlak) { vlak.Vul(10, 5, 20, 10, {1, 2, 3}); });
+    EXPECT_EQ(QRect(48, 24, 80, 40), Inkt());
+    EXPECT_EQ(QColor(1, 2, 3), beeld.pixelColor(60, 30));
+}
+
+TEST_F(SchildervlakTest, EenSchuineLijnKomtErOok)
+{
+    Teken([](Schildervlak& vlak) { vlak.Lijn(10, 5, 20, 15, Grijs, 0.5); });
+    EXPECT_NEAR(40, Inkt().width(), 3);
+    EXPECT_NEAR(40, Inkt().height(), 3);
+}
+
+/// Afterwards the painter draws as it did before.
+TEST_F(SchildervlakTest, DeSchilderBlijftZoalsHijWas)
+{
+    QImage blad(10, 10, QImage::Format_RGB32);
+    QPainter schilder(&blad);
+    schilder.setPen(Qt::red);
+    Schildervlak vlak(schilder, kast, PuntenPerMm, Schildervlak::Doel::Papier);
+    vlak.Schrijf(1, 1, {}, "tekst");
+    EXPECT_EQ(QColor(Qt::red), schilder.pen().color());
+    EXPECT_TRUE(schilder.transform().isIdentity());
+}
