@@ -11,10 +11,12 @@
 #include "dialogs/diaSortlijst.h"
 #include "dialogs/diaVerplaats.h"
 #include "dialogs/frmVerwSubgroep.h"
+#include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/sorteerlijst.h"
 #include "platform/scherm/tekstbrug.h"
+#include "platform/tekstorde.h"
 
 namespace plexoran {
 namespace {
@@ -84,6 +86,27 @@ void NeemSorteerlijst(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, const S
                                 &hoofdvenster));
 }
 
+/// The sample exports, where the suite has them.
+void NeemControle(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administratie& administratie)
+{
+    Ledenopdracht opdracht;
+    opdracht.map = Samen(administratie.mappen.RVDMAP, "Ledenbestanden");
+    std::vector<Tekst> namen;
+    if (auto bestanden = administratie.schijf.Bestanden(opdracht.map)) {
+        for (const Tekst& naam : *bestanden) {
+            if (Hoofdletters(naam).ends_with(".CSV"))
+                namen.push_back(naam);
+        }
+    }
+    Sorteer(namen);
+    if (namen.empty())
+        return;
+    diaControleNBB venster(administratie, opdracht, namen, &hoofdvenster);
+    const Maten maten;
+    venster.resize(maten.Twips(8400), maten.Twips(7200));
+    fotograaf.Neem(venster);
+}
+
 } // namespace
 
 int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
@@ -101,6 +124,7 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
     fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));
     fotograaf.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
+    NeemControle(fotograaf, hoofdvenster, administratie);
     NeemSorteerlijst(fotograaf, hoofdvenster, administratie.spelers.tabel);
     return fotograaf.Gelukt() ? 0 : 1;
 }

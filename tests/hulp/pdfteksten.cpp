@@ -17,6 +17,25 @@ double Maat(const QXmlStreamAttributes& kenmerken, const char* naam)
     return kenmerken.value(QLatin1String(naam)).toDouble() * MmPerPunt;
 }
 
+/// Line after line, each from left to right; the reader takes columns one by one.
+void ZetInLeesvolgorde(std::vector<Pdfwoord>& woorden)
+{
+    constexpr double zelfdeRegel = 0.5; // millimetre
+    const auto opX = [](const Pdfwoord& een, const Pdfwoord& ander) {
+        return een.links < ander.links;
+    };
+    std::stable_sort(
+        woorden.begin(), woorden.end(),
+        [](const Pdfwoord& een, const Pdfwoord& ander) { return een.boven < ander.boven; });
+    for (auto begin = woorden.begin(); begin != woorden.end();) {
+        const auto eind = std::find_if(begin, woorden.end(), [&](const Pdfwoord& woord) {
+            return woord.boven > begin->boven + zelfdeRegel;
+        });
+        std::stable_sort(begin, eind, opX);
+        begin = eind;
+    }
+}
+
 std::string Aaneen(const std::vector<Pdfwoord>& woorden)
 {
     std::string tekst;
@@ -35,8 +54,6 @@ std::string Pdfblad::Regel(double boven) const
         if (std::abs(woord.boven - boven) < speling)
             regel.push_back(woord);
     }
-    std::sort(regel.begin(), regel.end(),
-              [](const Pdfwoord& een, const Pdfwoord& ander) { return een.links < ander.links; });
     return Aaneen(regel);
 }
 
@@ -78,6 +95,8 @@ std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
                                              .rechts = Maat(bij, "xMax"),
                                              .onder = Maat(bij, "yMax")});
     }
+    for (Pdfblad& blad : bladen)
+        ZetInLeesvolgorde(blad.woorden);
     return bladen;
 }
 

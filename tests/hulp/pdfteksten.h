@@ -19,9 +19,9 @@ struct Pdfwoord {
 struct Pdfblad {
     double breed = 0;
     double hoog = 0;
-    std::vector<Pdfwoord> woorden; ///< in the order of drawing
+    std::vector<Pdfwoord> woorden; ///< line after line, from left to right
 
-    /// The words beside each other on the line with this top, from left to right, by single blanks.
+    /// The words beside each other on the line with this top, by single blanks.
     [[nodiscard]] std::string Regel(double boven) const;
     /// All words, by single blanks.
     [[nodiscard]] std::string Tekst() const;

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <vector>
 
@@ -73,6 +74,34 @@ inline void ZetTabvolgorde(const QList<QWidget*>& volgorde)
     for (QPushButton* knop : knoppen)
         rij->addWidget(knop);
     return rij;
+}
+
+/// Scrolls when the key is one that scrolls, and says so. Not by handing the key on: a scroll bar
+/// that is disabled would hand it back for ever.
+inline bool Verschuif(QScrollBar& balk, int toets)
+{
+    switch (toets) {
+    case Qt::Key_Up:
+        balk.triggerAction(QScrollBar::SliderSingleStepSub);
+        return true;
+    case Qt::Key_Down:
+        balk.triggerAction(QScrollBar::SliderSingleStepAdd);
+        return true;
+    case Qt::Key_PageUp:
+        balk.triggerAction(QScrollBar::SliderPageStepSub);
+        return true;
+    case Qt::Key_PageDown:
+        balk.triggerAction(QScrollBar::SliderPageStepAdd);
+        return true;
+    case Qt::Key_Home:
+        balk.triggerAction(QScrollBar::SliderToMinimum);
+        return true;
+    case Qt::Key_End:
+        balk.triggerAction(QScrollBar::SliderToMaximum);
+        return true;
+    default:
+        return false;
+    }
 }
 
 /// Fills a drop-down anew, silently, and selects its first entry.

@@ -1,10 +1,6 @@
 #include "platform/scherm/printer.h"
 
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QPrinterInfo>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 
@@ -12,10 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "hulp/berichtwachter.h"
 #include "hulp/pdfteksten.h"
+#include "hulp/printdialoog.h"
 #include "hulp/proefsuite.h"
-#include "hulp/venstergrepen.h"
 #include "platform/echteSchijf.h"
 #include "platform/falendeSchijf.h"
 #include "platform/geheugenSchijf.h"
@@ -58,40 +53,14 @@ class PrinterTest : public testing::Test {
         return (*taak)->Eind();
     }
 
-    /// Works the print dialog; `stappen` choose, then Print is pressed.
-    std::optional<Printer> Kies(const Printvraag& vraag,
-                                const std::function<void(QDialog&)>& stappen, bool akkoord = true)
+    std::optional<Printer> Kies(
+        const Printvraag& vraag, const std::function<void(QDialog&)>& stappen = [](QDialog&) {})
     {
-        wachter.Bedien([&](QDialog& dialoog) {
-            stappen(dialoog);
-            auto* knoppen = dialoog.findChild<QDialogButtonBox*>();
-            if (knoppen == nullptr)
-                throw std::runtime_error("de printdialoog heeft geen knoppen");
-            QPushButton* knop = nullptr;
-            for (QAbstractButton* deel : knoppen->buttons()) {
-                const auto rol = knoppen->buttonRole(deel);
-                if (rol == (akkoord ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole))
-                    knop = qobject_cast<QPushButton*>(deel);
-            }
-            if (knop == nullptr)
-                throw std::runtime_error("de printdialoog heeft die knop niet");
-            knop->click();
-        });
+        VerwachtPdf(wachter, map.Weg() / "lijst.pdf", stappen);
         hoofd.show();
         auto keus = KiesPrinter(schijf, vraag, &hoofd);
         wachter.Klaar();
         return keus;
-    }
-    /// Chooses the PDF file among the printers.
-    void NaarPdf(QDialog& dialoog) const
-    {
-        auto* printers = Vind<QComboBox>(dialoog, "printers");
-        const int plaats = printers->findText(QStringLiteral("PDF"), Qt::MatchContains);
-        ASSERT_GE(plaats, 0);
-        printers->setCurrentIndex(plaats);
-        emit printers->activated(plaats);
-        Vind<QLineEdit>(dialoog, "filename")
-            ->setText(QString::fromStdString((map.Weg() / "lijst.pdf").string()));
     }
 
     TijdelijkeMap map;
@@ -196,8 +165,7 @@ TEST_F(PrinterTest, EenMapDieErNietIsWordtGeweigerd)
 
 TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestand)
 {
-    const auto printer = Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand},
-                              [this](QDialog& dialoog) { NaarPdf(dialoog); });
+    const auto printer = Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand});
     ASSERT_TRUE(printer);
     ASSERT_TRUE(Print(*printer, 2));
     EXPECT_EQ(2U, Lees().size());
@@ -208,8 +176,7 @@ TEST_F(PrinterTest, DeDialoogGeeftEenReeksBladen)
 {
     const auto printer =
         Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Liggend, .bladen = 9},
-             [this](QDialog& dialoog) {
-                 NaarPdf(dialoog);
+             [](QDialog& dialoog) {
                  Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
                  Vind<QSpinBox>(dialoog, "from")->setValue(3);
                  Vind<QSpinBox>(dialoog, "to")->setValue(5);
@@ -223,17 +190,19 @@ TEST_F(PrinterTest, HetBladInBeeldIsHetVoorstel)
     const auto printer = Kies({.titel = QStringLiteral("Proef"),
                                .stand = Papierstand::Staand,
                                .bladen = 9,
-                               .voorstel = Bladkeus::Soort::Huidig},
-                              [this](QDialog& dialoog) { NaarPdf(dialoog); });
+                               .voorstel = Bladkeus::Soort::Huidig});
     ASSERT_TRUE(printer);
     EXPECT_EQ((std::vector<int>{7}), printer->Keus().Bladen(9, 7));
 }
 
 TEST_F(PrinterTest, AnnulerenGeeftGeenPrinter)
 {
-    EXPECT_FALSE(Kies(
-        {.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand},
-        [this](QDialog& dialoog) { NaarPdf(dialoog); }, false));
+    wachter.Bedien([this](QDialog& dialoog) {
+        KiesPdf(dialoog, map.Weg() / "lijst.pdf");
+        DrukPrintdialoog(dialoog, QDialogButtonBox::RejectRole);
+    });
+    EXPECT_FALSE(KiesPrinter(
+        schijf, {.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand}, &hoofd));
     EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
 }
 

@@ -1,0 +1,85 @@
+// The listing of the number check: every member of the chosen member files, one line each, in
+// columns of a fixed width. Nobody is left out.
+#pragma once
+
+#include <vector>
+
+#include "federation/importregel.h"
+#include "platform/tekenvlak.h"
+
+namespace plexoran {
+
+/// The headings differ by one blank behind "NBBnr". That is meant.
+inline constexpr Tekstblik ControlekopScherm = "NBBnr      M/V    NBBgroep    Naam";
+inline constexpr Tekstblik ControlekopPapier = "NBBnr     M/V    NBBgroep    Naam";
+
+struct Controleregel {
+    Tekst regel;          ///< number, sex, member group and name, two blanks between them
+    std::size_t naam = 0; ///< where the name begins in it
+    [[nodiscard]] Tekstblik Naam() const { return Tekstblik(regel).substr(naam); }
+};
+
+/// The line of one member, with the member group at most ten characters. Texts that are longer than
+/// their column stand there whole and push the others along.
+[[nodiscard]] Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep);
+
+/// The order of the lines by name, in the one text order; lines with the same name keep theirs.
+[[nodiscard]] std::vector<std::size_t> VolgordeOpNaam(const std::vector<Controleregel>& lstN9);
+
+/// The listing in rows of at most so many characters: a longer line goes on in rows below it,
+/// under its name.
+class Controlerijen {
+  public:
+    /// Borrows the lines. `volgorde` is empty for the order of the files.
+    Controlerijen(const std::vector<Controleregel>& lstN9, std::vector<std::size_t> volgorde,
+                  std::size_t breedte);
+
+    [[nodiscard]] std::size_t Aantal() const { return aantal_; }
+    [[nodiscard]] Tekst Rij(std::size_t nummer) const;
+
+  private:
+    struct Deel {
+        std::size_t plaats; ///< in the order
+        std::size_t begin;  ///< in the line
+        std::size_t eind;
+    };
+    [[nodiscard]] const Controleregel& Regel(std::size_t plaats) const;
+    [[nodiscard]] std::size_t Inspringing(const Controleregel& regel) const;
+    void Splits();
+
+    const std::vector<Controleregel>& lstN9_;
+    std::vector<std::size_t> volgorde_;
+    std::size_t breedte_;
+    std::size_t aantal_;
+    std::vector<Deel> delen_; ///< empty when every line fits
+};
+
+namespace controle {
+inline constexpr Letter Schrift{.type = Lettertype::CourierNew, .punten = 10};
+inline constexpr double Regelhoogte = 4.4; ///< millimetres
+inline constexpr double Kophoogte = 6.0;   ///< the heading, and the white below it
+} // namespace controle
+
+/// How many characters beside each other fit in so many millimetres; at least one.
+[[nodiscard]] std::size_t TekensNaastElkaar(const Lettermeter& meter, double breed);
+
+/// Draws the heading with its top left corner there and `aantal` rows below it, from row `eerste`
+/// (counted from 0) on, as far as they exist.
+void TekenControlelijst(Tekenvlak& vlak, double links, double boven, Tekstblik kop,
+                        const Controlerijen& rijen, std::size_t eerste, std::size_t aantal);
+
+/// The same list on A4, upright.
+namespace controleblad {
+inline constexpr double Breed = 210;
+inline constexpr double Hoog = 297;
+inline constexpr double Marge = 15; ///< on all sides; the page number stands in the lowest
+inline constexpr auto Rijen =
+    static_cast<std::size_t>((Hoog - 2 * Marge - controle::Kophoogte) / controle::Regelhoogte);
+} // namespace controleblad
+
+/// Pages that so many rows need; an empty listing has one.
+[[nodiscard]] int ControlebladenVoor(std::size_t rijen);
+/// Draws page `blad`, from 1, of `bladen`: heading, rows and page number.
+void TekenControleblad(Tekenvlak& vlak, const Controlerijen& rijen, int blad, int bladen);
+
+} // namespace plexoran

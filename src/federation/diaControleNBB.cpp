@@ -1,0 +1,306 @@
+#include "federation/diaControleNBB.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+#include "federation/leesfoutmelding.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/frmVoortgang.h"
+#include "platform/scherm/printer.h"
+#include "platform/scherm/schildervlak.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int BalkBreed = 280; // twips
+constexpr int TekensBijOpenen = 62;
+constexpr int RijenBijOpenen = 24;
+constexpr double Rand = 2; // millimetres of white around the list
+
+} // namespace
+
+// ---------------------------------------------------------------- the surface
+
+Controlevlak::Controlevlak(const Letterkast& kast, const Maten& maten, QWidget* ouder)
+    : QWidget(ouder), kast_(kast), pixelsPerMm_(maten.PixelsPerMm())
+{
+    Noem(this, QStringLiteral("P1"), QStringLiteral("Leden van de gekozen ledenbestanden"));
+    QPalette palet = palette();
+    palet.setColor(QPalette::Window, Qt::white);
+    setPalette(palet);
+    setAutoFillBackground(true);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void Controlevlak::Toon(const Controlerijen* rijen)
+{
+    rijen_ = rijen;
+    update();
+}
+
+void Controlevlak::Schuif(int rij)
+{
+    eerste_ = rij;
+    update();
+}
+
+std::size_t Controlevlak::Breedte() const
+{
+    return TekensNaastElkaar(kast_, width() / pixelsPerMm_ - 2 * Rand);
+}
+
+int Controlevlak::ZichtbareRijen() const
+{
+    const double ruimte = height() / pixelsPerMm_ - Rand - controle::Kophoogte;
+    return std::max(1, static_cast<int>(std::floor(ruimte / controle::Regelhoogte)));
+}
+
+QSize Controlevlak::Maat(int tekens, int rijen) const
+{
+    const double breed = kast_.Breedte(controle::Schrift, "0") * (tekens + 0.5) + 2 * Rand;
+    const double hoog = Rand + controle::Kophoogte + rijen * controle::Regelhoogte;
+    return {static_cast<int>(std::ceil(breed * pixelsPerMm_)),
+            static_cast<int>(std::ceil(hoog * pixelsPerMm_))};
+}
+
+void Controlevlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
+{
+    if (rijen_ == nullptr)
+        return;
+    QPainter schilder(this);
+    Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm);
+    TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, *rijen_,
+                       static_cast<std::size_t>(eerste_),
+                       static_cast<std::size_t>(ZichtbareRijen()) + 1);
+    if (hasFocus()) {
+        schilder.setPen(palette().color(QPalette::Highlight));
+        schilder.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+// ---------------------------------------------------------------- the dialog
+
+diaControleNBB::diaControleNBB(Administratie& administratie, const Ledenopdracht& opdracht,
+                               std::vector<Tekst> namen, QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie)
+{
+    Bouw();
+    Verbind();
+    Lees(opdracht, namen);
+    Teken();
+    P1->setFocus();
+}
+
+void diaControleNBB::Bouw()
+{
+    setObjectName(QStringLiteral("diaControleNBB"));
+    setWindowTitle(QStringLiteral("Controle NBB-spelers op ontbrekende NBBnrs en M/V"));
+    setSizeGripEnabled(true);
+    Frame2 = new QFrame(this);
+    Noem(Frame2, QStringLiteral("Frame2"));
+    Frame2->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    P1 = new Controlevlak(kast_, maten_, Frame2);
+    VScroll1 = new QScrollBar(Qt::Vertical, Frame2);
+    Noem(VScroll1, QStringLiteral("VScroll1"), QStringLiteral("Regels verschuiven"));
+    VScroll1->setAttribute(Qt::WA_NoMousePropagation); // a wheel at its end must not come back
+    lblAantal = MaakLabel(QStringLiteral("lblAantal"), QString(), this);
+    chkSort = new QCheckBox(MetSneltoets(QStringLiteral("Sorteer op naam"), u'S'), this);
+    Noem(chkSort, QStringLiteral("chkSort"));
+    cmdPrint = MaakKnop(QStringLiteral("cmdPrint"), QStringLiteral("Print"), u'P', this);
+    cmdTerug = MaakKnop(QStringLiteral("cmdTerug"), QStringLiteral("Terug"), u'T', this);
+    cmdTerug->setDefault(true);
+
+    auto* onder = new QHBoxLayout;
+    onder->addWidget(chkSort);
+    onder->addSpacing(maten_.Twips(300));
+    onder->addWidget(lblAantal);
+    onder->addLayout(Knoppenrij({cmdPrint, cmdTerug}), 1);
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addWidget(Frame2, 1);
+    lagen->addLayout(onder);
+    const QMargins marges = lagen->contentsMargins();
+    const QSize lijst = P1->Maat(TekensBijOpenen, RijenBijOpenen);
+    const int rand = 2 * Frame2->frameWidth();
+    const int balk = maten_.Twips(BalkBreed);
+    PasInScherm(this, {lijst.width() + balk + rand + marges.left() + marges.right(),
+                       lijst.height() + rand + marges.top() + marges.bottom() + lagen->spacing() +
+                           cmdPrint->sizeHint().height()});
+    Frame2->setMinimumSize(balk + maten_.Twips(1500), maten_.Twips(1500));
+    ZetTabvolgorde({P1, chkSort, cmdPrint, cmdTerug});
+}
+
+void diaControleNBB::Verbind()
+{
+    connect(VScroll1, &QScrollBar::valueChanged, P1, [this](int rij) { P1->Schuif(rij); });
+    connect(chkSort, &QCheckBox::clicked, this, [this] {
+        VScroll1->setValue(0);
+        Teken();
+    });
+    connect(cmdPrint, &QPushButton::clicked, this, &diaControleNBB::Print);
+    connect(cmdTerug, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+// ---------------------------------------------------------------- reading
+
+void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst>& namen)
+{
+    QStringList opmerkingen;
+    {
+        frmVoortgang voortgang(QString(), QStringLiteral("&Stoppen"), parentWidget());
+        for (std::size_t i = 0; i < namen.size() && !voortgang.Gestopt(); ++i) {
+            voortgang.ZetTekst(
+                QStringLiteral("Ledenbestand wordt gelezen: %1").arg(NaarQString(namen[i])));
+            const auto melder = [&](std::size_t gedaan, std::size_t geheel) {
+                // Each file is one step, of which this is the part that is done.
+                const std::size_t deel = geheel == 0 ? 0 : 100 * std::min(gedaan, geheel) / geheel;
+                return voortgang.Meld(100 * i + deel, 100 * namen.size());
+            };
+            (void)melder(0, 0);
+            const auto lezing = LeesLedenbestand(administratie_.schijf, opdracht, namen[i], melder);
+            if (lezing) {
+                Voeg(*lezing, namen[i], opmerkingen);
+            } else if (!voortgang.Gestopt()) {
+                voortgang.hide();
+                Meld(parentWidget(), QMessageBox::Warning,
+                     Leesfouttekst(opdracht.bron, namen[i], lezing.error()));
+                // All entries are in the same database, which would fail again for each.
+                if (opdracht.bron == Ledenbron::Database)
+                    break;
+            }
+        }
+        if (voortgang.Gestopt())
+            opmerkingen << QStringLiteral("Het lezen is gestopt: de lijst is niet volledig.");
+    }
+    MeldOpmerkingen(opmerkingen);
+}
+
+void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList& opmerkingen)
+{
+    const Tekst groep(ZonderSpaties(SubgroepUitNaam(naam)));
+    for (const Tekst& regel : lezing.lstN1)
+        lstN9.push_back(MaakControleregel(regel, groep));
+    const QString bestand = NaarQString(naam);
+    if (lezing.nietGeladen)
+        opmerkingen << QStringLiteral("'%1': geen leden, want het bestand kon niet als XML worden "
+                                      "gelezen.")
+                           .arg(bestand);
+    if (lezing.teKorteRegel > 0)
+        opmerkingen << QStringLiteral("'%1': gelezen tot regel %2, want die regel heeft te weinig "
+                                      "kolommen.")
+                           .arg(bestand)
+                           .arg(lezing.teKorteRegel);
+    if (lezing.vervangenTekens > 0)
+        opmerkingen << QStringLiteral("'%1': %2 tekens kent het register niet; er staat de "
+                                      "dichtstbijzijnde letter.")
+                           .arg(bestand)
+                           .arg(lezing.vervangenTekens);
+}
+
+void diaControleNBB::MeldOpmerkingen(const QStringList& opmerkingen)
+{
+    if (!opmerkingen.isEmpty())
+        Meld(parentWidget(), QMessageBox::Information,
+             QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\n") +
+                 opmerkingen.join(QStringLiteral("\r\n")));
+}
+
+// ---------------------------------------------------------------- showing
+
+Controlerijen diaControleNBB::Rijen(std::size_t breedte) const
+{
+    return {lstN9, chkSort->isChecked() ? opNaam_ : std::vector<std::size_t>(), breedte};
+}
+
+void diaControleNBB::Teken()
+{
+    if (chkSort->isChecked() && opNaam_.size() != lstN9.size())
+        opNaam_ = VolgordeOpNaam(lstN9);
+    rijen_ = std::make_unique<Controlerijen>(Rijen(P1->Breedte()));
+    P1->Toon(rijen_.get());
+    lblAantal->setText(QStringLiteral("Aantal leden: %1").arg(lstN9.size()));
+    cmdPrint->setEnabled(!lstN9.empty());
+    ZetSchuifbalk();
+}
+
+void diaControleNBB::ZetSchuifbalk()
+{
+    const int zichtbaar = P1->ZichtbareRijen();
+    const int over = std::max(0, static_cast<int>(rijen_->Aantal()) - zichtbaar);
+    VScroll1->setRange(0, over);
+    VScroll1->setPageStep(std::max(1, zichtbaar - 1));
+    VScroll1->setEnabled(over > 0);
+}
+
+void diaControleNBB::resizeEvent(QResizeEvent* gebeurtenis)
+{
+    QDialog::resizeEvent(gebeurtenis);
+    layout()->activate();
+    const QRect binnen = Frame2->contentsRect();
+    const int balk = maten_.Twips(BalkBreed);
+    P1->setGeometry(binnen.adjusted(0, 0, -balk, 0));
+    VScroll1->setGeometry(binnen.right() + 1 - balk, binnen.top(), balk, binnen.height());
+    Teken();
+}
+
+void diaControleNBB::wheelEvent(QWheelEvent* gebeurtenis)
+{
+    QApplication::sendEvent(VScroll1, gebeurtenis);
+}
+
+void diaControleNBB::keyPressEvent(QKeyEvent* gebeurtenis)
+{
+    if (!Verschuif(*VScroll1, gebeurtenis->key()))
+        QDialog::keyPressEvent(gebeurtenis);
+}
+
+// ---------------------------------------------------------------- printing
+
+void diaControleNBB::Print()
+{
+    if (lstN9.empty())
+        return;
+    const Controlerijen rijen =
+        Rijen(TekensNaastElkaar(kast_, controleblad::Breed - 2 * controleblad::Marge));
+    const auto printer = KiesPrinter(administratie_.schijf,
+                                     {.titel = QStringLiteral("Controle NBB-spelers"),
+                                      .stand = Papierstand::Staand,
+                                      .bladen = ControlebladenVoor(rijen.Aantal())},
+                                     this);
+    if (!printer)
+        return;
+    if (const auto uitkomst = PrintBladen(*printer, rijen); !uitkomst)
+        MeldPrintfout(this, uitkomst.error());
+    Teken();
+}
+
+/// Stopping lets the page that is being drawn be the last; what was drawn comes out.
+Uitkomst<void> diaControleNBB::PrintBladen(const Printer& printer, const Controlerijen& rijen)
+{
+    const int bladen = ControlebladenVoor(rijen.Aantal());
+    const std::vector<int> keus = printer.Keus().Bladen(bladen, 1);
+    if (keus.empty())
+        return {};
+    frmVoortgang voortgang(QStringLiteral("De lijst wordt geprint"),
+                           QStringLiteral("&Stoppen na dit blad"), this);
+    auto taak = printer.Begin(Papierstand::Staand, QStringLiteral("Controle NBB-spelers"));
+    if (!taak)
+        return tl::unexpected(taak.error());
+    for (std::size_t i = 0; i < keus.size(); ++i) {
+        if (i > 0) {
+            if (auto nieuw = (*taak)->NieuwBlad(); !nieuw)
+                return nieuw;
+        }
+        TekenControleblad((*taak)->Vlak(), rijen, keus[i], bladen);
+        if (!voortgang.Meld(i + 1, keus.size()))
+            break;
+    }
+    return (*taak)->Eind();
+}
+
+} // namespace plexoran

@@ -1,0 +1,48 @@
+#include "federation/leesfoutmelding.h"
+
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
+
+namespace plexoran {
+namespace {
+
+QString Aanhef(Ledenbron bron, Tekstblik naam)
+{
+    switch (bron) {
+    case Ledenbron::Database:
+        return QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!");
+    case Ledenbron::Csv:
+        return QStringLiteral("Fout bij het lezen van '%1' CSV-bestand").arg(NaarQString(naam));
+    case Ledenbron::XmlNbb3:
+        return QStringLiteral("Fout bij het lezen van '%1' NBB3-XML-bestand")
+            .arg(NaarQString(naam));
+    case Ledenbron::XmlNbb4:
+        break;
+    }
+    return QStringLiteral("Fout bij het lezen van '%1' NBB4-XML-bestand").arg(NaarQString(naam));
+}
+
+QString Oorzaak(const Fout& fout)
+{
+    switch (fout.soort) {
+    case Foutsoort::Ontbreekt:
+        return QStringLiteral("Het bestand is er niet (meer).");
+    case Foutsoort::Beschadigd:
+        return QStringLiteral("De inhoud is niet die van een ledenbestand.");
+    default:
+        return QStringLiteral("Het systeem gaf het bestand niet vrij om te lezen.");
+    }
+}
+
+} // namespace
+
+QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout)
+{
+    QString tekst = Aanhef(bron, naam) + QStringLiteral("\r\n") + Oorzaak(fout);
+    const QString bijzonderheden = Bijzonderheden(fout);
+    if (!bijzonderheden.isEmpty())
+        tekst += QStringLiteral("\r\n") + bijzonderheden;
+    return tekst + QStringLiteral("\r\n\r\nUit dit bestand is niets geïmporteerd.");
+}
+
+} // namespace plexoran

@@ -1,0 +1,89 @@
+#include "platform/scherm/frmVoortgang.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+namespace {
+
+constexpr qint64 TotInBeeld = 500; // milliseconds
+constexpr qint64 Tussenpoos = 40;
+constexpr int Schaal = 1000; // of the bar: counts may exceed what it can hold
+
+} // namespace
+
+frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder)
+    : QWidget(ouder, Qt::Dialog), lblTekst(MaakLabel(QStringLiteral("lblTekst"), tekst, this)),
+      balk(new QProgressBar(this))
+{
+    setObjectName(QStringLiteral("frmVoortgang"));
+    setWindowTitle(QStringLiteral("Plexoran"));
+    setWindowModality(Qt::ApplicationModal);
+    Noem(balk, QStringLiteral("balk"), QStringLiteral("Voortgang"));
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addWidget(lblTekst);
+    lagen->addWidget(balk);
+    if (!stop.isEmpty()) {
+        cmdStop = new QPushButton(stop, this);
+        Noem(cmdStop, QStringLiteral("cmdStop"));
+        connect(cmdStop, &QPushButton::clicked, this, &frmVoortgang::Stop);
+        lagen->addLayout(Knoppenrij({cmdStop}));
+    }
+    const Maten maten;
+    setMinimumWidth(maten.Twips(5400));
+    sinds_.start();
+}
+
+void frmVoortgang::ZetTekst(const QString& tekst)
+{
+    lblTekst->setText(tekst);
+}
+
+bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
+{
+    const qint64 nu = sinds_.elapsed();
+    if (nu < TotInBeeld || (isVisible() && nu - getoond_ < Tussenpoos))
+        return !gestopt_;
+    getoond_ = nu;
+    balk->setRange(0, geheel == 0 ? 0 : Schaal); // without a whole the bar just moves
+    if (geheel > 0)
+        balk->setValue(static_cast<int>(Schaal * gedaan / geheel));
+    show();
+    QApplication::processEvents();
+    return !gestopt_;
+}
+
+Voortgang frmVoortgang::AlsVoortgang()
+{
+    return [this](std::size_t gedaan, std::size_t geheel) { return Meld(gedaan, geheel); };
+}
+
+void frmVoortgang::Stop()
+{
+    if (cmdStop == nullptr)
+        return;
+    gestopt_ = true;
+    cmdStop->setEnabled(false);
+}
+
+/// The window stays until the work has come to its end: without it the windows behind it would take
+/// commands in the middle of the work.
+void frmVoortgang::closeEvent(QCloseEvent* gebeurtenis)
+{
+    Stop();
+    gebeurtenis->ignore();
+}
+
+void frmVoortgang::keyPressEvent(QKeyEvent* gebeurtenis)
+{
+    if (gebeurtenis->key() == Qt::Key_Escape)
+        Stop();
+    else
+        QWidget::keyPressEvent(gebeurtenis);
+}
+
+} // namespace plexoran

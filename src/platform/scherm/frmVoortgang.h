@@ -1,0 +1,45 @@
+// How far long work is. The window comes after half a second, so that short work shows nothing;
+// while it stands there the program goes on painting but takes no other command.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include "platform/voortgang.h"
+
+namespace plexoran {
+
+class frmVoortgang : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `stop` is the caption of the button with which the user may stop the work, its mnemonic
+    /// marked; empty where stopping is not safe.
+    frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder);
+
+    void ZetTekst(const QString& tekst);
+    /// What is done of the whole, 0 where the whole is not known. False once the user wants to
+    /// stop.
+    bool Meld(std::size_t gedaan, std::size_t geheel);
+    [[nodiscard]] bool Gestopt() const { return gestopt_; }
+    /// The same for a rule; the window must outlive it.
+    [[nodiscard]] Voortgang AlsVoortgang();
+
+  protected:
+    void closeEvent(QCloseEvent* gebeurtenis) override;
+    void keyPressEvent(QKeyEvent* gebeurtenis) override;
+
+  private:
+    void Stop();
+
+    QLabel* lblTekst;
+    QProgressBar* balk;
+    QPushButton* cmdStop = nullptr; ///< none where stopping is not safe
+    QElapsedTimer sinds_;           ///< the work began
+    qint64 getoond_ = 0;            ///< when the figures were last shown, in milliseconds
+    bool gestopt_ = false;
+};
+
+} // namespace plexoran

@@ -1,0 +1,315 @@
+#include "federation/diaControleNBB.h"
+
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/pdfteksten.h"
+#include "hulp/printdialoog.h"
+#include "hulp/proefsuite.h"
+#include "hulp/venstergrepen.h"
+#include "platform/echteSchijf.h"
+
+using namespace plexoran;
+
+namespace {
+
+/// A line of an exported CSV file: number, sex, first name, initials, particle, surname, the rest.
+std::string Csv(const std::string& nummer, const std::string& mv, const std::string& voornaam,
+                const std::string& tusv, const std::string& achternaam)
+{
+    return nummer + ";" + mv + ";" + voornaam + ";X.;" + tusv + ";" + achternaam +
+           ";Dorp 1;1234 AB;Ede;06-1;a@b.nl;NL\r\n";
+}
+
+class diaControleNBBTest : public testing::Test {
+  protected:
+    diaControleNBBTest()
+    {
+        hoofd.show();
+        map.Zet("Club 30.csv", Csv("101", "V", "Zus", "van", "Zee") + Csv("", "", "An", "", "Bos") +
+                                   Csv("103", "M", "Cor", "", "Dam"));
+        map.Zet("Dinsdagavondclub.csv", Csv("104", "V", "Bea", "de", "Aap"));
+    }
+    ~diaControleNBBTest() override { wachter.Klaar(); }
+
+    void Open(std::vector<Tekst> namen)
+    {
+        venster =
+            std::make_unique<diaControleNBB>(administratie, opdracht, std::move(namen), &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    void OpenBeide() { Open({"Club 30.csv", "Dinsdagavondclub.csv"}); }
+    void OpenVeel(int aantal)
+    {
+        std::string inhoud;
+        for (int i = 0; i < aantal; ++i)
+            inhoud += Csv(std::to_string(100000 + i), "V", "An", "van der", "Naam");
+        map.Zet("Veel.csv", inhoud);
+        Open({"Veel.csv"});
+    }
+
+    [[nodiscard]] QWidget* P1() const { return Vind<QWidget>(*venster, "P1"); }
+    [[nodiscard]] QScrollBar* Balk() const { return Vind<QScrollBar>(*venster, "VScroll1"); }
+    [[nodiscard]] QPushButton* Knop(const char* naam) const
+    {
+        return Vind<QPushButton>(*venster, naam);
+    }
+    /// What the surface shows, drawn on a page and read back.
+    [[nodiscard]] std::string Geschilderd() const
+    {
+        const auto pad = map.Weg() / "scherm.pdf";
+        {
+            QPdfWriter pdf(QString::fromStdString(pad.string()));
+            pdf.setResolution(96);
+            pdf.setPageSize(QPageSize(QSizeF(P1()->size()) * 72.0 / 96.0, QPageSize::Point));
+            pdf.setPageMargins({});
+            QPainter schilder(&pdf);
+            P1()->render(&schilder, {}, {}, QWidget::RenderFlags());
+        }
+        return LeesPdf(pad).at(0).Tekst();
+    }
+    void PrintNaarPdf()
+    {
+        VerwachtPdf(wachter, map.Weg() / "lijst.pdf");
+        Klik(Knop("cmdPrint"));
+    }
+
+    TijdelijkeMap map;
+    EchteSchijf schijf;
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Ledenopdracht opdracht{.bron = Ledenbron::Csv,
+                           .map = map.AlsPad(),
+                           .programmamap = map.AlsPad(),
+                           .LedenDatabase = {},
+                           .keuzes = {}};
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<diaControleNBB> venster;
+};
+
+} // namespace
+
+TEST_F(diaControleNBBTest, DeOpschriften)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    EXPECT_EQ("Controle NBB-spelers op ontbrekende NBBnrs en M/V",
+              venster->windowTitle().toStdString());
+    EXPECT_EQ("Sorteer op naam", Opschrift(Vind<QCheckBox>(*venster, "chkSort")));
+    EXPECT_EQ("Print", Opschrift(Knop("cmdPrint")));
+    EXPECT_EQ("Terug", Opschrift(Knop("cmdTerug")));
+    EXPECT_FALSE(Vind<QCheckBox>(*venster, "chkSort")->isChecked());
+    EXPECT_NE(nullptr, Vind<QFrame>(*venster, "Frame2"));
+}
+
+TEST_F(diaControleNBBTest, ElkLidVanElkBestandInHunVolgorde)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    EXPECT_EQ("NBBnr M/V NBBgroep Naam 101 V Club Zee, Zus van Club Bos, An 103 M Club Dam, Cor "
+              "104 V Dinsdagavo Aap, Bea de",
+              Geschilderd());
+    EXPECT_EQ("Aantal leden: 4", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
+}
+
+TEST_F(diaControleNBBTest, GesorteerdOpNaamEnWeerTerug)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    const std::string eerst = Geschilderd();
+    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    EXPECT_EQ("NBBnr M/V NBBgroep Naam 104 V Dinsdagavo Aap, Bea de Club Bos, An 103 M Club Dam, "
+              "Cor 101 V Club Zee, Zus van",
+              Geschilderd());
+    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    EXPECT_EQ(eerst, Geschilderd());
+}
+
+/// The options of the import window hold here too.
+TEST_F(diaControleNBBTest, GeslachtAlleenAlsHetIsAangevinkt)
+{
+    opdracht.keuzes.mv = false;
+    ASSERT_NO_FATAL_FAILURE(Open({"Dinsdagavondclub.csv"}));
+    EXPECT_EQ("NBBnr M/V NBBgroep Naam 104 Dinsdagavo Aap, Bea de", Geschilderd());
+}
+
+TEST_F(diaControleNBBTest, NaEenBestandDatNietGelezenWerdGaatDeLijstVerder)
+{
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Weg.csv' CSV-bestand\r\n"
+                                              "Het bestand is er niet (meer).\r\nBestand: "),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Open({"Weg.csv", "Dinsdagavondclub.csv"}));
+    EXPECT_EQ("NBBnr M/V NBBgroep Naam 104 V Dinsdagavo Aap, Bea de", Geschilderd());
+}
+
+TEST_F(diaControleNBBTest, EenFoutInEenNbb3Bestand)
+{
+    opdracht.bron = Ledenbron::XmlNbb3;
+    map.Zet("Stuk.xml", "<lijst><lid>");
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Stuk.xml' "
+                                              "NBB3-XML-bestand\r\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml"}));
+    EXPECT_FALSE(Knop("cmdPrint")->isEnabled());
+}
+
+TEST_F(diaControleNBBTest, EenTeKorteRegelWordtGemeldMetWatErVoorStond)
+{
+    map.Zet("Kort.csv",
+            Csv("1", "V", "An", "", "Bos") + "2;V;Bea\r\n" + Csv("3", "V", "Cor", "", "Dam"));
+    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\n'Kort.csv': "
+                                      "gelezen tot regel 2, want die regel heeft te weinig "
+                                      "kolommen."));
+    ASSERT_NO_FATAL_FAILURE(Open({"Kort.csv"}));
+    EXPECT_EQ("NBBnr M/V NBBgroep Naam 1 V Kort Bos, An", Geschilderd());
+}
+
+TEST_F(diaControleNBBTest, ZonderLedenIsErNietsTePrinten)
+{
+    map.Zet("Leeg.csv", "");
+    ASSERT_NO_FATAL_FAILURE(Open({"Leeg.csv"}));
+    EXPECT_FALSE(Knop("cmdPrint")->isEnabled());
+    EXPECT_FALSE(Balk()->isEnabled());
+    EXPECT_EQ("NBBnr M/V NBBgroep Naam", Geschilderd());
+}
+
+TEST_F(diaControleNBBTest, SchuiftMetBalkToetsenEnWiel)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    const auto toets = [&](Qt::Key welke) { QTest::keyClick(P1(), welke); };
+    toets(Qt::Key_Down);
+    EXPECT_EQ(1, Balk()->value());
+    toets(Qt::Key_Up);
+    EXPECT_EQ(0, Balk()->value());
+    toets(Qt::Key_PageDown);
+    EXPECT_GT(Balk()->value(), 10);
+    toets(Qt::Key_End);
+    EXPECT_EQ(Balk()->maximum(), Balk()->value());
+    EXPECT_NE(std::string::npos, Geschilderd().find("100199"));
+    EXPECT_EQ(0U, Geschilderd().find("NBBnr M/V")); // the heading stays in sight
+    toets(Qt::Key_Home);
+    EXPECT_EQ(0, Balk()->value());
+    QWheelEvent wiel({20, 20}, P1()->mapToGlobal(QPointF(20, 20)), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&wiel);
+    qApp->notify(P1(), &wiel);
+    EXPECT_GT(Balk()->value(), 0);
+}
+
+TEST_F(diaControleNBBTest, EenKorteLijstLaatElkeSchuiftoetsOverZichHeenGaan)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    for (const Qt::Key toets :
+         {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}) {
+        QTest::keyClick(P1(), toets);
+        EXPECT_EQ(0, Balk()->value());
+    }
+    EXPECT_TRUE(venster->isVisible());
+}
+
+TEST_F(diaControleNBBTest, EenGroterVensterToontMeer)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    const int over = Balk()->maximum();
+    const int breed = P1()->width();
+    venster->resize(venster->width() + 200, venster->height() + 200);
+    QApplication::processEvents();
+    EXPECT_LT(Balk()->maximum(), over);
+    EXPECT_EQ(breed + 200, P1()->width());
+    EXPECT_EQ(Vind<QFrame>(*venster, "Frame2")->contentsRect().right(), Balk()->geometry().right());
+}
+
+/// A name that does not fit beside the others goes on below.
+TEST_F(diaControleNBBTest, EenSmalVensterVerzwijgtNiets)
+{
+    map.Zet("Lang.csv", Csv("1", "V", "An", "", "Zeergrootenlangenaamendannogmeer"));
+    ASSERT_NO_FATAL_FAILURE(Open({"Lang.csv"}));
+    venster->resize(500, 400);
+    QApplication::processEvents();
+    std::string aaneen;
+    for (const char teken : Geschilderd()) {
+        if (teken != ' ')
+            aaneen += teken;
+    }
+    EXPECT_NE(std::string::npos, aaneen.find("Zeergrootenlangenaamendannogmeer,An"));
+}
+
+TEST_F(diaControleNBBTest, HonderdduizendRegelsZijnErSnel)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(100'000));
+    QElapsedTimer klok;
+    klok.start();
+    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    EXPECT_LT(klok.elapsed(), 2000);
+    klok.restart();
+    for (int stap = 0; stap <= 20; ++stap) {
+        Balk()->setValue(Balk()->maximum() / 20 * stap);
+        P1()->repaint();
+    }
+    EXPECT_LT(klok.elapsed(), 1000);
+}
+
+TEST_F(diaControleNBBTest, OpPapierKopEnNummerOpElkBlad)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(130));
+    PrintNaarPdf();
+    const auto bladen = LeesPdf(map.Weg() / "lijst.pdf");
+    ASSERT_EQ(3U, bladen.size());
+    constexpr double tekenbreedte = 10 * 25.4 / 72 * 1229 / 2048;
+    for (std::size_t i = 0; i < bladen.size(); ++i) {
+        EXPECT_NEAR(210, bladen[i].breed, 0.1);
+        EXPECT_NEAR(297, bladen[i].hoog, 0.1);
+        EXPECT_EQ("NBBnr M/V NBBgroep Naam", bladen[i].Regel(15));
+        // One blank fewer behind "NBBnr" than on the screen.
+        EXPECT_NEAR(15 + 10 * tekenbreedte, bladen[i].Woord("M/V").links, 0.1);
+        EXPECT_NEAR(15 + 30 * tekenbreedte - tekenbreedte, bladen[i].Woord("Naam").links, 0.1);
+        EXPECT_EQ("Blad " + std::to_string(i + 1) + " van 3", bladen[i].Regel(297 - 15 + 2));
+        EXPECT_NEAR(195, bladen[i].woorden.back().rechts, 0.1);
+    }
+    EXPECT_EQ("100000 V Veel Naam, An van der", bladen[0].Regel(21));
+    EXPECT_EQ("100058 V Veel Naam, An van der", bladen[0].Regel(21 + 58 * 4.4));
+    EXPECT_EQ("100059 V Veel Naam, An van der", bladen[1].Regel(21));
+    EXPECT_EQ("100129 V Veel Naam, An van der", bladen[2].Regel(21 + 11 * 4.4));
+    EXPECT_NEAR(15 + 12 * tekenbreedte, bladen[0].Woord("V").links, 0.1);
+    EXPECT_NEAR(15 + 19 * tekenbreedte, bladen[0].Woord("Veel").links, 0.1);
+    EXPECT_NEAR(15 + 31 * tekenbreedte, bladen[0].Woord("Naam,").links, 0.1);
+}
+
+TEST_F(diaControleNBBTest, OpPapierInDeGekozenVolgorde)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    PrintNaarPdf();
+    const auto bladen = LeesPdf(map.Weg() / "lijst.pdf");
+    ASSERT_EQ(1U, bladen.size());
+    EXPECT_EQ("104 V Dinsdagavo Aap, Bea de", bladen[0].Regel(21));
+    EXPECT_EQ("Club Bos, An", bladen[0].Regel(21 + 4.4));
+}
+
+TEST_F(diaControleNBBTest, AnnulerenPrintNiets)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    wachter.Bedien([](QDialog& dialoog) { dialoog.reject(); });
+    Klik(Knop("cmdPrint"));
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
+    EXPECT_TRUE(venster->isVisible());
+}
+
+TEST_F(diaControleNBBTest, TerugEnEscapeSluiten)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    Klik(Knop("cmdTerug"));
+    EXPECT_FALSE(venster->isVisible());
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    QTest::keyClick(P1(), Qt::Key_Escape);
+    EXPECT_FALSE(venster->isVisible());
+}
