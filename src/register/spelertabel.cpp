@@ -41,7 +41,12 @@ void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
         return;
     }
     const Celtekst anders{kolom, nieuw};
-    const Celgrenzen grenzen = SchrijfKopie(rij, {&anders, 1});
+    ZetCellen(rij, {&anders, 1});
+}
+
+void Spelertabel::ZetCellen(int rij, std::span<const Celtekst> anders)
+{
+    const Celgrenzen grenzen = SchrijfKopie(rij, anders);
     rijen_[static_cast<std::size_t>(rij - 1)] = grenzen;
 }
 

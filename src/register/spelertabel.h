@@ -91,6 +91,8 @@ class Spelertabel {
     /// becomes an underscore, a line end a space.
     void ZetRij(int rij, const Rijvelden& velden);
     void ZetCel(int rij, Kolom kolom, Tekstblik tekst);
+    /// Changes several cells of a row at once, by rising column and none twice.
+    void ZetCellen(int rij, std::span<const Celtekst> anders);
     void VoegToe(const Rijvelden& velden);
     /// Adds a row that is another one with some of its cells changed: those in `anders`, by rising
     /// column and none twice.

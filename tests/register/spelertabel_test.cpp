@@ -189,6 +189,21 @@ TEST(Spelertabel, VoegKopieToeVerandertAlleenDeGegevenCellen)
     EXPECT_EQ(tabel.Cel(2, Kolom::Plaats), "");
 }
 
+TEST(Spelertabel, ZetCellenVerandertAlleenDieCellen)
+{
+    Spelertabel tabel = VijfRijen();
+    const Rijvelden vierde = tabel.Velden(4);
+    Rijvelden moet = tabel.Velden(5);
+    moet[Plaats(Kolom::Voornaam)] = "a_b c";
+    moet[Plaats(Kolom::NBBgr)] = "CLUB";
+    for (int keer = 0; keer < 100; ++keer)
+        tabel.ZetCellen(
+            5, std::vector<Celtekst>{{Kolom::Voornaam, "a,b\nc"}, {Kolom::NBBgr, "CLUB"}});
+    EXPECT_EQ(tabel.Rijen(), 5);
+    EXPECT_EQ(tabel.Velden(5), moet);
+    EXPECT_EQ(tabel.Velden(4), vierde);
+}
+
 TEST(Spelertabel, VoegKopieToeMetBlikkenOpDeTabelZelf)
 {
     Spelertabel tabel = VijfRijen();

@@ -1,0 +1,108 @@
+#include "federation/nbbnrindex.h"
+
+#include <gtest/gtest.h>
+
+#include "hulp/tabelmaker.h"
+
+namespace plexoran {
+namespace {
+
+TEST(OpgemaaktNBBnr, CijfersTotAchtAndereTekstZoalsZeIs)
+{
+    EXPECT_EQ("00012345", OpgemaaktNBBnr("12345"));
+    EXPECT_EQ("00012345", OpgemaaktNBBnr("012345"));
+    EXPECT_EQ("12345678", OpgemaaktNBBnr("12345678"));
+    EXPECT_EQ("123456789", OpgemaaktNBBnr("123456789"));
+    EXPECT_EQ("00012345", OpgemaaktNBBnr(" 12345 "));
+    EXPECT_EQ("00000000", OpgemaaktNBBnr("0"));
+    EXPECT_EQ("", OpgemaaktNBBnr(""));
+    EXPECT_EQ("12a45", OpgemaaktNBBnr("12a45"));
+    EXPECT_EQ("12-45", OpgemaaktNBBnr("12-45"));
+    EXPECT_EQ("-12345", OpgemaaktNBBnr("-12345"));
+}
+
+/// Asks for each text after all numbers were put in.
+std::vector<bool> Antwoorden(const std::vector<Tekst>& nummers, const std::vector<Tekst>& vragen)
+{
+    NBBnrIndex index(vragen);
+    for (const Tekst& nummer : nummers)
+        index.Voeg(nummer);
+    std::vector<bool> antwoorden;
+    for (std::size_t i = 0; i < vragen.size(); ++i)
+        antwoorden.push_back(index.Bevat(i));
+    return antwoorden;
+}
+
+using Rij = std::vector<bool>;
+
+TEST(NBBnrIndex, VindtEenNummerDatErStaat)
+{
+    EXPECT_EQ(
+        (Rij{true, true, false, false}),
+        Antwoorden({"00012345", "00067890"}, {"00012345", "00067890", "00012346", "12345000"}));
+    EXPECT_EQ((Rij{false}), Antwoorden({}, {"00012345"}));
+}
+
+/// Meant: a number of nine or more digits hides every number within its digits.
+TEST(NBBnrIndex, EenLangNummerVerbergtWatErinStaat)
+{
+    EXPECT_EQ(
+        (Rij{true, true, true, true, false}),
+        Antwoorden({"1234567890"}, {"12345678", "23456789", "34567890", "123456789", "45678900"}));
+}
+
+TEST(NBBnrIndex, ZoektDwarsDoorHetStreepjeAlsDeVraagDatHeeft)
+{
+    EXPECT_EQ((Rij{true, true, true, false, true}),
+              Antwoorden({"00012345", "00067890", "7-8"},
+                         {"5-0", "12345-00067890-7", "0-7-8", "0-8", "-00012345"}));
+}
+
+TEST(NBBnrIndex, KorteEnVreemdeTekstenEnTweemaalDezelfdeVraag)
+{
+    EXPECT_EQ((Rij{true, true, true, false, true, true}),
+              Antwoorden({"gast12", "00012345"},
+                         {"gast", "st1", "gast12", "12g", "00012345", "00012345"}));
+    EXPECT_EQ((Rij{true, false}), Antwoorden({"", ""}, {"--", "---"}));
+    EXPECT_EQ((Rij{true, true}), Antwoorden({Tekst(9, '\0')}, {Tekst(8, '\0'), Tekst(9, '\0')}));
+    EXPECT_EQ((Rij{true}), Antwoorden({}, {""}));
+}
+
+/// The index in the plain way: one text, searched from its beginning every time.
+TEST(NBBnrIndex, AntwoordtAlsDeAaneengeregenTekst)
+{
+    std::mt19937 toeval(20);
+    const std::vector<Tekst> alfabetten{"01", "0123456789", "01-", "1a-", "-", "0a\xE9"};
+    std::size_t gevonden = 0;
+    std::size_t gemist = 0;
+    for (int keer = 0; keer < 6000; ++keer) {
+        const Tekst& alfabet = alfabetten[Gooi(toeval, alfabetten.size())];
+        const auto tekst = [&] {
+            // Half of them of the usual length, so that all ways of asking come up.
+            Tekst uit(Gooi(toeval, 2) == 0 ? 8 : Gooi(toeval, 13), ' ');
+            for (char& teken : uit)
+                teken = alfabet[Gooi(toeval, alfabet.size())];
+            return uit;
+        };
+        std::vector<Tekst> vragen(Gooi(toeval, 8));
+        for (Tekst& vraag : vragen)
+            vraag = tekst();
+        NBBnrIndex index(vragen);
+        Tekst plat;
+        for (std::size_t stap = Gooi(toeval, 10); stap > 0; --stap) {
+            const Tekst nummer = tekst();
+            index.Voeg(nummer);
+            plat += "-" + nummer;
+            for (std::size_t i = 0; i < vragen.size(); ++i) {
+                const bool staatEr = plat.find(vragen[i]) != Tekst::npos;
+                ASSERT_EQ(staatEr, index.Bevat(i)) << plat << " ? " << vragen[i];
+                ++(staatEr ? gevonden : gemist);
+            }
+        }
+    }
+    EXPECT_GT(gevonden, 10000U);
+    EXPECT_GT(gemist, 10000U);
+}
+
+} // namespace
+} // namespace plexoran

@@ -1,0 +1,407 @@
+#include "federation/samenvoegen.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "hulp/tabelmaker.h"
+#include "platform/getal.h"
+
+namespace plexoran {
+namespace {
+
+using Teksten = std::vector<Tekst>;
+
+constexpr auto Kop = "HKEY=100042\r\n";
+
+Register Lees(const Tekst& inhoud)
+{
+    Spelerlezing lezing = SpelersUit(inhoud);
+    Register spelers;
+    spelers.tabel = std::move(*lezing.tabel);
+    spelers.HKEY = lezing.HKEY.value_or(0);
+    return spelers;
+}
+
+/// Two members and a namesake of the first in another group.
+Register DrieSpelers()
+{
+    return Lees(Tekst(Kop) +
+                "1,100001,Gr05-,An,de,Bos,0,a@b,Weg 1,0101AA,Ede,NL,V,d1,d2,overl,OUD,12345\r\n"
+                "2,100002,Gr01-,An,de,Bos,0,a@b,Weg 1,0101AA,Ede,NL,V,d1,d2,,A-LIJN,67890\r\n"
+                "3,100003,Gr05-,Cor,,Dam,,,,,,,,,,,OUD,222\r\n");
+}
+
+Samenvoeging Voeg(Register& spelers, Teksten regels, const Tekst& subgroep = "Club")
+{
+    auto uitkomst = VoegLedenSamen(spelers, {"Gr05-", subgroep, std::move(regels)});
+    EXPECT_TRUE(uitkomst.has_value());
+    return uitkomst.value_or(Samenvoeging());
+}
+
+TEST(VoegLedenSamen, VerverstDeRijMetHetNummerEnHoudtDeRest)
+{
+    Register spelers = DrieSpelers();
+    const Samenvoeging uitkomst =
+        Voeg(spelers, {"Anna,van,Bosch,Laan 2,0202BB,Rhenen,011,x@y,hs,M,12345"});
+    EXPECT_EQ(1U, uitkomst.AantalVerververst);
+    EXPECT_EQ(0U, uitkomst.AantalNieuw);
+    EXPECT_EQ("", uitkomst.ZonderNBBnr);
+    EXPECT_TRUE(uitkomst.overgeslagen.empty());
+    EXPECT_EQ(Tekst(Kop) +
+                  "1,100001,Gr05-,Anna,van,Bosch,011,x@y,Laan "
+                  "2,0202BB,Rhenen,hs,M,d1,d2,overl,CLUB,12345\r\n"
+                  "2,100002,Gr01-,An,de,Bos,0,a@b,Weg 1,0101AA,Ede,NL,V,d1,d2,,A-LIJN,67890\r\n"
+                  "3,100003,Gr05-,Cor,,Dam,,,,,,,,,,,OUD,222\r\n",
+              SpelersTekst(spelers));
+}
+
+TEST(VoegLedenSamen, VoegtEenNieuwLidAchteraanToe)
+{
+    Register spelers = DrieSpelers();
+    const Samenvoeging uitkomst =
+        Voeg(spelers, {"Eva,,Fuik,Pad 3,0303CC,Ede,022,e@f,bg,V,77"}, "Caf\xE9");
+    EXPECT_EQ(0U, uitkomst.AantalVerververst);
+    EXPECT_EQ(1U, uitkomst.AantalNieuw);
+    EXPECT_EQ(100043, spelers.HKEY);
+    ASSERT_EQ(4, spelers.tabel.Rijen());
+    EXPECT_EQ((Rijvelden{"4", "100043", "Gr05-", "Eva", "", "Fuik", "022", "e@f", "Pad 3", "0303CC",
+                         "Ede", "bg", "V", "", "", "", "CAF\xC9", "77"}),
+              spelers.tabel.Velden(4));
+}
+
+TEST(VoegLedenSamen, DeEersteSleutelVanEenLegeTabelKomtVanDeBasis)
+{
+    Register spelers;
+    EXPECT_EQ(1U, Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}).AantalNieuw);
+    EXPECT_EQ("100001", spelers.tabel.Cel(1, Kolom::Key));
+    EXPECT_EQ(100001, spelers.HKEY);
+}
+
+TEST(VoegLedenSamen, EenLeegLedenbestandDoetNiets)
+{
+    Register spelers = DrieSpelers();
+    const auto oud = AlleRijen(spelers.tabel);
+    const Samenvoeging uitkomst = Voeg(spelers, {});
+    EXPECT_EQ(0U, uitkomst.AantalVerververst + uitkomst.AantalNieuw);
+    EXPECT_EQ(oud, AlleRijen(spelers.tabel));
+}
+
+/// Meant: the refresh replaces, it does not fill gaps.
+TEST(VoegLedenSamen, EenLeegVeldMaaktDeCelLeeg)
+{
+    Register spelers = DrieSpelers();
+    (void)Voeg(spelers, {"An,,Bos,,,,,,,,12345"});
+    EXPECT_EQ((Rijvelden{"1", "100001", "Gr05-", "An", "", "Bos", "", "", "", "", "", "", "", "d1",
+                         "d2", "overl", "CLUB", "12345"}),
+              spelers.tabel.Velden(1));
+}
+
+/// Meant: refreshed fields are stored as they stand, those of a new player are trimmed.
+TEST(VoegLedenSamen, VerversenHoudtSpatiesToevoegenNiet)
+{
+    Register spelers = DrieSpelers();
+    (void)Voeg(spelers, {" An , de , Bos , W , P , S , T , E , L , V , 12345 ",
+                         " Eva , de , Fuik , W , P , S , T , E , L , V , 77 "});
+    EXPECT_EQ((Rijvelden{"1", "100001", "Gr05-", " An ", " de ", " Bos ", " T ", " E ", " W ",
+                         " P ", " S ", " L ", " V ", "d1", "d2", "overl", "CLUB", "12345"}),
+              spelers.tabel.Velden(1));
+    EXPECT_EQ((Rijvelden{"4", "100043", "Gr05-", "Eva", "de", "Fuik", "T", "E", "W", "P", "S", "L",
+                         "V", "", "", "", "CLUB", "77"}),
+              spelers.tabel.Velden(4));
+}
+
+TEST(VoegLedenSamen, ZonderNummerWordtHetLidGenoemdEnNietIngevoerd)
+{
+    Register spelers = DrieSpelers();
+    const Samenvoeging uitkomst =
+        Voeg(spelers, {"Eva,,Fuik,,,,,,,V,", "Bo,,Ek,,,,,,,,  ", "An,,Bos,,,,,,,,12345"});
+    EXPECT_EQ("Eva,,Fuik,,,,,,,V,\r\nBo,,Ek,,,,,,,,  \r\n", uitkomst.ZonderNBBnr);
+    EXPECT_EQ(1U, uitkomst.AantalVerververst);
+    EXPECT_EQ(3, spelers.tabel.Rijen());
+}
+
+/// Meant: players of other groups are never looked at, so a member can stand in two groups.
+TEST(VoegLedenSamen, EenNummerInEenAndereGroepTeltNiet)
+{
+    Register spelers = DrieSpelers();
+    EXPECT_EQ(1U, Voeg(spelers, {"An,de,Bos,,,,,,,,67890"}).AantalNieuw);
+    EXPECT_EQ("A-LIJN", spelers.tabel.Cel(2, Kolom::NBBgr));
+    EXPECT_EQ("Gr05-", spelers.tabel.Cel(4, Kolom::Groep));
+}
+
+/// Meant: a number that equals only after formatting is neither refreshed nor added.
+TEST(VoegLedenSamen, EenAndersGeschrevenNummerValtErtussenuit)
+{
+    Register spelers = DrieSpelers();
+    const auto oud = AlleRijen(spelers.tabel);
+    const Samenvoeging uitkomst = Voeg(spelers, {"An,,Bos,,,,,,,,012345"});
+    EXPECT_EQ(0U, uitkomst.AantalVerververst + uitkomst.AantalNieuw);
+    EXPECT_EQ((Teksten{"An,,Bos,,,,,,,,012345"}), uitkomst.overgeslagen);
+    EXPECT_EQ(oud, AlleRijen(spelers.tabel));
+}
+
+/// Meant: a number of nine or more digits hides the numbers within its digits.
+TEST(VoegLedenSamen, EenLangNummerVerbergtEenAnder)
+{
+    Register spelers = DrieSpelers();
+    EXPECT_EQ(1U, Voeg(spelers, {"Een,,Lang,,,,,,,,9123456780"}).AantalNieuw);
+    EXPECT_EQ((Teksten{"Een,,Kort,,,,,,,,12345678"}),
+              Voeg(spelers, {"Een,,Kort,,,,,,,,12345678"}).overgeslagen);
+}
+
+TEST(VoegLedenSamen, TweemaalHetzelfdeNieuweNummerAlleenHetEerste)
+{
+    Register spelers = DrieSpelers();
+    const Samenvoeging uitkomst = Voeg(spelers, {"Eva,,Een,,,,,,,,77", "Eva,,Twee,,,,,,,,77"});
+    EXPECT_EQ(1U, uitkomst.AantalNieuw);
+    EXPECT_EQ((Teksten{"Eva,,Twee,,,,,,,,77"}), uitkomst.overgeslagen);
+    EXPECT_EQ(4, spelers.tabel.Rijen());
+    EXPECT_EQ("Een", spelers.tabel.Cel(4, Kolom::Achternaam));
+    EXPECT_EQ(100043, spelers.HKEY); // no key was spent on the second
+}
+
+TEST(VoegLedenSamen, TweemaalEenBekendNummerVerverstTweemaalDeLaatsteBlijft)
+{
+    Register spelers = DrieSpelers();
+    const Samenvoeging uitkomst =
+        Voeg(spelers, {"Eva,,Een,,,,,,,,12345", "Eva,,Twee,,,,,,,,12345"});
+    EXPECT_EQ(2U, uitkomst.AantalVerververst);
+    EXPECT_EQ("Twee", spelers.tabel.Cel(1, Kolom::Achternaam));
+}
+
+TEST(VoegLedenSamen, VanDubbeleRijenDeEerste)
+{
+    Register spelers = Lees(Tekst(Kop) + "1,100001,Gr01-,,,X,,,,,,,,,,,,5\r\n"
+                                         "2,100002,Gr05-,,,Een,,,,,,,,,,,,5\r\n"
+                                         "3,100003,Gr05-,,,Twee,,,,,,,,,,,,5\r\n");
+    EXPECT_EQ(1U, Voeg(spelers, {"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
+    EXPECT_EQ("X", spelers.tabel.Cel(1, Kolom::Achternaam));
+    EXPECT_EQ("Nieuw", spelers.tabel.Cel(2, Kolom::Achternaam));
+    EXPECT_EQ("Twee", spelers.tabel.Cel(3, Kolom::Achternaam));
+}
+
+TEST(VoegLedenSamen, TweemaalHetzelfdeBestandVerverstDeTweedeKeerIedereen)
+{
+    Register spelers = DrieSpelers();
+    const Teksten regels{"Eva,,Fuik,,,,,,,,77", "An,,Bos,,,,,,,,12345", "Bo,,Ek,,,,,,,,gast"};
+    EXPECT_EQ(2U, Voeg(spelers, regels).AantalNieuw);
+    const Samenvoeging tweede = Voeg(spelers, regels);
+    EXPECT_EQ(3U, tweede.AantalVerververst);
+    EXPECT_EQ(0U, tweede.AantalNieuw);
+    EXPECT_EQ(5, spelers.tabel.Rijen());
+}
+
+TEST(VoegLedenSamen, NaarEenAnderLedenbestandHoudtDeSleutel)
+{
+    Register spelers = DrieSpelers();
+    (void)Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}, "Club");
+    (void)Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}, "Cursus");
+    EXPECT_EQ("100043", spelers.tabel.Cel(4, Kolom::Key));
+    EXPECT_EQ("CURSUS", spelers.tabel.Cel(4, Kolom::NBBgr));
+    EXPECT_EQ(4, spelers.tabel.Rijen());
+}
+
+/// Meant: a comma inside a field of the source shifts the fields behind it.
+TEST(VoegLedenSamen, EenKommaInEenVeldSchuiftDeVeldenOp)
+{
+    Register spelers = DrieSpelers();
+    // The street is "Weg 1, bis": the sex comes where the number was.
+    (void)Voeg(spelers, {"Eva,,Fuik,Weg 1, bis,0303CC,Ede,022,e@f,bg,V,77"});
+    ASSERT_EQ(4, spelers.tabel.Rijen());
+    EXPECT_EQ((Rijvelden{"4", "100043", "Gr05-", "Eva", "", "Fuik", "Ede", "022", "Weg 1", "bis",
+                         "0303CC", "e@f", "bg", "", "", "", "CLUB", "V"}),
+              spelers.tabel.Velden(4));
+}
+
+TEST(VoegLedenSamen, EenKommaInHetLedenbestandNaamBreektDeTabelNiet)
+{
+    Register spelers;
+    (void)Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}, "a,b");
+    EXPECT_EQ("A_B", spelers.tabel.Cel(1, Kolom::NBBgr));
+    EXPECT_EQ("77", spelers.tabel.Cel(1, Kolom::NBBnr));
+}
+
+/// Meant: a row without a number adds a lone "-" to the index, and is never the one refreshed.
+TEST(VoegLedenSamen, EenRijZonderNummer)
+{
+    Register spelers = Lees(Tekst(Kop) + "1,100001,Gr05-,,,X,,,,,,,,,,,,\r\n");
+    EXPECT_EQ((Teksten{"Bo,,Ek,,,,,,,,-"}), Voeg(spelers, {"Bo,,Ek,,,,,,,,-"}).overgeslagen);
+    EXPECT_EQ("X", spelers.tabel.Cel(1, Kolom::Achternaam));
+}
+
+TEST(VoegLedenSamen, ZonderSleutelsGenoegVerandertErNiets)
+{
+    Register spelers = DrieSpelers();
+    spelers.HKEY = std::numeric_limits<std::int32_t>::max() - 1;
+    const Tekst oud = SpelersTekst(spelers);
+    const Samenvoegopdracht opdracht{
+        "Gr05-", "Club", {"An,,X,,,,,,,,12345", "Bo,,Een,,,,,,,,71", "Bo,,Twee,,,,,,,,72"}};
+    const auto uitkomst = VoegLedenSamen(spelers, opdracht);
+    ASSERT_FALSE(uitkomst.has_value());
+    EXPECT_EQ(Samenvoegfout::GeenSleutels, uitkomst.error());
+    EXPECT_EQ(oud, SpelersTekst(spelers));
+    // One key is enough for one: a line that is left out needs none.
+    EXPECT_EQ(1U, Voeg(spelers, {"Bo,,Een,,,,,,,,71", "Bo,,Twee,,,,,,,,71"}).AantalNieuw);
+}
+
+TEST(VoegLedenSamen, StoppenOpElkMomentVerandertNiets)
+{
+    Teksten regels;
+    for (int i = 0; i < 5000; ++i)
+        regels.push_back("V" + std::to_string(i) + ",,A,,,,,,,," + std::to_string(12345 + i));
+    int meldingen = 0;
+    Register heel = DrieSpelers();
+    const auto uitkomst = VoegLedenSamen(heel, {"Gr05-", "Club", regels},
+                                         [&](std::size_t gedaan, std::size_t geheel) {
+                                             EXPECT_LE(gedaan, geheel);
+                                             EXPECT_EQ(10000U, geheel);
+                                             ++meldingen;
+                                             return true;
+                                         });
+    ASSERT_TRUE(uitkomst.has_value());
+    EXPECT_EQ(5000U, uitkomst->AantalVerververst + uitkomst->AantalNieuw);
+    ASSERT_GE(meldingen, 3);
+    for (int stop = 1; stop <= meldingen; ++stop) {
+        Register spelers = DrieSpelers();
+        int teller = 0;
+        const auto gestopt =
+            VoegLedenSamen(spelers, {"Gr05-", "Club", regels},
+                           [&](std::size_t, std::size_t) { return ++teller < stop; });
+        ASSERT_FALSE(gestopt.has_value());
+        EXPECT_EQ(Samenvoegfout::Gestopt, gestopt.error());
+        EXPECT_EQ(SpelersTekst(DrieSpelers()), SpelersTekst(spelers));
+    }
+}
+
+// ---------------------------------------------------------------- the plain way
+
+struct Platte {
+    std::vector<Rijvelden> rijen; ///< element 0 is row 1
+    std::int32_t HKEY = 0;
+    Samenvoeging uitkomst{};
+};
+
+Tekst Formaat(Tekstblik nummer)
+{
+    return AlsGetal(nummer, 8).value_or(Tekst(nummer));
+}
+
+std::vector<Tekst> Gesplitst(const Tekst& regel)
+{
+    std::vector<Tekst> delen{""};
+    for (const char teken : regel) {
+        if (teken == ',')
+            delen.emplace_back();
+        else
+            delen.back() += teken;
+    }
+    delen.resize(std::max<std::size_t>(delen.size(), 11));
+    return delen;
+}
+
+constexpr std::array<std::pair<std::size_t, std::size_t>, 10> kolomEnVeld{
+    {{3, 0}, {4, 1}, {5, 2}, {6, 6}, {7, 7}, {8, 3}, {9, 4}, {10, 5}, {11, 8}, {12, 9}}};
+
+/// Step by step with nested loops and one concatenated text.
+void VoegPlatSamen(Platte& spelers, std::vector<Tekst> lstN1, const Tekst& groep,
+                   const Tekst& subgroep)
+{
+    Tekst index;
+    for (const Rijvelden& rij : spelers.rijen) {
+        if (rij[2] == groep)
+            index += "-" + Formaat(rij[17]);
+    }
+    for (Tekst& regel : lstN1) {
+        const auto veld = Gesplitst(regel);
+        const Tekst nummer(ZonderSpaties(veld[10]));
+        if (nummer.empty()) {
+            spelers.uitkomst.ZonderNBBnr += regel + "\r\n";
+            regel.clear();
+            continue;
+        }
+        if (index.find(Formaat(nummer)) == Tekst::npos)
+            continue;
+        for (Rijvelden& rij : spelers.rijen) {
+            if (rij[2] != groep || rij[17].empty() || rij[17] != nummer)
+                continue;
+            for (const auto& [kolom, plaats] : kolomEnVeld)
+                rij[kolom] = veld[plaats];
+            rij[16] = Hoofdletters(subgroep);
+            ++spelers.uitkomst.AantalVerververst;
+            regel.clear();
+            break;
+        }
+    }
+    for (const Tekst& regel : lstN1) {
+        if (IsBlanco(regel))
+            continue;
+        const auto veld = Gesplitst(regel);
+        const Tekst nummer(ZonderSpaties(veld[10]));
+        if (index.find(Formaat(nummer)) != Tekst::npos) {
+            spelers.uitkomst.overgeslagen.push_back(regel);
+            continue;
+        }
+        Rijvelden rij;
+        rij[0] = std::to_string(spelers.rijen.size() + 1);
+        rij[1] = std::to_string(++spelers.HKEY);
+        rij[2] = groep;
+        for (const auto& [kolom, plaats] : kolomEnVeld)
+            rij[kolom] = ZonderSpaties(veld[plaats]);
+        rij[16] = Hoofdletters(subgroep);
+        rij[17] = nummer;
+        spelers.rijen.push_back(rij);
+        ++spelers.uitkomst.AantalNieuw;
+        index += "-" + Formaat(nummer);
+    }
+}
+
+Tekst ToevalligNummer(std::mt19937& toeval)
+{
+    static const Tekst alfabet = "1123-a 0";
+    Tekst nummer(Gooi(toeval, 3) == 0 ? Gooi(toeval, 13) : Gooi(toeval, 4), ' ');
+    for (char& teken : nummer)
+        teken = alfabet[Gooi(toeval, Gooi(toeval, 3) == 0 ? alfabet.size() : 3)];
+    return nummer;
+}
+
+TEST(VoegLedenSamen, DoetHetzelfdeAlsDePlatteStappen)
+{
+    std::mt19937 toeval(5);
+    std::size_t ververst = 0;
+    std::size_t nieuw = 0;
+    std::size_t overgeslagen = 0;
+    for (int keer = 0; keer < 6000; ++keer) {
+        std::vector<Proefspeler> begin(Gooi(toeval, 9));
+        for (Proefspeler& speler : begin)
+            speler = {.key = "100001",
+                      .groep = Trek(toeval, {"Gr05-", "Gr05-", "Gr01-"}),
+                      .achternaam = "Oud",
+                      .nbbnr = ToevalligNummer(toeval)};
+        Register spelers;
+        spelers.HKEY = 100042;
+        spelers.tabel = MaakTabel(begin);
+        Platte plat{.rijen = AlleRijen(spelers.tabel), .HKEY = 100042};
+        Teksten regels(Gooi(toeval, 12));
+        for (Tekst& regel : regels)
+            regel = Trek(toeval, {"a", " b "}) + "," + Trek(toeval, {"", "de", "x,y"}) + ",Nieuw," +
+                    Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," + ToevalligNummer(toeval);
+        const Samenvoeging uitkomst = Voeg(spelers, regels);
+        VoegPlatSamen(plat, regels, "Gr05-", "Club");
+        ASSERT_EQ(plat.rijen, AlleRijen(spelers.tabel));
+        ASSERT_EQ(plat.HKEY, spelers.HKEY);
+        ASSERT_EQ(plat.uitkomst.AantalVerververst, uitkomst.AantalVerververst);
+        ASSERT_EQ(plat.uitkomst.AantalNieuw, uitkomst.AantalNieuw);
+        ASSERT_EQ(plat.uitkomst.ZonderNBBnr, uitkomst.ZonderNBBnr);
+        ASSERT_EQ(plat.uitkomst.overgeslagen, uitkomst.overgeslagen);
+        ververst += uitkomst.AantalVerververst;
+        nieuw += uitkomst.AantalNieuw;
+        overgeslagen += uitkomst.overgeslagen.size();
+    }
+    EXPECT_GT(ververst, 500U);
+    EXPECT_GT(nieuw, 1000U);
+    EXPECT_GT(overgeslagen, 1000U);
+}
+
+} // namespace
+} // namespace plexoran
