@@ -13,6 +13,7 @@
 #include "dialogs/frmVerwSubgroep.h"
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
+#include "federation/frmImportNBB.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/sorteerlijst.h"
 #include "platform/scherm/tekstbrug.h"
@@ -121,6 +122,8 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Groepen groepen = administratie.groepen;
     fotograaf.Neem(diaGrNamen(groepen, &hoofdvenster));
     fotograaf.Neem(diaRekProgkeus(&hoofdvenster));
+    Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
+    fotograaf.Neem(frmImportNBB(administratie, importgeheugen, &hoofdvenster));
     fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
     fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));
     fotograaf.Neem(frmVerwSubgroep(administratie, &hoofdvenster));

@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "dialogs/ingave.h"
+#include "federation/frmImportNBB.h"
 #include "mainwindow/rooster.h"
 #include "mainwindow/sorteerlijst.h"
 #include "platform/scherm/maten.h"
@@ -64,6 +65,7 @@ class frmLedenAdmin : public QMainWindow {
     void RuimRestenOp();
     void LeesInstellingenBijStart();
     void ZoekRekenprogrammaBijStart();
+    void KiesRekenprogramma();
     void LeesGroepenBijStart();
     void LeesSpelersBijStart();
     void MeldLezing(const Leesverslag& verslag);
@@ -89,6 +91,7 @@ class frmLedenAdmin : public QMainWindow {
     void Verplaats();
     void Kopieer();
     void VerwijderGroep();
+    void HaalNBBnamen();
     [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
     [[nodiscard]] bool IsRegelGekozen();
 
@@ -107,6 +110,7 @@ class frmLedenAdmin : public QMainWindow {
 
     Administratie& administratie_;
     Maten maten_;
+    Importgeheugen importgeheugen_;
     bool nietOpgeslagen_ = false;         ///< the table holds changes that the file lacks
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
     bool opstarten_ = false;              ///< keeps `chkKolBr` from redrawing

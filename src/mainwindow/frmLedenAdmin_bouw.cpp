@@ -93,7 +93,7 @@ void frmLedenAdmin::MaakKnoppen()
         QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
     // Their windows are not there yet.
     for (QPushButton* later :
-         {cmdSpToevoegen, cmdHaalNBBnamen, cmdKoppel, cmdParenOnderhoud, cmdPrint, cmdToelichting})
+         {cmdSpToevoegen, cmdKoppel, cmdParenOnderhoud, cmdPrint, cmdToelichting})
         later->setEnabled(false);
 }
 
@@ -274,6 +274,7 @@ void frmLedenAdmin::Verbind()
     connect(cmdVerplaats, &QPushButton::clicked, this, &frmLedenAdmin::Verplaats);
     connect(cmdKopieer, &QPushButton::clicked, this, &frmLedenAdmin::Kopieer);
     connect(cmdVerwGroep, &QPushButton::clicked, this, &frmLedenAdmin::VerwijderGroep);
+    connect(cmdHaalNBBnamen, &QPushButton::clicked, this, &frmLedenAdmin::HaalNBBnamen);
     connect(cmdZoekDubbeleNamen, &QPushButton::clicked, this, &frmLedenAdmin::ToonDubbeleNamen);
     for (const auto& [knop, soort] : {std::pair{cmdSortlijst1, Sorteersoort::Key},
                                       std::pair{cmdSortlijst2, Sorteersoort::NBBnr},

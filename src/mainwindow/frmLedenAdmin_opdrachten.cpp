@@ -192,6 +192,28 @@ void frmLedenAdmin::VerwijderGroep()
     MeldRegisterBehouden(opslag);
 }
 
+/// Members in a group that is none of the fifty would never be seen again.
+void frmLedenAdmin::HaalNBBnamen()
+{
+    const Tekst& importgroep = administratie_.mappen.DFIMPG;
+    bool bestaat = false;
+    for (int nummer = 1; nummer <= AantalGroepen; ++nummer)
+        bestaat = bestaat || Groepscode(nummer) == importgroep;
+    if (!bestaat) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat "
+                            "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-."));
+        return;
+    }
+    KiesRekenprogramma();
+    frmImportNBB venster(administratie_, importgeheugen_, this);
+    venster.exec();
+    if (!venster.IetsGewijzigd())
+        return;
+    (void)SlaOp();
+    ToonGroep();
+}
+
 void frmLedenAdmin::StartGatenlijst()
 {
     const Tekst& map = administratie_.mappen.RVDMAP;

@@ -119,13 +119,19 @@ void frmLedenAdmin::LeesInstellingenBijStart()
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
 }
 
-void frmLedenAdmin::ZoekRekenprogrammaBijStart()
+/// Both programs there: the user is asked which, now and whenever the import window opens.
+void frmLedenAdmin::KiesRekenprogramma()
 {
     administratie_.rekenprogramma = ZoekRekenprogramma(administratie_.winkel, [this] {
         diaRekProgkeus keus(this);
         keus.exec();
         return keus.Antwoord();
     });
+}
+
+void frmLedenAdmin::ZoekRekenprogrammaBijStart()
+{
+    KiesRekenprogramma();
     const Tekst& dataRoot = administratie_.rekenprogramma.DataRoot;
     if (!dataRoot.empty())
         administratie_.DataMap = Samen(dataRoot, "data");

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/instellingenwinkel.h"
+#include "platform/programma.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/rekenprogramma.h"
@@ -11,7 +12,8 @@ namespace plexoran {
 
 struct Administratie {
     Schijf& schijf;
-    Instellingenwinkel& winkel; ///< what other programs left for this user
+    Instellingenwinkel& winkel;        ///< what other programs left for this user
+    Pad programmamap = Programmamap(); ///< where the running program stands
     Mappen mappen{};
     Instellingen instellingen{};
     Groepen groepen{};

@@ -1,0 +1,276 @@
+// Building the import window: its controls, their captions and places.
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+#include "federation/frmImportNBB.h"
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+namespace {
+
+QLabel* MaakLopendeTekst(const QString& naam, const QString& tekst, QWidget* ouder)
+{
+    QLabel* label = MaakLabel(naam, tekst, ouder);
+    label->setWordWrap(true);
+    // A label that breaks its lines may be as narrow as the window likes.
+    label->setMinimumWidth(1);
+    return label;
+}
+
+QString Openingstekst(const Tekst& importgroep)
+{
+    return QStringLiteral(
+               "Hieronder kunt u spelergegevens uit het NBB-Rekenprogramma importeren in Ravendeck "
+               "(RVD).\n"
+               "Om RVD en NBB4 naadloos met elkaar te kunnen laten werken is het van het grootste "
+               "belang dat de gegevens van de spelers in beide programma's gelijk zijn.\n"
+               "Werkt ook met Bridge-It als daar bij 'NBB-nummer' een uniek fictief nummer wordt "
+               "ingevuld lager dan 9999.\n"
+               "De spelers in de gekozen bestanden gaan standaard naar de RVD-verzamelgroep '%1' "
+               ",van daaruit kunt u ze eventueel kopieren naar andere groepen.")
+        .arg(NaarQString(importgroep));
+}
+
+QVBoxLayout* Onderelkaar(std::initializer_list<QWidget*> delen)
+{
+    auto* lagen = new QVBoxLayout;
+    for (QWidget* deel : delen)
+        lagen->addWidget(deel);
+    return lagen;
+}
+
+/// A label that says more of the control above it, a little to the right.
+QHBoxLayout* Ingesprongen(QLabel* label)
+{
+    auto* rij = new QHBoxLayout;
+    rij->setContentsMargins(24, 0, 0, 4);
+    rij->addWidget(label);
+    return rij;
+}
+
+} // namespace
+
+void frmImportNBB::MaakDelen()
+{
+    const auto keus = [this](const QString& naam, const QString& tekst, char16_t letter,
+                             const QString& gesproken) {
+        auto* optie = new QRadioButton(MetSneltoets(tekst, letter), this);
+        Noem(optie, naam, gesproken);
+        return optie;
+    };
+    // Two options bear the same caption: only their labels, and their spoken names, differ.
+    const QString xml = QStringLiteral("uit een geexporteerd XML-ledenbestand");
+    Option1 = keus(QStringLiteral("Option1"),
+                   administratie_.rekenprogramma.GekozenProgramma == Programma::BridgeIt
+                       ? QStringLiteral("direct uit Bridge-It")
+                       : QStringLiteral("direct uit NBBR 2.8"),
+                   u'd', {});
+    Option2 = keus(QStringLiteral("Option2"),
+                   QStringLiteral("uit een geexporteerd CSV-ledenbestand"), u'C', {});
+    Option3 = keus(QStringLiteral("Option3"), xml, u'X', xml + QStringLiteral(" uit NBBR-3"));
+    Option4 = keus(QStringLiteral("Option4"), xml, u'L', xml + QStringLiteral(" uit NBB-4"));
+
+    const auto vink = [this](const QString& naam, const QString& tekst, char16_t letter) {
+        auto* vakje = new QCheckBox(MetSneltoets(tekst, letter), this);
+        Noem(vakje, naam);
+        vakje->setChecked(true);
+        return vakje;
+    };
+    chkVoornaam = vink(QStringLiteral("chkVoornaam"), QStringLiteral("Voornaam"), 0);
+    chkTus = vink(QStringLiteral("chkTus"), QStringLiteral("Tussenvoegsel"), 0);
+    chkAchternaam = vink(QStringLiteral("chkAchternaam"), QStringLiteral("Achternaam"), 0);
+    chkNBBnr = vink(QStringLiteral("chkNBBnr"), QStringLiteral("NBBnummer"), 0);
+    for (QCheckBox* altijd : {chkVoornaam, chkTus, chkAchternaam, chkNBBnr}) {
+        altijd->setEnabled(false);
+        altijd->setToolTip(QStringLiteral("Wordt altijd geïmporteerd"));
+    }
+    chkNAW = vink(QStringLiteral("chkNAW"),
+                  QStringLiteral("NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"), u'N');
+    chkTel = vink(QStringLiteral("chkTel"), QStringLiteral("Telefoonnr"), u'f');
+    chkEmail = vink(QStringLiteral("chkEmail"), QStringLiteral("Emailadres"), u'E');
+    chkMV = vink(QStringLiteral("chkMV"), QStringLiteral("M/V"), u'M');
+    for (QCheckBox* naarKeus : {chkNAW, chkTel, chkEmail, chkMV})
+        naarKeus->setToolTip(QStringLiteral(
+            "Zonder vinkje wordt dit gegeven ook leeggemaakt bij spelers die er al staan"));
+    MaakHulpknoppen();
+}
+
+void frmImportNBB::MaakHulpknoppen()
+{
+    const auto knop = [this](const char16_t* naam, const char16_t* tekst, char16_t letter) {
+        return MaakKnop(QString::fromUtf16(naam), QString::fromUtf16(tekst), letter, this);
+    };
+    cmdKiesExportMap = knop(u"cmdKiesExportMap", u"Kies een map", u'K');
+    cmdControleNBBnrs =
+        knop(u"cmdControleNBBnrs", u"Overzicht NBBnrs van geselecteerde groepen", u'O');
+    cmdHint = knop(u"cmdHint", u"Hint voor toekennen van fictieve NBB-nummers", u'H');
+    cmdHelpImport28 =
+        knop(u"cmdHelpImport28", u"Hoe exporteer je een ledenbestand uit NBBR-2.8?", u'2');
+    cmdHelpImport31 =
+        knop(u"cmdHelpImport31", u"Hoe exporteer je een ledenbestand uit  NBBR-3.1?", u'3');
+    cmdHelpImport4 =
+        knop(u"cmdHelpImport4", u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?", u'4');
+    cmbHelpCSV = knop(u"cmbHelpCSV", u"Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?", u'V');
+    cmdStop = knop(u"cmdStop", u"Stoppen", u'S');
+    cmdAnnuleren = knop(u"cmdAnnuleren", u"Terug", u'T');
+    cmdImporteer = knop(u"cmdImporteer", u"Importeer", u'I');
+    cmdImporteer->setDefault(true);
+}
+
+void frmImportNBB::Bouw()
+{
+    setObjectName(QStringLiteral("frmImportNBB"));
+    setWindowTitle(QStringLiteral("Importeer een NBB-ledenbestand"));
+    MaakDelen();
+    inhoud_ = new QWidget(this);
+    lblOpening = MaakLopendeTekst(QStringLiteral("lblOpening"),
+                                  Openingstekst(administratie_.mappen.DFIMPG), inhoud_);
+
+    auto* links = new QVBoxLayout;
+    links->addWidget(BouwBronnen());
+    links->addWidget(BouwGegevens());
+    links->addStretch();
+    auto* kolommen = new QHBoxLayout;
+    kolommen->addLayout(links);
+    kolommen->addWidget(BouwKeuze(), 1);
+
+    auto* lagen = new QVBoxLayout(inhoud_);
+    lagen->setContentsMargins(0, 0, 0, 0);
+    lagen->addWidget(lblOpening);
+    lagen->addLayout(kolommen, 1);
+    lagen->addWidget(BouwHulp());
+    auto* geheel = new QVBoxLayout(this);
+    geheel->addWidget(inhoud_, 1);
+    geheel->addWidget(BouwOnderkant());
+    StelTabvolgordeIn();
+    const Maten maten;
+    PasInScherm(this, {maten.Twips(12600), maten.Twips(9900)});
+}
+
+QGroupBox* frmImportNBB::BouwBronnen()
+{
+    auto* Frame3 = new QGroupBox(QStringLiteral("Haal de spelers op:"), inhoud_);
+    Noem(Frame3, QStringLiteral("Frame3"));
+    const auto label = [&](const QString& naam, const QString& tekst) {
+        return MaakLabel(naam, tekst, Frame3);
+    };
+    auto* lagen = new QVBoxLayout(Frame3);
+    lagen->setSpacing(2);
+    lagen->addWidget(Option1);
+    lagen->addWidget(Option2);
+    lagen->addLayout(Ingesprongen(label(
+        QStringLiteral("Label10"), QStringLiteral("(dit is mogelijk met NBBR-2.8 en NBBR-3)"))));
+    lagen->addWidget(Option3);
+    lagen->addLayout(
+        Ingesprongen(label(QStringLiteral("Label13"), QStringLiteral("(uit NBBR-3)"))));
+    lagen->addWidget(label(QStringLiteral("Label9"), QStringLiteral("Uit NBB-4:")));
+    lagen->addWidget(Option4);
+    lagen->addLayout(
+        Ingesprongen(label(QStringLiteral("Label2"),
+                           QStringLiteral("Kies eventueel 'CSV-ledenbestand' i.p.v. 'XML'"))));
+    return Frame3;
+}
+
+QGroupBox* frmImportNBB::BouwGegevens()
+{
+    auto* Frame1 = new QGroupBox(QStringLiteral("Spelergegevens importeren"), inhoud_);
+    Noem(Frame1, QStringLiteral("Frame1"));
+    auto* Frame2 = new QGroupBox(QStringLiteral("Naar keus inclusief:"), Frame1);
+    Noem(Frame2, QStringLiteral("Frame2"));
+    Frame2->setLayout(Onderelkaar({chkNAW, chkTel, chkEmail, chkMV}));
+    auto* vast = Onderelkaar({chkVoornaam, chkTus, chkAchternaam, chkNBBnr});
+    vast->addStretch();
+    auto* delen = new QHBoxLayout(Frame1);
+    delen->addLayout(vast);
+    delen->addWidget(Frame2);
+    return Frame1;
+}
+
+QWidget* frmImportNBB::BouwKeuze()
+{
+    auto* keuze = new QWidget(inhoud_);
+    lblExportMap = MaakLopendeTekst(QStringLiteral("lblExportMap"), QString(), keuze);
+    Label3 = MaakLabel(QStringLiteral("Label3"), QStringLiteral("Ledenbestanden:"), keuze);
+    lstNBBbest = new Meerkeuzelijst(keuze);
+    Noem(lstNBBbest, QStringLiteral("lstNBBbest"), QStringLiteral("Ledenbestanden"));
+    lstNBBbest->setToolTip(QStringLiteral(
+        "Een klik of de spatiebalk kiest een ledenbestand of laat het los; Ctrl+A kiest alle"));
+    auto* Label7 = MaakLopendeTekst(
+        QStringLiteral("Label7"),
+        QStringLiteral("Let op: alleen spelers met een ingevuld (eventueel fictief) NBB-nummer "
+                       "worden geimporteerd."),
+        keuze);
+    auto* Label6 = MaakLopendeTekst(
+        QStringLiteral("Label6"),
+        QStringLiteral(
+            "Bestaande spelers worden overschreven (ververst) nieuwe spelers worden toegevoegd. "),
+        keuze);
+    auto* lagen = Onderelkaar(
+        {cmdKiesExportMap, lblExportMap, Label3, lstNBBbest, cmdControleNBBnrs, Label7, Label6});
+    lagen->setContentsMargins(0, 0, 0, 0);
+    lagen->setStretch(3, 1);
+    keuze->setLayout(lagen);
+    return keuze;
+}
+
+QWidget* frmImportNBB::BouwHulp()
+{
+    auto* hulp = new QWidget(inhoud_);
+    auto* vakken = new QGridLayout(hulp);
+    vakken->setContentsMargins(0, 0, 0, 0);
+    vakken->addWidget(cmdHelpImport28, 0, 0);
+    vakken->addWidget(cmdHelpImport31, 0, 1);
+    vakken->addWidget(cmbHelpCSV, 1, 0);
+    vakken->addWidget(cmdHelpImport4, 1, 1);
+    vakken->addWidget(cmdHint, 2, 0, 1, 2);
+    return hulp;
+}
+
+/// What tells of a running import keeps its place when none runs.
+QWidget* frmImportNBB::BouwOnderkant()
+{
+    auto* onder = new QWidget(this);
+    lblVoortgang = MaakLabel(QStringLiteral("lblVoortgang"), QString(), onder);
+    lblVoortgang->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    prgVoortgang = new QProgressBar(onder);
+    Noem(prgVoortgang, QStringLiteral("prgVoortgang"), QStringLiteral("Voortgang"));
+    auto* rij = new QHBoxLayout(onder);
+    rij->setContentsMargins(0, 0, 0, 0);
+    rij->addWidget(lblVoortgang, 1);
+    rij->addWidget(prgVoortgang, 1);
+    for (QPushButton* knop : {cmdStop, cmdAnnuleren, cmdImporteer})
+        rij->addWidget(knop);
+    for (QWidget* deel : std::initializer_list<QWidget*>{lblVoortgang, prgVoortgang, cmdStop}) {
+        QSizePolicy beleid = deel->sizePolicy();
+        beleid.setRetainSizeWhenHidden(true);
+        deel->setSizePolicy(beleid);
+        deel->hide();
+    }
+    return onder;
+}
+
+void frmImportNBB::StelTabvolgordeIn()
+{
+    ZetTabvolgorde({Option1, Option2, Option3, Option4, chkNAW, chkTel, chkEmail, chkMV,
+                    cmdKiesExportMap, lstNBBbest, cmdControleNBBnrs, cmdHelpImport28,
+                    cmdHelpImport31, cmbHelpCSV, cmdHelpImport4, cmdHint, cmdStop, cmdAnnuleren,
+                    cmdImporteer});
+}
+
+void frmImportNBB::Verbind()
+{
+    for (const auto& [optie, bron] :
+         {std::pair{Option1, Ledenbron::Database}, std::pair{Option2, Ledenbron::Csv},
+          std::pair{Option3, Ledenbron::XmlNbb3}, std::pair{Option4, Ledenbron::XmlNbb4}})
+        connect(optie, &QRadioButton::clicked, this, [this, bron = bron] { KiesBron(bron); });
+    connect(cmdKiesExportMap, &QPushButton::clicked, this, &frmImportNBB::KiesExportMap);
+    connect(cmdControleNBBnrs, &QPushButton::clicked, this, &frmImportNBB::ControleerNBBnrs);
+    connect(cmdImporteer, &QPushButton::clicked, this, &frmImportNBB::ImporteerLedenbestanden);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::close);
+    connect(cmdStop, &QPushButton::clicked, this, [this] {
+        gestopt_ = true;
+        cmdStop->setEnabled(false);
+    });
+}
+
+} // namespace plexoran

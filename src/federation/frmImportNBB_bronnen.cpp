@@ -1,0 +1,256 @@
+// Where the members come from: the database, or the exports in a folder.
+#include <QFileDialog>
+#include <QGuiApplication>
+
+#include "federation/frmImportNBB.h"
+#include "federation/ledendatabase.h"
+#include "federation/tussenmap.h"
+#include "platform/programma.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+#include "platform/tekstorde.h"
+
+namespace plexoran {
+namespace {
+
+QString Knoptekst(Ledenbron bron)
+{
+    switch (bron) {
+    case Ledenbron::XmlNbb3:
+        return QStringLiteral("Kies een map en selecteer 'n 'XML'-bestand");
+    case Ledenbron::XmlNbb4:
+        return QStringLiteral("Kies een map en wijs een XML-bestand aan");
+    default:
+        return QStringLiteral("Kies een map en selecteer een 'CSV'-bestand");
+    }
+}
+
+QString Lijsttekst(Ledenbron bron)
+{
+    switch (bron) {
+    case Ledenbron::Csv:
+        return QStringLiteral("CSV-Ledenbestanden: ");
+    case Ledenbron::XmlNbb3:
+        return QStringLiteral("XML-Ledenbestanden uit NBBR-3: ");
+    case Ledenbron::XmlNbb4:
+        return QStringLiteral("XML-Ledenbestanden uit NBBR-4: ");
+    case Ledenbron::Database:
+        break;
+    }
+    return QStringLiteral("Ledenbestanden:");
+}
+
+/// Files whose name ends in ".csv" or ".xml", capitals or not.
+bool IsVanSoort(Tekstblik naam, Ledenbron bron)
+{
+    constexpr std::size_t lengte = 4;
+    const Tekstblik einde = bron == Ledenbron::Csv ? ".CSV" : ".XML";
+    return naam.size() >= lengte && Hoofdletters(naam.substr(naam.size() - lengte)) == einde;
+}
+
+QString Lijstfouttekst(const Fout& fout)
+{
+    const QString waarom =
+        fout.soort == Foutsoort::Ontbreekt
+            ? QStringLiteral("De database met de ledenbestanden is niet gevonden.")
+            : QStringLiteral("De database met de ledenbestanden kan niet worden gelezen.");
+    return QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n") + waarom +
+           QStringLiteral("\nKies eventueel een geëxporteerd ledenbestand.\n\n") +
+           Bijzonderheden(fout);
+}
+
+/// Lets a long path break behind each folder.
+QString Breekbaar(QString pad)
+{
+    return pad.replace(QLatin1Char('\\'), QStringLiteral("\\\u200B"));
+}
+
+/// The busy cursor for as long as this lives.
+class Wachtcursor {
+  public:
+    Wachtcursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    Wachtcursor(const Wachtcursor&) = delete;
+    Wachtcursor& operator=(const Wachtcursor&) = delete;
+    ~Wachtcursor() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+} // namespace
+
+/// The database is offered when a scoring program was found; what was chosen last is chosen again,
+/// but for the database, which takes time to read.
+void frmImportNBB::ToonAanbod()
+{
+    const Rekenprogramma& gevonden = administratie_.rekenprogramma;
+    Option1->setVisible(gevonden.NBBRaanwezig || gevonden.BRITaanwezig);
+    cmdKiesExportMap->setEnabled(false);
+    MaakBruikbaar(false);
+    lblExportMap->setText(QStringLiteral("Kies links eerst waar de spelers vandaan komen."));
+    if (!geheugen_.bron || *geheugen_.bron == Ledenbron::Database)
+        return;
+    const std::map<Ledenbron, QRadioButton*> opties{
+        {Ledenbron::Csv, Option2}, {Ledenbron::XmlNbb3, Option3}, {Ledenbron::XmlNbb4, Option4}};
+    opties.at(*geheugen_.bron)->setChecked(true);
+    KiesBron(*geheugen_.bron);
+}
+
+void frmImportNBB::MaakBruikbaar(bool bruikbaar)
+{
+    cmdControleNBBnrs->setEnabled(bruikbaar);
+    cmdImporteer->setEnabled(bruikbaar);
+}
+
+void frmImportNBB::VulLijst(std::vector<Tekst> namen)
+{
+    namen_ = std::move(namen);
+    lstNBBbest->Vul(static_cast<int>(namen_.size()), [this](int plaats) {
+        return NaarQString(namen_[static_cast<std::size_t>(plaats)]);
+    });
+}
+
+void frmImportNBB::KiesBron(Ledenbron bron)
+{
+    bron_ = bron;
+    geheugen_.bron = bron;
+    VulLijst({});
+    if (bron == Ledenbron::Database) {
+        KiesDatabase();
+        return;
+    }
+    cmdKiesExportMap->setText(MetSneltoets(Knoptekst(bron), u'K'));
+    cmdKiesExportMap->setEnabled(true);
+    map_ = Beginmap();
+    MaakBruikbaar(!map_.empty());
+    lblExportMap->setText(QStringLiteral("Er is nog geen map gekozen."));
+    Label3->setText(Lijsttekst(bron));
+    if (!map_.empty())
+        ToonMap(map_, {});
+}
+
+/// The folder chosen last for this source, else that of the federation exports, if it is there.
+Pad frmImportNBB::Beginmap() const
+{
+    const auto eerder = geheugen_.mappen.find(bron_.value_or(Ledenbron::Csv));
+    const Pad map = eerder != geheugen_.mappen.end()       ? eerder->second
+                    : administratie_.mappen.WINMAP.empty() ? Pad()
+                                                           : administratie_.mappen.Ledenmap();
+    if (map.empty() || administratie_.schijf.Soort(map) != Padsoort::Map)
+        return {};
+    return map;
+}
+
+void frmImportNBB::KiesDatabase()
+{
+    cmdKiesExportMap->setEnabled(false);
+    MaakBruikbaar(true);
+    Label3->setText(Lijsttekst(Ledenbron::Database));
+    const Tekst& code = administratie_.rekenprogramma.ProgrammaCode;
+    lblExportMap->setText(code == "BRIT"   ? QStringLiteral("Ledenbestanden direct uit BridgeIt:")
+                          : code == "NBBR" ? QStringLiteral("Ledenbestanden direct uit NBBR-2.8:")
+                                           : QString());
+    if (LedenDatabase_.empty()) {
+        Meld(
+            this, QMessageBox::Warning,
+            QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n"
+                           "Bij de start van Plexoran was niet bekend waar het rekenprogramma zijn "
+                           "gegevens bewaart, dus is er geen bestand 'Members.mdb' geprobeerd. "
+                           "Start Plexoran opnieuw en kies dan het rekenprogramma."));
+        return;
+    }
+    ZetBezig(true);
+    auto namen =
+        HaalLedenbestanden(LedenDatabase_, MaakVoortgang(QStringLiteral("De ledenbestanden worden "
+                                                                        "opgehaald ...")));
+    ZetBezig(false);
+    if (namen)
+        VulLijst(std::move(*namen));
+    else
+        Meld(this, QMessageBox::Warning, Lijstfouttekst(namen.error()));
+}
+
+/// One file is pointed at; the folder it stands in is the chosen one.
+void frmImportNBB::KiesExportMap()
+{
+    const bool csv = bron_ == Ledenbron::Csv;
+    QFileDialog CommonDialog1(this, QStringLiteral("Kies 1 bestand uit de gekozen map"));
+    Noem(&CommonDialog1, QStringLiteral("CommonDialog1"));
+    CommonDialog1.setFileMode(QFileDialog::ExistingFile);
+    CommonDialog1.setNameFilter(csv ? QStringLiteral("CSV-bestanden (*.csv)")
+                                    : QStringLiteral("XML-bestanden (*.xml)"));
+    if (!map_.empty())
+        CommonDialog1.setDirectory(QString::fromStdString(administratie_.schijf.Toonpad(map_)));
+    if (CommonDialog1.exec() != QDialog::Accepted || CommonDialog1.selectedFiles().isEmpty())
+        return;
+    const Pad bestand = PadVanOpdrachtregel(CommonDialog1.selectedFiles().first().toStdString());
+    const auto naam = bestand.find_last_of("\\/");
+    if (naam == Pad::npos)
+        return;
+    ToonMap(bestand.substr(0, naam), Tekstblik(bestand).substr(naam + 1));
+}
+
+/// Lists the folder; the file that was pointed at is chosen, or else the first of XML files.
+void frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
+{
+    const Ledenbron bron = bron_.value_or(Ledenbron::Csv);
+    const Wachtcursor wacht;
+    auto bestanden = administratie_.schijf.Bestanden(map);
+    if (!bestanden) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Kies een "
+                            "andere map.\n\n") +
+                 Bijzonderheden(bestanden.error()));
+        return;
+    }
+    map_ = map;
+    geheugen_.mappen[bron] = map;
+    MaakBruikbaar(true);
+    std::erase_if(*bestanden, [bron](const Tekst& naam) { return !IsVanSoort(naam, bron); });
+    Sorteer(*bestanden);
+    if (bron != Ledenbron::Csv)
+        bestanden = BepaalXMLsoort(administratie_.schijf, map, *bestanden, bron);
+    VulLijst(std::move(*bestanden));
+
+    const QString pad = QString::fromStdString(administratie_.schijf.Toonpad(map));
+    lblExportMap->setText(QStringLiteral("Ledenbestanden in de gekozen map: ") + Breekbaar(pad));
+    lblExportMap->setToolTip(pad);
+    Label3->setText(Lijsttekst(bron) +
+                    (namen_.empty() ? QStringLiteral("geen") : QString::number(namen_.size())));
+    const auto plaats = std::find(namen_.begin(), namen_.end(), gekozen);
+    const int kies = plaats != namen_.end()   ? static_cast<int>(plaats - namen_.begin())
+                     : bron != Ledenbron::Csv ? 0
+                                              : -1;
+    if (kies >= 0 && kies < lstNBBbest->Aantal())
+        lstNBBbest->Kies(kies, true);
+    lstNBBbest->ZetHuidige(std::max(kies, 0));
+}
+
+std::vector<Tekst> frmImportNBB::GekozenBestanden() const
+{
+    std::vector<Tekst> gekozen;
+    for (const int plaats : lstNBBbest->GekozenPlaatsen())
+        gekozen.push_back(namen_[static_cast<std::size_t>(plaats)]);
+    return gekozen;
+}
+
+Ledenopdracht frmImportNBB::Opdracht() const
+{
+    return {.bron = bron_.value_or(Ledenbron::Csv),
+            .map = map_,
+            .programmamap = Tussenmap(administratie_.schijf, administratie_.programmamap,
+                                      administratie_.mappen.ADMMAP),
+            .LedenDatabase = LedenDatabase_,
+            .keuzes = {.naw = chkNAW->isChecked(),
+                       .tel = chkTel->isChecked(),
+                       .email = chkEmail->isChecked(),
+                       .mv = chkMV->isChecked()}};
+}
+
+void frmImportNBB::ControleerNBBnrs()
+{
+    const auto gekozen = GekozenBestanden();
+    if (gekozen.empty()) {
+        Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+        return;
+    }
+}
+
+} // namespace plexoran

@@ -1,0 +1,219 @@
+// The import run: every chosen member file is read, asked about and merged.
+#include <QCoreApplication>
+#include <QGuiApplication>
+
+#include "federation/frmImportNBB.h"
+#include "federation/leesfoutmelding.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int MeldElke = 40; // ms between two looks at the window
+
+QString Regels(const std::vector<Tekst>& regels)
+{
+    QString tekst;
+    for (const Tekst& regel : regels)
+        tekst += NaarQString(regel) + QStringLiteral("\r\n");
+    return tekst;
+}
+
+/// A box that would not fit the screen becomes one that scrolls.
+void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
+{
+    constexpr int regelsInBericht = 25;
+    if (tekst.count(QLatin1Char('\n')) > regelsInBericht)
+        MeldVerslag(ouder, tekst, QString::fromLatin1(Programmatitel));
+    else
+        Meld(ouder, icoon, tekst);
+}
+
+} // namespace
+
+/// While a run lasts nothing can be used but the button that stops it.
+void frmImportNBB::ZetBezig(bool bezig)
+{
+    bezig_ = bezig;
+    if (bezig) {
+        gestopt_ = false;
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+    inhoud_->setEnabled(!bezig);
+    cmdAnnuleren->setEnabled(!bezig);
+    cmdImporteer->setEnabled(!bezig);
+    cmdStop->setEnabled(bezig);
+    for (QWidget* deel : std::initializer_list<QWidget*>{lblVoortgang, prgVoortgang, cmdStop})
+        deel->setVisible(bezig);
+    if (!bezig)
+        lstNBBbest->setFocus();
+}
+
+/// Shows how far the work is and lets the window live. The answer is whether it may go on.
+Voortgang frmImportNBB::MaakVoortgang(const QString& wat)
+{
+    lblVoortgang->setText(wat);
+    prgVoortgang->setRange(0, 0);
+    laatsteMelding_.start();
+    QCoreApplication::processEvents();
+    return [this](std::size_t gedaan, std::size_t geheel) {
+        if (laatsteMelding_.elapsed() >= MeldElke) {
+            constexpr std::size_t fijn = 1000;
+            prgVoortgang->setRange(0, geheel == 0 ? 0 : static_cast<int>(fijn));
+            if (geheel != 0)
+                prgVoortgang->setValue(static_cast<int>(gedaan * fijn / geheel));
+            QCoreApplication::processEvents();
+            laatsteMelding_.start();
+        }
+        return !gestopt_;
+    };
+}
+
+void frmImportNBB::ImporteerLedenbestanden()
+{
+    const auto gekozen = GekozenBestanden();
+    if (gekozen.empty()) {
+        Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+        return;
+    }
+    const Ledenopdracht opdracht = Opdracht();
+    auto verloop = Verloop::Verder;
+    ZetBezig(true);
+    for (const Tekst& naam : gekozen) {
+        verloop = LeesEnImporteer(opdracht, naam);
+        if (verloop == Verloop::Afgebroken)
+            break;
+    }
+    ZetBezig(false);
+    if (verloop == Verloop::Verder)
+        accept();
+}
+
+frmImportNBB::Verloop frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdracht,
+                                                    const Tekst& naam)
+{
+    auto lezing = LeesLedenbestand(
+        administratie_.schijf, opdracht, naam,
+        MaakVoortgang(QStringLiteral("'%1' wordt gelezen ...").arg(NaarQString(naam))));
+    RuimTussenbestandOp(opdracht, naam);
+    if (gestopt_) {
+        MeldAfgebroken(naam, Samenvoegfout::Gestopt);
+        return Verloop::Afgebroken;
+    }
+    if (!lezing) {
+        Meld(this, QMessageBox::Warning, Leesfouttekst(opdracht.bron, naam, lezing.error()));
+        return Verloop::Afgebroken;
+    }
+    MeldVooraf(opdracht.bron, naam, *lezing);
+    return ImporteerEenBestand(naam, std::move(*lezing));
+}
+
+/// It holds what members gave the club, so it must not stay behind unnoticed.
+void frmImportNBB::RuimTussenbestandOp(const Ledenopdracht& opdracht, const Tekst& naam)
+{
+    if (opdracht.bron != Ledenbron::XmlNbb3 && opdracht.bron != Ledenbron::XmlNbb4)
+        return;
+    const auto weg = administratie_.schijf.Verwijder(
+        Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam)));
+    if (!weg && weg.error().soort != Foutsoort::Ontbreekt)
+        Meld(this, QMessageBox::Information,
+             QStringLiteral("Een tussenbestand met gegevens van leden kon niet worden verwijderd. "
+                            "Verwijder het zelf.\n\n") +
+                 Bijzonderheden(weg.error()));
+}
+
+/// What the user must know to answer the question that follows.
+void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezing& lezing)
+{
+    if (lezing.nietGeladen)
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("In '%1' zijn geen leden gevonden.\n").arg(NaarQString(naam)) +
+                 Leesfouttekst(bron, naam, *lezing.nietGeladen));
+    if (lezing.teKorteRegel > 0)
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Regel %1 van '%2' heeft minder kolommen dan nodig is voor de gegevens "
+                            "die u hebt aangevinkt. Daar is het lezen gestopt: alleen de %3 "
+                            "spelers van de regels ervoor kunnen worden geïmporteerd.")
+                 .arg(lezing.teKorteRegel)
+                 .arg(NaarQString(naam))
+                 .arg(lezing.lstN1.size()));
+}
+
+frmImportNBB::Verloop frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
+{
+    const Tekst& importgroep = administratie_.mappen.DFIMPG;
+    const Tekst subgroep = SubgroepUitNaam(naam);
+    const QString vraag = QStringLiteral("U gaat van '%1' %2 spelers importeren naar groep '%3'.")
+                              .arg(NaarQString(subgroep), QString::number(lezing.lstN1.size()),
+                                   NaarQString(importgroep));
+    if (!Vraag(this, QMessageBox::Information, vraag))
+        return Verloop::Verder;
+    const Samenvoegopdracht opdracht{
+        .importgroep = importgroep, .subgroep = subgroep, .lstN1 = std::move(lezing.lstN1)};
+    const auto uitkomst = VoegLedenSamen(
+        administratie_.spelers, opdracht,
+        MaakVoortgang(QStringLiteral("'%1' wordt geïmporteerd ...").arg(NaarQString(naam))));
+    if (!uitkomst) {
+        MeldAfgebroken(naam, uitkomst.error());
+        return Verloop::Afgebroken;
+    }
+    if (uitkomst->AantalVerververst + uitkomst->AantalNieuw > 0)
+        ietsGewijzigd_ = true;
+    MeldUitkomst(naam, lezing, *uitkomst);
+    return gestopt_ ? Verloop::Afgebroken : Verloop::Verder;
+}
+
+/// The two boxes of every import, then one for all that nobody would see otherwise.
+void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
+                                const Samenvoeging& uitkomst)
+{
+    if (!uitkomst.ZonderNBBnr.empty())
+        MeldLijst(this, QMessageBox::Warning,
+                  QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n") +
+                      NaarQString(uitkomst.ZonderNBBnr));
+    Meld(this, QMessageBox::Information,
+         QStringLiteral("Aantal spelers geupdate (ververst): %1\r\nAantal nieuwe spelers "
+                        "toegevoegd: %2")
+             .arg(uitkomst.AantalVerververst)
+             .arg(uitkomst.AantalNieuw));
+    QStringList delen;
+    if (!uitkomst.overgeslagen.empty())
+        delen << QStringLiteral("%1 overgeslagen, omdat hun NBB-nummer al voorkomt: eerder in "
+                                "dit bestand, of anders geschreven in groep '%2':\r\n")
+                         .arg(uitkomst.overgeslagen.size())
+                         .arg(NaarQString(administratie_.mappen.DFIMPG)) +
+                     Regels(uitkomst.overgeslagen);
+    if (!lezing.metIsTeken.empty())
+        delen << QStringLiteral("%1 overgeslagen, omdat er een '=' in de regel staat, zoals in "
+                                "een kopregel:\r\n")
+                         .arg(lezing.metIsTeken.size()) +
+                     Regels(lezing.metIsTeken);
+    if (lezing.vervangenTekens > 0)
+        delen << QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
+                                "door een teken dat erop lijkt of door '?': %1\r\n")
+                     .arg(lezing.vervangenTekens);
+    if (!delen.isEmpty())
+        MeldLijst(this, QMessageBox::Information,
+                  QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er staat.\r\n\r\n")
+                          .arg(NaarQString(naam)) +
+                      delen.join(QStringLiteral("\r\n")));
+}
+
+void frmImportNBB::MeldAfgebroken(const Tekst& naam, Samenvoegfout fout)
+{
+    if (fout == Samenvoegfout::Gestopt)
+        Meld(this, QMessageBox::Information,
+             QStringLiteral("Het importeren is gestopt. Uit '%1' is niets geïmporteerd; wat eerder "
+                            "is geïmporteerd, blijft.")
+                 .arg(NaarQString(naam)));
+    else
+        Meld(this, QMessageBox::Critical,
+             QStringLiteral("Uit '%1' is niets geïmporteerd: de spelersleutels zijn op. Kijk het "
+                            "getal na achter HKEY= in het spelerbestand.")
+                 .arg(NaarQString(naam)));
+}
+
+} // namespace plexoran
