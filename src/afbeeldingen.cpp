@@ -122,8 +122,15 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Groepen groepen = administratie.groepen;
     fotograaf.Neem(diaGrNamen(groepen, &hoofdvenster));
     fotograaf.Neem(diaRekProgkeus(&hoofdvenster));
+    // With a scoring program installed the window shows all four sources.
+    Administratie metProgramma = administratie;
+    metProgramma.rekenprogramma = {.NBBRaanwezig = true,
+                                   .GekozenProgramma = Programma::NBBR,
+                                   .DataRoot = {},
+                                   .ProgrammaCode = "NBBR",
+                                   .ProgrammaNaam = "NBB-R"};
     Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
-    fotograaf.Neem(frmImportNBB(administratie, importgeheugen, &hoofdvenster));
+    fotograaf.Neem(frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
     fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
     fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));
     fotograaf.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
