@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -92,6 +93,7 @@ class frmImportNBB : public QDialog {
     bool bezig_ = false;
     bool gestopt_ = false; ///< the user asked the run to stop
     QElapsedTimer laatsteMelding_;
+    QPointer<QWidget> focus_; ///< what had the focus when the run began
 
     QWidget* inhoud_ = nullptr; ///< all that cannot be used while an import runs
     QLabel* lblOpening = nullptr;

@@ -270,6 +270,7 @@ void frmImportNBB::Verbind()
     connect(cmdStop, &QPushButton::clicked, this, [this] {
         gestopt_ = true;
         cmdStop->setEnabled(false);
+        lblVoortgang->setText(QStringLiteral("Het importeren wordt gestopt ..."));
     });
 }
 

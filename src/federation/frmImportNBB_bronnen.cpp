@@ -157,6 +157,7 @@ void frmImportNBB::KiesDatabase()
         return;
     }
     ZetBezig(true);
+    cmdStop->hide(); // it is over within seconds, and cannot be stopped
     auto namen =
         HaalLedenbestanden(LedenDatabase_, MaakVoortgang(QStringLiteral("De ledenbestanden worden "
                                                                         "opgehaald ...")));
@@ -235,8 +236,10 @@ Ledenopdracht frmImportNBB::Opdracht() const
 {
     return {.bron = bron_.value_or(Ledenbron::Csv),
             .map = map_,
-            .programmamap = Tussenmap(administratie_.schijf, administratie_.programmamap,
-                                      administratie_.mappen.ADMMAP),
+            .programmamap = bron_ == Ledenbron::Csv
+                                ? administratie_.programmamap
+                                : Tussenmap(administratie_.schijf, administratie_.programmamap,
+                                            administratie_.mappen.ADMMAP),
             .LedenDatabase = LedenDatabase_,
             .keuzes = {.naw = chkNAW->isChecked(),
                        .tel = chkTel->isChecked(),

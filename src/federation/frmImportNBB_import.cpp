@@ -38,6 +38,7 @@ void frmImportNBB::ZetBezig(bool bezig)
     bezig_ = bezig;
     if (bezig) {
         gestopt_ = false;
+        focus_ = focusWidget();
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     } else {
         QGuiApplication::restoreOverrideCursor();
@@ -48,8 +49,8 @@ void frmImportNBB::ZetBezig(bool bezig)
     cmdStop->setEnabled(bezig);
     for (QWidget* deel : std::initializer_list<QWidget*>{lblVoortgang, prgVoortgang, cmdStop})
         deel->setVisible(bezig);
-    if (!bezig)
-        lstNBBbest->setFocus();
+    if (!bezig && focus_ != nullptr)
+        focus_->setFocus();
 }
 
 /// Shows how far the work is and lets the window live. The answer is whether it may go on.

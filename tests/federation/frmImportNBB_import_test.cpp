@@ -1,0 +1,369 @@
+// The import run from the main window, from every source.
+#include "federation/importproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+const QString OK = QStringLiteral("OK");
+const QString Annuleren = QStringLiteral("Annuleren");
+
+class ImporterenTest : public Importproef {
+  protected:
+    /// Chooses a source and these lines of the list, and starts the run.
+    static Stappen Voer(const char* optie, const std::vector<int>& plaatsen)
+    {
+        return [optie, plaatsen](QDialog& dia) {
+            KiesOptie(dia, optie);
+            Lijst(dia)->KiesAlles(false);
+            for (const int plaats : plaatsen)
+                Lijst(dia)->Kies(plaats, true);
+            Druk(dia, "cmdImporteer");
+        };
+    }
+    static Stappen VoerEnSluit(const char* optie, const std::vector<int>& plaatsen)
+    {
+        return [voer = Voer(optie, plaatsen)](QDialog& dia) {
+            voer(dia);
+            EXPECT_TRUE(dia.isVisible());
+            EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
+            Druk(dia, "cmdAnnuleren");
+        };
+    }
+    void VerwachtLos(const QString& naam, const QString& rest)
+    {
+        wachter.Informatie(QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er "
+                                          "staat.\r\n\r\n")
+                               .arg(naam) +
+                           rest);
+    }
+};
+
+} // namespace
+
+TEST_F(ImporterenTest, UitCsv)
+{
+    KopieerExports();
+    Verwacht(Voer("Option2", {0, 1}));
+    VerwachtVraag(QStringLiteral("Dinsdag"), 6);
+    VerwachtAantallen(4, 2);
+    VerwachtVraag(QStringLiteral("Maandag"), 8);
+    wachter.Waarschuwing(QStringLiteral(
+        "Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nGonnie,,Gastvrouw,Brink 2,0411 "
+        "JK,Wielerdam,06-00000607,,Nederland,V,\r\n"));
+    VerwachtAantallen(5, 2);
+    VerwachtLos(QStringLiteral("Maandag 20260901.csv"),
+                QStringLiteral("1 overgeslagen, omdat er een '=' in de regel staat, zoals in een "
+                               "kopregel:\r\nLEDENBESTAND=Maandag;VERSIE=2.8\r\n"));
+    Importeer();
+    EXPECT_EQ("HKEY=100175", Sleutelregel());
+    EXPECT_EQ("Gr05-,Rob,van,Beukering,010-0000298,r.vanbeukering@thuispost.example,Graanstraat "
+              "23,0437 BC,Oud-Merwolde,Nederland,M,,,,MAANDAG,91892044",
+              Speler("100071"));
+    EXPECT_EQ("Gr05-,Dirk Jan,,Overtoomse,010-0000604,,Achterom 31,0437 ML,Oud-Merwolde,Nederland,"
+              "M,,,,MAANDAG,93380926",
+              Speler("100175"));
+    EXPECT_EQ(40, Label("Label3")->text().section(QLatin1Char(' '), -1).toInt());
+    EXPECT_FALSE(venster->isWindowModified());
+    EXPECT_TRUE(suite.Namen("Programma").empty());
+
+    // The second time everybody is refreshed.
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Dinsdag"), 6);
+    VerwachtAantallen(6, 0);
+    Importeer();
+}
+
+TEST_F(ImporterenTest, UitXmlVanNbbr3)
+{
+    KopieerExports();
+    Verwacht(Voer("Option3", {0}));
+    VerwachtVraag(QStringLiteral("Donderdag"), 6);
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    VerwachtAantallen(4, 1);
+    Importeer();
+    EXPECT_EQ("HKEY=100172", Sleutelregel());
+    EXPECT_NE(std::string::npos, Speler("100172").find(",DONDERDAG,"));
+    EXPECT_TRUE(suite.Namen("Programma").empty()); // the intermediate file is gone
+}
+
+TEST_F(ImporterenTest, UitXmlVanNbbr4MetVervangenLetters)
+{
+    KopieerExports();
+    Verwacht(Voer("Option4", {0, 1}));
+    VerwachtVraag(QStringLiteral("Cursus"), 3);
+    VerwachtAantallen(1, 2);
+    VerwachtVraag(QStringLiteral("Zomer"), 7);
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    VerwachtAantallen(3, 3);
+    VerwachtLos(QStringLiteral("Zomer 20260901.xml"),
+                QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
+                               "door een teken dat erop lijkt of door '?': 2\r\n"));
+    Importeer();
+    EXPECT_EQ("HKEY=100176", Sleutelregel());
+    EXPECT_NE(std::string::npos, suite.Spelers().find("Gyongyi,,Dvor\xE1kova"));
+    EXPECT_TRUE(suite.Namen("Programma").empty());
+}
+
+TEST_F(ImporterenTest, UitDeDatabase)
+{
+    winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+    Herstart();
+    Verwacht(Voer("Option1", {1}));
+    VerwachtVraag(QStringLiteral("Cursus"), 6);
+    wachter.Waarschuwing(QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"
+                                        ",,Partner van Jansen,,,,,,,,\r\n"));
+    VerwachtAantallen(0, 5);
+    VerwachtLos(QStringLiteral("Cursus 012"),
+                QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
+                               "door een teken dat erop lijkt of door '?': 1\r\n"));
+    // One of them has a comma in a name, which shifts the fields: no surname is left.
+    wachter.Verwacht({.tekst = QStringLiteral("Spelers zonder achternaam zijn niet ingelezen "
+                                              "(aantal: 1, op regel 150 van het spelerbestand)."),
+                      .alleenBegin = true});
+    Importeer();
+    EXPECT_EQ("HKEY=100176", Sleutelregel());
+    EXPECT_NE(std::string::npos, Speler("100176").find(",CURSUS,"));
+    // Of the database the intermediate file stays.
+    EXPECT_EQ((std::vector<std::string>{"Cursus Temp-NBBXMLtoCSV.csv"}), suite.Namen("Programma"));
+}
+
+TEST_F(ImporterenTest, AnnulerenSlaatAlleenDatBestandOver)
+{
+    KopieerExports();
+    Verwacht(Voer("Option2", {0, 1}));
+    VerwachtVraag(QStringLiteral("Dinsdag"), 6, Berichtwachter::Escape);
+    VerwachtVraag(QStringLiteral("Maandag"), 8, Annuleren);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(ImporterenTest, ZonderWijzigingWordtErNietGeschreven)
+{
+    ZetExport("Leeg.csv", "");
+    schijf.FaalVanaf(1);
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Leeg"), 0);
+    VerwachtAantallen(0, 0);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(ImporterenTest, ZonderVinkjesWordenGegevensLeeggemaakt)
+{
+    ZetExport("Club.csv",
+              "92076715;V;Agnes;A.;;Appelscha;Straat 1;0411 MK;Ede;06;a@b;Nederland\r\n");
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        for (const char* naam : {"chkNAW", "chkTel", "chkEmail", "chkMV"})
+            Klik(Vind<QCheckBox>(dia, naam), {8, Vind<QCheckBox>(dia, naam)->height() / 2});
+        Lijst(dia)->Kies(0, true);
+        Druk(dia, "cmdImporteer");
+    });
+    VerwachtVraag(QStringLiteral("Club"), 1);
+    VerwachtAantallen(1, 0);
+    Importeer();
+    EXPECT_EQ("Gr05-,Agnes,,Appelscha,,,,,,,,,,,CLUB,92076715", Speler("100070"));
+}
+
+TEST_F(ImporterenTest, WieStilWordtOvergeslagenWordtGenoemd)
+{
+    ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n"
+                          "771;V;Eva;;;Twee;;;;;;\r\n"
+                          "092076715;V;Agnes;;;Appelscha;;;;;;\r\n");
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 3);
+    VerwachtAantallen(0, 1);
+    VerwachtLos(QStringLiteral("Club.csv"),
+                QStringLiteral("2 overgeslagen, omdat hun NBB-nummer al voorkomt: eerder in dit "
+                               "bestand, of anders geschreven in groep 'Gr05-':\r\n"
+                               "Eva,,Twee,,,,,,,V,771\r\nAgnes,,Appelscha,,,,,,,V,092076715\r\n"));
+    Importeer();
+    EXPECT_EQ("HKEY=100172", Sleutelregel());
+}
+
+TEST_F(ImporterenTest, EenRegelMetTeWeinigKolommen)
+{
+    ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n772;V;Eva;;;Kort\r\n773;V;Eva;;;Na;;;;;;\r\n");
+    Verwacht(Voer("Option2", {0}));
+    wachter.Waarschuwing(QStringLiteral(
+        "Regel 2 van 'Club.csv' heeft minder kolommen dan nodig is voor de gegevens die u hebt "
+        "aangevinkt. Daar is het lezen gestopt: alleen de 1 spelers van de regels ervoor kunnen "
+        "worden geïmporteerd."));
+    VerwachtVraag(QStringLiteral("Club"), 1);
+    VerwachtAantallen(0, 1);
+    Importeer();
+}
+
+/// A list that would not fit the screen scrolls in a window of its own.
+TEST_F(ImporterenTest, EenLangeLijstZonderNummers)
+{
+    std::string inhoud;
+    for (int i = 0; i < 60; ++i)
+        inhoud += ";V;Eva;;;Nummerloos" + std::to_string(i) + ";;;;;;\r\n";
+    ZetExport("Club.csv", inhoud);
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 60);
+    wachter.Bedien([](QDialog& bericht) {
+        EXPECT_EQ("frmBericht", bericht.objectName());
+        Druk(bericht, "cmdOK");
+    });
+    VerwachtAantallen(0, 0);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+/// What was merged before the file that cannot be read stays, and is saved.
+TEST_F(ImporterenTest, EenLeesfoutBreektAfEnHoudtWatErWas)
+{
+    ZetExport("A.xml", "<ReportableMembersList><Members><ReportableMember><a>Bos</a><b/><c/>"
+                       "<d>771</d><e/><f/><g>MAN</g></ReportableMember></Members>"
+                       "</ReportableMembersList>");
+    ZetExport("B kapot.xml", "<ReportableMembersList><Members><ReportableMember><a>");
+    ZetExport("C.xml", suite.Inhoud("Bestanden/NBB4-Leden/A.xml"));
+    Verwacht(VoerEnSluit("Option3", {0, 1, 2}));
+    VerwachtVraag(QStringLiteral("A"), 1);
+    VerwachtAantallen(0, 1);
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Fout bij het lezen van 'B kapot.xml' NBB3-XML-bestand\r\n"),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    Importeer();
+    EXPECT_EQ("HKEY=100172", Sleutelregel());
+    EXPECT_EQ("Gr05-,,,Bos,,,,,,,M,,,,A,771", Speler("100172"));
+    EXPECT_TRUE(suite.Namen("Programma").empty());
+}
+
+/// The error of one run does not spoil the next in the same window.
+TEST_F(ImporterenTest, NaEenLeesfoutKanHetMetEenAnderBestandOpnieuw)
+{
+    ZetExport("A.csv", "771;V;Eva;;;Een;;;;;;\r\n");
+    ZetExport("B.csv", "772;V;Eva;;;Twee;;;;;;\r\n");
+    Verwacht([this](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        suite.Verwijder("Bestanden/NBB4-Leden/A.csv"); // gone while it is listed
+        Lijst(dia)->Kies(0, true);
+        Druk(dia, "cmdImporteer");
+        Lijst(dia)->KiesAlles(false);
+        Lijst(dia)->Kies(1, true);
+        Druk(dia, "cmdImporteer");
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'A.csv' CSV-bestand\r\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    VerwachtVraag(QStringLiteral("B"), 1);
+    VerwachtAantallen(0, 1);
+    Importeer();
+    EXPECT_EQ("Gr05-,Eva,,Twee,,,,,,,V,,,,B,772", Speler("100172"));
+}
+
+TEST_F(ImporterenTest, EenNbbr4BestandDatGeenXmlIsHeeftGeenLedenEnDatWordtGezegd)
+{
+    ZetExport("Club.xml", "<ReportableMember><LeagueId>");
+    Verwacht(Voer("Option4", {0}));
+    wachter.Verwacht({.tekst = QStringLiteral("In 'Club.xml' zijn geen leden gevonden.\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    VerwachtVraag(QStringLiteral("Club"), 0);
+    VerwachtAantallen(0, 0);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(ImporterenTest, ZonderSleutelsGebeurtErNiets)
+{
+    ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n");
+    administratie.spelers.HKEY = 2147483647;
+    Verwacht(VoerEnSluit("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 1);
+    wachter.Verwacht({.tekst = QStringLiteral("Uit 'Club.csv' is niets geïmporteerd: de "
+                                              "spelersleutels zijn op. Kijk het getal na achter "
+                                              "HKEY= in het spelerbestand."),
+                      .icoon = QMessageBox::Critical});
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ(148, administratie.spelers.tabel.Rijen());
+}
+
+TEST_F(ImporterenTest, MislukteOpslagHoudtDeLedenInHetProgramma)
+{
+    ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n");
+    schijf.FaalVanaf(1);
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 1);
+    VerwachtAantallen(0, 1);
+    wachter.Verwacht({.tekst = QStringLiteral("De spelers konden niet worden opgeslagen."),
+                      .antwoord = QStringLiteral("Doorgaan"),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_TRUE(venster->isWindowModified());
+    EXPECT_EQ(149, administratie.spelers.tabel.Rijen());
+    schijf.FaalNiet();
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
+         .antwoord = QStringLiteral("Opslaan"),
+         .icoon = QMessageBox::Warning});
+    EXPECT_TRUE(venster->close());
+    wachter.Klaar();
+    EXPECT_EQ("HKEY=100172", Sleutelregel());
+}
+
+/// While a run lasts nothing can be pressed twice and the window stays; stopping leaves out the
+/// file that is being read and keeps those before it.
+TEST_F(ImporterenTest, StoppenTijdensHetLezen)
+{
+    ZetExport("A.csv", "771;V;Eva;;;Een;;;;;;\r\n");
+    ZetExport("B.csv", "772;V;Eva;;;Twee;;;;;;\r\n");
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        Lijst(dia)->KiesAlles(true);
+        int keren = 0;
+        QTimer kijker;
+        QObject::connect(&kijker, &QTimer::timeout, &dia, [&] {
+            auto* bericht = QApplication::activeModalWidget();
+            if (bericht != &dia || !Vind<QPushButton>(dia, "cmdStop")->isVisible() ||
+                !Vind<QLabel>(dia, "lblVoortgang")->text().startsWith("'B.csv' wordt gelezen"))
+                return;
+            ++keren;
+            EXPECT_FALSE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
+            EXPECT_FALSE(Vind<QPushButton>(dia, "cmdAnnuleren")->isEnabled());
+            EXPECT_FALSE(Lijst(dia)->isEnabled());
+            ASSERT_NE(nullptr, QGuiApplication::overrideCursor());
+            EXPECT_EQ(Qt::WaitCursor, QGuiApplication::overrideCursor()->shape());
+            EXPECT_FALSE(dia.close());
+            EXPECT_TRUE(dia.isVisible());
+        });
+        kijker.start(0);
+        Druk(dia, "cmdImporteer");
+        EXPECT_GE(keren, 1);
+        EXPECT_TRUE(dia.isVisible());
+        Druk(dia, "cmdAnnuleren");
+    });
+    VerwachtVraag(QStringLiteral("A"), 1);
+    VerwachtAantallen(0, 1);
+    wachter.Informatie(QStringLiteral("Het importeren is gestopt. Uit 'B.csv' is niets "
+                                      "geïmporteerd; wat eerder is geïmporteerd, blijft."));
+    Importeer();
+    EXPECT_EQ("Gr05-,Eva,,Een,,,,,,,V,,,,A,771", Speler("100172"));
+    EXPECT_EQ("HKEY=100172", Sleutelregel());
+}
+
+/// Where nothing may be written beside the program, the intermediate file comes elsewhere.
+TEST_F(ImporterenTest, EenProgrammamapWaarNietsInMag)
+{
+    KopieerExports();
+    administratie.programmamap = (suite.Weg() / "ontbreekt").string();
+    Verwacht(Voer("Option4", {0}));
+    VerwachtVraag(QStringLiteral("Cursus"), 3);
+    VerwachtAantallen(1, 2);
+    Importeer();
+    EXPECT_EQ((std::vector<std::string>{"Plexo.ini"}), suite.Namen("Admin"));
+}

@@ -1,0 +1,340 @@
+// The import window itself: its texts, its sources and its help.
+#include "federation/importproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+using Namen = std::vector<std::string>;
+
+class frmImportNBBTest : public Importproef {};
+
+} // namespace
+
+TEST_F(frmImportNBBTest, DeTeksten)
+{
+    Verwacht([](QDialog& dia) {
+        EXPECT_EQ("Importeer een NBB-ledenbestand", dia.windowTitle());
+        EXPECT_EQ("Hieronder kunt u spelergegevens uit het NBB-Rekenprogramma importeren in "
+                  "Ravendeck (RVD).\n"
+                  "Om RVD en NBB4 naadloos met elkaar te kunnen laten werken is het van het "
+                  "grootste belang dat de gegevens van de spelers in beide programma's gelijk "
+                  "zijn.\n"
+                  "Werkt ook met Bridge-It als daar bij 'NBB-nummer' een uniek fictief nummer "
+                  "wordt ingevuld lager dan 9999.\n"
+                  "De spelers in de gekozen bestanden gaan standaard naar de RVD-verzamelgroep "
+                  "'Gr05-' ,van daaruit kunt u ze eventueel kopieren naar andere groepen.",
+                  Labeltekst(dia, "lblOpening"));
+        for (const auto& [naam, tekst] :
+             {std::pair{"Option1", "direct uit NBBR 2.8"},
+              {"Option2", "uit een geexporteerd CSV-ledenbestand"},
+              {"Option3", "uit een geexporteerd XML-ledenbestand"},
+              {"Option4", "uit een geexporteerd XML-ledenbestand"},
+              {"chkNAW", "NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"},
+              {"chkTel", "Telefoonnr"},
+              {"chkEmail", "Emailadres"},
+              {"chkMV", "M/V"},
+              {"chkVoornaam", "Voornaam"},
+              {"chkTus", "Tussenvoegsel"},
+              {"chkAchternaam", "Achternaam"},
+              {"chkNBBnr", "NBBnummer"},
+              {"cmdImporteer", "Importeer"},
+              {"cmdAnnuleren", "Terug"},
+              {"cmdControleNBBnrs", "Overzicht NBBnrs van geselecteerde groepen"},
+              {"cmdHint", "Hint voor toekennen van fictieve NBB-nummers"},
+              {"cmdHelpImport28", "Hoe exporteer je een ledenbestand uit NBBR-2.8?"},
+              {"cmdHelpImport31", "Hoe exporteer je een ledenbestand uit  NBBR-3.1?"},
+              {"cmdHelpImport4", "Hoe exporteer je een XML-ledenbestand uit  NBBR-4?"},
+              {"cmbHelpCSV", "Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?"}})
+            EXPECT_EQ(tekst, Opschrift(Vind<QAbstractButton>(dia, naam)));
+        for (const auto& [naam, tekst] :
+             {std::pair{"Label3", "Ledenbestanden:"},
+              {"Label10", "(dit is mogelijk met NBBR-2.8 en NBBR-3)"},
+              {"Label13", "(uit NBBR-3)"},
+              {"Label9", "Uit NBB-4:"},
+              {"Label2", "Kies eventueel 'CSV-ledenbestand' i.p.v. 'XML'"},
+              {"Label7", "Let op: alleen spelers met een ingevuld (eventueel fictief) NBB-nummer "
+                         "worden geimporteerd."},
+              {"Label6", "Bestaande spelers worden overschreven (ververst) nieuwe spelers worden "
+                         "toegevoegd. "}})
+            EXPECT_EQ(tekst, Labeltekst(dia, naam));
+        for (const auto& [naam, titel] : {std::pair{"Frame3", "Haal de spelers op:"},
+                                          {"Frame1", "Spelergegevens importeren"},
+                                          {"Frame2", "Naar keus inclusief:"}})
+            EXPECT_EQ(titel, Vind<QGroupBox>(dia, naam)->title().toStdString());
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(frmImportNBBTest, DeVinkjesEnKnoppenBijHetOpenen)
+{
+    Verwacht([](QDialog& dia) {
+        for (const char* naam : {"chkNAW", "chkTel", "chkEmail", "chkMV"}) {
+            EXPECT_TRUE(Vind<QCheckBox>(dia, naam)->isChecked()) << naam;
+            EXPECT_TRUE(Vind<QCheckBox>(dia, naam)->isEnabled()) << naam;
+        }
+        for (const char* naam : {"chkVoornaam", "chkTus", "chkAchternaam", "chkNBBnr"}) {
+            auto* vink = Vind<QCheckBox>(dia, naam);
+            Klik(vink);
+            EXPECT_TRUE(vink->isChecked()) << naam;
+            EXPECT_FALSE(vink->isEnabled()) << naam;
+        }
+        EXPECT_FALSE(Vind<QRadioButton>(dia, "Option1")->isVisible());
+        for (const char* naam : {"Option2", "Option3", "Option4"})
+            EXPECT_FALSE(Vind<QRadioButton>(dia, naam)->isChecked());
+        for (const char* naam : {"cmdImporteer", "cmdControleNBBnrs", "cmdKiesExportMap"})
+            EXPECT_FALSE(Vind<QPushButton>(dia, naam)->isEnabled()) << naam;
+        EXPECT_FALSE(Vind<QProgressBar>(dia, "prgVoortgang")->isVisible());
+        EXPECT_FALSE(Vind<QPushButton>(dia, "cmdStop")->isVisible());
+        QTest::keyClick(&dia, Qt::Key_Escape);
+    });
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(frmImportNBBTest, ElkeBronHaaltZijnEigenBestandenUitDeMapVanDeBond)
+{
+    KopieerExports();
+    ZetExport("AVOND.CSV", "");
+    Verwacht([this](QDialog& dia) {
+        const std::string map =
+            "Ledenbestanden in de gekozen map: " + (suite.Weg() / "Bestanden/NBB4-Leden").string();
+        KiesOptie(dia, "Option2");
+        EXPECT_EQ("Kies een map en selecteer een 'CSV'-bestand",
+                  Opschrift(Vind<QPushButton>(dia, "cmdKiesExportMap")));
+        EXPECT_EQ("CSV-Ledenbestanden: 3", Labeltekst(dia, "Label3"));
+        EXPECT_EQ(map, Labeltekst(dia, "lblExportMap"));
+        EXPECT_EQ((Namen{"AVOND.CSV", "Dinsdag 20260901.csv", "Maandag 20260901.csv"}),
+                  Bestanden(dia));
+        EXPECT_FALSE(Lijst(dia)->IetsGekozen());
+        KiesOptie(dia, "Option3");
+        EXPECT_EQ("Kies een map en selecteer 'n 'XML'-bestand",
+                  Opschrift(Vind<QPushButton>(dia, "cmdKiesExportMap")));
+        EXPECT_EQ("XML-Ledenbestanden uit NBBR-3: 1", Labeltekst(dia, "Label3"));
+        EXPECT_EQ((Namen{"Donderdag 20260901.xml"}), Bestanden(dia));
+        EXPECT_TRUE(Lijst(dia)->Gekozen(0));
+        KiesOptie(dia, "Option4");
+        EXPECT_EQ("Kies een map en wijs een XML-bestand aan",
+                  Opschrift(Vind<QPushButton>(dia, "cmdKiesExportMap")));
+        EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: 2", Labeltekst(dia, "Label3"));
+        EXPECT_EQ((Namen{"Cursus 20260901.xml", "Zomer 20260901.xml"}), Bestanden(dia));
+        EXPECT_EQ((std::vector<int>{0}), Lijst(dia)->GekozenPlaatsen());
+        EXPECT_TRUE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
+        EXPECT_TRUE(Vind<QPushButton>(dia, "cmdControleNBBnrs")->isEnabled());
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, DeMapWordtPerBronOnthoudenZolangHetProgrammaLoopt)
+{
+    const QString csv = QStringLiteral("CSV-bestanden (*.csv)");
+    suite.Zet("Spelers/Los.csv", "");
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        EXPECT_EQ("CSV-Ledenbestanden: geen", Labeltekst(dia, "Label3"));
+        Druk(dia, "cmdKiesExportMap");
+        EXPECT_EQ((Namen{"Dinsdag 20260901.csv", "Maandag 20260901.csv"}), Bestanden(dia));
+        // The file that was pointed at is the one chosen.
+        EXPECT_EQ((std::vector<int>{1}), Lijst(dia)->GekozenPlaatsen());
+        KiesOptie(dia, "Option4");
+        EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: geen", Labeltekst(dia, "Label3"));
+        KiesOptie(dia, "Option2");
+        EXPECT_EQ("CSV-Ledenbestanden: 2", Labeltekst(dia, "Label3"));
+        Druk(dia, "cmdAnnuleren");
+    });
+    VerwachtBestandskeuze(csv, "Ledenbestanden/Maandag 20260901.csv");
+    Importeer();
+    Verwacht([](QDialog& dia) {
+        EXPECT_TRUE(Vind<QRadioButton>(dia, "Option2")->isChecked());
+        EXPECT_EQ("CSV-Ledenbestanden: 2", Labeltekst(dia, "Label3"));
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, DeBestandskeuzeVanXmlEnAnnulerenDaarvan)
+{
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option4");
+        Druk(dia, "cmdKiesExportMap");
+        EXPECT_EQ((std::vector<int>{1}), Lijst(dia)->GekozenPlaatsen());
+        Druk(dia, "cmdKiesExportMap");
+        EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: 2", Labeltekst(dia, "Label3"));
+        Druk(dia, "cmdAnnuleren");
+    });
+    VerwachtBestandskeuze(QStringLiteral("XML-bestanden (*.xml)"),
+                          "Ledenbestanden/Zomer 20260901.xml");
+    wachter.Bedien([](QDialog& keuze) { keuze.reject(); });
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, ZonderKeusVanEenBestandWordtErNietsGedaan)
+{
+    KopieerExports();
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        Druk(dia, "cmdImporteer");
+        EXPECT_TRUE(dia.isVisible());
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Waarschuwing(QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(frmImportNBBTest, DeDatabaseVanHetRekenprogramma)
+{
+    for (const auto& [toepassing, optie, opschrift] :
+         {std::tuple{"NBB-Rekenprogramma", "direct uit NBBR 2.8",
+                     "Ledenbestanden direct uit NBBR-2.8:"},
+          std::tuple{"Bridge-It", "direct uit Bridge-It", "Ledenbestanden direct uit BridgeIt:"}}) {
+        winkel = {};
+        winkel.Zet(toepassing, "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+        Herstart();
+        Verwacht([&, optie = optie, opschrift = opschrift](QDialog& dia) {
+            EXPECT_TRUE(Vind<QRadioButton>(dia, "Option1")->isVisible());
+            EXPECT_EQ(optie, Opschrift(Vind<QRadioButton>(dia, "Option1")));
+            KiesOptie(dia, "Option1");
+            EXPECT_EQ(opschrift, Labeltekst(dia, "lblExportMap"));
+            EXPECT_EQ("Ledenbestanden:", Labeltekst(dia, "Label3"));
+            EXPECT_EQ((Namen{"Club 007", "Cursus 012", "Jeugd 105"}), Bestanden(dia));
+            EXPECT_FALSE(Vind<QPushButton>(dia, "cmdKiesExportMap")->isEnabled());
+            EXPECT_TRUE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
+            EXPECT_TRUE(Vind<QPushButton>(dia, "cmdControleNBBnrs")->isEnabled());
+            KiesOptie(dia, "Option2");
+            EXPECT_TRUE(Bestanden(dia).empty());
+            EXPECT_TRUE(Vind<QPushButton>(dia, "cmdKiesExportMap")->isEnabled());
+            Druk(dia, "cmdAnnuleren");
+        });
+        Importeer();
+    }
+}
+
+TEST_F(frmImportNBBTest, EenOntbrekendeDatabaseNoemtDeGeprobeerdePlaats)
+{
+    winkel.Zet("Bridge-It", "DataRoot", (suite.Weg() / "weg").string());
+    Herstart();
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option1");
+        EXPECT_EQ(0, Lijst(dia)->Aantal());
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\nDe database met de "
+                                 "ledenbestanden is niet gevonden.\nKies eventueel een "
+                                 "geëxporteerd ledenbestand.\n\nBestand: ") +
+                  QString::fromStdString((suite.Weg() / "weg/data/Members.mdb").string()),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    Importeer();
+}
+
+/// Both programs there: asked at the start and again at opening. The second answer changes the
+/// captions; the database stays the one of the start.
+TEST_F(frmImportNBBTest, BeideRekenprogrammas)
+{
+    winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+    winkel.Zet("Bridge-It", "DataRoot", (suite.Weg() / "weg").string());
+    const auto kies = [](const char* optie) {
+        return [optie](QDialog& keuze) {
+            EXPECT_EQ("diaRekProgkeus", keuze.objectName());
+            KiesOptie(keuze, optie);
+            Druk(keuze, "cmdOK");
+        };
+    };
+    wachter.Bedien(kies("Option1"));
+    Herstart();
+    wachter.Bedien(kies("Option2"));
+    Verwacht([](QDialog& dia) {
+        EXPECT_EQ("direct uit Bridge-It", Opschrift(Vind<QRadioButton>(dia, "Option1")));
+        KiesOptie(dia, "Option1");
+        EXPECT_EQ("Ledenbestanden direct uit BridgeIt:", Labeltekst(dia, "lblExportMap"));
+        EXPECT_EQ(3, Lijst(dia)->Aantal());
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, GeenKeusTussenBeideWordtUitgelegd)
+{
+    winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+    winkel.Zet("Bridge-It", "DataRoot", (suite.Weg() / "weg").string());
+    wachter.Bedien([](QDialog& keuze) { keuze.reject(); });
+    Herstart();
+    administratie.DataMap.clear();
+    wachter.Bedien([](QDialog& keuze) { keuze.reject(); });
+    Verwacht([](QDialog& dia) {
+        EXPECT_TRUE(Vind<QRadioButton>(dia, "Option1")->isVisible());
+        KiesOptie(dia, "Option1");
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Waarschuwing(QStringLiteral(
+        "Fout bij het lezen van de ledenbestanden!\r\nBij de start van Plexoran was niet bekend "
+        "waar het rekenprogramma zijn gegevens bewaart, dus is er geen bestand 'Members.mdb' "
+        "geprobeerd. Start Plexoran opnieuw en kies dan het rekenprogramma."));
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, DeHint)
+{
+    Verwacht([](QDialog& dia) {
+        Druk(dia, "cmdHint");
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral(
+             "Als u fictieve 'NBB-nrs' moet toekennen aan spelers die nog geen nummer hebben, bijv "
+             "gasten, dan begint u gewoon te nummeren bij bijv 100.\r\n"
+             "Blijf altijd onder 9999 om niet in conflict te komen met de echte NBB-nummers.\r\n"
+             "Op een gegeven moment weet u niet meer welke nummers al geweest zijn.\r\n"
+             "Om snel te weten wat het laatst toegekende nummer was kunt u het volgende doen:\r\n"
+             " - Druk (rechtsonder) op de knop 'Sorteerlijst op' >> 'NBB-nr'.\r\n"
+             " - Of: In het NBB-programma: klik in de ledenlijst op de titel 'Bondsnummer', er "
+             "verschijnt dan een 'warrige' sorteerlijst."),
+         .titel = QStringLiteral("Hint")});
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, ElkStappenplanEindigtMetDeNaamVanHetLedenbestand)
+{
+    const std::string einde =
+        "Let op: Als u de naam van een ledenbestand zou willen wijzigen moet u de "
+        "ledenbestandsnaam voorop laten staan gevolgd door een spatie.\r\n"
+        "Voorbeeld: 'Club 20170125' mag u wijzigen in 'Club Nijmegen'.";
+    Verwacht([&](QDialog& dia) {
+        for (const auto& [knop, begin, map] :
+             {std::tuple{"cmdHelpImport28",
+                         "Zo exporteert u een ledenbestand uit NBBR-2.8:", false},
+              std::tuple{"cmdHelpImport31", "Zo exporteert u een ledenbestand uit NBBR-3.1:", true},
+              std::tuple{"cmdHelpImport4",
+                         "Zo exporteert u een XML-ledenbestand uit NBBR-4:", true},
+              std::tuple{"cmbHelpCSV", "Zo exporteert u een CSV-ledenbestand uit NBBR-4:", true}}) {
+            std::string tekst;
+            QTimer::singleShot(0, &dia, [&] {
+                auto* bericht = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (bericht != nullptr)
+                    tekst = bericht->text().toStdString();
+            });
+            wachter.Verwacht({.tekst = QString::fromLatin1(begin), .alleenBegin = true});
+            Druk(dia, knop);
+            EXPECT_TRUE(tekst.ends_with(einde)) << tekst;
+            if (map) {
+                EXPECT_NE(std::string::npos, tekst.find("...Documenten\\NBB4-Leden")) << knop;
+            }
+        }
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, ZonderVerzamelgroepGaatHetVensterNietOpen)
+{
+    administratie.mappen.DFIMPG = "Gr51-";
+    wachter.Waarschuwing(
+        QStringLiteral("Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat "
+                       "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-."));
+    Importeer();
+}

@@ -1,0 +1,112 @@
+// The import window, opened from the main window on a copy of the sample suite.
+#pragma once
+
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QRadioButton>
+
+#include "mainwindow/vensterproef.h"
+#include "platform/scherm/meerkeuzelijst.h"
+
+namespace plexoran {
+
+class Importproef : public Hoofdvensterproef {
+  protected:
+    using Stappen = std::function<void(QDialog&)>;
+
+    void SetUp() override
+    {
+        std::filesystem::create_directory(suite.Weg() / "Programma");
+        administratie.programmamap = (suite.Weg() / "Programma").string();
+        ASSERT_NO_FATAL_FAILURE(Start());
+        KiesGroep(5);
+        oud = suite.Spelers();
+    }
+
+    /// Opens the import window; boxes and dialogs that come while it is open are announced after.
+    void Verwacht(Stappen stappen) { wachter.Bedien(std::move(stappen)); }
+    void Importeer()
+    {
+        Klik(Knop("cmdHaalNBBnamen"));
+        wachter.Klaar();
+    }
+    void VerwachtVraag(const QString& subgroep, int spelers,
+                       const QString& antwoord = QStringLiteral("OK"))
+    {
+        wachter.Verwacht({.tekst = QStringLiteral("U gaat van '%1' %2 spelers importeren naar "
+                                                  "groep 'Gr05-'.")
+                                       .arg(subgroep)
+                                       .arg(spelers),
+                          .antwoord = antwoord,
+                          .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}});
+    }
+    void VerwachtAantallen(int ververst, int nieuw)
+    {
+        wachter.Informatie(QStringLiteral("Aantal spelers geupdate (ververst): %1\r\nAantal "
+                                          "nieuwe spelers toegevoegd: %2")
+                               .arg(ververst)
+                               .arg(nieuw));
+    }
+    /// The file dialog, in which a file of the suite is picked.
+    void VerwachtBestandskeuze(const QString& filter, const std::filesystem::path& bestand)
+    {
+        const QString pad = QString::fromStdString((suite.Weg() / bestand).string());
+        wachter.Bedien([filter, pad](QDialog& dialoog) {
+            auto& keuze = dynamic_cast<QFileDialog&>(dialoog);
+            EXPECT_EQ("CommonDialog1", keuze.objectName());
+            EXPECT_EQ("Kies 1 bestand uit de gekozen map", keuze.windowTitle());
+            EXPECT_EQ(QStringList{filter}, keuze.nameFilters());
+            Vind<QLineEdit>(keuze, "fileNameEdit")->setText(pad);
+            QMetaObject::invokeMethod(&keuze, "accept");
+        });
+    }
+
+    static void Druk(QDialog& dia, const char* knop) { Klik(Vind<QPushButton>(dia, knop)); }
+    static void KiesOptie(QDialog& dia, const char* optie)
+    {
+        Vind<QRadioButton>(dia, optie)->click();
+        QApplication::processEvents();
+    }
+    static Meerkeuzelijst* Lijst(const QDialog& dia)
+    {
+        return Vind<Meerkeuzelijst>(dia, "lstNBBbest");
+    }
+    static std::vector<std::string> Bestanden(const QDialog& dia)
+    {
+        std::vector<std::string> namen;
+        for (int i = 0; i < Lijst(dia)->Aantal(); ++i)
+            namen.push_back(Lijst(dia)->Regel(i).toStdString());
+        return namen;
+    }
+    static std::string Labeltekst(const QDialog& dia, const char* label)
+    {
+        return Vind<QLabel>(dia, label)->text().toStdString();
+    }
+    /// Puts an export in the folder that is looked in first.
+    void ZetExport(const std::string& naam, const std::string& inhoud) const
+    {
+        suite.Zet("Bestanden/NBB4-Leden/" + naam, inhoud);
+    }
+    void KopieerExports() const
+    {
+        for (const auto& naam : suite.Namen("Ledenbestanden"))
+            ZetExport(naam, suite.Inhoud("Ledenbestanden/" + naam));
+    }
+    /// The player line with this key, without its number and key.
+    [[nodiscard]] std::string Speler(const std::string& key) const
+    {
+        for (const std::string& regel : RegelsVan(suite.Spelers())) {
+            const auto plaats = regel.find("," + key + ",");
+            if (plaats != std::string::npos && plaats < 8)
+                return regel.substr(plaats + key.size() + 2);
+        }
+        return {};
+    }
+    [[nodiscard]] std::string Sleutelregel() const { return RegelsVan(suite.Spelers()).front(); }
+
+    std::string oud;
+};
+
+} // namespace plexoran
