@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 
+#include <algorithm>
 #include <cstdio>
 
 #include "dialogs/diaGrNamen.h"
@@ -99,7 +100,7 @@ void NeemControle(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrat
                 namen.push_back(naam);
         }
     }
-    Sorteer(namen);
+    std::sort(namen.begin(), namen.end());
     if (namen.empty())
         return;
     diaControleNBB venster(administratie, opdracht, namen, &hoofdvenster);
@@ -129,7 +130,9 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                                    .DataRoot = {},
                                    .ProgrammaCode = "NBBR",
                                    .ProgrammaNaam = "NBB-R"};
-    Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
+    Importgeheugen importgeheugen{
+        .mappen = {{Ledenbron::XmlNbb4, Samen(administratie.mappen.RVDMAP, "Ledenbestanden")}},
+        .bron = Ledenbron::XmlNbb4};
     fotograaf.Neem(frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
     fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
     fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));

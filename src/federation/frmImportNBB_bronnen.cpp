@@ -2,6 +2,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 
+#include "federation/diaControleNBB.h"
 #include "federation/frmImportNBB.h"
 #include "federation/ledendatabase.h"
 #include "federation/tussenmap.h"
@@ -46,6 +47,16 @@ bool IsVanSoort(Tekstblik naam, Ledenbron bron)
     constexpr std::size_t lengte = 4;
     const Tekstblik einde = bron == Ledenbron::Csv ? ".CSV" : ".XML";
     return naam.size() >= lengte && Hoofdletters(naam.substr(naam.size() - lengte)) == einde;
+}
+
+/// In text order.
+std::vector<Tekst> VanSoort(const std::vector<Tekst>& namen, Ledenbron bron)
+{
+    std::vector<Tekstblik> gevonden;
+    std::copy_if(namen.begin(), namen.end(), std::back_inserter(gevonden),
+                 [bron](const Tekst& naam) { return IsVanSoort(naam, bron); });
+    Sorteer(gevonden);
+    return {gevonden.begin(), gevonden.end()};
 }
 
 QString Lijstfouttekst(const Fout& fout)
@@ -193,7 +204,7 @@ void frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
 {
     const Ledenbron bron = bron_.value_or(Ledenbron::Csv);
     const Wachtcursor wacht;
-    auto bestanden = administratie_.schijf.Bestanden(map);
+    const auto bestanden = administratie_.schijf.Bestanden(map);
     if (!bestanden) {
         Meld(this, QMessageBox::Warning,
              QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Kies een "
@@ -204,11 +215,10 @@ void frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
     map_ = map;
     geheugen_.mappen[bron] = map;
     MaakBruikbaar(true);
-    std::erase_if(*bestanden, [bron](const Tekst& naam) { return !IsVanSoort(naam, bron); });
-    Sorteer(*bestanden);
+    auto namen = VanSoort(*bestanden, bron);
     if (bron != Ledenbron::Csv)
-        bestanden = BepaalXMLsoort(administratie_.schijf, map, *bestanden, bron);
-    VulLijst(std::move(*bestanden));
+        namen = BepaalXMLsoort(administratie_.schijf, map, namen, bron);
+    VulLijst(std::move(namen));
 
     const QString pad = QString::fromStdString(administratie_.schijf.Toonpad(map));
     lblExportMap->setText(QStringLiteral("Ledenbestanden in de gekozen map: ") + Breekbaar(pad));
@@ -254,6 +264,7 @@ void frmImportNBB::ControleerNBBnrs()
         Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
         return;
     }
+    diaControleNBB(administratie_, Opdracht(), gekozen, this).exec();
 }
 
 } // namespace plexoran

@@ -185,6 +185,26 @@ TEST_F(frmImportNBBTest, ZonderKeusVanEenBestandWordtErNietsGedaan)
     EXPECT_EQ(oud, suite.Spelers());
 }
 
+/// The number check looks at the chosen member files and changes nothing.
+TEST_F(frmImportNBBTest, HetOverzichtVanDeNummers)
+{
+    KopieerExports();
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option4");
+        Druk(dia, "cmdControleNBBnrs");
+        Lijst(dia)->KiesAlles(false);
+        Druk(dia, "cmdControleNBBnrs");
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Bedien([](QDialog& overzicht) {
+        EXPECT_EQ("diaControleNBB", overzicht.objectName());
+        Druk(overzicht, "cmdTerug");
+    });
+    wachter.Waarschuwing(QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
 TEST_F(frmImportNBBTest, DeDatabaseVanHetRekenprogramma)
 {
     for (const auto& [toepassing, optie, opschrift] :

@@ -197,8 +197,8 @@ TEST(Spelertabel, ZetCellenVerandertAlleenDieCellen)
     moet[Plaats(Kolom::Voornaam)] = "a_b c";
     moet[Plaats(Kolom::NBBgr)] = "CLUB";
     for (int keer = 0; keer < 100; ++keer)
-        tabel.ZetCellen(
-            5, std::vector<Celtekst>{{Kolom::Voornaam, "a,b\nc"}, {Kolom::NBBgr, "CLUB"}});
+        tabel.ZetCellen(5,
+                        std::vector<Celtekst>{{Kolom::Voornaam, "a,b\nc"}, {Kolom::NBBgr, "CLUB"}});
     EXPECT_EQ(tabel.Rijen(), 5);
     EXPECT_EQ(tabel.Velden(5), moet);
     EXPECT_EQ(tabel.Velden(4), vierde);

@@ -1,0 +1,159 @@
+// Importing as many members as the register has players, half of them known: reading the CSV and
+// merging, beside loading the register and reading the CSV, measured in the same run. Once with
+// usual numbers, once with numbers that the usual way of looking up cannot answer.
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "federation/ledenbestand.h"
+#include "federation/samenvoegen.h"
+#include "hulp/meten.h"
+#include "hulp/register.h"
+#include "platform/echteSchijf.h"
+#include "register/spelerbestand.h"
+
+namespace plexoran {
+namespace {
+
+constexpr Tekstblik Importgroep = "Gr01-"; // where the made-up players are
+
+enum class Nummers { Gewoon, Vreemd };
+
+/// Of eight digits, or with a "-" in it, which can be found across two numbers.
+Tekst Nummer(int lid, Nummers nummers)
+{
+    const Tekst cijfers = std::to_string(10'000'000 + lid);
+    return nummers == Nummers::Gewoon ? cijfers : cijfers.substr(0, 3) + "-" + cijfers.substr(3);
+}
+
+/// A register and the export of as many members, of whom the first half are its last players.
+struct Proef {
+    Proef(int spelers, Nummers nummers) : suite(Registertekst(spelers, nummers))
+    {
+        LeesSpelers(schijf, suite.Instellingen(), gelezen);
+        Tekst csv;
+        for (int lid = spelers / 2 + 1; lid <= spelers / 2 + spelers; ++lid) {
+            const int rij = (lid - 1) % spelers + 1;
+            csv += Nummer(lid, nummers);
+            for (const Kolom kolom : {Kolom::MV, Kolom::Voornaam, Kolom::Div1, Kolom::Tusv,
+                                      Kolom::Achternaam, Kolom::Adres, Kolom::Postc, Kolom::Plaats,
+                                      Kolom::Telef, Kolom::Email, Kolom::Land})
+                csv.append(";").append(gelezen.tabel.Cel(rij, kolom));
+            csv += "\r\n";
+        }
+        std::ofstream(suite.Spelerpad("Club.csv"), std::ios::binary) << csv;
+    }
+
+    static Tekst Registertekst(int spelers, Nummers nummers)
+    {
+        Register uit;
+        uit.HKEY = Sleutelbasis + spelers;
+        uit.tabel =
+            SpelersUit(MaakRegister(spelers, Verdeling::EenGroep)).tabel.value_or(Spelertabel());
+        for (int rij = 1; rij <= uit.tabel.Rijen(); ++rij)
+            uit.tabel.ZetCel(rij, Kolom::NBBnr, Nummer(rij, nummers));
+        return SpelersTekst(uit);
+    }
+
+    Register Laad()
+    {
+        Register spelers;
+        LeesSpelers(schijf, suite.Instellingen(), spelers);
+        return spelers;
+    }
+    Uitkomst<Ledenlezing> LeesCsv()
+    {
+        const Pad map = suite.Instellingen().SPEMAP;
+        return LeesLedenbestand(schijf,
+                                {.bron = Ledenbron::Csv,
+                                 .map = map,
+                                 .programmamap = map,
+                                 .LedenDatabase = {},
+                                 .keuzes = {}},
+                                "Club.csv");
+    }
+
+    EchteSchijf schijf;
+    Proefsuite suite;
+    Register gelezen;
+};
+
+std::map<std::pair<int, Nummers>, std::unique_ptr<Proef>>& Proeven()
+{
+    static std::map<std::pair<int, Nummers>, std::unique_ptr<Proef>> proeven;
+    return proeven;
+}
+
+Proef& ProefVan(const benchmark::State& meting, Nummers nummers)
+{
+    const int spelers = static_cast<int>(meting.range(0));
+    auto& proef = Proeven()[{spelers, nummers}];
+    if (!proef)
+        proef = std::make_unique<Proef>(spelers, nummers);
+    return *proef;
+}
+
+/// A result that is not what it must be spoils the measurement, and the report says so.
+void Eis(benchmark::State& meting, bool goed)
+{
+    if (!goed)
+        meting.SkipWithError("de uitkomst klopt niet");
+}
+
+void Importeer(benchmark::State& meting, Nummers nummers)
+{
+    Proef& proef = ProefVan(meting, nummers);
+    const auto helft = static_cast<std::size_t>(meting.range(0) / 2);
+    Meet(
+        meting, [&] { return proef.Laad(); },
+        [&](Register& spelers) {
+            auto lezing = proef.LeesCsv();
+            const auto uitkomst =
+                VoegLedenSamen(spelers, {.importgroep = Tekst(Importgroep),
+                                         .subgroep = "Club",
+                                         .lstN1 = std::move(lezing.value().lstN1)});
+            Eis(meting,
+                uitkomst && uitkomst->AantalVerververst == helft && uitkomst->AantalNieuw == helft);
+        });
+}
+
+void Importeren(benchmark::State& meting)
+{
+    Importeer(meting, Nummers::Gewoon);
+}
+BENCHMARK(Importeren)->Apply(Groottes);
+
+void ImporterenVreemd(benchmark::State& meting)
+{
+    Importeer(meting, Nummers::Vreemd);
+}
+BENCHMARK(ImporterenVreemd)->Apply(Groottes);
+
+/// The register loaded and the CSV read.
+void ImporterenGrens(benchmark::State& meting)
+{
+    Proef& proef = ProefVan(meting, Nummers::Gewoon);
+    const auto leden = static_cast<std::size_t>(meting.range(0));
+    using Beide = std::pair<Register, Uitkomst<Ledenlezing>>;
+    Meet(
+        meting, [] { return Beide(); },
+        [&](Beide& beide) {
+            beide = {proef.Laad(), proef.LeesCsv()};
+            Eis(meting, beide.second && beide.second->lstN1.size() == leden);
+        });
+}
+BENCHMARK(ImporterenGrens)->Apply(Groottes);
+
+} // namespace
+} // namespace plexoran
+
+int main(int argc, char** argv)
+{
+    plexoran::ZetGeheugenVast();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    plexoran::Proeven().clear();
+    return 0;
+}
