@@ -18,7 +18,6 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/sorteerlijst.h"
 #include "platform/scherm/tekstbrug.h"
-#include "platform/tekstorde.h"
 
 namespace plexoran {
 namespace {
