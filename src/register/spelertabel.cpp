@@ -55,6 +55,12 @@ void Spelertabel::VoegToe(const Rijvelden& velden)
     rijen_.push_back(SchrijfVelden(velden));
 }
 
+void Spelertabel::Reserveer(std::size_t rijen, std::size_t bytes)
+{
+    rijen_.reserve(rijen_.size() + rijen);
+    tekst_.reserve(std::min(tekst_.size() + bytes, GrootsteTekst));
+}
+
 void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)
 {
     rijen_.push_back(SchrijfKopie(rij, anders));
@@ -80,7 +86,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
 Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celtekst> anders)
 {
     const Celgrenzen& bron = Grenzen(rij);
-    std::size_t lengte = bron[AantalKolommen] - bron[0];
+    std::size_t lengte = Lengte(rij);
     for (const Celtekst& cel : anders)
         lengte += cel.tekst.size() + 1;
     Tekst kopie; // on its own first, since the texts may be views into this table

@@ -94,6 +94,13 @@ class Spelertabel {
     /// Changes several cells of a row at once, by rising column and none twice.
     void ZetCellen(int rij, std::span<const Celtekst> anders);
     void VoegToe(const Rijvelden& velden);
+    /// Makes room for rows that are about to be added, so that the buffer grows once.
+    void Reserveer(std::size_t rijen, std::size_t bytes);
+    /// Bytes of a row with the separators behind its cells.
+    [[nodiscard]] std::size_t Lengte(int rij) const
+    {
+        return Grenzen(rij)[AantalKolommen] - Grenzen(rij)[0];
+    }
     /// Adds a row that is another one with some of its cells changed: those in `anders`, by rising
     /// column and none twice.
     void VoegKopieToe(int rij, std::span<const Celtekst> anders);
