@@ -9,8 +9,7 @@ namespace {
 
 bool HeeftRegeleinde(Tekstblik tekst)
 {
-    return !tekst.empty() &&
-           (tekst.find('\n') != Tekstblik::npos || tekst.find('\r') != Tekstblik::npos);
+    return tekst.find('\n') != Tekstblik::npos || tekst.find('\r') != Tekstblik::npos;
 }
 
 } // namespace
@@ -49,20 +48,21 @@ Tekst ZonderRegeleinden(Tekstblik tekst)
 
 void VoegLidToe(Tekst& regels, const Lidrij& lid)
 {
+    const std::size_t begin = regels.size();
     for (const Tekst& veld : lid) {
-        if (HeeftRegeleinde(veld))
-            regels += ZonderRegeleinden(veld);
-        else
-            regels += veld;
+        regels += veld;
         regels += ';';
     }
+    // The ";" between them keeps the CR of one field from the LF of the next.
+    if (const Tekstblik regel = Tekstblik(regels).substr(begin); HeeftRegeleinde(regel))
+        regels.replace(begin, Tekst::npos, ZonderRegeleinden(regel));
     regels += "\r\n";
 }
 
 Uitkomst<void> SchrijfTussenregels(Schijf& schijf, const Pad& pad, Tekst regels)
 {
     regels += "\r\n";
-    return SchrijfHeel(schijf, pad, regels);
+    return SchrijfVluchtig(schijf, pad, regels);
 }
 
 Uitkomst<void> SchrijfTussenbestand(Schijf& schijf, const Pad& pad,

@@ -46,7 +46,9 @@ enum class Lidveld : std::size_t {
 /// CR LF one: lines are members.
 void VoegLidToe(Tekst& regels, const Lidrij& lid);
 
-/// Replaces the intermediate file by the lines and the CR LF that closes them.
+/// Replaces the intermediate file by the lines and the CR LF that closes them, or leaves it as it
+/// was. The next thing that happens to it is reading; what the power's loss leaves of it matters to
+/// nobody.
 [[nodiscard]] Uitkomst<void> SchrijfTussenregels(Schijf& schijf, const Pad& pad, Tekst regels);
 
 /// The same for members that stand in memory already.

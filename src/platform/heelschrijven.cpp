@@ -40,29 +40,33 @@ Uitkomst<Tijdelijk> MaakTijdelijk(Schijf& schijf, const Pad& doel)
     }
 }
 
+/// Whether the new file must survive a loss of power as soon as it is written.
+enum class Houdbaarheid { Vluchtig, Blijvend };
+
 /// Ends with the writer closed, also on a failure: an open file cannot be removed everywhere.
-Uitkomst<void> VulEnSluit(std::unique_ptr<Schrijver> schrijver, const Vuller& vul)
+Uitkomst<void> VulEnSluit(std::unique_ptr<Schrijver> schrijver, const Vuller& vul,
+                          Houdbaarheid houdbaarheid)
 {
-    return vul(*schrijver).and_then([&] { return schrijver->Sync(); }).and_then([&] {
-        return schrijver->Sluit();
-    });
+    const auto sync = [&] {
+        return houdbaarheid == Houdbaarheid::Blijvend ? schrijver->Sync() : Uitkomst<void>();
+    };
+    return vul(*schrijver).and_then(sync).and_then([&] { return schrijver->Sluit(); });
 }
 
 /// The old file's rights come before the contents, so that what few may read is never readable to
 /// many, and so that they are synced along.
 Uitkomst<void> VulEnRuil(Schijf& schijf, Tijdelijk& tijdelijk, const Pad& doel, bool vervangt,
-                         const Vuller& vul)
+                         const Vuller& vul, Houdbaarheid houdbaarheid)
 {
     std::unique_ptr<Schrijver> schrijver = std::move(tijdelijk.schrijver);
     Uitkomst<void> rechten;
     if (vervangt)
         rechten = schijf.NeemRechtenOver(doel, tijdelijk.pad);
-    return rechten.and_then([&] { return VulEnSluit(std::move(schrijver), vul); }).and_then([&] {
-        return schijf.Hernoem(tijdelijk.pad, doel);
-    });
+    return rechten.and_then([&] { return VulEnSluit(std::move(schrijver), vul, houdbaarheid); })
+        .and_then([&] { return schijf.Hernoem(tijdelijk.pad, doel); });
 }
 
-Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, const Vuller& vul)
+Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, const Vuller& vul, Houdbaarheid houdbaarheid)
 {
     const auto doel = schijf.Doel(pad);
     if (!doel)
@@ -75,13 +79,23 @@ Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, const Vuller& vul)
         return tl::unexpected(tijdelijk.error());
 
     const bool vervangt = *soort != Padsoort::Niets;
-    auto geruild = VulEnRuil(schijf, *tijdelijk, *doel, vervangt, vul);
+    auto geruild = VulEnRuil(schijf, *tijdelijk, *doel, vervangt, vul, houdbaarheid);
     if (!geruild) {
         // When this fails too, RuimTijdelijkeOp comes later; the first failure is the one to tell.
         static_cast<void>(schijf.Verwijder(tijdelijk->pad));
         return geruild;
     }
-    return schijf.SyncMapVan(*doel);
+    return houdbaarheid == Houdbaarheid::Blijvend ? schijf.SyncMapVan(*doel) : Uitkomst<void>();
+}
+
+/// What failed may be a temporary file; the user knows the file by its own name.
+Uitkomst<void> VervangOfMeld(Schijf& schijf, const Pad& pad, const Vuller& vul,
+                             Houdbaarheid houdbaarheid)
+{
+    return Vervang(schijf, pad, vul, houdbaarheid).map_error([&](Fout fout) {
+        fout.bestand = schijf.Toonpad(pad);
+        return fout;
+    });
 }
 
 } // namespace
@@ -94,11 +108,14 @@ Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
 
 Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul)
 {
-    // What failed may be a temporary file; the user knows the file by its own name.
-    return Vervang(schijf, pad, vul).map_error([&](Fout fout) {
-        fout.bestand = schijf.Toonpad(pad);
-        return fout;
-    });
+    return VervangOfMeld(schijf, pad, vul, Houdbaarheid::Blijvend);
+}
+
+Uitkomst<void> SchrijfVluchtig(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
+{
+    return VervangOfMeld(
+        schijf, pad, [inhoud](Schrijver& schrijver) { return schrijver.Schrijf(inhoud); },
+        Houdbaarheid::Vluchtig);
 }
 
 void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu)

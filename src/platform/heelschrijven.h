@@ -20,6 +20,11 @@ using Vuller = std::function<Uitkomst<void>(Schrijver&)>;
 /// The same for contents that need not stand in memory as a whole.
 [[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul);
 
+/// The same for a file that is needed only until the program ends: nothing is synced, so that a
+/// loss of power may leave neither the old contents nor the new. For whoever reads it while the
+/// machine runs it is as whole, and every failure to write it is told.
+[[nodiscard]] Uitkomst<void> SchrijfVluchtig(Schijf& schijf, const Pad& pad, Tekstblik inhoud);
+
 /// Removes temporary files that a killed save of `naam` left in `map` more than an hour ago.
 /// `nu` is nanoseconds since 1970. Failures do no harm and are passed over.
 void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu);

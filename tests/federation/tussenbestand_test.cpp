@@ -77,6 +77,14 @@ TEST(Tussenbestand, EenRegeleindeInEenVeldWordtEenSpatie)
               "1;;a b;c d;e f; ;  ;g  h;i;j;;;;;;;;\r\n\r\n");
 }
 
+TEST(Tussenbestand, RegeleindenOpDeGrensVanVeldenVloeienNietSamen)
+{
+    GeheugenSchijf schijf;
+    schijf.ZetMap("C:\\P");
+    ASSERT_TRUE(SchrijfTussenbestand(schijf, bestand, {{"1\r", "\nV"}, {"2"}}).has_value());
+    EXPECT_EQ(schijf.Inhoud(bestand), "1 ; V;;;;;;;;;;;;;;;\r\n2;;;;;;;;;;;;;;;;\r\n\r\n");
+}
+
 TEST(Tussenbestand, VervangtEenEerder)
 {
     GeheugenSchijf schijf;

@@ -95,6 +95,28 @@ TEST(HeelSchrijven, EersteFoutWordtGemeld)
     EXPECT_EQ(binnen.Inhoud(bestand), "oud");
 }
 
+/// Without the two syncs the steps and what each failure leaves are those of a durable save.
+TEST(VluchtigSchrijven, FaaltBijElkeStap)
+{
+    GeheugenSchijf binnen;
+    FalendeSchijf schijf(binnen);
+    binnen.Zet(bestand, "oud");
+    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "nieuw"));
+    const int duurzaam = schijf.Aantal();
+    for (int stap = 1; stap <= duurzaam - 2; ++stap) {
+        binnen.Zet(bestand, "oud");
+        schijf.FaalBij(stap);
+        const auto uitkomst = SchrijfVluchtig(schijf, bestand, "nieuw");
+        ASSERT_FALSE(uitkomst) << "stap " << stap;
+        EXPECT_EQ(uitkomst.error().bestand, bestand);
+        EXPECT_EQ(binnen.Inhoud(bestand), "oud") << "stap " << stap;
+        EXPECT_EQ(binnen.AlleBestanden(), Namen{bestand}) << "stap " << stap;
+    }
+    schijf.FaalBij(duurzaam - 1);
+    ASSERT_TRUE(SchrijfVluchtig(schijf, bestand, "nieuw")) << "twee stappen minder";
+    EXPECT_EQ(binnen.Inhoud(bestand), "nieuw");
+}
+
 TEST(HeelSchrijven, StroomuitvalNaElkeStap)
 {
     for (const auto namen : {GeheugenSchijf::Namen::Gesynct, GeheugenSchijf::Namen::Alle}) {
