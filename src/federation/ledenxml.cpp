@@ -54,13 +54,19 @@ constexpr std::array<Xmlveld, 15> plaatsenNbb3 = {
 
 enum class Nbbversie { Drie, Vier };
 
-/// Each version of the export knows its fields in its own way.
-Xmlveld VeldVan(Nbbversie versie, const Xmlknoop& kind, std::size_t plaats)
+Xmlveld VeldOpPlaats(const Xmlknoop& kind, std::size_t plaats)
 {
-    if (versie == Nbbversie::Drie)
-        return plaats < plaatsenNbb3.size() ? plaatsenNbb3[plaats] : Xmlveld::Geen;
+    return plaats < plaatsenNbb3.size() && kind.IsElement() ? plaatsenNbb3[plaats] : Xmlveld::Geen;
+}
+
+/// Looks from `verwacht` on, which becomes the name behind the one found: members have their
+/// elements in one order.
+Xmlveld VeldMetNaam(const Xmlknoop& kind, std::size_t& verwacht)
+{
     const std::string_view gezocht = kind.Naam();
-    for (const auto& [naam, veld] : namenNbb4) {
+    for (std::size_t i = 0; i < namenNbb4.size(); ++i) {
+        const auto& [naam, veld] = namenNbb4[verwacht];
+        verwacht = verwacht + 1 == namenNbb4.size() ? 0 : verwacht + 1;
         if (gezocht == naam)
             return veld;
     }
@@ -71,6 +77,8 @@ Xmlveld VeldVan(Nbbversie versie, const Xmlknoop& kind, std::size_t plaats)
 void PasAchternaamregelToe(Tekst& achternaam)
 {
     constexpr std::size_t lengte = 7;
+    if (achternaam.empty() || Hoofdletter(achternaam.front()) != 'P')
+        return; // the word takes all seven
     achternaam = ZonderRegeleinden(achternaam);
     const Tekstblik begin = ZonderSpaties(Tekstblik(achternaam).substr(0, lengte));
     if (Hoofdletters(begin) == "PARTNER")
@@ -80,10 +88,10 @@ void PasAchternaamregelToe(Tekst& achternaam)
 /// Turns one member after the other into lines, keeping its buffers.
 class Ledenomzetter {
   public:
-    Ledenomzetter(Nbbversie versie, std::size_t leden) : versie_(versie)
+    Ledenomzetter(Nbbversie versie, std::size_t lengte) : versie_(versie)
     {
-        constexpr std::size_t ruimeRegel = 160;
-        regels_.reserve(leden * ruimeRegel);
+        constexpr std::size_t opmaak = 3; // of a document most is not text
+        regels_.reserve(lengte / opmaak);
     }
 
     void VoegToe(const Xmlknoop& member)
@@ -91,11 +99,11 @@ class Ledenomzetter {
         for (Tekst& veld : lid_)
             veld.clear();
         telefoon2_.clear();
-        std::size_t plaats = 0;
-        for (Xmlknoop kind = member.EersteKind(); kind; kind = kind.Volgende(), ++plaats) {
-            if (kind.IsElement())
-                Vul(VeldVan(versie_, kind, plaats), kind);
-        }
+        std::size_t plaats = member.BegintMetTekst() ? 1 : 0;
+        for (Xmlknoop kind = member.EersteKind(); kind; kind = kind.Volgende(), ++plaats)
+            Vul(versie_ == Nbbversie::Drie ? VeldOpPlaats(kind, plaats)
+                                           : VeldMetNaam(kind, verwacht_),
+                kind);
         if (!telefoon2_.empty())
             Veld(Lidveld::Telefoon) = telefoon2_;
         if (versie_ == Nbbversie::Vier)
@@ -140,6 +148,7 @@ class Ledenomzetter {
     Tekst telefoon2_;
     Tekst klad_;
     Tekst regels_;
+    std::size_t verwacht_ = 0;
     std::size_t vervangen_ = 0;
 };
 
@@ -168,14 +177,12 @@ Uitkomst<Xmlomzetting> Converteer(const Xmldocument& document, Nbbversie versie,
                                   const Pad& tussenbestand, const Voortgang& voortgang)
 {
     constexpr std::size_t elkeZoveel = 4096;
-    std::size_t geheel = 0;
-    VoorElkLid(document, [&](const Xmlknoop&) { ++geheel; });
-    Ledenomzetter omzetter(versie, geheel);
+    Ledenomzetter omzetter(versie, document.Lengte());
     std::size_t gedaan = 0;
     VoorElkLid(document, [&](const Xmlknoop& lid) {
         omzetter.VoegToe(lid);
         if (++gedaan % elkeZoveel == 0 && voortgang)
-            voortgang(gedaan, geheel);
+            voortgang(lid.Plaats(), document.Lengte());
     });
     return SchrijfTussenregels(schijf, tussenbestand, omzetter.NeemRegels()).map([&] {
         return Xmlomzetting{omzetter.Vervangen(), std::nullopt};

@@ -29,8 +29,14 @@ class Xmlknoop {
     /// UTF-8, with its prefix; empty for what is no element. The view lives as the document does.
     [[nodiscard]] std::string_view Naam() const;
 
-    /// Children: elements, texts, CDATA sections, comments and processing instructions, but not a
-    /// text of white space only.
+    /// Whether an element begins with a text, which is none of its children below. One of white
+    /// space only, or in a CDATA section, does not count.
+    [[nodiscard]] bool BegintMetTekst() const;
+    /// Where an element begins in the text of the document, to tell how far a walk is.
+    [[nodiscard]] std::size_t Plaats() const;
+
+    /// Children: elements, CDATA sections, comments, processing instructions and the texts behind
+    /// the first of those, but not a text of white space only.
     [[nodiscard]] Xmlknoop EersteKind() const;
     [[nodiscard]] Xmlknoop Volgende() const;
     /// The next child of the same parent, or the first below this node, that is an element `naam`.
@@ -59,6 +65,8 @@ class Xmldocument {
 
     /// The outermost element.
     [[nodiscard]] Xmlknoop Wortel() const;
+    /// Of its text, in bytes.
+    [[nodiscard]] std::size_t Lengte() const;
 
   private:
     struct Binnenkant;

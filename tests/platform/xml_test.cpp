@@ -68,6 +68,36 @@ TEST(Xml, KinderenZijnElementenTekstenCommentaarEnInstructies)
     EXPECT_FALSE(Xmlknoop().EersteElement("b"));
 }
 
+TEST(Xml, EenTekstAanHetBeginIsGeenKindMaarWelTekst)
+{
+    const auto document = Xmldocument::Ontleed(
+        "<a>een<b>twee</b>drie<c><!--x-->vier<?y z?><![CDATA[vijf]]></c><d/><e> \n<f/></e></a>",
+        "x");
+    ASSERT_TRUE(document.has_value());
+    const Xmlknoop a = document->Wortel();
+    EXPECT_TRUE(a.BegintMetTekst());
+    EXPECT_EQ(a.EersteKind().Naam(), "b");
+    EXPECT_TRUE(a.EersteElement("b").BegintMetTekst());
+    EXPECT_FALSE(a.EersteElement("b").EersteKind());
+    EXPECT_FALSE(a.EersteElement("b").Volgende().BegintMetTekst()) << "zelf een tekst";
+    for (const char* zonder : {"c", "d", "e"})
+        EXPECT_FALSE(a.EersteElement(zonder).BegintMetTekst()) << zonder;
+    Tekst tekst;
+    a.LeesTekst(tekst);
+    EXPECT_EQ(tekst, "eentweedrieviervijf");
+    a.EersteElement("d").LeesTekst(tekst);
+    EXPECT_EQ(tekst, "");
+}
+
+TEST(Xml, ZegtWaarEenElementStaat)
+{
+    const auto document = Xmldocument::Ontleed("<a><b/>tekst<c/></a>", "x");
+    ASSERT_TRUE(document.has_value());
+    EXPECT_EQ(document->Lengte(), 20U);
+    EXPECT_EQ(document->Wortel().Plaats(), 1U);
+    EXPECT_EQ(document->Wortel().EersteElement("c").Plaats(), 13U);
+}
+
 TEST(Xml, EenFoutZegtWaarEnWat)
 {
     const Gelezen gelezen = Lees("<a>\r\n<b>\r\n</c>\r\n</a>");
