@@ -87,6 +87,7 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
     const Herkomsten herkomsten = HerkomstenVan(keuzes);
     const std::size_t nodig = NodigeKolommen(herkomsten);
     Ledenlezing uit;
+    uit.lstN1.reserve(static_cast<std::size_t>(std::count(tekst.begin(), tekst.end(), '\n')) + 1);
     int nummer = 0;
     for (const Tekstblik regel : Regels(tekst)) {
         if (++nummer % elkeZoveel == 0 && voortgang)

@@ -1,5 +1,7 @@
 #include "platform/regels.h"
 
+#include <algorithm>
+
 namespace plexoran {
 
 Stukken::Iterator::Iterator(Tekstblik rest, bool opKomma) : rest_(rest), opKomma_(opKomma)
@@ -19,9 +21,13 @@ void Stukken::Iterator::Volgend()
         klaar_ = true;
         return;
     }
-    const auto eind = rest_.find_first_of(opKomma_ ? Tekstblik(",\r\n") : Tekstblik("\r\n"));
+    // Not find_first_of: that calls a function for every character.
+    const auto waar = std::find_if(rest_.begin(), rest_.end(), [this](char teken) {
+        return teken == '\n' || teken == '\r' || (opKomma_ && teken == ',');
+    });
+    const auto eind = static_cast<std::size_t>(waar - rest_.begin());
     stuk_ = rest_.substr(0, eind);
-    if (eind == Tekstblik::npos) {
+    if (eind == rest_.size()) {
         rest_ = {};
         return;
     }
