@@ -1,14 +1,18 @@
 #include "federation/ledenbestand.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <utility>
 
 #include <gtest/gtest.h>
 
+#include "platform/echteSchijf.h"
 #include "platform/geheugenSchijf.h"
+#include "platform/tijdelijkeMap.h"
 
 namespace plexoran {
 namespace {
@@ -284,6 +288,92 @@ TEST_F(Voorbeelden, DeXmlBestandenGevenHunLeden)
     const auto cursus = Lees(Ledenbron::XmlNbb4, "Cursus 20260901.xml");
     ASSERT_EQ(cursus.lstN1.size(), 3U);
     EXPECT_TRUE(cursus.lstN1[1].starts_with("Ma\xEBlle,,Kraaijenest,"));
+}
+
+/// Each sample as every source that it can be taken for: an error that leaves the intermediate file
+/// of before, or members out of a whole one.
+class Beschadigd : public Voorbeelden {
+  protected:
+    void LeesAlsAlles(const Tekst& inhoud, const std::string& hoe)
+    {
+        for (const Ledenbron bron : {Ledenbron::Csv, Ledenbron::XmlNbb3, Ledenbron::XmlNbb4}) {
+            schijf_.Zet("C:\\Export\\Kapot.x", inhoud);
+            schijf_.Zet(tussen, "oud");
+            const auto lezing = LeesLedenbestand(schijf_, Opdracht(bron), "Kapot.x");
+            ++(lezing && !lezing->nietGeladen ? goed_ : fout_);
+            const Tekst over = schijf_.Inhoud(tussen).value_or("(weg)");
+            const bool geschreven = lezing && bron != Ledenbron::Csv;
+            const bool heel = over == "\r\n" || over.ends_with(";\r\n\r\n");
+            ASSERT_TRUE(geschreven ? heel : over == "oud") << hoe;
+            ASSERT_TRUE(lezing || lezing.error().soort == Foutsoort::Beschadigd) << hoe;
+            ASSERT_TRUE(!lezing || !lezing->nietGeladen || lezing->lstN1.empty()) << hoe;
+        }
+    }
+
+    static constexpr auto tussen = "C:\\P\\Kapot Temp-NBBXMLtoCSV.csv";
+    int goed_ = 0;
+    int fout_ = 0;
+};
+
+TEST_F(Beschadigd, AfgekaptOpElkePlaats)
+{
+    for (const Tekst& naam : namen_) {
+        const Tekst heel = schijf_.Inhoud(Samen("C:\\Export", naam)).value();
+        for (std::size_t lengte = 0; lengte < heel.size(); ++lengte)
+            ASSERT_NO_FATAL_FAILURE(
+                LeesAlsAlles(heel.substr(0, lengte), naam + " tot " + std::to_string(lengte)));
+    }
+    EXPECT_GT(goed_, 0);
+    EXPECT_GT(fout_, 0);
+}
+
+TEST_F(Beschadigd, MetBytesDieErNietHoren)
+{
+    std::mt19937 toeval(4);
+    for (const Tekst& naam : namen_) {
+        const Tekst heel = schijf_.Inhoud(Samen("C:\\Export", naam)).value();
+        for (int keer = 0; keer < 300; ++keer) {
+            Tekst inhoud = heel;
+            for (int i = keer % 5; i >= 0; --i)
+                inhoud[toeval() % inhoud.size()] = static_cast<char>(toeval() % 256);
+            ASSERT_NO_FATAL_FAILURE(LeesAlsAlles(inhoud, naam + " keer " + std::to_string(keer)));
+        }
+    }
+    EXPECT_GT(goed_, 0);
+    EXPECT_GT(fout_, 0);
+}
+
+/// Two hundred megabytes of what begins well, within the time that a person is made to wait.
+Uitkomst<Ledenlezing> LeesGroot(Ledenbron bron, const std::string& inhoud)
+{
+    const TijdelijkeMap map;
+    map.Zet("Club.x", inhoud);
+    EchteSchijf schijf;
+    Ledenopdracht opdracht = Opdracht(bron);
+    opdracht.map = opdracht.programmamap = map.AlsPad();
+    const auto begin = std::chrono::steady_clock::now();
+    auto lezing = LeesLedenbestand(schijf, opdracht, "Club.x");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(15));
+    return lezing;
+}
+
+TEST(LeesLedenbestand, TweehonderdMegabyteDuurtNietLang)
+{
+    constexpr std::size_t groot = std::size_t{200} << 20U;
+    const Tekst lid = "1;V;Ans;A.;;Ek;;;;;;;\r\n";
+    const auto nullen = LeesGroot(Ledenbron::Csv, lid + Tekst(groot, '\0'));
+    ASSERT_FALSE(nullen);
+    EXPECT_EQ(nullen.error().soort, Foutsoort::Beschadigd);
+    const auto regel = LeesGroot(Ledenbron::Csv, lid + Tekst(groot, 'x'));
+    EXPECT_EQ(regel->lstN1.size(), 1U);
+    EXPECT_EQ(regel->teKorteRegel, 2);
+    const auto open = LeesGroot(Ledenbron::XmlNbb3, "<a>" + Tekst(groot, '<'));
+    ASSERT_FALSE(open);
+    EXPECT_EQ(open.error().soort, Foutsoort::Beschadigd);
+    const auto heel =
+        LeesGroot(Ledenbron::XmlNbb4, Xml("<ReportableMember><Adres>" + Tekst(groot, 'x') +
+                                          "</Adres></ReportableMember>"));
+    EXPECT_EQ(heel->lstN1.at(0).size(), groot + 10);
 }
 
 TEST(LeesLedenbestand, ZonderDatabaseIsHetEenFout)

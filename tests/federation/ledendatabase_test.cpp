@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "federation/ledenbestand.h"
 #include "hulp/accessgegevens.h"
 #include "platform/geheugenSchijf.h"
 #include "platform/regels.h"
@@ -127,6 +128,38 @@ TEST_F(HaalLedenProef, FiltertZoalsDeDatabase)
         EXPECT_EQ(std::count(inhoud.begin(), inhoud.end(), '\n'), aantal + 1) << bestand;
     }
     EXPECT_EQ(Haal(1), "\r\n"); // nobody
+}
+
+/// The number of the file is the end of its entry, the name of the intermediate file its beginning.
+TEST_F(HaalLedenProef, WordenImportregelsLangsHetTussenbestand)
+{
+    const Ledenopdracht opdracht{.bron = Ledenbron::Database,
+                                 .map = {},
+                                 .programmamap = "P",
+                                 .LedenDatabase = database,
+                                 .keuzes = {}};
+    const auto lezing = LeesLedenbestand(schijf_, opdracht, "Jeugd 105");
+    ASSERT_TRUE(lezing) << lezing.error().systeem;
+    EXPECT_EQ(schijf_.Inhoud("P\\Jeugd Temp-NBBXMLtoCSV.csv"), jeugd);
+    EXPECT_EQ(
+        lezing->lstN1,
+        (std::vector<Tekst>{
+            " Kees , van , Spatie , Kerkweg 5 , 4444SA , Rijndorp , 010 0000001 , "
+            "kees@post.example ,,, 2345695 ",
+            "Oda,ter,Beek,Havenkade 12,7777 SD,Wierdum,06-00000010,oda@club.example,,V,2345703",
+            "Fran\xE7oise,van,Beu\xEFng,Lindelaan 100,5678 SD,Sint Pieterswolde,040-0222222,"
+            "fr.beuing@post.example,,V,2345679",
+            "Ab,,Bo,W1,1,P,2,a@b,,M,1",
+            "Maria-Louise,van der,Heijden-van den Broek,Laan van Oud 123,5555 SD,Winkelmeer,"
+            "026-0999999,mlvdheijden@voorbeeld.example,,V,2345696",
+            "Nynke,,Hoekstra,Havenkade 10,7777 SD,Wierdum,058-0123123,nynke@club.example,,V,"
+            "\xF0"
+            "2345702",
+            "Bj\xF6rn,,M\xFCller,Havenkade 2,6789 SA,Tolhuis,06-00000002,bjorn@leden.example,,M,"
+            "2345680",
+            ",,Smit,,,,,,,,"}));
+    EXPECT_EQ(lezing->teKorteRegel, 0);
+    EXPECT_TRUE(lezing->metIsTeken.empty());
 }
 
 TEST_F(HaalLedenProef, VervangtHetVorige)
