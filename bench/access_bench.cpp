@@ -1,7 +1,5 @@
-// The member database: its members read into the intermediate file, beside the least that this can
+// The member database: its members read into import lines, beside the least that this can
 // take: a child process that walks the same table with libmdb, all columns bound, and says nothing.
-#include <benchmark/benchmark.h>
-
 #include <array>
 #include <cstring>
 #include <filesystem>
@@ -12,10 +10,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "federation/ledendatabase.h"
+#include "federation/ledenbestand.h"
 #include "hulp/ledenmaker.h"
+#include "hulp/meten.h"
 #include "platform/accesskind.h"
-#include "platform/geheugenSchijf.h"
+#include "platform/echteSchijf.h"
 
 namespace plexoran {
 namespace {
@@ -48,6 +47,8 @@ class Proefdatabases {
                 std::string(GEGEVENS) + "/access/Members.mdb", leden / ledenPerKeer);
         return bestand;
     }
+
+    Pad Map() const { return map_.string(); }
 
   private:
     std::filesystem::path map_;
@@ -90,30 +91,38 @@ bool WandelInKind(const std::string& bestand)
 void KaleWandeling(benchmark::State& meting)
 {
     const std::string bestand = Databases().Van(static_cast<unsigned>(meting.range(0)));
-    for (auto _ : meting) {
+    Meet(meting, [&] {
         if (!WandelInKind(bestand))
             meting.SkipWithError("de wandeling mislukte");
-    }
+    });
 }
 
 void LedenHalen(benchmark::State& meting)
 {
     const std::string bestand = Databases().Van(static_cast<unsigned>(meting.range(0)));
-    GeheugenSchijf schijf;
-    schijf.ZetMap("P");
-    for (auto _ : meting) {
-        if (!HaalLeden(schijf, bestand, 7, "P\\Club.csv"))
-            meting.SkipWithError("het lezen mislukte");
-    }
+    EchteSchijf schijf;
+    const Ledenopdracht opdracht{.bron = Ledenbron::Database,
+                                 .map = {},
+                                 .programmamap = Databases().Map(),
+                                 .LedenDatabase = bestand,
+                                 .keuzes = {}};
+    Meet(
+        meting, [] { return Uitkomst<Ledenlezing>(); },
+        [&](auto& lezing) {
+            lezing = LeesLedenbestand(schijf, opdracht, "Club 007");
+            if (!lezing || lezing->lstN1.empty())
+                meting.SkipWithError("het lezen mislukte");
+        });
 }
 
-void Groottes(benchmark::internal::Benchmark* meting)
+/// A federation has clubs of some thousands of members: that is where the target is.
+void Databasegroottes(benchmark::internal::Benchmark* meting)
 {
-    meting->Arg(1'000)->Arg(10'000)->Arg(20'000)->Arg(100'000)->UseRealTime()->Unit(
-        benchmark::kMillisecond);
+    Groottes(meting);
+    meting->Arg(20'000);
 }
-BENCHMARK(KaleWandeling)->Apply(Groottes);
-BENCHMARK(LedenHalen)->Apply(Groottes);
+BENCHMARK(KaleWandeling)->Apply(Databasegroottes);
+BENCHMARK(LedenHalen)->Apply(Databasegroottes);
 
 } // namespace
 } // namespace plexoran
@@ -124,6 +133,7 @@ int main(int argc, char** argv)
         return *eindstatus;
     if (argc == 3 && std::strcmp(argv[1], plexoran::Wandelwoord) == 0)
         return plexoran::Wandel(argv[2]);
+    plexoran::ZetGeheugenVast();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
