@@ -7,6 +7,7 @@
 #include <map>
 
 #include <mdbtools.h>
+#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -77,15 +78,17 @@ int Wandel(const char* bestand)
     return rijen == tabel->num_rows ? 0 : 1;
 }
 
-bool WandelInKind(const std::string& bestand)
+/// Spawned, since a fork copies the tables of all memory that this program uses.
+bool WandelInKind(std::string bestand)
 {
-    const pid_t kind = ::fork();
-    if (kind == 0) {
-        ::execl("/proc/self/exe", "access_bench", Wandelwoord, bestand.c_str(), nullptr);
-        ::_exit(1);
-    }
+    std::string programma = "access_bench";
+    std::string woord = Wandelwoord;
+    std::array<char*, 4> argumenten = {programma.data(), woord.data(), bestand.data(), nullptr};
+    pid_t kind = 0;
+    if (::posix_spawn(&kind, "/proc/self/exe", nullptr, nullptr, argumenten.data(), environ) != 0)
+        return false;
     int status = 1;
-    return kind > 0 && ::waitpid(kind, &status, 0) == kind && status == 0;
+    return ::waitpid(kind, &status, 0) == kind && status == 0;
 }
 
 void KaleWandeling(benchmark::State& meting)
