@@ -1,7 +1,8 @@
 #include "federation/samenvoegen.h"
 
+#include <bit>
+#include <functional>
 #include <optional>
-#include <unordered_map>
 
 #include "federation/nbbnrindex.h"
 
@@ -34,13 +35,60 @@ Tekstblik NummerVan(Tekstblik regel)
     return ZonderSpaties(Veld(SplitsImportregel(regel), Importveld::NBBnr));
 }
 
+/// The first row with each number, as text. Rows in one block beside their hashes: a node for each
+/// would be somewhere else in memory for every member that is looked up.
+class RijMetNummer {
+  public:
+    explicit RijMetNummer(const Spelertabel& tabel)
+        : tabel_(tabel), vakken_(std::bit_ceil(2 * (static_cast<std::size_t>(tabel.Rijen()) + 1)))
+    {}
+
+    void Voeg(int rij)
+    {
+        const Tekstblik nummer = tabel_.Cel(rij, Kolom::NBBnr);
+        Vak& vak = vakken_[VakVan(nummer)];
+        if (vak.rij == 0)
+            vak = {Kenmerk(nummer), rij};
+    }
+
+    /// 0 when there is none.
+    [[nodiscard]] int Zoek(Tekstblik nummer) const { return vakken_[VakVan(nummer)].rij; }
+
+  private:
+    struct Vak {
+        std::uint32_t kenmerk = 0;
+        int rij = 0;
+    };
+
+    static std::uint32_t Kenmerk(Tekstblik nummer)
+    {
+        return static_cast<std::uint32_t>(std::hash<Tekstblik>()(nummer));
+    }
+
+    /// Where the number stands or would come; at least half of them are free.
+    [[nodiscard]] std::size_t VakVan(Tekstblik nummer) const
+    {
+        const std::uint32_t kenmerk = Kenmerk(nummer);
+        std::size_t plaats = kenmerk & (vakken_.size() - 1);
+        while (vakken_[plaats].rij != 0 &&
+               (vakken_[plaats].kenmerk != kenmerk ||
+                tabel_.Cel(vakken_[plaats].rij, Kolom::NBBnr) != nummer))
+            plaats = (plaats + 1) & (vakken_.size() - 1);
+        return plaats;
+    }
+
+    const Spelertabel& tabel_;
+    std::vector<Vak> vakken_;
+};
+
 /// One merge. It works on a copy of the register, so that stopping half-way changes nothing and
 /// the views into the original hold until the end.
 class Samenvoeger {
   public:
     Samenvoeger(const Register& oud, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
         : oud_(oud.tabel), opdracht_(opdracht), voortgang_(voortgang), nieuw_(oud),
-          NBBgr_(Hoofdletters(opdracht.subgroep)), NBBnrIndex_(Vragen(opdracht.lstN1))
+          NBBgr_(Hoofdletters(opdracht.subgroep)), NBBnrIndex_(Vragen(opdracht.lstN1)),
+          rijMetNummer_(oud.tabel)
     {
         BouwNBBnrIndex();
     }
@@ -83,21 +131,20 @@ class Samenvoeger {
     Register nieuw_;
     Tekst NBBgr_;
     NBBnrIndex NBBnrIndex_;
-    std::unordered_map<Tekstblik, int> rijMetNummer_; ///< the first row with a number, as text
-    std::vector<std::size_t> lstN2_;                  ///< places in lstN1 of what is left
+    RijMetNummer rijMetNummer_;
+    std::vector<std::size_t> lstN2_; ///< places in lstN1 of what is left
     std::size_t gedaan_ = 0;
 };
 
 void Samenvoeger::BouwNBBnrIndex()
 {
-    rijMetNummer_.reserve(static_cast<std::size_t>(oud_.Rijen()));
     for (int rij = 1; rij <= oud_.Rijen(); ++rij) {
         if (oud_.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
             continue;
         const Tekstblik nummer = oud_.Cel(rij, Kolom::NBBnr);
         NBBnrIndex_.Voeg(OpgemaaktNBBnr(nummer));
         if (!nummer.empty())
-            rijMetNummer_.try_emplace(nummer, rij);
+            rijMetNummer_.Voeg(rij);
     }
 }
 
@@ -111,12 +158,11 @@ bool Samenvoeger::VerversBestaande()
         if (nummer.empty()) {
             uitkomst.ZonderNBBnr += regel + "\r\n";
         } else {
-            const auto gevonden =
-                NBBnrIndex_.Bevat(i) ? rijMetNummer_.find(nummer) : rijMetNummer_.end();
-            if (gevonden == rijMetNummer_.end())
+            const int rij = NBBnrIndex_.Bevat(i) ? rijMetNummer_.Zoek(nummer) : 0;
+            if (rij == 0)
                 lstN2_.push_back(i);
             else
-                Ververs(gevonden->second, velden);
+                Ververs(rij, velden);
         }
         if (!GaVerder())
             return false;
