@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "platform/getal.h"
+#include "platform/grootgeheugen.h"
 #include "register/groepen.h"
 #include "register/spelerbestand.h"
 
@@ -69,7 +70,7 @@ class Lezer {
 
     Spelerlezing Lees()
     {
-        rijen_.reserve(GeschatAantalRegels());
+        ReserveerGroot(rijen_, GeschatAantalRegels());
         while (begin_ < inhoud_.size() && geteld_)
             LeesRegel();
         if (geteld_)

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/grootgeheugen.h"
+
 namespace plexoran {
 Spelertabel::Spelertabel(Tekst tekst, std::vector<Celgrenzen> rijen)
     : tekst_(std::move(tekst)), rijen_(std::move(rijen))
@@ -57,8 +59,8 @@ void Spelertabel::VoegToe(const Rijvelden& velden)
 
 void Spelertabel::Reserveer(std::size_t rijen, std::size_t bytes)
 {
-    rijen_.reserve(rijen_.size() + rijen);
-    tekst_.reserve(std::min(tekst_.size() + bytes, GrootsteTekst));
+    ReserveerGroot(rijen_, rijen_.size() + rijen);
+    ReserveerGroot(tekst_, std::min(tekst_.size() + bytes, GrootsteTekst));
 }
 
 void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)

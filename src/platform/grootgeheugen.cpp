@@ -1,0 +1,34 @@
+#include "platform/grootgeheugen.h"
+
+#ifdef __linux__
+#include <cstdint>
+
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
+namespace plexoran {
+
+#ifdef __linux__
+
+void VraagGrotePaginas(const void* begin, std::size_t bytes)
+{
+    constexpr std::size_t loont = std::size_t{4} << 20U; // a large page is 2 MB, on most machines
+    if (bytes < loont)
+        return;
+    const auto pagina = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+    const auto eerste = reinterpret_cast<std::uintptr_t>(begin);
+    const auto van = (eerste + pagina - 1) / pagina * pagina;
+    const auto tot = (eerste + bytes) / pagina * pagina;
+    // A refusal changes nothing but the time.
+    (void)::madvise(reinterpret_cast<void*>(van), tot - van, MADV_HUGEPAGE);
+}
+
+#else
+
+void VraagGrotePaginas(const void* /*begin*/, std::size_t /*bytes*/)
+{}
+
+#endif
+
+} // namespace plexoran

@@ -1,0 +1,28 @@
+// Room for much data. The first touch of fresh memory costs a trap into the system per page, and
+// with pages of 4 KB these traps take longer than filling a buffer of many megabytes.
+#pragma once
+
+#include <cstddef>
+#include <iterator>
+#include <utility>
+
+namespace plexoran {
+
+/// Asks the system for large pages behind memory that nothing was written to yet. Only for some
+/// megabytes and more; a system that has no such thing, or no such page free, gives small ones.
+void VraagGrotePaginas(const void* begin, std::size_t bytes);
+
+/// As `bak.reserve(aantal)` for a text or a vector, the room being asked for in large pages.
+template <class Bak> void ReserveerGroot(Bak& bak, std::size_t aantal)
+{
+    if (aantal <= bak.capacity())
+        return;
+    Bak nieuw;
+    nieuw.reserve(aantal);
+    VraagGrotePaginas(nieuw.data(), nieuw.capacity() * sizeof(*nieuw.data()));
+    nieuw.insert(nieuw.end(), std::make_move_iterator(bak.begin()),
+                 std::make_move_iterator(bak.end()));
+    bak = std::move(nieuw);
+}
+
+} // namespace plexoran
