@@ -3,6 +3,8 @@
 #include <bit>
 #include <functional>
 
+#include "platform/grootgeheugen.h"
+
 namespace plexoran {
 namespace {
 
@@ -30,23 +32,61 @@ std::size_t Hash(std::uint64_t merk)
     return static_cast<std::size_t>(begin >> 32U << 4U | (merk & 15U));
 }
 
+/// Whether the key of every row comes after that of the row before it, by their bytes.
+bool KeysStijgen(const Spelertabel& tabel)
+{
+    for (int rij = 2; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Key) <= tabel.Cel(rij - 1, Kolom::Key))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
-Sleutelwijzer::Sleutelwijzer(const Spelertabel& tabel)
-    : tabel_(tabel), vakken_(std::bit_ceil(2 * static_cast<std::size_t>(tabel.Rijen()) + 1))
+Sleutelwijzer::Sleutelwijzer(const Spelertabel& tabel) : tabel_(tabel), rijen_(tabel.Rijen())
 {
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        const Tekstblik key = tabel.Cel(rij, Kolom::Key);
+    if (!KeysStijgen(tabel))
+        VulVakken();
+}
+
+int Sleutelwijzer::Rij(Tekstblik key) const
+{
+    return vakken_.empty() ? ZoekOpVolgorde(key) : vakken_[Plek(key, Merk(key))].rij;
+}
+
+int Sleutelwijzer::ZoekOpVolgorde(Tekstblik key) const
+{
+    const auto keyVan = [this](int rij) { return tabel_.Cel(rij, Kolom::Key); };
+    if (laatste_ < rijen_ && keyVan(laatste_ + 1) == key)
+        return ++laatste_;
+    int van = 1;
+    int tot = rijen_ + 1;
+    while (van < tot) {
+        const int midden = van + (tot - van) / 2;
+        if (keyVan(midden) < key)
+            van = midden + 1;
+        else
+            tot = midden;
+    }
+    if (van > rijen_ || keyVan(van) != key)
+        return 0;
+    laatste_ = van;
+    return van;
+}
+
+void Sleutelwijzer::VulVakken()
+{
+    const auto aantal = std::bit_ceil(2 * static_cast<std::size_t>(rijen_) + 1);
+    ReserveerGroot(vakken_, aantal);
+    vakken_.resize(aantal);
+    for (int rij = 1; rij <= rijen_; ++rij) {
+        const Tekstblik key = tabel_.Cel(rij, Kolom::Key);
         const std::uint64_t merk = Merk(key);
         Vak& vak = vakken_[Plek(key, merk)];
         if (vak.rij == 0)
             vak = {merk, rij};
     }
-}
-
-int Sleutelwijzer::Rij(Tekstblik key) const
-{
-    return vakken_[Plek(key, Merk(key))].rij;
 }
 
 /// The place of the key, or else the free one where it belongs.

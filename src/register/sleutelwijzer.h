@@ -8,6 +8,9 @@ namespace plexoran {
 /// The first row with each key, as a search from the top of the table finds it. Keys are read in
 /// the table, which must outlive the index; meanwhile rows may be added to it, which are not found,
 /// and other cells may change.
+///
+/// A register gives out its keys by rising number, and as a rule its rows still stand in that
+/// order: then the table itself is searched and no index is made.
 class Sleutelwijzer {
   public:
     explicit Sleutelwijzer(const Spelertabel& tabel);
@@ -22,10 +25,14 @@ class Sleutelwijzer {
         int rij = 0;            ///< 0 is free
     };
 
+    void VulVakken();
+    [[nodiscard]] int ZoekOpVolgorde(Tekstblik key) const;
     [[nodiscard]] std::size_t Plek(Tekstblik key, std::uint64_t merk) const;
 
     const Spelertabel& tabel_;
-    std::vector<Vak> vakken_; ///< a power of two, at least half of them free
+    int rijen_;               ///< of the table when the index was made
+    mutable int laatste_ = 0; ///< the row found last; the next key often is that of the next row
+    std::vector<Vak> vakken_; ///< a power of two, at least half of them free; none while keys rise
 };
 
 } // namespace plexoran

@@ -1,5 +1,7 @@
 #include "register/sleutelwijzer.h"
 
+#include <algorithm>
+#include <functional>
 #include <map>
 #include <random>
 
@@ -55,10 +57,47 @@ TEST(Sleutelwijzer, SleutelsVanElkeLengteEnMetElkTeken)
         EXPECT_EQ(0, wijzer.Rij(key));
 }
 
+TEST(Sleutelwijzer, OplopendeSleutelsInElkeVolgordeGezocht)
+{
+    const std::vector<Tekst> keys{"", "1", "100001", "1000011", "100002", "100009", "2", "\xFF"};
+    std::vector<Proefspeler> spelers;
+    for (const Tekst& key : keys)
+        spelers.push_back({.key = key});
+    const Spelertabel tabel = MaakTabel(spelers);
+    const Sleutelwijzer wijzer(tabel);
+    const auto rijVan = [&](std::size_t i) { return static_cast<int>(i) + 1; };
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        EXPECT_EQ(rijVan(i), wijzer.Rij(keys[i]));
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        for (std::size_t j = 0; j < keys.size(); ++j) {
+            EXPECT_EQ(rijVan(i), wijzer.Rij(keys[i]));
+            EXPECT_EQ(0, wijzer.Rij("100003"));
+            EXPECT_EQ(0, wijzer.Rij("\xFF\xFF"));
+            EXPECT_EQ(0, wijzer.Rij("0"));
+            EXPECT_EQ(rijVan(j), wijzer.Rij(keys[j]));
+        }
+    }
+}
+
+/// Added rows are not found, also where their keys rise on.
+TEST(Sleutelwijzer, RijenDieErbijKomenWordenNietGevonden)
+{
+    for (const char* const tweede : {"100002", "100001"}) { // searched in order, and by the index
+        Spelertabel tabel = MaakTabel({{"100001"}, {tweede}});
+        const Sleutelwijzer wijzer(tabel);
+        const Celtekst key{Kolom::Key, "100003"};
+        tabel.VoegKopieToe(1, {&key, 1});
+        EXPECT_EQ(0, wijzer.Rij("100003"));
+        EXPECT_EQ(tweede == Tekst("100002") ? 2 : 1, wijzer.Rij(tweede));
+        EXPECT_EQ(0, wijzer.Rij("100003"));
+        EXPECT_EQ(1, wijzer.Rij("100001"));
+    }
+}
+
 /// Rows may be added and other cells changed while the index is used.
 TEST(Sleutelwijzer, TijdensHetWijzigen)
 {
-    Spelertabel tabel = MaakTabel({{"100001234"}, {"100002"}});
+    Spelertabel tabel = MaakTabel({{"100001234"}, {"100002"}, {"100002"}});
     const Sleutelwijzer wijzer(tabel);
     for (int keer = 0; keer < 50; ++keer) {
         tabel.VoegKopieToe(1, {});
@@ -66,6 +105,41 @@ TEST(Sleutelwijzer, TijdensHetWijzigen)
         ASSERT_EQ(1, wijzer.Rij("100001234"));
         ASSERT_EQ(2, wijzer.Rij("100002"));
     }
+}
+
+/// Small tables, of which some rise and some almost do, with keys of any length.
+TEST(Sleutelwijzer, KleineTabellenGelijkAanZoekenVanBovenaf)
+{
+    std::mt19937 toeval(37);
+    int stijgend = 0;
+    for (int keer = 0; keer < 5000; ++keer) {
+        std::vector<Tekst> keys(toeval() % 12);
+        for (Tekst& key : keys)
+            key = std::to_string(toeval() % (toeval() % 2 == 0 ? 200 : 20));
+        std::sort(keys.begin(), keys.end());
+        if (toeval() % 3 != 0)
+            keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
+        if (keys.size() > 1 && toeval() % 3 == 0)
+            std::swap(keys[toeval() % keys.size()], keys.back());
+        stijgend +=
+            std::adjacent_find(keys.begin(), keys.end(), std::greater_equal<>()) == keys.end() ? 1
+                                                                                               : 0;
+        std::vector<Proefspeler> spelers;
+        for (const Tekst& key : keys)
+            spelers.push_back({.key = key});
+        const Spelertabel tabel = MaakTabel(spelers);
+        const Sleutelwijzer wijzer(tabel);
+        for (int vraag = 0; vraag < 40; ++vraag) {
+            const Tekst gezocht = toeval() % 2 == 0 && !keys.empty()
+                                      ? keys[toeval() % keys.size()]
+                                      : std::to_string(toeval() % 200);
+            const auto plaats = std::find(keys.begin(), keys.end(), gezocht);
+            const auto moet = plaats == keys.end() ? 0 : plaats - keys.begin() + 1;
+            ASSERT_EQ(moet, wijzer.Rij(gezocht)) << gezocht;
+        }
+    }
+    EXPECT_GT(stijgend, 1000);
+    EXPECT_LT(stijgend, 4000);
 }
 
 TEST(Sleutelwijzer, GelijkAanZoekenVanBovenaf)
