@@ -6,6 +6,8 @@
 #include <span>
 #include <utility>
 
+#include "platform/grootgeheugen.h"
+
 namespace plexoran {
 namespace {
 
@@ -129,17 +131,18 @@ struct Sorteerstuk {
     Weger weger;
 };
 
-bool KomtVoor(Tekstblik een, Tekstblik ander)
+/// For texts that are equal as far as their weights were taken.
+bool KomtVoor(const Sorteerstuk& een, const Sorteerstuk& ander)
 {
-    Weger eenWeger(een);
-    Weger anderWeger(ander);
+    Weger eenWeger = een.weger;
+    Weger anderWeger = ander.weger;
     for (;;) {
         const unsigned char eenGewicht = eenWeger.Volgende();
         const unsigned char anderGewicht = anderWeger.Volgende();
         if (eenGewicht != anderGewicht)
             return eenGewicht < anderGewicht;
         if (eenGewicht == 0)
-            return een < ander;
+            return een.tekst < ander.tekst;
     }
 }
 
@@ -147,12 +150,10 @@ bool KomtVoor(Tekstblik een, Tekstblik ander)
 /// there are many texts with the same ones.
 void SorteerVerder(std::span<Sorteerstuk> stukken, int diepte = 0)
 {
-    constexpr std::size_t weinig = 8;
+    constexpr std::size_t weinig = 3; // to compare two texts reads each of them once, too
     constexpr int diep = 8;
     if (stukken.size() < weinig || diepte == diep) {
-        std::sort(stukken.begin(), stukken.end(), [](const auto& een, const auto& ander) {
-            return KomtVoor(een.tekst, ander.tekst);
-        });
+        std::sort(stukken.begin(), stukken.end(), KomtVoor);
         return;
     }
     for (Sorteerstuk& stuk : stukken)
@@ -189,7 +190,7 @@ Tekst Sorteersleutel(Tekstblik tekst)
 void Sorteer(std::vector<Tekstblik>& teksten)
 {
     std::vector<Sorteerstuk> stukken;
-    stukken.reserve(teksten.size());
+    ReserveerGroot(stukken, teksten.size());
     for (const Tekstblik tekst : teksten)
         stukken.emplace_back(tekst);
     SorteerVerder(stukken);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/grootgeheugen.h"
 #include "platform/tekst.h"
 
 namespace plexoran {
@@ -15,7 +16,7 @@ class Tekstvoorraad {
     Tekstblik Bewaar(Tekstblik tekst)
     {
         if (blokken_.empty() || blokken_.back().grootte - blokken_.back().vol < tekst.size())
-            blokken_.emplace_back(std::max(Blokgrootte, tekst.size()));
+            blokken_.emplace_back(std::max(Volgende(), tekst.size()));
         Blok& blok = blokken_.back();
         char* const begin = blok.tekens.get() + blok.vol;
         std::copy(tekst.begin(), tekst.end(), begin);
@@ -24,17 +25,28 @@ class Tekstvoorraad {
     }
 
   private:
-    static constexpr std::size_t Blokgrootte = 65536;
+    static constexpr std::size_t KleinsteBlok = 65536;
+    static constexpr std::size_t GrootsteBlok = 4194304;
 
     struct Blok {
         explicit Blok(std::size_t bytes)
             : tekens(std::make_unique_for_overwrite<char[]>(bytes)), grootte(bytes)
-        {}
+        {
+            VraagGrotePaginas(tekens.get(), bytes);
+        }
 
         std::unique_ptr<char[]> tekens;
         std::size_t grootte;
         std::size_t vol = 0;
     };
+
+    /// Twice the last one: few blocks for many texts, and at most as much unused as used.
+    [[nodiscard]] std::size_t Volgende() const
+    {
+        if (blokken_.empty())
+            return KleinsteBlok;
+        return std::clamp(2 * blokken_.back().grootte, KleinsteBlok, GrootsteBlok);
+    }
 
     std::vector<Blok> blokken_;
 };
