@@ -1,8 +1,10 @@
 #include "mainwindow/dubbelenamen.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <functional>
+#include <numeric>
 
 namespace plexoran {
 namespace {
@@ -16,6 +18,31 @@ const Tekst& ZetVolleNaam(Tekst& naam, const Spelertabel& tabel, int rij)
     return naam;
 }
 
+/// Puts hashes in order: dealt out by their top bits over drawers of some, which are then sorted.
+std::vector<std::uint64_t> Gesorteerd(const std::vector<std::uint64_t>& hashes)
+{
+    constexpr std::size_t perLade = 16;
+    const auto bits = static_cast<unsigned>(std::bit_width(hashes.size() / perLade + 1));
+    const auto lade = [=](std::uint64_t hash) {
+        return static_cast<std::size_t>(hash >> (64U - bits));
+    };
+    std::vector<std::size_t> eind((std::size_t{1} << bits) + 1);
+    for (const std::uint64_t hash : hashes)
+        ++eind[lade(hash) + 1];
+    std::partial_sum(eind.begin(), eind.end(), eind.begin());
+
+    std::vector<std::uint64_t> uit(hashes.size());
+    for (const std::uint64_t hash : hashes)
+        uit[eind[lade(hash)]++] = hash;
+    auto begin = uit.begin();
+    for (const std::size_t tot : eind) {
+        const auto einde = uit.begin() + static_cast<std::ptrdiff_t>(tot);
+        std::sort(begin, einde);
+        begin = einde;
+    }
+    return uit;
+}
+
 /// Every row behind the hash of its name, sorted, so that namesakes lie together in table order.
 /// A hash table would be read all over for every row, far outside the processor's caches.
 std::vector<std::uint64_t> RijenOpNaam(const Spelertabel& tabel)
@@ -27,8 +54,7 @@ std::vector<std::uint64_t> RijenOpNaam(const Spelertabel& tabel)
         const std::uint64_t hash = std::hash<Tekst>()(ZetVolleNaam(naam, tabel, rij));
         rijen.push_back(hash << 32U | static_cast<std::uint32_t>(rij));
     }
-    std::sort(rijen.begin(), rijen.end());
-    return rijen;
+    return Gesorteerd(rijen);
 }
 
 /// Per row the next one with the same name; 0 for the last of its name.
