@@ -91,7 +91,8 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celte
     std::size_t lengte = Lengte(rij);
     for (const Celtekst& cel : anders)
         lengte += cel.tekst.size() + 1;
-    Tekst kopie; // on its own first, since the texts may be views into this table
+    Tekst& kopie = kopie_; // on its own first, since the texts may be views into this table
+    kopie.clear();
     kopie.reserve(lengte);
 
     Celgrenzen grenzen{};
@@ -180,7 +181,8 @@ Rijvelden Spelertabel::Velden(int rij) const
 
 std::size_t Spelertabel::Geheugen() const
 {
-    return sizeof(*this) + tekst_.capacity() + rijen_.capacity() * sizeof(Celgrenzen);
+    return sizeof(*this) + tekst_.capacity() + kopie_.capacity() +
+           rijen_.capacity() * sizeof(Celgrenzen);
 }
 
 } // namespace plexoran

@@ -127,6 +127,7 @@ class Spelertabel {
     void MaakRuimte(std::size_t bytes);
 
     Tekst tekst_;
+    Tekst kopie_; ///< the row that is being written anew; kept for the sake of its memory
     std::vector<Celgrenzen> rijen_;
 };
 

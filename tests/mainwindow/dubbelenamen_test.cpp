@@ -118,6 +118,22 @@ TEST(DubbeleNamen, GelijkAanDeGewoneOpDuizendenKleineRegisters)
     EXPECT_GT(gevonden, 1000U);
 }
 
+/// From a few rows to so many that hashes are dealt out over many drawers.
+TEST(DubbeleNamen, GelijkAanDeGewoneOpGrotereRegisters)
+{
+    std::mt19937 toeval(23);
+    for (const std::size_t aantal : {14U, 15U, 16U, 31U, 48U, 500U, 1500U}) {
+        std::vector<Proefspeler> spelers(aantal);
+        for (Proefspeler& speler : spelers)
+            speler = {.groep = Trek(toeval, {"Gr01-", "Gr02-"}),
+                      .achternaam = std::to_string(Gooi(toeval, aantal / 3))};
+        const Spelertabel tabel = MaakTabel(spelers);
+        const Paren moet = GewoonGezocht(AlleRijen(tabel), "Gr01-");
+        EXPECT_FALSE(moet.empty());
+        EXPECT_EQ(moet, Zoek(tabel));
+    }
+}
+
 TEST(DubbeleNamen, TotEnMetHetMeesteIsHetVolledig)
 {
     const Dubbelen precies = ZoekDubbeleNamen(Naamgenoten(1, 100'000, "Gr02-"), "Gr01-");
