@@ -62,10 +62,22 @@ Tekst Vervang(Tekstblik tekst, char van, char door)
 
 Tekst AlsVeld(Tekstblik tekst)
 {
-    Tekst uit = Vervang(tekst, ',', '_');
-    std::replace_if(
-        uit.begin(), uit.end(), [](char teken) { return teken == '\r' || teken == '\n'; }, ' ');
+    Tekst uit;
+    VoegVeldToe(uit, tekst);
     return uit;
+}
+
+void VoegVeldToe(Tekst& uit, Tekstblik tekst)
+{
+    const std::size_t begin = uit.size();
+    uit += tekst;
+    for (std::size_t i = begin; i < uit.size(); ++i) {
+        const char teken = uit[i];
+        if (teken == ',')
+            uit[i] = '_';
+        else if (teken == '\r' || teken == '\n')
+            uit[i] = ' ';
+    }
 }
 
 Tekst MetNullen(std::int64_t getal, int breedte)

@@ -30,6 +30,9 @@ using Tekstblik = std::string_view;
 /// a space. The windows keep both out before; this is the last guard.
 [[nodiscard]] Tekst AlsVeld(Tekstblik tekst);
 
+/// The same, behind what `uit` holds; `tekst` may be a view into `uit`.
+void VoegVeldToe(Tekst& uit, Tekstblik tekst);
+
 /// The number in decimal with at least `breedte` digits, padded with leading zeros.
 [[nodiscard]] Tekst MetNullen(std::int64_t getal, int breedte);
 

@@ -78,7 +78,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
     Celgrenzen grenzen{};
     for (std::size_t i = 0; i < velden.size(); ++i) {
         grenzen[i] = static_cast<std::uint32_t>(tekst_.size());
-        tekst_ += AlsVeld(velden[i]);
+        VoegVeldToe(tekst_, velden[i]);
         tekst_ += ',';
     }
     grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());
@@ -110,7 +110,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celte
         assert(Plaats(cel.kolom) >= plaats);
         neemOver(Plaats(cel.kolom));
         grenzen[plaats++] = static_cast<std::uint32_t>(kopie.size());
-        kopie += AlsVeld(cel.tekst);
+        VoegVeldToe(kopie, cel.tekst);
         kopie += ',';
     }
     neemOver(AantalKolommen);

@@ -53,6 +53,17 @@ TEST(Tekst, Vervang)
     EXPECT_EQ(Vervang("\xE9t\xE9", '\xE9', 'e'), "ete");
 }
 
+TEST(Tekst, AlsVeldHoudtKommasEnRegeleindenBuitenEenCel)
+{
+    EXPECT_EQ(AlsVeld("a,b\r\nc"), "a_b  c");
+    EXPECT_EQ(AlsVeld(""), "");
+    Tekst uit = "voor,";
+    VoegVeldToe(uit, "a,\n");
+    EXPECT_EQ(uit, "voor,a_ "); // what stood there stays as it was
+    VoegVeldToe(uit, Tekstblik(uit).substr(4, 2));
+    EXPECT_EQ(uit, "voor,a_ _a");
+}
+
 TEST(Tekst, MetNullen)
 {
     EXPECT_EQ(MetNullen(7, 3), "007");
