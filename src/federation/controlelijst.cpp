@@ -116,9 +116,10 @@ void Controlerijen::Splits()
         std::size_t vanaf = std::min(regel.naam + 1, tekst.size()); // no break before the name
         std::size_t begin = 0;
         while (tekst.size() - begin > ruimte) {
-            std::size_t eind = tekst.rfind(' ', begin + ruimte);
-            if (eind == Tekstblik::npos || eind < std::max(vanaf, begin + 1))
-                eind = begin + ruimte;
+            // Only looked for in this row: a word may be as long as the file.
+            const auto blanco = tekst.substr(begin, ruimte + 1).rfind(' ');
+            const bool past = blanco != Tekstblik::npos && blanco > 0 && begin + blanco >= vanaf;
+            const std::size_t eind = begin + (past ? blanco : ruimte);
             delen_.push_back({plaats, begin, eind});
             begin = tekst.substr(eind).starts_with(' ') ? eind + 1 : eind;
             ruimte = breedte_ - Inspringing(regel);

@@ -1,5 +1,7 @@
 #include "federation/controlelijst.h"
 
+#include <chrono>
+
 #include <gtest/gtest.h>
 
 #include "hulp/vlakvanger.h"
@@ -161,6 +163,16 @@ TEST(ControlelijstTest, GeenTekenGaatVerlorenHoeSmalOok)
         }
         EXPECT_EQ(zonderSpaties(lijst[0].regel), alles) << breedte;
     }
+}
+
+TEST(ControlelijstTest, EenReusachtigeNaamIsInEenOogwenkVerdeeld)
+{
+    constexpr std::size_t lengte = std::size_t{4} << 20U;
+    const auto lijst = Lijst({Lid("An", "", Tekst(lengte, 'x'), "V", "1")});
+    const auto begin = std::chrono::steady_clock::now();
+    const Controlerijen rijen(lijst, {}, 62);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2));
+    EXPECT_EQ(lengte / 31 + 1, rijen.Aantal());
 }
 
 TEST(ControlelijstTest, TekentKopEnRijenVanafEenRij)
