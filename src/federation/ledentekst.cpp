@@ -12,7 +12,7 @@ Uitkomst<Tekst> LeesLedentekst(Schijf& schijf, const Pad& bestand)
         return tl::unexpected(Fout{.soort = Foutsoort::Beschadigd,
                                    .bestand = schijf.Toonpad(bestand),
                                    .regel = 0,
-                                   .systeem = "File too large"});
+                                   .systeem = "het bestand is te groot"});
     return schijf.LeesBestand(bestand);
 }
 

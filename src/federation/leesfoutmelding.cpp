@@ -30,7 +30,9 @@ QString Oorzaak(const Fout& fout)
     case Foutsoort::Beschadigd:
         return QStringLiteral("De inhoud is niet die van een ledenbestand.");
     default:
-        return QStringLiteral("Het systeem gaf het bestand niet vrij om te lezen.");
+        return QStringLiteral(
+            "Het systeem stond het niet toe: het bestand hieronder kan niet worden "
+            "gelezen of geschreven.");
     }
 }
 

@@ -1,0 +1,55 @@
+#include "federation/leesfoutmelding.h"
+
+#include <gtest/gtest.h>
+
+namespace plexoran {
+namespace {
+
+std::string Melding(Ledenbron bron, const Fout& fout)
+{
+    return Leesfouttekst(bron, "Caf\xE9 30.x", fout).toStdString();
+}
+
+TEST(Leesfouttekst, BegintNaarDeBron)
+{
+    const Fout fout{.soort = Foutsoort::Ontbreekt, .bestand = "/a/b", .regel = 0, .systeem = {}};
+    const std::string rest = "\r\nHet bestand is er niet (meer).\r\nBestand: /a/b\r\n\r\nUit dit "
+                             "bestand is niets geïmporteerd.";
+    EXPECT_EQ(Melding(Ledenbron::XmlNbb3, fout),
+              "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand" + rest);
+    EXPECT_EQ(Melding(Ledenbron::XmlNbb4, fout),
+              "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand" + rest);
+    EXPECT_EQ(Melding(Ledenbron::Csv, fout),
+              "Fout bij het lezen van 'Café 30.x' CSV-bestand" + rest);
+    EXPECT_EQ(Melding(Ledenbron::Database, fout),
+              "Fout bij het lezen van het ledenbestand (alle items)!" + rest);
+}
+
+TEST(Leesfouttekst, NoemtWatErMisIsEnWaar)
+{
+    EXPECT_EQ(
+        Melding(Ledenbron::XmlNbb3, {.soort = Foutsoort::Beschadigd,
+                                     .bestand = "/a/b.xml",
+                                     .regel = 3,
+                                     .systeem = "Start-end tags mismatch (offset 12)"}),
+        "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand\r\nDe inhoud is niet die van een "
+        "ledenbestand.\r\nBestand: /a/b.xml\nRegel: 3\nMelding van het systeem: Start-end tags "
+        "mismatch (offset 12)\r\n\r\nUit dit bestand is niets geïmporteerd.");
+}
+
+/// It may be the intermediate file that the system refused, so the member file is not blamed.
+TEST(Leesfouttekst, WatHetSysteemWeigert)
+{
+    EXPECT_EQ(
+        Melding(Ledenbron::XmlNbb4, {.soort = Foutsoort::Geweigerd,
+                                     .bestand = "/p/Club Temp-NBBXMLtoCSV.csv",
+                                     .regel = 0,
+                                     .systeem = "No space left on device"}),
+        "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand\r\nHet systeem stond het niet toe: "
+        "het bestand hieronder kan niet worden gelezen of geschreven.\r\nBestand: /p/Club "
+        "Temp-NBBXMLtoCSV.csv\nMelding van het systeem: No space left on device\r\n\r\nUit dit "
+        "bestand is niets geïmporteerd.");
+}
+
+} // namespace
+} // namespace plexoran
