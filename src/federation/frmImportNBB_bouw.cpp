@@ -61,7 +61,7 @@ void frmImportNBB::MaakDelen()
     // Two options bear the same caption: only their labels, and their spoken names, differ.
     const QString xml = QStringLiteral("uit een geexporteerd XML-ledenbestand");
     Option1 = keus(QStringLiteral("Option1"),
-                   administratie_.rekenprogramma.GekozenProgramma == Programma::BridgeIt
+                   administratie_.rekenprogramma.ProgrammaCode == "BRIT"
                        ? QStringLiteral("direct uit Bridge-It")
                        : QStringLiteral("direct uit NBBR 2.8"),
                    u'd', {});

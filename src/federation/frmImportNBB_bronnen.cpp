@@ -123,6 +123,7 @@ void frmImportNBB::KiesBron(Ledenbron bron)
     bron_ = bron;
     geheugen_.bron = bron;
     VulLijst({});
+    lblExportMap->setToolTip({});
     if (bron == Ledenbron::Database) {
         KiesDatabase();
         return;

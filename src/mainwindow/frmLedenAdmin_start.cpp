@@ -119,14 +119,18 @@ void frmLedenAdmin::LeesInstellingenBijStart()
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
 }
 
-/// Both programs there: the user is asked which, now and whenever the import window opens.
+/// Both programs there: the user is asked which, now and whenever the import window opens. Without
+/// an answer the captions stay those of the one before, whose database is still the one read.
 void frmLedenAdmin::KiesRekenprogramma()
 {
+    const Tekst vorige = administratie_.rekenprogramma.ProgrammaCode;
     administratie_.rekenprogramma = ZoekRekenprogramma(administratie_.winkel, [this] {
         diaRekProgkeus keus(this);
         keus.exec();
         return keus.Antwoord();
     });
+    if (administratie_.rekenprogramma.GekozenProgramma == Programma::Geen)
+        administratie_.rekenprogramma.ProgrammaCode = vorige;
 }
 
 void frmLedenAdmin::ZoekRekenprogrammaBijStart()

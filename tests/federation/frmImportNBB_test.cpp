@@ -236,10 +236,16 @@ TEST_F(frmImportNBBTest, DeDatabaseVanHetRekenprogramma)
 TEST_F(frmImportNBBTest, EenOntbrekendeDatabaseNoemtDeGeprobeerdePlaats)
 {
     winkel.Zet("Bridge-It", "DataRoot", (suite.Weg() / "weg").string());
+    KopieerExports();
     Herstart();
     Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        EXPECT_EQ(2, Lijst(dia)->Aantal());
         KiesOptie(dia, "Option1");
-        EXPECT_EQ(0, Lijst(dia)->Aantal());
+        EXPECT_EQ(0, Lijst(dia)->Aantal()); // nothing of the folder is left
+        EXPECT_EQ("", Vind<QLabel>(dia, "lblExportMap")->toolTip());
+        EXPECT_TRUE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
+        EXPECT_TRUE(Vind<QPushButton>(dia, "cmdControleNBBnrs")->isEnabled());
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Verwacht(
@@ -268,6 +274,28 @@ TEST_F(frmImportNBBTest, BeideRekenprogrammas)
     wachter.Bedien(kies("Option1"));
     Herstart();
     wachter.Bedien(kies("Option2"));
+    Verwacht([](QDialog& dia) {
+        EXPECT_EQ("direct uit Bridge-It", Opschrift(Vind<QRadioButton>(dia, "Option1")));
+        KiesOptie(dia, "Option1");
+        EXPECT_EQ("Ledenbestanden direct uit BridgeIt:", Labeltekst(dia, "lblExportMap"));
+        EXPECT_EQ(3, Lijst(dia)->Aantal());
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
+/// Closed without a choice the second time: the caption stays that of the program whose database is
+/// read.
+TEST_F(frmImportNBBTest, GeenKeusBijHetOpenenLaatHetOpschriftStaan)
+{
+    winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "weg").string());
+    winkel.Zet("Bridge-It", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+    wachter.Bedien([](QDialog& keuze) {
+        KiesOptie(keuze, "Option2");
+        Druk(keuze, "cmdOK");
+    });
+    Herstart();
+    wachter.Bedien([](QDialog& keuze) { keuze.reject(); });
     Verwacht([](QDialog& dia) {
         EXPECT_EQ("direct uit Bridge-It", Opschrift(Vind<QRadioButton>(dia, "Option1")));
         KiesOptie(dia, "Option1");
