@@ -190,11 +190,20 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
         opmerkingen << QStringLiteral("'%1': geen leden, want het bestand kon niet als XML worden "
                                       "gelezen.")
                            .arg(bestand);
+    if (lezing.inUtf8)
+        opmerkingen << QStringLiteral("'%1': opgeslagen in UTF-8, dus letters met een accent komen "
+                                      "verkeerd over.")
+                           .arg(bestand);
     if (lezing.teKorteRegel > 0)
         opmerkingen << QStringLiteral("'%1': gelezen tot regel %2, want die regel heeft te weinig "
                                       "kolommen.")
                            .arg(bestand)
                            .arg(lezing.teKorteRegel);
+    if (!lezing.metIsTeken.empty())
+        opmerkingen << QStringLiteral("'%1': aantal regels overgeslagen omdat er een '=' in staat, "
+                                      "zoals in een kopregel: %2.")
+                           .arg(bestand)
+                           .arg(lezing.metIsTeken.size());
     if (lezing.vervangenTekens > 0)
         opmerkingen << QStringLiteral("'%1': %2 tekens kent het register niet; er staat de "
                                       "dichtstbijzijnde letter.")

@@ -4,6 +4,7 @@
 
 #include "federation/frmImportNBB.h"
 #include "federation/leesfoutmelding.h"
+#include "platform/regels.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
 
@@ -12,11 +13,24 @@ namespace {
 
 constexpr int MeldElke = 40; // ms between two looks at the window
 
-QString Regels(const std::vector<Tekst>& regels)
+/// The lines as they stand, each with CR LF. Only what no member file holds is cut, since drawing
+/// it would take minutes.
+template <class Reeks> QString Toonbaar(const Reeks& regels)
 {
+    constexpr std::size_t langste = 500;
+    constexpr int meeste = 100'000;
     QString tekst;
-    for (const Tekst& regel : regels)
-        tekst += NaarQString(regel) + QStringLiteral("\r\n");
+    int aantal = 0;
+    for (const Tekstblik regel : regels) {
+        if (++aantal > meeste)
+            continue;
+        tekst += NaarQString(regel.substr(0, langste));
+        if (regel.size() > langste)
+            tekst += QStringLiteral(" ...");
+        tekst += QStringLiteral("\r\n");
+    }
+    if (aantal > meeste)
+        tekst += QStringLiteral("... en nog %1\r\n").arg(aantal - meeste);
     return tekst;
 }
 
@@ -133,6 +147,14 @@ void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezi
         Meld(this, QMessageBox::Warning,
              QStringLiteral("In '%1' zijn geen leden gevonden.\n").arg(NaarQString(naam)) +
                  Leesfouttekst(bron, naam, *lezing.nietGeladen));
+    if (lezing.inUtf8)
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("'%1' is opgeslagen in UTF-8, maar een CSV-bestand wordt gelezen als "
+                            "Windows-1252 (ANSI). Letters met een accent komen verkeerd over, en "
+                            "voor het eerste NBB-nummer kunnen vreemde tekens staan.\n\nKies bij "
+                            "de volgende vraag liever Annuleren. Bewaar het bestand als ANSI of "
+                            "exporteer een XML-ledenbestand.")
+                 .arg(NaarQString(naam)));
     if (lezing.teKorteRegel > 0)
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Regel %1 van '%2' heeft minder kolommen dan nodig is voor de gegevens "
@@ -174,7 +196,7 @@ void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
     if (!uitkomst.ZonderNBBnr.empty())
         MeldLijst(this, QMessageBox::Warning,
                   QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n") +
-                      NaarQString(uitkomst.ZonderNBBnr));
+                      Toonbaar(Regels(uitkomst.ZonderNBBnr)));
     Meld(this, QMessageBox::Information,
          QStringLiteral("Aantal spelers geupdate (ververst): %1\r\nAantal nieuwe spelers "
                         "toegevoegd: %2")
@@ -186,12 +208,12 @@ void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
                                 "dit bestand, of anders geschreven in groep '%2':\r\n")
                          .arg(uitkomst.overgeslagen.size())
                          .arg(NaarQString(administratie_.mappen.DFIMPG)) +
-                     Regels(uitkomst.overgeslagen);
+                     Toonbaar(uitkomst.overgeslagen);
     if (!lezing.metIsTeken.empty())
         delen << QStringLiteral("%1 overgeslagen, omdat er een '=' in de regel staat, zoals in "
                                 "een kopregel:\r\n")
                          .arg(lezing.metIsTeken.size()) +
-                     Regels(lezing.metIsTeken);
+                     Toonbaar(lezing.metIsTeken);
     if (lezing.vervangenTekens > 0)
         delen << QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
                                 "door een teken dat erop lijkt of door '?': %1\r\n")

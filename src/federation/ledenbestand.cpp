@@ -10,6 +10,7 @@
 #include "federation/ledenxml.h"
 #include "federation/tussenbestand.h"
 #include "platform/getal.h"
+#include "platform/xmlcodering.h"
 
 namespace plexoran {
 namespace {
@@ -56,15 +57,17 @@ Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Teks
     }
 }
 
-Uitkomst<Ledenlezing> LeesBestand(Schijf& schijf, const Pad& bestand, const Importkeuzes& keuzes,
+Uitkomst<Ledenlezing> LeesBestand(Schijf& schijf, const Pad& bestand, const Ledenopdracht& opdracht,
                                   const Voortgang& voortgang)
 {
     auto inhoud = LeesLedentekst(schijf, bestand);
     if (!inhoud)
         return tl::unexpected(std::move(inhoud.error()));
-    auto lezing = LeesLedencsv(*inhoud, keuzes, voortgang);
+    auto lezing = LeesLedencsv(*inhoud, opdracht.keuzes, voortgang);
     if (!lezing)
         lezing.error().bestand = schijf.Toonpad(bestand);
+    else if (opdracht.bron == Ledenbron::Csv)
+        lezing->inUtf8 = IsUtf8(*inhoud);
     return lezing;
 }
 
@@ -87,12 +90,12 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
                                        Tekstblik naam, const Voortgang& voortgang)
 {
     if (opdracht.bron == Ledenbron::Csv)
-        return LeesBestand(schijf, Samen(opdracht.map, naam), opdracht.keuzes, voortgang);
+        return LeesBestand(schijf, Samen(opdracht.map, naam), opdracht, voortgang);
     const Pad tussenbestand = Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam));
     auto omgezet = ZetOm(schijf, opdracht, naam, tussenbestand, EersteHelft(voortgang));
     if (!omgezet)
         return tl::unexpected(std::move(omgezet.error()));
-    auto lezing = LeesBestand(schijf, tussenbestand, opdracht.keuzes, TweedeHelft(voortgang));
+    auto lezing = LeesBestand(schijf, tussenbestand, opdracht, TweedeHelft(voortgang));
     if (lezing) {
         lezing->vervangenTekens = omgezet->vervangenTekens;
         lezing->nietGeladen = std::move(omgezet->nietGeladen);

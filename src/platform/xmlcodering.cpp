@@ -232,6 +232,23 @@ tl::expected<std::string, Xmlfout> XmlNaarUtf8(Tekstblik bytes)
     return Afgewezen(0, "Unknown encoding " + NaarUtf8(herkend.naam));
 }
 
+bool IsUtf8(Tekstblik bytes)
+{
+    bool gezien = false;
+    for (std::size_t i = 0; i < bytes.size();) {
+        if (Byte(bytes, i) < 0x80) {
+            ++i;
+            continue;
+        }
+        const std::size_t lengte = LengteUtf8(bytes, i);
+        if (lengte == 0)
+            return false;
+        gezien = true;
+        i += lengte;
+    }
+    return gezien;
+}
+
 Tekstblik XmlDoorzoekbaar(Tekstblik bytes, std::string& ruimte)
 {
     const Herkend herkend = Herken(bytes);

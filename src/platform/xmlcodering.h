@@ -33,6 +33,10 @@ struct Xmlfout {
 /// encoding, bytes that are no character, and characters that XML does not allow.
 [[nodiscard]] tl::expected<std::string, Xmlfout> XmlNaarUtf8(Tekstblik bytes);
 
+/// Whether bytes of which nobody says what they are can only be meant as UTF-8: there is a
+/// character beyond ASCII in them, and all of those are whole.
+[[nodiscard]] bool IsUtf8(Tekstblik bytes);
+
 /// A text in which what is written in ASCII can be searched, whatever the encoding and however
 /// damaged the rest. Looks into `bytes` or into `ruimte`.
 [[nodiscard]] Tekstblik XmlDoorzoekbaar(Tekstblik bytes, std::string& ruimte);

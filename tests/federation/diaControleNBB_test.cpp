@@ -173,6 +173,34 @@ TEST_F(diaControleNBBTest, EenTeKorteRegelWordtGemeldMetWatErVoorStond)
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 1 V Kort Bos, An", Geschilderd());
 }
 
+TEST_F(diaControleNBBTest, WatErNietInStaatWordtGemeld)
+{
+    map.Zet("Kop.csv", "VERSIE=2.8\r\n" + Csv("1", "V", "An", "", "Bos") +
+                           Csv("2", "V", "Bea", "", "D=m") + Csv("3", "V", "Zo\xC3\xAB", "", "Ek"));
+    wachter.Informatie(QStringLiteral(
+        "Bij het lezen van de ledenbestanden:\r\n\r\n'Kop.csv': opgeslagen in UTF-8, dus letters "
+        "met "
+        "een accent komen verkeerd over.\r\n'Kop.csv': aantal regels overgeslagen omdat er een '=' "
+        "in staat, zoals in een kopregel: 2."));
+    ASSERT_NO_FATAL_FAILURE(Open({"Kop.csv"}));
+    EXPECT_EQ("Aantal leden: 2", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
+}
+
+TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLetters)
+{
+    opdracht.bron = Ledenbron::XmlNbb4;
+    map.Zet("Stuk.xml", "<lijst><lid>");
+    map.Zet("Heel.xml", "<ReportableMembersList><Members><ReportableMember><LeagueId>7</LeagueId>"
+                        "<Achternaam>Sz\xC5\x91</Achternaam></ReportableMember></Members>"
+                        "</ReportableMembersList>");
+    wachter.Informatie(QStringLiteral(
+        "Bij het lezen van de ledenbestanden:\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
+        "niet als XML worden gelezen.\r\n'Heel.xml': 1 tekens kent het register niet; er staat de "
+        "dichtstbijzijnde letter."));
+    ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Heel.xml"}));
+    EXPECT_EQ("NBBnr M/V NBBgroep Naam 7 Heel Szo,", Geschilderd());
+}
+
 TEST_F(diaControleNBBTest, ZonderLedenIsErNietsTePrinten)
 {
     map.Zet("Leeg.csv", "");

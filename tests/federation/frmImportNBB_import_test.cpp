@@ -1,6 +1,11 @@
 // The import run from the main window, from every source.
 #include "federation/importproef.h"
 
+#include <QElapsedTimer>
+#include <QPlainTextEdit>
+
+#include "hulp/accessgegevens.h"
+
 using namespace plexoran;
 
 namespace {
@@ -201,6 +206,61 @@ TEST_F(ImporterenTest, EenRegelMetTeWeinigKolommen)
     Importeer();
 }
 
+TEST_F(ImporterenTest, EenLijstZonderEindHoudtOpEnZegtDat)
+{
+    std::string inhoud;
+    for (int i = 0; i < 100'002; ++i)
+        inhoud += "a=b\r\n";
+    ZetExport("Club.csv", inhoud);
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 0);
+    VerwachtAantallen(0, 0);
+    wachter.Bedien([](QDialog& bericht) {
+        EXPECT_TRUE(Vind<QPlainTextEdit>(bericht, "txtBericht")
+                        ->toPlainText()
+                        .endsWith(QStringLiteral("\na=b\n... en nog 2\n")));
+        Druk(bericht, "cmdOK");
+    });
+    Importeer();
+}
+
+/// A monstrous line is named, but not shown from end to end.
+TEST_F(ImporterenTest, EenReusachtigeRegelHoudtHetProgrammaNietOp)
+{
+    const std::string lang(std::size_t{4} << 20U, 'x');
+    ZetExport("Club.csv", "a=" + lang + "\r\n;;Eva;;;" + lang + ";;;;;;\r\n");
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 1);
+    const QString kort(498, QLatin1Char('x'));
+    wachter.Waarschuwing(
+        QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nEva,,") +
+        kort.left(495) + QStringLiteral(" ...\r\n"));
+    VerwachtAantallen(0, 0);
+    VerwachtLos(QStringLiteral("Club.csv"),
+                QStringLiteral("1 overgeslagen, omdat er een '=' in de regel staat, zoals in een "
+                               "kopregel:\r\na=") +
+                    kort + QStringLiteral(" ...\r\n"));
+    QElapsedTimer klok;
+    klok.start();
+    Importeer();
+    EXPECT_LT(klok.elapsed(), 15000);
+}
+
+TEST_F(ImporterenTest, EenCsvInUtf8WordtVoorDeVraagGemeld)
+{
+    ZetExport("Club.csv", "\xEF\xBB\xBF"
+                          "771;V;Zo\xC3\xAB;;;Een;;;;;;\r\n");
+    Verwacht(Voer("Option2", {0}));
+    wachter.Waarschuwing(QStringLiteral(
+        "'Club.csv' is opgeslagen in UTF-8, maar een CSV-bestand wordt gelezen als Windows-1252 "
+        "(ANSI). Letters met een accent komen verkeerd over, en voor het eerste NBB-nummer kunnen "
+        "vreemde tekens staan.\n\nKies bij de volgende vraag liever Annuleren. Bewaar het bestand "
+        "als ANSI of exporteer een XML-ledenbestand."));
+    VerwachtVraag(QStringLiteral("Club"), 1, Annuleren);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
 /// A list that would not fit the screen scrolls in a window of its own.
 TEST_F(ImporterenTest, EenLangeLijstZonderNummers)
 {
@@ -261,6 +321,31 @@ TEST_F(ImporterenTest, NaEenLeesfoutKanHetMetEenAnderBestandOpnieuw)
     VerwachtAantallen(0, 1);
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Twee,,,,,,,V,,,,B,772", Speler("100172"));
+}
+
+TEST_F(ImporterenTest, EenFoutInDeDatabaseBreektAfEnHetVensterBlijft)
+{
+    winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+    Herstart();
+    Verwacht([this](QDialog& dia) {
+        KiesOptie(dia, "Option1");
+        // Damaged while it is listed.
+        suite.Zet("Rekenprogramma/data/Members.mdb",
+                  LeesAlsBytes(Accessbestand("bad/no-table-leden.mdb")));
+        Lijst(dia)->Kies(0, true);
+        Lijst(dia)->Kies(1, true);
+        Druk(dia, "cmdImporteer");
+        EXPECT_TRUE(dia.isVisible());
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!\r\nDe "
+                                 "inhoud is niet die van een ledenbestand.\r\nBestand: "),
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ(148, administratie.spelers.tabel.Rijen());
 }
 
 TEST_F(ImporterenTest, EenNbbr4BestandDatGeenXmlIsHeeftGeenLedenEnDatWordtGezegd)

@@ -164,6 +164,28 @@ TEST(LeesLedenbestand, MeldtEenTeKorteRegel)
     EXPECT_EQ(lezing->metIsTeken.size(), 1U);
 }
 
+/// Meant: the bytes are read as they stand, mark and all; the user only hears of it.
+TEST(LeesLedenbestand, EenCsvInUtf8WordtByteVoorByteGelezenEnDatWordtGezegd)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet("C:\\Export\\Club.csv", "\xEF\xBB\xBF"
+                                       "1;;Zo\xC3\xAB;;;Ek;;;;;;\r\n");
+    const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club.csv");
+    EXPECT_EQ(lezing->lstN1, Lijst{"Zo\xC3\xAB,,Ek,,,,,,,,\xEF\xBB\xBF"
+                                   "1"});
+    EXPECT_TRUE(lezing->inUtf8);
+    schijf.Zet("C:\\Export\\Club.csv", "\xFF\xFE"
+                                       "1;;Zo\xEB;;;Ek;;;;;;\r\n");
+    EXPECT_FALSE(LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club.csv")->inUtf8);
+    // The way by the intermediate file is not asked: that is always of the code page.
+    schijf.ZetMap("C:\\P");
+    schijf.Zet("C:\\Export\\Club.xml",
+               Xml("<ReportableMember><Plaats>\xC3\x83\xC2\xAB</Plaats></ReportableMember>"));
+    const auto xml = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club.xml");
+    EXPECT_EQ(xml->lstN1, Lijst{",,,,,\xC3\xAB,,,,,"});
+    EXPECT_FALSE(xml->inUtf8);
+}
+
 TEST(LeesLedenbestand, TeltOverBeideStappenDoor)
 {
     GeheugenSchijf schijf;

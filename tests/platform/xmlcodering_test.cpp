@@ -77,6 +77,21 @@ TEST(Xmlcodering, HetMerkGaatVoorDeVerklaring)
     EXPECT_EQ(Utf8("<?xml encoding='utf-16'?>\xC3\xAB"), "<?xml encoding='utf-16'?>\xC3\xAB");
 }
 
+TEST(Xmlcodering, HerkentUtf8VanBuitenXml)
+{
+    EXPECT_TRUE(IsUtf8("Zo\xC3\xAB"));
+    EXPECT_TRUE(IsUtf8("\xEF\xBB\xBF"
+                       "1;M"));
+    EXPECT_TRUE(IsUtf8("\xE2\x82\xAC\x1A"));
+    EXPECT_FALSE(IsUtf8(""));
+    EXPECT_FALSE(IsUtf8("Zoe"));
+    EXPECT_FALSE(IsUtf8("Zo\xEB"));
+    EXPECT_FALSE(IsUtf8("Zo\xC3\xAB en Zo\xEB")) << "een enkel ander teken";
+    EXPECT_FALSE(IsUtf8("Zo\xC3")) << "afgekapt";
+    EXPECT_FALSE(IsUtf8("\xFF\xFE"
+                        "1"));
+}
+
 TEST(Xmlcodering, EenOnbekendeCoderingWordtGeweigerd)
 {
     EXPECT_EQ(Utf8("<?xml encoding='ibm437'?><a/>"), "0: Unknown encoding IBM437");
