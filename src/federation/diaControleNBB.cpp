@@ -205,8 +205,8 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
                            .arg(bestand)
                            .arg(lezing.metIsTeken.size());
     if (lezing.vervangenTekens > 0)
-        opmerkingen << QStringLiteral("'%1': %2 tekens kent het register niet; er staat de "
-                                      "dichtstbijzijnde letter.")
+        opmerkingen << QStringLiteral("'%1': aantal tekens dat het register niet kent en dat is "
+                                      "vervangen door een teken dat erop lijkt of door '?': %2.")
                            .arg(bestand)
                            .arg(lezing.vervangenTekens);
 }
@@ -214,9 +214,9 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
 void diaControleNBB::MeldOpmerkingen(const QStringList& opmerkingen)
 {
     if (!opmerkingen.isEmpty())
-        Meld(parentWidget(), QMessageBox::Information,
-             QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\n") +
-                 opmerkingen.join(QStringLiteral("\r\n")));
+        MeldLijst(parentWidget(), QMessageBox::Information,
+                  QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\n") +
+                      opmerkingen.join(QStringLiteral("\r\n")));
 }
 
 // ---------------------------------------------------------------- showing

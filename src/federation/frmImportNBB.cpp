@@ -15,10 +15,10 @@ frmImportNBB::frmImportNBB(Administratie& administratie, Importgeheugen& geheuge
 
 void frmImportNBB::reject()
 {
-    if (bezig_)
-        gestopt_ = true;
-    else
+    if (!bezig_)
         QDialog::reject();
+    else if (cmdStop->isVisible())
+        Stop();
 }
 
 } // namespace plexoran

@@ -48,6 +48,7 @@ class frmImportNBB : public QDialog {
     void MaakDelen();
     void MaakHulpknoppen();
     void Bouw();
+    QWidget* BouwSchuifvlak();
     QGroupBox* BouwBronnen();
     QGroupBox* BouwGegevens();
     QWidget* BouwKeuze();
@@ -65,6 +66,8 @@ class frmImportNBB : public QDialog {
     void KiesDatabase();
     void KiesExportMap();
     void ToonMap(const Pad& map, Tekstblik gekozen);
+    void MeldNietVanSoort(const Tekst& gekozen);
+    void ToonLijsttekst(const QString& tekst);
     void VulLijst(std::vector<Tekst> namen);
     void MaakBruikbaar(bool bruikbaar);
     [[nodiscard]] Pad Beginmap() const;
@@ -80,8 +83,10 @@ class frmImportNBB : public QDialog {
     void MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezing& lezing);
     void MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing, const Samenvoeging& uitkomst);
     void MeldAfgebroken(const Tekst& naam, Samenvoegfout fout);
+    void Stop();
     void ZetBezig(bool bezig);
     [[nodiscard]] Voortgang MaakVoortgang(const QString& wat);
+    void ToonGereed(const QString& wat);
 
     Administratie& administratie_;
     Importgeheugen& geheugen_;

@@ -34,16 +34,6 @@ template <class Reeks> QString Toonbaar(const Reeks& regels)
     return tekst;
 }
 
-/// A box that would not fit the screen becomes one that scrolls.
-void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
-{
-    constexpr int regelsInBericht = 25;
-    if (tekst.count(QLatin1Char('\n')) > regelsInBericht)
-        MeldVerslag(ouder, tekst, QString::fromLatin1(Programmatitel));
-    else
-        Meld(ouder, icoon, tekst);
-}
-
 } // namespace
 
 /// While a run lasts nothing can be used but the button that stops it.
@@ -87,6 +77,21 @@ Voortgang frmImportNBB::MaakVoortgang(const QString& wat)
     };
 }
 
+void frmImportNBB::Stop()
+{
+    gestopt_ = true;
+    cmdStop->setEnabled(false);
+    lblVoortgang->setText(QStringLiteral("Het importeren wordt gestopt ..."));
+}
+
+/// A bar at rest: while the user answers a box nothing moves.
+void frmImportNBB::ToonGereed(const QString& wat)
+{
+    lblVoortgang->setText(wat);
+    prgVoortgang->setRange(0, 1);
+    prgVoortgang->setValue(1);
+}
+
 void frmImportNBB::ImporteerLedenbestanden()
 {
     const auto gekozen = GekozenBestanden();
@@ -122,6 +127,7 @@ frmImportNBB::Verloop frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdrach
         Meld(this, QMessageBox::Warning, Leesfouttekst(opdracht.bron, naam, lezing.error()));
         return Verloop::Afgebroken;
     }
+    ToonGereed(QStringLiteral("'%1' is gelezen.").arg(NaarQString(naam)));
     MeldVooraf(opdracht.bron, naam, *lezing);
     return ImporteerEenBestand(naam, std::move(*lezing));
 }
@@ -185,6 +191,7 @@ frmImportNBB::Verloop frmImportNBB::ImporteerEenBestand(const Tekst& naam, Leden
     }
     if (uitkomst->AantalVerververst + uitkomst->AantalNieuw > 0)
         ietsGewijzigd_ = true;
+    ToonGereed(QStringLiteral("'%1' is geïmporteerd.").arg(NaarQString(naam)));
     MeldUitkomst(naam, lezing, *uitkomst);
     return gestopt_ ? Verloop::Afgebroken : Verloop::Verder;
 }

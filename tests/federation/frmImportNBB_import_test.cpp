@@ -279,6 +279,56 @@ TEST_F(ImporterenTest, EenLangeLijstZonderNummers)
     EXPECT_EQ(oud, suite.Spelers());
 }
 
+/// Few lines can still be too much for a box, which breaks them at blanks and nowhere else.
+TEST_F(ImporterenTest, LangeRegelsZonderNummers)
+{
+    for (const std::string& deel : {std::string("nn "), std::string("nnn")}) {
+        std::string naam;
+        while (naam.size() < 400)
+            naam += deel;
+        std::string inhoud;
+        for (int i = 0; i < 20; ++i)
+            inhoud += ";V;Eva;;;" + naam + ";;;;;;\r\n";
+        ZetExport("Club.csv", inhoud);
+        Verwacht(Voer("Option2", {0}));
+        VerwachtVraag(QStringLiteral("Club"), 20);
+        wachter.Bedien([](QDialog& bericht) {
+            EXPECT_EQ("frmBericht", bericht.objectName());
+            Druk(bericht, "cmdOK");
+        });
+        VerwachtAantallen(0, 0);
+        Importeer();
+    }
+}
+
+/// Nothing moves and the cursor is not busy while the user has to answer.
+TEST_F(ImporterenTest, TijdensDeVraagWachtHetProgramma)
+{
+    class Kijker : public QObject {
+      public:
+        int keren = 0;
+        bool eventFilter(QObject* object, QEvent* gebeurtenis) override
+        {
+            const auto* vraag = qobject_cast<QMessageBox*>(object);
+            if (vraag != nullptr && gebeurtenis->type() == QEvent::Show) {
+                ++keren;
+                const auto& dia = dynamic_cast<QDialog&>(*vraag->parentWidget());
+                EXPECT_EQ(Qt::ArrowCursor, QGuiApplication::overrideCursor()->shape());
+                EXPECT_EQ("'Club.csv' is gelezen.", Labeltekst(dia, "lblVoortgang"));
+                EXPECT_EQ(1, Vind<QProgressBar>(dia, "prgVoortgang")->maximum());
+            }
+            return false;
+        }
+    } kijker;
+    qApp->installEventFilter(&kijker);
+    ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n");
+    Verwacht(Voer("Option2", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 1, QStringLiteral("Annuleren"));
+    Importeer();
+    EXPECT_EQ(1, kijker.keren);
+    EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
+}
+
 /// What was merged before the file that cannot be read stays, and is saved.
 TEST_F(ImporterenTest, EenLeesfoutBreektAfEnHoudtWatErWas)
 {

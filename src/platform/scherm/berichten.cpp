@@ -1,9 +1,11 @@
 #include "platform/scherm/berichten.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <QScreen>
 
 #include "platform/scherm/frmBericht.h"
 
@@ -20,6 +22,38 @@ void Vul(QMessageBox& venster, const QString& tekst)
 {
     venster.setTextFormat(Qt::PlainText);
     venster.setText(tekst);
+}
+
+/// The box waits for the user, not the other way round: whatever work goes on behind it, the busy
+/// cursor is put off until there is an answer.
+int LaatAntwoorden(QDialog& venster)
+{
+    const QCursor* bezig = QGuiApplication::overrideCursor();
+    if (bezig == nullptr)
+        return venster.exec();
+    const QCursor straks = *bezig;
+    QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
+    const int antwoord = venster.exec();
+    QGuiApplication::changeOverrideCursor(straks);
+    return antwoord;
+}
+
+/// Whether a message box with this text, which breaks its lines at blanks, is no larger than the
+/// screen.
+bool PastInBericht(const QWidget& ouder, const QString& tekst)
+{
+    constexpr int breed = 400;  // what a box leaves for its text
+    constexpr int omheen = 140; // icon or title, margins and buttons
+    const QRect vlak = ouder.fontMetrics().boundingRect(QRect(0, 0, breed, QWIDGETSIZE_MAX),
+                                                        Qt::TextWordWrap, tekst);
+    const QSize ruimte = ouder.screen()->availableSize() - QSize(omheen, omheen);
+    return vlak.height() <= ruimte.height() && vlak.width() <= ruimte.width();
+}
+
+void ToonLang(QWidget* ouder, const QString& tekst, const QString& titel)
+{
+    frmBericht venster(tekst, titel, ouder);
+    LaatAntwoorden(venster);
 }
 
 /// A box whose lines are never broken: in a table a broken line would read as one more.
@@ -52,21 +86,30 @@ void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const Q
     QMessageBox venster(icoon, Titel(titel), QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
-    venster.exec();
+    LaatAntwoorden(venster);
+}
+
+void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
+{
+    constexpr int regelsInBericht = 25;
+    if (tekst.count(QLatin1Char('\n')) > regelsInBericht || !PastInBericht(*ouder, tekst))
+        ToonLang(ouder, tekst, Titel({}));
+    else
+        Meld(ouder, icoon, tekst);
 }
 
 void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel)
 {
     constexpr int regelsInBericht = 25;
     if (tekst.count(QLatin1Char('\n')) > regelsInBericht) {
-        frmBericht(tekst, titel, ouder).exec();
+        ToonLang(ouder, tekst, titel);
         return;
     }
     Verslagbericht venster(QMessageBox::NoIcon, titel, QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
     venster.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
-    venster.exec();
+    LaatAntwoorden(venster);
 }
 
 bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
@@ -76,7 +119,7 @@ bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const 
     Vul(venster, tekst);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
     venster.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuleren"));
-    return venster.exec() == QMessageBox::Ok;
+    return LaatAntwoorden(venster) == QMessageBox::Ok;
 }
 
 int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
@@ -89,7 +132,7 @@ int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
         knoppen << venster.addButton(antwoord, QMessageBox::ActionRole);
     venster.setDefaultButton(qobject_cast<QPushButton*>(knoppen.first()));
     venster.setEscapeButton(knoppen.last());
-    venster.exec();
+    LaatAntwoorden(venster);
     const auto plaats = knoppen.indexOf(venster.clickedButton());
     return static_cast<int>(plaats < 0 ? knoppen.size() - 1 : plaats);
 }

@@ -14,6 +14,10 @@ inline constexpr auto Programmatitel = "Plexoran";
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
           const QString& titel = QString());
 
+/// Shows a text that may grow with what it tells of: one that is too long for a box of this screen
+/// scrolls in a window of its own, `frmBericht`.
+void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst);
+
 /// Shows a text without an icon that can be copied; a long one in a window of its own,
 /// `frmBericht`, in which it scrolls.
 void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel);
