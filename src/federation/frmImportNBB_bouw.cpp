@@ -1,5 +1,8 @@
 // Building the import window: its controls, their captions and places.
+#include <QApplication>
 #include <QGridLayout>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "federation/frmImportNBB.h"
@@ -140,11 +143,30 @@ void frmImportNBB::Bouw()
     lagen->addLayout(kolommen, 1);
     lagen->addWidget(BouwHulp());
     auto* geheel = new QVBoxLayout(this);
-    geheel->addWidget(inhoud_, 1);
+    geheel->addWidget(BouwSchuifvlak(), 1);
     geheel->addWidget(BouwOnderkant());
     StelTabvolgordeIn();
     const Maten maten;
     PasInScherm(this, {maten.Twips(12600), maten.Twips(9900)});
+}
+
+/// A screen may be lower than all of this: then it scrolls, and the buttons below it stay in sight.
+QWidget* frmImportNBB::BouwSchuifvlak()
+{
+    auto* vlak = new QScrollArea(this);
+    vlak->setFrameShape(QFrame::NoFrame);
+    vlak->setFocusPolicy(Qt::NoFocus);
+    vlak->setWidgetResizable(true);
+    vlak->setWidget(inhoud_);
+    vlak->setMinimumWidth(inhoud_->minimumSizeHint().width() +
+                          vlak->verticalScrollBar()->sizeHint().width());
+    // Keys bring what they lead to into sight. Not the mouse: what is pressed must stay where it
+    // is.
+    connect(qApp, &QApplication::focusChanged, vlak, [this, vlak](QWidget* /*was*/, QWidget* nu) {
+        if (inhoud_->isAncestorOf(nu) && QGuiApplication::mouseButtons() == Qt::NoButton)
+            vlak->ensureWidgetVisible(nu);
+    });
+    return vlak;
 }
 
 QGroupBox* frmImportNBB::BouwBronnen()
@@ -190,8 +212,10 @@ QWidget* frmImportNBB::BouwKeuze()
 {
     auto* keuze = new QWidget(inhoud_);
     lblExportMap = MaakLopendeTekst(QStringLiteral("lblExportMap"), QString(), keuze);
-    Label3 = MaakLabel(QStringLiteral("Label3"), QStringLiteral("Ledenbestanden:"), keuze);
     lstNBBbest = new Meerkeuzelijst(keuze);
+    Label3 = MaakLabel(QStringLiteral("Label3"), QString(), keuze);
+    Label3->setBuddy(lstNBBbest);
+    ToonLijsttekst(QStringLiteral("Ledenbestanden:"));
     Noem(lstNBBbest, QStringLiteral("lstNBBbest"), QStringLiteral("Ledenbestanden"));
     lstNBBbest->setToolTip(QStringLiteral(
         "Een klik of de spatiebalk kiest een ledenbestand of laat het los; Ctrl+A kiest alle"));
@@ -267,11 +291,7 @@ void frmImportNBB::Verbind()
     connect(cmdControleNBBnrs, &QPushButton::clicked, this, &frmImportNBB::ControleerNBBnrs);
     connect(cmdImporteer, &QPushButton::clicked, this, &frmImportNBB::ImporteerLedenbestanden);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::close);
-    connect(cmdStop, &QPushButton::clicked, this, [this] {
-        gestopt_ = true;
-        cmdStop->setEnabled(false);
-        lblVoortgang->setText(QStringLiteral("Het importeren wordt gestopt ..."));
-    });
+    connect(cmdStop, &QPushButton::clicked, this, &frmImportNBB::Stop);
 }
 
 } // namespace plexoran

@@ -110,6 +110,12 @@ void frmImportNBB::MaakBruikbaar(bool bruikbaar)
     cmdImporteer->setEnabled(bruikbaar);
 }
 
+/// The text above the list, with the letter that leads to the list.
+void frmImportNBB::ToonLijsttekst(const QString& tekst)
+{
+    Label3->setText(MetSneltoets(tekst, u'b'));
+}
+
 void frmImportNBB::VulLijst(std::vector<Tekst> namen)
 {
     namen_ = std::move(namen);
@@ -133,7 +139,7 @@ void frmImportNBB::KiesBron(Ledenbron bron)
     map_ = Beginmap();
     MaakBruikbaar(!map_.empty());
     lblExportMap->setText(QStringLiteral("Er is nog geen map gekozen."));
-    Label3->setText(Lijsttekst(bron));
+    ToonLijsttekst(Lijsttekst(bron));
     if (!map_.empty())
         ToonMap(map_, {});
 }
@@ -154,7 +160,7 @@ void frmImportNBB::KiesDatabase()
 {
     cmdKiesExportMap->setEnabled(false);
     MaakBruikbaar(true);
-    Label3->setText(Lijsttekst(Ledenbron::Database));
+    ToonLijsttekst(Lijsttekst(Ledenbron::Database));
     const Tekst& code = administratie_.rekenprogramma.ProgrammaCode;
     lblExportMap->setText(code == "BRIT"   ? QStringLiteral("Ledenbestanden direct uit BridgeIt:")
                           : code == "NBBR" ? QStringLiteral("Ledenbestanden direct uit NBBR-2.8:")
@@ -197,7 +203,25 @@ void frmImportNBB::KiesExportMap()
     const auto naam = bestand.find_last_of("\\/");
     if (naam == Pad::npos)
         return;
-    ToonMap(bestand.substr(0, naam), Tekstblik(bestand).substr(naam + 1));
+    const Tekst gekozen = bestand.substr(naam + 1);
+    ToonMap(bestand.substr(0, naam), gekozen);
+    lstNBBbest->setFocus();
+    MeldNietVanSoort(gekozen);
+}
+
+/// Without a word another file would stand chosen than the one that was pointed at.
+void frmImportNBB::MeldNietVanSoort(const Tekst& gekozen)
+{
+    if (std::find(namen_.begin(), namen_.end(), gekozen) != namen_.end())
+        return;
+    const QString soort =
+        bron_ == Ledenbron::XmlNbb3   ? QStringLiteral("XML-ledenbestand uit NBBR-3")
+        : bron_ == Ledenbron::XmlNbb4 ? QStringLiteral("XML-ledenbestand uit NBBR-4")
+                                      : QStringLiteral("CSV-ledenbestand");
+    Meld(this, QMessageBox::Information,
+         QStringLiteral("'%1' is geen %2 en staat dus niet in de lijst.\n\nKies een ander bestand, "
+                        "of kies eerst links waar dit bestand vandaan komt.")
+             .arg(NaarQString(gekozen), soort));
 }
 
 /// Lists the folder; the file that was pointed at is chosen, or else the first of XML files.
@@ -224,8 +248,8 @@ void frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
     const QString pad = QString::fromStdString(administratie_.schijf.Toonpad(map));
     lblExportMap->setText(QStringLiteral("Ledenbestanden in de gekozen map: ") + Breekbaar(pad));
     lblExportMap->setToolTip(pad);
-    Label3->setText(Lijsttekst(bron) +
-                    (namen_.empty() ? QStringLiteral("geen") : QString::number(namen_.size())));
+    ToonLijsttekst(Lijsttekst(bron) +
+                   (namen_.empty() ? QStringLiteral("geen") : QString::number(namen_.size())));
     const auto plaats = std::find(namen_.begin(), namen_.end(), gekozen);
     const int kies = plaats != namen_.end()   ? static_cast<int>(plaats - namen_.begin())
                      : bron != Ledenbron::Csv ? 0

@@ -208,6 +208,9 @@ void frmLedenAdmin::HaalNBBnamen()
     KiesRekenprogramma();
     frmImportNBB venster(administratie_, importgeheugen_, this);
     venster.exec();
+    // Its last box and the window itself go at once, and a window manager may then give the focus
+    // to nobody.
+    activateWindow();
     if (!venster.IetsGewijzigd())
         return;
     (void)SlaOp();

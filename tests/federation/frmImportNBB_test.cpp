@@ -171,6 +171,60 @@ TEST_F(frmImportNBBTest, DeBestandskeuzeVanXmlEnAnnulerenDaarvan)
     Importeer();
 }
 
+/// Or another file would silently stand chosen for it.
+TEST_F(frmImportNBBTest, EenBestandVanEenAndereSoortWordtGenoemd)
+{
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option3");
+        Druk(dia, "cmdKiesExportMap");
+        EXPECT_EQ((Namen{"Donderdag 20260901.xml"}), Bestanden(dia));
+        EXPECT_EQ((std::vector<int>{0}), Lijst(dia)->GekozenPlaatsen());
+        EXPECT_EQ(Lijst(dia), dia.focusWidget());
+        Druk(dia, "cmdAnnuleren");
+    });
+    VerwachtBestandskeuze(QStringLiteral("XML-bestanden (*.xml)"),
+                          "Ledenbestanden/Zomer 20260901.xml");
+    wachter.Informatie(QStringLiteral(
+        "'Zomer 20260901.xml' is geen XML-ledenbestand uit NBBR-3 en staat dus niet in de "
+        "lijst.\n\nKies een ander bestand, of kies eerst links waar dit bestand vandaan komt."));
+    Importeer();
+}
+
+/// A screen of 1920 by 1080 at 200 % has this room.
+TEST_F(frmImportNBBTest, OpEenLaagSchermBlijvenDeKnoppenInBeeld)
+{
+    Verwacht([](QDialog& dia) {
+        dia.resize(840, 500);
+        QApplication::processEvents();
+        EXPECT_LE(dia.height(), 500);
+        const auto inBeeld = [&dia](const char* knop) {
+            auto* deel = Vind<QPushButton>(dia, knop);
+            return deel->visibleRegion().boundingRect() == deel->rect();
+        };
+        EXPECT_TRUE(inBeeld("cmdImporteer"));
+        EXPECT_TRUE(inBeeld("cmdAnnuleren"));
+        EXPECT_FALSE(inBeeld("cmdHint"));
+        Vind<QPushButton>(dia, "cmdHint")->setFocus(Qt::TabFocusReason);
+        QApplication::processEvents();
+        EXPECT_TRUE(inBeeld("cmdHint"));
+        EXPECT_TRUE(inBeeld("cmdImporteer"));
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
+TEST_F(frmImportNBBTest, DeLijstHeeftEenSneltoets)
+{
+    KopieerExports();
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        EXPECT_EQ("CSV-Leden&bestanden: 2", Vind<QLabel>(dia, "Label3")->text().toStdString());
+        EXPECT_EQ(Lijst(dia), Vind<QLabel>(dia, "Label3")->buddy());
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
 TEST_F(frmImportNBBTest, ZonderKeusVanEenBestandWordtErNietsGedaan)
 {
     KopieerExports();

@@ -80,9 +80,10 @@ class Importproef : public Hoofdvensterproef {
             namen.push_back(Lijst(dia)->Regel(i).toStdString());
         return namen;
     }
+    /// The text as it reads, without the mark of a mnemonic.
     static std::string Labeltekst(const QDialog& dia, const char* label)
     {
-        return Vind<QLabel>(dia, label)->text().toStdString();
+        return Vind<QLabel>(dia, label)->text().remove(QLatin1Char('&')).toStdString();
     }
     /// Puts an export in the folder that is looked in first.
     void ZetExport(const std::string& naam, const std::string& inhoud) const
