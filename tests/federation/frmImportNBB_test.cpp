@@ -1,4 +1,7 @@
 // The import window itself: its texts, its sources and its help.
+#include <QDir>
+#include <QFileIconProvider>
+
 #include "federation/importproef.h"
 
 using namespace plexoran;
@@ -167,7 +170,10 @@ TEST_F(frmImportNBBTest, DeBestandskeuzeVanXmlEnAnnulerenDaarvan)
     });
     VerwachtBestandskeuze(QStringLiteral("XML-bestanden (*.xml)"),
                           "Ledenbestanden/Zomer 20260901.xml");
-    wachter.Bedien([](QDialog& keuze) { keuze.reject(); });
+    wachter.Bedien([](QDialog& keuze) {
+        EXPECT_EQ("Map", QFileIconProvider().type(QFileInfo(QDir::tempPath())));
+        keuze.reject();
+    });
     Importeer();
 }
 

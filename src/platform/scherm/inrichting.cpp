@@ -25,10 +25,32 @@ class Huisstijl : public QProxyStyle {
     }
 };
 
+/// Words that the file dialog shows and that the Dutch texts of Qt lack.
+class Ontbrekend : public QTranslator {
+  public:
+    using QTranslator::QTranslator;
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    QString translate(const char* waar, const char* bron, const char* /*toelichting*/,
+                      int /*aantal*/) const override
+    {
+        const QLatin1String tekst(bron);
+        if (QLatin1String(waar) != QLatin1String("QAbstractFileIconProvider"))
+            return {};
+        if (tekst == QLatin1String("Folder") || tekst == QLatin1String("File Folder"))
+            return QStringLiteral("Map");
+        if (tekst == QLatin1String("Drive"))
+            return QStringLiteral("Schijf");
+        return {};
+    }
+};
+
 void SpreekNederlands(QApplication& programma)
 {
     const QLocale nederlands(QLocale::Dutch, QLocale::Netherlands);
     QLocale::setDefault(nederlands);
+    // Installed first: it is asked last, so that Qt's own word goes before.
+    QApplication::installTranslator(new Ontbrekend(&programma));
     auto* vertaling = new QTranslator(&programma);
     if (vertaling->load(nederlands, QStringLiteral("qtbase"), QStringLiteral("_"),
                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
