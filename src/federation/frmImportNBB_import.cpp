@@ -124,6 +124,7 @@ frmImportNBB::Verloop frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdrach
         return Verloop::Afgebroken;
     }
     if (!lezing) {
+        ToonGereed(QStringLiteral("'%1' is niet gelezen.").arg(NaarQString(naam)));
         Meld(this, QMessageBox::Warning, Leesfouttekst(opdracht.bron, naam, lezing.error()));
         return Verloop::Afgebroken;
     }

@@ -82,10 +82,7 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
                                    const Voortgang& voortgang)
 {
     if (tekst.find('\0') != Tekstblik::npos)
-        return tl::unexpected(Fout{Foutsoort::Beschadigd,
-                                   {},
-                                   0,
-                                   "er staan nulbytes in: het is geen tekst van enkele bytes"});
+        return tl::unexpected(Fout{Foutsoort::Beschadigd, {}, 0, "dit is geen tekstbestand"});
     constexpr int elkeZoveel = 4096;
     const Herkomsten herkomsten = HerkomstenVan(keuzes);
     const std::size_t nodig = NodigeKolommen(herkomsten);
