@@ -195,8 +195,9 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
                         "</ReportableMembersList>");
     wachter.Informatie(QStringLiteral(
         "Bij het lezen van de ledenbestanden:\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
-        "niet als XML worden gelezen.\r\n'Heel.xml': 1 tekens kent het register niet; er staat de "
-        "dichtstbijzijnde letter."));
+        "niet als XML worden gelezen.\r\n'Heel.xml': aantal tekens dat het register niet kent en "
+        "dat "
+        "is vervangen door een teken dat erop lijkt of door '?': 1."));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Heel.xml"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 7 Heel Szo,", Geschilderd());
 }
