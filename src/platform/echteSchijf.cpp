@@ -36,6 +36,25 @@ Uitkomst<void> Uitslag(const fs::path& waar, const std::error_code& code)
     return {};
 }
 
+/// The names in a folder of what `hoort`.
+template <class Hoort> Uitkomst<std::vector<Tekst>> Namen(const Pad& map, Hoort hoort)
+{
+    const fs::path waar = Systeempad(map);
+    std::vector<Tekst> namen;
+    std::error_code fout;
+    for (fs::directory_iterator plaats(waar, fout); !fout && plaats != fs::directory_iterator();
+         plaats.increment(fout)) {
+        std::error_code nietTeZien; // as a link that leads nowhere
+        if (!hoort(*plaats, nietTeZien))
+            continue;
+        if (auto naam = NaamVan(plaats->path().filename()))
+            namen.push_back(std::move(*naam));
+    }
+    if (fout)
+        return Mislukt(waar, fout);
+    return namen;
+}
+
 class EchteSchrijver : public Schrijver {
   public:
     explicit EchteSchrijver(fs::path pad) : pad_(std::move(pad)) {}
@@ -91,20 +110,16 @@ Uitkomst<Stempel> EchteSchijf::NeemStempel(const Pad& pad)
 
 Uitkomst<std::vector<Tekst>> EchteSchijf::Bestanden(const Pad& map)
 {
-    const fs::path waar = Systeempad(map);
-    std::vector<Tekst> namen;
-    std::error_code fout;
-    for (fs::directory_iterator plaats(waar, fout); !fout && plaats != fs::directory_iterator();
-         plaats.increment(fout)) {
-        std::error_code nietTeZien; // as a link that leads nowhere
-        if (!plaats->is_regular_file(nietTeZien))
-            continue;
-        if (auto naam = NaamVan(plaats->path().filename()))
-            namen.push_back(std::move(*naam));
-    }
-    if (fout)
-        return Mislukt(waar, fout);
-    return namen;
+    return Namen(map, [](const fs::directory_entry& deel, std::error_code& fout) {
+        return deel.is_regular_file(fout);
+    });
+}
+
+Uitkomst<std::vector<Tekst>> EchteSchijf::Mappen(const Pad& map)
+{
+    return Namen(map, [](const fs::directory_entry& deel, std::error_code& fout) {
+        return deel.is_directory(fout);
+    });
 }
 
 Uitkomst<void> EchteSchijf::MaakMap(const Pad& map)

@@ -13,6 +13,8 @@ class EchteSchijf : public Schijf {
     [[nodiscard]] Uitkomst<Stempel> NeemStempel(const Pad& pad) override;
     /// Regular files and links to them.
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) override;
+    /// Folders and links to them.
+    [[nodiscard]] Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) override;
 
     [[nodiscard]] Uitkomst<void> MaakMap(const Pad& map) override;
     [[nodiscard]] Uitkomst<Pad> Doel(const Pad& pad) override;

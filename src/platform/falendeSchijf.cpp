@@ -94,6 +94,11 @@ Uitkomst<std::vector<Tekst>> FalendeSchijf::Bestanden(const Pad& map)
     return Lezend(map).and_then([&] { return binnen_.Bestanden(map); });
 }
 
+Uitkomst<std::vector<Tekst>> FalendeSchijf::Mappen(const Pad& map)
+{
+    return Lezend(map).and_then([&] { return binnen_.Mappen(map); });
+}
+
 Uitkomst<void> FalendeSchijf::MaakMap(const Pad& map)
 {
     return Schrijvend(map).and_then([&] { return binnen_.MaakMap(map); });

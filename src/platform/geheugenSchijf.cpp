@@ -200,6 +200,19 @@ Uitkomst<std::vector<Tekst>> GeheugenSchijf::Bestanden(const Pad& map)
     return uit;
 }
 
+Uitkomst<std::vector<Tekst>> GeheugenSchijf::Mappen(const Pad& map)
+{
+    const Tekst gezocht = Sleutel(map);
+    if (!IsMap(gezocht))
+        return Mislukt(map, std::errc::no_such_file_or_directory);
+    std::vector<Tekst> uit;
+    for (const auto& [sleutel, onder] : mappen_) {
+        if (MapVan(sleutel) == gezocht)
+            uit.push_back(NaamIn(onder.pad));
+    }
+    return uit;
+}
+
 Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)
 {
     const Tekst sleutel = Sleutel(map);

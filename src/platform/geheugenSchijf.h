@@ -38,6 +38,7 @@ class GeheugenSchijf : public Schijf {
     [[nodiscard]] Uitkomst<Tekst> LeesBestand(const Pad& pad) override;
     [[nodiscard]] Uitkomst<Stempel> NeemStempel(const Pad& pad) override;
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) override;
+    [[nodiscard]] Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) override;
 
     [[nodiscard]] Uitkomst<void> MaakMap(const Pad& map) override;
     [[nodiscard]] Uitkomst<Pad> Doel(const Pad& pad) override;

@@ -56,6 +56,8 @@ class Schijf {
     [[nodiscard]] virtual Uitkomst<Stempel> NeemStempel(const Pad& pad) = 0;
     /// The names of the files in a folder, without their path, in no order.
     [[nodiscard]] virtual Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) = 0;
+    /// The names of the folders in a folder, without their path, in no order; never "." or "..".
+    [[nodiscard]] virtual Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) = 0;
 
     /// Makes the folder inside one that exists; a folder that is there already is fine. Folders
     /// above it are not made: a drive that is away must not turn into an empty register.

@@ -63,6 +63,7 @@ class Logschijf : public Schijf {
     {
         return binnen_.Bestanden(map);
     }
+    Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) override { return binnen_.Mappen(map); }
     Uitkomst<void> MaakMap(const Pad& map) override
     {
         log.push_back("map " + map);

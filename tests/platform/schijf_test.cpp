@@ -182,6 +182,22 @@ TYPED_TEST(SchijfTest, NamenUitEenMap)
     EXPECT_EQ(SoortVan(this->schijf_.Bestanden(this->In("b.txt"))), Foutsoort::Ontbreekt);
 }
 
+TYPED_TEST(SchijfTest, MappenInEenMap)
+{
+    this->Schrijf(this->In("b.txt"), "");
+    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map")));
+    ASSERT_TRUE(this->schijf_.MaakMap(this->In("Ren\xE9 \x80")));
+    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map\\dieper")));
+    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map\\dieper\\nog")));
+    this->Schrijf(this->In("map\\c.txt"), "");
+    EXPECT_EQ(Gesorteerd(this->schijf_.Mappen(this->opstelling_.map)),
+              (Namen{"Ren\xE9 \x80", "map"}));
+    EXPECT_EQ(Gesorteerd(this->schijf_.Mappen(this->In("MAP"))), Namen{"dieper"});
+    EXPECT_EQ(Gesorteerd(this->schijf_.Mappen(this->In("map\\dieper\\nog"))), Namen{});
+    EXPECT_EQ(SoortVan(this->schijf_.Mappen(this->In("b.txt"))), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(this->schijf_.Mappen(this->In("weg"))), Foutsoort::Ontbreekt);
+}
+
 TYPED_TEST(SchijfTest, MaakMap)
 {
     EXPECT_TRUE(this->schijf_.MaakMap(this->In("een")));
@@ -327,6 +343,17 @@ TEST(EchteSchijfTest, LosGeschrevenAccenten)
     EchteSchijf schijf;
     EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), Namen{"Ren\xE9"});
     EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9")), "los");
+}
+
+TEST(EchteSchijfTest, MappenOokAchterEenLink)
+{
+    const TijdelijkeMap map;
+    std::filesystem::create_directory(map.Weg() / "a");
+    std::filesystem::create_symlink("a", map.Weg() / "b");
+    std::filesystem::create_symlink("weg", map.Weg() / "c");
+    ASSERT_EQ(::mkfifo((map.Weg() / "pijp").c_str(), 0600), 0);
+    EchteSchijf schijf;
+    EXPECT_EQ(Gesorteerd(schijf.Mappen(map.AlsPad())), (Namen{"a", "b"}));
 }
 
 TEST(EchteSchijfTest, GeenGewoonBestand)
@@ -555,6 +582,16 @@ TEST(FalendeSchijfTest, FaaltOpBestelling)
     schijf.FaalNiet();
     EXPECT_TRUE(schijf.Verwijder("a"));
     EXPECT_EQ(schijf.Aantal(), 1);
+}
+
+TEST(FalendeSchijfTest, WeigertOokDeMappen)
+{
+    GeheugenSchijf binnen;
+    binnen.ZetMap("C:\\Club\\Zitting");
+    FalendeSchijf schijf(binnen);
+    EXPECT_EQ(Gesorteerd(schijf.Mappen("C:\\Club")), Namen{"Zitting"});
+    schijf.FaalBij(1);
+    EXPECT_EQ(SoortVan(schijf.Mappen("C:\\Club")), Foutsoort::Geweigerd);
 }
 
 TEST(FalendeSchijfTest, TeltDeSchrijverMee)

@@ -1,0 +1,32 @@
+// The items of one line, separated by commas, as the suite's session files hold them: an item may
+// stand between double quotes, and a comma inside these belongs to it.
+//
+// A quote closes an item when a comma or the end of the line follows it, blanks apart. A quote that
+// is never closed is a character like any other and reaches no further than its own item.
+#pragma once
+
+#include <vector>
+
+#include "platform/tekst.h"
+
+namespace plexoran {
+
+/// Views into the line.
+struct Item {
+    Tekstblik rauw;  ///< all between two commas, quotes and blanks included
+    Tekstblik tekst; ///< without the enclosing quotes; the same as `rauw` where there are none
+
+    [[nodiscard]] bool IsAangehaald() const { return tekst.size() != rauw.size(); }
+};
+
+/// At least one item; an empty line holds one empty item.
+[[nodiscard]] std::vector<Item> ItemsVan(Tekstblik regel);
+
+/// The item as it stands with another text between its quotes, if it has any.
+[[nodiscard]] Tekst MetTekst(const Item& item, Tekstblik tekst);
+
+/// How a text is written so that it reads back as one item: bare where that will do, else between
+/// quotes. A text that can be read back in neither way is written bare.
+[[nodiscard]] Tekst AlsItem(Tekstblik tekst);
+
+} // namespace plexoran

@@ -1,0 +1,51 @@
+// Where the suite keeps its sessions and competitions:
+//
+//     ZITMAP\<session>\Zitdata.txt, Spelers.txt, PercZit.txt
+//     COMMAP\<competition>\Compdata.txt
+//     COMMAP\<competition>\Ronde-<r>\Zitting-<z>\Spelers.txt, PercZit-<z>.txt
+//
+// Numbers are in plain decimal. Of "Zitdata.txt" and "Compdata.txt" only the presence and the date
+// of change are looked at.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "register/mappen.h"
+#include "sessions/zittinglijsten.h"
+
+namespace plexoran {
+
+/// A session or competition that the folders hold.
+struct Sessiemap {
+    Tekst naam;
+    std::int64_t tijd = 0; ///< of the last change of its data file, nanoseconds since 1970
+};
+
+/// In text order. A root folder that is missing or not named holds none.
+[[nodiscard]] Uitkomst<std::vector<Sessiemap>> LeesZittingen(Schijf& schijf, const Mappen& mappen);
+[[nodiscard]] Uitkomst<std::vector<Sessiemap>> LeesCompetities(Schijf& schijf,
+                                                               const Mappen& mappen);
+
+/// One session, loose or of a competition.
+struct Zittingplaats {
+    Pad map;
+    bool inCompetitie = false;
+    int ronde = 0; ///< this and the next only in a competition
+    int zitting = 0;
+
+    [[nodiscard]] Pad Bestand(Lijstsoort soort) const;
+};
+
+[[nodiscard]] Zittingplaats LosseZitting(const Mappen& mappen, Tekstblik naam);
+[[nodiscard]] Zittingplaats Competitiezitting(const Mappen& mappen, Tekstblik competitie, int ronde,
+                                              int zitting);
+
+/// The sessions of a competition, rounds and sessions in numeric order.
+[[nodiscard]] Uitkomst<std::vector<Zittingplaats>>
+ZittingenVan(Schijf& schijf, const Mappen& mappen, Tekstblik competitie);
+
+/// The file, or nothing where there is none of that name.
+[[nodiscard]] Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad);
+
+} // namespace plexoran
