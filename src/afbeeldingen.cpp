@@ -10,6 +10,7 @@
 #include "dialogs/diaIngave.h"
 #include "dialogs/diaKopieer.h"
 #include "dialogs/diaSortlijst.h"
+#include "dialogs/diaToevoegen.h"
 #include "dialogs/diaVerplaats.h"
 #include "dialogs/frmVerwSubgroep.h"
 #include "federation/diaControleNBB.h"
@@ -18,6 +19,7 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/sorteerlijst.h"
 #include "platform/scherm/tekstbrug.h"
+#include "sessions/frmKoppelNBBnr.h"
 
 namespace plexoran {
 namespace {
@@ -108,6 +110,25 @@ void NeemControle(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrat
     fotograaf.Neem(venster);
 }
 
+/// With the floating players of the competition, and the first of them chosen.
+void NeemKoppelvenster(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster,
+                       Administratie& administratie)
+{
+    frmKoppelNBBnr venster(administratie, &hoofdvenster);
+    fotograaf.Neem(venster); // fills it
+    if (auto* competities = venster.findChild<QRadioButton*>(QStringLiteral("Option2")))
+        competities->setChecked(true);
+    if (auto* cmbC = venster.findChild<QComboBox*>(QStringLiteral("cmbC")))
+        cmbC->setCurrentIndex(cmbC->count() - 1);
+    for (const char* knop : {"cmdZoekNamen", "cmdKiesRVDspeler"}) {
+        if (auto* zwevenden = venster.findChild<QListView*>(QStringLiteral("lstSpelers")))
+            zwevenden->setCurrentIndex(zwevenden->model()->index(0, 0));
+        if (auto* deel = venster.findChild<QPushButton*>(QString::fromLatin1(knop)))
+            deel->click();
+    }
+    fotograaf.Neem(venster);
+}
+
 } // namespace
 
 int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
@@ -137,6 +158,8 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));
     fotograaf.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
     NeemControle(fotograaf, hoofdvenster, administratie);
+    fotograaf.Neem(diaToevoegen(administratie, &hoofdvenster));
+    NeemKoppelvenster(fotograaf, hoofdvenster, administratie);
     NeemSorteerlijst(fotograaf, hoofdvenster, administratie.spelers.tabel);
     return fotograaf.Gelukt() ? 0 : 1;
 }

@@ -92,6 +92,8 @@ class frmLedenAdmin : public QMainWindow {
     void Kopieer();
     void VerwijderGroep();
     void HaalNBBnamen();
+    void VoegSessiespelersToe();
+    void KoppelZwevenden();
     [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
     [[nodiscard]] bool IsRegelGekozen();
 

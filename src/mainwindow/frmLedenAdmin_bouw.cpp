@@ -93,7 +93,7 @@ void frmLedenAdmin::MaakKnoppen()
         QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
     // Their windows are not there yet.
     for (QPushButton* later :
-         {cmdSpToevoegen, cmdKoppel, cmdParenOnderhoud, cmdPrint, cmdToelichting})
+         {cmdParenOnderhoud, cmdPrint, cmdToelichting})
         later->setEnabled(false);
 }
 
@@ -275,6 +275,8 @@ void frmLedenAdmin::Verbind()
     connect(cmdKopieer, &QPushButton::clicked, this, &frmLedenAdmin::Kopieer);
     connect(cmdVerwGroep, &QPushButton::clicked, this, &frmLedenAdmin::VerwijderGroep);
     connect(cmdHaalNBBnamen, &QPushButton::clicked, this, &frmLedenAdmin::HaalNBBnamen);
+    connect(cmdSpToevoegen, &QPushButton::clicked, this, &frmLedenAdmin::VoegSessiespelersToe);
+    connect(cmdKoppel, &QPushButton::clicked, this, &frmLedenAdmin::KoppelZwevenden);
     connect(cmdZoekDubbeleNamen, &QPushButton::clicked, this, &frmLedenAdmin::ToonDubbeleNamen);
     for (const auto& [knop, soort] : {std::pair{cmdSortlijst1, Sorteersoort::Key},
                                       std::pair{cmdSortlijst2, Sorteersoort::NBBnr},

@@ -2,12 +2,14 @@
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
 #include "dialogs/diaKopieer.h"
+#include "dialogs/diaToevoegen.h"
 #include "dialogs/diaVerplaats.h"
 #include "dialogs/frmVerwSubgroep.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/verwijderen.h"
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
+#include "sessions/frmKoppelNBBnr.h"
 
 namespace plexoran {
 
@@ -215,6 +217,22 @@ void frmLedenAdmin::HaalNBBnamen()
         return;
     (void)SlaOp();
     ToonGroep();
+}
+
+void frmLedenAdmin::VoegSessiespelersToe()
+{
+    diaToevoegen venster(administratie_, this);
+    venster.exec();
+    if (!venster.ToegevoegdEnBewaard())
+        return;
+    (void)SlaOp();
+    ToonGroep();
+}
+
+/// Changes session files only: there is nothing to save in the register.
+void frmLedenAdmin::KoppelZwevenden()
+{
+    frmKoppelNBBnr(administratie_, this).exec();
 }
 
 void frmLedenAdmin::StartGatenlijst()

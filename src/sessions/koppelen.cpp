@@ -40,7 +40,7 @@ struct Uitgevoerd {
     std::optional<Fout> fout;
 };
 
-Uitgevoerd PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort, const Vervanging& vervanging)
+Uitgevoerd PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort, const Naamvervanging& vervanging)
 {
     const auto inhoud = LeesAlsErIs(schijf, pad);
     if (!inhoud)
@@ -72,7 +72,7 @@ Uitkomst<std::vector<bool>> Als(Uitgevoerd uitgevoerd)
 /// The lines of one session that stand together in the list.
 struct Groep {
     const Zittingplaats* plaats = nullptr;
-    Vervanging vervanging;
+    Naamvervanging vervanging;
     bool inSpelers = false; ///< the list found the name itself in this file
     bool inPercentages = false;
 
@@ -215,14 +215,14 @@ Koppeluitslag Koppel(Schijf& schijf, const Koppelopdracht& opdracht, const Voort
 }
 
 Uitkomst<std::vector<bool>> PasSpelersbestandAan(Schijf& schijf, const Zittingplaats& plaats,
-                                                 const Vervanging& vervanging)
+                                                 const Naamvervanging& vervanging)
 {
     return Als(
         PasAan(schijf, plaats.Bestand(Lijstsoort::Spelers), Lijstsoort::Spelers, vervanging));
 }
 
 Uitkomst<std::vector<bool>> PasPercentagebestandAan(Schijf& schijf, const Zittingplaats& plaats,
-                                                    const Vervanging& vervanging)
+                                                    const Naamvervanging& vervanging)
 {
     return Als(PasAan(schijf, plaats.Bestand(Lijstsoort::Percentages), Lijstsoort::Percentages,
                       vervanging));

@@ -68,10 +68,10 @@ struct Koppeluitslag {
 /// any was. None in a file that is missing.
 [[nodiscard]] Uitkomst<std::vector<bool>> PasSpelersbestandAan(Schijf& schijf,
                                                                const Zittingplaats& plaats,
-                                                               const Vervanging& vervanging);
+                                                               const Naamvervanging& vervanging);
 [[nodiscard]] Uitkomst<std::vector<bool>> PasPercentagebestandAan(Schijf& schijf,
                                                                   const Zittingplaats& plaats,
-                                                                  const Vervanging& vervanging);
+                                                                  const Naamvervanging& vervanging);
 
 /// A player of the register who can be linked.
 struct Koppelspeler {

@@ -43,7 +43,7 @@ Tekstblik Regeleinde(Tekstblik inhoud, Tekstblik regel)
 /// Looks up a place and remembers where something was replaced.
 class Plaatslijst {
   public:
-    explicit Plaatslijst(const Vervanging& vervanging)
+    explicit Plaatslijst(const Naamvervanging& vervanging)
         : vervanging_(vervanging), vervangen_(vervanging.codes.size())
     {
         for (std::size_t i = 0; i < vervanging.codes.size(); ++i)
@@ -66,7 +66,7 @@ class Plaatslijst {
     [[nodiscard]] std::vector<bool> Vervangen() const { return vervangen_; }
 
   private:
-    const Vervanging& vervanging_;
+    const Naamvervanging& vervanging_;
     std::unordered_map<Tekst, std::size_t> plaatsen_;
     std::vector<bool> vervangen_;
 };
@@ -139,7 +139,7 @@ bool Herschrijving::IetsVervangen() const
     return std::find(vervangen.begin(), vervangen.end(), true) != vervangen.end();
 }
 
-Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort, const Vervanging& vervanging)
+Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort, const Naamvervanging& vervanging)
 {
     Herschrijving uit;
     Plaatslijst plaatsen(vervanging);

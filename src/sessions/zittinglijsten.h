@@ -37,7 +37,7 @@ struct Lijstlezing {
 [[nodiscard]] Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort);
 
 /// What is to be replaced: the name, at these places only.
-struct Vervanging {
+struct Naamvervanging {
     std::vector<Tekst> codes;
     Tekst naam;
     Tekst key;
@@ -51,6 +51,6 @@ struct Herschrijving {
 };
 
 [[nodiscard]] Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort,
-                                            const Vervanging& vervanging);
+                                            const Naamvervanging& vervanging);
 
 } // namespace plexoran

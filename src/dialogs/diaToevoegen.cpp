@@ -1,0 +1,220 @@
+#include "dialogs/diaToevoegen.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+
+diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie)
+{
+    Bouw();
+    Verbind();
+}
+
+void diaToevoegen::MaakDelen(QGroupBox* Frame1)
+{
+    Combo1 = new QComboBox(Frame1);
+    Noem(Combo1, QStringLiteral("Combo1"), QStringLiteral("Kies een zitting"));
+    lstN2 = new QListWidget(Frame1);
+    Noem(lstN2, QStringLiteral("lstN2"), QStringLiteral("Gevonden spelers"));
+    lstN2->setUniformItemSizes(true);
+    Label4 = MaakLabel(QStringLiteral("Label4"), QStringLiteral("..."), Frame1);
+    cmdLeesSpelers = MaakKnop(QStringLiteral("cmdLeesSpelers"),
+                              QStringLiteral("Spelers ophalen uit deze zitting"), u'S', Frame1);
+    cmdStart =
+        MaakKnop(QStringLiteral("cmdStart"),
+                 QStringLiteral("Deze spelers toevoegen aan het ledenbestand"), u'D', Frame1);
+    OKButton =
+        MaakKnop(QStringLiteral("OKButton"), QStringLiteral("Klaar en opslaan"), u'K', this);
+    cmdAnnuleren =
+        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+    for (QPushButton* later : {cmdLeesSpelers, cmdStart, OKButton})
+        later->setEnabled(false);
+}
+
+void diaToevoegen::Bouw()
+{
+    setObjectName(QStringLiteral("diaToevoegen"));
+    setWindowTitle(QStringLiteral("Spelers toevoegen (speciaal)"));
+    auto* Frame1 = new QGroupBox(this);
+    Noem(Frame1, QStringLiteral("Frame1"));
+    MaakDelen(Frame1);
+    const auto label = [](const QString& naam, const QString& tekst, QWidget* ouder) {
+        return MaakLabel(naam, tekst, ouder);
+    };
+    auto* vakken = new QGridLayout(Frame1);
+    vakken->addWidget(
+        label(QStringLiteral("Label1"), QStringLiteral("Kies een zitting:"), Frame1), 0, 0);
+    vakken->addWidget(Combo1, 0, 1);
+    vakken->addWidget(
+        label(QStringLiteral("Label3"), QStringLiteral("(eindigend op '_Rev')"), Frame1), 0, 2);
+    vakken->addWidget(cmdLeesSpelers, 1, 1);
+    vakken->addWidget(lstN2, 2, 0, 1, 3);
+    vakken->addWidget(Label4, 3, 0, 1, 3);
+    vakken->addWidget(label(QStringLiteral("Label6"),
+                            QStringLiteral("Spelers worden toegevoegd aan spelergroep 'Gr08-'"),
+                            Frame1),
+                      4, 0, 1, 3);
+    vakken->addWidget(label(QStringLiteral("Label7"),
+                            QStringLiteral("U kunt ze daar later weer uit verwijderen."), Frame1),
+                      5, 0, 1, 3);
+    vakken->addWidget(cmdStart, 6, 0, 1, 3);
+    vakken->setColumnStretch(1, 1);
+    vakken->setRowStretch(2, 1);
+
+    auto* lagen = new QVBoxLayout(this);
+    for (auto* waarschuwing :
+         {label(QStringLiteral("Label2"),
+                QStringLiteral("Alleen gebruiken door deskundigen van de materie."), this),
+          label(QStringLiteral("Label5"), QStringLiteral("(u riskeert een corrupt ledenbestand)"),
+                this)}) {
+        QFont vet = waarschuwing->font();
+        vet.setBold(true);
+        waarschuwing->setFont(vet);
+        lagen->addWidget(waarschuwing);
+    }
+    lagen->addWidget(Frame1, 1);
+    lagen->addLayout(Knoppenrij({cmdAnnuleren, OKButton}));
+    const Maten maten;
+    resize(maten.Twips(7500), maten.Twips(7800));
+    ZetTabvolgorde({Combo1, cmdLeesSpelers, lstN2, cmdStart, cmdAnnuleren, OKButton});
+}
+
+void diaToevoegen::Verbind()
+{
+    connect(Combo1, &QComboBox::currentIndexChanged, this, &diaToevoegen::KiesZitting);
+    // What the sibling program or the user changed meanwhile can be fetched again.
+    connect(Combo1, &QComboBox::activated, this, [this] { cmdLeesSpelers->setEnabled(true); });
+    connect(cmdLeesSpelers, &QPushButton::clicked, this, &diaToevoegen::LeesNamen);
+    connect(cmdStart, &QPushButton::clicked, this, &diaToevoegen::VoegToe);
+    connect(OKButton, &QPushButton::clicked, this, &diaToevoegen::Bewaar);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+/// The first session is read when the window is there, so that its messages stand before it.
+void diaToevoegen::showEvent(QShowEvent* gebeurtenis)
+{
+    QDialog::showEvent(gebeurtenis);
+    if (geladen_)
+        return;
+    geladen_ = true;
+    QTimer::singleShot(0, this, &diaToevoegen::VulZittingen);
+}
+
+void diaToevoegen::VulZittingen()
+{
+    auto gevonden = RevZittingen(administratie_.schijf, administratie_.mappen);
+    if (!gevonden) {
+        MeldFout(QStringLiteral("Fout bij het lezen van de map met zittingen."), gevonden.error());
+        return;
+    }
+    zittingen_ = std::move(*gevonden);
+    VulKeus(*Combo1, zittingen_);
+    if (!zittingen_.empty())
+        KiesZitting();
+}
+
+Tekst diaToevoegen::Zitting() const
+{
+    return zittingen_.at(static_cast<std::size_t>(Combo1->currentIndex()));
+}
+
+void diaToevoegen::KiesZitting()
+{
+    const auto gehaald =
+        HaalSpelerslijst(administratie_.schijf, administratie_.mappen, Zitting());
+    if (!gehaald)
+        MeldFout(QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
+                                "spelerslijst van deze zitting is gebleven zoals hij was."),
+                 gehaald.error());
+    LeesNamen();
+}
+
+void diaToevoegen::LeesNamen()
+{
+    lstN2->clear();
+    namen_.clear();
+    auto gelezen = LeesSessieSpelers(administratie_.schijf, administratie_.mappen, Zitting());
+    if (!gelezen)
+        MeldFout(QStringLiteral("Fout bij het lezen van de spelers van deze zitting."),
+                 gelezen.error());
+    else if (gelezen->metKeys)
+        Meld(this, QMessageBox::Information,
+             QStringLiteral("De spelernamen hebben al een RVD-key, maar dit kan een oude zijn, "
+                            "wordt verwijderd."));
+    if (gelezen)
+        namen_ = std::move(gelezen->spelers);
+    for (const Sessiespeler& speler : namen_)
+        lstN2->addItem(NaarQString(Toevoegregel(speler)));
+    if (lstN2->count() > 0)
+        lstN2->setCurrentRow(0);
+    Label4->setText(
+        QStringLiteral("Aantal toe te voegen spelers: %1").arg(namen_.size()));
+    cmdStart->setEnabled(!namen_.empty());
+}
+
+void diaToevoegen::VoegToe()
+{
+    Vorige vorige{administratie_.spelers,
+                  Koppelverslag(administratie_.schijf, administratie_.mappen, Zitting())};
+    const auto verslag = VoegSpelersToe(administratie_.spelers, namen_);
+    if (!verslag) {
+        Meld(this, QMessageBox::Critical,
+             QStringLiteral("Er is niets toegevoegd: de spelersleutels zijn op. Kijk het getal na "
+                            "achter HKEY= in het spelerbestand."));
+        return;
+    }
+    const auto geschreven = vorige.verslag.Schrijf(*verslag);
+    if (!geschreven) {
+        static_cast<void>(vorige.verslag.ZetTerug()); // the first failure is the one to tell
+        administratie_.spelers = std::move(vorige.spelers);
+        MeldFout(QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
+                                "toegevoegd: zonder dat bestand zijn de nieuwe spelers niet aan "
+                                "deze zitting te koppelen."),
+                 geschreven.error());
+        return;
+    }
+    vorige_.emplace(std::move(vorige));
+    for (QWidget* klaar : std::initializer_list<QWidget*>{cmdStart, Combo1, cmdLeesSpelers})
+        klaar->setEnabled(false);
+    Meld(this, QMessageBox::Information, QStringLiteral("De spelers zijn toegevoegd."));
+    OKButton->setEnabled(true);
+    OKButton->setDefault(true);
+    OKButton->setFocus();
+}
+
+void diaToevoegen::Bewaar()
+{
+    bewaard_ = true;
+    accept();
+}
+
+void diaToevoegen::reject()
+{
+    if (vorige_) {
+        administratie_.spelers = std::move(vorige_->spelers);
+        // The keys in it may soon be those of other players.
+        const auto terug = vorige_->verslag.ZetTerug();
+        if (!terug)
+            MeldFout(QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. Verwijder "
+                                    "dat bestand: de sleutels die erin staan, zijn niet "
+                                    "uitgegeven."),
+                     terug.error());
+        vorige_.reset();
+    }
+    Meld(this, QMessageBox::Information, QStringLiteral("Er worden geen spelers toegevoegd."));
+    QDialog::reject();
+}
+
+void diaToevoegen::MeldFout(const QString& wat, const Fout& fout)
+{
+    Meld(this, QMessageBox::Warning, wat + QStringLiteral("\n\n") + Bijzonderheden(fout));
+}
+
+} // namespace plexoran

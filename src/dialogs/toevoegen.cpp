@@ -1,0 +1,268 @@
+#include "dialogs/toevoegen.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/getal.h"
+#include "platform/heelschrijven.h"
+#include "platform/items.h"
+#include "platform/regels.h"
+#include "platform/tekstorde.h"
+#include "sessions/sessiemappen.h"
+#include "sessions/tafelparen.h"
+
+namespace plexoran {
+namespace {
+
+constexpr Tekstblik Achtervoegsel = "_Rev";
+constexpr Tekstblik Spelersnaam = "Spelers.txt";
+
+Pad Zittingenmap(const Mappen& mappen)
+{
+    return Samen(mappen.RVDMAP, "Zittingen");
+}
+
+Pad Zittingmap(const Mappen& mappen, Tekstblik zitting)
+{
+    return Samen(Zittingenmap(mappen), zitting);
+}
+
+Pad Puntenboek(const Mappen& mappen)
+{
+    return Samen(mappen.RVDMAP, "Puntenboek");
+}
+
+bool IsRev(Tekstblik naam)
+{
+    return Hoofdletters(naam).ends_with(Hoofdletters(Achtervoegsel));
+}
+
+bool IsSleutelwoord(Tekstblik woord)
+{
+    constexpr std::size_t lengte = 6;
+    return woord.size() == lengte && AlsGetal(woord, 1);
+}
+
+/// Without the words of six digits at its ends.
+Tekstblik ZonderKeys(Tekstblik naam)
+{
+    naam = ZonderSpaties(naam);
+    for (;;) {
+        const auto eerste = naam.substr(0, naam.find(' '));
+        if (IsSleutelwoord(eerste)) {
+            naam = ZonderSpaties(naam.substr(eerste.size()));
+            continue;
+        }
+        const auto laatste = naam.substr(naam.rfind(' ') + 1);
+        if (!IsSleutelwoord(laatste))
+            return naam;
+        naam = ZonderSpaties(naam.substr(0, naam.size() - laatste.size()));
+    }
+}
+
+Sessiespeler Ontleed(Tekstblik naam, Tekstblik paar)
+{
+    Sessiespeler uit;
+    uit.paar = paar;
+    const auto eerste = naam.find(' ');
+    if (eerste == Tekstblik::npos) {
+        uit.achternaam = naam;
+        return uit;
+    }
+    const auto laatste = naam.rfind(' ');
+    uit.voornaam = naam.substr(0, eerste);
+    uit.achternaam = naam.substr(laatste + 1);
+    if (laatste > eerste)
+        uit.tusv = ZonderSpaties(naam.substr(eerste, laatste - eerste));
+    return uit;
+}
+
+/// Register keys begin at the base; nobody is given one below it.
+std::int32_t HoogsteKey(const Spelertabel& tabel)
+{
+    std::int32_t hoogste = 0;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+        hoogste = std::max(hoogste, Geheel32(tabel.Cel(rij, Kolom::Key)).value_or(0));
+    return hoogste < Sleutelbasis ? 0 : hoogste;
+}
+
+/// An item without "-" holds one name; the second player is nobody then.
+Helften NamenVan(const Lijstpaar& paar, Tekstblik item)
+{
+    constexpr Tekstblik zitUit = "STIL ZIT";
+    if (Hoofdletters(item).find("STILZIT") != Tekst::npos)
+        return {zitUit, zitUit};
+    return SplitsHelften(paar.spelers).value_or(Helften{paar.spelers, {}});
+}
+
+Rijvelden NieuweRij(const Sessiespeler& speler, int nummer, std::int32_t key)
+{
+    Rijvelden rij;
+    rij[Plaats(Kolom::Nr)] = std::to_string(nummer);
+    rij[Plaats(Kolom::Key)] = std::to_string(key);
+    rij[Plaats(Kolom::Groep)] = Toevoeggroep;
+    rij[Plaats(Kolom::Voornaam)] = ZonderSpaties(speler.voornaam);
+    rij[Plaats(Kolom::Tusv)] = ZonderSpaties(speler.tusv);
+    rij[Plaats(Kolom::Achternaam)] = ZonderSpaties(speler.achternaam);
+    return rij;
+}
+
+bool IsAfwezig(Tekstblik naam)
+{
+    return naam.starts_with("Afw") || naam == "AFW";
+}
+
+} // namespace
+
+Uitkomst<std::vector<Tekst>> RevZittingen(Schijf& schijf, const Mappen& mappen)
+{
+    if (mappen.RVDMAP.empty())
+        return std::vector<Tekst>();
+    auto namen = schijf.Mappen(Zittingenmap(mappen));
+    if (!namen && namen.error().soort == Foutsoort::Ontbreekt)
+        return std::vector<Tekst>();
+    if (!namen)
+        return namen;
+    std::erase_if(*namen, [](const Tekst& naam) { return !IsRev(naam); });
+    Sorteer(*namen);
+    return namen;
+}
+
+Uitkomst<Tekst> LeesClubnaam(Schijf& schijf, const Mappen& mappen)
+{
+    const auto inhoud = LeesAlsErIs(schijf, Samen(Puntenboek(mappen), "Rev_Clubnaam.txt"));
+    if (!inhoud)
+        return tl::unexpected(inhoud.error());
+    if (!*inhoud)
+        return Tekst();
+    const auto regels = Regels(**inhoud);
+    const auto eerste = regels.begin();
+    return eerste == regels.end() ? Tekst() : Tekst(ZonderSpaties(*eerste));
+}
+
+Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
+{
+    const auto club = LeesClubnaam(schijf, mappen);
+    if (!club)
+        return tl::unexpected(club.error());
+    if (club->empty())
+        return {};
+    // The name of the session is that of its folder without "_Rev", which comes behind it again.
+    const Tekstblik kaal = zitting.substr(0, zitting.size() - Achtervoegsel.size());
+    Tekst map = *club;
+    map.append("_").append(kaal).append(Achtervoegsel);
+    const auto bron = LeesAlsErIs(schijf, Samen(Samen(Puntenboek(mappen), map), Spelersnaam));
+    if (!bron)
+        return tl::unexpected(bron.error());
+    if (!*bron)
+        return {};
+    const Pad doel = Samen(Zittingmap(mappen, zitting), Spelersnaam);
+    const auto oud = schijf.LeesBestand(doel);
+    if (oud && *oud == **bron)
+        return {};
+    return SchrijfHeel(schijf, doel, **bron);
+}
+
+Tekst Toevoegregel(const Sessiespeler& speler)
+{
+    Tekst uit;
+    for (const Tekst& veld : {speler.voornaam, speler.tusv, speler.achternaam}) {
+        uit += AlsVeld(veld);
+        uit += ',';
+    }
+    return uit + AlsVeld(speler.paar);
+}
+
+Sessiespelers SessiespelersUit(Tekstblik inhoud)
+{
+    Sessiespelers uit;
+    bool eerste = true;
+    for (const Tekstblik regel : Regels(inhoud)) {
+        for (const Item& item : ItemsVan(regel)) {
+            const auto paar = PaarUit(item.tekst);
+            if (!paar)
+                continue;
+            const Helften namen = NamenVan(*paar, item.tekst);
+            for (const Tekstblik naam : {namen.eerste, namen.tweede}) {
+                const Tekstblik kaal = ZonderKeys(naam);
+                uit.metKeys = uit.metKeys || (eerste && kaal.size() != naam.size());
+                uit.spelers.push_back(Ontleed(kaal, paar->code));
+            }
+            eerste = false;
+        }
+    }
+    return uit;
+}
+
+Uitkomst<Sessiespelers> LeesSessieSpelers(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
+{
+    const auto inhoud = LeesAlsErIs(schijf, Samen(Zittingmap(mappen, zitting), Spelersnaam));
+    if (!inhoud)
+        return tl::unexpected(inhoud.error());
+    return *inhoud ? SessiespelersUit(**inhoud) : Sessiespelers();
+}
+
+bool IsNiemand(const Sessiespeler& speler)
+{
+    const Tekstblik voornaam = ZonderSpaties(speler.voornaam);
+    const Tekstblik achternaam = ZonderSpaties(speler.achternaam);
+    if (voornaam.empty() && (achternaam.empty() || IsAfwezig(achternaam)))
+        return true;
+    return IsAfwezig(voornaam) || (voornaam == "STIL" && achternaam == "ZIT");
+}
+
+std::optional<Tekst> VoegSpelersToe(Register& spelers, const std::vector<Sessiespeler>& namen)
+{
+    const std::int32_t oud = spelers.HKEY;
+    if (spelers.HKEY == 0)
+        spelers.HKEY = HoogsteKey(spelers.tabel);
+    const auto aantal = std::count_if(namen.begin(), namen.end(), [](const Sessiespeler& naam) {
+        return !IsNiemand(naam);
+    });
+    if (!ZijnErSleutels(spelers, static_cast<std::size_t>(aantal))) {
+        spelers.HKEY = oud;
+        return std::nullopt;
+    }
+    Tekst verslag;
+    for (std::size_t i = 0; i < namen.size(); ++i) {
+        Tekst key = "0";
+        if (!IsNiemand(namen[i])) {
+            const std::int32_t nieuw = NieuweSleutel(spelers).value();
+            spelers.tabel.VoegToe(NieuweRij(namen[i], spelers.tabel.Rijen() + 1, nieuw));
+            key = std::to_string(nieuw);
+        }
+        if (i % 2 == 0)
+            verslag.append(namen[i].paar).append(" ").append(key);
+        else
+            verslag.append(" - ").append(key).append("\r\n");
+    }
+    return verslag;
+}
+
+Koppelverslag::Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
+    : schijf_(schijf), pad_(Samen(Zittingmap(mappen, zitting), "Koppelverslag.txt"))
+{}
+
+Uitkomst<void> Koppelverslag::Schrijf(Tekstblik tekst)
+{
+    auto oud = LeesAlsErIs(schijf_, pad_);
+    if (!oud)
+        return tl::unexpected(oud.error());
+    oud_ = std::move(*oud);
+    aangeraakt_ = true;
+    return SchrijfHeel(schijf_, pad_, tekst);
+}
+
+Uitkomst<void> Koppelverslag::ZetTerug()
+{
+    if (!aangeraakt_)
+        return {};
+    if (oud_)
+        return SchrijfHeel(schijf_, pad_, *oud_);
+    const auto weg = schijf_.Verwijder(pad_);
+    if (!weg && weg.error().soort == Foutsoort::Ontbreekt)
+        return {};
+    return weg;
+}
+
+} // namespace plexoran

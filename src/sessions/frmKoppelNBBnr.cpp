@@ -1,0 +1,445 @@
+// The linking window finds, chooses and links.
+#include "sessions/frmKoppelNBBnr.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTimer>
+
+#include <algorithm>
+
+#include "platform/klok.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+#include "register/spelerbestand.h"
+#include "sessions/tafelparen.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int TeNoemenBestanden = 10;
+
+/// "- " before each file; of many only the first ones and how many more there are.
+QString Opsomming(const std::vector<std::string>& bestanden)
+{
+    QStringList uit;
+    for (const std::string& bestand : bestanden) {
+        if (uit.size() == TeNoemenBestanden) {
+            uit << QStringLiteral("... en nog %1").arg(bestanden.size() - TeNoemenBestanden);
+            break;
+        }
+        uit << QStringLiteral("- ") + QString::fromStdString(bestand);
+    }
+    return uit.isEmpty() ? QStringLiteral("- geen") : uit.join(QLatin1Char('\n'));
+}
+
+QString Hoeveel(const std::vector<std::string>& bestanden, const QString& wat)
+{
+    return wat + QStringLiteral(" (%1):\n").arg(bestanden.size());
+}
+
+} // namespace
+
+frmKoppelNBBnr::frmKoppelNBBnr(Administratie& administratie, QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie)
+{
+    Bouw();
+    Option1->setChecked(true);
+    Verbind();
+    ToonKnoppen();
+}
+
+void frmKoppelNBBnr::Verbind()
+{
+    // Of the two that change together only one is listened to.
+    connect(Option2, &QRadioButton::toggled, this, &frmKoppelNBBnr::KiesSoort);
+    connect(cmbC, &QComboBox::currentIndexChanged, this, [this](int plaats) {
+        cmbC->setToolTip(cmbC->itemData(plaats, Qt::ToolTipRole).toString());
+        VergeetGevonden();
+    });
+    connect(cmdZoekNamen, &QPushButton::clicked, this, &frmKoppelNBBnr::ZoekNamen);
+    connect(lstSpelers->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &frmKoppelNBBnr::ToonZwevende);
+    connect(lstRVDsp->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &frmKoppelNBBnr::ToonSpeler);
+    connect(lstSpelers, &QListView::activated, this, &frmKoppelNBBnr::KiesUitRegister);
+    connect(lstRVDsp, &QListView::activated, this, [this] { cmdStartKoppelen->setFocus(); });
+    connect(lstRVDsp->horizontalScrollBar(), &QScrollBar::valueChanged, this,
+            &frmKoppelNBBnr::PlaatsKoppen);
+    connect(cmdKiesRVDspeler, &QPushButton::clicked, this, &frmKoppelNBBnr::KiesUitRegister);
+    connect(cmdStartKoppelen, &QPushButton::clicked, this, &frmKoppelNBBnr::StartKoppelen);
+    connect(cmdStop, &QPushButton::clicked, this, [this] { stop_ = true; });
+    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
+}
+
+/// Filled when the window is there, so that its messages stand before it.
+void frmKoppelNBBnr::showEvent(QShowEvent* gebeurtenis)
+{
+    QDialog::showEvent(gebeurtenis);
+    if (geladen_)
+        return;
+    geladen_ = true;
+    QTimer::singleShot(0, this, &frmKoppelNBBnr::Laad);
+}
+
+void frmKoppelNBBnr::Laad()
+{
+    LeesRegister();
+    KiesSoort();
+}
+
+void frmKoppelNBBnr::reject()
+{
+    if (!bezig_)
+        QDialog::reject();
+}
+
+void frmKoppelNBBnr::closeEvent(QCloseEvent* gebeurtenis)
+{
+    if (bezig_)
+        gebeurtenis->ignore();
+    else
+        QDialog::closeEvent(gebeurtenis);
+}
+
+void frmKoppelNBBnr::KiesSoort()
+{
+    const bool competities = InCompetities();
+    Label4->setText(competities ? QStringLiteral("Kies een Competitie")
+                                : QStringLiteral("Kies een Zitting"));
+    cmbC->setAccessibleName(Label4->text());
+    cmdZoekNamen->setText(MetSneltoets(
+        competities ? QStringLiteral("Zoek de zwevende spelers in deze Competitie")
+                    : QStringLiteral("Zoek de zwevende spelers in deze Zitting"),
+        u'Z'));
+    VulSessies();
+}
+
+void frmKoppelNBBnr::VulSessies()
+{
+    Schijf& schijf = administratie_.schijf;
+    auto gelezen = InCompetities() ? LeesCompetities(schijf, administratie_.mappen)
+                                   : LeesZittingen(schijf, administratie_.mappen);
+    sessies_ = gelezen ? std::move(*gelezen) : std::vector<Sessiemap>();
+    std::vector<Tekst> namen;
+    for (const Sessiemap& sessie : sessies_)
+        namen.push_back(sessie.naam);
+    VulKeus(*cmbC, namen);
+    for (int i = 0; i < cmbC->count(); ++i)
+        cmbC->setItemData(i, NaarQString(Datum(sessies_[static_cast<std::size_t>(i)].tijd)),
+                          Qt::ToolTipRole);
+    cmbC->setToolTip(cmbC->currentData(Qt::ToolTipRole).toString());
+    VergeetGevonden();
+    if (!gelezen)
+        MeldFout(InCompetities() ? QStringLiteral("Fout bij het lezen van de map met competities.")
+                                 : QStringLiteral("Fout bij het lezen van de map met zittingen."),
+                 gelezen.error());
+    else if (sessies_.empty())
+        Meld(this, QMessageBox::Information,
+             InCompetities()
+                 ? QStringLiteral("Er zijn nog geen competities voorhanden.\r\nU dient dus eerst "
+                                  "een Competitie aan te maken.")
+                 : QStringLiteral("Er zijn nog geen Zittingen voorhanden.\r\nU dient dus eerst een "
+                                  "Zitting aan te maken."));
+}
+
+/// What was found belongs to the session in which it was searched.
+void frmKoppelNBBnr::VergeetGevonden()
+{
+    zwevenden_.clear();
+    zwevendregels_->setStringList({});
+    Label11->clear();
+    ToonZwevende();
+}
+
+/// From the file and not from the table: sessions may only hold keys that are saved.
+void frmKoppelNBBnr::LeesRegister()
+{
+    const Pad pad = administratie_.mappen.Spelerbestand();
+    auto inhoud = administratie_.schijf.LeesBestand(pad);
+    const auto lezing = inhoud ? SpelersUit(std::move(*inhoud)) : Spelerlezing();
+    spelers_ = lezing.tabel ? Koppelspelers(*lezing.tabel, administratie_.mappen.DFIMPG)
+                            : std::vector<Koppelspeler>();
+    constexpr std::size_t breedste = 40;
+    naambreedte_ = 4;
+    for (const Koppelspeler& speler : spelers_)
+        naambreedte_ = std::max(naambreedte_, std::min(speler.naam.size(), breedste));
+    QStringList regels;
+    for (const Koppelspeler& speler : spelers_)
+        regels << NaarQString(Spelerregel(speler, naambreedte_));
+    spelerregels_->setStringList(regels);
+    ToonSpeler();
+    PlaatsKoppen();
+    if (!inhoud)
+        MeldFout(QStringLiteral("Fout bij het lezen van het spelerbestand. Er is nu niemand om te "
+                                "koppelen."),
+                 inhoud.error());
+}
+
+/// Over the columns of the list, also when it is scrolled sideways.
+void frmKoppelNBBnr::PlaatsKoppen()
+{
+    const QFontMetrics maten(lstRVDsp->font());
+    const int begin = lstRVDsp->frameWidth() + 1 +
+                      lstRVDsp->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) -
+                      lstRVDsp->horizontalScrollBar()->value();
+    const int naam = static_cast<int>(naambreedte_);
+    for (const auto& [kop, kolom] : {std::pair{Label7, 0}, std::pair{lblNaam, 8},
+                                     std::pair{Label6, 10 + naam}, std::pair{Label8, 20 + naam}})
+        kop->move(begin + maten.horizontalAdvance(QString(kolom, QLatin1Char('0'))), 0);
+}
+
+/// The file again, for who was imported meanwhile, and the player who bears the same name.
+void frmKoppelNBBnr::KiesUitRegister()
+{
+    LeesRegister();
+    const auto gekozen = static_cast<std::size_t>(std::max(lstSpelers->currentIndex().row(), 0));
+    std::size_t plaats = 0;
+    if (gekozen < zwevenden_.size()) {
+        const Tekst naam = Hoofdletters(zwevenden_[gekozen].vindplaats.naam);
+        const auto zelfde =
+            std::find_if(spelers_.begin(), spelers_.end(), [&](const Koppelspeler& speler) {
+                return Hoofdletters(speler.naam) == naam;
+            });
+        if (zelfde != spelers_.end())
+            plaats = static_cast<std::size_t>(zelfde - spelers_.begin());
+    }
+    lstRVDsp->setCurrentIndex(spelerregels_->index(static_cast<int>(plaats)));
+    lstRVDsp->setFocus();
+}
+
+void frmKoppelNBBnr::ToonZwevende()
+{
+    const QModelIndex gekozen = lstSpelers->currentIndex();
+    txtSpeler->setText(gekozen.isValid() ? gekozen.data().toString() : QString());
+    const bool metStreep =
+        gekozen.isValid() &&
+        zwevenden_[static_cast<std::size_t>(gekozen.row())].vindplaats.naam.find('-') !=
+            Tekst::npos;
+    if (metStreep)
+        ToonResultaat({QStringLiteral("Let op: in deze naam staat een streepje. Het eerste "
+                                      "streepje van een paar scheidt de twee spelers."),
+                       QStringLiteral("Na het koppelen staat de sleutel in de plaats van alles "
+                                      "wat hierboven als naam staat.")});
+    ToonKnoppen();
+}
+
+void frmKoppelNBBnr::ToonSpeler()
+{
+    const QModelIndex gekozen = lstRVDsp->currentIndex();
+    QString tekst;
+    if (gekozen.isValid()) {
+        const Koppelspeler& speler = spelers_[static_cast<std::size_t>(gekozen.row())];
+        tekst = NaarQString(speler.key + "    " + speler.naam);
+    }
+    txtRVDspeler->setText(tekst);
+    ToonKnoppen();
+}
+
+void frmKoppelNBBnr::ToonKnoppen()
+{
+    cmdZoekNamen->setEnabled(cmbC->currentIndex() >= 0);
+    cmdStartKoppelen->setEnabled(!bezig_ && !txtSpeler->text().isEmpty() &&
+                                 !txtRVDspeler->text().isEmpty());
+}
+
+Uitkomst<std::vector<Zittingplaats>> frmKoppelNBBnr::TeDoorzoeken() const
+{
+    const Mappen& mappen = administratie_.mappen;
+    const Tekst& naam = sessies_.at(static_cast<std::size_t>(cmbC->currentIndex())).naam;
+    if (InCompetities())
+        return ZittingenVan(administratie_.schijf, mappen, naam);
+    const Zittingplaats plaats = LosseZitting(mappen, naam);
+    const auto soort = administratie_.schijf.Soort(plaats.map);
+    if (!soort)
+        return tl::unexpected(soort.error());
+    if (*soort != Padsoort::Map)
+        return tl::unexpected(
+            Fout{Foutsoort::Ontbreekt, administratie_.schijf.Toonpad(plaats.map), 0, {}});
+    return std::vector{plaats};
+}
+
+Voortgang frmKoppelNBBnr::MaakVoortgang(bool magStoppen)
+{
+    sinds_.start();
+    sindsBeeld_.start();
+    return [this, magStoppen](std::size_t gedaan, std::size_t geheel) {
+        constexpr int geduld = 300;
+        constexpr int beeld = 40;
+        if (sindsBeeld_.elapsed() < beeld)
+            return true;
+        sindsBeeld_.start();
+        prgVoortgang->setRange(0, static_cast<int>(geheel));
+        prgVoortgang->setValue(static_cast<int>(gedaan));
+        if (sinds_.elapsed() > geduld) {
+            prgVoortgang->show();
+            cmdStop->setVisible(magStoppen);
+        }
+        QApplication::processEvents();
+        return !(magStoppen && stop_);
+    };
+}
+
+template <class Werk> auto frmKoppelNBBnr::Doe(bool magStoppen, Werk werk)
+{
+    QWidget* const had = focusWidget();
+    const auto zetBezig = [this](bool bezig) {
+        bezig_ = bezig;
+        for (QWidget* deel : std::initializer_list<QWidget*>{Frame1, Frame2, Frame4, cmdEinde})
+            deel->setEnabled(!bezig);
+        ToonKnoppen();
+    };
+    stop_ = false;
+    zetBezig(true);
+    auto uit = werk(MaakVoortgang(magStoppen));
+    prgVoortgang->hide();
+    cmdStop->hide();
+    zetBezig(false);
+    if (had != nullptr)
+        had->setFocus();
+    return uit;
+}
+
+void frmKoppelNBBnr::ZoekNamen()
+{
+    VergeetGevonden();
+    ToonResultaat({});
+    const auto zittingen = TeDoorzoeken();
+    if (!zittingen) {
+        MeldFout(zittingen.error().soort == Foutsoort::Ontbreekt
+                     ? QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze map is er "
+                                      "niet meer.")
+                     : QStringLiteral("Fout bij het zoeken van de zwevende spelers."),
+                 zittingen.error());
+        return;
+    }
+    gezochtInCompetitie_ = InCompetities();
+    Zoekuitslag uitslag = Doe(true, [&](const Voortgang& voortgang) {
+        return ZoekZwevenden(administratie_.schijf, *zittingen, voortgang);
+    });
+    zwevenden_ = std::move(uitslag.zwevenden);
+    ToonGevonden(uitslag);
+}
+
+void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
+{
+    QStringList regels;
+    for (const Zwevende& zwevende : zwevenden_)
+        regels << NaarQString(Lijstregel(zwevende));
+    zwevendregels_->setStringList(regels);
+    Label11->setText(zwevenden_.empty() ? QStringLiteral("Geen zwevende spelers gevonden")
+                     : gezochtInCompetitie_
+                         ? QStringLiteral("Gevonden zwevende spelers in deze Competitie")
+                         : QStringLiteral("Gevonden zwevende spelers in deze Zitting"));
+    QStringList opmerkingen;
+    if (uitslag.gestopt)
+        opmerkingen << QStringLiteral("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.");
+    if (uitslag.overgeslagen > 0)
+        opmerkingen << QStringLiteral("Overgeslagen regels in de percentagebestanden, omdat ze "
+                                      "geen 7 velden hebben: %1.")
+                           .arg(uitslag.overgeslagen);
+    ToonResultaat(opmerkingen);
+    if (!zwevenden_.empty())
+        lstSpelers->setFocus();
+    if (!uitslag.fouten.empty())
+        MeldFout(QStringLiteral("Fout bij het lezen van de zittingbestanden: %1 bestand(en) konden "
+                                "niet worden gelezen. De spelers daaruit staan niet in de lijst. "
+                                "Het eerste:")
+                     .arg(uitslag.fouten.size()),
+                 uitslag.fouten.front());
+}
+
+void frmKoppelNBBnr::StartKoppelen()
+{
+    if (!Vraag(this, QMessageBox::Information,
+               QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de "
+                              "betreffende zittingbestanden.\r\n\r\nKies OK of Annuleer.")))
+        return;
+    constexpr int lengteKey = 6;
+    const Koppelopdracht opdracht =
+        MaakKoppelopdracht(zwevenden_, static_cast<std::size_t>(lstSpelers->currentIndex().row()),
+                           NaarTekst(txtRVDspeler->text().left(lengteKey)));
+    const Koppeluitslag uitslag = Doe(false, [&](const Voortgang& voortgang) {
+        return Koppel(administratie_.schijf, opdracht, voortgang);
+    });
+    QStringList regels;
+    const QString naam = NaarQString(opdracht.naam);
+    for (const Aangepast& aangepast : uitslag.aangepast)
+        regels << naam + QStringLiteral(" - ") + NaarQString(aangepast.code) +
+                      (aangepast.soort == Lijstsoort::Spelers
+                           ? QStringLiteral(" aangepast in Spelerbestand.")
+                           : QStringLiteral(" aangepast in Percentagebestand."));
+    for (const std::string& bestand : uitslag.nietGewijzigd)
+        regels << QStringLiteral("Niet aangepast: ") + QString::fromStdString(bestand);
+    ToonResultaat(regels);
+    if (uitslag.fout)
+        MeldAfgebroken(uitslag);
+    else
+        MeldKoppeling(opdracht, uitslag);
+}
+
+void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppeluitslag& uitslag)
+{
+    const QString naam = NaarQString(opdracht.naam);
+    VergeetGekoppelde(opdracht);
+    if (uitslag.aangepast.empty()) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. "
+                            "Misschien heeft een ander programma ze intussen gewijzigd.")
+                 .arg(naam));
+        return;
+    }
+    // Not arg: a name may hold a "%1" of its own.
+    const QString gekoppeld =
+        gezochtInCompetitie_
+            ? QString(naam + QStringLiteral(" is in alle competitie-zittingen gekoppeld (") +
+                      QString::number(opdracht.regels.size()) + QStringLiteral(" keer)"))
+            : QString(QStringLiteral("Speler ") + naam + QStringLiteral(" is gekoppeld."));
+    Meld(this, QMessageBox::Information, gekoppeld);
+}
+
+void frmKoppelNBBnr::MeldAfgebroken(const Koppeluitslag& uitslag)
+{
+    Meld(this, QMessageBox::Critical,
+         QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of "
+                        "nog zoals het was. Verhelp de oorzaak en koppel deze speler opnieuw; dan "
+                        "wordt de rest aangepast.\n\n") +
+             Hoeveel(uitslag.gewijzigd, QStringLiteral("Aangepast")) +
+             Opsomming(uitslag.gewijzigd) + QStringLiteral("\n\n") +
+             Hoeveel(uitslag.nietGewijzigd, QStringLiteral("Niet aangepast")) +
+             Opsomming(uitslag.nietGewijzigd) + QStringLiteral("\n\n") +
+             Bijzonderheden(*uitslag.fout));
+}
+
+/// The places that now hold the key leave the list; the next player becomes the chosen one only
+/// when the user picks him.
+void frmKoppelNBBnr::VergeetGekoppelde(const Koppelopdracht& opdracht)
+{
+    const Tekst plaats =
+        gezochtInCompetitie_ ? Tekst() : Plaatssleutel(opdracht.regels.front().vindplaats.code);
+    std::erase_if(zwevenden_, [&](const Zwevende& zwevende) {
+        return zwevende.vindplaats.naam == opdracht.naam &&
+               (gezochtInCompetitie_ || Plaatssleutel(zwevende.vindplaats.code) == plaats);
+    });
+    QStringList regels;
+    for (const Zwevende& zwevende : zwevenden_)
+        regels << NaarQString(Lijstregel(zwevende));
+    zwevendregels_->setStringList(regels);
+    lstSpelers->setCurrentIndex({});
+    lstRVDsp->setCurrentIndex({});
+    ToonZwevende();
+    ToonSpeler();
+}
+
+void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)
+{
+    lblResultaat->setText(regels.join(QLatin1Char('\n')));
+}
+
+void frmKoppelNBBnr::MeldFout(const QString& wat, const Fout& fout)
+{
+    Meld(this, QMessageBox::Warning, wat + QStringLiteral("\n\n") + Bijzonderheden(fout));
+}
+
+} // namespace plexoran

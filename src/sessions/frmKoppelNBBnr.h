@@ -1,0 +1,116 @@
+// Linking floating players: names in session files that get the register key of a player of the
+// import group.
+#pragma once
+
+#include <QComboBox>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStringListModel>
+
+#include "register/administratie.h"
+#include "sessions/koppelen.h"
+
+namespace plexoran {
+
+class frmKoppelNBBnr : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmKoppelNBBnr(Administratie& administratie, QWidget* ouder);
+
+    /// Not while files are being read or written.
+    void reject() override;
+
+  protected:
+    void closeEvent(QCloseEvent* gebeurtenis) override;
+    void showEvent(QShowEvent* gebeurtenis) override;
+
+  private:
+    // Building (frmKoppelNBBnr_bouw.cpp)
+    void Bouw();
+    QGroupBox* BouwKeuze();
+    QGroupBox* BouwUitleg();
+    QGroupBox* BouwZwevenden();
+    QGroupBox* BouwRegister();
+    QWidget* BouwKolomkoppen();
+    QWidget* BouwOnderkant();
+    QListView* MaakLijst(const QString& naam, const QString& gesproken, QStringListModel* regels,
+                         QWidget* ouder);
+    void Verbind();
+    void StelTabvolgordeIn();
+
+    void Laad();
+    void KiesSoort();
+    void VulSessies();
+    void VergeetGevonden();
+    void LeesRegister();
+    void PlaatsKoppen();
+    void KiesUitRegister();
+    void ZoekNamen();
+    void ToonGevonden(const Zoekuitslag& uitslag);
+    void ToonZwevende();
+    void ToonSpeler();
+    void StartKoppelen();
+    void MeldKoppeling(const Koppelopdracht& opdracht, const Koppeluitslag& uitslag);
+    void MeldAfgebroken(const Koppeluitslag& uitslag);
+    void VergeetGekoppelde(const Koppelopdracht& opdracht);
+    void ToonKnoppen();
+    void MeldFout(const QString& wat, const Fout& fout);
+    void ToonResultaat(const QStringList& regels);
+
+    /// Keeps the window alive during `werk` and shows how far it is when it takes long.
+    template <class Werk> auto Doe(bool magStoppen, Werk werk);
+    [[nodiscard]] Voortgang MaakVoortgang(bool magStoppen);
+
+    [[nodiscard]] bool InCompetities() const { return Option2->isChecked(); }
+    [[nodiscard]] Uitkomst<std::vector<Zittingplaats>> TeDoorzoeken() const;
+
+    Administratie& administratie_;
+    std::vector<Sessiemap> sessies_;
+    std::vector<Zwevende> zwevenden_; ///< of the lines of lstSpelers
+    std::vector<Koppelspeler> spelers_; ///< of the lines of lstRVDsp
+    std::size_t naambreedte_ = 0;       ///< of the name column, in characters
+    bool gezochtInCompetitie_ = false;
+    bool geladen_ = false;
+    bool bezig_ = false;
+    bool stop_ = false;
+    QElapsedTimer sinds_;
+    QElapsedTimer sindsBeeld_;
+
+    QStringListModel* zwevendregels_ = nullptr;
+    QStringListModel* spelerregels_ = nullptr;
+
+    QGroupBox* Frame1 = nullptr;
+    QGroupBox* Frame2 = nullptr;
+    QGroupBox* Frame4 = nullptr;
+    QRadioButton* Option1 = nullptr;
+    QRadioButton* Option2 = nullptr;
+    QLabel* Label4 = nullptr;
+    QComboBox* cmbC = nullptr;
+    QPushButton* cmdZoekNamen = nullptr;
+    QLabel* Label11 = nullptr;
+    QListView* lstSpelers = nullptr;
+    QLineEdit* txtSpeler = nullptr;
+    QPushButton* cmdKiesRVDspeler = nullptr;
+    QWidget* kolomkoppen_ = nullptr;
+    QLabel* Label6 = nullptr;
+    QLabel* Label7 = nullptr;
+    QLabel* Label8 = nullptr;
+    QLabel* lblNaam = nullptr;
+    QListView* lstRVDsp = nullptr;
+    QLineEdit* txtRVDspeler = nullptr;
+    QPushButton* cmdStartKoppelen = nullptr;
+    QLabel* lblResultaat = nullptr;
+    QProgressBar* prgVoortgang = nullptr;
+    QPushButton* cmdStop = nullptr;
+    QPushButton* cmdEinde = nullptr;
+};
+
+} // namespace plexoran

@@ -1,0 +1,231 @@
+// Building the linking window: its controls, their texts and places.
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "platform/scherm/bouwstenen.h"
+#include "sessions/frmKoppelNBBnr.h"
+
+namespace plexoran {
+namespace {
+
+QLabel* MaakTekst(const char16_t* naam, const QString& tekst, QWidget* ouder)
+{
+    QLabel* label = MaakLabel(QString::fromUtf16(naam), tekst, ouder);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return label;
+}
+
+QLineEdit* MaakLeesvak(const QString& naam, const QString& gesproken, QWidget* ouder)
+{
+    auto* vak = new QLineEdit(ouder);
+    Noem(vak, naam, gesproken);
+    vak->setReadOnly(true);
+    return vak;
+}
+
+} // namespace
+
+void frmKoppelNBBnr::Bouw()
+{
+    setObjectName(QStringLiteral("frmKoppelNBBnr"));
+    setWindowTitle(
+        QStringLiteral("Koppelen van zwevende NBB-spelers  aan RVD-ledenbestand"));
+    auto* vakken = new QGridLayout(this);
+    vakken->addWidget(BouwKeuze(), 0, 0);
+    vakken->addWidget(BouwUitleg(), 0, 1);
+    vakken->addWidget(BouwZwevenden(), 1, 0);
+    vakken->addWidget(BouwRegister(), 1, 1);
+    vakken->addWidget(BouwOnderkant(), 2, 0, 1, 2);
+    vakken->setColumnStretch(0, 4);
+    vakken->setColumnStretch(1, 6);
+    vakken->setRowStretch(1, 1);
+    const Maten maten;
+    PasInScherm(this, {maten.Twips(15000), maten.Twips(10800)});
+    StelTabvolgordeIn();
+}
+
+QGroupBox* frmKoppelNBBnr::BouwKeuze()
+{
+    Frame1 = new QGroupBox(QStringLiteral("Wijziging van een NBBnr"), this);
+    Noem(Frame1, QStringLiteral("Frame1"));
+    Option1 = new QRadioButton(MetSneltoets(QStringLiteral("In losse Zittingen"), u't'), Frame1);
+    Noem(Option1, QStringLiteral("Option1"));
+    Option2 = new QRadioButton(MetSneltoets(QStringLiteral("In Competities"), u'C'), Frame1);
+    Noem(Option2, QStringLiteral("Option2"));
+    Label4 = MaakLabel(QStringLiteral("Label4"), QString(), Frame1);
+    cmbC = new QComboBox(Frame1);
+    Noem(cmbC, QStringLiteral("cmbC"));
+    cmbC->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cmdZoekNamen =
+        MaakKnop(QStringLiteral("cmdZoekNamen"),
+                 QStringLiteral("Zoek de zwevende spelers in RVD"), u'Z', Frame1);
+    auto* lagen = new QVBoxLayout(Frame1);
+    lagen->addWidget(Option1);
+    lagen->addWidget(Option2);
+    lagen->addWidget(Label4);
+    lagen->addWidget(cmbC);
+    lagen->addWidget(cmdZoekNamen);
+    lagen->addStretch();
+    return Frame1;
+}
+
+QGroupBox* frmKoppelNBBnr::BouwUitleg()
+{
+    auto* Frame3 = new QGroupBox(QStringLiteral("Waarom dit programmadeel?"), this);
+    Noem(Frame3, QStringLiteral("Frame3"));
+    auto* lagen = new QVBoxLayout(Frame3);
+    lagen->addWidget(MaakTekst(
+        u"Label1",
+        QStringLiteral("Als er in geimporteerde NBB-zittingen (o.a. BWS-zittingen) spelers "
+                       "voorkomen die (ten tijde van het importeren!) nog niet in het "
+                       "RVD-ledenbestand bekend waren (zgn zwevende spelers), dan kunt u hiermee "
+                       "alsnog die spelers koppelen."),
+        Frame3));
+    lagen->addWidget(MaakTekst(
+        u"Label2",
+        QStringLiteral("Dit hoeft niet persé, maar als u gebruik wilt maken van de speciale "
+                       "RVD-opties en zeker in de geimporteeerde competitiezittingen dan moet u "
+                       "dit doen. Denk bijv aan berekenen Clubkampioenschap."),
+        Frame3));
+    lagen->addWidget(MaakTekst(u"Label3",
+                               QStringLiteral("Vóór dit koppelen moeten de spelergegevens vooraf "
+                                              "van NBB naar RVD geimporteerd zijn."),
+                               Frame3));
+    lagen->addWidget(MaakTekst(
+        u"Label5",
+        QStringLiteral(" Als in NBB een (evt fictief) NBBnr wordt gewijzigd, bijv een cursist "
+                       "wordt NBB-lid, dan kan men volstaan met het handmatig wijzigen van het "
+                       "NBBnr in beide, NBB en RVD (groep Gr05)."),
+        Frame3));
+    lagen->addStretch();
+    return Frame3;
+}
+
+QListView* frmKoppelNBBnr::MaakLijst(const QString& naam, const QString& gesproken,
+                                     QStringListModel* regels, QWidget* ouder)
+{
+    auto* lijst = new QListView(ouder);
+    Noem(lijst, naam, gesproken);
+    lijst->setModel(regels);
+    lijst->setUniformItemSizes(true); // a hundred thousand lines must not be measured one by one
+    lijst->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lijst->setTabKeyNavigation(false);
+    return lijst;
+}
+
+QGroupBox* frmKoppelNBBnr::BouwZwevenden()
+{
+    Frame2 = new QGroupBox(this);
+    Noem(Frame2, QStringLiteral("Frame2"), QStringLiteral("Zwevende spelers"));
+    zwevendregels_ = new QStringListModel(this);
+    Label11 = MaakLabel(QStringLiteral("Label11"), QString(), Frame2);
+    lstSpelers = MaakLijst(QStringLiteral("lstSpelers"),
+                           QStringLiteral("Gevonden zwevende spelers"), zwevendregels_, Frame2);
+    txtSpeler =
+        MaakLeesvak(QStringLiteral("txtSpeler"), QStringLiteral("Gekozen zwevende speler"), Frame2);
+    auto* lagen = new QVBoxLayout(Frame2);
+    lagen->addWidget(Label11);
+    lagen->addWidget(lstSpelers, 1);
+    lagen->addWidget(MaakLabel(QStringLiteral("Label12"),
+                               QStringLiteral("Selecteer hierboven 1 speler"), Frame2));
+    lagen->addWidget(txtSpeler);
+    return Frame2;
+}
+
+QGroupBox* frmKoppelNBBnr::BouwRegister()
+{
+    Frame4 = new QGroupBox(this);
+    Noem(Frame4, QStringLiteral("Frame4"), QStringLiteral("Spelers uit RVD"));
+    const QString groep = NaarQString(administratie_.mappen.DFIMPG);
+    spelerregels_ = new QStringListModel(this);
+    cmdKiesRVDspeler = MaakKnop(QStringLiteral("cmdKiesRVDspeler"),
+                                QStringLiteral("Kies speler uit RVD (Gr05)"), u'K', Frame4);
+    lstRVDsp = MaakLijst(QStringLiteral("lstRVDsp"), QStringLiteral("Spelers uit RVD"),
+                         spelerregels_, Frame4);
+    QFont vast = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    vast.setPixelSize(QFontInfo(font()).pixelSize());
+    lstRVDsp->setFont(vast);
+    txtRVDspeler =
+        MaakLeesvak(QStringLiteral("txtRVDspeler"), QStringLiteral("Gekozen speler uit RVD"), Frame4);
+    auto* lagen = new QVBoxLayout(Frame4);
+    lagen->addWidget(MaakTekst(u"Label9",
+                               QStringLiteral("Een speler moet vooraf in RVD (groep %1) bekend "
+                                              "zijn anders kan hij hieronder niet gekozen worden.")
+                                   .arg(groep),
+                               Frame4));
+    lagen->addWidget(MaakTekst(u"Label10",
+                               QStringLiteral("Kies hier de RVD-speler (uit %1) wiens identiteit "
+                                              "hetzelfde is als de linker speler.")
+                                   .arg(groep),
+                               Frame4));
+    lagen->addWidget(cmdKiesRVDspeler);
+    lagen->addWidget(BouwKolomkoppen());
+    lagen->addWidget(lstRVDsp, 1);
+    lagen->addWidget(txtRVDspeler);
+    return Frame4;
+}
+
+/// Placed over the columns of the list when its lines are known.
+QWidget* frmKoppelNBBnr::BouwKolomkoppen()
+{
+    kolomkoppen_ = new QWidget(Frame4);
+    Label7 = MaakLabel(QStringLiteral("Label7"), QStringLiteral("RVDnr"), kolomkoppen_);
+    lblNaam = MaakLabel(QStringLiteral("lblNaam"), QStringLiteral("Naam"), kolomkoppen_);
+    Label6 = MaakLabel(QStringLiteral("Label6"), QStringLiteral("NBBnr"), kolomkoppen_);
+    Label8 = MaakLabel(QStringLiteral("Label8"), QStringLiteral("NBBledengroep"), kolomkoppen_);
+    for (QLabel* kop : {Label7, lblNaam, Label6, Label8})
+        kop->adjustSize();
+    kolomkoppen_->setFixedHeight(Label7->height());
+    return kolomkoppen_;
+}
+
+QWidget* frmKoppelNBBnr::BouwOnderkant()
+{
+    auto* onder = new QWidget(this);
+    cmdStartKoppelen =
+        MaakKnop(QStringLiteral("cmdStartKoppelen"),
+                 QStringLiteral("OK als dit identieke spelers zijn ..."), u'O', onder);
+    cmdStop = MaakKnop(QStringLiteral("cmdStop"), QStringLiteral("Stoppen"), u'S', onder);
+    cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Einde"), u'E', onder);
+    prgVoortgang = new QProgressBar(onder);
+    Noem(prgVoortgang, QStringLiteral("prgVoortgang"), QStringLiteral("Voortgang"));
+    prgVoortgang->hide();
+    cmdStop->hide();
+    auto* vlak = new QScrollArea(onder);
+    Noem(vlak, QStringLiteral("vlakResultaat"), QStringLiteral("Resultaat"));
+    lblResultaat = MaakLabel(QStringLiteral("lblResultaat"), QString(), vlak);
+    lblResultaat->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    lblResultaat->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblResultaat->setMargin(4);
+    vlak->setWidget(lblResultaat);
+    vlak->setWidgetResizable(true);
+    constexpr int regels = 5;
+    vlak->setFixedHeight(regels * fontMetrics().lineSpacing() + 12);
+
+    auto* knoppen = new QHBoxLayout;
+    knoppen->addWidget(MaakLabel(QStringLiteral("Label13"),
+                                 QStringLiteral("Elke speler moeten afzonderlijk verwerkt worden!"),
+                                 onder));
+    knoppen->addStretch();
+    knoppen->addWidget(prgVoortgang);
+    knoppen->addWidget(cmdStop);
+    knoppen->addWidget(cmdStartKoppelen);
+    knoppen->addWidget(cmdEinde);
+    auto* lagen = new QVBoxLayout(onder);
+    lagen->setContentsMargins(0, 0, 0, 0);
+    lagen->addLayout(knoppen);
+    lagen->addWidget(vlak);
+    return onder;
+}
+
+/// As the eye reads: what to search, what was found, the register, then the link.
+void frmKoppelNBBnr::StelTabvolgordeIn()
+{
+    ZetTabvolgorde({Option1, Option2, cmbC, cmdZoekNamen, lstSpelers, txtSpeler, cmdKiesRVDspeler,
+                    lstRVDsp, txtRVDspeler, cmdStop, cmdStartKoppelen, cmdEinde, lblResultaat});
+}
+
+} // namespace plexoran
