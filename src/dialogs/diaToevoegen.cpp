@@ -30,8 +30,7 @@ void diaToevoegen::MaakDelen(QGroupBox* Frame1)
     cmdStart =
         MaakKnop(QStringLiteral("cmdStart"),
                  QStringLiteral("Deze spelers toevoegen aan het ledenbestand"), u'D', Frame1);
-    OKButton =
-        MaakKnop(QStringLiteral("OKButton"), QStringLiteral("Klaar en opslaan"), u'K', this);
+    OKButton = MaakKnop(QStringLiteral("OKButton"), QStringLiteral("Klaar en opslaan"), u'K', this);
     cmdAnnuleren =
         MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
     for (QPushButton* later : {cmdLeesSpelers, cmdStart, OKButton})
@@ -49,8 +48,8 @@ void diaToevoegen::Bouw()
         return MaakLabel(naam, tekst, ouder);
     };
     auto* vakken = new QGridLayout(Frame1);
-    vakken->addWidget(
-        label(QStringLiteral("Label1"), QStringLiteral("Kies een zitting:"), Frame1), 0, 0);
+    vakken->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Kies een zitting:"), Frame1),
+                      0, 0);
     vakken->addWidget(Combo1, 0, 1);
     vakken->addWidget(
         label(QStringLiteral("Label3"), QStringLiteral("(eindigend op '_Rev')"), Frame1), 0, 2);
@@ -127,8 +126,7 @@ Tekst diaToevoegen::Zitting() const
 
 void diaToevoegen::KiesZitting()
 {
-    const auto gehaald =
-        HaalSpelerslijst(administratie_.schijf, administratie_.mappen, Zitting());
+    const auto gehaald = HaalSpelerslijst(administratie_.schijf, administratie_.mappen, Zitting());
     if (!gehaald)
         MeldFout(QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
                                 "spelerslijst van deze zitting is gebleven zoals hij was."),
@@ -154,8 +152,7 @@ void diaToevoegen::LeesNamen()
         lstN2->addItem(NaarQString(Toevoegregel(speler)));
     if (lstN2->count() > 0)
         lstN2->setCurrentRow(0);
-    Label4->setText(
-        QStringLiteral("Aantal toe te voegen spelers: %1").arg(namen_.size()));
+    Label4->setText(QStringLiteral("Aantal toe te voegen spelers: %1").arg(namen_.size()));
     cmdStart->setEnabled(!namen_.empty());
 }
 

@@ -216,9 +216,8 @@ std::optional<Tekst> VoegSpelersToe(Register& spelers, const std::vector<Sessies
     const std::int32_t oud = spelers.HKEY;
     if (spelers.HKEY == 0)
         spelers.HKEY = HoogsteKey(spelers.tabel);
-    const auto aantal = std::count_if(namen.begin(), namen.end(), [](const Sessiespeler& naam) {
-        return !IsNiemand(naam);
-    });
+    const auto aantal = std::count_if(namen.begin(), namen.end(),
+                                      [](const Sessiespeler& naam) { return !IsNiemand(naam); });
     if (!ZijnErSleutels(spelers, static_cast<std::size_t>(aantal))) {
         spelers.HKEY = oud;
         return std::nullopt;

@@ -92,8 +92,7 @@ void frmLedenAdmin::MaakKnoppen()
     cmdToonGatenlijst->setToolTip(
         QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
     // Their windows are not there yet.
-    for (QPushButton* later :
-         {cmdParenOnderhoud, cmdPrint, cmdToelichting})
+    for (QPushButton* later : {cmdParenOnderhoud, cmdPrint, cmdToelichting})
         later->setEnabled(false);
 }
 

@@ -109,10 +109,10 @@ void frmKoppelNBBnr::KiesSoort()
     Label4->setText(competities ? QStringLiteral("Kies een Competitie")
                                 : QStringLiteral("Kies een Zitting"));
     cmbC->setAccessibleName(Label4->text());
-    cmdZoekNamen->setText(MetSneltoets(
-        competities ? QStringLiteral("Zoek de zwevende spelers in deze Competitie")
-                    : QStringLiteral("Zoek de zwevende spelers in deze Zitting"),
-        u'Z'));
+    cmdZoekNamen->setText(
+        MetSneltoets(competities ? QStringLiteral("Zoek de zwevende spelers in deze Competitie")
+                                 : QStringLiteral("Zoek de zwevende spelers in deze Zitting"),
+                     u'Z'));
     VulSessies();
 }
 
@@ -213,10 +213,9 @@ void frmKoppelNBBnr::ToonZwevende()
 {
     const QModelIndex gekozen = lstSpelers->currentIndex();
     txtSpeler->setText(gekozen.isValid() ? gekozen.data().toString() : QString());
-    const bool metStreep =
-        gekozen.isValid() &&
-        zwevenden_[static_cast<std::size_t>(gekozen.row())].vindplaats.naam.find('-') !=
-            Tekst::npos;
+    const bool metStreep = gekozen.isValid() &&
+                           zwevenden_[static_cast<std::size_t>(gekozen.row())].vindplaats.naam.find(
+                               '-') != Tekst::npos;
     if (metStreep)
         ToonResultaat({QStringLiteral("Let op: in deze naam staat een streepje. Het eerste "
                                       "streepje van een paar scheidt de twee spelers."),

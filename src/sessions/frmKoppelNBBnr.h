@@ -74,7 +74,7 @@ class frmKoppelNBBnr : public QDialog {
 
     Administratie& administratie_;
     std::vector<Sessiemap> sessies_;
-    std::vector<Zwevende> zwevenden_; ///< of the lines of lstSpelers
+    std::vector<Zwevende> zwevenden_;   ///< of the lines of lstSpelers
     std::vector<Koppelspeler> spelers_; ///< of the lines of lstRVDsp
     std::size_t naambreedte_ = 0;       ///< of the name column, in characters
     bool gezochtInCompetitie_ = false;

@@ -31,8 +31,7 @@ QLineEdit* MaakLeesvak(const QString& naam, const QString& gesproken, QWidget* o
 void frmKoppelNBBnr::Bouw()
 {
     setObjectName(QStringLiteral("frmKoppelNBBnr"));
-    setWindowTitle(
-        QStringLiteral("Koppelen van zwevende NBB-spelers  aan RVD-ledenbestand"));
+    setWindowTitle(QStringLiteral("Koppelen van zwevende NBB-spelers  aan RVD-ledenbestand"));
     auto* vakken = new QGridLayout(this);
     vakken->addWidget(BouwKeuze(), 0, 0);
     vakken->addWidget(BouwUitleg(), 0, 1);
@@ -43,7 +42,7 @@ void frmKoppelNBBnr::Bouw()
     vakken->setColumnStretch(1, 6);
     vakken->setRowStretch(1, 1);
     const Maten maten;
-    PasInScherm(this, {maten.Twips(15000), maten.Twips(10800)});
+    PasInScherm(this, {maten.Twips(15000), maten.Twips(10200)});
     StelTabvolgordeIn();
 }
 
@@ -59,9 +58,8 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
     cmbC = new QComboBox(Frame1);
     Noem(cmbC, QStringLiteral("cmbC"));
     cmbC->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cmdZoekNamen =
-        MaakKnop(QStringLiteral("cmdZoekNamen"),
-                 QStringLiteral("Zoek de zwevende spelers in RVD"), u'Z', Frame1);
+    cmdZoekNamen = MaakKnop(QStringLiteral("cmdZoekNamen"),
+                            QStringLiteral("Zoek de zwevende spelers in RVD"), u'Z', Frame1);
     auto* lagen = new QVBoxLayout(Frame1);
     lagen->addWidget(Option1);
     lagen->addWidget(Option2);
@@ -76,31 +74,46 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
 {
     auto* Frame3 = new QGroupBox(QStringLiteral("Waarom dit programmadeel?"), this);
     Noem(Frame3, QStringLiteral("Frame3"));
-    auto* lagen = new QVBoxLayout(Frame3);
+    // A small screen scrolls the texts; it does not cut them.
+    auto* vlak = new QScrollArea(Frame3);
+    Noem(vlak, QStringLiteral("vlakUitleg"), QStringLiteral("Waarom dit programmadeel?"));
+    vlak->setFrameShape(QFrame::NoFrame);
+    vlak->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* blad = new QWidget(vlak);
+    auto* lagen = new QVBoxLayout(blad);
     lagen->addWidget(MaakTekst(
         u"Label1",
         QStringLiteral("Als er in geimporteerde NBB-zittingen (o.a. BWS-zittingen) spelers "
                        "voorkomen die (ten tijde van het importeren!) nog niet in het "
                        "RVD-ledenbestand bekend waren (zgn zwevende spelers), dan kunt u hiermee "
                        "alsnog die spelers koppelen."),
-        Frame3));
+        blad));
     lagen->addWidget(MaakTekst(
         u"Label2",
         QStringLiteral("Dit hoeft niet persé, maar als u gebruik wilt maken van de speciale "
                        "RVD-opties en zeker in de geimporteeerde competitiezittingen dan moet u "
                        "dit doen. Denk bijv aan berekenen Clubkampioenschap."),
-        Frame3));
+        blad));
     lagen->addWidget(MaakTekst(u"Label3",
                                QStringLiteral("Vóór dit koppelen moeten de spelergegevens vooraf "
                                               "van NBB naar RVD geimporteerd zijn."),
-                               Frame3));
+                               blad));
     lagen->addWidget(MaakTekst(
         u"Label5",
         QStringLiteral(" Als in NBB een (evt fictief) NBBnr wordt gewijzigd, bijv een cursist "
                        "wordt NBB-lid, dan kan men volstaan met het handmatig wijzigen van het "
                        "NBBnr in beide, NBB en RVD (groep Gr05)."),
-        Frame3));
+        blad));
     lagen->addStretch();
+    lagen->setContentsMargins(0, 0, 0, 0);
+    vlak->setWidget(blad);
+    vlak->setWidgetResizable(true);
+    constexpr int tekstregels = 12;
+    vlak->setMinimumHeight(tekstregels * fontMetrics().lineSpacing());
+    vlak->viewport()->setAutoFillBackground(false);
+    blad->setAutoFillBackground(false);
+    auto* rand = new QVBoxLayout(Frame3);
+    rand->addWidget(vlak);
     return Frame3;
 }
 
@@ -148,19 +161,22 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
     QFont vast = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     vast.setPixelSize(QFontInfo(font()).pixelSize());
     lstRVDsp->setFont(vast);
-    txtRVDspeler =
-        MaakLeesvak(QStringLiteral("txtRVDspeler"), QStringLiteral("Gekozen speler uit RVD"), Frame4);
+    txtRVDspeler = MaakLeesvak(QStringLiteral("txtRVDspeler"),
+                               QStringLiteral("Gekozen speler uit RVD"), Frame4);
     auto* lagen = new QVBoxLayout(Frame4);
-    lagen->addWidget(MaakTekst(u"Label9",
-                               QStringLiteral("Een speler moet vooraf in RVD (groep %1) bekend "
-                                              "zijn anders kan hij hieronder niet gekozen worden.")
-                                   .arg(groep),
-                               Frame4));
-    lagen->addWidget(MaakTekst(u"Label10",
-                               QStringLiteral("Kies hier de RVD-speler (uit %1) wiens identiteit "
-                                              "hetzelfde is als de linker speler.")
-                                   .arg(groep),
-                               Frame4));
+    const auto wenk = [&](const char16_t* naam, const QString& tekst) {
+        QLabel* label = MaakTekst(naam, tekst, Frame4);
+        label->setMinimumHeight(2 * fontMetrics().lineSpacing());
+        lagen->addWidget(label);
+    };
+    wenk(u"Label9",
+         QStringLiteral("Een speler moet vooraf in RVD (groep %1) bekend zijn anders kan "
+                        "hij hieronder niet gekozen worden.")
+             .arg(groep));
+    wenk(u"Label10",
+         QStringLiteral("Kies hier de RVD-speler (uit %1) wiens identiteit hetzelfde is "
+                        "als de linker speler.")
+             .arg(groep));
     lagen->addWidget(cmdKiesRVDspeler);
     lagen->addWidget(BouwKolomkoppen());
     lagen->addWidget(lstRVDsp, 1);
@@ -202,7 +218,7 @@ QWidget* frmKoppelNBBnr::BouwOnderkant()
     lblResultaat->setMargin(4);
     vlak->setWidget(lblResultaat);
     vlak->setWidgetResizable(true);
-    constexpr int regels = 5;
+    constexpr int regels = 4;
     vlak->setFixedHeight(regels * fontMetrics().lineSpacing() + 12);
 
     auto* knoppen = new QHBoxLayout;
@@ -224,7 +240,8 @@ QWidget* frmKoppelNBBnr::BouwOnderkant()
 /// As the eye reads: what to search, what was found, the register, then the link.
 void frmKoppelNBBnr::StelTabvolgordeIn()
 {
-    ZetTabvolgorde({Option1, Option2, cmbC, cmdZoekNamen, lstSpelers, txtSpeler, cmdKiesRVDspeler,
+    auto* vlakUitleg = findChild<QWidget*>(QStringLiteral("vlakUitleg"));
+    ZetTabvolgorde({Option1, Option2, cmbC, cmdZoekNamen, vlakUitleg, lstSpelers, txtSpeler, cmdKiesRVDspeler,
                     lstRVDsp, txtRVDspeler, cmdStop, cmdStartKoppelen, cmdEinde, lblResultaat});
 }
 

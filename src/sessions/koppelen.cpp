@@ -40,7 +40,8 @@ struct Uitgevoerd {
     std::optional<Fout> fout;
 };
 
-Uitgevoerd PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort, const Naamvervanging& vervanging)
+Uitgevoerd PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort,
+                  const Naamvervanging& vervanging)
 {
     const auto inhoud = LeesAlsErIs(schijf, pad);
     if (!inhoud)
@@ -56,8 +57,8 @@ Uitgevoerd PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort, const Naamve
     if (geschreven)
         return {.vervangen = std::move(nieuw.vervangen), .geschreven = true, .fout = std::nullopt};
     const bool staatEr = StaatEr(schijf, pad, nieuw.inhoud);
-    return {.vervangen = staatEr ? std::move(nieuw.vervangen)
-                                 : std::vector<bool>(vervanging.codes.size()),
+    return {.vervangen =
+                staatEr ? std::move(nieuw.vervangen) : std::vector<bool>(vervanging.codes.size()),
             .geschreven = staatEr,
             .fout = geschreven.error()};
 }
@@ -87,8 +88,7 @@ std::vector<Groep> PerZitting(const Koppelopdracht& opdracht)
     std::vector<Groep> groepen;
     for (const Zwevende& regel : opdracht.regels) {
         if (groepen.empty() || groepen.back().plaats->map != regel.plaats.map)
-            groepen.push_back(
-                {&regel.plaats, {{}, opdracht.naam, opdracht.key}, false, false});
+            groepen.push_back({&regel.plaats, {{}, opdracht.naam, opdracht.key}, false, false});
         Groep& groep = groepen.back();
         groep.vervanging.codes.push_back(regel.vindplaats.code);
         if (regel.vindplaats.naam == opdracht.naam)
@@ -244,9 +244,9 @@ std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel, Tekstblik impo
         }
         Tekst sleutel = Sorteersleutel(cel(Kolom::Achternaam) + " " + cel(Kolom::Voornaam) + " " +
                                        cel(Kolom::Tusv) + " " + cel(Kolom::Key));
-        gevonden.emplace_back(std::move(sleutel),
-                              Koppelspeler{cel(Kolom::Key), std::move(naam), cel(Kolom::NBBnr),
-                                           cel(Kolom::NBBgr)});
+        gevonden.emplace_back(
+            std::move(sleutel),
+            Koppelspeler{cel(Kolom::Key), std::move(naam), cel(Kolom::NBBnr), cel(Kolom::NBBgr)});
     }
     std::stable_sort(gevonden.begin(), gevonden.end(),
                      [](const auto& een, const auto& ander) { return een.first < ander.first; });

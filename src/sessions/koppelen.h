@@ -66,9 +66,8 @@ struct Koppeluitslag {
 
 /// Which of the codes were replaced in the session's player list or result list; rewrites it when
 /// any was. None in a file that is missing.
-[[nodiscard]] Uitkomst<std::vector<bool>> PasSpelersbestandAan(Schijf& schijf,
-                                                               const Zittingplaats& plaats,
-                                                               const Naamvervanging& vervanging);
+[[nodiscard]] Uitkomst<std::vector<bool>>
+PasSpelersbestandAan(Schijf& schijf, const Zittingplaats& plaats, const Naamvervanging& vervanging);
 [[nodiscard]] Uitkomst<std::vector<bool>> PasPercentagebestandAan(Schijf& schijf,
                                                                   const Zittingplaats& plaats,
                                                                   const Naamvervanging& vervanging);

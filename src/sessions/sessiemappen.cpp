@@ -19,8 +19,7 @@ Uitkomst<std::vector<Tekst>> Ondermappen(Schijf& schijf, const Pad& map)
     return namen;
 }
 
-Uitkomst<std::vector<Sessiemap>> LeesMappenMet(Schijf& schijf, const Pad& wortel,
-                                               Tekstblik kenmerk)
+Uitkomst<std::vector<Sessiemap>> LeesMappenMet(Schijf& schijf, const Pad& wortel, Tekstblik kenmerk)
 {
     auto namen = Ondermappen(schijf, wortel);
     if (!namen)
@@ -101,11 +100,11 @@ Zittingplaats LosseZitting(const Mappen& mappen, Tekstblik naam)
 
 Zittingplaats Competitiezitting(const Mappen& mappen, Tekstblik competitie, int ronde, int zitting)
 {
-    return {.map = Samen(Rondemap(mappen, competitie, ronde),
-                         Tekst(Zitting) + std::to_string(zitting)),
-            .inCompetitie = true,
-            .ronde = ronde,
-            .zitting = zitting};
+    return {
+        .map = Samen(Rondemap(mappen, competitie, ronde), Tekst(Zitting) + std::to_string(zitting)),
+        .inCompetitie = true,
+        .ronde = ronde,
+        .zitting = zitting};
 }
 
 Uitkomst<std::vector<Zittingplaats>> ZittingenVan(Schijf& schijf, const Mappen& mappen,

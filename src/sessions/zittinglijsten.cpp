@@ -147,10 +147,9 @@ Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort, const Naamverv
     for (const Tekstblik regel : Regels(inhoud)) {
         if (regel.find(vervanging.naam) == Tekstblik::npos)
             continue;
-        const auto nieuw =
-            soort == Lijstsoort::Spelers
-                ? NieuweSpelersregel(regel, Regeleinde(inhoud, regel), plaatsen)
-                : NieuweRecordregel(regel, plaatsen);
+        const auto nieuw = soort == Lijstsoort::Spelers
+                               ? NieuweSpelersregel(regel, Regeleinde(inhoud, regel), plaatsen)
+                               : NieuweRecordregel(regel, plaatsen);
         if (!nieuw)
             continue;
         const auto begin = static_cast<std::size_t>(regel.data() - inhoud.data());

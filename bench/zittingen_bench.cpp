@@ -1,0 +1,219 @@
+// Finding the floating players of a competition beside reading the same files, and linking one who
+// is in all of its sessions beside writing and syncing the changed files, measured in the same run.
+#include <array>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "hulp/meten.h"
+#include "platform/echteSchijf.h"
+#include "platform/greep.h"
+#include "platform/systeempad.h"
+#include "sessions/koppelen.h"
+
+namespace plexoran {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int Paren = 40;
+constexpr int ZittingenPerRonde = 20;
+constexpr Tekstblik Zwever = "Ellen Ravenzwaay";
+constexpr std::array Soorten{Lijstsoort::Spelers, Lijstsoort::Percentages};
+
+/// Of every four pairs one has a floating player; the first is in every session.
+struct Lijsten {
+    Tekst spelers;
+    Tekst percentages;
+};
+
+Lijsten MaakLijsten(int nummer)
+{
+    Lijsten uit;
+    for (int paar = 1; paar <= Paren; ++paar) {
+        const Tekst code = "N" + MetNullen(paar, 2);
+        Tekst eerste = std::to_string(100000 + paar);
+        if (paar == 1)
+            eerste = Zwever;
+        else if (paar % 4 == 0)
+            eerste = "Speler" + std::to_string(nummer) + " van der Zwaluw";
+        const Tekst tweede = std::to_string(100100 + paar);
+        uit.spelers += code + " " + eerste + " - " + tweede + "\r\n";
+        uit.percentages += std::to_string(paar) + ",\"A\",\"N" + std::to_string(paar) + "\",\"" +
+                           eerste + "-" + tweede + "\",52.08,0,\"\"\r\n";
+    }
+    return uit;
+}
+
+/// A competition on the disk, in the page cache.
+class Competitie {
+  public:
+    explicit Competitie(int aantal) : suite_("")
+    {
+        mappen_.COMMAP = suite_.Instellingen().SPEMAP;
+        for (int i = 0; i < aantal; ++i)
+            zittingen_.push_back(Competitiezitting(mappen_, "Ladder", i / ZittingenPerRonde + 1,
+                                                   i % ZittingenPerRonde + 1));
+        ZetTerug();
+    }
+
+    /// Every file as it was before anything was linked.
+    void ZetTerug()
+    {
+        int nummer = 0;
+        for (const Zittingplaats& plaats : zittingen_) {
+            fs::create_directories(Systeempad(plaats.map));
+            const Lijsten lijsten = MaakLijsten(++nummer);
+            Zet(plaats.Bestand(Lijstsoort::Spelers), lijsten.spelers);
+            Zet(plaats.Bestand(Lijstsoort::Percentages), lijsten.percentages);
+        }
+    }
+
+    [[nodiscard]] Zoekuitslag Zoek()
+    {
+        return ZoekZwevenden(schijf, ZittingenVan(schijf, mappen_, "Ladder").value());
+    }
+    [[nodiscard]] std::vector<fs::path> Bestanden() const
+    {
+        std::vector<fs::path> uit;
+        for (const Zittingplaats& plaats : zittingen_) {
+            for (const Lijstsoort soort : Soorten)
+                uit.push_back(Systeempad(plaats.Bestand(soort)));
+        }
+        return uit;
+    }
+
+    EchteSchijf schijf;
+
+  private:
+    static void Zet(const Pad& pad, const Tekst& inhoud)
+    {
+        std::ofstream(Systeempad(pad), std::ios::binary) << inhoud;
+    }
+
+    Proefsuite suite_;
+    Mappen mappen_;
+    std::vector<Zittingplaats> zittingen_;
+};
+
+std::map<int, std::unique_ptr<Competitie>>& Competities()
+{
+    static std::map<int, std::unique_ptr<Competitie>> competities;
+    return competities;
+}
+
+int Zittingen(const benchmark::State& meting)
+{
+    return static_cast<int>(meting.range(0));
+}
+
+Competitie& CompetitieVan(const benchmark::State& meting)
+{
+    auto& competitie = Competities()[Zittingen(meting)];
+    if (!competitie)
+        competitie = std::make_unique<Competitie>(Zittingen(meting));
+    return *competitie;
+}
+
+void Eis(benchmark::State& meting, bool goed)
+{
+    if (!goed)
+        meting.SkipWithError("de uitkomst klopt niet");
+}
+
+void Zittingaantallen(benchmark::internal::Benchmark* meting)
+{
+    meting->Arg(10)->Arg(100)->Arg(1'000);
+    meting->UseManualTime()->Unit(benchmark::kMillisecond)->ComputeStatistics("min", Laagste);
+}
+
+// ---------------------------------------------------------------- finding
+
+void Zoeken(benchmark::State& meting)
+{
+    Competitie& competitie = CompetitieVan(meting);
+    competitie.ZetTerug();
+    const auto verwacht = static_cast<std::size_t>(Zittingen(meting)) * 2 * (1 + Paren / 4);
+    Meet(
+        meting, [] { return Zoekuitslag(); },
+        [&](Zoekuitslag& uitslag) {
+            uitslag = competitie.Zoek();
+            Eis(meting, uitslag.zwevenden.size() == verwacht);
+        });
+}
+BENCHMARK(Zoeken)->Apply(Zittingaantallen);
+
+void ZoekenGrens(benchmark::State& meting)
+{
+    Competitie& competitie = CompetitieVan(meting);
+    const auto bestanden = competitie.Bestanden();
+    std::unique_ptr<char[]> buffer;
+    Meet(meting, [&] {
+        for (const fs::path& pad : bestanden)
+            Eis(meting, LeesEnTel(pad, buffer) > 0);
+    });
+}
+BENCHMARK(ZoekenGrens)->Apply(Zittingaantallen);
+
+// ---------------------------------------------------------------- linking
+
+void KoppelenOveral(benchmark::State& meting)
+{
+    Competitie& competitie = CompetitieVan(meting);
+    competitie.ZetTerug();
+    const auto lijst = competitie.Zoek().zwevenden;
+    const auto opdracht = MaakKoppelopdracht(lijst, 0, "100237");
+    const auto verwacht = static_cast<std::size_t>(Zittingen(meting)) * Soorten.size();
+    Meet(
+        meting,
+        [&] {
+            competitie.ZetTerug();
+            return Koppeluitslag();
+        },
+        [&](Koppeluitslag& uitslag) {
+            uitslag = Koppel(competitie.schijf, opdracht);
+            Eis(meting, !uitslag.fout && uitslag.gewijzigd.size() == verwacht);
+        });
+}
+BENCHMARK(KoppelenOveral)->Apply(Zittingaantallen);
+
+/// The same files, each made anew beside the old one, and on the device before the next begins.
+void KoppelenOveralGrens(benchmark::State& meting)
+{
+    Competitie& competitie = CompetitieVan(meting);
+    competitie.ZetTerug();
+    const auto bestanden = competitie.Bestanden();
+    std::vector<Tekst> inhouden;
+    for (const fs::path& pad : bestanden)
+        inhouden.push_back(competitie.schijf.LeesBestand(PadVan(pad)).value());
+    const auto nieuw = [](fs::path pad) { return pad += ".grens"; };
+    const auto ruimOp = [&] {
+        for (const fs::path& pad : bestanden)
+            fs::remove(nieuw(pad));
+        return 0;
+    };
+    Meet(meting, ruimOp, [&](int) {
+        for (std::size_t i = 0; i < bestanden.size(); ++i) {
+            systeem::Greep greep;
+            Eis(meting, !greep.MaakNieuw(nieuw(bestanden[i])) && !greep.Schrijf(inhouden[i]) &&
+                            !greep.Sync() && !greep.Sluit());
+        }
+    });
+    ruimOp();
+}
+BENCHMARK(KoppelenOveralGrens)->Apply(Zittingaantallen);
+
+} // namespace
+} // namespace plexoran
+
+int main(int argc, char** argv)
+{
+    plexoran::ZetGeheugenVast();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    plexoran::Competities().clear();
+    return 0;
+}

@@ -1,0 +1,300 @@
+#include "dialogs/diaToevoegen.h"
+
+#include <limits>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/proefsuite.h"
+#include "hulp/tabelmaker.h"
+#include "hulp/venstergrepen.h"
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+
+using namespace plexoran;
+
+namespace {
+
+using Teksten = std::vector<std::string>;
+
+const std::string Zomer = "Zittingen/Zomerdrive 2024_Rev";
+const std::string Zondag = "Zittingen/Zondagdrive 2024_Rev";
+const QString OudeKeys =
+    QStringLiteral("De spelernamen hebben al een RVD-key, maar dit kan een oude zijn, wordt "
+                   "verwijderd.");
+
+/// The real dialog on a copy of the sample suite.
+class diaToevoegenTest : public testing::Test {
+  protected:
+    diaToevoegenTest()
+    {
+        administratie.mappen = LeesMappenIni(echteSchijf, suite.MappenIni()).value();
+        (void)LeesSpelers(echteSchijf, administratie.mappen, administratie.spelers);
+        hoofd.show();
+    }
+    ~diaToevoegenTest() override { wachter.Klaar(); }
+
+    void Open()
+    {
+        venster = std::make_unique<diaToevoegen>(administratie, &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(venster.get()));
+        QApplication::processEvents();
+    }
+
+    [[nodiscard]] QPushButton* Knop(const char* naam) const
+    {
+        return Vind<QPushButton>(*venster, naam);
+    }
+    [[nodiscard]] QComboBox* Keus() const { return Vind<QComboBox>(*venster, "Combo1"); }
+    [[nodiscard]] std::string Label(const char* naam) const
+    {
+        return Vind<QLabel>(*venster, naam)->text().toStdString();
+    }
+    [[nodiscard]] Teksten Namen() const
+    {
+        Teksten uit;
+        const auto* lijst = Vind<QListWidget>(*venster, "lstN2");
+        for (int i = 0; i < lijst->count(); ++i)
+            uit.push_back(lijst->item(i)->text().toStdString());
+        return uit;
+    }
+    [[nodiscard]] const Spelertabel& Tabel() const { return administratie.spelers.tabel; }
+    void VoegToe()
+    {
+        wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+        Klik(Knop("cmdStart"));
+        wachter.Klaar();
+    }
+    void VerwachtAfscheid()
+    {
+        wachter.Informatie(QStringLiteral("Er worden geen spelers toegevoegd."));
+    }
+
+    Proefsuite suite;
+    Proefwinkel winkel;
+    EchteSchijf echteSchijf;
+    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<diaToevoegen> venster;
+};
+
+const std::string Verslag = "N01 100172 - 100173\r\nN02 100174 - 100175\r\nN03 100176 - 0\r\n"
+                            "N04 0 - 0\r\nO01 100177 - 100178\r\nO02 100179 - 100180\r\n";
+
+} // namespace
+
+TEST_F(diaToevoegenTest, DeTeksten)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ("Spelers toevoegen (speciaal)", venster->windowTitle().toStdString());
+    EXPECT_EQ("Kies een zitting:", Label("Label1"));
+    EXPECT_EQ("Alleen gebruiken door deskundigen van de materie.", Label("Label2"));
+    EXPECT_EQ("(eindigend op '_Rev')", Label("Label3"));
+    EXPECT_EQ("(u riskeert een corrupt ledenbestand)", Label("Label5"));
+    EXPECT_EQ("Spelers worden toegevoegd aan spelergroep 'Gr08-'", Label("Label6"));
+    EXPECT_EQ("U kunt ze daar later weer uit verwijderen.", Label("Label7"));
+    EXPECT_EQ("Spelers ophalen uit deze zitting", Opschrift(Knop("cmdLeesSpelers")));
+    EXPECT_EQ("Deze spelers toevoegen aan het ledenbestand", Opschrift(Knop("cmdStart")));
+    EXPECT_EQ("Klaar en opslaan", Opschrift(Knop("OKButton")));
+    EXPECT_EQ("Annuleren", Opschrift(Knop("cmdAnnuleren")));
+}
+
+TEST_F(diaToevoegenTest, DeEersteZittingMetDeLijstUitDeZustermap)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_EQ(2, Keus()->count());
+    EXPECT_EQ("Zomerdrive 2024_Rev", Keus()->itemText(0).toStdString());
+    EXPECT_EQ("Zondagdrive 2024_Rev", Keus()->itemText(1).toStdString());
+    EXPECT_EQ(0, Keus()->currentIndex());
+    EXPECT_EQ(suite.Inhoud("Puntenboek/De Ruitenzeven_Zomerdrive 2024_Rev/Spelers.txt"),
+              suite.Inhoud(Zomer + "/Spelers.txt"));
+    EXPECT_EQ((Teksten{"Ria,,Hupsekee,N01", "Gijs,,Hupsekee,N01", "Günther,,Vößmann,N02",
+                       "Heidelinde,von der,Weiß,N02", "Bram,,Loeff,N03", ",,Afwezig,N03",
+                       "STIL,,ZIT,N04", "STIL,,ZIT,N04", "Lieve,Van,Kerckenberghe,O01",
+                       "Núria,Señorans i,Puig,O01", ",,Partner,O02", "Edsel,,Marchenañez,O02"}),
+              Namen());
+    EXPECT_EQ("Aantal toe te voegen spelers: 12", Label("Label4"));
+    EXPECT_TRUE(Knop("cmdStart")->isEnabled());
+    EXPECT_FALSE(Knop("cmdLeesSpelers")->isEnabled());
+    EXPECT_FALSE(Knop("OKButton")->isEnabled());
+}
+
+TEST_F(diaToevoegenTest, ToevoegenEnOpslaan)
+{
+    const int oud = Tabel().Rijen();
+    const std::string bestand = suite.Spelers();
+    ASSERT_NO_FATAL_FAILURE(Open());
+    VoegToe();
+    ASSERT_EQ(oud + 9, Tabel().Rijen());
+    EXPECT_EQ(100180, administratie.spelers.HKEY);
+    EXPECT_EQ((Rijvelden{std::to_string(oud + 4), "100175", "Gr08-", "Heidelinde", "von der",
+                         "Wei\xDF"}),
+              Tabel().Velden(oud + 4));
+    EXPECT_EQ(Verslag, suite.Inhoud(Zomer + "/Koppelverslag.txt"));
+    EXPECT_FALSE(Knop("cmdStart")->isEnabled());
+    EXPECT_FALSE(Knop("cmdLeesSpelers")->isEnabled());
+    EXPECT_FALSE(Keus()->isEnabled());
+    ASSERT_TRUE(Knop("OKButton")->isEnabled());
+    EXPECT_FALSE(venster->ToegevoegdEnBewaard());
+    Klik(Knop("OKButton"));
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_TRUE(venster->ToegevoegdEnBewaard());
+    EXPECT_EQ(oud + 9, Tabel().Rijen());
+    EXPECT_EQ(bestand, suite.Spelers()); // saving is the main window's
+}
+
+TEST_F(diaToevoegenTest, AnnulerenZonderIets)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    VerwachtAfscheid();
+    Klik(Knop("cmdAnnuleren"));
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_FALSE(venster->ToegevoegdEnBewaard());
+}
+
+TEST_F(diaToevoegenTest, AnnulerenNaHetToevoegenMaaktAllesOngedaan)
+{
+    const auto rijen = AlleRijen(Tabel());
+    for (const bool vroeger : {false, true}) {
+        if (vroeger)
+            suite.Zet(Zomer + "/Koppelverslag.txt", "van vroeger");
+        ASSERT_NO_FATAL_FAILURE(Open());
+        VoegToe();
+        EXPECT_EQ(Verslag, suite.Inhoud(Zomer + "/Koppelverslag.txt"));
+        VerwachtAfscheid();
+        if (vroeger)
+            QTest::keyClick(venster.get(), Qt::Key_Escape);
+        else
+            Klik(Knop("cmdAnnuleren"));
+        wachter.Klaar();
+        EXPECT_FALSE(venster->ToegevoegdEnBewaard());
+        EXPECT_EQ(rijen, AlleRijen(Tabel()));
+        EXPECT_EQ(100171, administratie.spelers.HKEY);
+        EXPECT_EQ(vroeger, suite.Bestaat(Zomer + "/Koppelverslag.txt"));
+        EXPECT_EQ(vroeger ? "van vroeger" : "", suite.Inhoud(Zomer + "/Koppelverslag.txt"));
+    }
+}
+
+TEST_F(diaToevoegenTest, HetSluitvakIsAnnuleren)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    VerwachtAfscheid();
+    venster->close();
+    EXPECT_FALSE(venster->isVisible());
+}
+
+TEST_F(diaToevoegenTest, OudeKeysWordenGemeldEnVervallen)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Informatie(OudeKeys);
+    Keus()->setFocus();
+    QTest::keyClick(Keus(), Qt::Key_Down);
+    wachter.Klaar();
+    EXPECT_EQ((Teksten{"Wim,de,Leeuwerik,N01", "Toon,van den,Oever,N01", "Joke,,Tureluur,N02",
+                       ",,,N02", ",,AFW,O01", "Piet,in 't,Zand,O01"}),
+              Namen());
+    EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
+    // Picked by hand, the session can be read again.
+    ASSERT_TRUE(Knop("cmdLeesSpelers")->isEnabled());
+    suite.Zet(Zondag + "/Spelers.txt", "");
+    Klik(Knop("cmdLeesSpelers"));
+    EXPECT_EQ(Teksten{}, Namen());
+    EXPECT_EQ("Aantal toe te voegen spelers: 0", Label("Label4"));
+    EXPECT_FALSE(Knop("cmdStart")->isEnabled());
+    suite.Zet(Zondag + "/Spelers.txt", "N02 Joke Tureluur - AFW\r\n");
+    Klik(Knop("cmdLeesSpelers"));
+    EXPECT_TRUE(Knop("cmdStart")->isEnabled());
+    VoegToe();
+    EXPECT_EQ("N02 100172 - 0\r\n", suite.Inhoud(Zondag + "/Koppelverslag.txt"));
+    EXPECT_FALSE(suite.Bestaat(Zomer + "/Koppelverslag.txt"));
+}
+
+TEST_F(diaToevoegenTest, ZonderRevMapIsErNietsTeDoen)
+{
+    suite.Verwijder("Zittingen");
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ(0, Keus()->count());
+    EXPECT_EQ("...", Label("Label4"));
+    EXPECT_FALSE(Knop("cmdLeesSpelers")->isEnabled());
+    EXPECT_FALSE(Knop("cmdStart")->isEnabled());
+    EXPECT_FALSE(Knop("OKButton")->isEnabled());
+}
+
+TEST_F(diaToevoegenTest, ZonderClubnaamBlijftDeEigenLijst)
+{
+    suite.Zet("Puntenboek/Rev_Clubnaam.txt", "  \r\n");
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
+    EXPECT_EQ(",,AFW,N03", Namen().back());
+}
+
+TEST_F(diaToevoegenTest, EenKopieDieMislukt)
+{
+    schijf.FaalBij(1);
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map "
+                                              "Puntenboek. De spelerslijst van deze zitting is "
+                                              "gebleven zoals hij was.\n\nBestand: "),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
+}
+
+TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    const auto rijen = AlleRijen(Tabel());
+    // The last step, syncing the folder, fails when the new file is in place already.
+    for (const int stap : {1, 2, 3, 4, 5, 6}) {
+        schijf.FaalBij(stap);
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
+                                     "toegevoegd: zonder dat bestand zijn de nieuwe spelers niet "
+                                     "aan deze zitting te koppelen.\n\nBestand: "),
+             .icoon = QMessageBox::Warning,
+             .alleenBegin = true});
+        Klik(Knop("cmdStart"));
+        wachter.Klaar();
+        EXPECT_EQ(rijen, AlleRijen(Tabel()));
+        EXPECT_EQ(100171, administratie.spelers.HKEY);
+        EXPECT_FALSE(suite.Bestaat(Zomer + "/Koppelverslag.txt")) << stap;
+        EXPECT_FALSE(Knop("OKButton")->isEnabled());
+        EXPECT_TRUE(Knop("cmdStart")->isEnabled());
+    }
+    schijf.FaalNiet();
+    VoegToe();
+    EXPECT_EQ(Verslag, suite.Inhoud(Zomer + "/Koppelverslag.txt"));
+}
+
+TEST_F(diaToevoegenTest, AlsDeSleutelsOpZijn)
+{
+    administratie.spelers.HKEY = std::numeric_limits<std::int32_t>::max() - 3;
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Verwacht({.tekst = QStringLiteral("Er is niets toegevoegd: de spelersleutels zijn op. "
+                                              "Kijk het getal na achter HKEY= in het "
+                                              "spelerbestand."),
+                      .icoon = QMessageBox::Critical});
+    const int oud = Tabel().Rijen();
+    Klik(Knop("cmdStart"));
+    EXPECT_EQ(oud, Tabel().Rijen());
+    EXPECT_FALSE(suite.Bestaat(Zomer + "/Koppelverslag.txt"));
+}
+
+TEST_F(diaToevoegenTest, MetHetToetsenbord)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    Keus()->setFocus();
+    for (const char* naam : {"Combo1", "lstN2", "cmdStart", "cmdAnnuleren"}) {
+        EXPECT_STREQ(naam, venster->focusWidget()->objectName().toUtf8().constData());
+        QTest::keyClick(venster->focusWidget(), Qt::Key_Tab);
+    }
+    wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+    QTest::keyClick(venster.get(), Qt::Key_D, Qt::AltModifier);
+    QApplication::processEvents();
+    wachter.Klaar();
+    EXPECT_EQ(Knop("OKButton"), venster->focusWidget());
+    QTest::keyClick(venster.get(), Qt::Key_Return);
+    EXPECT_TRUE(venster->ToegevoegdEnBewaard());
+}

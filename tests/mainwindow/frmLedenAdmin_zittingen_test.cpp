@@ -1,0 +1,94 @@
+// Linking floating players and the special add, from the main window on the sample suite.
+#include <QListView>
+
+#include "mainwindow/vensterproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+class ZittingenTest : public Hoofdvensterproef {
+  protected:
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
+};
+
+} // namespace
+
+TEST_F(ZittingenTest, DeKnoppenWerken)
+{
+    EXPECT_TRUE(Knop("cmdSpToevoegen")->isVisible());
+    EXPECT_TRUE(Knop("cmdSpToevoegen")->isEnabled());
+    EXPECT_TRUE(Knop("cmdKoppel")->isEnabled());
+    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
+    KiesGroep(5);
+    EXPECT_TRUE(Knop("cmdKoppel")->isVisible());
+    KiesGroep(8);
+    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
+}
+
+TEST_F(ZittingenTest, KoppelenVerandertAlleenDeZitting)
+{
+    KiesGroep(5);
+    const std::string spelers = suite.Spelers();
+    wachter.Bedien([&](QDialog& dialoog) {
+        EXPECT_EQ("frmKoppelNBBnr", dialoog.objectName().toStdString());
+        QApplication::processEvents();
+        Klik(Vind<QPushButton>(dialoog, "cmdZoekNamen"));
+        auto* lijst = Vind<QListView>(dialoog, "lstSpelers");
+        lijst->setCurrentIndex(lijst->model()->index(0, 0));
+        Klik(Vind<QPushButton>(dialoog, "cmdKiesRVDspeler"));
+        Klik(Vind<QPushButton>(dialoog, "cmdStartKoppelen"));
+        Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer "
+                                              "toegewezen in de betreffende zittingbestanden."
+                                              "\r\n\r\nKies OK of Annuleer.")});
+    wachter.Informatie(QStringLiteral("Speler Marleen Hijmanse is gekoppeld."));
+    Klik(Knop("cmdKoppel"));
+    wachter.Klaar();
+    EXPECT_EQ(spelers, suite.Spelers());
+    const std::string zitting = suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/Spelers.txt");
+    EXPECT_NE(std::string::npos, zitting.find("\r\nN02 100086 - 100090\r\n")) << zitting;
+}
+
+TEST_F(ZittingenTest, NaHetToevoegenWordtErOpgeslagenEnGetoond)
+{
+    KiesGroep(8);
+    EXPECT_EQ("Aantal regels: 10", Label("Label3")->text().toStdString());
+    wachter.Bedien([](QDialog& dialoog) {
+        EXPECT_EQ("diaToevoegen", dialoog.objectName().toStdString());
+        QApplication::processEvents();
+        Klik(Vind<QPushButton>(dialoog, "cmdStart"));
+        Klik(Vind<QPushButton>(dialoog, "OKButton"));
+    });
+    wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+    Klik(Knop("cmdSpToevoegen"));
+    wachter.Klaar();
+    EXPECT_EQ("Aantal regels: 19", Label("Label3")->text().toStdString());
+    const auto regels = RegelsVan(suite.Spelers());
+    EXPECT_EQ("HKEY=100180", regels.front());
+    EXPECT_EQ("157,100180,Gr08-,Edsel,,Marchena\xF1"
+              "ez,,,,,,,,,,,,",
+              regels.back());
+    EXPECT_TRUE(suite.Bestaat("Zittingen/Zomerdrive 2024_Rev/Koppelverslag.txt"));
+}
+
+TEST_F(ZittingenTest, NaAnnulerenBlijftHetBestandMetRust)
+{
+    KiesGroep(8);
+    const std::string spelers = suite.Spelers();
+    wachter.Bedien([](QDialog& dialoog) {
+        QApplication::processEvents();
+        Klik(Vind<QPushButton>(dialoog, "cmdStart"));
+        Klik(Vind<QPushButton>(dialoog, "cmdAnnuleren"));
+    });
+    wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+    wachter.Informatie(QStringLiteral("Er worden geen spelers toegevoegd."));
+    schijf.FaalNiet();
+    Klik(Knop("cmdSpToevoegen"));
+    wachter.Klaar();
+    EXPECT_EQ(spelers, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 10", Label("Label3")->text().toStdString());
+    EXPECT_FALSE(suite.Bestaat("Zittingen/Zomerdrive 2024_Rev/Koppelverslag.txt"));
+    EXPECT_EQ(100171, administratie.spelers.HKEY);
+}

@@ -1,0 +1,522 @@
+#include "sessions/frmKoppelNBBnr.h"
+
+#include <chrono>
+#include <thread>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/proefsuite.h"
+#include "hulp/venstergrepen.h"
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+#include "platform/klok.h"
+#include "register/spelerbestand.h"
+
+using namespace plexoran;
+
+namespace {
+
+using Teksten = std::vector<std::string>;
+
+const QString Dinsdag = QStringLiteral("Dinsdagavond 2024-09-10");
+const QString Maandag = QStringLiteral("Maandagmiddag 2024-10-07");
+const QString Najaar = QStringLiteral("Najaarscompetitie 2024");
+
+const QString Koppelvraag =
+    QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
+                   "zittingbestanden.\r\n\r\nKies OK of Annuleer.");
+
+/// The real window on a copy of the sample suite, with production saving.
+class Koppelvenster : public testing::Test {
+  protected:
+    Koppelvenster()
+    {
+        administratie.mappen = LeesMappenIni(echteSchijf, suite.MappenIni()).value();
+        (void)LeesSpelers(echteSchijf, administratie.mappen, administratie.spelers);
+        hoofd.show();
+    }
+    ~Koppelvenster() override { wachter.Klaar(); }
+
+    void Open()
+    {
+        venster = std::make_unique<frmKoppelNBBnr>(administratie, &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(venster.get()));
+        QApplication::processEvents();
+    }
+
+    template <class T> [[nodiscard]] T* Deel(const char* naam) const
+    {
+        return Vind<T>(*venster, naam);
+    }
+    [[nodiscard]] QPushButton* Knop(const char* naam) const { return Deel<QPushButton>(naam); }
+    [[nodiscard]] std::string Label(const char* naam) const
+    {
+        return Deel<QLabel>(naam)->text().toStdString();
+    }
+    [[nodiscard]] std::string Vak(const char* naam) const
+    {
+        return Deel<QLineEdit>(naam)->text().toStdString();
+    }
+    [[nodiscard]] QComboBox* Keus() const { return Deel<QComboBox>("cmbC"); }
+    [[nodiscard]] Teksten Sessies() const
+    {
+        Teksten uit;
+        for (int i = 0; i < Keus()->count(); ++i)
+            uit.push_back(Keus()->itemText(i).toStdString());
+        return uit;
+    }
+    [[nodiscard]] Teksten Regels(const char* lijst) const
+    {
+        Teksten uit;
+        const auto* model = Deel<QListView>(lijst)->model();
+        for (int i = 0; i < model->rowCount(); ++i)
+            uit.push_back(model->index(i, 0).data().toString().toStdString());
+        return uit;
+    }
+    void KiesRegel(const char* naam, const QString& begin) const
+    {
+        auto* lijst = Deel<QListView>(naam);
+        const auto gevonden = lijst->model()->match(lijst->model()->index(0, 0), Qt::DisplayRole,
+                                                    begin, 1, Qt::MatchStartsWith);
+        ASSERT_EQ(1, gevonden.size()) << begin.toStdString();
+        lijst->scrollTo(gevonden.first());
+        Klik(lijst->viewport(), lijst->visualRect(gevonden.first()).center());
+    }
+    void Zoek(const QString& sessie) const
+    {
+        Keus()->setCurrentText(sessie);
+        ASSERT_EQ(sessie, Keus()->currentText());
+        Klik(Knop("cmdZoekNamen"));
+    }
+    void VerwachtVraag(const QString& antwoord = QStringLiteral("OK"))
+    {
+        wachter.Verwacht({.tekst = Koppelvraag,
+                          .antwoord = antwoord,
+                          .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}});
+    }
+    [[nodiscard]] static std::string Com(const std::string& rest)
+    {
+        return "Competities/Najaarscompetitie 2024/" + rest;
+    }
+
+    Proefsuite suite;
+    Proefwinkel winkel;
+    EchteSchijf echteSchijf;
+    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<frmKoppelNBBnr> venster;
+};
+
+/// Text with one piece replaced; the test fails when it is not there.
+std::string Vervangen(std::string tekst, const std::string& van, const std::string& door)
+{
+    const auto plaats = tekst.find(van);
+    EXPECT_NE(std::string::npos, plaats) << van;
+    return plaats == std::string::npos ? tekst : tekst.replace(plaats, van.size(), door);
+}
+
+} // namespace
+
+TEST_F(Koppelvenster, DeTeksten)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ("Koppelen van zwevende NBB-spelers  aan RVD-ledenbestand",
+              venster->windowTitle().toStdString());
+    EXPECT_EQ("Wijziging van een NBBnr", Deel<QGroupBox>("Frame1")->title().toStdString());
+    EXPECT_EQ("Waarom dit programmadeel?", Deel<QGroupBox>("Frame3")->title().toStdString());
+    EXPECT_EQ("In losse Zittingen", Opschrift(Deel<QRadioButton>("Option1")));
+    EXPECT_EQ("In Competities", Opschrift(Deel<QRadioButton>("Option2")));
+    EXPECT_EQ("Kies speler uit RVD (Gr05)", Opschrift(Knop("cmdKiesRVDspeler")));
+    EXPECT_EQ("OK als dit identieke spelers zijn ...", Opschrift(Knop("cmdStartKoppelen")));
+    EXPECT_EQ("Einde", Opschrift(Knop("cmdEinde")));
+    EXPECT_EQ("Selecteer hierboven 1 speler", Label("Label12"));
+    EXPECT_EQ("Elke speler moeten afzonderlijk verwerkt worden!", Label("Label13"));
+    EXPECT_EQ("NBBnr", Label("Label6"));
+    EXPECT_EQ("RVDnr", Label("Label7"));
+    EXPECT_EQ("NBBledengroep", Label("Label8"));
+    EXPECT_EQ("Als er in geimporteerde NBB-zittingen (o.a. BWS-zittingen) spelers voorkomen die "
+              "(ten tijde van het importeren!) nog niet in het RVD-ledenbestand bekend waren (zgn "
+              "zwevende spelers), dan kunt u hiermee alsnog die spelers koppelen.",
+              Label("Label1"));
+    EXPECT_EQ("Dit hoeft niet persé, maar als u gebruik wilt maken van de speciale RVD-opties en "
+              "zeker in de geimporteeerde competitiezittingen dan moet u dit doen. Denk bijv aan "
+              "berekenen Clubkampioenschap.",
+              Label("Label2"));
+    EXPECT_EQ("Vóór dit koppelen moeten de spelergegevens vooraf van NBB naar RVD geimporteerd "
+              "zijn.",
+              Label("Label3"));
+    EXPECT_EQ(" Als in NBB een (evt fictief) NBBnr wordt gewijzigd, bijv een cursist wordt "
+              "NBB-lid, dan kan men volstaan met het handmatig wijzigen van het NBBnr in beide, "
+              "NBB en RVD (groep Gr05).",
+              Label("Label5"));
+    EXPECT_EQ("Een speler moet vooraf in RVD (groep Gr05-) bekend zijn anders kan hij hieronder "
+              "niet gekozen worden.",
+              Label("Label9"));
+    EXPECT_EQ("Kies hier de RVD-speler (uit Gr05-) wiens identiteit hetzelfde is als de linker "
+              "speler.",
+              Label("Label10"));
+}
+
+TEST_F(Koppelvenster, DeZittingenEnDeCompetitiesMetHunDatum)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_TRUE(Deel<QRadioButton>("Option1")->isChecked());
+    EXPECT_EQ("Kies een Zitting", Label("Label4"));
+    EXPECT_EQ("Zoek de zwevende spelers in deze Zitting", Opschrift(Knop("cmdZoekNamen")));
+    EXPECT_EQ((Teksten{"Dinsdagavond 2024-09-10", "Donderdagmiddag 2024-10-17",
+                       "Maandagmiddag 2024-10-07", "Nog te spelen", "Zomerdrive 2024_Rev",
+                       "Zondagdrive 2024_Rev"}),
+              Sessies());
+    std::filesystem::last_write_time(
+        suite.Weg() / "Zittingen/Nog te spelen/Zitdata.txt",
+        std::filesystem::file_time_type::clock::now() - std::chrono::hours(24 * 400));
+    Deel<QRadioButton>("Option2")->click();
+    EXPECT_EQ("Kies een Competitie", Label("Label4"));
+    EXPECT_EQ("Zoek de zwevende spelers in deze Competitie", Opschrift(Knop("cmdZoekNamen")));
+    EXPECT_EQ((Teksten{"Laddercompetitie", "Najaarscompetitie 2024"}), Sessies());
+    EXPECT_EQ(Datum(Nu()), Keus()->itemData(0, Qt::ToolTipRole).toString().toStdString());
+    Deel<QRadioButton>("Option1")->click();
+    constexpr std::int64_t dag = 86'400'000'000'000;
+    EXPECT_EQ(Datum(Nu() - 400 * dag), Keus()->itemData(3, Qt::ToolTipRole).toString().toStdString());
+    Keus()->setCurrentIndex(3);
+    EXPECT_EQ(Datum(Nu() - 400 * dag), Keus()->toolTip().toStdString());
+}
+
+TEST_F(Koppelvenster, ZonderZittingenEnCompetities)
+{
+    suite.Verwijder("Zittingen");
+    suite.Verwijder("Competities");
+    wachter.Informatie(QStringLiteral("Er zijn nog geen Zittingen voorhanden.\r\nU dient dus eerst "
+                                      "een Zitting aan te maken."));
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Klaar();
+    EXPECT_FALSE(Knop("cmdZoekNamen")->isEnabled());
+    wachter.Informatie(QStringLiteral("Er zijn nog geen competities voorhanden.\r\nU dient dus "
+                                      "eerst een Competitie aan te maken."));
+    Deel<QRadioButton>("Option2")->click();
+    EXPECT_EQ(Teksten{}, Sessies());
+    EXPECT_FALSE(Knop("cmdZoekNamen")->isEnabled());
+}
+
+TEST_F(Koppelvenster, DeZwevendenVanEenZitting)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ("", Label("Label11"));
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+    EXPECT_EQ("Gevonden zwevende spelers in deze Zitting", Label("Label11"));
+    EXPECT_EQ((Teksten{"als N02    Marleen Hijmanse", "als N03    Mieke Oudewortel-Quist",
+                       "als O01    Sven Nijboersma", "als O02    Zoë Wolthuizen",
+                       "als O02    Jørgen Sørensgaard", "als O04    Riekje ter Meulenbrink",
+                       "als N2    Marleen Hijmanse", "als O1    Sven Nijboersma",
+                       "als O2    Zoë Wolthuizen", "als O2    Jørgen Sørensgaard",
+                       "als N3    Mieke Oudewortel-Quist", "als O4    Riekje ter Meulenbrink"}),
+              Regels("lstSpelers"));
+    // What was found belongs to this session only.
+    Keus()->setCurrentIndex(1);
+    EXPECT_EQ(Teksten{}, Regels("lstSpelers"));
+    EXPECT_EQ("", Label("Label11"));
+}
+
+TEST_F(Koppelvenster, GeenZwevenden)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    for (const char* zitting : {"Donderdagmiddag 2024-10-17", "Nog te spelen"}) {
+        ASSERT_NO_FATAL_FAILURE(Zoek(QString::fromLatin1(zitting)));
+        EXPECT_EQ("Geen zwevende spelers gevonden", Label("Label11"));
+        EXPECT_EQ(Teksten{}, Regels("lstSpelers"));
+    }
+}
+
+TEST_F(Koppelvenster, DeSpelersVanDeImportgroepUitHetBestand)
+{
+    // The table in memory is not asked: what is not saved has no key yet.
+    administratie.spelers = {};
+    ASSERT_NO_FATAL_FAILURE(Open());
+    const Teksten regels = Regels("lstRVDsp");
+    ASSERT_EQ(36U, regels.size());
+    EXPECT_TRUE(regels[0].starts_with("100086  Kees Aardappelaer")) << regels[0];
+    EXPECT_TRUE(regels[0].ends_with("  91959164  DINSDAG")) << regels[0];
+    suite.Zet("Spelers/RVDspelers.txt",
+              "HKEY=100002\r\n1,100002,Gr05-,An,de,Bos,,,,,,,V,,,,MA,123\r\n");
+    Klik(Knop("cmdKiesRVDspeler"));
+    EXPECT_EQ(Teksten{"100002  An de Bos  123       MA"}, Regels("lstRVDsp"));
+}
+
+TEST_F(Koppelvenster, EenSpelerbestandDatErNietIs)
+{
+    suite.Verwijder("Spelers/RVDspelers.txt");
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van het spelerbestand. Er is nu "
+                                              "niemand om te koppelen.\n\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ(Teksten{}, Regels("lstRVDsp"));
+}
+
+TEST_F(Koppelvenster, KoppelenInEenZitting)
+{
+    const std::string spelers = suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/Spelers.txt");
+    const std::string percentages = suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/PercZit.txt");
+    const std::string register_ = suite.Spelers();
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O02    J")));
+    EXPECT_EQ("als O02    Jørgen Sørensgaard", Vak("txtSpeler"));
+    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100084")));
+    EXPECT_EQ("100084    Jørgen Sørensgaard", Vak("txtRVDspeler"));
+
+    VerwachtVraag(QStringLiteral("Annuleren"));
+    Klik(Knop("cmdStartKoppelen"));
+    wachter.Klaar();
+    EXPECT_EQ(spelers, suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/Spelers.txt"));
+    EXPECT_EQ("als O02    Jørgen Sørensgaard", Vak("txtSpeler"));
+
+    VerwachtVraag();
+    wachter.Informatie(QStringLiteral("Speler Jørgen Sørensgaard is gekoppeld."));
+    Klik(Knop("cmdStartKoppelen"));
+    wachter.Klaar();
+    EXPECT_EQ(Vervangen(spelers, "J\xF8rgen S\xF8rensgaard", "100084"),
+              suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/Spelers.txt"));
+    EXPECT_EQ(Vervangen(percentages, "Zo\xEB Wolthuizen-J\xF8rgen S\xF8rensgaard",
+                        "Zo\xEB Wolthuizen - 100084"),
+              suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/PercZit.txt"));
+    EXPECT_EQ("Jørgen Sørensgaard - O02 aangepast in Spelerbestand.\n"
+              "Jørgen Sørensgaard - O02 aangepast in Percentagebestand.",
+              Label("lblResultaat"));
+    EXPECT_EQ(register_, suite.Spelers());
+    EXPECT_EQ((std::vector<std::string>{"PercZit.txt", "Spelers.txt", "Zitdata.txt"}),
+              suite.Namen("Zittingen/Dinsdagavond 2024-09-10"));
+    // Both his lines are gone; the next player is to be chosen anew.
+    EXPECT_EQ(10U, Regels("lstSpelers").size());
+    EXPECT_EQ("", Vak("txtSpeler"));
+    EXPECT_EQ("", Vak("txtRVDspeler"));
+    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+}
+
+TEST_F(Koppelvenster, EenNaamDieVakerInDeZittingStaatAlleenOpDeGekozenPlaats)
+{
+    const std::string spelers = suite.Inhoud("Zittingen/Maandagmiddag 2024-10-07/Spelers.txt");
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Zoek(Maandag));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O03    Sven")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100094")));
+    VerwachtVraag();
+    wachter.Informatie(QStringLiteral("Speler Sven Nijboersma is gekoppeld."));
+    Klik(Knop("cmdStartKoppelen"));
+    EXPECT_EQ(Vervangen(spelers, "O03 Sven Nijboersma", "O03 100094"),
+              suite.Inhoud("Zittingen/Maandagmiddag 2024-10-07/Spelers.txt"));
+    const Teksten over = Regels("lstSpelers");
+    EXPECT_EQ(2, std::count_if(over.begin(), over.end(), [](const std::string& regel) {
+                  return regel.find("Sven") != std::string::npos;
+              }));
+}
+
+TEST_F(Koppelvenster, KoppelenInEenHeleCompetitie)
+{
+    const std::string eerste = suite.Inhoud(Com("Ronde-1/Zitting-1/Spelers.txt"));
+    const std::string laatste = suite.Inhoud(Com("Ronde-10/Zitting-4/PercZit-4.txt"));
+    const std::string zonder = suite.Inhoud(Com("Ronde-1/Zitting-2/Spelers.txt"));
+    ASSERT_NO_FATAL_FAILURE(Open());
+    Deel<QRadioButton>("Option2")->click();
+    ASSERT_NO_FATAL_FAILURE(Zoek(Najaar));
+    EXPECT_EQ("Gevonden zwevende spelers in deze Competitie", Label("Label11"));
+    EXPECT_EQ("In R1 - Z1 als N01    Cornélie Vaandrager", Regels("lstSpelers").front());
+    EXPECT_EQ("In R10 - Z4 als O1    Sven Nijboersma", Regels("lstSpelers").back());
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("In R10 - Z4 als O01    Sven")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100094")));
+    VerwachtVraag();
+    wachter.Informatie(
+        QStringLiteral("Sven Nijboersma is in alle competitie-zittingen gekoppeld (6 keer)"));
+    Klik(Knop("cmdStartKoppelen"));
+    wachter.Klaar();
+    EXPECT_EQ(Vervangen(eerste, "Sven Nijboersma", "100094"),
+              suite.Inhoud(Com("Ronde-1/Zitting-1/Spelers.txt")));
+    EXPECT_EQ(Vervangen(laatste, "Sven Nijboersma-100094", "100094 - 100094"),
+              suite.Inhoud(Com("Ronde-10/Zitting-4/PercZit-4.txt")));
+    EXPECT_EQ(zonder, suite.Inhoud(Com("Ronde-1/Zitting-2/Spelers.txt")));
+    EXPECT_EQ("Sven Nijboersma - N03 aangepast in Spelerbestand.\n"
+              "Sven Nijboersma - N03 aangepast in Percentagebestand.\n"
+              "Sven Nijboersma - N01 aangepast in Spelerbestand.\n"
+              "Sven Nijboersma - N01 aangepast in Percentagebestand.\n"
+              "Sven Nijboersma - O01 aangepast in Spelerbestand.\n"
+              "Sven Nijboersma - O01 aangepast in Percentagebestand.",
+              Label("lblResultaat"));
+    for (const std::string& regel : Regels("lstSpelers"))
+        EXPECT_EQ(std::string::npos, regel.find("Sven")) << regel;
+}
+
+TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    Deel<QRadioButton>("Option2")->click();
+    ASSERT_NO_FATAL_FAILURE(Zoek(Najaar));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("In R1 - Z1 als O01    Rosa")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100097")));
+    const std::size_t regels = Regels("lstSpelers").size();
+    const auto pad = [&](const std::string& rest) {
+        return QString::fromStdString((suite.Weg() / Com(rest)).string());
+    };
+    schijf.FaalBij(8); // the second file is being written
+    VerwachtVraag();
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal "
+                                 "aangepast of nog zoals het was. Verhelp de oorzaak en koppel deze "
+                                 "speler opnieuw; dan wordt de rest aangepast.\n\nAangepast (1):\n"
+                                 "- %1\n\nNiet aangepast (3):\n- %2\n- %3\n- %4\n\nBestand: ")
+                      .arg(pad("Ronde-1/Zitting-1/Spelers.txt"),
+                           pad("Ronde-1/Zitting-1/PercZit-1.txt"),
+                           pad("Ronde-2/Zitting-3/Spelers.txt"),
+                           pad("Ronde-2/Zitting-3/PercZit-3.txt")),
+         .icoon = QMessageBox::Critical,
+         .alleenBegin = true});
+    Klik(Knop("cmdStartKoppelen"));
+    wachter.Klaar();
+    EXPECT_EQ(regels, Regels("lstSpelers").size());
+    EXPECT_TRUE(Label("lblResultaat").starts_with(
+        "Rosa Zwaluwstaart - O01 aangepast in Spelerbestand.\nNiet aangepast: "))
+        << Label("lblResultaat");
+
+    schijf.FaalNiet();
+    VerwachtVraag();
+    wachter.Informatie(
+        QStringLiteral("Rosa Zwaluwstaart is in alle competitie-zittingen gekoppeld (4 keer)"));
+    Klik(Knop("cmdStartKoppelen"));
+    EXPECT_EQ("Rosa Zwaluwstaart - O01 aangepast in Percentagebestand.\n"
+              "Rosa Zwaluwstaart - N02 aangepast in Spelerbestand.\n"
+              "Rosa Zwaluwstaart - N02 aangepast in Percentagebestand.",
+              Label("lblResultaat"));
+}
+
+TEST_F(Koppelvenster, WatIntussenVerdweenWordtNietGekoppeldGenoemd)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Marleen")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100090")));
+    suite.Verwijder("Zittingen/Dinsdagavond 2024-09-10/Spelers.txt");
+    suite.Zet("Zittingen/Dinsdagavond 2024-09-10/PercZit.txt", "ruis\r\n");
+    VerwachtVraag();
+    wachter.Waarschuwing(
+        QStringLiteral("Er is niets gewijzigd: 'Marleen Hijmanse' komt niet meer voor in de "
+                       "bestanden. Misschien heeft een ander programma ze intussen gewijzigd."));
+    Klik(Knop("cmdStartKoppelen"));
+    EXPECT_EQ("ruis\r\n", suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/PercZit.txt"));
+}
+
+TEST_F(Koppelvenster, EenVerdwenenMap)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    suite.Verwijder("Zittingen/Dinsdagavond 2024-09-10");
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze "
+                                              "map is er niet meer.\n\nBestand: "),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+    wachter.Klaar();
+    Deel<QRadioButton>("Option2")->click();
+    suite.Verwijder("Competities/Laddercompetitie");
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze "
+                                              "map is er niet meer.\n\nBestand: "),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Zoek(QStringLiteral("Laddercompetitie")));
+}
+
+TEST_F(Koppelvenster, OvergeslagenRegelsEnEenNaamMetEenStreepje)
+{
+    suite.Zet("Zittingen/Nog te spelen/PercZit.txt", "1,2\r\n\r\n1,2,3,4,5,6,7,8\r\n");
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Zoek(QStringLiteral("Nog te spelen")));
+    EXPECT_EQ("Overgeslagen regels in de percentagebestanden, omdat ze geen 7 velden hebben: 2.",
+              Label("lblResultaat"));
+    ASSERT_NO_FATAL_FAILURE(Zoek(Maandag));
+    EXPECT_EQ("", Label("lblResultaat"));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Tol - Paul")));
+    EXPECT_TRUE(Label("lblResultaat").starts_with("Let op: in deze naam staat een streepje."));
+}
+
+TEST_F(Koppelvenster, MetHetToetsenbord)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    const Teksten volgorde{"Option1",    "cmbC",      "cmdZoekNamen",     "vlakUitleg",
+                           "lstSpelers", "txtSpeler", "cmdKiesRVDspeler", "lstRVDsp",
+                           "txtRVDspeler"};
+    Deel<QRadioButton>("Option1")->setFocus();
+    for (const std::string& naam : volgorde) {
+        EXPECT_EQ(naam, venster->focusWidget()->objectName().toStdString());
+        QTest::keyClick(venster->focusWidget(), Qt::Key_Tab);
+    }
+    QTest::keyClick(venster.get(), Qt::Key_Z, Qt::AltModifier);
+    QApplication::processEvents();
+    EXPECT_EQ("lstSpelers", venster->focusWidget()->objectName().toStdString());
+    QTest::keyClick(venster->focusWidget(), Qt::Key_Down);
+    EXPECT_EQ("als N02    Marleen Hijmanse", Vak("txtSpeler"));
+    // Enter goes on to the register, at the player who bears the same name.
+    QTest::keyClick(venster->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ("lstRVDsp", venster->focusWidget()->objectName().toStdString());
+    EXPECT_EQ("100090    Marleen Hijmanse", Vak("txtRVDspeler"));
+    QTest::keyClick(venster->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ("cmdStartKoppelen", venster->focusWidget()->objectName().toStdString());
+    VerwachtVraag();
+    wachter.Informatie(QStringLiteral("Speler Marleen Hijmanse is gekoppeld."));
+    QTest::keyClick(venster->focusWidget(), Qt::Key_Space);
+    QApplication::processEvents();
+    wachter.Klaar();
+    QTest::keyClick(venster.get(), Qt::Key_Escape);
+    EXPECT_FALSE(venster->isVisible());
+}
+
+namespace {
+
+/// A disk on which every reading takes a moment.
+class Koppelvensterlang : public Koppelvenster {
+  protected:
+    void VulLangeCompetitie(int zittingen) const
+    {
+        suite.Zet("Competities/Laddercompetitie/Compdata.txt", "");
+        for (int zitting = 2; zitting <= zittingen; ++zitting) {
+            const std::string map =
+                "Competities/Laddercompetitie/Ronde-1/Zitting-" + std::to_string(zitting);
+            std::filesystem::create_directory(suite.Weg() / map);
+            std::string lijst;
+            for (int paar = 1; paar <= 4000; ++paar)
+                lijst += "N" + std::to_string(paar % 90 + 10) + " Jan Nieuw - 100001\r\n";
+            suite.Zet(map + "/Spelers.txt", lijst);
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(Koppelvensterlang, LangZoekenToontVoortgangEnIsTeStoppen)
+{
+    VulLangeCompetitie(700);
+    ASSERT_NO_FATAL_FAILURE(Open());
+    Deel<QRadioButton>("Option2")->click();
+    bool gezien = false;
+    QTimer kijker;
+    QObject::connect(&kijker, &QTimer::timeout, &kijker, [&] {
+        if (!Deel<QProgressBar>("prgVoortgang")->isVisible() || gezien)
+            return;
+        gezien = true;
+        EXPECT_EQ(700, Deel<QProgressBar>("prgVoortgang")->maximum());
+        EXPECT_FALSE(Knop("cmdEinde")->isEnabled());
+        EXPECT_FALSE(Knop("cmdZoekNamen")->isEnabled());
+        venster->close(); // not while files are read
+        EXPECT_TRUE(venster->isVisible());
+        Klik(Knop("cmdStop"));
+    });
+    kijker.start(10);
+    ASSERT_NO_FATAL_FAILURE(Zoek(QStringLiteral("Laddercompetitie")));
+    EXPECT_TRUE(gezien);
+    EXPECT_EQ("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.", Label("lblResultaat"));
+    EXPECT_FALSE(Deel<QProgressBar>("prgVoortgang")->isVisible());
+    EXPECT_FALSE(Knop("cmdStop")->isVisible());
+    EXPECT_TRUE(Knop("cmdZoekNamen")->isEnabled());
+    EXPECT_TRUE(venster->close());
+}

@@ -1,0 +1,365 @@
+#include "sessions/koppelen.h"
+
+#include <gtest/gtest.h>
+
+#include "hulp/tabelmaker.h"
+#include "platform/falendeSchijf.h"
+#include "platform/geheugenSchijf.h"
+
+using namespace plexoran;
+
+namespace {
+
+using Teksten = std::vector<Tekst>;
+
+class Koppelen : public testing::Test {
+  protected:
+    Koppelen()
+    {
+        mappen.ZITMAP = "C:\\Zit";
+        mappen.COMMAP = "C:\\Com";
+    }
+
+    static Pad Lijstpad(int ronde, int zitting, Lijstsoort soort)
+    {
+        Mappen alleenCom;
+        alleenCom.COMMAP = "C:\\Com";
+        return Competitiezitting(alleenCom, "Ladder", ronde, zitting).Bestand(soort);
+    }
+    void ZetZitting(int ronde, int zitting, const Tekst& spelers, const Tekst& percentages = {})
+    {
+        schijf.Zet(Lijstpad(ronde, zitting, Lijstsoort::Spelers), spelers);
+        schijf.Zet(Lijstpad(ronde, zitting, Lijstsoort::Percentages), percentages);
+    }
+    /// The names of the three sessions, of which the last two hold Jansen in both files.
+    void ZetCompetitie()
+    {
+        ZetZitting(1, 1, "N01 Jansens - 100001\r\n", "1,A,N1,Jansens-100001,50,0,x\r\n");
+        ZetZitting(2, 1, "N05 Jansen - 100001\r\nO01 Bos - Jansen\r\n",
+                   "1,A,O1,Bos-Jansen,50,0,x\r\n2,A,N5,Jansen-100001,50,0,x\r\n");
+        ZetZitting(10, 3, "O07 100001 - Jansen\r\n", "1,A,O7,100001-Jansen,50,0,x\r\n");
+    }
+
+    Zoekuitslag ZoekCompetitie(Schijf& op)
+    {
+        return ZoekZwevenden(op, ZittingenVan(op, mappen, "Ladder").value());
+    }
+    Zoekuitslag ZoekZitting() { return ZoekZwevenden(schijf, {LosseZitting(mappen, "Di")}); }
+
+    static Teksten Regels(const Zoekuitslag& uitslag)
+    {
+        Teksten uit;
+        for (const Zwevende& zwevende : uitslag.zwevenden)
+            uit.push_back(Lijstregel(zwevende));
+        return uit;
+    }
+    static Teksten Meldingen(const Koppeluitslag& uitslag)
+    {
+        Teksten uit;
+        for (const Aangepast& aangepast : uitslag.aangepast)
+            uit.push_back(aangepast.code +
+                          (aangepast.soort == Lijstsoort::Spelers ? " spelers" : " percentages"));
+        return uit;
+    }
+    /// The line of the list with this text.
+    static std::size_t Plaats(const Zoekuitslag& uitslag, const Tekst& regel)
+    {
+        const Teksten regels = Regels(uitslag);
+        return static_cast<std::size_t>(std::find(regels.begin(), regels.end(), regel) -
+                                        regels.begin());
+    }
+    [[nodiscard]] std::map<Pad, Tekst> AlleInhoud() const
+    {
+        std::map<Pad, Tekst> uit;
+        for (const Pad& pad : schijf.AlleBestanden())
+            uit[pad] = schijf.Inhoud(pad).value();
+        return uit;
+    }
+
+    GeheugenSchijf schijf;
+    Mappen mappen;
+};
+
+} // namespace
+
+TEST_F(Koppelen, InEenZittingEerstDeSpelersDanDePercentages)
+{
+    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\nO01 Bos - Cos\r\n");
+    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,O1,Bos-Cos,50,0,x\r\n2,A,N5,Jansen-100001,50,0,x");
+    EXPECT_EQ(Regels(ZoekZitting()),
+              (Teksten{"als N05    Jansen", "als O01    Bos", "als O01    Cos", "als O1    Bos",
+                       "als O1    Cos", "als N5    Jansen"}));
+}
+
+TEST_F(Koppelen, OntbrekendeBestandenWordenOvergeslagen)
+{
+    schijf.ZetMap("C:\\Zit\\Di");
+    EXPECT_EQ(Regels(ZoekZitting()), Teksten{});
+    EXPECT_TRUE(ZoekZitting().fouten.empty());
+    schijf.ZetMap("C:\\Zit\\Di\\Spelers.txt");
+    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,Jansen-100001,50,0,x");
+    EXPECT_EQ(Regels(ZoekZitting()), Teksten{"als N5    Jansen"});
+    EXPECT_TRUE(ZoekZitting().fouten.empty());
+}
+
+TEST_F(Koppelen, InEenCompetitieMetRondeEnZittingOpVolgorde)
+{
+    ZetCompetitie();
+    EXPECT_EQ(Regels(ZoekCompetitie(schijf)),
+              (Teksten{"In R1 - Z1 als N01    Jansens", "In R1 - Z1 als N1    Jansens",
+                       "In R2 - Z1 als N05    Jansen", "In R2 - Z1 als O01    Bos",
+                       "In R2 - Z1 als O01    Jansen", "In R2 - Z1 als O1    Bos",
+                       "In R2 - Z1 als O1    Jansen", "In R2 - Z1 als N5    Jansen",
+                       "In R10 - Z3 als O07    Jansen", "In R10 - Z3 als O7    Jansen"}));
+}
+
+TEST_F(Koppelen, EenOnleesbaarBestandHoudtDeAndereNietTegen)
+{
+    ZetCompetitie();
+    FalendeSchijf falend(schijf);
+    const auto zittingen = ZittingenVan(schijf, mappen, "Ladder").value();
+    falend.FaalBij(1);
+    const Zoekuitslag uitslag = ZoekZwevenden(falend, zittingen);
+    EXPECT_EQ(1U, uitslag.fouten.size());
+    EXPECT_EQ(9U, uitslag.zwevenden.size());
+}
+
+TEST_F(Koppelen, ZoekenIsTeStoppen)
+{
+    ZetCompetitie();
+    std::vector<std::size_t> gezien;
+    const auto zittingen = ZittingenVan(schijf, mappen, "Ladder").value();
+    const Zoekuitslag uitslag =
+        ZoekZwevenden(schijf, zittingen, [&](std::size_t gedaan, std::size_t geheel) {
+            EXPECT_EQ(3U, geheel);
+            gezien.push_back(gedaan);
+            return gedaan < 1;
+        });
+    EXPECT_EQ((std::vector<std::size_t>{0, 1}), gezien);
+    EXPECT_TRUE(uitslag.gestopt);
+    EXPECT_EQ(2U, uitslag.zwevenden.size());
+}
+
+TEST_F(Koppelen, OvergeslagenRecordsWordenGeteld)
+{
+    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,Jansen-100001,50,0\r\n\r\nx\r\n");
+    EXPECT_EQ(2, ZoekZitting().overgeslagen);
+}
+
+// ---------------------------------------------------------------- one session
+
+TEST_F(Koppelen, InEenZittingAlleenOpDeGekozenPlaats)
+{
+    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\nO01 Bos - Jansen\r\n");
+    schijf.Zet("C:\\Zit\\Di\\PercZit.txt",
+               "1,A,O1,Bos-Jansen,50,0,x\r\n2,A,N5,Jansen-100001,50,0,x\r\n");
+    const auto lijst = ZoekZitting().zwevenden;
+    const auto uitslag = Koppel(schijf, MaakKoppelopdracht(lijst, 0, "100237"));
+    EXPECT_FALSE(uitslag.fout);
+    EXPECT_EQ(Meldingen(uitslag), (Teksten{"N05 spelers", "N05 percentages"}));
+    EXPECT_EQ("N05 100237 - 100001\r\nO01 Bos - Jansen\r\n",
+              schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+    EXPECT_EQ("1,A,O1,Bos-Jansen,50,0,x\r\n2,A,N5,100237 - 100001,50,0,x\r\n",
+              schijf.Inhoud("C:\\Zit\\Di\\PercZit.txt"));
+}
+
+TEST_F(Koppelen, DeRegelUitHetPercentagebestandKoppeltOokInBeide)
+{
+    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
+    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,Jansen-100001,50,0,x\r\n");
+    const auto lijst = ZoekZitting().zwevenden;
+    ASSERT_EQ("N5", lijst[1].vindplaats.code);
+    const auto uitslag = Koppel(schijf, MaakKoppelopdracht(lijst, 1, "100237"));
+    EXPECT_EQ(Meldingen(uitslag), (Teksten{"N5 spelers", "N5 percentages"}));
+    EXPECT_EQ("N05 100237 - 100001\r\n", schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+}
+
+TEST_F(Koppelen, AlleenWatVeranderdeWordtGeschrevenEnGenoemd)
+{
+    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
+    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,100002-100001,50,0,x\r\n");
+    const auto voor = schijf.NeemStempel("C:\\Zit\\Di\\PercZit.txt").value();
+    const auto uitslag =
+        Koppel(schijf, MaakKoppelopdracht(ZoekZitting().zwevenden, 0, "100237"));
+    EXPECT_EQ(Meldingen(uitslag), Teksten{"N05 spelers"});
+    EXPECT_EQ(uitslag.gewijzigd, std::vector<std::string>{schijf.Toonpad("C:\\Zit\\Di\\Spelers.txt")});
+    EXPECT_EQ(voor, schijf.NeemStempel("C:\\Zit\\Di\\PercZit.txt").value());
+}
+
+TEST_F(Koppelen, WatEenAnderProgrammaIntussenSchreefBlijft)
+{
+    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
+    const auto lijst = ZoekZitting().zwevenden;
+    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N04 Nieuw - 100009\r\nN05 Jansen - 100008\r\n");
+    (void)Koppel(schijf, MaakKoppelopdracht(lijst, 0, "100237"));
+    EXPECT_EQ("N04 Nieuw - 100009\r\nN05 100237 - 100008\r\n",
+              schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+
+    const auto weer = ZoekZitting().zwevenden;
+    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "heel iets anders");
+    const auto uitslag = Koppel(schijf, MaakKoppelopdracht(weer, 0, "100237"));
+    EXPECT_TRUE(uitslag.aangepast.empty());
+    EXPECT_FALSE(uitslag.fout);
+    EXPECT_EQ("heel iets anders", schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+}
+
+// ---------------------------------------------------------------- a competition
+
+TEST_F(Koppelen, InEenCompetitieOveralWaarDeNaamStaat)
+{
+    ZetCompetitie();
+    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+    const auto uitslag = Koppel(
+        schijf, MaakKoppelopdracht(gevonden.zwevenden,
+                                   Plaats(gevonden, "In R10 - Z3 als O7    Jansen"), "100237"));
+    EXPECT_EQ(Meldingen(uitslag), (Teksten{"N05 spelers", "N05 percentages", "O01 spelers",
+                                           "O01 percentages", "O07 spelers", "O07 percentages"}));
+    EXPECT_EQ(4U, uitslag.gewijzigd.size());
+    EXPECT_EQ("N05 100237 - 100001\r\nO01 Bos - 100237\r\n",
+              schijf.Inhoud(Lijstpad(2, 1, Lijstsoort::Spelers)));
+    EXPECT_EQ("1,A,O1,Bos - 100237,50,0,x\r\n2,A,N5,100237 - 100001,50,0,x\r\n",
+              schijf.Inhoud(Lijstpad(2, 1, Lijstsoort::Percentages)));
+    EXPECT_EQ("O07 100001 - 100237\r\n", schijf.Inhoud(Lijstpad(10, 3, Lijstsoort::Spelers)));
+    EXPECT_EQ("N01 Jansens - 100001\r\n", schijf.Inhoud(Lijstpad(1, 1, Lijstsoort::Spelers)));
+}
+
+/// Meant: the lines that contain the name are counted, those of a longer name and both files' too.
+TEST_F(Koppelen, HetAantalIsDatVanDeRegels)
+{
+    ZetCompetitie();
+    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+    const auto opdracht = MaakKoppelopdracht(
+        gevonden.zwevenden, Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
+    EXPECT_EQ("Jansen", opdracht.naam);
+    EXPECT_EQ(8U, opdracht.regels.size());
+}
+
+/// Meant: the search is in the whole line, so a short name may also be found in its beginning.
+TEST_F(Koppelen, DeNaamMagInDeHeleRegelStaan)
+{
+    ZetZitting(1, 1, "N05 als - 100001\r\nO01 Bos - 100002\r\n");
+    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+    const auto opdracht = MaakKoppelopdracht(gevonden.zwevenden, 0, "100237");
+    EXPECT_EQ(2U, opdracht.regels.size());
+    (void)Koppel(schijf, opdracht);
+    EXPECT_EQ("N05 100237 - 100001\r\nO01 Bos - 100002\r\n",
+              schijf.Inhoud(Lijstpad(1, 1, Lijstsoort::Spelers)));
+}
+
+TEST_F(Koppelen, NaElkeMislukkingIsVanElkBestandBekendHoeHetErVoorStaat)
+{
+    ZetCompetitie();
+    const auto oud = AlleInhoud();
+    FalendeSchijf telling(schijf);
+    const auto opdracht = [&] {
+        const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+        return MaakKoppelopdracht(gevonden.zwevenden,
+                                  Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
+    }();
+    ASSERT_FALSE(Koppel(telling, opdracht).fout);
+    const int stappen = telling.Aantal();
+    const auto nieuw = AlleInhoud();
+    ASSERT_NE(oud, nieuw);
+    int mislukt = 0;
+    for (int stap = 1; stap <= stappen; ++stap) {
+        for (const auto& [pad, inhoud] : oud)
+            schijf.Zet(pad, inhoud);
+        FalendeSchijf falend(schijf);
+        falend.FaalBij(stap);
+        const auto uitslag = Koppel(falend, opdracht);
+        if (!uitslag.fout)
+            continue; // a step that may fail without harm
+        ++mislukt;
+        std::size_t veranderd = 0;
+        for (const auto& [pad, inhoud] : AlleInhoud()) {
+            ASSERT_TRUE(oud.contains(pad)) << "er bleef iets liggen: " << pad;
+            EXPECT_TRUE(inhoud == oud.at(pad) || inhoud == nieuw.at(pad)) << pad << stap;
+            const std::string naam = schijf.Toonpad(pad);
+            const auto noemt = [&](const std::vector<std::string>& lijst) {
+                return std::find(lijst.begin(), lijst.end(), naam) != lijst.end();
+            };
+            if (oud.at(pad) == nieuw.at(pad)) {
+                EXPECT_FALSE(noemt(uitslag.gewijzigd)) << pad << stap;
+                continue;
+            }
+            veranderd += inhoud == nieuw.at(pad) ? 1U : 0U;
+            EXPECT_EQ(inhoud == nieuw.at(pad), noemt(uitslag.gewijzigd)) << pad << stap;
+            EXPECT_EQ(inhoud == oud.at(pad), noemt(uitslag.nietGewijzigd)) << pad << stap;
+        }
+        EXPECT_EQ(veranderd, uitslag.gewijzigd.size());
+        // Once more finishes the rest.
+        const auto rest = Koppel(schijf, opdracht);
+        EXPECT_FALSE(rest.fout);
+        EXPECT_EQ(4U - veranderd, rest.gewijzigd.size()) << stap;
+        EXPECT_EQ(nieuw, AlleInhoud()) << stap;
+    }
+    EXPECT_GT(mislukt, 20);
+}
+
+TEST_F(Koppelen, DeVoortgangTeltZittingen)
+{
+    ZetCompetitie();
+    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+    std::vector<std::size_t> gezien;
+    const auto opdracht = MaakKoppelopdracht(
+        gevonden.zwevenden, Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
+    (void)Koppel(schijf, opdracht, [&](std::size_t gedaan, std::size_t geheel) {
+        EXPECT_EQ(3U, geheel);
+        gezien.push_back(gedaan);
+        return false; // half-way is no place to stop
+    });
+    EXPECT_EQ((std::vector<std::size_t>{0, 1, 2}), gezien);
+    EXPECT_EQ("O07 100001 - 100237\r\n", schijf.Inhoud(Lijstpad(10, 3, Lijstsoort::Spelers)));
+}
+
+TEST_F(Koppelen, EenBestandAlleenOmTeLezenBlijftZoals)
+{
+    ZetCompetitie();
+    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+    schijf.ZetAlleenLezen(Lijstpad(2, 1, Lijstsoort::Percentages));
+    const auto opdracht = MaakKoppelopdracht(
+        gevonden.zwevenden, Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
+    const auto uitslag = Koppel(schijf, opdracht);
+    ASSERT_TRUE(uitslag.fout);
+    EXPECT_EQ(Meldingen(uitslag), (Teksten{"N05 spelers", "O01 spelers"}));
+    EXPECT_EQ(uitslag.gewijzigd,
+              std::vector<std::string>{schijf.Toonpad(Lijstpad(2, 1, Lijstsoort::Spelers))});
+    EXPECT_EQ(uitslag.nietGewijzigd, (std::vector<std::string>{
+                                         schijf.Toonpad(Lijstpad(2, 1, Lijstsoort::Percentages)),
+                                         schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Spelers)),
+                                         schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Percentages))}));
+}
+
+TEST_F(Koppelen, EenBestandAanpassen)
+{
+    ZetCompetitie();
+    const Zittingplaats plaats = Competitiezitting(mappen, "Ladder", 2, 1);
+    const Naamvervanging vervanging{{"N05"}, "Jansen", "100237"};
+    EXPECT_EQ(PasSpelersbestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{true});
+    EXPECT_EQ(PasPercentagebestandAan(schijf, plaats, vervanging).value(),
+              std::vector<bool>{true});
+    EXPECT_EQ(PasSpelersbestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{false});
+    EXPECT_EQ(PasSpelersbestandAan(schijf, Competitiezitting(mappen, "Ladder", 3, 1), vervanging)
+                  .value(),
+              std::vector<bool>{false});
+    schijf.ZetAlleenLezen("C:\\Com\\Ladder\\Ronde-2\\Zitting-1");
+    EXPECT_FALSE(PasSpelersbestandAan(schijf, plaats, {{"O01"}, "Bos", "100238"}));
+}
+
+// ---------------------------------------------------------------- the register's side
+
+TEST(Koppelspeler, AlleenDeImportgroepMetEenKeyVanZesCijfersOpAchternaam)
+{
+    const auto spelers = Koppelspelers(MaakTabel({{"100002", "Gr05-", "Bea", "de", "Cock", "DI", "2"},
+                                                  {"100001", "Gr01-", "An", "", "Aal", "", ""},
+                                                  {"100004", "Gr05-", "", "", "Bos", "", ""},
+                                                  {"12", "Gr05-", "Kort", "", "Aas", "", ""},
+                                                  {"1000x3", "Gr05-", "Raar", "", "Aas", "", ""},
+                                                  {"100003", "Gr05-", "An", "", "Cock", "", "7"}}),
+                                       "Gr05-");
+    ASSERT_EQ(3U, spelers.size());
+    EXPECT_EQ("100004  Bos", Spelerregel(spelers[0], 3));
+    EXPECT_EQ("100003  An Cock      7       ", Spelerregel(spelers[1], 11));
+    EXPECT_EQ("100002  Bea de Cock  2         DI", Spelerregel(spelers[2], 11));
+    EXPECT_EQ("100002  Bea de Cock  2         DI", Spelerregel(spelers[2], 2));
+}

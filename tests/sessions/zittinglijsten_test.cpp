@@ -1,0 +1,165 @@
+#include "sessions/zittinglijsten.h"
+
+#include <gtest/gtest.h>
+
+using namespace plexoran;
+
+namespace {
+
+constexpr auto Spelers = Lijstsoort::Spelers;
+constexpr auto Percentages = Lijstsoort::Percentages;
+
+using Vindplaatsen = std::vector<Vindplaats>;
+
+Vindplaatsen Zwevend(Tekstblik inhoud, Lijstsoort soort)
+{
+    return LeesLijst(inhoud, soort).zwevend;
+}
+
+/// The new text, with Jansen at N05 linked to 100237 unless something else is said.
+Tekst Gekoppeld(Tekstblik inhoud, Lijstsoort soort, const Tekst& naam = "Jansen",
+                const std::vector<Tekst>& codes = {"N05"})
+{
+    return HerschrijfLijst(inhoud, soort, {codes, naam, "100237"}).inhoud;
+}
+
+} // namespace
+
+// ---------------------------------------------------------------- player lists
+
+TEST(Spelerslijst, AlleenDeHelftDieGeenGetalIs)
+{
+    EXPECT_EQ(Zwevend("N05 Jansen - 100234\r\n", Spelers), (Vindplaatsen{{"N05", "Jansen"}}));
+    EXPECT_EQ(Zwevend("N05 7 - 100234\r\n", Spelers), Vindplaatsen{});
+}
+
+TEST(Spelerslijst, InBestandsvolgordeDeEersteSpelerEerst)
+{
+    EXPECT_EQ(Zwevend("O02 Bos - 100001\r\nN01 Cos - Dos\r\n\r\n  \r\nN02 100002 - Bos", Spelers),
+              (Vindplaatsen{{"O02", "Bos"}, {"N01", "Cos"}, {"N01", "Dos"}, {"N02", "Bos"}}));
+}
+
+TEST(Spelerslijst, EenItemEindigtBijKommaOfRegeleinde)
+{
+    EXPECT_EQ(Zwevend("N01 Bos - 1,N02 Cos - 2\nN03 Dos - 3\r,,", Spelers),
+              (Vindplaatsen{{"N01", "Bos"}, {"N02", "Cos"}, {"N03", "Dos"}}));
+}
+
+TEST(Spelerslijst, AanhalingstekensOmEenItemVallenWeg)
+{
+    EXPECT_EQ(Zwevend("\"N01 Bos, Jan - 1\"\r\n\"N02 Cos - 2\",N03 Dos - 3", Spelers),
+              (Vindplaatsen{{"N01", "Bos, Jan"}, {"N02", "Cos"}, {"N03", "Dos"}}));
+}
+
+TEST(Spelerslijst, WatGeenPaarIsGeeftNiets)
+{
+    EXPECT_EQ(Zwevend("", Spelers), Vindplaatsen{});
+    EXPECT_EQ(Zwevend("N05 Jansen\r\nN\r\nN05\r\n-\r\nN05 -\r\nN05 - 100234\r\n", Spelers),
+              Vindplaatsen{});
+    EXPECT_EQ(Zwevend(Tekst("\0\xFF\x01\r\x81", 5), Spelers), Vindplaatsen{});
+}
+
+TEST(Spelerslijst, HetVoorbeeld)
+{
+    EXPECT_EQ("N05 100237 - 100234\r\n", Gekoppeld("N05 Jansen - 100234\r\n", Spelers));
+    EXPECT_EQ("N05 100234 - 100237\r\n", Gekoppeld("N05 100234 - Jansen\r\n", Spelers));
+    EXPECT_EQ("N05 100237 - 100237\r\n", Gekoppeld("N05 Jansen - Jansen\r\n", Spelers));
+}
+
+TEST(Spelerslijst, HetPaarKomtErInVasteVormUit)
+{
+    EXPECT_EQ("N05 100237 - Piet  Bos", Gekoppeld("  N05Jansen-Piet  Bos  ", Spelers));
+    EXPECT_EQ("N5  100237 - 1", Gekoppeld("N5 Jansen-1", Spelers));
+    EXPECT_EQ("N05 100237 - ", Gekoppeld("N05 Jansen -", Spelers));
+}
+
+TEST(Spelerslijst, AndereRegelsKomenPrecieszoTerug)
+{
+    const Tekst voor = "\r\n  N04  Jansen-1 \n\"N06 Jansen - 1\",,x \r\x81\xFF\r\n";
+    const Tekst na = "\n\n N05 Jansens - Jan\r\r\n,\r\n \r\nN07 -";
+    EXPECT_EQ(voor + "N05 100237 - 100234\n" + na,
+              Gekoppeld(voor + "N05 Jansen - 100234\n" + na, Spelers));
+    EXPECT_EQ(voor + na, Gekoppeld(voor + na, Spelers));
+}
+
+TEST(Spelerslijst, ElkItemVanDeVeranderdeRegelKrijgtEenEigenRegel)
+{
+    EXPECT_EQ("N04 Bos - 1\nN05 100237 - 2\n\nN06 Cos - 3\n\nN07 Dos - 4,N08 Eik - 5\n",
+              Gekoppeld("N04 Bos - 1,N05 Jansen - 2,,\"N06 Cos - 3\",\nN07 Dos - 4,N08 Eik - 5\n",
+                        Spelers));
+    EXPECT_EQ("N05 100237 - 2\r\nN06 Cos - 3", Gekoppeld("N05 Jansen - 2,N06 Cos - 3", Spelers));
+}
+
+TEST(Spelerslijst, AanhalingstekensBlijvenAlleenAlsErEenKommaIs)
+{
+    EXPECT_EQ("N05 100237 - 2\r\n", Gekoppeld("\"N05 Jansen - 2\"\r\n", Spelers));
+    EXPECT_EQ("\"N05 100237 - Bos, Jan\"\r\n",
+              Gekoppeld("\"N05 Jansen - Bos, Jan\"\r\n", Spelers));
+    EXPECT_EQ("N05 100237 - 2\r\n", Gekoppeld("\"N05 Bos, Jan - 2\"\r\n", Spelers, "Bos, Jan"));
+}
+
+TEST(Spelerslijst, AlleenOpDePlaats)
+{
+    const Tekst tekst = "N04 Jansen - 1\r\nN05 Jansen - 2\r\nO05 Jansen - 3\r\n";
+    EXPECT_EQ("N04 Jansen - 1\r\nN05 100237 - 2\r\nO05 Jansen - 3\r\n",
+              Gekoppeld(tekst, Spelers, "Jansen", {"N5"}));
+    EXPECT_EQ("N04 100237 - 1\r\nN05 Jansen - 2\r\nO05 100237 - 3\r\n",
+              Gekoppeld(tekst, Spelers, "Jansen", {"O05", "N04"}));
+}
+
+TEST(Spelerslijst, WelkePlaatsenErVervangenZijn)
+{
+    const auto nieuw = HerschrijfLijst("N01 Jan - 1\r\nN02 Piet - Jan\r\n", Spelers,
+                                       {{"N03", "N02", "N2", "N01"}, "Jan", "100237"});
+    EXPECT_EQ(nieuw.vervangen, (std::vector<bool>{false, true, false, true}));
+    EXPECT_TRUE(nieuw.IetsVervangen());
+    EXPECT_FALSE(HerschrijfLijst("N01 Jan - 1", Spelers, {{"N02"}, "Jan", "1"}).IetsVervangen());
+}
+
+// ---------------------------------------------------------------- result lists
+
+TEST(Percentagelijst, VeldDrieIsDeCodeEnVeldVierHetPaar)
+{
+    EXPECT_EQ(Zwevend("1,\"A\",\"N5\",\"Jansen-100234\",52.08,0,\"\"\r\n", Percentages),
+              (Vindplaatsen{{"N5", "Jansen"}}));
+    EXPECT_EQ(Zwevend("1,A, N5 ,Jansen - Bos,52.08,0,\r\n", Percentages),
+              (Vindplaatsen{{"N5", "Jansen"}, {"N5", "Bos"}}));
+}
+
+TEST(Percentagelijst, EenKommaTussenAanhalingstekensHoortBijZijnVeld)
+{
+    const Tekst tekst = "1,\"a,b\",\"N5\",\"Bos, Jan-Jansen\",52,0,\",\"\r\n";
+    EXPECT_EQ(Zwevend(tekst, Percentages), (Vindplaatsen{{"N5", "Bos, Jan"}, {"N5", "Jansen"}}));
+    EXPECT_EQ("1,\"a,b\",\"N5\",\"Bos, Jan - 100237\",52,0,\",\"\r\n",
+              Gekoppeld(tekst, Percentages));
+}
+
+TEST(Percentagelijst, RegelsZonderZevenVeldenWordenOvergeslagen)
+{
+    const Tekst tekst = "\r\n1,2,\"N5\",\"Jansen-1\",5,6\r\n  \r\n1,2,\"N5\",\"Jansen-1\",5,6,7,8\r\n"
+                        "ruis\r\n1,2,\"N5\",Bos, Jan-Jansen,5,6,7\r\n";
+    EXPECT_EQ(Zwevend(tekst, Percentages), Vindplaatsen{});
+    EXPECT_EQ(4, LeesLijst(tekst, Percentages).overgeslagen);
+    EXPECT_EQ(tekst, Gekoppeld(tekst, Percentages));
+    EXPECT_EQ(0, LeesLijst("\r\n\r\n", Percentages).overgeslagen);
+}
+
+TEST(Percentagelijst, AlleenHetPaarVerandert)
+{
+    const Tekst voor = "\n 1 , \"x\" ,\"N4\", \"Jansen - 1\" ,5,\"\",\" 7 \"\r\n,,,,,,\r\nruis\r";
+    const Tekst na = "3,,O5,Jansen-1,,,\r\n\r\n";
+    EXPECT_EQ(voor + " 2 , \"x\" , \"N05\" , \"100237 - 1\" ,5,\"\", \x81" "\n" + na,
+              Gekoppeld(voor + " 2 , \"x\" , \"N05\" , \"Jansen-1\" ,5,\"\", \x81" "\n" + na,
+                        Percentages));
+    EXPECT_EQ("2,x,N5,100237 - 1,5,6,7", Gekoppeld("2,x,N5,Jansen-1,5,6,7", Percentages));
+    EXPECT_EQ("2,x,N5,100237 - 100237,5,6,7",
+              Gekoppeld("2,x,N5,Jansen - Jansen,5,6,7", Percentages));
+}
+
+TEST(Percentagelijst, LeegAfgeknipEnRuis)
+{
+    for (const Tekst& tekst : {Tekst(), Tekst("1,\"A\",\"N5\",\"Jan"), Tekst("\"\"\",\"\0,\xFF", 9)}) {
+        EXPECT_EQ(Zwevend(tekst, Percentages), Vindplaatsen{});
+        EXPECT_EQ(tekst, Gekoppeld(tekst, Percentages));
+    }
+}
