@@ -338,9 +338,10 @@ void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
         opmerkingen << QStringLiteral("Overgeslagen regels in de percentagebestanden, omdat ze "
                                       "geen 7 velden hebben: %1.")
                            .arg(uitslag.overgeslagen);
-    ToonResultaat(opmerkingen);
     if (!zwevenden_.empty())
-        lstSpelers->setFocus();
+        lstSpelers->setFocus(); // which chooses the first line, and may have to say something of it
+    if (!opmerkingen.isEmpty())
+        ToonResultaat(opmerkingen);
     if (!uitslag.fouten.empty())
         MeldFout(QStringLiteral("Fout bij het lezen van de zittingbestanden: %1 bestand(en) konden "
                                 "niet worden gelezen. De spelers daaruit staan niet in de lijst. "

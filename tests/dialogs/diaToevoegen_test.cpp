@@ -292,7 +292,7 @@ TEST_F(diaToevoegenTest, MetHetToetsenbord)
     }
     wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
     QTest::keyClick(venster.get(), Qt::Key_D, Qt::AltModifier);
-    QApplication::processEvents();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Knop("OKButton")->isEnabled(); }));
     wachter.Klaar();
     EXPECT_EQ(Knop("OKButton"), venster->focusWidget());
     QTest::keyClick(venster.get(), Qt::Key_Return);

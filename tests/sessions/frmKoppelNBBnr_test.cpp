@@ -452,9 +452,11 @@ TEST_F(Koppelvenster, MetHetToetsenbord)
         QTest::keyClick(venster->focusWidget(), Qt::Key_Tab);
     }
     QTest::keyClick(venster.get(), Qt::Key_Z, Qt::AltModifier);
-    QApplication::processEvents();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Regels("lstSpelers").empty(); }));
     EXPECT_EQ("lstSpelers", venster->focusWidget()->objectName().toStdString());
     QTest::keyClick(venster->focusWidget(), Qt::Key_Down);
+    EXPECT_EQ("als N03    Mieke Oudewortel-Quist", Vak("txtSpeler"));
+    QTest::keyClick(venster->focusWidget(), Qt::Key_Up);
     EXPECT_EQ("als N02    Marleen Hijmanse", Vak("txtSpeler"));
     // Enter goes on to the register, at the player who bears the same name.
     QTest::keyClick(venster->focusWidget(), Qt::Key_Return);
