@@ -20,9 +20,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
     spelers.HKEY = 100042;
     const auto verslag = VoegSpelersToe(spelers, namen);
     Eis(verslag.has_value(), "er zijn sleutels genoeg");
-    const auto iemand = std::count_if(namen.begin(), namen.end(), [](const Sessiespeler& naam) {
-        return !IsNiemand(naam);
-    });
+    const auto iemand = std::count_if(namen.begin(), namen.end(),
+                                      [](const Sessiespeler& naam) { return !IsNiemand(naam); });
     Eis(spelers.tabel.Rijen() == iemand && spelers.HKEY == 100042 + iemand, "een key per speler");
     const auto gelezen = SpelersUit(SpelersTekst(spelers));
     Eis(gelezen.tabel && gelezen.tabel->Rijen() == iemand && !gelezen.fout, "op te slaan");

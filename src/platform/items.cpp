@@ -63,7 +63,9 @@ bool LeestTerug(Tekstblik geschreven, Tekstblik tekst)
 
 std::vector<Item> ItemsVan(Tekstblik regel)
 {
+    constexpr std::size_t gewoonlijk = 8; // a record of a result list has 7
     std::vector<Item> items;
+    items.reserve(gewoonlijk);
     Knipper knipper(regel);
     std::size_t begin = 0;
     do {

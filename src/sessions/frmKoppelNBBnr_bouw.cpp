@@ -241,8 +241,9 @@ QWidget* frmKoppelNBBnr::BouwOnderkant()
 void frmKoppelNBBnr::StelTabvolgordeIn()
 {
     auto* vlakUitleg = findChild<QWidget*>(QStringLiteral("vlakUitleg"));
-    ZetTabvolgorde({Option1, Option2, cmbC, cmdZoekNamen, vlakUitleg, lstSpelers, txtSpeler, cmdKiesRVDspeler,
-                    lstRVDsp, txtRVDspeler, cmdStop, cmdStartKoppelen, cmdEinde, lblResultaat});
+    ZetTabvolgorde({Option1, Option2, cmbC, cmdZoekNamen, vlakUitleg, lstSpelers, txtSpeler,
+                    cmdKiesRVDspeler, lstRVDsp, txtRVDspeler, cmdStop, cmdStartKoppelen, cmdEinde,
+                    lblResultaat});
 }
 
 } // namespace plexoran

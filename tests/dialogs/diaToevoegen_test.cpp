@@ -128,9 +128,9 @@ TEST_F(diaToevoegenTest, ToevoegenEnOpslaan)
     VoegToe();
     ASSERT_EQ(oud + 9, Tabel().Rijen());
     EXPECT_EQ(100180, administratie.spelers.HKEY);
-    EXPECT_EQ((Rijvelden{std::to_string(oud + 4), "100175", "Gr08-", "Heidelinde", "von der",
-                         "Wei\xDF"}),
-              Tabel().Velden(oud + 4));
+    EXPECT_EQ(
+        (Rijvelden{std::to_string(oud + 4), "100175", "Gr08-", "Heidelinde", "von der", "Wei\xDF"}),
+        Tabel().Velden(oud + 4));
     EXPECT_EQ(Verslag, suite.Inhoud(Zomer + "/Koppelverslag.txt"));
     EXPECT_FALSE(Knop("cmdStart")->isEnabled());
     EXPECT_FALSE(Knop("cmdLeesSpelers")->isEnabled());

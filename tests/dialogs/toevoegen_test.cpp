@@ -135,7 +135,8 @@ TEST_F(Toevoegen, ZonderStreepjeIsDeTweedeNiemand)
 
 TEST_F(Toevoegen, EenKommaTussenAanhalingstekensWordtEenStreepje)
 {
-    EXPECT_EQ(RegelsUit("\"N01 Jan Bos,sr - An Cos\""), (Teksten{"Jan,,Bos_sr,N01", "An,,Cos,N01"}));
+    EXPECT_EQ(RegelsUit("\"N01 Jan Bos,sr - An Cos\""),
+              (Teksten{"Jan,,Bos_sr,N01", "An,,Cos,N01"}));
 }
 
 TEST_F(Toevoegen, OudeKeysVallenWeg)
@@ -198,8 +199,8 @@ TEST_F(Toevoegen, NieuweSpelersInGr08EnHetVerslag)
 
 TEST_F(Toevoegen, WieNiemandIsWordtNooitSpeler)
 {
-    for (const char* naam : {"AFW", "Afwezig", "AFW Bos", "Afw. de Bos", "Afwezig Bos", "STIL ZIT",
-                             "100201", ""})
+    for (const char* naam :
+         {"AFW", "Afwezig", "AFW Bos", "Afw. de Bos", "Afwezig Bos", "STIL ZIT", "100201", ""})
         EXPECT_TRUE(IsNiemand(SessiespelersUit(Tekst("N01 ") + naam + " - x").spelers[0])) << naam;
     EXPECT_TRUE(IsNiemand(SessiespelersUit("N01 stilzit").spelers[0]));
     // Meant: the test for absence minds capitals, and looks at a surname only when it stands alone.
@@ -222,8 +223,8 @@ TEST_F(Toevoegen, ZonderHKEYTeltDeHoogsteKeyVanDeTabel)
 {
     const auto namen = SessiespelersUit("N01 An Bos - Bo Cos").spelers;
     Register spelers;
-    spelers.tabel = MaakTabel({{"100007", "Gr01-", "", "", "Aal", "", ""},
-                               {"100003", "Gr01-", "", "", "Bal", "", ""}});
+    spelers.tabel = MaakTabel(
+        {{"100007", "Gr01-", "", "", "Aal", "", ""}, {"100003", "Gr01-", "", "", "Bal", "", ""}});
     EXPECT_EQ("N01 100008 - 100009\r\n", VoegSpelersToe(spelers, namen));
     Register leeg;
     EXPECT_EQ("N01 100001 - 100002\r\n", VoegSpelersToe(leeg, namen));

@@ -169,9 +169,9 @@ TEST_F(Koppelvenster, DeZittingenEnDeCompetitiesMetHunDatum)
                        "Maandagmiddag 2024-10-07", "Nog te spelen", "Zomerdrive 2024_Rev",
                        "Zondagdrive 2024_Rev"}),
               Sessies());
-    std::filesystem::last_write_time(
-        suite.Weg() / "Zittingen/Nog te spelen/Zitdata.txt",
-        std::filesystem::file_time_type::clock::now() - std::chrono::hours(24 * 400));
+    std::filesystem::last_write_time(suite.Weg() / "Zittingen/Nog te spelen/Zitdata.txt",
+                                     std::filesystem::file_time_type::clock::now() -
+                                         std::chrono::hours(24 * 400));
     Deel<QRadioButton>("Option2")->click();
     EXPECT_EQ("Kies een Competitie", Label("Label4"));
     EXPECT_EQ("Zoek de zwevende spelers in deze Competitie", Opschrift(Knop("cmdZoekNamen")));
@@ -179,7 +179,8 @@ TEST_F(Koppelvenster, DeZittingenEnDeCompetitiesMetHunDatum)
     EXPECT_EQ(Datum(Nu()), Keus()->itemData(0, Qt::ToolTipRole).toString().toStdString());
     Deel<QRadioButton>("Option1")->click();
     constexpr std::int64_t dag = 86'400'000'000'000;
-    EXPECT_EQ(Datum(Nu() - 400 * dag), Keus()->itemData(3, Qt::ToolTipRole).toString().toStdString());
+    EXPECT_EQ(Datum(Nu() - 400 * dag),
+              Keus()->itemData(3, Qt::ToolTipRole).toString().toStdString());
     Keus()->setCurrentIndex(3);
     EXPECT_EQ(Datum(Nu() - 400 * dag), Keus()->toolTip().toStdString());
 }
@@ -363,21 +364,21 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
     schijf.FaalBij(8); // the second file is being written
     VerwachtVraag();
     wachter.Verwacht(
-        {.tekst = QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal "
-                                 "aangepast of nog zoals het was. Verhelp de oorzaak en koppel deze "
-                                 "speler opnieuw; dan wordt de rest aangepast.\n\nAangepast (1):\n"
-                                 "- %1\n\nNiet aangepast (3):\n- %2\n- %3\n- %4\n\nBestand: ")
-                      .arg(pad("Ronde-1/Zitting-1/Spelers.txt"),
-                           pad("Ronde-1/Zitting-1/PercZit-1.txt"),
-                           pad("Ronde-2/Zitting-3/Spelers.txt"),
-                           pad("Ronde-2/Zitting-3/PercZit-3.txt")),
+        {.tekst =
+             QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal "
+                            "aangepast of nog zoals het was. Verhelp de oorzaak en koppel deze "
+                            "speler opnieuw; dan wordt de rest aangepast.\n\nAangepast (1):\n"
+                            "- %1\n\nNiet aangepast (3):\n- %2\n- %3\n- %4\n\nBestand: ")
+                 .arg(pad("Ronde-1/Zitting-1/Spelers.txt"), pad("Ronde-1/Zitting-1/PercZit-1.txt"),
+                      pad("Ronde-2/Zitting-3/Spelers.txt"), pad("Ronde-2/Zitting-3/PercZit-3.txt")),
          .icoon = QMessageBox::Critical,
          .alleenBegin = true});
     Klik(Knop("cmdStartKoppelen"));
     wachter.Klaar();
     EXPECT_EQ(regels, Regels("lstSpelers").size());
-    EXPECT_TRUE(Label("lblResultaat").starts_with(
-        "Rosa Zwaluwstaart - O01 aangepast in Spelerbestand.\nNiet aangepast: "))
+    EXPECT_TRUE(
+        Label("lblResultaat")
+            .starts_with("Rosa Zwaluwstaart - O01 aangepast in Spelerbestand.\nNiet aangepast: "))
         << Label("lblResultaat");
 
     schijf.FaalNiet();
@@ -443,9 +444,9 @@ TEST_F(Koppelvenster, MetHetToetsenbord)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-    const Teksten volgorde{"Option1",    "cmbC",      "cmdZoekNamen",     "vlakUitleg",
-                           "lstSpelers", "txtSpeler", "cmdKiesRVDspeler", "lstRVDsp",
-                           "txtRVDspeler"};
+    const Teksten volgorde{"Option1",          "cmbC",       "cmdZoekNamen",
+                           "vlakUitleg",       "lstSpelers", "txtSpeler",
+                           "cmdKiesRVDspeler", "lstRVDsp",   "txtRVDspeler"};
     Deel<QRadioButton>("Option1")->setFocus();
     for (const std::string& naam : volgorde) {
         EXPECT_EQ(naam, venster->focusWidget()->objectName().toStdString());

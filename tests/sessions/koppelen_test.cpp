@@ -179,10 +179,10 @@ TEST_F(Koppelen, AlleenWatVeranderdeWordtGeschrevenEnGenoemd)
     schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
     schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,100002-100001,50,0,x\r\n");
     const auto voor = schijf.NeemStempel("C:\\Zit\\Di\\PercZit.txt").value();
-    const auto uitslag =
-        Koppel(schijf, MaakKoppelopdracht(ZoekZitting().zwevenden, 0, "100237"));
+    const auto uitslag = Koppel(schijf, MaakKoppelopdracht(ZoekZitting().zwevenden, 0, "100237"));
     EXPECT_EQ(Meldingen(uitslag), Teksten{"N05 spelers"});
-    EXPECT_EQ(uitslag.gewijzigd, std::vector<std::string>{schijf.Toonpad("C:\\Zit\\Di\\Spelers.txt")});
+    EXPECT_EQ(uitslag.gewijzigd,
+              std::vector<std::string>{schijf.Toonpad("C:\\Zit\\Di\\Spelers.txt")});
     EXPECT_EQ(voor, schijf.NeemStempel("C:\\Zit\\Di\\PercZit.txt").value());
 }
 
@@ -324,10 +324,10 @@ TEST_F(Koppelen, EenBestandAlleenOmTeLezenBlijftZoals)
     EXPECT_EQ(Meldingen(uitslag), (Teksten{"N05 spelers", "O01 spelers"}));
     EXPECT_EQ(uitslag.gewijzigd,
               std::vector<std::string>{schijf.Toonpad(Lijstpad(2, 1, Lijstsoort::Spelers))});
-    EXPECT_EQ(uitslag.nietGewijzigd, (std::vector<std::string>{
-                                         schijf.Toonpad(Lijstpad(2, 1, Lijstsoort::Percentages)),
-                                         schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Spelers)),
-                                         schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Percentages))}));
+    EXPECT_EQ(uitslag.nietGewijzigd,
+              (std::vector<std::string>{schijf.Toonpad(Lijstpad(2, 1, Lijstsoort::Percentages)),
+                                        schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Spelers)),
+                                        schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Percentages))}));
 }
 
 TEST_F(Koppelen, EenBestandAanpassen)
@@ -336,12 +336,11 @@ TEST_F(Koppelen, EenBestandAanpassen)
     const Zittingplaats plaats = Competitiezitting(mappen, "Ladder", 2, 1);
     const Naamvervanging vervanging{{"N05"}, "Jansen", "100237"};
     EXPECT_EQ(PasSpelersbestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{true});
-    EXPECT_EQ(PasPercentagebestandAan(schijf, plaats, vervanging).value(),
-              std::vector<bool>{true});
+    EXPECT_EQ(PasPercentagebestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{true});
     EXPECT_EQ(PasSpelersbestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{false});
-    EXPECT_EQ(PasSpelersbestandAan(schijf, Competitiezitting(mappen, "Ladder", 3, 1), vervanging)
-                  .value(),
-              std::vector<bool>{false});
+    EXPECT_EQ(
+        PasSpelersbestandAan(schijf, Competitiezitting(mappen, "Ladder", 3, 1), vervanging).value(),
+        std::vector<bool>{false});
     schijf.ZetAlleenLezen("C:\\Com\\Ladder\\Ronde-2\\Zitting-1");
     EXPECT_FALSE(PasSpelersbestandAan(schijf, plaats, {{"O01"}, "Bos", "100238"}));
 }
@@ -350,13 +349,14 @@ TEST_F(Koppelen, EenBestandAanpassen)
 
 TEST(Koppelspeler, AlleenDeImportgroepMetEenKeyVanZesCijfersOpAchternaam)
 {
-    const auto spelers = Koppelspelers(MaakTabel({{"100002", "Gr05-", "Bea", "de", "Cock", "DI", "2"},
-                                                  {"100001", "Gr01-", "An", "", "Aal", "", ""},
-                                                  {"100004", "Gr05-", "", "", "Bos", "", ""},
-                                                  {"12", "Gr05-", "Kort", "", "Aas", "", ""},
-                                                  {"1000x3", "Gr05-", "Raar", "", "Aas", "", ""},
-                                                  {"100003", "Gr05-", "An", "", "Cock", "", "7"}}),
-                                       "Gr05-");
+    const auto spelers =
+        Koppelspelers(MaakTabel({{"100002", "Gr05-", "Bea", "de", "Cock", "DI", "2"},
+                                 {"100001", "Gr01-", "An", "", "Aal", "", ""},
+                                 {"100004", "Gr05-", "", "", "Bos", "", ""},
+                                 {"12", "Gr05-", "Kort", "", "Aas", "", ""},
+                                 {"1000x3", "Gr05-", "Raar", "", "Aas", "", ""},
+                                 {"100003", "Gr05-", "An", "", "Cock", "", "7"}}),
+                      "Gr05-");
     ASSERT_EQ(3U, spelers.size());
     EXPECT_EQ("100004  Bos", Spelerregel(spelers[0], 3));
     EXPECT_EQ("100003  An Cock      7       ", Spelerregel(spelers[1], 11));

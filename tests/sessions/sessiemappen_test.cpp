@@ -90,18 +90,19 @@ TEST_F(Sessiemappen, DeBestandenVanEenZitting)
     EXPECT_EQ("C:\\Zit\\Dinsdag\\Spelers.txt", los.Bestand(Lijstsoort::Spelers));
     EXPECT_EQ("C:\\Zit\\Dinsdag\\PercZit.txt", los.Bestand(Lijstsoort::Percentages));
     const Zittingplaats van = Competitiezitting(mappen, "Ladder", 2, 13);
-    EXPECT_EQ("C:\\Com\\Ladder\\Ronde-2\\Zitting-13\\Spelers.txt", van.Bestand(Lijstsoort::Spelers));
+    EXPECT_EQ("C:\\Com\\Ladder\\Ronde-2\\Zitting-13\\Spelers.txt",
+              van.Bestand(Lijstsoort::Spelers));
     EXPECT_EQ("C:\\Com\\Ladder\\Ronde-2\\Zitting-13\\PercZit-13.txt",
               van.Bestand(Lijstsoort::Percentages));
 }
 
 TEST_F(Sessiemappen, RondesEnZittingenInVolgordeVanHunNummers)
 {
-    for (const char* map : {"Ronde-10\\Zitting-1", "Ronde-2\\Zitting-11", "Ronde-2\\Zitting-9",
-                            "RONDE-1\\zitting-3", "Ronde-2\\Map", "Ronde-02\\Zitting-1",
-                            "Ronde-x\\Zitting-1", "Ronde-\\Zitting-1", "Ronde-3a\\Zitting-1",
-                            "Ronde-4\\Zitting-01", "Ronde--5\\Zitting-1", "Zitting-1",
-                            "Ronde-99999999999\\Zitting-1", "Ronde-0\\Zitting-0"})
+    for (const char* map :
+         {"Ronde-10\\Zitting-1", "Ronde-2\\Zitting-11", "Ronde-2\\Zitting-9", "RONDE-1\\zitting-3",
+          "Ronde-2\\Map", "Ronde-02\\Zitting-1", "Ronde-x\\Zitting-1", "Ronde-\\Zitting-1",
+          "Ronde-3a\\Zitting-1", "Ronde-4\\Zitting-01", "Ronde--5\\Zitting-1", "Zitting-1",
+          "Ronde-99999999999\\Zitting-1", "Ronde-0\\Zitting-0"})
         schijf.ZetMap(Samen("C:\\Com\\Ladder", map));
     schijf.Zet("C:\\Com\\Ladder\\Ronde-6", "een bestand");
     schijf.Zet("C:\\Com\\Ladder\\Ronde-2\\Zitting-7", "een bestand");

@@ -93,8 +93,7 @@ TEST(Spelerslijst, ElkItemVanDeVeranderdeRegelKrijgtEenEigenRegel)
 TEST(Spelerslijst, AanhalingstekensBlijvenAlleenAlsErEenKommaIs)
 {
     EXPECT_EQ("N05 100237 - 2\r\n", Gekoppeld("\"N05 Jansen - 2\"\r\n", Spelers));
-    EXPECT_EQ("\"N05 100237 - Bos, Jan\"\r\n",
-              Gekoppeld("\"N05 Jansen - Bos, Jan\"\r\n", Spelers));
+    EXPECT_EQ("\"N05 100237 - Bos, Jan\"\r\n", Gekoppeld("\"N05 Jansen - Bos, Jan\"\r\n", Spelers));
     EXPECT_EQ("N05 100237 - 2\r\n", Gekoppeld("\"N05 Bos, Jan - 2\"\r\n", Spelers, "Bos, Jan"));
 }
 
@@ -136,8 +135,9 @@ TEST(Percentagelijst, EenKommaTussenAanhalingstekensHoortBijZijnVeld)
 
 TEST(Percentagelijst, RegelsZonderZevenVeldenWordenOvergeslagen)
 {
-    const Tekst tekst = "\r\n1,2,\"N5\",\"Jansen-1\",5,6\r\n  \r\n1,2,\"N5\",\"Jansen-1\",5,6,7,8\r\n"
-                        "ruis\r\n1,2,\"N5\",Bos, Jan-Jansen,5,6,7\r\n";
+    const Tekst tekst =
+        "\r\n1,2,\"N5\",\"Jansen-1\",5,6\r\n  \r\n1,2,\"N5\",\"Jansen-1\",5,6,7,8\r\n"
+        "ruis\r\n1,2,\"N5\",Bos, Jan-Jansen,5,6,7\r\n";
     EXPECT_EQ(Zwevend(tekst, Percentages), Vindplaatsen{});
     EXPECT_EQ(4, LeesLijst(tekst, Percentages).overgeslagen);
     EXPECT_EQ(tekst, Gekoppeld(tekst, Percentages));
@@ -148,8 +148,14 @@ TEST(Percentagelijst, AlleenHetPaarVerandert)
 {
     const Tekst voor = "\n 1 , \"x\" ,\"N4\", \"Jansen - 1\" ,5,\"\",\" 7 \"\r\n,,,,,,\r\nruis\r";
     const Tekst na = "3,,O5,Jansen-1,,,\r\n\r\n";
-    EXPECT_EQ(voor + " 2 , \"x\" , \"N05\" , \"100237 - 1\" ,5,\"\", \x81" "\n" + na,
-              Gekoppeld(voor + " 2 , \"x\" , \"N05\" , \"Jansen-1\" ,5,\"\", \x81" "\n" + na,
+    EXPECT_EQ(voor +
+                  " 2 , \"x\" , \"N05\" , \"100237 - 1\" ,5,\"\", \x81"
+                  "\n" +
+                  na,
+              Gekoppeld(voor +
+                            " 2 , \"x\" , \"N05\" , \"Jansen-1\" ,5,\"\", \x81"
+                            "\n" +
+                            na,
                         Percentages));
     EXPECT_EQ("2,x,N5,100237 - 1,5,6,7", Gekoppeld("2,x,N5,Jansen-1,5,6,7", Percentages));
     EXPECT_EQ("2,x,N5,100237 - 100237,5,6,7",
@@ -158,7 +164,8 @@ TEST(Percentagelijst, AlleenHetPaarVerandert)
 
 TEST(Percentagelijst, LeegAfgeknipEnRuis)
 {
-    for (const Tekst& tekst : {Tekst(), Tekst("1,\"A\",\"N5\",\"Jan"), Tekst("\"\"\",\"\0,\xFF", 9)}) {
+    for (const Tekst& tekst :
+         {Tekst(), Tekst("1,\"A\",\"N5\",\"Jan"), Tekst("\"\"\",\"\0,\xFF", 9)}) {
         EXPECT_EQ(Zwevend(tekst, Percentages), Vindplaatsen{});
         EXPECT_EQ(tekst, Gekoppeld(tekst, Percentages));
     }
