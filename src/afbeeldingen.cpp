@@ -126,8 +126,6 @@ void NeemKoppelvenster(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster,
         if (auto* deel = venster.findChild<QPushButton*>(QString::fromLatin1(knop)))
             deel->click();
     }
-    const Maten maten;
-    venster.resize(maten.Twips(15000), maten.Twips(10200));
     fotograaf.Neem(venster);
 }
 

@@ -198,4 +198,11 @@ void Sorteer(std::vector<Tekstblik>& teksten)
                    [](const Sorteerstuk& stuk) { return stuk.tekst; });
 }
 
+void Sorteer(std::vector<Tekst>& teksten)
+{
+    std::vector<Tekstblik> blikken(teksten.begin(), teksten.end());
+    Sorteer(blikken);
+    teksten = std::vector<Tekst>(blikken.begin(), blikken.end());
+}
+
 } // namespace plexoran

@@ -15,5 +15,7 @@ namespace plexoran {
 
 /// Puts the texts in text order. Looks at no more of them than it takes to tell them apart.
 void Sorteer(std::vector<Tekstblik>& teksten);
+/// The same for texts that own their characters.
+void Sorteer(std::vector<Tekst>& teksten);
 
 } // namespace plexoran

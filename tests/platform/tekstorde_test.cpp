@@ -153,6 +153,9 @@ TEST(Tekstorde, SorteertEnHoudtDubbeleTeksten)
     EXPECT_EQ(gesorteerd, teksten);
     std::vector<Tekstblik> geen;
     Sorteer(geen);
+    std::vector<Tekst> eigen{"b", "a 2", "\xC9\xE9n", "A 10"};
+    Sorteer(eigen);
+    EXPECT_EQ((std::vector<Tekst>{"A 10", "a 2", "b", "\xC9\xE9n"}), eigen);
     EXPECT_TRUE(geen.empty());
 }
 
