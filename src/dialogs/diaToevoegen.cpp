@@ -88,7 +88,7 @@ void diaToevoegen::Bouw()
 void diaToevoegen::Verbind()
 {
     connect(Combo1, &QComboBox::currentIndexChanged, this, &diaToevoegen::KiesZitting);
-    // What the sibling program or the user changed meanwhile can be fetched again.
+    // The list in the session's folder may be changed meanwhile, and be read again.
     connect(Combo1, &QComboBox::activated, this, [this] { cmdLeesSpelers->setEnabled(true); });
     connect(cmdLeesSpelers, &QPushButton::clicked, this, &diaToevoegen::LeesNamen);
     connect(cmdStart, &QPushButton::clicked, this, &diaToevoegen::VoegToe);

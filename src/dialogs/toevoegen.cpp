@@ -6,6 +6,7 @@
 #include "platform/getal.h"
 #include "platform/heelschrijven.h"
 #include "platform/items.h"
+#include "platform/klok.h"
 #include "platform/regels.h"
 #include "platform/tekstorde.h"
 #include "sessions/sessiemappen.h"
@@ -16,6 +17,7 @@ namespace {
 
 constexpr Tekstblik Achtervoegsel = "_Rev";
 constexpr Tekstblik Spelersnaam = "Spelers.txt";
+constexpr Tekstblik Verslagnaam = "Koppelverslag.txt";
 
 Pad Zittingenmap(const Mappen& mappen)
 {
@@ -239,7 +241,7 @@ std::optional<Tekst> VoegSpelersToe(Register& spelers, const std::vector<Sessies
 }
 
 Koppelverslag::Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
-    : schijf_(schijf), pad_(Samen(Zittingmap(mappen, zitting), "Koppelverslag.txt"))
+    : schijf_(schijf), map_(Zittingmap(mappen, zitting)), pad_(Samen(map_, Verslagnaam))
 {}
 
 Uitkomst<void> Koppelverslag::Schrijf(Tekstblik tekst)
@@ -249,6 +251,8 @@ Uitkomst<void> Koppelverslag::Schrijf(Tekstblik tekst)
         return tl::unexpected(oud.error());
     oud_ = std::move(*oud);
     aangeraakt_ = true;
+    for (const Tekstblik naam : {Verslagnaam, Spelersnaam})
+        RuimTijdelijkeOp(schijf_, map_, naam, Nu());
     return SchrijfHeel(schijf_, pad_, tekst);
 }
 

@@ -72,6 +72,7 @@ class Koppelverslag {
 
   private:
     Schijf& schijf_;
+    Pad map_;
     Pad pad_;
     std::optional<Tekst> oud_;
     bool aangeraakt_ = false; ///< else what stood there before is not known

@@ -34,6 +34,14 @@ QString Opsomming(const std::vector<std::string>& bestanden)
     return uit.isEmpty() ? QStringLiteral("- geen") : uit.join(QLatin1Char('\n'));
 }
 
+/// The selected line, or -1. The current one is no choice: a list that gets the focus makes its
+/// first line current by itself.
+int Gekozen(const QListView& lijst)
+{
+    const QModelIndexList regels = lijst.selectionModel()->selectedIndexes();
+    return regels.isEmpty() ? -1 : regels.first().row();
+}
+
 QString Hoeveel(const std::vector<std::string>& bestanden, const QString& wat)
 {
     return wat + QStringLiteral(" (%1):\n").arg(bestanden.size());
@@ -59,12 +67,18 @@ void frmKoppelNBBnr::Verbind()
         VergeetGevonden();
     });
     connect(cmdZoekNamen, &QPushButton::clicked, this, &frmKoppelNBBnr::ZoekNamen);
-    connect(lstSpelers->selectionModel(), &QItemSelectionModel::currentChanged, this,
+    connect(lstSpelers->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmKoppelNBBnr::ToonZwevende);
-    connect(lstRVDsp->selectionModel(), &QItemSelectionModel::currentChanged, this,
+    connect(lstRVDsp->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmKoppelNBBnr::ToonSpeler);
-    connect(lstSpelers, &QListView::activated, this, &frmKoppelNBBnr::KiesUitRegister);
-    connect(lstRVDsp, &QListView::activated, this, [this] { cmdStartKoppelen->setFocus(); });
+    connect(lstSpelers, &QListView::activated, this, [this](const QModelIndex& regel) {
+        lstSpelers->setCurrentIndex(regel);
+        KiesUitRegister();
+    });
+    connect(lstRVDsp, &QListView::activated, this, [this](const QModelIndex& regel) {
+        lstRVDsp->setCurrentIndex(regel);
+        cmdStartKoppelen->setFocus();
+    });
     connect(lstRVDsp->horizontalScrollBar(), &QScrollBar::valueChanged, this,
             &frmKoppelNBBnr::PlaatsKoppen);
     connect(cmdKiesRVDspeler, &QPushButton::clicked, this, &frmKoppelNBBnr::KiesUitRegister);
@@ -190,33 +204,41 @@ void frmKoppelNBBnr::PlaatsKoppen()
         kop->move(begin + maten.horizontalAdvance(QString(kolom, QLatin1Char('0'))), 0);
 }
 
-/// The file again, for who was imported meanwhile, and the player who bears the same name.
+const Zwevende* frmKoppelNBBnr::GekozenZwevende() const
+{
+    const int regel = Gekozen(*lstSpelers);
+    return regel < 0 ? nullptr : &zwevenden_.at(static_cast<std::size_t>(regel));
+}
+
+const Koppelspeler* frmKoppelNBBnr::GekozenSpeler() const
+{
+    const int regel = Gekozen(*lstRVDsp);
+    return regel < 0 ? nullptr : &spelers_.at(static_cast<std::size_t>(regel));
+}
+
+/// The file again, for who was imported meanwhile, and the player who bears the same name. Without
+/// such a player nobody is chosen: whoever stands first is not the one who is meant.
 void frmKoppelNBBnr::KiesUitRegister()
 {
     LeesRegister();
-    const auto gekozen = static_cast<std::size_t>(std::max(lstSpelers->currentIndex().row(), 0));
-    std::size_t plaats = 0;
-    if (gekozen < zwevenden_.size()) {
-        const Tekst naam = Hoofdletters(zwevenden_[gekozen].vindplaats.naam);
-        const auto zelfde =
-            std::find_if(spelers_.begin(), spelers_.end(), [&](const Koppelspeler& speler) {
-                return Hoofdletters(speler.naam) == naam;
-            });
-        if (zelfde != spelers_.end())
-            plaats = static_cast<std::size_t>(zelfde - spelers_.begin());
-    }
-    lstRVDsp->setCurrentIndex(spelerregels_->index(static_cast<int>(plaats)));
     lstRVDsp->setFocus();
+    const Zwevende* zwevende = GekozenZwevende();
+    if (zwevende == nullptr)
+        return;
+    const Tekst naam = Hoofdletters(zwevende->vindplaats.naam);
+    const auto zelfde =
+        std::find_if(spelers_.begin(), spelers_.end(),
+                     [&](const Koppelspeler& speler) { return Hoofdletters(speler.naam) == naam; });
+    if (zelfde != spelers_.end())
+        lstRVDsp->setCurrentIndex(
+            spelerregels_->index(static_cast<int>(zelfde - spelers_.begin())));
 }
 
 void frmKoppelNBBnr::ToonZwevende()
 {
-    const QModelIndex gekozen = lstSpelers->currentIndex();
-    txtSpeler->setText(gekozen.isValid() ? gekozen.data().toString() : QString());
-    const bool metStreep = gekozen.isValid() &&
-                           zwevenden_[static_cast<std::size_t>(gekozen.row())].vindplaats.naam.find(
-                               '-') != Tekst::npos;
-    if (metStreep)
+    const Zwevende* zwevende = GekozenZwevende();
+    txtSpeler->setText(zwevende != nullptr ? NaarQString(Lijstregel(*zwevende)) : QString());
+    if (zwevende != nullptr && zwevende->vindplaats.naam.find('-') != Tekst::npos)
         ToonResultaat({QStringLiteral("Let op: in deze naam staat een streepje. Het eerste "
                                       "streepje van een paar scheidt de twee spelers."),
                        QStringLiteral("Na het koppelen staat de sleutel in de plaats van alles "
@@ -226,13 +248,9 @@ void frmKoppelNBBnr::ToonZwevende()
 
 void frmKoppelNBBnr::ToonSpeler()
 {
-    const QModelIndex gekozen = lstRVDsp->currentIndex();
-    QString tekst;
-    if (gekozen.isValid()) {
-        const Koppelspeler& speler = spelers_[static_cast<std::size_t>(gekozen.row())];
-        tekst = NaarQString(speler.key + "    " + speler.naam);
-    }
-    txtRVDspeler->setText(tekst);
+    const Koppelspeler* speler = GekozenSpeler();
+    txtRVDspeler->setText(speler != nullptr ? NaarQString(speler->key + "    " + speler->naam)
+                                            : QString());
     ToonKnoppen();
 }
 
@@ -338,8 +356,10 @@ void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
         opmerkingen << QStringLiteral("Overgeslagen regels in de percentagebestanden, omdat ze "
                                       "geen 7 velden hebben: %1.")
                            .arg(uitslag.overgeslagen);
-    if (!zwevenden_.empty())
-        lstSpelers->setFocus(); // which chooses the first line, and may have to say something of it
+    if (!zwevenden_.empty()) {
+        lstSpelers->setCurrentIndex(zwevendregels_->index(0)); // may have to say something of it
+        lstSpelers->setFocus();
+    }
     if (!opmerkingen.isEmpty())
         ToonResultaat(opmerkingen);
     if (!uitslag.fouten.empty())
@@ -358,7 +378,7 @@ void frmKoppelNBBnr::StartKoppelen()
         return;
     constexpr int lengteKey = 6;
     const Koppelopdracht opdracht =
-        MaakKoppelopdracht(zwevenden_, static_cast<std::size_t>(lstSpelers->currentIndex().row()),
+        MaakKoppelopdracht(zwevenden_, static_cast<std::size_t>(Gekozen(*lstSpelers)),
                            NaarTekst(txtRVDspeler->text().left(lengteKey)));
     const Koppeluitslag uitslag = Doe(false, [&](const Voortgang& voortgang) {
         return Koppel(administratie_.schijf, opdracht, voortgang);
@@ -383,6 +403,8 @@ void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppelu
 {
     const QString naam = NaarQString(opdracht.naam);
     VergeetGekoppelde(opdracht);
+    if (!zwevenden_.empty())
+        lstSpelers->setFocus(); // for the next one
     if (uitslag.aangepast.empty()) {
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. "

@@ -71,6 +71,8 @@ class frmKoppelNBBnr : public QDialog {
 
     [[nodiscard]] bool InCompetities() const { return Option2->isChecked(); }
     [[nodiscard]] Uitkomst<std::vector<Zittingplaats>> TeDoorzoeken() const;
+    [[nodiscard]] const Zwevende* GekozenZwevende() const;
+    [[nodiscard]] const Koppelspeler* GekozenSpeler() const;
 
     Administratie& administratie_;
     std::vector<Sessiemap> sessies_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/heelschrijven.h"
+#include "platform/klok.h"
 #include "platform/tekstorde.h"
 
 namespace plexoran {
@@ -106,6 +107,8 @@ std::optional<Lijstsoort> KoppelZitting(Schijf& schijf, const Groep& groep, Kopp
     std::optional<Lijstsoort> mislukt;
     for (const Lijstsoort soort : Soorten) {
         const Pad pad = groep.plaats->Bestand(soort);
+        // What a link left here that was killed; the next one comes by to finish its work.
+        RuimTijdelijkeOp(schijf, groep.plaats->map, groep.plaats->Bestandsnaam(soort), Nu());
         Uitgevoerd uitgevoerd = PasAan(schijf, pad, soort, groep.vervanging);
         if (uitgevoerd.geschreven)
             uit.gewijzigd.push_back(schijf.Toonpad(pad));

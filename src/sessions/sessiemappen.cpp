@@ -86,11 +86,11 @@ Uitkomst<std::vector<Sessiemap>> LeesCompetities(Schijf& schijf, const Mappen& m
     return LeesMappenMet(schijf, mappen.COMMAP, "Compdata.txt");
 }
 
-Pad Zittingplaats::Bestand(Lijstsoort soort) const
+Tekst Zittingplaats::Bestandsnaam(Lijstsoort soort) const
 {
     if (soort == Lijstsoort::Spelers)
-        return Samen(map, "Spelers.txt");
-    return Samen(map, inCompetitie ? "PercZit-" + std::to_string(zitting) + ".txt" : "PercZit.txt");
+        return "Spelers.txt";
+    return inCompetitie ? "PercZit-" + std::to_string(zitting) + ".txt" : "PercZit.txt";
 }
 
 Zittingplaats LosseZitting(const Mappen& mappen, Tekstblik naam)

@@ -34,7 +34,8 @@ struct Zittingplaats {
     int ronde = 0; ///< this and the next only in a competition
     int zitting = 0;
 
-    [[nodiscard]] Pad Bestand(Lijstsoort soort) const;
+    [[nodiscard]] Tekst Bestandsnaam(Lijstsoort soort) const;
+    [[nodiscard]] Pad Bestand(Lijstsoort soort) const { return Samen(map, Bestandsnaam(soort)); }
 };
 
 [[nodiscard]] Zittingplaats LosseZitting(const Mappen& mappen, Tekstblik naam);

@@ -241,6 +241,13 @@ TEST_F(Toevoegen, ZonderSleutelsGenoegVerandertErNiets)
     EXPECT_EQ(std::nullopt, VoegSpelersToe(spelers, namen));
     EXPECT_EQ(0, spelers.tabel.Rijen());
     EXPECT_EQ(std::numeric_limits<std::int32_t>::max() - 1, spelers.HKEY);
+    // Who is nobody needs no key.
+    EXPECT_EQ("N01 2147483647 - 0\r\n",
+              VoegSpelersToe(spelers, SessiespelersUit("N01 An Bos - AFW").spelers));
+    Register zonderHKEY;
+    zonderHKEY.tabel = MaakTabel({{"2147483646", "Gr01-", "", "", "Aal", "", ""}});
+    EXPECT_EQ(std::nullopt, VoegSpelersToe(zonderHKEY, namen));
+    EXPECT_EQ(0, zonderHKEY.HKEY);
 }
 
 TEST_F(Toevoegen, HetKoppelverslagVervangtEnKomtTerug)
@@ -261,6 +268,23 @@ TEST_F(Toevoegen, HetKoppelverslagVervangtEnKomtTerug)
     EXPECT_EQ("N01 1 - 2\r\n", schijf.Inhoud(pad));
     ASSERT_TRUE(vervangend.ZetTerug());
     EXPECT_EQ("van vroeger", schijf.Inhoud(pad));
+}
+
+TEST_F(Toevoegen, HetVerslagRuimtOpWatEenAfgebrokenSchrijvenLiet)
+{
+    const Tekst map = "C:\\RVD\\Zittingen\\a_Rev\\";
+    for (const char* naam :
+         {"Koppelverslag.txt.~11", "Spelers.txt.~12", "Spelers.txt.~13", "PercZit.txt.~14"})
+        schijf.Zet(map + naam, "half");
+    schijf.ZetTijd(map + "Koppelverslag.txt.~11", 1);
+    schijf.ZetTijd(map + "Spelers.txt.~12", 1);
+    schijf.ZetTijd(map + "PercZit.txt.~14", 1);
+    schijf.ZetTijd(map + "Spelers.txt.~13", std::numeric_limits<std::int64_t>::max()); // just made
+    ASSERT_TRUE(Koppelverslag(schijf, mappen, "a_Rev").Schrijf("N01 1 - 2\r\n"));
+    EXPECT_EQ(std::nullopt, schijf.Inhoud(map + "Koppelverslag.txt.~11"));
+    EXPECT_EQ(std::nullopt, schijf.Inhoud(map + "Spelers.txt.~12"));
+    EXPECT_EQ("half", schijf.Inhoud(map + "Spelers.txt.~13"));
+    EXPECT_EQ("half", schijf.Inhoud(map + "PercZit.txt.~14"));
 }
 
 TEST_F(Toevoegen, EenVerslagDatNietTeLezenWasWordtNooitVerwijderd)

@@ -316,6 +316,45 @@ TEST_F(Koppelvenster, EenNaamDieVakerInDeZittingStaatAlleenOpDeGekozenPlaats)
               }));
 }
 
+/// Whoever stands first in the register is not the one who is meant.
+TEST_F(Koppelvenster, WieNietInHetRegisterStaatKrijgtNiemandVoorgesteld)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Zoek(Maandag));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Tol - Paul")));
+    Klik(Knop("cmdKiesRVDspeler"));
+    EXPECT_EQ("lstRVDsp", venster->focusWidget()->objectName().toStdString());
+    EXPECT_EQ("", Vak("txtRVDspeler"));
+    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    // The first line can be chosen on purpose.
+    QTest::keyClick(venster->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ("100086    Kees Aardappelaer", Vak("txtRVDspeler"));
+    EXPECT_TRUE(Knop("cmdStartKoppelen")->isEnabled());
+}
+
+TEST_F(Koppelvenster, DeFocusAlleenKiestNiemand)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    Deel<QListView>("lstRVDsp")->setFocus();
+    EXPECT_EQ("", Vak("txtRVDspeler"));
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+    EXPECT_EQ("als N02    Marleen Hijmanse", Vak("txtSpeler"));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100090")));
+    VerwachtVraag();
+    wachter.Informatie(QStringLiteral("Speler Marleen Hijmanse is gekoppeld."));
+    Klik(Knop("cmdStartKoppelen"));
+    wachter.Klaar();
+    EXPECT_EQ("lstSpelers", venster->focusWidget()->objectName().toStdString());
+    EXPECT_EQ("", Vak("txtSpeler"));
+    for (int tab = 0; tab < 4; ++tab)
+        QTest::keyClick(venster->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ("txtRVDspeler", venster->focusWidget()->objectName().toStdString());
+    EXPECT_EQ("", Vak("txtSpeler"));
+    EXPECT_EQ("", Vak("txtRVDspeler"));
+    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+}
+
 TEST_F(Koppelvenster, KoppelenInEenHeleCompetitie)
 {
     const std::string eerste = suite.Inhoud(Com("Ronde-1/Zitting-1/Spelers.txt"));
