@@ -94,6 +94,8 @@ class frmLedenAdmin : public QMainWindow {
     void HaalNBBnamen();
     void VoegSessiespelersToe();
     void KoppelZwevenden();
+    void OnderhoudParen();
+    void ToonToelichting();
     [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
     [[nodiscard]] bool IsRegelGekozen();
 
@@ -113,6 +115,7 @@ class frmLedenAdmin : public QMainWindow {
     Administratie& administratie_;
     Maten maten_;
     Importgeheugen importgeheugen_;
+    std::function<bool()> eersteExemplaar_;
     bool nietOpgeslagen_ = false;         ///< the table holds changes that the file lacks
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
     bool opstarten_ = false;              ///< keeps `chkKolBr` from redrawing

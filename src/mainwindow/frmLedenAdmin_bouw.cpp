@@ -91,9 +91,8 @@ void frmLedenAdmin::MaakKnoppen()
     cmdVerwijder->setToolTip(QStringLiteral("Selecteer een regel"));
     cmdToonGatenlijst->setToolTip(
         QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
-    // Their windows are not there yet.
-    for (QPushButton* later : {cmdParenOnderhoud, cmdPrint, cmdToelichting})
-        later->setEnabled(false);
+    // Its window is not there yet.
+    cmdPrint->setEnabled(false);
 }
 
 void frmLedenAdmin::Bouw()
@@ -276,6 +275,8 @@ void frmLedenAdmin::Verbind()
     connect(cmdHaalNBBnamen, &QPushButton::clicked, this, &frmLedenAdmin::HaalNBBnamen);
     connect(cmdSpToevoegen, &QPushButton::clicked, this, &frmLedenAdmin::VoegSessiespelersToe);
     connect(cmdKoppel, &QPushButton::clicked, this, &frmLedenAdmin::KoppelZwevenden);
+    connect(cmdParenOnderhoud, &QPushButton::clicked, this, &frmLedenAdmin::OnderhoudParen);
+    connect(cmdToelichting, &QPushButton::clicked, this, &frmLedenAdmin::ToonToelichting);
     connect(cmdZoekDubbeleNamen, &QPushButton::clicked, this, &frmLedenAdmin::ToonDubbeleNamen);
     for (const auto& [knop, soort] : {std::pair{cmdSortlijst1, Sorteersoort::Key},
                                       std::pair{cmdSortlijst2, Sorteersoort::NBBnr},
@@ -289,6 +290,8 @@ void frmLedenAdmin::Verbind()
             [this] { picP0->Toetsenvlak()->setFocus(Qt::ShortcutFocusReason); });
     connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+N")), this), &QShortcut::activated,
             this, &frmLedenAdmin::VoegToe);
+    connect(new QShortcut(QKeySequence(QStringLiteral("F1")), this), &QShortcut::activated, this,
+            &frmLedenAdmin::ToonToelichting);
 }
 
 } // namespace plexoran

@@ -5,8 +5,10 @@
 #include "dialogs/diaToevoegen.h"
 #include "dialogs/diaVerplaats.h"
 #include "dialogs/frmVerwSubgroep.h"
+#include "help/frmToelichting.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/verwijderen.h"
+#include "pairs/frmParenOnderhoud.h"
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
 #include "sessions/frmKoppelNBBnr.h"
@@ -233,6 +235,23 @@ void frmLedenAdmin::VoegSessiespelersToe()
 void frmLedenAdmin::KoppelZwevenden()
 {
     frmKoppelNBBnr(administratie_, this).exec();
+}
+
+void frmLedenAdmin::OnderhoudParen()
+{
+    if (!eersteExemplaar_()) {
+        Meld(this, QMessageBox::Information, QStringLiteral("Het programma is al gestart!..."));
+        close();
+        return;
+    }
+    frmParenOnderhoud venster(administratie_, Groeptekst(), this);
+    venster.exec();
+}
+
+void frmLedenAdmin::ToonToelichting()
+{
+    frmToelichting venster(this);
+    venster.exec();
 }
 
 void frmLedenAdmin::StartGatenlijst()

@@ -27,7 +27,8 @@ QString Opsomming(const std::vector<int>& regels)
 
 std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
 {
-    if (!opstart.eersteExemplaar()) {
+    eersteExemplaar_ = opstart.eersteExemplaar;
+    if (!eersteExemplaar_()) {
         Meld(nullptr, QMessageBox::Information, QStringLiteral("Het programma is al gestart!..."));
         return 0;
     }

@@ -88,6 +88,8 @@ Exemplaarslot::~Exemplaarslot() = default;
 
 bool Exemplaarslot::Neem()
 {
+    if (binnenkant_ && binnenkant_->slot.isLocked())
+        return true;
     binnenkant_ = std::make_unique<Binnenkant>();
     QLockFile& slot = binnenkant_->slot;
     // A lock never grows old; that of a process that is gone is taken over at once.

@@ -29,8 +29,9 @@ class Exemplaarslot {
     Exemplaarslot& operator=(const Exemplaarslot&) = delete;
     ~Exemplaarslot();
 
-    /// Whether no other instance of this user holds it. Where no lock can be kept at all (a full
-    /// disk, a missing folder) the program may start: refusing it would be the greater harm.
+    /// Whether no other instance of this user holds it; true when this one does. Where no lock can
+    /// be kept at all (a full disk, a missing folder) the program may start: refusing it would be
+    /// the greater harm.
     [[nodiscard]] bool Neem();
 
   private:

@@ -98,14 +98,15 @@ void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
         Meld(ouder, icoon, tekst);
 }
 
-void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel)
+void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
+                 QMessageBox::Icon icoon)
 {
     constexpr int regelsInBericht = 25;
     if (tekst.count(QLatin1Char('\n')) > regelsInBericht) {
         ToonLang(ouder, tekst, titel);
         return;
     }
-    Verslagbericht venster(QMessageBox::NoIcon, titel, QString(), QMessageBox::Ok, ouder);
+    Verslagbericht venster(icoon, titel, QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
     venster.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));

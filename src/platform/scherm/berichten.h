@@ -18,9 +18,10 @@ void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
 /// scrolls in a window of its own, `frmBericht`.
 void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst);
 
-/// Shows a text without an icon that can be copied; a long one in a window of its own,
-/// `frmBericht`, in which it scrolls.
-void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel);
+/// Shows a text that can be copied; a long one in a window of its own, `frmBericht`, in which it
+/// scrolls.
+void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
+                 QMessageBox::Icon icoon = QMessageBox::NoIcon);
 
 /// OK and Annuleren; true for OK. Escape and the close box count as Annuleren.
 [[nodiscard]] bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,

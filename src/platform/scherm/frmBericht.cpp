@@ -1,9 +1,9 @@
 #include "platform/scherm/frmBericht.h"
 
-#include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/leesvak.h"
 
 namespace plexoran {
 
@@ -11,11 +11,8 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, QWidget* oude
 {
     setObjectName(QStringLiteral("frmBericht"));
     setWindowTitle(titel);
-    auto* txtBericht = new QPlainTextEdit(tekst, this);
-    Noem(txtBericht, QStringLiteral("txtBericht"), titel);
-    txtBericht->setReadOnly(true);
+    auto* txtBericht = MaakLeesvak(QStringLiteral("txtBericht"), titel, tekst, this);
     txtBericht->setLineWrapMode(QPlainTextEdit::NoWrap);
-    txtBericht->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto* cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);

@@ -1,0 +1,92 @@
+#include "help/frmToelichting.h"
+
+#include <QVBoxLayout>
+
+#include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/leesvak.h"
+#include "platform/scherm/meter.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int VensterHoog = 6500; // twips
+constexpr int VensterBreed = 12600;
+constexpr int Ingesprongen = 400; // from the corner of the main window
+constexpr double Letterpunten = 9;
+
+QString VulToelichting()
+{
+    const QStringList regels{
+        QStringLiteral("\tGebruik van Plexoran."),
+        QString(),
+        QStringLiteral(" In dit programma moeten de namen van spelers worden vastgelegd en bewaard "
+                       "voor eventuele volgende zittingen."),
+        QStringLiteral(" Bij het indelen van een zitting moet gekozen worden uit deze namen."),
+        QStringLiteral(" Het opzetten en afhandelen van zittingen kan echter ook zonder "
+                       "spelernamen (testdoeleinden), alleen een competitieoverzicht is niet "
+                       "mogelijk."),
+        QString(),
+        QStringLiteral(" - Van een speler moet minimaal de Achternaam worden ingevuld, overige "
+                       "gegevens zijn ter uw beoordeling."),
+        QStringLiteral(" - Spelers kunnen worden ingedeeld in GROEPEN ter onderscheiding. (max "
+                       "50, Gr01 t/m GR50). "),
+        QStringLiteral("    Bij het indelen van de zitting worden de spelers per groep getoond, zo "
+                       "kunt u ze eenvoudiger terugvinden."),
+        QStringLiteral("    Het is aan u om te bepalen of u hier gebruik van maakt, experimenteer "
+                       "hiermee."),
+        QStringLiteral(" - Om een groep beter herkenbaar te maken voor u zelf kunt u de Groepsnaam "
+                       "aanvullen met eigen tekst."),
+        QStringLiteral(" - De kolom 'NBBgr' kan gebruikt worden voor een onderverdeling binnen een "
+                       "groep."),
+        QStringLiteral(" - Printen: Per groep, rubrieken naar keuze."),
+        QStringLiteral("    Indien te breed dan wordt automatisch overgegaan naar A4-liggend."),
+        QStringLiteral("    U kunt ook de tekst in grootte verschalen om een en ander passend te "
+                       "maken."),
+        QString(),
+        QStringLiteral(" Attentie!"),
+        QStringLiteral(" Groep 'Gr05-' is gereserveerd voor spelers die uit NBBR zijn "
+                       "geimporteerd."),
+        QStringLiteral(" De kolom 'NBBgr' is de ledengroep-onderverdeling volgens NBBR"),
+        QStringLiteral(" Zorg dat deze spelers gelijk lopen met NBBR, want bij het maken van een "
+                       "BWS-zitting worden deze gebruikt."),
+        QStringLiteral(" De basis voor deze lijst is het NBB-nummer dat slechts eenmaal kan "
+                       "voorkomen, spelers zonder NBB-nummer worden niet geimporteerd."),
+        QStringLiteral(" Met NBB-nummers in andere groepen dan 'Gr05-' wordt niets gedaan."),
+    };
+    return regels.join(QStringLiteral("\r\n"));
+}
+
+} // namespace
+
+frmToelichting::frmToelichting(QWidget* hoofdvenster) : QDialog(hoofdvenster)
+{
+    Bouw();
+    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdPrintToel, &QPushButton::clicked, this, &frmToelichting::Print);
+}
+
+void frmToelichting::Bouw()
+{
+    setObjectName(QStringLiteral("frmToelichting"));
+    setWindowTitle(QStringLiteral("Toelichting"));
+    const Maten maten;
+    Text1 = MaakLeesvak(QStringLiteral("Text1"), windowTitle(), VulToelichting(), this);
+    Text1->setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));
+    cmdPrintToel = MaakKnop(QStringLiteral("cmdPrintToel"), QStringLiteral("Print"), u'P', this);
+    cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Terug"), u'T', this);
+    cmdEinde->setDefault(true);
+
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addWidget(Text1);
+    lagen->addLayout(Knoppenrij({cmdPrintToel, cmdEinde}));
+    PasInScherm(this, {maten.Twips(VensterBreed), maten.Twips(VensterHoog)});
+    if (parentWidget() != nullptr)
+        move(parentWidget()->frameGeometry().topLeft() +
+             QPoint(maten.Twips(Ingesprongen), maten.Twips(Ingesprongen)));
+    Text1->setFocus();
+}
+
+void frmToelichting::Print()
+{}
+
+} // namespace plexoran

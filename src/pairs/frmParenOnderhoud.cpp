@@ -1,0 +1,282 @@
+// The pairs window: what its controls do.
+#include "pairs/frmParenOnderhoud.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "help/frmUitleg.h"
+#include "platform/heelschrijven.h"
+#include "platform/klok.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+namespace {
+
+constexpr QColor Paarkleur(198, 224, 180);    // of the button that makes a pair
+constexpr QColor Ontbindkleur(248, 203, 173); // of the one that dissolves it
+
+/// A button that can be pressed has a colour, whatever the theme; else it is plain.
+void ZetKnop(QPushButton* knop, bool aan, const QColor& kleur)
+{
+    knop->setEnabled(aan);
+    QPalette palet;
+    if (aan) {
+        palet.setColor(QPalette::Button, kleur);
+        palet.setColor(QPalette::ButtonText, Qt::black);
+    }
+    knop->setPalette(palet);
+}
+
+} // namespace
+
+frmParenOnderhoud::frmParenOnderhoud(Administratie& administratie, Tekstblik groeptekst,
+                                     QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie), code_(CodeUit(groeptekst)),
+      keuzes_(VulGroepSubgroepen(administratie.spelers.tabel, code_))
+{
+    Bouw();
+    MaakParenmap();
+    VulKeus(*cmbNBBledengr, keuzes_);
+    cmbNBBledengr->setCurrentIndex(-1);
+    ZetKnopOKE(false);
+    ZetKnopOntbindt(false);
+    Verbind();
+}
+
+void frmParenOnderhoud::MaakParenmap()
+{
+    const auto map = administratie_.schijf.MaakMap(Parenmap(administratie_.mappen));
+    if (!map)
+        Meld(parentWidget(), QMessageBox::Warning,
+             QStringLiteral("De map voor de parenbestanden (Parenmap) kon niet worden gemaakt; "
+                            "paren kunnen nu niet worden opgeslagen.\n\n") +
+                 Bijzonderheden(map.error()));
+}
+
+// ---- Showing a group-subgroup ------------------------------------------------------------------
+
+void frmParenOnderhoud::KiesSubgroep()
+{
+    const int plaats = cmbNBBledengr->currentIndex();
+    if (plaats < 0)
+        return;
+    keuze_ = keuzes_[static_cast<std::size_t>(plaats)];
+    Label8->clear();
+    LaadSubgroep(keuze_);
+}
+
+/// The pairs that were shown before are not saved.
+void frmParenOnderhoud::LaadSubgroep(const Tekst& keuze)
+{
+    RuimTijdelijkeOp(administratie_.schijf, Parenmap(administratie_.mappen), keuze + ".txt", Nu());
+    auto lezing = LeesParenbestand(administratie_.schijf, administratie_.mappen, keuze);
+    const std::optional<Fout> fout = lezing ? std::nullopt : std::optional(lezing.error());
+    const Parenlezing gelezen = lezing.value_or(Parenlezing());
+    gelezen_ = gelezen.bestandstekst;
+    const Tekst losse =
+        paren_.LaadSubgroep(administratie_.spelers.tabel, code_, keuze, gelezen.paren);
+    VulParenlijst(Zoeklijst::Plek::Begin);
+    if (!gelezen.paren.empty())
+        ToonAantalParen();
+    VulSpelerslijsten(Zoeklijst::Plek::Begin);
+    if (fout)
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Het parenbestand '%1' kan niet worden gelezen. U ziet daarom geen "
+                            "paren; voordat het wordt vervangen, komt er een kopie van in de map "
+                            "Reservekopie.\n\n")
+                     .arg(NaarQString(keuze)) +
+                 Bijzonderheden(*fout));
+    if (!losse.empty())
+        MeldLosse(losse);
+}
+
+void frmParenOnderhoud::MeldLosse(const Tekst& losse)
+{
+    MeldVerslag(this,
+                QStringLiteral("De volgende spelers zijn losse spelers: \r\n\r\n%1\r\n")
+                    .arg(NaarQString(losse)),
+                QString::fromLatin1(Programmatitel), QMessageBox::Warning);
+}
+
+void frmParenOnderhoud::VulSpelerslijsten(Zoeklijst::Plek plek)
+{
+    for (Zoeklijst* lijst : {L1, L2})
+        lijst->Vul(
+            static_cast<int>(paren_.Lalle().size()),
+            [this](int plaats) { return paren_.Keuze(plaats); }, plek);
+    Label7->setText(QStringLiteral("Aantal spelers: %1").arg(L1->Aantal()));
+}
+
+void frmParenOnderhoud::VulParenlijst(Zoeklijst::Plek plek)
+{
+    L3->Vul(
+        static_cast<int>(paren_.L3().size()),
+        [this](int plaats) { return paren_.L3()[static_cast<std::size_t>(plaats)]; }, plek);
+}
+
+void frmParenOnderhoud::ToonAantalParen()
+{
+    Label8->setText(QStringLiteral("Aantal paren: %1").arg(paren_.L3().size()));
+}
+
+// ---- Choosing ----------------------------------------------------------------------------------
+
+void frmParenOnderhoud::SpelerGekozen()
+{
+    if (L1->Gekozen() >= 0 || L2->Gekozen() >= 0)
+        L3->KiesNiets();
+    ZetKnoppen();
+}
+
+void frmParenOnderhoud::PaarGekozen()
+{
+    if (L3->Gekozen() >= 0) {
+        L1->KiesNiets();
+        L2->KiesNiets();
+    }
+    ZetKnoppen();
+}
+
+/// The same place in both lists is the same player.
+void frmParenOnderhoud::ZetKnoppen()
+{
+    const int links = L1->Gekozen();
+    const int rechts = L2->Gekozen();
+    ZetKnopOKE(links >= 0 && rechts >= 0 && links != rechts);
+    ZetKnopOntbindt(L3->Gekozen() >= 0);
+}
+
+void frmParenOnderhoud::ZetKnopOKE(bool aan)
+{
+    ZetKnop(cmdOKE, aan, Paarkleur);
+}
+
+void frmParenOnderhoud::ZetKnopOntbindt(bool aan)
+{
+    ZetKnop(cmdOntbindt, aan, Ontbindkleur);
+}
+
+// ---- Commands ----------------------------------------------------------------------------------
+
+void frmParenOnderhoud::MaakPaar()
+{
+    const bool vanafToetsen = L2->hasFocus();
+    const int plaats = paren_.MaakPaar(L1->Gekozen(), L2->Gekozen());
+    VulParenlijst(Zoeklijst::Plek::Behouden);
+    L3->ZetHuidige(plaats);
+    ToonAantalParen();
+    VulSpelerslijsten(Zoeklijst::Plek::Behouden);
+    // The button went grey; the next pair begins with its first player.
+    if (vanafToetsen || cmdOKE->hasFocus() || focusWidget() == nullptr)
+        L1->setFocus();
+}
+
+void frmParenOnderhoud::Ontbind()
+{
+    const int speler = paren_.Ontbind(L3->Gekozen());
+    VulSpelerslijsten(Zoeklijst::Plek::Behouden);
+    for (Zoeklijst* lijst : {L1, L2})
+        lijst->ZetHuidige(speler);
+    VulParenlijst(Zoeklijst::Plek::Behouden);
+    ToonAantalParen();
+    L3->setFocus();
+}
+
+void frmParenOnderhoud::SorteerParen()
+{
+    paren_.Sorteer();
+    VulParenlijst(Zoeklijst::Plek::Behouden);
+}
+
+void frmParenOnderhoud::VerwijderBestand()
+{
+    const QString keuze = NaarQString(keuze_);
+    const auto pad = Parenbestand(administratie_.mappen, keuze_);
+    const auto soort = pad ? administratie_.schijf.Soort(*pad) : Padsoort::Niets;
+    if (soort && *soort != Padsoort::Bestand) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Parenbestand '%1' bestaat nog niet!").arg(keuze));
+        return;
+    }
+    if (!Vraag(this, QMessageBox::Information,
+               QStringLiteral("U gaat Parenbestand %1 volledig verwijderen!\r\nWeet u het zeker?")
+                   .arg(keuze)))
+        return;
+    const auto weg = administratie_.schijf.Verwijder(*pad);
+    if (!weg) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Het parenbestand kon niet worden verwijderd; het is gebleven zoals "
+                            "het was.\n\n") +
+                 Bijzonderheden(weg.error()));
+        return;
+    }
+    gelezen_.reset();
+    paren_.WisParen();
+    VulParenlijst(Zoeklijst::Plek::Begin);
+    ToonAantalParen();
+}
+
+void frmParenOnderhoud::SchrijfCSV(ParenCSV soort)
+{
+    const Mappen& mappen = administratie_.mappen;
+    const QString naam = NaarQString(ParenCSVNaam(soort));
+    const auto geschreven = SchrijfParenCSV(administratie_.schijf, mappen, paren_.L3(),
+                                            administratie_.spelers.tabel, soort);
+    if (geschreven)
+        Meld(this, QMessageBox::Information,
+             QStringLiteral("Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n").arg(naam) +
+                 QString::fromStdString(administratie_.schijf.Toonpad(ParenCSVMap(mappen))));
+    else if (mappen.RVDMAP.empty())
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Het parenbestand '%1' is niet opgeslagen: er staat geen map achter "
+                            "RVDMAP= in 'Mappen.ini'.")
+                 .arg(naam));
+    else
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Het parenbestand '%1' is niet opgeslagen. Misschien is het nog open "
+                            "in een ander programma.\n\n")
+                     .arg(naam) +
+                 Bijzonderheden(geschreven.error()));
+}
+
+void frmParenOnderhoud::Einde()
+{
+    const Tekst geweigerd = GeweigerdeTekens(keuze_);
+    if (!paren_.L3().empty() && !geweigerd.empty()) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("De paren van '%1' kunnen niet worden opgeslagen: de subgroep is ook "
+                            "de naam van het parenbestand, en daarin kan dit teken niet staan: "
+                            "%2\n\nGeef de spelers een subgroep zonder zo'n teken. De paren staan "
+                            "nog op het scherm; met Annuleren sluit u het venster zonder op te "
+                            "slaan.")
+                 .arg(NaarQString(keuze_), NaarQString(geweigerd)));
+        return;
+    }
+    const auto bewaard =
+        BewaarParen(administratie_.schijf, administratie_.mappen, keuze_, paren_.L3(), gelezen_);
+    if (!bewaard)
+        MeldOpslagfout(bewaard.error());
+    accept();
+}
+
+/// The window closes all the same, so the pairs go where the user can still get them.
+void frmParenOnderhoud::MeldOpslagfout(const Fout& fout)
+{
+    const Tekst tekst = ParenTekst(paren_.L3()).value_or(Tekst());
+    QGuiApplication::clipboard()->setText(
+        NaarQString(Tekstblik(tekst).substr(0, tekst.find('\r'))));
+    Meld(this, QMessageBox::Warning,
+         QStringLiteral("Fout bij het opslaan van Paren\n%1\n\nDe paren zijn niet verloren: ze "
+                        "staan nu op het klembord, zoals ze in het bestand horen te staan. Plak "
+                        "ze in een tekstbestand als u ze wilt bewaren.")
+             .arg(Bijzonderheden(fout)));
+}
+
+void frmParenOnderhoud::ToonUitleg()
+{
+    frmUitleg venster(this);
+    venster.exec();
+}
+
+} // namespace plexoran

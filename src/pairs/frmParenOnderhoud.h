@@ -1,0 +1,88 @@
+// Forming and dissolving the pairs of a group-subgroup, and writing them for a spreadsheet. Nothing
+// is saved but by `cmdEinde`; the player table is never changed.
+#pragma once
+
+#include <QComboBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "pairs/paren.h"
+#include "pairs/parencsv.h"
+#include "platform/scherm/maten.h"
+#include "platform/scherm/zoeklijst.h"
+#include "register/administratie.h"
+
+class QGridLayout;
+class QHBoxLayout;
+
+namespace plexoran {
+
+class frmParenOnderhoud : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// For the group with which `groeptekst` begins.
+    frmParenOnderhoud(Administratie& administratie, Tekstblik groeptekst, QWidget* ouder);
+
+  private:
+    // Building
+    void MaakDelen();
+    void Bouw();
+    QHBoxLayout* BouwKeuze();
+    void BouwSamenstelling(QGroupBox* kader);
+    void BouwCSVKader(QGroupBox* kader);
+    void Verbind();
+
+    void MaakParenmap();
+    void KiesSubgroep();
+    void LaadSubgroep(const Tekst& keuze);
+    void MeldLosse(const Tekst& losse);
+    void VulSpelerslijsten(Zoeklijst::Plek plek);
+    void VulParenlijst(Zoeklijst::Plek plek);
+    void ToonAantalParen();
+
+    void SpelerGekozen();
+    void PaarGekozen();
+    void ZetKnoppen();
+    void ZetKnopOKE(bool aan);
+    void ZetKnopOntbindt(bool aan);
+
+    void MaakPaar();
+    void Ontbind();
+    void SorteerParen();
+    void VerwijderBestand();
+    void SchrijfCSV(ParenCSV soort);
+    void Einde();
+    void MeldOpslagfout(const Fout& fout);
+    void ToonUitleg();
+
+    Administratie& administratie_;
+    Tekst code_;                   ///< of the group
+    std::vector<Tekst> keuzes_;    ///< the lines of `cmbNBBledengr`
+    Tekst keuze_;                  ///< the group-subgroup that was chosen last
+    std::optional<Tekst> gelezen_; ///< the text of its pair file
+    Paren paren_;
+    Maten maten_;
+
+    QLabel* lblRVDledengr = nullptr;
+    QLabel* Label7 = nullptr;
+    QLabel* Label8 = nullptr;
+    QLabel* Label10 = nullptr;
+    QComboBox* cmbNBBledengr = nullptr;
+    Zoeklijst* L1 = nullptr;
+    Zoeklijst* L2 = nullptr;
+    Zoeklijst* L3 = nullptr;
+    QPushButton* cmdOKE = nullptr;
+    QPushButton* cmdOntbindt = nullptr;
+    QPushButton* cmdSortL3 = nullptr;
+    QPushButton* cmdVerwParenbest = nullptr;
+    QPushButton* cmdUitleg = nullptr;
+    QPushButton* cmdPrintVast = nullptr;
+    QPushButton* cmdPrintLos = nullptr;
+    QPushButton* cmdEinde = nullptr;
+    QPushButton* cmdAnnu = nullptr;
+};
+
+} // namespace plexoran

@@ -1,0 +1,193 @@
+// Building the pairs window: its controls, their captions and places.
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "pairs/frmParenOnderhoud.h"
+#include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/meter.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int VensterBreed = 15000;  // twips
+constexpr int OnderScherm = 1000;    // the window is so much lower than the screen
+constexpr double Lijstletter = 9;    // points
+constexpr std::size_t NaamVanaf = 7; // in every line, behind the key and a blank
+
+} // namespace
+
+void frmParenOnderhoud::MaakDelen()
+{
+    const auto knop = [this](const char16_t* naam, const char16_t* tekst, char16_t letter) {
+        return MaakKnop(QString::fromUtf16(naam), QString::fromUtf16(tekst), letter, this);
+    };
+    cmdOKE = knop(u"cmdOKE", u"OKE >>>", u'O');
+    cmdOntbindt = knop(u"cmdOntbindt", u" OKE <<<", u'K');
+    cmdSortL3 = knop(u"cmdSortL3", u"Sort  L9", u'S');
+    cmdVerwParenbest = knop(u"cmdVerwParenbest", u"Verwijder dit parenbestand", u'V');
+    cmdUitleg = knop(u"cmdUitleg", u"Klik hier voor uitleg", u'u');
+    cmdPrintVast = knop(u"cmdPrintVast", u"Als paar in 1 kolom", u'1');
+    cmdPrintLos = knop(u"cmdPrintLos", u"Als paar in    2 kolommen", u'2');
+    cmdEinde = knop(u"cmdEinde", u"Opslaan en Einde", u'E');
+    cmdAnnu = knop(u"cmdAnnu", u"Annuleren", u'A');
+    cmdOKE->setAccessibleName(QStringLiteral("Maak een paar"));
+    cmdOntbindt->setAccessibleName(QStringLiteral("Ontbindt dit paar"));
+    cmdSortL3->setToolTip(QStringLiteral("Zet de paren op volgorde van de eerste speler"));
+
+    cmbNBBledengr = new QComboBox(this);
+    Noem(cmbNBBledengr, QStringLiteral("cmbNBBledengr"), QStringLiteral("Groep-Subgroep"));
+    cmbNBBledengr->setMinimumContentsLength(24);
+    const QFont letter = Roosterletter(maten_.Letter(Lijstletter).pixelSize());
+    const auto lijst = [&](const QString& naam, const QString& gesproken) {
+        auto* nieuw = new Zoeklijst(NaamVanaf, letter, this);
+        Noem(nieuw, naam, gesproken);
+        return nieuw;
+    };
+    L1 = lijst(QStringLiteral("L1"), QStringLiteral("Eerste speler"));
+    L2 = lijst(QStringLiteral("L2"), QStringLiteral("Tweede speler"));
+    L3 = lijst(QStringLiteral("L3"), QStringLiteral("Reeds gevormde paren"));
+}
+
+void frmParenOnderhoud::Bouw()
+{
+    setObjectName(QStringLiteral("frmParenOnderhoud"));
+    setWindowTitle(QStringLiteral("Paren samenstellen"));
+    MaakDelen();
+    auto* Frame1 = new QGroupBox(
+        QStringLiteral("Samenstelling of ontbinden van paren tbv RVD en Ranking"), this);
+    Noem(Frame1, QStringLiteral("Frame1"));
+    BouwSamenstelling(Frame1);
+    auto* Frame2 = new QGroupBox(QStringLiteral("Paren opslaan als CSV-bestand"), this);
+    Noem(Frame2, QStringLiteral("Frame2"));
+    BouwCSVKader(Frame2);
+    Label10 = MaakLabel(QStringLiteral("Label10"),
+                        QStringLiteral("Alvorens om te schakelen naar een andere groep eerst de "
+                                       "wijzigingen opslaan!"),
+                        this);
+
+    auto* onder = new QHBoxLayout;
+    onder->addWidget(cmdVerwParenbest);
+    onder->addStretch();
+    onder->addWidget(cmdEinde);
+    onder->addWidget(cmdAnnu);
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addLayout(BouwKeuze());
+    lagen->addWidget(Label10);
+    lagen->addWidget(Frame1, 1);
+    lagen->addWidget(Frame2);
+    lagen->addLayout(onder);
+    PasInScherm(
+        this, {maten_.Twips(VensterBreed), screen()->size().height() - maten_.Twips(OnderScherm)});
+    // As the eye reads.
+    ZetTabvolgorde({cmbNBBledengr, cmdUitleg, L1, L2, cmdOKE, cmdOntbindt, cmdSortL3, L3,
+                    cmdPrintVast, cmdPrintLos, cmdVerwParenbest, cmdEinde, cmdAnnu});
+    cmbNBBledengr->setFocus();
+}
+
+QHBoxLayout* frmParenOnderhoud::BouwKeuze()
+{
+    const auto label = [this](const QString& naam, const QString& tekst) {
+        return MaakLabel(naam, tekst, this);
+    };
+    lblRVDledengr = label(QStringLiteral("lblRVDledengr"), NaarQString(code_));
+    QFont vet = lblRVDledengr->font();
+    vet.setBold(true);
+    lblRVDledengr->setFont(vet);
+    auto* rij = new QHBoxLayout;
+    rij->addWidget(label(QStringLiteral("Label9"), QStringLiteral("RVD-ledengroep:")));
+    rij->addWidget(lblRVDledengr);
+    rij->addSpacing(maten_.Twips(300));
+    rij->addWidget(label(QStringLiteral("Label2"), QStringLiteral("Groep-Subgroep:")));
+    rij->addWidget(cmbNBBledengr);
+    rij->addStretch();
+    rij->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Waarom paren samenstellen?")));
+    rij->addWidget(cmdUitleg);
+    return rij;
+}
+
+void frmParenOnderhoud::BouwSamenstelling(QGroupBox* kader)
+{
+    const auto label = [&](const QString& naam, const QString& tekst) {
+        auto* nieuw = MaakLabel(naam, tekst, kader);
+        nieuw->setWordWrap(true);
+        return nieuw;
+    };
+    Label7 = label(QStringLiteral("Label7"), QStringLiteral("Aantal spelers:"));
+    Label8 = label(QStringLiteral("Label8"), QStringLiteral("Aantal paren:"));
+    auto* midden = new QVBoxLayout;
+    midden->addStretch(1);
+    midden->addWidget(label(QStringLiteral("Label6"), QStringLiteral("Maak  een paar")), 0,
+                      Qt::AlignHCenter);
+    midden->addWidget(cmdOKE);
+    midden->addSpacing(maten_.Twips(450));
+    midden->addWidget(label(QStringLiteral("Label5"), QStringLiteral("Ontbindt dit paar")), 0,
+                      Qt::AlignHCenter);
+    midden->addWidget(cmdOntbindt);
+    midden->addStretch(2);
+    midden->addWidget(cmdSortL3);
+    auto* vakken = new QGridLayout(kader);
+    vakken->addWidget(label(QStringLiteral("Label3"),
+                            QStringLiteral("Selecteer in beide kolommen een speler en klik op "
+                                           "'OKE'")),
+                      0, 0, 1, 2);
+    vakken->addWidget(label(QStringLiteral("Label4"), QStringLiteral("Reeds gevormde paren")), 0,
+                      3);
+    vakken->addWidget(L1, 1, 0);
+    vakken->addWidget(L2, 1, 1);
+    vakken->addLayout(midden, 1, 2);
+    vakken->addWidget(L3, 1, 3);
+    vakken->addWidget(Label7, 2, 0);
+    vakken->addWidget(Label8, 2, 3);
+    vakken->setRowStretch(1, 1);
+    vakken->setColumnStretch(0, 3);
+    vakken->setColumnStretch(1, 3);
+    vakken->setColumnStretch(3, 6);
+}
+
+void frmParenOnderhoud::BouwCSVKader(QGroupBox* kader)
+{
+    const auto label = [&](const QString& naam, const QString& tekst) {
+        return MaakLabel(naam, tekst, kader);
+    };
+    auto* vakken = new QGridLayout(kader);
+    vakken->addWidget(cmdPrintVast, 0, 0);
+    vakken->addWidget(
+        label(QStringLiteral("lblPrintVast"), QStringLiteral("Tuprufo - Leo Jansen ")), 0, 1);
+    vakken->addWidget(cmdPrintLos, 1, 0);
+    vakken->addWidget(label(QStringLiteral("lblPrintLos"),
+                            QStringLiteral("Tuprufo        Leo Jansen  (aparte kolom)")),
+                      1, 1);
+    vakken->addWidget(
+        label(QStringLiteral("lblExcel"), QStringLiteral("Kan in Excel worden ingelezen. ")), 0, 3);
+    vakken->setColumnStretch(2, 1);
+}
+
+void frmParenOnderhoud::Verbind()
+{
+    // Also when the group-subgroup that is shown is picked again.
+    connect(cmbNBBledengr, &QComboBox::activated, this, &frmParenOnderhoud::KiesSubgroep);
+    for (Zoeklijst* lijst : {L1, L2}) {
+        connect(lijst, &Zoeklijst::keuzeVeranderd, this, &frmParenOnderhoud::SpelerGekozen);
+        connect(lijst, &Zoeklijst::enterGedrukt, cmdOKE, &QPushButton::click);
+    }
+    connect(L2, &Zoeklijst::doubleClicked, cmdOKE, &QPushButton::click);
+    connect(L3, &Zoeklijst::keuzeVeranderd, this, &frmParenOnderhoud::PaarGekozen);
+    connect(L3, &Zoeklijst::deleteGedrukt, cmdOntbindt, &QPushButton::click);
+    connect(cmdOKE, &QPushButton::clicked, this, &frmParenOnderhoud::MaakPaar);
+    connect(cmdOntbindt, &QPushButton::clicked, this, &frmParenOnderhoud::Ontbind);
+    connect(cmdSortL3, &QPushButton::clicked, this, &frmParenOnderhoud::SorteerParen);
+    connect(cmdVerwParenbest, &QPushButton::clicked, this, &frmParenOnderhoud::VerwijderBestand);
+    connect(cmdUitleg, &QPushButton::clicked, this, &frmParenOnderhoud::ToonUitleg);
+    connect(cmdPrintVast, &QPushButton::clicked, this, [this] { SchrijfCSV(ParenCSV::EenKolom); });
+    connect(cmdPrintLos, &QPushButton::clicked, this,
+            [this] { SchrijfCSV(ParenCSV::TweeKolommen); });
+    connect(cmdEinde, &QPushButton::clicked, this, &frmParenOnderhoud::Einde);
+    connect(cmdAnnu, &QPushButton::clicked, this, &QDialog::reject);
+    connect(new QShortcut(QKeySequence(QStringLiteral("F1")), this), &QShortcut::activated, this,
+            &frmParenOnderhoud::ToonUitleg);
+}
+
+} // namespace plexoran

@@ -1,0 +1,52 @@
+// The players of one group-subgroup who are still to be paired, and its pairs: what the pairs
+// window shows and changes. Nothing here touches the player table.
+#pragma once
+
+#include "pairs/paarregel.h"
+#include "pairs/parenbestand.h"
+
+namespace plexoran {
+
+/// The distinct group-subgroup names (group code and subgroup) of a group's players, told apart by
+/// their characters, in table order.
+[[nodiscard]] std::vector<Tekst> VulGroepSubgroepen(const Spelertabel& tabel, Tekstblik groepscode);
+
+/// Whether a status marks a player who has died: in capitals or not, at least five characters that
+/// contain "OVERLEDEN" or are its beginning, such as "overl".
+[[nodiscard]] bool IsOverleden(Tekstblik status);
+
+class Paren {
+  public:
+    /// Fills both lists for a group-subgroup, whose players are known without regard to case, and
+    /// its stored pairs. The answer is a line for every pair of which a player is missing; such a
+    /// pair is in the list too.
+    [[nodiscard]] Tekst LaadSubgroep(const Spelertabel& tabel, Tekstblik groepscode,
+                                     Tekstblik keuze, const Paartekens& paren);
+
+    /// The lines of the available players, in text order.
+    [[nodiscard]] const std::vector<Tekst>& Lalle() const { return lalle_; }
+    /// The line of the choice lists at that place.
+    [[nodiscard]] Tekst Keuze(int plaats) const;
+    /// The lines of the pairs, in the order of their first player's names.
+    [[nodiscard]] const std::vector<Tekst>& L3() const { return l3_; }
+
+    /// Makes a pair of the players at these two places of the choice lists; both are taken out, and
+    /// so is every line that contains one of their keys. The answer is the pair's place.
+    int MaakPaar(int links, int rechts);
+    /// Takes a pair out; its players come back, whoever they are. The answer is the place of the
+    /// first one.
+    int Ontbind(int plaats);
+    /// Orders the pairs by the first player's name and key, then as they stood. The answer is where
+    /// the pair at `volg` went.
+    int Sorteer(int volg = 0);
+    void WisParen() { l3_.clear(); }
+
+  private:
+    [[nodiscard]] Tekst ToonParen(const Paartekens& paren);
+    int VoegSpelerToe(Tekst spelerregel);
+
+    std::vector<Tekst> lalle_;
+    std::vector<Tekst> l3_;
+};
+
+} // namespace plexoran

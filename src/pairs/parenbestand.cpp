@@ -1,0 +1,166 @@
+#include "pairs/parenbestand.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "pairs/paarregel.h"
+#include "platform/regels.h"
+#include "register/reservekopie.h"
+
+namespace plexoran {
+namespace {
+
+constexpr std::size_t Tekenlengte = 13;
+constexpr std::size_t Streepplaats = Sleutellengte;
+
+/// Calls `stuk` with every piece between the "#" of the last line.
+template <class Stuk> void LoopDoorStukken(Tekstblik inhoud, const Stuk& stuk)
+{
+    Tekstblik laatste;
+    for (const Tekstblik regel : Regels(inhoud))
+        laatste = regel;
+    for (;;) {
+        const auto hekje = laatste.find('#');
+        stuk(laatste.substr(0, hekje));
+        if (hekje == Tekstblik::npos)
+            return;
+        laatste.remove_prefix(hekje + 1);
+    }
+}
+
+/// The text of a file; nothing when there is no such file.
+Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad)
+{
+    auto inhoud = schijf.LeesBestand(pad);
+    if (inhoud)
+        return std::optional(std::move(*inhoud));
+    if (inhoud.error().soort == Foutsoort::Ontbreekt)
+        return std::optional<Tekst>();
+    return tl::unexpected(inhoud.error());
+}
+
+Tekst Paarteken(Tekstblik key1, Tekstblik key2)
+{
+    Tekst paar(key1);
+    paar += '-';
+    paar += key2;
+    return paar;
+}
+
+} // namespace
+
+Pad Parenmap(const Mappen& mappen)
+{
+    return Samen(mappen.SPEMAP, "Parenmap");
+}
+
+Tekst GeweigerdeTekens(Tekstblik keuze)
+{
+    constexpr Tekstblik verboden = "\\/:*?\"<>|";
+    Tekst tekens;
+    for (const char teken : keuze) {
+        const bool stuurteken = static_cast<unsigned char>(teken) < 0x20;
+        if ((stuurteken || verboden.find(teken) != Tekstblik::npos) &&
+            tekens.find(teken) == Tekst::npos)
+            tekens += teken;
+    }
+    return tekens;
+}
+
+std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze)
+{
+    if (!GeweigerdeTekens(keuze).empty())
+        return std::nullopt;
+    Pad pad = Samen(Parenmap(mappen), keuze);
+    pad += ".txt";
+    return pad;
+}
+
+Paartekens PaartekensUit(Tekstblik inhoud)
+{
+    Paartekens paren;
+    LoopDoorStukken(inhoud, [&](Tekstblik stuk) {
+        if (stuk.size() == Tekenlengte)
+            paren.emplace_back(stuk);
+    });
+    return paren;
+}
+
+bool IsParenbestand(Tekstblik inhoud)
+{
+    int regels = 0;
+    for ([[maybe_unused]] const Tekstblik regel : Regels(inhoud))
+        ++regels;
+    bool alleenParen = regels <= 1;
+    LoopDoorStukken(inhoud, [&](Tekstblik stuk) {
+        const bool paar = stuk.size() == Tekenlengte && stuk[Streepplaats] == '-';
+        alleenParen = alleenParen && (stuk.empty() || paar);
+    });
+    return alleenParen;
+}
+
+Uitkomst<Parenlezing> LeesParenbestand(Schijf& schijf, const Mappen& mappen, Tekstblik keuze)
+{
+    const auto pad = Parenbestand(mappen, keuze);
+    if (!pad)
+        return Parenlezing();
+    return LeesAlsErIs(schijf, *pad).map([](std::optional<Tekst> inhoud) {
+        Paartekens paren = inhoud ? PaartekensUit(*inhoud) : Paartekens();
+        return Parenlezing{std::move(paren), std::move(inhoud)};
+    });
+}
+
+std::optional<Tekst> ParenTekst(std::span<const Tekst> regels)
+{
+    Tekst tekst;
+    tekst.reserve(regels.size() * (Tekenlengte + 1) + 2);
+    for (const Tekst& regel : regels) {
+        if (Plusplaats(regel) == Tekst::npos)
+            return std::nullopt;
+        tekst += LinkerSpeler(regel).key;
+        tekst += '-';
+        tekst += RechterSpeler(regel).key;
+        tekst += '#';
+    }
+    tekst += "\r\n";
+    return tekst;
+}
+
+Uitkomst<void> BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
+                           std::span<const Tekst> regels, const std::optional<Tekst>& gelezen)
+{
+    if (regels.empty())
+        return {};
+    const auto tekst = ParenTekst(regels);
+    const auto pad = Parenbestand(mappen, keuze);
+    if (!tekst || !pad)
+        return tl::unexpected(Fout{.soort = tekst ? Foutsoort::Geweigerd : Foutsoort::Beschadigd,
+                                   .bestand = {},
+                                   .regel = 0,
+                                   .systeem = {}});
+    const auto magWeg = [&](Tekstblik oud) { return gelezen == oud && IsParenbestand(oud); };
+    return VervangMetKopie(schijf, mappen.SPEMAP, *pad, *tekst, magWeg);
+}
+
+Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen, Tekstblik groepscode,
+                                       Tekstblik subgroep, const Spelertabel& tabel)
+{
+    const auto inhoud = LeesAlsErIs(schijf, Samen(mappen.SPEMAP, "RVDparen.txt"));
+    if (!inhoud)
+        return tl::unexpected(inhoud.error());
+    const Tekst gezocht = Hoofdletters(subgroep);
+    std::unordered_set<Tekstblik> aanwezig;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Groep) == CodeUit(groepscode) &&
+            Hoofdletters(tabel.Cel(rij, Kolom::NBBgr)) == gezocht)
+            aanwezig.insert(tabel.Cel(rij, Kolom::Key));
+    }
+    Paartekens paren;
+    for (const Tekst& paar : PaartekensUit(inhoud->value_or(Tekst()))) {
+        if (aanwezig.contains(Eerste6(paar)) && aanwezig.contains(Laatste6(paar)))
+            paren.push_back(Paarteken(Eerste6(paar), Laatste6(paar)));
+    }
+    return paren;
+}
+
+} // namespace plexoran

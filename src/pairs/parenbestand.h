@@ -1,0 +1,60 @@
+// Pair files, "Parenmap\<group code><subgroup>.txt" in the players folder, and the suite-wide
+// "RVDparen.txt" in the players folder itself:
+//
+//     100234-100417#100301-100222# CR LF
+//
+// One line of pair tokens, each followed by "#". A token is thirteen characters: a key, "-" and a
+// key, in the order in which the pair was formed. Of several lines only the last one counts; what
+// is not thirteen characters long is passed over; the seventh character is not looked at.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "register/mappen.h"
+#include "register/spelertabel.h"
+
+namespace plexoran {
+
+using Paartekens = std::vector<Tekst>;
+
+[[nodiscard]] Pad Parenmap(const Mappen& mappen);
+/// The pair file of a group-subgroup; nothing when its name holds a character that a file system
+/// refuses, so that no such file can exist.
+[[nodiscard]] std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze);
+/// The characters of a group-subgroup that cannot stand in the name of a file, each once.
+[[nodiscard]] Tekst GeweigerdeTekens(Tekstblik keuze);
+
+/// The tokens of a pair file, in their order.
+[[nodiscard]] Paartekens PaartekensUit(Tekstblik inhoud);
+/// Whether the text holds one line of tokens and nothing else, so that writing it anew loses
+/// nothing.
+[[nodiscard]] bool IsParenbestand(Tekstblik inhoud);
+
+struct Parenlezing {
+    Paartekens paren;
+    std::optional<Tekst> bestandstekst; ///< none when there is no file
+};
+
+/// A missing file gives no pairs, and is no error.
+[[nodiscard]] Uitkomst<Parenlezing> LeesParenbestand(Schijf& schijf, const Mappen& mappen,
+                                                     Tekstblik keuze);
+
+/// The content of a pair file, from the lines of the pairs list. Nothing when a line has no "+".
+[[nodiscard]] std::optional<Tekst> ParenTekst(std::span<const Tekst> regels);
+
+/// Writes the pair file whole. Without lines nothing is written: the file keeps its pairs. A file
+/// that holds anything else than pairs, or that is not the text `gelezen`, is first copied aside.
+/// `Beschadigd` when a line has no "+", `Geweigerd` when no file can have that name.
+[[nodiscard]] Uitkomst<void> BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
+                                         std::span<const Tekst> regels,
+                                         const std::optional<Tekst>& gelezen);
+
+/// The pairs in "RVDparen.txt" of which both players are in this group and subgroup, the latter in
+/// capitals or not. A missing file gives no pairs.
+[[nodiscard]] Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen,
+                                                     Tekstblik groepscode, Tekstblik subgroep,
+                                                     const Spelertabel& tabel);
+
+} // namespace plexoran
