@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "help/tekstblad.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/leesvak.h"
 #include "platform/scherm/meter.h"
@@ -58,7 +59,8 @@ QString VulToelichting()
 
 } // namespace
 
-frmToelichting::frmToelichting(QWidget* hoofdvenster) : QDialog(hoofdvenster)
+frmToelichting::frmToelichting(QWidget* hoofdvenster, Printerkeus printer)
+    : QDialog(hoofdvenster), printer_(std::move(printer))
 {
     Bouw();
     connect(cmdEinde, &QPushButton::clicked, this, &QDialog::accept);
