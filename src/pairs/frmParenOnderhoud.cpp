@@ -122,9 +122,9 @@ void frmParenOnderhoud::ToonAantalParen()
 
 // ---- Choosing ----------------------------------------------------------------------------------
 
-void frmParenOnderhoud::SpelerGekozen()
+void frmParenOnderhoud::SpelerGekozen(const Zoeklijst* lijst)
 {
-    if (L1->Gekozen() >= 0 || L2->Gekozen() >= 0)
+    if (lijst->Gekozen() >= 0)
         L3->KiesNiets();
     ZetKnoppen();
 }
@@ -174,10 +174,8 @@ void frmParenOnderhoud::MaakPaar()
 
 void frmParenOnderhoud::Ontbind()
 {
-    const int speler = paren_.Ontbind(L3->Gekozen());
+    paren_.Ontbind(L3->Gekozen());
     VulSpelerslijsten(Zoeklijst::Plek::Behouden);
-    for (Zoeklijst* lijst : {L1, L2})
-        lijst->ZetHuidige(speler);
     VulParenlijst(Zoeklijst::Plek::Behouden);
     ToonAantalParen();
     L3->setFocus();

@@ -43,7 +43,7 @@ class frmParenOnderhoud : public QDialog {
     void VulParenlijst(Zoeklijst::Plek plek);
     void ToonAantalParen();
 
-    void SpelerGekozen();
+    void SpelerGekozen(const Zoeklijst* lijst);
     void PaarGekozen();
     void ZetKnoppen();
     void ZetKnopOKE(bool aan);

@@ -170,7 +170,7 @@ void frmParenOnderhoud::Verbind()
     // Also when the group-subgroup that is shown is picked again.
     connect(cmbNBBledengr, &QComboBox::activated, this, &frmParenOnderhoud::KiesSubgroep);
     for (Zoeklijst* lijst : {L1, L2}) {
-        connect(lijst, &Zoeklijst::keuzeVeranderd, this, &frmParenOnderhoud::SpelerGekozen);
+        connect(lijst, &Zoeklijst::keuzeVeranderd, this, [this, lijst] { SpelerGekozen(lijst); });
         connect(lijst, &Zoeklijst::enterGedrukt, cmdOKE, &QPushButton::click);
     }
     connect(L2, &Zoeklijst::doubleClicked, cmdOKE, &QPushButton::click);

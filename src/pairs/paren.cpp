@@ -157,21 +157,20 @@ int Paren::MaakPaar(int links, int rechts)
     return plaats;
 }
 
-int Paren::VoegSpelerToe(Tekst spelerregel)
+void Paren::VoegSpelerToe(Tekst spelerregel)
 {
     const auto plek = std::upper_bound(
         lalle_.begin(), lalle_.end(), Sorteersleutel(spelerregel),
         [](const Tekst& sleutel, const Tekst& regel) { return sleutel < Sorteersleutel(regel); });
-    return static_cast<int>(lalle_.insert(plek, std::move(spelerregel)) - lalle_.begin());
+    lalle_.insert(plek, std::move(spelerregel));
 }
 
-int Paren::Ontbind(int plaats)
+void Paren::Ontbind(int plaats)
 {
     const Tekst regel = std::move(l3_[Index(plaats)]);
     l3_.erase(l3_.begin() + plaats);
-    const int eerste = VoegSpelerToe(LinkerSpeler(regel).AlsSpelerregel());
-    const int tweede = VoegSpelerToe(RechterSpeler(regel).AlsSpelerregel());
-    return tweede <= eerste ? eerste + 1 : eerste;
+    VoegSpelerToe(LinkerSpeler(regel).AlsSpelerregel());
+    VoegSpelerToe(RechterSpeler(regel).AlsSpelerregel());
 }
 
 int Paren::Sorteer(int volg)

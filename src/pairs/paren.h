@@ -33,9 +33,8 @@ class Paren {
     /// Makes a pair of the players at these two places of the choice lists; both are taken out, and
     /// so is every line that contains one of their keys. The answer is the pair's place.
     int MaakPaar(int links, int rechts);
-    /// Takes a pair out; its players come back, whoever they are. The answer is the place of the
-    /// first one.
-    int Ontbind(int plaats);
+    /// Takes a pair out; its players come back, whoever they are.
+    void Ontbind(int plaats);
     /// Orders the pairs by the first player's name and key, then as they stood. The answer is where
     /// the pair at `volg` went.
     int Sorteer(int volg = 0);
@@ -43,7 +42,7 @@ class Paren {
 
   private:
     [[nodiscard]] Tekst ToonParen(const Paartekens& paren);
-    int VoegSpelerToe(Tekst spelerregel);
+    void VoegSpelerToe(Tekst spelerregel);
 
     std::vector<Tekst> lalle_;
     std::vector<Tekst> l3_;

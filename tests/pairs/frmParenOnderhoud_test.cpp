@@ -1,0 +1,684 @@
+// The pairs window on a small register and a disk in memory.
+#include "pairs/frmParenOnderhoud.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollBar>
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/proefsuite.h"
+#include "hulp/tabelmaker.h"
+#include "hulp/venstergrepen.h"
+#include "platform/falendeSchijf.h"
+#include "platform/geheugenSchijf.h"
+#include "platform/scherm/tekstbrug.h"
+
+using namespace plexoran;
+
+namespace {
+
+using Teksten = std::vector<std::string>;
+
+const Pad dinsdag = "C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt";
+
+class frmParenOnderhoudTest : public testing::Test {
+  protected:
+    frmParenOnderhoudTest()
+    {
+        geheugen.ZetMap("C:\\club");
+        geheugen.ZetMap("C:\\club\\Spelers");
+        administratie.mappen.RVDMAP = "C:\\club";
+        administratie.mappen.SPEMAP = "C:\\club\\Spelers";
+        administratie.spelers.tabel =
+            MaakTabel({{"100001", "Gr03-", "An", "", "Bos", "Dinsdag", ""},
+                       {"100002", "Gr03-", "Bea", "de", "Cock", "Dinsdag", ""},
+                       {"100003", "Gr02-", "Cor", "van der", "Dam", "Woensdag", ""},
+                       {"100004", "Gr03-", "Dirk", "", "Eik", "DINSDAG", ""},
+                       {"100005", "Gr03-", "\xC9ls", "", "\xC4rp", "Dinsdag", ""},
+                       {"100006", "Gr03-", "Fred", "", "Gans", "", ""},
+                       {"100007", "Gr03-", "Gijs", "", "Haan", "A/B", ""},
+                       {"100008", "Gr03-", "Han", "", "Iep", "A/B", ""}});
+        hoofd.show();
+    }
+    ~frmParenOnderhoudTest() override { wachter.Klaar(); }
+
+    void Open(Tekstblik groep = "Gr03-Clubleden")
+    {
+        venster.reset();
+        venster = std::make_unique<frmParenOnderhoud>(administratie, groep, &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
+
+    template <class T> [[nodiscard]] T* Deel(const char* naam) const
+    {
+        return Vind<T>(*venster, naam);
+    }
+    [[nodiscard]] QPushButton* Knop(const char* naam) const { return Deel<QPushButton>(naam); }
+    [[nodiscard]] Zoeklijst* Lijst(const char* naam) const { return Deel<Zoeklijst>(naam); }
+    [[nodiscard]] std::string Labeltekst(const char* naam) const
+    {
+        return Deel<QLabel>(naam)->text().toStdString();
+    }
+    /// As a user who picks it in the drop-down.
+    void Kies(const char* keuze) const
+    {
+        auto* cmb = Deel<QComboBox>("cmbNBBledengr");
+        const int plaats = cmb->findText(QString::fromUtf8(keuze));
+        ASSERT_GE(plaats, 0) << keuze;
+        cmb->setCurrentIndex(plaats);
+        emit cmb->activated(plaats);
+    }
+    [[nodiscard]] Teksten Regels(const char* lijst) const
+    {
+        Teksten regels;
+        const auto* model = Lijst(lijst)->model();
+        for (int rij = 0; rij < model->rowCount(); ++rij)
+            regels.push_back(model->index(rij, 0).data().toString().toStdString());
+        return regels;
+    }
+    void KlikRegel(const char* lijst, int plaats) const
+    {
+        Zoeklijst* l = Lijst(lijst);
+        Klik(l->viewport(), l->visualRect(l->model()->index(plaats, 0)).center());
+    }
+    void DubbelklikRegel(const char* lijst, int plaats) const
+    {
+        Zoeklijst* l = Lijst(lijst);
+        const QPoint plek = l->visualRect(l->model()->index(plaats, 0)).center();
+        Klik(l->viewport(), plek);
+        QTest::mouseDClick(l->viewport(), Qt::LeftButton, {}, plek);
+        QApplication::processEvents();
+    }
+    void MaakPaar(int links, int rechts) const
+    {
+        KlikRegel("L1", links);
+        KlikRegel("L2", rechts);
+        Klik(Knop("cmdOKE"));
+    }
+    [[nodiscard]] int Gekozen(const char* lijst) const { return Lijst(lijst)->Gekozen(); }
+
+    GeheugenSchijf geheugen;
+    FalendeSchijf schijf{geheugen};
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<frmParenOnderhoud> venster;
+};
+
+const Teksten vier{"100005 Ärp Éls", "100001 Bos An", "100002 Cock Bea de", "100004 Eik Dirk"};
+
+} // namespace
+
+// ---- Opening -----------------------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, DeTeksten)
+{
+    EXPECT_EQ("Paren samenstellen", venster->windowTitle().toStdString());
+    EXPECT_EQ("Gr03-", Labeltekst("lblRVDledengr"));
+    const std::vector<std::pair<const char*, const char*>> labels{
+        {"Label9", "RVD-ledengroep:"},
+        {"Label2", "Groep-Subgroep:"},
+        {"Label6", "Maak  een paar"},
+        {"Label5", "Ontbindt dit paar"},
+        {"Label1", "Waarom paren samenstellen?"},
+        {"Label7", "Aantal spelers:"},
+        {"Label8", "Aantal paren:"},
+        {"Label3", "Selecteer in beide kolommen een speler en klik op 'OKE'"},
+        {"Label10", "Alvorens om te schakelen naar een andere groep eerst de wijzigingen opslaan!"},
+        {"Label4", "Reeds gevormde paren"},
+        {"lblPrintVast", "Tuprufo - Leo Jansen "},
+        {"lblPrintLos", "Tuprufo        Leo Jansen  (aparte kolom)"},
+        {"lblExcel", "Kan in Excel worden ingelezen. "}};
+    for (const auto& [naam, tekst] : labels)
+        EXPECT_EQ(tekst, Labeltekst(naam)) << naam;
+    const std::vector<std::pair<const char*, const char*>> knoppen{
+        {"cmdOKE", "OKE >>>"},
+        {"cmdOntbindt", " OKE <<<"},
+        {"cmdSortL3", "Sort  L9"},
+        {"cmdVerwParenbest", "Verwijder dit parenbestand"},
+        {"cmdUitleg", "Klik hier voor uitleg"},
+        {"cmdPrintVast", "Als paar in 1 kolom"},
+        {"cmdPrintLos", "Als paar in    2 kolommen"},
+        {"cmdEinde", "Opslaan en Einde"},
+        {"cmdAnnu", "Annuleren"}};
+    for (const auto& [naam, tekst] : knoppen)
+        EXPECT_EQ(tekst, Opschrift(Knop(naam))) << naam;
+    EXPECT_EQ("Samenstelling of ontbinden van paren tbv RVD en Ranking",
+              Deel<QGroupBox>("Frame1")->title().toStdString());
+    EXPECT_EQ("Paren opslaan als CSV-bestand", Deel<QGroupBox>("Frame2")->title().toStdString());
+}
+
+TEST_F(frmParenOnderhoudTest, HetBegin)
+{
+    EXPECT_EQ(Padsoort::Map, schijf.Soort("C:\\club\\Spelers\\Parenmap"));
+    auto* cmb = Deel<QComboBox>("cmbNBBledengr");
+    EXPECT_EQ(-1, cmb->currentIndex());
+    Teksten keuzes;
+    for (int i = 0; i < cmb->count(); ++i)
+        keuzes.push_back(cmb->itemText(i).toStdString());
+    EXPECT_EQ((Teksten{"Gr03-Dinsdag", "Gr03-DINSDAG", "Gr03-", "Gr03-A/B"}), keuzes);
+    for (const char* lijst : {"L1", "L2", "L3"}) {
+        EXPECT_EQ(Teksten(), Regels(lijst));
+        EXPECT_EQ("Arial", Lijst(lijst)->font().family().toStdString());
+        EXPECT_EQ(Maten().Letter(9).pixelSize(), Lijst(lijst)->font().pixelSize());
+    }
+    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
+    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
+    EXPECT_EQ(venster->screen()->size().height() - Maten().Twips(1000), venster->height());
+}
+
+TEST_F(frmParenOnderhoudTest, EenAndereGroepEnEenGroepZonderSpelers)
+{
+    ASSERT_NO_FATAL_FAILURE(Open("Gr02-"));
+    EXPECT_EQ("Gr02-", Labeltekst("lblRVDledengr"));
+    Kies("Gr02-Woensdag");
+    EXPECT_EQ(Teksten{"100003 Dam Cor van der"}, Regels("L1"));
+    ASSERT_NO_FATAL_FAILURE(Open("Gr09-Leeg"));
+    EXPECT_EQ(0, Deel<QComboBox>("cmbNBBledengr")->count());
+    Klik(Knop("cmdEinde"));
+    EXPECT_FALSE(venster->isVisible());
+}
+
+TEST_F(frmParenOnderhoudTest, EenMapDieNietGemaaktKanWorden)
+{
+    administratie.mappen.SPEMAP = "C:\\club\\Anders";
+    wachter.Verwacht({.tekst = QStringLiteral("De map voor de parenbestanden (Parenmap) kon niet "
+                                              "worden gemaakt; paren kunnen nu niet worden "
+                                              "opgeslagen.\n\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Klaar();
+    Kies("Gr03-Dinsdag");
+    EXPECT_EQ(vier, Regels("L1"));
+}
+
+// ---- Choosing a group-subgroup -----------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, ZonderParenbestand)
+{
+    Kies("Gr03-Dinsdag");
+    EXPECT_EQ(vier, Regels("L1"));
+    EXPECT_EQ(vier, Regels("L2"));
+    EXPECT_EQ(Teksten(), Regels("L3"));
+    EXPECT_EQ("Aantal spelers: 4", Labeltekst("Label7"));
+    EXPECT_EQ("", Labeltekst("Label8"));
+}
+
+TEST_F(frmParenOnderhoudTest, MetParen)
+{
+    geheugen.Zet(dinsdag, "100004-100005#\r\n");
+    Kies("Gr03-Dinsdag");
+    EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Regels("L1"));
+    EXPECT_EQ(Teksten{"100004 Eik Dirk          +100005 Ärp Éls"}, Regels("L3"));
+    EXPECT_EQ("Aantal spelers: 2", Labeltekst("Label7"));
+    EXPECT_EQ("Aantal paren: 1", Labeltekst("Label8"));
+    Kies("Gr03-");
+    EXPECT_EQ(Teksten{"100006 Gans Fred"}, Regels("L2"));
+    EXPECT_EQ(Teksten(), Regels("L3"));
+    EXPECT_EQ("Aantal spelers: 1", Labeltekst("Label7"));
+    EXPECT_EQ("", Labeltekst("Label8"));
+}
+
+TEST_F(frmParenOnderhoudTest, LosseSpelersWordenGemeld)
+{
+    geheugen.Zet(dinsdag, "100001-100099#100004-100005#100098-100097#\r\n");
+    wachter.Verwacht({.tekst = QStringLiteral("De volgende spelers zijn losse spelers: \r\n\r\n"
+                                              "100001 Bos An - 100099 ??????\r\n"
+                                              "100098 ?????? - 100097 ??????\r\n\r\n"),
+                      .icoon = QMessageBox::Warning,
+                      .knoppen = {QStringLiteral("OK")}});
+    Kies("Gr03-Dinsdag");
+    wachter.Klaar();
+    EXPECT_EQ(
+        (Teksten{"100098 ??????          +100097 ??????", "100001 Bos An          +100099 ??????",
+                 "100004 Eik Dirk          +100005 Ärp Éls"}),
+        Regels("L3"));
+    EXPECT_EQ("Aantal paren: 3", Labeltekst("Label8"));
+}
+
+/// Too long for a box: in a window in which it scrolls.
+TEST_F(frmParenOnderhoudTest, VeelLosseSpelersInEenVensterDatSchuift)
+{
+    Tekst bestand;
+    for (int i = 0; i < 60; ++i)
+        bestand += std::to_string(200000 + i) + "-" + std::to_string(300000 + i) + "#";
+    geheugen.Zet(dinsdag, bestand);
+    QString tekst;
+    wachter.Bedien([&](QDialog& dialoog) {
+        EXPECT_EQ("frmBericht", dialoog.objectName().toStdString());
+        tekst = Vind<QPlainTextEdit>(dialoog, "txtBericht")->toPlainText();
+        dialoog.accept();
+    });
+    Kies("Gr03-Dinsdag");
+    wachter.Klaar();
+    EXPECT_TRUE(tekst.startsWith(QStringLiteral("De volgende spelers zijn losse spelers: \n\n"
+                                                "200000 ?????? - 300000 ??????\n")));
+    EXPECT_EQ(60, tekst.count(QStringLiteral(" - ")));
+}
+
+TEST_F(frmParenOnderhoudTest, EenBestandDatNietGelezenKanWorden)
+{
+    geheugen.Zet(dinsdag, "100004-100005#\r\n");
+    schijf.FaalVanaf(1);
+    wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'Gr03-Dinsdag' kan niet worden "
+                                              "gelezen. U ziet daarom geen paren; voordat het "
+                                              "wordt vervangen, komt er een kopie van in de map "
+                                              "Reservekopie.\n\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    Kies("Gr03-Dinsdag");
+    wachter.Klaar();
+    schijf.FaalNiet();
+    EXPECT_EQ(vier, Regels("L1"));
+    MaakPaar(0, 1);
+    Klik(Knop("cmdEinde"));
+    EXPECT_EQ("100005-100001#\r\n", geheugen.Inhoud(dinsdag));
+    bool kopie = false;
+    for (const Pad& pad : geheugen.AlleBestanden())
+        kopie = kopie || (pad.find("Reservekopie") != Pad::npos &&
+                          geheugen.Inhoud(pad) == Tekst("100004-100005#\r\n"));
+    EXPECT_TRUE(kopie);
+}
+
+/// Meant: what was not saved is gone after a switch.
+TEST_F(frmParenOnderhoudTest, OmschakelenVergeetWatNietIsOpgeslagen)
+{
+    Kies("Gr03-Dinsdag");
+    MaakPaar(0, 1);
+    Kies("Gr03-");
+    Kies("Gr03-Dinsdag");
+    EXPECT_EQ(Teksten(), Regels("L3"));
+    EXPECT_EQ(vier, Regels("L1"));
+    EXPECT_EQ(std::nullopt, geheugen.Inhoud(dinsdag));
+}
+
+// ---- Selecting ---------------------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, OKEVraagtTweeVerschillendeSpelers)
+{
+    Kies("Gr03-Dinsdag");
+    KlikRegel("L1", 1);
+    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
+    KlikRegel("L2", 1);
+    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
+    const QColor uit = Knop("cmdOKE")->palette().color(QPalette::Button);
+    KlikRegel("L2", 2);
+    EXPECT_TRUE(Knop("cmdOKE")->isEnabled());
+    EXPECT_NE(uit, Knop("cmdOKE")->palette().color(QPalette::Button));
+    KlikRegel("L1", 2);
+    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
+    EXPECT_EQ(uit, Knop("cmdOKE")->palette().color(QPalette::Button));
+}
+
+TEST_F(frmParenOnderhoudTest, EenKeuzeInDeParenLaatDeSpelersLosEnAndersom)
+{
+    geheugen.Zet(dinsdag, "100004-100005#\r\n");
+    Kies("Gr03-Dinsdag");
+    KlikRegel("L1", 0);
+    KlikRegel("L2", 1);
+    KlikRegel("L3", 0);
+    EXPECT_EQ(-1, Gekozen("L1"));
+    EXPECT_EQ(-1, Gekozen("L2"));
+    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
+    EXPECT_TRUE(Knop("cmdOntbindt")->isEnabled());
+    KlikRegel("L2", 0);
+    EXPECT_EQ(-1, Gekozen("L3"));
+    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
+}
+
+// ---- Forming -----------------------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, EenPaarMetDeKnop)
+{
+    Kies("Gr03-Dinsdag");
+    MaakPaar(3, 1);
+    EXPECT_EQ(Teksten{"100004 Eik Dirk          +100001 Bos An"}, Regels("L3"));
+    EXPECT_EQ((Teksten{"100005 Ärp Éls", "100002 Cock Bea de"}), Regels("L1"));
+    EXPECT_EQ(Regels("L1"), Regels("L2"));
+    EXPECT_EQ("Aantal spelers: 2", Labeltekst("Label7"));
+    EXPECT_EQ("Aantal paren: 1", Labeltekst("Label8"));
+    EXPECT_EQ(-1, Gekozen("L1"));
+    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
+    MaakPaar(0, 1);
+    EXPECT_EQ((Teksten{"100005 Ärp Éls          +100002 Cock Bea de",
+                       "100004 Eik Dirk          +100001 Bos An"}),
+              Regels("L3"));
+    EXPECT_EQ(Teksten(), Regels("L1"));
+    EXPECT_EQ("Aantal spelers: 0", Labeltekst("Label7"));
+    EXPECT_EQ("Aantal paren: 2", Labeltekst("Label8"));
+}
+
+TEST_F(frmParenOnderhoudTest, EenPaarMetEenDubbelklikRechts)
+{
+    Kies("Gr03-Dinsdag");
+    DubbelklikRegel("L2", 1);
+    EXPECT_EQ(Teksten(), Regels("L3")); // no player at the left yet
+    KlikRegel("L1", 0);
+    DubbelklikRegel("L2", 2);
+    EXPECT_EQ(Teksten{"100005 Ärp Éls          +100002 Cock Bea de"}, Regels("L3"));
+    KlikRegel("L2", 1);
+    DubbelklikRegel("L1", 0); // only the right list
+    EXPECT_EQ(1U, Regels("L3").size());
+}
+
+TEST_F(frmParenOnderhoudTest, EenPaarMetEnter)
+{
+    Kies("Gr03-Dinsdag");
+    Lijst("L1")->setFocus();
+    QTest::keyClick(Lijst("L1"), Qt::Key_Return);
+    EXPECT_EQ(Teksten(), Regels("L3"));
+    EXPECT_TRUE(venster->isVisible());
+    QTest::keyClick(Lijst("L1"), Qt::Key_Down);
+    QTest::keyClick(Lijst("L1"), Qt::Key_Tab);
+    ASSERT_TRUE(Lijst("L2")->hasFocus());
+    QTest::keyClick(Lijst("L2"), Qt::Key_End);
+    QTest::keyClick(Lijst("L2"), Qt::Key_Return);
+    EXPECT_EQ(Teksten{"100001 Bos An          +100004 Eik Dirk"}, Regels("L3"));
+    EXPECT_TRUE(Lijst("L1")->hasFocus()); // for the next pair
+    QTest::keyClick(Lijst("L1"), Qt::Key_Home);
+    KlikRegel("L2", 1);
+    QTest::keyClick(Lijst("L1"), Qt::Key_Enter);
+    EXPECT_EQ(2U, Regels("L3").size());
+}
+
+// ---- Dissolving and sorting --------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, OntbindenMetDeKnopEnMetDelete)
+{
+    geheugen.Zet(dinsdag, "100004-100005#100002-100001#\r\n");
+    Kies("Gr03-Dinsdag");
+    KlikRegel("L3", 1);
+    Klik(Knop("cmdOntbindt"));
+    EXPECT_EQ((Teksten{"100005 Ärp Éls", "100004 Eik Dirk"}), Regels("L1"));
+    EXPECT_EQ(Regels("L1"), Regels("L2"));
+    EXPECT_EQ("Aantal spelers: 2", Labeltekst("Label7"));
+    EXPECT_EQ("Aantal paren: 1", Labeltekst("Label8"));
+    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
+    QTest::keyClick(Lijst("L3"), Qt::Key_Delete);
+    EXPECT_EQ(1U, Regels("L3").size()); // nothing is selected any more
+    KlikRegel("L3", 0);
+    QTest::keyClick(Lijst("L3"), Qt::Key_Delete);
+    EXPECT_EQ(Teksten(), Regels("L3"));
+    EXPECT_EQ(vier, Regels("L2"));
+    EXPECT_EQ("Aantal paren: 0", Labeltekst("Label8"));
+    QTest::keyClick(Lijst("L1"), Qt::Key_Delete);
+    EXPECT_EQ(vier, Regels("L1"));
+}
+
+TEST_F(frmParenOnderhoudTest, Sorteren)
+{
+    geheugen.Zet(dinsdag, "100004-100005#100002-100001#\r\n");
+    Kies("Gr03-Dinsdag");
+    const Teksten gesorteerd{"100002 Cock Bea de          +100001 Bos An",
+                             "100004 Eik Dirk          +100005 Ärp Éls"};
+    EXPECT_EQ(gesorteerd, Regels("L3"));
+    Klik(Knop("cmdSortL3"));
+    EXPECT_EQ(gesorteerd, Regels("L3"));
+    EXPECT_EQ("Aantal paren: 2", Labeltekst("Label8"));
+}
+
+// ---- Typing and scrolling ----------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, TypenSpringtNaarDeNaam)
+{
+    Kies("Gr03-Dinsdag");
+    Lijst("L1")->setFocus();
+    QTest::keyClicks(Lijst("L1"), QStringLiteral("co"));
+    EXPECT_EQ(2, Gekozen("L1"));
+    QTest::keyClicks(Lijst("L2"), QStringLiteral("ar")); // Ärp
+    EXPECT_EQ(0, Gekozen("L2"));
+    EXPECT_TRUE(Knop("cmdOKE")->isEnabled());
+}
+
+namespace {
+
+class GroteGroep : public frmParenOnderhoudTest {
+  protected:
+    GroteGroep()
+    {
+        std::vector<Proefspeler> spelers;
+        for (int i = 0; i < 400; ++i)
+            spelers.push_back({.key = std::to_string(100001 + i),
+                               .groep = "Gr03-",
+                               .achternaam = "Naam" + MetNullen(i, 4)});
+        administratie.spelers.tabel = MaakTabel(spelers);
+    }
+};
+
+} // namespace
+
+TEST_F(GroteGroep, DeLijstenHoudenHunSchuifplaats)
+{
+    Kies("Gr03-");
+    for (const auto& [lijst, plek] : {std::pair{"L1", 200}, std::pair{"L2", 300}})
+        Lijst(lijst)->verticalScrollBar()->setValue(plek);
+    MaakPaar(205, 303);
+    ASSERT_EQ(Teksten{"100206 Naam0205          +100304 Naam0303"}, Regels("L3"));
+    EXPECT_EQ(200, Lijst("L1")->verticalScrollBar()->value());
+    EXPECT_EQ(300, Lijst("L2")->verticalScrollBar()->value());
+    KlikRegel("L3", 0);
+    Klik(Knop("cmdOntbindt"));
+    EXPECT_EQ(400U, Regels("L1").size());
+    EXPECT_EQ(200, Lijst("L1")->verticalScrollBar()->value());
+    EXPECT_EQ(300, Lijst("L2")->verticalScrollBar()->value());
+    Kies("Gr03-");
+    EXPECT_EQ(0, Lijst("L1")->verticalScrollBar()->value());
+}
+
+// ---- Saving and closing ------------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, OpslaanEnEinde)
+{
+    Kies("Gr03-Dinsdag");
+    MaakPaar(3, 1);
+    MaakPaar(0, 1);
+    Klik(Knop("cmdEinde"));
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ("100005-100002#100004-100001#\r\n", geheugen.Inhoud(dinsdag));
+    ASSERT_NO_FATAL_FAILURE(Open());
+    Kies("Gr03-Dinsdag");
+    EXPECT_EQ(2U, Regels("L3").size());
+}
+
+/// Meant: only the delete command empties a file.
+TEST_F(frmParenOnderhoudTest, ZonderParenBlijftHetOudeBestand)
+{
+    geheugen.Zet(dinsdag, "100004-100005#\r\n");
+    Kies("Gr03-Dinsdag");
+    KlikRegel("L3", 0);
+    Klik(Knop("cmdOntbindt"));
+    Klik(Knop("cmdEinde"));
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
+}
+
+TEST_F(frmParenOnderhoudTest, AnnulerenEscapeEnHetSluitvakBewarenNiets)
+{
+    for (int hoe = 0; hoe < 3; ++hoe) {
+        ASSERT_NO_FATAL_FAILURE(Open());
+        Kies("Gr03-Dinsdag");
+        MaakPaar(3, 1);
+        if (hoe == 0)
+            Klik(Knop("cmdAnnu"));
+        else if (hoe == 1)
+            QTest::keyClick(venster.get(), Qt::Key_Escape);
+        else
+            venster->close();
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_EQ(std::nullopt, geheugen.Inhoud(dinsdag));
+    }
+}
+
+TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
+{
+    geheugen.Zet(dinsdag, "100004-100005#\r\n");
+    Kies("Gr03-Dinsdag");
+    MaakPaar(0, 1);
+    geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
+    wachter.Waarschuwing(
+        QStringLiteral("Fout bij het opslaan van Paren\n"
+                       "Bestand: C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt\n"
+                       "Melding van het systeem: Permission denied\n\n"
+                       "De paren zijn niet verloren: ze staan nu op het klembord, zoals ze in het "
+                       "bestand horen te staan. Plak ze in een tekstbestand als u ze wilt "
+                       "bewaren."));
+    Klik(Knop("cmdEinde"));
+    wachter.Klaar();
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ("100001-100002#100004-100005#", QGuiApplication::clipboard()->text().toStdString());
+    EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
+}
+
+TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
+{
+    Kies("Gr03-A/B");
+    MaakPaar(0, 1);
+    wachter.Waarschuwing(QStringLiteral(
+        "De paren van 'Gr03-A/B' kunnen niet worden opgeslagen: de subgroep is ook de naam van het "
+        "parenbestand, en daarin kan dit teken niet staan: /\n\nGeef de spelers een subgroep "
+        "zonder zo'n teken. De paren staan nog op het scherm; met Annuleren sluit u het venster "
+        "zonder op te slaan."));
+    Klik(Knop("cmdEinde"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_EQ(Teksten{"100007 Haan Gijs          +100008 Iep Han"}, Regels("L3"));
+    EXPECT_EQ(std::vector<Pad>(), geheugen.AlleBestanden());
+    KlikRegel("L3", 0);
+    Klik(Knop("cmdOntbindt"));
+    Klik(Knop("cmdEinde")); // nothing to save
+    EXPECT_FALSE(venster->isVisible());
+}
+
+// ---- Deleting the file -------------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, EenBestandDatErNietIs)
+{
+    Kies("Gr03-Dinsdag");
+    MaakPaar(0, 1);
+    wachter.Waarschuwing(QStringLiteral("Parenbestand 'Gr03-Dinsdag' bestaat nog niet!"));
+    Klik(Knop("cmdVerwParenbest"));
+    wachter.Klaar();
+    EXPECT_EQ(1U, Regels("L3").size());
+    Kies("Gr03-A/B");
+    wachter.Waarschuwing(QStringLiteral("Parenbestand 'Gr03-A/B' bestaat nog niet!"));
+    Klik(Knop("cmdVerwParenbest"));
+}
+
+TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
+{
+    geheugen.Zet(dinsdag, "100004-100005#\r\n");
+    Kies("Gr03-Dinsdag");
+    const auto vraag = [](const QString& antwoord) {
+        return Bericht{.tekst = QStringLiteral("U gaat Parenbestand Gr03-Dinsdag volledig "
+                                               "verwijderen!\r\nWeet u het zeker?"),
+                       .antwoord = antwoord,
+                       .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+    };
+    wachter.Verwacht(vraag(QStringLiteral("Annuleren")));
+    Klik(Knop("cmdVerwParenbest"));
+    EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
+    EXPECT_EQ(1U, Regels("L3").size());
+    wachter.Verwacht(vraag(QStringLiteral("OK")));
+    Klik(Knop("cmdVerwParenbest"));
+    wachter.Klaar();
+    EXPECT_EQ(std::nullopt, geheugen.Inhoud(dinsdag));
+    EXPECT_EQ(Teksten(), Regels("L3"));
+    EXPECT_EQ("Aantal paren: 0", Labeltekst("Label8"));
+    // The players come back when the group-subgroup is picked again.
+    EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Regels("L1"));
+    Kies("Gr03-Dinsdag");
+    EXPECT_EQ(vier, Regels("L1"));
+}
+
+TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
+{
+    geheugen.Zet(dinsdag, "100004-100005#\r\n");
+    Kies("Gr03-Dinsdag");
+    geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
+    wachter.Verwacht(
+        {.tekst = QStringLiteral("U gaat Parenbestand Gr03-Dinsdag"), .alleenBegin = true});
+    wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand kon niet worden verwijderd; het "
+                                              "is gebleven zoals het was.\n\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    Klik(Knop("cmdVerwParenbest"));
+    wachter.Klaar();
+    EXPECT_EQ(1U, Regels("L3").size());
+    EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
+}
+
+// ---- CSV ---------------------------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, DeCSVBestanden)
+{
+    geheugen.Zet(dinsdag, "100004-100005#100002-100001#\r\n");
+    Kies("Gr03-Dinsdag");
+    const QString map = QString::fromStdString(schijf.Toonpad("C:\\club\\DiverseUitvoer"));
+    const auto opgeslagen = [&](const char* naam) {
+        wachter.Informatie(
+            QStringLiteral("Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n%2")
+                .arg(QString::fromLatin1(naam), map));
+    };
+    opgeslagen("RVDparenCSV1.csv");
+    Klik(Knop("cmdPrintVast"));
+    opgeslagen("RVDparenCSV2.csv");
+    Klik(Knop("cmdPrintLos"));
+    wachter.Klaar();
+    EXPECT_EQ("1;Bea de Cock - An Bos\r\n2;Dirk Eik - \xC9ls \xC4rp\r\n",
+              geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV1.csv"));
+    EXPECT_EQ("1;Bea de Cock;An Bos\r\n2;Dirk Eik;\xC9ls \xC4rp\r\n",
+              geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+    Kies("Gr03-");
+    opgeslagen("RVDparenCSV2.csv");
+    Klik(Knop("cmdPrintLos"));
+    EXPECT_EQ("", geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+}
+
+TEST_F(frmParenOnderhoudTest, EenCSVDieNietLukt)
+{
+    geheugen.ZetAlleenLezen("C:\\club");
+    wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'RVDparenCSV1.csv' is niet "
+                                              "opgeslagen. Misschien is het nog open in een ander "
+                                              "programma.\n\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    Klik(Knop("cmdPrintVast"));
+    administratie.mappen.RVDMAP.clear();
+    wachter.Waarschuwing(QStringLiteral("Het parenbestand 'RVDparenCSV2.csv' is niet opgeslagen: "
+                                        "er staat geen map achter RVDMAP= in 'Mappen.ini'."));
+    Klik(Knop("cmdPrintLos"));
+}
+
+// ---- Explanation -------------------------------------------------------------------------------
+
+TEST_F(frmParenOnderhoudTest, DeUitlegMetDeKnopEnMetF1)
+{
+    Kies("Gr03-Dinsdag");
+    MaakPaar(0, 1);
+    for (int hoe = 0; hoe < 2; ++hoe) {
+        wachter.Bedien([](QDialog& dialoog) {
+            EXPECT_EQ("frmUitleg", dialoog.objectName().toStdString());
+            QTest::keyClick(&dialoog, Qt::Key_Escape);
+        });
+        if (hoe == 0)
+            Klik(Knop("cmdUitleg"));
+        else {
+            venster->activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+            QTest::keyClick(Lijst("L1"), Qt::Key_F1);
+        }
+        wachter.Klaar();
+    }
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_EQ(1U, Regels("L3").size());
+}

@@ -204,7 +204,7 @@ TEST_F(ParenTest, OntbindenBrengtBeideSpelersOpHunPlaatsTerug)
 {
     (void)Laad({"100002-100005"});
     ASSERT_EQ((Teksten{"100001 Bos An", "100004 Eik Dirk"}), Keuzes());
-    EXPECT_EQ(2, paren.Ontbind(0)); // Cock, behind Aap and Bos
+    paren.Ontbind(0);
     EXPECT_EQ((Teksten{"100005 Aap Els", "100001 Bos An", "100002 Cock Bea de", "100004 Eik Dirk"}),
               Keuzes());
     EXPECT_EQ((Teksten{"Aap Els   100005", "Bos An    100001", "Cock Bea de   100002",
@@ -216,7 +216,7 @@ TEST_F(ParenTest, OntbindenBrengtBeideSpelersOpHunPlaatsTerug)
 TEST_F(ParenTest, EenOnvolledigPaarOntbinden)
 {
     (void)Laad({"100001-100099"});
-    (void)paren.Ontbind(0);
+    paren.Ontbind(0);
     EXPECT_EQ((Teksten{"100099 ??????", "100005 Aap Els", "100001 Bos An", "100002 Cock Bea de",
                        "100004 Eik Dirk"}),
               Keuzes());
@@ -227,7 +227,7 @@ TEST_F(ParenTest, GemaaktOntbondenEnWeerGemaakt)
     (void)Laad({});
     (void)paren.MaakPaar(0, 3);
     const Teksten eens = paren.L3();
-    (void)paren.Ontbind(0);
+    paren.Ontbind(0);
     (void)paren.MaakPaar(0, 3);
     EXPECT_EQ(eens, paren.L3());
     EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Keuzes());
