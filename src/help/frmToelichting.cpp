@@ -88,7 +88,32 @@ void frmToelichting::Bouw()
     Text1->setFocus();
 }
 
+/// Without a preview. A printer that is not there leaves the window open.
 void frmToelichting::Print()
-{}
+{
+    if (const auto geprint = PrintTekst(); !geprint)
+        MeldPrintfout(this, geprint.error());
+}
+
+Uitkomst<void> frmToelichting::PrintTekst() const
+{
+    const auto printer = printer_();
+    if (!printer)
+        return tl::unexpected(printer.error());
+    const auto taak = printer->Begin(Papierstand::Staand, windowTitle());
+    if (!taak)
+        return tl::unexpected(taak.error());
+    const Tekst tekst = NaarTekst(Text1->toPlainText());
+    bool eerste = true;
+    for (const auto& regels : Tekstbladen(tekst, (*taak)->Vlak().Meter())) {
+        if (!eerste) {
+            if (const auto blad = (*taak)->NieuwBlad(); !blad)
+                return blad;
+        }
+        eerste = false;
+        TekenTekstblad((*taak)->Vlak(), regels);
+    }
+    return (*taak)->Eind();
+}
 
 } // namespace plexoran

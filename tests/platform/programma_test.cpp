@@ -59,6 +59,17 @@ void HoudSlot()
         std::abort();
 }
 
+/// Whoever holds it may ask again: it never finds itself.
+TEST_F(ExemplaarslotTest, WieHetHeeftKrijgtHetWeer)
+{
+    Exemplaarslot slot;
+    EXPECT_TRUE(slot.Neem());
+    EXPECT_TRUE(slot.Neem());
+    Exemplaarslot ander;
+    EXPECT_FALSE(ander.Neem());
+    EXPECT_FALSE(ander.Neem());
+}
+
 TEST_F(ExemplaarslotTest, TweedeExemplaarKrijgtHetNiet)
 {
     const pid_t eerste = StartProces(HoudSlot);

@@ -1,0 +1,201 @@
+#include "help/frmToelichting.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPrinterInfo>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/pdfteksten.h"
+#include "hulp/venstergrepen.h"
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+#include "platform/scherm/maten.h"
+#include "platform/tijdelijkeMap.h"
+
+using namespace plexoran;
+
+namespace {
+
+class frmToelichtingTest : public testing::Test {
+  protected:
+    frmToelichtingTest() { hoofd.setGeometry(20, 30, 900, 700); }
+    ~frmToelichtingTest() override { wachter.Klaar(); }
+
+    void Open(frmToelichting::Printerkeus printer)
+    {
+        hoofd.show();
+        venster = std::make_unique<frmToelichting>(&hoofd, std::move(printer));
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    void SetUp() override
+    {
+        ASSERT_NO_FATAL_FAILURE(Open([this] { return Uitkomst<Printer>(Printer(schijf, Pdf())); }));
+    }
+    [[nodiscard]] Pad Pdf() const { return Samen(map.AlsPad(), "toelichting.pdf"); }
+    [[nodiscard]] QPlainTextEdit* Tekst() const { return Vind<QPlainTextEdit>(*venster, "Text1"); }
+    [[nodiscard]] QPushButton* Knop(const char* naam) const
+    {
+        return Vind<QPushButton>(*venster, naam);
+    }
+
+    TijdelijkeMap map;
+    EchteSchijf echteSchijf;
+    FalendeSchijf schijf{echteSchijf};
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<frmToelichting> venster;
+};
+
+const std::vector<std::string> regels{
+    "\tGebruik van Plexoran.",
+    "",
+    " In dit programma moeten de namen van spelers worden vastgelegd en bewaard voor eventuele "
+    "volgende zittingen.",
+    " Bij het indelen van een zitting moet gekozen worden uit deze namen.",
+    " Het opzetten en afhandelen van zittingen kan echter ook zonder spelernamen "
+    "(testdoeleinden), alleen een competitieoverzicht is niet mogelijk.",
+    "",
+    " - Van een speler moet minimaal de Achternaam worden ingevuld, overige gegevens zijn ter uw "
+    "beoordeling.",
+    " - Spelers kunnen worden ingedeeld in GROEPEN ter onderscheiding. (max 50, Gr01 t/m GR50). ",
+    "    Bij het indelen van de zitting worden de spelers per groep getoond, zo kunt u ze "
+    "eenvoudiger terugvinden.",
+    "    Het is aan u om te bepalen of u hier gebruik van maakt, experimenteer hiermee.",
+    " - Om een groep beter herkenbaar te maken voor u zelf kunt u de Groepsnaam aanvullen met "
+    "eigen tekst.",
+    " - De kolom 'NBBgr' kan gebruikt worden voor een onderverdeling binnen een groep.",
+    " - Printen: Per groep, rubrieken naar keuze.",
+    "    Indien te breed dan wordt automatisch overgegaan naar A4-liggend.",
+    "    U kunt ook de tekst in grootte verschalen om een en ander passend te maken.",
+    "",
+    " Attentie!",
+    " Groep 'Gr05-' is gereserveerd voor spelers die uit NBBR zijn geimporteerd.",
+    " De kolom 'NBBgr' is de ledengroep-onderverdeling volgens NBBR",
+    " Zorg dat deze spelers gelijk lopen met NBBR, want bij het maken van een BWS-zitting worden "
+    "deze gebruikt.",
+    " De basis voor deze lijst is het NBB-nummer dat slechts eenmaal kan voorkomen, spelers zonder "
+    "NBB-nummer worden niet geimporteerd.",
+    " Met NBB-nummers in andere groepen dan 'Gr05-' wordt niets gedaan."};
+
+/// The words of the explanation, by single blanks.
+std::string Woorden()
+{
+    QStringList alles;
+    for (const std::string& regel : regels)
+        alles << QString::fromStdString(regel);
+    return alles.join(QLatin1Char(' ')).simplified().toStdString();
+}
+
+} // namespace
+
+TEST_F(frmToelichtingTest, DeTekst)
+{
+    EXPECT_EQ("Toelichting", venster->windowTitle().toStdString());
+    EXPECT_EQ("Print", Opschrift(Knop("cmdPrintToel")));
+    EXPECT_EQ("Terug", Opschrift(Knop("cmdEinde")));
+    const QStringList getoond = Tekst()->toPlainText().split(QLatin1Char('\n'));
+    ASSERT_EQ(regels.size(), static_cast<std::size_t>(getoond.size()));
+    for (std::size_t i = 0; i < regels.size(); ++i)
+        EXPECT_EQ(regels[i], getoond[static_cast<qsizetype>(i)].toStdString());
+    EXPECT_TRUE(Tekst()->isReadOnly());
+    EXPECT_EQ("Arial", Tekst()->font().family().toStdString());
+}
+
+TEST_F(frmToelichtingTest, DePlaatsVanDeDelen)
+{
+    const QPushButton* terug = Knop("cmdEinde");
+    const QPushButton* print = Knop("cmdPrintToel");
+    EXPECT_EQ(Maten().Twips(6500), venster->height());
+    for (const QSize maat : {venster->size(), QSize(900, 300), QSize(500, 600)}) {
+        venster->resize(maat);
+        QApplication::processEvents();
+        EXPECT_EQ(terug->y(), print->y());
+        EXPECT_LT(print->geometry().right(), terug->x());
+        EXPECT_LT(maat.width() - terug->geometry().right(), 20);
+        EXPECT_LT(maat.height() - terug->geometry().bottom(), 20);
+        EXPECT_LT(Tekst()->geometry().bottom(), terug->y());
+        EXPECT_GE(Tekst()->width(), maat.width() - 30);
+    }
+}
+
+TEST_F(frmToelichtingTest, SchuivenKopierenEnSluiten)
+{
+    venster->resize(400, 200);
+    QApplication::processEvents();
+    QScrollBar* balk = Tekst()->verticalScrollBar();
+    ASSERT_GT(balk->maximum(), 0);
+    QTest::keyClick(Tekst(), Qt::Key_PageDown);
+    EXPECT_GT(balk->value(), 0);
+    QTest::keyClick(Tekst(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(Tekst(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(Tekst()->toPlainText(), QGuiApplication::clipboard()->text());
+    Klik(Knop("cmdEinde"));
+    EXPECT_FALSE(venster->isVisible());
+    venster->show();
+    QTest::keyClick(venster.get(), Qt::Key_Escape);
+    EXPECT_FALSE(venster->isVisible());
+}
+
+TEST_F(frmToelichtingTest, HetBladHeeftAlleWoorden)
+{
+    Klik(Knop("cmdPrintToel"));
+    EXPECT_TRUE(venster->isVisible());
+    const auto bladen = LeesPdf(map.Weg() / "toelichting.pdf");
+    ASSERT_EQ(1U, bladen.size());
+    EXPECT_EQ(Woorden(), bladen[0].Tekst());
+    EXPECT_NEAR(210, bladen[0].breed, 0.5);
+    for (const Pdfwoord& woord : bladen[0].woorden) {
+        EXPECT_GE(woord.links, 14.9) << woord.tekst;
+        EXPECT_LE(woord.rechts, 195.1) << woord.tekst;
+    }
+    // The line goes on below where it did not fit; the next one begins at the margin again.
+    EXPECT_GT(bladen[0].Woord("mogelijk.").boven, bladen[0].Woord("opzetten").boven + 3);
+    EXPECT_LT(bladen[0].Woord("mogelijk.").links, 40);
+}
+
+TEST_F(frmToelichtingTest, EenPrinterDieWeigertLaatHetVensterOpen)
+{
+    schijf.FaalVanaf(1);
+    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Klik(Knop("cmdPrintToel"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster->isVisible());
+}
+
+TEST_F(frmToelichtingTest, ZonderPrinterEenFoutEnHetVensterBlijftOpen)
+{
+    wachter.Klaar();
+    ASSERT_NO_FATAL_FAILURE(Open([] {
+        return Uitkomst<Printer>(tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}}));
+    }));
+    wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
+                                              "printer geïnstalleerd of geen standaardprinter "
+                                              "gekozen."),
+                      .icoon = QMessageBox::Critical});
+    Klik(Knop("cmdPrintToel"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "toelichting.pdf"));
+}
+
+/// The default printer of this machine; where there is none, its error.
+TEST_F(frmToelichtingTest, UitZichzelfVraagtHijDeStandaardprinter)
+{
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        GTEST_SKIP() << "hier zou echt worden geprint";
+    venster = std::make_unique<frmToelichting>(&hoofd);
+    venster->show();
+    wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
+                                              "printer"),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Klik(Knop("cmdPrintToel"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster->isVisible());
+}
