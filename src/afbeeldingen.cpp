@@ -16,8 +16,11 @@
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
+#include "help/frmToelichting.h"
+#include "help/frmUitleg.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/sorteerlijst.h"
+#include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/tekstbrug.h"
 #include "sessions/frmKoppelNBBnr.h"
 
@@ -129,6 +132,25 @@ void NeemKoppelvenster(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster,
     fotograaf.Neem(venster);
 }
 
+/// With the pairs of one of the sample club's groups, and two players chosen.
+void NeemParen(Fotograaf& fotograaf, Administratie& administratie, QWidget& hoofdvenster)
+{
+    frmParenOnderhoud venster(administratie, "Gr05-", &hoofdvenster);
+    const Maten maten;
+    venster.resize(maten.Twips(15000), maten.Twips(9600));
+    if (auto* keus = venster.findChild<QComboBox*>(QStringLiteral("cmbNBBledengr"))) {
+        keus->setCurrentIndex(keus->findText(QStringLiteral("Gr05-DINSDAG")));
+        emit keus->activated(keus->currentIndex());
+    }
+    int plaats = 1;
+    for (const char16_t* naam : {u"L1", u"L2"}) {
+        auto* lijst = venster.findChild<QListView*>(QString::fromUtf16(naam));
+        if (lijst != nullptr && lijst->model()->rowCount() > plaats)
+            lijst->setCurrentIndex(lijst->model()->index(plaats++, 0));
+    }
+    fotograaf.Neem(venster);
+}
+
 } // namespace
 
 int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
@@ -160,6 +182,11 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     NeemControle(fotograaf, hoofdvenster, administratie);
     fotograaf.Neem(diaToevoegen(administratie, &hoofdvenster));
     NeemKoppelvenster(fotograaf, hoofdvenster, administratie);
+    frmToelichting toelichting(&hoofdvenster);
+    toelichting.resize(maten.Twips(13200), maten.Twips(6500));
+    fotograaf.Neem(toelichting);
+    fotograaf.Neem(frmUitleg(&hoofdvenster));
+    NeemParen(fotograaf, administratie, hoofdvenster);
     NeemSorteerlijst(fotograaf, hoofdvenster, administratie.spelers.tabel);
     return fotograaf.Gelukt() ? 0 : 1;
 }

@@ -11,7 +11,7 @@ namespace plexoran {
 namespace {
 
 constexpr int VensterHoog = 6500; // twips
-constexpr int VensterBreed = 12600;
+constexpr int VensterBreed = 13200;
 constexpr int Ingesprongen = 400; // from the corner of the main window
 constexpr double Letterpunten = 9;
 

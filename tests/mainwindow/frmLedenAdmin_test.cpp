@@ -424,3 +424,25 @@ TEST_F(HoofdvensterTest, HetSluitenSchrijftNiets)
     EXPECT_EQ(0, schijf.Aantal());
     EXPECT_EQ(spelers, suite.Spelers());
 }
+
+// ---- The explanation --------------------------------------------------------------------------
+
+TEST_F(HoofdvensterTest, DeToelichtingMetDeKnopEnMetF1)
+{
+    EXPECT_TRUE(Knop("cmdToelichting")->isEnabled());
+    for (const bool metKnop : {true, false}) {
+        wachter.Bedien([](QDialog& dialoog) {
+            EXPECT_EQ("frmToelichting", dialoog.objectName().toStdString());
+            EXPECT_TRUE(dialoog.isModal());
+            Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+        });
+        venster->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        if (metKnop)
+            Klik(Knop("cmdToelichting"));
+        else
+            Toets(Qt::Key_F1);
+        wachter.Klaar();
+    }
+    EXPECT_TRUE(venster->isVisible());
+}
