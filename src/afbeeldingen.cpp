@@ -137,7 +137,8 @@ void NeemParen(Fotograaf& fotograaf, Administratie& administratie, QWidget& hoof
 {
     frmParenOnderhoud venster(administratie, "Gr05-", &hoofdvenster);
     const Maten maten;
-    venster.resize(maten.Twips(15000), maten.Twips(9600));
+    // It is as high as the screen lets it be, which says nothing of a screen that is only drawn.
+    venster.setProperty(Standaardmaat, QSize(maten.Twips(15000), maten.Twips(9600)));
     if (auto* keus = venster.findChild<QComboBox*>(QStringLiteral("cmbNBBledengr"))) {
         keus->setCurrentIndex(keus->findText(QStringLiteral("Gr05-DINSDAG")));
         emit keus->activated(keus->currentIndex());
@@ -182,9 +183,7 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     NeemControle(fotograaf, hoofdvenster, administratie);
     fotograaf.Neem(diaToevoegen(administratie, &hoofdvenster));
     NeemKoppelvenster(fotograaf, hoofdvenster, administratie);
-    frmToelichting toelichting(&hoofdvenster);
-    toelichting.resize(maten.Twips(13200), maten.Twips(6500));
-    fotograaf.Neem(toelichting);
+    fotograaf.Neem(frmToelichting(&hoofdvenster));
     fotograaf.Neem(frmUitleg(&hoofdvenster));
     NeemParen(fotograaf, administratie, hoofdvenster);
     NeemSorteerlijst(fotograaf, hoofdvenster, administratie.spelers.tabel);

@@ -6,6 +6,7 @@
 
 #include "pairs/regelzoeker.h"
 #include "platform/tekstorde.h"
+#include "platform/tekstvoorraad.h"
 
 namespace plexoran {
 namespace {
@@ -22,22 +23,27 @@ bool GelijkInHoofdletters(Tekstblik een, Tekstblik ander)
                       [](char a, char b) { return Hoofdletter(a) == Hoofdletter(b); });
 }
 
-/// The lines of the available players, in table order.
-std::vector<Tekst> BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode,
-                                      Tekstblik keuze)
+/// The lines of the available players, in text order.
+struct Spelerregels {
+    Tekstvoorraad voorraad{};
+    std::vector<Tekstblik> regels{};
+};
+
+Spelerregels BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode, Tekstblik keuze)
 {
-    std::vector<Tekst> regels;
+    Spelerregels uit;
     const auto lengte = std::min(keuze.size(), groepscode.size());
     if (!GelijkInHoofdletters(keuze.substr(0, lengte), groepscode))
-        return regels;
+        return uit;
     const Tekstblik subgroep = keuze.substr(lengte);
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         if (tabel.Cel(rij, Kolom::Groep) == groepscode &&
             GelijkInHoofdletters(tabel.Cel(rij, Kolom::NBBgr), subgroep) &&
             !IsOverleden(tabel.Cel(rij, Kolom::Status)))
-            regels.push_back(Spelerregel(tabel, rij));
+            uit.regels.push_back(uit.voorraad.Bewaar(Spelerregel(tabel, rij)));
     }
-    return regels;
+    Sorteer(uit.regels);
+    return uit;
 }
 
 /// A line of the sort buffer `L9`: name, key and place, so that equal names keep their order.
@@ -96,12 +102,13 @@ bool IsOverleden(Tekstblik status)
 Tekst Paren::LaadSubgroep(const Spelertabel& tabel, Tekstblik groepscode, Tekstblik keuze,
                           const Paartekens& paren)
 {
-    lalle_ = BeschikbareSpelers(tabel, groepscode, keuze);
-    plexoran::Sorteer(lalle_);
+    const Spelerregels spelers = BeschikbareSpelers(tabel, groepscode, keuze);
     l3_.clear();
-    if (paren.empty())
+    if (paren.empty()) {
+        lalle_.assign(spelers.regels.begin(), spelers.regels.end());
         return {};
-    Tekst losse = ToonParen(paren);
+    }
+    Tekst losse = ToonParen(spelers.regels, paren);
     Sorteer();
     return losse;
 }
@@ -111,17 +118,17 @@ Tekst Paren::Keuze(int plaats) const
     return Keuzeregel(lalle_[Index(plaats)]);
 }
 
-Tekst Paren::ToonParen(const Paartekens& paren)
+Tekst Paren::ToonParen(std::span<const Tekstblik> spelers, const Paartekens& paren)
 {
     Tekst losse;
-    Regelzoeker zoeker(lalle_);
+    Regelzoeker zoeker(spelers);
     bool los = false;
     const auto speler = [&](Tekstblik key) {
         const int regel = zoeker.NeemEerste(key);
         los = los || regel < 0;
         Tekst metNaam(key);
         metNaam += ' ';
-        metNaam += regel < 0 ? OnbekendeNaam : Spelernaam(lalle_[Index(regel)]);
+        metNaam += regel < 0 ? OnbekendeNaam : Spelernaam(spelers[Index(regel)]);
         return metNaam;
     };
     l3_.reserve(paren.size());
@@ -133,13 +140,11 @@ Tekst Paren::ToonParen(const Paartekens& paren)
             losse.append(links).append(" - ").append(rechts).append("\r\n");
         l3_.push_back(Paarregel(links, rechts));
     }
-    const auto& weg = zoeker.Weg();
-    std::size_t over = 0;
-    for (std::size_t i = 0; i < lalle_.size(); ++i) {
-        if (!weg[i] && over++ != i)
-            lalle_[over - 1] = std::move(lalle_[i]);
+    lalle_.clear();
+    for (std::size_t i = 0; i < spelers.size(); ++i) {
+        if (!zoeker.Weg()[i])
+            lalle_.emplace_back(spelers[i]);
     }
-    lalle_.resize(over);
     return losse;
 }
 
@@ -176,15 +181,16 @@ void Paren::Ontbind(int plaats)
 int Paren::Sorteer(int volg)
 {
     const int breedte = Plaatsbreedte(l3_.size());
-    std::vector<Tekst> l9;
+    Tekstvoorraad voorraad;
+    std::vector<Tekstblik> l9;
     l9.reserve(l3_.size());
     for (std::size_t i = 0; i < l3_.size(); ++i)
-        l9.push_back(Sorteerregel(l3_[i], i, breedte));
+        l9.push_back(voorraad.Bewaar(Sorteerregel(l3_[i], i, breedte)));
     plexoran::Sorteer(l9);
     std::vector<Tekst> gesorteerd;
     gesorteerd.reserve(l3_.size());
     int gevolgd = -1;
-    for (const Tekst& regel : l9) {
+    for (const Tekstblik regel : l9) {
         const std::size_t plaats = PlaatsUit(regel, breedte);
         if (plaats == Index(volg))
             gevolgd = static_cast<int>(gesorteerd.size());

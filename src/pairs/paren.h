@@ -2,6 +2,8 @@
 // window shows and changes. Nothing here touches the player table.
 #pragma once
 
+#include <span>
+
 #include "pairs/paarregel.h"
 #include "pairs/parenbestand.h"
 
@@ -41,7 +43,7 @@ class Paren {
     void WisParen() { l3_.clear(); }
 
   private:
-    [[nodiscard]] Tekst ToonParen(const Paartekens& paren);
+    [[nodiscard]] Tekst ToonParen(std::span<const Tekstblik> spelers, const Paartekens& paren);
     void VoegSpelerToe(Tekst spelerregel);
 
     std::vector<Tekst> lalle_;

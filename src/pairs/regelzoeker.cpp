@@ -35,7 +35,7 @@ template <class Deel> void LoopDoorDelen(Tekstblik regel, bool alleenCijfers, co
 
 } // namespace
 
-Regelzoeker::Regelzoeker(std::span<const Tekst> regels) : regels_(regels), weg_(regels.size())
+Regelzoeker::Regelzoeker(std::span<const Tekstblik> regels) : regels_(regels), weg_(regels.size())
 {
     cijfers_.Bouw(regels_, true);
 }
@@ -52,7 +52,7 @@ int Regelzoeker::NeemEerste(Tekstblik zes)
     return regel;
 }
 
-void Regelzoeker::Wijzer::Bouw(std::span<const Tekst> regels, bool alleenCijfers)
+void Regelzoeker::Wijzer::Bouw(std::span<const Tekstblik> regels, bool alleenCijfers)
 {
     delen_.reserve(regels.size());
     for (std::size_t i = 0; i < regels.size(); ++i)

@@ -14,7 +14,7 @@ namespace plexoran {
 class Regelzoeker {
   public:
     /// The lines must stay as they are while the object lives.
-    explicit Regelzoeker(std::span<const Tekst> regels);
+    explicit Regelzoeker(std::span<const Tekstblik> regels);
 
     /// The place, from 0, of the first line left that contains these six characters, or -1. That
     /// line is taken out.
@@ -26,7 +26,7 @@ class Regelzoeker {
     /// the top down.
     class Wijzer {
       public:
-        void Bouw(std::span<const Tekst> regels, bool alleenCijfers);
+        void Bouw(std::span<const Tekstblik> regels, bool alleenCijfers);
         [[nodiscard]] bool Gebouwd() const { return !emmers_.empty(); }
         /// Entries of lines that are gone are dropped on the way.
         [[nodiscard]] int Eerste(Tekstblik zes, const std::vector<bool>& weg);
@@ -43,7 +43,7 @@ class Regelzoeker {
         std::vector<int> emmers_; ///< first entry of each, -1 for none
     };
 
-    std::span<const Tekst> regels_;
+    std::span<const Tekstblik> regels_;
     std::vector<bool> weg_;
     Wijzer cijfers_; ///< what a sound key can be found in
     Wijzer alles_;   ///< built when a damaged key asks for it

@@ -8,7 +8,7 @@ using namespace plexoran;
 
 namespace {
 
-using Regels = std::vector<Tekst>;
+using Regels = std::vector<Tekstblik>;
 
 /// The search as it is told: from the top, anywhere in the line.
 int GewoonEerste(Regels& regels, std::vector<bool>& weg, const Tekst& zes)
@@ -69,9 +69,10 @@ TEST(Regelzoeker, GelijkAanHetGewoneOpDuizendenLijsten)
         return tekst;
     };
     for (int keer = 0; keer < 3000; ++keer) {
-        Regels regels(Gooi(toeval, 12));
-        for (Tekst& regel : regels)
-            regel = maak(Gooi(toeval, 16));
+        std::vector<Tekst> teksten(Gooi(toeval, 12));
+        for (Tekst& tekst : teksten)
+            tekst = maak(Gooi(toeval, 16));
+        Regels regels(teksten.begin(), teksten.end());
         Regelzoeker zoeker(regels);
         std::vector<bool> weg(regels.size());
         for (int vraag = 0; vraag < 15; ++vraag) {
