@@ -17,7 +17,10 @@ Paarspeler SpelerUit(Tekstblik deel)
 
 Tekst Spelerregel(const Spelertabel& tabel, int rij)
 {
-    Tekst regel(tabel.Cel(rij, Kolom::Achternaam));
+    constexpr std::size_t ruim = 64;
+    Tekst regel;
+    regel.reserve(ruim);
+    regel += tabel.Cel(rij, Kolom::Achternaam);
     regel += ' ';
     regel += tabel.Cel(rij, Kolom::Voornaam);
     regel += ' ';

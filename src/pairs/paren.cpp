@@ -50,7 +50,10 @@ Spelerregels BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode, 
 Tekst Sorteerregel(Tekstblik paarregel, std::size_t plaats, int breedte)
 {
     const Paarspeler speler = LinkerSpeler(paarregel);
-    Tekst regel(speler.naam);
+    constexpr std::size_t ruim = 64;
+    Tekst regel;
+    regel.reserve(ruim);
+    regel += speler.naam;
     regel += ' ';
     regel += speler.key;
     regel += ' ';
@@ -126,7 +129,10 @@ Tekst Paren::ToonParen(std::span<const Tekstblik> spelers, const Paartekens& par
     const auto speler = [&](Tekstblik key) {
         const int regel = zoeker.NeemEerste(key);
         los = los || regel < 0;
-        Tekst metNaam(key);
+        constexpr std::size_t ruim = 48;
+        Tekst metNaam;
+        metNaam.reserve(ruim);
+        metNaam += key;
         metNaam += ' ';
         metNaam += regel < 0 ? OnbekendeNaam : Spelernaam(spelers[Index(regel)]);
         return metNaam;

@@ -22,15 +22,28 @@ std::uint64_t Code(const char* tekens)
     return code;
 }
 
-/// Calls `deel` with each place in the text at which six characters begin that are asked for.
-template <class Deel> void LoopDoorDelen(Tekstblik regel, bool alleenCijfers, const Deel& deel)
+/// Calls `deel` with each place in the text at which six digits begin.
+template <class Deel> void LoopDoorCijfers(Tekstblik regel, const Deel& deel)
 {
-    std::size_t reeks = 0;
-    for (std::size_t i = 0; i < regel.size(); ++i) {
-        reeks = !alleenCijfers || IsCijfer(regel[i]) ? reeks + 1 : 0;
-        if (reeks >= Zes)
-            deel(regel.data() + i + 1 - Zes);
+    // A row of six digits holds one of every six places.
+    for (std::size_t i = Zes - 1; i < regel.size(); i += Zes) {
+        if (!IsCijfer(regel[i]))
+            continue;
+        std::size_t begin = i;
+        while (begin > 0 && IsCijfer(regel[begin - 1]))
+            --begin;
+        while (i < regel.size() && IsCijfer(regel[i]))
+            ++i;
+        for (; begin + Zes <= i; ++begin)
+            deel(regel.data() + begin);
     }
+}
+
+/// Calls `deel` with each place at which six characters begin.
+template <class Deel> void LoopDoorAlles(Tekstblik regel, const Deel& deel)
+{
+    for (std::size_t begin = 0; begin + Zes <= regel.size(); ++begin)
+        deel(regel.data() + begin);
 }
 
 } // namespace
@@ -55,10 +68,15 @@ int Regelzoeker::NeemEerste(Tekstblik zes)
 void Regelzoeker::Wijzer::Bouw(std::span<const Tekstblik> regels, bool alleenCijfers)
 {
     delen_.reserve(regels.size());
-    for (std::size_t i = 0; i < regels.size(); ++i)
-        LoopDoorDelen(regels[i], alleenCijfers, [&](const char* tekens) {
+    for (std::size_t i = 0; i < regels.size(); ++i) {
+        const auto voegToe = [&](const char* tekens) {
             delen_.push_back({Code(tekens), static_cast<int>(i), -1});
-        });
+        };
+        if (alleenCijfers)
+            LoopDoorCijfers(regels[i], voegToe);
+        else
+            LoopDoorAlles(regels[i], voegToe);
+    }
     emmers_.assign(std::bit_ceil(delen_.size() + 1), -1);
     // From the last to the first, so that each bucket holds its lines from the top down.
     for (std::size_t i = delen_.size(); i-- > 0;) {
