@@ -158,14 +158,28 @@ int Paren::MaakPaar(int links, int rechts)
 {
     const Tekst linkerregel = Keuze(links);
     const Tekst rechterregel = Keuze(rechts);
-    l3_.push_back(Paarregel(linkerregel, rechterregel));
-    const int plaats = Sorteer(static_cast<int>(l3_.size()) - 1);
+    const int plaats = VoegPaarToe(Paarregel(linkerregel, rechterregel));
     // Every line that contains a key goes, a key in somebody else's name included.
     std::erase_if(lalle_, [&](const Tekst& regel) {
         return regel.find(Eerste6(linkerregel)) != Tekst::npos ||
                regel.find(Eerste6(rechterregel)) != Tekst::npos;
     });
     return plaats;
+}
+
+/// The list is in order, so the pair goes where sorting would bring it from the end.
+int Paren::VoegPaarToe(Tekst paarregel)
+{
+    const int breedte = Plaatsbreedte(l3_.size() + 1);
+    const auto plek = std::upper_bound(
+        l3_.begin(), l3_.end(), Sorteersleutel(Sorteerregel(paarregel, l3_.size(), breedte)),
+        [&](const Tekst& sleutel, const Tekst& regel) {
+            const auto plaats = static_cast<std::size_t>(&regel - l3_.data());
+            return sleutel < Sorteersleutel(Sorteerregel(regel, plaats, breedte));
+        });
+    const auto plaats = plek - l3_.begin();
+    l3_.insert(plek, std::move(paarregel));
+    return static_cast<int>(plaats);
 }
 
 void Paren::VoegSpelerToe(Tekst spelerregel)
@@ -184,7 +198,7 @@ void Paren::Ontbind(int plaats)
     VoegSpelerToe(RechterSpeler(regel).AlsSpelerregel());
 }
 
-int Paren::Sorteer(int volg)
+void Paren::Sorteer()
 {
     const int breedte = Plaatsbreedte(l3_.size());
     Tekstvoorraad voorraad;
@@ -195,15 +209,9 @@ int Paren::Sorteer(int volg)
     plexoran::Sorteer(l9);
     std::vector<Tekst> gesorteerd;
     gesorteerd.reserve(l3_.size());
-    int gevolgd = -1;
-    for (const Tekstblik regel : l9) {
-        const std::size_t plaats = PlaatsUit(regel, breedte);
-        if (plaats == Index(volg))
-            gevolgd = static_cast<int>(gesorteerd.size());
-        gesorteerd.push_back(std::move(l3_[plaats]));
-    }
+    for (const Tekstblik regel : l9)
+        gesorteerd.push_back(std::move(l3_[PlaatsUit(regel, breedte)]));
     l3_ = std::move(gesorteerd);
-    return gevolgd;
 }
 
 } // namespace plexoran

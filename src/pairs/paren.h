@@ -37,13 +37,13 @@ class Paren {
     int MaakPaar(int links, int rechts);
     /// Takes a pair out; its players come back, whoever they are.
     void Ontbind(int plaats);
-    /// Orders the pairs by the first player's name and key, then as they stood. The answer is where
-    /// the pair at `volg` went.
-    int Sorteer(int volg = 0);
+    /// Orders the pairs by the first player's name and key, then as they stood.
+    void Sorteer();
     void WisParen() { l3_.clear(); }
 
   private:
     [[nodiscard]] Tekst ToonParen(std::span<const Tekstblik> spelers, const Paartekens& paren);
+    int VoegPaarToe(Tekst paarregel);
     void VoegSpelerToe(Tekst spelerregel);
 
     std::vector<Tekst> lalle_;

@@ -280,7 +280,9 @@ TEST_F(ParenTest, MeerDanDuizendParen)
     for (int i = 0; i < 2500; ++i)
         ASSERT_EQ(std::to_string(100000 + i), paren.L3()[static_cast<std::size_t>(i)].substr(0, 6));
     EXPECT_EQ(Teksten(), paren.Lalle());
-    EXPECT_EQ(7, paren.Sorteer(7));
+    const Teksten eens = paren.L3();
+    paren.Sorteer();
+    EXPECT_EQ(eens, paren.L3());
 }
 
 // ---- Beside the plain way ----------------------------------------------------------------------
@@ -343,5 +345,35 @@ TEST_F(ParenTest, GelijkAanHetGewoneOpDuizendenKleineGroepen)
         std::sort(ongesorteerd.begin(), ongesorteerd.end());
         std::sort(l3.begin(), l3.end());
         ASSERT_EQ(l3, ongesorteerd);
+    }
+}
+
+/// Forming puts a pair where sorting anew would.
+TEST_F(ParenTest, GemaakteParenStaanOpVolgorde)
+{
+    std::mt19937 toeval(62);
+    for (int keer = 0; keer < 500; ++keer) {
+        std::vector<Proefspeler> spelers;
+        for (int i = 0; i < 24; ++i)
+            spelers.push_back(
+                {.key = std::to_string(100000 + i),
+                 .groep = "Gr03-",
+                 .voornaam = Trek(toeval, {"", "An", "an", "\xC0n"}),
+                 .achternaam = Trek(toeval, {"Bos", "bos", "B\xF3s", "Aap", "Zon 1"})});
+        tabel = MaakTabel(spelers);
+        (void)Laad({"100001-100000", "100099-100002", "100099-100003"}, "Gr03-");
+        while (paren.Lalle().size() > 1) {
+            const auto spelersOver = paren.Lalle().size();
+            const int links = static_cast<int>(Gooi(toeval, spelersOver));
+            const int rechts = (links + 1) % static_cast<int>(spelersOver);
+            const Tekst regel = Paarregel(paren.Keuze(links), paren.Keuze(rechts));
+            const int plaats = paren.MaakPaar(links, rechts);
+            ASSERT_EQ(regel, paren.L3()[static_cast<std::size_t>(plaats)]);
+            const Teksten eens = paren.L3();
+            paren.Sorteer();
+            ASSERT_EQ(eens, paren.L3());
+            if (Gooi(toeval, 3) == 0)
+                paren.Ontbind(static_cast<int>(Gooi(toeval, paren.L3().size())));
+        }
     }
 }
