@@ -326,14 +326,20 @@ TEST_F(frmParenOnderhoudTest, EenKeuzeInDeParenLaatDeSpelersLosEnAndersom)
     Kies("Gr03-Dinsdag");
     KlikRegel("L1", 0);
     KlikRegel("L2", 1);
+    const QColor uit = Knop("cmdOntbindt")->palette().color(QPalette::Button);
     KlikRegel("L3", 0);
     EXPECT_EQ(-1, Gekozen("L1"));
     EXPECT_EQ(-1, Gekozen("L2"));
     EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
     EXPECT_TRUE(Knop("cmdOntbindt")->isEnabled());
+    EXPECT_NE(uit, Knop("cmdOntbindt")->palette().color(QPalette::Button));
     KlikRegel("L2", 0);
     EXPECT_EQ(-1, Gekozen("L3"));
     EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
+    EXPECT_EQ(uit, Knop("cmdOntbindt")->palette().color(QPalette::Button));
+    KlikRegel("L3", 0);
+    KlikRegel("L1", 0);
+    EXPECT_EQ(-1, Gekozen("L3"));
 }
 
 // ---- Forming -----------------------------------------------------------------------------------
@@ -422,8 +428,11 @@ TEST_F(frmParenOnderhoudTest, Sorteren)
     const Teksten gesorteerd{"100002 Cock Bea de          +100001 Bos An",
                              "100004 Eik Dirk          +100005 Ärp Éls"};
     EXPECT_EQ(gesorteerd, Regels("L3"));
+    KlikRegel("L3", 1);
     Klik(Knop("cmdSortL3"));
     EXPECT_EQ(gesorteerd, Regels("L3"));
+    EXPECT_EQ(-1, Gekozen("L3")); // emptied and filled anew
+    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
     EXPECT_EQ("Aantal paren: 2", Labeltekst("Label8"));
 }
 
@@ -473,6 +482,24 @@ TEST_F(GroteGroep, DeLijstenHoudenHunSchuifplaats)
     EXPECT_EQ(300, Lijst("L2")->verticalScrollBar()->value());
     Kies("Gr03-");
     EXPECT_EQ(0, Lijst("L1")->verticalScrollBar()->value());
+}
+
+/// Also when the new pair comes out of sight.
+TEST_F(GroteGroep, DeParenlijstHoudtZijnSchuifplaats)
+{
+    Tekst paren;
+    for (int i = 0; i < 150; ++i)
+        paren += std::to_string(100002 + i) + "-" + std::to_string(100400 - i) + "#";
+    geheugen.Zet("C:\\club\\Spelers\\Parenmap\\Gr03-.txt", paren);
+    Kies("Gr03-");
+    ASSERT_EQ(150U, Regels("L3").size());
+    Lijst("L3")->verticalScrollBar()->setValue(60);
+    for (const char* lijst : {"L1", "L2"})
+        Lijst(lijst)->verticalScrollBar()->setValue(90);
+    MaakPaar(97, 98); // the last in the list
+    ASSERT_EQ(151U, Regels("L3").size());
+    EXPECT_EQ(60, Lijst("L3")->verticalScrollBar()->value());
+    EXPECT_EQ(150, Lijst("L3")->currentIndex().row());
 }
 
 // ---- Saving and closing ------------------------------------------------------------------------

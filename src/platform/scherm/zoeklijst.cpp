@@ -126,8 +126,11 @@ void Zoeklijst::KiesNiets()
 
 void Zoeklijst::ZetHuidige(int plaats)
 {
-    if (plaats >= 0 && plaats < aantal_)
-        selectionModel()->setCurrentIndex(model()->index(plaats, 0), QItemSelectionModel::NoUpdate);
+    if (plaats < 0 || plaats >= aantal_)
+        return;
+    const int boven = verticalScrollBar()->value();
+    selectionModel()->setCurrentIndex(model()->index(plaats, 0), QItemSelectionModel::NoUpdate);
+    verticalScrollBar()->setValue(boven); // a current line scrolls itself into sight
 }
 
 /// The first line that fits, from `vanaf` to the end and then from the top; -1 when none does.

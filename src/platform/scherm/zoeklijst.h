@@ -32,7 +32,7 @@ class Zoeklijst : public QListView {
     /// -1 when none is.
     [[nodiscard]] int Gekozen() const;
     void KiesNiets();
-    /// Makes a line the one from which the arrow keys go on, and shows it; it is not chosen.
+    /// Makes a line the one from which the arrow keys go on; it is not chosen and nothing scrolls.
     void ZetHuidige(int plaats);
 
     void keyboardSearch(const QString& toets) override;
