@@ -100,6 +100,10 @@ TEST_F(ParenbestandTest, DeGroepZonderSubgroepHeeftEenBestandMetAlleenDeCode)
 {
     schijf.Zet("C:\\club\\Spelers\\Parenmap\\Gr07-.txt", "100234-100417#\r\n");
     EXPECT_EQ(Paartekens{"100234-100417"}, Lees("Gr07-").paren);
+    ASSERT_TRUE(BewaarParen(schijf, mappen, "Gr07-", std::vector<Tekst>{eenPaar, eenPaar},
+                            Lees("Gr07-").bestandstekst));
+    EXPECT_EQ("100234-100417#100234-100417#\r\n",
+              schijf.Inhoud("C:\\club\\Spelers\\Parenmap\\Gr07-.txt"));
 }
 
 TEST_F(ParenbestandTest, EenBestandDatNietTeLezenIs)
