@@ -22,6 +22,8 @@
 #include "mainwindow/sorteerlijst.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/tekstbrug.h"
+#include "printing/frmAfdrukken.h"
+#include "printing/frmPrintIni.h"
 #include "sessions/frmKoppelNBBnr.h"
 
 namespace plexoran {
@@ -152,6 +154,28 @@ void NeemParen(Fotograaf& fotograaf, Administratie& administratie, QWidget& hoof
     fotograaf.Neem(venster);
 }
 
+/// The set-up and the first page of the shown group.
+void NeemPrinten(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administratie& administratie)
+{
+    const Maten maten;
+    const Tekst groep = administratie.groepen.Toontekst(administratie.instellingen.LOSTGR + 1);
+    frmPrintIni keuze(administratie, groep,
+                      BeeldVan(administratie.mappen, CodeUit(groep)).kolomnamen, &hoofdvenster);
+    keuze.resize(maten.Twips(8400), maten.Twips(6600));
+    fotograaf.Neem(keuze);
+    const Printopdracht opdracht{
+        .groepscode = Tekst(CodeUit(groep)),
+        .subgroepen = {},
+        .kolommen = {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam, Kolom::Telef, Kolom::Plaats}};
+    frmAfdrukken blad(administratie,
+                      {.tabel = MaakPrinttabel(administratie.spelers.tabel, opdracht),
+                       .groeptekst = groep,
+                       .subgroepkop = {}},
+                      &hoofdvenster);
+    blad.resize(maten.Twips(12700), maten.Twips(10500));
+    fotograaf.Neem(blad);
+}
+
 } // namespace
 
 int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
@@ -180,6 +204,7 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
     fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));
     fotograaf.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
+    NeemPrinten(fotograaf, hoofdvenster, administratie);
     NeemControle(fotograaf, hoofdvenster, administratie);
     fotograaf.Neem(diaToevoegen(administratie, &hoofdvenster));
     NeemKoppelvenster(fotograaf, hoofdvenster, administratie);

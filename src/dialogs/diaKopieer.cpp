@@ -8,6 +8,7 @@
 #include "dialogs/kopieren.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "register/waardenlijst.h"
 
 namespace plexoran {
 

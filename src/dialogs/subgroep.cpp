@@ -1,6 +1,7 @@
 #include "dialogs/subgroep.h"
 
 #include "dialogs/keuslijst.h"
+#include "register/waardenlijst.h"
 
 namespace plexoran {
 

@@ -96,6 +96,7 @@ class frmLedenAdmin : public QMainWindow {
     void KoppelZwevenden();
     void OnderhoudParen();
     void ToonToelichting();
+    void Print();
     [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
     [[nodiscard]] bool IsRegelGekozen();
 

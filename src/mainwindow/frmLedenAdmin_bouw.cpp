@@ -91,8 +91,6 @@ void frmLedenAdmin::MaakKnoppen()
     cmdVerwijder->setToolTip(QStringLiteral("Selecteer een regel"));
     cmdToonGatenlijst->setToolTip(
         QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
-    // Its window is not there yet.
-    cmdPrint->setEnabled(false);
 }
 
 void frmLedenAdmin::Bouw()
@@ -277,6 +275,7 @@ void frmLedenAdmin::Verbind()
     connect(cmdKoppel, &QPushButton::clicked, this, &frmLedenAdmin::KoppelZwevenden);
     connect(cmdParenOnderhoud, &QPushButton::clicked, this, &frmLedenAdmin::OnderhoudParen);
     connect(cmdToelichting, &QPushButton::clicked, this, &frmLedenAdmin::ToonToelichting);
+    connect(cmdPrint, &QPushButton::clicked, this, &frmLedenAdmin::Print);
     connect(cmdZoekDubbeleNamen, &QPushButton::clicked, this, &frmLedenAdmin::ToonDubbeleNamen);
     for (const auto& [knop, soort] : {std::pair{cmdSortlijst1, Sorteersoort::Key},
                                       std::pair{cmdSortlijst2, Sorteersoort::NBBnr},

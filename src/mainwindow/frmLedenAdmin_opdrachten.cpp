@@ -11,6 +11,7 @@
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
+#include "printing/frmPrintIni.h"
 #include "sessions/frmKoppelNBBnr.h"
 
 namespace plexoran {
@@ -252,6 +253,13 @@ void frmLedenAdmin::ToonToelichting()
 {
     frmToelichting venster(this);
     venster.exec();
+}
+
+void frmLedenAdmin::Print()
+{
+    const Tekst groeptekst = Groeptekst();
+    const Groepsbeeld beeld = BeeldVan(administratie_.mappen, CodeUit(groeptekst));
+    frmPrintIni(administratie_, groeptekst, beeld.kolomnamen, this).exec();
 }
 
 void frmLedenAdmin::StartGatenlijst()

@@ -38,4 +38,9 @@ Tekst Tijdstempel()
     return Opgemaakt(std::time(nullptr), "%Y-%m-%d %H%M%S");
 }
 
+Tekst Dagtekening()
+{
+    return Opgemaakt(std::time(nullptr), "%d-%m-%Y");
+}
+
 } // namespace plexoran

@@ -16,4 +16,7 @@ namespace plexoran {
 /// Date and time for the name of a file, "jjjj-mm-dd uummss", local time.
 [[nodiscard]] Tekst Tijdstempel();
 
+/// The day of today as people write it, "dd-mm-jjjj", local time.
+[[nodiscard]] Tekst Dagtekening();
+
 } // namespace plexoran

@@ -29,6 +29,8 @@ struct Kleur {
     bool operator==(const Kleur&) const = default;
 };
 
+enum class Papierstand { Staand = 1, Liggend = 2 };
+
 /// The widths of texts before anything is drawn.
 class Lettermeter {
   public:

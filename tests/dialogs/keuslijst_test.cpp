@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
+#include "register/waardenlijst.h"
 
 using namespace plexoran;
 

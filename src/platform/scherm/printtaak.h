@@ -12,8 +12,6 @@ class QPrinter;
 
 namespace plexoran {
 
-enum class Papierstand { Staand = 1, Liggend = 2 };
-
 /// The page is the whole sheet of A4; its margins are the drawer's business. A job that is
 /// destroyed before its end was broken off.
 class Printtaak {

@@ -1,0 +1,72 @@
+// A page in its frame, `picP0`: scrolled by both bars, zoomed by Ctrl with the wheel or with plus
+// and minus. At 100 % a millimetre of the page is a millimetre of the windows.
+#pragma once
+
+#include <QFrame>
+#include <QScrollBar>
+
+#include "platform/scherm/letterkast.h"
+#include "platform/scherm/maten.h"
+#include "printing/bladtekenen.h"
+
+namespace plexoran {
+
+/// The page itself, `picP1`.
+class Bladvlak : public QWidget {
+  public:
+    Bladvlak(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder);
+
+    void Toon(int blad);
+    void ZetSchaal(double pixelsPerMm);
+
+  protected:
+    void paintEvent(QPaintEvent* gebeurtenis) override;
+
+  private:
+    const Printlijst& lijst_;
+    const Letterkast& kast_;
+    int blad_ = 1;
+    double pixelsPerMm_ = 1;
+};
+
+class Bladbeeld : public QFrame {
+    Q_OBJECT
+
+  public:
+    /// Borrows the list and the case of letters.
+    Bladbeeld(const Printlijst& lijst, const Letterkast& kast, const Maten& maten, QWidget* ouder);
+
+    void Toon(int blad);
+    /// Percent.
+    [[nodiscard]] int Zoom() const { return zoom_; }
+    void ZetZoom(int procent);
+    /// So many steps nearer or, below 0, farther.
+    void Zoom(int stappen);
+    [[nodiscard]] QScrollBar& Staand() { return *VScroll1; }
+    [[nodiscard]] QScrollBar& Liggend() { return *HScroll1; }
+    /// The size in which the width of the page is in view as it is now.
+    [[nodiscard]] int BreedteVoorBlad() const;
+
+  signals:
+    void zoomVeranderd(int procent);
+
+  protected:
+    void resizeEvent(QResizeEvent* gebeurtenis) override;
+    void wheelEvent(QWheelEvent* gebeurtenis) override;
+
+  private:
+    void PlaatsDelen();
+    void PlaatsBlad();
+
+    const Printlijst& lijst_;
+    int balkdikte_;
+    double pixelsPerMm_; ///< at 100 %
+    int zoom_ = 100;
+    int draai_ = 0; ///< of the wheel with Ctrl, not yet a step
+    QWidget* P9;    ///< clips the page
+    Bladvlak* picP1;
+    QScrollBar* HScroll1;
+    QScrollBar* VScroll1;
+};
+
+} // namespace plexoran

@@ -1,0 +1,100 @@
+#include "printing/bladindeling.h"
+
+#include <algorithm>
+
+namespace plexoran {
+namespace {
+
+constexpr float A4Kort = 210;
+constexpr float A4Lang = 297;
+
+float Tekstbreedte(const Lettermeter& meter, const Letter& letter, Tekstblik tekst)
+{
+    return static_cast<float>(meter.Breedte(letter, tekst));
+}
+
+float KolomTekstbreedte(const Printtabel& tabel, int kolom, const Schaalmaten& maten,
+                        const Lettermeter& meter)
+{
+    float breedste = Tekstbreedte(meter, maten.Vet(), tabel.Titel(kolom));
+    if (kolom == 0)
+        return breedste;
+    const Letter letter = maten.Gewoon();
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+        breedste = std::max(breedste, Tekstbreedte(meter, letter, tabel.Cel(rij, kolom)));
+    return breedste;
+}
+
+std::vector<float> Kolombegin(const Printtabel& tabel, const Schaalmaten& maten,
+                              const Lettermeter& meter)
+{
+    std::vector<float> begin{0};
+    for (int kolom = 0; kolom <= tabel.Kolommen(); ++kolom) {
+        const float breedte = KolomTekstbreedte(tabel, kolom, maten, meter);
+        begin.push_back(begin.back() + (maten.celmarge + maten.celmarge + breedte));
+    }
+    return begin;
+}
+
+/// How many columns lie within the width of the sheet; the first always does.
+int PassendeKolommen(const std::vector<float>& begin, float breed)
+{
+    int passend = 1;
+    while (passend + 1 < static_cast<int>(begin.size()) &&
+           begin[static_cast<std::size_t>(passend) + 1] <= breed)
+        ++passend;
+    return passend;
+}
+
+} // namespace
+
+Schaalmaten::Schaalmaten(float schaal)
+    : punten(schaal * 10), titelpunten(schaal * 14), celmarge(schaal * 0.8F),
+      kophoogte(schaal * 15), titelhoogte(schaal * 4.5F), rijhoogte(schaal * 4.5F)
+{}
+
+Papier::Papier(Papierstand welke)
+    : stand(welke), breed(welke == Papierstand::Staand ? A4Kort : A4Lang),
+      hoog(welke == Papierstand::Staand ? A4Lang : A4Kort), zijmarge(15),
+      bovenmarge(welke == Papierstand::Staand ? 15.0F : 10.0F)
+{}
+
+bool Bladindeling::TeBreed() const
+{
+    return Printbreedte() > A4Lang;
+}
+
+int Bladindeling::ToonbareBladen() const
+{
+    return std::min(bladen, Bladgrens);
+}
+
+int Bladindeling::LaatsteRij(int blad, int rijen) const
+{
+    return std::min(EersteRij(blad) + rijenPerBlad - 1, rijen);
+}
+
+/// The orientation is decided by the whole sheet, as the margins do not count yet at that point. So
+/// a list may be wider than what lies between them: then it moves to the left, as far as it must.
+Bladindeling BerekenKolommen(const Printtabel& tabel, float schaal, const Lettermeter& meter)
+{
+    const Schaalmaten maten(schaal);
+    std::vector<float> begin = Kolombegin(tabel, maten, meter);
+    const Papier papier(begin.back() <= A4Kort ? Papierstand::Staand : Papierstand::Liggend);
+    const int kolommen = PassendeKolommen(begin, papier.breed);
+    const float getekend = begin[static_cast<std::size_t>(kolommen)];
+    const float links = std::clamp(papier.breed - getekend, 0.0F, papier.zijmarge);
+    const float bruikbaar =
+        papier.hoog - papier.bovenmarge - papier.bovenmarge - maten.kophoogte - maten.titelhoogte;
+    const int rijenPerBlad = static_cast<int>(bruikbaar / maten.rijhoogte);
+    return {.maten = maten,
+            .begin = std::move(begin),
+            .papier = papier,
+            .links = links,
+            .kolommen = kolommen,
+            .rijenPerBlad = rijenPerBlad,
+            // A last page that would be just full is followed by an empty one. That is meant.
+            .bladen = tabel.Rijen() / rijenPerBlad + 1};
+}
+
+} // namespace plexoran

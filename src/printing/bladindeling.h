@@ -1,0 +1,65 @@
+// The layout of a printed list on A4, reckoned in single precision; millimetres unless said
+// otherwise. Nothing here draws.
+#pragma once
+
+#include <vector>
+
+#include "platform/tekenvlak.h"
+#include "printing/printtabel.h"
+
+namespace plexoran {
+
+inline constexpr int Bladgrens = 30; ///< more pages are neither shown nor printed
+
+/// What the scale alone decides.
+struct Schaalmaten {
+    explicit Schaalmaten(float schaal);
+
+    float punten;      ///< size of the letters
+    float titelpunten; ///< of the title of the list
+    float celmarge;    ///< white on either side of a text in its column
+    float kophoogte;   ///< H, of the block above the titles of the columns
+    float titelhoogte; ///< T, of the row with those titles
+    float rijhoogte;   ///< h
+
+    [[nodiscard]] Letter Gewoon() const { return {.punten = static_cast<double>(punten)}; }
+    [[nodiscard]] Letter Vet() const
+    {
+        return {.punten = static_cast<double>(punten), .vet = true};
+    }
+};
+
+/// Sheet and margins of an orientation.
+struct Papier {
+    explicit Papier(Papierstand stand);
+
+    Papierstand stand;
+    float breed;
+    float hoog;
+    float zijmarge;
+    float bovenmarge; ///< and at the bottom
+};
+
+struct Bladindeling {
+    Schaalmaten maten;
+    /// x(0) to x(C+1): where each column begins and, last, the print width W.
+    std::vector<float> begin;
+    Papier papier;
+    float links;      ///< of x(0) on the sheet: the margin, less where the list would leave it
+    int kolommen;     ///< how many columns are drawn, the number of the row counted along
+    int rijenPerBlad; ///< N
+    int bladen;       ///< P, which may exceed the limit
+
+    [[nodiscard]] float Printbreedte() const { return begin.back(); }
+    /// Wider than A4 on its side.
+    [[nodiscard]] bool TeBreed() const;
+    [[nodiscard]] int ToonbareBladen() const;
+    /// First row of a page, from 1, and the last one that exists; last < first on an empty page.
+    [[nodiscard]] int EersteRij(int blad) const { return (blad - 1) * rijenPerBlad + 1; }
+    [[nodiscard]] int LaatsteRij(int blad, int rijen) const;
+};
+
+[[nodiscard]] Bladindeling BerekenKolommen(const Printtabel& tabel, float schaal,
+                                           const Lettermeter& meter);
+
+} // namespace plexoran

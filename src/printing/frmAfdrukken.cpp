@@ -1,0 +1,248 @@
+#include "printing/frmAfdrukken.h"
+
+#include <QIntValidator>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "platform/klok.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/frmVoortgang.h"
+#include "platform/scherm/printer.h"
+#include "register/groepscode.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int VensterBreed = 12700; // twips
+
+QLineEdit* MaakVak(const QString& naam, const QString& gesproken, int breed, QWidget* ouder)
+{
+    auto* vak = new QLineEdit(ouder);
+    Noem(vak, naam, gesproken);
+    vak->setFixedWidth(breed);
+    return vak;
+}
+
+Printlijst MaakLijst(const Administratie& administratie, Afdruk afdruk, const Lettermeter& meter)
+{
+    Bladindeling indeling = BerekenKolommen(afdruk.tabel, afdruk.schaal, meter);
+    return {.tabel = std::move(afdruk.tabel),
+            .indeling = std::move(indeling),
+            .groeptekst = std::move(afdruk.groeptekst),
+            .subgroepkop = std::move(afdruk.subgroepkop),
+            .datum = Dagtekening(),
+            .programma = administratie.mappen.APPEXE};
+}
+
+} // namespace
+
+frmAfdrukken::frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie),
+      lijst_(MaakLijst(administratie, std::move(afdruk), kast_)),
+      picP0(new Bladbeeld(lijst_, kast_, maten_, this))
+{
+    Bouw();
+    Verbind();
+    WaarschuwVooraf();
+    ToonBlad(1);
+    picP0->setFocus();
+}
+
+void frmAfdrukken::Bouw()
+{
+    setObjectName(QStringLiteral("frmAfdrukken"));
+    setWindowTitle(QStringLiteral("Toon/print ...."));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    Label2 = MaakLabel(QStringLiteral("Label2"), QString(), this);
+    lblZoom = MaakLabel(QStringLiteral("lblZoom"), QStringLiteral("100 %"), this);
+    lblZoom->setToolTip(QStringLiteral("Groter of kleiner: Ctrl met het muiswiel, of met + en -"));
+    cmdPrinten = MaakKnop(QStringLiteral("cmdPrinten"), QStringLiteral("Printen..."), u'P', this);
+    cmdAnnuleren = MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Terug"), u'T', this);
+    cmdPrinten->setDefault(true);
+
+    auto* boven = new QHBoxLayout;
+    boven->addWidget(Label2);
+    boven->addStretch();
+    boven->addWidget(lblZoom);
+    auto* onder = new QHBoxLayout;
+    onder->addLayout(BouwBladkeuze());
+    onder->addSpacing(maten_.Twips(300));
+    onder->addLayout(Knoppenrij({cmdPrinten, cmdAnnuleren}));
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addLayout(boven);
+    lagen->addWidget(picP0, 1);
+    lagen->addLayout(onder);
+    picP0->setMinimumSize(maten_.Twips(3000), maten_.Twips(3000));
+    PasInScherm(this, {maten_.Twips(VensterBreed), screen()->availableSize().height()});
+    ZetTabvolgorde({picP0, Bladscroll, txtBlad, txtAantPages, cmdPrinten, cmdAnnuleren});
+    ToonPapier();
+}
+
+QLayout* frmAfdrukken::BouwBladkeuze()
+{
+    const int bladen = lijst_.indeling.ToonbareBladen();
+    Label1 = MaakLabel(QStringLiteral("Label1"), QString(), this);
+    Bladscroll = new QScrollBar(Qt::Horizontal, this);
+    Noem(Bladscroll, QStringLiteral("Bladscroll"), QStringLiteral("Blad kiezen"));
+    Bladscroll->setFocusPolicy(Qt::StrongFocus);
+    Bladscroll->setMinimumWidth(maten_.Twips(1800));
+    Bladscroll->setRange(1, bladen);
+    Bladscroll->setSingleStep(1);
+    Bladscroll->setPageStep(1);
+    txtBlad =
+        MaakVak(QStringLiteral("txtBlad"), QStringLiteral("Bladnummer"), maten_.Twips(600), this);
+    txtBlad->setValidator(new QIntValidator(1, bladen, txtBlad));
+    txtBlad->setAlignment(Qt::AlignRight);
+    txtAantPages = MaakVak(QStringLiteral("txtAantPages"), QStringLiteral("Aantal bladen"),
+                           maten_.Twips(1700), this);
+    txtAantPages->setReadOnly(true);
+    txtAantPages->setFrame(false);
+    QPalette palet = txtAantPages->palette();
+    palet.setColor(QPalette::Base, Qt::transparent);
+    txtAantPages->setPalette(palet);
+    txtAantPages->setText(QStringLiteral("(Totaal %1)").arg(lijst_.indeling.bladen));
+
+    auto* rij = new QHBoxLayout;
+    rij->addWidget(Label1);
+    rij->addWidget(Bladscroll);
+    rij->addWidget(txtBlad);
+    rij->addWidget(txtAantPages);
+    return rij;
+}
+
+void frmAfdrukken::Verbind()
+{
+    connect(Bladscroll, &QScrollBar::valueChanged, this, &frmAfdrukken::ToonBlad);
+    connect(txtBlad, &QLineEdit::editingFinished, this,
+            [this] { Bladscroll->setValue(txtBlad->text().toInt()); });
+    connect(picP0, &Bladbeeld::zoomVeranderd, this,
+            [this](int procent) { lblZoom->setText(QStringLiteral("%1 %").arg(procent)); });
+    connect(cmdPrinten, &QPushButton::clicked, this, &frmAfdrukken::Print);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+/// The tool tip names the columns that are left off.
+void frmAfdrukken::ToonPapier()
+{
+    const Bladindeling& indeling = lijst_.indeling;
+    const bool staand = indeling.papier.stand == Papierstand::Staand;
+    Label2->setText(staand ? QStringLiteral("Printformaat: A4-staand")
+                           : QStringLiteral("Printformaat: A4-liggend"));
+    QStringList ontbreken;
+    for (int kolom = indeling.kolommen; kolom <= lijst_.tabel.Kolommen(); ++kolom) {
+        const QString titel = NaarQString(lijst_.tabel.Titel(kolom));
+        ontbreken << (titel.isEmpty() ? QStringLiteral("(kolom %1)").arg(AantalKolommen) : titel);
+    }
+    if (!ontbreken.isEmpty())
+        Label2->setToolTip(QStringLiteral("Niet op het blad: ") +
+                           ontbreken.join(QStringLiteral(", ")));
+}
+
+void frmAfdrukken::WaarschuwVooraf()
+{
+    if (lijst_.indeling.TeBreed())
+        Meld(parentWidget(), QMessageBox::Warning,
+             QStringLiteral("De printbreedte is groter dan het liggende A4.\r\n"
+                            "Rechts ontbreken dus kolommen!"));
+    if (lijst_.indeling.bladen > Bladgrens)
+        Meld(parentWidget(), QMessageBox::Warning,
+             QStringLiteral("\r\nEr worden niet meer dan %1 pagina's tegelijk geprint!\r\n")
+                 .arg(Bladgrens));
+}
+
+void frmAfdrukken::ToonBlad(int blad)
+{
+    Label1->setText(QStringLiteral("Print blad %1").arg(blad));
+    txtBlad->setText(QString::number(blad));
+    picP0->Toon(blad);
+}
+
+void frmAfdrukken::keyPressEvent(QKeyEvent* gebeurtenis)
+{
+    if (!Verwerk(*gebeurtenis))
+        QDialog::keyPressEvent(gebeurtenis);
+}
+
+bool frmAfdrukken::Verwerk(const QKeyEvent& toets)
+{
+    const bool ctrl = toets.modifiers().testFlag(Qt::ControlModifier);
+    switch (toets.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return txtBlad->hasFocus(); // it closes the number, and must not print
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        if (ctrl)
+            picP0->Zoom(1);
+        return ctrl;
+    case Qt::Key_Minus:
+    case Qt::Key_Underscore:
+        if (ctrl)
+            picP0->Zoom(-1);
+        return ctrl;
+    case Qt::Key_0:
+        if (ctrl)
+            picP0->ZetZoom(100);
+        return ctrl;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        picP0->Liggend().triggerAction(toets.key() == Qt::Key_Left
+                                           ? QScrollBar::SliderSingleStepSub
+                                           : QScrollBar::SliderSingleStepAdd);
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return Verschuif(picP0->Staand(), toets.key());
+    default:
+        return Verschuif(*Bladscroll, toets.key());
+    }
+}
+
+// ---------------------------------------------------------------- printing
+
+QString frmAfdrukken::Titel() const
+{
+    return QStringLiteral("Ledenlijst ") + NaarQString(CodeUit(lijst_.groeptekst)).left(4);
+}
+
+void frmAfdrukken::Print()
+{
+    const Bladindeling& indeling = lijst_.indeling;
+    const auto printer = KiesPrinter(administratie_.schijf,
+                                     {.titel = Titel(),
+                                      .stand = indeling.papier.stand,
+                                      .bladen = indeling.ToonbareBladen(),
+                                      .voorstel = Bladkeus::Soort::Huidig},
+                                     this);
+    if (!printer)
+        return;
+    const auto bladen = printer->Keus().Bladen(indeling.ToonbareBladen(), Bladscroll->value());
+    if (const auto uitkomst = PrintBladen(*printer, bladen); !uitkomst)
+        MeldPrintfout(this, uitkomst.error());
+}
+
+/// Stopping lets the page that is being drawn be the last; what was drawn comes out.
+Uitkomst<void> frmAfdrukken::PrintBladen(const Printer& printer, const std::vector<int>& bladen)
+{
+    if (bladen.empty())
+        return {};
+    frmVoortgang voortgang(QStringLiteral("De bladen worden geprint"),
+                           QStringLiteral("&Stoppen na dit blad"), this);
+    auto taak = printer.Begin(lijst_.indeling.papier.stand, Titel());
+    if (!taak)
+        return tl::unexpected(taak.error());
+    for (std::size_t i = 0; i < bladen.size(); ++i) {
+        if (i > 0) {
+            if (auto nieuw = (*taak)->NieuwBlad(); !nieuw)
+                return nieuw;
+        }
+        TekenBlad((*taak)->Vlak(), lijst_, bladen[i]);
+        if (!voortgang.Meld(i + 1, bladen.size()))
+            break;
+    }
+    return (*taak)->Eind();
+}
+
+} // namespace plexoran

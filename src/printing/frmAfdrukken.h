@@ -1,0 +1,67 @@
+// The pages of a list as they will come out, one at a time, and printing them.
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "platform/fout.h"
+#include "platform/scherm/maten.h"
+#include "printing/bladbeeld.h"
+#include "register/administratie.h"
+
+namespace plexoran {
+
+class Printer;
+
+/// What the set-up hands over.
+struct Afdruk {
+    Printtabel tabel;
+    Tekst groeptekst; ///< the group as the main window shows it
+    Tekst subgroepkop;
+    float schaal = 1;
+};
+
+class frmAfdrukken : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// May warn, in boxes of `ouder`, of columns and pages that do not come out.
+    frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder);
+
+    void ZetZoom(int procent) { picP0->ZetZoom(procent); }
+
+  protected:
+    void keyPressEvent(QKeyEvent* gebeurtenis) override;
+
+  private:
+    void Bouw();
+    [[nodiscard]] QLayout* BouwBladkeuze();
+    void Verbind();
+    void ToonPapier();
+    void WaarschuwVooraf();
+    void ToonBlad(int blad);
+    [[nodiscard]] bool Verwerk(const QKeyEvent& toets);
+    void Print();
+    [[nodiscard]] Uitkomst<void> PrintBladen(const Printer& printer,
+                                             const std::vector<int>& bladen);
+    [[nodiscard]] QString Titel() const;
+
+    Administratie& administratie_;
+    Maten maten_;
+    Letterkast kast_;
+    Printlijst lijst_;
+
+    Bladbeeld* picP0;
+    QScrollBar* Bladscroll = nullptr;
+    QLineEdit* txtBlad = nullptr;
+    QLineEdit* txtAantPages = nullptr;
+    QLabel* Label1 = nullptr;
+    QLabel* Label2 = nullptr;
+    QLabel* lblZoom = nullptr;
+    QPushButton* cmdPrinten = nullptr;
+    QPushButton* cmdAnnuleren = nullptr;
+};
+
+} // namespace plexoran

@@ -1,0 +1,199 @@
+#include "printing/frmPrintIni.h"
+
+#include <QGroupBox>
+#include <QLocale>
+#include <QVBoxLayout>
+
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+#include "printing/frmAfdrukken.h"
+#include "register/groepscode.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int AantalVoorkeuze = 8; // entries chosen when the window opens
+constexpr int KleinsteSchaal = 7;  // tenths
+constexpr int GrootsteSchaal = 13;
+constexpr int GewoneSchaal = 3; // its place in the list
+constexpr int AantalPrintkolommen = AantalKolommen - static_cast<int>(EerstePrintkolom) + 1;
+
+Kolom PrintkolomOp(int plaats)
+{
+    return static_cast<Kolom>(static_cast<int>(EerstePrintkolom) + plaats);
+}
+
+} // namespace
+
+frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
+                         const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie), groeptekst_(std::move(groeptekst)),
+      kolomnamen_(kolomnamen),
+      subgroepen_(Printsubgroepen(administratie.spelers.tabel, CodeUit(groeptekst_)))
+{
+    MaakDelen();
+    Bouw();
+    Verbind();
+    Vul();
+    PasKnopAan();
+    lstKeus->setFocus();
+}
+
+void frmPrintIni::MaakDelen()
+{
+    const auto label = [this](const QString& naam, const QString& tekst) {
+        return MaakLabel(naam, tekst, this);
+    };
+    Label1 = label(QStringLiteral("Label1"), QStringLiteral("Te printen Rubrieken (kolommen)"));
+    Label2 = label(QStringLiteral("Label2"), QStringLiteral("Gekozen Groep:"));
+    Label3 = label(QStringLiteral("Label3"), NaarQString(groeptekst_));
+    Label4 =
+        label(QStringLiteral("Label4"), QStringLiteral("Printuitvoer verkleinen of vergroten:"));
+    Label5 = label(QStringLiteral("Label5"), QStringLiteral("Kies de schaal:"));
+    Label6 = label(QStringLiteral("Label6"), QStringLiteral("Print alleen deze Subgroep(en):"));
+    Label7 = label(QStringLiteral("Label7"), QStringLiteral("Deze groep is leeg"));
+    lstKeus = new Meerkeuzelijst(this);
+    Noem(lstKeus, QStringLiteral("lstKeus"), Label1->text());
+    lstNBBgr = new Meerkeuzelijst(this);
+    Noem(lstNBBgr, QStringLiteral("lstNBBgr"), Label6->text());
+    cmbSchaal = new QComboBox(this);
+    Noem(cmbSchaal, QStringLiteral("cmbSchaal"), Label5->text());
+    cmdSelAll =
+        MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'a', this);
+    cmdSelNone =
+        MaakKnop(QStringLiteral("cmdSelNone"), QStringLiteral("Selecteer niets"), u'n', this);
+    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Printen..."), u'P', this);
+    cmdAnnuleren = MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Terug"), u'T', this);
+    cmdOK->setDefault(true);
+}
+
+QGroupBox* frmPrintIni::BouwKolommen()
+{
+    auto* Frame1 = new QGroupBox(QStringLiteral("Welke kolommen te printen"), this);
+    Noem(Frame1, QStringLiteral("Frame1"));
+    auto* knoppen = new QHBoxLayout;
+    knoppen->addWidget(cmdSelAll);
+    knoppen->addWidget(cmdSelNone);
+    auto* kolom = new QVBoxLayout(Frame1);
+    kolom->addWidget(Label1);
+    kolom->addWidget(lstKeus, 1);
+    kolom->addLayout(knoppen);
+    return Frame1;
+}
+
+QLayout* frmPrintIni::BouwRechts()
+{
+    auto* schaal = new QHBoxLayout;
+    schaal->addWidget(Label5);
+    schaal->addWidget(cmbSchaal);
+    schaal->addStretch();
+    auto* kolom = new QVBoxLayout;
+    kolom->addWidget(Label6);
+    kolom->addWidget(lstNBBgr, 1);
+    kolom->addWidget(Label7);
+    kolom->addSpacing(maten_.Twips(200));
+    kolom->addWidget(Label4);
+    kolom->addLayout(schaal);
+    return kolom;
+}
+
+void frmPrintIni::Bouw()
+{
+    setObjectName(QStringLiteral("frmPrintIni"));
+    setWindowTitle(QStringLiteral("Printen van ledenlijsten per groep"));
+    for (QLabel* label : {Label3, Label7}) {
+        QFont vet = label->font();
+        vet.setBold(true);
+        label->setFont(vet);
+    }
+
+    auto* groep = new QHBoxLayout;
+    groep->addWidget(Label2);
+    groep->addWidget(Label3, 1);
+    auto* midden = new QHBoxLayout;
+    midden->addWidget(BouwKolommen(), 1);
+    midden->addSpacing(maten_.Twips(200));
+    midden->addLayout(BouwRechts(), 1);
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addLayout(groep);
+    lagen->addSpacing(maten_.Twips(100));
+    lagen->addLayout(midden, 1);
+    lagen->addSpacing(maten_.Twips(100));
+    lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
+    PasInScherm(this, {maten_.Twips(8400), maten_.Twips(6600)});
+    ZetTabvolgorde({lstKeus, cmdSelAll, cmdSelNone, lstNBBgr, cmbSchaal, cmdOK, cmdAnnuleren});
+}
+
+void frmPrintIni::Vul()
+{
+    lstKeus->Vul(AantalPrintkolommen, [this](int plaats) {
+        const Kolom kolom = PrintkolomOp(plaats);
+        const Tekstblik naam = kolomnamen_[Plaats(kolom)];
+        // Outside the import group the last column has no name.
+        return naam.empty() ? QStringLiteral("(kolom %1)").arg(static_cast<int>(kolom))
+                            : NaarQString(naam);
+    });
+    lstKeus->ZetHuidige(0);
+    for (int plaats = 0; plaats < AantalVoorkeuze; ++plaats)
+        lstKeus->Kies(plaats, true);
+    for (int tiende = KleinsteSchaal; tiende <= GrootsteSchaal; ++tiende)
+        cmbSchaal->addItem(QLocale().toString(tiende / 10.0));
+    cmbSchaal->setCurrentIndex(GewoneSchaal);
+    lstNBBgr->Vul(static_cast<int>(subgroepen_.size()), [this](int plaats) {
+        return NaarQString(subgroepen_[static_cast<std::size_t>(plaats)]);
+    });
+    if (!subgroepen_.empty())
+        lstNBBgr->ZetHuidige(0);
+    lstNBBgr->setEnabled(!subgroepen_.empty());
+    Label7->setVisible(subgroepen_.empty());
+}
+
+void frmPrintIni::Verbind()
+{
+    connect(lstKeus, &Meerkeuzelijst::keuzeVeranderd, this, &frmPrintIni::PasKnopAan);
+    connect(cmdSelAll, &QPushButton::clicked, this, [this] { lstKeus->KiesAlles(true); });
+    connect(cmdSelNone, &QPushButton::clicked, this, [this] { lstKeus->KiesAlles(false); });
+    connect(cmdOK, &QPushButton::clicked, this, &frmPrintIni::Print);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmPrintIni::PasKnopAan()
+{
+    cmdOK->setEnabled(lstKeus->IetsGekozen() && !subgroepen_.empty());
+}
+
+float frmPrintIni::Schaal() const
+{
+    return QLocale().toFloat(cmbSchaal->currentText());
+}
+
+void frmPrintIni::Print()
+{
+    if (!lstKeus->IetsGekozen()) {
+        // Any column will do; the text is meant as it stands.
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("U moet minimaal de rubriek 'Achternaam' selecteren."));
+        return;
+    }
+    if (lstNBBgr->Aantal() > 0 && !lstNBBgr->IetsGekozen()) {
+        Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog een subgroep kiezen."));
+        return;
+    }
+    Printopdracht opdracht{.groepscode = Tekst(CodeUit(groeptekst_)),
+                           .subgroepen = {},
+                           .kolommen = {},
+                           .kolomnamen = kolomnamen_};
+    for (const int plaats : lstNBBgr->GekozenPlaatsen())
+        opdracht.subgroepen.push_back(subgroepen_[static_cast<std::size_t>(plaats)]);
+    for (const int plaats : lstKeus->GekozenPlaatsen())
+        opdracht.kolommen.push_back(PrintkolomOp(plaats));
+    frmAfdrukken venster(administratie_,
+                         {.tabel = MaakPrinttabel(administratie_.spelers.tabel, opdracht),
+                          .groeptekst = groeptekst_,
+                          .subgroepkop = Subgroepkop(opdracht.subgroepen),
+                          .schaal = Schaal()},
+                         this);
+    venster.exec();
+}
+
+} // namespace plexoran

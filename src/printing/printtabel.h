@@ -1,0 +1,70 @@
+// The print table: the chosen columns of the chosen players of a group, in printed order.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "register/spelertabel.h"
+
+namespace plexoran {
+
+/// The first column that can be printed; `Nr`, `Key` and `Groep` are never offered.
+inline constexpr Kolom EerstePrintkolom = Kolom::Voornaam;
+
+/// What stands for a player without a subgroup; blanks alone are none.
+inline constexpr Tekstblik GeenSubgroep = "GEEN";
+
+/// The distinct subgroups of the group's players, as the set-up lists them.
+[[nodiscard]] std::vector<Tekst> Printsubgroepen(const Spelertabel& tabel, Tekstblik groepscode);
+
+/// "Subgroep(en): " and the subgroups as listed, joined by " + "; empty without any.
+[[nodiscard]] Tekst Subgroepkop(const std::vector<Tekst>& subgroepen);
+
+/// The chosen subgroups. A player is in it when "#" + his subgroup + "#", in capitals, stands in
+/// the text of the chosen ones, each between two "#" marks; so a "#" in a name can match more.
+class Subgroepkeuze {
+  public:
+    explicit Subgroepkeuze(const std::vector<Tekst>& gekozen);
+    [[nodiscard]] bool Hoort(Tekstblik subgroep) const;
+
+  private:
+    Tekst tekst_;
+    std::vector<Tekst> delen_; ///< what stands between two marks, sorted
+};
+
+/// What is printed. Rows and columns are counted as on paper: row 1 is the first player, column 0
+/// the number of the row, columns 1 to `Kolommen()` are the chosen ones.
+class Printtabel {
+  public:
+    /// Borrows the table, which must not change meanwhile. `titels` are those of `kolommen`.
+    Printtabel(const Spelertabel& tabel, std::vector<int> rijen, std::vector<Kolom> kolommen,
+               std::vector<Tekst> titels);
+
+    [[nodiscard]] int Rijen() const { return static_cast<int>(rijen_.size()); }
+    [[nodiscard]] int Kolommen() const { return static_cast<int>(kolommen_.size()); }
+    /// "RegNr" for column 0.
+    [[nodiscard]] Tekstblik Titel(int kolom) const;
+    /// The text of a column but the first; it holds until the table is changed.
+    [[nodiscard]] Tekstblik Cel(int rij, int kolom) const;
+
+  private:
+    const Spelertabel& tabel_;
+    std::vector<int> rijen_;
+    std::vector<Kolom> kolommen_;
+    std::vector<Tekst> titels_;
+};
+
+/// What the set-up asks for.
+struct Printopdracht {
+    Tekst groepscode{};
+    std::vector<Tekst> subgroepen{}; ///< the chosen ones, as listed; empty: all players
+    std::vector<Kolom> kolommen{};   ///< in list order
+    std::array<Tekstblik, AantalKolommen> kolomnamen = Kolomnamen; ///< as the group shows them
+};
+
+/// Sorted by surname when a column of that name is among the chosen ones, players with the same
+/// surname in table order; else in table order.
+[[nodiscard]] Printtabel MaakPrinttabel(const Spelertabel& tabel, const Printopdracht& opdracht);
+
+} // namespace plexoran

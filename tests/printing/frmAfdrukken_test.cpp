@@ -1,0 +1,385 @@
+#include "printing/frmAfdrukken.h"
+
+#include <QPainter>
+#include <QPdfWriter>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <gtest/gtest.h>
+
+#include "hulp/pdfteksten.h"
+#include "hulp/printdialoog.h"
+#include "hulp/proefsuite.h"
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+#include "printing/printproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr double Tiende = 0.1; // millimetre
+
+class frmAfdrukkenTest : public testing::Test {
+  protected:
+    frmAfdrukkenTest()
+    {
+        administratie.mappen.APPEXE = "Ravendeck.exe";
+        hoofd.show();
+    }
+    ~frmAfdrukkenTest() override { wachter.Klaar(); }
+
+    void Open(Spelertabel nieuw, std::vector<Kolom> kolommen, float schaal = 1)
+    {
+        venster.reset();
+        tabel = std::move(nieuw);
+        venster = std::make_unique<frmAfdrukken>(
+            administratie,
+            Afdruk{.tabel = MaakPrinttabel(
+                       tabel, {.groepscode = "Gr01-", .kolommen = std::move(kolommen)}),
+                   .groeptekst = "Gr01-Clubleden",
+                   .subgroepkop = "Subgroep(en): A + B",
+                   .schaal = schaal},
+            &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    void OpenRijen(int aantal, float schaal = 1)
+    {
+        Open(MaakPrintspelers(aantal), {Kolom::Voornaam, Kolom::Achternaam}, schaal);
+    }
+
+    template <class T> [[nodiscard]] T* Deel(const char* naam) const
+    {
+        return Vind<T>(*venster, naam);
+    }
+    [[nodiscard]] QScrollBar* Balk(const char* naam = "Bladscroll") const
+    {
+        return Deel<QScrollBar>(naam);
+    }
+    [[nodiscard]] std::string Label(const char* naam) const
+    {
+        return Deel<QLabel>(naam)->text().toStdString();
+    }
+    [[nodiscard]] std::string Vak(const char* naam) const
+    {
+        return Deel<QLineEdit>(naam)->text().toStdString();
+    }
+    void Toets(Qt::Key toets, Qt::KeyboardModifiers bij = {}) const
+    {
+        QTest::keyClick(Deel<QWidget>("picP0"), toets, bij);
+    }
+    void Wiel(int hoek, Qt::KeyboardModifiers bij) const
+    {
+        auto* vlak = Deel<QWidget>("picP1");
+        QWheelEvent wiel({20, 20}, vlak->mapToGlobal(QPointF(20, 20)), {}, {0, hoek}, Qt::NoButton,
+                         bij, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wiel);
+        qApp->notify(vlak, &wiel);
+    }
+
+    /// The page in view at 100 %, drawn on paper of its size and read back.
+    [[nodiscard]] Pdfblad BladInBeeld() const
+    {
+        auto* vlak = Deel<QWidget>("picP1");
+        const auto pad = map.Weg() / "beeld.pdf";
+        {
+            QPdfWriter pdf(QString::fromStdString(pad.string()));
+            pdf.setResolution(96);
+            pdf.setPageSize(QPageSize(QSizeF(vlak->size()) * 72.0 / 96.0, QPageSize::Point));
+            pdf.setPageMargins({});
+            QPainter schilder(&pdf);
+            vlak->render(&schilder, {}, {}, QWidget::RenderFlags());
+        }
+        return LeesPdf(pad).at(0);
+    }
+    /// Prints to a PDF file, what the print dialog proposes or what `stappen` choose.
+    std::vector<Pdfblad> Print(const std::function<void(QDialog&)>& stappen = [](QDialog&) {})
+    {
+        std::filesystem::remove(map.Weg() / "lijst.pdf"); // else the dialog asks first
+        VerwachtPdf(wachter, map.Weg() / "lijst.pdf", stappen);
+        Klik(Deel<QPushButton>("cmdPrinten"));
+        wachter.Klaar();
+        return LeesPdf(map.Weg() / "lijst.pdf");
+    }
+    static void KiesReeks(QDialog& dialoog, int van, int tot)
+    {
+        Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
+        Vind<QSpinBox>(dialoog, "from")->setValue(van);
+        Vind<QSpinBox>(dialoog, "to")->setValue(tot);
+    }
+
+    TijdelijkeMap map;
+    EchteSchijf echteSchijf;
+    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Berichtwachter wachter;
+    QWidget hoofd;
+    Spelertabel tabel;
+    std::unique_ptr<frmAfdrukken> venster;
+};
+
+} // namespace
+
+TEST_F(frmAfdrukkenTest, DeOpschriften)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(56));
+    EXPECT_EQ("Toon/print ....", venster->windowTitle().toStdString());
+    EXPECT_EQ("Printformaat: A4-staand", Label("Label2"));
+    EXPECT_EQ("Print blad 1", Label("Label1"));
+    EXPECT_EQ("1", Vak("txtBlad"));
+    EXPECT_EQ("(Totaal 2)", Vak("txtAantPages"));
+    EXPECT_EQ("", Deel<QLabel>("Label2")->toolTip().toStdString());
+}
+
+TEST_F(frmAfdrukkenTest, VijfenvijftigRijenGevenTweeBladen)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(54));
+    EXPECT_EQ(1, Balk()->maximum());
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(55));
+    EXPECT_EQ(1, Balk()->minimum());
+    EXPECT_EQ(2, Balk()->maximum());
+    EXPECT_EQ(1, Balk()->value());
+    EXPECT_EQ(1, Balk()->singleStep());
+    EXPECT_EQ(1, Balk()->pageStep());
+    EXPECT_EQ("(Totaal 2)", Vak("txtAantPages"));
+}
+
+TEST_F(frmAfdrukkenTest, MeerDanDertigBladen)
+{
+    wachter.Waarschuwing(
+        QStringLiteral("\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"));
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(2000));
+    EXPECT_EQ(30, Balk()->maximum());
+    EXPECT_EQ("(Totaal 37)", Vak("txtAantPages"));
+    const auto bladen =
+        Print([](QDialog& dialoog) { Vind<QRadioButton>(dialoog, "printAll")->setChecked(true); });
+    EXPECT_EQ(30U, bladen.size());
+    EXPECT_EQ("Blad 30 van 37", bladen.back().Regel(297 - 15 + 3).substr(25));
+}
+
+TEST_F(frmAfdrukkenTest, PreciesDertigBladenGeeftGeenWaarschuwing)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(29 * 55));
+    EXPECT_EQ(30, Balk()->maximum());
+    EXPECT_EQ("(Totaal 30)", Vak("txtAantPages"));
+}
+
+TEST_F(frmAfdrukkenTest, EenBredeLijstGaatLiggen)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(MaakPrintspelers(1, Tekst(130, 'x')), {Kolom::Achternaam}));
+    EXPECT_EQ("Printformaat: A4-liggend", Label("Label2"));
+    const QSize vlak = Deel<QWidget>("picP1")->size();
+    EXPECT_NEAR(297.0 / 210, static_cast<double>(vlak.width()) / vlak.height(), 0.01);
+}
+
+TEST_F(frmAfdrukkenTest, EenTeBredeLijstWaarschuwtEnNoemtWatOntbreekt)
+{
+    wachter.Waarschuwing(QStringLiteral("De printbreedte is groter dan het liggende A4.\r\n"
+                                        "Rechts ontbreken dus kolommen!"));
+    ASSERT_NO_FATAL_FAILURE(Open(MaakPrintspelers(1, Tekst(200, 'x')),
+                                 {Kolom::Voornaam, Kolom::Achternaam, Kolom::Telef}));
+    EXPECT_EQ("Printformaat: A4-liggend", Label("Label2"));
+    EXPECT_EQ("Niet op het blad: Achternaam, Telef",
+              Deel<QLabel>("Label2")->toolTip().toStdString());
+    const auto bladen = Print();
+    EXPECT_EQ("RegNr Voornaam", bladen.at(0).Regel(bladen.at(0).Woord("RegNr").boven));
+}
+
+TEST_F(frmAfdrukkenTest, EenBladKiezenMetDeBalk)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(120));
+    EXPECT_EQ("v1", BladInBeeld().Woord("v1").tekst);
+    Balk()->setValue(2);
+    EXPECT_EQ("Print blad 2", Label("Label1"));
+    EXPECT_EQ("2", Vak("txtBlad"));
+    EXPECT_EQ("v56", BladInBeeld().Woord("v56").tekst);
+    EXPECT_THROW((void)BladInBeeld().Woord("v1"), std::runtime_error);
+}
+
+TEST_F(frmAfdrukkenTest, EenBladKiezenMetToetsenOfEenNummer)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    Toets(Qt::Key_PageDown);
+    EXPECT_EQ(2, Balk()->value());
+    Toets(Qt::Key_End);
+    EXPECT_EQ(4, Balk()->value());
+    Toets(Qt::Key_PageDown);
+    EXPECT_EQ(4, Balk()->value());
+    Toets(Qt::Key_PageUp);
+    EXPECT_EQ(3, Balk()->value());
+    Toets(Qt::Key_Home);
+    EXPECT_EQ(1, Balk()->value());
+    Schrijf(*venster, "txtBlad", QStringLiteral("4"));
+    QTest::keyClick(Deel<QLineEdit>("txtBlad"), Qt::Key_Return); // opens no print dialog
+    EXPECT_EQ(4, Balk()->value());
+    EXPECT_EQ("Print blad 4", Label("Label1"));
+}
+
+TEST_F(frmAfdrukkenTest, ZoomenMetWielEnToetsen)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(10));
+    const auto breed = [this] { return Deel<QWidget>("picP1")->width(); };
+    const double mm = Maten().PixelsPerMm();
+    EXPECT_NEAR(210 * mm, breed(), 1); // at 100 %
+    EXPECT_EQ("100 %", Label("lblZoom"));
+    Toets(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ("110 %", Label("lblZoom"));
+    EXPECT_NEAR(1.1 * 210 * mm, breed(), 1);
+    Toets(Qt::Key_Minus, Qt::ControlModifier);
+    Toets(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ("90 %", Label("lblZoom"));
+    Toets(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ("100 %", Label("lblZoom"));
+    Wiel(120, Qt::ControlModifier);
+    Wiel(120, Qt::ControlModifier);
+    EXPECT_EQ("125 %", Label("lblZoom"));
+    Wiel(-60, Qt::ControlModifier); // half a step of a fine wheel
+    EXPECT_EQ("125 %", Label("lblZoom"));
+    Wiel(-60, Qt::ControlModifier);
+    EXPECT_EQ("110 %", Label("lblZoom"));
+    for (int keer = 0; keer < 30; ++keer)
+        Toets(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ("400 %", Label("lblZoom"));
+    for (int keer = 0; keer < 30; ++keer)
+        Wiel(-120, Qt::ControlModifier);
+    EXPECT_EQ("25 %", Label("lblZoom"));
+    EXPECT_FALSE(Balk("HScroll1")->isEnabled());
+    EXPECT_EQ("1", Vak("txtBlad"));
+}
+
+TEST_F(frmAfdrukkenTest, HetBladVerschuiftInZijnKader)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(10));
+    venster->resize(500, 500);
+    QApplication::processEvents();
+    auto* blad = Deel<QWidget>("picP1");
+    const int rand = qRound(3 * Maten().PixelsPerMm());
+    EXPECT_EQ(QPoint(rand, rand), blad->pos());
+    Wiel(-120, {});
+    EXPECT_LT(blad->y(), rand);
+    Toets(Qt::Key_Right);
+    EXPECT_LT(blad->x(), rand);
+    Balk("VScroll1")->setValue(Balk("VScroll1")->maximum());
+    Balk("HScroll1")->setValue(Balk("HScroll1")->maximum());
+    const QWidget* kader = Deel<QWidget>("P9");
+    EXPECT_NEAR(kader->height() - rand, blad->geometry().bottom() + 1, 1);
+    EXPECT_NEAR(kader->width() - rand, blad->geometry().right() + 1, 1);
+}
+
+TEST_F(frmAfdrukkenTest, DePdfHeeftElkeTekstOpZijnTiendeMillimeter)
+{
+    const Letterkast kast;
+    for (const float schaal : {1.0F, 0.7F, 1.3F}) {
+        ASSERT_NO_FATAL_FAILURE(OpenRijen(3, schaal));
+        const auto bladen = Print();
+        ASSERT_EQ(1U, bladen.size());
+        const Pdfblad& blad = bladen[0];
+        EXPECT_NEAR(210, blad.breed, Tiende);
+        EXPECT_NEAR(297, blad.hoog, Tiende);
+        const auto s = static_cast<double>(schaal);
+        const Letter vet{.punten = 10 * s, .vet = true};
+        const Letter gewoon{.punten = 10 * s};
+        const double p = 0.8 * s;
+        const double x1 = 2 * p + kast.Breedte(vet, "RegNr");
+        const double x2 = x1 + 2 * p + kast.Breedte(vet, "Voornaam");
+        EXPECT_NEAR(15, blad.Woord("Spelerinformatie").links, Tiende);
+        EXPECT_NEAR(15, blad.Woord("Spelerinformatie").boven, Tiende);
+        EXPECT_NEAR(15 + kast.Breedte({.punten = 14 * s}, "Spelerinformatie"),
+                    blad.Woord("Spelerinformatie").rechts, Tiende);
+        EXPECT_NEAR(15 + p, blad.Woord("RegNr").links, Tiende);
+        EXPECT_NEAR(15 + p + x1, blad.Woord("Voornaam").links, Tiende);
+        EXPECT_NEAR(15 + p + x2, blad.Woord("Achternaam").links, Tiende);
+        const double titel = 15 + 15 * s + (4.5 * s - kast.Hoogte(vet)) / 2;
+        EXPECT_NEAR(titel, blad.Woord("RegNr").boven, Tiende);
+        for (int rij = 1; rij <= 3; ++rij) {
+            const auto& naam = blad.Woord("v" + std::to_string(rij));
+            EXPECT_NEAR(15 + p + x1, naam.links, Tiende);
+            EXPECT_NEAR(15 + 19.5 * s + (rij - 1) * 4.5 * s + (4.5 * s - kast.Hoogte(gewoon)) / 2,
+                        naam.boven, Tiende);
+        }
+        EXPECT_NEAR(15 + p + x2 + kast.Breedte(gewoon, "Bos"), blad.Woord("Bos").rechts, Tiende);
+    }
+}
+
+/// The preview puts them at the same places, but for the dots of the screen.
+TEST_F(frmAfdrukkenTest, HetVoorbeeldIsHetBladDatErUitKomt)
+{
+    constexpr double punt = 25.4 / 96;
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(56));
+    const Pdfblad beeld = BladInBeeld();
+    const auto papier = Print().at(0);
+    ASSERT_EQ(papier.Tekst(), beeld.Tekst());
+    for (std::size_t i = 0; i < papier.woorden.size(); ++i) {
+        EXPECT_NEAR(papier.woorden[i].links, beeld.woorden[i].links, punt);
+        EXPECT_NEAR(papier.woorden[i].boven, beeld.woorden[i].boven, punt);
+        EXPECT_NEAR(papier.woorden[i].rechts, beeld.woorden[i].rechts, punt);
+    }
+}
+
+TEST_F(frmAfdrukkenTest, LiggendPapierLigt)
+{
+    ASSERT_NO_FATAL_FAILURE(Open(MaakPrintspelers(38, Tekst(130, 'x')), {Kolom::Achternaam}));
+    const auto bladen = Print([](QDialog& dialoog) { KiesReeks(dialoog, 1, 2); });
+    ASSERT_EQ(2U, bladen.size());
+    EXPECT_NEAR(297, bladen[1].breed, Tiende);
+    EXPECT_NEAR(210, bladen[1].hoog, Tiende);
+    EXPECT_NEAR(10, bladen[1].Woord("Spelerinformatie").boven, Tiende);
+    EXPECT_EQ("38", bladen[1].Woord("38").tekst); // 37 rows on the first
+}
+
+/// Without a choice of pages the page in view comes out.
+TEST_F(frmAfdrukkenTest, HetBladInBeeldIsDeReeks)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    Balk()->setValue(3);
+    const auto bladen = Print();
+    ASSERT_EQ(1U, bladen.size());
+    EXPECT_EQ("v111", bladen[0].Woord("v111").tekst);
+}
+
+TEST_F(frmAfdrukkenTest, EenReeksBladen)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    const auto bladen = Print([](QDialog& dialoog) { KiesReeks(dialoog, 2, 3); });
+    ASSERT_EQ(2U, bladen.size());
+    EXPECT_EQ("v56", bladen[0].Woord("v56").tekst);
+    EXPECT_EQ("v165", bladen[1].Woord("v165").tekst);
+    EXPECT_EQ(1, Balk()->value());
+}
+
+TEST_F(frmAfdrukkenTest, AnnulerenPrintNiets)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(3));
+    wachter.Bedien([](QDialog& dialoog) { dialoog.reject(); });
+    Klik(Deel<QPushButton>("cmdPrinten"));
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
+    EXPECT_TRUE(venster->isVisible());
+}
+
+TEST_F(frmAfdrukkenTest, EenVolleSchijfWordtGemeldEnLaatGeenHalfBestand)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(3));
+    schijf.FaalVanaf(2);
+    VerwachtPdf(wachter, map.Weg() / "lijst.pdf");
+    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Klik(Deel<QPushButton>("cmdPrinten"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
+}
+
+TEST_F(frmAfdrukkenTest, TerugEnEscapeSluiten)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(3));
+    Klik(Deel<QPushButton>("cmdAnnuleren"));
+    EXPECT_FALSE(venster->isVisible());
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(3));
+    Toets(Qt::Key_Escape);
+    EXPECT_FALSE(venster->isVisible());
+}

@@ -1,0 +1,202 @@
+#include "printing/frmPrintIni.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/proefsuite.h"
+#include "hulp/tabelmaker.h"
+#include "hulp/venstergrepen.h"
+#include "platform/geheugenSchijf.h"
+
+using namespace plexoran;
+
+namespace {
+
+class frmPrintIniTest : public testing::Test {
+  protected:
+    frmPrintIniTest()
+    {
+        administratie.mappen.APPEXE = "Ravendeck.exe";
+        administratie.spelers.tabel =
+            MaakTabel({{"100001", "Gr01-", "An", "", "Zee", "A-lijn", "1"},
+                       {"100002", "Gr05-", "Bea", "de", "Cock", "DINSDAG", "2"},
+                       {"100003", "Gr01-", "Cor", "", "Bos", "", "3"},
+                       {"100004", "Gr01-", "Dirk", "", "Aap", "B-lijn", "4"}});
+        hoofd.show();
+        namen[Plaats(Kolom::NBBgr)] = "Subgr";
+        namen[Plaats(Kolom::NBBnr)] = "";
+    }
+    ~frmPrintIniTest() override { wachter.Klaar(); }
+
+    void Open(const Tekst& groep = "Gr01-Clubleden & co")
+    {
+        venster = std::make_unique<frmPrintIni>(administratie, groep, namen, &hoofd);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    [[nodiscard]] QPushButton* Knop(const char* naam) const
+    {
+        return Vind<QPushButton>(*venster, naam);
+    }
+    [[nodiscard]] Meerkeuzelijst* Lijst(const char* naam) const
+    {
+        return Vind<Meerkeuzelijst>(*venster, naam);
+    }
+    [[nodiscard]] std::vector<std::string> Regels(const char* naam) const
+    {
+        std::vector<std::string> regels;
+        for (int plaats = 0; plaats < Lijst(naam)->Aantal(); ++plaats)
+            regels.push_back(Lijst(naam)->Regel(plaats).toStdString());
+        return regels;
+    }
+    void KlikRegel(const char* lijst, int plaats) const
+    {
+        Klik(Lijst(lijst)->viewport(),
+             Lijst(lijst)->visualRect(Lijst(lijst)->model()->index(plaats, 0)).center());
+    }
+    [[nodiscard]] std::string Label(const char* naam) const
+    {
+        return Vind<QLabel>(*venster, naam)->text().toStdString();
+    }
+
+    GeheugenSchijf schijf;
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    std::array<Tekstblik, AantalKolommen> namen = Kolomnamen;
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<frmPrintIni> venster;
+};
+
+const std::vector<int> eersteAcht{0, 1, 2, 3, 4, 5, 6, 7};
+
+} // namespace
+
+TEST_F(frmPrintIniTest, DeOpschriften)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ("Printen van ledenlijsten per groep", venster->windowTitle().toStdString());
+    EXPECT_EQ("Gekozen Groep:", Label("Label2"));
+    EXPECT_EQ("Gr01-Clubleden & co", Label("Label3"));
+    EXPECT_EQ("Welke kolommen te printen",
+              Vind<QGroupBox>(*venster, "Frame1")->title().toStdString());
+    EXPECT_EQ("Te printen Rubrieken (kolommen)", Label("Label1"));
+    EXPECT_EQ("Selecteer alles", Opschrift(Knop("cmdSelAll")));
+    EXPECT_EQ("Selecteer niets", Opschrift(Knop("cmdSelNone")));
+    EXPECT_EQ("Print alleen deze Subgroep(en):", Label("Label6"));
+    EXPECT_EQ("Deze groep is leeg", Label("Label7"));
+    EXPECT_EQ("Printuitvoer verkleinen of vergroten:", Label("Label4"));
+    EXPECT_EQ("Kies de schaal:", Label("Label5"));
+    EXPECT_EQ("Printen...", Opschrift(Knop("cmdOK")));
+    EXPECT_EQ("Terug", Opschrift(Knop("cmdAnnuleren")));
+}
+
+TEST_F(frmPrintIniTest, OpentMetDeEersteAchtKolommenGekozen)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ((std::vector<std::string>{"Voornaam", "Tusv", "Achternaam", "Telef", "Email", "Adres",
+                                        "Postc", "Plaats", "Land", "M/V", "Div1", "Div2", "Status",
+                                        "Subgr", "(kolom 18)"}),
+              Regels("lstKeus"));
+    EXPECT_EQ(eersteAcht, Lijst("lstKeus")->GekozenPlaatsen());
+    EXPECT_EQ(0, Lijst("lstKeus")->currentIndex().row());
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    EXPECT_FALSE(Vind<QLabel>(*venster, "Label7")->isVisible());
+}
+
+TEST_F(frmPrintIniTest, InDeImportgroepHeetDeLaatsteKolomNBBnr)
+{
+    namen = Kolomnamen;
+    ASSERT_NO_FATAL_FAILURE(Open("Gr05-"));
+    EXPECT_EQ("NBBgr", Regels("lstKeus")[13]);
+    EXPECT_EQ("NBBnr", Regels("lstKeus")[14]);
+}
+
+TEST_F(frmPrintIniTest, DeSchalenInDeSchrijfwijzeVanDeGebruiker)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    const auto* keus = Vind<QComboBox>(*venster, "cmbSchaal");
+    std::vector<std::string> schalen;
+    for (int i = 0; i < keus->count(); ++i)
+        schalen.push_back(keus->itemText(i).toStdString());
+    EXPECT_EQ((std::vector<std::string>{"0,7", "0,8", "0,9", "1", "1,1", "1,2", "1,3"}), schalen);
+    EXPECT_EQ("1", keus->currentText().toStdString());
+}
+
+TEST_F(frmPrintIniTest, DeSubgroepenVanDeGroepGeenIsGekozen)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ((std::vector<std::string>{"A-lijn", "GEEN", "B-lijn"}), Regels("lstNBBgr"));
+    EXPECT_FALSE(Lijst("lstNBBgr")->IetsGekozen());
+}
+
+TEST_F(frmPrintIniTest, ZonderKolomIsDeKnopUit)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    Klik(Knop("cmdSelNone"));
+    EXPECT_TRUE(Lijst("lstKeus")->GekozenPlaatsen().empty());
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+    KlikRegel("lstKeus", 4);
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+    Klik(Knop("cmdSelAll"));
+    EXPECT_EQ(15U, Lijst("lstKeus")->GekozenPlaatsen().size());
+    EXPECT_TRUE(Knop("cmdOK")->isEnabled());
+}
+
+/// The name of the group: nothing in it can be printed, whatever is chosen.
+TEST_F(frmPrintIniTest, EenLegeGroepHoudtDeKnopUit)
+{
+    ASSERT_NO_FATAL_FAILURE(Open("Gr09-"));
+    EXPECT_TRUE(Vind<QLabel>(*venster, "Label7")->isVisible());
+    EXPECT_EQ(0, Lijst("lstNBBgr")->Aantal());
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+    Klik(Knop("cmdSelAll"));
+    EXPECT_FALSE(Knop("cmdOK")->isEnabled());
+}
+
+TEST_F(frmPrintIniTest, EerstEenSubgroepKiezen)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Waarschuwing(QStringLiteral("U moet nog een subgroep kiezen."));
+    Klik(Knop("cmdOK"));
+    EXPECT_TRUE(venster->isVisible());
+}
+
+/// Any column will do, although the message of the test speaks of the surname.
+TEST_F(frmPrintIniTest, AlleenEmailIsGenoeg)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    Klik(Knop("cmdSelNone"));
+    KlikRegel("lstKeus", 4);
+    KlikRegel("lstNBBgr", 1);
+    wachter.Bedien([](QDialog& dialoog) {
+        EXPECT_EQ("frmAfdrukken", dialoog.objectName().toStdString());
+        dialoog.reject();
+    });
+    Klik(Knop("cmdOK"));
+}
+
+TEST_F(frmPrintIniTest, NaHetVoorbeeldBlijftHetVensterMetZijnKeuzes)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    KlikRegel("lstNBBgr", 0);
+    Vind<QComboBox>(*venster, "cmbSchaal")->setCurrentIndex(0);
+    wachter.Bedien([](QDialog& dialoog) { dialoog.reject(); });
+    Klik(Knop("cmdOK"));
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_EQ(eersteAcht, Lijst("lstKeus")->GekozenPlaatsen());
+    EXPECT_EQ("0,7", Vind<QComboBox>(*venster, "cmbSchaal")->currentText().toStdString());
+}
+
+TEST_F(frmPrintIniTest, TerugEnEscapeSluiten)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    Klik(Knop("cmdAnnuleren"));
+    EXPECT_FALSE(venster->isVisible());
+    ASSERT_NO_FATAL_FAILURE(Open());
+    QTest::keyClick(venster.get(), Qt::Key_Escape);
+    EXPECT_FALSE(venster->isVisible());
+}

@@ -1,0 +1,174 @@
+#include "printing/printtabel.h"
+
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "hulp/tabelmaker.h"
+#include "platform/tekstorde.h"
+
+using namespace plexoran;
+
+namespace {
+
+Spelertabel Voorbeeld()
+{
+    return MaakTabel({{"100001", "Gr01-", "An", "", "Zee", "A-lijn", "1"},
+                      {"100002", "Gr05-", "Bea", "de", "Cock", "DINSDAG", "2"},
+                      {"100003", "Gr01-", "Cor", "van", "Bos", "", "3"},
+                      {"100004", "Gr01-", "Dirk", "", "Bos", "B-lijn", "4"},
+                      {"100005", "Gr01-", "Els", "", "aap", "a-LIJN", "5"},
+                      {"100006", "Gr01-", "Fred", "", "Gans", "  ", "6"}});
+}
+
+/// The first names in printed order.
+std::vector<Tekst> Voornamen(const Spelertabel& tabel, Printopdracht opdracht)
+{
+    opdracht.kolommen.insert(opdracht.kolommen.begin(), Kolom::Voornaam);
+    const Printtabel print = MaakPrinttabel(tabel, opdracht);
+    std::vector<Tekst> namen;
+    for (int rij = 1; rij <= print.Rijen(); ++rij)
+        namen.emplace_back(print.Cel(rij, 1));
+    return namen;
+}
+
+} // namespace
+
+TEST(Printsubgroepen, InVolgordeVanVerschijnenZonderSubgroepAlsGeen)
+{
+    EXPECT_EQ((std::vector<Tekst>{"A-lijn", "GEEN", "B-lijn", "a-LIJN"}),
+              Printsubgroepen(Voorbeeld(), "Gr01-"));
+    EXPECT_EQ((std::vector<Tekst>{"DINSDAG"}), Printsubgroepen(Voorbeeld(), "Gr05-"));
+    EXPECT_TRUE(Printsubgroepen(Voorbeeld(), "Gr09-").empty());
+}
+
+TEST(Printsubgroepen, EenGroepZonderSubgroepenBiedtGeenAan)
+{
+    const auto tabel = MaakTabel(
+        {{"1", "Gr01-", "An", "", "Bos", "", ""}, {"2", "Gr01-", "Bea", "", "Dam", "", ""}});
+    EXPECT_EQ((std::vector<Tekst>{"GEEN"}), Printsubgroepen(tabel, "Gr01-"));
+}
+
+TEST(Subgroepkop, DeGekozenSubgroepenZoalsZeInDeLijstStaan)
+{
+    EXPECT_EQ("", Subgroepkop({}));
+    EXPECT_EQ("Subgroep(en): A-lijn", Subgroepkop({"A-lijn"}));
+    EXPECT_EQ("Subgroep(en): A-lijn + GEEN + dinsdag", Subgroepkop({"A-lijn", "GEEN", "dinsdag"}));
+}
+
+TEST(Printtabel, DeGekozenKolommenInHunVolgordeMetHunNamen)
+{
+    const Spelertabel tabel = Voorbeeld();
+    auto namen = Kolomnamen;
+    namen[Plaats(Kolom::NBBgr)] = "Subgr";
+    namen[Plaats(Kolom::NBBnr)] = "";
+    const Printtabel print =
+        MaakPrinttabel(tabel, {.groepscode = "Gr05-",
+                               .subgroepen = {},
+                               .kolommen = {Kolom::Voornaam, Kolom::MV, Kolom::NBBgr, Kolom::NBBnr},
+                               .kolomnamen = namen});
+    ASSERT_EQ(1, print.Rijen());
+    ASSERT_EQ(4, print.Kolommen());
+    EXPECT_EQ("RegNr", print.Titel(0));
+    EXPECT_EQ("Voornaam", print.Titel(1));
+    EXPECT_EQ("M/V", print.Titel(2));
+    EXPECT_EQ("Subgr", print.Titel(3));
+    EXPECT_EQ("", print.Titel(4)); // the last column has no name outside the import group
+    EXPECT_EQ("Bea", print.Cel(1, 1));
+    EXPECT_EQ("", print.Cel(1, 2));
+    EXPECT_EQ("DINSDAG", print.Cel(1, 3));
+    EXPECT_EQ("2", print.Cel(1, 4));
+}
+
+TEST(Printtabel, OpAchternaamNaamgenotenInTabelvolgorde)
+{
+    EXPECT_EQ((std::vector<Tekst>{"Els", "Cor", "Dirk", "Fred", "An"}),
+              Voornamen(Voorbeeld(), {.groepscode = "Gr01-", .kolommen = {Kolom::Achternaam}}));
+}
+
+/// The number behind the name decides before capitals do.
+TEST(Printtabel, NaamgenotenDieInHoofdlettersVerschillenInTabelvolgorde)
+{
+    const auto tabel = MaakTabel({{"1", "Gr01-", "An", "", "bos", "", ""},
+                                  {"2", "Gr01-", "Bea", "", "Bos", "", ""},
+                                  {"3", "Gr01-", "Cor", "", "B\xF6s", "", ""}});
+    EXPECT_EQ((std::vector<Tekst>{"An", "Bea", "Cor"}),
+              Voornamen(tabel, {.groepscode = "Gr01-", .kolommen = {Kolom::Achternaam}}));
+}
+
+TEST(Printtabel, ZonderAchternaamInTabelvolgorde)
+{
+    EXPECT_EQ((std::vector<Tekst>{"An", "Cor", "Dirk", "Els", "Fred"}),
+              Voornamen(Voorbeeld(), {.groepscode = "Gr01-", .kolommen = {Kolom::Plaats}}));
+}
+
+TEST(Printtabel, AlleenDeGekozenSubgroepenHoofdlettersTellenNiet)
+{
+    const auto namen = [](std::vector<Tekst> subgroepen) {
+        return Voornamen(Voorbeeld(), {.groepscode = "Gr01-",
+                                       .subgroepen = std::move(subgroepen),
+                                       .kolommen = {Kolom::Achternaam}});
+    };
+    EXPECT_EQ((std::vector<Tekst>{"Els", "An"}), namen({"A-lijn"}));
+    EXPECT_EQ((std::vector<Tekst>{"Els", "An"}), namen({"a-LIJN"}));
+    EXPECT_EQ((std::vector<Tekst>{"Cor", "Fred"}), namen({"GEEN"}));
+    EXPECT_EQ((std::vector<Tekst>{"Cor", "Dirk", "Fred"}), namen({"GEEN", "B-lijn"}));
+    EXPECT_TRUE(namen({"lijn"}).empty()); // a part is not enough
+}
+
+/// The marks are looked for in one text, as they stand.
+TEST(Subgroepkeuze, EenHekjeInEenNaamKanMeerRaken)
+{
+    const Subgroepkeuze keuze({"a#b", "c"});
+    EXPECT_TRUE(keuze.Hoort("a#b"));
+    EXPECT_TRUE(keuze.Hoort("A"));
+    EXPECT_TRUE(keuze.Hoort("b"));
+    EXPECT_TRUE(keuze.Hoort("B##C"));
+    EXPECT_FALSE(keuze.Hoort("a#c"));
+    EXPECT_FALSE(keuze.Hoort("d"));
+}
+
+TEST(Subgroepkeuze, GelijkAanHetZoekenInDeTekst)
+{
+    std::mt19937 toeval(7);
+    const std::vector<Tekst> namen{"a", "A", "ab", "b", "#", "a#", "#b", "a#b", "##", "\xE9", " a"};
+    for (int proef = 0; proef < 2000; ++proef) {
+        std::vector<Tekst> gekozen(1 + Gooi(toeval, 3));
+        Tekst tekst;
+        for (Tekst& naam : gekozen) {
+            naam = Trek(toeval, namen);
+            tekst += "#" + Hoofdletters(naam) + "#";
+        }
+        const Tekst gezocht = Trek(toeval, namen);
+        EXPECT_EQ(tekst.find("#" + Hoofdletters(gezocht) + "#") != Tekst::npos,
+                  Subgroepkeuze(gekozen).Hoort(gezocht))
+            << tekst << " " << gezocht;
+    }
+}
+
+/// Four digits end at 9,999 rows; the order does not.
+TEST(Printtabel, OokBovenTienduizendRijenKloptDeVolgorde)
+{
+    constexpr int aantal = 12'000;
+    std::vector<Proefspeler> spelers(aantal);
+    for (int i = 0; i < aantal; ++i)
+        spelers[static_cast<std::size_t>(i)] = {.key = std::to_string(i),
+                                                .groep = "Gr01-",
+                                                .voornaam = std::to_string(i),
+                                                .achternaam = i % 2 == 0 ? "Zee" : "Bos"};
+    const auto namen =
+        Voornamen(MaakTabel(spelers), {.groepscode = "Gr01-", .kolommen = {Kolom::Achternaam}});
+    ASSERT_EQ(static_cast<std::size_t>(aantal), namen.size());
+    for (int i = 0; i < aantal / 2; ++i) {
+        ASSERT_EQ(std::to_string(2 * i + 1), namen[static_cast<std::size_t>(i)]);
+        ASSERT_EQ(std::to_string(2 * i), namen[static_cast<std::size_t>(i + aantal / 2)]);
+    }
+}
+
+TEST(Printtabel, EenLegeGroepHeeftGeenRijen)
+{
+    EXPECT_EQ(0, MaakPrinttabel(
+                     Voorbeeld(),
+                     {.groepscode = "Gr09-", .subgroepen = {}, .kolommen = {Kolom::Achternaam}})
+                     .Rijen());
+}
