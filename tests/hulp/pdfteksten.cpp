@@ -17,25 +17,6 @@ double Maat(const QXmlStreamAttributes& kenmerken, const char* naam)
     return kenmerken.value(QLatin1String(naam)).toDouble() * MmPerPunt;
 }
 
-/// Line after line, each from left to right; the reader takes columns one by one.
-void ZetInLeesvolgorde(std::vector<Pdfwoord>& woorden)
-{
-    constexpr double zelfdeRegel = 0.5; // millimetre
-    const auto opX = [](const Pdfwoord& een, const Pdfwoord& ander) {
-        return een.links < ander.links;
-    };
-    std::stable_sort(
-        woorden.begin(), woorden.end(),
-        [](const Pdfwoord& een, const Pdfwoord& ander) { return een.boven < ander.boven; });
-    for (auto begin = woorden.begin(); begin != woorden.end();) {
-        const auto eind = std::find_if(begin, woorden.end(), [&](const Pdfwoord& woord) {
-            return woord.boven > begin->boven + zelfdeRegel;
-        });
-        std::stable_sort(begin, eind, opX);
-        begin = eind;
-    }
-}
-
 std::string Aaneen(const std::vector<Pdfwoord>& woorden)
 {
     std::string tekst;
@@ -71,6 +52,25 @@ const Pdfwoord& Pdfblad::Woord(const std::string& tekst) const
     throw std::runtime_error("niet op het blad: " + tekst + "; er staat: " + Tekst());
 }
 
+void ZetInLeesvolgorde(Pdfblad& blad)
+{
+    auto& woorden = blad.woorden;
+    constexpr double zelfdeRegel = 0.5; // millimetre
+    const auto opX = [](const Pdfwoord& een, const Pdfwoord& ander) {
+        return een.links < ander.links;
+    };
+    std::stable_sort(
+        woorden.begin(), woorden.end(),
+        [](const Pdfwoord& een, const Pdfwoord& ander) { return een.boven < ander.boven; });
+    for (auto begin = woorden.begin(); begin != woorden.end();) {
+        const auto eind = std::find_if(begin, woorden.end(), [&](const Pdfwoord& woord) {
+            return woord.boven > begin->boven + zelfdeRegel;
+        });
+        std::stable_sort(begin, eind, opX);
+        begin = eind;
+    }
+}
+
 std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
 {
     QProcess lezer;
@@ -96,7 +96,7 @@ std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
                                              .onder = Maat(bij, "yMax")});
     }
     for (Pdfblad& blad : bladen)
-        ZetInLeesvolgorde(blad.woorden);
+        ZetInLeesvolgorde(blad); // the reader takes columns one by one
     return bladen;
 }
 

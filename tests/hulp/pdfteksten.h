@@ -29,6 +29,9 @@ struct Pdfblad {
     [[nodiscard]] const Pdfwoord& Woord(const std::string& tekst) const;
 };
 
+/// Line after line, each from left to right.
+void ZetInLeesvolgorde(Pdfblad& blad);
+
 /// Throws when the file is no PDF.
 [[nodiscard]] std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand);
 

@@ -31,7 +31,7 @@ inline void DrukPrintdialoog(QDialog& dialoog, QDialogButtonBox::ButtonRole rol)
 inline void KiesPdf(QDialog& dialoog, const std::filesystem::path& bestand)
 {
     auto* printers = Vind<QComboBox>(dialoog, "printers");
-    const int plaats = printers->findText(QStringLiteral("PDF"), Qt::MatchContains);
+    const int plaats = printers->findText(QStringLiteral("(PDF)"), Qt::MatchContains);
     if (plaats < 0)
         throw std::runtime_error("er staat geen PDF tussen de printers");
     printers->setCurrentIndex(plaats);

@@ -1,0 +1,210 @@
+// The proof through a real print queue, which script/printproef sets up; no part of the quick run.
+//
+// Prints three pages of the sample suite from the windows of the program and compares every word
+// that comes out of the queue with the page as the preview showed it. From the environment:
+// PRINTPROEF_WACHTRIJ, the name of the queue, and PRINTPROEF_UIT, the folders, joined by ":", in
+// one of which the queue puts its PDF.
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QRadioButton>
+#include <QSpinBox>
+
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "hulp/pdfteksten.h"
+#include "hulp/printdialoog.h"
+#include "hulp/proefsuite.h"
+#include "mainwindow/frmLedenAdmin.h"
+#include "platform/echteSchijf.h"
+#include "platform/scherm/meerkeuzelijst.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr int Bladen = 3;
+constexpr int Zoom = 4;          ///< times, so that the dots of the preview are fine
+constexpr double Speling = 0.15; ///< millimetres: a tenth, and half a dot of the preview
+constexpr int Geduld = 90'000;   ///< milliseconds
+
+std::string Omgeving(const char* naam)
+{
+    const std::string waarde = qEnvironmentVariable(naam).toStdString();
+    if (waarde.empty())
+        throw std::runtime_error(std::string(naam) + " is niet gezet; zie script/printproef");
+    return waarde;
+}
+
+/// A page on its side comes out of a queue on an upright sheet, turned to the right.
+Pdfblad Teruggedraaid(const Pdfblad& vel)
+{
+    Pdfblad blad{vel.hoog, vel.breed, {}};
+    for (const Pdfwoord& woord : vel.woorden)
+        blad.woorden.push_back({.tekst = woord.tekst,
+                                .links = woord.boven,
+                                .boven = vel.breed - woord.rechts,
+                                .rechts = woord.onder,
+                                .onder = vel.breed - woord.links});
+    ZetInLeesvolgorde(blad);
+    return blad;
+}
+
+class WachtrijProef : public testing::Test {
+  protected:
+    void SetUp() override
+    {
+        std::istringstream mappen(Omgeving("PRINTPROEF_UIT"));
+        for (std::string deel; std::getline(mappen, deel, ':');)
+            uit_.emplace_back(deel);
+        eerder_ = Aanwezig();
+    }
+
+    [[nodiscard]] std::set<std::filesystem::path> Aanwezig() const
+    {
+        std::set<std::filesystem::path> bestanden;
+        for (const auto& map : uit_) {
+            std::error_code geen;
+            for (const auto& deel : std::filesystem::directory_iterator(map, geen))
+                bestanden.insert(deel.path());
+        }
+        return bestanden;
+    }
+
+    /// The file that the queue has written, once it reads as a PDF.
+    [[nodiscard]] std::vector<Pdfblad> WachtOpUitvoer() const
+    {
+        QElapsedTimer klok;
+        klok.start();
+        while (klok.elapsed() < Geduld) {
+            QTest::qWait(500);
+            for (const auto& bestand : Aanwezig()) {
+                if (eerder_.count(bestand) != 0 || bestand.extension() != ".pdf")
+                    continue;
+                try {
+                    auto bladen = LeesPdf(bestand);
+                    std::printf("uit de wachtrij: %s\n", bestand.c_str());
+                    return bladen;
+                } catch (const std::exception&) {
+                    continue; // still being written
+                }
+            }
+        }
+        throw std::runtime_error("er kwam niets uit de wachtrij");
+    }
+
+    /// The page in view, in millimetres.
+    [[nodiscard]] Pdfblad BladInBeeld(QDialog& voorbeeld) const
+    {
+        auto* vlak = Vind<QWidget>(voorbeeld, "picP1");
+        const auto pad = suite.Weg() / "beeld.pdf";
+        {
+            QPdfWriter pdf(QString::fromStdString(pad.string()));
+            pdf.setResolution(96 * Zoom);
+            pdf.setPageSize(
+                QPageSize(QSizeF(vlak->size()) * 72.0 / (96.0 * Zoom), QPageSize::Point));
+            pdf.setPageMargins({});
+            QPainter schilder(&pdf);
+            vlak->render(&schilder, {}, {}, QWidget::RenderFlags());
+        }
+        return LeesPdf(pad).at(0);
+    }
+
+    void WerkVoorbeeld(QDialog& voorbeeld)
+    {
+        ASSERT_EQ("(Totaal 3)", Vind<QLineEdit>(voorbeeld, "txtAantPages")->text().toStdString());
+        while (Vind<QLabel>(voorbeeld, "lblZoom")->text() != QStringLiteral("%1 %").arg(100 * Zoom))
+            QTest::keyClick(Vind<QWidget>(voorbeeld, "picP0"), Qt::Key_Plus, Qt::ControlModifier);
+        for (int blad = 1; blad <= Bladen; ++blad) {
+            Vind<QScrollBar>(voorbeeld, "Bladscroll")->setValue(blad);
+            beeld.push_back(BladInBeeld(voorbeeld));
+        }
+        Klik(Vind<QPushButton>(voorbeeld, "cmdPrinten"));
+        Klik(Vind<QPushButton>(voorbeeld, "cmdAnnuleren"));
+    }
+
+    static void WerkPrintdialoog(QDialog& dialoog)
+    {
+        auto* printers = Vind<QComboBox>(dialoog, "printers");
+        const int plaats =
+            printers->findText(QString::fromStdString(Omgeving("PRINTPROEF_WACHTRIJ")));
+        if (plaats < 0)
+            throw std::runtime_error("de wachtrij staat niet tussen de printers");
+        printers->setCurrentIndex(plaats);
+        emit printers->activated(plaats);
+        Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
+        Vind<QSpinBox>(dialoog, "from")->setValue(1);
+        Vind<QSpinBox>(dialoog, "to")->setValue(Bladen);
+        DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
+    }
+
+    Proefsuite suite;
+    Proefwinkel winkel;
+    EchteSchijf schijf;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Berichtwachter wachter;
+    std::vector<Pdfblad> beeld;
+
+  private:
+    std::vector<std::filesystem::path> uit_;
+    std::set<std::filesystem::path> eerder_;
+};
+
+} // namespace
+
+TEST_F(WachtrijProef, DrieBladenZoalsInHetVoorbeeld)
+{
+    frmLedenAdmin venster(administratie);
+    ASSERT_EQ(std::nullopt, venster.Laad({.mappenIni = suite.MappenIni(),
+                                          .eersteExemplaar = [] { return true; }}));
+    venster.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&venster));
+    // Gr01- has fifty players; with those of Gr02- they fill three pages.
+    Spelertabel& tabel = administratie.spelers.tabel;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Groep) == "Gr02-")
+            tabel.ZetCel(rij, Kolom::Groep, "Gr01-");
+    }
+    Vind<QComboBox>(venster, "cmbGr")->setCurrentIndex(0);
+
+    wachter.Bedien([&](QDialog& keuze) {
+        Vind<Meerkeuzelijst>(keuze, "lstNBBgr")->KiesAlles(true);
+        auto* kolommen = Vind<Meerkeuzelijst>(keuze, "lstKeus");
+        kolommen->KiesAlles(false);
+        for (const int plaats : {0, 1, 2, 3, 7}) // names, telephone, town: A4 on its side
+            kolommen->Kies(plaats, true);
+        Klik(Vind<QPushButton>(keuze, "cmdOK"));
+        Klik(Vind<QPushButton>(keuze, "cmdAnnuleren"));
+    });
+    wachter.Bedien([&](QDialog& voorbeeld) { WerkVoorbeeld(voorbeeld); });
+    wachter.Bedien([](QDialog& dialoog) { WerkPrintdialoog(dialoog); });
+    Klik(Vind<QPushButton>(venster, "cmdPrint"));
+    wachter.Klaar();
+
+    auto uitvoer = WachtOpUitvoer();
+    ASSERT_EQ(static_cast<std::size_t>(Bladen), uitvoer.size());
+    ASSERT_EQ(static_cast<std::size_t>(Bladen), beeld.size());
+    double grootste = 0;
+    std::size_t woorden = 0;
+    for (std::size_t blad = 0; blad < uitvoer.size(); ++blad) {
+        if (beeld[blad].breed > beeld[blad].hoog && uitvoer[blad].breed < uitvoer[blad].hoog)
+            uitvoer[blad] = Teruggedraaid(uitvoer[blad]);
+        ASSERT_EQ(beeld[blad].woorden.size(), uitvoer[blad].woorden.size());
+        for (std::size_t i = 0; i < uitvoer[blad].woorden.size(); ++i) {
+            const Pdfwoord& is = uitvoer[blad].woorden[i];
+            const Pdfwoord& moet = beeld[blad].woorden[i];
+            ASSERT_EQ(moet.tekst, is.tekst);
+            for (const double verschil :
+                 {is.links - moet.links, is.rechts - moet.rechts, is.boven - moet.boven}) {
+                EXPECT_NEAR(0, verschil, Speling) << is.tekst;
+                grootste = std::max(grootste, std::abs(verschil));
+            }
+            ++woorden;
+        }
+    }
+    std::printf("%zu woorden vergeleken; grootste verschil %.3f mm\n", woorden, grootste);
+}
