@@ -2,8 +2,8 @@
 //
 // Prints three pages of the sample suite from the windows of the program and compares every word
 // that comes out of the queue with the page as the preview showed it. From the environment:
-// PRINTPROEF_WACHTRIJ, the name of the queue, and PRINTPROEF_UIT, the folders, joined by ":", in
-// one of which the queue puts its PDF.
+// PRINTPROEF_WACHTRIJ, the name of the queue, PRINTPROEF_UIT, the folders, joined by ":", in one of
+// which the queue puts its PDF, and PRINTPROEF_DICHT, a queue that takes no jobs.
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -22,6 +22,7 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/echteSchijf.h"
 #include "platform/scherm/meerkeuzelijst.h"
+#include "printing/frmAfdrukken.h"
 
 using namespace plexoran;
 
@@ -155,6 +156,36 @@ class WachtrijProef : public testing::Test {
 };
 
 } // namespace
+
+/// A queue that takes no jobs: the user is told, by what the server said.
+TEST_F(WachtrijProef, EenDichteWachtrijWordtGemeld)
+{
+    const std::string dicht = Omgeving("PRINTPROEF_DICHT");
+    Spelertabel tabel;
+    tabel.VoegToe({"1", "100001", "Gr01-", "An", "", "Bos"});
+    frmAfdrukken venster(
+        administratie,
+        {.tabel = MaakPrinttabel(
+             tabel, {.groepscode = "Gr01-", .subgroepen = {}, .kolommen = {Kolom::Achternaam}}),
+         .groeptekst = "Gr01-",
+         .subgroepkop = {}},
+        nullptr);
+    venster.show();
+    wachter.Bedien([&](QDialog& dialoog) {
+        auto* printers = Vind<QComboBox>(dialoog, "printers");
+        const int plaats = printers->findText(QString::fromStdString(dicht));
+        ASSERT_GE(plaats, 0);
+        printers->setCurrentIndex(plaats);
+        emit printers->activated(plaats);
+        DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Klik(Vind<QPushButton>(venster, "cmdPrinten"));
+    wachter.Klaar();
+    EXPECT_TRUE(venster.isVisible());
+}
 
 TEST_F(WachtrijProef, DrieBladenZoalsInHetVoorbeeld)
 {

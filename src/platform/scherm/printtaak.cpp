@@ -1,9 +1,12 @@
 #include "platform/scherm/printtaak.h"
 
 #include <QBuffer>
+#include <QLibrary>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrinter>
+
+#include <optional>
 
 #include "platform/heelschrijven.h"
 #include "platform/scherm/schildervlak.h"
@@ -27,6 +30,24 @@ tl::unexpected<Fout> Weigering(const std::string& waar, const std::string& syste
 {
     return tl::unexpected(
         Fout{.soort = Foutsoort::Geweigerd, .bestand = waar, .regel = 0, .systeem = systeem});
+}
+
+/// What the print server said of the job that this thread just handed over, when it refused it. Qt
+/// does not tell; the server's own library, which Qt has loaded by then, remembers it.
+std::optional<std::string> Serverfout()
+{
+#ifdef Q_OS_UNIX
+    constexpr int eersteFout = 0x0400; // below it are the shades of success
+    QLibrary cups(QStringLiteral("cups"), 2);
+    cups.setLoadHints(QLibrary::PreventUnloadHint);
+    const auto laatste = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
+    const auto tekst = reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
+    if (laatste != nullptr && tekst != nullptr && laatste() >= eersteFout) {
+        const char* woorden = tekst();
+        return woorden == nullptr ? std::string() : std::string(woorden);
+    }
+#endif
+    return std::nullopt;
 }
 
 class PdfTaak : public Printtaak {
@@ -119,6 +140,10 @@ class Printertaak : public Printtaak {
     {
         if (!schilder_.end() || printer_->printerState() == QPrinter::Error)
             return Weigering(Naam());
+        if (printer_->outputFormat() == QPrinter::NativeFormat) {
+            if (const auto fout = Serverfout())
+                return Weigering(Naam(), *fout);
+        }
         return {};
     }
 
