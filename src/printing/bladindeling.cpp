@@ -13,24 +13,40 @@ float Tekstbreedte(const Lettermeter& meter, const Letter& letter, Tekstblik tek
     return static_cast<float>(meter.Breedte(letter, tekst));
 }
 
+double BreedsteTeken(const Lettermeter& meter, const Letter& letter)
+{
+    double breedste = 0;
+    for (int code = 0; code < 256; ++code) {
+        const char teken = static_cast<char>(code);
+        breedste = std::max(breedste, meter.Breedte(letter, Tekstblik(&teken, 1)));
+    }
+    return breedste;
+}
+
+/// A text that could not be wider than the widest so far, even of the widest characters, need not
+/// be measured: in a long list that is most of them.
 float KolomTekstbreedte(const Printtabel& tabel, int kolom, const Schaalmaten& maten,
-                        const Lettermeter& meter)
+                        const Lettermeter& meter, double breedsteTeken)
 {
     float breedste = Tekstbreedte(meter, maten.Vet(), tabel.Titel(kolom));
     if (kolom == 0)
         return breedste;
     const Letter letter = maten.Gewoon();
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
-        breedste = std::max(breedste, Tekstbreedte(meter, letter, tabel.Cel(rij, kolom)));
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        const Tekstblik cel = tabel.Cel(rij, kolom);
+        if (static_cast<double>(cel.size()) * breedsteTeken > static_cast<double>(breedste))
+            breedste = std::max(breedste, Tekstbreedte(meter, letter, cel));
+    }
     return breedste;
 }
 
 std::vector<float> Kolombegin(const Printtabel& tabel, const Schaalmaten& maten,
                               const Lettermeter& meter)
 {
+    const double breedsteTeken = BreedsteTeken(meter, maten.Gewoon());
     std::vector<float> begin{0};
     for (int kolom = 0; kolom <= tabel.Kolommen(); ++kolom) {
-        const float breedte = KolomTekstbreedte(tabel, kolom, maten, meter);
+        const float breedte = KolomTekstbreedte(tabel, kolom, maten, meter, breedsteTeken);
         begin.push_back(begin.back() + (maten.celmarge + maten.celmarge + breedte));
     }
     return begin;

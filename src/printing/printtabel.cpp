@@ -1,7 +1,7 @@
 #include "printing/printtabel.h"
 
 #include <algorithm>
-#include <utility>
+#include <charconv>
 
 #include "platform/tekstorde.h"
 #include "register/waardenlijst.h"
@@ -10,7 +10,7 @@ namespace plexoran {
 namespace {
 
 constexpr Tekstblik SorteerkolomInHoofdletters = "ACHTERNAAM";
-constexpr int Nummerbreedte = 4;
+constexpr std::size_t Nummerbreedte = 4;
 
 Tekstblik SubgroepVan(const Spelertabel& tabel, int rij)
 {
@@ -31,22 +31,37 @@ std::vector<int> RijenVan(const Spelertabel& tabel, const Printopdracht& opdrach
 }
 
 /// One line a row: surname, "  #" and the number of the row, whose digits keep namesakes in order.
+/// The number is read back from the sorted lines.
 std::vector<int> OpNaam(const Spelertabel& tabel, const std::vector<int>& rijen, Kolom naamkolom)
 {
-    const auto cijfers = static_cast<int>(std::to_string(rijen.size()).size());
-    std::vector<std::pair<Tekst, int>> lstHPsort;
-    lstHPsort.reserve(rijen.size());
+    constexpr std::size_t ruimeRegel = 32;
+    const std::size_t cijfers = std::max(Nummerbreedte, std::to_string(rijen.size()).size());
+    Tekst regels;
+    regels.reserve(ruimeRegel * rijen.size());
+    std::vector<std::size_t> einden;
+    einden.reserve(rijen.size());
     for (std::size_t i = 0; i < rijen.size(); ++i) {
-        Tekst regel(tabel.Cel(rijen[i], naamkolom));
-        regel += "  #";
-        regel += MetNullen(static_cast<std::int64_t>(i + 1), std::max(Nummerbreedte, cijfers));
-        lstHPsort.emplace_back(Sorteersleutel(regel), rijen[i]);
+        const Tekst nummer = std::to_string(i + 1);
+        regels.append(tabel.Cel(rijen[i], naamkolom)).append("  #");
+        regels.append(cijfers - nummer.size(), '0').append(nummer);
+        einden.push_back(regels.size());
     }
-    std::sort(lstHPsort.begin(), lstHPsort.end());
+    std::vector<Tekstblik> lstHPsort;
+    lstHPsort.reserve(rijen.size());
+    for (std::size_t begin = 0; const std::size_t eind : einden) {
+        lstHPsort.push_back(Tekstblik(regels).substr(begin, eind - begin));
+        begin = eind;
+    }
+    Sorteer(lstHPsort);
+
     std::vector<int> gesorteerd;
     gesorteerd.reserve(rijen.size());
-    for (const auto& [sleutel, rij] : lstHPsort)
-        gesorteerd.push_back(rij);
+    for (const Tekstblik regel : lstHPsort) {
+        const Tekstblik nummer = regel.substr(regel.size() - cijfers);
+        std::size_t plaats = 0;
+        std::from_chars(nummer.data(), nummer.data() + nummer.size(), plaats);
+        gesorteerd.push_back(rijen[plaats - 1]);
+    }
     return gesorteerd;
 }
 
