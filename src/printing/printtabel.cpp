@@ -1,7 +1,8 @@
 #include "printing/printtabel.h"
 
 #include <algorithm>
-#include <charconv>
+#include <unordered_map>
+#include <utility>
 
 #include "platform/tekstorde.h"
 #include "register/waardenlijst.h"
@@ -30,38 +31,73 @@ std::vector<int> RijenVan(const Spelertabel& tabel, const Printopdracht& opdrach
     return rijen;
 }
 
-/// One line a row: surname, "  #" and the number of the row, whose digits keep namesakes in order.
-/// The number is read back from the sorted lines.
-std::vector<int> OpNaam(const Spelertabel& tabel, const std::vector<int>& rijen, Kolom naamkolom)
+constexpr Tekstblik Naamslot = "  #";
+
+/// The weights by which a name and what follows it in its line are ordered, without the bytes that
+/// the order looks at last: those come behind the number of the row and so never count.
+Tekst Naamgewichten(Tekstblik naam)
 {
-    constexpr std::size_t ruimeRegel = 32;
+    Tekst sleutel = Sorteersleutel(Tekst(naam).append(Naamslot));
+    sleutel.resize(sleutel.find('\0'));
+    return sleutel;
+}
+
+/// One line a row: surname, "  #" and the number of the row, read back from the sorted lines.
+std::vector<int> OpRegel(const Spelertabel& tabel, const std::vector<int>& rijen, Kolom naamkolom)
+{
     const std::size_t cijfers = std::max(Nummerbreedte, std::to_string(rijen.size()).size());
-    Tekst regels;
-    regels.reserve(ruimeRegel * rijen.size());
-    std::vector<std::size_t> einden;
-    einden.reserve(rijen.size());
+    std::vector<std::pair<Tekst, int>> lstHPsort;
+    lstHPsort.reserve(rijen.size());
     for (std::size_t i = 0; i < rijen.size(); ++i) {
         const Tekst nummer = std::to_string(i + 1);
-        regels.append(tabel.Cel(rijen[i], naamkolom)).append("  #");
-        regels.append(cijfers - nummer.size(), '0').append(nummer);
-        einden.push_back(regels.size());
+        Tekst regel(tabel.Cel(rijen[i], naamkolom));
+        regel.append(Naamslot).append(cijfers - nummer.size(), '0').append(nummer);
+        lstHPsort.emplace_back(Sorteersleutel(regel), rijen[i]);
     }
-    std::vector<Tekstblik> lstHPsort;
-    lstHPsort.reserve(rijen.size());
-    for (std::size_t begin = 0; const std::size_t eind : einden) {
-        lstHPsort.push_back(Tekstblik(regels).substr(begin, eind - begin));
-        begin = eind;
-    }
-    Sorteer(lstHPsort);
-
+    std::sort(lstHPsort.begin(), lstHPsort.end());
     std::vector<int> gesorteerd;
     gesorteerd.reserve(rijen.size());
-    for (const Tekstblik regel : lstHPsort) {
-        const Tekstblik nummer = regel.substr(regel.size() - cijfers);
-        std::size_t plaats = 0;
-        std::from_chars(nummer.data(), nummer.data() + nummer.size(), plaats);
-        gesorteerd.push_back(rijen[plaats - 1]);
+    for (const auto& [sleutel, rij] : lstHPsort)
+        gesorteerd.push_back(rij);
+    return gesorteerd;
+}
+
+/// The order of those lines. As the number follows the name, players whose names weigh the same
+/// stay in table order, so that each name need be weighed only once, however many bear it.
+std::vector<int> OpNaam(const Spelertabel& tabel, const std::vector<int>& rijen, Kolom naamkolom)
+{
+    std::unordered_map<Tekstblik, std::size_t> plaatsVan;
+    std::vector<std::pair<Tekst, std::size_t>> namen; // weights, and the place of the name
+    std::vector<std::size_t> naamVan;
+    naamVan.reserve(rijen.size());
+    for (const int rij : rijen) {
+        const Tekstblik naam = tabel.Cel(rij, naamkolom);
+        const auto [plaats, nieuw] = plaatsVan.try_emplace(naam, namen.size());
+        if (nieuw)
+            namen.emplace_back(Naamgewichten(naam), namen.size());
+        naamVan.push_back(plaats->second);
     }
+    std::sort(namen.begin(), namen.end());
+
+    std::vector<std::size_t> rang(namen.size());
+    std::size_t hoogste = 0;
+    for (std::size_t i = 1; i < namen.size(); ++i) {
+        const Tekst& vorige = namen[i - 1].first;
+        if (namen[i].first != vorige) {
+            // A name that goes on as a line would: there the digits of the one count against it.
+            if (namen[i].first.starts_with(vorige))
+                return OpRegel(tabel, rijen, naamkolom);
+            ++hoogste;
+        }
+        rang[namen[i].second] = hoogste;
+    }
+    std::vector<std::vector<int>> perRang(namen.empty() ? 0 : hoogste + 1);
+    for (std::size_t i = 0; i < rijen.size(); ++i)
+        perRang[rang[naamVan[i]]].push_back(rijen[i]);
+    std::vector<int> gesorteerd;
+    gesorteerd.reserve(rijen.size());
+    for (const std::vector<int>& gelijken : perRang)
+        gesorteerd.insert(gesorteerd.end(), gelijken.begin(), gelijken.end());
     return gesorteerd;
 }
 

@@ -1,5 +1,6 @@
 #include "printing/printtabel.h"
 
+#include <algorithm>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -143,6 +144,35 @@ TEST(Subgroepkeuze, GelijkAanHetZoekenInDeTekst)
         EXPECT_EQ(tekst.find("#" + Hoofdletters(gezocht) + "#") != Tekst::npos,
                   Subgroepkeuze(gekozen).Hoort(gezocht))
             << tekst << " " << gezocht;
+    }
+}
+
+/// The order is that of the lines "surname, two blanks, #, number", whatever stands in the surname.
+TEST(Printtabel, GelijkAanHetSorterenVanDeRegels)
+{
+    std::mt19937 toeval(11);
+    const std::vector<Tekst> namen{"Bos",        "bos",        "B\xF6s",  "Bos ",
+                                   "Bos  #0001", "Bo",         "Bos  #2", "Bos  #0003",
+                                   "Bos  #x",    "bos  #0002", "",        "#"};
+    for (int proef = 0; proef < 3000; ++proef) {
+        std::vector<Proefspeler> spelers(1 + Gooi(toeval, 8));
+        std::vector<Tekst> regels;
+        for (std::size_t i = 0; i < spelers.size(); ++i) {
+            spelers[i] = {.key = std::to_string(i),
+                          .groep = "Gr01-",
+                          .voornaam = std::to_string(i + 1),
+                          .achternaam = Trek(toeval, namen)};
+            regels.push_back(spelers[i].achternaam + "  #000" + spelers[i].voornaam);
+        }
+        std::sort(regels.begin(), regels.end(), [](const Tekst& een, const Tekst& ander) {
+            return Sorteersleutel(een) < Sorteersleutel(ander);
+        });
+        std::vector<Tekst> verwacht;
+        for (const Tekst& regel : regels)
+            verwacht.push_back(regel.substr(regel.size() - 1));
+        const auto voornamen =
+            Voornamen(MaakTabel(spelers), {.groepscode = "Gr01-", .kolommen = {Kolom::Achternaam}});
+        ASSERT_EQ(verwacht, voornamen) << proef;
     }
 }
 
