@@ -234,15 +234,17 @@ void frmKoppelNBBnr::KiesUitRegister()
             spelerregels_->index(static_cast<int>(zelfde - spelers_.begin())));
 }
 
+/// A warning about the chosen name goes with that name; what was done comes back after it.
 void frmKoppelNBBnr::ToonZwevende()
 {
     const Zwevende* zwevende = GekozenZwevende();
     txtSpeler->setText(zwevende != nullptr ? NaarQString(Lijstregel(*zwevende)) : QString());
-    if (zwevende != nullptr && zwevende->vindplaats.naam.find('-') != Tekst::npos)
-        ToonResultaat({QStringLiteral("Let op: in deze naam staat een streepje. Het eerste "
-                                      "streepje van een paar scheidt de twee spelers."),
-                       QStringLiteral("Na het koppelen staat de sleutel in de plaats van alles "
-                                      "wat hierboven als naam staat.")});
+    const bool streepje = zwevende != nullptr && zwevende->vindplaats.naam.find('-') != Tekst::npos;
+    lblResultaat->setText(
+        streepje ? QStringLiteral("Let op: in deze naam staat een streepje. Het eerste streepje "
+                                  "van een paar scheidt de twee spelers.\nNa het koppelen staat de "
+                                  "sleutel in de plaats van alles wat hierboven als naam staat.")
+                 : resultaat_);
     ToonKnoppen();
 }
 
@@ -456,7 +458,8 @@ void frmKoppelNBBnr::VergeetGekoppelde(const Koppelopdracht& opdracht)
 
 void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)
 {
-    lblResultaat->setText(regels.join(QLatin1Char('\n')));
+    resultaat_ = regels.join(QLatin1Char('\n'));
+    lblResultaat->setText(resultaat_);
 }
 
 void frmKoppelNBBnr::MeldFout(const QString& wat, const Fout& fout)

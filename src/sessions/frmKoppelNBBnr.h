@@ -79,6 +79,7 @@ class frmKoppelNBBnr : public QDialog {
     std::vector<Zwevende> zwevenden_;   ///< of the lines of lstSpelers
     std::vector<Koppelspeler> spelers_; ///< of the lines of lstRVDsp
     std::size_t naambreedte_ = 0;       ///< of the name column, in characters
+    QString resultaat_;                 ///< shown unless the chosen name needs a warning
     bool gezochtInCompetitie_ = false;
     bool geladen_ = false;
     bool bezig_ = false;

@@ -26,6 +26,46 @@ QLineEdit* MaakLeesvak(const QString& naam, const QString& gesproken, QWidget* o
     return vak;
 }
 
+/// Asks room for its usual number of lines and scrolls in less where the window would otherwise be
+/// higher than the screen.
+class Tekstvlak : public QScrollArea {
+  public:
+    Tekstvlak(int regels, int minstens, QWidget* ouder)
+        : QScrollArea(ouder), regels_(regels), minstens_(minstens)
+    {}
+
+    [[nodiscard]] QSize sizeHint() const override { return Hoog(regels_); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return Hoog(minstens_); }
+
+  private:
+    [[nodiscard]] QSize Hoog(int regels) const
+    {
+        constexpr int omheen = 12;
+        return {QScrollArea::minimumSizeHint().width(),
+                regels * fontMetrics().lineSpacing() + omheen};
+    }
+
+    int regels_;
+    int minstens_;
+};
+
+/// Asks a few lines only and takes what the window leaves; the texts above it need not give way.
+class Regellijst : public QListView {
+  public:
+    using QListView::QListView;
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        return {QListView::sizeHint().width(), minimumSizeHint().height()};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        constexpr int regels = 4;
+        return {QListView::minimumSizeHint().width(),
+                regels * fontMetrics().lineSpacing() + 2 * frameWidth()};
+    }
+};
+
 } // namespace
 
 void frmKoppelNBBnr::Bouw()
@@ -75,7 +115,7 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
     auto* Frame3 = new QGroupBox(QStringLiteral("Waarom dit programmadeel?"), this);
     Noem(Frame3, QStringLiteral("Frame3"));
     // A small screen scrolls the texts; it does not cut them.
-    auto* vlak = new QScrollArea(Frame3);
+    auto* vlak = new Tekstvlak(12, 6, Frame3);
     Noem(vlak, QStringLiteral("vlakUitleg"), QStringLiteral("Waarom dit programmadeel?"));
     vlak->setFrameShape(QFrame::NoFrame);
     vlak->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -108,8 +148,6 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
     lagen->setContentsMargins(0, 0, 0, 0);
     vlak->setWidget(blad);
     vlak->setWidgetResizable(true);
-    constexpr int tekstregels = 12;
-    vlak->setMinimumHeight(tekstregels * fontMetrics().lineSpacing());
     vlak->viewport()->setAutoFillBackground(false);
     blad->setAutoFillBackground(false);
     auto* rand = new QVBoxLayout(Frame3);
@@ -120,7 +158,7 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
 QListView* frmKoppelNBBnr::MaakLijst(const QString& naam, const QString& gesproken,
                                      QStringListModel* regels, QWidget* ouder)
 {
-    auto* lijst = new QListView(ouder);
+    auto* lijst = new Regellijst(ouder);
     Noem(lijst, naam, gesproken);
     lijst->setModel(regels);
     lijst->setUniformItemSizes(true); // a hundred thousand lines must not be measured one by one
@@ -210,7 +248,7 @@ QWidget* frmKoppelNBBnr::BouwOnderkant()
     Noem(prgVoortgang, QStringLiteral("prgVoortgang"), QStringLiteral("Voortgang"));
     prgVoortgang->hide();
     cmdStop->hide();
-    auto* vlak = new QScrollArea(onder);
+    auto* vlak = new Tekstvlak(4, 2, onder);
     Noem(vlak, QStringLiteral("vlakResultaat"), QStringLiteral("Resultaat"));
     lblResultaat = MaakLabel(QStringLiteral("lblResultaat"), QString(), vlak);
     lblResultaat->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -218,8 +256,7 @@ QWidget* frmKoppelNBBnr::BouwOnderkant()
     lblResultaat->setMargin(4);
     vlak->setWidget(lblResultaat);
     vlak->setWidgetResizable(true);
-    constexpr int regels = 4;
-    vlak->setFixedHeight(regels * fontMetrics().lineSpacing() + 12);
+    vlak->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
 
     auto* knoppen = new QHBoxLayout;
     knoppen->addWidget(MaakLabel(QStringLiteral("Label13"),

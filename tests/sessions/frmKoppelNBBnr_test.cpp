@@ -479,6 +479,43 @@ TEST_F(Koppelvenster, OvergeslagenRegelsEnEenNaamMetEenStreepje)
     EXPECT_TRUE(Label("lblResultaat").starts_with("Let op: in deze naam staat een streepje."));
 }
 
+TEST_F(Koppelvenster, DeWaarschuwingVoorEenStreepjeGaatWegMetDeNaam)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N03    Mieke")));
+    EXPECT_TRUE(Label("lblResultaat").starts_with("Let op: in deze naam staat een streepje."));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O01    Sven")));
+    EXPECT_EQ("", Label("lblResultaat"));
+
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100094")));
+    VerwachtVraag();
+    wachter.Informatie(QStringLiteral("Speler Sven Nijboersma is gekoppeld."));
+    Klik(Knop("cmdStartKoppelen"));
+    const auto gedaan = Label("lblResultaat");
+    EXPECT_TRUE(gedaan.starts_with("Sven Nijboersma - O01 aangepast in Spelerbestand."));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N03    Mieke")));
+    EXPECT_TRUE(Label("lblResultaat").starts_with("Let op: in deze naam staat een streepje."));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Marleen")));
+    EXPECT_EQ(gedaan, Label("lblResultaat"));
+}
+
+/// A screen of 1920 by 1080 at 200 % has this room.
+TEST_F(Koppelvenster, OpEenLaagSchermBlijftAllesInBeeld)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    venster->resize(940, 500);
+    QApplication::processEvents();
+    EXPECT_EQ(500, venster->height());
+    EXPECT_LT(Deel<QWidget>("lstRVDsp")->geometry().bottom(),
+              Deel<QWidget>("txtRVDspeler")->geometry().top());
+    EXPECT_GE(Deel<QWidget>("Frame4")->height(), Deel<QWidget>("Frame4")->sizeHint().height());
+    for (const char* naam : {"cmdEinde", "cmdStartKoppelen", "vlakResultaat", "lstRVDsp"}) {
+        auto* deel = Deel<QWidget>(naam);
+        EXPECT_EQ(deel->rect(), deel->visibleRegion().boundingRect()) << naam;
+    }
+}
+
 TEST_F(Koppelvenster, MetHetToetsenbord)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
