@@ -1,9 +1,12 @@
 #include "afbeeldingen.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 
 #include "dialogs/diaGrNamen.h"
@@ -110,8 +113,6 @@ void NeemControle(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrat
     if (namen.empty())
         return;
     diaControleNBB venster(administratie, opdracht, namen, &hoofdvenster);
-    const Maten maten;
-    venster.resize(maten.Twips(8400), maten.Twips(7200));
     fotograaf.Neem(venster);
 }
 
@@ -161,7 +162,6 @@ void NeemPrinten(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrati
     const Tekst groep = administratie.groepen.Toontekst(administratie.instellingen.LOSTGR + 1);
     frmPrintIni keuze(administratie, groep,
                       BeeldVan(administratie.mappen, CodeUit(groep)).kolomnamen, &hoofdvenster);
-    keuze.resize(maten.Twips(8400), maten.Twips(6600));
     fotograaf.Neem(keuze);
     const Printopdracht opdracht{
         .groepscode = Tekst(CodeUit(groep)),
@@ -172,7 +172,8 @@ void NeemPrinten(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrati
                        .groeptekst = groep,
                        .subgroepkop = {}},
                       &hoofdvenster);
-    blad.resize(maten.Twips(12700), maten.Twips(10500));
+    // It is as high as the screen lets it be.
+    blad.setProperty(Standaardmaat, QSize(maten.Twips(12700), maten.Twips(10500)));
     fotograaf.Neem(blad);
 }
 
@@ -182,6 +183,13 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                      const std::string& map)
 {
     Fotograaf fotograaf(map);
+    // A box that a window shows before it opens has nobody to answer it here.
+    QTimer antwoord;
+    QObject::connect(&antwoord, &QTimer::timeout, [] {
+        if (auto* dialoog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialoog->reject();
+    });
+    antwoord.start(std::chrono::milliseconds(50));
     fotograaf.Neem(hoofdvenster);
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;

@@ -120,7 +120,7 @@ void frmPrintIni::Bouw()
     lagen->addLayout(midden, 1);
     lagen->addSpacing(maten_.Twips(100));
     lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
-    PasInScherm(this, {maten_.Twips(8400), maten_.Twips(6600)});
+    PasInScherm(this, {maten_.Twips(8400), maten_.Twips(7200)});
     ZetTabvolgorde({lstKeus, cmdSelAll, cmdSelNone, lstNBBgr, cmbSchaal, cmdOK, cmdAnnuleren});
 }
 
