@@ -4,7 +4,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <map>
 
 #include <mdbtools.h>
 #include <spawn.h>
@@ -136,10 +135,5 @@ int main(int argc, char** argv)
         return *eindstatus;
     if (argc == 3 && std::strcmp(argv[1], plexoran::Wandelwoord) == 0)
         return plexoran::Wandel(argv[2]);
-    plexoran::ZetGeheugenVast();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] {});
 }

@@ -1,6 +1,5 @@
 // Reading the federation's member files into import lines: a CSV beside reading and counting its
 // separators, XML beside the parsing library alone on the same file, measured in the same run.
-#include <map>
 #include <memory>
 #include <utility>
 
@@ -130,26 +129,15 @@ struct Proef {
     Proefsuite suite;
 };
 
-std::map<int, std::unique_ptr<Proef>>& Proeven()
+Proefkast<Proef, int>& Proeven()
 {
-    static std::map<int, std::unique_ptr<Proef>> proeven;
+    static Proefkast<Proef, int> proeven;
     return proeven;
 }
 
 Proef& ProefVan(const benchmark::State& meting)
 {
-    const int leden = static_cast<int>(meting.range(0));
-    auto& proef = Proeven()[leden];
-    if (!proef)
-        proef = std::make_unique<Proef>(leden);
-    return *proef;
-}
-
-/// A result that is not what it must be spoils the measurement, and the report says so.
-void Eis(benchmark::State& meting, bool goed)
-{
-    if (!goed)
-        meting.SkipWithError("de uitkomst klopt niet");
+    return Proeven().Geef(Grootte(meting));
 }
 
 void Leden(benchmark::State& meting, Ledenbron bron, const char* naam)
@@ -223,11 +211,5 @@ BENCHMARK(LedenXml4Grens)->Apply(Groottes);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    plexoran::Proeven().clear();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Proeven().Leeg(); });
 }

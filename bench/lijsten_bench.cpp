@@ -1,7 +1,6 @@
 // The lists and the changes of many players at once: each sorted list beside sorting the same keys
 // and reading the table, the others beside one load of the same register, measured in the same run.
 #include <algorithm>
-#include <map>
 #include <memory>
 #include <utility>
 
@@ -76,30 +75,15 @@ struct Proef {
     std::vector<Tekst> keys;
 };
 
-std::map<std::pair<int, Verdeling>, std::unique_ptr<Proef>>& Proeven()
+Proefkast<Proef, int, Verdeling>& Proeven()
 {
-    static std::map<std::pair<int, Verdeling>, std::unique_ptr<Proef>> proeven;
+    static Proefkast<Proef, int, Verdeling> proeven;
     return proeven;
-}
-
-int Spelers(const benchmark::State& meting)
-{
-    return static_cast<int>(meting.range(0));
 }
 
 Proef& ProefVan(const benchmark::State& meting, Verdeling verdeling)
 {
-    auto& proef = Proeven()[{Spelers(meting), verdeling}];
-    if (!proef)
-        proef = std::make_unique<Proef>(Spelers(meting), verdeling);
-    return *proef;
-}
-
-/// A result that is not what it must be spoils the measurement, and the report says so.
-void Eis(benchmark::State& meting, bool goed)
-{
-    if (!goed)
-        meting.SkipWithError("de uitkomst klopt niet");
+    return Proeven().Geef(Grootte(meting), verdeling);
 }
 
 // ---------------------------------------------------------------- the sorted lists
@@ -111,7 +95,7 @@ void Sorteren(benchmark::State& meting, Sorteersoort soort)
         meting, [] { return tl::expected<Sorteerlijst, GeenGetal>(); },
         [&](auto& lijst) {
             lijst = VulSorteerlijst(tabel, soort, std::nullopt);
-            Eis(meting, lijst && lijst->regels.size() == static_cast<std::size_t>(Spelers(meting)));
+            Eis(meting, lijst && lijst->regels.size() == static_cast<std::size_t>(Grootte(meting)));
         });
 }
 
@@ -149,7 +133,7 @@ void SorterenGrens(benchmark::State& meting, Sorteersoort soort)
 {
     const Spelertabel& tabel = ProefVan(meting, Verdeling::AlleGroepen).gelezen.tabel;
     const std::vector<Tekst> sleutels = Ongesorteerd(tabel, soort);
-    Eis(meting, sleutels.size() == static_cast<std::size_t>(Spelers(meting)));
+    Eis(meting, sleutels.size() == static_cast<std::size_t>(Grootte(meting)));
     Meet(
         meting, [&] { return sleutels; },
         [&](std::vector<Tekst>& gesorteerd) {
@@ -204,7 +188,7 @@ void Laden(benchmark::State& meting)
         meting, [] { return Register(); },
         [&](Register& spelers) {
             proef.Lees(spelers);
-            Eis(meting, spelers.tabel.Rijen() == Spelers(meting));
+            Eis(meting, spelers.tabel.Rijen() == Grootte(meting));
         });
 }
 BENCHMARK(Laden)->Apply(Groottes);
@@ -223,7 +207,7 @@ BENCHMARK(Doorlopen)->Apply(Groottes);
 void DubbeleNamen(benchmark::State& meting)
 {
     const Spelertabel& tabel = ProefVan(meting, Verdeling::EenGroep).gelezen.tabel;
-    const auto minstens = static_cast<std::size_t>(Spelers(meting) / ElkeDubbele);
+    const auto minstens = static_cast<std::size_t>(Grootte(meting) / ElkeDubbele);
     Meet(
         meting, [] { return Dubbelen(); },
         [&](Dubbelen& dubbelen) {
@@ -241,7 +225,7 @@ void AllesVerplaatsen(benchmark::State& meting)
         meting, [&] { return proef.Opnieuw(); },
         [&](Register& spelers) {
             VerplaatsSpelers(spelers.tabel, proef.keys, "Gr02-");
-            Eis(meting, spelers.tabel.Cel(Spelers(meting), Kolom::Groep) == "Gr02-");
+            Eis(meting, spelers.tabel.Cel(Grootte(meting), Kolom::Groep) == "Gr02-");
         });
 }
 BENCHMARK(AllesVerplaatsen)->Apply(Groottes);
@@ -254,7 +238,7 @@ void AllesKopieren(benchmark::State& meting)
         meting, [&] { return proef.Opnieuw(); },
         [&](Register& spelers) {
             Eis(meting,
-                KopieerSpelers(spelers, opdracht) && spelers.tabel.Rijen() == 2 * Spelers(meting));
+                KopieerSpelers(spelers, opdracht) && spelers.tabel.Rijen() == 2 * Grootte(meting));
         });
 }
 BENCHMARK(AllesKopieren)->Apply(Groottes);
@@ -266,7 +250,7 @@ void SubgroepVerwijderen(benchmark::State& meting)
         meting, [&] { return proef.Opnieuw(); },
         [&](Register& spelers) {
             const int aantal = VerwijderSubgroep(spelers.tabel, "Gr01-", Subgroep);
-            Eis(meting, aantal == Spelers(meting) / 2);
+            Eis(meting, aantal == Grootte(meting) / 2);
         });
 }
 BENCHMARK(SubgroepVerwijderen)->Apply(Groottes);
@@ -276,11 +260,5 @@ BENCHMARK(SubgroepVerwijderen)->Apply(Groottes);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    plexoran::Proeven().clear();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Proeven().Leeg(); });
 }

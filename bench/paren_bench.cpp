@@ -79,12 +79,6 @@ std::unique_ptr<Proef>& DeProef()
     return proef;
 }
 
-void Eis(benchmark::State& meting, bool goed)
-{
-    if (!goed)
-        meting.SkipWithError("de uitkomst klopt niet");
-}
-
 void EenGrootte(benchmark::internal::Benchmark* meting)
 {
     constexpr int keer = 3;
@@ -237,13 +231,8 @@ BENCHMARK(LijstenVullen)->Apply(EenGrootte);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
     const QApplication programma(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    plexoran::DeProef() = std::make_unique<plexoran::Proef>();
-    benchmark::RunSpecifiedBenchmarks();
-    plexoran::DeProef().reset();
-    return 0;
+    return plexoran::VoerMetingenUit(
+        argc, argv, [] { plexoran::DeProef() = std::make_unique<plexoran::Proef>(); },
+        [] { plexoran::DeProef().reset(); });
 }

@@ -4,7 +4,6 @@
 #include <QImage>
 
 #include <algorithm>
-#include <map>
 
 #include "hulp/meten.h"
 #include "hulp/register.h"
@@ -114,11 +113,6 @@ BENCHMARK(BladTekenen)->Arg(Basis)->Apply(Groottes);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
     const QApplication programma(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] {});
 }

@@ -1,7 +1,6 @@
 // Every operation over the whole register, each beside its lower limit: reading or writing the same
 // bytes, measured in the same run.
 #include <fstream>
-#include <map>
 #include <memory>
 
 #include "hulp/meten.h"
@@ -39,30 +38,15 @@ struct Proef {
     Proefsuite suite;
 };
 
-std::map<int, std::unique_ptr<Proef>>& Proeven()
+Proefkast<Proef, int>& Proeven()
 {
-    static std::map<int, std::unique_ptr<Proef>> proeven;
+    static Proefkast<Proef, int> proeven;
     return proeven;
-}
-
-int Spelers(const benchmark::State& meting)
-{
-    return static_cast<int>(meting.range(0));
 }
 
 Proef& ProefVan(const benchmark::State& meting)
 {
-    auto& proef = Proeven()[Spelers(meting)];
-    if (!proef)
-        proef = std::make_unique<Proef>(Spelers(meting));
-    return *proef;
-}
-
-/// A result that is not what it must be spoils the measurement, and the report says so.
-void Eis(benchmark::State& meting, bool goed)
-{
-    if (!goed)
-        meting.SkipWithError("de uitkomst klopt niet");
+    return Proeven().Geef(Grootte(meting));
 }
 
 // ---------------------------------------------------------------- loading
@@ -74,7 +58,7 @@ void Laden(benchmark::State& meting)
         meting, [] { return Register(); },
         [&](Register& spelers) {
             proef.Lees(spelers);
-            Eis(meting, spelers.tabel.Rijen() == Spelers(meting));
+            Eis(meting, spelers.tabel.Rijen() == Grootte(meting));
         });
 }
 BENCHMARK(Laden)->Apply(Groottes);
@@ -84,7 +68,7 @@ void LadenGrens(benchmark::State& meting)
     const Proef& proef = ProefVan(meting);
     const auto pad = proef.suite.Spelerpad("RVDspelers.txt");
     // Per player 17 commas, CR and LF; CR and LF of the key line.
-    const std::int64_t verwacht = std::int64_t{Spelers(meting)} * (AantalKolommen + 1) + 2;
+    const std::int64_t verwacht = std::int64_t{Grootte(meting)} * (AantalKolommen + 1) + 2;
     Meet(
         meting, [] { return std::unique_ptr<char[]>(); },
         [&](std::unique_ptr<char[]>& buffer) { Eis(meting, LeesEnTel(pad, buffer) == verwacht); });
@@ -135,7 +119,7 @@ void OpslaanEnHerladen(benchmark::State& meting)
         Eis(meting, proef.Schrijf(spelers).has_value());
         proef.Lees(spelers);
     });
-    Eis(meting, spelers.tabel.Rijen() == Spelers(meting));
+    Eis(meting, spelers.tabel.Rijen() == Grootte(meting));
 }
 BENCHMARK(OpslaanEnHerladen)->Apply(Groottes);
 
@@ -160,13 +144,13 @@ void HelftVerwijderen(benchmark::State& meting)
 {
     const Register gelezen = ProefVan(meting).Gelezen();
     std::vector<int> weg;
-    for (int rij = 1; rij <= Spelers(meting); rij += 2)
+    for (int rij = 1; rij <= Grootte(meting); rij += 2)
         weg.push_back(rij);
     Meet(
         meting, [&] { return gelezen.tabel; },
         [&](Spelertabel& tabel) {
             tabel.Verwijder(weg);
-            Eis(meting, tabel.Rijen() == Spelers(meting) / 2);
+            Eis(meting, tabel.Rijen() == Grootte(meting) / 2);
         });
 }
 BENCHMARK(HelftVerwijderen)->Apply(Groottes);
@@ -244,7 +228,7 @@ void Geheugen(benchmark::State& meting)
         meting.SetIterationTime(1e-9);
     }
     meting.counters["bestand"] = bestand;
-    meting.counters["regel"] = bestand / Spelers(meting);
+    meting.counters["regel"] = bestand / Grootte(meting);
 }
 BENCHMARK(Geheugen)->Apply(Groottes)->Iterations(1);
 
@@ -255,11 +239,5 @@ BENCHMARK(Geheugen)->Apply(Groottes)->Iterations(1);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    plexoran::Proeven().clear();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Proeven().Leeg(); });
 }

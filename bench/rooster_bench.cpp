@@ -4,7 +4,6 @@
 #include <QImage>
 #include <QScrollBar>
 
-#include <map>
 #include <memory>
 
 #include "hulp/meten.h"
@@ -51,21 +50,17 @@ struct Proef {
     bool goed = false;
 };
 
-std::map<int, std::unique_ptr<Proef>>& Proeven()
+Proefkast<Proef, int>& Proeven()
 {
-    static std::map<int, std::unique_ptr<Proef>> proeven;
+    static Proefkast<Proef, int> proeven;
     return proeven;
 }
 
 Proef& ProefVan(benchmark::State& meting)
 {
-    const int spelers = static_cast<int>(meting.range(0));
-    auto& proef = Proeven()[spelers];
-    if (!proef)
-        proef = std::make_unique<Proef>(spelers);
-    if (!proef->goed)
-        meting.SkipWithError("het register werd niet gelezen");
-    return *proef;
+    Proef& proef = Proeven().Geef(Grootte(meting));
+    Eis(meting, proef.goed);
+    return proef;
 }
 
 // ---------------------------------------------------------------- showing
@@ -143,12 +138,6 @@ BENCHMARK(TekenenOnderaan)->Arg(Basis)->Apply(Groottes);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
     const QApplication programma(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    plexoran::Proeven().clear();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Proeven().Leeg(); });
 }

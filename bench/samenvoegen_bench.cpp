@@ -1,7 +1,6 @@
 // Importing as many members as the register has players, half of them known: reading the CSV and
 // merging, beside loading the register and reading the CSV, measured in the same run. Once with
 // usual numbers, once with numbers that the usual way of looking up cannot answer.
-#include <map>
 #include <memory>
 #include <utility>
 
@@ -78,26 +77,15 @@ struct Proef {
     Register gelezen;
 };
 
-std::map<std::pair<int, Nummers>, std::unique_ptr<Proef>>& Proeven()
+Proefkast<Proef, int, Nummers>& Proeven()
 {
-    static std::map<std::pair<int, Nummers>, std::unique_ptr<Proef>> proeven;
+    static Proefkast<Proef, int, Nummers> proeven;
     return proeven;
 }
 
 Proef& ProefVan(const benchmark::State& meting, Nummers nummers)
 {
-    const int spelers = static_cast<int>(meting.range(0));
-    auto& proef = Proeven()[{spelers, nummers}];
-    if (!proef)
-        proef = std::make_unique<Proef>(spelers, nummers);
-    return *proef;
-}
-
-/// A result that is not what it must be spoils the measurement, and the report says so.
-void Eis(benchmark::State& meting, bool goed)
-{
-    if (!goed)
-        meting.SkipWithError("de uitkomst klopt niet");
+    return Proeven().Geef(Grootte(meting), nummers);
 }
 
 void Importeer(benchmark::State& meting, Nummers nummers)
@@ -149,11 +137,5 @@ BENCHMARK(ImporterenGrens)->Apply(Groottes);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    plexoran::Proeven().clear();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Proeven().Leeg(); });
 }

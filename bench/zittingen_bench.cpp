@@ -2,7 +2,6 @@
 // is in all of its sessions beside writing and syncing the changed files, measured in the same run.
 #include <array>
 #include <fstream>
-#include <map>
 #include <memory>
 #include <string>
 
@@ -99,29 +98,15 @@ class Competitie {
     std::vector<Zittingplaats> zittingen_;
 };
 
-std::map<int, std::unique_ptr<Competitie>>& Competities()
+Proefkast<Competitie, int>& Competities()
 {
-    static std::map<int, std::unique_ptr<Competitie>> competities;
+    static Proefkast<Competitie, int> competities;
     return competities;
-}
-
-int Zittingen(const benchmark::State& meting)
-{
-    return static_cast<int>(meting.range(0));
 }
 
 Competitie& CompetitieVan(const benchmark::State& meting)
 {
-    auto& competitie = Competities()[Zittingen(meting)];
-    if (!competitie)
-        competitie = std::make_unique<Competitie>(Zittingen(meting));
-    return *competitie;
-}
-
-void Eis(benchmark::State& meting, bool goed)
-{
-    if (!goed)
-        meting.SkipWithError("de uitkomst klopt niet");
+    return Competities().Geef(Grootte(meting));
 }
 
 void Zittingaantallen(benchmark::internal::Benchmark* meting)
@@ -144,7 +129,7 @@ void Zoeken(benchmark::State& meting)
 {
     Competitie& competitie = CompetitieVan(meting);
     competitie.ZetTerug();
-    const auto verwacht = static_cast<std::size_t>(Zittingen(meting)) * 2 * (1 + Paren / 4);
+    const auto verwacht = static_cast<std::size_t>(Grootte(meting)) * 2 * (1 + Paren / 4);
     Meet(
         meting, [] { return Zoekuitslag(); },
         [&](Zoekuitslag& uitslag) {
@@ -174,7 +159,7 @@ void KoppelenOveral(benchmark::State& meting)
     competitie.ZetTerug();
     const auto lijst = competitie.Zoek().zwevenden;
     const auto opdracht = MaakKoppelopdracht(lijst, 0, "100237");
-    const auto verwacht = static_cast<std::size_t>(Zittingen(meting)) * Soorten.size();
+    const auto verwacht = static_cast<std::size_t>(Grootte(meting)) * Soorten.size();
     Meet(
         meting,
         [&] {
@@ -219,11 +204,5 @@ BENCHMARK(KoppelenOveralGrens)->Apply(Schrijfaantallen);
 
 int main(int argc, char** argv)
 {
-    plexoran::ZetGeheugenVast();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    plexoran::Competities().clear();
-    return 0;
+    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Competities().Leeg(); });
 }

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <chrono>
 #include <fstream>
+#include <map>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 #ifdef __GLIBC__
@@ -79,6 +81,56 @@ template <class Werk> void Meet(benchmark::State& meting, const Werk& werk)
 {
     Meet(
         meting, [] { return 0; }, [&](int) { werk(); });
+}
+
+/// The size at which this measurement runs: players, members or sessions.
+inline int Grootte(const benchmark::State& meting)
+{
+    return static_cast<int>(meting.range(0));
+}
+
+/// A result that is not what it must be spoils the measurement, and the report says so.
+inline void Eis(benchmark::State& meting, bool goed)
+{
+    if (!goed)
+        meting.SkipWithError("de uitkomst klopt niet");
+}
+
+/// What measurements of one size and kind share, made when the first of them asks for it.
+template <class Proef, class... Delen> class Proefkast {
+  public:
+    Proef& Geef(Delen... delen)
+    {
+        auto& proef = proeven_[{delen...}];
+        if (!proef)
+            proef = std::make_unique<Proef>(delen...);
+        return *proef;
+    }
+    void Leeg() { proeven_.clear(); }
+
+  private:
+    std::map<std::tuple<Delen...>, std::unique_ptr<Proef>> proeven_;
+};
+
+/// The whole of a benchmark's main, but for what `vooraf` must make and `achteraf` clear away while
+/// the program still stands.
+template <class Vooraf, class Achteraf>
+int VoerMetingenUit(int argc, char** argv, const Vooraf& vooraf, const Achteraf& achteraf)
+{
+    ZetGeheugenVast();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    vooraf();
+    benchmark::RunSpecifiedBenchmarks();
+    achteraf();
+    return 0;
+}
+
+template <class Achteraf> int VoerMetingenUit(int argc, char** argv, const Achteraf& achteraf)
+{
+    return VoerMetingenUit(
+        argc, argv, [] {}, achteraf);
 }
 
 inline bool IsScheiding(char teken)
