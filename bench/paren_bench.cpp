@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "hulp/legewinkel.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "pairs/frmParenOnderhoud.h"
@@ -16,11 +17,6 @@ namespace {
 constexpr int Spelers = 5000;
 constexpr int AantalParen = 2000;
 constexpr Tekstblik Groep = "Gr01-";
-
-class LegeWinkel : public Instellingenwinkel {
-  public:
-    std::optional<Tekst> Waarde(Tekstblik, Tekstblik, Tekstblik) override { return std::nullopt; }
-};
 
 /// Everybody alive, in one group without subgroups, and with a name of his own.
 Tekst Proeftekst()

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+#include "hulp/legewinkel.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "mainwindow/frmLedenAdmin.h"
@@ -15,12 +16,6 @@ namespace plexoran {
 namespace {
 
 constexpr int Basis = 100; ///< players of the register with which painting is compared
-
-/// The machine's own settings stay out of the measurement.
-class LegeWinkel : public Instellingenwinkel {
-  public:
-    std::optional<Tekst> Waarde(Tekstblik, Tekstblik, Tekstblik) override { return std::nullopt; }
-};
 
 /// The main window on a register of one size, everybody in the shown group.
 struct Proef {

@@ -1,50 +1,17 @@
 #include "platform/scherm/meerkeuzelijst.h"
 
-#include <QAbstractListModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
 
+#include "platform/scherm/regelmodel.h"
+
 namespace plexoran {
 namespace {
 
 constexpr qsizetype VerborgenNaSpaties = 60;
-
-class Regelmodel : public QAbstractListModel {
-  public:
-    explicit Regelmodel(Meerkeuzelijst& lijst) : QAbstractListModel(&lijst), lijst_(lijst) {}
-
-    void Herlaad(const std::function<void()>& vul)
-    {
-        beginResetModel();
-        vul();
-        endResetModel();
-    }
-
-    [[nodiscard]] int rowCount(const QModelIndex& ouder) const override
-    {
-        return ouder.isValid() ? 0 : lijst_.Aantal();
-    }
-
-    [[nodiscard]] QVariant data(const QModelIndex& plaats, int rol) const override
-    {
-        if (!plaats.isValid())
-            return {};
-        if (rol == Qt::DisplayRole)
-            return lijst_.Regel(plaats.row());
-        if (rol == Qt::AccessibleTextRole) {
-            const QString stand = lijst_.Gekozen(plaats.row()) ? QStringLiteral("gekozen")
-                                                               : QStringLiteral("niet gekozen");
-            return QStringLiteral("%1, %2").arg(lijst_.Regel(plaats.row()).simplified(), stand);
-        }
-        return {};
-    }
-
-  private:
-    Meerkeuzelijst& lijst_;
-};
 
 /// Paints chosen lines as selected; one height for all, and no width of its own.
 class Regeltekenaar : public QStyledItemDelegate {
@@ -77,7 +44,7 @@ class Regeltekenaar : public QStyledItemDelegate {
 
 Meerkeuzelijst::Meerkeuzelijst(QWidget* ouder) : QListView(ouder)
 {
-    setModel(new Regelmodel(*this));
+    setModel(new Regelmodel([this](int plaats, int rol) { return Zegt(plaats, rol); }, this));
     setItemDelegate(new Regeltekenaar(*this));
     setSelectionMode(NoSelection);
     setUniformItemSizes(true);
@@ -88,12 +55,24 @@ Meerkeuzelijst::Meerkeuzelijst(QWidget* ouder) : QListView(ouder)
 
 void Meerkeuzelijst::Vul(int aantal, std::function<QString(int)> regel)
 {
-    static_cast<Regelmodel*>(model())->Herlaad([&] {
+    static_cast<Regelmodel*>(model())->Herlaad(aantal, [&] {
         regel_ = std::move(regel);
         gekozen_.assign(static_cast<std::size_t>(aantal), false);
         aantalGekozen_ = 0;
     });
     emit keuzeVeranderd();
+}
+
+/// Whether a line is chosen is no selection of Qt's, so a screen reader is told of it.
+QVariant Meerkeuzelijst::Zegt(int plaats, int rol) const
+{
+    if (rol == Qt::DisplayRole)
+        return Regel(plaats);
+    if (rol != Qt::AccessibleTextRole)
+        return {};
+    const QString stand =
+        Gekozen(plaats) ? QStringLiteral("gekozen") : QStringLiteral("niet gekozen");
+    return QStringLiteral("%1, %2").arg(Regel(plaats).simplified(), stand);
 }
 
 QString Meerkeuzelijst::Regel(int plaats) const

@@ -49,6 +49,7 @@ class Meerkeuzelijst : public QListView {
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
 
   private:
+    [[nodiscard]] QVariant Zegt(int plaats, int rol) const;
     void Zet(int plaats, bool aan);
     void KiesTot(int plaats, bool aan);
     void Gewijzigd();

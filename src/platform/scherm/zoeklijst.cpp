@@ -1,6 +1,5 @@
 #include "platform/scherm/zoeklijst.h"
 
-#include <QAbstractListModel>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -9,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/scherm/meter.h"
+#include "platform/scherm/regelmodel.h"
 #include "platform/scherm/tekstbrug.h"
 #include "platform/tekstorde.h"
 
@@ -16,33 +16,6 @@ namespace plexoran {
 namespace {
 
 constexpr double MicrometerPerMm = 1000.0;
-
-class Regelmodel : public QAbstractListModel {
-  public:
-    explicit Regelmodel(Zoeklijst& lijst) : QAbstractListModel(&lijst), lijst_(lijst) {}
-
-    void Herlaad(const std::function<void()>& vul)
-    {
-        beginResetModel();
-        vul();
-        endResetModel();
-    }
-
-    [[nodiscard]] int rowCount(const QModelIndex& ouder) const override
-    {
-        return ouder.isValid() ? 0 : lijst_.Aantal();
-    }
-
-    [[nodiscard]] QVariant data(const QModelIndex& plaats, int rol) const override
-    {
-        if (!plaats.isValid() || rol != Qt::DisplayRole)
-            return {};
-        return NaarQString(lijst_.Regel(plaats.row()));
-    }
-
-  private:
-    Zoeklijst& lijst_;
-};
 
 /// One size for all lines, so that none is asked for before it is painted.
 class Regeltekenaar : public QStyledItemDelegate {
@@ -82,7 +55,11 @@ Zoeklijst::Zoeklijst(std::size_t naamVanaf, const QFont& letter, QWidget* ouder)
     : QListView(ouder), naamVanaf_(naamVanaf), meter_(MaakMeter(letter, 1))
 {
     setFont(letter);
-    setModel(new Regelmodel(*this));
+    setModel(new Regelmodel(
+        [this](int plaats, int rol) {
+            return rol == Qt::DisplayRole ? QVariant(NaarQString(Regel(plaats))) : QVariant();
+        },
+        this));
     setItemDelegate(new Regeltekenaar(this));
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);
@@ -96,7 +73,7 @@ void Zoeklijst::Vul(int aantal, std::function<Tekst(int)> regel, Plek plek)
     const bool behouden = plek == Plek::Behouden;
     const int huidige = behouden ? currentIndex().row() : 0;
     const int boven = behouden ? verticalScrollBar()->value() : 0;
-    static_cast<Regelmodel*>(model())->Herlaad([&] {
+    static_cast<Regelmodel*>(model())->Herlaad(aantal, [&] {
         aantal_ = aantal;
         regel_ = std::move(regel);
     });

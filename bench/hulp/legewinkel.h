@@ -1,0 +1,14 @@
+// Settings of other programs for a benchmark with windows: none.
+#pragma once
+
+#include "platform/instellingenwinkel.h"
+
+namespace plexoran {
+
+/// The machine's own settings stay out of the measurement.
+class LegeWinkel : public Instellingenwinkel {
+  public:
+    std::optional<Tekst> Waarde(Tekstblik, Tekstblik, Tekstblik) override { return std::nullopt; }
+};
+
+} // namespace plexoran
