@@ -1,4 +1,4 @@
-// The linking window finds, chooses and links.
+// The linking window: what there is to choose from, and what is chosen.
 #include "sessions/frmKoppelNBBnr.h"
 
 #include <QApplication>
@@ -13,26 +13,9 @@
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "register/spelerbestand.h"
-#include "sessions/tafelparen.h"
 
 namespace plexoran {
 namespace {
-
-constexpr int TeNoemenBestanden = 10;
-
-/// "- " before each file; of many only the first ones and how many more there are.
-QString Opsomming(const std::vector<std::string>& bestanden)
-{
-    QStringList uit;
-    for (const std::string& bestand : bestanden) {
-        if (uit.size() == TeNoemenBestanden) {
-            uit << QStringLiteral("... en nog %1").arg(bestanden.size() - TeNoemenBestanden);
-            break;
-        }
-        uit << QStringLiteral("- ") + QString::fromStdString(bestand);
-    }
-    return uit.isEmpty() ? QStringLiteral("- geen") : uit.join(QLatin1Char('\n'));
-}
 
 /// The selected line, or -1. The current one is no choice: a list that gets the focus makes its
 /// first line current by itself.
@@ -40,11 +23,6 @@ int Gekozen(const QListView& lijst)
 {
     const QModelIndexList regels = lijst.selectionModel()->selectedIndexes();
     return regels.isEmpty() ? -1 : regels.first().row();
-}
-
-QString Hoeveel(const std::vector<std::string>& bestanden, const QString& wat)
-{
-    return wat + QStringLiteral(" (%1):\n").arg(bestanden.size());
 }
 
 } // namespace
@@ -263,22 +241,6 @@ void frmKoppelNBBnr::ToonKnoppen()
                                  !txtRVDspeler->text().isEmpty());
 }
 
-Uitkomst<std::vector<Zittingplaats>> frmKoppelNBBnr::TeDoorzoeken() const
-{
-    const Mappen& mappen = administratie_.mappen;
-    const Tekst& naam = sessies_.at(static_cast<std::size_t>(cmbC->currentIndex())).naam;
-    if (InCompetities())
-        return ZittingenVan(administratie_.schijf, mappen, naam);
-    const Zittingplaats plaats = LosseZitting(mappen, naam);
-    const auto soort = administratie_.schijf.Soort(plaats.map);
-    if (!soort)
-        return tl::unexpected(soort.error());
-    if (*soort != Padsoort::Map)
-        return tl::unexpected(
-            Fout{Foutsoort::Ontbreekt, administratie_.schijf.Toonpad(plaats.map), 0, {}});
-    return std::vector{plaats};
-}
-
 Voortgang frmKoppelNBBnr::MaakVoortgang(bool magStoppen)
 {
     sinds_.start();
@@ -300,7 +262,7 @@ Voortgang frmKoppelNBBnr::MaakVoortgang(bool magStoppen)
     };
 }
 
-template <class Werk> auto frmKoppelNBBnr::Doe(bool magStoppen, Werk werk)
+void frmKoppelNBBnr::Doe(bool magStoppen, const std::function<void(const Voortgang&)>& werk)
 {
     QWidget* const had = focusWidget();
     const auto zetBezig = [this](bool bezig) {
@@ -311,149 +273,12 @@ template <class Werk> auto frmKoppelNBBnr::Doe(bool magStoppen, Werk werk)
     };
     stop_ = false;
     zetBezig(true);
-    auto uit = werk(MaakVoortgang(magStoppen));
+    werk(MaakVoortgang(magStoppen));
     prgVoortgang->hide();
     cmdStop->hide();
     zetBezig(false);
     if (had != nullptr)
         had->setFocus();
-    return uit;
-}
-
-void frmKoppelNBBnr::ZoekNamen()
-{
-    VergeetGevonden();
-    ToonResultaat({});
-    const auto zittingen = TeDoorzoeken();
-    if (!zittingen) {
-        MeldFout(zittingen.error().soort == Foutsoort::Ontbreekt
-                     ? QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze map is er "
-                                      "niet meer.")
-                     : QStringLiteral("Fout bij het zoeken van de zwevende spelers."),
-                 zittingen.error());
-        return;
-    }
-    gezochtInCompetitie_ = InCompetities();
-    Zoekuitslag uitslag = Doe(true, [&](const Voortgang& voortgang) {
-        return ZoekZwevenden(administratie_.schijf, *zittingen, voortgang);
-    });
-    zwevenden_ = std::move(uitslag.zwevenden);
-    ToonGevonden(uitslag);
-}
-
-void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
-{
-    QStringList regels;
-    for (const Zwevende& zwevende : zwevenden_)
-        regels << NaarQString(Lijstregel(zwevende));
-    zwevendregels_->setStringList(regels);
-    Label11->setText(zwevenden_.empty() ? QStringLiteral("Geen zwevende spelers gevonden")
-                     : gezochtInCompetitie_
-                         ? QStringLiteral("Gevonden zwevende spelers in deze Competitie")
-                         : QStringLiteral("Gevonden zwevende spelers in deze Zitting"));
-    QStringList opmerkingen;
-    if (uitslag.gestopt)
-        opmerkingen << QStringLiteral("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.");
-    if (uitslag.overgeslagen > 0)
-        opmerkingen << QStringLiteral("Overgeslagen regels in de percentagebestanden, omdat ze "
-                                      "geen 7 velden hebben: %1.")
-                           .arg(uitslag.overgeslagen);
-    if (!zwevenden_.empty()) {
-        lstSpelers->setCurrentIndex(zwevendregels_->index(0)); // may have to say something of it
-        lstSpelers->setFocus();
-    }
-    if (!opmerkingen.isEmpty())
-        ToonResultaat(opmerkingen);
-    if (!uitslag.fouten.empty())
-        MeldFout(QStringLiteral("Fout bij het lezen van de zittingbestanden: %1 bestand(en) konden "
-                                "niet worden gelezen. De spelers daaruit staan niet in de lijst. "
-                                "Het eerste:")
-                     .arg(uitslag.fouten.size()),
-                 uitslag.fouten.front());
-}
-
-void frmKoppelNBBnr::StartKoppelen()
-{
-    if (!Vraag(this, QMessageBox::Information,
-               QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de "
-                              "betreffende zittingbestanden.\r\n\r\nKies OK of Annuleer.")))
-        return;
-    constexpr int lengteKey = 6;
-    const Koppelopdracht opdracht =
-        MaakKoppelopdracht(zwevenden_, static_cast<std::size_t>(Gekozen(*lstSpelers)),
-                           NaarTekst(txtRVDspeler->text().left(lengteKey)));
-    const Koppeluitslag uitslag = Doe(false, [&](const Voortgang& voortgang) {
-        return Koppel(administratie_.schijf, opdracht, voortgang);
-    });
-    QStringList regels;
-    const QString naam = NaarQString(opdracht.naam);
-    for (const Aangepast& aangepast : uitslag.aangepast)
-        regels << naam + QStringLiteral(" - ") + NaarQString(aangepast.code) +
-                      (aangepast.soort == Lijstsoort::Spelers
-                           ? QStringLiteral(" aangepast in Spelerbestand.")
-                           : QStringLiteral(" aangepast in Percentagebestand."));
-    for (const std::string& bestand : uitslag.nietGewijzigd)
-        regels << QStringLiteral("Niet aangepast: ") + QString::fromStdString(bestand);
-    ToonResultaat(regels);
-    if (uitslag.fout)
-        MeldAfgebroken(uitslag);
-    else
-        MeldKoppeling(opdracht, uitslag);
-}
-
-void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppeluitslag& uitslag)
-{
-    const QString naam = NaarQString(opdracht.naam);
-    VergeetGekoppelde(opdracht);
-    if (!zwevenden_.empty())
-        lstSpelers->setFocus(); // for the next one
-    if (uitslag.aangepast.empty()) {
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. "
-                            "Misschien heeft een ander programma ze intussen gewijzigd.")
-                 .arg(naam));
-        return;
-    }
-    // Not arg: a name may hold a "%1" of its own.
-    const QString gekoppeld =
-        gezochtInCompetitie_
-            ? QString(naam + QStringLiteral(" is in alle competitie-zittingen gekoppeld (") +
-                      QString::number(opdracht.regels.size()) + QStringLiteral(" keer)"))
-            : QString(QStringLiteral("Speler ") + naam + QStringLiteral(" is gekoppeld."));
-    Meld(this, QMessageBox::Information, gekoppeld);
-}
-
-void frmKoppelNBBnr::MeldAfgebroken(const Koppeluitslag& uitslag)
-{
-    Meld(this, QMessageBox::Critical,
-         QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of "
-                        "nog zoals het was. Verhelp de oorzaak en koppel deze speler opnieuw; dan "
-                        "wordt de rest aangepast.\n\n") +
-             Hoeveel(uitslag.gewijzigd, QStringLiteral("Aangepast")) +
-             Opsomming(uitslag.gewijzigd) + QStringLiteral("\n\n") +
-             Hoeveel(uitslag.nietGewijzigd, QStringLiteral("Niet aangepast")) +
-             Opsomming(uitslag.nietGewijzigd) + QStringLiteral("\n\n") +
-             Bijzonderheden(*uitslag.fout));
-}
-
-/// The places that now hold the key leave the list; the next player becomes the chosen one only
-/// when the user picks him.
-void frmKoppelNBBnr::VergeetGekoppelde(const Koppelopdracht& opdracht)
-{
-    const Tekst plaats =
-        gezochtInCompetitie_ ? Tekst() : Plaatssleutel(opdracht.regels.front().vindplaats.code);
-    std::erase_if(zwevenden_, [&](const Zwevende& zwevende) {
-        return zwevende.vindplaats.naam == opdracht.naam &&
-               (gezochtInCompetitie_ || Plaatssleutel(zwevende.vindplaats.code) == plaats);
-    });
-    QStringList regels;
-    for (const Zwevende& zwevende : zwevenden_)
-        regels << NaarQString(Lijstregel(zwevende));
-    zwevendregels_->setStringList(regels);
-    lstSpelers->setCurrentIndex({});
-    lstRVDsp->setCurrentIndex({});
-    ToonZwevende();
-    ToonSpeler();
 }
 
 void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)

@@ -14,6 +14,8 @@
 #include <QRadioButton>
 #include <QStringListModel>
 
+#include <functional>
+
 #include "register/administratie.h"
 #include "sessions/koppelen.h"
 
@@ -43,9 +45,10 @@ class frmKoppelNBBnr : public QDialog {
     QWidget* BouwOnderkant();
     QListView* MaakLijst(const QString& naam, const QString& gesproken, QStringListModel* regels,
                          QWidget* ouder);
-    void Verbind();
     void StelTabvolgordeIn();
 
+    // Choosing (frmKoppelNBBnr.cpp)
+    void Verbind();
     void Laad();
     void KiesSoort();
     void VulSessies();
@@ -53,26 +56,29 @@ class frmKoppelNBBnr : public QDialog {
     void LeesRegister();
     void PlaatsKoppen();
     void KiesUitRegister();
-    void ZoekNamen();
-    void ToonGevonden(const Zoekuitslag& uitslag);
     void ToonZwevende();
     void ToonSpeler();
+    void ToonKnoppen();
+    void MeldFout(const QString& wat, const Fout& fout);
+    void ToonResultaat(const QStringList& regels);
+    /// Keeps the window alive during `werk` and shows how far it is when it takes long.
+    void Doe(bool magStoppen, const std::function<void(const Voortgang&)>& werk);
+    [[nodiscard]] Voortgang MaakVoortgang(bool magStoppen);
+    [[nodiscard]] bool InCompetities() const { return Option2->isChecked(); }
+    [[nodiscard]] const Zwevende* GekozenZwevende() const;
+    [[nodiscard]] const Koppelspeler* GekozenSpeler() const;
+
+    // Searching (frmKoppelNBBnr_zoeken.cpp)
+    void ZoekNamen();
+    void VulZwevenden();
+    void ToonGevonden(const Zoekuitslag& uitslag);
+    [[nodiscard]] Uitkomst<std::vector<Zittingplaats>> TeDoorzoeken() const;
+
+    // Linking (frmKoppelNBBnr_koppelen.cpp)
     void StartKoppelen();
     void MeldKoppeling(const Koppelopdracht& opdracht, const Koppeluitslag& uitslag);
     void MeldAfgebroken(const Koppeluitslag& uitslag);
     void VergeetGekoppelde(const Koppelopdracht& opdracht);
-    void ToonKnoppen();
-    void MeldFout(const QString& wat, const Fout& fout);
-    void ToonResultaat(const QStringList& regels);
-
-    /// Keeps the window alive during `werk` and shows how far it is when it takes long.
-    template <class Werk> auto Doe(bool magStoppen, Werk werk);
-    [[nodiscard]] Voortgang MaakVoortgang(bool magStoppen);
-
-    [[nodiscard]] bool InCompetities() const { return Option2->isChecked(); }
-    [[nodiscard]] Uitkomst<std::vector<Zittingplaats>> TeDoorzoeken() const;
-    [[nodiscard]] const Zwevende* GekozenZwevende() const;
-    [[nodiscard]] const Koppelspeler* GekozenSpeler() const;
 
     Administratie& administratie_;
     std::vector<Sessiemap> sessies_;

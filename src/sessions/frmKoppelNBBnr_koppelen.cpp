@@ -1,0 +1,115 @@
+// Linking the chosen floating player, and telling what came of it.
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
+#include "sessions/frmKoppelNBBnr.h"
+#include "sessions/tafelparen.h"
+
+namespace plexoran {
+namespace {
+
+constexpr int TeNoemenBestanden = 10;
+
+/// "- " before each file; of many only the first ones and how many more there are.
+QString Opsomming(const std::vector<std::string>& bestanden)
+{
+    QStringList uit;
+    for (const std::string& bestand : bestanden) {
+        if (uit.size() == TeNoemenBestanden) {
+            uit << QStringLiteral("... en nog %1").arg(bestanden.size() - TeNoemenBestanden);
+            break;
+        }
+        uit << QStringLiteral("- ") + QString::fromStdString(bestand);
+    }
+    return uit.isEmpty() ? QStringLiteral("- geen") : uit.join(QLatin1Char('\n'));
+}
+
+QString Hoeveel(const std::vector<std::string>& bestanden, const QString& wat)
+{
+    return wat + QStringLiteral(" (%1):\n").arg(bestanden.size());
+}
+
+} // namespace
+
+void frmKoppelNBBnr::StartKoppelen()
+{
+    if (!Vraag(this, QMessageBox::Information,
+               QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de "
+                              "betreffende zittingbestanden.\r\n\r\nKies OK of Annuleer.")))
+        return;
+    constexpr int lengteKey = 6;
+    const Koppelopdracht opdracht = MaakKoppelopdracht(
+        zwevenden_, static_cast<std::size_t>(GekozenZwevende() - zwevenden_.data()),
+        NaarTekst(txtRVDspeler->text().left(lengteKey)));
+    Koppeluitslag uitslag;
+    Doe(false, [&](const Voortgang& voortgang) {
+        uitslag = Koppel(administratie_.schijf, opdracht, voortgang);
+    });
+    QStringList regels;
+    const QString naam = NaarQString(opdracht.naam);
+    for (const Aangepast& aangepast : uitslag.aangepast)
+        regels << naam + QStringLiteral(" - ") + NaarQString(aangepast.code) +
+                      (aangepast.soort == Lijstsoort::Spelers
+                           ? QStringLiteral(" aangepast in Spelerbestand.")
+                           : QStringLiteral(" aangepast in Percentagebestand."));
+    for (const std::string& bestand : uitslag.nietGewijzigd)
+        regels << QStringLiteral("Niet aangepast: ") + QString::fromStdString(bestand);
+    ToonResultaat(regels);
+    if (uitslag.fout)
+        MeldAfgebroken(uitslag);
+    else
+        MeldKoppeling(opdracht, uitslag);
+}
+
+void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppeluitslag& uitslag)
+{
+    const QString naam = NaarQString(opdracht.naam);
+    VergeetGekoppelde(opdracht);
+    if (!zwevenden_.empty())
+        lstSpelers->setFocus(); // for the next one
+    if (uitslag.aangepast.empty()) {
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. "
+                            "Misschien heeft een ander programma ze intussen gewijzigd.")
+                 .arg(naam));
+        return;
+    }
+    // Not arg: a name may hold a "%1" of its own.
+    const QString gekoppeld =
+        gezochtInCompetitie_
+            ? QString(naam + QStringLiteral(" is in alle competitie-zittingen gekoppeld (") +
+                      QString::number(opdracht.regels.size()) + QStringLiteral(" keer)"))
+            : QString(QStringLiteral("Speler ") + naam + QStringLiteral(" is gekoppeld."));
+    Meld(this, QMessageBox::Information, gekoppeld);
+}
+
+void frmKoppelNBBnr::MeldAfgebroken(const Koppeluitslag& uitslag)
+{
+    Meld(this, QMessageBox::Critical,
+         QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of "
+                        "nog zoals het was. Verhelp de oorzaak en koppel deze speler opnieuw; dan "
+                        "wordt de rest aangepast.\n\n") +
+             Hoeveel(uitslag.gewijzigd, QStringLiteral("Aangepast")) +
+             Opsomming(uitslag.gewijzigd) + QStringLiteral("\n\n") +
+             Hoeveel(uitslag.nietGewijzigd, QStringLiteral("Niet aangepast")) +
+             Opsomming(uitslag.nietGewijzigd) + QStringLiteral("\n\n") +
+             Bijzonderheden(*uitslag.fout));
+}
+
+/// The places that now hold the key leave the list; the next player becomes the chosen one only
+/// when the user picks him.
+void frmKoppelNBBnr::VergeetGekoppelde(const Koppelopdracht& opdracht)
+{
+    const Tekst plaats =
+        gezochtInCompetitie_ ? Tekst() : Plaatssleutel(opdracht.regels.front().vindplaats.code);
+    std::erase_if(zwevenden_, [&](const Zwevende& zwevende) {
+        return zwevende.vindplaats.naam == opdracht.naam &&
+               (gezochtInCompetitie_ || Plaatssleutel(zwevende.vindplaats.code) == plaats);
+    });
+    VulZwevenden();
+    lstSpelers->setCurrentIndex({});
+    lstRVDsp->setCurrentIndex({});
+    ToonZwevende();
+    ToonSpeler();
+}
+
+} // namespace plexoran

@@ -1,0 +1,82 @@
+// Searching the floating players of a session or a competition.
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
+#include "sessions/frmKoppelNBBnr.h"
+
+namespace plexoran {
+
+Uitkomst<std::vector<Zittingplaats>> frmKoppelNBBnr::TeDoorzoeken() const
+{
+    const Mappen& mappen = administratie_.mappen;
+    const Tekst& naam = sessies_.at(static_cast<std::size_t>(cmbC->currentIndex())).naam;
+    if (InCompetities())
+        return ZittingenVan(administratie_.schijf, mappen, naam);
+    const Zittingplaats plaats = LosseZitting(mappen, naam);
+    const auto soort = administratie_.schijf.Soort(plaats.map);
+    if (!soort)
+        return tl::unexpected(soort.error());
+    if (*soort != Padsoort::Map)
+        return tl::unexpected(
+            Fout{Foutsoort::Ontbreekt, administratie_.schijf.Toonpad(plaats.map), 0, {}});
+    return std::vector{plaats};
+}
+
+void frmKoppelNBBnr::ZoekNamen()
+{
+    VergeetGevonden();
+    ToonResultaat({});
+    const auto zittingen = TeDoorzoeken();
+    if (!zittingen) {
+        MeldFout(zittingen.error().soort == Foutsoort::Ontbreekt
+                     ? QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze map is er "
+                                      "niet meer.")
+                     : QStringLiteral("Fout bij het zoeken van de zwevende spelers."),
+                 zittingen.error());
+        return;
+    }
+    gezochtInCompetitie_ = InCompetities();
+    Zoekuitslag uitslag;
+    Doe(true, [&](const Voortgang& voortgang) {
+        uitslag = ZoekZwevenden(administratie_.schijf, *zittingen, voortgang);
+    });
+    zwevenden_ = std::move(uitslag.zwevenden);
+    ToonGevonden(uitslag);
+}
+
+void frmKoppelNBBnr::VulZwevenden()
+{
+    QStringList regels;
+    for (const Zwevende& zwevende : zwevenden_)
+        regels << NaarQString(Lijstregel(zwevende));
+    zwevendregels_->setStringList(regels);
+}
+
+void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
+{
+    VulZwevenden();
+    Label11->setText(zwevenden_.empty() ? QStringLiteral("Geen zwevende spelers gevonden")
+                     : gezochtInCompetitie_
+                         ? QStringLiteral("Gevonden zwevende spelers in deze Competitie")
+                         : QStringLiteral("Gevonden zwevende spelers in deze Zitting"));
+    QStringList opmerkingen;
+    if (uitslag.gestopt)
+        opmerkingen << QStringLiteral("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.");
+    if (uitslag.overgeslagen > 0)
+        opmerkingen << QStringLiteral("Overgeslagen regels in de percentagebestanden, omdat ze "
+                                      "geen 7 velden hebben: %1.")
+                           .arg(uitslag.overgeslagen);
+    if (!zwevenden_.empty()) {
+        lstSpelers->setCurrentIndex(zwevendregels_->index(0)); // may have to say something of it
+        lstSpelers->setFocus();
+    }
+    if (!opmerkingen.isEmpty())
+        ToonResultaat(opmerkingen);
+    if (!uitslag.fouten.empty())
+        MeldFout(QStringLiteral("Fout bij het lezen van de zittingbestanden: %1 bestand(en) konden "
+                                "niet worden gelezen. De spelers daaruit staan niet in de lijst. "
+                                "Het eerste:")
+                     .arg(uitslag.fouten.size()),
+                 uitslag.fouten.front());
+}
+
+} // namespace plexoran
