@@ -15,7 +15,7 @@ frmImportNBB::frmImportNBB(Administratie& administratie, Importgeheugen& geheuge
 
 void frmImportNBB::reject()
 {
-    if (!bezig_)
+    if (!bezigheid_)
         QDialog::reject();
     else if (cmdStop->isVisible())
         Stop();

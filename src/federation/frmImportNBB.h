@@ -4,11 +4,8 @@
 
 #include <QCheckBox>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPointer>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -17,7 +14,9 @@
 
 #include "federation/ledenbestand.h"
 #include "federation/samenvoegen.h"
+#include "platform/scherm/bezigheid.h"
 #include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/voortgangsbalk.h"
 #include "register/administratie.h"
 
 namespace plexoran {
@@ -95,10 +94,8 @@ class frmImportNBB : public QDialog {
     Pad LedenDatabase_;
     std::vector<Tekst> namen_; ///< the entries of lstNBBbest
     bool ietsGewijzigd_ = false;
-    bool bezig_ = false;
-    bool gestopt_ = false; ///< the user asked the run to stop
-    QElapsedTimer laatsteMelding_;
-    QPointer<QWidget> focus_; ///< what had the focus when the run began
+    bool gestopt_ = false;               ///< the user asked the run to stop
+    std::optional<Bezigheid> bezigheid_; ///< while an import runs
 
     QWidget* inhoud_ = nullptr; ///< all that cannot be used while an import runs
     QLabel* lblOpening = nullptr;
@@ -125,7 +122,7 @@ class frmImportNBB : public QDialog {
     QPushButton* cmdHelpImport4 = nullptr;
     QPushButton* cmbHelpCSV = nullptr;
     QLabel* lblVoortgang = nullptr;
-    QProgressBar* prgVoortgang = nullptr;
+    Voortgangsbalk* prgVoortgang = nullptr;
     QPushButton* cmdStop = nullptr;
     QPushButton* cmdAnnuleren = nullptr;
     QPushButton* cmdImporteer = nullptr;

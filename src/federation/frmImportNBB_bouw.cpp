@@ -256,8 +256,7 @@ QWidget* frmImportNBB::BouwOnderkant()
     auto* onder = new QWidget(this);
     lblVoortgang = MaakLabel(QStringLiteral("lblVoortgang"), QString(), onder);
     lblVoortgang->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    prgVoortgang = new QProgressBar(onder);
-    Noem(prgVoortgang, QStringLiteral("prgVoortgang"), QStringLiteral("Voortgang"));
+    prgVoortgang = new Voortgangsbalk(QStringLiteral("prgVoortgang"), onder);
     auto* rij = new QHBoxLayout(onder);
     rij->setContentsMargins(0, 0, 0, 0);
     rij->addWidget(lblVoortgang, 1);

@@ -11,8 +11,6 @@
 namespace plexoran {
 namespace {
 
-constexpr int MeldElke = 40; // ms between two looks at the window
-
 /// The lines as they stand, each with CR LF. Only what no member file holds is cut, since drawing
 /// it would take minutes.
 template <class Reeks> QString Toonbaar(const Reeks& regels)
@@ -39,40 +37,29 @@ template <class Reeks> QString Toonbaar(const Reeks& regels)
 /// While a run lasts nothing can be used but the button that stops it.
 void frmImportNBB::ZetBezig(bool bezig)
 {
-    bezig_ = bezig;
     if (bezig) {
         gestopt_ = false;
-        focus_ = focusWidget();
+        bezigheid_.emplace(*this, std::vector<QWidget*>{inhoud_, cmdAnnuleren, cmdImporteer});
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     } else {
         QGuiApplication::restoreOverrideCursor();
     }
-    inhoud_->setEnabled(!bezig);
-    cmdAnnuleren->setEnabled(!bezig);
-    cmdImporteer->setEnabled(!bezig);
     cmdStop->setEnabled(bezig);
     for (QWidget* deel : std::initializer_list<QWidget*>{lblVoortgang, prgVoortgang, cmdStop})
         deel->setVisible(bezig);
-    if (!bezig && focus_ != nullptr)
-        focus_->setFocus();
+    if (!bezig)
+        bezigheid_.reset();
 }
 
 /// Shows how far the work is and lets the window live. The answer is whether it may go on.
 Voortgang frmImportNBB::MaakVoortgang(const QString& wat)
 {
     lblVoortgang->setText(wat);
-    prgVoortgang->setRange(0, 0);
-    laatsteMelding_.start();
+    prgVoortgang->Begin();
     QCoreApplication::processEvents();
     return [this](std::size_t gedaan, std::size_t geheel) {
-        if (laatsteMelding_.elapsed() >= MeldElke) {
-            constexpr std::size_t fijn = 1000;
-            prgVoortgang->setRange(0, geheel == 0 ? 0 : static_cast<int>(fijn));
-            if (geheel != 0)
-                prgVoortgang->setValue(static_cast<int>(gedaan * fijn / geheel));
+        if (prgVoortgang->Zet(gedaan, geheel))
             QCoreApplication::processEvents();
-            laatsteMelding_.start();
-        }
         return !gestopt_;
     };
 }
@@ -88,8 +75,7 @@ void frmImportNBB::Stop()
 void frmImportNBB::ToonGereed(const QString& wat)
 {
     lblVoortgang->setText(wat);
-    prgVoortgang->setRange(0, 1);
-    prgVoortgang->setValue(1);
+    prgVoortgang->Rust();
 }
 
 void frmImportNBB::ImporteerLedenbestanden()

@@ -11,6 +11,7 @@
 
 #include "platform/klok.h"
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/bezigheid.h"
 #include "platform/scherm/bouwstenen.h"
 #include "register/spelerbestand.h"
 
@@ -243,42 +244,33 @@ void frmKoppelNBBnr::ToonKnoppen()
 
 Voortgang frmKoppelNBBnr::MaakVoortgang(bool magStoppen)
 {
-    sinds_.start();
-    sindsBeeld_.start();
+    prgVoortgang->Begin();
     return [this, magStoppen](std::size_t gedaan, std::size_t geheel) {
         constexpr int geduld = 300;
-        constexpr int beeld = 40;
-        if (sindsBeeld_.elapsed() < beeld)
-            return true;
-        sindsBeeld_.start();
-        prgVoortgang->setRange(0, static_cast<int>(geheel));
-        prgVoortgang->setValue(static_cast<int>(gedaan));
-        if (sinds_.elapsed() > geduld) {
-            prgVoortgang->show();
-            cmdStop->setVisible(magStoppen);
+        if (prgVoortgang->Zet(gedaan, geheel)) {
+            if (prgVoortgang->Duur() > geduld) {
+                prgVoortgang->show();
+                cmdStop->setVisible(magStoppen);
+            }
+            QApplication::processEvents();
         }
-        QApplication::processEvents();
         return !(magStoppen && stop_);
     };
 }
 
 void frmKoppelNBBnr::Doe(bool magStoppen, const std::function<void(const Voortgang&)>& werk)
 {
-    QWidget* const had = focusWidget();
     const auto zetBezig = [this](bool bezig) {
         bezig_ = bezig;
-        for (QWidget* deel : std::initializer_list<QWidget*>{Frame1, Frame2, Frame4, cmdEinde})
-            deel->setEnabled(!bezig);
         ToonKnoppen();
     };
+    const Bezigheid bezigheid(*this, {Frame1, Frame2, Frame4, cmdEinde});
     stop_ = false;
     zetBezig(true);
     werk(MaakVoortgang(magStoppen));
     prgVoortgang->hide();
     cmdStop->hide();
     zetBezig(false);
-    if (had != nullptr)
-        had->setFocus();
 }
 
 void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)

@@ -4,18 +4,17 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStringListModel>
 
 #include <functional>
 
+#include "platform/scherm/voortgangsbalk.h"
 #include "register/administratie.h"
 #include "sessions/koppelen.h"
 
@@ -90,8 +89,6 @@ class frmKoppelNBBnr : public QDialog {
     bool geladen_ = false;
     bool bezig_ = false;
     bool stop_ = false;
-    QElapsedTimer sinds_;
-    QElapsedTimer sindsBeeld_;
 
     QStringListModel* zwevendregels_ = nullptr;
     QStringListModel* spelerregels_ = nullptr;
@@ -117,7 +114,7 @@ class frmKoppelNBBnr : public QDialog {
     QLineEdit* txtRVDspeler = nullptr;
     QPushButton* cmdStartKoppelen = nullptr;
     QLabel* lblResultaat = nullptr;
-    QProgressBar* prgVoortgang = nullptr;
+    Voortgangsbalk* prgVoortgang = nullptr;
     QPushButton* cmdStop = nullptr;
     QPushButton* cmdEinde = nullptr;
 };

@@ -244,8 +244,7 @@ QWidget* frmKoppelNBBnr::BouwOnderkant()
                  QStringLiteral("OK als dit identieke spelers zijn ..."), u'O', onder);
     cmdStop = MaakKnop(QStringLiteral("cmdStop"), QStringLiteral("Stoppen"), u'S', onder);
     cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Einde"), u'E', onder);
-    prgVoortgang = new QProgressBar(onder);
-    Noem(prgVoortgang, QStringLiteral("prgVoortgang"), QStringLiteral("Voortgang"));
+    prgVoortgang = new Voortgangsbalk(QStringLiteral("prgVoortgang"), onder);
     prgVoortgang->hide();
     cmdStop->hide();
     auto* vlak = new Tekstvlak(4, 2, onder);

@@ -11,19 +11,16 @@ namespace plexoran {
 namespace {
 
 constexpr qint64 TotInBeeld = 500; // milliseconds
-constexpr qint64 Tussenpoos = 40;
-constexpr int Schaal = 1000; // of the bar: counts may exceed what it can hold
 
 } // namespace
 
 frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder)
     : QWidget(ouder, Qt::Dialog), lblTekst(MaakLabel(QStringLiteral("lblTekst"), tekst, this)),
-      balk(new QProgressBar(this))
+      balk(new Voortgangsbalk(QStringLiteral("balk"), this))
 {
     setObjectName(QStringLiteral("frmVoortgang"));
     setWindowTitle(QStringLiteral("Plexoran"));
     setWindowModality(Qt::ApplicationModal);
-    Noem(balk, QStringLiteral("balk"), QStringLiteral("Voortgang"));
     auto* lagen = new QVBoxLayout(this);
     lagen->addWidget(lblTekst);
     lagen->addWidget(balk);
@@ -35,7 +32,6 @@ frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* o
     }
     const Maten maten;
     setMinimumWidth(maten.Twips(5400));
-    sinds_.start();
 }
 
 void frmVoortgang::ZetTekst(const QString& tekst)
@@ -45,15 +41,10 @@ void frmVoortgang::ZetTekst(const QString& tekst)
 
 bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
 {
-    const qint64 nu = sinds_.elapsed();
-    if (nu < TotInBeeld || (isVisible() && nu - getoond_ < Tussenpoos))
-        return !gestopt_;
-    getoond_ = nu;
-    balk->setRange(0, geheel == 0 ? 0 : Schaal); // without a whole the bar just moves
-    if (geheel > 0)
-        balk->setValue(static_cast<int>(Schaal * gedaan / geheel));
-    show();
-    QApplication::processEvents();
+    if (balk->Duur() >= TotInBeeld && balk->Zet(gedaan, geheel)) {
+        show();
+        QApplication::processEvents();
+    }
     return !gestopt_;
 }
 

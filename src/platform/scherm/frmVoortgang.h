@@ -2,11 +2,10 @@
 // while it stands there the program goes on painting but takes no other command.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 
+#include "platform/scherm/voortgangsbalk.h"
 #include "platform/voortgang.h"
 
 namespace plexoran {
@@ -35,10 +34,8 @@ class frmVoortgang : public QWidget {
     void Stop();
 
     QLabel* lblTekst;
-    QProgressBar* balk;
+    Voortgangsbalk* balk;
     QPushButton* cmdStop = nullptr; ///< none where stopping is not safe
-    QElapsedTimer sinds_;           ///< the work began
-    qint64 getoond_ = 0;            ///< when the figures were last shown, in milliseconds
     bool gestopt_ = false;
 };
 
