@@ -81,7 +81,7 @@ void diaToevoegen::Bouw()
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, OKButton}));
     const Maten maten;
-    resize(maten.Twips(7500), maten.Twips(7800));
+    PasInScherm(this, {maten.Twips(7500), maten.Twips(7800)});
     ZetTabvolgorde({Combo1, cmdLeesSpelers, lstN2, cmdStart, cmdAnnuleren, OKButton});
 }
 

@@ -1,5 +1,7 @@
 #include "dialogs/diaToevoegen.h"
 
+#include <QScreen>
+
 #include <limits>
 
 #include "hulp/berichtwachter.h"
@@ -8,6 +10,7 @@
 #include "hulp/venstergrepen.h"
 #include "platform/echteSchijf.h"
 #include "platform/falendeSchijf.h"
+#include "platform/scherm/maten.h"
 
 using namespace plexoran;
 
@@ -98,6 +101,23 @@ TEST_F(diaToevoegenTest, DeTeksten)
     EXPECT_EQ("Deze spelers toevoegen aan het ledenbestand", Opschrift(Knop("cmdStart")));
     EXPECT_EQ("Klaar en opslaan", Opschrift(Knop("OKButton")));
     EXPECT_EQ("Annuleren", Opschrift(Knop("cmdAnnuleren")));
+}
+
+TEST_F(diaToevoegenTest, OokMetGroteLettersPastHetVensterOpHetScherm)
+{
+    const QFont oud = QApplication::font();
+    QFont groot = oud;
+    groot.setPointSizeF(18);
+    QApplication::setFont(groot);
+    Open();
+    EXPECT_LT(venster->height(), venster->screen()->availableSize().height());
+    EXPECT_GT(venster->property(Standaardmaat).toSize().height(), venster->height());
+    for (const char* naam : {"cmdAnnuleren", "OKButton", "cmdStart", "Label2"}) {
+        auto* deel = Vind<QWidget>(*venster, naam);
+        EXPECT_EQ(deel->rect(), deel->visibleRegion().boundingRect()) << naam;
+    }
+    venster.reset();
+    QApplication::setFont(oud);
 }
 
 TEST_F(diaToevoegenTest, DeEersteZittingMetDeLijstUitDeZustermap)
