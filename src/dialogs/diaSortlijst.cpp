@@ -243,35 +243,9 @@ void diaSortlijst::wheelEvent(QWheelEvent* gebeurtenis)
 
 void diaSortlijst::keyPressEvent(QKeyEvent* gebeurtenis)
 {
-    // Not by handing the key on: a scroll bar that is disabled would hand it back for ever.
-    switch (gebeurtenis->key()) {
-    case Qt::Key_Up:
-        VScroll1->triggerAction(QScrollBar::SliderSingleStepSub);
-        break;
-    case Qt::Key_Down:
-        VScroll1->triggerAction(QScrollBar::SliderSingleStepAdd);
-        break;
-    case Qt::Key_Left:
-        HScroll1->triggerAction(QScrollBar::SliderSingleStepSub);
-        break;
-    case Qt::Key_Right:
-        HScroll1->triggerAction(QScrollBar::SliderSingleStepAdd);
-        break;
-    case Qt::Key_PageUp:
-        VScroll1->triggerAction(QScrollBar::SliderPageStepSub);
-        break;
-    case Qt::Key_PageDown:
-        VScroll1->triggerAction(QScrollBar::SliderPageStepAdd);
-        break;
-    case Qt::Key_Home:
-        VScroll1->triggerAction(QScrollBar::SliderToMinimum);
-        break;
-    case Qt::Key_End:
-        VScroll1->triggerAction(QScrollBar::SliderToMaximum);
-        break;
-    default:
+    const int toets = gebeurtenis->key();
+    if (!Verschuif(*VScroll1, toets) && !VerschuifOpzij(*HScroll1, toets))
         QDialog::keyPressEvent(gebeurtenis);
-    }
 }
 
 } // namespace plexoran

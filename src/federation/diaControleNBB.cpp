@@ -276,40 +276,22 @@ void diaControleNBB::Print()
         return;
     const Controlerijen rijen =
         Rijen(TekensNaastElkaar(kast_, controleblad::Breed - 2 * controleblad::Marge));
-    const auto printer = KiesPrinter(administratie_.schijf,
-                                     {.titel = QStringLiteral("Controle NBB-spelers"),
-                                      .stand = Papierstand::Staand,
-                                      .bladen = ControlebladenVoor(rijen.Aantal())},
-                                     this);
+    const int bladen = ControlebladenVoor(rijen.Aantal());
+    const auto titel = QStringLiteral("Controle NBB-spelers");
+    const auto printer =
+        KiesPrinter(administratie_.schijf,
+                    {.titel = titel, .stand = Papierstand::Staand, .bladen = bladen}, this);
     if (!printer)
         return;
-    if (const auto uitkomst = PrintBladen(*printer, rijen); !uitkomst)
+    const Drukwerk werk{
+        .titel = titel,
+        .stand = Papierstand::Staand,
+        .bezig = QStringLiteral("De lijst wordt geprint"),
+        .teken = [&](Tekenvlak& vlak, int blad) { TekenControleblad(vlak, rijen, blad, bladen); }};
+    if (const auto uitkomst = PrintBladen(*printer, werk, printer->Keus().Bladen(bladen, 1), this);
+        !uitkomst)
         MeldPrintfout(this, uitkomst.error());
     Teken();
-}
-
-/// Stopping lets the page that is being drawn be the last; what was drawn comes out.
-Uitkomst<void> diaControleNBB::PrintBladen(const Printer& printer, const Controlerijen& rijen)
-{
-    const int bladen = ControlebladenVoor(rijen.Aantal());
-    const std::vector<int> keus = printer.Keus().Bladen(bladen, 1);
-    if (keus.empty())
-        return {};
-    frmVoortgang voortgang(QStringLiteral("De lijst wordt geprint"),
-                           QStringLiteral("&Stoppen na dit blad"), this);
-    auto taak = printer.Begin(Papierstand::Staand, QStringLiteral("Controle NBB-spelers"));
-    if (!taak)
-        return tl::unexpected(taak.error());
-    for (std::size_t i = 0; i < keus.size(); ++i) {
-        if (i > 0) {
-            if (auto nieuw = (*taak)->NieuwBlad(); !nieuw)
-                return nieuw;
-        }
-        TekenControleblad((*taak)->Vlak(), rijen, keus[i], bladen);
-        if (!voortgang.Meld(i + 1, keus.size()))
-            break;
-    }
-    return (*taak)->Eind();
 }
 
 } // namespace plexoran

@@ -17,9 +17,6 @@
 
 namespace plexoran {
 
-class frmVoortgang;
-class Printer;
-
 /// The surface `P1`: the heading, and the rows from one on as far as they are seen.
 class Controlevlak : public QWidget {
   public:
@@ -67,7 +64,6 @@ class diaControleNBB : public QDialog {
     [[nodiscard]] Controlerijen Rijen(std::size_t breedte) const;
     void Teken();
     void Print();
-    [[nodiscard]] Uitkomst<void> PrintBladen(const Printer& printer, const Controlerijen& rijen);
     void ZetSchuifbalk();
 
     Administratie& administratie_;

@@ -52,6 +52,17 @@ tl::unexpected<Fout> Mislukt(const Pad& pad, std::errc oorzaak)
     return tl::unexpected(Fout{soort, NaarUtf8(pad), 0, std::make_error_code(oorzaak).message()});
 }
 
+/// Of what stands in this folder, as it was written.
+template <class Lijst> std::vector<Tekst> NamenUit(const Lijst& lijst, const Tekst& map)
+{
+    std::vector<Tekst> uit;
+    for (const auto& [sleutel, wat] : lijst) {
+        if (MapVan(sleutel) == map)
+            uit.push_back(NaamIn(wat.pad));
+    }
+    return uit;
+}
+
 } // namespace
 
 class GeheugenSchijf::GeheugenSchrijver : public Schrijver {
@@ -192,12 +203,7 @@ Uitkomst<std::vector<Tekst>> GeheugenSchijf::Bestanden(const Pad& map)
     const Tekst gezocht = Sleutel(map);
     if (!IsMap(gezocht))
         return Mislukt(map, std::errc::no_such_file_or_directory);
-    std::vector<Tekst> uit;
-    for (const auto& [sleutel, naam] : namen_) {
-        if (MapVan(sleutel) == gezocht)
-            uit.push_back(NaamIn(naam.pad));
-    }
-    return uit;
+    return NamenUit(namen_, gezocht);
 }
 
 Uitkomst<std::vector<Tekst>> GeheugenSchijf::Mappen(const Pad& map)
@@ -205,12 +211,7 @@ Uitkomst<std::vector<Tekst>> GeheugenSchijf::Mappen(const Pad& map)
     const Tekst gezocht = Sleutel(map);
     if (!IsMap(gezocht))
         return Mislukt(map, std::errc::no_such_file_or_directory);
-    std::vector<Tekst> uit;
-    for (const auto& [sleutel, onder] : mappen_) {
-        if (MapVan(sleutel) == gezocht)
-            uit.push_back(NaamIn(onder.pad));
-    }
-    return uit;
+    return NamenUit(mappen_, gezocht);
 }
 
 Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)

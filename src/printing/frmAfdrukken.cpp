@@ -8,7 +8,6 @@
 #include "platform/klok.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/printer.h"
 #include "register/groepscode.h"
 
@@ -188,10 +187,7 @@ bool frmAfdrukken::Verwerk(const QKeyEvent& toets)
         return ctrl;
     case Qt::Key_Left:
     case Qt::Key_Right:
-        picP0->Liggend().triggerAction(toets.key() == Qt::Key_Left
-                                           ? QScrollBar::SliderSingleStepSub
-                                           : QScrollBar::SliderSingleStepAdd);
-        return true;
+        return VerschuifOpzij(picP0->Liggend(), toets.key());
     case Qt::Key_Up:
     case Qt::Key_Down:
         return Verschuif(picP0->Staand(), toets.key());
@@ -218,31 +214,14 @@ void frmAfdrukken::Print()
                                      this);
     if (!printer)
         return;
+    const Drukwerk werk{
+        .titel = Titel(),
+        .stand = indeling.papier.stand,
+        .bezig = QStringLiteral("De bladen worden geprint"),
+        .teken = [this](Tekenvlak& vlak, int blad) { TekenBlad(vlak, lijst_, blad); }};
     const auto bladen = printer->Keus().Bladen(indeling.ToonbareBladen(), Bladscroll->value());
-    if (const auto uitkomst = PrintBladen(*printer, bladen); !uitkomst)
+    if (const auto uitkomst = PrintBladen(*printer, werk, bladen, this); !uitkomst)
         MeldPrintfout(this, uitkomst.error());
-}
-
-/// Stopping lets the page that is being drawn be the last; what was drawn comes out.
-Uitkomst<void> frmAfdrukken::PrintBladen(const Printer& printer, const std::vector<int>& bladen)
-{
-    if (bladen.empty())
-        return {};
-    frmVoortgang voortgang(QStringLiteral("De bladen worden geprint"),
-                           QStringLiteral("&Stoppen na dit blad"), this);
-    auto taak = printer.Begin(lijst_.indeling.papier.stand, Titel());
-    if (!taak)
-        return tl::unexpected(taak.error());
-    for (std::size_t i = 0; i < bladen.size(); ++i) {
-        if (i > 0) {
-            if (auto nieuw = (*taak)->NieuwBlad(); !nieuw)
-                return nieuw;
-        }
-        TekenBlad((*taak)->Vlak(), lijst_, bladen[i]);
-        if (!voortgang.Meld(i + 1, bladen.size()))
-            break;
-    }
-    return (*taak)->Eind();
 }
 
 } // namespace plexoran

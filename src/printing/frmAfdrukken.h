@@ -13,8 +13,6 @@
 
 namespace plexoran {
 
-class Printer;
-
 /// What the set-up hands over.
 struct Afdruk {
     Printtabel tabel;
@@ -44,8 +42,6 @@ class frmAfdrukken : public QDialog {
     void ToonBlad(int blad);
     [[nodiscard]] bool Verwerk(const QKeyEvent& toets);
     void Print();
-    [[nodiscard]] Uitkomst<void> PrintBladen(const Printer& printer,
-                                             const std::vector<int>& bladen);
     [[nodiscard]] QString Titel() const;
 
     Administratie& administratie_;

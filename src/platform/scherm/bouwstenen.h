@@ -104,6 +104,16 @@ inline bool Verschuif(QScrollBar& balk, int toets)
     }
 }
 
+/// The same for the keys that scroll sideways.
+inline bool VerschuifOpzij(QScrollBar& balk, int toets)
+{
+    if (toets != Qt::Key_Left && toets != Qt::Key_Right)
+        return false;
+    balk.triggerAction(toets == Qt::Key_Left ? QScrollBar::SliderSingleStepSub
+                                             : QScrollBar::SliderSingleStepAdd);
+    return true;
+}
+
 /// Fills a drop-down anew, silently, and selects its first entry.
 inline void VulKeus(QComboBox& keus, const std::vector<Tekst>& teksten)
 {

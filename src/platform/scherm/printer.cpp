@@ -8,6 +8,7 @@
 
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/frmVoortgang.h"
 
 namespace plexoran {
 namespace {
@@ -91,6 +92,27 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWid
         return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()),
                        std::move(keus));
     return Printer(std::move(printer), std::move(keus));
+}
+
+Uitkomst<void> PrintBladen(const Printer& printer, const Drukwerk& werk,
+                           const std::vector<int>& bladen, QWidget* ouder)
+{
+    if (bladen.empty())
+        return {};
+    frmVoortgang voortgang(werk.bezig, QStringLiteral("&Stoppen na dit blad"), ouder);
+    auto taak = printer.Begin(werk.stand, werk.titel);
+    if (!taak)
+        return tl::unexpected(taak.error());
+    for (std::size_t i = 0; i < bladen.size(); ++i) {
+        if (i > 0) {
+            if (auto nieuw = (*taak)->NieuwBlad(); !nieuw)
+                return nieuw;
+        }
+        werk.teken((*taak)->Vlak(), bladen[i]);
+        if (!voortgang.Meld(i + 1, bladen.size()))
+            break;
+    }
+    return (*taak)->Eind();
 }
 
 Uitkomst<Printer> StandaardPrinter()

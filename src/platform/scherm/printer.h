@@ -1,6 +1,7 @@
 // Choosing a printer. A PDF file counts as one and stands among the printers of the dialog.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -51,6 +52,19 @@ struct Printvraag {
 /// The print dialog of the system; nothing when the user cancels it.
 [[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
                                                  QWidget* ouder);
+
+/// Pages that are all printed in one job.
+struct Drukwerk {
+    QString titel; ///< names the job
+    Papierstand stand;
+    QString bezig; ///< what the progress window says
+    std::function<void(Tekenvlak& vlak, int blad)> teken;
+};
+
+/// Draws these pages one after another and hands them over; without pages nothing happens. Stopping
+/// lets the page that is being drawn be the last; what was drawn comes out.
+[[nodiscard]] Uitkomst<void> PrintBladen(const Printer& printer, const Drukwerk& werk,
+                                         const std::vector<int>& bladen, QWidget* ouder);
 
 /// The default printer of the system; `Ontbreekt` when there is none.
 [[nodiscard]] Uitkomst<Printer> StandaardPrinter();
