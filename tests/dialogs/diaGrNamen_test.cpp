@@ -3,12 +3,7 @@
 #include <QWheelEvent>
 #include <QtTest/qtestspontaneevent.h>
 
-#include <memory>
-
-#include <gtest/gtest.h>
-
-#include "hulp/berichtwachter.h"
-#include "hulp/venstergrepen.h"
+#include "hulp/dialoogproef.h"
 
 using namespace plexoran;
 
@@ -16,30 +11,22 @@ namespace {
 
 const QString kommas = QStringLiteral("Komma's worden veranderd in Underscores. (_)");
 
-class diaGrNamenTest : public testing::Test {
+struct Groepstand {
+    Groepen groepen;
+};
+
+class diaGrNamenTest : public Dialoogproef<diaGrNamen, Groepstand> {
   protected:
     diaGrNamenTest()
     {
         groepen.ZetNaam(1, "Clubleden");
         groepen.ZetNaam(8, "Introduc\xE9s");
         groepen.ZetNaam(50, " laatste ");
-        hoofd.show();
     }
-    ~diaGrNamenTest() override { wachter.Klaar(); }
 
-    void Open()
-    {
-        venster.reset();
-        venster = std::make_unique<diaGrNamen>(groepen, &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-    }
+    void Open() { Toon(groepen); }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
 
-    template <class T> [[nodiscard]] T* Deel(const std::string& naam) const
-    {
-        return Vind<T>(*venster, naam.c_str());
-    }
     [[nodiscard]] Tekstvak* Vak(int nummer) const
     {
         return Deel<Tekstvak>("txt1_" + std::to_string(nummer));
@@ -55,11 +42,6 @@ class diaGrNamenTest : public testing::Test {
         const auto* P0 = Deel<QWidget>("P0");
         return P0->rect().contains({vak->mapTo(P0, QPoint()), vak->size()});
     }
-
-    Groepen groepen;
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<diaGrNamen> venster;
 };
 
 } // namespace

@@ -51,9 +51,9 @@ TEST_F(diaKopieerTest, DeTeksten)
 {
     EXPECT_EQ("Kopieer speler(s) naar een andere groep", venster->windowTitle().toStdString());
     EXPECT_EQ("Spelers kopiëren", Deel<QGroupBox>("Frame1")->title().toStdString());
-    EXPECT_EQ("Uit spelergroep:", Labeltekst("Label4"));
-    EXPECT_EQ("Selecteer de spelers(s) ", Labeltekst("Label1"));
-    EXPECT_EQ("Kopieer hen naar groep:", Labeltekst("Label2"));
+    EXPECT_EQ("Uit spelergroep:", Label("Label4"));
+    EXPECT_EQ("Selecteer de spelers(s) ", Label("Label1"));
+    EXPECT_EQ("Kopieer hen naar groep:", Label("Label2"));
     EXPECT_EQ("Selecteer alles", Opschrift(Knop("cmdSelAll")));
     EXPECT_EQ("Selecteer niets", Opschrift(Knop("cmdSelNone")));
     EXPECT_EQ("Kopieer", Opschrift(Knop("cmdOK")));
@@ -71,7 +71,7 @@ TEST_F(diaKopieerTest, DeOpschriftenHangenVanDeBronAf)
                   Opschrift(Vink("chkNBBgrOok")));
         EXPECT_EQ(import ? "Selecteer de spelers van 'NBBgroep':"
                          : "Selecteer de spelers van 'Subgroep':",
-                  Labeltekst("Label3"));
+                  Label("Label3"));
         EXPECT_EQ(import, Vink("chkNBBnrOok")->isVisible());
         EXPECT_EQ("NBBnummer ook kopieren", Opschrift(Vink("chkNBBnrOok")));
         // Meant: the number is never copied through this screen.

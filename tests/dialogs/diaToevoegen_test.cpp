@@ -4,12 +4,9 @@
 
 #include <limits>
 
-#include "hulp/berichtwachter.h"
-#include "hulp/proefsuite.h"
+#include "hulp/dialoogproef.h"
+#include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
-#include "hulp/venstergrepen.h"
-#include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
 #include "platform/scherm/maten.h"
 
 using namespace plexoran;
@@ -25,33 +22,13 @@ const QString OudeKeys =
                    "verwijderd.");
 
 /// The real dialog on a copy of the sample suite.
-class diaToevoegenTest : public testing::Test {
+class diaToevoegenTest : public Dialoogproef<diaToevoegen, Suitestand> {
   protected:
-    diaToevoegenTest()
-    {
-        administratie.mappen = LeesMappenIni(echteSchijf, suite.MappenIni()).value();
-        (void)LeesSpelers(echteSchijf, administratie.mappen, administratie.spelers);
-        hoofd.show();
-    }
-    ~diaToevoegenTest() override { wachter.Klaar(); }
+    diaToevoegenTest() { LeesRegister(); }
 
-    void Open()
-    {
-        venster = std::make_unique<diaToevoegen>(administratie, &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(venster.get()));
-        QApplication::processEvents();
-    }
+    void Open() { ToonEnLees(administratie); }
 
-    [[nodiscard]] QPushButton* Knop(const char* naam) const
-    {
-        return Vind<QPushButton>(*venster, naam);
-    }
     [[nodiscard]] QComboBox* Keus() const { return Vind<QComboBox>(*venster, "Combo1"); }
-    [[nodiscard]] std::string Label(const char* naam) const
-    {
-        return Vind<QLabel>(*venster, naam)->text().toStdString();
-    }
     [[nodiscard]] Teksten Namen() const
     {
         Teksten uit;
@@ -71,15 +48,6 @@ class diaToevoegenTest : public testing::Test {
     {
         wachter.Informatie(QStringLiteral("Er worden geen spelers toegevoegd."));
     }
-
-    Proefsuite suite;
-    Proefwinkel winkel;
-    EchteSchijf echteSchijf;
-    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<diaToevoegen> venster;
 };
 
 const std::string Verslag = "N01 100172 - 100173\r\nN02 100174 - 100175\r\nN03 100176 - 0\r\n"

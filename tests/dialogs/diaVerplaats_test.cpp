@@ -17,10 +17,10 @@ class diaVerplaatsTest : public Groepsproef<diaVerplaats> {};
 TEST_F(diaVerplaatsTest, DeTeksten)
 {
     EXPECT_EQ("Verplaats speler(s) naar een andere groep", venster->windowTitle().toStdString());
-    EXPECT_EQ("Selecteer de spelers(s) ", Labeltekst("Label1"));
-    EXPECT_EQ("Verplaats hen naar de volgende groep:", Labeltekst("Label2"));
-    EXPECT_EQ("Spelers van 'Gr05-' kunnen niet worden verplaatst. ", Labeltekst("Label3"));
-    EXPECT_EQ("Spelers mogen wel naar groep 'Gr05-' worden verplaatst.", Labeltekst("Label4"));
+    EXPECT_EQ("Selecteer de spelers(s) ", Label("Label1"));
+    EXPECT_EQ("Verplaats hen naar de volgende groep:", Label("Label2"));
+    EXPECT_EQ("Spelers van 'Gr05-' kunnen niet worden verplaatst. ", Label("Label3"));
+    EXPECT_EQ("Spelers mogen wel naar groep 'Gr05-' worden verplaatst.", Label("Label4"));
     EXPECT_EQ("Selecteer alles", Opschrift(Knop("cmdSelAll")));
     EXPECT_EQ("Selecteer niets", Opschrift(Knop("cmdSelNone")));
     EXPECT_EQ("Verplaats", Opschrift(Knop("cmdOK")));
@@ -39,7 +39,7 @@ TEST_F(diaVerplaatsTest, DeImportgroepStaatNietInDeLijst)
     administratie.mappen.DFIMPG = "Gr01-";
     Open();
     EXPECT_EQ(3, Lijst()->Aantal());
-    EXPECT_EQ("Spelers van 'Gr05-' kunnen niet worden verplaatst. ", Labeltekst("Label3"));
+    EXPECT_EQ("Spelers van 'Gr05-' kunnen niet worden verplaatst. ", Label("Label3"));
 }
 
 TEST_F(diaVerplaatsTest, ZonderKeuzeKanErNietVerplaatstWorden)

@@ -37,9 +37,9 @@ TEST_F(frmVerwSubgroepTest, DeTeksten)
 {
     EXPECT_EQ("Verwijderen van een subgroep", venster->windowTitle().toStdString());
     EXPECT_EQ("Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep.",
-              Labeltekst("Label2"));
-    EXPECT_EQ("Verwijder ALLE spelers ", Labeltekst("Label1"));
-    EXPECT_EQ("uit deze Spelergroep:", Labeltekst("Label4"));
+              Label("Label2"));
+    EXPECT_EQ("Verwijder ALLE spelers ", Label("Label1"));
+    EXPECT_EQ("uit deze Spelergroep:", Label("Label4"));
     EXPECT_EQ("Verwijderen ...", Opschrift(Knop("cmdVerwijder")));
     EXPECT_EQ("Terug", Opschrift(Knop("cmdEinde")));
     VerwachtAlleGroepen("cmbRVDgr");
@@ -47,15 +47,15 @@ TEST_F(frmVerwSubgroepTest, DeTeksten)
 
 TEST_F(frmVerwSubgroepTest, DeSubgroepenVanDeGroep)
 {
-    EXPECT_EQ("met deze SUBgroep:", Labeltekst("Label3"));
+    EXPECT_EQ("met deze SUBgroep:", Label("Label3"));
     EXPECT_EQ((Teksten_t{"A-lijn", "geen"}), Teksten("cmbSubGr"));
     EXPECT_EQ(0, Keus("cmbSubGr")->currentIndex());
     EXPECT_TRUE(Knop("cmdVerwijder")->isEnabled());
     KiesGroep(5);
-    EXPECT_EQ("met deze NBBgroep:", Labeltekst("Label3"));
+    EXPECT_EQ("met deze NBBgroep:", Label("Label3"));
     EXPECT_EQ((Teksten_t{"DINSDAG", "MAANDAG"}), Teksten("cmbSubGr"));
     KiesGroep(9);
-    EXPECT_EQ("met deze SUBgroep:", Labeltekst("Label3"));
+    EXPECT_EQ("met deze SUBgroep:", Label("Label3"));
     EXPECT_EQ(0, Keus("cmbSubGr")->count());
     EXPECT_FALSE(Knop("cmdVerwijder")->isEnabled());
     KiesGroep(2);

@@ -2,25 +2,21 @@
 #pragma once
 
 #include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
 
-#include <memory>
-
-#include <gtest/gtest.h>
-
-#include "hulp/berichtwachter.h"
-#include "hulp/proefsuite.h"
+#include "hulp/dialoogproef.h"
+#include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
-#include "hulp/venstergrepen.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/scherm/meerkeuzelijst.h"
-#include "register/administratie.h"
 
 namespace plexoran {
 
-template <class Dialoog> class Groepsproef : public testing::Test {
+template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheugenstand> {
+    using Basis = Dialoogproef<Dialoog, Geheugenstand>;
+
   protected:
+    using Basis::administratie;
+    using Basis::venster;
+
     Groepsproef()
     {
         administratie.mappen.DFIMPG = "Gr05-";
@@ -35,30 +31,19 @@ template <class Dialoog> class Groepsproef : public testing::Test {
                        {"100004", "Gr01-", "Dirk", "", "Eik", "", "4"},
                        {"100005", "Gr01-", "Els", "", "Fuik", "A-lijn", ""},
                        {"100006", "Gr05-", "Fred", "", "Gans", "MAANDAG", "6"}});
-        hoofd.show();
     }
-    ~Groepsproef() override { wachter.Klaar(); }
 
-    void Open()
-    {
-        venster.reset();
-        venster = std::make_unique<Dialoog>(administratie, &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-    }
+    void Open() { this->Toon(administratie); }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
 
-    template <class T> [[nodiscard]] T* Deel(const char* naam) const
+    [[nodiscard]] QComboBox* Keus(const char* naam) const
     {
-        return Vind<T>(*venster, naam);
+        return Vind<QComboBox>(*venster, naam);
     }
-    [[nodiscard]] QPushButton* Knop(const char* naam) const { return Deel<QPushButton>(naam); }
-    [[nodiscard]] QComboBox* Keus(const char* naam) const { return Deel<QComboBox>(naam); }
-    [[nodiscard]] std::string Labeltekst(const char* naam) const
+    [[nodiscard]] Meerkeuzelijst* Lijst() const
     {
-        return Deel<QLabel>(naam)->text().toStdString();
+        return Vind<Meerkeuzelijst>(*venster, "lstKeus");
     }
-    [[nodiscard]] Meerkeuzelijst* Lijst() const { return Deel<Meerkeuzelijst>("lstKeus"); }
     [[nodiscard]] std::vector<std::string> Regels() const
     {
         std::vector<std::string> regels;
@@ -75,7 +60,7 @@ template <class Dialoog> class Groepsproef : public testing::Test {
     void SluitZonder(int weg)
     {
         if (weg == 0)
-            Klik(Knop("cmdAnnuleren"));
+            Klik(this->Knop("cmdAnnuleren"));
         else if (weg == 1)
             QTest::keyClick(Lijst(), Qt::Key_Escape);
         else
@@ -105,13 +90,6 @@ template <class Dialoog> class Groepsproef : public testing::Test {
     {
         return Tekst(administratie.spelers.tabel.Cel(rij, kolom));
     }
-
-    GeheugenSchijf schijf;
-    Proefwinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<Dialoog> venster;
 };
 
 } // namespace plexoran

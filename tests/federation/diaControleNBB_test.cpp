@@ -10,12 +10,10 @@
 
 #include <gtest/gtest.h>
 
-#include "hulp/berichtwachter.h"
+#include "hulp/dialoogproef.h"
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
-#include "hulp/proefsuite.h"
-#include "hulp/venstergrepen.h"
-#include "platform/echteSchijf.h"
+#include "hulp/proefstand.h"
 
 using namespace plexoran;
 
@@ -29,24 +27,16 @@ std::string Csv(const std::string& nummer, const std::string& mv, const std::str
            ";Dorp 1;1234 AB;Ede;06-1;a@b.nl;NL\r\n";
 }
 
-class diaControleNBBTest : public testing::Test {
+class diaControleNBBTest : public Dialoogproef<diaControleNBB, Mapstand> {
   protected:
     diaControleNBBTest()
     {
-        hoofd.show();
         map.Zet("Club 30.csv", Csv("101", "V", "Zus", "van", "Zee") + Csv("", "", "An", "", "Bos") +
                                    Csv("103", "M", "Cor", "", "Dam"));
         map.Zet("Dinsdagavondclub.csv", Csv("104", "V", "Bea", "de", "Aap"));
     }
-    ~diaControleNBBTest() override { wachter.Klaar(); }
 
-    void Open(std::vector<Tekst> namen)
-    {
-        venster =
-            std::make_unique<diaControleNBB>(administratie, opdracht, std::move(namen), &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-    }
+    void Open(std::vector<Tekst> namen) { Toon(administratie, opdracht, std::move(namen)); }
     void OpenBeide() { Open({"Club 30.csv", "Dinsdagavondclub.csv"}); }
     void OpenVeel(int aantal)
     {
@@ -59,10 +49,6 @@ class diaControleNBBTest : public testing::Test {
 
     [[nodiscard]] QWidget* P1() const { return Vind<QWidget>(*venster, "P1"); }
     [[nodiscard]] QScrollBar* Balk() const { return Vind<QScrollBar>(*venster, "VScroll1"); }
-    [[nodiscard]] QPushButton* Knop(const char* naam) const
-    {
-        return Vind<QPushButton>(*venster, naam);
-    }
     /// What the surface shows, drawn on a page and read back.
     [[nodiscard]] std::string Geschilderd() const
     {
@@ -83,18 +69,11 @@ class diaControleNBBTest : public testing::Test {
         Klik(Knop("cmdPrint"));
     }
 
-    TijdelijkeMap map;
-    EchteSchijf schijf;
-    Proefwinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
     Ledenopdracht opdracht{.bron = Ledenbron::Csv,
                            .map = map.AlsPad(),
                            .programmamap = map.AlsPad(),
                            .LedenDatabase = {},
                            .keuzes = {}};
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<diaControleNBB> venster;
 };
 
 } // namespace

@@ -45,6 +45,20 @@ class ImporterenTest : public Importproef {
         });
     }
 
+    /// Members without a number, in a list that scrolls in a window of its own.
+    void ImporteerZonderNummers(const std::string& inhoud, int spelers)
+    {
+        ZetExport("Club.csv", inhoud);
+        Verwacht(Voer("Option2", {0}));
+        VerwachtVraag(QStringLiteral("Club"), spelers);
+        wachter.Bedien([](QDialog& bericht) {
+            EXPECT_EQ("frmBericht", bericht.objectName());
+            Druk(bericht, "cmdOK");
+        });
+        VerwachtAantallen(0, 0);
+        Importeer();
+    }
+
     void VerwachtLos(const QString& naam, const QString& rest)
     {
         wachter.Informatie(QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er "
@@ -276,15 +290,7 @@ TEST_F(ImporterenTest, EenLangeLijstZonderNummers)
     std::string inhoud;
     for (int i = 0; i < 60; ++i)
         inhoud += ";V;Eva;;;Nummerloos" + std::to_string(i) + ";;;;;;\r\n";
-    ZetExport("Club.csv", inhoud);
-    Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Club"), 60);
-    wachter.Bedien([](QDialog& bericht) {
-        EXPECT_EQ("frmBericht", bericht.objectName());
-        Druk(bericht, "cmdOK");
-    });
-    VerwachtAantallen(0, 0);
-    Importeer();
+    ImporteerZonderNummers(inhoud, 60);
     EXPECT_EQ(oud, suite.Spelers());
 }
 
@@ -298,15 +304,7 @@ TEST_F(ImporterenTest, LangeRegelsZonderNummers)
         std::string inhoud;
         for (int i = 0; i < 20; ++i)
             inhoud += ";V;Eva;;;" + naam + ";;;;;;\r\n";
-        ZetExport("Club.csv", inhoud);
-        Verwacht(Voer("Option2", {0}));
-        VerwachtVraag(QStringLiteral("Club"), 20);
-        wachter.Bedien([](QDialog& bericht) {
-            EXPECT_EQ("frmBericht", bericht.objectName());
-            Druk(bericht, "cmdOK");
-        });
-        VerwachtAantallen(0, 0);
-        Importeer();
+        ImporteerZonderNummers(inhoud, 20);
     }
 }
 

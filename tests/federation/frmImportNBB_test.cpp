@@ -10,7 +10,21 @@ namespace {
 
 using Namen = std::vector<std::string>;
 
-class frmImportNBBTest : public Importproef {};
+class frmImportNBBTest : public Importproef {
+  protected:
+    /// The captions name Bridge-It, and a database is read.
+    void OpentMetBridgeIt()
+    {
+        Verwacht([](QDialog& dia) {
+            EXPECT_EQ("direct uit Bridge-It", Opschrift(Vind<QRadioButton>(dia, "Option1")));
+            KiesOptie(dia, "Option1");
+            EXPECT_EQ("Ledenbestanden direct uit BridgeIt:", Labeltekst(dia, "lblExportMap"));
+            EXPECT_EQ(3, Lijst(dia)->Aantal());
+            Druk(dia, "cmdAnnuleren");
+        });
+        Importeer();
+    }
+};
 
 } // namespace
 
@@ -334,14 +348,7 @@ TEST_F(frmImportNBBTest, BeideRekenprogrammas)
     wachter.Bedien(kies("Option1"));
     Herstart();
     wachter.Bedien(kies("Option2"));
-    Verwacht([](QDialog& dia) {
-        EXPECT_EQ("direct uit Bridge-It", Opschrift(Vind<QRadioButton>(dia, "Option1")));
-        KiesOptie(dia, "Option1");
-        EXPECT_EQ("Ledenbestanden direct uit BridgeIt:", Labeltekst(dia, "lblExportMap"));
-        EXPECT_EQ(3, Lijst(dia)->Aantal());
-        Druk(dia, "cmdAnnuleren");
-    });
-    Importeer();
+    OpentMetBridgeIt();
 }
 
 /// Closed without a choice the second time: the caption stays that of the program whose database is
@@ -356,14 +363,7 @@ TEST_F(frmImportNBBTest, GeenKeusBijHetOpenenLaatHetOpschriftStaan)
     });
     Herstart();
     wachter.Bedien([](QDialog& keuze) { keuze.reject(); });
-    Verwacht([](QDialog& dia) {
-        EXPECT_EQ("direct uit Bridge-It", Opschrift(Vind<QRadioButton>(dia, "Option1")));
-        KiesOptie(dia, "Option1");
-        EXPECT_EQ("Ledenbestanden direct uit BridgeIt:", Labeltekst(dia, "lblExportMap"));
-        EXPECT_EQ(3, Lijst(dia)->Aantal());
-        Druk(dia, "cmdAnnuleren");
-    });
-    Importeer();
+    OpentMetBridgeIt();
 }
 
 TEST_F(frmImportNBBTest, GeenKeusTussenBeideWordtUitgelegd)

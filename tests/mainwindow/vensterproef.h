@@ -9,11 +9,9 @@
 #include <gtest/gtest.h>
 
 #include "hulp/berichtwachter.h"
-#include "hulp/proefsuite.h"
+#include "hulp/proefstand.h"
 #include "hulp/venstergrepen.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
@@ -109,7 +107,7 @@ inline std::vector<std::string> RegelsVan(const std::string& tekst)
 }
 
 /// The main window on a copy of the sample suite, with production saving.
-class Hoofdvensterproef : public Vensterproef {
+class Hoofdvensterproef : public Vensterproef, protected Suitestand {
   protected:
     /// Closing the window changes the working folder to the suite's, which is gone then.
     ~Hoofdvensterproef() override
@@ -137,12 +135,6 @@ class Hoofdvensterproef : public Vensterproef {
         administratie.spelers = {};
         ASSERT_NO_FATAL_FAILURE(Start());
     }
-
-    Proefsuite suite;
-    Proefwinkel winkel;
-    EchteSchijf echteSchijf;
-    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
 
   private:
     std::filesystem::path werkmap_ = std::filesystem::current_path();

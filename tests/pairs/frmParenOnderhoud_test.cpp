@@ -11,12 +11,9 @@
 
 #include <gtest/gtest.h>
 
-#include "hulp/berichtwachter.h"
-#include "hulp/proefsuite.h"
+#include "hulp/dialoogproef.h"
+#include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
-#include "hulp/venstergrepen.h"
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/scherm/tekstbrug.h"
 
 using namespace plexoran;
@@ -27,7 +24,7 @@ using Teksten = std::vector<std::string>;
 
 const Pad dinsdag = "C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt";
 
-class frmParenOnderhoudTest : public testing::Test {
+class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugenstand> {
   protected:
     frmParenOnderhoudTest()
     {
@@ -44,29 +41,12 @@ class frmParenOnderhoudTest : public testing::Test {
                        {"100006", "Gr03-", "Fred", "", "Gans", "", ""},
                        {"100007", "Gr03-", "Gijs", "", "Haan", "A/B", ""},
                        {"100008", "Gr03-", "Han", "", "Iep", "A/B", ""}});
-        hoofd.show();
     }
-    ~frmParenOnderhoudTest() override { wachter.Klaar(); }
 
-    void Open(Tekstblik groep = "Gr03-Clubleden")
-    {
-        venster.reset();
-        venster = std::make_unique<frmParenOnderhoud>(administratie, groep, &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-    }
+    void Open(Tekstblik groep = "Gr03-Clubleden") { Toon(administratie, groep); }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
 
-    template <class T> [[nodiscard]] T* Deel(const char* naam) const
-    {
-        return Vind<T>(*venster, naam);
-    }
-    [[nodiscard]] QPushButton* Knop(const char* naam) const { return Deel<QPushButton>(naam); }
     [[nodiscard]] Zoeklijst* Lijst(const char* naam) const { return Deel<Zoeklijst>(naam); }
-    [[nodiscard]] std::string Labeltekst(const char* naam) const
-    {
-        return Deel<QLabel>(naam)->text().toStdString();
-    }
     /// As a user who picks it in the drop-down.
     void Kies(const char* keuze) const
     {
@@ -104,14 +84,6 @@ class frmParenOnderhoudTest : public testing::Test {
         Klik(Knop("cmdOKE"));
     }
     [[nodiscard]] int Gekozen(const char* lijst) const { return Lijst(lijst)->Gekozen(); }
-
-    GeheugenSchijf geheugen;
-    FalendeSchijf schijf{geheugen};
-    Proefwinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<frmParenOnderhoud> venster;
 };
 
 const Teksten vier{"100005 Ärp Éls", "100001 Bos An", "100002 Cock Bea de", "100004 Eik Dirk"};
@@ -123,7 +95,7 @@ const Teksten vier{"100005 Ärp Éls", "100001 Bos An", "100002 Cock Bea de", "1
 TEST_F(frmParenOnderhoudTest, DeTeksten)
 {
     EXPECT_EQ("Paren samenstellen", venster->windowTitle().toStdString());
-    EXPECT_EQ("Gr03-", Labeltekst("lblRVDledengr"));
+    EXPECT_EQ("Gr03-", Label("lblRVDledengr"));
     const std::vector<std::pair<const char*, const char*>> labels{
         {"Label9", "RVD-ledengroep:"},
         {"Label2", "Groep-Subgroep:"},
@@ -139,7 +111,7 @@ TEST_F(frmParenOnderhoudTest, DeTeksten)
         {"lblPrintLos", "Tuprufo        Leo Jansen  (aparte kolom)"},
         {"lblExcel", "Kan in Excel worden ingelezen. "}};
     for (const auto& [naam, tekst] : labels)
-        EXPECT_EQ(tekst, Labeltekst(naam)) << naam;
+        EXPECT_EQ(tekst, Label(naam)) << naam;
     const std::vector<std::pair<const char*, const char*>> knoppen{
         {"cmdOKE", "OKE >>>"},
         {"cmdOntbindt", " OKE <<<"},
@@ -179,7 +151,7 @@ TEST_F(frmParenOnderhoudTest, HetBegin)
 TEST_F(frmParenOnderhoudTest, EenAndereGroepEnEenGroepZonderSpelers)
 {
     ASSERT_NO_FATAL_FAILURE(Open("Gr02-"));
-    EXPECT_EQ("Gr02-", Labeltekst("lblRVDledengr"));
+    EXPECT_EQ("Gr02-", Label("lblRVDledengr"));
     Kies("Gr02-Woensdag");
     EXPECT_EQ(Teksten{"100003 Dam Cor van der"}, Regels("L1"));
     ASSERT_NO_FATAL_FAILURE(Open("Gr09-Leeg"));
@@ -210,8 +182,8 @@ TEST_F(frmParenOnderhoudTest, ZonderParenbestand)
     EXPECT_EQ(vier, Regels("L1"));
     EXPECT_EQ(vier, Regels("L2"));
     EXPECT_EQ(Teksten(), Regels("L3"));
-    EXPECT_EQ("Aantal spelers: 4", Labeltekst("Label7"));
-    EXPECT_EQ("", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal spelers: 4", Label("Label7"));
+    EXPECT_EQ("", Label("Label8"));
 }
 
 TEST_F(frmParenOnderhoudTest, MetParen)
@@ -220,13 +192,13 @@ TEST_F(frmParenOnderhoudTest, MetParen)
     Kies("Gr03-Dinsdag");
     EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Regels("L1"));
     EXPECT_EQ(Teksten{"100004 Eik Dirk          +100005 Ärp Éls"}, Regels("L3"));
-    EXPECT_EQ("Aantal spelers: 2", Labeltekst("Label7"));
-    EXPECT_EQ("Aantal paren: 1", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal spelers: 2", Label("Label7"));
+    EXPECT_EQ("Aantal paren: 1", Label("Label8"));
     Kies("Gr03-");
     EXPECT_EQ(Teksten{"100006 Gans Fred"}, Regels("L2"));
     EXPECT_EQ(Teksten(), Regels("L3"));
-    EXPECT_EQ("Aantal spelers: 1", Labeltekst("Label7"));
-    EXPECT_EQ("", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal spelers: 1", Label("Label7"));
+    EXPECT_EQ("", Label("Label8"));
 }
 
 TEST_F(frmParenOnderhoudTest, LosseSpelersWordenGemeld)
@@ -243,7 +215,7 @@ TEST_F(frmParenOnderhoudTest, LosseSpelersWordenGemeld)
         (Teksten{"100098 ??????          +100097 ??????", "100001 Bos An          +100099 ??????",
                  "100004 Eik Dirk          +100005 Ärp Éls"}),
         Regels("L3"));
-    EXPECT_EQ("Aantal paren: 3", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal paren: 3", Label("Label8"));
 }
 
 /// Too long for a box: in a window in which it scrolls.
@@ -351,8 +323,8 @@ TEST_F(frmParenOnderhoudTest, EenPaarMetDeKnop)
     EXPECT_EQ(Teksten{"100004 Eik Dirk          +100001 Bos An"}, Regels("L3"));
     EXPECT_EQ((Teksten{"100005 Ärp Éls", "100002 Cock Bea de"}), Regels("L1"));
     EXPECT_EQ(Regels("L1"), Regels("L2"));
-    EXPECT_EQ("Aantal spelers: 2", Labeltekst("Label7"));
-    EXPECT_EQ("Aantal paren: 1", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal spelers: 2", Label("Label7"));
+    EXPECT_EQ("Aantal paren: 1", Label("Label8"));
     EXPECT_EQ(-1, Gekozen("L1"));
     EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
     MaakPaar(0, 1);
@@ -360,8 +332,8 @@ TEST_F(frmParenOnderhoudTest, EenPaarMetDeKnop)
                        "100004 Eik Dirk          +100001 Bos An"}),
               Regels("L3"));
     EXPECT_EQ(Teksten(), Regels("L1"));
-    EXPECT_EQ("Aantal spelers: 0", Labeltekst("Label7"));
-    EXPECT_EQ("Aantal paren: 2", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal spelers: 0", Label("Label7"));
+    EXPECT_EQ("Aantal paren: 2", Label("Label8"));
 }
 
 TEST_F(frmParenOnderhoudTest, EenPaarMetEenDubbelklikRechts)
@@ -407,8 +379,8 @@ TEST_F(frmParenOnderhoudTest, OntbindenMetDeKnopEnMetDelete)
     Klik(Knop("cmdOntbindt"));
     EXPECT_EQ((Teksten{"100005 Ärp Éls", "100004 Eik Dirk"}), Regels("L1"));
     EXPECT_EQ(Regels("L1"), Regels("L2"));
-    EXPECT_EQ("Aantal spelers: 2", Labeltekst("Label7"));
-    EXPECT_EQ("Aantal paren: 1", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal spelers: 2", Label("Label7"));
+    EXPECT_EQ("Aantal paren: 1", Label("Label8"));
     EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
     QTest::keyClick(Lijst("L3"), Qt::Key_Delete);
     EXPECT_EQ(1U, Regels("L3").size()); // nothing is selected any more
@@ -416,7 +388,7 @@ TEST_F(frmParenOnderhoudTest, OntbindenMetDeKnopEnMetDelete)
     QTest::keyClick(Lijst("L3"), Qt::Key_Delete);
     EXPECT_EQ(Teksten(), Regels("L3"));
     EXPECT_EQ(vier, Regels("L2"));
-    EXPECT_EQ("Aantal paren: 0", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal paren: 0", Label("Label8"));
     QTest::keyClick(Lijst("L1"), Qt::Key_Delete);
     EXPECT_EQ(vier, Regels("L1"));
 }
@@ -433,7 +405,7 @@ TEST_F(frmParenOnderhoudTest, Sorteren)
     EXPECT_EQ(gesorteerd, Regels("L3"));
     EXPECT_EQ(-1, Gekozen("L3")); // emptied and filled anew
     EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
-    EXPECT_EQ("Aantal paren: 2", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal paren: 2", Label("Label8"));
 }
 
 // ---- Typing and scrolling ----------------------------------------------------------------------
@@ -620,7 +592,7 @@ TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
     wachter.Klaar();
     EXPECT_EQ(std::nullopt, geheugen.Inhoud(dinsdag));
     EXPECT_EQ(Teksten(), Regels("L3"));
-    EXPECT_EQ("Aantal paren: 0", Labeltekst("Label8"));
+    EXPECT_EQ("Aantal paren: 0", Label("Label8"));
     // The players come back when the group-subgroup is picked again.
     EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Regels("L1"));
     Kies("Gr03-Dinsdag");

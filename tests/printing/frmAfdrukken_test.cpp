@@ -9,11 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include "hulp/dialoogproef.h"
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
-#include "hulp/proefsuite.h"
-#include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
+#include "hulp/proefstand.h"
 #include "printing/printproef.h"
 
 using namespace plexoran;
@@ -22,46 +21,34 @@ namespace {
 
 constexpr double Tiende = 0.1; // millimetre
 
-class frmAfdrukkenTest : public testing::Test {
+/// The page shows the cells of the table.
+struct Afdrukstand : Mapstand {
+    Spelertabel tabel;
+};
+
+class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
   protected:
-    frmAfdrukkenTest()
-    {
-        administratie.mappen.APPEXE = "Ravendeck.exe";
-        hoofd.show();
-    }
-    ~frmAfdrukkenTest() override { wachter.Klaar(); }
+    frmAfdrukkenTest() { administratie.mappen.APPEXE = "Ravendeck.exe"; }
 
     void Open(Spelertabel nieuw, std::vector<Kolom> kolommen, float schaal = 1)
     {
         venster.reset();
         tabel = std::move(nieuw);
-        venster = std::make_unique<frmAfdrukken>(
-            administratie,
-            Afdruk{.tabel = MaakPrinttabel(
-                       tabel, {.groepscode = "Gr01-", .kolommen = std::move(kolommen)}),
-                   .groeptekst = "Gr01-Clubleden",
-                   .subgroepkop = "Subgroep(en): A + B",
-                   .schaal = schaal},
-            &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        Toon(administratie,
+             Afdruk{.tabel = MaakPrinttabel(
+                        tabel, {.groepscode = "Gr01-", .kolommen = std::move(kolommen)}),
+                    .groeptekst = "Gr01-Clubleden",
+                    .subgroepkop = "Subgroep(en): A + B",
+                    .schaal = schaal});
     }
     void OpenRijen(int aantal, float schaal = 1)
     {
         Open(MaakPrintspelers(aantal), {Kolom::Voornaam, Kolom::Achternaam}, schaal);
     }
 
-    template <class T> [[nodiscard]] T* Deel(const char* naam) const
-    {
-        return Vind<T>(*venster, naam);
-    }
     [[nodiscard]] QScrollBar* Balk(const char* naam = "Bladscroll") const
     {
         return Deel<QScrollBar>(naam);
-    }
-    [[nodiscard]] std::string Label(const char* naam) const
-    {
-        return Deel<QLabel>(naam)->text().toStdString();
     }
     [[nodiscard]] std::string Vak(const char* naam) const
     {
@@ -110,16 +97,6 @@ class frmAfdrukkenTest : public testing::Test {
         Vind<QSpinBox>(dialoog, "from")->setValue(van);
         Vind<QSpinBox>(dialoog, "to")->setValue(tot);
     }
-
-    TijdelijkeMap map;
-    EchteSchijf echteSchijf;
-    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
-    Proefwinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
-    Berichtwachter wachter;
-    QWidget hoofd;
-    Spelertabel tabel;
-    std::unique_ptr<frmAfdrukken> venster;
 };
 
 } // namespace

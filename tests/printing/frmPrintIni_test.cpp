@@ -5,17 +5,15 @@
 
 #include <gtest/gtest.h>
 
-#include "hulp/berichtwachter.h"
-#include "hulp/proefsuite.h"
+#include "hulp/dialoogproef.h"
+#include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
-#include "hulp/venstergrepen.h"
-#include "platform/geheugenSchijf.h"
 
 using namespace plexoran;
 
 namespace {
 
-class frmPrintIniTest : public testing::Test {
+class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
   protected:
     frmPrintIniTest()
     {
@@ -25,22 +23,11 @@ class frmPrintIniTest : public testing::Test {
                        {"100002", "Gr05-", "Bea", "de", "Cock", "DINSDAG", "2"},
                        {"100003", "Gr01-", "Cor", "", "Bos", "", "3"},
                        {"100004", "Gr01-", "Dirk", "", "Aap", "B-lijn", "4"}});
-        hoofd.show();
         namen[Plaats(Kolom::NBBgr)] = "Subgr";
         namen[Plaats(Kolom::NBBnr)] = "";
     }
-    ~frmPrintIniTest() override { wachter.Klaar(); }
 
-    void Open(const Tekst& groep = "Gr01-Clubleden & co")
-    {
-        venster = std::make_unique<frmPrintIni>(administratie, groep, namen, &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-    }
-    [[nodiscard]] QPushButton* Knop(const char* naam) const
-    {
-        return Vind<QPushButton>(*venster, naam);
-    }
+    void Open(const Tekst& groep = "Gr01-Clubleden & co") { Toon(administratie, groep, namen); }
     [[nodiscard]] Meerkeuzelijst* Lijst(const char* naam) const
     {
         return Vind<Meerkeuzelijst>(*venster, naam);
@@ -57,18 +44,8 @@ class frmPrintIniTest : public testing::Test {
         Klik(Lijst(lijst)->viewport(),
              Lijst(lijst)->visualRect(Lijst(lijst)->model()->index(plaats, 0)).center());
     }
-    [[nodiscard]] std::string Label(const char* naam) const
-    {
-        return Vind<QLabel>(*venster, naam)->text().toStdString();
-    }
 
-    GeheugenSchijf schijf;
-    Proefwinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
     std::array<Tekstblik, AantalKolommen> namen = Kolomnamen;
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<frmPrintIni> venster;
 };
 
 const std::vector<int> eersteAcht{0, 1, 2, 3, 4, 5, 6, 7};

@@ -3,11 +3,8 @@
 #include <chrono>
 #include <thread>
 
-#include "hulp/berichtwachter.h"
-#include "hulp/proefsuite.h"
-#include "hulp/venstergrepen.h"
-#include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
+#include "hulp/dialoogproef.h"
+#include "hulp/proefstand.h"
 #include "platform/klok.h"
 #include "register/spelerbestand.h"
 
@@ -26,33 +23,12 @@ const QString Koppelvraag =
                    "zittingbestanden.\r\n\r\nKies OK of Annuleer.");
 
 /// The real window on a copy of the sample suite, with production saving.
-class Koppelvenster : public testing::Test {
+class Koppelvenster : public Dialoogproef<frmKoppelNBBnr, Suitestand> {
   protected:
-    Koppelvenster()
-    {
-        administratie.mappen = LeesMappenIni(echteSchijf, suite.MappenIni()).value();
-        (void)LeesSpelers(echteSchijf, administratie.mappen, administratie.spelers);
-        hoofd.show();
-    }
-    ~Koppelvenster() override { wachter.Klaar(); }
+    Koppelvenster() { LeesRegister(); }
 
-    void Open()
-    {
-        venster = std::make_unique<frmKoppelNBBnr>(administratie, &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(venster.get()));
-        QApplication::processEvents();
-    }
+    void Open() { ToonEnLees(administratie); }
 
-    template <class T> [[nodiscard]] T* Deel(const char* naam) const
-    {
-        return Vind<T>(*venster, naam);
-    }
-    [[nodiscard]] QPushButton* Knop(const char* naam) const { return Deel<QPushButton>(naam); }
-    [[nodiscard]] std::string Label(const char* naam) const
-    {
-        return Deel<QLabel>(naam)->text().toStdString();
-    }
     [[nodiscard]] std::string Vak(const char* naam) const
     {
         return Deel<QLineEdit>(naam)->text().toStdString();
@@ -98,15 +74,6 @@ class Koppelvenster : public testing::Test {
     {
         return "Competities/Najaarscompetitie 2024/" + rest;
     }
-
-    Proefsuite suite;
-    Proefwinkel winkel;
-    EchteSchijf echteSchijf;
-    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<frmKoppelNBBnr> venster;
 };
 
 /// Text with one piece replaced; the test fails when it is not there.

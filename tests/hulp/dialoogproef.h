@@ -1,0 +1,62 @@
+// What the tests of one window share: it stands before another one, and its boxes are watched.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <memory>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "hulp/berichtwachter.h"
+#include "hulp/venstergrepen.h"
+
+namespace plexoran {
+
+/// `Stand` is what the window works on, and outlives it.
+template <class Venster, class Stand> class Dialoogproef : public testing::Test, protected Stand {
+  protected:
+    Dialoogproef() { hoofd.show(); }
+    ~Dialoogproef() override { wachter.Klaar(); }
+
+    /// Opens the window with what its constructor takes before the window in front of which it
+    /// stands.
+    template <class... Delen> void Toon(Delen&&... delen)
+    {
+        Maak(std::forward<Delen>(delen)...);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
+    /// The same for a window that reads when it is there: after a box of its own it need not be the
+    /// active one.
+    template <class... Delen> void ToonEnLees(Delen&&... delen)
+    {
+        Maak(std::forward<Delen>(delen)...);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(venster.get()));
+        QApplication::processEvents();
+    }
+
+    template <class T> [[nodiscard]] T* Deel(const std::string& naam) const
+    {
+        return Vind<T>(*venster, naam.c_str());
+    }
+    [[nodiscard]] QPushButton* Knop(const char* naam) const { return Deel<QPushButton>(naam); }
+    [[nodiscard]] std::string Label(const char* naam) const
+    {
+        return Deel<QLabel>(naam)->text().toStdString();
+    }
+
+    Berichtwachter wachter;
+    QWidget hoofd;
+    std::unique_ptr<Venster> venster;
+
+  private:
+    template <class... Delen> void Maak(Delen&&... delen)
+    {
+        venster.reset();
+        venster = std::make_unique<Venster>(std::forward<Delen>(delen)..., &hoofd);
+        venster->show();
+    }
+};
+
+} // namespace plexoran

@@ -1,0 +1,47 @@
+// The register that the tests of a window work on, with its disk. A window goes before it.
+#pragma once
+
+#include "hulp/proefsuite.h"
+#include "platform/echteSchijf.h"
+#include "platform/falendeSchijf.h"
+#include "platform/geheugenSchijf.h"
+#include "platform/tijdelijkeMap.h"
+#include "register/administratie.h"
+#include "register/spelerbestand.h"
+
+namespace plexoran {
+
+/// A copy of the sample suite, not read yet, with production saving.
+struct Suitestand {
+    Proefsuite suite;
+    Proefwinkel winkel;
+    EchteSchijf echteSchijf;
+    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+
+    /// The folders and the players, as the program reads them at its start.
+    void LeesRegister()
+    {
+        administratie.mappen = LeesMappenIni(echteSchijf, suite.MappenIni()).value();
+        (void)LeesSpelers(echteSchijf, administratie.mappen, administratie.spelers);
+    }
+};
+
+/// An empty register, and files in a folder of their own.
+struct Mapstand {
+    TijdelijkeMap map;
+    EchteSchijf echteSchijf;
+    FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+};
+
+/// An empty register, and files in memory.
+struct Geheugenstand {
+    GeheugenSchijf geheugen;
+    FalendeSchijf schijf{geheugen};
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = winkel};
+};
+
+} // namespace plexoran
