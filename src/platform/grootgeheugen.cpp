@@ -13,8 +13,7 @@ namespace plexoran {
 
 void VraagGrotePaginas(const void* begin, std::size_t bytes)
 {
-    constexpr std::size_t loont = std::size_t{4} << 20U; // a large page is 2 MB, on most machines
-    if (bytes < loont)
+    if (bytes < GrotePagina)
         return;
     const auto pagina = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
     const auto eerste = reinterpret_cast<std::uintptr_t>(begin);
@@ -30,5 +29,20 @@ void VraagGrotePaginas(const void* /*begin*/, std::size_t /*bytes*/)
 {}
 
 #endif
+
+namespace {
+
+std::align_val_t Uitlijning(std::size_t bytes)
+{
+    return std::align_val_t{bytes < GrotePagina ? alignof(std::max_align_t) : GrotePagina};
+}
+
+} // namespace
+
+Tekenblok::Tekenblok(std::size_t bytes)
+    : tekens_(static_cast<char*>(::operator new[](bytes, Uitlijning(bytes))), {Uitlijning(bytes)})
+{
+    VraagGrotePaginas(data(), bytes);
+}
 
 } // namespace plexoran

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <memory>
 #include <vector>
 
 #include "platform/grootgeheugen.h"
@@ -18,7 +17,7 @@ class Tekstvoorraad {
         if (blokken_.empty() || blokken_.back().grootte - blokken_.back().vol < tekst.size())
             blokken_.emplace_back(std::max(Volgende(), tekst.size()));
         Blok& blok = blokken_.back();
-        char* const begin = blok.tekens.get() + blok.vol;
+        char* const begin = blok.tekens.data() + blok.vol;
         std::copy(tekst.begin(), tekst.end(), begin);
         blok.vol += tekst.size();
         return {begin, tekst.size()};
@@ -29,13 +28,9 @@ class Tekstvoorraad {
     static constexpr std::size_t GrootsteBlok = 4194304;
 
     struct Blok {
-        explicit Blok(std::size_t bytes)
-            : tekens(std::make_unique_for_overwrite<char[]>(bytes)), grootte(bytes)
-        {
-            VraagGrotePaginas(tekens.get(), bytes);
-        }
+        explicit Blok(std::size_t bytes) : tekens(bytes), grootte(bytes) {}
 
-        std::unique_ptr<char[]> tekens;
+        Tekenblok tekens;
         std::size_t grootte;
         std::size_t vol = 0;
     };
