@@ -26,32 +26,16 @@ void VoegLegeRijToe(Spelertabel& tabel, const Tekst& key, const Tekst& groep)
     tabel.VoegToe(rij);
 }
 
-/// The row of each key, 0 where there is none, with room made for their copies.
-std::vector<int> ZoekBronnen(Spelertabel& tabel, const Kopieeropdracht& opdracht)
-{
-    constexpr std::size_t langsteKey = 10;
-    const Sleutelwijzer wijzer(tabel);
-    std::vector<int> bronnen;
-    bronnen.reserve(opdracht.keys.size());
-    std::size_t bytes = 0;
-    for (const Tekst& key : opdracht.keys) {
-        const int bron = wijzer.Rij(key);
-        bronnen.push_back(bron);
-        bytes += bron == 0 ? std::size_t{AantalKolommen} : tabel.Lengte(bron);
-        bytes += langsteKey + opdracht.naarGroep.size();
-    }
-    tabel.Reserveer(bronnen.size(), bytes);
-    return bronnen;
-}
-
 } // namespace
 
 bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
 {
     if (!ZijnErSleutels(spelers, opdracht.keys.size()))
         return false;
-    const std::vector<int> bronnen = ZoekBronnen(spelers.tabel, opdracht);
-    for (const int bron : bronnen) {
+    const Sleutelwijzer wijzer(spelers.tabel);
+    spelers.tabel.Reserveer(opdracht.keys.size());
+    for (const Tekst& key : opdracht.keys) {
+        const int bron = wijzer.Rij(key); // a copy made here is never found, nor copied again
         const Tekst nieuweKey = std::to_string(NieuweSleutel(spelers).value());
         if (bron != 0)
             VoegKopieToe(spelers.tabel, bron, nieuweKey, opdracht);

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/grootgeheugen.h"
-
 namespace plexoran {
 Spelertabel::Spelertabel(Tekst tekst, std::vector<Celgrenzen> rijen)
     : tekst_(std::move(tekst)), rijen_(std::move(rijen))
@@ -15,7 +13,7 @@ void Spelertabel::VoegCellenAan(Tekst& uit, int rij) const
 {
     const Celgrenzen& grenzen = Grenzen(rij);
     const auto stuk = [&](std::size_t van, std::size_t tot) {
-        uit.append(tekst_, grenzen[van], grenzen[tot] - grenzen[van] - 1);
+        uit += Bytes(grenzen[van], grenzen[tot]);
     };
     if (grenzen[3] - grenzen[2] - 1 <= LengteGroepscode) {
         stuk(1, AantalKolommen);
@@ -31,7 +29,8 @@ void Spelertabel::VoegCellenAan(Tekst& uit, int rij) const
 void Spelertabel::ZetRij(int rij, const Rijvelden& velden)
 {
     assert(rij >= 1 && rij <= Rijen());
-    rijen_[static_cast<std::size_t>(rij - 1)] = SchrijfVelden(velden);
+    const Celgrenzen grenzen = SchrijfVelden(velden);
+    Grenzen(rij) = grenzen;
 }
 
 void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
@@ -39,7 +38,7 @@ void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
     const Tekst nieuw = AlsVeld(tekst); // a copy, since it may be a view into this table
     const auto begin = Grenzen(rij)[Plaats(kolom)];
     if (Grenzen(rij)[Plaats(kolom) + 1] - begin - 1 == nieuw.size()) {
-        std::copy(nieuw.begin(), nieuw.end(), tekst_.begin() + begin);
+        std::copy(nieuw.begin(), nieuw.end(), tekst_.Vanaf(begin));
         return;
     }
     const Celtekst anders{kolom, nieuw};
@@ -49,23 +48,25 @@ void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
 void Spelertabel::ZetCellen(int rij, std::span<const Celtekst> anders)
 {
     const Celgrenzen grenzen = SchrijfKopie(rij, anders);
-    rijen_[static_cast<std::size_t>(rij - 1)] = grenzen;
+    Grenzen(rij) = grenzen;
 }
 
 void Spelertabel::VoegToe(const Rijvelden& velden)
 {
-    rijen_.push_back(SchrijfVelden(velden));
+    rijen_.Tweede().push_back(SchrijfVelden(velden));
 }
 
-void Spelertabel::Reserveer(std::size_t rijen, std::size_t bytes)
+void Spelertabel::Reserveer(std::size_t rijen)
 {
-    ReserveerGroot(rijen_, rijen_.size() + rijen);
-    ReserveerGroot(tekst_, std::min(tekst_.size() + bytes, GrootsteTekst));
+    constexpr std::size_t speling = 16; // for a longer number, key or group
+    const std::size_t lengte = tekst_.size() / std::max<std::size_t>(rijen_.size(), 1) + speling;
+    rijen_.Reserveer(rijen);
+    tekst_.Reserveer(std::min(rijen * lengte, GrootsteTekst - tekst_.size()));
 }
 
 void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)
 {
-    rijen_.push_back(SchrijfKopie(rij, anders));
+    rijen_.Tweede().push_back(SchrijfKopie(rij, anders));
 }
 
 Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
@@ -78,8 +79,8 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
     Celgrenzen grenzen{};
     for (std::size_t i = 0; i < velden.size(); ++i) {
         grenzen[i] = static_cast<std::uint32_t>(tekst_.size());
-        VoegVeldToe(tekst_, velden[i]);
-        tekst_ += ',';
+        VoegVeldToe(tekst_.Tweede(), velden[i]);
+        tekst_.Tweede() += ',';
     }
     grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());
     return grenzen;
@@ -88,7 +89,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
 Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celtekst> anders)
 {
     const Celgrenzen& bron = Grenzen(rij);
-    std::size_t lengte = Lengte(rij);
+    std::size_t lengte = bron[AantalKolommen] - bron[0];
     for (const Celtekst& cel : anders)
         lengte += cel.tekst.size() + 1;
     Tekst& kopie = kopie_; // on its own first, since the texts may be views into this table
@@ -101,7 +102,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celte
         if (plaats == tot)
             return;
         const auto verschil = static_cast<std::uint32_t>(kopie.size()) - bron[plaats];
-        kopie.append(tekst_, bron[plaats], bron[tot] - bron[plaats] - 1);
+        kopie += Bytes(bron[plaats], bron[tot]);
         kopie += ',';
         for (; plaats < tot; ++plaats)
             grenzen[plaats] = bron[plaats] + verschil;
@@ -119,7 +120,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celte
     MaakRuimte(kopie.size());
     for (auto& grens : grenzen)
         grens += static_cast<std::uint32_t>(tekst_.size());
-    tekst_ += kopie;
+    tekst_.Tweede() += kopie;
     return grenzen;
 }
 
@@ -136,7 +137,7 @@ void Spelertabel::Verwijder(std::span<const int> rijen)
         if (!weg[i])
             rijen_[over++] = rijen_[i];
     }
-    rijen_.resize(over);
+    rijen_.KortIn(over);
     for (int rij = 1; rij <= Rijen(); ++rij)
         ZetNr(rij);
 }
@@ -145,30 +146,31 @@ void Spelertabel::Verwijder(std::span<const int> rijen)
 void Spelertabel::ZetNr(int rij)
 {
     const Tekst nr = std::to_string(rij);
-    Celgrenzen& grenzen = rijen_[static_cast<std::size_t>(rij - 1)];
+    Celgrenzen& grenzen = Grenzen(rij);
     if (grenzen[1] - grenzen[0] - 1 < nr.size()) {
         ZetCel(rij, Kolom::Nr, nr);
         return;
     }
     grenzen[0] = grenzen[1] - 1 - static_cast<std::uint32_t>(nr.size());
-    std::copy(nr.begin(), nr.end(), tekst_.begin() + grenzen[0]);
+    std::copy(nr.begin(), nr.end(), tekst_.Vanaf(grenzen[0]));
 }
 
-/// Unused bytes of changed rows are given up when the buffer would outgrow its bounds.
+/// Unused bytes of changed rows are given up when the text would outgrow the bounds.
 void Spelertabel::MaakRuimte(std::size_t bytes)
 {
     if (tekst_.size() + bytes <= GrootsteTekst)
         return;
     Tekst compact;
-    for (Celgrenzen& grenzen : rijen_) {
+    for (int rij = 1; rij <= Rijen(); ++rij) {
+        Celgrenzen& grenzen = Grenzen(rij);
         const auto begin = grenzen[0];
         const auto nieuw = static_cast<std::uint32_t>(compact.size());
-        compact.append(tekst_, begin, grenzen[AantalKolommen] - begin - 1);
+        compact += Bytes(begin, grenzen[AantalKolommen]);
         compact += ',';
         for (auto& grens : grenzen)
             grens = grens - begin + nieuw;
     }
-    tekst_ = std::move(compact);
+    tekst_ = Tweedelig(std::move(compact));
 }
 
 Rijvelden Spelertabel::Velden(int rij) const

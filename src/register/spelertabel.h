@@ -2,7 +2,8 @@
 //
 // The table keeps the bytes of the file in one buffer and, per row, where its 18 cells begin, so
 // that it costs little more than the file. A cell is changed where it stands when its length stays
-// the same; else its row is written anew behind the buffer. Bytes that nothing refers to any more,
+// the same; else its row is written anew behind what is there. That goes to a second buffer, so
+// that what was read is never copied to make room. Bytes that nothing refers to any more,
 // of old rows and of deleted ones, stay unused until the register is read again, as it is after
 // every save.
 #pragma once
@@ -11,8 +12,10 @@
 #include <cassert>
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
+#include "platform/tweedelig.h"
 #include "register/groepscode.h"
 
 namespace plexoran {
@@ -61,11 +64,11 @@ using Rijvelden = std::array<Tekst, AantalKolommen>;
 
 class Spelertabel {
   public:
-    /// Where the cells of a row lie in the buffer: cell c is `[grens[c-1], grens[c] - 1)`, so that
+    /// Where the cells of a row lie in the text: cell c is `[grens[c-1], grens[c] - 1)`, so that
     /// the one byte between two cells (the comma) belongs to neither.
     using Celgrenzen = std::array<std::uint32_t, AantalKolommen + 1>;
 
-    /// The largest buffer that the bounds can address.
+    /// The longest text that the bounds can address.
     static constexpr std::size_t GrootsteTekst = 0xFFFF0000;
 
     Spelertabel() = default;
@@ -79,8 +82,7 @@ class Spelertabel {
     {
         const Celgrenzen& grenzen = Grenzen(rij);
         const auto plaats = Plaats(kolom);
-        const Tekstblik cel(tekst_.data() + grenzen[plaats],
-                            grenzen[plaats + 1] - grenzen[plaats] - 1);
+        const Tekstblik cel = Bytes(grenzen[plaats], grenzen[plaats + 1]);
         // The file may carry the group's name behind its code; only the code is the cell.
         return kolom == Kolom::Groep ? CodeUit(cel) : cel;
     }
@@ -94,13 +96,9 @@ class Spelertabel {
     /// Changes several cells of a row at once, by rising column and none twice.
     void ZetCellen(int rij, std::span<const Celtekst> anders);
     void VoegToe(const Rijvelden& velden);
-    /// Makes room for rows that are about to be added, so that the buffer grows once.
-    void Reserveer(std::size_t rijen, std::size_t bytes);
-    /// Bytes of a row with the separators behind its cells.
-    [[nodiscard]] std::size_t Lengte(int rij) const
-    {
-        return Grenzen(rij)[AantalKolommen] - Grenzen(rij)[0];
-    }
+    /// Makes room for rows that are about to be added or written anew, as long as those that are
+    /// there, so that memory is asked for once.
+    void Reserveer(std::size_t rijen);
     /// Adds a row that is another one with some of its cells changed: those in `anders`, by rising
     /// column and none twice.
     void VoegKopieToe(int rij, std::span<const Celtekst> anders);
@@ -120,15 +118,24 @@ class Spelertabel {
         assert(rij >= 1 && rij <= Rijen());
         return rijen_[static_cast<std::size_t>(rij - 1)];
     }
-    /// Behind the buffer; the row's own bounds are not touched.
+    [[nodiscard]] Celgrenzen& Grenzen(int rij)
+    {
+        return const_cast<Celgrenzen&>(std::as_const(*this).Grenzen(rij));
+    }
+    /// What stands from one bound of a row to another, without the separator at its end.
+    [[nodiscard]] Tekstblik Bytes(std::uint32_t van, std::uint32_t tot) const
+    {
+        return {tekst_.Vanaf(van), tot - van - std::size_t{1}};
+    }
+    /// Behind the text; the row's own bounds are not touched.
     Celgrenzen SchrijfVelden(const Rijvelden& velden);
     Celgrenzen SchrijfKopie(int rij, std::span<const Celtekst> anders);
     void ZetNr(int rij);
     void MaakRuimte(std::size_t bytes);
 
-    Tekst tekst_;
-    Tekst kopie_; ///< the row that is being written anew; kept for the sake of its memory
-    std::vector<Celgrenzen> rijen_;
+    Tweedelig<Tekst> tekst_; ///< the file and what was written since; a row lies in one of them
+    Tekst kopie_;            ///< the row that is being written anew; kept for the sake of its memory
+    Tweedelig<std::vector<Celgrenzen>> rijen_;
 };
 
 } // namespace plexoran
