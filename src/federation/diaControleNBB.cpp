@@ -183,7 +183,7 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
 void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList& opmerkingen)
 {
     const Tekst groep(ZonderSpaties(SubgroepUitNaam(naam)));
-    for (const Tekst& regel : lezing.lstN1)
+    for (const Tekstblik regel : lezing.lstN1)
         lstN9.push_back(MaakControleregel(regel, groep));
     const QString bestand = NaarQString(naam);
     if (lezing.nietGeladen)

@@ -6,6 +6,7 @@
 
 #include "federation/importregel.h"
 #include "platform/schijf.h"
+#include "platform/tekstlijst.h"
 #include "platform/voortgang.h"
 
 namespace plexoran {
@@ -29,10 +30,10 @@ struct Ledenopdracht {
 [[nodiscard]] Pad Tussenbestand(const Pad& programmamap, Tekstblik subgroep);
 
 struct Ledenlezing {
-    std::vector<Tekst> lstN1;      ///< import lines in the order of the file
-    std::vector<Tekst> metIsTeken; ///< lines left out because of a "="
-    int teKorteRegel = 0; ///< line, from 1, at which reading ended for want of columns; 0: none
-    bool inUtf8 = false;  ///< an exported CSV that was saved as UTF-8, and read byte by byte
+    Tekstlijst lstN1;      ///< import lines in the order of the file
+    Tekstlijst metIsTeken; ///< lines left out because of a "="
+    int teKorteRegel = 0;  ///< line, from 1, at which reading ended for want of columns; 0: none
+    bool inUtf8 = false;   ///< an exported CSV that was saved as UTF-8, and read byte by byte
     std::size_t vervangenTekens = 0; ///< characters that the code page lacks
     std::optional<Fout> nietGeladen; ///< an NBBR-4 file that could not be loaded has no members
 };

@@ -60,20 +60,15 @@ Kolommen Splits(Tekstblik regel)
     return uit;
 }
 
-Tekst Importregel(const Kolommen& kolommen, const Herkomsten& herkomsten)
+void MaakImportregel(Tekst& uit, const Kolommen& kolommen, const Herkomsten& herkomsten)
 {
-    std::size_t lengte = AantalImportvelden;
-    for (const auto& [kolom, gekozen] : herkomsten)
-        lengte += gekozen ? kolommen.teksten[kolom].size() : 0;
-    Tekst uit;
-    uit.reserve(lengte);
+    uit.clear();
     for (const auto& [kolom, gekozen] : herkomsten) {
         if (gekozen)
             uit += kolommen.teksten[kolom];
         uit += ',';
     }
     uit.pop_back();
-    return uit;
 }
 
 } // namespace
@@ -87,7 +82,9 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
     const Herkomsten herkomsten = HerkomstenVan(keuzes);
     const std::size_t nodig = NodigeKolommen(herkomsten);
     Ledenlezing uit;
-    uit.lstN1.reserve(static_cast<std::size_t>(std::count(tekst.begin(), tekst.end(), '\n')) + 1);
+    uit.lstN1.Reserveer(static_cast<std::size_t>(std::count(tekst.begin(), tekst.end(), '\n')) + 1,
+                        tekst.size());
+    Tekst importregel;
     int nummer = 0;
     for (const Tekstblik regel : Regels(tekst)) {
         if (++nummer % elkeZoveel == 0 && voortgang)
@@ -95,7 +92,7 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
         if (IsBlanco(regel))
             continue;
         if (regel.find('=') != Tekstblik::npos) {
-            uit.metIsTeken.emplace_back(regel);
+            uit.metIsTeken.VoegToe(regel);
             continue;
         }
         const Kolommen kolommen = Splits(regel);
@@ -103,7 +100,8 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
             uit.teKorteRegel = nummer;
             break;
         }
-        uit.lstN1.push_back(Importregel(kolommen, herkomsten));
+        MaakImportregel(importregel, kolommen, herkomsten);
+        uit.lstN1.VoegToe(importregel);
     }
     return uit;
 }

@@ -3,12 +3,14 @@
 #include <bit>
 
 #include "platform/getal.h"
+#include "platform/grootgeheugen.h"
 
 namespace plexoran {
 namespace {
 
 constexpr std::size_t Stuklengte = 8;
 constexpr std::size_t AantalTekens = 256;
+constexpr std::size_t Vooruit = 16; // by so many numbers a place in memory is asked for beforehand
 
 std::uint64_t StukVan(Tekstblik tekst)
 {
@@ -34,21 +36,38 @@ Tekst OpgemaaktNBBnr(Tekstblik nummer)
 
 NBBnrIndex::NBBnrIndex(const std::vector<Tekst>& vragen) : wortel_(AantalTekens, Geen)
 {
-    stukken_.resize(std::bit_ceil(2 * vragen.size() + 2));
-    stukAntwoord_.resize(stukken_.size());
+    const std::size_t vakken = std::bit_ceil(2 * vragen.size() + 2);
+    ReserveerGroot(stukken_, vakken);
+    stukken_.resize(vakken);
     antwoord_.reserve(vragen.size());
-    for (const Tekst& vraag : vragen)
+    for (std::size_t i = 0; i < vragen.size(); ++i) {
+        if (i + Vooruit < vragen.size())
+            Kondig(vragen[i + Vooruit]);
+        const Tekst& vraag = vragen[i];
         antwoord_.push_back(IsGewoon(vraag) ? PlantGewoon(StukVan(vraag)) : PlantVreemd(vraag));
+    }
     VerbindTerug();
     if (knopen_[0].vraag != Geen)
         gezien_[knopen_[0].vraag] = true; // nothing occurs everywhere
 }
 
-void NBBnrIndex::Voeg(Tekstblik nummer)
+std::uint32_t NBBnrIndex::Voeg(Tekstblik nummer)
 {
+    if (knopen_.size() == 1 && IsGewoon(nummer)) { // only its end can be an answer
+        lengte_ = static_cast<int>(Stuklengte);
+        laatste_ = StukVan(nummer);
+        return ZieLaatste();
+    }
     Lees('-');
     for (const char teken : nummer)
         Lees(teken);
+    return Geen;
+}
+
+void NBBnrIndex::Kondig(Tekstblik nummer) const
+{
+    if (nummer.size() == Stuklengte)
+        HaalAlvast(&stukken_[Begin(StukVan(nummer))]);
 }
 
 std::uint32_t NBBnrIndex::NieuwAntwoord()
@@ -57,28 +76,32 @@ std::uint32_t NBBnrIndex::NieuwAntwoord()
     return static_cast<std::uint32_t>(gezien_.size() - 1);
 }
 
-/// Where the eight characters stand in the table, or the free place where they belong.
-std::size_t NBBnrIndex::Vak(Stuk stuk) const
+/// Where the search for the eight characters begins.
+std::size_t NBBnrIndex::Begin(Stuk stuk) const
 {
     // Mixes all bits, since the numbers differ in a few of them only.
     Stuk hash = stuk;
     hash = (hash ^ hash >> 30U) * 0xBF58476D1CE4E5B9U;
     hash = (hash ^ hash >> 27U) * 0x94D049BB133111EBU;
     hash ^= hash >> 31U;
-    std::size_t vak = hash & (stukken_.size() - 1);
-    while (stukken_[vak] != 0 && stukken_[vak] != stuk)
+    return hash & (stukken_.size() - 1);
+}
+
+/// Where the eight characters stand in the table, or the free place where they belong.
+std::size_t NBBnrIndex::Vak(Stuk stuk) const
+{
+    std::size_t vak = Begin(stuk);
+    while (stukken_[vak].stuk != 0 && stukken_[vak].stuk != stuk)
         vak = (vak + 1) & (stukken_.size() - 1);
     return vak;
 }
 
 std::uint32_t NBBnrIndex::PlantGewoon(Stuk stuk)
 {
-    const std::size_t vak = Vak(stuk);
-    if (stukken_[vak] == 0) {
-        stukken_[vak] = stuk;
-        stukAntwoord_[vak] = NieuwAntwoord();
-    }
-    return stukAntwoord_[vak];
+    Plek& plek = stukken_[Vak(stuk)];
+    if (plek.stuk == 0)
+        plek = {stuk, NieuwAntwoord()};
+    return plek.antwoord;
 }
 
 std::uint32_t NBBnrIndex::Kind(std::uint32_t knoop, unsigned char teken) const
@@ -153,11 +176,17 @@ void NBBnrIndex::LeesGewoon(char teken)
     constexpr int vol = static_cast<int>(Stuklengte);
     lengte_ = teken == '-' ? 0 : std::min(lengte_ + 1, vol);
     laatste_ = laatste_ << 8U | static_cast<unsigned char>(teken);
-    if (lengte_ < vol || laatste_ == 0)
-        return;
-    const std::size_t vak = Vak(laatste_);
-    if (stukken_[vak] != 0)
-        gezien_[stukAntwoord_[vak]] = true;
+    if (lengte_ == vol && laatste_ != 0)
+        ZieLaatste();
+}
+
+std::uint32_t NBBnrIndex::ZieLaatste()
+{
+    const Plek& plek = stukken_[Vak(laatste_)];
+    if (plek.stuk == 0)
+        return Geen;
+    gezien_[plek.antwoord] = true;
+    return plek.antwoord;
 }
 
 void NBBnrIndex::LeesVreemd(unsigned char teken)

@@ -23,14 +23,20 @@ class NBBnrIndex {
     /// The formatted numbers that will be asked for, which are known by their places from then on.
     explicit NBBnrIndex(const std::vector<Tekst>& vragen);
 
-    /// Lengthens the text by "-" and this formatted number.
-    void Voeg(Tekstblik nummer);
+    static constexpr std::uint32_t Geen = 0xFFFFFFFF;
+
+    /// Lengthens the text by "-" and this formatted number. Gives the answer of the questions that
+    /// are the same, where that is known: equal usual questions have one answer.
+    std::uint32_t Voeg(Tekstblik nummer);
+    /// Says that this number will be added soon.
+    void Kondig(Tekstblik nummer) const;
     /// Whether the question at this place occurs in the text so far.
     [[nodiscard]] bool Bevat(std::size_t vraag) const { return gezien_[antwoord_[vraag]]; }
+    [[nodiscard]] std::uint32_t Antwoord(std::size_t vraag) const { return antwoord_[vraag]; }
+    [[nodiscard]] std::size_t AantalAntwoorden() const { return gezien_.size(); }
 
   private:
     using Stuk = std::uint64_t; ///< eight characters
-    static constexpr std::uint32_t Geen = 0xFFFFFFFF;
 
     /// A node of the tree of all unusual questions; the children of a node hang together by
     /// `broer`.
@@ -47,19 +53,24 @@ class NBBnrIndex {
     std::uint32_t PlantGewoon(Stuk stuk);
     std::uint32_t PlantVreemd(Tekstblik vraag);
     void VerbindTerug();
+    [[nodiscard]] std::size_t Begin(Stuk stuk) const;
     [[nodiscard]] std::size_t Vak(Stuk stuk) const;
     [[nodiscard]] std::uint32_t Kind(std::uint32_t knoop, unsigned char teken) const;
     [[nodiscard]] std::uint32_t Volgende(std::uint32_t knoop, unsigned char teken) const;
     void Lees(char teken);
     void LeesGewoon(char teken);
+    std::uint32_t ZieLaatste();
     void LeesVreemd(unsigned char teken);
 
     std::vector<std::uint32_t> antwoord_; ///< per question, its place in `gezien_`
     std::vector<bool> gezien_;
 
     // Questions of eight characters without "-", by far the most: a table by hash; 0 is free.
-    std::vector<Stuk> stukken_;
-    std::vector<std::uint32_t> stukAntwoord_;
+    struct Plek {
+        Stuk stuk = 0;
+        std::uint32_t antwoord = 0;
+    };
+    std::vector<Plek> stukken_;
     Stuk laatste_ = 0; ///< the last eight characters of the text
     int lengte_ = 0;   ///< characters since the last "-", counted to eight
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "federation/nbbnrindex.h"
+#include "platform/grootgeheugen.h"
 
 namespace plexoran {
 namespace {
@@ -30,25 +31,17 @@ Tekstblik Veld(const Importvelden& velden, Importveld veld)
     return velden[static_cast<std::size_t>(veld)];
 }
 
-Tekstblik NummerVan(Tekstblik regel)
-{
-    return ZonderSpaties(Veld(SplitsImportregel(regel), Importveld::NBBnr));
-}
-
-/// The first row with each number, as text. Rows in one block beside their hashes: a node for each
-/// would be somewhere else in memory for every member that is looked up.
+/// The first row of a group with each number, as text. Rows in one block beside their hashes: a
+/// node for each would be somewhere else in memory for every member that is looked up.
 class RijMetNummer {
   public:
-    explicit RijMetNummer(const Spelertabel& tabel)
+    RijMetNummer(const Spelertabel& tabel, Tekstblik groep)
         : tabel_(tabel), vakken_(std::bit_ceil(2 * (static_cast<std::size_t>(tabel.Rijen()) + 1)))
-    {}
-
-    void Voeg(int rij)
     {
-        const Tekstblik nummer = tabel_.Cel(rij, Kolom::NBBnr);
-        Vak& vak = vakken_[VakVan(nummer)];
-        if (vak.rij == 0)
-            vak = {Kenmerk(nummer), rij};
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+            if (tabel.Cel(rij, Kolom::Groep) == groep)
+                Voeg(rij);
+        }
     }
 
     /// 0 when there is none.
@@ -59,6 +52,14 @@ class RijMetNummer {
         std::uint32_t kenmerk = 0;
         int rij = 0;
     };
+
+    void Voeg(int rij)
+    {
+        const Tekstblik nummer = tabel_.Cel(rij, Kolom::NBBnr);
+        Vak& vak = vakken_[VakVan(nummer)];
+        if (vak.rij == 0)
+            vak = {Kenmerk(nummer), rij};
+    }
 
     static std::uint32_t Kenmerk(Tekstblik nummer)
     {
@@ -81,93 +82,176 @@ class RijMetNummer {
     std::vector<Vak> vakken_;
 };
 
-/// One merge. It works on a copy of the register, so that stopping half-way changes nothing and
-/// the views into the original hold until the end.
+/// One merge. It decides first what happens to every line and changes the register only then, so
+/// that stopping half-way changes nothing.
 class Samenvoeger {
   public:
-    Samenvoeger(const Register& oud, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
-        : oud_(oud.tabel), opdracht_(opdracht), voortgang_(voortgang), nieuw_(oud),
-          NBBgr_(Hoofdletters(opdracht.subgroep)), NBBnrIndex_(Vragen(opdracht.lstN1)),
-          rijMetNummer_(oud.tabel)
+    Samenvoeger(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
+        : spelers_(spelers), opdracht_(opdracht), voortgang_(voortgang),
+          nummers_(Nummers(opdracht.lstN1)), vragen_(Vragen(nummers_)), NBBnrIndex_(vragen_),
+          eersteRij_(NBBnrIndex_.AantalAntwoorden())
     {
         BouwNBBnrIndex();
     }
 
-    [[nodiscard]] std::optional<Samenvoegfout> Voer()
-    {
-        if (!VerversBestaande())
-            return Samenvoegfout::Gestopt;
-        return VoegNieuweToe();
-    }
+    [[nodiscard]] std::optional<Samenvoegfout> Beslis();
+    void Voer();
 
     Samenvoeging uitkomst;
-    [[nodiscard]] Register& Nieuw() { return nieuw_; }
 
   private:
-    /// The formatted number of every line.
-    static std::vector<Tekst> Vragen(const std::vector<Tekst>& lstN1)
-    {
-        std::vector<Tekst> vragen;
-        vragen.reserve(lstN1.size());
-        for (const Tekst& regel : lstN1)
-            vragen.push_back(OpgemaaktNBBnr(NummerVan(regel)));
-        return vragen;
-    }
+    struct Verversing {
+        std::size_t regel; ///< place in lstN1
+        int rij;
+    };
+
+    /// The number of every line, without outer blanks.
+    static std::vector<Tekstblik> Nummers(const Tekstlijst& lstN1);
+    static std::vector<Tekst> Vragen(const std::vector<Tekstblik>& nummers);
 
     void BouwNBBnrIndex();
-    [[nodiscard]] bool VerversBestaande();
+    [[nodiscard]] int ZoekRij(std::size_t regel);
+    [[nodiscard]] bool KiesVerversingen();
+    [[nodiscard]] bool KiesNieuwe();
     void Ververs(int rij, const Importvelden& velden);
-    [[nodiscard]] std::optional<Samenvoegfout> VoegNieuweToe();
-    [[nodiscard]] bool VoegLidToe(const Importvelden& velden);
+    void VoegLidToe(const Importvelden& velden);
     [[nodiscard]] bool GaVerder()
     {
         return ++gedaan_ % MeldElke != 0 || !voortgang_ ||
                voortgang_(gedaan_, 2 * opdracht_.lstN1.size());
     }
 
-    const Spelertabel& oud_;
+    Register& spelers_;
     const Samenvoegopdracht& opdracht_;
     const Voortgang& voortgang_;
-    Register nieuw_;
-    Tekst NBBgr_;
+    std::vector<Tekstblik> nummers_;
+    std::vector<Tekst> vragen_; ///< the numbers as the index writes them
+    Tekst NBBgr_ = Hoofdletters(opdracht_.subgroep);
     NBBnrIndex NBBnrIndex_;
-    RijMetNummer rijMetNummer_;
-    std::vector<std::size_t> lstN2_; ///< places in lstN1 of what is left
+    std::vector<int> eersteRij_; ///< per answer of the index, of the group; 0: none, or not known
+    std::optional<RijMetNummer> rijMetNummer_; ///< made when a row cannot be told by its answer
+    std::vector<Verversing> verversingen_;
+    std::vector<std::size_t> lstN2_; ///< places in lstN1 of what is to be added
     std::size_t gedaan_ = 0;
 };
 
-void Samenvoeger::BouwNBBnrIndex()
+std::vector<Tekstblik> Samenvoeger::Nummers(const Tekstlijst& lstN1)
 {
-    for (int rij = 1; rij <= oud_.Rijen(); ++rij) {
-        if (oud_.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
-            continue;
-        const Tekstblik nummer = oud_.Cel(rij, Kolom::NBBnr);
-        NBBnrIndex_.Voeg(OpgemaaktNBBnr(nummer));
-        if (!nummer.empty())
-            rijMetNummer_.Voeg(rij);
-    }
+    std::vector<Tekstblik> nummers;
+    nummers.reserve(lstN1.size());
+    for (const Tekstblik regel : lstN1)
+        nummers.push_back(ZonderSpaties(Veld(SplitsImportregel(regel), Importveld::NBBnr)));
+    return nummers;
 }
 
-/// Refreshes what has a row of its own number; the rest that has a number stays for adding.
-bool Samenvoeger::VerversBestaande()
+std::vector<Tekst> Samenvoeger::Vragen(const std::vector<Tekstblik>& nummers)
 {
-    for (std::size_t i = 0; i < opdracht_.lstN1.size(); ++i) {
-        const Tekst& regel = opdracht_.lstN1[i];
-        const Importvelden velden = SplitsImportregel(regel);
-        const Tekstblik nummer = ZonderSpaties(Veld(velden, Importveld::NBBnr));
-        if (nummer.empty()) {
-            uitkomst.ZonderNBBnr += regel + "\r\n";
+    std::vector<Tekst> vragen;
+    ReserveerGroot(vragen, nummers.size());
+    for (const Tekstblik nummer : nummers)
+        vragen.push_back(OpgemaaktNBBnr(nummer));
+    return vragen;
+}
+
+void Samenvoeger::BouwNBBnrIndex()
+{
+    // Some rows at a time, so that the index has the places of their numbers at hand.
+    constexpr std::size_t tegelijk = 32;
+    std::vector<std::pair<int, Tekst>> hap;
+    const auto verwerk = [&] {
+        for (const auto& [rij, nummer] : hap) {
+            const std::uint32_t antwoord = NBBnrIndex_.Voeg(nummer);
+            if (antwoord != NBBnrIndex::Geen && eersteRij_[antwoord] == 0)
+                eersteRij_[antwoord] = rij;
+        }
+        hap.clear();
+    };
+    const Spelertabel& tabel = spelers_.tabel;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
+            continue;
+        hap.emplace_back(rij, OpgemaaktNBBnr(tabel.Cel(rij, Kolom::NBBnr)));
+        NBBnrIndex_.Kondig(hap.back().second);
+        if (hap.size() == tegelijk)
+            verwerk();
+    }
+    verwerk();
+}
+
+/// The first row of the group whose number is, to the letter, the one of this line; 0: none.
+int Samenvoeger::ZoekRij(std::size_t regel)
+{
+    if (!NBBnrIndex_.Bevat(regel))
+        return 0;
+    // The first of all that read the same as a number. Where it is written otherwise, a later row
+    // may still be written as the line is.
+    const int rij = eersteRij_[NBBnrIndex_.Antwoord(regel)];
+    if (rij != 0 && spelers_.tabel.Cel(rij, Kolom::NBBnr) == nummers_[regel])
+        return rij;
+    if (!rijMetNummer_)
+        rijMetNummer_.emplace(spelers_.tabel, opdracht_.importgroep);
+    return rijMetNummer_->Zoek(nummers_[regel]);
+}
+
+std::optional<Samenvoegfout> Samenvoeger::Beslis()
+{
+    if (!KiesVerversingen() || !KiesNieuwe())
+        return Samenvoegfout::Gestopt;
+    if (!ZijnErSleutels(spelers_, lstN2_.size()))
+        return Samenvoegfout::GeenSleutels;
+    return std::nullopt;
+}
+
+/// What has a row of its own number is refreshed; the rest that has a number is left for adding.
+bool Samenvoeger::KiesVerversingen()
+{
+    for (std::size_t i = 0; i < nummers_.size(); ++i) {
+        if (nummers_[i].empty()) {
+            uitkomst.ZonderNBBnr.append(opdracht_.lstN1[i]).append("\r\n");
         } else {
-            const int rij = NBBnrIndex_.Bevat(i) ? rijMetNummer_.Zoek(nummer) : 0;
+            const int rij = ZoekRij(i);
             if (rij == 0)
                 lstN2_.push_back(i);
             else
-                Ververs(rij, velden);
+                verversingen_.push_back({i, rij});
         }
         if (!GaVerder())
             return false;
     }
     return true;
+}
+
+/// Of what is left, all whose number does not occur yet; every one of them makes it occur.
+bool Samenvoeger::KiesNieuwe()
+{
+    std::size_t over = 0;
+    for (std::size_t k = 0; k < lstN2_.size(); ++k) {
+        constexpr std::size_t vooruit = 16;
+        if (k + vooruit < lstN2_.size())
+            NBBnrIndex_.Kondig(vragen_[lstN2_[k + vooruit]]);
+        const std::size_t i = lstN2_[k];
+        if (NBBnrIndex_.Bevat(i)) {
+            uitkomst.overgeslagen.VoegToe(opdracht_.lstN1[i]);
+        } else {
+            NBBnrIndex_.Voeg(vragen_[i]);
+            lstN2_[over++] = i;
+        }
+        if (!GaVerder())
+            return false;
+    }
+    lstN2_.resize(over);
+    return true;
+}
+
+void Samenvoeger::Voer()
+{
+    spelers_.tabel.Reserveer(lstN2_.size(), verversingen_.size());
+    for (const auto& [regel, rij] : verversingen_)
+        Ververs(rij, SplitsImportregel(opdracht_.lstN1[regel]));
+    for (const std::size_t regel : lstN2_)
+        VoegLidToe(SplitsImportregel(opdracht_.lstN1[regel]));
+    uitkomst.AantalVerververst = verversingen_.size();
+    uitkomst.AantalNieuw = lstN2_.size();
 }
 
 /// The fields as they stand: one that was not asked for is empty and empties the cell.
@@ -177,43 +261,22 @@ void Samenvoeger::Ververs(int rij, const Importvelden& velden)
     for (std::size_t i = 0; i < Herkomst.size(); ++i)
         cellen[i] = {Herkomst[i].first, Veld(velden, Herkomst[i].second)};
     cellen.back() = {Kolom::NBBgr, NBBgr_};
-    nieuw_.tabel.ZetCellen(rij, cellen);
-    ++uitkomst.AantalVerververst;
+    spelers_.tabel.ZetCellen(rij, cellen);
 }
 
-std::optional<Samenvoegfout> Samenvoeger::VoegNieuweToe()
+void Samenvoeger::VoegLidToe(const Importvelden& velden)
 {
-    for (const std::size_t i : lstN2_) {
-        const Tekst& regel = opdracht_.lstN1[i];
-        if (NBBnrIndex_.Bevat(i))
-            uitkomst.overgeslagen.push_back(regel);
-        else if (!VoegLidToe(SplitsImportregel(regel)))
-            return Samenvoegfout::GeenSleutels;
-        if (!GaVerder())
-            return Samenvoegfout::Gestopt;
-    }
-    return std::nullopt;
-}
-
-/// False when the keys have run out.
-bool Samenvoeger::VoegLidToe(const Importvelden& velden)
-{
-    const auto sleutel = NieuweSleutel(nieuw_);
-    if (!sleutel)
-        return false;
-    Rijvelden cellen;
-    cellen[Plaats(Kolom::Nr)] = std::to_string(nieuw_.tabel.Rijen() + 1);
-    cellen[Plaats(Kolom::Key)] = std::to_string(*sleutel);
+    const Tekst nr = std::to_string(spelers_.tabel.Rijen() + 1);
+    const Tekst key = std::to_string(NieuweSleutel(spelers_).value());
+    Rijblikken cellen;
+    cellen[Plaats(Kolom::Nr)] = nr;
+    cellen[Plaats(Kolom::Key)] = key;
     cellen[Plaats(Kolom::Groep)] = opdracht_.importgroep;
     for (const auto& [kolom, veld] : Herkomst)
         cellen[Plaats(kolom)] = ZonderSpaties(Veld(velden, veld));
     cellen[Plaats(Kolom::NBBgr)] = NBBgr_;
-    const Tekstblik nummer = ZonderSpaties(Veld(velden, Importveld::NBBnr));
-    cellen[Plaats(Kolom::NBBnr)] = nummer;
-    nieuw_.tabel.VoegToe(cellen);
-    NBBnrIndex_.Voeg(OpgemaaktNBBnr(nummer));
-    ++uitkomst.AantalNieuw;
-    return true;
+    cellen[Plaats(Kolom::NBBnr)] = ZonderSpaties(Veld(velden, Importveld::NBBnr));
+    spelers_.tabel.VoegRijToe(cellen);
 }
 
 } // namespace
@@ -222,9 +285,9 @@ tl::expected<Samenvoeging, Samenvoegfout>
 VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
 {
     Samenvoeger samenvoeger(spelers, opdracht, voortgang);
-    if (const auto fout = samenvoeger.Voer())
+    if (const auto fout = samenvoeger.Beslis())
         return tl::unexpected(*fout);
-    spelers = std::move(samenvoeger.Nieuw());
+    samenvoeger.Voer();
     return std::move(samenvoeger.uitkomst);
 }
 

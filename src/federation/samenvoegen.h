@@ -7,15 +7,16 @@
 #include <tl/expected.hpp>
 
 #include "federation/importregel.h"
+#include "platform/tekstlijst.h"
 #include "platform/voortgang.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {
 
 struct Samenvoegopdracht {
-    Tekst importgroep;        ///< code of the group
-    Tekst subgroep;           ///< name of the member file; becomes the member group in capitals
-    std::vector<Tekst> lstN1; ///< import lines in the order of the file
+    Tekst importgroep; ///< code of the group
+    Tekst subgroep;    ///< name of the member file; becomes the member group in capitals
+    Tekstlijst lstN1;  ///< import lines in the order of the file
 };
 
 /// What became of the lines of one member file.
@@ -25,7 +26,7 @@ struct Samenvoeging {
     Tekst ZonderNBBnr;                 ///< lines without a federation number, each with CR LF
     /// Lines that did neither: their number occurs in the index, but no row bears just that text,
     /// or an earlier line of the file brought it.
-    std::vector<Tekst> overgeslagen;
+    Tekstlijst overgeslagen;
 };
 
 enum class Samenvoegfout {

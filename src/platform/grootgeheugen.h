@@ -14,6 +14,14 @@ namespace plexoran {
 /// megabytes and more; a system that has no such thing, or no such page free, gives small ones.
 void VraagGrotePaginas(const void* begin, std::size_t bytes);
 
+/// Brings what lies there into the processor's caches while other work goes on.
+inline void HaalAlvast([[maybe_unused]] const void* plek)
+{
+#if defined(__GNUC__)
+    __builtin_prefetch(plek);
+#endif
+}
+
 inline constexpr std::size_t GrotePagina = std::size_t{2} << 20U; ///< on most machines
 
 /// Characters that nobody cleared, a block of a large page and more at the border of such pages:

@@ -225,8 +225,8 @@ void Sorteerder::SorteerVanaf(std::span<Kop> koppen, std::size_t diepte)
     }
     SorteerOpWoord(koppen);
     for (auto begin = koppen.begin(); begin != koppen.end();) {
-        const auto eind = std::find_if(
-            begin, koppen.end(), [&](const Kop& kop) { return kop.woord != begin->woord; });
+        const auto eind = std::find_if(begin, koppen.end(),
+                                       [&](const Kop& kop) { return kop.woord != begin->woord; });
         if (eind - begin > 1) {
             if (IsEinde(begin->woord))
                 SorteerOpBytes({begin, eind});

@@ -1,5 +1,5 @@
-// A text or a vector in two parts that count on: the first as it came, the second for what is added.
-// Adding never copies what came, however much of it there is.
+// A text or a vector in two parts that count on: the first as it came, the second for what is
+// added. Adding never copies what came, however much of it there is.
 #pragma once
 
 #include <algorithm>

@@ -26,6 +26,23 @@ void Spelertabel::VoegCellenAan(Tekst& uit, int rij) const
     stuk(3, AantalKolommen);
 }
 
+template <class Rij> Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rij& velden)
+{
+    std::size_t lengte = AantalKolommen;
+    for (const Tekstblik veld : velden)
+        lengte += veld.size();
+    MaakRuimte(lengte);
+
+    Celgrenzen grenzen{};
+    for (std::size_t i = 0; i < velden.size(); ++i) {
+        grenzen[i] = static_cast<std::uint32_t>(tekst_.size());
+        VoegVeldToe(tekst_.Tweede(), velden[i]);
+        tekst_.Tweede() += ',';
+    }
+    grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());
+    return grenzen;
+}
+
 void Spelertabel::ZetRij(int rij, const Rijvelden& velden)
 {
     assert(rij >= 1 && rij <= Rijen());
@@ -56,34 +73,22 @@ void Spelertabel::VoegToe(const Rijvelden& velden)
     rijen_.Tweede().push_back(SchrijfVelden(velden));
 }
 
-void Spelertabel::Reserveer(std::size_t rijen)
+void Spelertabel::VoegRijToe(const Rijblikken& velden)
+{
+    rijen_.Tweede().push_back(SchrijfVelden(velden));
+}
+
+void Spelertabel::Reserveer(std::size_t erbij, std::size_t anders)
 {
     constexpr std::size_t speling = 16; // for a longer number, key or group
     const std::size_t lengte = tekst_.size() / std::max<std::size_t>(rijen_.size(), 1) + speling;
-    rijen_.Reserveer(rijen);
-    tekst_.Reserveer(std::min(rijen * lengte, GrootsteTekst - tekst_.size()));
+    rijen_.Reserveer(erbij);
+    tekst_.Reserveer(std::min((erbij + anders) * lengte, GrootsteTekst - tekst_.size()));
 }
 
 void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)
 {
     rijen_.Tweede().push_back(SchrijfKopie(rij, anders));
-}
-
-Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Rijvelden& velden)
-{
-    std::size_t lengte = AantalKolommen;
-    for (const Tekst& veld : velden)
-        lengte += veld.size();
-    MaakRuimte(lengte);
-
-    Celgrenzen grenzen{};
-    for (std::size_t i = 0; i < velden.size(); ++i) {
-        grenzen[i] = static_cast<std::uint32_t>(tekst_.size());
-        VoegVeldToe(tekst_.Tweede(), velden[i]);
-        tekst_.Tweede() += ',';
-    }
-    grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());
-    return grenzen;
 }
 
 Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celtekst> anders)

@@ -56,6 +56,8 @@ struct Celtekst {
 
 /// The 18 texts of a row; element 0 is column 1.
 using Rijvelden = std::array<Tekst, AantalKolommen>;
+/// The same, kept elsewhere.
+using Rijblikken = std::array<Tekstblik, AantalKolommen>;
 
 [[nodiscard]] constexpr std::size_t Plaats(Kolom kolom)
 {
@@ -96,9 +98,11 @@ class Spelertabel {
     /// Changes several cells of a row at once, by rising column and none twice.
     void ZetCellen(int rij, std::span<const Celtekst> anders);
     void VoegToe(const Rijvelden& velden);
-    /// Makes room for rows that are about to be added or written anew, as long as those that are
-    /// there, so that memory is asked for once.
-    void Reserveer(std::size_t rijen);
+    /// The views may not be of this table.
+    void VoegRijToe(const Rijblikken& velden);
+    /// Makes room for so many rows that are about to be added and others written anew, as long as
+    /// those that are there, so that memory is asked for once.
+    void Reserveer(std::size_t erbij, std::size_t anders = 0);
     /// Adds a row that is another one with some of its cells changed: those in `anders`, by rising
     /// column and none twice.
     void VoegKopieToe(int rij, std::span<const Celtekst> anders);
@@ -128,13 +132,13 @@ class Spelertabel {
         return {tekst_.Vanaf(van), tot - van - std::size_t{1}};
     }
     /// Behind the text; the row's own bounds are not touched.
-    Celgrenzen SchrijfVelden(const Rijvelden& velden);
+    template <class Rij> Celgrenzen SchrijfVelden(const Rij& velden);
     Celgrenzen SchrijfKopie(int rij, std::span<const Celtekst> anders);
     void ZetNr(int rij);
     void MaakRuimte(std::size_t bytes);
 
     Tweedelig<Tekst> tekst_; ///< the file and what was written since; a row lies in one of them
-    Tekst kopie_;            ///< the row that is being written anew; kept for the sake of its memory
+    Tekst kopie_; ///< the row that is being written anew; kept for the sake of its memory
     Tweedelig<std::vector<Celgrenzen>> rijen_;
 };
 

@@ -17,7 +17,8 @@
 namespace plexoran {
 namespace {
 
-using Lijst = std::vector<Tekst>;
+using Lijst = Tekstlijst;
+using Namen = std::vector<Tekst>;
 
 Ledenopdracht Opdracht(Ledenbron bron)
 {
@@ -235,12 +236,12 @@ TEST(BepaalXMLsoort, HoudtAlleenDeBestandenVanDeGekozenSoort)
     zet("v16.xml", utf16(vier));
     zet("d16.xml", utf16(drie));
     zet("kapot.xml", "<ReportableMember>\xFF");
-    const Lijst namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",  "hoofd.xml",
+    const Namen namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",  "hoofd.xml",
                          "a.xml", "v16.xml", "c.xml",   "leeg.xml",   "kapot.xml"};
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb3),
-              (Lijst{"d.xml", "d16.xml", "c.xml", "kapot.xml"}));
+              (Namen{"d.xml", "d16.xml", "c.xml", "kapot.xml"}));
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb4),
-              (Lijst{"v.xml", "a.xml", "v16.xml"}));
+              (Namen{"v.xml", "a.xml", "v16.xml"}));
 }
 
 /// The sample exports as they stand in the repository.
@@ -267,15 +268,15 @@ class Voorbeelden : public ::testing::Test {
     }
 
     GeheugenSchijf schijf_;
-    Lijst namen_;
+    Namen namen_;
 };
 
 TEST_F(Voorbeelden, ZijnElkVanHunSoort)
 {
     EXPECT_EQ(BepaalXMLsoort(schijf_, "C:\\Export", namen_, Ledenbron::XmlNbb3),
-              Lijst{"Donderdag 20260901.xml"});
+              Namen{"Donderdag 20260901.xml"});
     EXPECT_EQ(BepaalXMLsoort(schijf_, "C:\\Export", namen_, Ledenbron::XmlNbb4),
-              (Lijst{"Cursus 20260901.xml", "Zomer 20260901.xml"}));
+              (Namen{"Cursus 20260901.xml", "Zomer 20260901.xml"}));
 }
 
 TEST_F(Voorbeelden, DeCsvBestandenGevenHunLeden)
@@ -395,7 +396,7 @@ TEST(LeesLedenbestand, TweehonderdMegabyteDuurtNietLang)
     const auto heel =
         LeesGroot(Ledenbron::XmlNbb4, Xml("<ReportableMember><Adres>" + Tekst(groot, 'x') +
                                           "</Adres></ReportableMember>"));
-    EXPECT_EQ(heel->lstN1.at(0).size(), groot + 10);
+    EXPECT_EQ(heel->lstN1[0].size(), groot + 10);
 }
 
 TEST(LeesLedenbestand, ZonderDatabaseIsHetEenFout)

@@ -5,7 +5,7 @@
 namespace plexoran {
 namespace {
 
-using Lijst = std::vector<Tekst>;
+using Lijst = Tekstlijst;
 
 constexpr Importkeuzes geen{.naw = false, .tel = false, .email = false, .mv = false};
 
@@ -27,7 +27,7 @@ TEST(Ledencsv, ZetDeKolommenInDeVolgordeVanDeImportregel)
 TEST(Ledencsv, EenVakjeDatUitStaatLaatZijnVeldenLeegMaarAanwezig)
 {
     const auto met = [](bool naw, bool tel, bool email, bool mv) {
-        return Lees(lid, {.naw = naw, .tel = tel, .email = email, .mv = mv}).lstN1.at(0);
+        return Tekst(Lees(lid, {.naw = naw, .tel = tel, .email = email, .mv = mv}).lstN1[0]);
     };
     EXPECT_EQ(met(false, true, true, true), "Zo\xEB,van,Ek,,,,06-1,z@x.example,,V,123");
     EXPECT_EQ(met(true, false, true, true),
@@ -59,7 +59,7 @@ TEST(Ledencsv, HoudtDeVolgordeEnTrimtNiets)
 TEST(Ledencsv, HetNummerVerliestAlleenTekensBoven240Vooraan)
 {
     const auto nummer = [](const Tekst& kolom) {
-        const Tekst regel = Lees(kolom + ";;;;;X", geen).lstN1.at(0);
+        const Tekst regel(Lees(kolom + ";;;;;X", geen).lstN1[0]);
         return regel.substr(regel.rfind(',') + 1);
     };
     EXPECT_EQ(nummer("\xFF\xFE\x31"), "1");

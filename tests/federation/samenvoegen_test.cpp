@@ -10,7 +10,7 @@
 namespace plexoran {
 namespace {
 
-using Teksten = std::vector<Tekst>;
+using Teksten = Tekstlijst;
 
 constexpr auto Kop = "HKEY=100042\r\n";
 
@@ -249,7 +249,7 @@ TEST(VoegLedenSamen, StoppenOpElkMomentVerandertNiets)
 {
     Teksten regels;
     for (int i = 0; i < 5000; ++i)
-        regels.push_back("V" + std::to_string(i) + ",,A,,,,,,,," + std::to_string(12345 + i));
+        regels.VoegToe("V" + std::to_string(i) + ",,A,,,,,,,," + std::to_string(12345 + i));
     int meldingen = 0;
     Register heel = DrieSpelers();
     const auto uitkomst = VoegLedenSamen(heel, {"Gr05-", "Club", regels},
@@ -339,7 +339,7 @@ void VoegPlatSamen(Platte& spelers, std::vector<Tekst> lstN1, const Tekst& groep
         const auto veld = Gesplitst(regel);
         const Tekst nummer(ZonderSpaties(veld[10]));
         if (index.find(Formaat(nummer)) != Tekst::npos) {
-            spelers.uitkomst.overgeslagen.push_back(regel);
+            spelers.uitkomst.overgeslagen.VoegToe(regel);
             continue;
         }
         Rijvelden rij;
@@ -382,12 +382,13 @@ TEST(VoegLedenSamen, DoetHetzelfdeAlsDePlatteStappen)
         spelers.HKEY = 100042;
         spelers.tabel = MaakTabel(begin);
         Platte plat{.rijen = AlleRijen(spelers.tabel), .HKEY = 100042};
-        Teksten regels(Gooi(toeval, 12));
-        for (Tekst& regel : regels)
-            regel = Trek(toeval, {"a", " b "}) + "," + Trek(toeval, {"", "de", "x,y"}) + ",Nieuw," +
-                    Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," + ToevalligNummer(toeval);
+        Teksten regels;
+        for (std::size_t over = Gooi(toeval, 12); over > 0; --over)
+            regels.VoegToe(Trek(toeval, {"a", " b "}) + "," + Trek(toeval, {"", "de", "x,y"}) +
+                           ",Nieuw," + Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
+                           ToevalligNummer(toeval));
         const Samenvoeging uitkomst = Voeg(spelers, regels);
-        VoegPlatSamen(plat, regels, "Gr05-", "Club");
+        VoegPlatSamen(plat, {regels.begin(), regels.end()}, "Gr05-", "Club");
         ASSERT_EQ(plat.rijen, AlleRijen(spelers.tabel));
         ASSERT_EQ(plat.HKEY, spelers.HKEY);
         ASSERT_EQ(plat.uitkomst.AantalVerververst, uitkomst.AantalVerververst);
