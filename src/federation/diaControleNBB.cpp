@@ -277,20 +277,19 @@ void diaControleNBB::Print()
     const Controlerijen rijen =
         Rijen(TekensNaastElkaar(kast_, controleblad::Breed - 2 * controleblad::Marge));
     const int bladen = ControlebladenVoor(rijen.Aantal());
-    const auto titel = QStringLiteral("Controle NBB-spelers");
+    const QString titel = QStringLiteral("Controle NBB-spelers");
     const auto printer =
         KiesPrinter(administratie_.schijf,
                     {.titel = titel, .stand = Papierstand::Staand, .bladen = bladen}, this);
     if (!printer)
         return;
-    const Drukwerk werk{
-        .titel = titel,
-        .stand = Papierstand::Staand,
-        .bezig = QStringLiteral("De lijst wordt geprint"),
-        .teken = [&](Tekenvlak& vlak, int blad) { TekenControleblad(vlak, rijen, blad, bladen); }};
-    if (const auto uitkomst = PrintBladen(*printer, werk, printer->Keus().Bladen(bladen, 1), this);
-        !uitkomst)
-        MeldPrintfout(this, uitkomst.error());
+    PrintBladen(
+        *printer,
+        {.titel = titel,
+         .stand = Papierstand::Staand,
+         .bezig = QStringLiteral("De lijst wordt geprint"),
+         .bladen = printer->Keus().Bladen(bladen, 1)},
+        [&](Tekenvlak& vlak, int blad) { TekenControleblad(vlak, rijen, blad, bladen); }, this);
     Teken();
 }
 

@@ -214,14 +214,13 @@ void frmAfdrukken::Print()
                                      this);
     if (!printer)
         return;
-    const Drukwerk werk{
-        .titel = Titel(),
-        .stand = indeling.papier.stand,
-        .bezig = QStringLiteral("De bladen worden geprint"),
-        .teken = [this](Tekenvlak& vlak, int blad) { TekenBlad(vlak, lijst_, blad); }};
-    const auto bladen = printer->Keus().Bladen(indeling.ToonbareBladen(), Bladscroll->value());
-    if (const auto uitkomst = PrintBladen(*printer, werk, bladen, this); !uitkomst)
-        MeldPrintfout(this, uitkomst.error());
+    PrintBladen(
+        *printer,
+        {.titel = Titel(),
+         .stand = indeling.papier.stand,
+         .bezig = QStringLiteral("De bladen worden geprint"),
+         .bladen = printer->Keus().Bladen(indeling.ToonbareBladen(), Bladscroll->value())},
+        [this](Tekenvlak& vlak, int blad) { TekenBlad(vlak, lijst_, blad); }, this);
 }
 
 } // namespace plexoran

@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "platform/fout.h"
 #include "platform/scherm/maten.h"
 #include "printing/bladbeeld.h"
 #include "register/administratie.h"

@@ -13,6 +13,8 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "hulp/proefstand.h"
+#include "hulp/voortgangstopper.h"
+#include "platform/falendeSchijf.h"
 #include "printing/printproef.h"
 
 using namespace plexoran;
@@ -91,6 +93,10 @@ class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
         wachter.Klaar();
         return LeesPdf(map.Weg() / "lijst.pdf");
     }
+    static void KiesAlles(QDialog& dialoog)
+    {
+        Vind<QRadioButton>(dialoog, "printAll")->setChecked(true);
+    }
     static void KiesReeks(QDialog& dialoog, int van, int tot)
     {
         Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
@@ -132,8 +138,7 @@ TEST_F(frmAfdrukkenTest, MeerDanDertigBladen)
     ASSERT_NO_FATAL_FAILURE(OpenRijen(2000));
     EXPECT_EQ(30, Balk()->maximum());
     EXPECT_EQ("(Totaal 37)", Vak("txtAantPages"));
-    const auto bladen =
-        Print([](QDialog& dialoog) { Vind<QRadioButton>(dialoog, "printAll")->setChecked(true); });
+    const auto bladen = Print(KiesAlles);
     EXPECT_EQ(30U, bladen.size());
     EXPECT_EQ("Blad 30 van 37", bladen.back().Regel(297 - 15 + 3).substr(25));
 }
@@ -326,6 +331,59 @@ TEST_F(frmAfdrukkenTest, EenReeksBladen)
     EXPECT_EQ("v56", bladen[0].Woord("v56").tekst);
     EXPECT_EQ("v165", bladen[1].Woord("v165").tekst);
     EXPECT_EQ(1, Balk()->value());
+}
+
+/// What was drawn before the stop comes out, as a whole file, and the user knows how much it is.
+TEST_F(frmAfdrukkenTest, StoppenNaHetBladDatWordtGetekend)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(500)); // ten pages
+    for (const auto& [na, melding] :
+         {std::pair<int, QString>(1, QStringLiteral("Het printen is gestopt.\r\n"
+                                                    "Aantal bladen dat is geprint: 1 van de 9.")),
+          {4, QStringLiteral("Het printen is gestopt.\r\n"
+                             "Aantal bladen dat is geprint: 4 van de 9.")}}) {
+        std::filesystem::remove(map.Weg() / "lijst.pdf"); // else the dialog asks first
+        const Voortgangstopper stopper(na);
+        VerwachtPdf(wachter, map.Weg() / "lijst.pdf",
+                    [](QDialog& dialoog) { KiesReeks(dialoog, 2, 10); });
+        wachter.Informatie(melding);
+        Klik(Deel<QPushButton>("cmdPrinten"));
+        wachter.Klaar();
+        EXPECT_EQ(na, stopper.Stappen());
+        const auto bladen = LeesPdf(map.Weg() / "lijst.pdf");
+        ASSERT_EQ(static_cast<std::size_t>(na), bladen.size());
+        EXPECT_EQ("Blad 2 van 10", bladen.front().Regel(297 - 15 + 3).substr(25));
+        EXPECT_EQ("Blad " + std::to_string(na + 1) + " van 10",
+                  bladen.back().Regel(297 - 15 + 3).substr(25));
+        EXPECT_EQ("v" + std::to_string(55 * (na + 1)),
+                  bladen.back().Woord("v" + std::to_string(55 * (na + 1))).tekst);
+        EXPECT_TRUE(venster->isVisible());
+        EXPECT_EQ("Print blad 1", Label("Label1"));
+    }
+    EXPECT_EQ(10U, Print(KiesAlles).size()); // the window is as it was
+}
+
+/// A click that comes with the last page has nothing left to stop.
+TEST_F(frmAfdrukkenTest, StoppenBijHetLaatsteBladIsKlaar)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(120));
+    const Voortgangstopper stopper(3);
+    EXPECT_EQ(3U, Print(KiesAlles).size());
+    EXPECT_EQ(3, stopper.Stappen());
+}
+
+TEST_F(frmAfdrukkenTest, EenVolleSchijfNaHetStoppenIsDeMelding)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(500));
+    schijf.FaalVanaf(2);
+    const Voortgangstopper stopper(2);
+    VerwachtPdf(wachter, map.Weg() / "lijst.pdf", KiesAlles);
+    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+                      .icoon = QMessageBox::Critical,
+                      .alleenBegin = true});
+    Klik(Deel<QPushButton>("cmdPrinten"));
+    wachter.Klaar();
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
 }
 
 TEST_F(frmAfdrukkenTest, AnnulerenPrintNiets)

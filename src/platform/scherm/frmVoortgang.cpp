@@ -12,11 +12,17 @@ namespace {
 
 constexpr qint64 TotInBeeld = 500; // milliseconds
 
+qint64 WachtVoorBeeld()
+{
+    const QVariant anders = qApp->property(VoortgangNa);
+    return anders.isValid() ? anders.toLongLong() : TotInBeeld;
+}
+
 } // namespace
 
 frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder)
     : QWidget(ouder, Qt::Dialog), lblTekst(MaakLabel(QStringLiteral("lblTekst"), tekst, this)),
-      balk(new Voortgangsbalk(QStringLiteral("balk"), this))
+      balk(new Voortgangsbalk(QStringLiteral("balk"), this)), totInBeeld_(WachtVoorBeeld())
 {
     setObjectName(QStringLiteral("frmVoortgang"));
     setWindowTitle(QStringLiteral("Plexoran"));
@@ -41,7 +47,7 @@ void frmVoortgang::ZetTekst(const QString& tekst)
 
 bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
 {
-    if (balk->Duur() >= TotInBeeld && balk->Zet(gedaan, geheel)) {
+    if (balk->Duur() >= totInBeeld_ && balk->Zet(gedaan, geheel)) {
         show();
         QApplication::processEvents();
     }

@@ -10,6 +10,10 @@
 
 namespace plexoran {
 
+/// The property of the application by which a test lets the window come sooner, after so many
+/// milliseconds.
+inline constexpr auto VoortgangNa = "voortgangNa";
+
 class frmVoortgang : public QWidget {
     Q_OBJECT
 
@@ -36,6 +40,7 @@ class frmVoortgang : public QWidget {
     QLabel* lblTekst;
     Voortgangsbalk* balk;
     QPushButton* cmdStop = nullptr; ///< none where stopping is not safe
+    qint64 totInBeeld_;             ///< milliseconds
     bool gestopt_ = false;
 };
 

@@ -15,17 +15,21 @@ namespace {
 
 Bladkeus KeusVan(const QPrinter& printer)
 {
+    Bladkeus keus;
     switch (printer.printRange()) {
     case QPrinter::AllPages:
-        return {.soort = Bladkeus::Soort::Alle};
+        keus.soort = Bladkeus::Soort::Alle;
+        break;
     case QPrinter::PageRange:
-        return {
-            .soort = Bladkeus::Soort::Reeks, .van = printer.fromPage(), .tot = printer.toPage()};
+        keus.soort = Bladkeus::Soort::Reeks;
+        keus.van = printer.fromPage();
+        keus.tot = printer.toPage();
+        break;
     case QPrinter::Selection:
     case QPrinter::CurrentPage:
         break;
     }
-    return {};
+    return keus;
 }
 
 /// Qt 6.4 refuses whatever is typed as single pages; a range from and to is enough.
@@ -37,16 +41,37 @@ void VerbergLosseBladen(const QPrintDialog& dialoog)
     }
 }
 
+/// How many of the pages come out.
+Uitkomst<std::size_t> DrukBladen(const Printer& printer, const Printgang& gang,
+                                 const Bladtekenaar& teken, QWidget* ouder)
+{
+    frmVoortgang voortgang(gang.bezig, QStringLiteral("&Stoppen na dit blad"), ouder);
+    auto taak = printer.Begin(gang.stand, gang.titel);
+    if (!taak)
+        return tl::unexpected(taak.error());
+    std::size_t gedaan = 0;
+    do {
+        if (gedaan > 0) {
+            if (const auto nieuw = (*taak)->NieuwBlad(); !nieuw)
+                return tl::unexpected(nieuw.error());
+        }
+        teken((*taak)->Vlak(), gang.bladen[gedaan]);
+        ++gedaan;
+    } while (voortgang.Meld(gedaan, gang.bladen.size()) && gedaan < gang.bladen.size());
+    if (const auto eind = (*taak)->Eind(); !eind)
+        return tl::unexpected(eind.error());
+    return gedaan;
+}
+
 } // namespace
 
 std::vector<int> Bladkeus::Bladen(int totaal, int huidig) const
 {
-    std::vector<int> bladen;
     const bool reeks = soort == Soort::Reeks && van > 0 && tot > 0;
-    if (soort != Soort::Alle && !reeks)
-        return {huidig};
-    const int eerste = reeks ? van : 1;
-    const int laatste = reeks ? std::min(tot, totaal) : totaal;
+    const bool alle = soort == Soort::Alle;
+    const int eerste = reeks ? van : alle ? 1 : huidig;
+    const int laatste = reeks ? std::min(tot, totaal) : alle ? totaal : huidig;
+    std::vector<int> bladen;
     for (int blad = eerste; blad <= laatste; ++blad)
         bladen.push_back(blad);
     return bladen;
@@ -88,31 +113,27 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWid
     if (dialoog.exec() != QDialog::Accepted)
         return std::nullopt;
     Bladkeus keus = KeusVan(*printer);
-    if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty())
+    if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
         return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()),
                        std::move(keus));
+    }
     return Printer(std::move(printer), std::move(keus));
 }
 
-Uitkomst<void> PrintBladen(const Printer& printer, const Drukwerk& werk,
-                           const std::vector<int>& bladen, QWidget* ouder)
+void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,
+                 QWidget* ouder)
 {
-    if (bladen.empty())
-        return {};
-    frmVoortgang voortgang(werk.bezig, QStringLiteral("&Stoppen na dit blad"), ouder);
-    auto taak = printer.Begin(werk.stand, werk.titel);
-    if (!taak)
-        return tl::unexpected(taak.error());
-    for (std::size_t i = 0; i < bladen.size(); ++i) {
-        if (i > 0) {
-            if (auto nieuw = (*taak)->NieuwBlad(); !nieuw)
-                return nieuw;
-        }
-        werk.teken((*taak)->Vlak(), bladen[i]);
-        if (!voortgang.Meld(i + 1, bladen.size()))
-            break;
-    }
-    return (*taak)->Eind();
+    if (gang.bladen.empty())
+        return;
+    const auto geprint = DrukBladen(printer, gang, teken, ouder);
+    if (!geprint)
+        MeldPrintfout(ouder, geprint.error());
+    else if (*geprint < gang.bladen.size())
+        Meld(ouder, QMessageBox::Information,
+             QStringLiteral("Het printen is gestopt.\r\n"
+                            "Aantal bladen dat is geprint: %1 van de %2.")
+                 .arg(*geprint)
+                 .arg(gang.bladen.size()));
 }
 
 Uitkomst<Printer> StandaardPrinter()

@@ -53,18 +53,22 @@ struct Printvraag {
 [[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
                                                  QWidget* ouder);
 
-/// Pages that are all printed in one job.
-struct Drukwerk {
+/// What is printed, once a printer was chosen.
+struct Printgang {
     QString titel; ///< names the job
     Papierstand stand;
     QString bezig; ///< what the progress window says
-    std::function<void(Tekenvlak& vlak, int blad)> teken;
+    std::vector<int> bladen{};
 };
 
-/// Draws these pages one after another and hands them over; without pages nothing happens. Stopping
-/// lets the page that is being drawn be the last; what was drawn comes out.
-[[nodiscard]] Uitkomst<void> PrintBladen(const Printer& printer, const Drukwerk& werk,
-                                         const std::vector<int>& bladen, QWidget* ouder);
+/// Draws page `blad` on the surface.
+using Bladtekenaar = std::function<void(Tekenvlak& vlak, int blad)>;
+
+/// Prints these pages, none of them included. While many go out the user may stop: then the page
+/// that is being drawn is the last, what was drawn comes out, and he is told how much that is. He
+/// is also told of a failure.
+void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,
+                 QWidget* ouder);
 
 /// The default printer of the system; `Ontbreekt` when there is none.
 [[nodiscard]] Uitkomst<Printer> StandaardPrinter();
