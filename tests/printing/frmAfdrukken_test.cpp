@@ -1,5 +1,6 @@
 #include "printing/frmAfdrukken.h"
 
+#include <QCheckBox>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRadioButton>
@@ -384,6 +385,28 @@ TEST_F(frmAfdrukkenTest, EenVolleSchijfNaHetStoppenIsDeMelding)
     Klik(Deel<QPushButton>("cmdPrinten"));
     wachter.Klaar();
     EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
+}
+
+/// The print dialog offers both for a PDF file too.
+TEST_F(frmAfdrukkenTest, OmgekeerdEnMeerExemplaren)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    for (const bool perExemplaar : {true, false}) {
+        const auto bladen = Print([&](QDialog& dialoog) {
+            KiesReeks(dialoog, 2, 3);
+            Vind<QCheckBox>(dialoog, "reverse")->setChecked(true);
+            Vind<QSpinBox>(dialoog, "copies")->setValue(2);
+            Vind<QCheckBox>(dialoog, "collate")->setChecked(perExemplaar);
+        });
+        std::vector<std::string> voeten;
+        for (const Pdfblad& blad : bladen)
+            voeten.push_back(blad.Regel(297 - 15 + 3).substr(25));
+        const std::string twee = "Blad 2 van 4";
+        const std::string drie = "Blad 3 van 4";
+        EXPECT_EQ(perExemplaar ? (std::vector<std::string>{drie, twee, drie, twee})
+                               : (std::vector<std::string>{drie, drie, twee, twee}),
+                  voeten);
+    }
 }
 
 TEST_F(frmAfdrukkenTest, AnnulerenPrintNiets)

@@ -72,8 +72,12 @@ std::vector<int> Bladkeus::Bladen(int totaal, int huidig) const
     const int eerste = reeks ? van : alle ? 1 : huidig;
     const int laatste = reeks ? std::min(tot, totaal) : alle ? totaal : huidig;
     std::vector<int> bladen;
-    for (int blad = eerste; blad <= laatste; ++blad)
-        bladen.push_back(blad);
+    const int ronden = perExemplaar ? exemplaren : 1;
+    for (int ronde = 0; ronde < ronden; ++ronde) {
+        for (int i = eerste; i <= laatste; ++i)
+            bladen.insert(bladen.end(), static_cast<std::size_t>(perExemplaar ? 1 : exemplaren),
+                          omgekeerd ? eerste + laatste - i : i);
+    }
     return bladen;
 }
 
@@ -114,6 +118,9 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWid
         return std::nullopt;
     Bladkeus keus = KeusVan(*printer);
     if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
+        keus.omgekeerd = printer->pageOrder() == QPrinter::LastPageFirst;
+        keus.exemplaren = std::max(1, printer->copyCount());
+        keus.perExemplaar = printer->collateCopies();
         return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()),
                        std::move(keus));
     }

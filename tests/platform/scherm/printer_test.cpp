@@ -219,6 +219,20 @@ TEST(Bladkeus, EenReeksDieNietBovenNulIsKiestHetBladInBeeld)
     EXPECT_TRUE(reeks(6, 9).Bladen(5, 2).empty());
 }
 
+TEST(Bladkeus, OmgekeerdEnMeerExemplaren)
+{
+    Bladkeus keus{.soort = Bladkeus::Soort::Reeks, .van = 2, .tot = 4, .omgekeerd = true};
+    EXPECT_EQ((std::vector<int>{4, 3, 2}), keus.Bladen(5, 1));
+    EXPECT_EQ((std::vector<int>{3, 2}), keus.Bladen(3, 1)); // there are no more than three
+    keus.exemplaren = 2;
+    EXPECT_EQ((std::vector<int>{4, 3, 2, 4, 3, 2}), keus.Bladen(5, 1));
+    keus.perExemplaar = false;
+    EXPECT_EQ((std::vector<int>{4, 4, 3, 3, 2, 2}), keus.Bladen(5, 1));
+    keus.omgekeerd = false;
+    keus.soort = Bladkeus::Soort::Huidig;
+    EXPECT_EQ((std::vector<int>{5, 5}), keus.Bladen(9, 5));
+}
+
 /// Where the machine has a printer there is nothing to see here.
 TEST(StandaardPrinterTest, ZonderPrinterIsHetEenFout)
 {
