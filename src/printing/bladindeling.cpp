@@ -7,6 +7,7 @@ namespace {
 
 constexpr float A4Kort = 210;
 constexpr float A4Lang = 297;
+constexpr float Printerrand = 5; // of a sheet, which most printers cannot reach
 
 float Tekstbreedte(const Lettermeter& meter, const Letter& letter, Tekstblik tekst)
 {
@@ -62,6 +63,14 @@ int PassendeKolommen(const std::vector<float>& begin, float breed)
     return passend;
 }
 
+/// Where x(0) lies: at the margin, unless the list would end in the rim at the right that a printer
+/// leaves white. Then it moves to the left, but no farther than until both sides have as much.
+float Linkerkant(const Papier& papier, float breed)
+{
+    const float over = papier.breed - breed;
+    return std::min(papier.zijmarge, std::max(over - Printerrand, over / 2));
+}
+
 } // namespace
 
 Schaalmaten::Schaalmaten(float schaal)
@@ -91,7 +100,7 @@ int Bladindeling::LaatsteRij(int blad, int rijen) const
 }
 
 /// The orientation is decided by the whole sheet, as the margins do not count yet at that point. So
-/// a list may be wider than what lies between them: then it moves to the left, as far as it must.
+/// a list may be wider than what lies between them.
 Bladindeling BerekenKolommen(const Printtabel& tabel, float schaal, const Lettermeter& meter)
 {
     const Schaalmaten maten(schaal);
@@ -99,7 +108,7 @@ Bladindeling BerekenKolommen(const Printtabel& tabel, float schaal, const Letter
     const Papier papier(begin.back() <= A4Kort ? Papierstand::Staand : Papierstand::Liggend);
     const int kolommen = PassendeKolommen(begin, papier.breed);
     const float getekend = begin[static_cast<std::size_t>(kolommen)];
-    const float links = std::clamp(papier.breed - getekend, 0.0F, papier.zijmarge);
+    const float links = Linkerkant(papier, getekend);
     const float bruikbaar =
         papier.hoog - papier.bovenmarge - papier.bovenmarge - maten.kophoogte - maten.titelhoogte;
     const int rijenPerBlad = static_cast<int>(bruikbaar / maten.rijhoogte);

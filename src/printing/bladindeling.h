@@ -45,7 +45,7 @@ struct Bladindeling {
     /// x(0) to x(C+1): where each column begins and, last, the print width W.
     std::vector<float> begin;
     Papier papier;
-    float links;      ///< of x(0) on the sheet: the margin, less where the list would leave it
+    float links;      ///< of x(0) on the sheet: the margin, less where the list is too wide for it
     int kolommen;     ///< how many columns are drawn, the number of the row counted along
     int rijenPerBlad; ///< N
     int bladen;       ///< P, which may exceed the limit

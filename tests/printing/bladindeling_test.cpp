@@ -213,12 +213,20 @@ TEST(Bladindeling, EenReuzenkolomBlijftWeg)
     EXPECT_EQ(1, indeling.kolommen);
 }
 
-/// What is wider than the room between the margins, and yet fits the sheet, moves to the left.
-TEST(Bladindeling, DeLinkerMargeWijktAlleenVoorWatAndersVanHetVelLiep)
+/// What would come within 5 mm of the right edge, where printers leave the sheet white, moves to
+/// the left; what is too wide for that stands in the middle.
+TEST(Bladindeling, DeLinkerMargeWijktVoorWatAndersNietGeprintWerd)
 {
-    EXPECT_EQ(15, MetPrintbreedte(100).links);
-    EXPECT_EQ(15, MetPrintbreedte(194.9).links);
-    EXPECT_NEAR(5, static_cast<double>(MetPrintbreedte(205).links), 0.01);
-    EXPECT_EQ(15, MetPrintbreedte(281.9).links);
-    EXPECT_NEAR(7, static_cast<double>(MetPrintbreedte(290).links), 0.01);
+    const auto links = [](double breedte) {
+        return static_cast<double>(MetPrintbreedte(breedte).links);
+    };
+    EXPECT_EQ(15, links(100));
+    EXPECT_EQ(15, links(189.9));
+    EXPECT_NEAR(12, links(193), 0.01); // right edge at 205
+    EXPECT_NEAR(5, links(200), 0.01);
+    EXPECT_NEAR(2.5, links(205), 0.01);
+    EXPECT_NEAR(0.05, links(209.9), 0.01);
+    EXPECT_EQ(15, links(276.9)); // landscape
+    EXPECT_NEAR(12, links(280), 0.01);
+    EXPECT_NEAR(3.5, links(290), 0.01);
 }
