@@ -1,7 +1,6 @@
 #include "printing/frmPrintIni.h"
 
 #include <QGroupBox>
-#include <QLocale>
 #include <QVBoxLayout>
 
 #include "platform/scherm/berichten.h"
@@ -26,9 +25,10 @@ Kolom PrintkolomOp(int plaats)
 } // namespace
 
 frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
-                         const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder)
+                         const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder,
+                         QLocale getallen)
     : QDialog(ouder), administratie_(administratie), groeptekst_(std::move(groeptekst)),
-      kolomnamen_(kolomnamen),
+      kolomnamen_(kolomnamen), getallen_(std::move(getallen)),
       subgroepen_(Printsubgroepen(administratie.spelers.tabel, CodeUit(groeptekst_)))
 {
     MaakDelen();
@@ -137,7 +137,7 @@ void frmPrintIni::Vul()
     for (int plaats = 0; plaats < AantalVoorkeuze; ++plaats)
         lstKeus->Kies(plaats, true);
     for (int tiende = KleinsteSchaal; tiende <= GrootsteSchaal; ++tiende)
-        cmbSchaal->addItem(QLocale().toString(tiende / 10.0));
+        cmbSchaal->addItem(getallen_.toString(tiende / 10.0));
     cmbSchaal->setCurrentIndex(GewoneSchaal);
     lstNBBgr->Vul(static_cast<int>(subgroepen_.size()), [this](int plaats) {
         return NaarQString(subgroepen_[static_cast<std::size_t>(plaats)]);
@@ -164,7 +164,7 @@ void frmPrintIni::PasKnopAan()
 
 float frmPrintIni::Schaal() const
 {
-    return QLocale().toFloat(cmbSchaal->currentText());
+    return getallen_.toFloat(cmbSchaal->currentText());
 }
 
 void frmPrintIni::Print()

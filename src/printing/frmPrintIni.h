@@ -4,8 +4,10 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 
+#include "platform/scherm/inrichting.h"
 #include "platform/scherm/maten.h"
 #include "platform/scherm/meerkeuzelijst.h"
 #include "printing/printtabel.h"
@@ -19,9 +21,11 @@ class frmPrintIni : public QDialog {
     Q_OBJECT
 
   public:
-    /// `groeptekst` and `kolomnamen` are the group and the columns as the main window shows them.
+    /// `groeptekst` and `kolomnamen` are the group and the columns as the main window shows them;
+    /// the scales are written as `getallen` has it.
     frmPrintIni(Administratie& administratie, Tekst groeptekst,
-                const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder);
+                const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder,
+                QLocale getallen = Getalnotatie());
 
   private:
     void MaakDelen();
@@ -38,6 +42,7 @@ class frmPrintIni : public QDialog {
     Maten maten_;
     Tekst groeptekst_;
     std::array<Tekstblik, AantalKolommen> kolomnamen_;
+    QLocale getallen_;
     std::vector<Tekst> subgroepen_; ///< as listed; none: the group is empty
 
     QLabel* Label1 = nullptr;

@@ -8,6 +8,7 @@
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
+#include "printing/printproef.h"
 
 using namespace plexoran;
 
@@ -27,7 +28,13 @@ class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
         namen[Plaats(Kolom::NBBnr)] = "";
     }
 
-    void Open(const Tekst& groep = "Gr01-Clubleden & co") { Toon(administratie, groep, namen); }
+    void Open(const Tekst& groep = "Gr01-Clubleden & co",
+              const QLocale& getallen = {QLocale::Dutch, QLocale::Netherlands})
+    {
+        venster = std::make_unique<frmPrintIni>(administratie, groep, namen, &hoofd, getallen);
+        venster->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    }
     [[nodiscard]] Meerkeuzelijst* Lijst(const char* naam) const
     {
         return Vind<Meerkeuzelijst>(*venster, naam);
@@ -43,6 +50,14 @@ class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
     {
         Klik(Lijst(lijst)->viewport(),
              Lijst(lijst)->visualRect(Lijst(lijst)->model()->index(plaats, 0)).center());
+    }
+    [[nodiscard]] std::vector<std::string> Schalen() const
+    {
+        const auto* keus = Deel<QComboBox>("cmbSchaal");
+        std::vector<std::string> schalen;
+        for (int i = 0; i < keus->count(); ++i)
+            schalen.push_back(keus->itemText(i).toStdString());
+        return schalen;
     }
 
     std::array<Tekstblik, AantalKolommen> namen = Kolomnamen;
@@ -95,12 +110,37 @@ TEST_F(frmPrintIniTest, InDeImportgroepHeetDeLaatsteKolomNBBnr)
 TEST_F(frmPrintIniTest, DeSchalenInDeSchrijfwijzeVanDeGebruiker)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
-    const auto* keus = Vind<QComboBox>(*venster, "cmbSchaal");
-    std::vector<std::string> schalen;
-    for (int i = 0; i < keus->count(); ++i)
-        schalen.push_back(keus->itemText(i).toStdString());
-    EXPECT_EQ((std::vector<std::string>{"0,7", "0,8", "0,9", "1", "1,1", "1,2", "1,3"}), schalen);
-    EXPECT_EQ("1", keus->currentText().toStdString());
+    EXPECT_EQ((std::vector<std::string>{"0,7", "0,8", "0,9", "1", "1,1", "1,2", "1,3"}), Schalen());
+    EXPECT_EQ("1", Vind<QComboBox>(*venster, "cmbSchaal")->currentText().toStdString());
+    ASSERT_NO_FATAL_FAILURE(Open("Gr01-", {QLocale::English, QLocale::UnitedKingdom}));
+    EXPECT_EQ((std::vector<std::string>{"0.7", "0.8", "0.9", "1", "1.1", "1.2", "1.3"}), Schalen());
+}
+
+TEST(GetalnotatieTest, DieVanHetSysteemOfDeNederlandse)
+{
+    EXPECT_EQ("0,7", Getalnotatie(QLocale::c()).toString(0.7).toStdString());
+    EXPECT_EQ("0.7", Getalnotatie(QLocale(QLocale::English)).toString(0.7).toStdString());
+    EXPECT_EQ("0,7", Getalnotatie(QLocale(QLocale::French)).toString(0.7).toStdString());
+}
+
+/// What is written is read back: it decides how many rows go on a page.
+TEST_F(frmPrintIniTest, DeGekozenSchaalGaatMee)
+{
+    administratie.spelers.tabel = MaakPrintspelers(165);
+    for (const QLocale& getallen : {QLocale(QLocale::Dutch), QLocale(QLocale::English)}) {
+        for (const auto& [plaats, bladen] :
+             {std::pair<int, const char*>(0, "(Totaal 3)"), {3, "(Totaal 4)"}, {6, "(Totaal 5)"}}) {
+            ASSERT_NO_FATAL_FAILURE(Open("Gr01-", getallen));
+            Vind<QComboBox>(*venster, "cmbSchaal")->setCurrentIndex(plaats);
+            KlikRegel("lstNBBgr", 0);
+            wachter.Bedien([&, totaal = bladen](QDialog& dialoog) {
+                EXPECT_EQ(totaal, Vind<QLineEdit>(dialoog, "txtAantPages")->text().toStdString());
+                dialoog.reject();
+            });
+            Klik(Knop("cmdOK"));
+            wachter.Klaar();
+        }
+    }
 }
 
 TEST_F(frmPrintIniTest, DeSubgroepenVanDeGroepGeenIsGekozen)

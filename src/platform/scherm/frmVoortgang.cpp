@@ -47,7 +47,7 @@ void frmVoortgang::ZetTekst(const QString& tekst)
 
 bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
 {
-    if (balk->Duur() >= totInBeeld_ && balk->Zet(gedaan, geheel)) {
+    if (balk->Duur() >= totInBeeld_ && balk->Zet(gedaan, geheel, !isVisible())) {
         show();
         QApplication::processEvents();
     }

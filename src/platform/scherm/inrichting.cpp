@@ -2,7 +2,6 @@
 
 #include <QFontInfo>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QProxyStyle>
 #include <QTranslator>
 
@@ -45,9 +44,14 @@ class Ontbrekend : public QTranslator {
     }
 };
 
+QLocale Nederlands()
+{
+    return {QLocale::Dutch, QLocale::Netherlands};
+}
+
 void SpreekNederlands(QApplication& programma)
 {
-    const QLocale nederlands(QLocale::Dutch, QLocale::Netherlands);
+    const QLocale nederlands = Nederlands();
     QLocale::setDefault(nederlands);
     // Installed first: it is asked last, so that Qt's own word goes before.
     QApplication::installTranslator(new Ontbrekend(&programma));
@@ -75,6 +79,11 @@ void RichtIn(QApplication& programma)
     SpreekNederlands(programma);
     ZorgVoorVensterletter();
     QApplication::setWindowIcon(Pictogram());
+}
+
+QLocale Getalnotatie(const QLocale& systeem)
+{
+    return systeem.language() == QLocale::C ? Nederlands() : systeem;
 }
 
 } // namespace plexoran

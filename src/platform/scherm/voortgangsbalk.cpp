@@ -24,10 +24,10 @@ void Voortgangsbalk::Begin()
     setRange(0, 0);
 }
 
-bool Voortgangsbalk::Zet(std::size_t gedaan, std::size_t geheel)
+bool Voortgangsbalk::Zet(std::size_t gedaan, std::size_t geheel, bool meteen)
 {
     const qint64 nu = Duur();
-    if (nu - getoond_ < Tussenpoos)
+    if (!meteen && nu - getoond_ < Tussenpoos)
         return false;
     getoond_ = nu;
     // Counts may exceed what a bar can hold.

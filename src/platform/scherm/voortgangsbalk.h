@@ -14,8 +14,9 @@ class Voortgangsbalk : public QProgressBar {
     /// The work begins. The bar just moves until the whole is known.
     void Begin();
     /// What is done of the whole, 0 where the whole is not known. True when it was time to show it:
-    /// then the window shows what else it has to show and lets the program paint and listen.
-    [[nodiscard]] bool Zet(std::size_t gedaan, std::size_t geheel);
+    /// then the window shows what else it has to show and lets the program paint and listen. That
+    /// is every so often, or at once for a bar that comes into view now.
+    [[nodiscard]] bool Zet(std::size_t gedaan, std::size_t geheel, bool meteen = false);
     /// Full, and at rest.
     void Rust();
     /// Milliseconds since the work began.
