@@ -1,28 +1,34 @@
 // The proof through a real print queue, which script/printproef sets up; no part of the quick run.
 //
 // Prints three pages of the sample suite from the windows of the program and compares every word
-// that comes out of the queue with the page as the preview showed it. From the environment:
-// PRINTPROEF_WACHTRIJ, the name of the queue, PRINTPROEF_UIT, the folders, joined by ":", in one of
-// which the queue puts its PDF, and PRINTPROEF_DICHT, a queue that takes no jobs.
+// that comes out of the queue with the page as the preview showed it. Around it: what the server
+// makes of a range, of the reverse order and of a stop, and how a refusal is told. From the
+// environment: PRINTPROEF_WACHTRIJ, the name of the queue, PRINTPROEF_UIT, the folders, joined by
+// ":", in one of which the queue puts its PDF, PRINTPROEF_DICHT, a queue that takes no jobs, and
+// PRINTPROEF_WEG, one that is removed.
+#include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QProcess>
 #include <QRadioButton>
 #include <QSpinBox>
 
-#include <set>
+#include <map>
 
 #include <gtest/gtest.h>
 
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "hulp/proefsuite.h"
+#include "hulp/voortgangstopper.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/echteSchijf.h"
 #include "platform/scherm/meerkeuzelijst.h"
 #include "printing/frmAfdrukken.h"
+#include "printing/printproef.h"
 
 using namespace plexoran;
 
@@ -65,13 +71,15 @@ class WachtrijProef : public testing::Test {
         eerder_ = Aanwezig();
     }
 
-    [[nodiscard]] std::set<std::filesystem::path> Aanwezig() const
+    using Bestanden = std::map<std::filesystem::path, std::filesystem::file_time_type>;
+
+    [[nodiscard]] Bestanden Aanwezig() const
     {
-        std::set<std::filesystem::path> bestanden;
+        Bestanden bestanden;
         for (const auto& map : uit_) {
             std::error_code geen;
             for (const auto& deel : std::filesystem::directory_iterator(map, geen))
-                bestanden.insert(deel.path());
+                bestanden[deel.path()] = deel.last_write_time(geen);
         }
         return bestanden;
     }
@@ -83,8 +91,10 @@ class WachtrijProef : public testing::Test {
         klok.start();
         while (klok.elapsed() < Geduld) {
             QTest::qWait(500);
-            for (const auto& bestand : Aanwezig()) {
-                if (eerder_.count(bestand) != 0 || bestand.extension() != ".pdf")
+            for (const auto& [bestand, tijd] : Aanwezig()) {
+                const auto eerder = eerder_.find(bestand);
+                if ((eerder != eerder_.end() && eerder->second == tijd) ||
+                    bestand.extension() != ".pdf")
                     continue;
                 try {
                     auto bladen = LeesPdf(bestand);
@@ -128,19 +138,61 @@ class WachtrijProef : public testing::Test {
         Klik(Vind<QPushButton>(voorbeeld, "cmdAnnuleren"));
     }
 
-    static void WerkPrintdialoog(QDialog& dialoog)
+    static void KiesWachtrij(QDialog& dialoog, const char* naam)
     {
         auto* printers = Vind<QComboBox>(dialoog, "printers");
-        const int plaats =
-            printers->findText(QString::fromStdString(Omgeving("PRINTPROEF_WACHTRIJ")));
+        const int plaats = printers->findText(QString::fromStdString(Omgeving(naam)));
         if (plaats < 0)
             throw std::runtime_error("de wachtrij staat niet tussen de printers");
         printers->setCurrentIndex(plaats);
         emit printers->activated(plaats);
+    }
+    static void KiesReeks(QDialog& dialoog, int van, int tot)
+    {
+        KiesWachtrij(dialoog, "PRINTPROEF_WACHTRIJ");
         Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
-        Vind<QSpinBox>(dialoog, "from")->setValue(1);
-        Vind<QSpinBox>(dialoog, "to")->setValue(Bladen);
+        Vind<QSpinBox>(dialoog, "from")->setValue(van);
+        Vind<QSpinBox>(dialoog, "to")->setValue(tot);
+    }
+    static void WerkPrintdialoog(QDialog& dialoog)
+    {
+        KiesReeks(dialoog, 1, Bladen);
         DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
+    }
+
+    /// The preview of a list of so many rows, whose print dialog will be answered by `stappen`.
+    [[nodiscard]] std::unique_ptr<frmAfdrukken>
+    OpenLijst(int rijen, const std::function<void(QDialog&)>& stappen)
+    {
+        eigen = MaakPrintspelers(rijen);
+        auto venster = std::make_unique<frmAfdrukken>(
+            administratie,
+            Afdruk{.tabel = AlleenNaam(eigen), .groeptekst = "Gr01-", .subgroepkop = {}}, nullptr);
+        venster->show();
+        wachter.Bedien([=](QDialog& dialoog) {
+            stappen(dialoog);
+            DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
+        });
+        return venster;
+    }
+    /// The failure is told in a box, and the preview stays.
+    void MeldtFoutBij(const std::function<void(QDialog&)>& stappen)
+    {
+        const auto venster = OpenLijst(1, stappen);
+        wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+                          .icoon = QMessageBox::Critical,
+                          .alleenBegin = true});
+        Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
+        wachter.Klaar();
+        EXPECT_TRUE(venster->isVisible());
+    }
+    /// The number of each page that came out, as its foot has it.
+    [[nodiscard]] std::vector<std::string> Bladnummers() const
+    {
+        std::vector<std::string> nummers;
+        for (const Pdfblad& blad : WachtOpUitvoer())
+            nummers.push_back(blad.woorden.at(blad.woorden.size() - 3).tekst);
+        return nummers;
     }
 
     Proefsuite suite;
@@ -148,11 +200,12 @@ class WachtrijProef : public testing::Test {
     EchteSchijf schijf;
     Administratie administratie{.schijf = schijf, .winkel = winkel};
     Berichtwachter wachter;
+    Spelertabel eigen;
     std::vector<Pdfblad> beeld;
 
   private:
     std::vector<std::filesystem::path> uit_;
-    std::set<std::filesystem::path> eerder_;
+    Bestanden eerder_;
 };
 
 } // namespace
@@ -160,31 +213,43 @@ class WachtrijProef : public testing::Test {
 /// A queue that takes no jobs: the user is told, by what the server said.
 TEST_F(WachtrijProef, EenDichteWachtrijWordtGemeld)
 {
-    const std::string dicht = Omgeving("PRINTPROEF_DICHT");
-    Spelertabel tabel;
-    tabel.VoegToe({"1", "100001", "Gr01-", "An", "", "Bos"});
-    frmAfdrukken venster(
-        administratie,
-        {.tabel = MaakPrinttabel(
-             tabel, {.groepscode = "Gr01-", .subgroepen = {}, .kolommen = {Kolom::Achternaam}}),
-         .groeptekst = "Gr01-",
-         .subgroepkop = {}},
-        nullptr);
-    venster.show();
-    wachter.Bedien([&](QDialog& dialoog) {
-        auto* printers = Vind<QComboBox>(dialoog, "printers");
-        const int plaats = printers->findText(QString::fromStdString(dicht));
-        ASSERT_GE(plaats, 0);
-        printers->setCurrentIndex(plaats);
-        emit printers->activated(plaats);
-        DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
+    MeldtFoutBij([](QDialog& dialoog) { KiesWachtrij(dialoog, "PRINTPROEF_DICHT"); });
+}
+
+/// A queue that is taken away while the dialog is open.
+TEST_F(WachtrijProef, EenVerdwenenWachtrijWordtGemeld)
+{
+    MeldtFoutBij([](QDialog& dialoog) {
+        KiesWachtrij(dialoog, "PRINTPROEF_WEG");
+        QProcess lpadmin;
+        lpadmin.start(QStringLiteral("lpadmin"),
+                      {QStringLiteral("-x"), qEnvironmentVariable("PRINTPROEF_WEG")});
+        ASSERT_TRUE(lpadmin.waitForFinished());
+        ASSERT_EQ(0, lpadmin.exitCode());
     });
-    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
-                      .icoon = QMessageBox::Critical,
-                      .alleenBegin = true});
-    Klik(Vind<QPushButton>(venster, "cmdPrinten"));
+}
+
+/// A range is not cut once more by the server, and what was drawn before a stop comes out.
+TEST_F(WachtrijProef, EenReeksDieWordtGestopt)
+{
+    const Voortgangstopper stopper(2);
+    const auto venster = OpenLijst(300, [](QDialog& dialoog) { KiesReeks(dialoog, 2, 5); });
+    wachter.Informatie(QStringLiteral("Het printen is gestopt.\r\n"
+                                      "Aantal bladen dat is geprint: 2 van de 4."));
+    Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
     wachter.Klaar();
-    EXPECT_TRUE(venster.isVisible());
+    EXPECT_EQ((std::vector<std::string>{"2", "3"}), Bladnummers());
+}
+
+TEST_F(WachtrijProef, OmgekeerdKomtHetLaatsteBladEerst)
+{
+    const auto venster = OpenLijst(300, [](QDialog& dialoog) {
+        KiesReeks(dialoog, 2, 5);
+        Vind<QCheckBox>(dialoog, "reverse")->setChecked(true);
+    });
+    Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
+    wachter.Klaar();
+    EXPECT_EQ((std::vector<std::string>{"5", "4", "3", "2"}), Bladnummers());
 }
 
 TEST_F(WachtrijProef, DrieBladenZoalsInHetVoorbeeld)

@@ -15,7 +15,7 @@ namespace {
 
 Bladkeus KeusVan(const QPrinter& printer)
 {
-    Bladkeus keus;
+    Bladkeus keus{.omgekeerd = printer.pageOrder() == QPrinter::LastPageFirst};
     switch (printer.printRange()) {
     case QPrinter::AllPages:
         keus.soort = Bladkeus::Soort::Alle;
@@ -118,7 +118,6 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWid
         return std::nullopt;
     Bladkeus keus = KeusVan(*printer);
     if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
-        keus.omgekeerd = printer->pageOrder() == QPrinter::LastPageFirst;
         keus.exemplaren = std::max(1, printer->copyCount());
         keus.perExemplaar = printer->collateCopies();
         return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()),

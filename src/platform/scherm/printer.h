@@ -17,9 +17,8 @@ struct Bladkeus {
     Soort soort = Soort::Huidig;
     int van = 0; ///< of a range
     int tot = 0;
-    // What a printer of the system sees to itself; a PDF file does not.
-    bool omgekeerd = false; ///< the last page first
-    int exemplaren = 1;
+    bool omgekeerd = false;   ///< the last page first
+    int exemplaren = 1;       ///< more only for a PDF file; a printer makes them itself
     bool perExemplaar = true; ///< one copy after the other; else all copies of a page together
 
     /// The pages to draw, in this order, of `totaal` pages of which `huidig` is in view.
