@@ -47,6 +47,10 @@ void frmPrintIni::MaakDelen()
     Label1 = label(QStringLiteral("Label1"), QStringLiteral("Te printen Rubrieken (kolommen)"));
     Label2 = label(QStringLiteral("Label2"), QStringLiteral("Gekozen Groep:"));
     Label3 = label(QStringLiteral("Label3"), NaarQString(groeptekst_));
+    // A long name must not make the window wider than the screen.
+    Label3->setWordWrap(true);
+    Label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    Label3->setToolTip(Label3->text());
     Label4 =
         label(QStringLiteral("Label4"), QStringLiteral("Printuitvoer verkleinen of vergroten:"));
     Label5 = label(QStringLiteral("Label5"), QStringLiteral("Kies de schaal:"));

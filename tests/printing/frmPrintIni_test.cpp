@@ -86,6 +86,22 @@ TEST_F(frmPrintIniTest, DeOpschriften)
     EXPECT_EQ("Terug", Opschrift(Knop("cmdAnnuleren")));
 }
 
+/// However long the name of the group is; all of it can be read.
+TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietBreder)
+{
+    ASSERT_NO_FATAL_FAILURE(Open("Gr01-"));
+    const int breed = venster->width();
+    for (const Tekst& naam : {"Gr01-" + Tekst(300, 'x'), Tekst("Gr01-een naam van veel woorden ") +
+                                                             "die op een enkele regel van het "
+                                                             "venster niet allemaal passen"}) {
+        ASSERT_NO_FATAL_FAILURE(Open(naam));
+        EXPECT_EQ(breed, venster->width());
+        const auto* label = Vind<QLabel>(*venster, "Label3");
+        EXPECT_EQ(naam, label->toolTip().toStdString());
+        EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+    }
+}
+
 TEST_F(frmPrintIniTest, OpentMetDeEersteAchtKolommenGekozen)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
