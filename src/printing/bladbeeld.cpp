@@ -112,11 +112,6 @@ void Bladbeeld::Zoom(int stappen)
         static_cast<std::size_t>(std::clamp(plaats, 0, static_cast<int>(Zoomstappen.size()) - 1))));
 }
 
-int Bladbeeld::BreedteVoorBlad() const
-{
-    return picP1->width() + qRound(2 * BladPlaats * pixelsPerMm_) + balkdikte_ + 2 * frameWidth();
-}
-
 void Bladbeeld::resizeEvent(QResizeEvent* gebeurtenis)
 {
     QFrame::resizeEvent(gebeurtenis);

@@ -44,8 +44,6 @@ class Bladbeeld : public QFrame {
     void Zoom(int stappen);
     [[nodiscard]] QScrollBar& Staand() { return *VScroll1; }
     [[nodiscard]] QScrollBar& Liggend() { return *HScroll1; }
-    /// The size in which the width of the page is in view as it is now.
-    [[nodiscard]] int BreedteVoorBlad() const;
 
   signals:
     void zoomVeranderd(int procent);
