@@ -120,22 +120,32 @@ TEST(Bladindeling, TweehonderdtienBlijftStaandMeerGaatLiggen)
     EXPECT_TRUE(MetPrintbreedte(297.1).TeBreed());
 }
 
-/// Exactly 210: the print width is compared in single precision with the whole sheet.
-TEST(Bladindeling, PreciesTweehonderdtienIsStaand)
+/// The print width is compared in single precision with the whole sheet, which it may fill.
+TEST(Bladindeling, PreciesZoBreedAlsHetVelPast)
 {
     class Precies : public Lettermeter {
       public:
+        explicit Precies(float breed) : breed_(breed) {}
         [[nodiscard]] double Breedte(const Letter& /*letter*/, Tekstblik tekst) const override
         {
             const float p = 0.8F;
-            return tekst == "RegNr" ? 0.0 : static_cast<double>(210.0F - (p + p) - (p + p));
+            return tekst == "RegNr" ? 0.0 : static_cast<double>(breed_ - (p + p) - (p + p));
         }
         [[nodiscard]] double Hoogte(const Letter& /*letter*/) const override { return 4; }
+
+      private:
+        float breed_;
     };
     const Spelertabel tabel = MaakPrintspelers(1);
-    const auto indeling = BerekenKolommen(AlleenNaam(tabel), 1, Precies());
-    ASSERT_EQ(210.0F, indeling.Printbreedte());
-    EXPECT_EQ(Papierstand::Staand, indeling.papier.stand);
+    for (const auto& [breed, stand] :
+         {std::pair(210.0F, Papierstand::Staand), {297.0F, Papierstand::Liggend}}) {
+        const auto indeling = BerekenKolommen(AlleenNaam(tabel), 1, Precies(breed));
+        ASSERT_EQ(breed, indeling.Printbreedte());
+        EXPECT_EQ(stand, indeling.papier.stand);
+        EXPECT_FALSE(indeling.TeBreed());
+        EXPECT_EQ(2, indeling.kolommen);
+        EXPECT_EQ(0, indeling.links);
+    }
 }
 
 TEST(Bladindeling, RijenPerBlad)
