@@ -34,6 +34,7 @@ class Vlakvanger : public Tekenvlak {
         double x2 = 0;
         double y2 = 0;
         Kleur kleur;
+        double dikte = 0;
     };
 
     [[nodiscard]] const Lettermeter& Meter() const override { return meter_; }
@@ -41,9 +42,9 @@ class Vlakvanger : public Tekenvlak {
     {
         teksten.push_back({x, y, letter, Tekst(tekst)});
     }
-    void Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double /*dikte*/) override
+    void Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte) override
     {
-        lijnen.push_back({x1, y1, x2, y2, kleur});
+        lijnen.push_back({x1, y1, x2, y2, kleur, dikte});
     }
     void Vul(double /*x*/, double /*y*/, double /*breed*/, double /*hoog*/,
              Kleur /*kleur*/) override

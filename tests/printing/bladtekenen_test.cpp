@@ -112,9 +112,11 @@ TEST_F(BladtekenenTest, DeVoetStaatInDeOnderMarge)
         for (const char* tekst : {"Ravendeck.exe", "21-11-2026", "Blad 1 van 1"}) {
             EXPECT_GT(Deel(tekst).y, hoog - static_cast<double>(papier.bovenmarge)) << tekst;
             EXPECT_LT(Deel(tekst).y + meter.Hoogte(Deel(tekst).letter), hoog - 4) << tekst;
-            EXPECT_LT(Deel(tekst).letter.punten, 10);
+            EXPECT_EQ((Letter{.type = Lettertype::Arial, .punten = 7}), Deel(tekst).letter);
         }
         EXPECT_EQ(15, Deel("Ravendeck.exe").x);
+        // Ten characters of 0.7 mm, in the middle of the sheet.
+        EXPECT_NEAR(static_cast<double>(papier.breed) / 2 - 3.5, Deel("21-11-2026").x, Naast);
         const auto blad = Deel("Blad 1 van 1");
         EXPECT_NEAR(static_cast<double>(papier.breed) - 15,
                     blad.x + meter.Breedte(blad.letter, blad.tekst), Naast);
@@ -130,6 +132,7 @@ TEST_F(BladtekenenTest, GrijzeLijnenOmElkVak)
     const double rechts = 15 + static_cast<double>(lijst->indeling.Printbreedte());
     for (const auto& lijn : vlak.lijnen) {
         EXPECT_EQ((Kleur{100, 100, 100}), lijn.kleur);
+        EXPECT_EQ(0.1, lijn.dikte);
         if (lijn.y1 == lijn.y2) {
             liggend.insert(lijn.y1);
             EXPECT_NEAR(15, lijn.x1, Naast);
