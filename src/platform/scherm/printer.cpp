@@ -113,6 +113,7 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWid
                        QAbstractPrintDialog::PrintCollateCopies);
     dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, huidig);
     dialoog.setMinMax(1, std::max(1, vraag.bladen));
+    dialoog.setFromTo(1, std::max(1, vraag.bladen));
     VerbergLosseBladen(dialoog);
     if (dialoog.exec() != QDialog::Accepted)
         return std::nullopt;

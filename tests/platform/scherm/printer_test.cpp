@@ -178,6 +178,9 @@ TEST_F(PrinterTest, DeDialoogGeeftEenReeksBladen)
         Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Liggend, .bladen = 9},
              [](QDialog& dialoog) {
                  Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
+                 EXPECT_EQ(1, Vind<QSpinBox>(dialoog, "from")->value());
+                 EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->value());
+                 EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->maximum());
                  Vind<QSpinBox>(dialoog, "from")->setValue(3);
                  Vind<QSpinBox>(dialoog, "to")->setValue(5);
              });
