@@ -33,13 +33,15 @@ class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
   protected:
     frmAfdrukkenTest() { administratie.mappen.APPEXE = "Ravendeck.exe"; }
 
-    void Open(Spelertabel nieuw, std::vector<Kolom> kolommen, float schaal = 1)
+    void Open(Spelertabel nieuw, std::vector<Kolom> kolommen, float schaal = 1,
+              const std::array<Tekstblik, AantalKolommen>& namen = Kolomnamen)
     {
         venster.reset();
         tabel = std::move(nieuw);
         Toon(administratie,
-             Afdruk{.tabel = MaakPrinttabel(
-                        tabel, {.groepscode = "Gr01-", .kolommen = std::move(kolommen)}),
+             Afdruk{.tabel = MaakPrinttabel(tabel, {.groepscode = "Gr01-",
+                                                    .kolommen = std::move(kolommen),
+                                                    .kolomnamen = namen}),
                     .groeptekst = "Gr01-Clubleden",
                     .subgroepkop = "Subgroep(en): A + B",
                     .schaal = schaal});
@@ -170,6 +172,26 @@ TEST_F(frmAfdrukkenTest, EenTeBredeLijstWaarschuwtEnNoemtWatOntbreekt)
               Deel<QLabel>("Label2")->toolTip().toStdString());
     const auto bladen = Print();
     EXPECT_EQ("RegNr Voornaam", bladen.at(0).Regel(bladen.at(0).Woord("RegNr").boven));
+}
+
+/// Outside the import group the last column has no name: none on paper, one in the tool tip.
+TEST_F(frmAfdrukkenTest, DeLaatsteKolomZonderNaam)
+{
+    auto namen = Kolomnamen;
+    namen[Plaats(Kolom::NBBnr)] = "";
+    Spelertabel spelers = MaakPrintspelers(1);
+    spelers.ZetCel(1, Kolom::NBBnr, "12345");
+    ASSERT_NO_FATAL_FAILURE(Open(spelers, {Kolom::Achternaam, Kolom::NBBnr}, 1, namen));
+    const Pdfblad blad = Print().at(0);
+    EXPECT_EQ("RegNr Achternaam", blad.Regel(blad.Woord("RegNr").boven));
+    EXPECT_EQ("1 Bos 12345", blad.Regel(blad.Woord("12345").boven));
+
+    wachter.Waarschuwing(QStringLiteral("De printbreedte is groter dan het liggende A4.\r\n"
+                                        "Rechts ontbreken dus kolommen!"));
+    ASSERT_NO_FATAL_FAILURE(
+        Open(MaakPrintspelers(1, Tekst(200, 'x')), {Kolom::Achternaam, Kolom::NBBnr}, 1, namen));
+    EXPECT_EQ("Niet op het blad: Achternaam, (kolom 18)",
+              Deel<QLabel>("Label2")->toolTip().toStdString());
 }
 
 TEST_F(frmAfdrukkenTest, EenBladKiezenMetDeBalk)
