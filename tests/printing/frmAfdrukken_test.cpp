@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QWheelEvent>
 #include <QtTest/qtestspontaneevent.h>
@@ -119,6 +120,18 @@ TEST_F(frmAfdrukkenTest, DeOpschriften)
     EXPECT_EQ("1", Vak("txtBlad"));
     EXPECT_EQ("(Totaal 2)", Vak("txtAantPages"));
     EXPECT_EQ("", Deel<QLabel>("Label2")->toolTip().toStdString());
+}
+
+/// As far as the screen allows; its frame grows with the window.
+TEST_F(frmAfdrukkenTest, HetVensterIsZoHoogAlsHetScherm)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(1));
+    EXPECT_EQ(QSize(Maten().Twips(12700), venster->screen()->availableSize().height()),
+              venster->property(Standaardmaat).toSize());
+    const int kader = Deel<QWidget>("picP0")->height();
+    venster->resize(venster->width(), venster->height() - 100);
+    QApplication::processEvents();
+    EXPECT_EQ(kader - 100, Deel<QWidget>("picP0")->height());
 }
 
 TEST_F(frmAfdrukkenTest, VijfenvijftigRijenGevenTweeBladen)
