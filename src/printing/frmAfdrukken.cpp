@@ -24,6 +24,19 @@ QLineEdit* MaakVak(const QString& naam, const QString& gesproken, int breed, QWi
     return vak;
 }
 
+/// Numbers of pages that can be shown. What is left standing and is none, such as 0, becomes the
+/// number of the page in view.
+class Bladnummers : public QIntValidator {
+  public:
+    explicit Bladnummers(const QScrollBar* bladen)
+        : QIntValidator(bladen->minimum(), bladen->maximum(), nullptr), bladen_(bladen)
+    {}
+    void fixup(QString& tekst) const override { tekst = QString::number(bladen_->value()); }
+
+  private:
+    const QScrollBar* bladen_;
+};
+
 Printlijst MaakLijst(const Administratie& administratie, Afdruk afdruk, const Lettermeter& meter)
 {
     Bladindeling indeling = BerekenKolommen(afdruk.tabel, afdruk.schaal, meter);
@@ -92,7 +105,9 @@ QLayout* frmAfdrukken::BouwBladkeuze()
     Bladscroll->setPageStep(1);
     txtBlad =
         MaakVak(QStringLiteral("txtBlad"), QStringLiteral("Bladnummer"), maten_.Twips(600), this);
-    txtBlad->setValidator(new QIntValidator(1, bladen, txtBlad));
+    auto* nummers = new Bladnummers(Bladscroll);
+    nummers->setParent(txtBlad);
+    txtBlad->setValidator(nummers);
     txtBlad->setAlignment(Qt::AlignRight);
     txtAantPages = MaakVak(QStringLiteral("txtAantPages"), QStringLiteral("Aantal bladen"),
                            maten_.Twips(1700), this);

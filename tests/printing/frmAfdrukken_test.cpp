@@ -237,6 +237,24 @@ TEST_F(frmAfdrukkenTest, EenBladKiezenMetToetsenOfEenNummer)
     EXPECT_EQ("Print blad 4", Label("Label1"));
 }
 
+/// A number that is no page cannot be typed or goes when the box is left.
+TEST_F(frmAfdrukkenTest, EenNummerDatGeenBladIs)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    Balk()->setValue(3);
+    for (const char* getypt : {"", "0", "00", "9", "x", "-1"}) {
+        Schrijf(*venster, "txtBlad", QString::fromLatin1(getypt));
+        QTest::keyClick(Deel<QLineEdit>("txtBlad"), Qt::Key_Return);
+        const std::string verwacht = getypt == std::string("-1") ? "1" : "3"; // without its sign
+        EXPECT_EQ(verwacht, Vak("txtBlad")) << getypt;
+        EXPECT_EQ("Print blad " + verwacht, Label("Label1")) << getypt;
+    }
+    Balk()->setValue(3);
+    Schrijf(*venster, "txtBlad", QStringLiteral("0"));
+    Deel<QWidget>("picP0")->setFocus();
+    EXPECT_EQ("3", Vak("txtBlad"));
+}
+
 TEST_F(frmAfdrukkenTest, ZoomenMetWielEnToetsen)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(10));
