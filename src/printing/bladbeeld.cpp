@@ -28,6 +28,22 @@ QScrollBar* MaakBalk(Qt::Orientation richting, const QString& naam, const QStrin
     return balk;
 }
 
+/// Where the middle of what is in view lies, as a part of the whole; the top or the left where the
+/// view stands against it.
+double Midden(const QScrollBar& balk)
+{
+    if (balk.value() == 0)
+        return 0;
+    const double geheel = balk.maximum() + balk.pageStep();
+    return (balk.value() + balk.pageStep() / 2.0) / geheel;
+}
+
+void ZetMidden(QScrollBar& balk, double midden)
+{
+    const double geheel = balk.maximum() + balk.pageStep();
+    balk.setValue(qRound(midden * geheel - balk.pageStep() / 2.0));
+}
+
 } // namespace
 
 // ---------------------------------------------------------------- the page
@@ -98,9 +114,13 @@ void Bladbeeld::Toon(int blad)
 
 void Bladbeeld::ZetZoom(int procent)
 {
+    const double staand = Midden(*VScroll1);
+    const double liggend = Midden(*HScroll1);
     zoom_ = std::clamp(procent, Zoomstappen.front(), Zoomstappen.back());
     picP1->ZetSchaal(pixelsPerMm_ * zoom_ / 100);
     PlaatsDelen();
+    ZetMidden(*VScroll1, staand);
+    ZetMidden(*HScroll1, liggend);
     emit zoomVeranderd(zoom_);
 }
 

@@ -287,6 +287,31 @@ TEST_F(frmAfdrukkenTest, ZoomenMetWielEnToetsen)
     EXPECT_EQ("1", Vak("txtBlad"));
 }
 
+/// What is in the middle of the view stays there; a page that stands at its top stays at its top.
+TEST_F(frmAfdrukkenTest, ZoomenHoudtDePlekInBeeld)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(55));
+    venster->resize(500, 500);
+    QApplication::processEvents();
+    const auto* kader = Deel<QWidget>("P9");
+    const auto* blad = Deel<QWidget>("picP1");
+    const auto midden = [&](double mm) {
+        return (kader->height() / 2.0 - blad->y()) / (mm * Maten().PixelsPerMm());
+    };
+    for (int keer = 0; keer < 3; ++keer)
+        Toets(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(qRound(3 * Maten().PixelsPerMm()), blad->y()); // at 150 %
+    Balk("VScroll1")->setValue(Balk("VScroll1")->maximum() / 2);
+    const double bij150 = midden(1.5);
+    Toets(Qt::Key_Plus, Qt::ControlModifier);
+    Toets(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ("200 %", Label("lblZoom"));
+    EXPECT_NEAR(bij150, midden(2), 2); // millimetres of the page
+    Balk("VScroll1")->setValue(Balk("VScroll1")->maximum());
+    Toets(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_GT(midden(1.75), 200);
+}
+
 TEST_F(frmAfdrukkenTest, HetBladVerschuiftInZijnKader)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(10));
