@@ -185,6 +185,7 @@ TEST_F(frmPrintIniTest, EenLegeGroepHoudtDeKnopUit)
     ASSERT_NO_FATAL_FAILURE(Open("Gr09-"));
     EXPECT_TRUE(Vind<QLabel>(*venster, "Label7")->isVisible());
     EXPECT_EQ(0, Lijst("lstNBBgr")->Aantal());
+    EXPECT_FALSE(Lijst("lstNBBgr")->isEnabled());
     EXPECT_FALSE(Knop("cmdOK")->isEnabled());
     Klik(Knop("cmdSelAll"));
     EXPECT_FALSE(Knop("cmdOK")->isEnabled());
