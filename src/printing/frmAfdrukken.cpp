@@ -62,6 +62,13 @@ frmAfdrukken::frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget*
     picP0->setFocus();
 }
 
+/// A window that goes while it is in view takes the focus from its number box, which then speaks to
+/// what is no more.
+frmAfdrukken::~frmAfdrukken()
+{
+    txtBlad->disconnect(this);
+}
+
 void frmAfdrukken::Bouw()
 {
     setObjectName(QStringLiteral("frmAfdrukken"));

@@ -27,6 +27,12 @@ class frmAfdrukken : public QDialog {
     /// May warn, in boxes of `ouder`, of columns and pages that do not come out.
     frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder);
 
+    ~frmAfdrukken() override;
+    frmAfdrukken(const frmAfdrukken&) = delete;
+    frmAfdrukken& operator=(const frmAfdrukken&) = delete;
+    frmAfdrukken(frmAfdrukken&&) = delete;
+    frmAfdrukken& operator=(frmAfdrukken&&) = delete;
+
     void ZetZoom(int procent) { picP0->ZetZoom(procent); }
 
   protected:
