@@ -192,6 +192,8 @@ TEST_F(BladtekenenTest, AllesOpSchaal)
     Maak(MaakPrintspelers(2), {Kolom::Voornaam}, 0.8F);
     Teken(1);
     EXPECT_NEAR(11.2, Deel("Spelerinformatie").letter.punten, Naast);
+    EXPECT_NEAR(15 + 0.8 * 6, Deel("Groep:  Gr01-Clubleden").y, Naast);
+    EXPECT_NEAR(15 + 0.8 * 10.4, Deel("Subgroep(en): A + B").y, Naast);
     EXPECT_NEAR(8, Deel("v2").letter.punten, Naast);
     EXPECT_NEAR(15 + 0.8 * (0.8 + 7.85), Deel("v2").x, Naast);
     EXPECT_NEAR(15 + 0.8 * (15 + 4.5 + 4.5 + 0.25), Deel("v2").y, Naast);
