@@ -7,7 +7,6 @@ namespace {
 
 constexpr float A4Kort = 210;
 constexpr float A4Lang = 297;
-constexpr float Printerrand = 5; // of a sheet, which most printers cannot reach
 
 float Tekstbreedte(const Lettermeter& meter, const Letter& letter, Tekstblik tekst)
 {
@@ -63,12 +62,12 @@ int PassendeKolommen(const std::vector<float>& begin, float breed)
     return passend;
 }
 
-/// Where x(0) lies: at the margin, unless the list would end in the rim at the right that a printer
-/// leaves white. Then it moves to the left, but no farther than until both sides have as much.
+/// Where x(0) lies: at the margin, unless the list would run off the sheet then. That one stands in
+/// the middle, since printers leave a rim white on both sides.
 float Linkerkant(const Papier& papier, float breed)
 {
     const float over = papier.breed - breed;
-    return std::min(papier.zijmarge, std::max(over - Printerrand, over / 2));
+    return over >= papier.zijmarge ? papier.zijmarge : over / 2;
 }
 
 } // namespace

@@ -223,20 +223,19 @@ TEST(Bladindeling, EenReuzenkolomBlijftWeg)
     EXPECT_EQ(1, indeling.kolommen);
 }
 
-/// What would come within 5 mm of the right edge, where printers leave the sheet white, moves to
-/// the left; what is too wide for that stands in the middle.
-TEST(Bladindeling, DeLinkerMargeWijktVoorWatAndersNietGeprintWerd)
+TEST(Bladindeling, WatNaastDeLinkerMargeVanHetBladZouLopenStaatInHetMidden)
 {
     const auto links = [](double breedte) {
         return static_cast<double>(MetPrintbreedte(breedte).links);
     };
     EXPECT_EQ(15, links(100));
     EXPECT_EQ(15, links(189.9));
-    EXPECT_NEAR(12, links(193), 0.01); // right edge at 205
+    EXPECT_EQ(15, links(194.9)); // up to the right edge
+    EXPECT_NEAR(7.4, links(195.2), 0.01);
     EXPECT_NEAR(5, links(200), 0.01);
     EXPECT_NEAR(2.5, links(205), 0.01);
     EXPECT_NEAR(0.05, links(209.9), 0.01);
-    EXPECT_EQ(15, links(276.9)); // landscape
-    EXPECT_NEAR(12, links(280), 0.01);
+    EXPECT_EQ(15, links(281.9)); // landscape
+    EXPECT_NEAR(7.4, links(282.2), 0.01);
     EXPECT_NEAR(3.5, links(290), 0.01);
 }

@@ -39,13 +39,12 @@ class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
     {
         venster.reset();
         tabel = std::move(nieuw);
-        Toon(administratie,
-             Afdruk{.tabel = MaakPrinttabel(tabel, {.groepscode = "Gr01-",
-                                                    .kolommen = std::move(kolommen),
-                                                    .kolomnamen = namen}),
-                    .groeptekst = "Gr01-Clubleden",
-                    .subgroepkop = "Subgroep(en): A + B",
-                    .schaal = schaal});
+        Toon(administratie, Afdruk{.tabel = MaakPrinttabel(tabel, {.groepscode = "Gr01-",
+                                                                   .kolommen = std::move(kolommen),
+                                                                   .kolomnamen = namen}),
+                                   .groeptekst = "Gr01-Clubleden",
+                                   .subgroepkop = "Subgroep(en): A + B",
+                                   .schaal = schaal});
     }
     void OpenRijen(int aantal, float schaal = 1)
     {
