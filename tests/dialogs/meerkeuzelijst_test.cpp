@@ -137,6 +137,15 @@ TEST_F(MeerkeuzelijstTest, ShiftMetPijlKiestWatErLangsKomt)
     EXPECT_EQ(Plaatsen({4, 5, 6, 7, 8, 9}), lijst.GekozenPlaatsen());
 }
 
+/// The capital is typed with Shift, which chooses lines with the arrow keys only.
+TEST_F(MeerkeuzelijstTest, EenHoofdletterTypenKiestNiets)
+{
+    lijst.ZetHuidige(4);
+    QTest::keyClick(&lijst, 'R', Qt::ShiftModifier);
+    EXPECT_EQ(5, lijst.currentIndex().row());
+    EXPECT_FALSE(lijst.IetsGekozen());
+}
+
 TEST_F(MeerkeuzelijstTest, CtrlAKiestAlles)
 {
     KlikOp(3);

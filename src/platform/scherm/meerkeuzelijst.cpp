@@ -187,7 +187,9 @@ void Meerkeuzelijst::keyPressEvent(QKeyEvent* gebeurtenis)
     } else {
         QListView::keyPressEvent(gebeurtenis);
         const int nu = currentIndex().row();
-        if ((gebeurtenis->modifiers() & Qt::ShiftModifier) && vorige >= 0 && nu != vorige) {
+        // A capital letter comes with Shift too, but only looks for a line.
+        if ((gebeurtenis->modifiers() & Qt::ShiftModifier) && gebeurtenis->text().isEmpty() &&
+            vorige >= 0 && nu != vorige) {
             for (int i = std::min(vorige, nu); i <= std::max(vorige, nu); ++i)
                 Zet(i, true);
             Gewijzigd();
