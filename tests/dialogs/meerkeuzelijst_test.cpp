@@ -146,6 +146,31 @@ TEST_F(MeerkeuzelijstTest, EenHoofdletterTypenKiestNiets)
     EXPECT_FALSE(lijst.IetsGekozen());
 }
 
+TEST_F(MeerkeuzelijstTest, TypenZoektDeRegelOfDeNaamAchterDeTab)
+{
+    const QStringList regels{QStringLiteral("Gr01-\tBos   An"),
+                             QStringLiteral("Gr01-\tÇelik   Aylin"),
+                             QStringLiteral("Gr02-\tCock   Bea"),
+                             QStringLiteral("Gr02-\tÆderlin   Jo"), QStringLiteral("Gr02-")};
+    lijst.Vul(static_cast<int>(regels.size()), [&](int plaats) { return regels[plaats]; });
+    lijst.ZetHuidige(0);
+    QApplication::setKeyboardInputInterval(150);
+    const auto typ = [&](const char* tekst) {
+        // Letters that come so long after the last one begin a new search.
+        QTest::qWait(QApplication::keyboardInputInterval() + 10);
+        QTest::keyClicks(&lijst, QString::fromUtf8(tekst));
+        return lijst.currentIndex().row();
+    };
+    EXPECT_EQ(1, typ("c"));
+    EXPECT_EQ(2, typ("c"));
+    EXPECT_EQ(1, typ("c")); // from the top again
+    EXPECT_EQ(3, typ("aed"));
+    EXPECT_EQ(0, typ("Bos"));
+    EXPECT_EQ(2, typ("gr02-"));
+    EXPECT_EQ(2, typ("zwaan"));
+    EXPECT_FALSE(lijst.IetsGekozen());
+}
+
 TEST_F(MeerkeuzelijstTest, CtrlAKiestAlles)
 {
     KlikOp(3);

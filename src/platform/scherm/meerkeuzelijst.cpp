@@ -7,11 +7,46 @@
 #include <algorithm>
 
 #include "platform/scherm/regelmodel.h"
+#include "platform/scherm/tekstbrug.h"
+#include "platform/tekstorde.h"
 
 namespace plexoran {
 namespace {
 
 constexpr qsizetype VerborgenNaSpaties = 60;
+
+/// Typing looks for a line that begins with what was typed, or whose name behind the tab does.
+class Zoekmodel : public Regelmodel {
+  public:
+    Zoekmodel(Zegt zegt, Meerkeuzelijst& lijst)
+        : Regelmodel(std::move(zegt), &lijst), lijst_(lijst)
+    {}
+
+    [[nodiscard]] QModelIndexList match(const QModelIndex& vanaf, int /*rol*/,
+                                        const QVariant& getypt, int /*treffers*/,
+                                        Qt::MatchFlags /*vlaggen*/) const override
+    {
+        const Tekst gezocht = NaarTekst(getypt.toString());
+        Tekst gewichten = Sorteersleutel(gezocht);
+        gewichten.resize(gewichten.find('\0'));
+        const auto lengte =
+            static_cast<qsizetype>(2 * gezocht.size()); // one letter can count as two
+        const auto begint = [&](const QString& regel, qsizetype plek) {
+            return Sorteersleutel(NaarTekst(regel.mid(plek, lengte))).starts_with(gewichten);
+        };
+        for (int i = 0; i < lijst_.Aantal(); ++i) {
+            const int plaats = (vanaf.row() + i) % lijst_.Aantal();
+            const QString regel = lijst_.Regel(plaats);
+            const auto tab = regel.indexOf(u'\t');
+            if (begint(regel, 0) || (tab >= 0 && begint(regel, tab + 1)))
+                return {index(plaats, 0)};
+        }
+        return {};
+    }
+
+  private:
+    Meerkeuzelijst& lijst_;
+};
 
 /// Paints chosen lines as selected; one height for all, and no width of its own.
 class Regeltekenaar : public QStyledItemDelegate {
@@ -44,7 +79,7 @@ class Regeltekenaar : public QStyledItemDelegate {
 
 Meerkeuzelijst::Meerkeuzelijst(QWidget* ouder) : QListView(ouder)
 {
-    setModel(new Regelmodel([this](int plaats, int rol) { return Zegt(plaats, rol); }, this));
+    setModel(new Zoekmodel([this](int plaats, int rol) { return Zegt(plaats, rol); }, *this));
     setItemDelegate(new Regeltekenaar(*this));
     setSelectionMode(NoSelection);
     setUniformItemSizes(true);

@@ -1,5 +1,7 @@
 // A list of lines of which any number can be chosen. A click or the space bar chooses a line or
 // lets it go; dragging and Shift do the same for many; Ctrl+A chooses all.
+// Typing goes to the next line that begins with what was typed, or whose part behind the tab does,
+// without regard to case or accent.
 //
 // What follows sixty spaces in a line belongs to it but is not shown.
 //
