@@ -18,6 +18,7 @@ namespace {
 
 constexpr int VensterHoog = 6930; // twips
 constexpr int BalkBreed = 280;
+constexpr int Zijmarge = 100;
 constexpr double Letterpunten = 9.0;
 constexpr QColor lijnkleur(160, 160, 160);
 constexpr float Inspringing = 1;  // of a text behind its column's edge
@@ -196,10 +197,13 @@ void diaSortlijst::Bouw()
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* lagen = new QVBoxLayout(this);
+    QMargins marges = lagen->contentsMargins();
+    marges.setLeft(maten_.Twips(Zijmarge));
+    marges.setRight(maten_.Twips(Zijmarge));
+    lagen->setContentsMargins(marges);
     lagen->addWidget(MaakLabel(QStringLiteral("Label1"), Titel(beeld_.soort), this));
     lagen->addWidget(Frame2, 1);
     lagen->addLayout(Knoppenrij({cmdOK}));
-    const QMargins marges = lagen->contentsMargins();
     const int breed = P1->Vlakmaat().width() + maten_.Twips(BalkBreed) + 2 * Frame2->frameWidth() +
                       marges.left() + marges.right();
     PasInScherm(this, {breed, maten_.Twips(VensterHoog)});

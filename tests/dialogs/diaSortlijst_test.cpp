@@ -251,6 +251,32 @@ TEST_F(diaSortlijstTest, OpentMetAlleKolommenInBeeld)
     }
 }
 
+TEST_F(diaSortlijstTest, DeDelenStaanOpHunPlaats)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    const Maten maten;
+    venster->resize(venster->property(Standaardmaat).toSize());
+    QApplication::processEvents();
+    EXPECT_EQ(maten.Twips(6930), venster->height());
+    const QRect titel = Vind<QLabel>(*venster, "Label1")->geometry();
+    const auto* Frame2 = Vind<QFrame>(*venster, "Frame2");
+    const QRect kader = Frame2->geometry();
+    const QRect knop = Vind<QPushButton>(*venster, "cmdOK")->geometry();
+    EXPECT_EQ(maten.Twips(100), titel.left());
+    EXPECT_EQ(titel.left(), kader.left());
+    EXPECT_EQ(titel.width(), kader.width());
+    EXPECT_LT(titel.bottom(), kader.top());
+    EXPECT_LT(kader.bottom(), knop.top());
+    EXPECT_EQ(kader.right(), knop.right());
+    const QRect P0 = Vind<QWidget>(*venster, "P0")->geometry();
+    EXPECT_EQ(Frame2->contentsRect(), P0.united(Balk()->geometry()));
+    EXPECT_EQ(P0.right() + 1, Balk()->x());
+    EXPECT_EQ(P0.height(), Balk()->height());
+    // As far as it takes to bring the end of the list to the foot of the viewport.
+    EXPECT_EQ(dynamic_cast<Sorteervlak*>(P1())->Vlakmaat().height() - P0.height(),
+              Balk()->maximum());
+}
+
 TEST_F(diaSortlijstTest, OpEenSmalSchermSchuivenDeKolommenOpzij)
 {
     ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
