@@ -81,6 +81,7 @@ void frmVerwSubgroep::Verwijder()
         return;
     const int aantal = VerwijderSubgroep(administratie_.spelers.tabel, Code(), subgroep);
     ietsVerwijderd_ = ietsVerwijderd_ || aantal > 0;
+    emit rijenVerwijderd();
     Meld(this, QMessageBox::Information,
          QStringLiteral("Klaar! \r\nEr zijn %1 speler(s) verwijderd.").arg(aantal));
     KiesGroep();

@@ -19,6 +19,10 @@ class frmVerwSubgroep : public QDialog {
     /// Whether anything was deleted, so that there is something to save.
     [[nodiscard]] bool IetsVerwijderd() const { return ietsVerwijderd_; }
 
+  signals:
+    /// Rows of the table went; the window stays open.
+    void rijenVerwijderd();
+
   private:
     void Bouw();
     void KiesGroep();

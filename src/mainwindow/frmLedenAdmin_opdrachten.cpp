@@ -189,6 +189,8 @@ void frmLedenAdmin::Kopieer()
 void frmLedenAdmin::VerwijderGroep()
 {
     frmVerwSubgroep venster(administratie_, this);
+    // Behind the window, which stays open, the grid must not show other players in its old lines.
+    connect(&venster, &frmVerwSubgroep::rijenVerwijderd, this, &frmLedenAdmin::ToonGroep);
     venster.exec();
     if (!venster.IetsVerwijderd())
         return;

@@ -521,3 +521,55 @@ TEST_F(LijstenTest, HetRoosterBlijftOpZijnPlaatsNaVerplaatsen)
     EXPECT_EQ("Aantal regels: 50", Aantal());
     EXPECT_EQ(1, GetoondeGroep());
 }
+
+/// The window stays open after a deletion, and the grid behind it can be seen.
+TEST_F(LijstenTest, HetRoosterKloptOokVoordatHetVensterDichtIs)
+{
+    KiesGroep(3);
+    wachter.Bedien([this](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+        Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
+        EXPECT_EQ("Aantal regels: 5", Aantal());
+        KiesRegel(1);
+        EXPECT_EQ("100115", GekozenSleutel());
+        Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'BEGINNERS'"),
+                      .titel = QStringLiteral("Verwijderen?"),
+                      .alleenBegin = true});
+    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+    Klik(Knop("cmdVerwGroep"));
+    wachter.Klaar();
+    EXPECT_EQ("Aantal regels: 5", Aantal());
+    EXPECT_EQ(0, GekozenRegel());
+}
+
+TEST_F(LijstenTest, HetRoosterBlijftOpZijnPlaatsNaKopierenEnVerwijderen)
+{
+    KiesGroep(1);
+    Balk("VScroll1")->setValue(100);
+    const int stand = Balk("VScroll1")->value();
+    ASSERT_GT(stand, 0);
+    wachter.Bedien([](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(6);
+        Klik(Vind<QPushButton>(dialoog, "cmdOK"));
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("U gaat spelers kopiëren"), .alleenBegin = true});
+    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    Klik(Knop("cmdKopieer"));
+    wachter.Klaar();
+    EXPECT_EQ(stand, Balk("VScroll1")->value());
+    wachter.Bedien([](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+        Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
+        Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+    });
+    wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep '"),
+                      .titel = QStringLiteral("Verwijderen?"),
+                      .alleenBegin = true});
+    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+    Klik(Knop("cmdVerwGroep"));
+    wachter.Klaar();
+    EXPECT_EQ(stand, Balk("VScroll1")->value());
+    EXPECT_EQ(1, GetoondeGroep());
+}
