@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPlainTextEdit>
+#include <QScreen>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -28,6 +30,29 @@ TEST(MeldVerslag, BreektGeenRegelAf)
     });
     MeldVerslag(nullptr, regel + regel, QStringLiteral("DUBBELE NAMEN"));
     EXPECT_TRUE(gezien);
+}
+
+/// The names of a register can be of any length.
+TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
+{
+    for (const int lengte : {40, 400}) {
+        const QString tekst = QStringLiteral("100079\t") + QString(lengte, u'x');
+        QString venster;
+        QTimer::singleShot(0, qApp, [&] {
+            QApplication::processEvents();
+            QWidget* dialoog = QApplication::activeModalWidget();
+            ASSERT_NE(nullptr, dialoog);
+            venster = dialoog->objectName();
+            EXPECT_TRUE(dialoog->screen()->availableGeometry().contains(
+                QRect(QPoint(0, 0), dialoog->size())));
+            if (const auto* vak = dialoog->findChild<QPlainTextEdit*>()) {
+                EXPECT_EQ(tekst, vak->toPlainText());
+            }
+            dialoog->close();
+        });
+        MeldVerslag(nullptr, tekst, QStringLiteral("DUBBELE NAMEN"));
+        EXPECT_EQ(lengte == 40 ? "" : "frmBericht", venster.toStdString());
+    }
 }
 
 } // namespace

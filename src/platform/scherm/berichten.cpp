@@ -61,6 +61,16 @@ class Verslagbericht : public QMessageBox {
   public:
     using QMessageBox::QMessageBox;
 
+    [[nodiscard]] bool PastOpScherm()
+    {
+        constexpr QSize kader(16, 40); // what a window manager puts around it
+        ensurePolished();
+        BreekNietAf();
+        const QSize ruimte = screen()->availableSize() - kader;
+        const QSize nodig = layout()->totalSizeHint();
+        return nodig.width() <= ruimte.width() && nodig.height() <= ruimte.height();
+    }
+
   protected:
     bool event(QEvent* gebeurtenis) override
     {
@@ -72,10 +82,16 @@ class Verslagbericht : public QMessageBox {
     void showEvent(QShowEvent* gebeurtenis) override
     {
         QMessageBox::showEvent(gebeurtenis);
+        BreekNietAf();
+        setFixedSize(layout()->totalSizeHint());
+    }
+
+  private:
+    void BreekNietAf()
+    {
         for (QLabel* label : findChildren<QLabel*>())
             label->setWordWrap(false);
         layout()->activate();
-        setFixedSize(layout()->totalSizeHint());
     }
 };
 
@@ -110,7 +126,10 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
     Vul(venster, tekst);
     venster.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
-    LaatAntwoorden(venster);
+    if (venster.PastOpScherm())
+        LaatAntwoorden(venster);
+    else
+        ToonLang(ouder, tekst, titel);
 }
 
 bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)

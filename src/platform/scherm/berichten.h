@@ -18,8 +18,8 @@ void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
 /// scrolls in a window of its own, `frmBericht`.
 void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst);
 
-/// Shows a text that can be copied; a long one in a window of its own, `frmBericht`, in which it
-/// scrolls.
+/// Shows a text that can be copied; one that is long, or too wide for the screen, in a window of
+/// its own, `frmBericht`, in which it scrolls.
 void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
                  QMessageBox::Icon icoon = QMessageBox::NoIcon);
 
