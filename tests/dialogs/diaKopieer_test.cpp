@@ -1,6 +1,7 @@
 #include "dialogs/diaKopieer.h"
 
 #include <QAbstractItemView>
+#include <QElapsedTimer>
 #include <QGroupBox>
 
 #include <limits>
@@ -262,4 +263,23 @@ TEST_F(diaKopieerTest, AlsDeSleutelsOpZijnBlijftHetVensterOpen)
     EXPECT_TRUE(venster->isVisible());
     EXPECT_TRUE(venster->IngaveGeannuleerd());
     EXPECT_EQ(6, administratie.spelers.tabel.Rijen());
+}
+
+TEST_F(diaKopieerTest, HonderdduizendSpelersZonderWachten)
+{
+    std::vector<Proefspeler> spelers(
+        100'000, {"100001", "Gr01-", "An", "van der", "Boskamp", "A-lijn", "12345678"});
+    for (std::size_t i = 0; i < spelers.size(); i += 2)
+        spelers[i].nbbgr = "B-lijn";
+    administratie.spelers.tabel = MaakTabel(spelers);
+    QElapsedTimer klok;
+    klok.start();
+    Open();
+    EXPECT_EQ(100'000, Lijst()->Aantal());
+    EXPECT_EQ((Teksten_t{"B-lijn", "A-lijn"}), Teksten("cmbNBBgr"));
+    KiesWaarde(1);
+    EXPECT_EQ(50'001U, Lijst()->GekozenPlaatsen().size());
+    Klik(Knop("cmdSelAll"));
+    EXPECT_EQ(100'000U, Lijst()->GekozenPlaatsen().size());
+    EXPECT_LT(klok.elapsed(), 2000);
 }

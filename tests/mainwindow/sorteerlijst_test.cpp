@@ -151,6 +151,9 @@ TEST(Sorteerlijst, EenKeyDieGeenGetalIsGeeftGeenLijst)
     EXPECT_EQ("10A002", lijst.error().waarde);
     EXPECT_EQ(1U, Lijst(tabel, opKey, "Gr01-").size());
     EXPECT_EQ(3U, Lijst(tabel, opGroep).size());
+    for (const char* key : {"", "  ", "-5", "1e5", "100.5"})
+        EXPECT_FALSE(VulSorteerlijst(MaakTabel({{key, "Gr01-", "An", "", "Bos"}}), opKey, {}))
+            << key;
 }
 
 TEST(Sorteerlijst, EenNummerDatGeenGetalIsGeeftGeenLijst)
