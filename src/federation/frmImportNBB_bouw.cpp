@@ -162,10 +162,11 @@ QWidget* frmImportNBB::BouwSchuifvlak()
                           vlak->verticalScrollBar()->sizeHint().width());
     // Keys bring what they lead to into sight. Not the mouse: what is pressed must stay where it
     // is.
-    connect(qApp, &QApplication::focusChanged, vlak, [this, vlak](QWidget* /*was*/, QWidget* nu) {
-        if (inhoud_->isAncestorOf(nu) && QGuiApplication::mouseButtons() == Qt::NoButton)
-            vlak->ensureWidgetVisible(nu);
-    });
+    connect(qApp, &QApplication::focusChanged, vlak,
+            [inhoud = inhoud_, vlak](QWidget* /*was*/, QWidget* nu) {
+                if (inhoud->isAncestorOf(nu) && QGuiApplication::mouseButtons() == Qt::NoButton)
+                    vlak->ensureWidgetVisible(nu);
+            });
     return vlak;
 }
 

@@ -26,6 +26,9 @@ class frmAfdrukken : public QDialog {
   public:
     /// May warn, in boxes of `ouder`, of columns and pages that do not come out.
     frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder);
+    ~frmAfdrukken() override;
+    frmAfdrukken(const frmAfdrukken&) = delete;
+    frmAfdrukken& operator=(const frmAfdrukken&) = delete;
 
     ~frmAfdrukken() override;
     frmAfdrukken(const frmAfdrukken&) = delete;
