@@ -1,9 +1,9 @@
 #include "dialogs/diaKopieer.h"
 
 #include <QAbstractItemView>
-#include <QElapsedTimer>
 #include <QGroupBox>
 
+#include <ctime>
 #include <limits>
 
 #include "dialogs/groepsproef.h"
@@ -272,8 +272,7 @@ TEST_F(diaKopieerTest, HonderdduizendSpelersZonderWachten)
     for (std::size_t i = 0; i < spelers.size(); i += 2)
         spelers[i].nbbgr = "B-lijn";
     administratie.spelers.tabel = MaakTabel(spelers);
-    QElapsedTimer klok;
-    klok.start();
+    const std::clock_t begin = std::clock(); // of the processor: a machine may be busy
     Open();
     EXPECT_EQ(100'000, Lijst()->Aantal());
     EXPECT_EQ((Teksten_t{"B-lijn", "A-lijn"}), Teksten("cmbNBBgr"));
@@ -281,5 +280,6 @@ TEST_F(diaKopieerTest, HonderdduizendSpelersZonderWachten)
     EXPECT_EQ(50'001U, Lijst()->GekozenPlaatsen().size());
     Klik(Knop("cmdSelAll"));
     EXPECT_EQ(100'000U, Lijst()->GekozenPlaatsen().size());
-    EXPECT_LT(klok.elapsed(), 2000);
+    // Measured at 0.2 s; to search all lines anew for each of them would take minutes.
+    EXPECT_LT((std::clock() - begin) / CLOCKS_PER_SEC, 5);
 }

@@ -1,7 +1,7 @@
 #include "federation/ledenbestand.h"
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -374,9 +374,9 @@ Uitkomst<Ledenlezing> LeesGroot(Ledenbron bron, const std::string& inhoud)
     EchteSchijf schijf;
     Ledenopdracht opdracht = Opdracht(bron);
     opdracht.map = opdracht.programmamap = map.AlsPad();
-    const auto begin = std::chrono::steady_clock::now();
+    const std::clock_t begin = std::clock(); // of the processor: a machine may be busy
     auto lezing = LeesLedenbestand(schijf, opdracht, "Club.x");
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(15));
+    EXPECT_LT((std::clock() - begin) / CLOCKS_PER_SEC, 15);
     return lezing;
 }
 

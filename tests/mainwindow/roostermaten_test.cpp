@@ -1,6 +1,6 @@
 #include "mainwindow/roostermaten.h"
 
-#include <chrono>
+#include <ctime>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -219,13 +219,12 @@ TEST(PasTekst, IsGelijkAanHetStapVoorStapInkorten)
 TEST(PasTekst, IsSnelOpEenHeelLangeTekst)
 {
     const Tekst lang(64 * 1024, 'n');
-    const auto begin = std::chrono::steady_clock::now();
+    const std::clock_t begin = std::clock(); // of the processor: a machine may be busy
     for (int i = 0; i < 100; ++i) {
         ASSERT_EQ(lang.substr(0, 11) + "...", PasTekst(lang, 15.7, Proefmeter()));
         // Wide enough for nearly all of it, so that nearly every character has to be looked at.
         ASSERT_EQ(lang.substr(0, 59'999) + "...", PasTekst(lang, 60'003.6, Proefmeter()));
     }
-    const auto duur = std::chrono::steady_clock::now() - begin;
     // Measuring the whole text anew for every character would take minutes.
-    EXPECT_LT(std::chrono::duration_cast<std::chrono::milliseconds>(duur).count(), 1000);
+    EXPECT_LT((std::clock() - begin) / CLOCKS_PER_SEC, 5);
 }

@@ -75,6 +75,7 @@ class Verslagbericht : public QMessageBox {
     bool event(QEvent* gebeurtenis) override
     {
         // A message box answers this by breaking its lines again.
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
         return gebeurtenis->type() == QEvent::LayoutRequest ? QDialog::event(gebeurtenis)
                                                             : QMessageBox::event(gebeurtenis);
     }
