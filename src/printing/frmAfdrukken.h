@@ -29,10 +29,6 @@ class frmAfdrukken : public QDialog {
     ~frmAfdrukken() override;
     frmAfdrukken(const frmAfdrukken&) = delete;
     frmAfdrukken& operator=(const frmAfdrukken&) = delete;
-
-    ~frmAfdrukken() override;
-    frmAfdrukken(const frmAfdrukken&) = delete;
-    frmAfdrukken& operator=(const frmAfdrukken&) = delete;
     frmAfdrukken(frmAfdrukken&&) = delete;
     frmAfdrukken& operator=(frmAfdrukken&&) = delete;
 

@@ -16,7 +16,9 @@ TEST(MeldVerslag, BreektGeenRegelAf)
     const QString regel = QStringLiteral("100079\tMieke\t\tOudewortel-Quist-van-Wielerdam\t") +
                           QStringLiteral("DONDERDAGMIDDAG\t97202990\r\n");
     bool gezien = false;
-    QTimer::singleShot(0, qApp, [&] {
+    QTimer straks;
+    straks.setSingleShot(true);
+    QObject::connect(&straks, &QTimer::timeout, qApp, [&] {
         QApplication::processEvents();
         auto* venster = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(nullptr, venster);
@@ -28,6 +30,7 @@ TEST(MeldVerslag, BreektGeenRegelAf)
         gezien = true;
         venster->close();
     });
+    straks.start(0);
     MeldVerslag(nullptr, regel + regel, QStringLiteral("DUBBELE NAMEN"));
     EXPECT_TRUE(gezien);
 }
@@ -38,7 +41,9 @@ TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
     for (const int lengte : {40, 400}) {
         const QString tekst = QStringLiteral("100079\t") + QString(lengte, u'x');
         QString venster;
-        QTimer::singleShot(0, qApp, [&] {
+        QTimer straks;
+        straks.setSingleShot(true);
+        QObject::connect(&straks, &QTimer::timeout, qApp, [&] {
             QApplication::processEvents();
             QWidget* dialoog = QApplication::activeModalWidget();
             ASSERT_NE(nullptr, dialoog);
@@ -50,6 +55,7 @@ TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
             }
             dialoog->close();
         });
+        straks.start(0);
         MeldVerslag(nullptr, tekst, QStringLiteral("DUBBELE NAMEN"));
         EXPECT_EQ(lengte == 40 ? "" : "frmBericht", venster.toStdString());
     }
