@@ -168,7 +168,7 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
             } else if (!voortgang.Gestopt()) {
                 voortgang.hide();
                 Meld(parentWidget(), QMessageBox::Warning,
-                     Leesfouttekst(opdracht.bron, namen[i], lezing.error()));
+                     Leesfouttekst(opdracht.bron, namen[i], lezing.error(), Leesdoel::Overzicht));
                 // All entries are in the same database, which would fail again for each.
                 if (opdracht.bron == Ledenbron::Database)
                     break;

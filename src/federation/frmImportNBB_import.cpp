@@ -111,7 +111,8 @@ frmImportNBB::Verloop frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdrach
     }
     if (!lezing) {
         ToonGereed(QStringLiteral("'%1' is niet gelezen.").arg(NaarQString(naam)));
-        Meld(this, QMessageBox::Warning, Leesfouttekst(opdracht.bron, naam, lezing.error()));
+        Meld(this, QMessageBox::Warning,
+             Leesfouttekst(opdracht.bron, naam, lezing.error(), Leesdoel::Import));
         return Verloop::Afgebroken;
     }
     ToonGereed(QStringLiteral("'%1' is gelezen.").arg(NaarQString(naam)));
@@ -139,7 +140,7 @@ void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezi
     if (lezing.nietGeladen)
         Meld(this, QMessageBox::Warning,
              QStringLiteral("In '%1' zijn geen leden gevonden.\n").arg(NaarQString(naam)) +
-                 Leesfouttekst(bron, naam, *lezing.nietGeladen));
+                 Leesfouttekst(bron, naam, *lezing.nietGeladen, Leesdoel::Import));
     if (lezing.inUtf8)
         Meld(this, QMessageBox::Warning,
              QStringLiteral("'%1' is opgeslagen in UTF-8, maar een CSV-bestand wordt gelezen als "

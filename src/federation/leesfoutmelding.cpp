@@ -38,13 +38,16 @@ QString Oorzaak(const Fout& fout)
 
 } // namespace
 
-QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout)
+QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout, Leesdoel doel)
 {
     QString tekst = Aanhef(bron, naam) + QStringLiteral("\r\n") + Oorzaak(fout);
     const QString bijzonderheden = Bijzonderheden(fout);
     if (!bijzonderheden.isEmpty())
         tekst += QStringLiteral("\r\n") + bijzonderheden;
-    return tekst + QStringLiteral("\r\n\r\nUit dit bestand is niets geïmporteerd.");
+    return tekst + (doel == Leesdoel::Import
+                        ? QStringLiteral("\r\n\r\nUit dit bestand is niets geïmporteerd.")
+                        : QStringLiteral("\r\n\r\nDe leden van dit bestand staan niet in het "
+                                         "overzicht."));
 }
 
 } // namespace plexoran

@@ -7,7 +7,11 @@
 
 namespace plexoran {
 
+/// What the members were read for, and so what a failure means.
+enum class Leesdoel { Import, Overzicht };
+
 /// The text of the box: which file, what went wrong and where, and that nothing was taken from it.
-[[nodiscard]] QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout);
+[[nodiscard]] QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout,
+                                    Leesdoel doel);
 
 } // namespace plexoran

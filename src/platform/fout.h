@@ -20,7 +20,7 @@ struct [[nodiscard]] Fout {
     Foutsoort soort = Foutsoort::Geweigerd;
     std::string bestand; ///< as the system names it, UTF-8, for the eye only
     int regel = 0;       ///< line of the file from 1; 0 where no line is to blame
-    std::string systeem; ///< the system's own words, UTF-8; may be empty
+    std::string systeem; ///< the system's own words, or what a reader found; UTF-8; may be empty
 };
 
 template <class T> using Uitkomst = tl::expected<T, Fout>;

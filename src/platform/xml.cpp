@@ -108,15 +108,59 @@ std::size_t NaarTekst(std::string_view utf8, Tekst& uit)
     return omgezet.vervangen.size();
 }
 
-Fout Leesfout(std::string_view tekst, const std::string& bestand, const Xmlfout& fout)
+const char* Oorzaak(pugi::xml_parse_status status)
 {
-    const std::size_t plaats = std::min(fout.plaats, tekst.size());
-    const auto regeleinden =
-        std::count(tekst.begin(), tekst.begin() + static_cast<std::ptrdiff_t>(plaats), '\n');
+    switch (status) {
+    case pugi::status_out_of_memory:
+        return "het document is te groot voor het geheugen";
+    case pugi::status_unrecognized_tag:
+        return "achter een '<' staat geen geldige tag";
+    case pugi::status_bad_pi:
+        return "een instructie ('<?') is niet goed afgesloten";
+    case pugi::status_bad_comment:
+        return "een commentaar ('<!--') is niet goed afgesloten";
+    case pugi::status_bad_cdata:
+        return "een CDATA-blok is niet goed afgesloten";
+    case pugi::status_bad_doctype:
+        return "een declaratie ('<!') is niet goed afgesloten";
+    case pugi::status_bad_start_element:
+        return "een begintag is niet goed afgesloten";
+    case pugi::status_bad_attribute:
+        return "een kenmerk in een begintag is niet goed geschreven";
+    case pugi::status_bad_end_element:
+        return "een eindtag is niet goed afgesloten";
+    case pugi::status_end_element_mismatch:
+        return "een eindtag ontbreekt of hoort niet bij de begintag";
+    default:
+        return "het bestand is geen XML";
+    }
+}
+
+Fout Leesfout(std::string_view tot, const std::string& bestand, const std::string& systeem)
+{
+    const auto regeleinden = std::count(tot.begin(), tot.end(), '\n');
     return {.soort = Foutsoort::Beschadigd,
             .bestand = bestand,
             .regel = static_cast<int>(regeleinden) + 1,
-            .systeem = fout.wat + " (offset " + std::to_string(plaats) + ")"};
+            .systeem = systeem};
+}
+
+/// In a file of which not even the characters can be told, only the bytes can be counted.
+Fout Coderingsfout(Tekstblik bytes, const std::string& bestand, const Xmlfout& fout)
+{
+    return Leesfout(bytes.substr(0, fout.plaats), bestand,
+                    fout.wat + " (byte " + std::to_string(fout.plaats + 1) + " van het bestand)");
+}
+
+Fout Tekstfout(std::string_view utf8, const std::string& bestand, const Xmlfout& fout)
+{
+    const std::string_view tot = utf8.substr(0, fout.plaats);
+    const std::string_view regel = tot.substr(tot.rfind('\n') + 1);
+    const auto tekens = std::count_if(regel.begin(), regel.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; // not one that goes on
+    });
+    return Leesfout(tot, bestand,
+                    fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)");
 }
 
 } // namespace
@@ -136,12 +180,12 @@ tl::expected<void, Xmlfout> KeurBuitenste(const pugi::xml_document& document)
         const auto plaats =
             static_cast<std::size_t>(std::max<std::ptrdiff_t>(knoop.offset_debug(), 0));
         if (IsTekst(knoop))
-            return tl::unexpected(Xmlfout{plaats, "Text outside the document element"});
+            return tl::unexpected(Xmlfout{plaats, "er staat tekst buiten het buitenste element"});
         if (knoop.type() == pugi::node_element && ++elementen > 1)
-            return tl::unexpected(Xmlfout{plaats, "More than one document element"});
+            return tl::unexpected(Xmlfout{plaats, "er is meer dan één buitenste element"});
     }
     if (elementen == 0)
-        return tl::unexpected(Xmlfout{0, "No document element found"});
+        return tl::unexpected(Xmlfout{0, "er staat geen enkel element in"});
     return {};
 }
 
@@ -153,20 +197,20 @@ Uitkomst<Xmldocument> Xmldocument::Ontleed(Tekstblik bytes, const std::string& b
     const Geheugengrens grens(meesteGeheugen);
     auto tekst = XmlNaarUtf8(bytes);
     if (!tekst)
-        return tl::unexpected(Leesfout(bytes, bestand, tekst.error()));
+        return tl::unexpected(Coderingsfout(bytes, bestand, tekst.error()));
     if (const auto fout = OnbekendeVerwijzing(*tekst))
-        return tl::unexpected(Leesfout(*tekst, bestand, *fout));
+        return tl::unexpected(Tekstfout(*tekst, bestand, *fout));
     auto binnenkant = std::make_unique<Binnenkant>();
     binnenkant->tekst = std::move(*tekst);
     const auto uitkomst = binnenkant->document.load_buffer_inplace(
         binnenkant->tekst.data(), binnenkant->tekst.size(), Ontleedwijze, pugi::encoding_utf8);
     auto keuring = uitkomst ? KeurBuitenste(binnenkant->document)
                             : tl::unexpected(Xmlfout{static_cast<std::size_t>(uitkomst.offset),
-                                                     uitkomst.description()});
+                                                     Oorzaak(uitkomst.status)});
     // Parsing broke up the text, so the line is counted in a fresh one.
     if (!keuring)
         return tl::unexpected(
-            Leesfout(XmlNaarUtf8(bytes).value_or(std::string()), bestand, keuring.error()));
+            Tekstfout(XmlNaarUtf8(bytes).value_or(std::string()), bestand, keuring.error()));
     return Xmldocument(std::move(binnenkant));
 }
 

@@ -54,8 +54,9 @@ class Xmlknoop {
 
 class Xmldocument {
   public:
-    /// `bestand` names the file in an error, which is `Beschadigd` and tells the line and what the
-    /// parser said. So is a document whose nodes would take more than `meesteGeheugen` bytes.
+    /// `bestand` names the file in an error, which is `Beschadigd` and tells the line and, in
+    /// Dutch, what the parser found and where on that line. So is a document whose nodes would take
+    /// more than `meesteGeheugen` bytes.
     [[nodiscard]] static Uitkomst<Xmldocument> Ontleed(Tekstblik bytes, const std::string& bestand,
                                                        std::size_t meesteGeheugen = 512U << 20U);
 

@@ -143,7 +143,7 @@ Uit UitUtf8(Tekstblik bytes, std::size_t merk)
         while (i < blokeind) {
             const std::size_t lengte = LengteUtf8(bytes, i);
             if (lengte == 0)
-                return Afgewezen(i, "Not a character of UTF-8 that XML allows");
+                return Afgewezen(i, "dit is geen UTF-8-teken dat in XML mag staan");
             i += lengte;
         }
     }
@@ -185,7 +185,7 @@ Uit UitUtf16(Tekstblik bytes, std::size_t merk, bool groot)
     uit.reserve(bytes.size() / 2 + bytes.size() / 16);
     for (std::size_t i = merk; i < bytes.size(); i += 2) {
         if (i + 1 == bytes.size())
-            return Afgewezen(i, "Half a character of UTF-16 at the end");
+            return Afgewezen(i, "het bestand eindigt midden in een UTF-16-teken");
         char32_t teken = Eenheid(bytes, i, groot);
         const std::size_t begin = i;
         if (teken >= 0xD800 && teken < 0xDC00 && i + 3 < bytes.size()) {
@@ -196,7 +196,7 @@ Uit UitUtf16(Tekstblik bytes, std::size_t merk, bool groot)
             }
         }
         if (!MagInXml(teken))
-            return Afgewezen(begin, "Not a character of UTF-16 that XML allows");
+            return Afgewezen(begin, "dit is geen UTF-16-teken dat in XML mag staan");
         VoegUtf8Toe(uit, teken);
     }
     return uit;
@@ -209,7 +209,7 @@ Uit UitWindows1252(Tekstblik bytes)
     });
     if (fout != bytes.end())
         return Afgewezen(static_cast<std::size_t>(fout - bytes.begin()),
-                         "Not a character that XML allows");
+                         "dit teken mag niet in XML staan");
     return NaarUtf8(bytes);
 }
 
@@ -229,7 +229,7 @@ tl::expected<std::string, Xmlfout> XmlNaarUtf8(Tekstblik bytes)
     case Codering::Onbekend:
         break;
     }
-    return Afgewezen(0, "Unknown encoding " + NaarUtf8(herkend.naam));
+    return Afgewezen(0, "de codering is onbekend: " + NaarUtf8(herkend.naam));
 }
 
 bool IsUtf8(Tekstblik bytes)

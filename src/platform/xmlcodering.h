@@ -17,7 +17,7 @@ namespace plexoran {
 /// What is wrong with a document, and at which byte of its text.
 struct Xmlfout {
     std::size_t plaats = 0;
-    std::string wat; ///< in the parser's own words
+    std::string wat; ///< in Dutch, UTF-8
 };
 
 /// Whether a document may hold the character.

@@ -87,7 +87,7 @@ std::optional<Xmlfout> OnbekendeVerwijzing(std::string_view utf8)
         constexpr std::size_t getoond = 32;
         const std::string_view rest = utf8.substr(plaats, getoond);
         std::string naam(rest.substr(0, rest.find_first_of("; \t\r\n<", 1)));
-        return Xmlfout{plaats, "Unknown entity " + std::move(naam)};
+        return Xmlfout{plaats, "de verwijzing is onbekend: " + std::move(naam)};
     }
     return std::nullopt;
 }

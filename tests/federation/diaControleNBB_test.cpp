@@ -133,10 +133,12 @@ TEST_F(diaControleNBBTest, EenFoutInEenNbb3Bestand)
 {
     opdracht.bron = Ledenbron::XmlNbb3;
     map.Zet("Stuk.xml", "<lijst><lid>");
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Stuk.xml' "
-                                              "NBB3-XML-bestand\r\n"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Waarschuwing(
+        QStringLiteral("Fout bij het lezen van 'Stuk.xml' NBB3-XML-bestand\r\nDe inhoud is niet "
+                       "die van een ledenbestand.\r\nBestand: %1\nRegel: 1\nOorzaak: een eindtag "
+                       "ontbreekt of hoort niet bij de begintag (teken 12 van die regel)\r\n\r\nDe "
+                       "leden van dit bestand staan niet in het overzicht.")
+            .arg(QString::fromStdString((map.Weg() / "Stuk.xml").string())));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml"}));
     EXPECT_FALSE(Knop("cmdPrint")->isEnabled());
 }

@@ -5,9 +5,9 @@
 namespace plexoran {
 namespace {
 
-std::string Melding(Ledenbron bron, const Fout& fout)
+std::string Melding(Ledenbron bron, const Fout& fout, Leesdoel doel = Leesdoel::Import)
 {
-    return Leesfouttekst(bron, "Caf\xE9 30.x", fout).toStdString();
+    return Leesfouttekst(bron, "Caf\xE9 30.x", fout, doel).toStdString();
 }
 
 TEST(Leesfouttekst, BegintNaarDeBron)
@@ -31,10 +31,10 @@ TEST(Leesfouttekst, NoemtWatErMisIsEnWaar)
         Melding(Ledenbron::XmlNbb3, {.soort = Foutsoort::Beschadigd,
                                      .bestand = "/a/b.xml",
                                      .regel = 3,
-                                     .systeem = "Start-end tags mismatch (offset 12)"}),
+                                     .systeem = "een eindtag ontbreekt (teken 1)"}),
         "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand\r\nDe inhoud is niet die van een "
-        "ledenbestand.\r\nBestand: /a/b.xml\nRegel: 3\nMelding van het systeem: Start-end tags "
-        "mismatch (offset 12)\r\n\r\nUit dit bestand is niets geïmporteerd.");
+        "ledenbestand.\r\nBestand: /a/b.xml\nRegel: 3\nOorzaak: een eindtag ontbreekt (teken "
+        "1)\r\n\r\nUit dit bestand is niets geïmporteerd.");
 }
 
 /// It may be the intermediate file that the system refused, so the member file is not blamed.
@@ -49,6 +49,16 @@ TEST(Leesfouttekst, WatHetSysteemWeigert)
         "het bestand hieronder kan niet worden gelezen of geschreven.\r\nBestand: /p/Club "
         "Temp-NBBXMLtoCSV.csv\nMelding van het systeem: No space left on device\r\n\r\nUit dit "
         "bestand is niets geïmporteerd.");
+}
+
+/// The number check imports nothing, so it must not say that it did not.
+TEST(Leesfouttekst, EindigtNaarHetDoel)
+{
+    EXPECT_EQ(Melding(Ledenbron::Csv,
+                      {.soort = Foutsoort::Ontbreekt, .bestand = "/a/b", .regel = 0, .systeem = {}},
+                      Leesdoel::Overzicht),
+              "Fout bij het lezen van 'Café 30.x' CSV-bestand\r\nHet bestand is er niet (meer)."
+              "\r\nBestand: /a/b\r\n\r\nDe leden van dit bestand staan niet in het overzicht.");
 }
 
 } // namespace

@@ -94,13 +94,13 @@ TEST(Xmlcodering, HerkentUtf8VanBuitenXml)
 
 TEST(Xmlcodering, EenOnbekendeCoderingWordtGeweigerd)
 {
-    EXPECT_EQ(Utf8("<?xml encoding='ibm437'?><a/>"), "0: Unknown encoding IBM437");
-    EXPECT_EQ(Utf8("\xFF\xFE\0\0<\0\0\0"s), "0: Unknown encoding UTF-32");
+    EXPECT_EQ(Utf8("<?xml encoding='ibm437'?><a/>"), "0: de codering is onbekend: IBM437");
+    EXPECT_EQ(Utf8("\xFF\xFE\0\0<\0\0\0"s), "0: de codering is onbekend: UTF-32");
 }
 
 TEST(Xmlcodering, WatGeenTekenIsWordtGeweigerdMetZijnPlaats)
 {
-    const std::string nee = ": Not a character of UTF-8 that XML allows";
+    const std::string nee = ": dit is geen UTF-8-teken dat in XML mag staan";
     EXPECT_EQ(Utf8("<a>\xEB</a>"), "3" + nee);
     EXPECT_EQ(Utf8("<a>\xC0\xBC"), "3" + nee) << "langer dan nodig";
     EXPECT_EQ(Utf8("<a>\xE0\x80\xBC"), "3" + nee) << "langer dan nodig";
@@ -120,13 +120,13 @@ TEST(Xmlcodering, WatGeenTekenIsWordtGeweigerdMetZijnPlaats)
         tekst[std::max<std::size_t>(plaats, 2)] = '\x1F';
         EXPECT_EQ(Utf8(tekst), std::to_string(std::max<std::size_t>(plaats, 2)) + nee);
     }
-    EXPECT_EQ(Utf8("<?xml encoding='latin1'?>\x01"), "25: Not a character that XML allows");
+    EXPECT_EQ(Utf8("<?xml encoding='latin1'?>\x01"), "25: dit teken mag niet in XML staan");
 }
 
 TEST(Xmlcodering, KapotteUtf16WordtGeweigerdMetZijnPlaats)
 {
-    const std::string nee = ": Not a character of UTF-16 that XML allows";
-    EXPECT_EQ(Utf8("\xFF\xFE<\0a"s), "4: Half a character of UTF-16 at the end");
+    const std::string nee = ": dit is geen UTF-16-teken dat in XML mag staan";
+    EXPECT_EQ(Utf8("\xFF\xFE<\0a"s), "4: het bestand eindigt midden in een UTF-16-teken");
     EXPECT_EQ(Utf8("\xFF\xFE" + Utf16(u"<a>", false) + "\x00\xD8"s), "8" + nee);
     EXPECT_EQ(Utf8("\xFF\xFE" + Utf16(u"<a>", false) + "\x00\xDCx\0"s), "8" + nee);
     EXPECT_EQ(Utf8("\xFF\xFE" + Utf16(u"<a>", false) + "\x00\xD8x\0"s), "8" + nee);
@@ -153,11 +153,11 @@ TEST(Xmlverwijzing, KentVijfNamenEnGetallen)
     EXPECT_EQ(
         Verwijzing("<a>&amp;&lt;&gt;&quot;&apos;&#233;&#xE9;&#x1F0A1;&#00000000000000065;</a>"),
         "goed");
-    EXPECT_EQ(Verwijzing("<a>&eacute;</a>"), "3: Unknown entity &eacute");
-    EXPECT_EQ(Verwijzing("<a>Jansen & Zn</a>"), "10: Unknown entity &");
-    EXPECT_EQ(Verwijzing("<a>&AMP;</a>"), "3: Unknown entity &AMP");
-    EXPECT_EQ(Verwijzing("<a>&amp</a>"), "3: Unknown entity &amp");
-    EXPECT_EQ(Verwijzing("&"), "0: Unknown entity &");
+    EXPECT_EQ(Verwijzing("<a>&eacute;</a>"), "3: de verwijzing is onbekend: &eacute");
+    EXPECT_EQ(Verwijzing("<a>Jansen & Zn</a>"), "10: de verwijzing is onbekend: &");
+    EXPECT_EQ(Verwijzing("<a>&AMP;</a>"), "3: de verwijzing is onbekend: &AMP");
+    EXPECT_EQ(Verwijzing("<a>&amp</a>"), "3: de verwijzing is onbekend: &amp");
+    EXPECT_EQ(Verwijzing("&"), "0: de verwijzing is onbekend: &");
 }
 
 TEST(Xmlverwijzing, EenGetalMoetEenTekenZijn)
@@ -170,8 +170,8 @@ TEST(Xmlverwijzing, EenGetalMoetEenTekenZijn)
 TEST(Xmlverwijzing, InCommentaarCdataEnInstructiesIsHetTekst)
 {
     EXPECT_EQ(Verwijzing("<!-- &x; --><![CDATA[&y;]]><?z &z;?>&amp;<!---->"), "goed");
-    EXPECT_EQ(Verwijzing("<!-- &x; -->&q;<![CDATA[&y;]]>"), "12: Unknown entity &q");
-    EXPECT_EQ(Verwijzing("<![CDATA[&y;&y;]]><b/>&q;"), "22: Unknown entity &q");
+    EXPECT_EQ(Verwijzing("<!-- &x; -->&q;<![CDATA[&y;]]>"), "12: de verwijzing is onbekend: &q");
+    EXPECT_EQ(Verwijzing("<![CDATA[&y;&y;]]><b/>&q;"), "22: de verwijzing is onbekend: &q");
     EXPECT_EQ(Verwijzing("<!-- &x; "), "goed") << "de ontleder klaagt wel";
 }
 

@@ -166,7 +166,9 @@ QString Bijzonderheden(const Fout& fout)
     if (fout.regel > 0)
         regels << QStringLiteral("Regel: ") + QString::number(fout.regel);
     if (!fout.systeem.empty())
-        regels << QStringLiteral("Melding van het systeem: ") +
+        regels << (fout.soort == Foutsoort::Beschadigd
+                       ? QStringLiteral("Oorzaak: ") // what a reader of this program found
+                       : QStringLiteral("Melding van het systeem: ")) +
                       QString::fromStdString(fout.systeem);
     return regels.join(QLatin1Char('\n'));
 }
