@@ -190,6 +190,11 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
         opmerkingen << QStringLiteral("'%1': geen leden, want het bestand kon niet als XML worden "
                                       "gelezen.")
                            .arg(bestand);
+    if (lezing.anderNummer)
+        opmerkingen << QStringLiteral("'%1': dit zijn de leden van het ledenbestand met nummer %2, "
+                                      "want van het nummer tellen alleen de laatste drie tekens.")
+                           .arg(bestand)
+                           .arg(*lezing.anderNummer);
     if (lezing.inUtf8)
         opmerkingen << QStringLiteral("'%1': opgeslagen in UTF-8, dus letters met een accent komen "
                                       "verkeerd over.")

@@ -141,6 +141,13 @@ void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezi
         Meld(this, QMessageBox::Warning,
              QStringLiteral("In '%1' zijn geen leden gevonden.\n").arg(NaarQString(naam)) +
                  Leesfouttekst(bron, naam, *lezing.nietGeladen, Leesdoel::Import));
+    if (lezing.anderNummer)
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Van het nummer achter de naam '%1' tellen alleen de laatste drie "
+                            "tekens: dit zijn de leden van het ledenbestand met nummer %2.\n\nKies "
+                            "bij de volgende vraag Annuleren als u een ander ledenbestand bedoelt.")
+                 .arg(NaarQString(naam))
+                 .arg(*lezing.anderNummer));
     if (lezing.inUtf8)
         Meld(this, QMessageBox::Warning,
              QStringLiteral("'%1' is opgeslagen in UTF-8, maar een CSV-bestand wordt gelezen als "

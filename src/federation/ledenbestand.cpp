@@ -32,11 +32,20 @@ Voortgang TweedeHelft(const Voortgang& voortgang)
     };
 }
 
+constexpr std::size_t Nummerlengte = 3;
+
 /// The number of a member file of the database, in the last three characters of its entry.
 int Databasenummer(Tekstblik naam)
 {
-    constexpr std::size_t lengte = 3;
-    return Geheel32(naam.substr(naam.size() - std::min(naam.size(), lengte))).value_or(0);
+    return Geheel32(naam.substr(naam.size() - std::min(naam.size(), Nummerlengte))).value_or(0);
+}
+
+/// A number of other than three digits cannot be read back from its entry.
+bool IsHeelNummer(Tekstblik naam)
+{
+    const Tekstblik nummer = naam.substr(naam.rfind(' ') + 1);
+    return nummer.size() == Nummerlengte &&
+           nummer.find_first_not_of("0123456789") == Tekstblik::npos;
 }
 
 Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Tekstblik naam,
@@ -99,6 +108,8 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
     if (lezing) {
         lezing->vervangenTekens = omgezet->vervangenTekens;
         lezing->nietGeladen = std::move(omgezet->nietGeladen);
+        if (opdracht.bron == Ledenbron::Database && !IsHeelNummer(naam))
+            lezing->anderNummer = Databasenummer(naam);
     }
     return lezing;
 }

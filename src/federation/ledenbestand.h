@@ -36,13 +36,15 @@ struct Ledenlezing {
     bool inUtf8 = false;   ///< an exported CSV that was saved as UTF-8, and read byte by byte
     std::size_t vervangenTekens = 0; ///< characters that the code page lacks
     std::optional<Fout> nietGeladen; ///< an NBBR-4 file that could not be loaded has no members
+    /// Database: the number of the member file that was read, when it is not that of the entry.
+    std::optional<int> anderNummer;
 };
 
-/// Reads the member file `naam`; for the database that is an entry of its list. All sources but the
-/// CSV go by way of the intermediate file, which is left on the disk. On an error nothing is
-/// imported: for XML and CSV it is `Beschadigd` when the file was read but is not what it should
-/// be, with the line and what the parser said. The answer of `voortgang` is not looked at, except
-/// by the database reader.
+/// Reads the member file `naam`; for the database that is an entry of its list, of which the last
+/// three characters are the number of the file that is read. All sources but the CSV go by way of
+/// the intermediate file, which is left on the disk. On an error nothing is imported: for XML and
+/// CSV it is `Beschadigd` when the file was read but is not what it should be, with the line and
+/// what the parser said. The answer of `voortgang` is not looked at, except by the database reader.
 [[nodiscard]] Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdracht,
                                                      Tekstblik naam,
                                                      const Voortgang& voortgang = {});

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "hulp/accessgegevens.h"
 #include "hulp/dialoogproef.h"
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
@@ -181,6 +182,20 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
         "is vervangen door een teken dat erop lijkt of door '?': 1."));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Heel.xml"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 7 Heel Szo,", Geschilderd());
+}
+
+TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZijn)
+{
+    map.Zet("Members.mdb", DatabaseMetJeugdnummer(1012));
+    opdracht.bron = Ledenbron::Database;
+    opdracht.LedenDatabase = Samen(map.AlsPad(), "Members.mdb");
+    wachter.Informatie(QStringLiteral(
+        "Bij het lezen van de ledenbestanden:\r\n\r\n'Jeugd 1012': dit zijn de leden van het "
+        "ledenbestand met nummer 12, want van het nummer tellen alleen de laatste drie tekens."
+        "\r\n'Jeugd 1012': aantal tekens dat het register niet kent en dat is vervangen door een "
+        "teken dat erop lijkt of door '?': 1."));
+    ASSERT_NO_FATAL_FAILURE(Open({"Jeugd 1012"}));
+    EXPECT_EQ("Aantal leden: 6", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
 }
 
 TEST_F(diaControleNBBTest, ZonderLedenIsErNietsTePrinten)

@@ -163,6 +163,23 @@ TEST_F(ImporterenTest, UitDeDatabase)
     EXPECT_EQ((std::vector<std::string>{"Cursus Temp-NBBXMLtoCSV.csv"}), suite.Namen("Programma"));
 }
 
+/// Only three digits of its number are read back, so the members of another file would come in
+/// under this name.
+TEST_F(ImporterenTest, EenNummerVanVierCijfersWordtVoorDeVraagGemeld)
+{
+    winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+    suite.Zet("Rekenprogramma/data/Members.mdb", DatabaseMetJeugdnummer(1007));
+    Herstart();
+    Verwacht(Voer("Option1", {2}));
+    wachter.Waarschuwing(QStringLiteral(
+        "Van het nummer achter de naam 'Jeugd 1007' tellen alleen de laatste drie tekens: dit zijn "
+        "de leden van het ledenbestand met nummer 7.\n\nKies bij de volgende vraag Annuleren als u "
+        "een ander ledenbestand bedoelt."));
+    VerwachtVraag(QStringLiteral("Jeugd"), 13, Annuleren);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
 TEST_F(ImporterenTest, AnnulerenSlaatAlleenDatBestandOver)
 {
     KopieerExports();

@@ -226,6 +226,33 @@ TEST(HaalLedenbestanden, FoutenEnEenLegeTabel)
     EXPECT_TRUE(leeg->empty());
 }
 
+/// Meant: the entry shows the whole number, of which the last three characters are read back. So
+/// the members of another file come, and the reading says whose.
+TEST(HaalLedenbestanden, VanEenNummerVanVierCijfersTellenDeLaatsteDrie)
+{
+    const TijdelijkeMap map;
+    map.Zet("Members.mdb", DatabaseMetJeugdnummer(1007));
+    const Pad vierCijfers = Samen(map.AlsPad(), "Members.mdb");
+    const auto lijst = HaalLedenbestanden(vierCijfers);
+    ASSERT_TRUE(lijst) << lijst.error().systeem;
+    EXPECT_EQ(*lijst, (std::vector<Tekst>{"Club 007", "Cursus 012", "Jeugd 1007"}));
+    GeheugenSchijf schijf;
+    schijf.ZetMap("P");
+    const Ledenopdracht opdracht{.bron = Ledenbron::Database,
+                                 .map = {},
+                                 .programmamap = "P",
+                                 .LedenDatabase = vierCijfers,
+                                 .keuzes = {}};
+    const auto jeugdig = LeesLedenbestand(schijf, opdracht, "Jeugd 1007");
+    ASSERT_TRUE(jeugdig) << jeugdig.error().systeem;
+    EXPECT_EQ(schijf.Inhoud("P\\Jeugd Temp-NBBXMLtoCSV.csv"), club);
+    EXPECT_EQ(jeugdig->anderNummer, 7);
+    EXPECT_EQ(LeesLedenbestand(schijf, opdracht, "Club 007")->anderNummer, std::nullopt);
+    // An entry without a number, or with one below zero, reads as little as it shows.
+    EXPECT_EQ(LeesLedenbestand(schijf, opdracht, "Club ")->anderNummer, 0);
+    EXPECT_EQ(LeesLedenbestand(schijf, opdracht, "Club -007")->anderNummer, 7);
+}
+
 /// The one damaged file on which libmdb prints what it finds: nothing of it reaches anyone.
 TEST(HaalLedenbestanden, WatLibmdbAfdruktKomtNergens)
 {

@@ -17,6 +17,19 @@ inline std::string Accessbestand(const std::string& naam)
     return std::string(GEGEVENS) + "/access/" + naam;
 }
 
+/// The member database in which the member file "Jeugd" has another number than 105.
+inline std::string DatabaseMetJeugdnummer(std::uint32_t nummer)
+{
+    std::string bytes = LeesAlsBytes(Accessbestand("Members.mdb"));
+    const auto naam = bytes.find("Jeugd");
+    constexpr std::size_t ervoor = 6; // the number in four bytes, and the mark of a short text
+    if (naam == std::string::npos || bytes[naam - ervoor] != 105)
+        throw std::runtime_error("Members.mdb is anders dan gedacht");
+    for (std::size_t i = 0; i < 4; ++i)
+        bytes[naam - ervoor + i] = static_cast<char>(nummer >> 8 * i & 0xFFU);
+    return bytes;
+}
+
 using Verwachtecel = std::optional<std::string>;
 /// Per row the cells by column name.
 using Verwachtetabel = std::vector<std::map<std::string, Verwachtecel>>;
