@@ -64,7 +64,9 @@ class frmImportNBB : public QDialog {
     void KiesBron(Ledenbron bron);
     void KiesDatabase();
     void KiesExportMap();
-    void ToonMap(const Pad& map, Tekstblik gekozen);
+    bool ToonMap(const Pad& map, Tekstblik gekozen);
+    bool ZoekBestanden(std::vector<Tekst> namen);
+    void KiesInLijst(Tekstblik gekozen);
     void MeldNietVanSoort(const Tekst& gekozen);
     void ToonLijsttekst(const QString& tekst);
     void VulLijst(std::vector<Tekst> namen);

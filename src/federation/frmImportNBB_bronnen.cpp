@@ -9,6 +9,7 @@
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/frmVoortgang.h"
 #include "platform/tekstorde.h"
 
 namespace plexoran {
@@ -136,12 +137,12 @@ void frmImportNBB::KiesBron(Ledenbron bron)
     }
     cmdKiesExportMap->setText(MetSneltoets(Knoptekst(bron), u'K'));
     cmdKiesExportMap->setEnabled(true);
-    map_ = Beginmap();
-    MaakBruikbaar(!map_.empty());
+    map_.clear();
+    MaakBruikbaar(false);
     lblExportMap->setText(QStringLiteral("Er is nog geen map gekozen."));
     ToonLijsttekst(Lijsttekst(bron));
-    if (!map_.empty())
-        ToonMap(map_, {});
+    if (const Pad map = Beginmap(); !map.empty())
+        ToonMap(map, {});
 }
 
 /// The folder chosen last for this source, else that of the federation exports, if it is there.
@@ -204,7 +205,8 @@ void frmImportNBB::KiesExportMap()
     if (naam == Pad::npos)
         return;
     const Tekst gekozen = bestand.substr(naam + 1);
-    ToonMap(bestand.substr(0, naam), gekozen);
+    if (!ToonMap(bestand.substr(0, naam), gekozen))
+        return;
     lstNBBbest->setFocus();
     MeldNietVanSoort(gekozen);
 }
@@ -224,10 +226,10 @@ void frmImportNBB::MeldNietVanSoort(const Tekst& gekozen)
              .arg(NaarQString(gekozen), soort));
 }
 
-/// Lists the folder; the file that was pointed at is chosen, or else the first of XML files.
-void frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
+/// Lists the folder. False when it cannot be listed, which leaves everything as it was, or not
+/// every file in it was looked at.
+bool frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
 {
-    const Ledenbron bron = bron_.value_or(Ledenbron::Csv);
     const Wachtcursor wacht;
     const auto bestanden = administratie_.schijf.Bestanden(map);
     if (!bestanden) {
@@ -235,25 +237,49 @@ void frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
              QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Kies een "
                             "andere map.\n\n") +
                  Bijzonderheden(bestanden.error()));
-        return;
+        return false;
     }
     map_ = map;
-    geheugen_.mappen[bron] = map;
+    geheugen_.mappen[bron_.value_or(Ledenbron::Csv)] = map;
     MaakBruikbaar(true);
-    auto namen = VanSoort(*bestanden, bron);
-    if (bron != Ledenbron::Csv)
-        namen = BepaalXMLsoort(administratie_.schijf, map, namen, bron);
-    VulLijst(std::move(namen));
-
     const QString pad = QString::fromStdString(administratie_.schijf.Toonpad(map));
     lblExportMap->setText(QStringLiteral("Ledenbestanden in de gekozen map: ") + Breekbaar(pad));
     lblExportMap->setToolTip(pad);
-    ToonLijsttekst(Lijsttekst(bron) +
-                   (namen_.empty() ? QStringLiteral("geen") : QString::number(namen_.size())));
+    const bool volledig = ZoekBestanden(*bestanden);
+    if (volledig) // or another file could stand chosen for the one that was pointed at
+        KiesInLijst(gekozen);
+    return volledig;
+}
+
+/// Fills the list with those that are of the source's kind. Of XML files that takes reading them
+/// all; stopping lists the ones found by then, and gives false.
+bool frmImportNBB::ZoekBestanden(std::vector<Tekst> namen)
+{
+    const Ledenbron bron = bron_.value_or(Ledenbron::Csv);
+    namen = VanSoort(namen, bron);
+    bool volledig = true;
+    if (bron != Ledenbron::Csv) {
+        frmVoortgang voortgang(QStringLiteral("De XML-bestanden in de gekozen map worden bekeken"),
+                               QStringLiteral("&Stoppen"), this);
+        namen = BepaalXMLsoort(administratie_.schijf, map_, namen, bron, voortgang.AlsVoortgang());
+        volledig = !voortgang.Gestopt();
+    }
+    VulLijst(std::move(namen));
+    QString tekst = Lijsttekst(bron) +
+                    (namen_.empty() ? QStringLiteral("geen") : QString::number(namen_.size()));
+    if (!volledig)
+        tekst += QStringLiteral(" (niet alle bestanden zijn bekeken)");
+    ToonLijsttekst(tekst);
+    return volledig;
+}
+
+/// Chooses the file that was pointed at, or else the first of XML files.
+void frmImportNBB::KiesInLijst(Tekstblik gekozen)
+{
     const auto plaats = std::find(namen_.begin(), namen_.end(), gekozen);
-    const int kies = plaats != namen_.end()   ? static_cast<int>(plaats - namen_.begin())
-                     : bron != Ledenbron::Csv ? 0
-                                              : -1;
+    const int kies = plaats != namen_.end()    ? static_cast<int>(plaats - namen_.begin())
+                     : bron_ != Ledenbron::Csv ? 0
+                                               : -1;
     if (kies >= 0 && kies < lstNBBbest->Aantal())
         lstNBBbest->Kies(kies, true);
     lstNBBbest->ZetHuidige(std::max(kies, 0));

@@ -51,8 +51,10 @@ struct Ledenlezing {
 
 /// The names of those files of `namen` in `map` that are of the source's XML kind, in their order.
 /// Member files hold "<ReportableMember>", those of NBBR-4 also "<LeagueId>"; a file that cannot be
-/// read is of no kind.
+/// read is of no kind. `voortgang` hears of every file, and may stop it: then the files that were
+/// looked at count.
 [[nodiscard]] std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map,
-                                                const std::vector<Tekst>& namen, Ledenbron bron);
+                                                const std::vector<Tekst>& namen, Ledenbron bron,
+                                                const Voortgang& voortgang = {});
 
 } // namespace plexoran

@@ -23,14 +23,16 @@ Ledenbron SoortVan(Schijf& schijf, const Pad& bestand)
 } // namespace
 
 std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map, const std::vector<Tekst>& namen,
-                                  Ledenbron bron)
+                                  Ledenbron bron, const Voortgang& voortgang)
 {
     std::vector<Tekst> uit;
     if (bron != Ledenbron::XmlNbb3 && bron != Ledenbron::XmlNbb4)
         return uit;
-    for (const Tekst& naam : namen) {
-        if (SoortVan(schijf, Samen(map, naam)) == bron)
-            uit.push_back(naam);
+    for (std::size_t i = 0; i < namen.size(); ++i) {
+        if (voortgang && !voortgang(i, namen.size()))
+            break;
+        if (SoortVan(schijf, Samen(map, namen[i])) == bron)
+            uit.push_back(namen[i]);
     }
     return uit;
 }

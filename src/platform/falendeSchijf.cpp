@@ -64,19 +64,28 @@ Uitkomst<void> FalendeSchijf::Tel(const Pad& pad)
     return tl::unexpected(Fout{Foutsoort::Geweigerd, binnen_.Toonpad(pad), 0, "schijf vol"});
 }
 
+Uitkomst<void> FalendeSchijf::Mag(const Pad& pad) const
+{
+    if (!mag_ || mag_(pad))
+        return {};
+    return tl::unexpected(Fout{Foutsoort::Geweigerd, binnen_.Toonpad(pad), 0, "geen toegang"});
+}
+
 Uitkomst<void> FalendeSchijf::Lezend(const Pad& pad)
 {
-    return telt_ == Telt::Alles ? Tel(pad) : Uitkomst<void>();
+    return Mag(pad).and_then([&] { return telt_ == Telt::Alles ? Tel(pad) : Uitkomst<void>(); });
 }
 
 Uitkomst<void> FalendeSchijf::Schrijvend(const Pad& pad)
 {
-    return Tel(pad);
+    return Mag(pad).and_then([&] { return Tel(pad); });
 }
 
 Uitkomst<Padsoort> FalendeSchijf::Soort(const Pad& pad)
 {
-    return Lezend(pad).and_then([&] { return binnen_.Soort(pad); });
+    return (telt_ == Telt::Alles ? Tel(pad) : Uitkomst<void>()).and_then([&] {
+        return binnen_.Soort(pad);
+    });
 }
 
 Uitkomst<Tekst> FalendeSchijf::LeesBestand(const Pad& pad)

@@ -2,6 +2,9 @@
 // writers too, and the chosen ones are refused.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "platform/schijf.h"
 
 namespace plexoran {
@@ -20,6 +23,9 @@ class FalendeSchijf : public Schijf {
     /// So are all that follow it, as when the program is killed there or the disk breaks.
     void FaalVanaf(int nummer);
     void FaalNiet();
+    /// Asked before every operation, those that are not counted too; false refuses it. Not before
+    /// `Soort`: that a folder is there is seen without any right to it.
+    void Vooraf(std::function<bool(const Pad&)> mag) { mag_ = std::move(mag); }
 
     /// How many operations were counted since the last call of one of these three.
     [[nodiscard]] int Aantal() const { return aantal_; }
@@ -47,12 +53,14 @@ class FalendeSchijf : public Schijf {
     [[nodiscard]] Uitkomst<void> Lezend(const Pad& pad);
     [[nodiscard]] Uitkomst<void> Schrijvend(const Pad& pad);
     [[nodiscard]] Uitkomst<void> Tel(const Pad& pad);
+    [[nodiscard]] Uitkomst<void> Mag(const Pad& pad) const;
 
     Schijf& binnen_;
     Telt telt_;
     int aantal_ = 0;
     int eerste_ = 0; ///< 0: none fails
     int laatste_ = 0;
+    std::function<bool(const Pad&)> mag_;
 };
 
 } // namespace plexoran

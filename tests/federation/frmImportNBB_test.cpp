@@ -210,6 +210,110 @@ TEST_F(frmImportNBBTest, EenBestandVanEenAndereSoortWordtGenoemd)
     Importeer();
 }
 
+/// The folder that is looked in first: nothing can be done with the source until another is chosen.
+TEST_F(frmImportNBBTest, EenMapZonderRechten)
+{
+    ZetExport("Dinsdag.csv", "");
+    schijf.Vooraf([](const Pad& pad) { return !pad.ends_with("NBB4-Leden"); });
+    const QString bericht =
+        QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Kies een "
+                       "andere map.\n\nBestand: %1\nMelding van het systeem: geen toegang")
+            .arg(QString::fromStdString((suite.Weg() / "Bestanden/NBB4-Leden").string()));
+    Verwacht([](QDialog& dia) {
+        for (const char* optie : {"Option2", "Option3", "Option4"}) {
+            KiesOptie(dia, optie);
+            EXPECT_EQ("Er is nog geen map gekozen.", Labeltekst(dia, "lblExportMap"));
+            EXPECT_EQ(0, Lijst(dia)->Aantal());
+            EXPECT_FALSE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
+            EXPECT_FALSE(Vind<QPushButton>(dia, "cmdControleNBBnrs")->isEnabled());
+            EXPECT_TRUE(Vind<QPushButton>(dia, "cmdKiesExportMap")->isEnabled());
+            EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
+        }
+        Druk(dia, "cmdKiesExportMap");
+        EXPECT_EQ((Namen{"Cursus 20260901.xml", "Zomer 20260901.xml"}), Bestanden(dia));
+        EXPECT_TRUE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
+        Druk(dia, "cmdAnnuleren");
+    });
+    for (int i = 0; i < 3; ++i)
+        wachter.Waarschuwing(bericht);
+    VerwachtBestandskeuze(QStringLiteral("XML-bestanden (*.xml)"),
+                          "Ledenbestanden/Zomer 20260901.xml");
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+/// One that is chosen: the folder before it and its list stay.
+TEST_F(frmImportNBBTest, EenGekozenMapZonderRechten)
+{
+    KopieerExports();
+    schijf.Vooraf([](const Pad& pad) { return !pad.ends_with("Ledenbestanden"); });
+    Verwacht([this](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        Druk(dia, "cmdKiesExportMap");
+        EXPECT_EQ("Ledenbestanden in de gekozen map: " +
+                      (suite.Weg() / "Bestanden/NBB4-Leden").string(),
+                  Labeltekst(dia, "lblExportMap"));
+        EXPECT_EQ((Namen{"Dinsdag 20260901.csv", "Maandag 20260901.csv"}), Bestanden(dia));
+        Druk(dia, "cmdAnnuleren");
+    });
+    VerwachtBestandskeuze(QStringLiteral("CSV-bestanden (*.csv)"),
+                          "Ledenbestanden/Maandag 20260901.csv");
+    wachter.Verwacht({.tekst = QStringLiteral("De bestanden in de gekozen map kunnen niet worden "
+                                              "opgezocht. Kies een andere map.\n\nBestand: "),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    Importeer();
+}
+
+/// Telling XML files apart takes reading them: on a slow disk the window says how far it is, and
+/// lets itself be stopped.
+TEST_F(frmImportNBBTest, EenMapMetVeelXmlBestandenOpEenTrageSchijf)
+{
+    const std::string export4 = suite.Inhoud("Ledenbestanden/Zomer 20260901.xml");
+    for (int i = 0; i < 40; ++i)
+        ZetExport("Club " + std::to_string(100 + i) + ".xml", export4);
+    schijf.Vooraf([](const Pad& pad) {
+        if (pad.ends_with(".xml"))
+            QTest::qSleep(15);
+        return true;
+    });
+    bool stop = false;
+    int keren = 0;
+    QTimer kijker;
+    QObject::connect(&kijker, &QTimer::timeout, &kijker, [&] {
+        auto* voortgang = QApplication::activeModalWidget();
+        if (voortgang == nullptr || voortgang->objectName() != QStringLiteral("frmVoortgang"))
+            return;
+        if (++keren == 1) {
+            EXPECT_EQ("De XML-bestanden in de gekozen map worden bekeken",
+                      Vind<QLabel>(*voortgang, "lblTekst")->text().toStdString());
+            if (stop)
+                QTest::keyClick(voortgang, Qt::Key_Escape);
+        }
+    });
+    Verwacht([&](QDialog& dia) {
+        kijker.start(0);
+        KiesOptie(dia, "Option4");
+        EXPECT_GT(keren, 3);
+        EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: 40", Labeltekst(dia, "Label3"));
+        EXPECT_TRUE(Lijst(dia)->Gekozen(0));
+        stop = true;
+        keren = 0;
+        KiesOptie(dia, "Option4");
+        EXPECT_GE(keren, 1);
+        EXPECT_GT(Lijst(dia)->Aantal(), 0);
+        EXPECT_LT(Lijst(dia)->Aantal(), 40);
+        EXPECT_FALSE(Lijst(dia)->IetsGekozen());
+        EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: " + std::to_string(Lijst(dia)->Aantal()) +
+                      " (niet alle bestanden zijn bekeken)",
+                  Labeltekst(dia, "Label3"));
+        EXPECT_TRUE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
+        kijker.stop();
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
 /// A screen of 1920 by 1080 at 200 % has this room.
 TEST_F(frmImportNBBTest, OpEenLaagSchermBlijvenDeKnoppenInBeeld)
 {

@@ -244,6 +244,29 @@ TEST(BepaalXMLsoort, HoudtAlleenDeBestandenVanDeGekozenSoort)
               (Namen{"v.xml", "a.xml", "v16.xml"}));
 }
 
+TEST(BepaalXMLsoort, MeldtElkBestandEnHoudtOpAlsHetMoet)
+{
+    GeheugenSchijf schijf;
+    Namen namen;
+    for (const char* naam : {"a.xml", "b.xml", "c.xml"}) {
+        schijf.Zet(Samen("C:\\Export", naam), Xml("<ReportableMember>x</ReportableMember>"));
+        namen.emplace_back(naam);
+    }
+    std::vector<std::size_t> standen;
+    const auto tot = [&](std::size_t hoeveel) {
+        return BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb3,
+                              [&, hoeveel](std::size_t gedaan, std::size_t geheel) {
+                                  EXPECT_EQ(geheel, 3U);
+                                  standen.push_back(gedaan);
+                                  return gedaan < hoeveel;
+                              });
+    };
+    EXPECT_EQ(tot(3), namen);
+    EXPECT_EQ(standen, (std::vector<std::size_t>{0, 1, 2}));
+    EXPECT_EQ(tot(2), (Namen{"a.xml", "b.xml"}));
+    EXPECT_EQ(tot(0), Namen());
+}
+
 /// The sample exports as they stand in the repository.
 class Voorbeelden : public ::testing::Test {
   protected:
