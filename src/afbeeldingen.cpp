@@ -101,7 +101,7 @@ void NeemSorteerlijst(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, const S
 void NeemControle(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administratie& administratie)
 {
     Ledenopdracht opdracht;
-    opdracht.map = Samen(administratie.mappen.RVDMAP, "Ledenbestanden");
+    opdracht.map = administratie.mappen.Ledenmap();
     std::vector<Tekst> namen;
     if (auto bestanden = administratie.schijf.Bestanden(opdracht.map)) {
         for (const Tekst& naam : *bestanden) {
@@ -205,9 +205,7 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                                    .DataRoot = {},
                                    .ProgrammaCode = "NBBR",
                                    .ProgrammaNaam = "NBB-R"};
-    Importgeheugen importgeheugen{
-        .mappen = {{Ledenbron::XmlNbb4, Samen(administratie.mappen.RVDMAP, "Ledenbestanden")}},
-        .bron = Ledenbron::XmlNbb4};
+    Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
     fotograaf.Neem(frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
     fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
     fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));

@@ -19,6 +19,9 @@ class Importproef : public Hoofdvensterproef {
     void SetUp() override
     {
         std::filesystem::create_directory(suite.Weg() / "Programma");
+        // The samples lie where the window looks first. Each test puts there what it needs.
+        std::filesystem::rename(suite.Weg() / "Bestanden/NBB4-Leden",
+                                suite.Weg() / "Ledenbestanden");
         administratie.programmamap = (suite.Weg() / "Programma").string();
         ASSERT_NO_FATAL_FAILURE(Start());
         KiesGroep(5);

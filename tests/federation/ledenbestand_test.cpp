@@ -274,7 +274,8 @@ class Voorbeelden : public ::testing::Test {
     {
         namespace fs = std::filesystem;
         schijf_.ZetMap("C:\\P");
-        for (const auto& item : fs::directory_iterator(fs::path(VOORBEELD) / "Ledenbestanden")) {
+        for (const auto& item :
+             fs::directory_iterator(fs::path(VOORBEELD) / "Bestanden/NBB4-Leden")) {
             std::ifstream bestand(item.path(), std::ios::binary);
             const Tekst inhoud(std::istreambuf_iterator<char>(bestand), {});
             namen_.push_back(item.path().filename().string());
