@@ -41,7 +41,10 @@ QString Oorzaak(const Fout& fout)
 QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout, Leesdoel doel)
 {
     QString tekst = Aanhef(bron, naam) + QStringLiteral("\r\n") + Oorzaak(fout);
-    const QString bijzonderheden = Bijzonderheden(fout);
+    Fout plaats = fout;
+    if (fout.soort == Foutsoort::Ontbreekt)
+        plaats.systeem.clear(); // would say the same again, perhaps in another language
+    const QString bijzonderheden = Bijzonderheden(plaats);
     if (!bijzonderheden.isEmpty())
         tekst += QStringLiteral("\r\n") + bijzonderheden;
     return tekst + (doel == Leesdoel::Import

@@ -12,7 +12,10 @@ std::string Melding(Ledenbron bron, const Fout& fout, Leesdoel doel = Leesdoel::
 
 TEST(Leesfouttekst, BegintNaarDeBron)
 {
-    const Fout fout{.soort = Foutsoort::Ontbreekt, .bestand = "/a/b", .regel = 0, .systeem = {}};
+    const Fout fout{.soort = Foutsoort::Ontbreekt,
+                    .bestand = "/a/b",
+                    .regel = 0,
+                    .systeem = "No such file or directory"};
     const std::string rest = "\r\nHet bestand is er niet (meer).\r\nBestand: /a/b\r\n\r\nUit dit "
                              "bestand is niets geïmporteerd.";
     EXPECT_EQ(Melding(Ledenbron::XmlNbb3, fout),
