@@ -36,6 +36,9 @@ class frmImportNBB : public QDialog {
     /// Whether a player was refreshed or added, so that there is something to save.
     [[nodiscard]] bool IetsGewijzigd() const { return ietsGewijzigd_; }
 
+    /// Of reading the database; asked for when a source is chosen.
+    void ZetGrenzen(const Accessgrenzen& grenzen) { grenzen_ = grenzen; }
+
     /// While an import runs the window stays: closing it asks the import to stop.
     void reject() override;
 
@@ -94,6 +97,7 @@ class frmImportNBB : public QDialog {
     std::optional<Ledenbron> bron_;
     Pad map_; ///< the chosen folder of exports; empty without one
     Pad LedenDatabase_;
+    Accessgrenzen grenzen_;
     std::vector<Tekst> namen_; ///< the entries of lstNBBbest
     bool ietsGewijzigd_ = false;
     bool gestopt_ = false;               ///< the user asked the run to stop

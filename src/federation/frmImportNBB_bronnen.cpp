@@ -177,9 +177,10 @@ void frmImportNBB::KiesDatabase()
     }
     ZetBezig(true);
     cmdStop->hide(); // it is over within seconds, and cannot be stopped
-    auto namen =
-        HaalLedenbestanden(LedenDatabase_, MaakVoortgang(QStringLiteral("De ledenbestanden worden "
-                                                                        "opgehaald ...")));
+    auto namen = HaalLedenbestanden(LedenDatabase_,
+                                    MaakVoortgang(QStringLiteral("De ledenbestanden worden "
+                                                                 "opgehaald ...")),
+                                    grenzen_);
     ZetBezig(false);
     if (namen)
         VulLijst(std::move(*namen));
@@ -305,7 +306,8 @@ Ledenopdracht frmImportNBB::Opdracht() const
             .keuzes = {.naw = chkNAW->isChecked(),
                        .tel = chkTel->isChecked(),
                        .email = chkEmail->isChecked(),
-                       .mv = chkMV->isChecked()}};
+                       .mv = chkMV->isChecked()},
+            .grenzen = grenzen_};
 }
 
 void frmImportNBB::ControleerNBBnrs()

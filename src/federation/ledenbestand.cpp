@@ -59,7 +59,7 @@ Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Teks
         return ConverteerNBB4XML(schijf, bestand, tussenbestand, voortgang);
     default:
         return HaalLeden(schijf, opdracht.LedenDatabase, Databasenummer(naam), tussenbestand,
-                         voortgang)
+                         voortgang, opdracht.grenzen)
             .map([](std::size_t vervangen) {
                 return Xmlomzetting{vervangen, std::nullopt};
             });

@@ -5,9 +5,8 @@
 #include <vector>
 
 #include "federation/importregel.h"
-#include "platform/schijf.h"
+#include "platform/access.h"
 #include "platform/tekstlijst.h"
-#include "platform/voortgang.h"
 
 namespace plexoran {
 
@@ -21,6 +20,7 @@ struct Ledenopdracht {
     Pad programmamap;  ///< where the intermediate file comes
     Pad LedenDatabase; ///< used for the database only
     Importkeuzes keuzes;
+    Accessgrenzen grenzen{}; ///< of reading the database
 };
 
 /// The name of the subgroup: up to the first blank or, without one, up to the first full stop.

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "federation/tussenbestand.h"
-#include "platform/access.h"
 #include "platform/getal.h"
 #include "platform/tekstorde.h"
 
@@ -127,11 +126,12 @@ std::vector<const Accessrij*> Gekozen(const std::vector<Accessrij>& rijen, const
 
 } // namespace
 
-Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database, const Voortgang& voortgang)
+Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database, const Voortgang& voortgang,
+                                                const Accessgrenzen& grenzen)
 {
     const auto rijen = LeesAccess(
         database, "ledenbestanden",
-        {{"id", Accesssoort::Geheel}, {"bestandsnaam", Accesssoort::Letters}}, voortgang);
+        {{"id", Accesssoort::Geheel}, {"bestandsnaam", Accesssoort::Letters}}, voortgang, grenzen);
     if (!rijen)
         return tl::unexpected(rijen.error());
     std::vector<Tekst> lijst;
@@ -146,9 +146,10 @@ Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database, const Voort
 }
 
 Uitkomst<std::size_t> HaalLeden(Schijf& schijf, const Pad& database, int id,
-                                const Pad& tussenbestand, const Voortgang& voortgang)
+                                const Pad& tussenbestand, const Voortgang& voortgang,
+                                const Accessgrenzen& grenzen)
 {
-    const auto rijen = LeesAccess(database, "leden", Ledenkolommen(), voortgang);
+    const auto rijen = LeesAccess(database, "leden", Ledenkolommen(), voortgang, grenzen);
     if (!rijen)
         return tl::unexpected(rijen.error());
     std::vector<Lidrij> leden;

@@ -108,6 +108,10 @@ void Berichtwachter::Verschenen(QDialog& dialoog)
 
 void Berichtwachter::Behandel(QMessageBox& venster)
 {
+    if (beslis_) {
+        Beantwoord(venster, beslis_(venster));
+        return;
+    }
     if (verwacht_.empty() || !verwacht_.front().bericht) {
         Faal(QStringLiteral("onverwacht bericht: ") + venster.text());
         SluitOnschuldig(venster);

@@ -45,6 +45,13 @@ class Berichtwachter : public QObject {
     /// Boxes that come while it is open are announced after it.
     void Bedien(std::function<void(QDialog&)> stappen);
 
+    /// From now on every message box is answered with the caption that this gives for it: for runs
+    /// of which nobody can say which boxes come in what order.
+    void LaatBeslissen(std::function<QString(const QMessageBox&)> beslis)
+    {
+        beslis_ = std::move(beslis);
+    }
+
     /// Fails when something expected did not come, and forgets it.
     void Klaar();
 
@@ -70,6 +77,7 @@ class Berichtwachter : public QObject {
     void Faal(const QString& tekst) const;
 
     std::deque<Verwachting> verwacht_;
+    std::function<QString(const QMessageBox&)> beslis_;
     QTimer wekker_;
     QPointer<QWidget> bewaakt_; ///< the modal or popup widget that is open
     QElapsedTimer sinds_;
