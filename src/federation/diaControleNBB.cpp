@@ -187,9 +187,8 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
         lstN9.push_back(MaakControleregel(regel, groep));
     const QString bestand = NaarQString(naam);
     if (lezing.nietGeladen)
-        opmerkingen << QStringLiteral("'%1': geen leden, want het bestand kon niet als XML worden "
-                                      "gelezen.")
-                           .arg(bestand);
+        opmerkingen << QStringLiteral("'%1': geen leden, want %2.")
+                           .arg(bestand, Leesfoutreden(*lezing.nietGeladen));
     if (lezing.anderNummer)
         opmerkingen << QStringLiteral("'%1': dit zijn de leden van het ledenbestand met nummer %2, "
                                       "want van het nummer tellen alleen de laatste drie tekens.")

@@ -53,4 +53,18 @@ QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout, Leesdoel
                                          "overzicht."));
 }
 
+QString Leesfoutreden(const Fout& fout)
+{
+    if (fout.soort == Foutsoort::Ontbreekt)
+        return QStringLiteral("het bestand is er niet (meer)");
+    QString reden = fout.soort == Foutsoort::Beschadigd
+                        ? QStringLiteral("het bestand kon niet als XML worden gelezen")
+                        : QStringLiteral("het systeem stond het lezen niet toe");
+    if (fout.regel > 0)
+        reden += QStringLiteral("; regel %1").arg(fout.regel);
+    if (!fout.systeem.empty())
+        reden += QStringLiteral(": ") + QString::fromStdString(fout.systeem);
+    return reden;
+}
+
 } // namespace plexoran

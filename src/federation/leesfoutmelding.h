@@ -14,4 +14,7 @@ enum class Leesdoel { Import, Overzicht };
 [[nodiscard]] QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout,
                                     Leesdoel doel);
 
+/// The same in a few words, for a line among others: what went wrong and where.
+[[nodiscard]] QString Leesfoutreden(const Fout& fout);
+
 } // namespace plexoran

@@ -177,10 +177,12 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
                         "</ReportableMembersList>");
     wachter.Informatie(QStringLiteral(
         "Bij het lezen van de ledenbestanden:\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
-        "niet als XML worden gelezen.\r\n'Heel.xml': aantal tekens dat het register niet kent en "
+        "niet als XML worden gelezen; regel 1: een eindtag ontbreekt of hoort niet bij de begintag "
+        "(teken 12 van die regel).\r\n'Weg.xml': geen leden, want het bestand is er niet "
+        "(meer).\r\n'Heel.xml': aantal tekens dat het register niet kent en "
         "dat "
         "is vervangen door een teken dat erop lijkt of door '?': 1."));
-    ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Heel.xml"}));
+    ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Weg.xml", "Heel.xml"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 7 Heel Szo,", Geschilderd());
 }
 

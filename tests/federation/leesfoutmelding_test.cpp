@@ -64,5 +64,17 @@ TEST(Leesfouttekst, EindigtNaarHetDoel)
               "\r\nBestand: /a/b\r\n\r\nDe leden van dit bestand staan niet in het overzicht.");
 }
 
+TEST(Leesfoutreden, ZegtHetInEenRegel)
+{
+    const auto reden = [](const Fout& fout) { return Leesfoutreden(fout).toStdString(); };
+    EXPECT_EQ(reden({.soort = Foutsoort::Ontbreekt, .bestand = "/a", .regel = 0, .systeem = "No"}),
+              "het bestand is er niet (meer)");
+    EXPECT_EQ(reden({.soort = Foutsoort::Beschadigd, .bestand = "/a", .regel = 3, .systeem = "x"}),
+              "het bestand kon niet als XML worden gelezen; regel 3: x");
+    EXPECT_EQ(
+        reden({.soort = Foutsoort::Geweigerd, .bestand = "/a", .regel = 0, .systeem = "denied"}),
+        "het systeem stond het lezen niet toe: denied");
+}
+
 } // namespace
 } // namespace plexoran
