@@ -18,8 +18,7 @@ constexpr qsizetype VerborgenNaSpaties = 60;
 /// Typing looks for a line that begins with what was typed, or whose name behind the tab does.
 class Zoekmodel : public Regelmodel {
   public:
-    Zoekmodel(Zegt zegt, Meerkeuzelijst& lijst)
-        : Regelmodel(std::move(zegt), &lijst), lijst_(lijst)
+    Zoekmodel(Zegt zegt, Meerkeuzelijst& lijst) : Regelmodel(std::move(zegt), &lijst), lijst_(lijst)
     {}
 
     [[nodiscard]] QModelIndexList match(const QModelIndex& vanaf, int /*rol*/,
