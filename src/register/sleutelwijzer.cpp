@@ -32,56 +32,59 @@ std::size_t Hash(std::uint64_t merk)
     return static_cast<std::size_t>(begin >> 32U << 4U | (merk & 15U));
 }
 
-/// Whether the key of every row comes after that of the row before it, by their bytes.
-bool KeysStijgen(const Spelertabel& tabel)
-{
-    for (int rij = 2; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Key) <= tabel.Cel(rij - 1, Kolom::Key))
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
 Sleutelwijzer::Sleutelwijzer(const Spelertabel& tabel) : tabel_(tabel), rijen_(tabel.Rijen())
-{
-    if (!KeysStijgen(tabel))
-        VulVakken();
-}
+{}
 
 int Sleutelwijzer::Rij(Tekstblik key) const
 {
-    return vakken_.empty() ? ZoekOpVolgorde(key) : vakken_[Plek(key, Merk(key))].rij;
+    if (vakken_.empty()) {
+        if (const int rij = ZoekInStijgende(key); rij != 0)
+            return rij;
+        while (StijgtVerder()) {
+            if (Key(stijgend_) == key)
+                return stijgend_;
+        }
+        if (stijgend_ == rijen_)
+            return 0;
+        VulVakken();
+    }
+    return vakken_[Plek(key, Merk(key))].rij;
 }
 
-int Sleutelwijzer::ZoekOpVolgorde(Tekstblik key) const
+/// Looks at one row more, as long as there is one and its key comes after that of the row before.
+bool Sleutelwijzer::StijgtVerder() const
 {
-    const auto keyVan = [this](int rij) { return tabel_.Cel(rij, Kolom::Key); };
-    if (laatste_ < rijen_ && keyVan(laatste_ + 1) == key)
-        return ++laatste_;
+    if (stijgend_ == rijen_ || (stijgend_ > 0 && Key(stijgend_ + 1) <= Key(stijgend_)))
+        return false;
+    ++stijgend_;
+    return true;
+}
+
+int Sleutelwijzer::ZoekInStijgende(Tekstblik key) const
+{
+    if (stijgend_ == 0 || key > Key(stijgend_)) // the next of many
+        return 0;
     int van = 1;
-    int tot = rijen_ + 1;
+    int tot = stijgend_;
     while (van < tot) {
         const int midden = van + (tot - van) / 2;
-        if (keyVan(midden) < key)
+        if (Key(midden) < key)
             van = midden + 1;
         else
             tot = midden;
     }
-    if (van > rijen_ || keyVan(van) != key)
-        return 0;
-    laatste_ = van;
-    return van;
+    return Key(van) == key ? van : 0;
 }
 
-void Sleutelwijzer::VulVakken()
+void Sleutelwijzer::VulVakken() const
 {
     const auto aantal = std::bit_ceil(2 * static_cast<std::size_t>(rijen_) + 1);
     ReserveerGroot(vakken_, aantal);
     vakken_.resize(aantal);
     for (int rij = 1; rij <= rijen_; ++rij) {
-        const Tekstblik key = tabel_.Cel(rij, Kolom::Key);
+        const Tekstblik key = Key(rij);
         const std::uint64_t merk = Merk(key);
         Vak& vak = vakken_[Plek(key, merk)];
         if (vak.rij == 0)
@@ -96,7 +99,7 @@ std::size_t Sleutelwijzer::Plek(Tekstblik key, std::uint64_t merk) const
     std::size_t plek = Hash(merk) & masker;
     for (; vakken_[plek].rij != 0; plek = (plek + 1) & masker) {
         const Vak& vak = vakken_[plek];
-        if (vak.merk == merk && ((merk & lang) == 0 || tabel_.Cel(vak.rij, Kolom::Key) == key))
+        if (vak.merk == merk && ((merk & lang) == 0 || Key(vak.rij) == key))
             break;
     }
     return plek;

@@ -10,7 +10,8 @@ namespace plexoran {
 /// and other cells may change.
 ///
 /// A register gives out its keys by rising number, and as a rule its rows still stand in that
-/// order: then the table itself is searched and no index is made.
+/// order: then the table itself is searched, as far as its keys were seen to rise, and no index is
+/// made. Who asks for many keys from the top down reads the table once.
 class Sleutelwijzer {
   public:
     explicit Sleutelwijzer(const Spelertabel& tabel);
@@ -25,14 +26,17 @@ class Sleutelwijzer {
         int rij = 0;            ///< 0 is free
     };
 
-    void VulVakken();
-    [[nodiscard]] int ZoekOpVolgorde(Tekstblik key) const;
+    void VulVakken() const;
+    [[nodiscard]] Tekstblik Key(int rij) const { return tabel_.Cel(rij, Kolom::Key); }
+    [[nodiscard]] bool StijgtVerder() const;
+    [[nodiscard]] int ZoekInStijgende(Tekstblik key) const;
     [[nodiscard]] std::size_t Plek(Tekstblik key, std::uint64_t merk) const;
 
     const Spelertabel& tabel_;
-    int rijen_;               ///< of the table when the index was made
-    mutable int laatste_ = 0; ///< the row found last; the next key often is that of the next row
-    std::vector<Vak> vakken_; ///< a power of two, at least half of them free; none while keys rise
+    int rijen_;                ///< of the table when the index was made
+    mutable int stijgend_ = 0; ///< the keys of so many rows were seen to rise, by their bytes
+    /// A power of two, at least half of them free; none while keys rise.
+    mutable std::vector<Vak> vakken_;
 };
 
 } // namespace plexoran

@@ -139,12 +139,12 @@ void Spelertabel::Verwijder(std::span<const int> rijen)
 
     std::size_t over = 0;
     for (std::size_t i = 0; i < rijen_.size(); ++i) {
-        if (!weg[i])
-            rijen_[over++] = rijen_[i];
+        if (weg[i])
+            continue;
+        rijen_[over++] = rijen_[i];
+        ZetNr(static_cast<int>(over));
     }
     rijen_.KortIn(over);
-    for (int rij = 1; rij <= Rijen(); ++rij)
-        ZetNr(rij);
 }
 
 /// Gives a row its position as `Nr`: at the end of the old number's bytes where it fits in them.
