@@ -16,6 +16,7 @@
 #endif
 
 #include "hulp/proefsuite.h"
+#include "platform/grootgeheugen.h"
 
 namespace plexoran {
 
@@ -36,11 +37,15 @@ inline void Groottes(benchmark::internal::Benchmark* meting)
 
 /// Fills the processor's caches with something else. A person gives a command every some seconds,
 /// and by then other programs have had the caches: so every measurement starts there, and a small
-/// register has no advantage that it would not have in use.
+/// register has no advantage that it would not have in use. What was filled for it is
+/// given back, so that the memory which is handed out next is there: on a virtual machine the first
+/// touch may have to wait for the host, and that takes longer than all that is measured.
 inline void LeegCaches()
 {
     constexpr std::size_t bytes = std::size_t{256} * 1024 * 1024; // far more than caches hold
-    static std::vector<char> vulling(bytes);
+    std::vector<char> vulling;
+    ReserveerGroot(vulling, bytes);
+    vulling.resize(bytes);
     constexpr std::size_t lijn = 64;
     for (std::size_t i = 0; i < bytes; i += lijn)
         ++vulling[i];
