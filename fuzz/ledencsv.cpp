@@ -45,14 +45,14 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
     const Telling telling = Tel(inhoud, alles->teKorteRegel);
     Eis(alles->lstN1.size() == telling.gewoon, "elke regel is een lid");
     Eis(alles->metIsTeken.size() == telling.metIsTeken, "elke kopregel is genoemd");
-    for (const Tekst& regel : alles->lstN1)
+    for (const Tekstblik regel : alles->lstN1)
         Eis(std::count(regel.begin(), regel.end(), ',') >= Kommas, "elf velden");
 
     const auto kaal =
         LeesLedencsv(inhoud, {.naw = false, .tel = false, .email = false, .mv = false});
     Eis(kaal.has_value() && kaal->lstN1.size() >= alles->lstN1.size(), "minder kolommen nodig");
     for (std::size_t i = 0; i < alles->lstN1.size(); ++i) {
-        const Tekst& regel = kaal->lstN1[i];
+        const Tekstblik regel = kaal->lstN1[i];
         const bool gelijk =
             std::count(regel.begin(), regel.end(), ',') != Kommas ||
             SplitsImportregel(regel)[10] == Tekstblik(regel).substr(regel.rfind(',') + 1);
