@@ -85,8 +85,8 @@ void diaKopieer::Bouw()
 
 void diaKopieer::Verbind()
 {
-    connect(cmbUitGroep, &QComboBox::currentIndexChanged, this, &diaKopieer::KiesBron);
-    // Also when the value that is shown is picked again.
+    // Also when what is shown is picked again.
+    connect(cmbUitGroep, &QComboBox::activated, this, &diaKopieer::KiesBron);
     connect(cmbNBBgr, &QComboBox::activated, this, &diaKopieer::KiesWaarde);
     for (QPushButton* knop : {keus_->cmdSelAll, keus_->cmdSelNone})
         connect(knop, &QPushButton::clicked, this, [this] { keus_->lstKeus->ZetHuidige(0); });

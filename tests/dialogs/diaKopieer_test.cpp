@@ -18,17 +18,18 @@ using Teksten_t = std::vector<std::string>;
 
 class diaKopieerTest : public Groepsproef<diaKopieer> {
   protected:
-    /// As a user does with the mouse: open the list and click an entry.
-    void KiesWaarde(int plaats) const
+    /// As a user does: open the list and choose an entry.
+    void Kies(const char* naam, int plaats) const
     {
-        auto* keus = Keus("cmbNBBgr");
+        auto* keus = Keus(naam);
         keus->showPopup();
         QApplication::processEvents();
         keus->view()->setCurrentIndex(keus->model()->index(plaats, 0));
         QTest::keyClick(keus->view(), Qt::Key_Return);
         QApplication::processEvents();
     }
-    void KiesBron(int nummer) const { Keus("cmbUitGroep")->setCurrentIndex(nummer - 1); }
+    void KiesWaarde(int plaats) const { Kies("cmbNBBgr", plaats); }
+    void KiesBron(int nummer) const { Kies("cmbUitGroep", nummer - 1); }
     [[nodiscard]] QCheckBox* Vink(const char* naam) const { return Deel<QCheckBox>(naam); }
 
     static Bericht Kopieervraag(const QString& bron, const QString& doel, const QString& antwoord)
@@ -100,6 +101,14 @@ TEST_F(diaKopieerTest, DeEersteRegelIsGekozenEnDeRestNiet)
                          "Gr05-\tGans   Fred   (MAANDAG)" + spaties60 + "100006"}),
               Regels());
     EXPECT_EQ((Teksten_t{"DINSDAG", "MAANDAG"}), Teksten("cmbNBBgr"));
+    EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
+}
+
+TEST_F(diaKopieerTest, DezelfdeGroepNogEensKiezenBegintOpnieuw)
+{
+    Klik(Knop("cmdSelAll"));
+    ASSERT_EQ(3U, Lijst()->GekozenPlaatsen().size());
+    KiesBron(1); // the group that is shown already
     EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
 }
 

@@ -436,7 +436,10 @@ TEST_F(LijstenTest, KopierenVraagtEnMeldtEnSlaatOp)
     const auto oud = RegelsVan(suite.Spelers());
     KiesGroep(7);
     wachter.Bedien([this](QDialog& dialoog) {
-        Vind<QComboBox>(dialoog, "cmbUitGroep")->setCurrentIndex(2);
+        auto* bron = Vind<QComboBox>(dialoog, "cmbUitGroep");
+        bron->setFocus();
+        QTest::keyClick(bron, Qt::Key_Down);
+        QTest::keyClick(bron, Qt::Key_Down);
         KiesRegels(dialoog, {1});
         Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(6);
         Klik(Vind<QPushButton>(dialoog, "cmdOK"));
