@@ -262,7 +262,7 @@ Uitkomst<void> Koppelverslag::ZetTerug()
         return {};
     if (oud_)
         return SchrijfHeel(schijf_, pad_, *oud_);
-    const auto weg = schijf_.Verwijder(pad_);
+    auto weg = schijf_.Verwijder(pad_);
     if (!weg && weg.error().soort == Foutsoort::Ontbreekt)
         return {};
     return weg;

@@ -87,7 +87,7 @@ void Controlevlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 // ---------------------------------------------------------------- the dialog
 
 diaControleNBB::diaControleNBB(Administratie& administratie, const Ledenopdracht& opdracht,
-                               std::vector<Tekst> namen, QWidget* ouder)
+                               const std::vector<Tekst>& namen, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
 {
     Bouw();
@@ -209,8 +209,9 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
                            .arg(bestand)
                            .arg(lezing.metIsTeken.size());
     if (lezing.vervangenTekens > 0)
-        opmerkingen << QStringLiteral("'%1': aantal tekens dat het register niet kent en dat is "
-                                      "vervangen door een teken dat erop lijkt of door '?': %2.")
+        opmerkingen << QStringLiteral(
+                           "'%1': aantal tekens dat het register niet kent en dat is "
+                           "vervangen door een teken dat erop lijkt, of is weggelaten: %2.")
                            .arg(bestand)
                            .arg(lezing.vervangenTekens);
 }

@@ -48,7 +48,7 @@ class diaControleNBB : public QDialog {
   public:
     /// Reads the member files, which may take a while and may show boxes of errors.
     diaControleNBB(Administratie& administratie, const Ledenopdracht& opdracht,
-                   std::vector<Tekst> namen, QWidget* ouder);
+                   const std::vector<Tekst>& namen, QWidget* ouder);
 
   protected:
     void resizeEvent(QResizeEvent* gebeurtenis) override;

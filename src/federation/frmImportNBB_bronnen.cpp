@@ -149,9 +149,9 @@ void frmImportNBB::KiesBron(Ledenbron bron)
 Pad frmImportNBB::Beginmap() const
 {
     const auto eerder = geheugen_.mappen.find(bron_.value_or(Ledenbron::Csv));
-    const Pad map = eerder != geheugen_.mappen.end()       ? eerder->second
-                    : administratie_.mappen.WINMAP.empty() ? Pad()
-                                                           : administratie_.mappen.Ledenmap();
+    Pad map = eerder != geheugen_.mappen.end()       ? eerder->second
+              : administratie_.mappen.WINMAP.empty() ? Pad()
+                                                     : administratie_.mappen.Ledenmap();
     if (map.empty() || administratie_.schijf.Soort(map) != Padsoort::Map)
         return {};
     return map;

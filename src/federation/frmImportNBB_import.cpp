@@ -177,9 +177,13 @@ frmImportNBB::Verloop frmImportNBB::ImporteerEenBestand(const Tekst& naam, Leden
         return Verloop::Verder;
     const Samenvoegopdracht opdracht{
         .importgroep = importgroep, .subgroep = subgroep, .lstN1 = std::move(lezing.lstN1)};
-    const auto uitkomst = VoegLedenSamen(
-        administratie_.spelers, opdracht,
-        MaakVoortgang(QStringLiteral("'%1' wordt geïmporteerd ...").arg(NaarQString(naam))));
+    const Voortgang voortgang =
+        MaakVoortgang(QStringLiteral("'%1' wordt geïmporteerd ...").arg(NaarQString(naam)));
+    if (gestopt_) { // while its caption was shown
+        MeldAfgebroken(naam, Samenvoegfout::Gestopt);
+        return Verloop::Afgebroken;
+    }
+    const auto uitkomst = VoegLedenSamen(administratie_.spelers, opdracht, voortgang);
     if (!uitkomst) {
         MeldAfgebroken(naam, uitkomst.error());
         return Verloop::Afgebroken;
@@ -218,7 +222,7 @@ void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
                      Toonbaar(lezing.metIsTeken);
     if (lezing.vervangenTekens > 0)
         delen << QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
-                                "door een teken dat erop lijkt of door '?': %1\r\n")
+                                "door een teken dat erop lijkt, of is weggelaten: %1\r\n")
                      .arg(lezing.vervangenTekens);
     if (!delen.isEmpty())
         MeldLijst(this, QMessageBox::Information,
@@ -233,6 +237,12 @@ void frmImportNBB::MeldAfgebroken(const Tekst& naam, Samenvoegfout fout)
         Meld(this, QMessageBox::Information,
              QStringLiteral("Het importeren is gestopt. Uit '%1' is niets geïmporteerd; wat eerder "
                             "is geïmporteerd, blijft.")
+                 .arg(NaarQString(naam)));
+    else if (fout == Samenvoegfout::TeGroot)
+        Meld(this, QMessageBox::Critical,
+             QStringLiteral(
+                 "Uit '%1' is niets geïmporteerd: wat er als NBB-nummer staat, is te lang "
+                 "om nummers te kunnen zijn.")
                  .arg(NaarQString(naam)));
     else
         Meld(this, QMessageBox::Critical,

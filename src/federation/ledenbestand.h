@@ -44,7 +44,7 @@ struct Ledenlezing {
 /// three characters are the number of the file that is read. All sources but the CSV go by way of
 /// the intermediate file, which is left on the disk. On an error nothing is imported: for XML and
 /// CSV it is `Beschadigd` when the file was read but is not what it should be, with the line and
-/// what the parser said. The answer of `voortgang` is not looked at, except by the database reader.
+/// what the parser said. The answer of `voortgang` is not looked at.
 [[nodiscard]] Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdracht,
                                                      Tekstblik naam,
                                                      const Voortgang& voortgang = {});

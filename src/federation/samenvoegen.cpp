@@ -31,6 +31,28 @@ Tekstblik Veld(const Importvelden& velden, Importveld veld)
     return velden[static_cast<std::size_t>(veld)];
 }
 
+/// The number of every line, without outer blanks.
+std::vector<Tekstblik> Nummers(const Tekstlijst& lstN1)
+{
+    std::vector<Tekstblik> nummers;
+    nummers.reserve(lstN1.size());
+    for (const Tekstblik regel : lstN1)
+        nummers.push_back(ZonderSpaties(Veld(SplitsImportregel(regel), Importveld::NBBnr)));
+    return nummers;
+}
+
+/// The index takes some tens of bytes for every character of a long number: of a file that holds
+/// something else there, more than the machine has.
+bool ZijnTeGroot(const std::vector<Tekstblik>& nummers)
+{
+    constexpr std::size_t langste = 64; // many times a number
+    constexpr std::size_t meeste = std::size_t{16} << 20U;
+    std::size_t samen = 0;
+    for (const Tekstblik nummer : nummers)
+        samen += nummer.size() > langste ? nummer.size() : 0;
+    return samen > meeste;
+}
+
 /// The first row of a group with each number, as text. Rows in one block beside their hashes: a
 /// node for each would be somewhere else in memory for every member that is looked up.
 class RijMetNummer {
@@ -86,9 +108,10 @@ class RijMetNummer {
 /// that stopping half-way changes nothing.
 class Samenvoeger {
   public:
-    Samenvoeger(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
+    Samenvoeger(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang,
+                std::vector<Tekstblik> nummers)
         : spelers_(spelers), opdracht_(opdracht), voortgang_(voortgang),
-          nummers_(Nummers(opdracht.lstN1)), vragen_(Vragen(nummers_)), NBBnrIndex_(vragen_),
+          nummers_(std::move(nummers)), vragen_(Vragen(nummers_)), NBBnrIndex_(vragen_),
           eersteRij_(NBBnrIndex_.AantalAntwoorden())
     {
         BouwNBBnrIndex();
@@ -105,8 +128,6 @@ class Samenvoeger {
         int rij;
     };
 
-    /// The number of every line, without outer blanks.
-    static std::vector<Tekstblik> Nummers(const Tekstlijst& lstN1);
     static std::vector<Tekst> Vragen(const std::vector<Tekstblik>& nummers);
 
     void BouwNBBnrIndex();
@@ -124,8 +145,8 @@ class Samenvoeger {
     Register& spelers_;
     const Samenvoegopdracht& opdracht_;
     const Voortgang& voortgang_;
-    std::vector<Tekstblik> nummers_;
-    std::vector<Tekst> vragen_; ///< the numbers as the index writes them
+    std::vector<Tekstblik> nummers_; ///< of every line, without outer blanks
+    std::vector<Tekst> vragen_;      ///< the numbers as the index writes them
     Tekst NBBgr_ = Hoofdletters(opdracht_.subgroep);
     NBBnrIndex NBBnrIndex_;
     std::vector<int> eersteRij_; ///< per answer of the index, of the group; 0: none, or not known
@@ -134,15 +155,6 @@ class Samenvoeger {
     std::vector<std::size_t> lstN2_; ///< places in lstN1 of what is to be added
     std::size_t gedaan_ = 0;
 };
-
-std::vector<Tekstblik> Samenvoeger::Nummers(const Tekstlijst& lstN1)
-{
-    std::vector<Tekstblik> nummers;
-    nummers.reserve(lstN1.size());
-    for (const Tekstblik regel : lstN1)
-        nummers.push_back(ZonderSpaties(Veld(SplitsImportregel(regel), Importveld::NBBnr)));
-    return nummers;
-}
 
 std::vector<Tekst> Samenvoeger::Vragen(const std::vector<Tekstblik>& nummers)
 {
@@ -284,7 +296,10 @@ void Samenvoeger::VoegLidToe(const Importvelden& velden)
 tl::expected<Samenvoeging, Samenvoegfout>
 VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
 {
-    Samenvoeger samenvoeger(spelers, opdracht, voortgang);
+    auto nummers = Nummers(opdracht.lstN1);
+    if (ZijnTeGroot(nummers))
+        return tl::unexpected(Samenvoegfout::TeGroot);
+    Samenvoeger samenvoeger(spelers, opdracht, voortgang, std::move(nummers));
     if (const auto fout = samenvoeger.Beslis())
         return tl::unexpected(*fout);
     samenvoeger.Voer();

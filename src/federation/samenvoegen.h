@@ -30,6 +30,7 @@ struct Samenvoeging {
 };
 
 enum class Samenvoegfout {
+    TeGroot,      ///< what stands as numbers is too long to look for
     GeenSleutels, ///< the register keys have run out
     Gestopt,      ///< the user stopped it
 };

@@ -107,7 +107,7 @@ Uitkomst<void> frmToelichting::PrintTekst() const
     bool eerste = true;
     for (const auto& regels : Tekstbladen(tekst, (*taak)->Vlak().Meter())) {
         if (!eerste) {
-            if (const auto blad = (*taak)->NieuwBlad(); !blad)
+            if (auto blad = (*taak)->NieuwBlad(); !blad)
                 return blad;
         }
         eerste = false;

@@ -224,7 +224,7 @@ Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)
         return Mislukt(map, std::errc::file_exists);
     if (!IsMap(boven))
         return Mislukt(map, std::errc::no_such_file_or_directory);
-    if (const auto mag = MagInMapVan(sleutel, map); !mag)
+    if (auto mag = MagInMapVan(sleutel, map); !mag)
         return mag;
     ZetMap(map);
     return {};
@@ -266,7 +266,7 @@ Uitkomst<void> GeheugenSchijf::Hernoem(const Pad& van, const Pad& naar)
     if (IsMap(sleutel))
         return Mislukt(naar, std::errc::is_a_directory);
     for (const Tekst& plaats : {Sleutel(van), sleutel}) {
-        if (const auto mag = MagInMapVan(plaats, naar); !mag)
+        if (auto mag = MagInMapVan(plaats, naar); !mag)
             return mag;
     }
     if (sleutel == Sleutel(van))
@@ -281,7 +281,7 @@ Uitkomst<void> GeheugenSchijf::Verwijder(const Pad& pad)
 {
     if (const auto knoop = Vind(pad); !knoop)
         return tl::unexpected(knoop.error());
-    if (const auto mag = MagInMapVan(Sleutel(pad), pad); !mag)
+    if (auto mag = MagInMapVan(Sleutel(pad), pad); !mag)
         return mag;
     namen_.erase(Sleutel(pad));
     return {};

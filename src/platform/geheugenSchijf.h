@@ -19,6 +19,7 @@ class GeheugenSchijf : public Schijf {
     GeheugenSchijf() = default;
     GeheugenSchijf(const GeheugenSchijf&) = delete;
     GeheugenSchijf& operator=(const GeheugenSchijf&) = delete;
+    ~GeheugenSchijf() override = default;
 
     /// Puts a file there with its folders, as if it had been on the device for long.
     void Zet(const Pad& pad, Tekstblik inhoud);

@@ -20,6 +20,7 @@ void VraagGrotePaginas(const void* begin, std::size_t bytes)
     const auto van = (eerste + pagina - 1) / pagina * pagina;
     const auto tot = (eerste + bytes) / pagina * pagina;
     // A refusal changes nothing but the time.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the address of a page is a rounded one
     (void)::madvise(reinterpret_cast<void*>(van), tot - van, MADV_HUGEPAGE);
 }
 

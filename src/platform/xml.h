@@ -60,6 +60,8 @@ class Xmldocument {
     [[nodiscard]] static Uitkomst<Xmldocument> Ontleed(Tekstblik bytes, const std::string& bestand,
                                                        std::size_t meesteGeheugen = 512U << 20U);
 
+    Xmldocument(const Xmldocument&) = delete;
+    Xmldocument& operator=(const Xmldocument&) = delete;
     Xmldocument(Xmldocument&&) noexcept;
     Xmldocument& operator=(Xmldocument&&) noexcept;
     ~Xmldocument();

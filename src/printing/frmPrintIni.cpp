@@ -26,9 +26,9 @@ Kolom PrintkolomOp(int plaats)
 
 frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
                          const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder,
-                         QLocale getallen)
+                         const QLocale& getallen)
     : QDialog(ouder), administratie_(administratie), groeptekst_(std::move(groeptekst)),
-      kolomnamen_(kolomnamen), getallen_(std::move(getallen)),
+      kolomnamen_(kolomnamen), getallen_(getallen),
       subgroepen_(Printsubgroepen(administratie.spelers.tabel, CodeUit(groeptekst_)))
 {
     MaakDelen();

@@ -25,7 +25,7 @@ class frmPrintIni : public QDialog {
     /// the scales are written as `getallen` has it.
     frmPrintIni(Administratie& administratie, Tekst groeptekst,
                 const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder,
-                QLocale getallen = Getalnotatie());
+                const QLocale& getallen = Getalnotatie());
 
   private:
     void MaakDelen();

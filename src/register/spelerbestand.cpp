@@ -53,7 +53,7 @@ template <class Neem> Uitkomst<void> InStukken(const Register& spelers, Neem nee
 
 Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers)
 {
-    const auto uitkomst = SchrijfHeel(schijf, pad, [&](Schrijver& schrijver) {
+    auto uitkomst = SchrijfHeel(schijf, pad, [&](Schrijver& schrijver) {
         return InStukken(spelers, [&](Tekstblik stuk) { return schrijver.Schrijf(stuk); });
     });
     // The last step can fail when the new file is already in place; it is not someone else's then.
@@ -69,7 +69,7 @@ Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers
 
 Uitkomst<void> MaakSpelerbestand(Schijf& schijf, const Mappen& mappen, Register& spelers)
 {
-    const auto map = schijf.MaakMap(mappen.SPEMAP);
+    auto map = schijf.MaakMap(mappen.SPEMAP);
     if (!map)
         return map;
     const Pad pad = mappen.Spelerbestand();

@@ -181,7 +181,7 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
         "(teken 12 van die regel).\r\n'Weg.xml': geen leden, want het bestand is er niet "
         "(meer).\r\n'Heel.xml': aantal tekens dat het register niet kent en "
         "dat "
-        "is vervangen door een teken dat erop lijkt of door '?': 1."));
+        "is vervangen door een teken dat erop lijkt, of is weggelaten: 1."));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Weg.xml", "Heel.xml"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 7 Heel Szo,", Geschilderd());
 }
@@ -195,7 +195,7 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
         "Bij het lezen van de ledenbestanden:\r\n\r\n'Jeugd 1012': dit zijn de leden van het "
         "ledenbestand met nummer 12, want van het nummer tellen alleen de laatste drie tekens."
         "\r\n'Jeugd 1012': aantal tekens dat het register niet kent en dat is vervangen door een "
-        "teken dat erop lijkt of door '?': 1."));
+        "teken dat erop lijkt, of is weggelaten: 1."));
     ASSERT_NO_FATAL_FAILURE(Open({"Jeugd 1012"}));
     EXPECT_EQ("Aantal leden: 6", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
 }

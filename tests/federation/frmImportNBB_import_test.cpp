@@ -133,7 +133,7 @@ TEST_F(ImporterenTest, UitXmlVanNbbr4MetVervangenLetters)
     VerwachtAantallen(3, 3);
     VerwachtLos(QStringLiteral("Zomer 20260901.xml"),
                 QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
-                               "door een teken dat erop lijkt of door '?': 2\r\n"));
+                               "door een teken dat erop lijkt, of is weggelaten: 2\r\n"));
     Importeer();
     EXPECT_EQ("HKEY=100176", Sleutelregel());
     EXPECT_NE(std::string::npos, suite.Spelers().find("Gyongyi,,Dvor\xE1kova"));
@@ -151,7 +151,7 @@ TEST_F(ImporterenTest, UitDeDatabase)
     VerwachtAantallen(0, 5);
     VerwachtLos(QStringLiteral("Cursus 012"),
                 QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
-                               "door een teken dat erop lijkt of door '?': 1\r\n"));
+                               "door een teken dat erop lijkt, of is weggelaten: 1\r\n"));
     // One of them has a comma in a name, which shifts the fields: no surname is left.
     wachter.Verwacht({.tekst = QStringLiteral("Spelers zonder achternaam zijn niet ingelezen "
                                               "(aantal: 1, op regel 150 van het spelerbestand)."),

@@ -68,6 +68,18 @@ TEST(NBBnrIndex, KorteEnVreemdeTekstenEnTweemaalDezelfdeVraag)
     EXPECT_EQ((Rij{true}), Antwoorden({}, {""}));
 }
 
+TEST(NBBnrIndex, GeeftHetAntwoordVanGelijkeVragen)
+{
+    NBBnrIndex gewoon({"00000005", "00000005", "00000006"});
+    EXPECT_EQ(gewoon.Antwoord(0), gewoon.Antwoord(1));
+    EXPECT_NE(gewoon.Antwoord(0), gewoon.Antwoord(2));
+    EXPECT_EQ(gewoon.Voeg("00000005"), gewoon.Antwoord(0));
+    EXPECT_EQ(gewoon.Voeg("00000007"), NBBnrIndex::Geen);
+    NBBnrIndex vreemd({"00000005", "gast"});
+    EXPECT_EQ(vreemd.Voeg("00000005"), NBBnrIndex::Geen);
+    EXPECT_TRUE(vreemd.Bevat(0));
+}
+
 /// The index in the plain way: one text, searched from its beginning every time.
 TEST(NBBnrIndex, AntwoordtAlsDeAaneengeregenTekst)
 {

@@ -141,6 +141,28 @@ TEST(VoegLedenSamen, EenAndersGeschrevenNummerValtErtussenuit)
     EXPECT_EQ(oud, AlleRijen(spelers.tabel));
 }
 
+TEST(VoegLedenSamen, DeRijDieLetterlijkGelijkIsOokAchterEenAndersGeschrevene)
+{
+    Register spelers;
+    spelers.tabel = MaakTabel({{.groep = "Gr05-", .achternaam = "Een", .nbbnr = "005"},
+                               {.groep = "Gr05-", .achternaam = "Twee", .nbbnr = "5"}});
+    EXPECT_EQ(1U, Voeg(spelers, {"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
+    EXPECT_EQ("Een", spelers.tabel.Cel(1, Kolom::Achternaam));
+    EXPECT_EQ("Nieuw", spelers.tabel.Cel(2, Kolom::Achternaam));
+}
+
+TEST(VoegLedenSamen, WatTeLangIsOmNummersTeZijnVerandertNiets)
+{
+    Register spelers = DrieSpelers();
+    Tekstlijst regels{"An,,Bos,,,,,,,,12345"};
+    for (int i = 0; i < 17; ++i)
+        regels.VoegToe("Bo,,Ek,,,,,,,," + Tekst(std::size_t{1} << 20U, 'x'));
+    const auto uitkomst = VoegLedenSamen(spelers, {"Gr05-", "Club", regels});
+    ASSERT_FALSE(uitkomst);
+    EXPECT_EQ(Samenvoegfout::TeGroot, uitkomst.error());
+    EXPECT_EQ(SpelersTekst(DrieSpelers()), SpelersTekst(spelers));
+}
+
 /// Meant: a number of nine or more digits hides the numbers within its digits.
 TEST(VoegLedenSamen, EenLangNummerVerbergtEenAnder)
 {
@@ -356,9 +378,16 @@ void VoegPlatSamen(Platte& spelers, std::vector<Tekst> lstN1, const Tekst& groep
     }
 }
 
-Tekst ToevalligNummer(std::mt19937& toeval)
+/// Of few digits, which are equal as numbers sooner than as texts, or of anything.
+Tekst ToevalligNummer(std::mt19937& toeval, bool gewoon)
 {
     static const Tekst alfabet = "1123-a 0";
+    if (gewoon) {
+        Tekst nummer(Gooi(toeval, 4), ' ');
+        for (char& teken : nummer)
+            teken = "01 "[Gooi(toeval, 3)];
+        return nummer;
+    }
     Tekst nummer(Gooi(toeval, 3) == 0 ? Gooi(toeval, 13) : Gooi(toeval, 4), ' ');
     for (char& teken : nummer)
         teken = alfabet[Gooi(toeval, Gooi(toeval, 3) == 0 ? alfabet.size() : 3)];
@@ -372,21 +401,23 @@ TEST(VoegLedenSamen, DoetHetzelfdeAlsDePlatteStappen)
     std::size_t nieuw = 0;
     std::size_t overgeslagen = 0;
     for (int keer = 0; keer < 6000; ++keer) {
+        const bool gewoon = keer % 2 == 0;
         std::vector<Proefspeler> begin(Gooi(toeval, 9));
         for (Proefspeler& speler : begin)
             speler = {.key = "100001",
                       .groep = Trek(toeval, {"Gr05-", "Gr05-", "Gr01-"}),
                       .achternaam = "Oud",
-                      .nbbnr = ToevalligNummer(toeval)};
+                      .nbbnr = ToevalligNummer(toeval, gewoon)};
         Register spelers;
         spelers.HKEY = 100042;
         spelers.tabel = MaakTabel(begin);
         Platte plat{.rijen = AlleRijen(spelers.tabel), .HKEY = 100042};
         Teksten regels;
         for (std::size_t over = Gooi(toeval, 12); over > 0; --over)
-            regels.VoegToe(Trek(toeval, {"a", " b "}) + "," + Trek(toeval, {"", "de", "x,y"}) +
-                           ",Nieuw," + Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
-                           ToevalligNummer(toeval));
+            regels.VoegToe(Trek(toeval, {"a", " b "}) + "," +
+                           Trek(toeval, {"", "de", gewoon ? "van" : "x,y"}) + ",Nieuw," +
+                           Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
+                           ToevalligNummer(toeval, gewoon));
         const Samenvoeging uitkomst = Voeg(spelers, regels);
         VoegPlatSamen(plat, {regels.begin(), regels.end()}, "Gr05-", "Club");
         ASSERT_EQ(plat.rijen, AlleRijen(spelers.tabel));

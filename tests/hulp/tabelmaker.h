@@ -4,7 +4,7 @@
 #include <random>
 #include <vector>
 
-#include "register/spelertabel.h"
+#include "register/spelerbestand.h"
 
 namespace plexoran {
 
@@ -58,7 +58,8 @@ inline Tekst Trek(std::mt19937& toeval, const std::vector<Tekst>& uit)
 }
 
 /// At most a dozen players, with much in common: keys that occur twice, are short or long, names
-/// and subgroups that differ in case, blanks or the field they stand in.
+/// and subgroups that differ in case, blanks or the field they stand in. The first ones were read
+/// from a file, perhaps without an end of its last line, the others added.
 inline Spelertabel ToevalligeTabel(std::mt19937& toeval)
 {
     std::vector<Proefspeler> spelers(Gooi(toeval, 13));
@@ -70,7 +71,19 @@ inline Spelertabel ToevalligeTabel(std::mt19937& toeval)
                   .achternaam = Trek(toeval, {"c", "bc", "abc", "C"}),
                   .nbbgr = Trek(toeval, {"", "", " ", "x", " x", "X", "geen", "Geen", "x#y", "y"}),
                   .nbbnr = Trek(toeval, {"", " ", "7", "12345", "00100000"})};
-    return MaakTabel(spelers);
+    const Spelertabel bron = MaakTabel(spelers);
+    const auto uitBestand = static_cast<int>(Gooi(toeval, spelers.size() + 1));
+    Tekst inhoud;
+    for (int rij = 1; rij <= uitBestand; ++rij) {
+        inhoud += std::to_string(rij) + ",";
+        bron.VoegCellenAan(inhoud, rij);
+        if (rij < uitBestand || Gooi(toeval, 2) == 0)
+            inhoud += "\r\n";
+    }
+    Spelertabel tabel = SpelersUit(std::move(inhoud)).tabel.value();
+    for (int rij = uitBestand + 1; rij <= bron.Rijen(); ++rij)
+        tabel.VoegToe(bron.Velden(rij));
+    return tabel;
 }
 
 } // namespace plexoran

@@ -253,6 +253,23 @@ TEST(Spelertabel, VoegToeAchterEenLaatsteRegelZonderEinde)
     EXPECT_EQ(tabel.Cel(2, Kolom::NBBnr), "x18");
 }
 
+/// The empty cell begins where the file ends.
+TEST(Spelertabel, EenLegeLaatsteCelZonderRegeleinde)
+{
+    Spelertabel tabel = Tabel("1,100001,Gr01-,An,,Bos,,,,,,,,,,,A,");
+    tabel.VoegToe(Genummerd('x'));
+    tabel.VoegKopieToe(1, std::vector<Celtekst>{{Kolom::NBBgr, "BB"}});
+    EXPECT_EQ(tabel.Cel(1, Kolom::NBBnr), "");
+    EXPECT_EQ(Cellen(tabel, 1), "100001,Gr01-,An,,Bos,,,,,,,,,,,A,");
+    EXPECT_EQ(Cellen(tabel, 3), "100001,Gr01-,An,,Bos,,,,,,,,,,,BB,");
+    tabel.ZetCel(1, Kolom::NBBnr, "");
+    EXPECT_EQ(tabel.Velden(2), Genummerd('x'));
+    tabel.ZetCel(1, Kolom::NBBnr, "x");
+    EXPECT_EQ(Cellen(tabel, 1), "100001,Gr01-,An,,Bos,,,,,,,,,,,A,x");
+    tabel.Verwijder(std::vector<int>{2});
+    EXPECT_EQ(Cellen(tabel, 2), "100001,Gr01-,An,,Bos,,,,,,,,,,,BB,");
+}
+
 TEST(Spelertabel, VeldenGeeftDeRij)
 {
     Spelertabel tabel;

@@ -28,8 +28,7 @@ class Zoekmodel : public Regelmodel {
         const Tekst gezocht = NaarTekst(getypt.toString());
         Tekst gewichten = Sorteersleutel(gezocht);
         gewichten.resize(gewichten.find('\0'));
-        const auto lengte =
-            static_cast<qsizetype>(2 * gezocht.size()); // one letter can count as two
+        const auto lengte = 2 * getypt.toString().size(); // one letter can count as two
         const auto begint = [&](const QString& regel, qsizetype plek) {
             return Sorteersleutel(NaarTekst(regel.mid(plek, lengte))).starts_with(gewichten);
         };

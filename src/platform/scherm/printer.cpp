@@ -82,11 +82,11 @@ std::vector<int> Bladkeus::Bladen(int totaal, int huidig) const
 }
 
 Printer::Printer(std::shared_ptr<QPrinter> printer, Bladkeus keus)
-    : printer_(std::move(printer)), keus_(std::move(keus))
+    : printer_(std::move(printer)), keus_(keus)
 {}
 
 Printer::Printer(Schijf& schijf, Pad bestand, Bladkeus keus)
-    : schijf_(&schijf), bestand_(std::move(bestand)), keus_(std::move(keus))
+    : schijf_(&schijf), bestand_(std::move(bestand)), keus_(keus)
 {}
 
 Uitkomst<std::unique_ptr<Printtaak>> Printer::Begin(Papierstand stand, const QString& titel) const
@@ -121,10 +121,9 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWid
     if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
         keus.exemplaren = std::max(1, printer->copyCount());
         keus.perExemplaar = printer->collateCopies();
-        return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()),
-                       std::move(keus));
+        return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()), keus);
     }
-    return Printer(std::move(printer), std::move(keus));
+    return Printer(std::move(printer), keus);
 }
 
 void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,

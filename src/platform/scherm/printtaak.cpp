@@ -66,7 +66,7 @@ class PdfTaak : public Printtaak {
                                                Schildervlak::Doel::Papier);
     }
 
-    ~PdfTaak() override { BreekAf(); }
+    ~PdfTaak() override { PdfTaak::BreekAf(); }
     PdfTaak(const PdfTaak&) = delete;
     PdfTaak& operator=(const PdfTaak&) = delete;
     PdfTaak(PdfTaak&&) = delete;
@@ -108,7 +108,7 @@ class PdfTaak : public Printtaak {
 class Printertaak : public Printtaak {
   public:
     explicit Printertaak(std::shared_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
-    ~Printertaak() override { BreekAf(); }
+    ~Printertaak() override { Printertaak::BreekAf(); }
     Printertaak(const Printertaak&) = delete;
     Printertaak& operator=(const Printertaak&) = delete;
     Printertaak(Printertaak&&) = delete;
