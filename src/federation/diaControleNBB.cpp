@@ -153,7 +153,9 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
     QStringList opmerkingen;
     {
         frmVoortgang voortgang(QString(), QStringLiteral("&Stoppen"), parentWidget());
-        for (std::size_t i = 0; i < namen.size() && !voortgang.Gestopt(); ++i) {
+        std::size_t gelezen = 0;
+        while (gelezen < namen.size() && !voortgang.Gestopt()) {
+            const std::size_t i = gelezen++; // is read to its end, also when the user stops
             voortgang.ZetTekst(
                 QStringLiteral("Ledenbestand wordt gelezen: %1").arg(NaarQString(namen[i])));
             const auto melder = [&](std::size_t gedaan, std::size_t geheel) {
@@ -165,7 +167,7 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
             const auto lezing = LeesLedenbestand(administratie_.schijf, opdracht, namen[i], melder);
             if (lezing) {
                 Voeg(*lezing, namen[i], opmerkingen);
-            } else if (!voortgang.Gestopt()) {
+            } else {
                 voortgang.hide();
                 Meld(parentWidget(), QMessageBox::Warning,
                      Leesfouttekst(opdracht.bron, namen[i], lezing.error(), Leesdoel::Overzicht));
@@ -174,7 +176,7 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
                     break;
             }
         }
-        if (voortgang.Gestopt())
+        if (voortgang.Gestopt() && gelezen < namen.size())
             opmerkingen << QStringLiteral("Het lezen is gestopt: de lijst is niet volledig.");
     }
     MeldOpmerkingen(opmerkingen);

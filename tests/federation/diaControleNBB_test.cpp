@@ -15,6 +15,7 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "hulp/proefstand.h"
+#include "hulp/voortgangstopper.h"
 
 using namespace plexoran;
 
@@ -198,6 +199,35 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
         "teken dat erop lijkt, of is weggelaten: 1."));
     ASSERT_NO_FATAL_FAILURE(Open({"Jeugd 1012"}));
     EXPECT_EQ("Aantal leden: 6", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
+}
+
+/// The file that is being read is read to its end; those after it are not.
+TEST_F(diaControleNBBTest, StoppenLaatDeVolgendeBestandenWeg)
+{
+    const Voortgangstopper stopper(1);
+    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\nHet lezen is "
+                                      "gestopt: de lijst is niet volledig."));
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    EXPECT_EQ("Aantal leden: 3", Label("lblAantal"));
+}
+
+TEST_F(diaControleNBBTest, StoppenBijHetLaatsteBestandLaatNietsWeg)
+{
+    const Voortgangstopper stopper(1);
+    ASSERT_NO_FATAL_FAILURE(Open({"Club 30.csv"}));
+    EXPECT_EQ("Aantal leden: 3", Label("lblAantal"));
+    EXPECT_EQ(1, stopper.Stappen());
+}
+
+TEST_F(diaControleNBBTest, EenLeesfoutWordtOokNaStoppenGemeld)
+{
+    map.Zet("Nul.csv", std::string("a\0b", 3));
+    const Voortgangstopper stopper(1);
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Nul.csv' CSV-bestand\r\n"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Open({"Nul.csv"}));
+    EXPECT_EQ("Aantal leden: 0", Label("lblAantal"));
 }
 
 TEST_F(diaControleNBBTest, ZonderLedenIsErNietsTePrinten)

@@ -66,6 +66,25 @@ TEST_F(PrintenTest, EenLijstVanDeGetoondeGroep)
     EXPECT_EQ(voor, suite.Spelers());
 }
 
+TEST_F(PrintenTest, AlleenDeGekozenSubgroep)
+{
+    ASSERT_NO_FATAL_FAILURE(Start());
+    KiesGroep(1);
+    Print(
+        [](QDialog& keuze) {
+            auto* subgroepen = Vind<Meerkeuzelijst>(keuze, "lstNBBgr");
+            ASSERT_EQ("B-LIJN", subgroepen->Regel(1).toStdString());
+            subgroepen->Kies(1, true);
+        },
+        [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
+    const auto bladen = LeesPdf(Bestand());
+    ASSERT_EQ(1U, bladen.size());
+    EXPECT_NE(std::string::npos, bladen[0].Tekst().find("Subgroep(en): B-LIJN RegNr"));
+    EXPECT_NE(std::string::npos, bladen[0].Tekst().find("Stoffelsen"));  // of B-LIJN
+    EXPECT_EQ(std::string::npos, bladen[0].Tekst().find("Wolthuizen"));  // of A-LIJN
+    EXPECT_EQ(std::string::npos, bladen[0].Tekst().find("Eikelenboom")); // of C-LIJN
+}
+
 TEST_F(PrintenTest, InDeImportgroepMetNummer)
 {
     ASSERT_NO_FATAL_FAILURE(Start());

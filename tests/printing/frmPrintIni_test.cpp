@@ -179,7 +179,7 @@ TEST_F(frmPrintIniTest, ZonderKolomIsDeKnopUit)
     EXPECT_TRUE(Knop("cmdOK")->isEnabled());
 }
 
-/// The name of the group: nothing in it can be printed, whatever is chosen.
+/// Nothing of an empty group can be printed, whatever is chosen.
 TEST_F(frmPrintIniTest, EenLegeGroepHoudtDeKnopUit)
 {
     ASSERT_NO_FATAL_FAILURE(Open("Gr09-"));
@@ -195,6 +195,18 @@ TEST_F(frmPrintIniTest, EerstEenSubgroepKiezen)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Waarschuwing(QStringLiteral("U moet nog een subgroep kiezen."));
+    Klik(Knop("cmdOK"));
+    EXPECT_TRUE(venster->isVisible());
+}
+
+/// The button is off then; what it says is there all the same.
+TEST_F(frmPrintIniTest, ZonderRubriekWordtOmDeAchternaamGevraagd)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    KlikRegel("lstNBBgr", 1);
+    Klik(Knop("cmdSelNone"));
+    Knop("cmdOK")->setEnabled(true);
+    wachter.Waarschuwing(QStringLiteral("U moet minimaal de rubriek 'Achternaam' selecteren."));
     Klik(Knop("cmdOK"));
     EXPECT_TRUE(venster->isVisible());
 }

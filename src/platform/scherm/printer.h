@@ -67,9 +67,9 @@ struct Printgang {
 /// Draws page `blad` on the surface.
 using Bladtekenaar = std::function<void(Tekenvlak& vlak, int blad)>;
 
-/// Prints these pages, none of them included. While many go out the user may stop: then the page
-/// that is being drawn is the last, what was drawn comes out, and he is told how much that is. He
-/// is also told of a failure.
+/// Prints these pages; with none it does nothing. While many go out the user may stop: then the
+/// page that is being drawn is the last, what was drawn comes out, and he is told how much that is.
+/// He is also told of a failure.
 void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,
                  QWidget* ouder);
 
