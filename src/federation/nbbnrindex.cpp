@@ -10,7 +10,6 @@ namespace {
 
 constexpr std::size_t Stuklengte = 8;
 constexpr std::size_t AantalTekens = 256;
-constexpr std::size_t Vooruit = 16; // by so many numbers a place in memory is asked for beforehand
 
 std::uint64_t StukVan(Tekstblik tekst)
 {

@@ -28,7 +28,9 @@ class NBBnrIndex {
     /// Lengthens the text by "-" and this formatted number. Gives the answer of the questions that
     /// are the same, where that is known: equal usual questions have one answer.
     std::uint32_t Voeg(Tekstblik nummer);
-    /// Says that this number will be added soon.
+    /// By so many numbers `Kondig` should be ahead of what is asked or added.
+    static constexpr std::size_t Vooruit = 16;
+    /// Says that this number will be added soon, so that its place in memory is at hand.
     void Kondig(Tekstblik nummer) const;
     /// Whether the question at this place occurs in the text so far.
     [[nodiscard]] bool Bevat(std::size_t vraag) const { return gezien_[antwoord_[vraag]]; }

@@ -167,8 +167,7 @@ std::vector<Tekst> Samenvoeger::Vragen(const std::vector<Tekstblik>& nummers)
 
 void Samenvoeger::BouwNBBnrIndex()
 {
-    // Some rows at a time, so that the index has the places of their numbers at hand.
-    constexpr std::size_t tegelijk = 32;
+    constexpr std::size_t tegelijk = 2 * NBBnrIndex::Vooruit;
     std::vector<std::pair<int, Tekst>> hap;
     const auto verwerk = [&] {
         for (const auto& [rij, nummer] : hap) {
@@ -238,9 +237,8 @@ bool Samenvoeger::KiesNieuwe()
 {
     std::size_t over = 0;
     for (std::size_t k = 0; k < lstN2_.size(); ++k) {
-        constexpr std::size_t vooruit = 16;
-        if (k + vooruit < lstN2_.size())
-            NBBnrIndex_.Kondig(vragen_[lstN2_[k + vooruit]]);
+        if (k + NBBnrIndex::Vooruit < lstN2_.size())
+            NBBnrIndex_.Kondig(vragen_[lstN2_[k + NBBnrIndex::Vooruit]]);
         const std::size_t i = lstN2_[k];
         if (NBBnrIndex_.Bevat(i)) {
             uitkomst.overgeslagen.VoegToe(opdracht_.lstN1[i]);

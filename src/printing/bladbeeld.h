@@ -37,8 +37,6 @@ class Bladbeeld : public QFrame {
     Bladbeeld(const Printlijst& lijst, const Letterkast& kast, const Maten& maten, QWidget* ouder);
 
     void Toon(int blad);
-    /// Percent.
-    [[nodiscard]] int Zoom() const { return zoom_; }
     void ZetZoom(int procent);
     /// So many steps nearer or, below 0, farther.
     void Zoom(int stappen);

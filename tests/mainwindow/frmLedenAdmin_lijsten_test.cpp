@@ -18,6 +18,19 @@ const QString registerBehouden =
 
 class LijstenTest : public Hoofdvensterproef {
   protected:
+    /// The window deletes the first subgroup of Gr03-, which has four players.
+    void VerwachtSubgroepWeg()
+    {
+        wachter.Bedien([](QDialog& dialoog) {
+            Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+            Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
+            Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
+        });
+        wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep '"),
+                          .titel = QStringLiteral("Verwijderen?"),
+                          .alleenBegin = true});
+        wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+    }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
 
     void StartMet(const std::string& spelers)
@@ -405,15 +418,7 @@ TEST_F(LijstenTest, EenSubgroepVerwijderenDatNietOpgeslagenKanWordenKanOpnieuw)
     for (const bool opnieuw : {false, true}) {
         KiesGroep(3);
         schijf.FaalBij(1);
-        wachter.Bedien([](QDialog& dialoog) {
-            Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
-            Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
-            Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
-        });
-        wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep '"),
-                          .titel = QStringLiteral("Verwijderen?"),
-                          .alleenBegin = true});
-        wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+        VerwachtSubgroepWeg();
         VerwachtOpslagfout(opnieuw ? QStringLiteral("Opnieuw proberen")
                                    : QStringLiteral("Doorgaan"));
         Klik(Knop("cmdVerwGroep"));
@@ -562,15 +567,7 @@ TEST_F(LijstenTest, HetRoosterBlijftOpZijnPlaatsNaKopierenEnVerwijderen)
     Klik(Knop("cmdKopieer"));
     wachter.Klaar();
     EXPECT_EQ(stand, Balk("VScroll1")->value());
-    wachter.Bedien([](QDialog& dialoog) {
-        Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
-        Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
-        Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
-    });
-    wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep '"),
-                      .titel = QStringLiteral("Verwijderen?"),
-                      .alleenBegin = true});
-    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+    VerwachtSubgroepWeg();
     Klik(Knop("cmdVerwGroep"));
     wachter.Klaar();
     EXPECT_EQ(stand, Balk("VScroll1")->value());
