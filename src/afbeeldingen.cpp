@@ -24,6 +24,7 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/sorteerlijst.h"
 #include "pairs/frmParenOnderhoud.h"
+#include "platform/scherm/diaPrinter.h"
 #include "platform/scherm/tekstbrug.h"
 #include "printing/frmAfdrukken.h"
 #include "printing/frmPrintIni.h"
@@ -175,6 +176,11 @@ void NeemPrinten(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrati
     // It is as high as the screen lets it be.
     blad.setProperty(Standaardmaat, QSize(maten.Twips(12700), maten.Twips(10500)));
     fotograaf.Neem(blad);
+    fotograaf.Neem(diaPrinter({.titel = blad.windowTitle(),
+                               .stand = Papierstand::Staand,
+                               .bladen = 3,
+                               .voorstel = Bladkeus::Soort::Huidig},
+                              {.printers = {QStringLiteral("Clubhuis")}}, &blad));
 }
 
 } // namespace

@@ -8,10 +8,19 @@
 
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/diaPrinter.h"
 #include "platform/scherm/frmVoortgang.h"
 
 namespace plexoran {
 namespace {
+
+// Windows has a dialog of its own; elsewhere it is Qt's, with a PDF file among the printers. On
+// Windows its tick "to file" would give the printer's own language, which nobody can open.
+#ifdef Q_OS_WIN
+constexpr bool DialoogVanQt = false;
+#else
+constexpr bool DialoogVanQt = true;
+#endif
 
 Bladkeus KeusVan(const QPrinter& printer)
 {
@@ -39,6 +48,49 @@ void VerbergLosseBladen(const QPrintDialog& dialoog)
         if (auto* deel = dialoog.findChild<QWidget*>(QString::fromLatin1(naam)))
             deel->hide();
     }
+}
+
+/// Printers that make a PDF file say so by their name.
+bool MaaktPdf(const QStringList& printers)
+{
+    return std::any_of(printers.begin(), printers.end(), [](const QString& naam) {
+        return naam.contains(QLatin1String("PDF"), Qt::CaseInsensitive);
+    });
+}
+
+/// The print dialog of the system, with this printer chosen when it has one of that name.
+std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, const QString& naam,
+                                    QWidget* ouder)
+{
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    if (!naam.isEmpty())
+        printer->setPrinterName(naam);
+    printer->setDocName(vraag.titel);
+    printer->setPageSize(QPageSize(QPageSize::A4));
+    printer->setPageOrientation(vraag.stand == Papierstand::Staand ? QPageLayout::Portrait
+                                                                   : QPageLayout::Landscape);
+    const bool huidig = vraag.voorstel == Bladkeus::Soort::Huidig;
+    printer->setPrintRange(huidig ? QPrinter::CurrentPage : QPrinter::AllPages);
+
+    QPrintDialog dialoog(printer.get(), ouder);
+    dialoog.setObjectName(QStringLiteral("QPrintDialog"));
+    dialoog.setWindowTitle(QStringLiteral("Printen"));
+    dialoog.setOptions(QAbstractPrintDialog::PrintPageRange |
+                       QAbstractPrintDialog::PrintCollateCopies);
+    dialoog.setOption(QAbstractPrintDialog::PrintToFile, DialoogVanQt);
+    dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, huidig);
+    dialoog.setMinMax(1, std::max(1, vraag.bladen));
+    dialoog.setFromTo(1, std::max(1, vraag.bladen));
+    VerbergLosseBladen(dialoog);
+    if (dialoog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    Bladkeus keus = KeusVan(*printer);
+    if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
+        keus.exemplaren = std::max(1, printer->copyCount());
+        keus.perExemplaar = printer->collateCopies();
+        return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()), keus);
+    }
+    return Printer(std::move(printer), keus);
 }
 
 /// How many of the pages come out.
@@ -96,34 +148,31 @@ Uitkomst<std::unique_ptr<Printtaak>> Printer::Begin(Papierstand stand, const QSt
     return MaakPrintertaak(printer_, stand, titel);
 }
 
+Printeraanbod HuidigAanbod()
+{
+    if (DialoogVanQt)
+        return {.pdfInDialoog = true};
+    return {.printers = QPrinterInfo::availablePrinterNames(),
+            .standaard = QPrinterInfo::defaultPrinterName()};
+}
+
 std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
 {
-    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    printer->setDocName(vraag.titel);
-    printer->setPageSize(QPageSize(QPageSize::A4));
-    printer->setPageOrientation(vraag.stand == Papierstand::Staand ? QPageLayout::Portrait
-                                                                   : QPageLayout::Landscape);
-    const bool huidig = vraag.voorstel == Bladkeus::Soort::Huidig;
-    printer->setPrintRange(huidig ? QPrinter::CurrentPage : QPrinter::AllPages);
+    return KiesPrinter(schijf, vraag, HuidigAanbod(), ouder);
+}
 
-    QPrintDialog dialoog(printer.get(), ouder);
-    dialoog.setObjectName(QStringLiteral("QPrintDialog"));
-    dialoog.setWindowTitle(QStringLiteral("Printen"));
-    dialoog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
-                       QAbstractPrintDialog::PrintCollateCopies);
-    dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, huidig);
-    dialoog.setMinMax(1, std::max(1, vraag.bladen));
-    dialoog.setFromTo(1, std::max(1, vraag.bladen));
-    VerbergLosseBladen(dialoog);
+std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
+                                   const Printeraanbod& aanbod, QWidget* ouder)
+{
+    if (aanbod.pdfInDialoog || MaaktPdf(aanbod.printers))
+        return VraagSysteem(schijf, vraag, aanbod.standaard, ouder);
+    diaPrinter dialoog(vraag, aanbod, ouder);
     if (dialoog.exec() != QDialog::Accepted)
         return std::nullopt;
-    Bladkeus keus = KeusVan(*printer);
-    if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
-        keus.exemplaren = std::max(1, printer->copyCount());
-        keus.perExemplaar = printer->collateCopies();
-        return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()), keus);
-    }
-    return Printer(std::move(printer), keus);
+    if (dialoog.Printernaam().isEmpty())
+        return Printer(schijf, PadVanOpdrachtregel(dialoog.Pdfbestand().toStdString()),
+                       dialoog.Keus());
+    return VraagSysteem(schijf, vraag, dialoog.Printernaam(), ouder);
 }
 
 void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,

@@ -1,5 +1,8 @@
-// Choosing a printer. A PDF file counts as one and stands among the printers of the dialog.
+// Choosing a printer and printing on it. A PDF file counts as a printer: where the print dialog of
+// the system does not offer one, the program does.
 #pragma once
+
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -52,7 +55,18 @@ struct Printvraag {
     Bladkeus::Soort voorstel = Bladkeus::Soort::Alle;
 };
 
-/// The print dialog of the system; nothing when the user cancels it.
+/// What the system has to print on.
+struct Printeraanbod {
+    bool pdfInDialoog = false; ///< its print dialog adds a PDF file to the printers by itself
+    QStringList printers{};    ///< by the names that the system gives them
+    QString standaard{};       ///< one of them, or empty
+};
+[[nodiscard]] Printeraanbod HuidigAanbod();
+
+/// The print dialog of the system; nothing when the user cancels it. Where that has neither a PDF
+/// file nor a printer that makes one, `diaPrinter` comes before it.
+[[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
+                                                 const Printeraanbod& aanbod, QWidget* ouder);
 [[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
                                                  QWidget* ouder);
 
