@@ -89,7 +89,7 @@ void Bladvlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, const Maten& maten,
                      QWidget* ouder)
     : QFrame(ouder), lijst_(lijst), balkdikte_(maten.Twips(BalkdikteTwips)),
-      pixelsPerMm_(maten.PixelsPerMm()), P9(new QWidget(this)),
+      pixelsPerMm_(SchermPixelsPerMm(*this)), P9(new QWidget(this)),
       picP1(new Bladvlak(lijst, kast, P9)),
       HScroll1(MaakBalk(Qt::Horizontal, QStringLiteral("HScroll1"),
                         QStringLiteral("Blad opzij verschuiven"), this)),

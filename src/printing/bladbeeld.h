@@ -1,5 +1,5 @@
 // A page in its frame, `picP0`: scrolled by both bars, zoomed by Ctrl with the wheel or with plus
-// and minus. At 100 % a millimetre of the page is a millimetre of the windows.
+// and minus. At 100 % a millimetre of the page is one of the screen.
 #pragma once
 
 #include <QFrame>

@@ -23,7 +23,8 @@ using namespace plexoran;
 
 namespace {
 
-constexpr double Tiende = 0.1; // millimetre
+constexpr double Tiende = 0.1;              // millimetre
+constexpr double PixelsPerMm = 96.0 / 25.4; // of the screen of the tests
 
 /// The page shows the cells of the table.
 struct Afdrukstand : Mapstand {
@@ -258,7 +259,7 @@ TEST_F(frmAfdrukkenTest, ZoomenMetWielEnToetsen)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(10));
     const auto breed = [this] { return Deel<QWidget>("picP1")->width(); };
-    const double mm = Maten().PixelsPerMm();
+    const double mm = PixelsPerMm;
     EXPECT_NEAR(210 * mm, breed(), 1); // at 100 %
     EXPECT_EQ("100 %", Label("lblZoom"));
     Toets(Qt::Key_Plus, Qt::ControlModifier);
@@ -286,6 +287,20 @@ TEST_F(frmAfdrukkenTest, ZoomenMetWielEnToetsen)
     EXPECT_EQ("1", Vak("txtBlad"));
 }
 
+/// Larger letters in the windows do not make the paper larger.
+TEST_F(frmAfdrukkenTest, EenMillimeterBlijftEenMillimeterBijGroteLetters)
+{
+    const QFont oud = QApplication::font();
+    QFont groot = oud;
+    groot.setPixelSize(24);
+    QApplication::setFont(groot);
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(10));
+    QApplication::setFont(oud);
+    EXPECT_EQ("100 %", Label("lblZoom"));
+    EXPECT_EQ(qRound(210 * PixelsPerMm), Deel<QWidget>("picP1")->width());
+    EXPECT_EQ(qRound(297 * PixelsPerMm), Deel<QWidget>("picP1")->height());
+}
+
 /// What is in the middle of the view stays there; a page that stands at its top stays at its top.
 TEST_F(frmAfdrukkenTest, ZoomenHoudtDePlekInBeeld)
 {
@@ -295,11 +310,11 @@ TEST_F(frmAfdrukkenTest, ZoomenHoudtDePlekInBeeld)
     const auto* kader = Deel<QWidget>("P9");
     const auto* blad = Deel<QWidget>("picP1");
     const auto midden = [&](double mm) {
-        return (kader->height() / 2.0 - blad->y()) / (mm * Maten().PixelsPerMm());
+        return (kader->height() / 2.0 - blad->y()) / (mm * PixelsPerMm);
     };
     for (int keer = 0; keer < 3; ++keer)
         Toets(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(qRound(3 * Maten().PixelsPerMm()), blad->y()); // at 150 %
+    EXPECT_EQ(qRound(3 * PixelsPerMm), blad->y()); // at 150 %
     Balk("VScroll1")->setValue(Balk("VScroll1")->maximum() / 2);
     const double bij150 = midden(1.5);
     Toets(Qt::Key_Plus, Qt::ControlModifier);
@@ -317,7 +332,7 @@ TEST_F(frmAfdrukkenTest, HetBladVerschuiftInZijnKader)
     venster->resize(500, 500);
     QApplication::processEvents();
     auto* blad = Deel<QWidget>("picP1");
-    const int rand = qRound(3 * Maten().PixelsPerMm());
+    const int rand = qRound(3 * PixelsPerMm);
     EXPECT_EQ(QPoint(rand, rand), blad->pos());
     Wiel(-120, {});
     EXPECT_LT(blad->y(), rand);

@@ -37,6 +37,11 @@ QFont Maten::Letter(double punten) const
     return letter;
 }
 
+double SchermPixelsPerMm(const QWidget& widget)
+{
+    return widget.logicalDpiX() / MmPerInch;
+}
+
 void PasInScherm(QWidget* venster, QSize maat)
 {
     constexpr QSize kader(16, 40); // what a window manager puts around it

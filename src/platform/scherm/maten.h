@@ -15,7 +15,8 @@ class Maten {
 
     /// Twips to logical pixels.
     [[nodiscard]] int Twips(int twips) const;
-    /// Millimetres to logical pixels; whole only after rounding by the caller.
+    /// Millimetres to logical pixels, growing with the font; whole only after rounding by the
+    /// caller.
     [[nodiscard]] double PixelsPerMm() const { return pixelsPerMm_; }
     /// A font of this many points at the standard font, larger with a larger one.
     [[nodiscard]] QFont Letter(double punten) const;
@@ -24,6 +25,9 @@ class Maten {
     double factor_;
     double pixelsPerMm_;
 };
+
+/// Logical pixels in a millimetre of the widget's screen, whatever the font.
+[[nodiscard]] double SchermPixelsPerMm(const QWidget& widget);
 
 /// The property in which `PasInScherm` leaves the size that it was asked for.
 inline constexpr auto Standaardmaat = "standaardmaat";
