@@ -60,7 +60,7 @@ class Regellijst : public QListView {
     }
     [[nodiscard]] QSize minimumSizeHint() const override
     {
-        constexpr int regels = 4;
+        constexpr int regels = 3;
         return {QListView::minimumSizeHint().width(),
                 regels * fontMetrics().lineSpacing() + 2 * frameWidth()};
     }
