@@ -276,8 +276,7 @@ void diaIngave::PlaatsNaastHoofdvenster()
     const QRect hoofd = hoofdvenster_->frameGeometry();
     const int links = hoofd.right() + 1 - width() - maten_.Twips(Rand);
     const int boven = scherm.top() + (scherm.height() - height()) / 2;
-    move(std::clamp(links, scherm.left(), std::max(scherm.left(), scherm.right() - width())),
-         std::max(scherm.top(), boven));
+    ZetInScherm(this, {links, boven}, *hoofdvenster_);
 }
 
 void diaIngave::showEvent(QShowEvent* gebeurtenis)

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -165,17 +164,15 @@ diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)
       HScroll1(new QScrollBar(Qt::Horizontal, Frame2))
 {
     Bouw();
-    ZetBij(hoofdvenster->frameGeometry());
+    ZetBij(*hoofdvenster);
 }
 
 /// Below the top of the main window and in its middle, but not beyond the screen.
-void diaSortlijst::ZetBij(const QRect& hoofd)
+void diaSortlijst::ZetBij(const QWidget& hoofdvenster)
 {
-    const QRect vrij = screen()->availableGeometry();
+    const QRect hoofd = hoofdvenster.frameGeometry();
     const int links = hoofd.left() + (hoofd.width() - width()) / 2;
-    const int boven = hoofd.top() + maten_.Twips(600);
-    move(std::max(vrij.left(), std::min(links, vrij.right() + 1 - width())),
-         std::max(vrij.top(), std::min(boven, vrij.bottom() + 1 - height())));
+    ZetInScherm(this, {links, hoofd.top() + maten_.Twips(600)}, hoofdvenster);
 }
 
 void diaSortlijst::Bouw()

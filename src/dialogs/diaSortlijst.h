@@ -68,7 +68,7 @@ class diaSortlijst : public QDialog {
 
   private:
     void Bouw();
-    void ZetBij(const QRect& hoofd);
+    void ZetBij(const QWidget& hoofdvenster);
     void ZetSchuifbalk();
 
     Sorteerbeeld beeld_;

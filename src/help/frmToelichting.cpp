@@ -83,8 +83,10 @@ void frmToelichting::Bouw()
     lagen->addLayout(Knoppenrij({cmdPrintToel, cmdEinde}));
     PasInScherm(this, {maten.Twips(VensterBreed), maten.Twips(VensterHoog)});
     if (parentWidget() != nullptr)
-        move(parentWidget()->frameGeometry().topLeft() +
-             QPoint(maten.Twips(Ingesprongen), maten.Twips(Ingesprongen)));
+        ZetInScherm(this,
+                    parentWidget()->frameGeometry().topLeft() +
+                        QPoint(maten.Twips(Ingesprongen), maten.Twips(Ingesprongen)),
+                    *parentWidget());
     Text1->setFocus();
 }
 

@@ -44,6 +44,16 @@ TEST_F(diaIngaveTest, StaatRechtsInHetHoofdvensterEnInHetMiddenVanHetScherm)
     EXPECT_NEAR((scherm - Tw(7650)) / 2, venster->y(), 1);
 }
 
+TEST_F(diaIngaveTest, OpentBinnenHetScherm)
+{
+    const QRect vrij = hoofd.screen()->availableGeometry();
+    for (const int links : {vrij.left() - 1200, vrij.right()}) {
+        hoofd.move(links, vrij.top());
+        Open();
+        EXPECT_TRUE(vrij.contains(QRect(venster->pos(), venster->size()))) << links;
+    }
+}
+
 TEST_F(diaIngaveTest, DeKopNoemtHetRegelnummerOfDatHetEenNieuweIs)
 {
     Open();

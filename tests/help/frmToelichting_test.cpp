@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPrinterInfo>
+#include <QScreen>
 #include <QScrollBar>
 
 #include <gtest/gtest.h>
@@ -119,6 +120,28 @@ TEST_F(frmToelichtingTest, DePlaatsVanDeDelen)
         EXPECT_LT(maat.height() - terug->geometry().bottom(), 20);
         EXPECT_LT(Tekst()->geometry().bottom(), terug->y());
         EXPECT_GE(Tekst()->width(), maat.width() - 30);
+    }
+}
+
+/// 400 twips below and right of the corner of the main window.
+TEST_F(frmToelichtingTest, StaatBijHetHoofdvenster)
+{
+    const int in = Maten().Twips(400);
+    const QRect vrij = hoofd.screen()->availableGeometry();
+    for (const QPoint plek : {QPoint(3, 11), QPoint(9, 5)}) { // of the window, with room beside it
+        hoofd.move(vrij.topLeft() + plek - QPoint(in, in));
+        ASSERT_NO_FATAL_FAILURE(Open(StandaardPrinter));
+        EXPECT_EQ(vrij.topLeft() + plek, venster->pos());
+    }
+}
+
+TEST_F(frmToelichtingTest, OpentBinnenHetScherm)
+{
+    const QRect vrij = hoofd.screen()->availableGeometry();
+    for (const QPoint plek : {QPoint(-900, -900), vrij.bottomRight()}) {
+        hoofd.move(plek);
+        ASSERT_NO_FATAL_FAILURE(Open(StandaardPrinter));
+        EXPECT_TRUE(vrij.contains(QRect(venster->pos(), venster->size())));
     }
 }
 

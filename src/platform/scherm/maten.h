@@ -35,6 +35,9 @@ inline constexpr auto Standaardmaat = "standaardmaat";
 /// Makes a window this large, or as large as the screen allows.
 void PasInScherm(QWidget* venster, QSize maat);
 
+/// Moves a window there, or as near as it stays whole on the screen of `hoofdvenster`.
+void ZetInScherm(QWidget* venster, QPoint linksboven, const QWidget& hoofdvenster);
+
 /// Gives a control its name: for style sheets, tests and, when it has no text of its own, as
 /// `gesproken` for screen readers.
 void Noem(QWidget* widget, const QString& naam, const QString& gesproken = QString());
