@@ -208,6 +208,31 @@ TEST_F(diaKopieerTest, KopieertNaDeVraagEnMeldtHetAantal)
     EXPECT_EQ(100044, administratie.spelers.HKEY);
 }
 
+/// Meant: a line whose key no player has gives an empty row, and counts as a player.
+TEST_F(diaKopieerTest, EenRegelZonderSpelerTeltMee)
+{
+    administratie.spelers.tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "A-lijn", "1"},
+                                             {"12", "Gr01-", "Bo", "", "Cos", "A-lijn", "2"},
+                                             {"", "Gr01-", "Cy", "", "Dos", "A-lijn", "3"}});
+    Open();
+    Klik(Knop("cmdSelAll"));
+    auto moet = AlleRijen(administratie.spelers.tabel);
+    moet.push_back(moet[0]);
+    moet.resize(6);
+    for (std::size_t rij = 3; rij < 6; ++rij) {
+        moet[rij][1] = std::to_string(100'040 + rij);
+        moet[rij][2] = "Gr08-";
+        moet[rij][17] = "";
+    }
+    Keus("cmbGrnamen")->setCurrentIndex(7);
+    wachter.Verwacht(Kopieervraag(ClubNaam, QStringLiteral("Gr08-Introducés"), OK));
+    wachter.Informatie(QStringLiteral("Er zijn 3 spelers gekopieerd."));
+    Klik(Knop("cmdOK"));
+    wachter.Klaar();
+    EXPECT_EQ(moet, AlleRijen(administratie.spelers.tabel));
+    EXPECT_EQ(100'045, administratie.spelers.HKEY);
+}
+
 TEST_F(diaKopieerTest, ZonderSubgroeptekst)
 {
     Vink("chkNBBgrOok")->click();
