@@ -225,6 +225,44 @@ TEST_F(diaSortlijstTest, RoosterlijnenInHunGrijs)
                                                       static_cast<int>(*liggend.begin() * schaal)));
 }
 
+/// At the column starts, in widths of the letter A, from under the header to below the last line.
+TEST_F(diaSortlijstTest, DeStaandeLijnenStaanOpDeRanden)
+{
+    const std::vector<std::pair<Sorteersoort, std::vector<double>>> randen{
+        {opKey, {1, 14.5, 34.5, 46.5, 73.5, 88.5, 104.5}},
+        {opNummer, {1, 13, 33, 45, 72, 87, 105}},
+        {opGroep, {1, 13, 33, 45, 72, 89, 105}}};
+    for (const auto& [soort, bij] : randen) {
+        ASSERT_NO_FATAL_FAILURE(Open(soort, true, tweeRegels));
+        Schilder();
+        std::vector<QLineF> staand;
+        std::set<double> liggend;
+        for (const QLineF& lijn : vanger->Lijnen()) {
+            if (lijn.x1() == lijn.x2()) {
+                staand.push_back(lijn);
+                continue;
+            }
+            liggend.insert(lijn.y1());
+            EXPECT_NEAR(bij.front() * A(), lijn.x1(), 0.5);
+            EXPECT_NEAR(bij.back() * A(), lijn.x2(), 0.5);
+        }
+        ASSERT_EQ(bij.size(), staand.size());
+        for (std::size_t i = 0; i < bij.size(); ++i) {
+            EXPECT_NEAR(bij[i] * A(), staand[i].x1(), 0.5) << i;
+            EXPECT_EQ(*liggend.begin(), staand[i].y1());
+            EXPECT_EQ(*liggend.rbegin(), staand[i].y2());
+        }
+        // Under the header, between the lines and below the last one.
+        ASSERT_EQ(3U, liggend.size());
+        const std::vector<double> hoogten(liggend.begin(), liggend.end());
+        EXPECT_GT(hoogten[0], Deel("Key").y);
+        EXPECT_LT(hoogten[0], Deel("100001").y);
+        EXPECT_GT(hoogten[1], Deel("100001").y);
+        EXPECT_LT(hoogten[1], Deel("100007").y);
+        EXPECT_GT(hoogten[2], Deel("100007").y);
+    }
+}
+
 TEST_F(diaSortlijstTest, EenKorteLijstHeeftDeSchuifbalkUit)
 {
     ASSERT_NO_FATAL_FAILURE(Open(opKey, true, tweeRegels));

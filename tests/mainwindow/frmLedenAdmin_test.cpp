@@ -146,6 +146,10 @@ TEST_F(HoofdvensterTest, DeOpschriftenEnWenkenVanDeOpdrachten)
     EXPECT_EQ("Voor de duidelijkheid kunt u tekst toevoegen. Bijv: Gro2-Clubleden",
               Knop("cmdMaakGrNamen")->toolTip().toStdString());
     EXPECT_EQ("Verwijder regels van/tot", Vind<QGroupBox>(*venster, "Frame2")->title());
+    const QWidget* sorteerkader = Knop("cmdSortlijst1")->parentWidget();
+    EXPECT_EQ("Sorteerlijst op:", dynamic_cast<const QGroupBox&>(*sorteerkader).title());
+    for (const char* naam : {"cmdSortlijst2", "cmdSortlijst3", "chkToonAlle"})
+        EXPECT_EQ(sorteerkader, Deel(naam)->parentWidget()) << naam;
     EXPECT_EQ("Kolombreedte volgens header",
               Opschrift(Vind<QAbstractButton>(*venster, "chkKolBr")));
     EXPECT_EQ("Alle groepen", Opschrift(Vind<QAbstractButton>(*venster, "chkToonAlle")));
