@@ -17,6 +17,18 @@ double Maat(const QXmlStreamAttributes& kenmerken, const char* naam)
     return kenmerken.value(QLatin1String(naam)).toDouble() * MmPerPunt;
 }
 
+/// What a reader of PDF files writes; throws when it cannot.
+QByteArray Uitvoer(const QString& programma, const QStringList& bij)
+{
+    QProcess lezer;
+    lezer.start(programma, bij);
+    if (!lezer.waitForFinished() || lezer.exitCode() != 0)
+        throw std::runtime_error(programma.toStdString() + " leest " +
+                                 bij.join(QLatin1Char(' ')).toStdString() +
+                                 " niet: " + lezer.readAllStandardError().toStdString());
+    return lezer.readAllStandardOutput();
+}
+
 std::string Aaneen(const std::vector<Pdfwoord>& woorden)
 {
     std::string tekst;
@@ -73,15 +85,11 @@ void ZetInLeesvolgorde(Pdfblad& blad)
 
 std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
 {
-    QProcess lezer;
-    lezer.start(QStringLiteral("pdftotext"),
-                {QStringLiteral("-bbox"), QString::fromStdU16String(bestand.u16string()),
-                 QStringLiteral("-")});
-    if (!lezer.waitForFinished() || lezer.exitCode() != 0)
-        throw std::runtime_error("pdftotext leest " + bestand.string() +
-                                 " niet: " + lezer.readAllStandardError().toStdString());
     std::vector<Pdfblad> bladen;
-    QXmlStreamReader xml(lezer.readAllStandardOutput());
+    QXmlStreamReader xml(
+        Uitvoer(QStringLiteral("pdftotext"),
+                {QStringLiteral("-bbox"), QString::fromStdU16String(bestand.u16string()),
+                 QStringLiteral("-")}));
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
@@ -98,6 +106,15 @@ std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
     for (Pdfblad& blad : bladen)
         ZetInLeesvolgorde(blad); // the reader takes columns one by one
     return bladen;
+}
+
+QImage Pdfbeeld(const std::filesystem::path& bestand, int puntenPerMm)
+{
+    return QImage::fromData(Uitvoer(QStringLiteral("pdftoppm"),
+                                    {QStringLiteral("-gray"), QStringLiteral("-singlefile"),
+                                     QStringLiteral("-r"), QString::number(25.4 * puntenPerMm),
+                                     QString::fromStdU16String(bestand.u16string())}),
+                            "PGM");
 }
 
 } // namespace plexoran

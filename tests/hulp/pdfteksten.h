@@ -1,6 +1,8 @@
 // What a PDF file shows and where, as read back by a program that did not write it.
 #pragma once
 
+#include <QImage>
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -34,5 +36,8 @@ void ZetInLeesvolgorde(Pdfblad& blad);
 
 /// Throws when the file is no PDF.
 [[nodiscard]] std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand);
+
+/// The first page as it looks, in grey, with this many dots to the millimetre.
+[[nodiscard]] QImage Pdfbeeld(const std::filesystem::path& bestand, int puntenPerMm);
 
 } // namespace plexoran

@@ -97,6 +97,23 @@ class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
         wachter.Klaar();
         return LeesPdf(map.Weg() / "lijst.pdf");
     }
+    /// Where the last ink stands that the printed page has at this height: the middle of a line, in
+    /// millimetres.
+    [[nodiscard]] double RechterLijn(double y) const
+    {
+        constexpr int punten = 20; // to the millimetre
+        const QImage beeld = Pdfbeeld(map.Weg() / "lijst.pdf", punten);
+        const auto inkt = [&](int x) {
+            return qGray(beeld.pixel(x, static_cast<int>(y * punten))) < 200;
+        };
+        int rechts = beeld.width() - 1;
+        while (rechts > 0 && !inkt(rechts))
+            --rechts;
+        int links = rechts;
+        while (links > 0 && inkt(links - 1))
+            --links;
+        return (links + rechts + 1) / 2.0 / punten;
+    }
     static void KiesAlles(QDialog& dialoog)
     {
         Vind<QRadioButton>(dialoog, "printAll")->setChecked(true);
@@ -377,6 +394,48 @@ TEST_F(frmAfdrukkenTest, DePdfHeeftElkeTekstOpZijnTiendeMillimeter)
                         naam.boven, Tiende);
         }
         EXPECT_NEAR(15 + p + x2 + kast.Breedte(gewoon, "Bos"), blad.Woord("Bos").rechts, Tiende);
+    }
+}
+
+/// A list between the margins, and one that is too wide for them and stands in the middle.
+TEST_F(frmAfdrukkenTest, OokLiggendHeeftElkeTekstZijnTiendeMillimeter)
+{
+    const Letterkast kast;
+    for (const auto& [schaal, letters] :
+         {std::pair<float, std::size_t>(1.0F, 130), {0.8F, 170}, {1.0F, 146}}) {
+        const Tekst lang(letters, 'x');
+        ASSERT_NO_FATAL_FAILURE(
+            Open(MaakPrintspelers(3, lang), {Kolom::Voornaam, Kolom::Achternaam}, schaal));
+        const auto bladen = Print();
+        ASSERT_EQ(1U, bladen.size());
+        const Pdfblad& blad = bladen[0];
+        EXPECT_NEAR(297, blad.breed, Tiende);
+        EXPECT_NEAR(210, blad.hoog, Tiende);
+        const auto s = static_cast<double>(schaal);
+        const Letter vet{.punten = 10 * s, .vet = true};
+        const Letter gewoon{.punten = 10 * s};
+        const double p = 0.8 * s;
+        const double x1 = 2 * p + kast.Breedte(vet, "RegNr");
+        const double x2 = x1 + 2 * p + kast.Breedte(vet, "Voornaam");
+        const double x3 = x2 + 2 * p + kast.Breedte(gewoon, lang);
+        const double links = letters == 146 ? (297 - x3) / 2 : 15;
+        EXPECT_LT(links, 15.1);
+        EXPECT_NEAR(links, blad.Woord("Spelerinformatie").links, Tiende);
+        EXPECT_NEAR(10, blad.Woord("Spelerinformatie").boven, Tiende);
+        EXPECT_NEAR(links + p, blad.Woord("RegNr").links, Tiende);
+        EXPECT_NEAR(links + p + x1, blad.Woord("Voornaam").links, Tiende);
+        EXPECT_NEAR(links + p + x2, blad.Woord("Achternaam").links, Tiende);
+        EXPECT_NEAR(10 + 15 * s + (4.5 * s - kast.Hoogte(vet)) / 2, blad.Woord("RegNr").boven,
+                    Tiende);
+        for (int rij = 1; rij <= 3; ++rij) {
+            const auto& naam = blad.Woord("v" + std::to_string(rij));
+            EXPECT_NEAR(links + p + x1, naam.links, Tiende);
+            EXPECT_NEAR(10 + 19.5 * s + (rij - 1) * 4.5 * s + (4.5 * s - kast.Hoogte(gewoon)) / 2,
+                        naam.boven, Tiende);
+        }
+        EXPECT_NEAR(links + p + x2, blad.Woord(lang).links, Tiende);
+        EXPECT_NEAR(links + x3 - p, blad.Woord(lang).rechts, Tiende);
+        EXPECT_NEAR(links + x3, RechterLijn(10 + 19.5 * s + 1), Tiende);
     }
 }
 
