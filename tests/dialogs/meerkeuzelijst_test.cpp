@@ -1,10 +1,10 @@
 #include "platform/scherm/meerkeuzelijst.h"
 
-#include <QElapsedTimer>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
+#include "hulp/groei.h"
 #include "hulp/tekstvanger.h"
 #include "hulp/venstergrepen.h"
 
@@ -234,20 +234,19 @@ TEST_F(MeerkeuzelijstTest, DeSchermlezerHoortOfEenRegelGekozenIs)
 
 TEST_F(MeerkeuzelijstTest, HonderdduizendRegelsZonderWachten)
 {
-    QElapsedTimer klok;
-    klok.start();
-    gevraagd = 0;
-    Vul(100'000);
-    QApplication::processEvents();
-    lijst.KiesAlles(true);
-    QApplication::processEvents();
-    lijst.ZetHuidige(99'999);
-    QApplication::processEvents();
-    EXPECT_EQ(100'000U, lijst.GekozenPlaatsen().size());
-    // Only what is seen is asked for.
-    EXPECT_LT(gevraagd, 1000);
-    EXPECT_LT(klok.elapsed(), 1000);
-    EXPECT_TRUE(lijst.viewport()->rect().contains(Op(99'999)));
+    EXPECT_TRUE(GroeitMee(100'000, [this](int aantal) {
+        gevraagd = 0;
+        Vul(aantal);
+        QApplication::processEvents();
+        lijst.KiesAlles(true);
+        QApplication::processEvents();
+        lijst.ZetHuidige(aantal - 1);
+        QApplication::processEvents();
+        EXPECT_EQ(static_cast<std::size_t>(aantal), lijst.GekozenPlaatsen().size());
+        // Only what is seen is asked for.
+        EXPECT_LT(gevraagd, 1000);
+        EXPECT_TRUE(lijst.viewport()->rect().contains(Op(aantal - 1)));
+    }));
 }
 
 TEST_F(MeerkeuzelijstTest, EenTeLangeRegelEindigtInEenBeletselteken)
