@@ -72,8 +72,8 @@ float Linkerkant(const Papier& papier, float breed)
 
 } // namespace
 
-Schaalmaten::Schaalmaten(float schaal)
-    : punten(schaal * 10), titelpunten(schaal * 14), celmarge(schaal * 0.8F),
+Schaalmaten::Schaalmaten(float welke)
+    : schaal(welke), punten(schaal * 10), titelpunten(schaal * 14), celmarge(schaal * 0.8F),
       kophoogte(schaal * 15), titelhoogte(schaal * 4.5F), rijhoogte(schaal * 4.5F)
 {}
 

@@ -13,8 +13,9 @@ inline constexpr int Bladgrens = 30; ///< more pages are neither shown nor print
 
 /// What the scale alone decides.
 struct Schaalmaten {
-    explicit Schaalmaten(float schaal);
+    explicit Schaalmaten(float welke);
 
+    float schaal;
     float punten;      ///< size of the letters
     float titelpunten; ///< of the title of the list
     float celmarge;    ///< white on either side of a text in its column

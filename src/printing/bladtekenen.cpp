@@ -9,11 +9,6 @@ constexpr float Subgroepregel = 10.4F;
 constexpr Letter Voetletter{.type = Lettertype::Arial, .punten = 7};
 constexpr double Voetwit = 3; // between the rows' room and the foot
 
-float Schaal(const Bladindeling& indeling)
-{
-    return indeling.maten.rijhoogte / 4.5F;
-}
-
 /// The text, shortened from its end and closed by dots where it is too wide.
 Tekst Passend(const Lettermeter& meter, const Letter& letter, Tekstblik tekst, double ruimte)
 {
@@ -35,7 +30,7 @@ void TekenKop(Tekenvlak& vlak, const Printlijst& lijst)
     const Bladindeling& indeling = lijst.indeling;
     const double links = indeling.links;
     const double boven = indeling.papier.bovenmarge;
-    const double schaal = Schaal(indeling);
+    const double schaal = indeling.maten.schaal;
     const double ruimte = indeling.papier.breed - indeling.papier.zijmarge - links;
     const Letter letter = indeling.maten.Gewoon();
     vlak.Schrijf(links, boven, {.punten = static_cast<double>(indeling.maten.titelpunten)},

@@ -60,6 +60,7 @@ int BladenBij(int rijen)
 TEST(Schaalmaten, AllesGroeitMetDeSchaal)
 {
     const Schaalmaten een(1);
+    EXPECT_EQ(1, een.schaal);
     EXPECT_EQ(10, een.punten);
     EXPECT_EQ(14, een.titelpunten);
     EXPECT_EQ(0.8F, een.celmarge);
@@ -67,6 +68,7 @@ TEST(Schaalmaten, AllesGroeitMetDeSchaal)
     EXPECT_EQ(4.5F, een.titelhoogte);
     EXPECT_EQ(4.5F, een.rijhoogte);
     const Schaalmaten klein(0.8F);
+    EXPECT_EQ(0.8F, klein.schaal);
     EXPECT_EQ(0.8F * 10, klein.punten);
     EXPECT_EQ(0.8F * 14, klein.titelpunten);
     EXPECT_EQ(0.8F * 0.8F, klein.celmarge);
