@@ -265,6 +265,51 @@ TEST_F(ImporterenTest, EenLijstZonderEindHoudtOpEnZegtDat)
     Importeer();
 }
 
+/// Empty in each of the ways of XML: such members are named, the others imported.
+TEST_F(ImporterenTest, LedenInXmlMetEenLeegNummerWordenGenoemd)
+{
+    const auto lid = [](const std::string& nummer, const std::string& naam) {
+        return "<ReportableMember>" + nummer + "<Voornaam>Eva</Voornaam><Achternaam>" + naam +
+               "</Achternaam></ReportableMember>";
+    };
+    ZetExport("Club.xml", "<ReportableMembersList><Members>" + lid("<LeagueId></LeagueId>", "Een") +
+                              lid("<LeagueId>771</LeagueId>", "Twee") +
+                              lid("<LeagueId> </LeagueId>", "Drie") + lid("<LeagueId/>", "Vier") +
+                              lid("", "Vijf") + "</Members></ReportableMembersList>");
+    Verwacht(Voer("Option4", {0}));
+    VerwachtVraag(QStringLiteral("Club"), 5);
+    wachter.Waarschuwing(
+        QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"
+                       "Eva,,Een,,,,,,,,\r\nEva,,Drie,,,,,,,,\r\nEva,,Vier,,,,,,,,\r\n"
+                       "Eva,,Vijf,,,,,,,,\r\n"));
+    VerwachtAantallen(0, 1);
+    Importeer();
+    const std::string nieuw = suite.Spelers();
+    EXPECT_NE(std::string::npos, nieuw.find(",Gr05-,Eva,,Twee,"));
+    for (const char* naam : {"Een", "Drie", "Vier", "Vijf"})
+        EXPECT_EQ(std::string::npos, nieuw.find(",Gr05-,Eva,," + std::string(naam) + ",")) << naam;
+}
+
+/// The mark of an NBBR-4 file is the opening tag, so one that has none but closed ones passes for
+/// NBBR-3. Read by position its members have no number: they are named and nothing is imported.
+TEST_F(ImporterenTest, EenXmlMetAlleenLegeNummersTeltAlsNbbr3)
+{
+    ZetExport("Club.xml", "<ReportableMembersList><Members><ReportableMember><LeagueId/>"
+                          "<Voornaam>Eva</Voornaam><Achternaam>Een</Achternaam>"
+                          "</ReportableMember></Members></ReportableMembersList>");
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option4");
+        EXPECT_EQ(0, Lijst(dia)->Aantal());
+        Voer("Option3", {0})(dia);
+    });
+    VerwachtVraag(QStringLiteral("Club"), 1);
+    wachter.Waarschuwing(QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"
+                                        ",,,Eva,,,,,,,\r\n"));
+    VerwachtAantallen(0, 0);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
 /// A monstrous line is named, but not shown from end to end.
 TEST_F(ImporterenTest, EenReusachtigeRegelHoudtHetProgrammaNietOp)
 {
