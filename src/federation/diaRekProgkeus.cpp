@@ -48,10 +48,4 @@ void diaRekProgkeus::Kies(Programma programma)
     cmdOK->setEnabled(true);
 }
 
-void diaRekProgkeus::reject()
-{
-    antwoord_ = Programma::Geen;
-    QDialog::reject();
-}
-
 } // namespace plexoran

@@ -15,10 +15,8 @@ class diaRekProgkeus : public QDialog {
   public:
     explicit diaRekProgkeus(QWidget* ouder);
 
-    /// `Geen` until a choice was made.
+    /// `Geen` until a choice was made; a choice stands however the window is closed.
     [[nodiscard]] Programma Antwoord() const { return antwoord_; }
-    /// Closing without OK answers nothing.
-    void reject() override;
 
   private:
     void Kies(Programma programma);

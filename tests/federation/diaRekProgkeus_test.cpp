@@ -40,14 +40,25 @@ TEST(DiaRekProgkeus, ElkeKeusMaaktOkBruikbaar)
     }
 }
 
-TEST(DiaRekProgkeus, SluitenZonderOkIsGeenAntwoord)
+TEST(DiaRekProgkeus, SluitenZonderOkLaatDeKeusStaan)
 {
-    diaRekProgkeus venster(nullptr);
-    venster.show();
-    Vind<QRadioButton>(venster, "Option2")->click();
-    QTest::keyClick(&venster, Qt::Key_Escape);
-    EXPECT_FALSE(venster.isVisible());
-    EXPECT_EQ(venster.Antwoord(), Programma::Geen);
+    for (const auto& [optie, programma] :
+         {std::pair<const char*, Programma>(nullptr, Programma::Geen),
+          {"Option1", Programma::NBBR},
+          {"Option2", Programma::BridgeIt}}) {
+        for (const bool escape : {false, true}) {
+            diaRekProgkeus venster(nullptr);
+            venster.show();
+            if (optie != nullptr)
+                Vind<QRadioButton>(venster, optie)->click();
+            if (escape)
+                QTest::keyClick(&venster, Qt::Key_Escape);
+            else
+                venster.close();
+            EXPECT_FALSE(venster.isVisible());
+            EXPECT_EQ(venster.Antwoord(), programma);
+        }
+    }
 }
 
 } // namespace
