@@ -16,7 +16,8 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     Bouw();
     VulKeus(*cmbRVDgr, administratie_.groepen.Toonteksten());
     KiesGroep();
-    connect(cmbRVDgr, &QComboBox::currentIndexChanged, this, &frmVerwSubgroep::KiesGroep);
+    // Also when what is shown is picked again.
+    connect(cmbRVDgr, &QComboBox::activated, this, &frmVerwSubgroep::KiesGroep);
     connect(cmdVerwijder, &QPushButton::clicked, this, &frmVerwSubgroep::Verwijder);
     connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
 }

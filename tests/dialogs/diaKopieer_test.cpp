@@ -1,6 +1,5 @@
 #include "dialogs/diaKopieer.h"
 
-#include <QAbstractItemView>
 #include <QGroupBox>
 
 #include <limits>
@@ -18,16 +17,6 @@ using Teksten_t = std::vector<std::string>;
 
 class diaKopieerTest : public Groepsproef<diaKopieer> {
   protected:
-    /// As a user does: open the list and choose an entry.
-    void Kies(const char* naam, int plaats) const
-    {
-        auto* keus = Keus(naam);
-        keus->showPopup();
-        QApplication::processEvents();
-        keus->view()->setCurrentIndex(keus->model()->index(plaats, 0));
-        QTest::keyClick(keus->view(), Qt::Key_Return);
-        QApplication::processEvents();
-    }
     void KiesWaarde(int plaats) const { Kies("cmbNBBgr", plaats); }
     void KiesBron(int nummer) const { Kies("cmbUitGroep", nummer - 1); }
     [[nodiscard]] QCheckBox* Vink(const char* naam) const { return Deel<QCheckBox>(naam); }

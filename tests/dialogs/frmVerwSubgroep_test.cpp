@@ -10,7 +10,7 @@ using Teksten_t = std::vector<std::string>;
 
 class frmVerwSubgroepTest : public Groepsproef<frmVerwSubgroep> {
   protected:
-    void KiesGroep(int nummer) const { Keus("cmbRVDgr")->setCurrentIndex(nummer - 1); }
+    void KiesGroep(int nummer) const { Kies("cmbRVDgr", nummer - 1); }
 
     static Bericht Vraag(const QString& subgroep, const QString& groep, const QString& antwoord)
     {
@@ -60,6 +60,14 @@ TEST_F(frmVerwSubgroepTest, DeSubgroepenVanDeGroep)
     EXPECT_FALSE(Knop("cmdVerwijder")->isEnabled());
     KiesGroep(2);
     EXPECT_TRUE(Knop("cmdVerwijder")->isEnabled());
+}
+
+TEST_F(frmVerwSubgroepTest, DezelfdeGroepNogEensKiezenBegintOpnieuw)
+{
+    Kies("cmbSubGr", 1);
+    ASSERT_EQ(1, Keus("cmbSubGr")->currentIndex());
+    KiesGroep(1); // the group that is shown already
+    EXPECT_EQ(0, Keus("cmbSubGr")->currentIndex());
 }
 
 TEST_F(frmVerwSubgroepTest, VerwijdertNaDeVraagEnVultDeLijstOpnieuw)

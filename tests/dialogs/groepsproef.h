@@ -1,8 +1,6 @@
 // What the tests of the dialogs over groups share: a small register and its groups.
 #pragma once
 
-#include <QComboBox>
-
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
@@ -40,6 +38,7 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
     {
         return Vind<QComboBox>(*venster, naam);
     }
+    void Kies(const char* naam, int plaats) const { KiesUit(Keus(naam), plaats); }
     [[nodiscard]] Meerkeuzelijst* Lijst() const
     {
         return Vind<Meerkeuzelijst>(*venster, "lstKeus");

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 
@@ -34,6 +36,16 @@ inline std::string Opschrift(const QAbstractButton* knop)
 inline void Klik(QWidget* deel, QPoint plek = {})
 {
     QTest::mouseClick(deel, Qt::LeftButton, {}, plek);
+    QApplication::processEvents();
+}
+
+/// Picks an entry of a drop-down from its list, which may be the entry that is shown.
+inline void KiesUit(QComboBox* keus, int plaats)
+{
+    keus->showPopup();
+    QApplication::processEvents();
+    keus->view()->setCurrentIndex(keus->model()->index(plaats, 0));
+    QTest::keyClick(keus->view(), Qt::Key_Return);
     QApplication::processEvents();
 }
 

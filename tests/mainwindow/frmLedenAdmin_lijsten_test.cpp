@@ -22,7 +22,7 @@ class LijstenTest : public Hoofdvensterproef {
     void VerwachtSubgroepWeg()
     {
         wachter.Bedien([](QDialog& dialoog) {
-            Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+            KiesUit(Vind<QComboBox>(dialoog, "cmbRVDgr"), 2);
             Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
             Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
         });
@@ -474,7 +474,7 @@ TEST_F(LijstenTest, EenSubgroepVerwijderen)
     const std::string oud = suite.Spelers();
     KiesGroep(3);
     wachter.Bedien([](QDialog& dialoog) {
-        Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+        KiesUit(Vind<QComboBox>(dialoog, "cmbRVDgr"), 2);
         Vind<QComboBox>(dialoog, "cmbSubGr")->setCurrentIndex(1);
         Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
         Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
@@ -535,7 +535,7 @@ TEST_F(LijstenTest, HetRoosterKloptOokVoordatHetVensterDichtIs)
 {
     KiesGroep(3);
     wachter.Bedien([this](QDialog& dialoog) {
-        Vind<QComboBox>(dialoog, "cmbRVDgr")->setCurrentIndex(2);
+        KiesUit(Vind<QComboBox>(dialoog, "cmbRVDgr"), 2);
         Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
         EXPECT_EQ("Aantal regels: 5", Aantal());
         KiesRegel(1);
