@@ -342,7 +342,7 @@ TEST_F(Koppelvenster, KoppelenInEenHeleCompetitie)
     wachter.Klaar();
     EXPECT_EQ(Vervangen(eerste, "Sven Nijboersma", "100094"),
               suite.Inhoud(Com("Ronde-1/Zitting-1/Spelers.txt")));
-    EXPECT_EQ(Vervangen(laatste, "Sven Nijboersma-100094", "100094 - 100094"),
+    EXPECT_EQ(Vervangen(laatste, "Sven Nijboersma-100095", "100094 - 100095"),
               suite.Inhoud(Com("Ronde-10/Zitting-4/PercZit-4.txt")));
     EXPECT_EQ(zonder, suite.Inhoud(Com("Ronde-1/Zitting-2/Spelers.txt")));
     EXPECT_EQ("Sven Nijboersma - N03 aangepast in Spelerbestand.\n"
