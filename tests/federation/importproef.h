@@ -79,6 +79,7 @@ class Importproef : public Hoofdvensterproef {
     static std::vector<std::string> Bestanden(const QDialog& dia)
     {
         std::vector<std::string> namen;
+        namen.reserve(static_cast<std::size_t>(Lijst(dia)->Aantal()));
         for (int i = 0; i < Lijst(dia)->Aantal(); ++i)
             namen.push_back(Lijst(dia)->Regel(i).toStdString());
         return namen;
@@ -103,7 +104,7 @@ class Importproef : public Hoofdvensterproef {
     {
         for (const std::string& regel : RegelsVan(suite.Spelers())) {
             const auto plaats = regel.find("," + key + ",");
-            if (plaats != std::string::npos && plaats < 8)
+            if (plaats < 8)
                 return regel.substr(plaats + key.size() + 2);
         }
         return {};

@@ -428,6 +428,7 @@ class GroteGroep : public frmParenOnderhoudTest {
     GroteGroep()
     {
         std::vector<Proefspeler> spelers;
+        spelers.reserve(400);
         for (int i = 0; i < 400; ++i)
             spelers.push_back({.key = std::to_string(100001 + i),
                                .groep = "Gr03-",

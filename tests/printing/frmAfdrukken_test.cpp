@@ -550,6 +550,7 @@ TEST_F(frmAfdrukkenTest, OmgekeerdEnMeerExemplaren)
             Vind<QCheckBox>(dialoog, "collate")->setChecked(perExemplaar);
         });
         std::vector<std::string> voeten;
+        voeten.reserve(bladen.size());
         for (const Pdfblad& blad : bladen)
             voeten.push_back(blad.Regel(297 - 15 + 3).substr(25));
         const std::string twee = "Blad 2 van 4";
