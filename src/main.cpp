@@ -31,7 +31,7 @@ int main(int argc, char** argv)
     frmLedenAdmin venster(administratie);
     const Opstart opstart{.mappenIni = opdrachten.mappenIni.empty()
                                            ? MappenIniPad(Programmamap())
-                                           : PadVanOpdrachtregel(opdrachten.mappenIni),
+                                           : VolledigPad(opdrachten.mappenIni),
                           .eersteExemplaar = [&slot] { return slot.Neem(); }};
     if (const auto eindstatus = venster.Laad(opstart))
         return *eindstatus;

@@ -201,7 +201,7 @@ void frmImportNBB::KiesExportMap()
         CommonDialog1.setDirectory(QString::fromStdString(administratie_.schijf.Toonpad(map_)));
     if (CommonDialog1.exec() != QDialog::Accepted || CommonDialog1.selectedFiles().isEmpty())
         return;
-    const Pad bestand = PadVanOpdrachtregel(CommonDialog1.selectedFiles().first().toStdString());
+    const Pad bestand = VolledigPad(CommonDialog1.selectedFiles().first().toStdString());
     const auto naam = bestand.find_last_of("\\/");
     if (naam == Pad::npos)
         return;

@@ -48,7 +48,7 @@ Pad Programmamap()
     return PadVan(NaarPad(QCoreApplication::applicationDirPath()));
 }
 
-Pad PadVanOpdrachtregel(const std::string& utf8)
+Pad VolledigPad(const std::string& utf8)
 {
     return PadVan(NaarPad(QDir().absoluteFilePath(QString::fromStdString(utf8))));
 }

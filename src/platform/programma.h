@@ -10,8 +10,9 @@ namespace plexoran {
 /// The folder of the running executable.
 [[nodiscard]] Pad Programmamap();
 
-/// A path given on the command line, made independent of the working folder.
-[[nodiscard]] Pad PadVanOpdrachtregel(const std::string& utf8);
+/// A path as the user gave it, on the command line or in a file dialog, made independent of the
+/// working folder.
+[[nodiscard]] Pad VolledigPad(const std::string& utf8);
 
 /// Makes a folder the process's working folder. One that is missing changes nothing.
 void ZetWerkmap(const Pad& map);

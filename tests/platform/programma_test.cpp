@@ -158,14 +158,14 @@ TEST(ZetWerkmap, BestaandeMap)
     std::filesystem::current_path(vooraf);
 }
 
-TEST(PadVanOpdrachtregel, HangtNietVanDeWerkmapAf)
+TEST(VolledigPad, HangtNietVanDeWerkmapAf)
 {
     EchteSchijf schijf;
     const auto vooraf = std::filesystem::current_path();
     const TijdelijkeMap map;
     map.Zet("Mappen.ini", "SPEMAP=x");
     std::filesystem::current_path(map.Weg());
-    const Pad pad = PadVanOpdrachtregel("Mappen.ini");
+    const Pad pad = VolledigPad("Mappen.ini");
     std::filesystem::current_path(vooraf);
     EXPECT_EQ(schijf.LeesBestand(pad), Tekst("SPEMAP=x"));
 }

@@ -88,7 +88,7 @@ std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, con
     if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
         keus.exemplaren = std::max(1, printer->copyCount());
         keus.perExemplaar = printer->collateCopies();
-        return Printer(schijf, PadVanOpdrachtregel(printer->outputFileName().toStdString()), keus);
+        return Printer(schijf, VolledigPad(printer->outputFileName().toStdString()), keus);
     }
     return Printer(std::move(printer), keus);
 }
@@ -170,8 +170,7 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
     if (dialoog.exec() != QDialog::Accepted)
         return std::nullopt;
     if (dialoog.Printernaam().isEmpty())
-        return Printer(schijf, PadVanOpdrachtregel(dialoog.Pdfbestand().toStdString()),
-                       dialoog.Keus());
+        return Printer(schijf, VolledigPad(dialoog.Pdfbestand().toStdString()), dialoog.Keus());
     return VraagSysteem(schijf, vraag, dialoog.Printernaam(), ouder);
 }
 
