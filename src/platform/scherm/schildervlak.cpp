@@ -59,26 +59,40 @@ void Schildervlak::Schrijf(double x, double y, const Letter& letter, Tekstblik t
     schilder_.restore();
 }
 
-/// The rectangle on whole dots of the device, at least one of them wide and high.
+/// The rectangle on whole dots of the device, at least one of them wide and high. Edges that lie on
+/// the same place come out on the same dot.
 QRectF Schildervlak::OpPunten(const QRectF& vlak) const
 {
     const QTransform naarPunten = schilder_.deviceTransform();
     const QRectF punten = naarPunten.mapRect(vlak);
     const QPointF hoek(std::round(punten.left()), std::round(punten.top()));
-    const QSizeF maat(std::max(1.0, std::round(punten.width())),
-                      std::max(1.0, std::round(punten.height())));
-    return naarPunten.inverted().mapRect(QRectF(hoek, maat));
+    const QPointF eind(std::max(hoek.x() + 1, std::round(punten.right())),
+                       std::max(hoek.y() + 1, std::round(punten.bottom())));
+    return naarPunten.inverted().mapRect(QRectF(hoek, eind));
+}
+
+/// A straight line on whole dots of the device, at least one of them thick. Both its ends take in
+/// the dots of the lines that end there.
+QRectF Schildervlak::LijnOpPunten(QPointF begin, QPointF eind, double dikte) const
+{
+    const QTransform naarPunten = schilder_.deviceTransform();
+    const double dik = naarPunten.mapRect(QRectF(0, 0, dikte, dikte)).width();
+    const auto opPunt = [&](QPointF punt) {
+        const QPointF waar = naarPunten.map(punt);
+        return QPointF(std::round(waar.x() - dik / 2), std::round(waar.y() - dik / 2));
+    };
+    const double punten = std::max(1.0, std::round(dik));
+    return naarPunten.inverted().mapRect(
+        QRectF(opPunt(begin), opPunt(eind) + QPointF(punten, punten)));
 }
 
 void Schildervlak::Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte)
 {
     const bool recht = x1 == x2 || y1 == y2;
     if (doel_ == Doel::Scherm && recht) {
-        const double half = dikte / 2;
         const QPointF begin = Punt(std::min(x1, x2), std::min(y1, y2));
         const QPointF eind = Punt(std::max(x1, x2), std::max(y1, y2));
-        const QPointF rand(x1 == x2 ? half * perMm_ : 0, y1 == y2 ? half * perMm_ : 0);
-        schilder_.fillRect(OpPunten(QRectF(begin - rand, eind + rand)), Inkt(kleur));
+        schilder_.fillRect(LijnOpPunten(begin, eind, dikte * perMm_), Inkt(kleur));
         return;
     }
     schilder_.setPen(QPen(Inkt(kleur), dikte * perMm_, Qt::SolidLine, Qt::FlatCap));

@@ -27,6 +27,7 @@ class Schildervlak : public Tekenvlak {
   private:
     [[nodiscard]] QPointF Punt(double x, double y) const;
     [[nodiscard]] QRectF OpPunten(const QRectF& vlak) const;
+    [[nodiscard]] QRectF LijnOpPunten(QPointF begin, QPointF eind, double dikte) const;
 
     QPainter& schilder_;
     const Letterkast& kast_;

@@ -73,6 +73,36 @@ TEST_F(SchildervlakTest, LijnenZijnScherpOpElkScherm)
     }
 }
 
+/// A frame of four lines is closed: wherever its sides fall between the dots, they share the dots
+/// of the corners and none of them sticks out.
+TEST_F(SchildervlakTest, LijnenDieElkaarRakenDelenHunHoek)
+{
+    for (const double schaal : {0.75, 1.0, 1.25, 1.5, 2.0}) {
+        for (double schuif = 0; schuif < 0.5; schuif += 0.02) {
+            const double links = 10 + schuif;
+            const double boven = 5 + 0.7 * schuif;
+            const double rechts = 40.03 + 0.3 * schuif;
+            const double onder = 20.05 + schuif;
+            Teken(
+                [&](Schildervlak& vlak) {
+                    vlak.Lijn(links, boven, rechts, boven, Grijs, 0.1);
+                    vlak.Lijn(links, onder, rechts, onder, Grijs, 0.1);
+                    vlak.Lijn(links, boven, links, onder, Grijs, 0.1);
+                    vlak.Lijn(rechts, boven, rechts, onder, Grijs, 0.1);
+                },
+                schaal);
+            const QRect inkt = Inkt();
+            int punten = 0;
+            for (int y = inkt.top(); y <= inkt.bottom(); ++y) {
+                for (int x = inkt.left(); x <= inkt.right(); ++x)
+                    punten += beeld.pixelColor(x, y) != QColor(Qt::white) ? 1 : 0;
+            }
+            EXPECT_EQ(2 * inkt.width() + 2 * (inkt.height() - 2), punten)
+                << schaal << " " << schuif;
+        }
+    }
+}
+
 TEST_F(SchildervlakTest, EenVlakWordtGevuld)
 {
     Teken([](Schildervlak& vlak) { vlak.Vul(10, 5, 20, 10, {1, 2, 3}); });
