@@ -1,6 +1,7 @@
 // Working the print dialog of the system, in which a PDF file stands among the printers.
 #pragma once
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -26,6 +27,19 @@ inline void DrukPrintdialoog(QDialog& dialoog, QDialogButtonBox::ButtonRole rol)
         }
     }
     throw std::runtime_error("de printdialoog heeft die knop niet");
+}
+
+/// Shows the options, which are folded away at first.
+inline void VouwUit(QDialog& dialoog)
+{
+    for (QPushButton* knop : dialoog.findChildren<QPushButton*>()) {
+        if (knop->text().endsWith(QLatin1String(">>"))) {
+            knop->click();
+            QApplication::processEvents();
+            return;
+        }
+    }
+    throw std::runtime_error("de printdialoog heeft geen opties");
 }
 
 inline void KiesPdf(QDialog& dialoog, const std::filesystem::path& bestand)

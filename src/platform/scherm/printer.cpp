@@ -41,12 +41,18 @@ Bladkeus KeusVan(const QPrinter& printer)
     return keus;
 }
 
-/// Qt 6.4 refuses whatever is typed as single pages; a range from and to is enough.
+/// Takes away choices that would go wrong; a range from and to is enough. Qt 6.4 refuses whatever
+/// is typed as single pages. Odd and even pages the print server picks by their place in the job:
+/// the wrong ones when the program prints the last page first. As the dialog shows its parts again
+/// when it opens, they lose their size and the keyboard too.
 void VerbergLosseBladen(const QPrintDialog& dialoog)
 {
-    for (const char* naam : {"pagesRadioButton", "pagesLineEdit"}) {
-        if (auto* deel = dialoog.findChild<QWidget*>(QString::fromLatin1(naam)))
+    for (const char* naam : {"pagesRadioButton", "pagesLineEdit", "pageSetLabel", "pageSetCombo"}) {
+        if (auto* deel = dialoog.findChild<QWidget*>(QString::fromLatin1(naam))) {
             deel->hide();
+            deel->setFixedSize(0, 0);
+            deel->setFocusPolicy(Qt::NoFocus);
+        }
     }
 }
 

@@ -188,6 +188,22 @@ TEST_F(PrinterTest, DeDialoogGeeftEenReeksBladen)
     EXPECT_EQ((std::vector<int>{3, 4, 5}), printer->Keus().Bladen(9, 7));
 }
 
+/// They would not work, or print other pages than those asked for.
+TEST_F(PrinterTest, LosseEnEvenBladenWordenNietAangeboden)
+{
+    ASSERT_TRUE(Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9},
+                     [](QDialog& dialoog) {
+                         VouwUit(dialoog);
+                         EXPECT_FALSE(Vind<QWidget>(dialoog, "from")->visibleRegion().isEmpty());
+                         for (const char* naam : {"pagesRadioButton", "pagesLineEdit",
+                                                  "pageSetLabel", "pageSetCombo"}) {
+                             const auto* deel = Vind<QWidget>(dialoog, naam);
+                             EXPECT_TRUE(deel->visibleRegion().isEmpty()) << naam;
+                             EXPECT_EQ(Qt::NoFocus, deel->focusPolicy()) << naam;
+                         }
+                     }));
+}
+
 TEST_F(PrinterTest, HetBladInBeeldIsHetVoorstel)
 {
     const auto printer = Kies({.titel = QStringLiteral("Proef"),
