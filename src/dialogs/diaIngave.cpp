@@ -182,7 +182,7 @@ void diaIngave::PasVeldenAanGroepAan()
     Tekstvak* groep = Vak(Kolom::Groep);
     groep->ZetTekst(ingave_.groeptekst);
     groep->setAlignment(Qt::AlignCenter);
-    groep->setToolTip(groep->text());
+    ZetWenk(groep, groep->text());
     groep->setFont(Groepsletter(groep->text()));
     Kleur(groep, QPalette::Text, QColor(255, 0, 0));
     Kleur(groep, QPalette::Base, QColor(255, 255, 0));

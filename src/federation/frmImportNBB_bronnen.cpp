@@ -245,7 +245,7 @@ bool frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
     MaakBruikbaar(true);
     const QString pad = QString::fromStdString(administratie_.schijf.Toonpad(map));
     lblExportMap->setText(QStringLiteral("Ledenbestanden in de gekozen map: ") + Breekbaar(pad));
-    lblExportMap->setToolTip(pad);
+    ZetWenk(lblExportMap, pad);
     const bool volledig = ZoekBestanden(*bestanden);
     if (volledig) // or another file could stand chosen for the one that was pointed at
         KiesInLijst(gekozen);

@@ -66,7 +66,7 @@ void frmLedenAdmin::ToonGroep()
     const QString printtekst =
         QStringLiteral("Print deze groep: %1 ...").arg(NaarQString(groeptekst));
     cmdPrint->setText(MetSneltoets(printtekst, u'P'));
-    cmdPrint->setToolTip(printtekst);
+    ZetWenk(cmdPrint, printtekst);
 
     picP0->Toon(tabel, std::move(weergave), celmeter.Maten(), beeld.kolomnamen);
     if (administratie_.instellingen.LOSTGR != cmbGr->currentIndex())

@@ -50,7 +50,7 @@ void frmPrintIni::MaakDelen()
     // A long name must not make the window wider than the screen.
     Label3->setWordWrap(true);
     Label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    Label3->setToolTip(Label3->text());
+    ZetWenk(Label3, Label3->text());
     Label4 =
         label(QStringLiteral("Label4"), QStringLiteral("Printuitvoer verkleinen of vergroten:"));
     Label5 = label(QStringLiteral("Label5"), QStringLiteral("Kies de schaal:"));

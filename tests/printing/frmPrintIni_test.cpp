@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QTextDocument>
 
 #include <gtest/gtest.h>
 
@@ -100,6 +101,18 @@ TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietBreder)
         EXPECT_EQ(naam, label->toolTip().toStdString());
         EXPECT_GE(label->height(), label->heightForWidth(label->width()));
     }
+}
+
+TEST_F(frmPrintIniTest, EenGroepsnaamMetTekensVanOpmaakStaatErZoalsHijIs)
+{
+    const Tekst naam = "Gr01-<b>Vet</b> & co";
+    ASSERT_NO_FATAL_FAILURE(Open(naam));
+    const auto* label = Vind<QLabel>(*venster, "Label3");
+    EXPECT_EQ(naam, label->text().toStdString());
+    EXPECT_EQ(Qt::PlainText, label->textFormat());
+    QTextDocument wenk;
+    wenk.setHtml(label->toolTip());
+    EXPECT_EQ(naam, wenk.toPlainText().toStdString());
 }
 
 TEST_F(frmPrintIniTest, OpentMetDeEersteAchtKolommenGekozen)

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTextDocument>
 
 #include <vector>
 
@@ -57,6 +58,15 @@ class Knop : public QPushButton {
     Noem(label, naam);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+/// A tool tip that shows a text of the user as it is; Qt would take its "<" for layout.
+inline void ZetWenk(QWidget* widget, const QString& tekst)
+{
+    widget->setToolTip(
+        Qt::mightBeRichText(tekst)
+            ? QStringLiteral("<span style=\"white-space:pre\">%1</span>").arg(tekst.toHtmlEscaped())
+            : tekst);
 }
 
 /// The Tab key goes through these controls in this order.
