@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "platform/tekstorde.h"
-#include "register/waardenlijst.h"
 
 namespace plexoran {
 namespace {
@@ -105,12 +105,16 @@ std::vector<int> OpNaam(const Spelertabel& tabel, const std::vector<int>& rijen,
 
 std::vector<Tekst> Printsubgroepen(const Spelertabel& tabel, Tekstblik groepscode)
 {
-    Waardenlijst subgroepen;
+    std::unordered_set<Tekstblik> gezien;
+    std::vector<Tekst> subgroepen;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) == groepscode)
-            subgroepen.Voeg(Tekst(SubgroepVan(tabel, rij)));
+        if (tabel.Cel(rij, Kolom::Groep) != groepscode)
+            continue;
+        const Tekstblik subgroep = SubgroepVan(tabel, rij);
+        if (gezien.insert(subgroep).second)
+            subgroepen.emplace_back(subgroep);
     }
-    return subgroepen.Waarden();
+    return subgroepen;
 }
 
 Tekst Subgroepkop(const std::vector<Tekst>& subgroepen)

@@ -50,6 +50,16 @@ TEST(Printsubgroepen, EenGroepZonderSubgroepenBiedtGeenAan)
     EXPECT_EQ((std::vector<Tekst>{"GEEN"}), Printsubgroepen(tabel, "Gr01-"));
 }
 
+/// Every one that differs can be chosen, also where one name holds another between its marks.
+TEST(Printsubgroepen, EenHekjeInEenNaamVerbergtGeenAndere)
+{
+    const auto tabel = MaakTabel({{"1", "Gr01-", "An", "", "Bos", "#", ""},
+                                  {"2", "Gr01-", "Bea", "", "Dam", "a#b", ""},
+                                  {"3", "Gr01-", "Cor", "", "Eik", "b", ""},
+                                  {"4", "Gr01-", "Dirk", "", "Vos", "a", ""}});
+    EXPECT_EQ((std::vector<Tekst>{"#", "a#b", "b", "a"}), Printsubgroepen(tabel, "Gr01-"));
+}
+
 TEST(Subgroepkop, DeGekozenSubgroepenZoalsZeInDeLijstStaan)
 {
     EXPECT_EQ("", Subgroepkop({}));
