@@ -26,13 +26,13 @@ const Letterkast& Kast()
     return *kast;
 }
 
-const Printopdracht& Opdracht()
+/// As the window gives it when the organiser chooses all subgroups.
+Printopdracht Opdracht(const Spelertabel& tabel)
 {
-    static const Printopdracht opdracht{.groepscode = "Gr01-",
-                                        .kolommen = {Kolom::Voornaam, Kolom::Tusv,
-                                                     Kolom::Achternaam, Kolom::Telef, Kolom::Email,
-                                                     Kolom::Adres, Kolom::Postc, Kolom::Plaats}};
-    return opdracht;
+    return {.groepscode = "Gr01-",
+            .subgroepen = Printsubgroepen(tabel, "Gr01-"),
+            .kolommen = {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam, Kolom::Telef,
+                         Kolom::Email, Kolom::Adres, Kolom::Postc, Kolom::Plaats}};
 }
 
 const Spelertabel& TabelVan(const benchmark::State& meting)
@@ -48,14 +48,14 @@ const Spelertabel& TabelVan(const benchmark::State& meting)
     return plaats->second;
 }
 
-Printlijst MaakLijst(const Spelertabel& tabel)
+Printlijst MaakLijst(const Spelertabel& tabel, const Printopdracht& opdracht)
 {
-    Printtabel print = MaakPrinttabel(tabel, Opdracht());
+    Printtabel print = MaakPrinttabel(tabel, opdracht);
     Bladindeling indeling = BerekenKolommen(print, Klein, Kast());
     return {.tabel = std::move(print),
             .indeling = std::move(indeling),
             .groeptekst = "Gr01-Clubleden",
-            .subgroepkop = {},
+            .subgroepkop = Subgroepkop(opdracht.subgroepen),
             .datum = "21-11-2026",
             .programma = "Ravendeck.exe"};
 }
@@ -63,8 +63,9 @@ Printlijst MaakLijst(const Spelertabel& tabel)
 void Printlijsten(benchmark::State& meting)
 {
     const Spelertabel& tabel = TabelVan(meting);
+    const Printopdracht opdracht = Opdracht(tabel);
     Meet(meting, [&] {
-        const Printlijst lijst = MaakLijst(tabel);
+        const Printlijst lijst = MaakLijst(tabel, opdracht);
         if (lijst.tabel.Rijen() != static_cast<int>(meting.range(0)))
             meting.SkipWithError("de uitkomst klopt niet");
     });
@@ -79,6 +80,7 @@ void PrintlijstenGrens(benchmark::State& meting)
     std::vector<Tekst> sleutels;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij)
         sleutels.push_back(Sorteersleutel(tabel.Cel(rij, Kolom::Achternaam)));
+    const Printopdracht opdracht = Opdracht(tabel);
     const Letter letter{.punten = 7};
     Meet(
         meting, [&] { return sleutels; },
@@ -86,7 +88,7 @@ void PrintlijstenGrens(benchmark::State& meting)
             std::sort(gesorteerd.begin(), gesorteerd.end());
             double som = 0;
             for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-                for (const Kolom kolom : Opdracht().kolommen)
+                for (const Kolom kolom : opdracht.kolommen)
                     som += Kast().Breedte(letter, tabel.Cel(rij, kolom));
             }
             benchmark::DoNotOptimize(som);
@@ -97,7 +99,8 @@ BENCHMARK(PrintlijstenGrens)->Apply(Groottes);
 /// The first page of the list, at 96 dots to the inch. All players are on it in the same order.
 void BladTekenen(benchmark::State& meting)
 {
-    const Printlijst lijst = MaakLijst(TabelVan(meting));
+    const Spelertabel& tabel = TabelVan(meting);
+    const Printlijst lijst = MaakLijst(tabel, Opdracht(tabel));
     QImage beeld(1123, 1123, QImage::Format_ARGB32_Premultiplied);
     Meet(meting, [&] {
         beeld.fill(Qt::white);

@@ -23,32 +23,34 @@ double BreedsteTeken(const Lettermeter& meter, const Letter& letter)
     return breedste;
 }
 
-/// A text that could not be wider than the widest so far, even of the widest characters, need not
-/// be measured: in a long list that is most of them.
-float KolomTekstbreedte(const Printtabel& tabel, int kolom, const Schaalmaten& maten,
-                        const Lettermeter& meter, double breedsteTeken)
+/// The text widths of all columns. A text that could not be wider than the widest so far, even of
+/// the widest characters, need not be measured: in a long list that is most of them. Row by row,
+/// since the cells of a player stand together in memory and sorted players do not.
+std::vector<float> Tekstbreedten(const Printtabel& tabel, const Schaalmaten& maten,
+                                 const Lettermeter& meter)
 {
-    float breedste = Tekstbreedte(meter, maten.Vet(), tabel.Titel(kolom));
-    if (kolom == 0)
-        return breedste;
+    std::vector<float> breedsten;
+    for (int kolom = 0; kolom <= tabel.Kolommen(); ++kolom)
+        breedsten.push_back(Tekstbreedte(meter, maten.Vet(), tabel.Titel(kolom)));
     const Letter letter = maten.Gewoon();
+    const double breedsteTeken = BreedsteTeken(meter, letter);
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        const Tekstblik cel = tabel.Cel(rij, kolom);
-        if (static_cast<double>(cel.size()) * breedsteTeken > static_cast<double>(breedste))
-            breedste = std::max(breedste, Tekstbreedte(meter, letter, cel));
+        for (int kolom = 1; kolom <= tabel.Kolommen(); ++kolom) {
+            const Tekstblik cel = tabel.Cel(rij, kolom);
+            float& breedste = breedsten[static_cast<std::size_t>(kolom)];
+            if (static_cast<double>(cel.size()) * breedsteTeken > static_cast<double>(breedste))
+                breedste = std::max(breedste, Tekstbreedte(meter, letter, cel));
+        }
     }
-    return breedste;
+    return breedsten;
 }
 
 std::vector<float> Kolombegin(const Printtabel& tabel, const Schaalmaten& maten,
                               const Lettermeter& meter)
 {
-    const double breedsteTeken = BreedsteTeken(meter, maten.Gewoon());
     std::vector<float> begin{0};
-    for (int kolom = 0; kolom <= tabel.Kolommen(); ++kolom) {
-        const float breedte = KolomTekstbreedte(tabel, kolom, maten, meter, breedsteTeken);
+    for (const float breedte : Tekstbreedten(tabel, maten, meter))
         begin.push_back(begin.back() + (maten.celmarge + maten.celmarge + breedte));
-    }
     return begin;
 }
 
@@ -62,12 +64,14 @@ int PassendeKolommen(const std::vector<float>& begin, float breed)
     return passend;
 }
 
-/// Where x(0) lies: at the margin, unless the list would run off the sheet then. That one stands in
-/// the middle, since printers leave a rim white on both sides.
+constexpr float Printerrand = 5; // no printer reaches the edge of the sheet; few need more white
+
+/// Where x(0) lies: at the margin, unless the list would reach into the rim at the right then. That
+/// one stands in the middle of the sheet.
 float Linkerkant(const Papier& papier, float breed)
 {
     const float over = papier.breed - breed;
-    return over >= papier.zijmarge ? papier.zijmarge : over / 2;
+    return over >= papier.zijmarge + Printerrand ? papier.zijmarge : over / 2;
 }
 
 } // namespace

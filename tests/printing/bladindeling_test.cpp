@@ -225,19 +225,19 @@ TEST(Bladindeling, EenReuzenkolomBlijftWeg)
     EXPECT_EQ(1, indeling.kolommen);
 }
 
-TEST(Bladindeling, WatNaastDeLinkerMargeVanHetBladZouLopenStaatInHetMidden)
+TEST(Bladindeling, WatNaastDeLinkerMargeInDeRechterRandZouKomenStaatInHetMidden)
 {
     const auto links = [](double breedte) {
         return static_cast<double>(MetPrintbreedte(breedte).links);
     };
     EXPECT_EQ(15, links(100));
     EXPECT_EQ(15, links(189.9));
-    EXPECT_EQ(15, links(194.9)); // up to the right edge
+    EXPECT_NEAR(9.9, links(190.2), 0.01);
     EXPECT_NEAR(7.4, links(195.2), 0.01);
     EXPECT_NEAR(5, links(200), 0.01);
     EXPECT_NEAR(2.5, links(205), 0.01);
     EXPECT_NEAR(0.05, links(209.9), 0.01);
-    EXPECT_EQ(15, links(281.9)); // landscape
-    EXPECT_NEAR(7.4, links(282.2), 0.01);
+    EXPECT_EQ(15, links(276.9)); // landscape
+    EXPECT_NEAR(9.9, links(277.2), 0.01);
     EXPECT_NEAR(3.5, links(290), 0.01);
 }

@@ -102,6 +102,34 @@ TEST_F(BladtekenenTest, LettersEnPlaatsen)
     EXPECT_NEAR(30 + 4.5 + 4.5 + 0.25, Deel("v2").y, Naast);
 }
 
+/// A list too wide to stand beside the margin: all of it moves to the left.
+TEST_F(BladtekenenTest, EenBredeLijstStaatInHetMiddenMetZijnKop)
+{
+    // RegNr 7.85 and the surname 1.6 + 190: 199.45, which leaves 5.275 on either side.
+    Maak(MaakPrintspelers(1, Tekst(190, 'x')), {Kolom::Achternaam});
+    lijst->subgroepkop = Tekst(300, 'y');
+    Teken(1);
+    EXPECT_NEAR(5.275, Deel("Spelerinformatie").x, Naast);
+    EXPECT_NEAR(5.275, Deel("Groep:  Gr01-Clubleden").x, Naast);
+    EXPECT_NEAR(5.275 + 0.8, Deel("RegNr").x, Naast);
+    EXPECT_NEAR(5.275 + 0.8, Deel("1").x, Naast);
+    EXPECT_NEAR(5.275 + 7.85 + 0.8, Deel("Achternaam").x, Naast);
+    EXPECT_NEAR(5.275 + 7.85 + 0.8, Deel(Tekst(190, 'x')).x, Naast);
+    const auto& kop = vlak.teksten.at(2);
+    const double eind = kop.x + meter.Breedte(kop.letter, kop.tekst);
+    EXPECT_NEAR(5.275, kop.x, Naast);
+    EXPECT_LE(eind, 195.0);
+    EXPECT_GT(eind, 193.0);
+    double links = 210;
+    double rechts = 0;
+    for (const auto& lijn : vlak.lijnen) {
+        links = std::min({links, lijn.x1, lijn.x2});
+        rechts = std::max({rechts, lijn.x1, lijn.x2});
+    }
+    EXPECT_NEAR(5.275, links, Naast);
+    EXPECT_NEAR(210 - 5.275, rechts, Naast);
+}
+
 TEST_F(BladtekenenTest, DeVoetStaatInDeOnderMarge)
 {
     for (const int breed : {10, 220}) {
