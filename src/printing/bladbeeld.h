@@ -47,6 +47,7 @@ class Bladbeeld : public QFrame {
     void zoomVeranderd(int procent);
 
   protected:
+    void paintEvent(QPaintEvent* gebeurtenis) override;
     void resizeEvent(QResizeEvent* gebeurtenis) override;
     void wheelEvent(QWheelEvent* gebeurtenis) override;
 

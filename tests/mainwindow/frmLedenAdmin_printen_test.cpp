@@ -8,6 +8,7 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "mainwindow/vensterproef.h"
+#include "platform/klok.h"
 #include "platform/scherm/meerkeuzelijst.h"
 
 using namespace plexoran;
@@ -83,6 +84,31 @@ TEST_F(PrintenTest, AlleenDeGekozenSubgroep)
     EXPECT_NE(std::string::npos, bladen[0].Tekst().find("Stoffelsen"));  // of B-LIJN
     EXPECT_EQ(std::string::npos, bladen[0].Tekst().find("Wolthuizen"));  // of A-LIJN
     EXPECT_EQ(std::string::npos, bladen[0].Tekst().find("Eikelenboom")); // of C-LIJN
+}
+
+TEST_F(PrintenTest, MeerSubgroepenStaanInDeKopZoalsInDeLijst)
+{
+    ASSERT_NO_FATAL_FAILURE(Start());
+    KiesGroep(1);
+    const Tekst voor = Dagtekening();
+    Print(
+        [](QDialog& keuze) {
+            auto* subgroepen = Vind<Meerkeuzelijst>(keuze, "lstNBBgr");
+            for (const int plaats : {2, 0})
+                subgroepen->Kies(plaats, true);
+            Klik(Vind<QPushButton>(keuze, "cmdSelNone"));
+            Vind<Meerkeuzelijst>(keuze, "lstKeus")->Kies(2, true);
+        },
+        [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
+    const auto bladen = LeesPdf(Bestand());
+    ASSERT_FALSE(bladen.empty());
+    const std::string tekst = bladen[0].Tekst();
+    EXPECT_NE(std::string::npos, tekst.find("Subgroep(en): A-LIJN + C-LIJN RegNr"));
+    EXPECT_NE(std::string::npos, tekst.find("Wolthuizen"));
+    EXPECT_NE(std::string::npos, tekst.find("Eikelenboom"));
+    EXPECT_EQ(std::string::npos, tekst.find("Stoffelsen"));
+    EXPECT_TRUE(tekst.find(voor) != std::string::npos ||
+                tekst.find(Dagtekening()) != std::string::npos);
 }
 
 TEST_F(PrintenTest, InDeImportgroepMetNummer)

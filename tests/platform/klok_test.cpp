@@ -11,6 +11,16 @@ TEST(Klok, DeDatumVanEenStempel)
     EXPECT_EQ("1999-12-31", Datum(946'641'600'999'999'999));
 }
 
+TEST(Klok, DeDagtekeningZoalsMensenHemSchrijven)
+{
+    const auto zoals = [](const Tekst& datum) {
+        return datum.substr(8, 2) + "-" + datum.substr(5, 2) + "-" + datum.substr(0, 4);
+    };
+    const Tekst voor = zoals(Datum(Nu()));
+    const Tekst dag = Dagtekening();
+    EXPECT_TRUE(dag == voor || dag == zoals(Datum(Nu()))) << dag;
+}
+
 TEST(Klok, HetTijdstempelBegintMetDeDatum)
 {
     const Tekst voor = Datum(Nu());

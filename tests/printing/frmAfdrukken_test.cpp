@@ -176,6 +176,19 @@ TEST_F(frmAfdrukkenTest, MeerDanDertigBladen)
     EXPECT_EQ("Blad 30 van 37", bladen.back().Regel(297 - 15 + 3).substr(25));
 }
 
+TEST_F(frmAfdrukkenTest, TeBreedEnTeVeelBladenGeeftBeideWaarschuwingen)
+{
+    wachter.Waarschuwing(
+        QStringLiteral("De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus "
+                       "kolommen!"));
+    wachter.Waarschuwing(
+        QStringLiteral("\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"));
+    ASSERT_NO_FATAL_FAILURE(
+        Open(MaakPrintspelers(2000, Tekst(250, 'x')), {Kolom::Voornaam, Kolom::Achternaam}));
+    EXPECT_EQ(30, Balk()->maximum());
+    EXPECT_EQ("Printformaat: A4-liggend", Label("Label2"));
+}
+
 TEST_F(frmAfdrukkenTest, PreciesDertigBladenGeeftGeenWaarschuwing)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(29 * 55));
@@ -252,6 +265,51 @@ TEST_F(frmAfdrukkenTest, EenBladKiezenMetToetsenOfEenNummer)
     QTest::keyClick(Deel<QLineEdit>("txtBlad"), Qt::Key_Return); // opens no print dialog
     EXPECT_EQ(4, Balk()->value());
     EXPECT_EQ("Print blad 4", Label("Label1"));
+}
+
+/// The keys that turn the page and zoom work from every part of the window.
+TEST_F(frmAfdrukkenTest, DeToetsenWerkenOokInHetVakEnOpDeKnoppen)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    int blad = 1;
+    for (const char* naam : {"txtBlad", "cmdPrinten", "cmdAnnuleren"}) {
+        auto* deel = Deel<QWidget>(naam);
+        deel->setFocus();
+        QTest::keyClick(deel, Qt::Key_PageDown);
+        EXPECT_EQ(++blad, Balk()->value()) << naam;
+        QTest::keyClick(deel, Qt::Key_Plus, Qt::ControlModifier);
+        EXPECT_EQ("110 %", Label("lblZoom")) << naam;
+        QTest::keyClick(deel, Qt::Key_Minus, Qt::ControlModifier);
+        EXPECT_EQ("100 %", Label("lblZoom")) << naam;
+    }
+    QTest::keyClick(Deel<QWidget>("txtBlad"), Qt::Key_PageUp);
+    EXPECT_EQ(3, Balk()->value());
+}
+
+/// It is the page in view that Alt+P prints, also when its number was only just typed.
+TEST_F(frmAfdrukkenTest, EenGetyptNummerTeltVoorHetPrintenMetAltP)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    Schrijf(*venster, "txtBlad", QStringLiteral("3"));
+    VerwachtPdf(wachter, map.Weg() / "lijst.pdf");
+    QTest::keyClick(Deel<QLineEdit>("txtBlad"), Qt::Key_P, Qt::AltModifier);
+    const auto bestand = map.Weg() / "lijst.pdf";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(bestand); }));
+    const auto bladen = LeesPdf(bestand);
+    ASSERT_EQ(1U, bladen.size());
+    EXPECT_EQ("v111", bladen[0].Woord("v111").tekst);
+}
+
+TEST_F(frmAfdrukkenTest, HetBladMetDeAandachtHeeftEenRand)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(2));
+    auto* kader = Deel<QWidget>("picP0");
+    const QColor rand = kader->palette().color(QPalette::Highlight);
+    const auto hoek = [&] { return kader->grab().toImage().pixelColor(0, kader->height() / 2); };
+    kader->setFocus();
+    EXPECT_EQ(rand, hoek());
+    Deel<QPushButton>("cmdPrinten")->setFocus();
+    EXPECT_NE(rand, hoek());
 }
 
 /// A number that is no page cannot be typed or goes when the box is left.
