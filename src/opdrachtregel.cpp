@@ -6,6 +6,10 @@
 
 #include "platform/instellingenwinkel.h"
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 namespace plexoran {
 namespace {
 
@@ -29,8 +33,29 @@ De mappen van de rekenprogramma's worden gelezen uit:
 
 constexpr int VerkeerdGebruik = 2;
 
+/// On Windows a program with windows has no console. The answers go to that of who started it,
+/// unless they were sent elsewhere already.
+void ZorgVoorUitvoer()
+{
+#ifdef _WIN32
+    const auto heeft = [](DWORD stroom) {
+        const HANDLE greep = ::GetStdHandle(stroom);
+        return greep != nullptr && greep != INVALID_HANDLE_VALUE;
+    };
+    const bool uit = heeft(STD_OUTPUT_HANDLE);
+    const bool fout = heeft(STD_ERROR_HANDLE);
+    if ((uit && fout) || ::AttachConsole(ATTACH_PARENT_PROCESS) == 0)
+        return;
+    if (!uit)
+        static_cast<void>(std::freopen("CONOUT$", "w", stdout));
+    if (!fout)
+        static_cast<void>(std::freopen("CONOUT$", "w", stderr));
+#endif
+}
+
 Opdrachten Weiger(const QString& reden)
 {
+    ZorgVoorUitvoer();
     const std::string tekst = reden.toStdString();
     std::fprintf(stderr, "plexoran: %s\nProbeer 'plexoran --help'.\n", tekst.c_str());
     Opdrachten opdrachten;
@@ -40,6 +65,7 @@ Opdrachten Weiger(const QString& reden)
 
 Opdrachten Antwoord(const QString& tekst)
 {
+    ZorgVoorUitvoer();
     std::fputs(tekst.toUtf8().constData(), stdout);
     Opdrachten opdrachten;
     opdrachten.eindstatus = std::fflush(stdout) == 0 ? 0 : 1;
