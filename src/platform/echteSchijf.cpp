@@ -129,7 +129,11 @@ Uitkomst<void> EchteSchijf::MaakMap(const Pad& map)
     const bool gemaakt = fs::create_directory(waar, fout);
     if (!gemaakt && !fout && !fs::is_directory(waar, fout))
         fout = std::make_error_code(std::errc::file_exists);
-    if (fout == std::errc::not_a_directory) // nothing is missing: a file stands in the way
+    // Nothing is missing: a file stands in the way. Windows has no word of its own for it.
+    std::error_code nietTeZien;
+    const bool achterBestand = fout == std::errc::no_such_file_or_directory &&
+                               fs::is_regular_file(waar.parent_path(), nietTeZien);
+    if (fout == std::errc::not_a_directory || achterBestand)
         fout = std::make_error_code(std::errc::file_exists);
     return Uitslag(waar, fout);
 }
