@@ -114,7 +114,7 @@ class KapotTest : public Importproef {
             Druk(dia, "cmdAnnuleren");
         });
         const QString pad =
-            QString::fromStdString((suite.Weg() / "Bestanden/NBB4-Leden" / naam).string());
+            QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
         wachter.Waarschuwing(QString(fout).replace(QStringLiteral("<pad>"), pad));
         QElapsedTimer klok;
         klok.start();
@@ -132,7 +132,7 @@ class KapotTest : public Importproef {
             Druk(dia, "cmdImporteer");
         });
         const QString pad =
-            QString::fromStdString((suite.Weg() / "Bestanden/NBB4-Leden" / naam).string());
+            QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
         wachter.Waarschuwing(QStringLiteral("In '%1' zijn geen leden gevonden.\n")
                                  .arg(QString::fromStdString(naam)) +
                              QString(fout).replace(QStringLiteral("<pad>"), pad));
@@ -388,7 +388,7 @@ TEST_F(KapotTest, EenBestandDatVerdwijntTerwijlHetInDeLijstStaat)
                 Druk(dia, "cmdAnnuleren");
         });
         const QString pad =
-            QString::fromStdString((suite.Weg() / "Bestanden/NBB4-Leden" / naam).string());
+            QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
         wachter.Waarschuwing(
             (vier ? QStringLiteral("In '%1' zijn geen leden gevonden.\n").arg(QLatin1String(naam))
                   : QString()) +
@@ -417,8 +417,7 @@ TEST_F(KapotTest, DeDatabaseVerdwijntTerwijlHaarLijstErStaat)
     wachter.Waarschuwing(
         QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!\r\nHet bestand is er "
                        "niet (meer).\r\nBestand: %1\r\n\r\nUit dit bestand is niets geïmporteerd.")
-            .arg(QString::fromStdString(
-                (suite.Weg() / "Rekenprogramma/data/Members.mdb").string())));
+            .arg(QString::fromStdString(suite.Toonpad("Rekenprogramma/data/Members.mdb"))));
     Importeer();
     AllesIsGebleven();
 }

@@ -117,7 +117,7 @@ TEST_F(frmImportNBBTest, ElkeBronHaaltZijnEigenBestandenUitDeMapVanDeBond)
     ZetExport("AVOND.CSV", "");
     Verwacht([this](QDialog& dia) {
         const std::string map =
-            "Ledenbestanden in de gekozen map: " + (suite.Weg() / "Bestanden/NBB4-Leden").string();
+            "Ledenbestanden in de gekozen map: " + suite.Toonpad("Bestanden/NBB4-Leden");
         KiesOptie(dia, "Option2");
         EXPECT_EQ("Kies een map en selecteer een 'CSV'-bestand",
                   Opschrift(Vind<QPushButton>(dia, "cmdKiesExportMap")));
@@ -218,7 +218,7 @@ TEST_F(frmImportNBBTest, EenMapZonderRechten)
     const QString bericht =
         QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Kies een "
                        "andere map.\n\nBestand: %1\nMelding van het systeem: geen toegang")
-            .arg(QString::fromStdString((suite.Weg() / "Bestanden/NBB4-Leden").string()));
+            .arg(QString::fromStdString(suite.Toonpad("Bestanden/NBB4-Leden")));
     Verwacht([](QDialog& dia) {
         for (const char* optie : {"Option2", "Option3", "Option4"}) {
             KiesOptie(dia, optie);
@@ -250,8 +250,7 @@ TEST_F(frmImportNBBTest, EenGekozenMapZonderRechten)
     Verwacht([this](QDialog& dia) {
         KiesOptie(dia, "Option2");
         Druk(dia, "cmdKiesExportMap");
-        EXPECT_EQ("Ledenbestanden in de gekozen map: " +
-                      (suite.Weg() / "Bestanden/NBB4-Leden").string(),
+        EXPECT_EQ("Ledenbestanden in de gekozen map: " + suite.Toonpad("Bestanden/NBB4-Leden"),
                   Labeltekst(dia, "lblExportMap"));
         EXPECT_EQ((Namen{"Dinsdag 20260901.csv", "Maandag 20260901.csv"}), Bestanden(dia));
         Druk(dia, "cmdAnnuleren");
@@ -430,7 +429,7 @@ TEST_F(frmImportNBBTest, EenOntbrekendeDatabaseNoemtDeGeprobeerdePlaats)
         {.tekst = QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\nDe database met de "
                                  "ledenbestanden is niet gevonden.\nKies eventueel een "
                                  "geëxporteerd ledenbestand.\n\nBestand: ") +
-                  QString::fromStdString((suite.Weg() / "weg/data/Members.mdb").string()),
+                  QString::fromStdString(suite.Toonpad("weg/data/Members.mdb")),
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
     Importeer();

@@ -85,9 +85,14 @@ class Importproef : public Hoofdvensterproef {
         return namen;
     }
     /// The text as it reads, without the mark of a mnemonic.
+    /// Without the marks of the mnemonic and of where a long path may be broken.
     static std::string Labeltekst(const QDialog& dia, const char* label)
     {
-        return Vind<QLabel>(dia, label)->text().remove(QLatin1Char('&')).toStdString();
+        return Vind<QLabel>(dia, label)
+            ->text()
+            .remove(QLatin1Char('&'))
+            .remove(QChar(0x200B))
+            .toStdString();
     }
     /// Puts an export in the folder that is looked in first.
     void ZetExport(const std::string& naam, const std::string& inhoud) const

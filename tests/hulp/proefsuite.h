@@ -20,6 +20,11 @@ class Proefsuite {
     /// As `Mappen.ini` writes it.
     [[nodiscard]] Pad AlsPad() const { return map_.AlsPad(); }
     [[nodiscard]] Pad MappenIni() const { return Samen(map_.AlsPad(), "Mappen.ini"); }
+    /// As a message shows it.
+    [[nodiscard]] std::string Toonpad(const std::filesystem::path& naam) const
+    {
+        return map_.Toonpad(naam);
+    }
 
     void Zet(const std::filesystem::path& naam, const std::string& inhoud) const
     {

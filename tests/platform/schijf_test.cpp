@@ -254,9 +254,14 @@ TEST(EchteSchijfTest, TeLangeNaamGeweigerd)
     const TijdelijkeMap map;
     EchteSchijf schijf;
     const Pad lang = Samen(map.AlsPad(), Tekst(300, 'a'));
+#ifdef _WIN32 // which says that there is no such file, and no more
+    EXPECT_FALSE(schijf.LeesBestand(lang));
+    EXPECT_FALSE(SchrijfHeel(schijf, lang, "x"));
+#else
     EXPECT_EQ(SoortVan(schijf.Soort(lang)), Foutsoort::Geweigerd);
     EXPECT_EQ(SoortVan(schijf.LeesBestand(lang)), Foutsoort::Geweigerd);
     EXPECT_EQ(SoortVan(SchrijfHeel(schijf, lang, "x")), Foutsoort::Geweigerd);
+#endif
     const Pad kanNet = Samen(map.AlsPad(), Tekst(200, 'a'));
     EXPECT_TRUE(SchrijfHeel(schijf, kanNet, "x"));
     EXPECT_EQ(schijf.LeesBestand(kanNet), "x");
@@ -280,7 +285,7 @@ TEST(EchteSchijfTest, FoutNoemtBestandEnReden)
     const TijdelijkeMap map;
     const auto gelezen = schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9"));
     ASSERT_FALSE(gelezen);
-    EXPECT_EQ(gelezen.error().bestand, (map.Weg() / "Ren\xC3\xA9").string());
+    EXPECT_EQ(gelezen.error().bestand, map.Toonpad(u8"René"));
     EXPECT_EQ(gelezen.error().systeem,
               std::make_error_code(std::errc::no_such_file_or_directory).message());
     EXPECT_EQ(schijf.Toonpad(Samen(map.AlsPad(), "Ren\xE9")), gelezen.error().bestand);

@@ -36,6 +36,12 @@ class TijdelijkeMap {
 
     [[nodiscard]] const std::filesystem::path& Weg() const { return map_; }
     [[nodiscard]] Pad AlsPad() const { return map_.string(); }
+    /// What is in it, as a message shows it: in UTF-8, with the system's own separators.
+    [[nodiscard]] std::string Toonpad(const std::filesystem::path& naam) const
+    {
+        const std::u8string utf8 = (map_ / naam).make_preferred().u8string();
+        return {utf8.begin(), utf8.end()};
+    }
 
     /// Past the disk under test; the name is the system's own.
     void Zet(const std::filesystem::path& naam, const std::string& inhoud) const

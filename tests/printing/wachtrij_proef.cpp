@@ -98,7 +98,7 @@ class WachtrijProef : public testing::Test {
                     continue;
                 try {
                     auto bladen = LeesPdf(bestand);
-                    std::printf("uit de wachtrij: %s\n", bestand.c_str());
+                    std::printf("uit de wachtrij: %s\n", bestand.string().c_str());
                     return bladen;
                 } catch (const std::exception&) {
                     continue; // still being written

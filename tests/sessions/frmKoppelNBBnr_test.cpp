@@ -365,7 +365,7 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
     ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100097")));
     const std::size_t regels = Regels("lstSpelers").size();
     const auto pad = [&](const std::string& rest) {
-        return QString::fromStdString((suite.Weg() / Com(rest)).string());
+        return QString::fromStdString(suite.Toonpad(Com(rest)));
     };
     schijf.FaalBij(8); // the second file is being written
     VerwachtVraag();
