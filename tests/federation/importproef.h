@@ -84,8 +84,8 @@ class Importproef : public Hoofdvensterproef {
             namen.push_back(Lijst(dia)->Regel(i).toStdString());
         return namen;
     }
-    /// The text as it reads, without the mark of a mnemonic.
-    /// Without the marks of the mnemonic and of where a long path may be broken.
+    /// The text as it reads, without the marks of the mnemonic and of where a long path may be
+    /// broken.
     static std::string Labeltekst(const QDialog& dia, const char* label)
     {
         return Vind<QLabel>(dia, label)
