@@ -20,10 +20,9 @@ diaRekProgkeus::diaRekProgkeus(QWidget* ouder) : QDialog(ouder)
 
     auto* Frame1 = new QGroupBox(this);
     Noem(Frame1, QStringLiteral("Frame1"), QStringLiteral("Rekenprogramma"));
-    Option1 = new QRadioButton(MetSneltoets(QStringLiteral("NBB-Rekenprogamma"), u'N'), Frame1);
-    Noem(Option1, QStringLiteral("Option1"));
-    Option2 = new QRadioButton(MetSneltoets(QStringLiteral("Bridge-It"), u'B'), Frame1);
-    Noem(Option2, QStringLiteral("Option2"));
+    Option1 =
+        MaakOptie(QStringLiteral("Option1"), QStringLiteral("NBB-Rekenprogamma"), u'N', Frame1);
+    Option2 = MaakOptie(QStringLiteral("Option2"), QStringLiteral("Bridge-It"), u'B', Frame1);
     cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
     cmdOK->setDefault(true);
     cmdOK->setEnabled(false);

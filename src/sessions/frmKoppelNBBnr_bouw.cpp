@@ -90,10 +90,9 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
 {
     Frame1 = new QGroupBox(QStringLiteral("Wijziging van een NBBnr"), this);
     Noem(Frame1, QStringLiteral("Frame1"));
-    Option1 = new QRadioButton(MetSneltoets(QStringLiteral("In losse Zittingen"), u't'), Frame1);
-    Noem(Option1, QStringLiteral("Option1"));
-    Option2 = new QRadioButton(MetSneltoets(QStringLiteral("In Competities"), u'C'), Frame1);
-    Noem(Option2, QStringLiteral("Option2"));
+    Option1 =
+        MaakOptie(QStringLiteral("Option1"), QStringLiteral("In losse Zittingen"), u't', Frame1);
+    Option2 = MaakOptie(QStringLiteral("Option2"), QStringLiteral("In Competities"), u'C', Frame1);
     Label4 = MaakLabel(QStringLiteral("Label4"), QString(), Frame1);
     cmbC = new QComboBox(Frame1);
     Noem(cmbC, QStringLiteral("cmbC"));

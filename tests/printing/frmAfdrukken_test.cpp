@@ -420,9 +420,40 @@ TEST_F(frmAfdrukkenTest, HetBladVerschuiftInZijnKader)
     EXPECT_NEAR(kader->width() - rand, blad->geometry().right() + 1, 1);
 }
 
+/// Three players with first name and surname, read back from a PDF: `links` and `boven` are where
+/// the list begins on the sheet.
+struct Lijstplaatsen {
+    double s;
+    double links;
+    double boven;
+    Letterkast kast{};
+    Letter vet{.punten = 10 * s, .vet = true};
+    Letter gewoon{.punten = 10 * s};
+    double p = 0.8 * s;
+    double x1 = 2 * p + kast.Breedte(vet, "RegNr");
+    double x2 = x1 + 2 * p + kast.Breedte(vet, "Voornaam");
+
+    void VergelijkMet(const Pdfblad& blad) const
+    {
+        EXPECT_NEAR(links, blad.Woord("Spelerinformatie").links, Tiende);
+        EXPECT_NEAR(boven, blad.Woord("Spelerinformatie").boven, Tiende);
+        EXPECT_NEAR(links + p, blad.Woord("RegNr").links, Tiende);
+        EXPECT_NEAR(links + p + x1, blad.Woord("Voornaam").links, Tiende);
+        EXPECT_NEAR(links + p + x2, blad.Woord("Achternaam").links, Tiende);
+        const double titel = boven + 15 * s + (4.5 * s - kast.Hoogte(vet)) / 2;
+        EXPECT_NEAR(titel, blad.Woord("RegNr").boven, Tiende);
+        for (int rij = 1; rij <= 3; ++rij) {
+            const auto& naam = blad.Woord("v" + std::to_string(rij));
+            EXPECT_NEAR(links + p + x1, naam.links, Tiende);
+            EXPECT_NEAR(boven + 19.5 * s + (rij - 1) * 4.5 * s +
+                            (4.5 * s - kast.Hoogte(gewoon)) / 2,
+                        naam.boven, Tiende);
+        }
+    }
+};
+
 TEST_F(frmAfdrukkenTest, DePdfHeeftElkeTekstOpZijnTiendeMillimeter)
 {
-    const Letterkast kast;
     for (const float schaal : {1.0F, 0.7F, 1.3F}) {
         ASSERT_NO_FATAL_FAILURE(OpenRijen(3, schaal));
         const auto bladen = Print();
@@ -430,35 +461,18 @@ TEST_F(frmAfdrukkenTest, DePdfHeeftElkeTekstOpZijnTiendeMillimeter)
         const Pdfblad& blad = bladen[0];
         EXPECT_NEAR(210, blad.breed, Tiende);
         EXPECT_NEAR(297, blad.hoog, Tiende);
-        const auto s = static_cast<double>(schaal);
-        const Letter vet{.punten = 10 * s, .vet = true};
-        const Letter gewoon{.punten = 10 * s};
-        const double p = 0.8 * s;
-        const double x1 = 2 * p + kast.Breedte(vet, "RegNr");
-        const double x2 = x1 + 2 * p + kast.Breedte(vet, "Voornaam");
-        EXPECT_NEAR(15, blad.Woord("Spelerinformatie").links, Tiende);
-        EXPECT_NEAR(15, blad.Woord("Spelerinformatie").boven, Tiende);
-        EXPECT_NEAR(15 + kast.Breedte({.punten = 14 * s}, "Spelerinformatie"),
+        const Lijstplaatsen plaatsen{.s = static_cast<double>(schaal), .links = 15, .boven = 15};
+        plaatsen.VergelijkMet(blad);
+        EXPECT_NEAR(15 + plaatsen.kast.Breedte({.punten = 14 * plaatsen.s}, "Spelerinformatie"),
                     blad.Woord("Spelerinformatie").rechts, Tiende);
-        EXPECT_NEAR(15 + p, blad.Woord("RegNr").links, Tiende);
-        EXPECT_NEAR(15 + p + x1, blad.Woord("Voornaam").links, Tiende);
-        EXPECT_NEAR(15 + p + x2, blad.Woord("Achternaam").links, Tiende);
-        const double titel = 15 + 15 * s + (4.5 * s - kast.Hoogte(vet)) / 2;
-        EXPECT_NEAR(titel, blad.Woord("RegNr").boven, Tiende);
-        for (int rij = 1; rij <= 3; ++rij) {
-            const auto& naam = blad.Woord("v" + std::to_string(rij));
-            EXPECT_NEAR(15 + p + x1, naam.links, Tiende);
-            EXPECT_NEAR(15 + 19.5 * s + (rij - 1) * 4.5 * s + (4.5 * s - kast.Hoogte(gewoon)) / 2,
-                        naam.boven, Tiende);
-        }
-        EXPECT_NEAR(15 + p + x2 + kast.Breedte(gewoon, "Bos"), blad.Woord("Bos").rechts, Tiende);
+        EXPECT_NEAR(15 + plaatsen.p + plaatsen.x2 + plaatsen.kast.Breedte(plaatsen.gewoon, "Bos"),
+                    blad.Woord("Bos").rechts, Tiende);
     }
 }
 
 /// A list between the margins, and one that is too wide for them and stands in the middle.
 TEST_F(frmAfdrukkenTest, OokLiggendHeeftElkeTekstZijnTiendeMillimeter)
 {
-    const Letterkast kast;
     for (const auto& [schaal, letters] :
          {std::pair<float, std::size_t>(1.0F, 130), {0.8F, 170}, {1.0F, 146}}) {
         const Tekst lang(letters, 'x');
@@ -469,31 +483,18 @@ TEST_F(frmAfdrukkenTest, OokLiggendHeeftElkeTekstZijnTiendeMillimeter)
         const Pdfblad& blad = bladen[0];
         EXPECT_NEAR(297, blad.breed, Tiende);
         EXPECT_NEAR(210, blad.hoog, Tiende);
-        const auto s = static_cast<double>(schaal);
-        const Letter vet{.punten = 10 * s, .vet = true};
-        const Letter gewoon{.punten = 10 * s};
-        const double p = 0.8 * s;
-        const double x1 = 2 * p + kast.Breedte(vet, "RegNr");
-        const double x2 = x1 + 2 * p + kast.Breedte(vet, "Voornaam");
-        const double x3 = x2 + 2 * p + kast.Breedte(gewoon, lang);
-        const double links = letters == 146 ? (297 - x3) / 2 : 15;
+        Lijstplaatsen plaatsen{.s = static_cast<double>(schaal), .links = 15, .boven = 10};
+        const double p = plaatsen.p;
+        const double x2 = plaatsen.x2;
+        const double x3 = x2 + 2 * p + plaatsen.kast.Breedte(plaatsen.gewoon, lang);
+        if (letters == 146)
+            plaatsen.links = (297 - x3) / 2;
+        const double links = plaatsen.links;
         EXPECT_LT(links, 15.1);
-        EXPECT_NEAR(links, blad.Woord("Spelerinformatie").links, Tiende);
-        EXPECT_NEAR(10, blad.Woord("Spelerinformatie").boven, Tiende);
-        EXPECT_NEAR(links + p, blad.Woord("RegNr").links, Tiende);
-        EXPECT_NEAR(links + p + x1, blad.Woord("Voornaam").links, Tiende);
-        EXPECT_NEAR(links + p + x2, blad.Woord("Achternaam").links, Tiende);
-        EXPECT_NEAR(10 + 15 * s + (4.5 * s - kast.Hoogte(vet)) / 2, blad.Woord("RegNr").boven,
-                    Tiende);
-        for (int rij = 1; rij <= 3; ++rij) {
-            const auto& naam = blad.Woord("v" + std::to_string(rij));
-            EXPECT_NEAR(links + p + x1, naam.links, Tiende);
-            EXPECT_NEAR(10 + 19.5 * s + (rij - 1) * 4.5 * s + (4.5 * s - kast.Hoogte(gewoon)) / 2,
-                        naam.boven, Tiende);
-        }
+        plaatsen.VergelijkMet(blad);
         EXPECT_NEAR(links + p + x2, blad.Woord(lang).links, Tiende);
         EXPECT_NEAR(links + x3 - p, blad.Woord(lang).rechts, Tiende);
-        EXPECT_NEAR(links + x3, RechterLijn(10 + 19.5 * s + 1), Tiende);
+        EXPECT_NEAR(links + x3, RechterLijn(10 + 19.5 * plaatsen.s + 1), Tiende);
     }
 }
 

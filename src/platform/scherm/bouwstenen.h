@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QTextDocument>
 
@@ -50,6 +51,14 @@ class Knop : public QPushButton {
     Noem(knop, naam);
     knop->setAutoDefault(false);
     return knop;
+}
+
+[[nodiscard]] inline QRadioButton* MaakOptie(const QString& naam, const QString& tekst,
+                                             char16_t letter, QWidget* ouder)
+{
+    auto* optie = new QRadioButton(MetSneltoets(tekst, letter), ouder);
+    Noem(optie, naam);
+    return optie;
 }
 
 [[nodiscard]] inline QLabel* MaakLabel(const QString& naam, const QString& tekst, QWidget* ouder)

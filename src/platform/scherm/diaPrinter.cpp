@@ -20,13 +20,6 @@ QSpinBox* MaakBladnummer(const QString& naam, const QString& gesproken, int blad
     return nummer;
 }
 
-QRadioButton* MaakOptie(const QString& naam, const QString& tekst, char16_t letter, QWidget* ouder)
-{
-    auto* optie = new QRadioButton(MetSneltoets(tekst, letter), ouder);
-    Noem(optie, naam);
-    return optie;
-}
-
 } // namespace
 
 diaPrinter::diaPrinter(const Printvraag& vraag, const Printeraanbod& aanbod, QWidget* ouder)

@@ -56,6 +56,14 @@ void VerbergLosseBladen(const QPrintDialog& dialoog)
     }
 }
 
+Printeraanbod HuidigAanbod()
+{
+    if (DialoogVanQt)
+        return {.pdfInDialoog = true};
+    return {.printers = QPrinterInfo::availablePrinterNames(),
+            .standaard = QPrinterInfo::defaultPrinterName()};
+}
+
 /// Printers that make a PDF file say so by their name.
 bool MaaktPdf(const QStringList& printers)
 {
@@ -152,14 +160,6 @@ Uitkomst<std::unique_ptr<Printtaak>> Printer::Begin(Papierstand stand, const QSt
     if (!printer_)
         return MaakPdfTaak(*schijf_, bestand_, stand, titel);
     return MaakPrintertaak(printer_, stand, titel);
-}
-
-Printeraanbod HuidigAanbod()
-{
-    if (DialoogVanQt)
-        return {.pdfInDialoog = true};
-    return {.printers = QPrinterInfo::availablePrinterNames(),
-            .standaard = QPrinterInfo::defaultPrinterName()};
 }
 
 std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)

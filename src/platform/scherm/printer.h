@@ -61,10 +61,9 @@ struct Printeraanbod {
     QStringList printers{};    ///< by the names that the system gives them
     QString standaard{};       ///< one of them, or empty
 };
-[[nodiscard]] Printeraanbod HuidigAanbod();
 
 /// The print dialog of the system; nothing when the user cancels it. Where that has neither a PDF
-/// file nor a printer that makes one, `diaPrinter` comes before it.
+/// file nor a printer that makes one, `diaPrinter` comes before it. `aanbod` is what there is now.
 [[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
                                                  const Printeraanbod& aanbod, QWidget* ouder);
 [[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
