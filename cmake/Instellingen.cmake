@@ -21,3 +21,21 @@ target_compile_definitions(plexoran_instellingen INTERFACE QT_NO_CAST_FROM_BYTEA
 if(PLEXORAN_FUZZ)
   target_compile_options(plexoran_instellingen INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+
+# What is included again and again, compiled once per kind of target. Off outside the daily build, so
+# that a missing include shows there.
+set(PLEXORAN_PCH_STD
+    <algorithm> <array> <cstdint> <filesystem> <functional> <map> <memory> <optional> <span> <string>
+    <string_view> <unordered_map> <utility> <vector> <tl/expected.hpp>)
+function(plexoran_pch doel)
+  if(PLEXORAN_SNEL)
+    target_precompile_headers(${doel} PRIVATE ${PLEXORAN_PCH_STD} ${ARGN})
+  endif()
+endfunction()
+
+if(PLEXORAN_SNEL)
+  find_program(PLEXORAN_LLD ld.lld)
+  if(PLEXORAN_LLD)
+    add_link_options(-fuse-ld=lld)
+  endif()
+endif()
