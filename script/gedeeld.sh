@@ -129,7 +129,8 @@ teken_vensters() {
         HOME="$klad/eigen" XDG_CONFIG_HOME="$klad/suite/Instellingen" XDG_DATA_HOME="$klad/eigen" \
         XDG_RUNTIME_DIR="$klad/eigen" TMPDIR="$klad/eigen" \
         QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 QT_SCALE_FACTOR="$schaal" \
-        "$programma" --mappen "$klad/suite/Mappen.ini" --afbeeldingen "$klad/beeld" || status=$?
+        "$programma" --mappen "$klad/suite/Mappen.ini" --afbeeldingen "$klad/beeld" \
+        --slot "$klad/slot" || status=$?
     if ((status == 0)) && [[ -s $klad/beeld/frmLedenAdmin.png ]]; then
         mkdir -p "$doel"
         cp "$klad/beeld"/*.png "$doel/"

@@ -25,7 +25,7 @@ int main(int argc, char** argv)
     RichtIn(programma);
 
     EchteSchijf schijf;
-    Exemplaarslot slot;
+    Exemplaarslot slot(opdrachten.slot.empty() ? Slotbestand() : opdrachten.slot);
     const auto winkel = MaakInstellingenwinkel(schijf);
     Administratie administratie{.schijf = schijf, .winkel = *winkel};
     frmLedenAdmin venster(administratie);

@@ -22,6 +22,7 @@ Opties:
                         bestand "Mappen.ini" bij het programma
   --afbeeldingen MAP    bewaar van elk venster een afbeelding (PNG) in deze map
                         en stop
+  --slot BESTAND        kijk alleen met dit bestand of het programma al loopt
   --help                toon deze uitleg
   --version             toon de versie
 
@@ -83,10 +84,11 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
     const QCommandLineOption mappen(QStringLiteral("mappen"), {}, QStringLiteral("BESTAND"));
     const QCommandLineOption afbeeldingen(QStringLiteral("afbeeldingen"), {},
                                           QStringLiteral("MAP"));
+    const QCommandLineOption slot(QStringLiteral("slot"), {}, QStringLiteral("BESTAND"));
     const QCommandLineOption help(QStringLiteral("help"));
     const QCommandLineOption versie(QStringLiteral("version"));
     QCommandLineParser lezer;
-    lezer.addOptions({mappen, afbeeldingen, help, versie});
+    lezer.addOptions({mappen, afbeeldingen, slot, help, versie});
     const bool begrepen = lezer.parse(woorden);
 
     if (!lezer.unknownOptionNames().isEmpty())
@@ -101,13 +103,14 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
         return Antwoord(QString::fromUtf8(gebruik).arg(QString::fromStdString(Winkelplaats())));
     if (lezer.isSet(versie))
         return Antwoord(QStringLiteral("Plexoran " PLEXORAN_VERSIE "\n"));
-    for (const auto& optie : {mappen, afbeeldingen}) {
+    for (const auto& optie : {mappen, afbeeldingen, slot}) {
         if (lezer.isSet(optie) && lezer.value(optie).isEmpty())
             return Weiger(
                 QStringLiteral("bij --%1 ontbreekt haar waarde").arg(optie.names().constFirst()));
     }
     return {.mappenIni = lezer.value(mappen).toStdString(),
             .afbeeldingen = lezer.value(afbeeldingen).toStdString(),
+            .slot = lezer.value(slot).toStdU16String(),
             .eindstatus = std::nullopt};
 }
 

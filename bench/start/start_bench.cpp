@@ -3,8 +3,7 @@
 //     start_bench RUNS REPORTER PROGRAM_A PROGRAM_B [arguments for both...]
 //
 // REPORTER is the file of `verfmelder`. Prints a line for each program: its path, the median, the
-// lowest and the highest time in milliseconds, separated by tabs. Locks of the programs come in a
-// folder of their own, empty before every run.
+// lowest and the highest time in milliseconds, separated by tabs.
 #include "start/verfmelder.h"
 
 #include <algorithm>
@@ -13,7 +12,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <filesystem>
 #include <optional>
 #include <poll.h>
 #include <string>
@@ -25,8 +23,6 @@ using plexoran::Verfmelding;
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr int Wachttijd = 30'000;   // milliseconds
 constexpr int Opwarmen = 3;         // runs that only fill the page cache
 constexpr int SmalsteVenster = 900; // anything smaller is a message box, not the main window
@@ -37,31 +33,8 @@ constexpr int SmalsteVenster = 900; // anything smaller is a message box, not th
     std::exit(EXIT_FAILURE);
 }
 
-/// A folder for the locks; gone at the end of the program, however it ends.
-class Slotmap {
-  public:
-    Slotmap() : pad_((fs::temp_directory_path() / "plexoran-start-XXXXXX").string())
-    {
-        if (mkdtemp(pad_.data()) == nullptr)
-            BreekAf("er kan geen map worden gemaakt: " + pad_);
-    }
-    Slotmap(const Slotmap&) = delete;
-    Slotmap& operator=(const Slotmap&) = delete;
-    ~Slotmap()
-    {
-        std::error_code fout;
-        fs::remove_all(pad_, fout);
-    }
-
-    [[nodiscard]] const std::string& Pad() const { return pad_; }
-
-  private:
-    std::string pad_;
-};
-
 struct Opdracht {
     std::string melder;
-    std::string slotmap;
     std::vector<char*> argumenten; ///< closed by a null pointer; the program comes in front
 };
 
@@ -82,7 +55,6 @@ std::int64_t Nu()
     std::vector<char*> argumenten{programma};
     argumenten.insert(argumenten.end(), opdracht.argumenten.begin(), opdracht.argumenten.end());
     setenv("LD_PRELOAD", opdracht.melder.c_str(), 1);
-    setenv("XDG_RUNTIME_DIR", opdracht.slotmap.c_str(), 1);
     setenv(plexoran::Pijpvariabele, std::to_string(pijp).c_str(), 1);
     execv(programma, argumenten.data());
     _exit(EXIT_FAILURE);
@@ -102,8 +74,6 @@ std::optional<Verfmelding> WachtOpMelding(int pijp)
 /// Milliseconds from before the start of the process until after its first paint.
 double MeetStart(const Opdracht& opdracht, char* programma)
 {
-    for (const auto& slot : fs::directory_iterator(opdracht.slotmap))
-        fs::remove_all(slot);
     std::array<int, 2> pijp{};
     if (pipe(pijp.data()) != 0)
         BreekAf("er is geen pijp");
@@ -145,9 +115,7 @@ int main(int argc, char** argv)
     const int keren = argc >= 5 ? std::atoi(argv[1]) : 0;
     if (keren < 1)
         BreekAf("gebruik: start_bench KEREN MELDER PROGRAMMA PROGRAMMA [argumenten...]");
-    static const Slotmap slotmap; // static, so that `exit` clears it away too
-    const Opdracht opdracht{
-        .melder = argv[2], .slotmap = slotmap.Pad(), .argumenten = {argv + 5, argv + argc + 1}};
+    const Opdracht opdracht{.melder = argv[2], .argumenten = {argv + 5, argv + argc + 1}};
     std::array<Kandidaat, 2> kandidaten{Kandidaat{argv[3], {}}, Kandidaat{argv[4], {}}};
 
     for (int keer = -Opwarmen; keer < keren; ++keer) {

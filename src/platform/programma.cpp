@@ -2,13 +2,18 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QLockFile>
 #include <QProcess>
 #include <QStandardPaths>
 
-#include <filesystem>
+#include <cerrno>
 
-#ifndef _WIN32
+#include <fcntl.h>
+#include <sys/stat.h>
+#ifdef _WIN32
+#include <io.h>
+#include <sys/locking.h>
+#else
+#include <sys/file.h>
 #include <unistd.h>
 #endif
 
@@ -27,19 +32,44 @@ QString NaarNaam(const std::filesystem::path& pad)
     return QString::fromStdU16String(pad.u16string());
 }
 
-/// A file of this user and this computer alone, so that a lock of another computer never stands
-/// in the way.
-QString Slotbestand()
-{
 #ifdef _WIN32
-    return QDir::tempPath() + QStringLiteral("/plexoran.lock"); // the user's own
-#else
-    if (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
-        return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-               QStringLiteral("/plexoran.lock");
-    return QDir::tempPath() + QStringLiteral("/plexoran-%1.lock").arg(geteuid());
-#endif
+
+int Open(const std::filesystem::path& bestand)
+{
+    return ::_wopen(bestand.c_str(), _O_RDWR | _O_CREAT | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
 }
+
+bool HoudtEenAnder(int greep)
+{
+    return ::_locking(greep, _LK_NBLCK, 1) == -1 && errno == EACCES;
+}
+
+void Sluit(int greep)
+{
+    ::_close(greep);
+}
+
+#else
+
+int Open(const std::filesystem::path& bestand)
+{
+    return ::open(bestand.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
+}
+
+/// Everyone may make files in the folder; one that somebody else put there says nothing.
+bool HoudtEenAnder(int greep)
+{
+    struct stat bestand = {};
+    return ::fstat(greep, &bestand) == 0 && bestand.st_uid == ::geteuid() &&
+           ::flock(greep, LOCK_EX | LOCK_NB) == -1 && errno == EWOULDBLOCK;
+}
+
+void Sluit(int greep)
+{
+    ::close(greep);
+}
+
+#endif
 
 } // namespace
 
@@ -79,22 +109,35 @@ Uitkomst<void> StartProgramma(Schijf& schijf, const Pad& pad)
     return tl::unexpected(fout);
 }
 
-struct Exemplaarslot::Binnenkant {
-    QLockFile slot{Slotbestand()};
-};
+std::filesystem::path Slotbestand()
+{
+#ifdef _WIN32
+    return NaarPad(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) /
+           "plexoran.lock";
+#else
+    return "/tmp/plexoran-" + std::to_string(::geteuid()) + ".lock";
+#endif
+}
 
-Exemplaarslot::Exemplaarslot() = default;
-Exemplaarslot::~Exemplaarslot() = default;
+Exemplaarslot::~Exemplaarslot()
+{
+    if (greep_ != -1)
+        Sluit(greep_);
+}
 
 bool Exemplaarslot::Neem()
 {
-    if (binnenkant_ && binnenkant_->slot.isLocked())
+    if (greep_ != -1)
         return true;
-    binnenkant_ = std::make_unique<Binnenkant>();
-    QLockFile& slot = binnenkant_->slot;
-    // A lock never grows old; that of a process that is gone is taken over at once.
-    slot.setStaleLockTime(0);
-    return slot.tryLock(0) || slot.error() != QLockFile::LockFailedError;
+    const int greep = Open(bestand_);
+    if (greep == -1)
+        return true;
+    if (HoudtEenAnder(greep)) {
+        Sluit(greep);
+        return false;
+    }
+    greep_ = greep;
+    return true;
 }
 
 } // namespace plexoran

@@ -1,7 +1,7 @@
 // The running program and other programs.
 #pragma once
 
-#include <memory>
+#include <filesystem>
 
 #include "platform/schijf.h"
 
@@ -21,23 +21,27 @@ void ZetWerkmap(const Pad& map);
 /// is no such file.
 [[nodiscard]] Uitkomst<void> StartProgramma(Schijf& schijf, const Pad& pad);
 
-/// Held by the one instance of the program that a user may run. The system gives it up when the
-/// process ends, however it ends.
+/// The file by which the starts of this user on this computer find each other. The system itself
+/// tells the place: two starts meet whatever their environments say.
+[[nodiscard]] std::filesystem::path Slotbestand();
+
+/// Held by the one instance of the program that a user may run. It is the system's own lock on a
+/// file, which ends with the process, however that ends; what the file holds means nothing.
 class Exemplaarslot {
   public:
-    Exemplaarslot();
+    explicit Exemplaarslot(std::filesystem::path bestand) : bestand_(std::move(bestand)) {}
     Exemplaarslot(const Exemplaarslot&) = delete;
     Exemplaarslot& operator=(const Exemplaarslot&) = delete;
     ~Exemplaarslot();
 
-    /// Whether no other instance of this user holds it; true when this one does. Where no lock can
-    /// be kept at all (a full disk, a missing folder) the program may start: refusing it would be
-    /// the greater harm.
+    /// Whether no other instance holds it; true when this one does. Where no lock can be kept at
+    /// all (a full disk, a folder in its place) the program may start: refusing it would be the
+    /// greater harm.
     [[nodiscard]] bool Neem();
 
   private:
-    struct Binnenkant;
-    std::unique_ptr<Binnenkant> binnenkant_;
+    std::filesystem::path bestand_;
+    int greep_ = -1;
 };
 
 } // namespace plexoran
