@@ -6,7 +6,6 @@
 #include "platform/getal.h"
 #include "platform/heelschrijven.h"
 #include "platform/items.h"
-#include "platform/klok.h"
 #include "platform/regels.h"
 #include "platform/tekstorde.h"
 #include "sessions/sessiemappen.h"
@@ -251,8 +250,7 @@ Uitkomst<void> Koppelverslag::Schrijf(Tekstblik tekst)
         return tl::unexpected(oud.error());
     oud_ = std::move(*oud);
     aangeraakt_ = true;
-    for (const Tekstblik naam : {Verslagnaam, Spelersnaam})
-        RuimTijdelijkeOp(schijf_, map_, naam, Nu());
+    RuimTijdelijkeOp(schijf_, map_, Verslagnaam);
     return SchrijfHeel(schijf_, pad_, tekst);
 }
 

@@ -2,10 +2,12 @@
 #include "federation/diaRekProgkeus.h"
 #include "federation/zoekrekenprogramma.h"
 #include "mainwindow/frmLedenAdmin.h"
+#include "pairs/parenbestand.h"
+#include "pairs/parencsv.h"
 #include "platform/heelschrijven.h"
-#include "platform/klok.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
+#include "register/reservekopie.h"
 
 namespace plexoran {
 namespace {
@@ -101,10 +103,15 @@ void frmLedenAdmin::MaakLedenmapBijStart()
 void frmLedenAdmin::RuimRestenOp()
 {
     const Mappen& mappen = administratie_.mappen;
-    for (const char* naam : {"RVDspelers.txt", "RVDGroepen.txt"})
-        RuimTijdelijkeOp(administratie_.schijf, mappen.SPEMAP, naam, Nu());
-    if (!mappen.ADMMAP.empty())
-        RuimTijdelijkeOp(administratie_.schijf, mappen.ADMMAP, "Plexo.ini", Nu());
+    for (const auto& [map, naam] : std::initializer_list<std::pair<Pad, const char*>>{
+             {mappen.SPEMAP, "RVDspelers.txt"},
+             {mappen.SPEMAP, "RVDGroepen.txt"},
+             {Kopiemap(mappen.SPEMAP), "RVDspelers.txt"},
+             {Parenmap(mappen), "RVDparen.txt"},
+             {mappen.ADMMAP, "Plexo.ini"},
+             {mappen.RVDMAP.empty() ? Pad() : ParenCSVMap(mappen), "RVDparenCSV1.csv"},
+             {administratie_.programmamap, "Temp-NBBXMLtoCSV.csv"}})
+        RuimTijdelijkeOp(administratie_.schijf, map, naam);
 }
 
 void frmLedenAdmin::LeesInstellingenBijStart()

@@ -5,8 +5,6 @@
 #include <QGuiApplication>
 
 #include "help/frmUitleg.h"
-#include "platform/heelschrijven.h"
-#include "platform/klok.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 
@@ -69,7 +67,6 @@ void frmParenOnderhoud::KiesSubgroep()
 /// The pairs that were shown before are not saved.
 void frmParenOnderhoud::LaadSubgroep(const Tekst& keuze)
 {
-    RuimTijdelijkeOp(administratie_.schijf, Parenmap(administratie_.mappen), keuze + ".txt", Nu());
     auto lezing = LeesParenbestand(administratie_.schijf, administratie_.mappen, keuze);
     const std::optional<Fout> fout = lezing ? std::nullopt : std::optional(lezing.error());
     const Parenlezing gelezen = lezing.value_or(Parenlezing());

@@ -8,7 +8,15 @@
 namespace plexoran {
 namespace {
 
-constexpr Tekstblik kenmerk = ".~";
+/// Between the name of the file and digits. Nobody else's files are named so.
+constexpr Tekstblik kenmerk = ".~plexoran";
+
+bool IsTijdelijk(Tekstblik naam)
+{
+    const auto plaats = naam.rfind(kenmerk);
+    return plaats != Tekstblik::npos && plaats + kenmerk.size() < naam.size() &&
+           naam.find_first_not_of("0123456789", plaats + kenmerk.size()) == Tekstblik::npos;
+}
 
 /// Digits that no other save uses at this moment; those of a killed program may come back.
 Tekst UniekNummer()
@@ -120,22 +128,19 @@ Uitkomst<void> SchrijfVluchtig(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
 
 void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu)
 {
+    if (map.empty())
+        return;
     // A save of a link works in the folder of what it leads to.
     const auto doel = schijf.Doel(Samen(map, naam));
     if (!doel)
         return;
-    const auto streep = doel->find_last_of("\\/");
-    const Pad doelmap = doel->substr(0, streep);
-    const Tekst begin = Hoofdletters(Tekstblik(*doel).substr(streep + 1)) + Tekst(kenmerk);
+    const Pad doelmap = doel->substr(0, doel->find_last_of("\\/"));
     const auto bestanden = schijf.Bestanden(doelmap);
     if (!bestanden)
         return;
     constexpr std::int64_t uur = 3'600'000'000'000;
     for (const Tekst& bestand : *bestanden) {
-        const bool tijdelijk = Hoofdletters(bestand).starts_with(begin) &&
-                               bestand.size() > begin.size() &&
-                               bestand.find_first_not_of("0123456789", begin.size()) == Tekst::npos;
-        if (!tijdelijk)
+        if (!IsTijdelijk(bestand))
             continue;
         const Pad pad = Samen(doelmap, bestand);
         const auto stempel = schijf.NeemStempel(pad);

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "platform/klok.h"
 #include "platform/schijf.h"
 
 namespace plexoran {
@@ -25,8 +26,9 @@ using Vuller = std::function<Uitkomst<void>(Schrijver&)>;
 /// machine runs it is as whole, and every failure to write it is told.
 [[nodiscard]] Uitkomst<void> SchrijfVluchtig(Schijf& schijf, const Pad& pad, Tekstblik inhoud);
 
-/// Removes temporary files that a killed save of `naam` left in `map` more than an hour ago.
-/// `nu` is nanoseconds since 1970. Failures do no harm and are passed over.
-void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu);
+/// Removes what killed saves of any file left more than an hour ago in the folder in which a save
+/// of `naam` in `map` works; nothing when `map` is empty. `nu` is nanoseconds since 1970. Failures
+/// do no harm and are passed over.
+void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu = Nu());
 
 } // namespace plexoran

@@ -37,7 +37,7 @@ Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
 
 Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand)
 {
-    const Pad kopiemap = Samen(spelersmap, "Reservekopie");
+    const Pad kopiemap = Kopiemap(spelersmap);
     return schijf
         .MaakMap(kopiemap)
         // The copy is only as safe as the name of the folder that it is in.

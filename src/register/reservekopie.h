@@ -10,6 +10,11 @@
 
 namespace plexoran {
 
+[[nodiscard]] inline Pad Kopiemap(const Pad& spelersmap)
+{
+    return Samen(spelersmap, "Reservekopie");
+}
+
 /// Copies `bestand` to the folder "Reservekopie" in `spelersmap`; returns the path of the copy.
 /// Any failure is reported as `GeenReservekopie`.
 [[nodiscard]] Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap,

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "platform/heelschrijven.h"
-#include "platform/klok.h"
 #include "platform/tekstorde.h"
 
 namespace plexoran {
@@ -108,7 +107,7 @@ std::optional<Lijstsoort> KoppelZitting(Schijf& schijf, const Groep& groep, Kopp
     for (const Lijstsoort soort : Soorten) {
         const Pad pad = groep.plaats->Bestand(soort);
         // What a link left here that was killed; the next one comes by to finish its work.
-        RuimTijdelijkeOp(schijf, groep.plaats->map, groep.plaats->Bestandsnaam(soort), Nu());
+        RuimTijdelijkeOp(schijf, groep.plaats->map, groep.plaats->Bestandsnaam(soort));
         Uitgevoerd uitgevoerd = PasAan(schijf, pad, soort, groep.vervanging);
         if (uitgevoerd.geschreven)
             uit.gewijzigd.push_back(schijf.Toonpad(pad));

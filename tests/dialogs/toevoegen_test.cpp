@@ -273,18 +273,15 @@ TEST_F(Toevoegen, HetKoppelverslagVervangtEnKomtTerug)
 TEST_F(Toevoegen, HetVerslagRuimtOpWatEenAfgebrokenSchrijvenLiet)
 {
     const Tekst map = "C:\\RVD\\Zittingen\\a_Rev\\";
-    for (const char* naam :
-         {"Koppelverslag.txt.~11", "Spelers.txt.~12", "Spelers.txt.~13", "PercZit.txt.~14"})
-        schijf.Zet(map + naam, "half");
-    schijf.ZetTijd(map + "Koppelverslag.txt.~11", 1);
-    schijf.ZetTijd(map + "Spelers.txt.~12", 1);
-    schijf.ZetTijd(map + "PercZit.txt.~14", 1);
-    schijf.ZetTijd(map + "Spelers.txt.~13", std::numeric_limits<std::int64_t>::max()); // just made
+    const Tekst oud = map + "Spelers.txt.~plexoran12";
+    const Tekst net = map + "Spelers.txt.~plexoran13";
+    for (const Tekst& pad : {oud, net})
+        schijf.Zet(pad, "half");
+    schijf.ZetTijd(oud, 1);
+    schijf.ZetTijd(net, std::numeric_limits<std::int64_t>::max());
     ASSERT_TRUE(Koppelverslag(schijf, mappen, "a_Rev").Schrijf("N01 1 - 2\r\n"));
-    EXPECT_EQ(std::nullopt, schijf.Inhoud(map + "Koppelverslag.txt.~11"));
-    EXPECT_EQ(std::nullopt, schijf.Inhoud(map + "Spelers.txt.~12"));
-    EXPECT_EQ("half", schijf.Inhoud(map + "Spelers.txt.~13"));
-    EXPECT_EQ("half", schijf.Inhoud(map + "PercZit.txt.~14"));
+    EXPECT_EQ(std::nullopt, schijf.Inhoud(oud));
+    EXPECT_EQ("half", schijf.Inhoud(net));
 }
 
 TEST_F(Toevoegen, EenVerslagDatNietTeLezenWasWordtNooitVerwijderd)

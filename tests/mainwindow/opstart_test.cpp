@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "mainwindow/opstartproef.h"
+#include "platform/falendeSchijf.h"
+#include "platform/heelschrijven.h"
 
 using namespace plexoran;
 using namespace std::string_literals;
@@ -253,6 +255,37 @@ TEST_F(Opstartproef, EenGroepsnaamHoortBijZijnPlaatsNietBijZijnNummer)
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ("Gr03-Junioren", Keus("cmbGr")->itemText(2).toStdString());
     EXPECT_EQ("Gr07-", Keus("cmbGr")->itemText(6).toStdString());
+}
+
+/// A kill in any save, also that of the members of the federation on their way into the register.
+TEST_F(Opstartproef, WatEenAfgebrokenOpslagLietWordtNaEenUurOpgeruimd)
+{
+    administratie.programmamap = "C:\\Plexoran";
+    for (const Pad& doel :
+         {"C:\\RVD\\Spelers\\RVDspelers.txt"s, "C:\\RVD\\Spelers\\RVDGroepen.txt"s,
+          "C:\\RVD\\Spelers\\Reservekopie\\RVDspelers 2026-03-01 142355.txt"s,
+          "C:\\RVD\\Spelers\\Parenmap\\Gr01-A-LIJN.txt"s, "C:\\RVD\\Admin\\Plexo.ini"s,
+          "C:\\RVD\\Admin\\Club Temp-NBBXMLtoCSV.csv"s, "C:\\Plexoran\\Club Temp-NBBXMLtoCSV.csv"s,
+          "C:\\RVD\\DiverseUitvoer\\RVDparenCSV2.csv"s}) {
+        SCOPED_TRACE(doel);
+        geheugen.ZetMap(doel.substr(0, doel.rfind('\\')));
+        FalendeSchijf gedood(geheugen);
+        gedood.FaalVanaf(5);
+        ASSERT_FALSE(SchrijfVluchtig(gedood, doel, "06-00000000"));
+        const auto resten = [&] {
+            auto namen = geheugen.AlleBestanden();
+            std::erase_if(namen, [&](const Pad& pad) { return !pad.starts_with(doel + ".~"); });
+            return namen;
+        };
+        ASSERT_EQ(1U, resten().size());
+        const Pad rest = resten().front();
+        geheugen.ZetTijd(rest, Nu() - 3'500'000'000'000);
+        ASSERT_EQ(std::nullopt, Laad());
+        EXPECT_EQ(1U, resten().size());
+        geheugen.ZetTijd(rest, Nu() - 3'700'000'000'000);
+        ASSERT_EQ(std::nullopt, Laad());
+        EXPECT_EQ(0U, resten().size());
+    }
 }
 
 // ---- Settings and buttons ---------------------------------------------------------------------

@@ -160,17 +160,22 @@ constexpr std::int64_t nu = 500'000 * uur;
 
 } // namespace
 
-TEST(RuimTijdelijkeOp, AlleenOudeVanDitBestand)
+TEST(RuimTijdelijkeOp, AlleenOudeVanDitProgrammaInDezeMap)
 {
     GeheugenSchijf schijf;
-    const Namen blijven = {"spelers.txt",        "spelers.txt.~",      "spelers.txt.~12a",
-                           "spelers.txt.bak",    "andere.txt.~123",    "xspelers.txt.~123",
-                           "spelers.txt.~9.txt", "map\\spelers.txt.~1"};
+    const Namen blijven = {"spelers.txt",
+                           "spelers.txt.~",
+                           "spelers.txt.~123",
+                           "spelers.txt.~plexoran",
+                           "spelers.txt.~plexoran12a",
+                           "spelers.txt.~plexoran9.txt",
+                           "spelers.txt~plexoran9",
+                           "map\\spelers.txt.~plexoran1"};
     for (const Tekst& naam : blijven) {
         schijf.Zet(Samen("C:\\club", naam), "x");
         schijf.ZetTijd(Samen("C:\\club", naam), nu - 1000 * uur);
     }
-    for (const char* naam : {"spelers.txt.~1230001", "SPELERS.TXT.~7"}) {
+    for (const char* naam : {"spelers.txt.~plexoran1230001", "Club lijst.pdf.~plexoran7"}) {
         schijf.Zet(Samen("C:\\club", naam), "x");
         schijf.ZetTijd(Samen("C:\\club", naam), nu - uur - 1);
     }
@@ -180,26 +185,34 @@ TEST(RuimTijdelijkeOp, AlleenOudeVanDitBestand)
         EXPECT_TRUE(schijf.Inhoud(Samen("C:\\club", naam))) << naam;
 }
 
+TEST(RuimTijdelijkeOp, EenMapDieNietGenoemdIsBlijftMetRust)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet("\\spelers.txt.~plexoran1", "x");
+    RuimTijdelijkeOp(schijf, "", "spelers.txt", nu);
+    EXPECT_TRUE(schijf.Inhoud("\\spelers.txt.~plexoran1"));
+}
+
 TEST(RuimTijdelijkeOp, JongeBlijven)
 {
     GeheugenSchijf schijf;
     for (const std::int64_t tijd : {nu - uur, nu - seconde, nu + 5 * uur}) {
-        schijf.Zet("C:\\club\\spelers.txt.~1", "x");
-        schijf.ZetTijd("C:\\club\\spelers.txt.~1", tijd);
+        schijf.Zet("C:\\club\\spelers.txt.~plexoran1", "x");
+        schijf.ZetTijd("C:\\club\\spelers.txt.~plexoran1", tijd);
         RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
-        EXPECT_TRUE(schijf.Inhoud("C:\\club\\spelers.txt.~1")) << tijd;
+        EXPECT_TRUE(schijf.Inhoud("C:\\club\\spelers.txt.~plexoran1")) << tijd;
     }
 }
 
 TEST(RuimTijdelijkeOp, MislukkenIsGeenRamp)
 {
     GeheugenSchijf binnen;
-    binnen.Zet("C:\\club\\spelers.txt.~1", "x");
-    binnen.Zet("C:\\club\\spelers.txt.~2", "x");
+    binnen.Zet("C:\\club\\spelers.txt.~plexoran1", "x");
+    binnen.Zet("C:\\club\\spelers.txt.~plexoran2", "x");
     FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
     schijf.FaalBij(1);
     RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
-    EXPECT_EQ(binnen.AlleBestanden(), Namen{"C:\\club\\spelers.txt.~1"});
+    EXPECT_EQ(binnen.AlleBestanden(), Namen{"C:\\club\\spelers.txt.~plexoran1"});
     RuimTijdelijkeOp(schijf, "C:\\weg", "spelers.txt", nu);
 }
 
@@ -222,11 +235,11 @@ TEST(RuimTijdelijkeOp, InDeMapVanHetDoelVanEenLink)
     const TijdelijkeMap map;
     std::filesystem::create_directory(map.Weg() / "ver");
     map.Zet("ver/echt.txt", "oud");
-    map.Zet("ver/echt.txt.~55", "rest");
+    map.Zet("ver/echt.txt.~plexoran55", "rest");
     std::filesystem::create_symlink("ver/echt.txt", map.Weg() / "link.txt");
     EchteSchijf schijf;
     RuimTijdelijkeOp(schijf, map.AlsPad(), "link.txt", std::numeric_limits<std::int64_t>::max());
-    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "ver/echt.txt.~55"));
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "ver/echt.txt.~plexoran55"));
     EXPECT_EQ(map.Inhoud("ver/echt.txt"), "oud");
 }
 

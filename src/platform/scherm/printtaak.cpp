@@ -86,6 +86,8 @@ class PdfTaak : public Printtaak {
         if (!schilder_.end())
             return Weigering(schijf_.Toonpad(bestand_));
         schrijver_.reset(); // writes the last of it
+        const auto streep = bestand_.find_last_of("\\/");
+        RuimTijdelijkeOp(schijf_, bestand_.substr(0, streep), bestand_.substr(streep + 1));
         return SchrijfHeel(schijf_, bestand_, buffer_.buffer().toStdString());
     }
 

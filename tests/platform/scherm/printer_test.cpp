@@ -156,6 +156,16 @@ TEST_F(PrinterTest, EenVolleSchijfIsEenFoutEnLaatHetOudeBestand)
     EXPECT_GT(mislukt, 3);
 }
 
+TEST_F(PrinterTest, WatEenAfgebrokenPdfLietWordtOpgeruimd)
+{
+    const Pad rest = "C:\\Uit\\andere lijst.pdf.~plexoran110001";
+    GeheugenSchijf geheugen;
+    geheugen.Zet(rest, "%PDF-1.4");
+    geheugen.ZetTijd(rest, 1);
+    ASSERT_TRUE(Print(Printer(geheugen, "C:\\Uit\\lijst.pdf"), 1));
+    EXPECT_EQ(std::vector<Pad>{"C:\\Uit\\lijst.pdf"}, geheugen.AlleBestanden());
+}
+
 TEST_F(PrinterTest, EenMapDieErNietIsWordtGeweigerd)
 {
     const auto uitkomst = Print(Printer(schijf, Samen(map.AlsPad(), "weg\\lijst.pdf")), 1);
