@@ -15,7 +15,7 @@ namespace {
 
 constexpr auto gebruik = R"(Gebruik: plexoran [opties]
 
-Plexoran houdt het spelersregister van een bridgeclub bij.
+Plexoran houdt de spelers van een bridgeclub bij.
 
 Opties:
   --mappen BESTAND      lees de mappen uit dit bestand in plaats van uit het
@@ -27,7 +27,7 @@ Opties:
   --version             toon de versie
 
 Zonder --mappen wordt "Mappen.ini" gezocht in de map van het programma of, als
-in de naam van die map "Admin" voorkomt, in de map erboven.
+ergens in het pad van die map "Admin" voorkomt, in de map erboven.
 De mappen van de rekenprogramma's worden gelezen uit:
   %1
 )";
@@ -95,7 +95,7 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
         return Weiger(
             QStringLiteral("onbekende optie '%1'").arg(lezer.unknownOptionNames().constFirst()));
     if (!begrepen)
-        return Weiger(QStringLiteral("bij een optie ontbreekt haar waarde"));
+        return Weiger(QStringLiteral("bij een optie ontbreekt de waarde"));
     if (!lezer.positionalArguments().isEmpty())
         return Weiger(
             QStringLiteral("onbekend woord '%1'").arg(lezer.positionalArguments().constFirst()));
@@ -106,7 +106,7 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
     for (const auto& optie : {mappen, afbeeldingen, slot}) {
         if (lezer.isSet(optie) && lezer.value(optie).isEmpty())
             return Weiger(
-                QStringLiteral("bij --%1 ontbreekt haar waarde").arg(optie.names().constFirst()));
+                QStringLiteral("bij --%1 ontbreekt de waarde").arg(optie.names().constFirst()));
     }
     return {.mappenIni = lezer.value(mappen).toStdString(),
             .afbeeldingen = lezer.value(afbeeldingen).toStdString(),

@@ -150,9 +150,8 @@ void diaKopieer::Kopieer()
                                    .metNBBgr = chkNBBgrOok->isChecked(),
                                    .metNBBnr = chkNBBnrOok->isChecked()};
     if (!KopieerSpelers(administratie_.spelers, opdracht)) {
-        Meld(this, QMessageBox::Critical,
-             QStringLiteral("Er is niets gekopieerd: de spelersleutels zijn op. Kijk het getal na "
-                            "achter HKEY= in het spelerbestand."));
+        MeldSleutelsOp(this, QStringLiteral("Er is niets gekopieerd"),
+                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
     Meld(this, QMessageBox::Information,

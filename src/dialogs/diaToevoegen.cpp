@@ -162,9 +162,8 @@ void diaToevoegen::VoegToe()
                   Koppelverslag(administratie_.schijf, administratie_.mappen, Zitting())};
     const auto verslag = VoegSpelersToe(administratie_.spelers, namen_);
     if (!verslag) {
-        Meld(this, QMessageBox::Critical,
-             QStringLiteral("Er is niets toegevoegd: de spelersleutels zijn op. Kijk het getal na "
-                            "achter HKEY= in het spelerbestand."));
+        MeldSleutelsOp(this, QStringLiteral("Er is niets toegevoegd"),
+                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
     const auto geschreven = vorige.verslag.Schrijf(*verslag);

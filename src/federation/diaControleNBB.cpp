@@ -206,13 +206,13 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
                            .arg(bestand)
                            .arg(lezing.teKorteRegel);
     if (!lezing.metIsTeken.empty())
-        opmerkingen << QStringLiteral("'%1': aantal regels overgeslagen omdat er een '=' in staat, "
-                                      "zoals in een kopregel: %2.")
-                           .arg(bestand)
-                           .arg(lezing.metIsTeken.size());
+        opmerkingen << QStringLiteral("'%1': %2 overgeslagen, omdat er een '=' in staat, zoals in "
+                                      "een kopregel.")
+                           .arg(bestand, Aantal(lezing.metIsTeken.size(), QStringLiteral("regel"),
+                                                QStringLiteral("regels")));
     if (lezing.vervangenTekens > 0)
         opmerkingen << QStringLiteral(
-                           "'%1': aantal tekens dat het register niet kent en dat is "
+                           "'%1': aantal tekens dat het spelerbestand niet kent en dat is "
                            "vervangen door een teken dat erop lijkt, of is weggelaten: %2.")
                            .arg(bestand)
                            .arg(lezing.vervangenTekens);
@@ -222,7 +222,8 @@ void diaControleNBB::MeldOpmerkingen(const QStringList& opmerkingen)
 {
     if (!opmerkingen.isEmpty())
         MeldLijst(parentWidget(), QMessageBox::Information,
-                  QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\n") +
+                  QStringLiteral("Bij het lezen van de ledenbestanden viel dit op; er is niets "
+                                 "veranderd.\r\n\r\n") +
                       opmerkingen.join(QStringLiteral("\r\n")));
 }
 

@@ -62,13 +62,13 @@ std::vector<Tekst> VanSoort(const std::vector<Tekst>& namen, Ledenbron bron)
 
 QString Lijstfouttekst(const Fout& fout)
 {
-    const QString waarom =
-        fout.soort == Foutsoort::Ontbreekt
-            ? QStringLiteral("De database met de ledenbestanden is niet gevonden.")
-            : QStringLiteral("De database met de ledenbestanden kan niet worden gelezen.");
-    return QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n") + waarom +
-           QStringLiteral("\nKies eventueel een geëxporteerd ledenbestand.\n\n") +
-           Bijzonderheden(fout);
+    const QString waarom = fout.soort == Foutsoort::Ontbreekt
+                               ? QStringLiteral("is niet gevonden")
+                               : QStringLiteral("kan niet worden gelezen");
+    return QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n"
+                          "De database met de ledenbestanden %1; er is niets geïmporteerd. Kies "
+                          "zo nodig een geëxporteerd ledenbestand.")
+        .arg(waarom);
 }
 
 /// Lets a long path break behind each folder.
@@ -167,12 +167,11 @@ void frmImportNBB::KiesDatabase()
                           : code == "NBBR" ? QStringLiteral("Ledenbestanden direct uit NBBR-2.8:")
                                            : QString());
     if (LedenDatabase_.empty()) {
-        Meld(
-            this, QMessageBox::Warning,
-            QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n"
-                           "Bij de start van Plexoran was niet bekend waar het rekenprogramma zijn "
-                           "gegevens bewaart, dus is er geen bestand 'Members.mdb' geprobeerd. "
-                           "Start Plexoran opnieuw en kies dan het rekenprogramma."));
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n"
+                            "Bij de start van Plexoran was niet bekend waar de database van het "
+                            "rekenprogramma staat; er is niets geïmporteerd. "
+                            "Start Plexoran opnieuw en kies dan het rekenprogramma."));
         return;
     }
     ZetBezig(true);
@@ -185,7 +184,7 @@ void frmImportNBB::KiesDatabase()
     if (namen)
         VulLijst(std::move(*namen));
     else
-        Meld(this, QMessageBox::Warning, Lijstfouttekst(namen.error()));
+        MeldFout(this, QMessageBox::Warning, Lijstfouttekst(namen.error()), namen.error());
 }
 
 /// One file is pointed at; the folder it stands in is the chosen one.
@@ -221,10 +220,11 @@ void frmImportNBB::MeldNietVanSoort(const Tekst& gekozen)
         bron_ == Ledenbron::XmlNbb3   ? QStringLiteral("XML-ledenbestand uit NBBR-3")
         : bron_ == Ledenbron::XmlNbb4 ? QStringLiteral("XML-ledenbestand uit NBBR-4")
                                       : QStringLiteral("CSV-ledenbestand");
-    Meld(this, QMessageBox::Information,
-         QStringLiteral("'%1' is geen %2 en staat dus niet in de lijst.\n\nKies een ander bestand, "
-                        "of kies eerst links waar dit bestand vandaan komt.")
-             .arg(NaarQString(gekozen), soort));
+    Meld(
+        this, QMessageBox::Information,
+        QStringLiteral("'%1' is geen %2 en staat dus niet in de lijst. Er is niets geïmporteerd. "
+                       "Kies een ander bestand, of kies eerst links waar dit bestand vandaan komt.")
+            .arg(NaarQString(gekozen), soort));
 }
 
 /// Lists the folder. False when it cannot be listed, which leaves everything as it was, or not
@@ -234,10 +234,10 @@ bool frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
     const Wachtcursor wacht;
     const auto bestanden = administratie_.schijf.Bestanden(map);
     if (!bestanden) {
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Kies een "
-                            "andere map.\n\n") +
-                 Bijzonderheden(bestanden.error()));
+        MeldFout(this, QMessageBox::Warning,
+                 QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Er "
+                                "is niets geïmporteerd. Kies een andere map."),
+                 bestanden.error());
         return false;
     }
     map_ = map;

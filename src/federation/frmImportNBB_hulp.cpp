@@ -45,11 +45,11 @@ QString HulpNBBR28()
         QStringLiteral("1. Start NBBR-2.8 en open de ledenlijst."),
         QStringLiteral("2. Kies het ledenbestand dat u wilt exporteren, bijvoorbeeld 'Club'."),
         QStringLiteral("3. Kies voor exporteren, en als soort een CSV-bestand."),
-        QStringLiteral("4. Bewaar het bestand in een map die u kunt terugvinden en onthoud die "
+        QStringLiteral("4. Sla het bestand op in een map die u kunt terugvinden en onthoud die "
                        "map. De naam die NBBR voorstelt, is goed."),
         QStringLiteral("5. Herhaal dit voor elk ledenbestand dat u nodig hebt."),
         QStringLiteral("6. Kies hier 'uit een geexporteerd CSV-ledenbestand', druk op de knop om "
-                       "een map te kiezen en wijs in die map het bestand aan."),
+                       "een map te kiezen en kies in die map het bestand."),
         QString(),
         QStringLiteral("Staat NBBR-2.8 op deze computer en is 'direct uit NBBR 2.8' te kiezen, dan "
                        "hoeft u niets te exporteren."),
@@ -64,11 +64,11 @@ QString HulpNBBR31()
         QStringLiteral("1. Start NBBR-3.1 en open de ledenlijst."),
         QStringLiteral("2. Kies het ledenbestand dat u wilt exporteren, bijvoorbeeld 'Club'."),
         QStringLiteral("3. Kies voor exporteren, en als soort een XML-bestand."),
-        QStringLiteral("4. Bewaar het bestand in een map die u kunt terugvinden, bijvoorbeeld "
+        QStringLiteral("4. Sla het bestand op in een map die u kunt terugvinden, bijvoorbeeld "
                        "'...Documenten\\NBB4-Leden', en onthoud die map."),
         QStringLiteral("5. Kies hier 'uit een geexporteerd XML-ledenbestand' met '(uit NBBR-3)' "
-                       "erbij, druk op de knop om een map te kiezen en wijs in die map het bestand "
-                       "aan."),
+                       "erbij, druk op de knop om een map te kiezen en kies in die map het "
+                       "bestand."),
     });
 }
 
@@ -80,7 +80,7 @@ QString HulpNBBR4Xml()
         QStringLiteral("1. Start NBBR-4 en open de ledenlijst."),
         QStringLiteral("2. Kies het ledenbestand dat u wilt exporteren, bijvoorbeeld 'Club'."),
         QStringLiteral("3. Kies voor exporteren, en als soort een XML-bestand."),
-        QStringLiteral("4. Bewaar het bestand in de map '...Documenten\\NBB4-Leden'. Daar wordt "
+        QStringLiteral("4. Sla het bestand op in de map '...Documenten\\NBB4-Leden'. Daar wordt "
                        "hier het eerst gekeken."),
         QStringLiteral("5. Kies hier onder 'Uit NBB-4:' de optie 'uit een geexporteerd "
                        "XML-ledenbestand', druk zo nodig op de knop om een andere map te kiezen en "
@@ -96,7 +96,7 @@ QString HulpNBBR4Csv()
         QStringLiteral("1. Start NBBR-4 en open de ledenlijst."),
         QStringLiteral("2. Kies het ledenbestand dat u wilt exporteren, bijvoorbeeld 'Club'."),
         QStringLiteral("3. Kies voor exporteren, en als soort een CSV-bestand."),
-        QStringLiteral("4. Bewaar het bestand in de map '...Documenten\\NBB4-Leden'. Daar wordt "
+        QStringLiteral("4. Sla het bestand op in de map '...Documenten\\NBB4-Leden'. Daar wordt "
                        "hier het eerst gekeken."),
         QStringLiteral("5. Kies hier 'uit een geexporteerd CSV-ledenbestand', druk zo nodig op de "
                        "knop om een andere map te kiezen en klik het bestand aan in de lijst."),

@@ -128,10 +128,11 @@ void frmImportNBB::RuimTussenbestandOp(const Ledenopdracht& opdracht, const Teks
     const auto weg = administratie_.schijf.Verwijder(
         Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam)));
     if (!weg && weg.error().soort != Foutsoort::Ontbreekt)
-        Meld(this, QMessageBox::Information,
-             QStringLiteral("Een tussenbestand met gegevens van leden kon niet worden verwijderd. "
-                            "Verwijder het zelf.\n\n") +
-                 Bijzonderheden(weg.error()));
+        MeldFout(this, QMessageBox::Information,
+                 QStringLiteral("Een tussenbestand met gegevens van leden kon niet worden "
+                                "verwijderd. Het importeren gaat gewoon door. Verwijder het "
+                                "bestand zelf."),
+                 weg.error());
 }
 
 /// What the user must know to answer the question that follows.
@@ -139,31 +140,31 @@ void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezi
 {
     if (lezing.nietGeladen)
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("In '%1' zijn geen leden gevonden.\n").arg(NaarQString(naam)) +
-                 Leesfouttekst(bron, naam, *lezing.nietGeladen, Leesdoel::Import));
+             Leesfouttekst(bron, naam, *lezing.nietGeladen, Leesdoel::Import));
     if (lezing.anderNummer)
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Van het nummer achter de naam '%1' tellen alleen de laatste drie "
-                            "tekens: dit zijn de leden van het ledenbestand met nummer %2.\n\nKies "
-                            "bij de volgende vraag Annuleren als u een ander ledenbestand bedoelt.")
+                            "tekens: dit zijn de leden van het ledenbestand met nummer %2. Er is "
+                            "nog niets geïmporteerd. Kies bij de volgende vraag Annuleren als u "
+                            "een ander ledenbestand bedoelt.")
                  .arg(NaarQString(naam))
                  .arg(*lezing.anderNummer));
     if (lezing.inUtf8)
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("'%1' is opgeslagen in UTF-8, maar een CSV-bestand wordt gelezen als "
-                            "Windows-1252 (ANSI). Letters met een accent komen verkeerd over, en "
-                            "voor het eerste NBB-nummer kunnen vreemde tekens staan.\n\nKies bij "
-                            "de volgende vraag liever Annuleren. Bewaar het bestand als ANSI of "
-                            "exporteer een XML-ledenbestand.")
+             QStringLiteral("'%1' is opgeslagen in UTF-8: letters met een accent komen verkeerd "
+                            "over, en soms ook het eerste NBB-nummer. Er is nog niets "
+                            "geïmporteerd. Kies bij de volgende vraag liever Annuleren, en sla het "
+                            "bestand op als ANSI (Windows-1252) of exporteer een XML-bestand.")
                  .arg(NaarQString(naam)));
     if (lezing.teKorteRegel > 0)
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Regel %1 van '%2' heeft minder kolommen dan nodig is voor de gegevens "
-                            "die u hebt aangevinkt. Daar is het lezen gestopt: alleen de %3 "
-                            "spelers van de regels ervoor kunnen worden geïmporteerd.")
+                            "die u hebt aangevinkt. Er is nog niets geïmporteerd; dat kan alleen "
+                            "met wie ervoor staat (%3). Kies bij de volgende vraag Annuleren als u "
+                            "eerst het bestand wilt herstellen.")
                  .arg(lezing.teKorteRegel)
-                 .arg(NaarQString(naam))
-                 .arg(lezing.lstN1.size()));
+                 .arg(NaarQString(naam), Aantal(lezing.lstN1.size(), QStringLiteral("speler"),
+                                                QStringLiteral("spelers"))));
 }
 
 frmImportNBB::Verloop frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
@@ -210,15 +211,17 @@ void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
              .arg(uitkomst.AantalNieuw));
     QStringList delen;
     if (!uitkomst.overgeslagen.empty())
-        delen << QStringLiteral("%1 overgeslagen, omdat hun NBB-nummer al voorkomt: eerder in "
+        delen << QStringLiteral("%1 overgeslagen, omdat het NBB-nummer al voorkomt: eerder in "
                                 "dit bestand, of anders geschreven in groep '%2':\r\n")
-                         .arg(uitkomst.overgeslagen.size())
-                         .arg(NaarQString(administratie_.mappen.DFIMPG)) +
+                         .arg(Aantal(uitkomst.overgeslagen.size(), QStringLiteral("lid"),
+                                     QStringLiteral("leden")),
+                              NaarQString(administratie_.mappen.DFIMPG)) +
                      Toonbaar(uitkomst.overgeslagen);
     if (!lezing.metIsTeken.empty())
-        delen << QStringLiteral("%1 overgeslagen, omdat er een '=' in de regel staat, zoals in "
-                                "een kopregel:\r\n")
-                         .arg(lezing.metIsTeken.size()) +
+        delen << QStringLiteral("%1 overgeslagen, omdat er een '=' in staat, zoals in een "
+                                "kopregel:\r\n")
+                         .arg(Aantal(lezing.metIsTeken.size(), QStringLiteral("regel"),
+                                     QStringLiteral("regels"))) +
                      Toonbaar(lezing.metIsTeken);
     if (lezing.vervangenTekens > 0)
         delen << QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
@@ -226,7 +229,9 @@ void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
                      .arg(lezing.vervangenTekens);
     if (!delen.isEmpty())
         MeldLijst(this, QMessageBox::Information,
-                  QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er staat.\r\n\r\n")
+                  QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er staat; de rest "
+                                 "is geïmporteerd. Verander het zo nodig in het rekenprogramma en "
+                                 "importeer opnieuw.\r\n\r\n")
                           .arg(NaarQString(naam)) +
                       delen.join(QStringLiteral("\r\n")));
 }
@@ -236,19 +241,20 @@ void frmImportNBB::MeldAfgebroken(const Tekst& naam, Samenvoegfout fout)
     if (fout == Samenvoegfout::Gestopt)
         Meld(this, QMessageBox::Information,
              QStringLiteral("Het importeren is gestopt. Uit '%1' is niets geïmporteerd; wat eerder "
-                            "is geïmporteerd, blijft.")
+                            "is geïmporteerd, blijft. Importeer '%1' opnieuw als u die leden nog "
+                            "nodig hebt.")
                  .arg(NaarQString(naam)));
     else if (fout == Samenvoegfout::TeGroot)
         Meld(this, QMessageBox::Critical,
              QStringLiteral(
-                 "Uit '%1' is niets geïmporteerd: wat er als NBB-nummer staat, is te lang "
-                 "om nummers te kunnen zijn.")
+                 "Uit '%1' is niets geïmporteerd: wat er als NBB-nummer staat, is te lang om een "
+                 "nummer te zijn. Wat eerder is geïmporteerd, blijft. Exporteer het ledenbestand "
+                 "opnieuw.")
                  .arg(NaarQString(naam)));
     else
-        Meld(this, QMessageBox::Critical,
-             QStringLiteral("Uit '%1' is niets geïmporteerd: de spelersleutels zijn op. Kijk het "
-                            "getal na achter HKEY= in het spelerbestand.")
-                 .arg(NaarQString(naam)));
+        MeldSleutelsOp(this,
+                       QStringLiteral("Uit '%1' is niets geïmporteerd").arg(NaarQString(naam)),
+                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
 }
 
 } // namespace plexoran

@@ -26,13 +26,11 @@ QString Oorzaak(const Fout& fout)
 {
     switch (fout.soort) {
     case Foutsoort::Ontbreekt:
-        return QStringLiteral("Het bestand is er niet (meer).");
+        return QStringLiteral("Het bestand is er niet (meer)");
     case Foutsoort::Beschadigd:
-        return QStringLiteral("De inhoud is niet die van een ledenbestand.");
+        return QStringLiteral("De inhoud is niet die van een ledenbestand");
     default:
-        return QStringLiteral(
-            "Het systeem stond het niet toe: het bestand hieronder kan niet worden "
-            "gelezen of geschreven.");
+        return QStringLiteral("Het bestand hieronder kan niet worden gelezen of geschreven");
     }
 }
 
@@ -40,17 +38,19 @@ QString Oorzaak(const Fout& fout)
 
 QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout, Leesdoel doel)
 {
-    QString tekst = Aanhef(bron, naam) + QStringLiteral("\r\n") + Oorzaak(fout);
+    const QString tekst =
+        Aanhef(bron, naam) + QStringLiteral("\r\n") + Oorzaak(fout) +
+        (doel == Leesdoel::Import
+             ? QStringLiteral("; er is niets uit geïmporteerd. ")
+             : QStringLiteral("; de leden ervan staan niet in het overzicht. ")) +
+        (bron == Ledenbron::Database
+             ? QStringLiteral("Kies zo nodig een geëxporteerd ledenbestand.")
+             : QStringLiteral("Exporteer het opnieuw of kies een ander ledenbestand."));
     Fout plaats = fout;
     if (fout.soort == Foutsoort::Ontbreekt)
         plaats.systeem.clear(); // would say the same again, perhaps in another language
     const QString bijzonderheden = Bijzonderheden(plaats);
-    if (!bijzonderheden.isEmpty())
-        tekst += QStringLiteral("\r\n") + bijzonderheden;
-    return tekst + (doel == Leesdoel::Import
-                        ? QStringLiteral("\r\n\r\nUit dit bestand is niets geïmporteerd.")
-                        : QStringLiteral("\r\n\r\nDe leden van dit bestand staan niet in het "
-                                         "overzicht."));
+    return bijzonderheden.isEmpty() ? tekst : tekst + QStringLiteral("\r\n\r\n") + bijzonderheden;
 }
 
 QString Leesfoutreden(const Fout& fout)

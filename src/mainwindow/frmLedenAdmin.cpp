@@ -93,11 +93,12 @@ void frmLedenAdmin::BewaarInstellingen()
     if (uitkomst || instellingenfoutGemeld_)
         return;
     instellingenfoutGemeld_ = true;
-    Meld(this, QMessageBox::Warning,
-         QStringLiteral("De instellingen van het programma kunnen niet worden bewaard. De gegevens "
-                        "van de spelers zijn niet in gevaar: alleen de groep die u het laatst zag "
-                        "en het terugkeerveld worden niet onthouden.\n\n") +
-             Bijzonderheden(uitkomst.error()));
+    MeldFout(this, QMessageBox::Warning,
+             QStringLiteral("De instellingen van het programma kunnen niet worden opgeslagen. De "
+                            "gegevens van de spelers zijn niet in gevaar: alleen de groep die u "
+                            "het laatst zag en het terugkeerveld worden niet onthouden. Kijk of u "
+                            "in die map mag schrijven."),
+             uitkomst.error());
 }
 
 void frmLedenAdmin::closeEvent(QCloseEvent* gebeurtenis)

@@ -85,11 +85,14 @@ void frmLedenAdmin::MeldGeenGetal(Sorteersoort soort, const GeenGetal& fout)
         naam += tabel.Cel(fout.rij, kolom);
     }
     Meld(this, QMessageBox::Warning,
-         QStringLiteral("De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'.")
-             .arg(soort == Sorteersoort::Key ? QStringLiteral("de key")
+         QStringLiteral("De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De "
+                        "gegevens zijn niet veranderd. Verbeter dat %5.")
+             .arg(soort == Sorteersoort::Key ? QStringLiteral("de sleutel")
                                              : QStringLiteral("het NBB-nummer"),
                   NaarQString(naam), NaarQString(tabel.Cel(fout.rij, Kolom::Groep)),
-                  NaarQString(fout.waarde)));
+                  NaarQString(fout.waarde),
+                  soort == Sorteersoort::Key ? QStringLiteral("in het spelerbestand")
+                                             : QStringLiteral("bij deze speler")));
 }
 
 void frmLedenAdmin::ToonDubbeleNamen()
@@ -102,7 +105,7 @@ void frmLedenAdmin::ToonDubbeleNamen()
     if (dubbelen.meer)
         Meld(this, QMessageBox::Information,
              QStringLiteral("Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na "
-                            "%1 paren.")
+                            "%1 paren. Verwijder er eerst een aantal en zoek dan opnieuw.")
                  .arg(MeesteDubbelen));
 }
 

@@ -43,9 +43,8 @@ void frmLedenAdmin::VoegToe()
     if (!ToonIngave(ingave))
         return;
     if (!VoegSpelerToe(administratie_.spelers, Groeptekst(), ingave.IngaveVelden)) {
-        Meld(this, QMessageBox::Critical,
-             QStringLiteral("De speler is niet toegevoegd: de spelersleutels zijn op. Kijk het "
-                            "getal na achter HKEY= in het spelerbestand."));
+        MeldSleutelsOp(this, QStringLiteral("De speler is niet toegevoegd"),
+                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
     (void)SlaOp();
@@ -209,7 +208,8 @@ void frmLedenAdmin::HaalNBBnamen()
     if (!bestaat) {
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat "
-                            "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-."));
+                            "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-. Er is niets "
+                            "veranderd. Vul die groep in en start Plexoran opnieuw."));
         return;
     }
     KiesRekenprogramma();
@@ -276,9 +276,10 @@ void frmLedenAdmin::StartGatenlijst()
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Het programma 'Gatenlijst.exe' is niet te vinden."));
     else
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart.\n\n") +
-                 Bijzonderheden(uitkomst.error()));
+        MeldFout(this, QMessageBox::Warning,
+                 QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart. Er is "
+                                "niets veranderd. Kijk of u dat programma mag starten."),
+                 uitkomst.error());
 }
 
 } // namespace plexoran

@@ -46,10 +46,12 @@ void frmParenOnderhoud::MaakParenmap()
 {
     const auto map = administratie_.schijf.MaakMap(Parenmap(administratie_.mappen));
     if (!map)
-        Meld(parentWidget(), QMessageBox::Warning,
-             QStringLiteral("De map voor de parenbestanden (Parenmap) kon niet worden gemaakt; "
-                            "paren kunnen nu niet worden opgeslagen.\n\n") +
-                 Bijzonderheden(map.error()));
+        MeldFout(parentWidget(), QMessageBox::Warning,
+                 QStringLiteral("De map voor de parenbestanden (Parenmap) kon niet worden gemaakt, "
+                                "dus paren kunnen nu niet worden opgeslagen. De gegevens van de "
+                                "spelers zijn niet veranderd. Kijk of u in de map van de spelers "
+                                "mag schrijven."),
+                 map.error());
 }
 
 // ---- Showing a group-subgroup ------------------------------------------------------------------
@@ -78,12 +80,13 @@ void frmParenOnderhoud::LaadSubgroep(const Tekst& keuze)
         ToonAantalParen();
     VulSpelerslijsten(Zoeklijst::Plek::Begin);
     if (fout)
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het parenbestand '%1' kan niet worden gelezen. U ziet daarom geen "
-                            "paren; voordat het wordt vervangen, komt er een kopie van in de map "
-                            "Reservekopie.\n\n")
-                     .arg(NaarQString(keuze)) +
-                 Bijzonderheden(*fout));
+        MeldFout(this, QMessageBox::Warning,
+                 QStringLiteral("Het parenbestand '%1' kan niet worden gelezen; u ziet daarom geen "
+                                "paren. Voordat het wordt vervangen, komt er een kopie van in de "
+                                "map Reservekopie. Sluit met Annuleren als u eerst de oorzaak wilt "
+                                "verhelpen.")
+                     .arg(NaarQString(keuze)),
+                 *fout);
     if (!losse.empty())
         MeldLosse(losse);
 }
@@ -200,10 +203,10 @@ void frmParenOnderhoud::VerwijderBestand()
         return;
     const auto weg = administratie_.schijf.Verwijder(*pad);
     if (!weg) {
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het parenbestand kon niet worden verwijderd; het is gebleven zoals "
-                            "het was.\n\n") +
-                 Bijzonderheden(weg.error()));
+        MeldFout(this, QMessageBox::Warning,
+                 QStringLiteral("Het parenbestand kon niet worden verwijderd; het is gebleven "
+                                "zoals het was. Verhelp de oorzaak en probeer het opnieuw."),
+                 weg.error());
         return;
     }
     gelezen_.reset();
@@ -225,7 +228,8 @@ void frmParenOnderhoud::SchrijfCSV(ParenCSV soort)
     else if (mappen.RVDMAP.empty())
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Het parenbestand '%1' is niet opgeslagen: er staat geen map achter "
-                            "RVDMAP= in 'Mappen.ini'.")
+                            "RVDMAP= in 'Mappen.ini'. De paren in dit venster zijn niet veranderd. "
+                            "Vul die map in en start Plexoran opnieuw.")
                  .arg(naam));
     else
         Meld(this, QMessageBox::Warning,
@@ -240,12 +244,12 @@ void frmParenOnderhoud::Einde()
     const Tekst geweigerd = GeweigerdeTekens(keuze_);
     if (!paren_.L3().empty() && !geweigerd.empty()) {
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("De paren van '%1' kunnen niet worden opgeslagen: de subgroep is ook "
-                            "de naam van het parenbestand, en daarin kan dit teken niet staan: "
-                            "%2\n\nGeef de spelers een subgroep zonder zo'n teken. De paren staan "
-                            "nog op het scherm; met Annuleren sluit u het venster zonder op te "
+             QStringLiteral("De paren van '%1' kunnen niet worden opgeslagen, want %2 %3 niet in "
+                            "de naam van een bestand staan. De paren staan nog op het scherm. Geef "
+                            "de spelers een andere subgroep, of kies Annuleren om niets op te "
                             "slaan.")
-                 .arg(NaarQString(keuze_), NaarQString(geweigerd)));
+                 .arg(NaarQString(keuze_), NaarQString(geweigerd),
+                      geweigerd.size() == 1 ? QStringLiteral("kan") : QStringLiteral("kunnen")));
         return;
     }
     const auto bewaard =

@@ -168,6 +168,20 @@ std::optional<std::int32_t> NieuweSleutel(Register& spelers)
     return ++spelers.HKEY;
 }
 
+Fout PlaatsVanHKEY(Schijf& schijf, const Mappen& mappen)
+{
+    const Pad pad = mappen.Spelerbestand();
+    Fout plaats{.soort = {}, .bestand = schijf.Toonpad(pad), .regel = 0, .systeem = {}};
+    const Tekst inhoud = schijf.LeesBestand(pad).value_or(Tekst());
+    int nummer = 0;
+    for (const Tekstblik regel : Regels(inhoud)) {
+        ++nummer;
+        if (regel.starts_with("HKEY="))
+            plaats.regel = nummer;
+    }
+    return plaats;
+}
+
 bool ZijnErSleutels(const Register& spelers, std::size_t aantal)
 {
     const std::int64_t over = std::int64_t{std::numeric_limits<std::int32_t>::max()} -

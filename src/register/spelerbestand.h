@@ -90,6 +90,9 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 /// The next register key, which counts as issued; none when the keys have run out.
 [[nodiscard]] std::optional<std::int32_t> NieuweSleutel(Register& spelers);
 
+/// Where the highest key stands, for a message: the player file and its last key line.
+[[nodiscard]] Fout PlaatsVanHKEY(Schijf& schijf, const Mappen& mappen);
+
 /// Whether that many keys can still be issued.
 [[nodiscard]] bool ZijnErSleutels(const Register& spelers, std::size_t aantal);
 

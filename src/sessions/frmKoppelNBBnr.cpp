@@ -125,9 +125,10 @@ void frmKoppelNBBnr::VulSessies()
     cmbC->setToolTip(cmbC->currentData(Qt::ToolTipRole).toString());
     VergeetGevonden();
     if (!gelezen)
-        MeldFout(InCompetities() ? QStringLiteral("Fout bij het lezen van de map met competities.")
-                                 : QStringLiteral("Fout bij het lezen van de map met zittingen."),
-                 gelezen.error());
+        MeldLeesfout(InCompetities()
+                         ? QStringLiteral("Fout bij het lezen van de map met competities.")
+                         : QStringLiteral("Fout bij het lezen van de map met zittingen."),
+                     gelezen.error());
     else if (sessies_.empty())
         Meld(this, QMessageBox::Information,
              InCompetities()
@@ -165,9 +166,9 @@ void frmKoppelNBBnr::LeesRegister()
     ToonSpeler();
     PlaatsKoppen();
     if (!inhoud)
-        MeldFout(QStringLiteral("Fout bij het lezen van het spelerbestand. Er is nu niemand om te "
-                                "koppelen."),
-                 inhoud.error());
+        MeldLeesfout(QStringLiteral("Fout bij het lezen van het spelerbestand; er is nu niemand om "
+                                    "te koppelen."),
+                     inhoud.error());
 }
 
 /// Over the columns of the list, also when it is scrolled sideways.
@@ -279,9 +280,12 @@ void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)
     lblResultaat->setText(resultaat_);
 }
 
-void frmKoppelNBBnr::MeldFout(const QString& wat, const Fout& fout)
+void frmKoppelNBBnr::MeldLeesfout(const QString& wat, const Fout& fout)
 {
-    Meld(this, QMessageBox::Warning, wat + QStringLiteral("\n\n") + Bijzonderheden(fout));
+    MeldFout(this, QMessageBox::Warning,
+             wat + QStringLiteral(" Er is niets veranderd. Verhelp de oorzaak en probeer het "
+                                  "opnieuw."),
+             fout);
 }
 
 } // namespace plexoran

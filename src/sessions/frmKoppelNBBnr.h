@@ -58,7 +58,7 @@ class frmKoppelNBBnr : public QDialog {
     void ToonZwevende();
     void ToonSpeler();
     void ToonKnoppen();
-    void MeldFout(const QString& wat, const Fout& fout);
+    void MeldLeesfout(const QString& wat, const Fout& fout);
     void ToonResultaat(const QStringList& regels);
     /// Keeps the window alive during `werk` and shows how far it is when it takes long.
     void Doe(bool magStoppen, const std::function<void(const Voortgang&)>& werk);

@@ -15,7 +15,9 @@ QString Opsomming(const std::vector<std::string>& bestanden)
     QStringList uit;
     for (const std::string& bestand : bestanden) {
         if (uit.size() == TeNoemenBestanden) {
-            uit << QStringLiteral("... en nog %1").arg(bestanden.size() - TeNoemenBestanden);
+            uit << QStringLiteral("... en nog ") + Aantal(bestanden.size() - TeNoemenBestanden,
+                                                          QStringLiteral("bestand"),
+                                                          QStringLiteral("bestanden"));
             break;
         }
         uit << QStringLiteral("- ") + QString::fromStdString(bestand);
@@ -69,7 +71,8 @@ void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppelu
     if (uitslag.aangepast.empty()) {
         Meld(this, QMessageBox::Warning,
              QStringLiteral("Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. "
-                            "Misschien heeft een ander programma ze intussen gewijzigd.")
+                            "Misschien heeft een ander programma ze intussen gewijzigd. Zoek de "
+                            "zwevende spelers opnieuw.")
                  .arg(naam));
         return;
     }
@@ -84,15 +87,16 @@ void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppelu
 
 void frmKoppelNBBnr::MeldAfgebroken(const Koppeluitslag& uitslag)
 {
-    Meld(this, QMessageBox::Critical,
-         QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of "
-                        "nog zoals het was. Verhelp de oorzaak en koppel deze speler opnieuw; dan "
-                        "wordt de rest aangepast.\n\n") +
-             Hoeveel(uitslag.gewijzigd, QStringLiteral("Aangepast")) +
-             Opsomming(uitslag.gewijzigd) + QStringLiteral("\n\n") +
-             Hoeveel(uitslag.nietGewijzigd, QStringLiteral("Niet aangepast")) +
-             Opsomming(uitslag.nietGewijzigd) + QStringLiteral("\n\n") +
-             Bijzonderheden(*uitslag.fout));
+    MeldFout(
+        this, QMessageBox::Critical,
+        QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of "
+                       "nog zoals het was. Verhelp de oorzaak en koppel deze speler opnieuw; dan "
+                       "wordt de rest aangepast.\n\n") +
+            Hoeveel(uitslag.gewijzigd, QStringLiteral("Aangepast")) + Opsomming(uitslag.gewijzigd) +
+            QStringLiteral("\n\n") +
+            Hoeveel(uitslag.nietGewijzigd, QStringLiteral("Niet aangepast")) +
+            Opsomming(uitslag.nietGewijzigd),
+        *uitslag.fout);
 }
 
 /// The places that now hold the key leave the list; the next player becomes the chosen one only

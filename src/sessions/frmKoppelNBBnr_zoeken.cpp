@@ -27,11 +27,12 @@ void frmKoppelNBBnr::ZoekNamen()
     ToonResultaat({});
     const auto zittingen = TeDoorzoeken();
     if (!zittingen) {
-        MeldFout(zittingen.error().soort == Foutsoort::Ontbreekt
-                     ? QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze map is er "
-                                      "niet meer.")
-                     : QStringLiteral("Fout bij het zoeken van de zwevende spelers."),
-                 zittingen.error());
+        MeldLeesfout(
+            zittingen.error().soort == Foutsoort::Ontbreekt
+                ? QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze map is "
+                                 "er niet meer.")
+                : QStringLiteral("Fout bij het zoeken van de zwevende spelers."),
+            zittingen.error());
         return;
     }
     gezochtInCompetitie_ = InCompetities();
@@ -72,11 +73,13 @@ void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
     if (!opmerkingen.isEmpty())
         ToonResultaat(opmerkingen);
     if (!uitslag.fouten.empty())
-        MeldFout(QStringLiteral("Fout bij het lezen van de zittingbestanden: %1 bestand(en) konden "
-                                "niet worden gelezen. De spelers daaruit staan niet in de lijst. "
-                                "Het eerste:")
-                     .arg(uitslag.fouten.size()),
-                 uitslag.fouten.front());
+        MeldLeesfout(QStringLiteral("Fout bij het lezen van de zittingbestanden: de spelers uit %1 "
+                                    "staan niet in de lijst.")
+                         .arg(uitslag.fouten.size() == 1
+                                  ? QStringLiteral("het bestand hieronder")
+                                  : QStringLiteral("%1 bestanden, waarvan hieronder het eerste,")
+                                        .arg(uitslag.fouten.size())),
+                     uitslag.fouten.front());
 }
 
 } // namespace plexoran

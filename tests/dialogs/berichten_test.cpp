@@ -11,6 +11,16 @@
 namespace plexoran {
 namespace {
 
+TEST(Aantal, EenIsGeenMeervoud)
+{
+    const auto spelers = [](std::size_t aantal) {
+        return Aantal(aantal, QStringLiteral("speler"), QStringLiteral("spelers")).toStdString();
+    };
+    EXPECT_EQ("0 spelers", spelers(0));
+    EXPECT_EQ("1 speler", spelers(1));
+    EXPECT_EQ("2 spelers", spelers(2));
+}
+
 TEST(MeldVerslag, BreektGeenRegelAf)
 {
     const QString regel = QStringLiteral("100079\tMieke\t\tOudewortel-Quist-van-Wielerdam\t") +

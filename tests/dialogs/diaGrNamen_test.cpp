@@ -204,8 +204,9 @@ TEST_F(diaGrNamenTest, EenKommaKomtOokMetEnterOfOKNietInDeNaam)
 
 TEST_F(diaGrNamenTest, EenTekenDatNietKanWordtGemeld)
 {
-    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard."
-                                        "\n\nIn plaats van 'ő' staat er nu 'o'."));
+    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet worden opgeslagen.\n\nIn plaats van "
+                                        "'ő' staat er nu 'o'.\n\nKijk na of de tekst zo goed "
+                                        "is."));
     TypIn(2, QStringLiteral("Erdő"));
     wachter.Klaar();
     EXPECT_EQ("Erdo", Vak(2)->text().toStdString());

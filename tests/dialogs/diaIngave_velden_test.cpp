@@ -384,8 +384,9 @@ TEST_F(diaIngaveVeldenTest, AccentenEnHetEuroteken)
 TEST_F(diaIngaveVeldenTest, EenGetyptTekenDatNietKanWordtVervangenEnGemeld)
 {
     Open();
-    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard."
-                                        "\n\nIn plaats van 'ő' staat er nu 'o'."));
+    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet worden opgeslagen.\n\nIn plaats van "
+                                        "'ő' staat er nu 'o'.\n\nKijk na of de tekst zo goed "
+                                        "is."));
     TypIn(4, QStringLiteral("Erdő"));
     wachter.Klaar();
     EXPECT_EQ("Erdo", Tekst_(4));
@@ -396,8 +397,8 @@ TEST_F(diaIngaveVeldenTest, EenGetyptTekenZonderLetterDieErOpLijktWordtGeweigerd
     Open();
     for (const int veld : {4, 17}) {
         TypIn(veld, QString());
-        wachter.Waarschuwing(QStringLiteral("Dit teken kan niet in het spelerbestand worden "
-                                            "bewaard.\n\n'漢' is weggelaten."));
+        wachter.Waarschuwing(QStringLiteral("Dit teken kan niet worden opgeslagen.\n\n'漢' is "
+                                            "weggelaten.\n\nKijk na of de tekst zo goed is."));
         Typ(Vak(veld), QStringLiteral("漢"));
         QApplication::processEvents();
         wachter.Klaar();
@@ -408,9 +409,9 @@ TEST_F(diaIngaveVeldenTest, EenGetyptTekenZonderLetterDieErOpLijktWordtGeweigerd
 TEST_F(diaIngaveVeldenTest, GeplakteTekensDieNietKunnenWordenGemeld)
 {
     Open();
-    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet in het spelerbestand worden "
-                                        "bewaard.\n\nIn plaats van 'ő' staat er nu 'o'.\n'漢' is "
-                                        "weggelaten."));
+    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet worden opgeslagen.\n\nIn plaats "
+                                        "van 'ő' staat er nu 'o'.\n'漢' is weggelaten.\n\nKijk na "
+                                        "of de tekst zo goed is."));
     PlakIn(4, QStringLiteral("Erdő 漢ő"));
     wachter.Klaar();
     EXPECT_EQ("Erdo o", Tekst_(4));

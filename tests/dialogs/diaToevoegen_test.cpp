@@ -259,10 +259,8 @@ TEST_F(diaToevoegenTest, AlsDeSleutelsOpZijn)
 {
     administratie.spelers.HKEY = std::numeric_limits<std::int32_t>::max() - 3;
     ASSERT_NO_FATAL_FAILURE(Open());
-    wachter.Verwacht({.tekst = QStringLiteral("Er is niets toegevoegd: de spelersleutels zijn op. "
-                                              "Kijk het getal na achter HKEY= in het "
-                                              "spelerbestand."),
-                      .icoon = QMessageBox::Critical});
+    wachter.SleutelsOp(QStringLiteral("Er is niets toegevoegd"),
+                       suite.Toonpad("Spelers/RVDspelers.txt"));
     const int oud = Tabel().Rijen();
     Klik(Knop("cmdStart"));
     EXPECT_EQ(oud, Tabel().Rijen());

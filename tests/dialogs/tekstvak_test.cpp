@@ -33,7 +33,9 @@ class TekstvakTest : public testing::Test {
     void VerwachtTeken(const QString& regels)
     {
         wachter.Waarschuwing(
-            QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard.\n\n") + regels);
+            QStringLiteral("Dit teken kan niet worden opgeslagen.\n\n%1\n\nKijk na of de tekst zo "
+                           "goed is.")
+                .arg(regels));
     }
 
     Berichtwachter wachter;
@@ -128,9 +130,9 @@ TEST_F(TekstvakTest, MetEenToetsregelWordtHetOokGemeld)
 
 TEST_F(TekstvakTest, ElkTekenWordtEenKeerGenoemd)
 {
-    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet in het spelerbestand worden "
-                                        "bewaard.\n\nIn plaats van 'ő' staat er nu 'o'.\n'漢' is "
-                                        "weggelaten."));
+    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet worden opgeslagen.\n\nIn plaats "
+                                        "van 'ő' staat er nu 'o'.\n'漢' is weggelaten.\n\nKijk na "
+                                        "of de tekst zo goed is."));
     Plak(QStringLiteral("ő漢ő漢"));
     wachter.Klaar();
     EXPECT_EQ("oo", vak.GeefTekst());

@@ -124,7 +124,8 @@ TEST_F(diaControleNBBTest, GeslachtAlleenAlsHetIsAangevinkt)
 TEST_F(diaControleNBBTest, NaEenBestandDatNietGelezenWerdGaatDeLijstVerder)
 {
     wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Weg.csv' CSV-bestand\r\n"
-                                              "Het bestand is er niet (meer).\r\nBestand: "),
+                                              "Het bestand is er niet (meer); de leden "
+                                              "ervan staan niet in het overzicht. "),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open({"Weg.csv", "Dinsdagavondclub.csv"}));
@@ -137,9 +138,10 @@ TEST_F(diaControleNBBTest, EenFoutInEenNbb3Bestand)
     map.Zet("Stuk.xml", "<lijst><lid>");
     wachter.Waarschuwing(
         QStringLiteral("Fout bij het lezen van 'Stuk.xml' NBB3-XML-bestand\r\nDe inhoud is niet "
-                       "die van een ledenbestand.\r\nBestand: %1\nRegel: 1\nOorzaak: een eindtag "
-                       "ontbreekt of hoort niet bij de begintag (teken 12 van die regel)\r\n\r\nDe "
-                       "leden van dit bestand staan niet in het overzicht.")
+                       "die van een ledenbestand; de leden ervan staan niet in het overzicht. "
+                       "Exporteer het opnieuw of kies een ander ledenbestand.\r\n\r\n"
+                       "Bestand: %1\nRegel: 1\nOorzaak: een eindtag ontbreekt of hoort niet bij de "
+                       "begintag (teken 12 van die regel)")
             .arg(QString::fromStdString((map.Weg() / "Stuk.xml").string())));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml"}));
     EXPECT_FALSE(Knop("cmdPrint")->isEnabled());
@@ -149,7 +151,8 @@ TEST_F(diaControleNBBTest, EenTeKorteRegelWordtGemeldMetWatErVoorStond)
 {
     map.Zet("Kort.csv",
             Csv("1", "V", "An", "", "Bos") + "2;V;Bea\r\n" + Csv("3", "V", "Cor", "", "Dam"));
-    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\n'Kort.csv': "
+    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden viel dit op; er is "
+                                      "niets veranderd.\r\n\r\n'Kort.csv': "
                                       "gelezen tot regel 2, want die regel heeft te weinig "
                                       "kolommen."));
     ASSERT_NO_FATAL_FAILURE(Open({"Kort.csv"}));
@@ -161,10 +164,11 @@ TEST_F(diaControleNBBTest, WatErNietInStaatWordtGemeld)
     map.Zet("Kop.csv", "VERSIE=2.8\r\n" + Csv("1", "V", "An", "", "Bos") +
                            Csv("2", "V", "Bea", "", "D=m") + Csv("3", "V", "Zo\xC3\xAB", "", "Ek"));
     wachter.Informatie(QStringLiteral(
-        "Bij het lezen van de ledenbestanden:\r\n\r\n'Kop.csv': opgeslagen in UTF-8, dus letters "
+        "Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n'Kop.csv': "
+        "opgeslagen in UTF-8, dus letters "
         "met "
-        "een accent komen verkeerd over.\r\n'Kop.csv': aantal regels overgeslagen omdat er een '=' "
-        "in staat, zoals in een kopregel: 2."));
+        "een accent komen verkeerd over.\r\n'Kop.csv': 2 regels overgeslagen, omdat er een '=' "
+        "in staat, zoals in een kopregel."));
     ASSERT_NO_FATAL_FAILURE(Open({"Kop.csv"}));
     EXPECT_EQ("Aantal leden: 2", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
 }
@@ -177,10 +181,11 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
                         "<Achternaam>Sz\xC5\x91</Achternaam></ReportableMember></Members>"
                         "</ReportableMembersList>");
     wachter.Informatie(QStringLiteral(
-        "Bij het lezen van de ledenbestanden:\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
+        "Bij het lezen van de ledenbestanden viel dit op; er is niets "
+        "veranderd.\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
         "niet als XML worden gelezen; regel 1: een eindtag ontbreekt of hoort niet bij de begintag "
         "(teken 12 van die regel).\r\n'Weg.xml': geen leden, want het bestand is er niet "
-        "(meer).\r\n'Heel.xml': aantal tekens dat het register niet kent en "
+        "(meer).\r\n'Heel.xml': aantal tekens dat het spelerbestand niet kent en "
         "dat "
         "is vervangen door een teken dat erop lijkt, of is weggelaten: 1."));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Weg.xml", "Heel.xml"}));
@@ -193,9 +198,11 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
     opdracht.bron = Ledenbron::Database;
     opdracht.LedenDatabase = Samen(map.AlsPad(), "Members.mdb");
     wachter.Informatie(QStringLiteral(
-        "Bij het lezen van de ledenbestanden:\r\n\r\n'Jeugd 1012': dit zijn de leden van het "
+        "Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n'Jeugd "
+        "1012': dit zijn de leden van het "
         "ledenbestand met nummer 12, want van het nummer tellen alleen de laatste drie tekens."
-        "\r\n'Jeugd 1012': aantal tekens dat het register niet kent en dat is vervangen door een "
+        "\r\n'Jeugd 1012': aantal tekens dat het spelerbestand niet kent en dat is vervangen door "
+        "een "
         "teken dat erop lijkt, of is weggelaten: 1."));
     ASSERT_NO_FATAL_FAILURE(Open({"Jeugd 1012"}));
     EXPECT_EQ("Aantal leden: 6", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
@@ -205,7 +212,8 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
 TEST_F(diaControleNBBTest, StoppenLaatDeVolgendeBestandenWeg)
 {
     const Voortgangstopper stopper(1);
-    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden:\r\n\r\nHet lezen is "
+    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden viel dit op; er is "
+                                      "niets veranderd.\r\n\r\nHet lezen is "
                                       "gestopt: de lijst is niet volledig."));
     ASSERT_NO_FATAL_FAILURE(OpenBeide());
     EXPECT_EQ("Aantal leden: 3", Label("lblAantal"));

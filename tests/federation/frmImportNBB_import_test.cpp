@@ -62,7 +62,8 @@ class ImporterenTest : public Importproef {
     void VerwachtLos(const QString& naam, const QString& rest)
     {
         wachter.Informatie(QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er "
-                                          "staat.\r\n\r\n")
+                                          "staat; de rest is geïmporteerd. Verander het zo nodig "
+                                          "in het rekenprogramma en importeer opnieuw.\r\n\r\n")
                                .arg(naam) +
                            rest);
     }
@@ -82,7 +83,7 @@ TEST_F(ImporterenTest, UitCsv)
         "JK,Wielerdam,06-00000607,,Nederland,V,\r\n"));
     VerwachtAantallen(5, 2);
     VerwachtLos(QStringLiteral("Maandag 20260901.csv"),
-                QStringLiteral("1 overgeslagen, omdat er een '=' in de regel staat, zoals in een "
+                QStringLiteral("1 regel overgeslagen, omdat er een '=' in staat, zoals in een "
                                "kopregel:\r\nLEDENBESTAND=Maandag;VERSIE=2.8\r\n"));
     Importeer();
     EXPECT_EQ("HKEY=100175", Sleutelregel());
@@ -173,8 +174,8 @@ TEST_F(ImporterenTest, EenNummerVanVierCijfersWordtVoorDeVraagGemeld)
     Verwacht(Voer("Option1", {2}));
     wachter.Waarschuwing(QStringLiteral(
         "Van het nummer achter de naam 'Jeugd 1007' tellen alleen de laatste drie tekens: dit zijn "
-        "de leden van het ledenbestand met nummer 7.\n\nKies bij de volgende vraag Annuleren als u "
-        "een ander ledenbestand bedoelt."));
+        "de leden van het ledenbestand met nummer 7. Er is nog niets geïmporteerd. Kies bij de "
+        "volgende vraag Annuleren als u een ander ledenbestand bedoelt."));
     VerwachtVraag(QStringLiteral("Jeugd"), 13, Annuleren);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
@@ -226,10 +227,11 @@ TEST_F(ImporterenTest, WieStilWordtOvergeslagenWordtGenoemd)
     Verwacht(Voer("Option2", {0}));
     VerwachtVraag(QStringLiteral("Club"), 3);
     VerwachtAantallen(0, 1);
-    VerwachtLos(QStringLiteral("Club.csv"),
-                QStringLiteral("2 overgeslagen, omdat hun NBB-nummer al voorkomt: eerder in dit "
-                               "bestand, of anders geschreven in groep 'Gr05-':\r\n"
-                               "Eva,,Twee,,,,,,,V,771\r\nAgnes,,Appelscha,,,,,,,V,092076715\r\n"));
+    VerwachtLos(
+        QStringLiteral("Club.csv"),
+        QStringLiteral("2 leden overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit "
+                       "bestand, of anders geschreven in groep 'Gr05-':\r\n"
+                       "Eva,,Twee,,,,,,,V,771\r\nAgnes,,Appelscha,,,,,,,V,092076715\r\n"));
     Importeer();
     EXPECT_EQ("HKEY=100172", Sleutelregel());
 }
@@ -240,8 +242,8 @@ TEST_F(ImporterenTest, EenRegelMetTeWeinigKolommen)
     Verwacht(Voer("Option2", {0}));
     wachter.Waarschuwing(QStringLiteral(
         "Regel 2 van 'Club.csv' heeft minder kolommen dan nodig is voor de gegevens die u hebt "
-        "aangevinkt. Daar is het lezen gestopt: alleen de 1 spelers van de regels ervoor kunnen "
-        "worden geïmporteerd."));
+        "aangevinkt. Er is nog niets geïmporteerd; dat kan alleen met wie ervoor staat (1 speler). "
+        "Kies bij de volgende vraag Annuleren als u eerst het bestand wilt herstellen."));
     VerwachtVraag(QStringLiteral("Club"), 1);
     VerwachtAantallen(0, 1);
     Importeer();
@@ -321,8 +323,10 @@ TEST_F(ImporterenTest, EenReusachtigeRegelHoudtHetProgrammaNietOp)
     VerwachtLang(QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\nEva,,") +
                  kort.left(495) + QStringLiteral(" ...\n"));
     VerwachtAantallen(0, 0);
-    VerwachtLang(QStringLiteral("Niet alles uit 'Club.csv' is zo overgenomen als het er staat.\n\n"
-                                "1 overgeslagen, omdat er een '=' in de regel staat, zoals in een "
+    VerwachtLang(QStringLiteral("Niet alles uit 'Club.csv' is zo overgenomen als het er staat; "
+                                "de rest is geïmporteerd. Verander het zo nodig in het "
+                                "rekenprogramma en importeer opnieuw.\n\n"
+                                "1 regel overgeslagen, omdat er een '=' in staat, zoals in een "
                                 "kopregel:\na=") +
                  kort + QStringLiteral(" ...\n"));
     QElapsedTimer klok;
@@ -337,10 +341,10 @@ TEST_F(ImporterenTest, EenCsvInUtf8WordtVoorDeVraagGemeld)
                           "771;V;Zo\xC3\xAB;;;Een;;;;;;\r\n");
     Verwacht(Voer("Option2", {0}));
     wachter.Waarschuwing(QStringLiteral(
-        "'Club.csv' is opgeslagen in UTF-8, maar een CSV-bestand wordt gelezen als Windows-1252 "
-        "(ANSI). Letters met een accent komen verkeerd over, en voor het eerste NBB-nummer kunnen "
-        "vreemde tekens staan.\n\nKies bij de volgende vraag liever Annuleren. Bewaar het bestand "
-        "als ANSI of exporteer een XML-ledenbestand."));
+        "'Club.csv' is opgeslagen in UTF-8: letters met een accent komen verkeerd over, en soms "
+        "ook het eerste NBB-nummer. Er is nog niets geïmporteerd. Kies bij de volgende vraag "
+        "liever Annuleren, en sla het bestand op als ANSI (Windows-1252) of exporteer een "
+        "XML-bestand."));
     VerwachtVraag(QStringLiteral("Club"), 1, Annuleren);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
@@ -471,7 +475,7 @@ TEST_F(ImporterenTest, EenNbbr4BestandDatGeenXmlIsHeeftGeenLedenEnDatWordtGezegd
 {
     ZetExport("Club.xml", "<ReportableMember><LeagueId>");
     Verwacht(Voer("Option4", {0}));
-    wachter.Verwacht({.tekst = QStringLiteral("In 'Club.xml' zijn geen leden gevonden.\n"),
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Club.xml' NBB4-XML-bestand"),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     VerwachtVraag(QStringLiteral("Club"), 0);
@@ -486,10 +490,8 @@ TEST_F(ImporterenTest, ZonderSleutelsGebeurtErNiets)
     administratie.spelers.HKEY = 2147483647;
     Verwacht(VoerEnSluit("Option2", {0}));
     VerwachtVraag(QStringLiteral("Club"), 1);
-    wachter.Verwacht({.tekst = QStringLiteral("Uit 'Club.csv' is niets geïmporteerd: de "
-                                              "spelersleutels zijn op. Kijk het getal na achter "
-                                              "HKEY= in het spelerbestand."),
-                      .icoon = QMessageBox::Critical});
+    wachter.SleutelsOp(QStringLiteral("Uit 'Club.csv' is niets geïmporteerd"),
+                       suite.Toonpad("Spelers/RVDspelers.txt"));
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ(148, administratie.spelers.tabel.Rijen());
@@ -554,7 +556,9 @@ TEST_F(ImporterenTest, StoppenTijdensHetLezen)
     VerwachtVraag(QStringLiteral("A"), 1);
     VerwachtAantallen(0, 1);
     wachter.Informatie(QStringLiteral("Het importeren is gestopt. Uit 'B.csv' is niets "
-                                      "geïmporteerd; wat eerder is geïmporteerd, blijft."));
+                                      "geïmporteerd; wat eerder is geïmporteerd, blijft. "
+                                      "Importeer 'B.csv' opnieuw als u die leden nog nodig "
+                                      "hebt."));
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Een,,,,,,,V,,,,A,771", Speler("100172"));
     EXPECT_EQ("HKEY=100172", Sleutelregel());

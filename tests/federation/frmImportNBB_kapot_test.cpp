@@ -47,10 +47,9 @@ class KapotTest : public Importproef {
         const auto heeft = [&](const char* deel) { return tekst.find(deel) != std::string::npos; };
         if (tekst.starts_with("Fout bij het lezen van de ledenbestanden!\r\n"))
             return heeft("\n\nBestand: ");
-        if (tekst.starts_with("Fout bij het lezen van ") || tekst.starts_with("In '"))
-            return heeft("\r\nBestand: ") &&
-                   tekst.ends_with("\r\n\r\nUit dit bestand is niets geïmporteerd.");
-        return (tekst.starts_with("Regel ") && heeft("Daar is het lezen gestopt")) ||
+        if (tekst.starts_with("Fout bij het lezen van "))
+            return heeft("; er is niets uit geïmporteerd. ") && heeft("\r\n\r\nBestand: ");
+        return (tekst.starts_with("Regel ") && heeft("Er is nog niets geïmporteerd")) ||
                (tekst.starts_with("'") && heeft(" is opgeslagen in UTF-8"));
     }
 
@@ -133,24 +132,28 @@ class KapotTest : public Importproef {
         });
         const QString pad =
             QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
-        wachter.Waarschuwing(QStringLiteral("In '%1' zijn geen leden gevonden.\n")
-                                 .arg(QString::fromStdString(naam)) +
-                             QString(fout).replace(QStringLiteral("<pad>"), pad));
+        wachter.Waarschuwing(QString(fout).replace(QStringLiteral("<pad>"), pad));
         VerwachtVraag(QString::fromStdString(naam.substr(0, naam.find_first_of(" ."))), 0);
         VerwachtAantallen(0, 0);
         Importeer();
         AllesIsGebleven();
     }
+    /// What every box says between the cause and where it is.
+    static QString Vervolg()
+    {
+        return QStringLiteral("; er is niets uit geïmporteerd. Exporteer het opnieuw of kies een "
+                              "ander ledenbestand.\r\n\r\n");
+    }
     static QString Fouttekst(const std::string& naam, const char* soort, const QString& rest)
     {
         return QStringLiteral("Fout bij het lezen van '%1' %2-bestand\r\n")
                    .arg(QString::fromStdString(naam), QString::fromLatin1(soort)) +
-               rest + QStringLiteral("\r\n\r\nUit dit bestand is niets geïmporteerd.");
+               rest;
     }
     static QString Inhoudsfout(const QString& plaats, const QString& oorzaak)
     {
-        return QStringLiteral("De inhoud is niet die van een ledenbestand.\r\nBestand: <pad>\n") +
-               plaats + QStringLiteral("Oorzaak: ") + oorzaak;
+        return QStringLiteral("De inhoud is niet die van een ledenbestand") + Vervolg() +
+               QStringLiteral("Bestand: <pad>\n") + plaats + QStringLiteral("Oorzaak: ") + oorzaak;
     }
 
     /// The same bytes, some of them other ones, gone or twice there.
@@ -364,9 +367,9 @@ TEST_F(KapotTest, EenBestandZonderRechten)
     EisFout(
         "Option2", "Dicht.csv",
         Fouttekst("Dicht.csv", "CSV",
-                  QStringLiteral("Het systeem stond het niet toe: het bestand hieronder kan "
-                                 "niet worden gelezen of geschreven.\r\nBestand: <pad>\nMelding "
-                                 "van het systeem: geen toegang")));
+                  QStringLiteral("Het bestand hieronder kan niet worden gelezen of geschreven") +
+                      Vervolg() +
+                      QStringLiteral("Bestand: <pad>\nMelding van het systeem: geen toegang")));
 }
 
 TEST_F(KapotTest, EenBestandDatVerdwijntTerwijlHetInDeLijstStaat)
@@ -389,11 +392,9 @@ TEST_F(KapotTest, EenBestandDatVerdwijntTerwijlHetInDeLijstStaat)
         });
         const QString pad =
             QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
-        wachter.Waarschuwing(
-            (vier ? QStringLiteral("In '%1' zijn geen leden gevonden.\n").arg(QLatin1String(naam))
-                  : QString()) +
-            Fouttekst(naam, soort,
-                      QStringLiteral("Het bestand is er niet (meer).\r\nBestand: ") + pad));
+        wachter.Waarschuwing(Fouttekst(naam, soort,
+                                       QStringLiteral("Het bestand is er niet (meer)") + Vervolg() +
+                                           QStringLiteral("Bestand: ") + pad));
         if (vier) {
             VerwachtVraag(QStringLiteral("Zomer"), 0);
             VerwachtAantallen(0, 0);
@@ -416,7 +417,8 @@ TEST_F(KapotTest, DeDatabaseVerdwijntTerwijlHaarLijstErStaat)
     });
     wachter.Waarschuwing(
         QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!\r\nHet bestand is er "
-                       "niet (meer).\r\nBestand: %1\r\n\r\nUit dit bestand is niets geïmporteerd.")
+                       "niet (meer); er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
+                       "ledenbestand.\r\n\r\nBestand: %1")
             .arg(QString::fromStdString(suite.Toonpad("Rekenprogramma/data/Members.mdb"))));
     Importeer();
     AllesIsGebleven();

@@ -206,7 +206,8 @@ TEST_F(frmImportNBBTest, EenBestandVanEenAndereSoortWordtGenoemd)
                           "Ledenbestanden/Zomer 20260901.xml");
     wachter.Informatie(QStringLiteral(
         "'Zomer 20260901.xml' is geen XML-ledenbestand uit NBBR-3 en staat dus niet in de "
-        "lijst.\n\nKies een ander bestand, of kies eerst links waar dit bestand vandaan komt."));
+        "lijst. Er is niets geïmporteerd. Kies een ander bestand, of kies eerst links waar dit "
+        "bestand vandaan komt."));
     Importeer();
 }
 
@@ -216,8 +217,9 @@ TEST_F(frmImportNBBTest, EenMapZonderRechten)
     ZetExport("Dinsdag.csv", "");
     schijf.Vooraf([](const Pad& pad) { return !pad.ends_with("NBB4-Leden"); });
     const QString bericht =
-        QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Kies een "
-                       "andere map.\n\nBestand: %1\nMelding van het systeem: geen toegang")
+        QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets "
+                       "geïmporteerd. Kies een andere map.\n\nBestand: %1\nMelding van het "
+                       "systeem: geen toegang")
             .arg(QString::fromStdString(suite.Toonpad("Bestanden/NBB4-Leden")));
     Verwacht([](QDialog& dia) {
         for (const char* optie : {"Option2", "Option3", "Option4"}) {
@@ -427,8 +429,8 @@ TEST_F(frmImportNBBTest, EenOntbrekendeDatabaseNoemtDeGeprobeerdePlaats)
     });
     wachter.Verwacht(
         {.tekst = QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\nDe database met de "
-                                 "ledenbestanden is niet gevonden.\nKies eventueel een "
-                                 "geëxporteerd ledenbestand.\n\nBestand: ") +
+                                 "ledenbestanden is niet gevonden; er is niets geïmporteerd. Kies "
+                                 "zo nodig een geëxporteerd ledenbestand.\n\nBestand: ") +
                   QString::fromStdString(suite.Toonpad("weg/data/Members.mdb")),
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
@@ -484,8 +486,8 @@ TEST_F(frmImportNBBTest, GeenKeusTussenBeideWordtUitgelegd)
     });
     wachter.Waarschuwing(QStringLiteral(
         "Fout bij het lezen van de ledenbestanden!\r\nBij de start van Plexoran was niet bekend "
-        "waar het rekenprogramma zijn gegevens bewaart, dus is er geen bestand 'Members.mdb' "
-        "geprobeerd. Start Plexoran opnieuw en kies dan het rekenprogramma."));
+        "waar de database van het rekenprogramma staat; er is niets geïmporteerd. "
+        "Start Plexoran opnieuw en kies dan het rekenprogramma."));
     Importeer();
 }
 

@@ -16,16 +16,18 @@ TEST(Leesfouttekst, BegintNaarDeBron)
                     .bestand = "/a/b",
                     .regel = 0,
                     .systeem = "No such file or directory"};
-    const std::string rest = "\r\nHet bestand is er niet (meer).\r\nBestand: /a/b\r\n\r\nUit dit "
-                             "bestand is niets geïmporteerd.";
+    const std::string rest = "\r\nHet bestand is er niet (meer); er is niets uit geïmporteerd. ";
+    const std::string vervolg =
+        "Exporteer het opnieuw of kies een ander ledenbestand.\r\n\r\nBestand: /a/b";
     EXPECT_EQ(Melding(Ledenbron::XmlNbb3, fout),
-              "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand" + rest);
+              "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand" + rest + vervolg);
     EXPECT_EQ(Melding(Ledenbron::XmlNbb4, fout),
-              "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand" + rest);
+              "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand" + rest + vervolg);
     EXPECT_EQ(Melding(Ledenbron::Csv, fout),
-              "Fout bij het lezen van 'Café 30.x' CSV-bestand" + rest);
+              "Fout bij het lezen van 'Café 30.x' CSV-bestand" + rest + vervolg);
     EXPECT_EQ(Melding(Ledenbron::Database, fout),
-              "Fout bij het lezen van het ledenbestand (alle items)!" + rest);
+              "Fout bij het lezen van het ledenbestand (alle items)!" + rest +
+                  "Kies zo nodig een geëxporteerd ledenbestand.\r\n\r\nBestand: /a/b");
 }
 
 TEST(Leesfouttekst, NoemtWatErMisIsEnWaar)
@@ -36,8 +38,9 @@ TEST(Leesfouttekst, NoemtWatErMisIsEnWaar)
                                      .regel = 3,
                                      .systeem = "een eindtag ontbreekt (teken 1)"}),
         "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand\r\nDe inhoud is niet die van een "
-        "ledenbestand.\r\nBestand: /a/b.xml\nRegel: 3\nOorzaak: een eindtag ontbreekt (teken "
-        "1)\r\n\r\nUit dit bestand is niets geïmporteerd.");
+        "ledenbestand; er is niets uit geïmporteerd. Exporteer het opnieuw of kies een ander "
+        "ledenbestand.\r\n\r\nBestand: /a/b.xml\nRegel: 3\nOorzaak: een eindtag ontbreekt (teken "
+        "1)");
 }
 
 /// It may be the intermediate file that the system refused, so the member file is not blamed.
@@ -48,10 +51,10 @@ TEST(Leesfouttekst, WatHetSysteemWeigert)
                                      .bestand = "/p/Club Temp-NBBXMLtoCSV.csv",
                                      .regel = 0,
                                      .systeem = "No space left on device"}),
-        "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand\r\nHet systeem stond het niet toe: "
-        "het bestand hieronder kan niet worden gelezen of geschreven.\r\nBestand: /p/Club "
-        "Temp-NBBXMLtoCSV.csv\nMelding van het systeem: No space left on device\r\n\r\nUit dit "
-        "bestand is niets geïmporteerd.");
+        "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand\r\nHet bestand hieronder kan niet "
+        "worden gelezen of geschreven; er is niets uit geïmporteerd. Exporteer het opnieuw of kies "
+        "een ander ledenbestand.\r\n\r\nBestand: /p/Club Temp-NBBXMLtoCSV.csv\nMelding van het "
+        "systeem: No space left on device");
 }
 
 /// The number check imports nothing, so it must not say that it did not.
@@ -60,8 +63,9 @@ TEST(Leesfouttekst, EindigtNaarHetDoel)
     EXPECT_EQ(Melding(Ledenbron::Csv,
                       {.soort = Foutsoort::Ontbreekt, .bestand = "/a/b", .regel = 0, .systeem = {}},
                       Leesdoel::Overzicht),
-              "Fout bij het lezen van 'Café 30.x' CSV-bestand\r\nHet bestand is er niet (meer)."
-              "\r\nBestand: /a/b\r\n\r\nDe leden van dit bestand staan niet in het overzicht.");
+              "Fout bij het lezen van 'Café 30.x' CSV-bestand\r\nHet bestand is er niet (meer); "
+              "de leden ervan staan niet in het overzicht. Exporteer het opnieuw of kies een ander "
+              "ledenbestand.\r\n\r\nBestand: /a/b");
 }
 
 TEST(Leesfoutreden, ZegtHetInEenRegel)

@@ -199,7 +199,9 @@ TEST_F(frmToelichtingTest, ZonderPrinterEenFoutEnHetVensterBlijftOpen)
     }));
     wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
                                               "printer geïnstalleerd of geen standaardprinter "
-                                              "gekozen."),
+                                              "gekozen. De gegevens van de spelers zijn niet "
+                                              "veranderd. Kies een standaardprinter in de "
+                                              "instellingen van uw computer."),
                       .icoon = QMessageBox::Critical});
     Klik(Knop("cmdPrintToel"));
     wachter.Klaar();

@@ -72,6 +72,17 @@ void Berichtwachter::Waarschuwing(const QString& tekst)
     Verwacht({.tekst = tekst, .icoon = QMessageBox::Warning, .knoppen = {QStringLiteral("OK")}});
 }
 
+void Berichtwachter::SleutelsOp(const QString& wat, const std::string& spelerbestand)
+{
+    Verwacht({.tekst = wat +
+                       QStringLiteral(": er zijn geen nieuwe sleutels meer. De gegevens zijn niet "
+                                      "veranderd. Zet op de regel hieronder achter HKEY= de "
+                                      "hoogste sleutel die ooit is uitgegeven, en start Plexoran "
+                                      "opnieuw.\n\nBestand: ") +
+                       QString::fromStdString(spelerbestand) + QStringLiteral("\nRegel: 1"),
+              .icoon = QMessageBox::Critical});
+}
+
 void Berichtwachter::Bedien(std::function<void(QDialog&)> stappen)
 {
     verwacht_.push_back({std::nullopt, std::move(stappen)});

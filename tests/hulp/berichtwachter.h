@@ -40,6 +40,8 @@ class Berichtwachter : public QObject {
     void Verwacht(Bericht bericht);
     void Informatie(const QString& tekst);
     void Waarschuwing(const QString& tekst);
+    /// `wat` did not happen, because no key is left after that on the first line of the file.
+    void SleutelsOp(const QString& wat, const std::string& spelerbestand);
 
     /// The next modal dialog that is no message box is handed to `stappen`, which must close it.
     /// Boxes that come while it is open are announced after it.

@@ -201,11 +201,13 @@ TEST_F(LijstenTest, WatGeenGetalIsWordtGenoemd)
 {
     StartMet("HKEY=100009\r\n1,10A001,Gr05-,Jan,de,Bos,,,,,,,M,,,,DI,lid 1\r\n");
     KiesGroep(5);
-    wachter.Waarschuwing(QStringLiteral("De lijst kan niet worden gemaakt: de key van Jan de Bos "
-                                        "(Gr05-) is geen getal: '10A001'."));
+    wachter.Waarschuwing(QStringLiteral("De lijst kan niet worden gemaakt: de sleutel van Jan de "
+                                        "Bos (Gr05-) is geen getal: '10A001'. De gegevens zijn "
+                                        "niet veranderd. Verbeter dat in het spelerbestand."));
     Klik(Knop("cmdSortlijst1"));
     wachter.Waarschuwing(QStringLiteral("De lijst kan niet worden gemaakt: het NBB-nummer van Jan "
-                                        "de Bos (Gr05-) is geen getal: 'lid 1'."));
+                                        "de Bos (Gr05-) is geen getal: 'lid 1'. De gegevens zijn "
+                                        "niet veranderd. Verbeter dat bij deze speler."));
     Klik(Knop("cmdSortlijst2"));
     wachter.Klaar();
 }

@@ -353,10 +353,10 @@ TEST_F(OpslagTest, GroepsnamenOpnieuwProberen)
 TEST_F(OpslagTest, InstellingenDieMislukkenWordenEenKeerGemeldEnGaanLaterGewoonGoed)
 {
     schijf.FaalVanaf(1);
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("De instellingen van het programma kunnen niet worden bewaard."),
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    wachter.Verwacht({.tekst = QStringLiteral(
+                          "De instellingen van het programma kunnen niet worden opgeslagen."),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
     KiesGroep(2);
     KiesGroep(3);
     wachter.Klaar();

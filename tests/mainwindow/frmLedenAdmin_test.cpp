@@ -363,7 +363,8 @@ TEST_F(HoofdvensterTest, EenGatenlijstDieNietStartGeeftEenBericht)
 {
     suite.Zet("Gatenlijst.exe", "dit is geen programma");
     wachter.Verwacht(
-        {.tekst = QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart.\n\n"
+        {.tekst = QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart. Er is "
+                                 "niets veranderd. Kijk of u dat programma mag starten.\n\n"
                                  "Bestand: ") +
                   QString::fromStdString((suite.Weg() / "Gatenlijst.exe").string()),
          .icoon = QMessageBox::Warning,

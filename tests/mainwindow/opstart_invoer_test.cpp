@@ -237,13 +237,14 @@ TEST_F(Opstartproef, InEenSpelersmapDieNietBeschrevenMagWordenWerktHetKijken)
 TEST_F(Opstartproef, InstellingenDieNietTeBewarenZijnWordenEenKeerGemeld)
 {
     geheugen.ZetAlleenLezen("C:\\RVD\\Admin");
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("De instellingen van het programma kunnen niet worden bewaard. De "
-                                 "gegevens van de spelers zijn niet in gevaar: alleen de groep die "
-                                 "u het laatst zag en het terugkeerveld worden niet "
-                                 "onthouden.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"),
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    wachter.Verwacht({.tekst = QStringLiteral(
+                          "De instellingen van het programma kunnen niet worden opgeslagen. De "
+                          "gegevens van de spelers zijn niet in gevaar: alleen de groep die "
+                          "u het laatst zag en het terugkeerveld worden niet "
+                          "onthouden. Kijk of u in die map mag "
+                          "schrijven.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Start());
     KiesGroep(2);
     KiesGroep(3);

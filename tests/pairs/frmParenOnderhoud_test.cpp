@@ -164,8 +164,10 @@ TEST_F(frmParenOnderhoudTest, EenMapDieNietGemaaktKanWorden)
 {
     administratie.mappen.SPEMAP = "C:\\club\\Anders";
     wachter.Verwacht({.tekst = QStringLiteral("De map voor de parenbestanden (Parenmap) kon niet "
-                                              "worden gemaakt; paren kunnen nu niet worden "
-                                              "opgeslagen.\n\n"),
+                                              "worden gemaakt, dus paren kunnen nu niet worden "
+                                              "opgeslagen. De gegevens van de spelers zijn niet "
+                                              "veranderd. Kijk of u in de map van de spelers mag "
+                                              "schrijven.\n\n"),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
@@ -243,9 +245,10 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietGelezenKanWorden)
     geheugen.Zet(dinsdag, "100004-100005#\r\n");
     schijf.FaalVanaf(1);
     wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'Gr03-Dinsdag' kan niet worden "
-                                              "gelezen. U ziet daarom geen paren; voordat het "
+                                              "gelezen; u ziet daarom geen paren. Voordat het "
                                               "wordt vervangen, komt er een kopie van in de map "
-                                              "Reservekopie.\n\n"),
+                                              "Reservekopie. Sluit met Annuleren als u eerst de "
+                                              "oorzaak wilt verhelpen.\n\n"),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     Kies("Gr03-Dinsdag");
@@ -544,10 +547,9 @@ TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
     Kies("Gr03-A/B");
     MaakPaar(0, 1);
     wachter.Waarschuwing(QStringLiteral(
-        "De paren van 'Gr03-A/B' kunnen niet worden opgeslagen: de subgroep is ook de naam van het "
-        "parenbestand, en daarin kan dit teken niet staan: /\n\nGeef de spelers een subgroep "
-        "zonder zo'n teken. De paren staan nog op het scherm; met Annuleren sluit u het venster "
-        "zonder op te slaan."));
+        "De paren van 'Gr03-A/B' kunnen niet worden opgeslagen, want / kan niet in de naam van een "
+        "bestand staan. De paren staan nog op het scherm. Geef de spelers een andere subgroep, of "
+        "kies Annuleren om niets op te slaan."));
     Klik(Knop("cmdEinde"));
     wachter.Klaar();
     EXPECT_TRUE(venster->isVisible());
@@ -608,7 +610,8 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
     wachter.Verwacht(
         {.tekst = QStringLiteral("U gaat Parenbestand Gr03-Dinsdag"), .alleenBegin = true});
     wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand kon niet worden verwijderd; het "
-                                              "is gebleven zoals het was.\n\n"),
+                                              "is gebleven zoals het was. Verhelp de oorzaak en "
+                                              "probeer het opnieuw.\n\n"),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     Klik(Knop("cmdVerwParenbest"));
@@ -655,7 +658,9 @@ TEST_F(frmParenOnderhoudTest, EenCSVDieNietLukt)
     Klik(Knop("cmdPrintVast"));
     administratie.mappen.RVDMAP.clear();
     wachter.Waarschuwing(QStringLiteral("Het parenbestand 'RVDparenCSV2.csv' is niet opgeslagen: "
-                                        "er staat geen map achter RVDMAP= in 'Mappen.ini'."));
+                                        "er staat geen map achter RVDMAP= in 'Mappen.ini'. De "
+                                        "paren in dit venster zijn niet veranderd. Vul die map in "
+                                        "en start Plexoran opnieuw."));
     Klik(Knop("cmdPrintLos"));
 }
 

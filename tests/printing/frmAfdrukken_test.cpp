@@ -549,10 +549,11 @@ TEST_F(frmAfdrukkenTest, StoppenNaHetBladDatWordtGetekend)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(500)); // ten pages
     for (const auto& [na, melding] :
-         {std::pair<int, QString>(1, QStringLiteral("Het printen is gestopt.\r\n"
-                                                    "Aantal bladen dat is geprint: 1 van de 9.")),
-          {4, QStringLiteral("Het printen is gestopt.\r\n"
-                             "Aantal bladen dat is geprint: 4 van de 9.")}}) {
+         {std::pair<int, QString>(1,
+                                  QStringLiteral("Het printen is gestopt na 1 van de 9 bladen. De "
+                                                 "overige bladen kunt u later printen.")),
+          {4, QStringLiteral("Het printen is gestopt na 4 van de 9 bladen. De overige bladen "
+                             "kunt u later printen.")}}) {
         std::filesystem::remove(map.Weg() / "lijst.pdf"); // else the dialog asks first
         const Voortgangstopper stopper(na);
         VerwachtPdf(wachter, map.Weg() / "lijst.pdf",

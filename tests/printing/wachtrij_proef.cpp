@@ -234,8 +234,8 @@ TEST_F(WachtrijProef, EenReeksDieWordtGestopt)
 {
     const Voortgangstopper stopper(2);
     const auto venster = OpenLijst(300, [](QDialog& dialoog) { KiesReeks(dialoog, 2, 5); });
-    wachter.Informatie(QStringLiteral("Het printen is gestopt.\r\n"
-                                      "Aantal bladen dat is geprint: 2 van de 4."));
+    wachter.Informatie(QStringLiteral("Het printen is gestopt na 2 van de 4 bladen. De overige "
+                                      "bladen kunt u later printen."));
     Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
     wachter.Klaar();
     EXPECT_EQ((std::vector<std::string>{"2", "3"}), Bladnummers());

@@ -215,8 +215,9 @@ TEST_F(Koppelvenster, DeSpelersVanDeImportgroepUitHetBestand)
 TEST_F(Koppelvenster, EenSpelerbestandDatErNietIs)
 {
     suite.Verwijder("Spelers/RVDspelers.txt");
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van het spelerbestand. Er is nu "
-                                              "niemand om te koppelen.\n\n"),
+    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van het spelerbestand; er is nu "
+                                              "niemand om te koppelen. Er is niets veranderd. "
+                                              "Verhelp de oorzaak en probeer het opnieuw.\n\n"),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
@@ -409,7 +410,8 @@ TEST_F(Koppelvenster, WatIntussenVerdweenWordtNietGekoppeldGenoemd)
     VerwachtVraag();
     wachter.Waarschuwing(
         QStringLiteral("Er is niets gewijzigd: 'Marleen Hijmanse' komt niet meer voor in de "
-                       "bestanden. Misschien heeft een ander programma ze intussen gewijzigd."));
+                       "bestanden. Misschien heeft een ander programma ze intussen gewijzigd. "
+                       "Zoek de zwevende spelers opnieuw."));
     Klik(Knop("cmdStartKoppelen"));
     EXPECT_EQ("ruis\r\n", suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/PercZit.txt"));
 }
@@ -419,7 +421,9 @@ TEST_F(Koppelvenster, EenVerdwenenMap)
     ASSERT_NO_FATAL_FAILURE(Open());
     suite.Verwijder("Zittingen/Dinsdagavond 2024-09-10");
     wachter.Verwacht({.tekst = QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze "
-                                              "map is er niet meer.\n\nBestand: "),
+                                              "map is er niet meer. Er is niets veranderd. "
+                                              "Verhelp de oorzaak en probeer het "
+                                              "opnieuw.\n\nBestand: "),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
@@ -427,7 +431,9 @@ TEST_F(Koppelvenster, EenVerdwenenMap)
     Deel<QRadioButton>("Option2")->click();
     suite.Verwijder("Competities/Laddercompetitie");
     wachter.Verwacht({.tekst = QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze "
-                                              "map is er niet meer.\n\nBestand: "),
+                                              "map is er niet meer. Er is niets veranderd. "
+                                              "Verhelp de oorzaak en probeer het "
+                                              "opnieuw.\n\nBestand: "),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Zoek(QStringLiteral("Laddercompetitie")));

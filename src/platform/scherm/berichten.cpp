@@ -173,4 +173,25 @@ QString Bijzonderheden(const Fout& fout)
     return regels.join(QLatin1Char('\n'));
 }
 
+void MeldFout(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const Fout& fout)
+{
+    const QString bijzonderheden = Bijzonderheden(fout);
+    Meld(ouder, icoon,
+         bijzonderheden.isEmpty() ? tekst : tekst + QStringLiteral("\n\n") + bijzonderheden);
+}
+
+void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats)
+{
+    MeldFout(ouder, QMessageBox::Critical,
+             wat + QStringLiteral(": er zijn geen nieuwe sleutels meer. De gegevens zijn niet "
+                                  "veranderd. Zet op de regel hieronder achter HKEY= de hoogste "
+                                  "sleutel die ooit is uitgegeven, en start Plexoran opnieuw."),
+             plaats);
+}
+
+QString Aantal(std::size_t aantal, const QString& een, const QString& meer)
+{
+    return QStringLiteral("%1 %2").arg(aantal).arg(aantal == 1 ? een : meer);
+}
+
 } // namespace plexoran

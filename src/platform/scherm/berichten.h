@@ -35,4 +35,13 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
 /// Which file and line, and the system's own words, as the closing lines of a message.
 [[nodiscard]] QString Bijzonderheden(const Fout& fout);
 
+/// Says what happened, whether the data is safe and what to do; the details of the error follow.
+void MeldFout(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const Fout& fout);
+
+/// `wat` did not happen, because no key is left; the error names where the highest key stands.
+void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats);
+
+/// "1 speler", "2 spelers".
+[[nodiscard]] QString Aantal(std::size_t aantal, const QString& een, const QString& meer);
+
 } // namespace plexoran

@@ -57,7 +57,7 @@ void diaPrinter::VulPrinters(const Printeraanbod& aanbod)
 {
     for (const QString& printer : aanbod.printers)
         cmbPrinter->addItem(printer, printer);
-    cmbPrinter->addItem(QStringLiteral("Bewaren als PDF-bestand"), QString());
+    cmbPrinter->addItem(QStringLiteral("Opslaan als PDF-bestand"), QString());
     const int standaard = aanbod.standaard.isEmpty() ? -1 : cmbPrinter->findData(aanbod.standaard);
     cmbPrinter->setCurrentIndex(standaard < 0 ? cmbPrinter->count() - 1 : standaard);
 }

@@ -190,8 +190,8 @@ void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekena
         MeldPrintfout(ouder, geprint.error());
     else if (*geprint < gang.bladen.size())
         Meld(ouder, QMessageBox::Information,
-             QStringLiteral("Het printen is gestopt.\r\n"
-                            "Aantal bladen dat is geprint: %1 van de %2.")
+             QStringLiteral("Het printen is gestopt na %1 van de %2 bladen. De overige bladen kunt "
+                            "u later printen.")
                  .arg(*geprint)
                  .arg(gang.bladen.size()));
 }
@@ -207,16 +207,16 @@ Uitkomst<Printer> StandaardPrinter()
 
 void MeldPrintfout(QWidget* ouder, const Fout& fout)
 {
-    QString tekst =
+    const QString tekst =
         fout.soort == Foutsoort::Ontbreekt && fout.bestand.empty()
             ? QStringLiteral("Er is niets geprint: op deze computer is geen printer "
-                             "geïnstalleerd of geen standaardprinter gekozen.")
-            : QStringLiteral("Het printen is niet gelukt. Kijk of de printer aan staat of, bij een "
-                             "PDF-bestand, of er op die plaats geschreven mag worden en of er nog "
-                             "ruimte is. De gegevens van het register zijn niet veranderd.");
-    if (!fout.bestand.empty() || !fout.systeem.empty())
-        tekst += QStringLiteral("\n\n") + Bijzonderheden(fout);
-    Meld(ouder, QMessageBox::Critical, tekst);
+                             "geïnstalleerd of geen standaardprinter gekozen. De gegevens van de "
+                             "spelers zijn niet veranderd. Kies een standaardprinter in de "
+                             "instellingen van uw computer.")
+            : QStringLiteral("Het printen is niet gelukt. De gegevens van de spelers zijn niet "
+                             "veranderd. Kijk of de printer aan staat of, bij een PDF-bestand, of "
+                             "u op die plaats mag schrijven en of er nog ruimte is.");
+    MeldFout(ouder, QMessageBox::Critical, tekst, fout);
 }
 
 } // namespace plexoran

@@ -64,11 +64,11 @@ QString Melding(const std::vector<Vervanging>& vervangen)
         if (!regels.contains(regel))
             regels << regel;
     }
-    const QString begin =
-        regels.size() == 1
-            ? QStringLiteral("Dit teken kan niet in het spelerbestand worden bewaard.")
-            : QStringLiteral("Deze tekens kunnen niet in het spelerbestand worden bewaard.");
-    return begin + QStringLiteral("\n\n") + regels.join(QLatin1Char('\n'));
+    const QString begin = regels.size() == 1
+                              ? QStringLiteral("Dit teken kan niet worden opgeslagen.")
+                              : QStringLiteral("Deze tekens kunnen niet worden opgeslagen.");
+    return begin + QStringLiteral("\n\n") + regels.join(QLatin1Char('\n')) +
+           QStringLiteral("\n\nKijk na of de tekst zo goed is.");
 }
 
 } // namespace

@@ -88,7 +88,7 @@ class diaPrinterTest : public testing::Test {
 TEST_F(diaPrinterTest, ZonderPrinterBlijftEenPdfbestand)
 {
     VerwachtKeuze([](QDialog& dialoog) {
-        EXPECT_EQ((std::vector<std::string>{"Bewaren als PDF-bestand"}), Printers(dialoog));
+        EXPECT_EQ((std::vector<std::string>{"Opslaan als PDF-bestand"}), Printers(dialoog));
         EXPECT_EQ("Opslaan...", Opschrift(dialoog));
         EXPECT_EQ(
             "Alle bladen (9)",
@@ -174,7 +174,7 @@ TEST_F(diaPrinterTest, ZonderBladInBeeldZijnAlleBladenHetVoorstel)
 TEST_F(diaPrinterTest, VoorEenPrinterVolgtHetVensterVanHetSysteem)
 {
     VerwachtKeuze([](QDialog& dialoog) {
-        EXPECT_EQ((std::vector<std::string>{"Kantoor", "Zolder", "Bewaren als PDF-bestand"}),
+        EXPECT_EQ((std::vector<std::string>{"Kantoor", "Zolder", "Opslaan als PDF-bestand"}),
                   Printers(dialoog));
         auto* keus = Vind<QComboBox>(dialoog, "cmbPrinter");
         const auto* bladen = Vind<QGroupBox>(dialoog, "Frame1");

@@ -277,11 +277,17 @@ TEST(MeldPrintfoutTest, ZegtWatErMisIs)
     Berichtwachter wachter;
     wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
                                               "printer geïnstalleerd of geen standaardprinter "
-                                              "gekozen."),
+                                              "gekozen. De gegevens van de spelers zijn niet "
+                                              "veranderd. Kies een standaardprinter in de "
+                                              "instellingen van uw computer."),
                       .icoon = QMessageBox::Critical});
     MeldPrintfout(nullptr, {Foutsoort::Ontbreekt, {}, 0, {}});
-    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
-                      .icoon = QMessageBox::Critical,
-                      .alleenBegin = true});
+    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt. De gegevens van de "
+                                              "spelers zijn niet veranderd. Kijk of de printer aan "
+                                              "staat of, bij een PDF-bestand, of u op die plaats "
+                                              "mag schrijven en of er nog ruimte is.\n\nBestand: "
+                                              "/uit/lijst.pdf\nMelding van het systeem: schijf "
+                                              "vol"),
+                      .icoon = QMessageBox::Critical});
     MeldPrintfout(nullptr, {Foutsoort::Geweigerd, "/uit/lijst.pdf", 0, "schijf vol"});
 }
