@@ -53,42 +53,24 @@ nieuwe_kladmap() {
     mktemp -d "$basis/plexoran-XXXXXX"
 }
 
-# Windows-1252 to and from the system's own names. What has no counterpart stays as it is: then the
-# program meets the bytes that the disk has.
-naar_codepagina() { zet_om UTF-8 WINDOWS-1252 "$1"; }
-van_codepagina() { zet_om WINDOWS-1252 UTF-8 "$1"; }
-zet_om() {
+# A name of the system in Windows-1252. What has no counterpart stays as it is: then the program
+# meets the bytes that the disk has.
+naar_codepagina() {
     local omgezet
-    omgezet=$(iconv -f "$1" -t "$2" <<<"$3" 2>/dev/null) || omgezet=$3
+    omgezet=$(iconv -f UTF-8 -t WINDOWS-1252 <<<"$1" 2>/dev/null) || omgezet=$1
     printf '%s\n' "$omgezet"
 }
 
-# Prints the value of every line "KEY=value" whose value lies in the suite, as a path inside it with
-# slashes; the root itself is left out.
-suitemappen() {
-    local regel
-    while IFS= read -r regel || [[ -n $regel ]]; do
-        regel=${regel%$'\r'}
-        if [[ $regel == *=@SUITE@\\* ]]; then
-            regel=$(van_codepagina "${regel#*=@SUITE@\\}")
-            printf '%s\n' "${regel//\\//}"
-        fi
-    done <"$1"
-}
-
-# Makes folder $1 a sample suite: the files of voorbeeld/, the folders that its "Mappen.ini" names,
-# and that file itself with the folder's own path filled in. Its folder "Instellingen" stands in for
+# Makes folder $1 a sample suite: the files of voorbeeld/, the folder that is empty there, and
+# "Mappen.ini" with the folder's own path filled in. Its folder "Instellingen" stands in for
 # the configuration folder of the user, so that the program finds the scoring program of the suite.
 maak_suite() {
-    local map=$1 sjabloon=$wortel/voorbeeld/Mappen.ini.sjabloon onder pad
+    local map=$1 sjabloon=$wortel/voorbeeld/Mappen.ini.sjabloon pad
     [[ -f $sjabloon ]] || afbreken "het bestand $sjabloon ontbreekt"
-    mkdir -p "$map"
+    mkdir -p "$map/Indelingen"
     cp -R "$wortel/voorbeeld/." "$map/"
     chmod -R u+w "$map"
     rm "$map"/*.sjabloon
-    while IFS= read -r onder; do
-        mkdir -p "$map/$onder"
-    done < <(suitemappen "$sjabloon")
     pad=$(naar_codepagina "$map")
     vul_sjabloon "$sjabloon" "$pad" >"$map/Mappen.ini"
     mkdir -p "$map/Instellingen/plexoran"
