@@ -1,4 +1,5 @@
-// The proof through a real print queue, which tests/printing/wachtrijproef sets up; no part of the quick run.
+// The proof through a real print queue, which tests/printing/wachtrijproef sets up; no part of the
+// quick run.
 //
 // Prints three pages of the sample suite from the windows of the program and compares every word
 // that comes out of the queue with the page as the preview showed it. Around it: what the server
@@ -43,7 +44,8 @@ std::string Omgeving(const char* naam)
 {
     const std::string waarde = qEnvironmentVariable(naam).toStdString();
     if (waarde.empty())
-        throw std::runtime_error(std::string(naam) + " is niet gezet; zie tests/printing/wachtrijproef");
+        throw std::runtime_error(std::string(naam) +
+                                 " is niet gezet; zie tests/printing/wachtrijproef");
     return waarde;
 }
 
