@@ -35,8 +35,9 @@ namespace {
 
 bool Bewaar(QWidget& venster, const QDir& map)
 {
-    // A screen that is only drawn may be small; the pictures show the standard size.
-    if (const QSize maat = venster.property(Standaardmaat).toSize(); maat.isValid())
+    // A screen that is only drawn may be small; the pictures show the standard size there.
+    const QSize maat = venster.property(Standaardmaat).toSize();
+    if (maat.isValid() && QGuiApplication::platformName() == QLatin1String("offscreen"))
         venster.resize(maat);
     venster.show();
     QApplication::processEvents();
@@ -65,41 +66,39 @@ Ingave Voorbeeldingave(const Administratie& administratie)
     return ingave;
 }
 
-class Fotograaf {
+/// Hands every window to `bezoek`, the ones that live for it alone too.
+class Rondgang {
   public:
-    explicit Fotograaf(const std::string& map) : map_(QString::fromStdString(map))
-    {
-        gelukt_ = map_.mkpath(QStringLiteral("."));
-    }
+    explicit Rondgang(const std::function<void(QWidget&)>& bezoek) : bezoek_(bezoek) {}
 
-    void Neem(QWidget& venster) { gelukt_ = Bewaar(venster, map_) && gelukt_; }
-    void Neem(QWidget&& venster) { Neem(venster); }
-    [[nodiscard]] bool Gelukt() const { return gelukt_; }
+    void Neem(QWidget& venster) const { bezoek_(venster); }
+    void Neem(QWidget&& venster) const { bezoek_(venster); }
 
   private:
-    QDir map_;
-    bool gelukt_ = false;
+    const std::function<void(QWidget&)>& bezoek_;
 };
 
-void NeemSorteerlijst(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, const Spelertabel& tabel)
+void NeemSorteerlijst(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
+                      const Spelertabel& tabel)
 {
     const auto lijst = VulSorteerlijst(tabel, Sorteersoort::NBBgroep, std::nullopt);
     if (!lijst)
         return;
-    fotograaf.Neem(diaSortlijst({.soort = Sorteersoort::NBBgroep,
-                                 .importgroep = false,
-                                 .regels = static_cast<int>(lijst->regels.size()),
-                                 .regel =
-                                     [&](int regel) {
-                                         return VeldenVan(
-                                             lijst->regels[static_cast<std::size_t>(regel)],
-                                             Sorteersoort::NBBgroep);
-                                     }},
-                                &hoofdvenster));
+    rondgang.Neem(diaSortlijst({.soort = Sorteersoort::NBBgroep,
+                                .importgroep = false,
+                                .regels = static_cast<int>(lijst->regels.size()),
+                                .regel =
+                                    [&](int regel) {
+                                        return VeldenVan(
+                                            lijst->regels[static_cast<std::size_t>(regel)],
+                                            Sorteersoort::NBBgroep);
+                                    }},
+                               &hoofdvenster));
 }
 
 /// The sample exports, where the suite has them.
-void NeemControle(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administratie& administratie)
+void NeemControle(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
+                  Administratie& administratie)
 {
     Ledenopdracht opdracht;
     opdracht.map = administratie.mappen.Ledenmap();
@@ -114,15 +113,15 @@ void NeemControle(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrat
     if (namen.empty())
         return;
     diaControleNBB venster(administratie, opdracht, namen, &hoofdvenster);
-    fotograaf.Neem(venster);
+    rondgang.Neem(venster);
 }
 
 /// With the floating players of the competition, and the first of them chosen.
-void NeemKoppelvenster(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster,
+void NeemKoppelvenster(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
                        Administratie& administratie)
 {
     frmKoppelNBBnr venster(administratie, &hoofdvenster);
-    fotograaf.Neem(venster); // fills it
+    rondgang.Neem(venster); // fills it
     if (auto* competities = venster.findChild<QRadioButton*>(QStringLiteral("Option2")))
         competities->setChecked(true);
     if (auto* cmbC = venster.findChild<QComboBox*>(QStringLiteral("cmbC")))
@@ -133,11 +132,11 @@ void NeemKoppelvenster(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster,
         if (auto* deel = venster.findChild<QPushButton*>(QString::fromLatin1(knop)))
             deel->click();
     }
-    fotograaf.Neem(venster);
+    rondgang.Neem(venster);
 }
 
 /// With the pairs of one of the sample club's groups, and two players chosen.
-void NeemParen(Fotograaf& fotograaf, Administratie& administratie, QWidget& hoofdvenster)
+void NeemParen(const Rondgang& rondgang, Administratie& administratie, QWidget& hoofdvenster)
 {
     frmParenOnderhoud venster(administratie, "Gr05-", &hoofdvenster);
     const Maten maten;
@@ -153,17 +152,18 @@ void NeemParen(Fotograaf& fotograaf, Administratie& administratie, QWidget& hoof
         if (lijst != nullptr && lijst->model()->rowCount() > plaats)
             lijst->setCurrentIndex(lijst->model()->index(plaats++, 0));
     }
-    fotograaf.Neem(venster);
+    rondgang.Neem(venster);
 }
 
 /// The set-up and the first page of the shown group.
-void NeemPrinten(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administratie& administratie)
+void NeemPrinten(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
+                 Administratie& administratie)
 {
     const Maten maten;
     const Tekst groep = administratie.groepen.Toontekst(administratie.instellingen.LOSTGR + 1);
     frmPrintIni keuze(administratie, groep,
                       BeeldVan(administratie.mappen, CodeUit(groep)).kolomnamen, &hoofdvenster);
-    fotograaf.Neem(keuze);
+    rondgang.Neem(keuze);
     const Printopdracht opdracht{
         .groepscode = Tekst(CodeUit(groep)),
         .subgroepen = {},
@@ -175,20 +175,20 @@ void NeemPrinten(Fotograaf& fotograaf, frmLedenAdmin& hoofdvenster, Administrati
                       &hoofdvenster);
     // It is as high as the screen lets it be.
     blad.setProperty(Standaardmaat, QSize(maten.Twips(12700), maten.Twips(10500)));
-    fotograaf.Neem(blad);
-    fotograaf.Neem(diaPrinter({.titel = blad.windowTitle(),
-                               .stand = Papierstand::Staand,
-                               .bladen = 3,
-                               .voorstel = Bladkeus::Soort::Huidig},
-                              {.printers = {QStringLiteral("Clubhuis")}}, &blad));
+    rondgang.Neem(blad);
+    rondgang.Neem(diaPrinter({.titel = blad.windowTitle(),
+                              .stand = Papierstand::Staand,
+                              .bladen = 3,
+                              .voorstel = Bladkeus::Soort::Huidig},
+                             {.printers = {QStringLiteral("Clubhuis")}}, &blad));
 }
 
 } // namespace
 
-int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
-                     const std::string& map)
+void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
+                      const std::function<void(QWidget&)>& bezoek)
 {
-    Fotograaf fotograaf(map);
+    const Rondgang rondgang(bezoek);
     // A box that a window shows before it opens has nobody to answer it here.
     QTimer antwoord;
     QObject::connect(&antwoord, &QTimer::timeout, [] {
@@ -196,14 +196,14 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
             dialoog->reject();
     });
     antwoord.start(std::chrono::milliseconds(50));
-    fotograaf.Neem(hoofdvenster);
+    rondgang.Neem(hoofdvenster);
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;
-    fotograaf.Neem(diaIngave(
+    rondgang.Neem(diaIngave(
         ingave, terugkeerveld, [] {}, &hoofdvenster));
     Groepen groepen = administratie.groepen;
-    fotograaf.Neem(diaGrNamen(groepen, &hoofdvenster));
-    fotograaf.Neem(diaRekProgkeus(&hoofdvenster));
+    rondgang.Neem(diaGrNamen(groepen, &hoofdvenster));
+    rondgang.Neem(diaRekProgkeus(&hoofdvenster));
     // With a scoring program installed the window shows all four sources.
     Administratie metProgramma = administratie;
     metProgramma.rekenprogramma = {.NBBRaanwezig = true,
@@ -212,19 +212,28 @@ int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                                    .ProgrammaCode = "NBBR",
                                    .ProgrammaNaam = "NBB-R"};
     Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
-    fotograaf.Neem(frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
-    fotograaf.Neem(diaVerplaats(administratie, &hoofdvenster));
-    fotograaf.Neem(diaKopieer(administratie, &hoofdvenster));
-    fotograaf.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
-    NeemPrinten(fotograaf, hoofdvenster, administratie);
-    NeemControle(fotograaf, hoofdvenster, administratie);
-    fotograaf.Neem(diaToevoegen(administratie, &hoofdvenster));
-    NeemKoppelvenster(fotograaf, hoofdvenster, administratie);
-    fotograaf.Neem(frmToelichting(&hoofdvenster));
-    fotograaf.Neem(frmUitleg(&hoofdvenster));
-    NeemParen(fotograaf, administratie, hoofdvenster);
-    NeemSorteerlijst(fotograaf, hoofdvenster, administratie.spelers.tabel);
-    return fotograaf.Gelukt() ? 0 : 1;
+    rondgang.Neem(frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
+    rondgang.Neem(diaVerplaats(administratie, &hoofdvenster));
+    rondgang.Neem(diaKopieer(administratie, &hoofdvenster));
+    rondgang.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
+    NeemPrinten(rondgang, hoofdvenster, administratie);
+    NeemControle(rondgang, hoofdvenster, administratie);
+    rondgang.Neem(diaToevoegen(administratie, &hoofdvenster));
+    NeemKoppelvenster(rondgang, hoofdvenster, administratie);
+    rondgang.Neem(frmToelichting(&hoofdvenster));
+    rondgang.Neem(frmUitleg(&hoofdvenster));
+    NeemParen(rondgang, administratie, hoofdvenster);
+    NeemSorteerlijst(rondgang, hoofdvenster, administratie.spelers.tabel);
+}
+
+int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
+                     const std::string& map)
+{
+    const QDir doel(QString::fromStdString(map));
+    bool gelukt = doel.mkpath(QStringLiteral("."));
+    DoorloopVensters(hoofdvenster, administratie,
+                     [&](QWidget& venster) { gelukt = Bewaar(venster, doel) && gelukt; });
+    return gelukt ? 0 : 1;
 }
 
 } // namespace plexoran

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
+#include <QScreen>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -84,8 +85,9 @@ void diaGrNamen::BouwKader()
         label(QStringLiteral("Label3"), QStringLiteral("'Gr01-' enz, blijft een vast voorvoegsel")),
         1, 1);
     vakken->setColumnStretch(1, 1);
-    setMinimumWidth(std::max(maten_.Twips(VensterBreed),
-                             vakken->minimumSize().width() + maten_.Twips(4 * VlakLinks)));
+    const int nodig = std::max(maten_.Twips(VensterBreed),
+                               vakken->minimumSize().width() + maten_.Twips(4 * VlakLinks));
+    setMinimumWidth(std::min(nodig, screen()->availableSize().width() - maten_.Twips(VlakLinks)));
 }
 
 void diaGrNamen::BouwRijen()

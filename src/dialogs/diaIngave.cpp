@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -16,10 +17,11 @@ namespace {
 // In twips.
 constexpr int VensterBreed = 5500;
 constexpr int VensterHoog = 7650;
-constexpr int KleinsteHoogte = 6900; // all fields and the buttons below them
+constexpr int KleinsteHoogte = 3000;
 constexpr int RijBoven = 500;
 constexpr int RijAfstand = 300;
 constexpr int RijHoog = 285;
+constexpr int VeldenHoog = RijBoven + AantalKolommen * RijAfstand;
 constexpr int LabelLinks = 300;
 constexpr int LabelBreed = 1100;
 constexpr int VakLinks = 1500;
@@ -67,10 +69,13 @@ void diaIngave::Bouw()
     setMinimumSize(maten_.Twips(VensterBreed), maten_.Twips(KleinsteHoogte));
     PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
 
+    velden_ = new QWidget(this);
+    blad_ = new Schuifblad(velden_, this);
+    blad_->setWidgetResizable(false);
     Label1 = new QLabel(ingave_.IngaveModus == "Aanmaken"
                             ? QStringLiteral("Aanmaken nieuwe regel")
                             : QStringLiteral("Regelnummer %1").arg(ingave_.rij),
-                        this);
+                        velden_);
     Noem(Label1, QStringLiteral("Label1"));
     Label1->setAlignment(Qt::AlignCenter);
     Label2 = new QLabel(QStringLiteral("Rood = verplichte ingave"), this);
@@ -108,10 +113,10 @@ void diaIngave::BouwVeld(int veld)
     const QString naam = NaarQString(Kolomnamen[plaats - 1]);
     const QFont letter = maten_.Letter(Veldletter);
 
-    auto* label = new QLabel(naam + QLatin1Char(':'), this);
+    auto* label = new QLabel(naam + QLatin1Char(':'), velden_);
     Noem(label, QStringLiteral("lbl1_%1").arg(veld));
     label->setFont(letter);
-    auto* vak = new Tekstvak(this);
+    auto* vak = new Tekstvak(velden_);
     Noem(vak, QStringLiteral("txt1_%1").arg(veld), naam);
     vak->setFont(letter);
     vak->ZetTekst(Begintekst(kolom, ingave_.IngaveVelden[plaats - 1]));
@@ -129,7 +134,7 @@ void diaIngave::BouwVeld(int veld)
         Kleur(vak, QPalette::Text, palette().color(QPalette::WindowText));
         return;
     }
-    auto* opt = new QRadioButton(this);
+    auto* opt = new QRadioButton(velden_);
     Noem(opt, QStringLiteral("opt1_%1").arg(veld), QStringLiteral("Terugkeerveld %1").arg(naam));
     opt->setToolTip(QStringLiteral("Kies hier het terugkeerveld tbv snelle ingave"));
     opt->setFocusPolicy(Qt::TabFocus);
@@ -144,7 +149,7 @@ void diaIngave::BouwVeld(int veld)
 
 void diaIngave::BouwGeslacht()
 {
-    Frame1 = new QWidget(this);
+    Frame1 = new QWidget(velden_);
     Noem(Frame1, QStringLiteral("Frame1"), QStringLiteral("Geslacht"));
     auto* rij = new QHBoxLayout(Frame1);
     rij->setContentsMargins(0, 0, 0, 0);
@@ -170,7 +175,7 @@ void diaIngave::BouwGeslacht()
 
 void diaIngave::BouwHulp()
 {
-    cmdH = MaakKnop(QStringLiteral("cmdH_1"), QStringLiteral("?"), 0, this);
+    cmdH = MaakKnop(QStringLiteral("cmdH_1"), QStringLiteral("?"), 0, velden_);
     cmdH->setAccessibleName(QStringLiteral("Hulp voor Status"));
     cmdH->setToolTip(QStringLiteral("Hulp voor Status"));
     cmdH->setFocusPolicy(Qt::TabFocus);
@@ -237,9 +242,28 @@ void diaIngave::resizeEvent(QResizeEvent* gebeurtenis)
 void diaIngave::PlaatsDelen()
 {
     const auto tw = [this](int twips) { return maten_.Twips(twips); };
-    const int extra = std::max(0, width() - tw(VensterBreed));
+    const QSize ok = cmdOK->sizeHint();
+    const QSize annuleren = cmdAnnuleren->sizeHint();
+    const int knopBoven = height() - ok.height() - tw(Rand);
+    cmdOK->setGeometry(width() - ok.width() - tw(Rand), knopBoven, ok.width(), ok.height());
+    cmdAnnuleren->setGeometry(cmdOK->x() - annuleren.width() - tw(300), knopBoven,
+                              annuleren.width(), ok.height());
+    Label2->adjustSize();
+    Label2->move(tw(Rand), knopBoven - tw(250));
+
+    blad_->setGeometry(0, 0, width(), Label2->y());
+    const bool balk = tw(VeldenHoog) > blad_->height();
+    velden_->resize(width() - (balk ? blad_->verticalScrollBar()->sizeHint().width() : 0),
+                    tw(VeldenHoog));
+    PlaatsVelden();
+}
+
+void diaIngave::PlaatsVelden()
+{
+    const auto tw = [this](int twips) { return maten_.Twips(twips); };
+    const int extra = std::max(0, velden_->width() - tw(VensterBreed));
     const int vakbreed = tw(VakBreed) + extra;
-    Label1->setGeometry(0, tw(Rand), width(), tw(RijBoven - 2 * Rand));
+    Label1->setGeometry(0, tw(Rand), velden_->width(), tw(RijBoven - 2 * Rand));
     for (int veld = 1; veld <= AantalKolommen; ++veld) {
         const auto plaats = static_cast<std::size_t>(veld);
         const int boven = tw(RijBoven + (veld - 1) * RijAfstand);
@@ -259,15 +283,6 @@ void diaIngave::PlaatsDelen()
                         vakbreed - tw(GeslachtBreed + Rand), tw(RijHoog));
     const QRadioButton* statuskeus = opt1[Nummer(Kolom::Status)];
     cmdH->setGeometry(statuskeus->x() + tw(300), statuskeus->y(), tw(RijHoog), tw(RijHoog));
-
-    const QSize ok = cmdOK->sizeHint();
-    const QSize annuleren = cmdAnnuleren->sizeHint();
-    const int knopBoven = height() - ok.height() - tw(Rand);
-    cmdOK->setGeometry(width() - ok.width() - tw(Rand), knopBoven, ok.width(), ok.height());
-    cmdAnnuleren->setGeometry(cmdOK->x() - annuleren.width() - tw(300), knopBoven,
-                              annuleren.width(), ok.height());
-    Label2->adjustSize();
-    Label2->move(tw(Rand), knopBoven - tw(250));
 }
 
 void diaIngave::PlaatsNaastHoofdvenster()

@@ -13,6 +13,7 @@
 
 #include "dialogs/ingave.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/schuifblad.h"
 #include "platform/scherm/tekstvak.h"
 
 namespace plexoran {
@@ -43,6 +44,7 @@ class diaIngave : public QDialog {
     [[nodiscard]] QFont Groepsletter(const QString& tekst) const;
     void StelTabvolgordeIn();
     void PlaatsDelen();
+    void PlaatsVelden();
     void PlaatsNaastHoofdvenster();
     void Activeer();
 
@@ -64,6 +66,7 @@ class diaIngave : public QDialog {
     std::int16_t& Terugkeerveld;
     std::function<void()> bewaar_;
     QWidget* hoofdvenster_;
+    QWidget* velden_ = nullptr; ///< what scrolls on a low screen
     Maten maten_;
     bool geactiveerd_ = false;
     std::vector<Reparatie> teMelden_;
@@ -75,6 +78,7 @@ class diaIngave : public QDialog {
     QRadioButton* optMan = nullptr;
     QRadioButton* optVrouw = nullptr;
     QPushButton* cmdH = nullptr;
+    Schuifblad* blad_ = nullptr;
     QPushButton* cmdOK;
     QPushButton* cmdAnnuleren;
     QLabel* Label1;

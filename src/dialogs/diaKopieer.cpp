@@ -8,6 +8,7 @@
 #include "dialogs/kopieren.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 #include "register/waardenlijst.h"
 
 namespace plexoran {
@@ -76,6 +77,7 @@ void diaKopieer::Bouw()
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
     const Maten maten;
+    ZetOpSchuifblad(this);
     PasInScherm(this, {maten.Twips(7500), maten.Twips(8700)});
     ZetTabvolgorde({cmbUitGroep, cmbNBBgr, keus_->lstKeus, keus_->cmdSelAll, keus_->cmdSelNone,
                     cmbGrnamen, chkNBBgrOok, chkNBBnrOok, cmdAnnuleren, cmdOK});

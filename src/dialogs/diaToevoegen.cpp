@@ -7,6 +7,7 @@
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 
@@ -81,6 +82,7 @@ void diaToevoegen::Bouw()
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, OKButton}));
     const Maten maten;
+    ZetOpSchuifblad(this);
     PasInScherm(this, {maten.Twips(7500), maten.Twips(7800)});
     ZetTabvolgorde({Combo1, cmdLeesSpelers, lstN2, cmdStart, cmdAnnuleren, OKButton});
 }

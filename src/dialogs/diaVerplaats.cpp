@@ -6,6 +6,7 @@
 #include "dialogs/keuslijst.h"
 #include "dialogs/verplaatsen.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 
@@ -49,6 +50,7 @@ void diaVerplaats::Bouw()
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
     const Maten maten;
+    ZetOpSchuifblad(this);
     PasInScherm(this, {maten.Twips(6900), maten.Twips(8100)});
     cmdOK->setDefault(true);
     ZetTabvolgorde(

@@ -7,6 +7,7 @@
 #include "dialogs/subgroep.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 
@@ -58,6 +59,7 @@ void frmVerwSubgroep::Bouw()
     lagen->addStretch();
     lagen->addLayout(Knoppenrij({cmdVerwijder, cmdEinde}));
     const Maten maten;
+    ZetOpSchuifblad(this);
     PasInScherm(this, {maten.Twips(7200), sizeHint().height()});
     cmbRVDgr->setFocus();
 }

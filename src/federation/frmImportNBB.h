@@ -50,7 +50,6 @@ class frmImportNBB : public QDialog {
     void MaakDelen();
     void MaakHulpknoppen();
     void Bouw();
-    QWidget* BouwSchuifvlak();
     QGroupBox* BouwBronnen();
     QGroupBox* BouwGegevens();
     QWidget* BouwKeuze();

@@ -1,12 +1,10 @@
 // Building the import window: its controls, their captions and places.
-#include <QApplication>
 #include <QGridLayout>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "federation/frmImportNBB.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 namespace {
@@ -143,31 +141,11 @@ void frmImportNBB::Bouw()
     lagen->addLayout(kolommen, 1);
     lagen->addWidget(BouwHulp());
     auto* geheel = new QVBoxLayout(this);
-    geheel->addWidget(BouwSchuifvlak(), 1);
+    geheel->addWidget(new Schuifblad(inhoud_, this), 1);
     geheel->addWidget(BouwOnderkant());
     StelTabvolgordeIn();
     const Maten maten;
     PasInScherm(this, {maten.Twips(12600), maten.Twips(9900)});
-}
-
-/// A screen may be lower than all of this: then it scrolls, and the buttons below it stay in sight.
-QWidget* frmImportNBB::BouwSchuifvlak()
-{
-    auto* vlak = new QScrollArea(this);
-    vlak->setFrameShape(QFrame::NoFrame);
-    vlak->setFocusPolicy(Qt::NoFocus);
-    vlak->setWidgetResizable(true);
-    vlak->setWidget(inhoud_);
-    vlak->setMinimumWidth(inhoud_->minimumSizeHint().width() +
-                          vlak->verticalScrollBar()->sizeHint().width());
-    // Keys bring what they lead to into sight. Not the mouse: what is pressed must stay where it
-    // is.
-    connect(qApp, &QApplication::focusChanged, vlak,
-            [inhoud = inhoud_, vlak](QWidget* /*was*/, QWidget* nu) {
-                if (inhoud->isAncestorOf(nu) && QGuiApplication::mouseButtons() == Qt::NoButton)
-                    vlak->ensureWidgetVisible(nu);
-            });
-    return vlak;
 }
 
 QGroupBox* frmImportNBB::BouwBronnen()

@@ -8,6 +8,7 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/nummerlijst.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 namespace {
@@ -110,7 +111,7 @@ void frmLedenAdmin::Bouw()
     roosterrij->addWidget(picP0);
     lagen->addLayout(roosterrij, 1);
     lagen->addWidget(BouwOpdrachten());
-    setCentralWidget(midden);
+    setCentralWidget(new Schuifblad(midden, this));
     PasInScherm(this, {maten_.Twips(15360), maten_.Twips(10500)});
     StelTabvolgordeIn();
     Verbind();

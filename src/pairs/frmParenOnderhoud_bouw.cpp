@@ -8,6 +8,7 @@
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/meter.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 namespace {
@@ -79,6 +80,7 @@ void frmParenOnderhoud::Bouw()
     lagen->addWidget(Frame1, 1);
     lagen->addWidget(Frame2);
     lagen->addLayout(onder);
+    ZetOpSchuifblad(this);
     PasInScherm(
         this, {maten_.Twips(VensterBreed), screen()->size().height() - maten_.Twips(OnderScherm)});
     // As the eye reads.

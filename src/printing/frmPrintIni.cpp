@@ -5,6 +5,7 @@
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 #include "printing/frmAfdrukken.h"
 #include "register/groepscode.h"
 
@@ -124,6 +125,7 @@ void frmPrintIni::Bouw()
     lagen->addLayout(midden, 1);
     lagen->addSpacing(maten_.Twips(100));
     lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
+    ZetOpSchuifblad(this);
     PasInScherm(this, {maten_.Twips(8400), maten_.Twips(7200)});
     ZetTabvolgorde({lstKeus, cmdSelAll, cmdSelNone, lstNBBgr, cmbSchaal, cmdOK, cmdAnnuleren});
 }

@@ -41,7 +41,7 @@ class frmKoppelNBBnr : public QDialog {
     QGroupBox* BouwZwevenden();
     QGroupBox* BouwRegister();
     QWidget* BouwKolomkoppen();
-    QWidget* BouwOnderkant();
+    QLayout* BouwOnderkant();
     QListView* MaakLijst(const QString& naam, const QString& gesproken, QStringListModel* regels,
                          QWidget* ouder);
     void StelTabvolgordeIn();

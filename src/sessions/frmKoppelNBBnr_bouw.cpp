@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 #include "sessions/frmKoppelNBBnr.h"
 
 namespace plexoran {
@@ -72,15 +73,18 @@ void frmKoppelNBBnr::Bouw()
 {
     setObjectName(QStringLiteral("frmKoppelNBBnr"));
     setWindowTitle(QStringLiteral("Koppelen van zwevende NBB-spelers  aan RVD-ledenbestand"));
-    auto* vakken = new QGridLayout(this);
+    auto* vakken = new QGridLayout;
     vakken->addWidget(BouwKeuze(), 0, 0);
     vakken->addWidget(BouwUitleg(), 0, 1);
     vakken->addWidget(BouwZwevenden(), 1, 0);
     vakken->addWidget(BouwRegister(), 1, 1);
-    vakken->addWidget(BouwOnderkant(), 2, 0, 1, 2);
     vakken->setColumnStretch(0, 4);
     vakken->setColumnStretch(1, 6);
     vakken->setRowStretch(1, 1);
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addLayout(vakken, 1);
+    lagen->addLayout(BouwOnderkant());
+    ZetOpSchuifblad(this);
     const Maten maten;
     PasInScherm(this, {maten.Twips(15000), maten.Twips(10200)});
     StelTabvolgordeIn();
@@ -235,18 +239,17 @@ QWidget* frmKoppelNBBnr::BouwKolomkoppen()
     return kolomkoppen_;
 }
 
-QWidget* frmKoppelNBBnr::BouwOnderkant()
+QLayout* frmKoppelNBBnr::BouwOnderkant()
 {
-    auto* onder = new QWidget(this);
     cmdStartKoppelen =
         MaakKnop(QStringLiteral("cmdStartKoppelen"),
-                 QStringLiteral("OK als dit identieke spelers zijn ..."), u'O', onder);
-    cmdStop = MaakKnop(QStringLiteral("cmdStop"), QStringLiteral("Stoppen"), u'S', onder);
-    cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Einde"), u'E', onder);
-    prgVoortgang = new Voortgangsbalk(QStringLiteral("prgVoortgang"), onder);
+                 QStringLiteral("OK als dit identieke spelers zijn ..."), u'O', this);
+    cmdStop = MaakKnop(QStringLiteral("cmdStop"), QStringLiteral("Stoppen"), u'S', this);
+    cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Einde"), u'E', this);
+    prgVoortgang = new Voortgangsbalk(QStringLiteral("prgVoortgang"), this);
     prgVoortgang->hide();
     cmdStop->hide();
-    auto* vlak = new Tekstvlak(4, 2, onder);
+    auto* vlak = new Tekstvlak(4, 2, this);
     Noem(vlak, QStringLiteral("vlakResultaat"), QStringLiteral("Resultaat"));
     lblResultaat = MaakLabel(QStringLiteral("lblResultaat"), QString(), vlak);
     lblResultaat->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -257,19 +260,18 @@ QWidget* frmKoppelNBBnr::BouwOnderkant()
     vlak->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
 
     auto* knoppen = new QHBoxLayout;
-    knoppen->addWidget(MaakLabel(QStringLiteral("Label13"),
+    knoppen->addWidget(MaakTekst(u"Label13",
                                  QStringLiteral("Elke speler moeten afzonderlijk verwerkt worden!"),
-                                 onder));
-    knoppen->addStretch();
+                                 this),
+                       1);
     knoppen->addWidget(prgVoortgang);
     knoppen->addWidget(cmdStop);
     knoppen->addWidget(cmdStartKoppelen);
     knoppen->addWidget(cmdEinde);
-    auto* lagen = new QVBoxLayout(onder);
-    lagen->setContentsMargins(0, 0, 0, 0);
+    auto* lagen = new QVBoxLayout;
     lagen->addLayout(knoppen);
     lagen->addWidget(vlak);
-    return onder;
+    return lagen;
 }
 
 /// As the eye reads: what to search, what was found, the register, then the link.

@@ -75,7 +75,7 @@ TEST_F(diaToevoegenTest, OokMetGroteLettersPastHetVensterOpHetScherm)
 {
     const QFont oud = QApplication::font();
     QFont groot = oud;
-    groot.setPointSizeF(18);
+    groot.setPointSizeF(15);
     QApplication::setFont(groot);
     Open();
     EXPECT_LT(venster->height(), venster->screen()->availableSize().height());

@@ -5,9 +5,14 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
 
 #include "platform/scherm/frmBericht.h"
+#include "platform/scherm/maten.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 namespace {
@@ -38,6 +43,48 @@ int LaatAntwoorden(QDialog& venster)
     return antwoord;
 }
 
+/// A box of which a small screen lacks the room for the text scrolls it: its buttons stay in sight.
+class Berichtvenster : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    bool event(QEvent* gebeurtenis) override
+    {
+        // A message box answers this by making itself as high as its text again.
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        return geschoven_ && gebeurtenis->type() == QEvent::LayoutRequest
+                   ? QDialog::event(gebeurtenis)
+                   : QMessageBox::event(gebeurtenis);
+    }
+
+    void showEvent(QShowEvent* gebeurtenis) override
+    {
+        QMessageBox::showEvent(gebeurtenis);
+        const int ruimte = screen()->availableSize().height() - Kader.height();
+        if (height() <= ruimte || geschoven_)
+            return;
+        geschoven_ = true;
+        auto* inhoud = new QWidget(this);
+        auto* blad = new Schuifblad(inhoud, this);
+        auto* teksten = new QVBoxLayout(inhoud);
+        teksten->setContentsMargins(0, 0, 0, 0);
+        const auto labels = findChildren<QLabel*>(
+            QRegularExpression(QStringLiteral("^qt_msgbox_(informative)?label$")));
+        layout()->replaceWidget(labels.front(), blad);
+        for (QLabel* label : labels) {
+            teksten->addWidget(label);
+            label->show();
+        }
+        teksten->addStretch();
+        blad->show();
+        setFixedSize(width() + blad->verticalScrollBar()->sizeHint().width(), ruimte);
+    }
+
+  private:
+    bool geschoven_ = false;
+};
+
 /// Whether a message box with this text, which breaks its lines at blanks, is no larger than the
 /// screen.
 bool PastInBericht(const QWidget& ouder, const QString& tekst)
@@ -63,10 +110,9 @@ class Verslagbericht : public QMessageBox {
 
     [[nodiscard]] bool PastOpScherm()
     {
-        constexpr QSize kader(16, 40); // what a window manager puts around it
         ensurePolished();
         BreekNietAf();
-        const QSize ruimte = screen()->availableSize() - kader;
+        const QSize ruimte = screen()->availableSize() - Kader;
         const QSize nodig = layout()->totalSizeHint();
         return nodig.width() <= ruimte.width() && nodig.height() <= ruimte.height();
     }
@@ -100,7 +146,7 @@ class Verslagbericht : public QMessageBox {
 
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
 {
-    QMessageBox venster(icoon, Titel(titel), QString(), QMessageBox::Ok, ouder);
+    Berichtvenster venster(icoon, Titel(titel), QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
     LaatAntwoorden(venster);
@@ -135,8 +181,8 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
 
 bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
 {
-    QMessageBox venster(icoon, Titel(titel), QString(), QMessageBox::Ok | QMessageBox::Cancel,
-                        ouder);
+    Berichtvenster venster(icoon, Titel(titel), QString(), QMessageBox::Ok | QMessageBox::Cancel,
+                           ouder);
     Vul(venster, tekst);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
     venster.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuleren"));
@@ -146,7 +192,7 @@ bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const 
 int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
          const QStringList& antwoorden)
 {
-    QMessageBox venster(icoon, Titel(QString()), QString(), QMessageBox::NoButton, ouder);
+    Berichtvenster venster(icoon, Titel(QString()), QString(), QMessageBox::NoButton, ouder);
     Vul(venster, tekst);
     QList<QAbstractButton*> knoppen;
     for (const QString& antwoord : antwoorden)

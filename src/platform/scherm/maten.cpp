@@ -15,7 +15,7 @@ constexpr double StandaardPunten = 9.0;
 constexpr double PuntenPerInch = 72.0;
 constexpr double MmPerInch = 25.4;
 constexpr double StandaardDpi = 96.0;
-constexpr QSize Kader(16, 40); // what a window manager puts around a window, its title above all
+constexpr int Zijranden = 4; // as they are mostly: a few pixels or not seen at all
 
 } // namespace
 
@@ -49,12 +49,10 @@ void PasInScherm(QWidget* venster, QSize maat)
     venster->resize(maat.boundedTo(venster->screen()->availableSize() - Kader));
 }
 
-/// Only the title takes room that counts: the rims at the sides are a few pixels or not seen at
-/// all.
 void ZetInScherm(QWidget* venster, QPoint linksboven, const QWidget& hoofdvenster)
 {
     const QRect vrij = hoofdvenster.screen()->availableGeometry();
-    const int rechts = vrij.x() + vrij.width() - venster->width();
+    const int rechts = vrij.x() + vrij.width() - venster->width() - Zijranden;
     const int onder = vrij.y() + vrij.height() - venster->height() - Kader.height();
     venster->move(std::max(vrij.x(), std::min(linksboven.x(), rechts)),
                   std::max(vrij.y(), std::min(linksboven.y(), onder)));

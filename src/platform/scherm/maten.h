@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFont>
+#include <QSize>
 
 class QWidget;
 
@@ -28,6 +29,9 @@ class Maten {
 
 /// Logical pixels in a millimetre of the widget's screen, whatever the font.
 [[nodiscard]] double SchermPixelsPerMm(const QWidget& widget);
+
+/// What a window manager puts around a window, its title above all.
+inline constexpr QSize Kader(16, 40);
 
 /// The property in which `PasInScherm` leaves the size that it was asked for.
 inline constexpr auto Standaardmaat = "standaardmaat";

@@ -26,16 +26,16 @@ class ZetInSchermTest : public testing::Test {
 
 TEST_F(ZetInSchermTest, WaarErRuimteIsBlijftDePlek)
 {
-    const QPoint hoek(vrij.width() - 300, vrij.height() - 240);
+    const QPoint hoek(vrij.width() - 304, vrij.height() - 240);
     EXPECT_EQ(QPoint(0, 0), Zet({300, 200}, {0, 0}));
     EXPECT_EQ(QPoint(40, 70), Zet({300, 200}, {40, 70}));
     EXPECT_EQ(hoek, Zet({300, 200}, hoek));
 }
 
-/// With 40 pixels below for the title that comes on top of it.
+/// With 40 pixels below for the title that comes on top of it, and 4 for the rims at the sides.
 TEST_F(ZetInSchermTest, OverDeRandSchuiftHetTerug)
 {
-    const QPoint hoek(vrij.width() - 300, vrij.height() - 240);
+    const QPoint hoek(vrij.width() - 304, vrij.height() - 240);
     EXPECT_EQ(hoek, Zet({300, 200}, hoek + QPoint(1, 1)));
     EXPECT_EQ(hoek, Zet({300, 200}, {5000, 5000}));
     EXPECT_EQ(QPoint(0, 0), Zet({300, 200}, {-1, -5000}));

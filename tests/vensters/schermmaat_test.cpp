@@ -1,0 +1,127 @@
+// Every window stands wholly on a small screen, also with large letters, and all of it can be
+// reached.
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTimer>
+
+#include "platform/scherm/berichten.h"
+#include "vensters/rondgang.h"
+
+using namespace plexoran;
+
+namespace {
+
+/// The display must have its screens before the program is there. A relative path, because the
+/// setting is divided at colons.
+const bool schermen = [] {
+    std::filesystem::current_path(GEGEVENS);
+    return qputenv("QT_QPA_PLATFORM", "offscreen:configfile=schermen.json");
+}();
+
+struct Opstelling {
+    const char* scherm;
+    double punten;
+};
+
+class SchermmaatTest : public Rondgangproef, public testing::WithParamInterface<Opstelling> {
+  protected:
+    [[nodiscard]] static QScreen* Scherm()
+    {
+        for (QScreen* scherm : QGuiApplication::screens()) {
+            if (scherm->name() == QLatin1String(GetParam().scherm))
+                return scherm;
+        }
+        return nullptr;
+    }
+
+    static void ZetLetter()
+    {
+        QFont letter = QApplication::font();
+        letter.setPointSizeF(GetParam().punten);
+        QApplication::setFont(letter);
+    }
+};
+
+/// Those that scroll with the grid or with the names of the groups have been there before.
+bool WordtGeschoven(const QWidget& deel)
+{
+    return deel.objectName().startsWith(QLatin1String("cmd_")) ||
+           deel.parentWidget()->objectName() == QLatin1String("P1");
+}
+
+void VerwachtBereikbaar(QWidget& deel)
+{
+    for (QWidget* om = deel.parentWidget(); !om->isWindow(); om = om->parentWidget()) {
+        if (auto* blad = qobject_cast<QScrollArea*>(om))
+            blad->ensureWidgetVisible(&deel);
+    }
+    QApplication::processEvents();
+    // What is wider than the screen scrolls; half a screen of it is enough to know and to press it.
+    const QSize gezien = deel.visibleRegion().boundingRect().size();
+    EXPECT_EQ(deel.height(), gezien.height()) << deel.objectName().toStdString();
+    EXPECT_GE(gezien.width(), std::min(deel.width(), deel.screen()->size().width() / 2))
+        << deel.objectName().toStdString();
+    EXPECT_GE(deel.height(), deel.fontMetrics().height()) << deel.objectName().toStdString();
+    const auto* knop = qobject_cast<QPushButton*>(&deel);
+    const bool eigenMaat = deel.sizePolicy().horizontalPolicy() != QSizePolicy::Ignored &&
+                           deel.objectName() != QLatin1String("cmdH_1"); // stands in its row
+    if (knop != nullptr && eigenMaat) {
+        EXPECT_GE(deel.width(), deel.minimumSizeHint().width()) << deel.objectName().toStdString();
+    }
+}
+
+} // namespace
+
+TEST_P(SchermmaatTest, ElkVensterStaatErHelemaalOp)
+{
+    ASSERT_NE(nullptr, Scherm());
+    ZetLetter();
+    Rondgang(Scherm(), [](const QWidget& venster) {
+        const QRect kader = venster.frameGeometry();
+        EXPECT_TRUE(Scherm()->availableGeometry().contains(kader))
+            << kader.x() << ',' << kader.y() << ' ' << kader.width() << 'x' << kader.height();
+        for (QWidget* deel : venster.findChildren<QWidget*>()) {
+            const bool bediening = qobject_cast<QAbstractButton*>(deel) != nullptr ||
+                                   qobject_cast<QComboBox*>(deel) != nullptr ||
+                                   qobject_cast<QLineEdit*>(deel) != nullptr;
+            if (bediening && deel->isVisible() && !WordtGeschoven(*deel))
+                VerwachtBereikbaar(*deel);
+        }
+    });
+}
+
+TEST_P(SchermmaatTest, EenLangBerichtHeeftZijnKnoppenInBeeld)
+{
+    ZetLetter();
+    const QString regels = QStringLiteral("Een regel van een bericht.\n").repeated(80);
+    QMessageBox* bericht = nullptr;
+    QTimer::singleShot(0, [&] {
+        bericht = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(nullptr, bericht);
+        QApplication::processEvents();
+        EXPECT_TRUE(bericht->screen()->availableGeometry().contains(bericht->frameGeometry()));
+        ASSERT_EQ(3, bericht->buttons().size());
+        for (QAbstractButton* knop : bericht->buttons())
+            EXPECT_EQ(knop->rect(), knop->visibleRegion().boundingRect());
+        auto* tekst = bericht->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        EXPECT_GE(tekst->height(), 80 * tekst->fontMetrics().height()) << "de tekst is afgeknipt";
+        EXPECT_GE(tekst->visibleRegion().boundingRect().width(), tekst->sizeHint().width());
+        bericht->buttons().constFirst()->click();
+    });
+    QWidget ouder;
+    ouder.move(Scherm()->availableGeometry().topLeft());
+    ouder.show();
+    EXPECT_EQ(0, Kies(&ouder, QMessageBox::Warning, regels,
+                      {QStringLiteral("Opslaan"), QStringLiteral("Niet opslaan"),
+                       QStringLiteral("Annuleren")}));
+    EXPECT_NE(nullptr, bericht);
+}
+
+INSTANTIATE_TEST_SUITE_P(Opstellingen, SchermmaatTest,
+                         testing::Values(Opstelling{"1366 x 768 bij 150 %", 9},
+                                         Opstelling{"1366 x 768 bij 150 %", 16},
+                                         Opstelling{"1024 x 768", 9}, Opstelling{"1024 x 768", 16},
+                                         Opstelling{"1920 x 1080", 16}));
