@@ -463,7 +463,9 @@ TEST_F(ImporterenTest, EenFoutInDeDatabaseBreektAfEnHetVensterBlijft)
     });
     wachter.Verwacht(
         {.tekst = QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!\r\nDe "
-                                 "inhoud is niet die van een ledenbestand.\r\nBestand: "),
+                                 "inhoud is niet die van een ledenbestand; er is niets uit "
+                                 "geïmporteerd. Kies zo nodig een geëxporteerd "
+                                 "ledenbestand.\r\n\r\nBestand: "),
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
     Importeer();

@@ -260,7 +260,8 @@ TEST_F(frmImportNBBTest, EenGekozenMapZonderRechten)
     VerwachtBestandskeuze(QStringLiteral("CSV-bestanden (*.csv)"),
                           "Ledenbestanden/Maandag 20260901.csv");
     wachter.Verwacht({.tekst = QStringLiteral("De bestanden in de gekozen map kunnen niet worden "
-                                              "opgezocht. Kies een andere map.\n\nBestand: "),
+                                              "opgezocht. Er is niets geïmporteerd. Kies een "
+                                              "andere map.\n\nBestand: "),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     Importeer();
@@ -548,6 +549,7 @@ TEST_F(frmImportNBBTest, ZonderVerzamelgroepGaatHetVensterNietOpen)
     administratie.mappen.DFIMPG = "Gr51-";
     wachter.Waarschuwing(
         QStringLiteral("Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat "
-                       "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-."));
+                       "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-. Er is niets "
+                       "veranderd. Vul die groep in en start Plexoran opnieuw."));
     Importeer();
 }
