@@ -11,6 +11,17 @@
 
 namespace plexoran {
 
+bool ZetTerugOfMeld(Koppelverslag& verslag, QWidget* ouder)
+{
+    const auto terug = verslag.ZetTerug();
+    if (!terug)
+        Meld(ouder, QMessageBox::Warning,
+             QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. Verwijder dat "
+                            "bestand: de sleutels die erin staan, zijn niet uitgegeven.\n\n") +
+                 Bijzonderheden(terug.error()));
+    return terug.has_value();
+}
+
 diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
 {
@@ -160,25 +171,26 @@ void diaToevoegen::LeesNamen()
 
 void diaToevoegen::VoegToe()
 {
-    Vorige vorige{administratie_.spelers,
-                  Koppelverslag(administratie_.schijf, administratie_.mappen, Zitting())};
-    const auto verslag = VoegSpelersToe(administratie_.spelers, namen_);
-    if (!verslag) {
+    Register vorige = administratie_.spelers;
+    auto tekst = VoegSpelersToe(administratie_.spelers, namen_);
+    if (!tekst) {
         MeldSleutelsOp(this, QStringLiteral("Er is niets toegevoegd"),
                        PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
-    const auto geschreven = vorige.verslag.Schrijf(*verslag);
+    Koppelverslag verslag(administratie_.schijf, administratie_.mappen, Zitting(),
+                          std::move(*tekst));
+    const auto geschreven = verslag.Schrijf();
     if (!geschreven) {
-        static_cast<void>(vorige.verslag.ZetTerug()); // the first failure is the one to tell
-        administratie_.spelers = std::move(vorige.spelers);
+        static_cast<void>(verslag.ZetTerug()); // the first failure is the one to tell
+        administratie_.spelers = std::move(vorige);
         MeldFout(QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
                                 "toegevoegd: zonder dat bestand zijn de nieuwe spelers niet aan "
                                 "deze zitting te koppelen."),
                  geschreven.error());
         return;
     }
-    vorige_.emplace(std::move(vorige));
+    vorige_.emplace(Vorige{std::move(vorige), std::move(verslag)});
     for (QWidget* klaar : std::initializer_list<QWidget*>{cmdStart, Combo1, cmdLeesSpelers})
         klaar->setEnabled(false);
     Meld(this, QMessageBox::Information, QStringLiteral("De spelers zijn toegevoegd."));
@@ -198,12 +210,7 @@ void diaToevoegen::reject()
     if (vorige_) {
         administratie_.spelers = std::move(vorige_->spelers);
         // The keys in it may soon be those of other players.
-        const auto terug = vorige_->verslag.ZetTerug();
-        if (!terug)
-            MeldFout(QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. Verwijder "
-                                    "dat bestand: de sleutels die erin staan, zijn niet "
-                                    "uitgegeven."),
-                     terug.error());
+        static_cast<void>(ZetTerugOfMeld(vorige_->verslag, this));
         vorige_.reset();
     }
     Meld(this, QMessageBox::Information, QStringLiteral("Er worden geen spelers toegevoegd."));

@@ -16,6 +16,9 @@ class QGroupBox;
 
 namespace plexoran {
 
+/// Puts the link file back; false when that failed, which it told.
+[[nodiscard]] bool ZetTerugOfMeld(Koppelverslag& verslag, QWidget* ouder);
+
 class diaToevoegen : public QDialog {
     Q_OBJECT
 
@@ -24,6 +27,8 @@ class diaToevoegen : public QDialog {
 
     /// Whether players were added and kept, so that there is something to save.
     [[nodiscard]] bool ToegevoegdEnBewaard() const { return bewaard_; }
+    /// The link file that goes with them. Their save decides whether it stands.
+    [[nodiscard]] Koppelverslag NeemVerslag() { return std::move(vorige_.value().verslag); }
 
     /// "Annuleren", Escape and the close box: table, `HKEY` and link file become what they were.
     void reject() override;

@@ -108,6 +108,21 @@ Rijvelden NieuweRij(const Sessiespeler& speler, int nummer, std::int32_t key)
     return rij;
 }
 
+/// Of a link file; lines of another form tell nothing.
+std::int32_t HoogsteKeyIn(Tekstblik verslag)
+{
+    std::int32_t hoogste = 0;
+    for (const Tekstblik regel : Regels(verslag)) {
+        const auto paar = PaarUit(regel);
+        const auto keys = paar ? SplitsHelften(paar->spelers) : std::nullopt;
+        for (const Tekstblik key : {keys ? keys->eerste : "", keys ? keys->tweede : ""}) {
+            if (AlsGetal(key, 1))
+                hoogste = std::max(hoogste, Geheel32(key).value_or(0));
+        }
+    }
+    return hoogste;
+}
+
 bool IsAfwezig(Tekstblik naam)
 {
     return naam.starts_with("Afw") || naam == "AFW";
@@ -239,31 +254,45 @@ std::optional<Tekst> VoegSpelersToe(Register& spelers, const std::vector<Sessies
     return verslag;
 }
 
-Koppelverslag::Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
-    : schijf_(schijf), map_(Zittingmap(mappen, zitting)), pad_(Samen(map_, Verslagnaam))
+Koppelverslag::Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zitting, Tekst tekst)
+    : schijf_(schijf), map_(Zittingmap(mappen, zitting)), pad_(Samen(map_, Verslagnaam)),
+      tekst_(std::move(tekst))
 {}
 
-Uitkomst<void> Koppelverslag::Schrijf(Tekstblik tekst)
+Uitkomst<void> Koppelverslag::Schrijf()
 {
-    auto oud = LeesAlsErIs(schijf_, pad_);
-    if (!oud)
-        return tl::unexpected(oud.error());
-    oud_ = std::move(*oud);
-    aangeraakt_ = true;
+    if (!staat_) {
+        auto oud = LeesAlsErIs(schijf_, pad_);
+        if (!oud)
+            return tl::unexpected(oud.error());
+        oud_ = std::move(*oud);
+        staat_ = true;
+    }
     RuimTijdelijkeOp(schijf_, map_, Verslagnaam);
-    return SchrijfHeel(schijf_, pad_, tekst);
+    return SchrijfHeel(schijf_, pad_, tekst_);
 }
 
 Uitkomst<void> Koppelverslag::ZetTerug()
 {
-    if (!aangeraakt_)
+    if (!staat_)
         return {};
-    if (oud_)
-        return SchrijfHeel(schijf_, pad_, *oud_);
-    auto weg = schijf_.Verwijder(pad_);
-    if (!weg && weg.error().soort == Foutsoort::Ontbreekt)
-        return {};
-    return weg;
+    auto terug = oud_ ? SchrijfHeel(schijf_, pad_, *oud_) : schijf_.Verwijder(pad_);
+    if (!terug && !oud_ && terug.error().soort == Foutsoort::Ontbreekt)
+        terug = {};
+    staat_ = !terug;
+    return terug;
+}
+
+std::vector<Pad> VerslagenMetLosseSleutels(Schijf& schijf, const Mappen& mappen, std::int32_t HKEY)
+{
+    std::vector<Pad> uit;
+    for (const Tekst& zitting : RevZittingen(schijf, mappen).value_or(std::vector<Tekst>())) {
+        const Pad pad = Samen(Zittingmap(mappen, zitting), Verslagnaam);
+        const auto verslag = schijf.LeesBestand(pad);
+        if (verslag && HoogsteKeyIn(*verslag) > HKEY)
+            uit.push_back(pad);
+    }
+    return uit;
 }
 
 } // namespace plexoran

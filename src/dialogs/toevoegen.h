@@ -61,21 +61,30 @@ struct Sessiespelers {
 [[nodiscard]] std::optional<Tekst> VoegSpelersToe(Register& spelers,
                                                   const std::vector<Sessiespeler>& namen);
 
-/// The link file of a session and what it held before it was written.
+/// The link file of a session with its new text, and what it held before.
 class Koppelverslag {
   public:
-    Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zitting);
+    Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zitting, Tekst tekst);
 
-    [[nodiscard]] Uitkomst<void> Schrijf(Tekstblik tekst);
+    [[nodiscard]] Uitkomst<void> Schrijf();
     /// The file as it was before `Schrijf`; removed when there was none.
     [[nodiscard]] Uitkomst<void> ZetTerug();
+    /// Whether `Schrijf` came at the file and `ZetTerug` did not make up for it yet.
+    [[nodiscard]] bool Staat() const { return staat_; }
 
   private:
     Schijf& schijf_;
     Pad map_;
     Pad pad_;
+    Tekst tekst_;
     std::optional<Tekst> oud_;
-    bool aangeraakt_ = false; ///< else what stood there before is not known
+    bool staat_ = false; ///< else what stood there before is not known
 };
+
+/// The link files that name a key above `HKEY`, which is still to be issued: an add that was killed
+/// before the save left them, or the register is an older one. Those that cannot be read are passed
+/// over.
+[[nodiscard]] std::vector<Pad> VerslagenMetLosseSleutels(Schijf& schijf, const Mappen& mappen,
+                                                         std::int32_t HKEY);
 
 } // namespace plexoran

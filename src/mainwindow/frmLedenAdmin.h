@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "dialogs/ingave.h"
+#include "dialogs/toevoegen.h"
 #include "federation/frmImportNBB.h"
 #include "mainwindow/rooster.h"
 #include "mainwindow/sorteerlijst.h"
@@ -68,6 +69,7 @@ class frmLedenAdmin : public QMainWindow {
     void KiesRekenprogramma();
     void LeesGroepenBijStart();
     void LeesSpelersBijStart();
+    void MeldLosseSleutels();
     void MeldLezing(const Leesverslag& verslag);
     [[nodiscard]] QString WatNietGelezenIs(const Leesverslag& verslag) const;
     void MeldMapfout(const QString& wat, const Fout& fout);
@@ -112,14 +114,17 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] Vervolg VraagVervolg(const Fout& fout);
     [[nodiscard]] Vervolg VraagNaWijziging(const Fout& fout);
     void MeldRegisterBehouden(Opslag opslag);
+    void SchrijfVerslagen();
+    void ZetVerslagenTerug(bool vervallen);
 
     Administratie& administratie_;
     Maten maten_;
     Importgeheugen importgeheugen_;
     std::function<bool()> eersteExemplaar_;
-    bool nietOpgeslagen_ = false;         ///< the table holds changes that the file lacks
-    bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
-    bool opstarten_ = false;              ///< keeps `chkKolBr` from redrawing
+    std::vector<Koppelverslag> verslagen_; ///< whose new players are not known to be saved
+    bool nietOpgeslagen_ = false;          ///< the table holds changes that the file lacks
+    bool instellingenfoutGemeld_ = false;  ///< told once, not at every change of group
+    bool opstarten_ = false;               ///< keeps `chkKolBr` from redrawing
 
     Rooster* picP0;
     QLabel* lblToel;

@@ -230,6 +230,7 @@ void frmLedenAdmin::VoegSessiespelersToe()
     venster.exec();
     if (!venster.ToegevoegdEnBewaard())
         return;
+    verslagen_.push_back(venster.NeemVerslag());
     (void)SlaOp();
     ToonGroep();
 }

@@ -1,4 +1,5 @@
 // Saving after a command, and reading back.
+#include "dialogs/diaToevoegen.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
 
@@ -21,12 +22,15 @@ frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
         if (vervolg == Vervolg::Overschrijven)
             overschrijven = Overschrijven::OokGewijzigd;
         else if (vervolg != Vervolg::Opnieuw) {
+            ZetVerslagenTerug(vervolg == Vervolg::LeesOpnieuw);
             if (vervolg == Vervolg::LeesOpnieuw)
                 LeesOpnieuw();
             return Opslag::Mislukt;
         }
     }
     MerkNietOpgeslagen(false);
+    if (!leeg)
+        SchrijfVerslagen();
     LeesOpnieuw();
     return leeg && administratie_.spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden
                                                             : Opslag::Gelukt;
@@ -42,8 +46,10 @@ void frmLedenAdmin::LeesOpnieuw()
 {
     const Leesverslag verslag =
         LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
-    if (verslag.tabelVervangen)
+    if (verslag.tabelVervangen) {
         MerkNietOpgeslagen(false);
+        verslagen_.clear();
+    }
     if (verslag.AllesGelezen())
         return;
     ToonGroep(); // the grid must not show the old rows behind the box
@@ -95,6 +101,48 @@ void frmLedenAdmin::MeldRegisterBehouden(Opslag opslag)
         Meld(this, QMessageBox::Information,
              QStringLiteral("Een register zonder spelers wordt niet opgeslagen: het spelerbestand "
                             "houdt zijn laatste inhoud, en die ziet u nu weer."));
+}
+
+/// The players are saved: link files that were put back after an earlier failure come again.
+void frmLedenAdmin::SchrijfVerslagen()
+{
+    const auto nogEens = [this](const Fout& fout) {
+        return Kies(this, QMessageBox::Critical,
+                    QStringLiteral("De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun "
+                                   "zitting kon niet worden geschreven. Zonder dat bestand zijn "
+                                   "ze niet aan die zitting te koppelen.\n\n") +
+                        Bijzonderheden(fout),
+                    {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")}) == 0;
+    };
+    for (Koppelverslag& verslag : verslagen_) {
+        auto geschreven = verslag.Staat() ? Uitkomst<void>() : verslag.Schrijf();
+        while (!geschreven && nogEens(geschreven.error()))
+            geschreven = verslag.Schrijf();
+    }
+    verslagen_.clear();
+}
+
+/// Keys that the register on the disk lacks will be issued to other players: no link file may name
+/// them. The last step of a save can fail when the new register is already in place.
+void frmLedenAdmin::ZetVerslagenTerug(bool vervallen)
+{
+    if (verslagen_.empty())
+        return;
+    if (administratie_.schijf.LeesBestand(administratie_.mappen.Spelerbestand()) ==
+        SpelersTekst(administratie_.spelers)) {
+        SchrijfVerslagen();
+        return;
+    }
+    bool terug = false;
+    for (Koppelverslag& verslag : verslagen_)
+        terug = (verslag.Staat() && ZetTerugOfMeld(verslag, this)) || terug;
+    if (!terug)
+        return;
+    QString tekst = QStringLiteral("De nieuwe spelers staan niet in het spelerbestand. Daarom is "
+                                   "'Koppelverslag.txt' van hun zitting weer zoals het was.");
+    if (!vervallen)
+        tekst += QStringLiteral(" Het wordt opnieuw geschreven zodra ze zijn opgeslagen.");
+    Meld(this, QMessageBox::Information, tekst);
 }
 
 } // namespace plexoran

@@ -50,6 +50,7 @@ std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
     cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);
     LeesGroepenBijStart();
     LeesSpelersBijStart();
+    MeldLosseSleutels();
 
     const int laatste = administratie_.instellingen.LOSTGR;
     KiesGroep(laatste >= 0 && laatste < AantalGroepen ? laatste : 0);
@@ -182,6 +183,29 @@ void frmLedenAdmin::LeesSpelersBijStart()
     if (!gemaakt && !verslag.fout)
         MeldMapfout(QStringLiteral("Het spelerbestand kon niet worden gemaakt."), gemaakt.error());
     MeldLezing(verslag);
+}
+
+void frmLedenAdmin::MeldLosseSleutels()
+{
+    if (administratie_.spelers.HKEY < Sleutelbasis)
+        return; // not known
+    const auto verslagen = VerslagenMetLosseSleutels(administratie_.schijf, administratie_.mappen,
+                                                     administratie_.spelers.HKEY);
+    if (verslagen.empty())
+        return;
+    const bool een = verslagen.size() == 1;
+    QString tekst =
+        QStringLiteral("In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn uitgegeven, "
+                       "zoals na een toevoegen dat is afgebroken. Het spelerbestand is niet "
+                       "veranderd. Verwijder %2 of voeg de spelers opnieuw toe, anders krijgen "
+                       "andere spelers die sleutels.\n")
+            .arg(een ? QStringLiteral("een zitting")
+                     : QStringLiteral("%1 zittingen").arg(verslagen.size()),
+                 een ? QStringLiteral("dat bestand") : QStringLiteral("die bestanden"));
+    for (const Pad& pad : verslagen)
+        tekst += QStringLiteral("\nBestand: ") +
+                 QString::fromStdString(administratie_.schijf.Toonpad(pad));
+    MeldLijst(this, QMessageBox::Warning, tekst);
 }
 
 void frmLedenAdmin::MeldMapfout(const QString& wat, const Fout& fout)

@@ -254,20 +254,60 @@ TEST_F(Toevoegen, HetKoppelverslagVervangtEnKomtTerug)
 {
     const Pad pad = "C:\\RVD\\Zittingen\\a_Rev\\Koppelverslag.txt";
     schijf.ZetMap("C:\\RVD\\Zittingen\\a_Rev");
-    Koppelverslag nieuw(schijf, mappen, "a_Rev");
+    Koppelverslag nieuw(schijf, mappen, "a_Rev", "N01 1 - 2\r\n");
     ASSERT_TRUE(nieuw.ZetTerug()); // nothing was written yet
-    ASSERT_TRUE(nieuw.Schrijf("N01 1 - 2\r\n"));
-    EXPECT_EQ("N01 1 - 2\r\n", schijf.Inhoud(pad));
-    ASSERT_TRUE(nieuw.ZetTerug());
-    EXPECT_EQ(std::nullopt, schijf.Inhoud(pad));
-    ASSERT_TRUE(nieuw.ZetTerug());
+    EXPECT_FALSE(nieuw.Staat());
+    for (const bool vroeger : {false, true}) {
+        if (vroeger)
+            schijf.Zet(pad, "van vroeger");
+        ASSERT_TRUE(nieuw.Schrijf());
+        ASSERT_TRUE(nieuw.Schrijf());
+        EXPECT_TRUE(nieuw.Staat());
+        EXPECT_EQ("N01 1 - 2\r\n", schijf.Inhoud(pad));
+        for (int keer = 1; keer <= 2; ++keer) {
+            ASSERT_TRUE(nieuw.ZetTerug());
+            EXPECT_FALSE(nieuw.Staat());
+            EXPECT_EQ(vroeger ? std::optional<Tekst>("van vroeger") : std::nullopt,
+                      schijf.Inhoud(pad));
+        }
+    }
+}
 
-    schijf.Zet(pad, "van vroeger");
-    Koppelverslag vervangend(schijf, mappen, "a_Rev");
-    ASSERT_TRUE(vervangend.Schrijf("N01 1 - 2\r\n"));
-    EXPECT_EQ("N01 1 - 2\r\n", schijf.Inhoud(pad));
-    ASSERT_TRUE(vervangend.ZetTerug());
-    EXPECT_EQ("van vroeger", schijf.Inhoud(pad));
+TEST_F(Toevoegen, TerugzettenDatMisluktKanOpnieuw)
+{
+    const Pad pad = "C:\\RVD\\Zittingen\\a_Rev\\Koppelverslag.txt";
+    for (const bool vroeger : {false, true}) {
+        schijf.ZetMap("C:\\RVD\\Zittingen\\a_Rev");
+        if (vroeger)
+            schijf.Zet(pad, "van vroeger");
+        FalendeSchijf falend(schijf);
+        Koppelverslag verslag(falend, mappen, "a_Rev", "N01 1 - 2\r\n");
+        ASSERT_TRUE(verslag.Schrijf());
+        falend.FaalVanaf(1);
+        EXPECT_FALSE(verslag.ZetTerug());
+        EXPECT_TRUE(verslag.Staat());
+        falend.FaalNiet();
+        ASSERT_TRUE(verslag.ZetTerug());
+        EXPECT_EQ(vroeger, schijf.Inhoud(pad).has_value());
+    }
+}
+
+TEST_F(Toevoegen, VerslagenMetSleutelsDieNogUitgegevenWorden)
+{
+    const auto zet = [&](const Tekst& zitting, const Tekst& verslag) {
+        schijf.Zet("C:\\RVD\\Zittingen\\" + zitting + "\\Koppelverslag.txt", verslag);
+    };
+    zet("heel_Rev", "N01 100043 - 100044\r\nO02 0 - 100045\r\n");
+    zet("eerste_Rev", "N01 100046 - 0\r\n");
+    zet("tweede_Rev", "N01 100043 - 0\r\nO02 0 - 1100001\r\n");
+    zet("anders_Rev", "999999\r\n20250101 om 123456\r\n - \r\nN01 Jan 999999 - x\r\n");
+    zet("geen", "N01 100046 - 0\r\n");
+    schijf.ZetMap("C:\\RVD\\Zittingen\\leeg_Rev");
+    EXPECT_EQ((std::vector<Pad>{"C:\\RVD\\Zittingen\\eerste_Rev\\Koppelverslag.txt",
+                                "C:\\RVD\\Zittingen\\tweede_Rev\\Koppelverslag.txt"}),
+              VerslagenMetLosseSleutels(schijf, mappen, 100045));
+    EXPECT_EQ(1U, VerslagenMetLosseSleutels(schijf, mappen, 100046).size());
+    EXPECT_EQ(0U, VerslagenMetLosseSleutels(schijf, mappen, 1100001).size());
 }
 
 TEST_F(Toevoegen, HetVerslagRuimtOpWatEenAfgebrokenSchrijvenLiet)
@@ -279,7 +319,7 @@ TEST_F(Toevoegen, HetVerslagRuimtOpWatEenAfgebrokenSchrijvenLiet)
         schijf.Zet(pad, "half");
     schijf.ZetTijd(oud, 1);
     schijf.ZetTijd(net, std::numeric_limits<std::int64_t>::max());
-    ASSERT_TRUE(Koppelverslag(schijf, mappen, "a_Rev").Schrijf("N01 1 - 2\r\n"));
+    ASSERT_TRUE(Koppelverslag(schijf, mappen, "a_Rev", "N01 1 - 2\r\n").Schrijf());
     EXPECT_EQ(std::nullopt, schijf.Inhoud(oud));
     EXPECT_EQ("half", schijf.Inhoud(net));
 }
@@ -289,9 +329,9 @@ TEST_F(Toevoegen, EenVerslagDatNietTeLezenWasWordtNooitVerwijderd)
     const Pad pad = "C:\\RVD\\Zittingen\\a_Rev\\Koppelverslag.txt";
     schijf.Zet(pad, "van vroeger");
     FalendeSchijf falend(schijf);
-    Koppelverslag verslag(falend, mappen, "a_Rev");
+    Koppelverslag verslag(falend, mappen, "a_Rev", "nieuw");
     falend.FaalBij(1);
-    EXPECT_FALSE(verslag.Schrijf("nieuw"));
+    EXPECT_FALSE(verslag.Schrijf());
     falend.FaalNiet();
     ASSERT_TRUE(verslag.ZetTerug());
     EXPECT_EQ("van vroeger", schijf.Inhoud(pad));

@@ -304,6 +304,178 @@ TEST_F(OpslagTest, DezelfdeInhoudVanBuitenGeldtNietAlsHetEigenBestand)
     EXPECT_EQ(std::vector<std::string>{oud}, Kopieen());
 }
 
+// ---- The link file of the special add ----------------------------------------------------------
+
+namespace {
+
+const std::string Verslagbestand = "Zittingen/Zomerdrive 2024_Rev/Koppelverslag.txt";
+const QString NietInHetBestand =
+    QStringLiteral("De nieuwe spelers staan niet in het spelerbestand. Daarom is "
+                   "'Koppelverslag.txt' van hun zitting weer zoals het was.");
+const QString KomtNog =
+    NietInHetBestand + QStringLiteral(" Het wordt opnieuw geschreven zodra ze zijn opgeslagen.");
+
+class VerslagTest : public OpslagTest {
+  protected:
+    void SetUp() override
+    {
+        OpslagTest::SetUp();
+        suite.Zet(Verslagbestand, "van vroeger");
+    }
+    /// Nine players of the session; `dan` comes between their adding and the save, and the boxes
+    /// that `verwacht` awaits after it.
+    void VoegSessieToe(const std::function<void()>& dan, const std::function<void()>& verwacht)
+    {
+        wachter.Bedien([dan](QDialog& dialoog) {
+            QApplication::processEvents();
+            Klik(Vind<QPushButton>(dialoog, "cmdStart"));
+            dan();
+            Klik(Vind<QPushButton>(dialoog, "OKButton"));
+        });
+        wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+        verwacht();
+        Klik(Knop("cmdSpToevoegen"));
+        wachter.Klaar();
+    }
+    void VoegSessieToeZonderOpslag()
+    {
+        VoegSessieToe([this] { schijf.FaalBij(1); },
+                      [this] {
+                          VerwachtMislukt(Doorgaan);
+                          wachter.Informatie(KomtNog);
+                      });
+        ASSERT_TRUE(oud == suite.Spelers());
+        ASSERT_EQ("van vroeger", Verslag());
+    }
+    [[nodiscard]] std::string Verslag() const { return suite.Inhoud(Verslagbestand); }
+    [[nodiscard]] bool NoemtNieuwe() const
+    {
+        return Verslag().starts_with("N01 100172 - 100173\r\n");
+    }
+};
+
+} // namespace
+
+TEST_F(VerslagTest, BijElkeStapDieMisluktNoemtHetAlleenSleutelsDieZijnOpgeslagen)
+{
+    VoegSessieToe([this] { schijf.FaalNiet(); }, [] {});
+    const int stappen = schijf.Aantal();
+    const std::string metNieuwe = suite.Spelers();
+    ASSERT_TRUE(NoemtNieuwe());
+    ASSERT_GE(stappen, 5);
+    for (int stap = 1; stap <= stappen; ++stap) {
+        SCOPED_TRACE(stap);
+        suite.Zet("Spelers/RVDspelers.txt", oud);
+        suite.Zet(Verslagbestand, "van vroeger");
+        ASSERT_NO_FATAL_FAILURE(Herstart());
+        // Only when the folder could not be synced the new register is there all the same.
+        const bool staat = stap == stappen;
+        VoegSessieToe([&] { schijf.FaalBij(stap); },
+                      [&] {
+                          VerwachtMislukt(Doorgaan);
+                          if (!staat)
+                              wachter.Informatie(KomtNog);
+                      });
+        EXPECT_TRUE((staat ? metNieuwe : oud) == suite.Spelers());
+        EXPECT_EQ(staat, NoemtNieuwe()) << Verslag();
+        schijf.FaalNiet();
+        VerwachtSluitvraag(NietOpslaan);
+        ASSERT_TRUE(venster->close());
+        wachter.Klaar();
+        EXPECT_EQ(staat, Verslag() != "van vroeger");
+    }
+}
+
+TEST_F(VerslagTest, WieNietOpslaatHoudtHetVorige)
+{
+    suite.Verwijder(Verslagbestand);
+    VoegSessieToe([this] { WijzigVanBuiten(); },
+                  [this] {
+                      VerwachtGewijzigd(Later);
+                      wachter.Informatie(KomtNog);
+                  });
+    EXPECT_FALSE(suite.Bestaat(Verslagbestand));
+    VerwachtSluitvraag(NietOpslaan);
+    ASSERT_TRUE(venster->close());
+    EXPECT_FALSE(suite.Bestaat(Verslagbestand));
+}
+
+TEST_F(VerslagTest, OpnieuwInlezenNeemtHetTerug)
+{
+    VoegSessieToe([this] { WijzigVanBuiten(); },
+                  [this] {
+                      VerwachtGewijzigd(LeesIn);
+                      wachter.Informatie(NietInHetBestand);
+                  });
+    EXPECT_EQ(vreemd, suite.Spelers());
+    EXPECT_EQ("van vroeger", Verslag());
+    // What was taken back has nothing to do with the next save.
+    VerwachtIngave();
+    VoegToe();
+    EXPECT_EQ("van vroeger", Verslag());
+}
+
+TEST_F(VerslagTest, DeVolgendeOpslagSchrijftHetAlsnog)
+{
+    VoegSessieToeZonderOpslag();
+    VerwachtIngave();
+    VoegToe();
+    EXPECT_EQ("HKEY=100181", RegelsVan(suite.Spelers()).front());
+    EXPECT_TRUE(NoemtNieuwe()) << Verslag();
+}
+
+TEST_F(VerslagTest, AlsnogSchrijvenDatMisluktWordtGemeld)
+{
+    VoegSessieToeZonderOpslag();
+    suite.Verwijder(Verslagbestand);
+    std::filesystem::create_directory(suite.Weg() / Verslagbestand);
+    VerwachtIngave();
+    for (const QString& antwoord : {Opnieuw, Doorgaan})
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun "
+                                     "zitting kon niet worden geschreven. Zonder dat bestand zijn "
+                                     "ze niet aan die zitting te koppelen.\n\nBestand: "),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Critical,
+             .knoppen = {Opnieuw, Doorgaan},
+             .alleenBegin = true});
+    VoegToe();
+    EXPECT_EQ("HKEY=100181", RegelsVan(suite.Spelers()).front());
+}
+
+TEST_F(VerslagTest, TerugzettenDatMisluktWordtGemeldEnKomtBijDeVolgendeOpslagTerug)
+{
+    VoegSessieToe(
+        [this] { schijf.FaalVanaf(1); },
+        [this] {
+            VerwachtMislukt(Doorgaan);
+            wachter.Verwacht(
+                {.tekst = QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. "
+                                         "Verwijder dat bestand: de sleutels die erin staan, zijn "
+                                         "niet uitgegeven.\n\nBestand: "),
+                 .icoon = QMessageBox::Warning,
+                 .alleenBegin = true});
+        });
+    ASSERT_TRUE(NoemtNieuwe());
+    schijf.FaalBij(1);
+    VerwachtIngave();
+    VerwachtMislukt(Doorgaan);
+    wachter.Informatie(KomtNog);
+    VoegToe();
+    EXPECT_EQ("van vroeger", Verslag());
+}
+
+/// A register without players is not saved, and so are no keys.
+TEST_F(VerslagTest, ZonderSpelersBlijftHetVorige)
+{
+    VoegSessieToeZonderOpslag();
+    administratie.spelers.tabel = {};
+    VerwachtSluitvraag(Opslaan);
+    ASSERT_TRUE(venster->close());
+    EXPECT_TRUE(oud == suite.Spelers());
+    EXPECT_EQ("van vroeger", Verslag());
+}
+
 // ---- Group names and settings -----------------------------------------------------------------
 
 TEST_F(OpslagTest, GroepsnamenDieNietTeBewarenZijnWordenTeruggenomen)

@@ -288,6 +288,35 @@ TEST_F(Opstartproef, WatEenAfgebrokenOpslagLietWordtNaEenUurOpgeruimd)
     }
 }
 
+/// Killed between the link file and the save, or an older register put back.
+TEST_F(Opstartproef, KoppelverslagenMetSleutelsDieNogUitgegevenWordenZijnGemeld)
+{
+    const auto melding = [](const QString& waarvan, const QString& welk) {
+        return QStringLiteral("In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn "
+                              "uitgegeven, zoals na een toevoegen dat is afgebroken. Het "
+                              "spelerbestand is niet veranderd. Verwijder %2 of voeg de spelers "
+                              "opnieuw toe, anders krijgen andere spelers die sleutels.\n")
+            .arg(waarvan, welk);
+    };
+    const Pad een = "C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt";
+    const Pad twee = "C:\\RVD\\Zittingen\\Twee_Rev\\Koppelverslag.txt";
+    ZetSpelers("HKEY=100172\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n");
+    geheugen.Zet(een, "N01 100172 - 0\r\n");
+    ASSERT_EQ(std::nullopt, Laad());
+    geheugen.Zet(een, "N01 100172 - 100173\r\n");
+    wachter.Waarschuwing(
+        melding(QStringLiteral("een zitting"), QStringLiteral("dat bestand")) +
+        QStringLiteral("\nBestand: C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt"));
+    ASSERT_EQ(std::nullopt, Laad());
+    geheugen.Zet(twee, "N01 100174 - 0\r\n");
+    wachter.Waarschuwing(
+        melding(QStringLiteral("2 zittingen"), QStringLiteral("die bestanden")) +
+        QStringLiteral("\nBestand: C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt"
+                       "\nBestand: C:\\RVD\\Zittingen\\Twee_Rev\\Koppelverslag.txt"));
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("N01 100174 - 0\r\n", geheugen.Inhoud(twee));
+}
+
 // ---- Settings and buttons ---------------------------------------------------------------------
 
 TEST_F(Opstartproef, DeLaatsteGroepKomtTerug)
