@@ -105,11 +105,12 @@ void frmLedenAdmin::closeEvent(QCloseEvent* gebeurtenis)
 {
     gebeurtenis->accept();
     if (nietOpgeslagen_) {
-        const int antwoord =
-            Kies(this, QMessageBox::Warning,
-                 QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
-                 {QStringLiteral("Opslaan"), QStringLiteral("Niet opslaan"),
-                  QStringLiteral("Annuleren")});
+        const int antwoord = Kies(
+            this, QMessageBox::Warning,
+            QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand. Met 'Niet "
+                           "opslaan' gaan ze verloren. Met 'Annuleren' blijft Plexoran open."),
+            {QStringLiteral("Opslaan"), QStringLiteral("Niet opslaan"),
+             QStringLiteral("Annuleren")});
         const bool klaar = antwoord == 1 || (antwoord == 0 && SlaOp() != Opslag::Mislukt);
         if (!klaar) {
             gebeurtenis->ignore();

@@ -152,8 +152,9 @@ bool frmLedenAdmin::BewaarGroepen(const Groepen& oud)
             return true;
         const int antwoord =
             Kies(this, QMessageBox::Critical,
-                 QStringLiteral("De groepsnamen konden niet worden bewaard. Het bestand is "
-                                "gebleven zoals het was.\n\n") +
+                 QStringLiteral("De groepsnamen konden niet worden opgeslagen. Het bestand is "
+                                "gebleven zoals het was. Probeer het opnieuw, of kies Annuleren om "
+                                "de oude namen te houden.\n\n") +
                      Bijzonderheden(uitkomst.error()),
                  {QStringLiteral("Opnieuw proberen"), QStringLiteral("Annuleren")});
         if (antwoord != 0) {

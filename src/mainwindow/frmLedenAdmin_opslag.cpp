@@ -63,13 +63,13 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
     const QString wat =
         fout.soort == Foutsoort::GeenReservekopie
             ? QStringLiteral("Er is niets opgeslagen: het spelerbestand bevat gegevens die niet "
-                             "zijn ingelezen, en de kopie die daarvan eerst moet worden gemaakt "
-                             "in de map Reservekopie is mislukt.")
+                             "zijn ingelezen, en de kopie die daarvan eerst in de map "
+                             "Reservekopie moet komen, is mislukt.")
             : QStringLiteral("De spelers konden niet worden opgeslagen.");
     const QString gevolg = QStringLiteral(
-        "\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging staat nog wel "
-        "in dit programma: verhelp de oorzaak en probeer het opnieuw, of ga door; bij de volgende "
-        "wijziging wordt het weer geprobeerd, en bij het afsluiten wordt het gevraagd.\n\n");
+        " Het spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
+        "dit programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij de volgende "
+        "wijziging en bij het afsluiten komt deze keus terug.\n\n");
     const int antwoord = Kies(this, QMessageBox::Critical, wat + gevolg + Bijzonderheden(fout),
                               {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")});
     return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
@@ -87,7 +87,9 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagNaWijziging(const Fout& fout)
         wat +
             QStringLiteral("\n\nOpslaan: uw gegevens vervangen dat bestand; er "
                            "komt eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: "
-                           "uw laatste wijziging vervalt.\n\n") +
+                           "dat bestand blijft zoals het is; uw laatste wijziging vervalt.\n"
+                           "Later beslissen: er verandert nu niets; bij de volgende wijziging en "
+                           "bij het afsluiten komt deze keus terug.\n\n") +
             Bijzonderheden(fout),
         {QStringLiteral("Opslaan"), QStringLiteral("Opnieuw inlezen"),
          QStringLiteral("Later beslissen")});
@@ -99,8 +101,9 @@ void frmLedenAdmin::MeldRegisterBehouden(Opslag opslag)
 {
     if (opslag == Opslag::RegisterBehouden)
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Een register zonder spelers wordt niet opgeslagen: het spelerbestand "
-                            "houdt zijn laatste inhoud, en die ziet u nu weer."));
+             QStringLiteral("Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt "
+                            "zijn laatste inhoud, en die ziet u nu weer. Voeg eerst een andere "
+                            "speler toe."));
 }
 
 /// The players are saved: link files that were put back after an earlier failure come again.

@@ -76,11 +76,10 @@ bool frmLedenAdmin::LeesMappenBijStart(const Pad& mappenIni)
             : QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen.");
     Meld(nullptr, QMessageBox::Critical,
          wat +
-             QStringLiteral(
-                 "\n\nIn dat bestand staat in welke mappen uw gegevens worden "
-                 "bewaard; zonder dat bestand kan dit programma niet werken. Zet het goede "
-                 "bestand op deze plaats, of start Plexoran met --mappen en de naam "
-                 "van het bestand.\n\n") +
+             QStringLiteral(" Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit "
+                            "programma niet waar ze staan. Zet het goede bestand op deze plaats, "
+                            "of start Plexoran met --mappen en de naam "
+                            "van het bestand.\n\n") +
              Bijzonderheden(fout));
     return false;
 }
@@ -92,7 +91,9 @@ void frmLedenAdmin::MaakLedenmapBijStart()
                                        "niet worden gemaakt.");
     if (mappen.WINMAP.empty()) {
         Meld(this, QMessageBox::Warning,
-             wat + QStringLiteral("\n\nEr staat geen map achter WINMAP= in 'Mappen.ini'."));
+             wat + QStringLiteral(" Er staat geen map achter WINMAP= in 'Mappen.ini'; de gegevens "
+                                  "van de spelers zijn niet in gevaar. Vul die map in en start "
+                                  "Plexoran opnieuw."));
         return;
     }
     const auto map = administratie_.schijf.MaakMap(mappen.Ledenmap());
@@ -124,7 +125,7 @@ void frmLedenAdmin::LeesInstellingenBijStart()
         Meld(this, QMessageBox::Information,
              QStringLiteral("Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit "
                             "programma. Voordat het wordt vervangen, komt er een kopie van in de "
-                            "map Reservekopie.\n\nBestand: ") +
+                            "map Reservekopie. U hoeft niets te doen.\n\nBestand: ") +
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
 }
 
@@ -166,9 +167,10 @@ void frmLedenAdmin::LeesGroepenBijStart()
     const auto& inhoud = administratie_.groepen.bestandstekst;
     if (inhoud && !IsGroepenbestand(*inhoud))
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn. "
-                            "Die zijn overgeslagen. Voordat het bestand wordt vervangen, komt er "
-                            "een kopie van in de map Reservekopie.\n\nBestand: ") +
+             QStringLiteral("Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; "
+                            "die zijn overgeslagen. Voordat het bestand wordt vervangen, komt er "
+                            "een kopie van in de map Reservekopie. Kijk na of de groepsnamen "
+                            "kloppen.\n\nBestand: ") +
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
     VulGroepen();
 }
@@ -212,8 +214,8 @@ void frmLedenAdmin::MeldMapfout(const QString& wat, const Fout& fout)
 {
     Meld(this, QMessageBox::Warning,
          wat +
-             QStringLiteral("\n\nKijk na of de map in 'Mappen.ini' bestaat en of u erin mag "
-                            "schrijven.\n\n") +
+             QStringLiteral(" De gegevens van de spelers zijn niet veranderd. Kijk na of de map in "
+                            "'Mappen.ini' bestaat en of u erin mag schrijven.\n\n") +
              Bijzonderheden(fout));
 }
 

@@ -233,8 +233,9 @@ void frmParenOnderhoud::SchrijfCSV(ParenCSV soort)
                  .arg(naam));
     else
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het parenbestand '%1' is niet opgeslagen. Misschien is het nog open "
-                            "in een ander programma.\n\n")
+             QStringLiteral("Het parenbestand '%1' is niet opgeslagen. De paren in dit venster "
+                            "zijn niet veranderd. Sluit het bestand als het nog open is in een "
+                            "ander programma, en probeer het opnieuw.\n\n")
                      .arg(naam) +
                  Bijzonderheden(geschreven.error()));
 }
@@ -266,9 +267,9 @@ void frmParenOnderhoud::MeldOpslagfout(const Fout& fout)
     QGuiApplication::clipboard()->setText(
         NaarQString(Tekstblik(tekst).substr(0, tekst.find('\r'))));
     Meld(this, QMessageBox::Warning,
-         QStringLiteral("Fout bij het opslaan van Paren\n%1\n\nDe paren zijn niet verloren: ze "
-                        "staan nu op het klembord, zoals ze in het bestand horen te staan. Plak "
-                        "ze in een tekstbestand als u ze wilt bewaren.")
+         QStringLiteral("Fout bij het opslaan van Paren\nDe paren zijn niet verloren: ze staan nu "
+                        "op het klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla "
+                        "dat op onder de naam hieronder.\n\n%1")
              .arg(Bijzonderheden(fout)));
 }
 

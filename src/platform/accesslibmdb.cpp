@@ -150,9 +150,9 @@ class Tabellezing {
         }
         if (gelezen != geheel)
             return Beschadigd("in de tabel " + Tussen(vraag_.tabel) +
-                              (gelezen < geheel ? " ontbreken rijen: " : " staan te veel rijen: ") +
-                              "het moeten er " + std::to_string(geheel) + " zijn, gelezen " +
-                              std::to_string(gelezen));
+                              (gelezen < geheel ? " ontbreken rijen" : " staan te veel rijen") +
+                              " (verwacht: " + std::to_string(geheel) +
+                              ", gelezen: " + std::to_string(gelezen) + ")");
         bytes += Eindbericht(gelezen);
         return uit_(bytes) ? Uitkomst<void>() : Beschadigd({});
     }

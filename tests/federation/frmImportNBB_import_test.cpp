@@ -518,7 +518,8 @@ TEST_F(ImporterenTest, MislukteOpslagHoudtDeLedenInHetProgramma)
     wachter.Verwacht(
         {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
          .antwoord = QStringLiteral("Opslaan"),
-         .icoon = QMessageBox::Warning});
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     EXPECT_TRUE(venster->close());
     wachter.Klaar();
     EXPECT_EQ("HKEY=100172", Sleutelregel());

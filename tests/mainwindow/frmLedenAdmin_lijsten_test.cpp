@@ -13,8 +13,8 @@ namespace {
 
 const QString OK = QStringLiteral("OK");
 const QString registerBehouden =
-    QStringLiteral("Een register zonder spelers wordt niet opgeslagen: het spelerbestand houdt "
-                   "zijn laatste inhoud, en die ziet u nu weer.");
+    QStringLiteral("Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
+                   "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe.");
 
 class LijstenTest : public Hoofdvensterproef {
   protected:
@@ -351,7 +351,8 @@ TEST_F(LijstenTest, VerplaatsenDatNietOpgeslagenKanWordenBlijftInHetProgramma)
     wachter.Verwacht(
         {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
          .antwoord = QStringLiteral("Opslaan"),
-         .icoon = QMessageBox::Warning});
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     venster->close();
     wachter.Klaar();
     EXPECT_NE(std::string::npos, Regel("100001").find(",Gr04-,"));

@@ -33,11 +33,11 @@ class OpslagTest : public Hoofdvensterproef {
     {
         wachter.Verwacht(
             {.tekst = QStringLiteral(
-                          "De spelers konden niet worden opgeslagen.\n\nHet spelerbestand op de "
-                          "schijf is heel gebleven. Uw laatste wijziging staat nog wel in dit "
-                          "programma: verhelp de oorzaak en probeer het opnieuw, of ga door; bij "
-                          "de volgende wijziging wordt het weer geprobeerd, en bij het afsluiten "
-                          "wordt het gevraagd.\n\n") +
+                          "De spelers konden niet worden opgeslagen. Het spelerbestand op de "
+                          "schijf is heel gebleven, en uw laatste wijziging staat nog in dit "
+                          "programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij "
+                          "de volgende wijziging en bij het afsluiten komt deze keus "
+                          "terug.\n\n") +
                       Bestandsregel(),
              .antwoord = antwoord,
              .icoon = QMessageBox::Critical,
@@ -51,8 +51,10 @@ class OpslagTest : public Hoofdvensterproef {
             {.tekst = QStringLiteral(
                           "Het spelerbestand is door een ander programma gewijzigd nadat het hier "
                           "is ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er komt "
-                          "eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: uw "
-                          "laatste wijziging vervalt.\n\n") +
+                          "eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: dat "
+                          "bestand blijft zoals het is; uw laatste wijziging vervalt.\nLater "
+                          "beslissen: er verandert nu niets; bij de volgende wijziging en bij het "
+                          "afsluiten komt deze keus terug.\n\n") +
                       Bestandsregel(),
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,
@@ -62,7 +64,9 @@ class OpslagTest : public Hoofdvensterproef {
     void VerwachtSluitvraag(const QString& antwoord)
     {
         wachter.Verwacht(
-            {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
+            {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand. "
+                                     "Met 'Niet opslaan' gaan ze verloren. Met 'Annuleren' blijft "
+                                     "Plexoran open."),
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,
              .knoppen = {Opslaan, NietOpslaan, Annuleren}});
@@ -489,8 +493,9 @@ TEST_F(OpslagTest, GroepsnamenDieNietTeBewarenZijnWordenTeruggenomen)
     });
     for (const QString& antwoord : {Opnieuw, Annuleren})
         wachter.Verwacht(
-            {.tekst = QStringLiteral("De groepsnamen konden niet worden bewaard. Het bestand is "
-                                     "gebleven zoals het was.\n\nBestand: ") +
+            {.tekst = QStringLiteral("De groepsnamen konden niet worden opgeslagen. Het bestand is "
+                                     "gebleven zoals het was. Probeer het opnieuw, of kies "
+                                     "Annuleren om de oude namen te houden.\n\nBestand: ") +
                       QString::fromStdString((suite.Weg() / "Spelers" / "RVDGroepen.txt").string()),
              .antwoord = antwoord,
              .icoon = QMessageBox::Critical,
@@ -512,7 +517,7 @@ TEST_F(OpslagTest, GroepsnamenOpnieuwProberen)
         Schrijf(namen, "txt1_11", QStringLiteral("Nieuw"));
         Klik(Vind<QPushButton>(namen, "cmdOK"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("De groepsnamen konden niet worden bewaard."),
+    wachter.Verwacht({.tekst = QStringLiteral("De groepsnamen konden niet worden opgeslagen."),
                       .antwoord = Opnieuw,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});

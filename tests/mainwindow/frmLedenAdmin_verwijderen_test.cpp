@@ -194,8 +194,9 @@ TEST_F(VerwijderTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
         QStringLiteral("Weet u zeker dat u regel 1 t/m regel 2 wilt verwijderen?"), OK));
     wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
     wachter.Informatie(
-        QStringLiteral("Een register zonder spelers wordt niet opgeslagen: het spelerbestand houdt "
-                       "zijn laatste inhoud, en die ziet u nu weer."));
+        QStringLiteral("Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn "
+                       "laatste inhoud, en die ziet u nu weer. Voeg eerst een andere speler "
+                       "toe."));
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
     EXPECT_EQ(oud, suite.Spelers());

@@ -148,12 +148,11 @@ TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
     wachter.Verwacht(
         {.tekst = QStringLiteral(
              "Er is niets opgeslagen: het spelerbestand bevat gegevens die niet zijn ingelezen, en "
-             "de kopie die daarvan eerst moet worden gemaakt in de map Reservekopie is "
-             "mislukt.\n\nHet spelerbestand op de schijf is heel gebleven. Uw laatste wijziging "
-             "staat nog wel in dit programma: verhelp de oorzaak en probeer het opnieuw, of ga "
-             "door; bij de volgende wijziging wordt het weer geprobeerd, en bij het afsluiten "
-             "wordt "
-             "het gevraagd.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"),
+             "de kopie die daarvan eerst in de map Reservekopie moet komen, is mislukt. Het "
+             "spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
+             "dit programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij de "
+             "volgende wijziging en bij het afsluiten komt deze keus terug.\n\nBestand: "
+             "C:\\RVD\\Spelers\\Reservekopie"),
          .antwoord = QStringLiteral("Doorgaan"),
          .icoon = QMessageBox::Critical,
          .knoppen = {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")},
@@ -168,10 +167,10 @@ TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
 TEST_F(Opstartproef, OnzinInPlexoIniWordtGemeldEnKomtInEenKopie)
 {
     ZetInstellingen("dit is\r\ngeen instelling\r\n");
-    wachter.Informatie(
-        QStringLiteral("Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit "
-                       "programma. Voordat het wordt vervangen, komt er een kopie van in de map "
-                       "Reservekopie.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"));
+    wachter.Informatie(QStringLiteral(
+        "Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit "
+        "programma. Voordat het wordt vervangen, komt er een kopie van in de map "
+        "Reservekopie. U hoeft niets te doen.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"));
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(1, GetoondeGroep());
     EXPECT_EQ("OPTIND=0\r\nLOSTGR=0\r\n", Plexo());
@@ -194,9 +193,10 @@ TEST_F(Opstartproef, OnzinInDeGroepsnamenWordtGemeldEnBlijftStaan)
     const std::string oud = "dit is geen groep\r\nGr01-Clubleden\r\n" + ruis;
     ZetGroepen(oud);
     wachter.Informatie(QStringLiteral(
-        "Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn. Die zijn "
+        "Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; die zijn "
         "overgeslagen. Voordat het bestand wordt vervangen, komt er een kopie van in de map "
-        "Reservekopie.\n\nBestand: C:\\RVD\\Spelers\\RVDGroepen.txt"));
+        "Reservekopie. Kijk na of de groepsnamen kloppen.\n\nBestand: "
+        "C:\\RVD\\Spelers\\RVDGroepen.txt"));
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ("Gr01-Clubleden", Keus("cmbGr")->itemText(0).toStdString());
     EXPECT_EQ("Gr02-", Keus("cmbGr")->itemText(1).toStdString());
@@ -301,8 +301,8 @@ TEST_F(OpstartOpSchijf, OpEenAlleenLezenMapBlijftAllesStaan)
         Schrijf(dialoog, "txt1_6", QStringLiteral("Nieuweling"));
         Klik(Vind<QPushButton>(dialoog, "cmdOK"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("De spelers konden niet worden opgeslagen.\n\nHet "
-                                              "spelerbestand op de schijf is heel gebleven."),
+    wachter.Verwacht({.tekst = QStringLiteral("De spelers konden niet worden opgeslagen. Het "
+                                              "spelerbestand op de schijf is heel gebleven"),
                       .antwoord = QStringLiteral("Doorgaan"),
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});

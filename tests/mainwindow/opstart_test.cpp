@@ -90,9 +90,10 @@ TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
 TEST_F(Opstartproef, ZonderWINMAPGaatDeStartDoor)
 {
     geheugen.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\RVD\\Spelers\r\nADMMAP=C:\\RVD\\Admin\r\n");
-    wachter.Waarschuwing(
-        QStringLiteral("De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden "
-                       "gemaakt.\n\nEr staat geen map achter WINMAP= in 'Mappen.ini'."));
+    wachter.Waarschuwing(QStringLiteral(
+        "De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden "
+        "gemaakt. Er staat geen map achter WINMAP= in 'Mappen.ini'; de gegevens van de "
+        "spelers zijn niet in gevaar. Vul die map in en start Plexoran opnieuw."));
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ("HKEY=100000\r\n", Spelers());
     EXPECT_EQ(Padsoort::Niets, geheugen.Soort("\\NBB4-Leden").value());

@@ -12,13 +12,13 @@ inline const QString isAlGestart = QStringLiteral("Het programma is al gestart!.
 inline const QString isNogLeeg =
     QStringLiteral("Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!");
 inline const QString mappenvraag = QStringLiteral(
-    "\n\nIn dat bestand staat in welke mappen uw gegevens worden bewaard; zonder dat bestand kan "
-    "dit programma niet werken. Zet het goede bestand op deze plaats, of start Plexoran met "
+    " Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit programma niet waar ze "
+    "staan. Zet het goede bestand op deze plaats, of start Plexoran met "
     "--mappen en de naam "
     "van het bestand.\n\n");
-inline const QString mapvraag =
-    QStringLiteral("\n\nKijk na of de map in 'Mappen.ini' bestaat en of u "
-                   "erin mag schrijven.\n\n");
+inline const QString mapvraag = QStringLiteral(" De gegevens van de spelers zijn niet veranderd. "
+                                               "Kijk na of de map in 'Mappen.ini' bestaat en of u "
+                                               "erin mag schrijven.\n\n");
 inline const QString blijftZoHetIs =
     QStringLiteral("\n\nHet bestand zelf is niet veranderd. Voordat dit programma het de eerste "
                    "keer vervangt, komt er een kopie van in de map Reservekopie.");

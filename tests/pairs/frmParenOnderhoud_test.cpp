@@ -530,11 +530,11 @@ TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
     geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
     wachter.Waarschuwing(
         QStringLiteral("Fout bij het opslaan van Paren\n"
+                       "De paren zijn niet verloren: ze staan nu op het klembord. Plak ze in een "
+                       "tekstbestand, verhelp de oorzaak en sla dat op onder de naam "
+                       "hieronder.\n\n"
                        "Bestand: C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt\n"
-                       "Melding van het systeem: Permission denied\n\n"
-                       "De paren zijn niet verloren: ze staan nu op het klembord, zoals ze in het "
-                       "bestand horen te staan. Plak ze in een tekstbestand als u ze wilt "
-                       "bewaren."));
+                       "Melding van het systeem: Permission denied"));
     Klik(Knop("cmdEinde"));
     wachter.Klaar();
     EXPECT_FALSE(venster->isVisible());
@@ -651,8 +651,9 @@ TEST_F(frmParenOnderhoudTest, EenCSVDieNietLukt)
 {
     geheugen.ZetAlleenLezen("C:\\club");
     wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'RVDparenCSV1.csv' is niet "
-                                              "opgeslagen. Misschien is het nog open in een ander "
-                                              "programma.\n\n"),
+                                              "opgeslagen. De paren in dit venster zijn niet "
+                                              "veranderd. Sluit het bestand als het nog open is in "
+                                              "een ander programma, en probeer het opnieuw.\n\n"),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     Klik(Knop("cmdPrintVast"));

@@ -215,10 +215,8 @@ TEST(Access, MinderRijenDanDeTabelZegtIsEenFout)
         ASSERT_FALSE(rijen);
         EXPECT_EQ(rijen.error().systeem,
                   geteld == 41
-                      ? "in de tabel \"leden\" ontbreken rijen: het moeten er 41 zijn, "
-                        "gelezen 40"
-                      : "in de tabel \"leden\" staan te veel rijen: het moeten er 39 zijn, "
-                        "gelezen 40");
+                      ? "in de tabel \"leden\" ontbreken rijen (verwacht: 41, gelezen: 40)"
+                      : "in de tabel \"leden\" staan te veel rijen (verwacht: 39, gelezen: 40)");
     }
 }
 
