@@ -131,7 +131,7 @@ void diaIngave::BouwVeld(int veld)
         vak->setEnabled(false);
         vak->setReadOnly(true);
         Kleur(vak, QPalette::Base, palette().color(QPalette::Button));
-        Kleur(vak, QPalette::Text, palette().color(QPalette::WindowText));
+        Kleur(vak, QPalette::Text, palette().color(QPalette::ButtonText));
         return;
     }
     auto* opt = new QRadioButton(velden_);
@@ -144,6 +144,9 @@ void diaIngave::BouwVeld(int veld)
         vet.setBold(true);
         label->setFont(vet);
         Kleur(label, QPalette::WindowText, QColor(255, 0, 0));
+        // Red is hard to read on the grey of dark themes.
+        Kleur(label, QPalette::Window, Qt::black);
+        label->setAutoFillBackground(palette().color(QPalette::Window).lightness() < 128);
     }
 }
 

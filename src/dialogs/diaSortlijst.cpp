@@ -53,10 +53,7 @@ Sorteervlak::Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, QWidget*
     setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));
     breedteA_ = fontMetrics().horizontalAdvance(QLatin1Char('A'));
     regelhoogte_ = fontMetrics().height() + 4;
-    QPalette palet = palette();
-    palet.setColor(QPalette::Window, Qt::white);
-    palet.setColor(QPalette::WindowText, Qt::black);
-    setPalette(palet);
+    setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -91,7 +88,7 @@ void Sorteervlak::SchuifOpzij(int links)
 void Sorteervlak::paintEvent(QPaintEvent* gebeurtenis)
 {
     QPainter schilder(this);
-    schilder.setPen(palette().color(QPalette::WindowText));
+    schilder.setPen(palette().color(QPalette::Text));
     TekenKop(schilder);
     if (beeld_.regels == 0)
         return;

@@ -31,9 +31,7 @@ Controlevlak::Controlevlak(const Letterkast& kast, const Maten& maten, QWidget* 
     : QWidget(ouder), kast_(kast), pixelsPerMm_(maten.PixelsPerMm())
 {
     Noem(this, QStringLiteral("P1"), QStringLiteral("Leden van de gekozen ledenbestanden"));
-    QPalette palet = palette();
-    palet.setColor(QPalette::Window, Qt::white);
-    setPalette(palet);
+    setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -74,7 +72,8 @@ void Controlevlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
     if (rijen_ == nullptr)
         return;
     QPainter schilder(this);
-    Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm);
+    Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm, {},
+                      palette().color(QPalette::Text));
     TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, *rijen_,
                        static_cast<std::size_t>(eerste_),
                        static_cast<std::size_t>(ZichtbareRijen()) + 1);

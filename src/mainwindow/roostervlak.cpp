@@ -16,7 +16,6 @@ namespace {
 
 constexpr QColor bandkleur(235, 235, 235);
 constexpr QColor lijnkleur(200, 200, 200);
-constexpr QColor keuzekleur(0, 84, 190);
 constexpr int KolommenInBand = 3; // Nr, Key and Groep: what the user never types
 constexpr int Lijndikte = 2;
 
@@ -25,9 +24,7 @@ QFrame* MaakLijn(const QString& naam, QWidget* ouder)
     auto* lijn = new QFrame(ouder);
     Noem(lijn, naam);
     lijn->setAutoFillBackground(true);
-    QPalette palet;
-    palet.setColor(QPalette::Window, keuzekleur);
-    lijn->setPalette(palet);
+    lijn->setBackgroundRole(QPalette::Highlight);
     lijn->setAttribute(Qt::WA_TransparentForMouseEvents);
     lijn->hide();
     return lijn;
@@ -41,11 +38,7 @@ Roostervlak::Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, QWidge
 {
     Noem(this, QStringLiteral("P1"), QStringLiteral("Spelers van de groep"));
     setFocusPolicy(Qt::StrongFocus);
-    // The colours of band and lines are fixed, so paper and ink are too, in dark themes as well.
-    QPalette palet = palette();
-    palet.setColor(QPalette::Window, Qt::white);
-    palet.setColor(QPalette::WindowText, Qt::black);
-    setPalette(palet);
+    setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
 }
 
@@ -95,12 +88,11 @@ void Roostervlak::paintEvent(QPaintEvent* gebeurtenis)
         const int laatste = std::clamp(regelBij(deel.bottom()), 1, regels);
         TekenRasters(schilder, eerste, laatste);
         schilder.setFont(font());
-        schilder.setPen(palette().color(QPalette::WindowText));
         for (int regel = eerste; regel <= laatste; ++regel)
             TekenTeksten(schilder, regel, deel.left(), deel.right());
     }
     if (hasFocus()) {
-        schilder.setPen(keuzekleur);
+        schilder.setPen(palette().color(QPalette::Highlight));
         schilder.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
@@ -135,6 +127,8 @@ void Roostervlak::TekenTeksten(QPainter& schilder, int regel, double links, doub
         if (X(eind) < links || X(begin) > rechts)
             continue;
         const Tekstblik cel = inhoud_.Cel(rij, i);
+        // The band is light in dark themes too.
+        schilder.setPen(i < KolommenInBand ? Qt::black : palette().color(QPalette::Text));
         if (!cel.empty())
             schilder.drawText(QPointF(X(begin + rooster::Celmarge), qRound(basislijn)),
                               NaarQString(PasTekst(cel, eind - begin, inhoud_.meter)));

@@ -16,8 +16,9 @@ QColor Inkt(Kleur kleur)
 } // namespace
 
 Schildervlak::Schildervlak(QPainter& schilder, const Letterkast& kast, double eenhedenPerMm,
-                           Doel doel, QPointF oorsprong)
-    : schilder_(schilder), kast_(kast), perMm_(eenhedenPerMm), doel_(doel), oorsprong_(oorsprong)
+                           Doel doel, QPointF oorsprong, const QColor& inkt)
+    : schilder_(schilder), kast_(kast), perMm_(eenhedenPerMm), doel_(doel), oorsprong_(oorsprong),
+      inkt_(inkt)
 {}
 
 QPointF Schildervlak::Punt(double x, double y) const
@@ -52,7 +53,7 @@ void Schildervlak::Schrijf(double x, double y, const Letter& letter, Tekstblik t
         basislijn = naarPunten.inverted().map(QPointF(punten.x(), std::round(punten.y())));
     }
     schilder_.save();
-    schilder_.setPen(Qt::black);
+    schilder_.setPen(inkt_);
     schilder_.translate(basislijn);
     schilder_.scale(schaal * perMm_, schaal * perMm_);
     schilder_.drawGlyphRun(QPointF(), rij);

@@ -15,9 +15,9 @@ class Schildervlak : public Tekenvlak {
     };
 
     /// Draws with `schilder`, whose own scale counts, with the top left corner at `oorsprong` in
-    /// its units. Both it and the case are borrowed.
+    /// its units and texts in `inkt`. Both it and the case are borrowed.
     Schildervlak(QPainter& schilder, const Letterkast& kast, double eenhedenPerMm, Doel doel,
-                 QPointF oorsprong = {});
+                 QPointF oorsprong = {}, const QColor& inkt = Qt::black);
 
     [[nodiscard]] const Lettermeter& Meter() const override { return kast_; }
     void Schrijf(double x, double y, const Letter& letter, Tekstblik tekst) override;
@@ -34,6 +34,7 @@ class Schildervlak : public Tekenvlak {
     double perMm_;
     Doel doel_;
     QPointF oorsprong_;
+    QColor inkt_;
 };
 
 } // namespace plexoran

@@ -1,0 +1,188 @@
+// Every text can be read in light themes and in dark ones: its ink stands out from its ground at
+// least 4.5 to 1.
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+
+#include <cmath>
+
+#include "vensters/rondgang.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr double Leesbaar = 4.5;
+
+double Lichtheid(const QColor& kleur)
+{
+    const auto deel = [](double waarde) {
+        return waarde <= 0.04045 ? waarde / 12.92 : std::pow((waarde + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * deel(kleur.redF()) + 0.7152 * deel(kleur.greenF()) +
+           0.0722 * deel(kleur.blueF());
+}
+
+double Contrast(const QColor& een, const QColor& ander)
+{
+    const auto [minste, meeste] = std::minmax(Lichtheid(een), Lichtheid(ander));
+    return (meeste + 0.05) / (minste + 0.05);
+}
+
+QPalette Donker()
+{
+    const QColor venster(49, 54, 59);
+    const QColor papier(27, 30, 32);
+    const QColor inkt(239, 240, 241);
+    QPalette palet(venster, venster);
+    for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palet.setColor(rol, inkt);
+    palet.setColor(QPalette::Base, papier);
+    palet.setColor(QPalette::AlternateBase, venster);
+    palet.setColor(QPalette::Highlight, QColor(20, 80, 150));
+    palet.setColor(QPalette::HighlightedText, Qt::white);
+    return palet;
+}
+
+/// What a text without a ground of its own stands on.
+QColor Ondergrond(const QWidget* deel)
+{
+    while (!deel->isWindow() && !deel->autoFillBackground())
+        deel = deel->parentWidget();
+    return deel->palette().color(deel->backgroundRole());
+}
+
+/// Ink and ground as the style takes them from the palette.
+std::optional<std::pair<QColor, QColor>> Kleuren(const QWidget* deel)
+{
+    const QPalette& palet = deel->palette();
+    if (qobject_cast<const QLabel*>(deel) != nullptr ||
+        qobject_cast<const QGroupBox*>(deel) != nullptr)
+        return std::pair{palet.color(QPalette::WindowText), Ondergrond(deel)};
+    if (qobject_cast<const QPushButton*>(deel) != nullptr ||
+        qobject_cast<const QComboBox*>(deel) != nullptr)
+        return std::pair{palet.color(QPalette::ButtonText), palet.color(QPalette::Button)};
+    if (qobject_cast<const QAbstractButton*>(deel) != nullptr)
+        return std::pair{palet.color(QPalette::WindowText), Ondergrond(deel)};
+    if (qobject_cast<const QLineEdit*>(deel) != nullptr ||
+        qobject_cast<const QAbstractItemView*>(deel) != nullptr ||
+        qobject_cast<const QPlainTextEdit*>(deel) != nullptr) {
+        const QColor papier = palet.color(QPalette::Base);
+        return std::pair{palet.color(QPalette::Text),
+                         papier.alpha() == 0 ? Ondergrond(deel) : papier};
+    }
+    return {};
+}
+
+/// The colour that most dots of a part of a picture have, and that which stands out from it most.
+std::pair<QColor, QColor> InktOpPapier(const QImage& beeld, const QRect& deel)
+{
+    std::map<QRgb, int> punten;
+    for (int y = deel.top(); y <= deel.bottom(); ++y) {
+        for (int x = deel.left(); x <= deel.right(); ++x)
+            ++punten[beeld.pixel(x, y)];
+    }
+    const auto minder = [](const auto& een, const auto& ander) {
+        return een.second < ander.second;
+    };
+    const QColor papier(std::max_element(punten.begin(), punten.end(), minder)->first);
+    QColor inkt = papier;
+    for (const auto& [kleur, aantal] : punten) {
+        if (Contrast(kleur, papier) > Contrast(inkt, papier))
+            inkt = kleur;
+    }
+    return {inkt, papier};
+}
+
+class ContrastTest : public Rondgangproef, public testing::WithParamInterface<bool> {
+  protected:
+    ContrastTest()
+    {
+        if (GetParam())
+            QApplication::setPalette(Donker());
+    }
+    ~ContrastTest() override { QApplication::setPalette(QPalette()); }
+};
+
+/// In a dark theme the black ground is ours; in a light one both red texts stand as they are
+/// stated.
+bool IsGesteld(const QWidget* deel, bool donker)
+{
+    const QString naam = deel->objectName();
+    return deel->window()->objectName() == QLatin1String("diaIngave") &&
+           (naam == QLatin1String("txt1_3") || (!donker && naam == QLatin1String("lbl1_6")));
+}
+
+void VerwachtLeesbaar(const QWidget& venster, bool donker)
+{
+    for (const QWidget* deel : venster.findChildren<QWidget*>()) {
+        const auto kleuren = Kleuren(deel);
+        if (!kleuren || !deel->isVisible() || IsGesteld(deel, donker))
+            continue;
+        // What cannot be used is grey; the fields that are never typed hold texts to be read.
+        const bool leesveld = deel->objectName().startsWith(QLatin1String("txt1_"));
+        if (deel->isEnabled() || leesveld) {
+            EXPECT_GE(Contrast(kleuren->first, kleuren->second), Leesbaar)
+                << deel->objectName().toStdString() << ' ' << kleuren->first.name().toStdString()
+                << " op " << kleuren->second.name().toStdString();
+        }
+    }
+}
+
+} // namespace
+
+TEST_P(ContrastTest, ElkeTekstIsLeesbaar)
+{
+    Rondgang(QGuiApplication::screens().constLast(),
+             [](const QWidget& venster) { VerwachtLeesbaar(venster, GetParam()); });
+}
+
+TEST_P(ContrastTest, HetRoosterEnDeLijstenVolgenHetBureaublad)
+{
+    const QColor papier = QApplication::palette().color(QPalette::Base);
+    QStringList gezien;
+    Rondgang(QGuiApplication::screens().constLast(), [&](QWidget& venster) {
+        auto* vlak = venster.findChild<QWidget*>(QStringLiteral("P1"));
+        if (vlak == nullptr || venster.objectName() == QLatin1String("diaGrNamen"))
+            return;
+        gezien << venster.objectName();
+        const QImage beeld = vlak->grab().toImage();
+        // Texts without lines among them: the first name on the first line, or the top of a list.
+        QRect teksten(0, 0, beeld.width(), vlak->fontMetrics().height());
+        if (venster.objectName() == QLatin1String("frmLedenAdmin")) {
+            const QRect kop = venster.findChild<QWidget*>(QStringLiteral("cmd_4"))->geometry();
+            teksten = QRect(kop.left() + 2, kop.height() + 3, kop.width() - 4, 11);
+            const auto [zwart, band] =
+                InktOpPapier(beeld, QRect(2, teksten.top(), 20, teksten.height()));
+            EXPECT_EQ("#ebebeb", band.name().toStdString());
+            EXPECT_GE(Contrast(zwart, band), Leesbaar);
+        }
+        const auto [inkt, ondergrond] = InktOpPapier(beeld, teksten);
+        EXPECT_EQ(papier.name().toStdString(), ondergrond.name().toStdString());
+        EXPECT_GE(Contrast(inkt, ondergrond), Leesbaar);
+    });
+    EXPECT_EQ(3, gezien.size()) << gezien.join(QLatin1Char(' ')).toStdString();
+}
+
+/// These are stated; the one that a dark theme would make hard to read gets a ground.
+TEST_P(ContrastTest, HetRodeOpschriftEnDeGeleGroepHoudenHunKleur)
+{
+    Rondgang(QGuiApplication::screens().constLast(), [](const QWidget& venster) {
+        if (venster.objectName() != QLatin1String("diaIngave"))
+            return;
+        const auto* naam = venster.findChild<QLabel*>(QStringLiteral("lbl1_6"));
+        EXPECT_EQ(QColor(255, 0, 0), naam->palette().color(QPalette::WindowText));
+        EXPECT_EQ(GetParam(), naam->autoFillBackground());
+        const auto* groep = venster.findChild<QLineEdit*>(QStringLiteral("txt1_3"));
+        EXPECT_EQ(QColor(255, 0, 0), groep->palette().color(QPalette::Text));
+        EXPECT_EQ(QColor(255, 255, 0), groep->palette().color(QPalette::Base));
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Paletten, ContrastTest, testing::Bool(),
+                         [](const auto& soort) { return soort.param ? "Donker" : "Licht"; });
