@@ -41,6 +41,7 @@ bool Bewaar(QWidget& venster, const QDir& map)
         venster.resize(maat);
     venster.show();
     QApplication::processEvents();
+    QApplication::processEvents(); // a layout that changed tells the one around it
     const QString bestand = map.filePath(venster.objectName() + QStringLiteral(".png"));
     const bool gelukt = venster.grab().save(bestand);
     if (!gelukt)
