@@ -5,6 +5,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <utility>
+
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
@@ -126,6 +128,7 @@ void diaToevoegen::VulZittingen()
         MeldFout(QStringLiteral("Fout bij het lezen van de map met zittingen."), gevonden.error());
         return;
     }
+    MeldOvergeslagen(this, administratie_.schijf, Zittingenmap(administratie_.mappen));
     zittingen_ = std::move(*gevonden);
     VulKeus(*Combo1, zittingen_);
     if (!zittingen_.empty())
@@ -140,7 +143,10 @@ Tekst diaToevoegen::Zitting() const
 void diaToevoegen::KiesZitting()
 {
     const auto gehaald = HaalSpelerslijst(administratie_.schijf, administratie_.mappen, Zitting());
-    if (!gehaald)
+    // The name of the club is to blame for every session; it is told once.
+    const bool opnieuw = !gehaald && gehaald.error().soort == Foutsoort::Beschadigd &&
+                         std::exchange(gemeld_, gehaald.error().bestand) == gehaald.error().bestand;
+    if (!gehaald && !opnieuw)
         MeldFout(QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
                                 "spelerslijst van deze zitting is gebleven zoals hij was."),
                  gehaald.error());

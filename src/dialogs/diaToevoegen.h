@@ -58,6 +58,7 @@ class diaToevoegen : public QDialog {
     std::vector<Tekst> zittingen_;
     std::vector<Sessiespeler> namen_;
     std::optional<Vorige> vorige_;
+    std::string gemeld_; ///< the file of the last message about fetching a player list
     bool geladen_ = false;
     bool bewaard_ = false;
 

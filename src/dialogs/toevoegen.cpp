@@ -18,11 +18,6 @@ constexpr Tekstblik Achtervoegsel = "_Rev";
 constexpr Tekstblik Spelersnaam = "Spelers.txt";
 constexpr Tekstblik Verslagnaam = "Koppelverslag.txt";
 
-Pad Zittingenmap(const Mappen& mappen)
-{
-    return Samen(mappen.RVDMAP, "Zittingen");
-}
-
 Pad Zittingmap(const Mappen& mappen, Tekstblik zitting)
 {
     return Samen(Zittingenmap(mappen), zitting);
@@ -31,6 +26,11 @@ Pad Zittingmap(const Mappen& mappen, Tekstblik zitting)
 Pad Puntenboek(const Mappen& mappen)
 {
     return Samen(mappen.RVDMAP, "Puntenboek");
+}
+
+Pad Clubnaampad(const Mappen& mappen)
+{
+    return Samen(Puntenboek(mappen), "Rev_Clubnaam.txt");
 }
 
 bool IsRev(Tekstblik naam)
@@ -130,6 +130,11 @@ bool IsAfwezig(Tekstblik naam)
 
 } // namespace
 
+Pad Zittingenmap(const Mappen& mappen)
+{
+    return Samen(mappen.RVDMAP, "Zittingen");
+}
+
 Uitkomst<std::vector<Tekst>> RevZittingen(Schijf& schijf, const Mappen& mappen)
 {
     if (mappen.RVDMAP.empty())
@@ -146,7 +151,7 @@ Uitkomst<std::vector<Tekst>> RevZittingen(Schijf& schijf, const Mappen& mappen)
 
 Uitkomst<Tekst> LeesClubnaam(Schijf& schijf, const Mappen& mappen)
 {
-    const auto inhoud = LeesAlsErIs(schijf, Samen(Puntenboek(mappen), "Rev_Clubnaam.txt"));
+    const auto inhoud = LeesAlsErIs(schijf, Clubnaampad(mappen));
     if (!inhoud)
         return tl::unexpected(inhoud.error());
     if (!*inhoud)
@@ -163,6 +168,8 @@ Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik 
         return tl::unexpected(club.error());
     if (club->empty())
         return {};
+    if (!IsKaleNaam(*club))
+        return tl::unexpected(GeenNaam(*club, schijf.Toonpad(Clubnaampad(mappen))));
     // The name of the session is that of its folder without "_Rev", which comes behind it again.
     const Tekstblik kaal = zitting.substr(0, zitting.size() - Achtervoegsel.size());
     Tekst map = *club;
@@ -173,8 +180,8 @@ Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik 
     if (!*bron)
         return {};
     const Pad doel = Samen(Zittingmap(mappen, zitting), Spelersnaam);
-    const auto oud = schijf.LeesBestand(doel);
-    if (oud && *oud == **bron)
+    const auto oud = LeesAlsErIs(schijf, doel);
+    if (oud && *oud == *bron)
         return {};
     return SchrijfHeel(schijf, doel, **bron);
 }
@@ -194,11 +201,12 @@ Sessiespelers SessiespelersUit(Tekstblik inhoud)
     Sessiespelers uit;
     bool eerste = true;
     for (const Tekstblik regel : Regels(inhoud)) {
-        for (const Item& item : ItemsVan(regel)) {
-            const auto paar = PaarUit(item.tekst);
+        Itemlezer items(regel);
+        for (auto item = items.Volgend(); item && !uit.IsTeVeel(); item = items.Volgend()) {
+            const auto paar = PaarUit(item->tekst);
             if (!paar)
                 continue;
-            const Helften namen = NamenVan(*paar, item.tekst);
+            const Helften namen = NamenVan(*paar, item->tekst);
             for (const Tekstblik naam : {namen.eerste, namen.tweede}) {
                 const Tekstblik kaal = ZonderKeys(naam);
                 uit.metKeys = uit.metKeys || (eerste && kaal.size() != naam.size());
@@ -212,10 +220,17 @@ Sessiespelers SessiespelersUit(Tekstblik inhoud)
 
 Uitkomst<Sessiespelers> LeesSessieSpelers(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
 {
-    const auto inhoud = LeesAlsErIs(schijf, Samen(Zittingmap(mappen, zitting), Spelersnaam));
+    const Pad pad = Samen(Zittingmap(mappen, zitting), Spelersnaam);
+    const auto inhoud = LeesAlsErIs(schijf, pad);
     if (!inhoud)
         return tl::unexpected(inhoud.error());
-    return *inhoud ? SessiespelersUit(**inhoud) : Sessiespelers();
+    Sessiespelers uit = SessiespelersUit(inhoud->value_or(Tekst()));
+    if (uit.IsTeVeel())
+        return tl::unexpected(Fout{.soort = Foutsoort::Beschadigd,
+                                   .bestand = schijf.Toonpad(pad),
+                                   .regel = 0,
+                                   .systeem = TeVeelNamen});
+    return uit;
 }
 
 bool IsNiemand(const Sessiespeler& speler)

@@ -10,11 +10,15 @@
 #include <vector>
 
 #include "register/spelerbestand.h"
+#include "sessions/zittinglijsten.h"
 
 namespace plexoran {
 
 /// The group that gets all added players.
 inline constexpr Tekstblik Toevoeggroep = "Gr08-";
+
+/// The folder of the sessions.
+[[nodiscard]] Pad Zittingenmap(const Mappen& mappen);
 
 /// The folders "*_Rev", capitals or not, in text order. None where the folder of the sessions is
 /// missing.
@@ -24,7 +28,8 @@ inline constexpr Tekstblik Toevoeggroep = "Gr08-";
 [[nodiscard]] Uitkomst<Tekst> LeesClubnaam(Schijf& schijf, const Mappen& mappen);
 
 /// Puts the sibling program's player list of the session in the place of the session's own.
-/// Nothing happens without a club name or where the sibling has no such list.
+/// Nothing happens without a club name or where the sibling has no such list. A club name that is
+/// no plain name is `Beschadigd`.
 [[nodiscard]] Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen,
                                               Tekstblik zitting);
 
@@ -43,6 +48,9 @@ struct Sessiespeler {
 struct Sessiespelers {
     std::vector<Sessiespeler> spelers;
     bool metKeys = false; ///< the first pair carries register keys, which may be old
+
+    /// The reading ended there: it is no list.
+    [[nodiscard]] bool IsTeVeel() const { return spelers.size() > MeesteNamen; }
 };
 
 /// The names in the text of a player list, without the register keys before or behind them.

@@ -181,10 +181,15 @@ void frmImportNBB::KiesDatabase()
                                                                  "opgehaald ...")),
                                     grenzen_);
     ZetBezig(false);
-    if (namen)
-        VulLijst(std::move(*namen));
-    else
+    if (!namen)
         MeldFout(this, QMessageBox::Warning, Lijstfouttekst(namen.error()), namen.error());
+    else if (namen->empty())
+        Meld(this, QMessageBox::Information,
+             QStringLiteral("In de database van het rekenprogramma staat geen enkel ledenbestand. "
+                            "Er is niets gewijzigd. Maak in het rekenprogramma een ledenbestand, "
+                            "of kies een geëxporteerd ledenbestand."));
+    else
+        VulLijst(std::move(*namen));
 }
 
 /// One file is pointed at; the folder it stands in is the chosen one.
@@ -200,7 +205,17 @@ void frmImportNBB::KiesExportMap()
         CommonDialog1.setDirectory(QString::fromStdString(administratie_.schijf.Toonpad(map_)));
     if (CommonDialog1.exec() != QDialog::Accepted || CommonDialog1.selectedFiles().isEmpty())
         return;
-    const Pad bestand = VolledigPad(CommonDialog1.selectedFiles().first().toStdString());
+    const QString aangewezen = CommonDialog1.selectedFiles().first();
+    if (aangewezen.contains(u'\\')) { // Qt writes "/" between folders, on Windows too
+        Meld(this, QMessageBox::Warning,
+             QStringLiteral(
+                 "Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map "
+                 "mag geen '\\' staan. Er is niets gewijzigd. Geef het een andere naam.\n\n"
+                 "Bestand: ") +
+                 aangewezen);
+        return;
+    }
+    const Pad bestand = VolledigPad(aangewezen.toStdString());
     const auto naam = bestand.find_last_of("\\/");
     if (naam == Pad::npos)
         return;
@@ -246,6 +261,7 @@ bool frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
     const QString pad = QString::fromStdString(administratie_.schijf.Toonpad(map));
     lblExportMap->setText(QStringLiteral("Ledenbestanden in de gekozen map: ") + Breekbaar(pad));
     ZetWenk(lblExportMap, pad);
+    MeldOvergeslagen(this, administratie_.schijf, map);
     const bool volledig = ZoekBestanden(*bestanden);
     if (volledig) // or another file could stand chosen for the one that was pointed at
         KiesInLijst(gekozen);

@@ -6,7 +6,6 @@
 
 #include "federation/ledencsv.h"
 #include "federation/ledendatabase.h"
-#include "federation/ledentekst.h"
 #include "federation/ledenxml.h"
 #include "federation/tussenbestand.h"
 #include "platform/getal.h"
@@ -69,7 +68,7 @@ Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Teks
 Uitkomst<Ledenlezing> LeesBestand(Schijf& schijf, const Pad& bestand, const Ledenopdracht& opdracht,
                                   const Voortgang& voortgang)
 {
-    auto inhoud = LeesLedentekst(schijf, bestand);
+    auto inhoud = LeesBegrensd(schijf, bestand);
     if (!inhoud)
         return tl::unexpected(std::move(inhoud.error()));
     auto lezing = LeesLedencsv(*inhoud, opdracht.keuzes, voortgang);
@@ -100,7 +99,11 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
 {
     if (opdracht.bron == Ledenbron::Csv)
         return LeesBestand(schijf, Samen(opdracht.map, naam), opdracht, voortgang);
-    const Pad tussenbestand = Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam));
+    // The name of a member file of the database is no name of a file until here.
+    const Tekst subgroep = SubgroepUitNaam(naam);
+    if (!IsKaleNaam(subgroep))
+        return tl::unexpected(GeenNaam(subgroep));
+    const Pad tussenbestand = Tussenbestand(opdracht.programmamap, subgroep);
     auto omgezet = ZetOm(schijf, opdracht, naam, tussenbestand, EersteHelft(voortgang));
     if (!omgezet)
         return tl::unexpected(std::move(omgezet.error()));

@@ -44,15 +44,16 @@ struct Ledenlezing {
 /// three characters are the number of the file that is read. All sources but the CSV go by way of
 /// the intermediate file, which is left on the disk. On an error nothing is imported: for XML and
 /// CSV it is `Beschadigd` when the file was read but is not what it should be, with the line and
-/// what the parser said. The answer of `voortgang` is not looked at.
+/// what the parser said, and without a file when the name cannot be that of the intermediate file.
+/// The answer of `voortgang` is not looked at.
 [[nodiscard]] Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdracht,
                                                      Tekstblik naam,
                                                      const Voortgang& voortgang = {});
 
 /// The names of those files of `namen` in `map` that are of the source's XML kind, in their order.
 /// Member files hold "<ReportableMember>", those of NBBR-4 also "<LeagueId>"; a file that cannot be
-/// read is of no kind. `voortgang` hears of every file, and may stop it: then the files that were
-/// looked at count.
+/// read is of no kind, one that is too large of both. `voortgang` hears of every file, and may stop
+/// it: then the files that were looked at count.
 [[nodiscard]] std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map,
                                                 const std::vector<Tekst>& namen, Ledenbron bron,
                                                 const Voortgang& voortgang = {});

@@ -3,7 +3,6 @@
 #include <array>
 #include <utility>
 
-#include "federation/ledentekst.h"
 #include "federation/tussenbestand.h"
 #include "platform/xml.h"
 
@@ -168,7 +167,7 @@ template <class Werk> void VoorElkLid(const Xmldocument& document, const Werk& w
 
 Uitkomst<Xmldocument> Laad(Schijf& schijf, const Pad& bestand)
 {
-    return LeesLedentekst(schijf, bestand).and_then([&](const Tekst& bytes) {
+    return LeesBegrensd(schijf, bestand).and_then([&](const Tekst& bytes) {
         return Xmldocument::Ontleed(bytes, schijf.Toonpad(bestand));
     });
 }

@@ -28,7 +28,9 @@ QString Oorzaak(const Fout& fout)
     case Foutsoort::Ontbreekt:
         return QStringLiteral("Het bestand is er niet (meer)");
     case Foutsoort::Beschadigd:
-        return QStringLiteral("De inhoud is niet die van een ledenbestand");
+        return fout.bestand.empty() // its name is to blame
+                   ? QStringLiteral("Het ledenbestand kan niet worden gelezen")
+                   : QStringLiteral("De inhoud is niet die van een ledenbestand");
     default:
         return QStringLiteral("Het bestand hieronder kan niet worden gelezen of geschreven");
     }

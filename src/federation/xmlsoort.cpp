@@ -1,23 +1,21 @@
 #include <string>
 
 #include "federation/ledenbestand.h"
-#include "federation/ledentekst.h"
-#include "platform/xmlcodering.h"
 
 namespace plexoran {
 namespace {
 
-/// The source that a file is for; `Csv` for a file that is no member file.
-Ledenbron SoortVan(Schijf& schijf, const Pad& bestand)
+/// Whether a file is for this source. One that is too large is for both, so that reading it says
+/// so.
+bool IsVoor(Schijf& schijf, const Pad& bestand, Ledenbron bron)
 {
-    const auto inhoud = LeesLedentekst(schijf, bestand);
+    auto inhoud = LeesBegrensd(schijf, bestand);
     if (!inhoud)
-        return Ledenbron::Csv;
-    std::string ruimte;
-    const Tekstblik tekst = XmlDoorzoekbaar(*inhoud, ruimte);
-    if (tekst.find("<ReportableMember>") == Tekstblik::npos)
-        return Ledenbron::Csv;
-    return tekst.find("<LeagueId>") == Tekstblik::npos ? Ledenbron::XmlNbb3 : Ledenbron::XmlNbb4;
+        return inhoud.error().soort == Foutsoort::Beschadigd;
+    std::erase(*inhoud, '\0'); // of UTF-16 this leaves what is written in ASCII
+    const bool nbb4 = inhoud->find("<LeagueId>") != Tekst::npos;
+    return inhoud->find("<ReportableMember>") != Tekst::npos &&
+           nbb4 == (bron == Ledenbron::XmlNbb4);
 }
 
 } // namespace
@@ -31,7 +29,7 @@ std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map, const std::vec
     for (std::size_t i = 0; i < namen.size(); ++i) {
         if (voortgang && !voortgang(i, namen.size()))
             break;
-        if (SoortVan(schijf, Samen(map, namen[i])) == bron)
+        if (IsVoor(schijf, Samen(map, namen[i]), bron))
             uit.push_back(namen[i]);
     }
     return uit;

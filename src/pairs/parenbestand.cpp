@@ -28,17 +28,6 @@ template <class Stuk> void LoopDoorStukken(Tekstblik inhoud, const Stuk& stuk)
     }
 }
 
-/// The text of a file; nothing when there is no such file.
-Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad)
-{
-    auto inhoud = schijf.LeesBestand(pad);
-    if (inhoud)
-        return std::optional(std::move(*inhoud));
-    if (inhoud.error().soort == Foutsoort::Ontbreekt)
-        return std::optional<Tekst>();
-    return tl::unexpected(inhoud.error());
-}
-
 Tekst Paarteken(Tekstblik key1, Tekstblik key2)
 {
     Tekst paar(key1);

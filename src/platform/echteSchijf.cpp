@@ -36,8 +36,9 @@ Uitkomst<void> Uitslag(const fs::path& waar, const std::error_code& code)
     return {};
 }
 
-/// The names in a folder of what `hoort`.
-template <class Hoort> Uitkomst<std::vector<Tekst>> Namen(const Pad& map, Hoort hoort)
+/// The names in a folder of what `hoort`; what no path of the suite can say is put with the others.
+template <class Hoort>
+Uitkomst<std::vector<Tekst>> Namen(const Pad& map, std::set<fs::path>& overgeslagen, Hoort hoort)
 {
     const fs::path waar = Systeempad(map);
     std::vector<Tekst> namen;
@@ -47,8 +48,11 @@ template <class Hoort> Uitkomst<std::vector<Tekst>> Namen(const Pad& map, Hoort 
         std::error_code nietTeZien; // as a link that leads nowhere
         if (!hoort(*plaats, nietTeZien))
             continue;
-        if (auto naam = NaamVan(plaats->path().filename()))
+        auto naam = NaamVan(plaats->path().filename());
+        if (naam && IsKaleNaam(*naam))
             namen.push_back(std::move(*naam));
+        else
+            overgeslagen.insert(plaats->path());
     }
     if (fout)
         return Mislukt(waar, fout);
@@ -110,16 +114,27 @@ Uitkomst<Stempel> EchteSchijf::NeemStempel(const Pad& pad)
 
 Uitkomst<std::vector<Tekst>> EchteSchijf::Bestanden(const Pad& map)
 {
-    return Namen(map, [](const fs::directory_entry& deel, std::error_code& fout) {
+    return Namen(map, overgeslagen_, [](const fs::directory_entry& deel, std::error_code& fout) {
         return deel.is_regular_file(fout);
     });
 }
 
 Uitkomst<std::vector<Tekst>> EchteSchijf::Mappen(const Pad& map)
 {
-    return Namen(map, [](const fs::directory_entry& deel, std::error_code& fout) {
+    return Namen(map, overgeslagen_, [](const fs::directory_entry& deel, std::error_code& fout) {
         return deel.is_directory(fout);
     });
+}
+
+std::vector<std::string> EchteSchijf::NeemOvergeslagen(const Pad& map)
+{
+    const fs::path waar = Systeempad(map);
+    std::vector<std::string> namen;
+    for (const fs::path& pad : overgeslagen_) {
+        if (pad.parent_path() == waar && gemeld_.insert(pad).second)
+            namen.push_back(Leesbaar(pad.filename()));
+    }
+    return namen;
 }
 
 Uitkomst<void> EchteSchijf::MaakMap(const Pad& map)

@@ -1,6 +1,9 @@
 // The disk of this computer. Names are looked up as platform/systeempad.h tells.
 #pragma once
 
+#include <filesystem>
+#include <set>
+
 #include "platform/schijf.h"
 
 namespace plexoran {
@@ -16,6 +19,8 @@ class EchteSchijf : public Schijf {
     /// Folders and links to them.
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) override;
 
+    [[nodiscard]] std::vector<std::string> NeemOvergeslagen(const Pad& map) override;
+
     [[nodiscard]] Uitkomst<void> MaakMap(const Pad& map) override;
     [[nodiscard]] Uitkomst<Pad> Doel(const Pad& pad) override;
     [[nodiscard]] Uitkomst<std::unique_ptr<Schrijver>> MaakNieuw(const Pad& pad) override;
@@ -25,6 +30,10 @@ class EchteSchijf : public Schijf {
     [[nodiscard]] Uitkomst<void> SyncMapVan(const Pad& pad) override;
 
     [[nodiscard]] std::string Toonpad(const Pad& pad) const override;
+
+  private:
+    std::set<std::filesystem::path> overgeslagen_; ///< all so far
+    std::set<std::filesystem::path> gemeld_;       ///< those of them that were handed out
 };
 
 } // namespace plexoran

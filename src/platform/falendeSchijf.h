@@ -36,6 +36,10 @@ class FalendeSchijf : public Schijf {
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) override;
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) override;
 
+    [[nodiscard]] std::vector<std::string> NeemOvergeslagen(const Pad& map) override
+    {
+        return binnen_.NeemOvergeslagen(map);
+    }
     [[nodiscard]] Uitkomst<void> MaakMap(const Pad& map) override;
     [[nodiscard]] Uitkomst<Pad> Doel(const Pad& pad) override;
     [[nodiscard]] Uitkomst<std::unique_ptr<Schrijver>> MaakNieuw(const Pad& pad) override;

@@ -5,6 +5,7 @@
 // is never closed is a character like any other and reaches no further than its own item.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "platform/tekst.h"
@@ -19,8 +20,23 @@ struct Item {
     [[nodiscard]] bool IsAangehaald() const { return tekst.size() != rauw.size(); }
 };
 
-/// At least one item; an empty line holds one empty item.
-[[nodiscard]] std::vector<Item> ItemsVan(Tekstblik regel);
+/// Takes the items off a line one by one. There is at least one; an empty line holds an empty one.
+class Itemlezer {
+  public:
+    explicit Itemlezer(Tekstblik regel) : regel_(regel) {}
+    [[nodiscard]] std::optional<Item> Volgend();
+
+  private:
+    struct Slot; ///< where an item that began with a quote ends
+    [[nodiscard]] Slot Sluiter(std::size_t vanaf);
+
+    Tekstblik regel_;
+    std::size_t begin_ = 0;
+    bool geenQuoteMeer_ = false;
+};
+
+/// All items; of a line that has more than `hoogstens`, so many of them.
+[[nodiscard]] std::vector<Item> ItemsVan(Tekstblik regel, std::size_t hoogstens = Tekstblik::npos);
 
 /// The item as it stands with another text between its quotes, if it has any.
 [[nodiscard]] Tekst MetTekst(const Item& item, Tekstblik tekst);

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/fout.h"
@@ -24,6 +25,12 @@ using Pad = Tekst;
     pad += naam;
     return pad;
 }
+
+/// Whether a name that was read from a file or a folder stays in the folder that it is put behind:
+/// no separator and no drive in it, and neither "." nor "..".
+[[nodiscard]] bool IsKaleNaam(Tekstblik naam);
+/// What is wrong with a name that is not so, as `Beschadigd`; `bestand` is where it was read.
+[[nodiscard]] Fout GeenNaam(Tekstblik naam, std::string bestand = {});
 
 enum class Padsoort { Niets, Bestand, Map };
 
@@ -54,10 +61,16 @@ class Schijf {
     [[nodiscard]] virtual Uitkomst<Padsoort> Soort(const Pad& pad) = 0;
     [[nodiscard]] virtual Uitkomst<Tekst> LeesBestand(const Pad& pad) = 0;
     [[nodiscard]] virtual Uitkomst<Stempel> NeemStempel(const Pad& pad) = 0;
-    /// The names of the files in a folder, without their path, in no order.
+    /// The names of the files in a folder, without their path, in no order. Only names that can
+    /// stand in a path of the suite.
     [[nodiscard]] virtual Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) = 0;
     /// The names of the folders in a folder, without their path, in no order; never "." or "..".
     [[nodiscard]] virtual Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) = 0;
+    /// What was left out of these lists because of its name, UTF-8; each is handed out once.
+    [[nodiscard]] virtual std::vector<std::string> NeemOvergeslagen(const Pad& /*map*/)
+    {
+        return {};
+    }
 
     /// Makes the folder inside one that exists; a folder that is there already is fine. Folders
     /// above it are not made: a drive that is away must not turn into an empty register.
@@ -77,5 +90,12 @@ class Schijf {
     /// The path as the system writes it, UTF-8, for messages only.
     [[nodiscard]] virtual std::string Toonpad(const Pad& pad) const = 0;
 };
+
+/// Reads a file of at most 64 MB. A larger one is none of the suite's and is refused as
+/// `Beschadigd`, before it fills the memory.
+[[nodiscard]] Uitkomst<Tekst> LeesBegrensd(Schijf& schijf, const Pad& pad);
+
+/// The same, or nothing where there is no file of that name.
+[[nodiscard]] Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad);
 
 } // namespace plexoran

@@ -124,6 +124,8 @@ void frmKoppelNBBnr::VulSessies()
                           Qt::ToolTipRole);
     cmbC->setToolTip(cmbC->currentData(Qt::ToolTipRole).toString());
     VergeetGevonden();
+    MeldOvergeslagen(this, schijf,
+                     InCompetities() ? administratie_.mappen.COMMAP : administratie_.mappen.ZITMAP);
     if (!gelezen)
         MeldLeesfout(InCompetities()
                          ? QStringLiteral("Fout bij het lezen van de map met competities.")

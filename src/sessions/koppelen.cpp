@@ -22,6 +22,13 @@ void LeesBestandUit(Schijf& schijf, const Zittingplaats& plaats, Lijstsoort soor
     if (!*inhoud)
         return;
     Lijstlezing lezing = LeesLijst(**inhoud, soort);
+    if (lezing.IsTeVeel()) {
+        uit.fouten.push_back({.soort = Foutsoort::Beschadigd,
+                              .bestand = schijf.Toonpad(plaats.Bestand(soort)),
+                              .regel = 0,
+                              .systeem = TeVeelNamen});
+        return;
+    }
     uit.overgeslagen += lezing.overgeslagen;
     for (Vindplaats& vindplaats : lezing.zwevend)
         uit.zwevenden.push_back({plaats, soort, std::move(vindplaats)});

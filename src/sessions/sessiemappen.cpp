@@ -127,16 +127,4 @@ Uitkomst<std::vector<Zittingplaats>> ZittingenVan(Schijf& schijf, const Mappen& 
     return uit;
 }
 
-Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad)
-{
-    auto inhoud = schijf.LeesBestand(pad);
-    if (inhoud)
-        return std::optional(std::move(*inhoud));
-    const auto soort = schijf.Soort(pad);
-    const bool geenBestand = soort && *soort != Padsoort::Bestand;
-    if (inhoud.error().soort == Foutsoort::Ontbreekt || geenBestand)
-        return std::nullopt;
-    return tl::unexpected(inhoud.error());
-}
-
 } // namespace plexoran

@@ -46,7 +46,4 @@ struct Zittingplaats {
 [[nodiscard]] Uitkomst<std::vector<Zittingplaats>>
 ZittingenVan(Schijf& schijf, const Mappen& mappen, Tekstblik competitie);
 
-/// The file, or nothing where there is none of that name.
-[[nodiscard]] Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad);
-
 } // namespace plexoran

@@ -1,7 +1,9 @@
 #include "sessions/zittinglijsten.h"
 
 #include <algorithm>
+#include <optional>
 #include <unordered_map>
+#include <utility>
 
 #include "platform/items.h"
 #include "platform/regels.h"
@@ -14,9 +16,11 @@ constexpr std::size_t AantalVelden = 7;
 constexpr std::size_t Codeveld = 2;
 constexpr std::size_t Paarveld = 3;
 
-bool IsRecord(const std::vector<Item>& velden)
+/// The fields of a record; nothing for a line that is none.
+std::optional<std::vector<Item>> RecordUit(Tekstblik regel)
 {
-    return velden.size() == AantalVelden;
+    auto velden = ItemsVan(regel, AantalVelden + 1);
+    return velden.size() == AantalVelden ? std::optional(std::move(velden)) : std::nullopt;
 }
 
 void VoegZwevendenToe(std::vector<Vindplaats>& uit, Tekstblik code, Tekstblik spelers)
@@ -78,30 +82,31 @@ std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Plaats
     Tekst uit;
     bool veranderd = false;
     bool eerste = true;
-    for (const Item& item : ItemsVan(regel)) {
+    Itemlezer items(regel);
+    while (const auto item = items.Volgend()) {
         if (!eerste)
             uit += einde;
         eerste = false;
-        const auto paar = PaarUit(item.tekst);
+        const auto paar = PaarUit(item->tekst);
         const auto nieuw = paar ? plaatsen.Vervang(paar->code, paar->spelers) : std::nullopt;
         if (nieuw) {
             veranderd = true;
             uit += AlsItem(Tekst(paar->code) + ' ' + *nieuw);
         } else {
-            uit += item.IsAangehaald() ? AlsItem(item.tekst) : Tekst(item.rauw);
+            uit += item->IsAangehaald() ? AlsItem(item->tekst) : Tekst(item->rauw);
         }
     }
-    return veranderd ? std::optional(uit) : std::nullopt;
+    return veranderd ? std::optional(std::move(uit)) : std::nullopt;
 }
 
 /// The record with the pair replaced and all else, quotes included, as it was.
 std::optional<Tekst> NieuweRecordregel(Tekstblik regel, Plaatslijst& plaatsen)
 {
-    const auto velden = ItemsVan(regel);
-    if (!IsRecord(velden))
+    const auto velden = RecordUit(regel);
+    if (!velden)
         return std::nullopt;
-    const Item& paar = velden[Paarveld];
-    const auto nieuw = plaatsen.Vervang(velden[Codeveld].tekst, paar.tekst);
+    const Item& paar = (*velden)[Paarveld];
+    const auto nieuw = plaatsen.Vervang((*velden)[Codeveld].tekst, paar.tekst);
     if (!nieuw)
         return std::nullopt;
     const auto begin = static_cast<std::size_t>(paar.rauw.data() - regel.data());
@@ -119,17 +124,19 @@ Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort)
     for (const Tekstblik regel : Regels(inhoud)) {
         if (IsBlanco(regel))
             continue;
-        const auto items = ItemsVan(regel);
         if (soort == Lijstsoort::Spelers) {
-            for (const Item& item : items) {
-                if (const auto paar = PaarUit(item.tekst))
+            Itemlezer items(regel);
+            for (auto item = items.Volgend(); item && !uit.IsTeVeel(); item = items.Volgend()) {
+                if (const auto paar = PaarUit(item->tekst))
                     VoegZwevendenToe(uit.zwevend, paar->code, paar->spelers);
             }
-        } else if (IsRecord(items)) {
-            VoegZwevendenToe(uit.zwevend, items[Codeveld].tekst, items[Paarveld].tekst);
+        } else if (const auto velden = RecordUit(regel)) {
+            VoegZwevendenToe(uit.zwevend, (*velden)[Codeveld].tekst, (*velden)[Paarveld].tekst);
         } else {
             ++uit.overgeslagen;
         }
+        if (uit.IsTeVeel())
+            break;
     }
     return uit;
 }

@@ -29,9 +29,16 @@ struct Vindplaats {
     bool operator==(const Vindplaats&) const = default;
 };
 
+/// More names than this stand in no list of a session.
+inline constexpr std::size_t MeesteNamen = 100'000;
+inline constexpr auto TeVeelNamen = "er staan meer dan 100.000 namen in";
+
 struct Lijstlezing {
     std::vector<Vindplaats> zwevend; ///< in file order, of a pair the first player first
     int overgeslagen = 0;            ///< lines of a result list that are no record of 7 fields
+
+    /// The reading ended there: it is no list.
+    [[nodiscard]] bool IsTeVeel() const { return zwevend.size() > MeesteNamen; }
 };
 
 [[nodiscard]] Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort);

@@ -284,3 +284,21 @@ TEST_F(diaToevoegenTest, MetHetToetsenbord)
     QTest::keyClick(venster.get(), Qt::Key_Return);
     EXPECT_TRUE(venster->ToegevoegdEnBewaard());
 }
+
+/// Two sessions are read, but the one club name is told of once.
+TEST_F(diaToevoegenTest, EenClubnaamMetEenStreepWordtEenKeerGemeld)
+{
+    suite.Zet("Puntenboek/Rev_Clubnaam.txt", "Noord/Zuid\r\n");
+    wachter.Waarschuwing(
+        QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
+                       "spelerslijst van deze zitting is gebleven zoals hij was.\n\nBestand: ") +
+        QString::fromStdString(suite.Toonpad("Puntenboek/Rev_Clubnaam.txt")) +
+        QStringLiteral("\nOorzaak: 'Noord/Zuid' kan niet de naam van een bestand of map zijn: "
+                       "daarin mogen geen '/', '\\', 'C:' of '..' staan"));
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Klaar();
+    ASSERT_EQ(2, Keus()->count());
+    wachter.Informatie(OudeKeys);
+    for (int i = Keus()->count() - 1; i >= 0; --i)
+        Keus()->setCurrentIndex(i);
+}

@@ -336,3 +336,51 @@ TEST_F(Toevoegen, EenVerslagDatNietTeLezenWasWordtNooitVerwijderd)
     ASSERT_TRUE(verslag.ZetTerug());
     EXPECT_EQ("van vroeger", schijf.Inhoud(pad));
 }
+
+// ---------------------------------------------------------------- size, and names of folders
+
+TEST_F(Toevoegen, EenLijstDieTeGrootIsWordtGeweigerd)
+{
+    const Pad eigen = "C:\\RVD\\Zittingen\\Zomer_Rev\\Spelers.txt";
+    const Pad vanZuster = "C:\\RVD\\Puntenboek\\Club_Zomer_Rev\\Spelers.txt";
+    const Tekst teGroot((std::size_t{64} << 20U) + 1, ',');
+    schijf.Zet(eigen, teGroot);
+    EXPECT_EQ("het bestand is te groot: meer dan 64 MB",
+              LeesSessieSpelers(schijf, mappen, "Zomer_Rev").error().systeem);
+    Tekst namen;
+    for (std::size_t i = 0; i <= MeesteNamen / 2; ++i)
+        namen += "N01 a-b,";
+    schijf.Zet(eigen, namen);
+    const auto teVeel = LeesSessieSpelers(schijf, mappen, "Zomer_Rev");
+    ASSERT_FALSE(teVeel);
+    EXPECT_EQ(TeVeelNamen, teVeel.error().systeem);
+    EXPECT_EQ(eigen, teVeel.error().bestand);
+    EXPECT_LE(SessiespelersUit(namen + namen).spelers.size(), MeesteNamen + 2);
+
+    schijf.Zet("C:\\RVD\\Puntenboek\\Rev_Clubnaam.txt", "Club");
+    schijf.Zet(vanZuster, teGroot);
+    EXPECT_EQ("het bestand is te groot: meer dan 64 MB",
+              HaalSpelerslijst(schijf, mappen, "Zomer_Rev").error().systeem);
+    EXPECT_EQ(namen, schijf.Inhoud(eigen));
+}
+
+TEST_F(Toevoegen, EenClubnaamDieGeenMapKanZijnWordtGeweigerd)
+{
+    const Pad clubnaam = "C:\\RVD\\Puntenboek\\Rev_Clubnaam.txt";
+    const Pad eigen = "C:\\RVD\\Zittingen\\Zomer_Rev\\Spelers.txt";
+    schijf.Zet("C:\\RVD\\Elders_Zomer_Rev\\Spelers.txt", "N01 An Bos - Bo Cos\r\n");
+    schijf.Zet("C:\\RVD\\Puntenboek\\A\\B_Zomer_Rev\\Spelers.txt", "N01 An Bos - Bo Cos\r\n");
+    schijf.Zet(eigen, "eigen");
+    for (const char* naam : {"..\\Elders", "A/B", "C:\\Elders"}) {
+        schijf.Zet(clubnaam, naam);
+        const auto gehaald = HaalSpelerslijst(schijf, mappen, "Zomer_Rev");
+        ASSERT_FALSE(gehaald) << naam;
+        EXPECT_EQ(Foutsoort::Beschadigd, gehaald.error().soort);
+        EXPECT_EQ(clubnaam, gehaald.error().bestand);
+        EXPECT_EQ("'" + Tekst(naam) +
+                      "' kan niet de naam van een bestand of map zijn: daarin mogen geen '/', "
+                      "'\\', 'C:' of '..' staan",
+                  gehaald.error().systeem);
+        EXPECT_EQ("eigen", schijf.Inhoud(eigen));
+    }
+}

@@ -3,6 +3,7 @@
 #include <QFileIconProvider>
 
 #include "federation/importproef.h"
+#include "hulp/accessgegevens.h"
 
 using namespace plexoran;
 
@@ -553,3 +554,52 @@ TEST_F(frmImportNBBTest, ZonderVerzamelgroepGaatHetVensterNietOpen)
                        "veranderd. Vul die groep in en start Plexoran opnieuw."));
     Importeer();
 }
+
+TEST_F(frmImportNBBTest, EenDatabaseZonderLedenbestandenZegtDat)
+{
+    std::filesystem::create_directories(suite.Weg() / "Rekenprogramma/data");
+    suite.Zet("Rekenprogramma/data/Members.mdb",
+              LeesAlsBytes(Accessbestand("bad/both-tables-empty.mdb")));
+    winkel.Zet("Bridge-It", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
+    Herstart();
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option1");
+        EXPECT_EQ(0, Lijst(dia)->Aantal());
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Informatie(
+        QStringLiteral("In de database van het rekenprogramma staat geen enkel ledenbestand. Er is "
+                       "niets gewijzigd. Maak in het rekenprogramma een ledenbestand, of kies een "
+                       "geëxporteerd ledenbestand."));
+    Importeer();
+}
+
+#ifndef _WIN32
+
+TEST_F(frmImportNBBTest, EenBestandMetEenNaamDieNaarEldersWijst)
+{
+    KopieerExports();
+    suite.Zet("Bestanden/elders.csv", "");
+    suite.Zet("Bestanden/NBB4-Leden/..\\elders.csv", "");
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        EXPECT_EQ(2, Lijst(dia)->Aantal());
+        Druk(dia, "cmdKiesExportMap");
+        EXPECT_EQ(2, Lijst(dia)->Aantal());
+        Druk(dia, "cmdAnnuleren");
+    });
+    wachter.Waarschuwing(
+        QStringLiteral("Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een "
+                       "naam in Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef "
+                       "wat u ervan nodig hebt, een andere naam.\n\n..\\elders.csv"));
+    const std::filesystem::path aangewezen = "Bestanden/NBB4-Leden/..\\elders.csv";
+    VerwachtBestandskeuze(QStringLiteral("CSV-bestanden (*.csv)"), aangewezen);
+    wachter.Waarschuwing(
+        QStringLiteral("Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map mag "
+                       "geen '\\' staan. Er is niets gewijzigd. Geef het een andere naam.\n\n"
+                       "Bestand: ") +
+        QString::fromStdString((suite.Weg() / aangewezen).string()));
+    Importeer();
+}
+
+#endif

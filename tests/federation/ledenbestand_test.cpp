@@ -129,7 +129,7 @@ class ReuzenSchijf : public GeheugenSchijf {
     Uitkomst<Stempel> NeemStempel(const Pad& pad) override
     {
         return GeheugenSchijf::NeemStempel(pad).map([](Stempel stempel) {
-            stempel.grootte = (std::uint64_t{512} << 20U) + 1;
+            stempel.grootte = (std::uint64_t{64} << 20U) + 1;
             return stempel;
         });
     }
@@ -152,7 +152,9 @@ TEST(LeesLedenbestand, EenReusachtigBestandWordtNietGelezen)
         EXPECT_EQ(lezing.error().soort, Foutsoort::Beschadigd);
         EXPECT_NE(lezing.error().systeem, "");
     }
-    EXPECT_TRUE(BepaalXMLsoort(schijf, "C:\\Export", {"Club.xml"}, Ledenbron::XmlNbb3).empty());
+    for (const Ledenbron bron : {Ledenbron::XmlNbb3, Ledenbron::XmlNbb4})
+        EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", {"Club.xml"}, bron).size(), 1U)
+            << "om te kunnen zeggen dat het te groot is";
 }
 
 TEST(LeesLedenbestand, MeldtEenTeKorteRegel)
@@ -404,9 +406,9 @@ Uitkomst<Ledenlezing> LeesGroot(Ledenbron bron, const std::string& inhoud)
     return lezing;
 }
 
-TEST(LeesLedenbestand, TweehonderdMegabyteDuurtNietLang)
+TEST(LeesLedenbestand, ZestigMegabyteDuurtNietLang)
 {
-    constexpr std::size_t groot = std::size_t{200} << 20U;
+    constexpr std::size_t groot = std::size_t{60} << 20U;
     const Tekst lid = "1;V;Ans;A.;;Ek;;;;;;;\r\n";
     const auto nullen = LeesGroot(Ledenbron::Csv, lid + Tekst(groot, '\0'));
     ASSERT_FALSE(nullen);
@@ -428,6 +430,25 @@ TEST(LeesLedenbestand, ZonderDatabaseIsHetEenFout)
     GeheugenSchijf schijf;
     schijf.Zet("C:\\P\\Club Temp-NBBXMLtoCSV.csv", "9;;;;;Oud;;;;;;;;;;;\r\n\r\n");
     EXPECT_FALSE(LeesLedenbestand(schijf, Opdracht(Ledenbron::Database), "Club 007").has_value());
+}
+
+/// The name of the intermediate file comes from the database.
+TEST(LeesLedenbestand, EenNaamUitDeDatabaseDieGeenBestandKanZijnWordtNietGelezen)
+{
+    for (const char* naam : {"Noord/Zuid 007", "..\\..\\Elders 007", "C:Club 007"}) {
+        GeheugenSchijf schijf;
+        const Ledenopdracht opdracht{.bron = Ledenbron::Database,
+                                     .map = {},
+                                     .programmamap = "C:\\P",
+                                     .LedenDatabase = "weg.mdb",
+                                     .keuzes = {}};
+        const auto lezing = LeesLedenbestand(schijf, opdracht, naam);
+        ASSERT_FALSE(lezing) << naam;
+        EXPECT_EQ(Foutsoort::Beschadigd, lezing.error().soort) << naam;
+        EXPECT_EQ(0U, lezing.error().systeem.find("'" + SubgroepUitNaam(naam) + "' kan niet"))
+            << lezing.error().systeem;
+        EXPECT_EQ("", lezing.error().bestand);
+    }
 }
 
 } // namespace

@@ -32,6 +32,13 @@ TEST(Leesfouttekst, BegintNaarDeBron)
 
 TEST(Leesfouttekst, NoemtWatErMisIsEnWaar)
 {
+    EXPECT_EQ(Melding(Ledenbron::Database, {.soort = Foutsoort::Beschadigd,
+                                            .bestand = {},
+                                            .regel = 0,
+                                            .systeem = "'A/B' kan niet"}),
+              "Fout bij het lezen van het ledenbestand (alle items)!\r\nHet ledenbestand kan niet "
+              "worden gelezen; er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
+              "ledenbestand.\r\n\r\nOorzaak: 'A/B' kan niet");
     EXPECT_EQ(
         Melding(Ledenbron::XmlNbb3, {.soort = Foutsoort::Beschadigd,
                                      .bestand = "/a/b.xml",

@@ -613,3 +613,57 @@ TEST(FalendeSchijfTest, TeltDeSchrijverMee)
     EXPECT_TRUE((*schrijver)->Sluit());
     EXPECT_EQ(schijf.Aantal(), 4);
 }
+
+// ---- Names and sizes ---------------------------------------------------------------------------
+
+TEST(Schijfnamen, EenKaleNaamBlijftInZijnMap)
+{
+    for (const char* naam : {"Club", "A..B", "..", ".", "...", "2024: slot", "C", "", ".verborgen"})
+        EXPECT_EQ(IsKaleNaam(naam), Tekst(naam) != ".." && Tekst(naam) != ".") << naam;
+    for (const char* naam : {"A/B", "..\\Elders", "/", "\\", "C:", "C:x", "c:\\x", "../x"}) {
+        EXPECT_FALSE(IsKaleNaam(naam)) << naam;
+        EXPECT_NE(GeenNaam(naam).systeem.find(naam), std::string::npos) << naam;
+    }
+}
+
+TEST(Schijflezen, EenBestandBovenDe64MBWordtGeweigerdVoorHetInHetGeheugenStaat)
+{
+    const TijdelijkeMap map;
+    EchteSchijf schijf;
+    map.Zet("a", "x");
+    const Pad pad = Samen(map.AlsPad(), "a");
+    EXPECT_EQ(LeesBegrensd(schijf, pad).value(), "x");
+    std::filesystem::resize_file(map.Weg() / "a", std::uintmax_t{64} << 20U);
+    EXPECT_EQ(LeesBegrensd(schijf, pad)->size(), std::size_t{64} << 20U);
+    std::filesystem::resize_file(map.Weg() / "a", (std::uintmax_t{64} << 20U) + 1);
+    for (const Fout& fout : {LeesBegrensd(schijf, pad).error(), LeesAlsErIs(schijf, pad).error()}) {
+        EXPECT_EQ(fout.soort, Foutsoort::Beschadigd);
+        EXPECT_EQ(fout.systeem, "het bestand is te groot: meer dan 64 MB");
+        EXPECT_EQ(fout.bestand, map.Toonpad("a"));
+    }
+    EXPECT_EQ(LeesAlsErIs(schijf, Samen(map.AlsPad(), "b")).value(), std::nullopt);
+}
+
+#ifndef _WIN32
+
+/// Elsewhere than on Windows a name may hold what separates the folders of a path of the suite.
+TEST(EchteSchijfTest, NamenDieBuitenDeMapWijzenStaanNietInDeLijst)
+{
+    const TijdelijkeMap map;
+    namespace fs = std::filesystem;
+    for (const char* naam : {"goed", "..\\goed", "a\\b", "C:\\x"})
+        fs::create_directory(map.Weg() / naam);
+    map.Zet("lijst.csv", "");
+    map.Zet("..\\lijst.csv", "");
+    EchteSchijf schijf;
+    EXPECT_EQ(Gesorteerd(schijf.Mappen(map.AlsPad())), Namen{"goed"});
+    EXPECT_EQ(Gesorteerd(schijf.Mappen(map.AlsPad())), Namen{"goed"});
+    EXPECT_EQ(schijf.NeemOvergeslagen(Samen(map.AlsPad(), "goed")), std::vector<std::string>{});
+    EXPECT_EQ(schijf.NeemOvergeslagen(map.AlsPad()),
+              (std::vector<std::string>{"..\\goed", "C:\\x", "a\\b"}));
+    EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), Namen{"lijst.csv"});
+    EXPECT_EQ(schijf.NeemOvergeslagen(map.AlsPad()), std::vector<std::string>{"..\\lijst.csv"})
+        << "de mappen zijn al genoemd";
+}
+
+#endif

@@ -573,3 +573,41 @@ TEST_F(Koppelvensterlang, LangZoekenToontVoortgangEnIsTeStoppen)
     EXPECT_TRUE(Knop("cmdZoekNamen")->isEnabled());
     EXPECT_TRUE(venster->close());
 }
+
+#ifndef _WIN32
+
+/// A folder as a program for another system unpacks it.
+TEST_F(Koppelvenster, EenMapDieNaarEldersWijstWordtEenKeerGemeld)
+{
+    const std::string elders = "Zittingen/..\\Competities";
+    std::filesystem::create_directory(suite.Weg() / elders);
+    suite.Zet(elders + "/Zitdata.txt", "");
+    suite.Zet("Competities/Zitdata.txt", "");
+    wachter.Waarschuwing(
+        QStringLiteral("Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een "
+                       "naam in Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef "
+                       "wat u ervan nodig hebt, een andere naam.\n\n..\\Competities"));
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Klaar();
+    for (const std::string& sessie : Sessies())
+        EXPECT_EQ(std::string::npos, sessie.find("Competities"));
+    Deel<QRadioButton>("Option2")->click();
+    Deel<QRadioButton>("Option1")->click();
+}
+
+#endif
+
+TEST_F(Koppelvenster, EenLijstDieTeGrootIsWordtGeweigerd)
+{
+    const std::string lijst = "Zittingen/Dinsdagavond 2024-09-10/Spelers.txt";
+    std::filesystem::resize_file(suite.Weg() / lijst, std::uintmax_t{200} << 20U);
+    ASSERT_NO_FATAL_FAILURE(Open());
+    wachter.Waarschuwing(
+        QStringLiteral(
+            "Fout bij het lezen van de zittingbestanden: de spelers uit het bestand "
+            "hieronder staan niet in de lijst. Er is niets veranderd. Verhelp de oorzaak "
+            "en probeer het opnieuw.\n\nBestand: ") +
+        QString::fromStdString(suite.Toonpad(lijst)) +
+        QStringLiteral("\nOorzaak: het bestand is te groot: meer dan 64 MB"));
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+}

@@ -363,3 +363,32 @@ TEST(Koppelspeler, AlleenDeImportgroepMetEenKeyVanZesCijfersOpAchternaam)
     EXPECT_EQ("100002  Bea de Cock  2         DI", Spelerregel(spelers[2], 11));
     EXPECT_EQ("100002  Bea de Cock  2         DI", Spelerregel(spelers[2], 2));
 }
+
+// ---- Size --------------------------------------------------------------------------------------
+
+TEST_F(Koppelen, EenLijstDieTeGrootIsWordtGeweigerdBijZoekenEnBijKoppelen)
+{
+    ZetCompetitie();
+    const auto gevonden = ZoekCompetitie(schijf);
+    const Pad groot = Lijstpad(2, 1, Lijstsoort::Percentages);
+    schijf.Zet(groot, Tekst((std::size_t{64} << 20U) + 1, ','));
+    const auto zoeken = ZoekCompetitie(schijf);
+    ASSERT_EQ(1U, zoeken.fouten.size());
+    EXPECT_EQ("het bestand is te groot: meer dan 64 MB", zoeken.fouten.front().systeem);
+    const auto uitslag = Koppel(
+        schijf, MaakKoppelopdracht(gevonden.zwevenden,
+                                   Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237"));
+    ASSERT_TRUE(uitslag.fout);
+    EXPECT_EQ("het bestand is te groot: meer dan 64 MB", uitslag.fout->systeem);
+    EXPECT_EQ(groot, uitslag.nietGewijzigd.front());
+    schijf.Zet(groot, "");
+
+    Tekst namen;
+    for (std::size_t i = 0; i <= MeesteNamen / 2; ++i)
+        namen += "N01 a-b,";
+    schijf.Zet(Lijstpad(2, 1, Lijstsoort::Spelers), namen);
+    const auto teVeel = ZoekCompetitie(schijf);
+    ASSERT_EQ(1U, teVeel.fouten.size());
+    EXPECT_EQ(TeVeelNamen, teVeel.fouten.front().systeem);
+    EXPECT_EQ(4U, teVeel.zwevenden.size()) << "die van de andere zittingen";
+}

@@ -1,6 +1,15 @@
 #include "sessions/zittinglijsten.h"
 
+#include <array>
+#include <functional>
+
 #include <gtest/gtest.h>
+
+#include "hulp/kill.h"
+
+#ifdef __linux__
+#include <sys/resource.h>
+#endif
 
 using namespace plexoran;
 
@@ -170,3 +179,76 @@ TEST(Percentagelijst, LeegAfgeknipEnRuis)
         EXPECT_EQ(tekst, Gekoppeld(tekst, Percentages));
     }
 }
+
+// ---------------------------------------------------------------- size
+
+TEST(Lijstgrootte, MeerNamenDanEenLijstHeeftBreektHetLezenAf)
+{
+    Tekst spelers;
+    Tekst percentages;
+    for (std::size_t i = 0; i < MeesteNamen / 2; ++i) {
+        spelers += "N01 a-b,";
+        percentages += "1,2,N1,a-b,5,6,7\r\n";
+    }
+    EXPECT_EQ(MeesteNamen, LeesLijst(spelers, Spelers).zwevend.size());
+    EXPECT_FALSE(LeesLijst(spelers, Spelers).IsTeVeel());
+    EXPECT_FALSE(LeesLijst(percentages, Percentages).IsTeVeel());
+    spelers += spelers;
+    percentages += percentages;
+    EXPECT_TRUE(LeesLijst(spelers, Spelers).IsTeVeel());
+    EXPECT_LE(LeesLijst(spelers, Spelers).zwevend.size(), MeesteNamen + 2);
+    EXPECT_TRUE(LeesLijst(percentages, Percentages).IsTeVeel());
+    EXPECT_LE(LeesLijst(percentages, Percentages).zwevend.size(), MeesteNamen + 2);
+}
+
+#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
+
+namespace {
+
+/// The most that `werk` takes in memory above what there was, in bytes.
+std::size_t Geheugen(const std::function<void()>& werk)
+{
+    std::array<int, 2> pijp{};
+    if (::pipe(pijp.data()) != 0)
+        return 0;
+    const auto meest = [] {
+        rusage gebruik{};
+        ::getrusage(RUSAGE_SELF, &gebruik);
+        return static_cast<std::size_t>(gebruik.ru_maxrss) * 1024;
+    };
+    const pid_t kind = Kind([&] { // which begins with what there is now
+        const std::size_t vooraf = meest();
+        werk();
+        const std::size_t erbij = meest() - vooraf;
+        ::_exit(::write(pijp[1], &erbij, sizeof erbij) == sizeof erbij ? 0 : 1);
+    });
+    std::size_t erbij = 0;
+    ::close(pijp[1]);
+    EXPECT_EQ(static_cast<ssize_t>(sizeof erbij), ::read(pijp[0], &erbij, sizeof erbij));
+    ::close(pijp[0]);
+    ::waitpid(kind, nullptr, 0);
+    return erbij;
+}
+
+} // namespace
+
+TEST(Lijstgrootte, LezenEnHerschrijvenBlijvenBinnenAchtKeerHetBestand)
+{
+    const std::size_t grootte = std::size_t{2} << 20U;
+    const Tekst kommas(grootte, ',');
+    Tekst quotes;
+    while (quotes.size() < grootte)
+        quotes += "\"\",";
+    for (const Tekst& inhoud : {kommas, quotes}) {
+        for (const Lijstsoort soort : {Spelers, Percentages}) {
+            EXPECT_LT(Geheugen([&] { (void)LeesLijst(inhoud, soort); }), 2 * grootte);
+            EXPECT_LT(Geheugen([&] { // makes the file, too
+                          (void)HerschrijfLijst("N05 Jansen-1," + inhoud, soort,
+                                                {{"N05"}, "Jansen", "100237"});
+                      }),
+                      8 * grootte);
+        }
+    }
+}
+
+#endif

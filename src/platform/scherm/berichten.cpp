@@ -240,4 +240,22 @@ QString Aantal(std::size_t aantal, const QString& een, const QString& meer)
     return QStringLiteral("%1 %2").arg(aantal).arg(aantal == 1 ? een : meer);
 }
 
+void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map)
+{
+    QStringList namen;
+    for (const std::string& naam : schijf.NeemOvergeslagen(map))
+        namen << QString::fromStdString(naam);
+    if (namen.isEmpty())
+        return;
+    MeldLijst(
+        ouder, QMessageBox::Warning,
+        QStringLiteral("Overgeslagen van deze map: ") +
+            Aantal(static_cast<std::size_t>(namen.size()), QStringLiteral("naam"),
+                   QStringLiteral("namen")) +
+            QStringLiteral(", omdat er een teken in staat dat een naam in Ravendeck niet kan "
+                           "hebben, zoals '\\'. Er is niets gewijzigd. Geef wat u ervan nodig "
+                           "hebt, een andere naam.\n\n") +
+            namen.join(u'\n'));
+}
+
 } // namespace plexoran

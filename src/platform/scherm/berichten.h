@@ -4,7 +4,7 @@
 
 #include <QMessageBox>
 
-#include "platform/fout.h"
+#include "platform/schijf.h"
 
 namespace plexoran {
 
@@ -43,5 +43,8 @@ void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats);
 
 /// "1 speler", "2 spelers".
 [[nodiscard]] QString Aantal(std::size_t aantal, const QString& een, const QString& meer);
+
+/// Tells which names the disk left out of its lists of this folder, each once.
+void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map);
 
 } // namespace plexoran
