@@ -20,7 +20,7 @@ Plexoran houdt de spelers van een bridgeclub bij.
 Opties:
   --mappen BESTAND      lees de mappen uit dit bestand in plaats van uit het
                         bestand "Mappen.ini" bij het programma
-  --afbeeldingen MAP    bewaar van elk venster een afbeelding (PNG) in deze map
+  --afbeeldingen MAP    maak van elk venster een afbeelding (PNG) in deze map
                         en stop
   --slot BESTAND        kijk alleen met dit bestand of het programma al loopt
   --help                toon deze uitleg
