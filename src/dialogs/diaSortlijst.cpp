@@ -1,13 +1,10 @@
 #include "dialogs/diaSortlijst.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/meter.h"
@@ -16,7 +13,6 @@ namespace plexoran {
 namespace {
 
 constexpr int VensterHoog = 6930; // twips
-constexpr int BalkBreed = 280;
 constexpr int Zijmarge = 100;
 constexpr double Letterpunten = 9.0;
 constexpr QColor lijnkleur(160, 160, 160);
@@ -46,43 +42,53 @@ void ZetVet(QPainter& schilder, bool vet)
 
 } // namespace
 
-Sorteervlak::Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, QWidget* ouder)
-    : QWidget(ouder), beeld_(beeld), randen_(ZetKolommen(beeld.soort))
+Sorteervlak::Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, const Schuifkader& kader,
+                         QWidget* ouder)
+    : Tabelvlak(kader, QStringLiteral("Gesorteerde spelers"), ouder), beeld_(beeld),
+      randen_(ZetKolommen(beeld.soort))
 {
-    Noem(this, QStringLiteral("P1"), QStringLiteral("Gesorteerde spelers"));
     setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));
     breedteA_ = fontMetrics().horizontalAdvance(QLatin1Char('A'));
     regelhoogte_ = fontMetrics().height() + 4;
-    setBackgroundRole(QPalette::Base);
-    setAutoFillBackground(true);
-    setFocusPolicy(Qt::StrongFocus);
 }
 
 int Sorteervlak::X(float breedtenA) const
 {
-    return qRound(breedtenA * static_cast<float>(breedteA_)) - links_;
+    return qRound(breedtenA * static_cast<float>(breedteA_)) - Kader().Liggend().value();
 }
 
-int Sorteervlak::Koptekst() const
+int Sorteervlak::Y(int regel) const
 {
-    return regelhoogte_ + 2;
+    return regel * regelhoogte_ + 2 - Kader().Staand().value();
+}
+
+QString Sorteervlak::Celtekst(int regel, int kolom) const
+{
+    const std::array<QString, AantalSorteervelden> titels{
+        QStringLiteral("Key"),
+        QStringLiteral("Voornaam"),
+        QStringLiteral("Tus"),
+        QStringLiteral("Achternaam"),
+        beeld_.importgroep ? QStringLiteral("NBBgroep") : QStringLiteral("Subgroep"),
+        beeld_.importgroep ? QStringLiteral("NBBnr") : QStringLiteral("-----")};
+    return regel == 0
+               ? titels[static_cast<std::size_t>(kolom)]
+               : NaarQString(beeld_.regel(regel - 1)).section(QLatin1Char(','), kolom, kolom);
 }
 
 QSize Sorteervlak::Vlakmaat() const
 {
-    return {X(randen_.back()) + links_ + breedteA_, Koptekst() + beeld_.regels * regelhoogte_ + 2};
+    const int breed = qRound(randen_.back() * static_cast<float>(breedteA_)) + breedteA_;
+    return {breed, (beeld_.regels + 1) * regelhoogte_ + 4};
 }
 
-void Sorteervlak::Schuif(int boven)
+void Sorteervlak::resizeEvent(QResizeEvent* gebeurtenis)
 {
-    boven_ = boven;
-    update();
-}
-
-void Sorteervlak::SchuifOpzij(int links)
-{
-    links_ = links;
-    update();
+    Tabelvlak::resizeEvent(gebeurtenis);
+    Schuifkader::Stel(Kader().Staand(), Vlakmaat().height(), height(), height() - regelhoogte_,
+                      regelhoogte_);
+    Schuifkader::Stel(Kader().Liggend(), Vlakmaat().width(), width(), width(), regelhoogte_);
+    Kader().Liggend().setVisible(Vlakmaat().width() > width());
 }
 
 void Sorteervlak::paintEvent(QPaintEvent* gebeurtenis)
@@ -92,27 +98,20 @@ void Sorteervlak::paintEvent(QPaintEvent* gebeurtenis)
     TekenKop(schilder);
     if (beeld_.regels == 0)
         return;
-    const auto regelBij = [&](int y) { return (y + boven_ - Koptekst()) / regelhoogte_; };
-    const int eerste = std::clamp(regelBij(gebeurtenis->rect().top()), 0, beeld_.regels - 1);
-    const int laatste = std::clamp(regelBij(gebeurtenis->rect().bottom()), 0, beeld_.regels - 1);
+    const auto [eerste, laatste] = RegelsIn(gebeurtenis->rect());
     TekenLijnen(schilder, eerste, laatste);
     for (int regel = eerste; regel <= laatste; ++regel)
         TekenRegel(schilder, regel);
+    TekenKeus(schilder, 1);
 }
 
 void Sorteervlak::TekenKop(QPainter& schilder) const
 {
-    const std::array<QString, AantalSorteervelden> titels{
-        QStringLiteral("Key"),
-        QStringLiteral("Voornaam"),
-        QStringLiteral("Tus"),
-        QStringLiteral("Achternaam"),
-        beeld_.importgroep ? QStringLiteral("NBBgroep") : QStringLiteral("Subgroep"),
-        beeld_.importgroep ? QStringLiteral("NBBnr") : QStringLiteral("-----")};
     ZetVet(schilder, true);
-    const int basislijn = fontMetrics().ascent() + 2 - boven_;
-    for (std::size_t i = 0; i < titels.size(); ++i)
-        schilder.drawText(X(randen_[i]), basislijn, titels[i]);
+    const int basislijn = Y(0) + fontMetrics().ascent();
+    for (int kolom = 0; kolom < AantalSorteervelden; ++kolom)
+        schilder.drawText(X(randen_[static_cast<std::size_t>(kolom)]), basislijn,
+                          Celtekst(0, kolom));
     ZetVet(schilder, false);
 }
 
@@ -120,7 +119,7 @@ void Sorteervlak::TekenLijnen(QPainter& schilder, int eerste, int laatste) const
 {
     const QPen tekstpen = schilder.pen();
     schilder.setPen(lijnkleur);
-    const auto y = [&](int regel) { return Koptekst() + regel * regelhoogte_ - boven_ - 1; };
+    const auto y = [this](int regel) { return Y(regel) - 1; };
     for (int regel = eerste; regel <= laatste + 1; ++regel)
         schilder.drawLine(X(randen_.front()), y(regel), X(randen_.back()), y(regel));
     for (const float rand : randen_)
@@ -130,8 +129,8 @@ void Sorteervlak::TekenLijnen(QPainter& schilder, int eerste, int laatste) const
 
 void Sorteervlak::TekenRegel(QPainter& schilder, int regel) const
 {
-    Tekstblik rest = beeld_.regel(regel);
-    const int boven = Koptekst() + regel * regelhoogte_ - boven_;
+    Tekstblik rest = beeld_.regel(regel - 1);
+    const int boven = Y(regel);
     for (int veld = 1; veld <= AantalSorteervelden; ++veld) {
         const auto komma = std::min(rest.find(','), rest.size());
         ZetVet(schilder, veld == VetVeld(beeld_.soort));
@@ -155,10 +154,9 @@ void Sorteervlak::TekenVeld(QPainter& schilder, int veld, int boven, const QStri
 }
 
 diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)
-    : QDialog(hoofdvenster), beeld_(std::move(beeld)), Frame2(new QFrame(this)),
-      P0(new QWidget(Frame2)), P1(new Sorteervlak(beeld_, maten_, P0)),
-      VScroll1(new QScrollBar(Qt::Vertical, Frame2)),
-      HScroll1(new QScrollBar(Qt::Horizontal, Frame2))
+    : QDialog(hoofdvenster), beeld_(std::move(beeld)),
+      Frame2(new Schuifkader(QStringLiteral("Frame2"), maten_, this)), P0(new QWidget(Frame2)),
+      P1(new Sorteervlak(beeld_, maten_, *Frame2, P0))
 {
     Bouw();
     ZetBij(*hoofdvenster);
@@ -176,16 +174,11 @@ void diaSortlijst::Bouw()
 {
     setObjectName(QStringLiteral("diaSortlijst"));
     setWindowTitle(QStringLiteral("Gesorteerde spelerlijst"));
-    Noem(Frame2, QStringLiteral("Frame2"));
-    Frame2->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     Noem(P0, QStringLiteral("P0"));
-    Noem(VScroll1, QStringLiteral("VScroll1"), QStringLiteral("Regels verschuiven"));
-    VScroll1->setAttribute(Qt::WA_NoMousePropagation);
-    Noem(HScroll1, QStringLiteral("HScroll1"), QStringLiteral("Kolommen verschuiven"));
-    HScroll1->setAttribute(Qt::WA_NoMousePropagation);
-    connect(HScroll1, &QScrollBar::valueChanged, P1,
-            [this](int waarde) { P1->SchuifOpzij(waarde); });
-    connect(VScroll1, &QScrollBar::valueChanged, P1, [this](int waarde) { P1->Schuif(waarde); });
+    auto* binnen = new QVBoxLayout(P0);
+    binnen->setContentsMargins({});
+    binnen->addWidget(P1);
+    Frame2->Bevat(P0);
     cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Terug"), u'T', this);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
@@ -198,51 +191,16 @@ void diaSortlijst::Bouw()
     lagen->addWidget(MaakLabel(QStringLiteral("Label1"), Titel(beeld_.soort), this));
     lagen->addWidget(Frame2, 1);
     lagen->addLayout(Knoppenrij({cmdOK}));
-    const int breed = P1->Vlakmaat().width() + maten_.Twips(BalkBreed) + 2 * Frame2->frameWidth() +
+    const int breed = P1->Vlakmaat().width() + Frame2->Staand().width() + 2 * Frame2->frameWidth() +
                       marges.left() + marges.right();
     PasInScherm(this, {breed, maten_.Twips(VensterHoog)});
+    P1->KiesRegel(beeld_.regels > 0 ? 1 : 0);
     P1->setFocus();
-}
-
-void diaSortlijst::resizeEvent(QResizeEvent* gebeurtenis)
-{
-    QDialog::resizeEvent(gebeurtenis);
-    layout()->activate();
-    ZetSchuifbalk();
-}
-
-void diaSortlijst::ZetSchuifbalk()
-{
-    const QRect binnen = Frame2->contentsRect();
-    const int balk = maten_.Twips(BalkBreed);
-    const QSize vlak = P1->Vlakmaat();
-    const int opzij = std::max(0, vlak.width() - (binnen.width() - balk));
-    P0->setGeometry(binnen.adjusted(0, 0, -balk, opzij > 0 ? -balk : 0));
-    P1->setGeometry(P0->rect());
-    HScroll1->setGeometry(binnen.left(), binnen.bottom() + 1 - balk, P0->width(), balk);
-    HScroll1->setVisible(opzij > 0);
-    HScroll1->setRange(0, opzij);
-    HScroll1->setPageStep(std::max(1, P0->width()));
-    HScroll1->setSingleStep(P1->Regelhoogte());
-    VScroll1->setGeometry(binnen.right() + 1 - balk, binnen.top(), balk, P0->height());
-    const int over = std::max(0, vlak.height() - P0->height());
-    VScroll1->setRange(0, over);
-    VScroll1->setPageStep(std::max(1, P0->height() - P1->Regelhoogte()));
-    VScroll1->setSingleStep(P1->Regelhoogte());
-    VScroll1->setEnabled(over > 0);
-}
-
-void diaSortlijst::wheelEvent(QWheelEvent* gebeurtenis)
-{
-    const QPoint slag = gebeurtenis->angleDelta();
-    const bool opzij = std::abs(slag.x()) > std::abs(slag.y());
-    QApplication::sendEvent(opzij ? HScroll1 : VScroll1, gebeurtenis);
 }
 
 void diaSortlijst::keyPressEvent(QKeyEvent* gebeurtenis)
 {
-    const int toets = gebeurtenis->key();
-    if (!Verschuif(*VScroll1, toets) && !VerschuifOpzij(*HScroll1, toets))
+    if (!P1->LeesMet(gebeurtenis->key()))
         QDialog::keyPressEvent(gebeurtenis);
 }
 

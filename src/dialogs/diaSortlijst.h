@@ -2,14 +2,13 @@
 #pragma once
 
 #include <QDialog>
-#include <QFrame>
 #include <QPushButton>
-#include <QScrollBar>
 
 #include <functional>
 
 #include "dialogs/sorteerkolommen.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/tabelvlak.h"
 #include "platform/tekst.h"
 
 namespace plexoran {
@@ -22,26 +21,35 @@ struct Sorteerbeeld {
     std::function<Tekstblik(int)> regel; ///< six fields joined by ","; counted from 0
 };
 
-/// The surface `P1`: header and lines.
-class Sorteervlak : public QWidget {
+/// The surface `P1`: header and lines. The header scrolls along.
+class Sorteervlak : public Tabelvlak {
+    Q_OBJECT
+
   public:
-    Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, QWidget* ouder);
+    Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, const Schuifkader& kader,
+                QWidget* ouder);
+
+    [[nodiscard]] int Regels() const override { return beeld_.regels; }
+    [[nodiscard]] int Kolommen() const override { return AantalSorteervelden; }
+    [[nodiscard]] QString Celtekst(int regel, int kolom) const override;
+    [[nodiscard]] double Boven(int regel) const override { return Y(regel); }
+    [[nodiscard]] double Links(int kolom) const override
+    {
+        return X(randen_[static_cast<std::size_t>(kolom)]);
+    }
+    [[nodiscard]] double Koponder() const override { return Y(1); }
 
     /// Of the whole list, in pixels.
     [[nodiscard]] QSize Vlakmaat() const;
-    [[nodiscard]] int Regelhoogte() const { return regelhoogte_; }
-    /// The line on top, in pixels from the top of the list.
-    void Schuif(int boven);
-    /// The same from its left edge.
-    void SchuifOpzij(int links);
 
   protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
+    void resizeEvent(QResizeEvent* gebeurtenis) override;
 
   private:
-    /// Where a place on the list is in the surface.
+    /// Where a place on the list is in the surface, and the top of a line.
     [[nodiscard]] int X(float breedtenA) const;
-    [[nodiscard]] int Koptekst() const;
+    [[nodiscard]] int Y(int regel) const;
     void TekenKop(QPainter& schilder) const;
     void TekenLijnen(QPainter& schilder, int eerste, int laatste) const;
     void TekenRegel(QPainter& schilder, int regel) const;
@@ -51,8 +59,6 @@ class Sorteervlak : public QWidget {
     Sorteerranden randen_;
     int breedteA_;
     int regelhoogte_;
-    int boven_ = 0;
-    int links_ = 0;
 };
 
 class diaSortlijst : public QDialog {
@@ -62,22 +68,17 @@ class diaSortlijst : public QDialog {
     diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster);
 
   protected:
-    void resizeEvent(QResizeEvent* gebeurtenis) override;
-    void wheelEvent(QWheelEvent* gebeurtenis) override;
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
 
   private:
     void Bouw();
     void ZetBij(const QWidget& hoofdvenster);
-    void ZetSchuifbalk();
 
     Sorteerbeeld beeld_;
     Maten maten_;
-    QFrame* Frame2;
+    Schuifkader* Frame2; ///< its lying bar is there when the window is narrower than the list
     QWidget* P0;
     Sorteervlak* P1;
-    QScrollBar* VScroll1;
-    QScrollBar* HScroll1; ///< only there when the window is narrower than the list
     QPushButton* cmdOK;
 };
 

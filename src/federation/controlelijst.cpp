@@ -9,10 +9,8 @@
 namespace plexoran {
 namespace {
 
-constexpr std::size_t NummerBreed = 10;
-constexpr std::size_t GeslachtBreed = 5;
 constexpr std::size_t GroepBreed = 10;
-constexpr std::size_t NaamBreed = 20;
+constexpr std::array<std::size_t, AantalControlekolommen> Breedten{10, 5, GroepBreed, 20};
 constexpr Tekstblik Scheiding = "  ";
 
 Tekstblik Veld(const Importvelden& velden, Importveld veld)
@@ -57,14 +55,16 @@ Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep)
 {
     const Importvelden velden = SplitsImportregel(importregel);
     Controleregel uit;
-    Voeg(uit.regel, Veld(velden, Importveld::NBBnr), NummerBreed);
-    uit.regel += Scheiding;
-    Voeg(uit.regel, Veld(velden, Importveld::MV), GeslachtBreed);
-    uit.regel += Scheiding;
-    Voeg(uit.regel, ledengroep.substr(0, GroepBreed), GroepBreed);
-    uit.regel += Scheiding;
-    uit.naam = uit.regel.size();
-    Voeg(uit.regel, Naamkolom(velden), NaamBreed);
+    const Tekst naam = Naamkolom(velden);
+    const std::array<Tekstblik, AantalControlekolommen> teksten{
+        Veld(velden, Importveld::NBBnr), Veld(velden, Importveld::MV),
+        ledengroep.substr(0, GroepBreed), naam};
+    for (std::size_t i = 0; i < teksten.size(); ++i) {
+        if (i > 0)
+            uit.regel += Scheiding;
+        uit.begin[i] = uit.regel.size();
+        Voeg(uit.regel, teksten[i], Breedten[i]);
+    }
     return uit;
 }
 
@@ -103,7 +103,7 @@ const Controleregel& Controlerijen::Regel(std::size_t plaats) const
 std::size_t Controlerijen::Inspringing(const Controleregel& regel) const
 {
     constexpr std::size_t ruimte = 10;
-    return regel.naam + ruimte <= breedte_ ? regel.naam : 0;
+    return regel.begin.back() + ruimte <= breedte_ ? regel.begin.back() : 0;
 }
 
 /// Between two words of the name where that can be.
@@ -113,7 +113,8 @@ void Controlerijen::Splits()
         const Controleregel& regel = Regel(plaats);
         const Tekstblik tekst = ZonderSlot(regel.regel);
         std::size_t ruimte = breedte_;
-        std::size_t vanaf = std::min(regel.naam + 1, tekst.size()); // no break before the name
+        std::size_t vanaf =
+            std::min(regel.begin.back() + 1, tekst.size()); // no break before the name
         std::size_t begin = 0;
         while (tekst.size() - begin > ruimte) {
             // Only looked for in this row: a word may be as long as the file.
@@ -138,6 +139,16 @@ Tekst Controlerijen::Rij(std::size_t nummer) const
     const Controleregel& regel = Regel(deel.plaats);
     const Tekst tekst = regel.regel.substr(deel.begin, deel.eind - deel.begin);
     return deel.begin == 0 ? tekst : Tekst(Inspringing(regel), ' ') + tekst;
+}
+
+Tekstblik Controlerijen::Cel(std::size_t nummer, std::size_t kolom) const
+{
+    const Deel deel = delen_.empty() ? Deel{nummer, 0, Tekst::npos} : delen_[nummer];
+    const Controleregel& regel = Regel(deel.plaats);
+    const std::size_t van = std::max(deel.begin, regel.begin[kolom]);
+    const std::size_t tot = std::min(
+        deel.eind, kolom + 1 < regel.begin.size() ? regel.begin[kolom + 1] : regel.regel.size());
+    return van < tot ? ZonderSpaties(Tekstblik(regel.regel).substr(van, tot - van)) : Tekstblik();
 }
 
 std::size_t TekensNaastElkaar(const Lettermeter& meter, double breed)

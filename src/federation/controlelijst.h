@@ -2,6 +2,7 @@
 // columns of a fixed width. Nobody is left out.
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "federation/importregel.h"
@@ -13,10 +14,13 @@ namespace plexoran {
 inline constexpr Tekstblik ControlekopScherm = "NBBnr      M/V    NBBgroep    Naam";
 inline constexpr Tekstblik ControlekopPapier = "NBBnr     M/V    NBBgroep    Naam";
 
+/// Number, sex, member group and name.
+inline constexpr std::size_t AantalControlekolommen = 4;
+
 struct Controleregel {
-    Tekst regel;          ///< number, sex, member group and name, two blanks between them
-    std::size_t naam = 0; ///< where the name begins in it
-    [[nodiscard]] Tekstblik Naam() const { return Tekstblik(regel).substr(naam); }
+    Tekst regel; ///< the columns, two blanks between them
+    std::array<std::size_t, AantalControlekolommen> begin{}; ///< of each column in it
+    [[nodiscard]] Tekstblik Naam() const { return Tekstblik(regel).substr(begin.back()); }
 };
 
 /// The line of one member, with the member group at most ten characters. Texts that are longer than
@@ -36,6 +40,8 @@ class Controlerijen {
 
     [[nodiscard]] std::size_t Aantal() const { return aantal_; }
     [[nodiscard]] Tekst Rij(std::size_t nummer) const;
+    /// What of a column stands in a row, without the blanks around it.
+    [[nodiscard]] Tekstblik Cel(std::size_t nummer, std::size_t kolom) const;
 
   private:
     struct Deel {

@@ -1,9 +1,7 @@
 #include "federation/diaControleNBB.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -18,7 +16,6 @@
 namespace plexoran {
 namespace {
 
-constexpr int BalkBreed = 280; // twips
 constexpr int TekensBijOpenen = 62;
 constexpr int RijenBijOpenen = 24;
 constexpr double Rand = 2; // millimetres of white around the list
@@ -27,25 +24,51 @@ constexpr double Rand = 2; // millimetres of white around the list
 
 // ---------------------------------------------------------------- the surface
 
-Controlevlak::Controlevlak(const Letterkast& kast, const Maten& maten, QWidget* ouder)
-    : QWidget(ouder), kast_(kast), pixelsPerMm_(maten.PixelsPerMm())
+Controlevlak::Controlevlak(const Letterkast& kast, const Maten& maten, const Schuifkader& kader,
+                           QWidget* ouder)
+    : Tabelvlak(kader, QStringLiteral("Leden van de gekozen ledenbestanden"), ouder,
+                controle::Regelhoogte * maten.PixelsPerMm()),
+      kast_(kast), pixelsPerMm_(maten.PixelsPerMm())
+{}
+
+QString Controlevlak::Celtekst(int regel, int kolom) const
 {
-    Noem(this, QStringLiteral("P1"), QStringLiteral("Leden van de gekozen ledenbestanden"));
-    setBackgroundRole(QPalette::Base);
-    setAutoFillBackground(true);
-    setFocusPolicy(Qt::StrongFocus);
+    const std::array koppen{QStringLiteral("NBBnr"), QStringLiteral("M/V"),
+                            QStringLiteral("NBBgroep"), QStringLiteral("Naam")};
+    const auto plaats = static_cast<std::size_t>(kolom);
+    return regel == 0 ? koppen[plaats]
+                      : NaarQString(rijen_->Cel(static_cast<std::size_t>(regel - 1), plaats));
+}
+
+double Controlevlak::Boven(int regel) const
+{
+    return Koponder() +
+           (regel - 1 - Kader().Staand().value()) * controle::Regelhoogte * pixelsPerMm_;
+}
+
+double Controlevlak::Koponder() const
+{
+    return (Rand + controle::Kophoogte) * pixelsPerMm_;
+}
+
+double Controlevlak::Links(int kolom) const
+{
+    constexpr double wit = 1; // millimetres before the text
+    if (kolom == Kolommen())
+        return width() - wit * pixelsPerMm_;
+    const auto plaats = MaakControleregel({}, {}).begin[static_cast<std::size_t>(kolom)];
+    return (Rand - wit + kast_.Breedte(controle::Schrift, Tekst(plaats, ' '))) * pixelsPerMm_;
 }
 
 void Controlevlak::Toon(const Controlerijen* rijen)
 {
     rijen_ = rijen;
+    const int zichtbaar = ZichtbareRijen();
+    Schuifkader::Stel(Kader().Staand(), Regels(), zichtbaar, zichtbaar - 1, 1);
+    if (Regel() == 0 || Regel() > Regels())
+        KiesRegel(std::min(1, Regels()));
     update();
-}
-
-void Controlevlak::Schuif(int rij)
-{
-    eerste_ = rij;
-    update();
+    MeldAndereRegels();
 }
 
 std::size_t Controlevlak::Breedte() const
@@ -67,6 +90,12 @@ QSize Controlevlak::Maat(int tekens, int rijen) const
             static_cast<int>(std::ceil(hoog * pixelsPerMm_))};
 }
 
+void Controlevlak::resizeEvent(QResizeEvent* gebeurtenis)
+{
+    Tabelvlak::resizeEvent(gebeurtenis);
+    emit geschaald();
+}
+
 void Controlevlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 {
     if (rijen_ == nullptr)
@@ -75,12 +104,10 @@ void Controlevlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
     Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm, {},
                       palette().color(QPalette::Text));
     TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, *rijen_,
-                       static_cast<std::size_t>(eerste_),
+                       static_cast<std::size_t>(Kader().Staand().value()),
                        static_cast<std::size_t>(ZichtbareRijen()) + 1);
-    if (hasFocus()) {
-        schilder.setPen(palette().color(QPalette::Highlight));
-        schilder.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    TekenKeus(schilder, 0);
+    TekenFocus(schilder);
 }
 
 // ---------------------------------------------------------------- the dialog
@@ -101,13 +128,10 @@ void diaControleNBB::Bouw()
     setObjectName(QStringLiteral("diaControleNBB"));
     setWindowTitle(QStringLiteral("Controle NBB-spelers op ontbrekende NBBnrs en M/V"));
     setSizeGripEnabled(true);
-    Frame2 = new QFrame(this);
-    Noem(Frame2, QStringLiteral("Frame2"));
-    Frame2->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    P1 = new Controlevlak(kast_, maten_, Frame2);
-    VScroll1 = new QScrollBar(Qt::Vertical, Frame2);
-    Noem(VScroll1, QStringLiteral("VScroll1"), QStringLiteral("Regels verschuiven"));
-    VScroll1->setAttribute(Qt::WA_NoMousePropagation); // a wheel at its end must not come back
+    Frame2 = new Schuifkader(QStringLiteral("Frame2"), maten_, this);
+    P1 = new Controlevlak(kast_, maten_, *Frame2, Frame2);
+    Frame2->Bevat(P1);
+    Frame2->Liggend().hide(); // what is too wide goes on below
     lblAantal = MaakLabel(QStringLiteral("lblAantal"), QString(), this);
     chkSort = new QCheckBox(MetSneltoets(QStringLiteral("Sorteer op naam"), u'S'), this);
     Noem(chkSort, QStringLiteral("chkSort"));
@@ -126,7 +150,7 @@ void diaControleNBB::Bouw()
     const QMargins marges = lagen->contentsMargins();
     const QSize lijst = P1->Maat(TekensBijOpenen, RijenBijOpenen);
     const int rand = 2 * Frame2->frameWidth();
-    const int balk = maten_.Twips(BalkBreed);
+    const int balk = Frame2->Staand().width();
     PasInScherm(this, {lijst.width() + balk + rand + marges.left() + marges.right(),
                        lijst.height() + rand + marges.top() + marges.bottom() + lagen->spacing() +
                            cmdPrint->sizeHint().height()});
@@ -136,10 +160,11 @@ void diaControleNBB::Bouw()
 
 void diaControleNBB::Verbind()
 {
-    connect(VScroll1, &QScrollBar::valueChanged, P1, [this](int rij) { P1->Schuif(rij); });
+    connect(P1, &Controlevlak::geschaald, this, &diaControleNBB::Teken);
     connect(chkSort, &QCheckBox::clicked, this, [this] {
-        VScroll1->setValue(0);
+        Frame2->Staand().setValue(0);
         Teken();
+        P1->KiesRegel(std::min(1, P1->Regels()));
     });
     connect(cmdPrint, &QPushButton::clicked, this, &diaControleNBB::Print);
     connect(cmdTerug, &QPushButton::clicked, this, &QDialog::accept);
@@ -241,37 +266,11 @@ void diaControleNBB::Teken()
     P1->Toon(rijen_.get());
     lblAantal->setText(QStringLiteral("Aantal leden: %1").arg(lstN9.size()));
     cmdPrint->setEnabled(!lstN9.empty());
-    ZetSchuifbalk();
-}
-
-void diaControleNBB::ZetSchuifbalk()
-{
-    const int zichtbaar = P1->ZichtbareRijen();
-    const int over = std::max(0, static_cast<int>(rijen_->Aantal()) - zichtbaar);
-    VScroll1->setRange(0, over);
-    VScroll1->setPageStep(std::max(1, zichtbaar - 1));
-    VScroll1->setEnabled(over > 0);
-}
-
-void diaControleNBB::resizeEvent(QResizeEvent* gebeurtenis)
-{
-    QDialog::resizeEvent(gebeurtenis);
-    layout()->activate();
-    const QRect binnen = Frame2->contentsRect();
-    const int balk = maten_.Twips(BalkBreed);
-    P1->setGeometry(binnen.adjusted(0, 0, -balk, 0));
-    VScroll1->setGeometry(binnen.right() + 1 - balk, binnen.top(), balk, binnen.height());
-    Teken();
-}
-
-void diaControleNBB::wheelEvent(QWheelEvent* gebeurtenis)
-{
-    QApplication::sendEvent(VScroll1, gebeurtenis);
 }
 
 void diaControleNBB::keyPressEvent(QKeyEvent* gebeurtenis)
 {
-    if (!Verschuif(*VScroll1, gebeurtenis->key()))
+    if (!P1->LeesMet(gebeurtenis->key()))
         QDialog::keyPressEvent(gebeurtenis);
 }
 

@@ -4,42 +4,59 @@
 
 #include <QCheckBox>
 #include <QDialog>
-#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollBar>
 
 #include "federation/controlelijst.h"
 #include "federation/ledenbestand.h"
 #include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/tabelvlak.h"
 #include "register/administratie.h"
 
 namespace plexoran {
 
-/// The surface `P1`: the heading, and the rows from one on as far as they are seen.
-class Controlevlak : public QWidget {
+/// The surface `P1`: the heading, and the rows from one on as far as they are seen. A unit of the
+/// standing bar is a row.
+class Controlevlak : public Tabelvlak {
+    Q_OBJECT
+
   public:
-    Controlevlak(const Letterkast& kast, const Maten& maten, QWidget* ouder);
+    Controlevlak(const Letterkast& kast, const Maten& maten, const Schuifkader& kader,
+                 QWidget* ouder);
+
+    [[nodiscard]] int Regels() const override
+    {
+        return rijen_ == nullptr ? 0 : static_cast<int>(rijen_->Aantal());
+    }
+    [[nodiscard]] int Kolommen() const override { return AantalControlekolommen; }
+    [[nodiscard]] QString Celtekst(int regel, int kolom) const override;
+    [[nodiscard]] double Boven(int regel) const override;
+    [[nodiscard]] double Links(int kolom) const override;
+    [[nodiscard]] double Koponder() const override;
 
     /// Borrows the rows, until others come.
     void Toon(const Controlerijen* rijen);
-    /// The row on top, counted from 0.
-    void Schuif(int rij);
-    /// How many characters are seen beside each other, and how many rows below each other whole.
+    /// How many characters are seen beside each other.
     [[nodiscard]] std::size_t Breedte() const;
-    [[nodiscard]] int ZichtbareRijen() const;
     /// The size at which so many characters and rows are seen.
     [[nodiscard]] QSize Maat(int tekens, int rijen) const;
 
+  signals:
+    /// Other rows may fit.
+    void geschaald();
+
   protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
+    void resizeEvent(QResizeEvent* gebeurtenis) override;
 
   private:
+    /// How many rows are seen below each other whole.
+    [[nodiscard]] int ZichtbareRijen() const;
+
     const Letterkast& kast_;
     double pixelsPerMm_;
     const Controlerijen* rijen_ = nullptr;
-    int eerste_ = 0;
 };
 
 class diaControleNBB : public QDialog {
@@ -51,8 +68,6 @@ class diaControleNBB : public QDialog {
                    const std::vector<Tekst>& namen, QWidget* ouder);
 
   protected:
-    void resizeEvent(QResizeEvent* gebeurtenis) override;
-    void wheelEvent(QWheelEvent* gebeurtenis) override;
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
 
   private:
@@ -64,7 +79,6 @@ class diaControleNBB : public QDialog {
     [[nodiscard]] Controlerijen Rijen(std::size_t breedte) const;
     void Teken();
     void Print();
-    void ZetSchuifbalk();
 
     Administratie& administratie_;
     Maten maten_;
@@ -73,11 +87,10 @@ class diaControleNBB : public QDialog {
     std::vector<std::size_t> opNaam_; ///< made when it is first asked for
     std::unique_ptr<Controlerijen> rijen_;
 
-    QFrame* Frame2 = nullptr;
+    Schuifkader* Frame2 = nullptr;
     QLabel* lblAantal = nullptr;
     QCheckBox* chkSort = nullptr;
     Controlevlak* P1 = nullptr;
-    QScrollBar* VScroll1 = nullptr;
     QPushButton* cmdPrint = nullptr;
     QPushButton* cmdTerug = nullptr;
 };

@@ -99,7 +99,8 @@ class frmLedenAdmin : public QMainWindow {
     void OnderhoudParen();
     void ToonToelichting();
     void Print();
-    [[nodiscard]] bool VraagVerwijderen(const QString& vraag);
+    [[nodiscard]] bool VraagVerwijderen(const QString& vraag, int van, int tot);
+    [[nodiscard]] QString NoemSpelers(int van, int tot) const;
     [[nodiscard]] bool IsRegelGekozen();
 
     // Lists (frmLedenAdmin_lijsten.cpp)
@@ -125,6 +126,7 @@ class frmLedenAdmin : public QMainWindow {
     bool nietOpgeslagen_ = false;          ///< the table holds changes that the file lacks
     bool instellingenfoutGemeld_ = false;  ///< told once, not at every change of group
     bool opstarten_ = false;               ///< keeps `chkKolBr` from redrawing
+    int gewisseld_ = -1;                   ///< the group that a pick has shown already
 
     Rooster* picP0;
     QLabel* lblToel;

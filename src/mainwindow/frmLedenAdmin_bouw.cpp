@@ -80,7 +80,8 @@ void frmLedenAdmin::MaakKnoppen()
     cmdHaalNBBnamen = knop(u"cmdHaalNBBnamen", u"Importeer NBB-spelers", u'I');
     cmdKoppel = knop(u"cmdKoppel", u"Koppel zwevende NBB-speler", u'l');
     cmdParenOnderhoud = knop(u"cmdParenOnderhoud", u"Paren-onderhoud", u'u');
-    cmdPrint = knop(u"cmdPrint", u"Printen...", u'P');
+    cmdPrint = new Kortknop(MetSneltoets(QStringLiteral("Printen..."), u'P'), this);
+    Noem(cmdPrint, QStringLiteral("cmdPrint"));
     cmdToelichting = knop(u"cmdToelichting", u"Toelichting", u'c');
     cmdToonGatenlijst = knop(u"cmdToonGatenlijst", u"Toon vrije NBB-nummers", u'T');
     cmdMaakScripts = knop(u"cmdMaakScripts", u"MaakScripts ...", u'M');
@@ -254,7 +255,15 @@ void frmLedenAdmin::StelTabvolgordeIn()
 
 void frmLedenAdmin::Verbind()
 {
-    connect(cmbGr, &QComboBox::currentIndexChanged, this, &frmLedenAdmin::ToonGroep);
+    connect(cmbGr, &QComboBox::currentIndexChanged, this, [this](int plaats) {
+        ToonGroep();
+        gewisseld_ = plaats;
+    });
+    // Picking the group that is shown displays it anew.
+    connect(cmbGr, &QComboBox::activated, this, [this](int plaats) {
+        if (std::exchange(gewisseld_, -1) != plaats)
+            ToonGroep();
+    });
     connect(chkKolBr, &QCheckBox::toggled, this, [this](bool aan) {
         if (!opstarten_)
             picP0->ZetBreedteregel(aan ? Breedteregel::VolgensHeader

@@ -78,19 +78,13 @@ void frmLedenAdmin::ToonSorteerlijst(Sorteersoort soort)
 void frmLedenAdmin::MeldGeenGetal(Sorteersoort soort, const GeenGetal& fout)
 {
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    Tekst naam;
-    for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam}) {
-        if (!naam.empty() && !tabel.Cel(fout.rij, kolom).empty())
-            naam += ' ';
-        naam += tabel.Cel(fout.rij, kolom);
-    }
     Meld(this, QMessageBox::Warning,
          QStringLiteral("De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De "
                         "gegevens zijn niet veranderd. Verbeter dat %5.")
              .arg(soort == Sorteersoort::Key ? QStringLiteral("de sleutel")
                                              : QStringLiteral("het NBB-nummer"),
-                  NaarQString(naam), NaarQString(tabel.Cel(fout.rij, Kolom::Groep)),
-                  NaarQString(fout.waarde),
+                  NaarQString(VolleNaam(tabel, fout.rij)),
+                  NaarQString(tabel.Cel(fout.rij, Kolom::Groep)), NaarQString(fout.waarde),
                   soort == Sorteersoort::Key ? QStringLiteral("in het spelerbestand")
                                              : QStringLiteral("bij deze speler")));
 }

@@ -11,6 +11,7 @@
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
 #include "printing/frmPrintIni.h"
 #include "sessions/frmKoppelNBBnr.h"
 
@@ -67,8 +68,9 @@ void frmLedenAdmin::Wijzig()
     ToonGroep();
 }
 
-/// `vraag` names the lines; the warning is the same for one line and for many.
-bool frmLedenAdmin::VraagVerwijderen(const QString& vraag)
+/// `vraag` names the lines; the warning is the same for one line and for many. Below it stand the
+/// players.
+bool frmLedenAdmin::VraagVerwijderen(const QString& vraag, int van, int tot)
 {
     const QStringList regels{
         QStringLiteral("\t\tLET OP!"),
@@ -85,7 +87,28 @@ bool frmLedenAdmin::VraagVerwijderen(const QString& vraag)
     };
     return Vraag(this, QMessageBox::Information,
                  regels.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"),
-                 QStringLiteral("Verwijderen"));
+                 QStringLiteral("Verwijderen"), NoemSpelers(van, tot));
+}
+
+/// The players on these lines: how many, and who the first ten are.
+QString frmLedenAdmin::NoemSpelers(int van, int tot) const
+{
+    constexpr int meeste = 10;
+    const int breedste = maten_.Twips(6000);
+    const auto spelers = [](int aantal) {
+        return Aantal(static_cast<std::size_t>(aantal), QStringLiteral("speler"),
+                      QStringLiteral("spelers"));
+    };
+    const int aantal = tot - van + 1;
+    QStringList regels{spelers(aantal) + QLatin1Char(':')};
+    for (int regel = van; regel <= tot && regel < van + meeste; ++regel) {
+        const int rij = picP0->GetoondeRijen()[static_cast<std::size_t>(regel - 1)];
+        regels << fontMetrics().elidedText(
+            NaarQString(VolleNaam(administratie_.spelers.tabel, rij)), Qt::ElideRight, breedste);
+    }
+    if (aantal > meeste)
+        regels << QStringLiteral("en nog %1").arg(spelers(aantal - meeste));
+    return regels.join(QLatin1Char('\n'));
 }
 
 void frmLedenAdmin::VerwijderGekozen()
@@ -94,7 +117,8 @@ void frmLedenAdmin::VerwijderGekozen()
         return;
     const int regel = picP0->Regel();
     if (!VraagVerwijderen(
-            QStringLiteral("Weet u zeker dat u regel %1 wilt verwijderen?").arg(regel)))
+            QStringLiteral("Weet u zeker dat u regel %1 wilt verwijderen?").arg(regel), regel,
+            regel))
         return;
     VerwijderRij(administratie_.spelers.tabel, picP0->GetoondeRijen(), regel);
     const Opslag opslag = SlaOp();
@@ -119,7 +143,8 @@ void frmLedenAdmin::VerwijderVanTot()
     if (!VraagVerwijderen(QStringLiteral("Weet u zeker dat u regel %1 t/m regel %2 wilt "
                                          "verwijderen?")
                               .arg(van)
-                              .arg(tot)))
+                              .arg(tot),
+                          van, tot))
         return;
     const int groep = cmbGr->currentIndex();
     VerwijderRijen(administratie_.spelers.tabel, picP0->GetoondeRijen(), van, tot);

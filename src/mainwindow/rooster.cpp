@@ -1,11 +1,6 @@
 #include "mainwindow/rooster.h"
 
-#include <QApplication>
-#include <QWheelEvent>
-
-#include <algorithm>
-#include <cmath>
-
+#include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/maten.h"
 #include "platform/scherm/meter.h"
 #include "platform/scherm/tekstbrug.h"
@@ -13,7 +8,6 @@
 namespace plexoran {
 namespace {
 
-constexpr int BalkdikteTwips = 280;
 constexpr int VrijNaastVlakTwips = 220;
 constexpr double Letterpunten = 9.0;
 constexpr int KleinsteAantalRegels = 4; // that stay in sight however small the window
@@ -21,23 +15,19 @@ constexpr int KleinsteAantalRegels = 4; // that stay in sight however small the 
 } // namespace
 
 Rooster::Rooster(const Maten& maten, QWidget* ouder)
-    : QFrame(ouder), balkdikte_(maten.Twips(BalkdikteTwips)),
-      naastVlak_(maten.Twips(VrijNaastVlakTwips)), pixelsPerMm_(maten.PixelsPerMm()),
-      P1(new Roostervlak(inhoud_, pixelsPerMm_, this)), P9(new QWidget(this)), P2(new QWidget(P9)),
-      HScroll1(new QScrollBar(Qt::Horizontal, this)), VScroll1(new QScrollBar(Qt::Vertical, this))
+    : Schuifkader(QStringLiteral("picP0"), maten, ouder), pixelsPerMm_(maten.PixelsPerMm()),
+      P1(new Roostervlak(inhoud_, pixelsPerMm_, *this, this)), P9(new QWidget(this)),
+      P2(new QWidget(P9))
 {
-    Noem(this, QStringLiteral("picP0"));
-    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     const QFont letter = Roosterletter(maten.Letter(Letterpunten).pixelSize());
     inhoud_.meter = MaakMeter(letter, pixelsPerMm_);
     P1->setFont(letter);
     BouwHeader(letter);
-    BouwSchuifbalken();
-    setMinimumHeight(qRound(OnderkantVan(KleinsteAantalRegels) * pixelsPerMm_) + balkdikte_);
-    connect(P1, &Roostervlak::regelGekozen, this, &Rooster::BrengInBeeld);
-    connect(P1, &Roostervlak::opzij, this, [this](int stappen) {
-        HScroll1->setValue(HScroll1->value() + stappen * HScroll1->singleStep());
-    });
+    const int naast = maten.Twips(VrijNaastVlakTwips) - 2 * frameWidth();
+    Bevat(P1, naast / 2, naast - naast / 2);
+    setMinimumHeight(qRound(OnderkantVan(KleinsteAantalRegels) * pixelsPerMm_) +
+                     Liggend().height());
+    connect(&Liggend(), &QScrollBar::valueChanged, P2, [this](int links) { P2->move(-links, 0); });
     connect(P1, &Roostervlak::wijzigGevraagd, this, &Rooster::wijzigGevraagd);
     connect(P1, &Roostervlak::verwijderGevraagd, this, &Rooster::verwijderGevraagd);
 }
@@ -48,26 +38,12 @@ void Rooster::BouwHeader(const QFont& letter)
     Noem(P2, QStringLiteral("P2"));
     P9->setAutoFillBackground(true);
     for (std::size_t i = 0; i < cmd.size(); ++i) {
-        cmd[i] = new QPushButton(P2);
+        cmd[i] = new Kortknop(P2);
         Noem(cmd[i], QStringLiteral("cmd_%1").arg(i + 1));
         cmd[i]->setFont(letter);
         cmd[i]->setFocusPolicy(Qt::NoFocus);
         connect(cmd[i], &QPushButton::clicked, P1, &Roostervlak::VerbergLijnen);
     }
-}
-
-void Rooster::BouwSchuifbalken()
-{
-    Noem(HScroll1, QStringLiteral("HScroll1"), QStringLiteral("Kolommen verschuiven"));
-    Noem(VScroll1, QStringLiteral("VScroll1"), QStringLiteral("Regels verschuiven"));
-    for (QScrollBar* balk : {HScroll1, VScroll1})
-        balk->setAttribute(Qt::WA_NoMousePropagation); // a wheel at its end must not come back here
-    const auto schuif = [this] {
-        P1->Schuif({HScroll1->value(), VScroll1->value()});
-        P2->move(-HScroll1->value(), 0);
-    };
-    connect(HScroll1, &QScrollBar::valueChanged, this, schuif);
-    connect(VScroll1, &QScrollBar::valueChanged, this, schuif);
 }
 
 void Rooster::Toon(const Spelertabel& tabel, Weergave weergave, const Kolommaten& celmaten,
@@ -76,25 +52,36 @@ void Rooster::Toon(const Spelertabel& tabel, Weergave weergave, const Kolommaten
     inhoud_.tabel = &tabel;
     inhoud_.weergave = std::move(weergave);
     inhoud_.kolomnamen = kolomnamen;
-    inhoud_.celmaten = celmaten;
-    for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
+    for (std::size_t i = 0; i < kolomnamen.size(); ++i)
         inhoud_.headermaten[i] = inhoud_.meter.Breedte(kolomnamen[i]);
-        if (kolomnamen[i].empty())
-            inhoud_.celmaten[i] = 0;
-    }
     P1->KiesRegel(0);
-    PasKolommenAan();
+    const bool eersteKeer = inhoud_.randen.back() == 0;
+    if (inhoud_.Regels() > 0 || eersteKeer) { // an empty group leaves the widths alone
+        inhoud_.celmaten = celmaten;
+        for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
+            if (kolomnamen[i].empty())
+                inhoud_.celmaten[i] = 0;
+        }
+        BerekenKolommen();
+    }
+    PlaatsKolommen();
+    P1->MeldAndereRegels();
 }
 
 void Rooster::ZetBreedteregel(Breedteregel regel)
 {
     breedteregel_ = regel;
-    PasKolommenAan();
+    BerekenKolommen();
+    PlaatsKolommen();
 }
 
-void Rooster::PasKolommenAan()
+void Rooster::BerekenKolommen()
 {
     inhoud_.randen = MaakKolommen(inhoud_.celmaten, inhoud_.headermaten, breedteregel_);
+}
+
+void Rooster::PlaatsKolommen()
+{
     const int hoogte = P9->height();
     for (std::size_t i = 0; i < cmd.size(); ++i) {
         const QString naam = NaarQString(inhoud_.kolomnamen[i]);
@@ -102,69 +89,30 @@ void Rooster::PasKolommenAan()
         const int rechts = qRound(inhoud_.randen[i + 1] * pixelsPerMm_);
         cmd[i]->setText(naam);
         cmd[i]->setToolTip(naam);
+        cmd[i]->setAccessibleName(naam.isEmpty() ? QStringLiteral("Kolom %1").arg(i + 1) : naam);
         cmd[i]->setGeometry(links, 0, rechts - links, hoogte);
     }
     P2->resize(P1->Vlakmaat().width(), hoogte);
     StelSchuifbalkenIn();
-    P1->Schuif({HScroll1->value(), VScroll1->value()});
-}
-
-void Rooster::NaarBoven()
-{
-    VScroll1->setValue(0);
-}
-
-void Rooster::BrengInBeeld(int regel)
-{
-    if (regel < 1)
-        return;
-    // The header covers the top of the surface for as high as the room above the first line.
-    const int boven =
-        static_cast<int>(std::floor((BovenkantVan(regel) - rooster::Bovenmarge) * pixelsPerMm_));
-    const int onder = static_cast<int>(std::ceil(OnderkantVan(regel) * pixelsPerMm_)) + 1;
-    if (boven < VScroll1->value())
-        VScroll1->setValue(boven);
-    else if (onder > VScroll1->value() + P1->height())
-        VScroll1->setValue(onder - P1->height());
+    P1->PlaatsLijnen();
+    P1->update();
 }
 
 void Rooster::resizeEvent(QResizeEvent* gebeurtenis)
 {
-    QFrame::resizeEvent(gebeurtenis);
-    PlaatsDelen();
-}
-
-void Rooster::PlaatsDelen()
-{
-    const int rand = frameWidth();
-    const int breedte = width() - naastVlak_ - balkdikte_;
-    const int links = naastVlak_ / 2;
-    const int hoogte = height() - 2 * rand - balkdikte_;
-    P1->setGeometry(links, rand, breedte, hoogte);
-    P9->setGeometry(links, rand, breedte, qRound(rooster::Bovenmarge * pixelsPerMm_));
+    Schuifkader::resizeEvent(gebeurtenis);
+    P9->setGeometry(P1->x(), P1->y(), P1->width(), qRound(rooster::Bovenmarge * pixelsPerMm_));
     P9->raise();
-    VScroll1->setGeometry(links + breedte, rand, balkdikte_, hoogte);
-    HScroll1->setGeometry(links, rand + hoogte, breedte, balkdikte_);
-    PasKolommenAan();
+    PlaatsKolommen();
 }
 
 void Rooster::StelSchuifbalkenIn()
 {
     const QSize vlak = P1->Vlakmaat();
-    const int header = P9->height();
-    HScroll1->setRange(0, std::max(0, vlak.width() - P1->width()));
-    HScroll1->setPageStep(std::max(1, P1->width()));
-    HScroll1->setSingleStep(qRound(rooster::SmalsteKolom * pixelsPerMm_));
-    VScroll1->setRange(0, std::max(0, vlak.height() - P1->height()));
-    VScroll1->setPageStep(std::max(1, P1->height() - header));
-    VScroll1->setSingleStep(qRound(rooster::Regelhoogte * pixelsPerMm_));
-}
-
-void Rooster::wheelEvent(QWheelEvent* gebeurtenis)
-{
-    const QPoint hoek = gebeurtenis->angleDelta();
-    const bool opzij = std::abs(hoek.x()) > std::abs(hoek.y());
-    QApplication::sendEvent(opzij ? HScroll1 : VScroll1, gebeurtenis);
+    Stel(Liggend(), vlak.width(), P1->width(), P1->width(),
+         qRound(rooster::SmalsteKolom * pixelsPerMm_));
+    Stel(Staand(), vlak.height(), P1->height(), P1->height() - P9->height(),
+         qRound(rooster::Regelhoogte * pixelsPerMm_));
 }
 
 } // namespace plexoran

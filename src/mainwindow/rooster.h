@@ -1,9 +1,7 @@
 // The grid in its frame, `picP0`: header buttons, rows and both scroll bars.
 #pragma once
 
-#include <QFrame>
 #include <QPushButton>
-#include <QScrollBar>
 
 #include <memory>
 
@@ -13,7 +11,7 @@ namespace plexoran {
 
 class Maten;
 
-class Rooster : public QFrame {
+class Rooster : public Schuifkader {
     Q_OBJECT
 
   public:
@@ -24,8 +22,8 @@ class Rooster : public QFrame {
     void Toon(const Spelertabel& tabel, Weergave weergave, const Kolommaten& celmaten,
               const std::array<Tekstblik, AantalKolommen>& kolomnamen);
     void ZetBreedteregel(Breedteregel regel);
-    void NaarBoven();
-    void BrengInBeeld(int regel);
+    void NaarBoven() { Staand().setValue(0); }
+    void BrengInBeeld(int regel) { P1->BrengInBeeld(regel); }
 
     /// The widths in the font of the grid.
     [[nodiscard]] const Tekstmeter& Meter() const { return inhoud_.meter; }
@@ -42,25 +40,19 @@ class Rooster : public QFrame {
 
   protected:
     void resizeEvent(QResizeEvent* gebeurtenis) override;
-    void wheelEvent(QWheelEvent* gebeurtenis) override;
 
   private:
     void BouwHeader(const QFont& letter);
-    void BouwSchuifbalken();
-    void PasKolommenAan();
-    void PlaatsDelen();
+    void BerekenKolommen();
+    void PlaatsKolommen();
     void StelSchuifbalkenIn();
 
-    int balkdikte_;
-    int naastVlak_; ///< pixels of the frame that stay free beside the rows
     double pixelsPerMm_;
     Breedteregel breedteregel_ = Breedteregel::VolgensHeader;
     Roosterinhoud inhoud_;
     Roostervlak* P1;
     QWidget* P9; ///< clips the header
     QWidget* P2; ///< carries the header buttons
-    QScrollBar* HScroll1;
-    QScrollBar* VScroll1;
     std::array<QPushButton*, AantalKolommen> cmd{};
 };
 

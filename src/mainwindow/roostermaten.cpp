@@ -11,12 +11,6 @@ constexpr Tekstblik puntjes = "...";
 
 } // namespace
 
-int RegelOp(double y, int regels)
-{
-    const double regel = std::floor((y - rooster::Bovenmarge) / rooster::Regelhoogte) + 1;
-    return regel < 1 || regel > regels ? 0 : static_cast<int>(regel);
-}
-
 double BovenkantVan(int regel)
 {
     return (regel - 1) * rooster::Regelhoogte + rooster::Bovenmarge;

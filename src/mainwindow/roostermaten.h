@@ -15,8 +15,6 @@ inline constexpr double Speling = 0.6;    ///< kept free in a cell besides its p
 inline constexpr double SmalsteKolom = 10.0;
 } // namespace rooster
 
-/// The line at a height: 0 above the first line and below the last of `regels` lines.
-[[nodiscard]] int RegelOp(double y, int regels);
 [[nodiscard]] double BovenkantVan(int regel);
 [[nodiscard]] double OnderkantVan(int regel);
 /// Height of the surface that holds `regels` lines.

@@ -6,6 +6,7 @@
 
 #include "mainwindow/roostermaten.h"
 #include "mainwindow/weergave.h"
+#include "platform/scherm/tabelvlak.h"
 
 namespace plexoran {
 
@@ -21,61 +22,61 @@ struct Roosterinhoud {
 
     [[nodiscard]] int Regels() const { return static_cast<int>(weergave.size()); }
 
-    /// The text of a cell as the grid shows it: a column without a name shows nothing.
-    [[nodiscard]] Tekstblik Cel(int rij, std::size_t kolom) const
+    /// The text of a cell as the grid shows it, by its line: a column without a name shows nothing.
+    [[nodiscard]] Tekstblik Cel(int regel, std::size_t kolom) const
     {
-        return kolomnamen[kolom].empty() ? Tekstblik()
-                                         : tabel->Cel(rij, static_cast<Kolom>(kolom + 1));
+        const int rij = weergave[static_cast<std::size_t>(regel - 1)];
+        return rij > tabel->Rijen() || kolomnamen[kolom].empty()
+                   ? Tekstblik()
+                   : tabel->Cel(rij, static_cast<Kolom>(kolom + 1));
     }
 };
 
-class Roostervlak : public QWidget {
+class Roostervlak : public Tabelvlak {
     Q_OBJECT
 
   public:
-    Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, QWidget* ouder);
+    Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, const Schuifkader& kader,
+                QWidget* ouder);
 
-    /// Where the visible part begins on the surface, in pixels.
-    void Schuif(QPoint begin);
-    /// The selected line, 0 for none.
-    [[nodiscard]] int Regel() const { return regel_; }
-    void KiesRegel(int regel);
+    [[nodiscard]] int Regels() const override { return inhoud_.Regels(); }
+    [[nodiscard]] int Kolommen() const override { return AantalKolommen; }
+    [[nodiscard]] QString Celtekst(int regel, int kolom) const override;
+    [[nodiscard]] double Boven(int regel) const override { return Y(BovenkantVan(regel)); }
+    [[nodiscard]] double Links(int kolom) const override
+    {
+        return X(inhoud_.randen[static_cast<std::size_t>(kolom)]);
+    }
+    [[nodiscard]] double Koponder() const override { return rooster::Bovenmarge * pixelsPerMm_; }
+    void KiesRegel(int regel) override;
+
     /// Hides the guide lines; the selection stays.
     void VerbergLijnen();
-
+    /// Puts the guide lines where the selected line is now.
+    void PlaatsLijnen();
+    /// Of all lines and columns.
     [[nodiscard]] QSize Vlakmaat() const;
 
   signals:
-    void regelGekozen(int regel);
     void wijzigGevraagd();
     void verwijderGevraagd();
-    /// Left and right: -1 or 1 step sideways.
-    void opzij(int stappen);
 
   protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
-    void mousePressEvent(QMouseEvent* gebeurtenis) override;
     void mouseDoubleClickEvent(QMouseEvent* gebeurtenis) override;
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
-    void focusInEvent(QFocusEvent* gebeurtenis) override;
-    void focusOutEvent(QFocusEvent* gebeurtenis) override;
 
   private:
-    [[nodiscard]] double X(double mm) const { return mm * pixelsPerMm_ - begin_.x(); }
-    [[nodiscard]] double Y(double mm) const { return mm * pixelsPerMm_ - begin_.y(); }
-    [[nodiscard]] int RegelOnder(QPointF plek) const;
-    [[nodiscard]] int RegelsPerBladzij() const;
-    [[nodiscard]] int Doelregel(int toets) const;
+    [[nodiscard]] double X(double mm) const
+    {
+        return mm * pixelsPerMm_ - Kader().Liggend().value();
+    }
+    [[nodiscard]] double Y(double mm) const { return mm * pixelsPerMm_ - Kader().Staand().value(); }
     void TekenRasters(QPainter& schilder, int eerste, int laatste) const;
     void TekenTeksten(QPainter& schilder, int regel, double links, double rechts) const;
-    void PlaatsLijnen();
-    void SpreekRegel();
 
     const Roosterinhoud& inhoud_;
     double pixelsPerMm_;
-    QPoint begin_;
-    int regel_ = 0;
-    int laatsteRegel_ = 0; ///< where the arrows go on after a redisplay
     bool lijnenZichtbaar_ = false;
     QFrame* Line1;
     QFrame* Line2;

@@ -192,4 +192,16 @@ std::size_t Spelertabel::Geheugen() const
            rijen_.capacity() * sizeof(Celgrenzen);
 }
 
+Tekst VolleNaam(const Spelertabel& tabel, int rij)
+{
+    Tekst naam;
+    for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam}) {
+        const Tekstblik deel = tabel.Cel(rij, kolom);
+        if (!naam.empty() && !deel.empty())
+            naam += ' ';
+        naam += deel;
+    }
+    return naam;
+}
+
 } // namespace plexoran

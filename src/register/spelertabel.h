@@ -142,4 +142,7 @@ class Spelertabel {
     Tweedelig<std::vector<Celgrenzen>> rijen_;
 };
 
+/// First name, particle and last name, as far as they are there.
+[[nodiscard]] Tekst VolleNaam(const Spelertabel& tabel, int rij);
+
 } // namespace plexoran

@@ -71,5 +71,28 @@ TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
     }
 }
 
+/// What is too long for a box keeps the icon that the box would have.
+TEST(MeldLijst, EenLangeTekstHoudtZijnIcoon)
+{
+    for (const auto icoon : {QMessageBox::Warning, QMessageBox::Information}) {
+        QImage verwacht = QMessageBox(icoon, {}, {}).iconPixmap().toImage();
+        bool gezien = false;
+        QTimer::singleShot(0, qApp, [&] {
+            QWidget* dialoog = QApplication::activeModalWidget();
+            ASSERT_NE(nullptr, dialoog);
+            EXPECT_EQ("frmBericht", dialoog->objectName());
+            const auto* label = dialoog->findChild<QLabel*>(QStringLiteral("lblIcoon"));
+            gezien =
+                label != nullptr && label->isVisible() && label->pixmap().toImage() == verwacht;
+            dialoog->close();
+        });
+        QWidget ouder;
+        MeldLijst(&ouder, icoon, QStringLiteral("regel\n").repeated(40));
+        EXPECT_TRUE(gezien) << icoon;
+    }
+    EXPECT_NE(QMessageBox(QMessageBox::Warning, {}, {}).iconPixmap().toImage(),
+              QMessageBox(QMessageBox::Information, {}, {}).iconPixmap().toImage());
+}
+
 } // namespace
 } // namespace plexoran

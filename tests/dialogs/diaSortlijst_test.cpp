@@ -1,5 +1,6 @@
 #include "dialogs/diaSortlijst.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QScreen>
 #include <QWheelEvent>
@@ -410,6 +411,76 @@ TEST_F(diaSortlijstTest, HonderdduizendRegelsAlleenWatTeZienIs)
     QApplication::processEvents();
     EXPECT_LT(vragen, 500);
     EXPECT_TRUE(gevraagd.count(99'999));
+}
+
+/// Of a large list only the cells that somebody asks for come into being.
+TEST_F(diaSortlijstTest, IsEenTabelVoorWieNietKijkt)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(100'000));
+    QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(P1());
+    ASSERT_EQ(QAccessible::Table, vlak->role());
+    QAccessibleTableInterface* tabel = vlak->tableInterface();
+    EXPECT_EQ(100'000, tabel->rowCount());
+    EXPECT_EQ(6, tabel->columnCount());
+    vragen = 0;
+    for (int rij = 0; rij < tabel->rowCount(); rij += 100)
+        ASSERT_EQ("van der", tabel->cellAt(rij, 2)->text(QAccessible::Name).toStdString());
+    EXPECT_EQ(1000, vragen);
+    EXPECT_EQ("Subgroep", tabel->columnDescription(4).toStdString());
+    EXPECT_EQ("12345678", tabel->cellAt(7, 5)->text(QAccessible::Name).toStdString());
+    EXPECT_EQ("Regel 1, Key 100001, Voornaam An, Tus van der, Achternaam Bos, Subgroep A-lijn, "
+              "----- 12345678",
+              P1()->accessibleDescription().toStdString());
+}
+
+/// The chosen line goes along with what the keys scroll, and stays in sight.
+TEST_F(diaSortlijstTest, DeToetsenKiezenEenRegel)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(P1());
+    const auto gekozen = [&] { return vlak->tableInterface()->selectedRows().value(0, -1); };
+    const auto inBeeld = [&] {
+        return P1()->rect().contains(dynamic_cast<Tabelvlak*>(P1())->Plek(gekozen() + 1, 0));
+    };
+    EXPECT_EQ(0, gekozen());
+    for (int i = 1; i < 200; ++i) {
+        QTest::keyClick(P1(), Qt::Key_Down);
+        ASSERT_EQ(i, gekozen());
+        ASSERT_TRUE(inBeeld()) << i;
+    }
+    QTest::keyClick(P1(), Qt::Key_Down);
+    EXPECT_EQ(199, gekozen());
+    QTest::keyClick(P1(), Qt::Key_PageUp);
+    EXPECT_LT(gekozen(), 195);
+    EXPECT_TRUE(inBeeld());
+    QTest::keyClick(P1(), Qt::Key_Home);
+    EXPECT_EQ(0, gekozen());
+    EXPECT_TRUE(inBeeld());
+    QTest::mouseClick(P1(), Qt::LeftButton, {},
+                      dynamic_cast<Tabelvlak*>(P1())->Plek(4, 3).center());
+    EXPECT_EQ(3, gekozen());
+    EXPECT_EQ(0, Balk()->value());
+    // Where it was, after the bar was dragged away
+    Balk()->setValue(Balk()->maximum());
+    QTest::keyClick(P1(), Qt::Key_Down);
+    EXPECT_EQ(4, gekozen());
+    EXPECT_TRUE(inBeeld());
+}
+
+TEST_F(diaSortlijstTest, DeGekozenRegelHeeftEenKader)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
+    const auto* vlak = dynamic_cast<Tabelvlak*>(P1());
+    const QRect plek = vlak->Plek(2, 0);
+    const QColor kleur = P1()->palette().color(QPalette::Highlight);
+    QImage beeld(P1()->size(), QImage::Format_RGB32);
+    P1()->render(&beeld);
+    EXPECT_NE(kleur, beeld.pixelColor(plek.left() + 4, plek.top()));
+    QTest::keyClick(P1(), Qt::Key_Down);
+    QTest::keyClick(P1(), Qt::Key_Home);
+    QTest::mouseClick(P1(), Qt::LeftButton, {}, plek.center());
+    P1()->render(&beeld);
+    EXPECT_EQ(kleur, beeld.pixelColor(plek.left() + 4, plek.top()));
 }
 
 TEST_F(diaSortlijstTest, TerugEnterEnEscapeSluiten)

@@ -34,7 +34,31 @@ std::vector<Tekst> Rijen(const Controlerijen& rijen)
     return uit;
 }
 
+/// The four cells of each row.
+std::vector<Tekst> Cellen(const Controlerijen& rijen)
+{
+    std::vector<Tekst> uit;
+    for (std::size_t i = 0; i < rijen.Aantal(); ++i) {
+        Tekst& rij = uit.emplace_back();
+        for (std::size_t kolom = 0; kolom < AantalControlekolommen; ++kolom)
+            rij.append(rijen.Cel(i, kolom)).append("|");
+    }
+    return uit;
+}
+
 } // namespace
+
+TEST(Controlerijen, DeCellenVanElkeRij)
+{
+    const auto lijst = Lijst({Lid("An", "", "Bos", "M", "1"),
+                              Lid("Cor", "van der", "Dam", "Vrouwelijk", "1234567890123")});
+    EXPECT_EQ((std::vector<Tekst>{"1|M|Club|Bos, An|",
+                                  "1234567890123|Vrouwelijk|Club|Dam, Cor van der|"}),
+              Cellen({lijst, {}, 100}));
+    // What goes on below stands in the same column.
+    const auto smal = Lijst({Lid("Cor", "van der", "Dam", "V", "7")});
+    EXPECT_EQ((std::vector<Tekst>{"7|V|Club|Dam, Cor|", "|||van der|"}), Cellen({smal, {}, 41}));
+}
 
 TEST(Controleregel, VasteKolommenMetTweeSpatiesErtussen)
 {

@@ -1,5 +1,6 @@
 #include "federation/diaControleNBB.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QWheelEvent>
@@ -99,6 +100,36 @@ TEST_F(diaControleNBBTest, ElkLidVanElkBestandInHunVolgorde)
               "104 V Dinsdagavo Aap, Bea de",
               Geschilderd());
     EXPECT_EQ("Aantal leden: 4", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
+}
+
+TEST_F(diaControleNBBTest, IsEenTabelVoorWieNietKijkt)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenBeide());
+    QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(P1());
+    ASSERT_EQ(QAccessible::Table, vlak->role());
+    QAccessibleTableInterface* tabel = vlak->tableInterface();
+    ASSERT_EQ(4, tabel->rowCount());
+    ASSERT_EQ(4, tabel->columnCount());
+    const auto rij = [&](int nummer) {
+        QStringList cellen;
+        for (int kolom = 0; kolom < 4; ++kolom)
+            cellen << tabel->cellAt(nummer, kolom)->text(QAccessible::Name);
+        return cellen.join(QLatin1Char('|')).toStdString();
+    };
+    EXPECT_EQ("101|V|Club|Zee, Zus van", rij(0));
+    EXPECT_EQ("||Club|Bos, An", rij(1));
+    EXPECT_EQ("104|V|Dinsdagavo|Aap, Bea de", rij(3));
+    EXPECT_EQ("NBBgroep", tabel->columnDescription(2).toStdString());
+    EXPECT_EQ("Regel 1, NBBnr 101, M/V V, NBBgroep Club, Naam Zee, Zus van",
+              P1()->accessibleDescription().toStdString());
+    QTest::keyClick(P1(), Qt::Key_Down);
+    EXPECT_EQ(QList<int>{1}, tabel->selectedRows());
+    // The second line, in the column of the names
+    const QRect naam = tabel->cellAt(1, 3)->rect();
+    EXPECT_EQ(tabel->cellAt(1, 3), vlak->childAt(naam.center().x(), naam.center().y()));
+    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    EXPECT_EQ("104|V|Dinsdagavo|Aap, Bea de", rij(0));
+    EXPECT_EQ(QList<int>{0}, tabel->selectedRows());
 }
 
 TEST_F(diaControleNBBTest, GesorteerdOpNaamEnWeerTerug)

@@ -141,11 +141,12 @@ void Berichtwachter::Vergelijk(const QMessageBox& venster, const Bericht& berich
             Faal(wat + QStringLiteral(" is\n  \"") + is + QStringLiteral("\"\nen niet\n  \"") +
                  moet + QStringLiteral("\""));
     };
-    const QString tekst =
-        bericht.alleenBegin ? venster.text().left(bericht.tekst.size()) : venster.text();
-    gelijk(QStringLiteral("de tekst"), tekst, bericht.tekst);
+    const auto vergelijk = [&](const QString& wat, const QString& is, const QString& moet) {
+        gelijk(wat, bericht.alleenBegin ? is.left(moet.size()) : is, moet);
+    };
+    vergelijk(QStringLiteral("de tekst"), venster.text(), bericht.tekst);
+    vergelijk(QStringLiteral("de toelichting"), venster.informativeText(), bericht.toelichting);
     gelijk(QStringLiteral("de titel"), venster.windowTitle(), bericht.titel);
-    gelijk(QStringLiteral("de toelichting"), venster.informativeText(), QString());
     gelijk(QStringLiteral("de tekstsoort"), QString::number(venster.textFormat()),
            QString::number(Qt::PlainText));
     if (venster.icon() != bericht.icoon)

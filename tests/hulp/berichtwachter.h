@@ -24,6 +24,7 @@ struct Bericht {
     QString titel = QStringLiteral("Plexoran");
     QStringList knoppen{}; ///< all of them, left to right; not looked at when empty
     bool alleenBegin = false;
+    QString toelichting{}; ///< below the text
 };
 
 class Berichtwachter : public QObject {

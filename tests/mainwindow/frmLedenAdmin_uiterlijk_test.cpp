@@ -4,6 +4,7 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
 
 using namespace plexoran;
@@ -171,6 +172,23 @@ TEST_F(UiterlijkTest, EenHeelLangeGroepsnaamMaaktHetVensterNietBreder)
     ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
     EXPECT_EQ(1024, venster->width());
     EXPECT_LE(venster->minimumSizeHint().width(), 1024);
+}
+
+TEST_F(UiterlijkTest, VanEenLangOpschriftStaatHetBeginOpDeKnop)
+{
+    suite.Zet("Spelers/RVDGroepen.txt", "Gr01-" + std::string(3000, 'x') + "\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    QPushButton* knop = Knop("cmdPrint");
+    Tekstvanger vanger(knop->size());
+    knop->render(&vanger, {}, {}, QWidget::RenderFlags());
+    std::string getekend;
+    for (const Getekend& deel : vanger.Teksten()) {
+        EXPECT_GE(deel.x, 0);
+        EXPECT_LE(deel.x + deel.breed, knop->width());
+        getekend += deel.tekst;
+    }
+    EXPECT_EQ(0U, getekend.find("Print deze groep: Gr01-xxx")) << getekend;
+    EXPECT_EQ("Print deze groep: Gr01-" + std::string(3000, 'x') + " ...", Opschrift(knop));
 }
 
 TEST_F(UiterlijkTest, ElkeOpdrachtIsMetTabTeBereiken)

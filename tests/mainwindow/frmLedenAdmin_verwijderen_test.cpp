@@ -23,18 +23,20 @@ QString LetOp(const QString& vraag)
            vraag + QStringLiteral("\r\n\r\n");
 }
 
-Bericht Verwijdervraag(const QString& vraag, const QString& antwoord)
+Bericht Verwijdervraag(const QString& vraag, const QString& antwoord, const QString& spelers)
 {
     return {.tekst = LetOp(vraag),
             .antwoord = antwoord,
             .icoon = QMessageBox::Information,
             .titel = QStringLiteral("Verwijderen"),
-            .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+            .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")},
+            .toelichting = spelers};
 }
 
 const QString OK = QStringLiteral("OK");
 const QString Annuleren = QStringLiteral("Annuleren");
 const QString regel3 = QStringLiteral("Weet u zeker dat u regel 3 wilt verwijderen?");
+const QString johan = QStringLiteral("1 speler:\nJohan Kuipersma");
 const QString geenRegel = QStringLiteral("Er is geen regel geselecteerd!");
 
 class VerwijderTest : public Hoofdvensterproef {
@@ -71,7 +73,7 @@ TEST_F(VerwijderTest, VerwijdertDeGetoondeRegelNietDeTabelrij)
     KiesGroep(2);
     KiesRegel(3);
     const std::string sleutel = GekozenSleutel();
-    wachter.Verwacht(Verwijdervraag(regel3, OK));
+    wachter.Verwacht(Verwijdervraag(regel3, OK, QStringLiteral("1 speler:\nGerda Verstegh-Holl")));
     wachter.Informatie(QStringLiteral("De regel is verwijderd."));
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -86,7 +88,7 @@ TEST_F(VerwijderTest, DeleteVerwijdertDeGekozenRegel)
 {
     const std::string oud = suite.Spelers();
     KiesRegel(3);
-    wachter.Verwacht(Verwijdervraag(regel3, OK));
+    wachter.Verwacht(Verwijdervraag(regel3, OK, johan));
     wachter.Informatie(QStringLiteral("De regel is verwijderd."));
     Toets(Qt::Key_Delete);
     wachter.Klaar();
@@ -98,7 +100,7 @@ TEST_F(VerwijderTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
     const std::string oud = suite.Spelers();
     KiesRegel(3);
     for (const QString& antwoord : {Annuleren, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
-        wachter.Verwacht(Verwijdervraag(regel3, antwoord));
+        wachter.Verwacht(Verwijdervraag(regel3, antwoord, johan));
         Klik(Knop("cmdVerwijder"));
         wachter.Klaar();
         EXPECT_EQ(3, GekozenRegel());
@@ -130,7 +132,8 @@ TEST_F(VerwijderTest, VerwijdertVanTotEnMet)
     Keus("cmbVerwVan")->setCurrentIndex(3);
     Keus("cmbVerwTot")->setCurrentIndex(5);
     wachter.Verwacht(Verwijdervraag(
-        QStringLiteral("Weet u zeker dat u regel 4 t/m regel 6 wilt verwijderen?"), OK));
+        QStringLiteral("Weet u zeker dat u regel 4 t/m regel 6 wilt verwijderen?"), OK,
+        QStringLiteral("3 spelers:\nChloë Blokzijlder\nJesse Nijboersma\nIlse ten Broekhoven")));
     wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
@@ -145,7 +148,11 @@ TEST_F(VerwijderTest, EenHeleGroepVerwijderenLaatDeGroepLeegStaan)
     KiesGroep(3);
     Keus("cmbVerwTot")->setCurrentIndex(8);
     wachter.Verwacht(Verwijdervraag(
-        QStringLiteral("Weet u zeker dat u regel 1 t/m regel 9 wilt verwijderen?"), OK));
+        QStringLiteral("Weet u zeker dat u regel 1 t/m regel 9 wilt verwijderen?"), OK,
+        QStringLiteral(
+            "9 spelers:\nSem Kloosterziel\nNoor van Dorremolen\nDaan Leliveldt\nChloë Blokzijlder\n"
+            "Jesse Nijboersma\nIlse ten Broekhoven\nMees de Drieskens\nAïcha el Amranouï\nThijs "
+            "O")));
     wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
@@ -160,8 +167,9 @@ TEST_F(VerwijderTest, AnnulerenVanVanTotVerwijdertNiets)
     KiesGroep(3);
     Keus("cmbVerwVan")->setCurrentIndex(1);
     Keus("cmbVerwTot")->setCurrentIndex(1);
-    wachter.Verwacht(Verwijdervraag(
-        QStringLiteral("Weet u zeker dat u regel 2 t/m regel 2 wilt verwijderen?"), Annuleren));
+    wachter.Verwacht(
+        Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 2 t/m regel 2 wilt verwijderen?"),
+                       Annuleren, QStringLiteral("1 speler:\nNoor van Dorremolen")));
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
     EXPECT_EQ(oud, suite.Spelers());
@@ -182,6 +190,45 @@ TEST_F(VerwijderTest, VanNaTotWordtGeweigerd)
     EXPECT_EQ(oud, suite.Spelers());
 }
 
+TEST_F(VerwijderTest, DeEersteTienSpelersStaanErMetNaamEnHetAantal)
+{
+    Keus("cmbVerwVan")->setCurrentIndex(1);
+    Keus("cmbVerwTot")->setCurrentIndex(11);
+    QString namen = QStringLiteral(
+        "11 spelers:\nIneke van der Horst-Blaauw\nJohan Kuipersma\nTrudy Kuipersma-Hol\n"
+        "Gerrit Jan ten Broekhoven\nZoë Wolthuizen\nCorrie de Bruÿn\nPiet de Bruÿn\n"
+        "François Delacourtine\nHennie Müller\nRia van den Eikelenboom\nen nog 1 speler");
+    const auto vraagTot = [&](int tot) {
+        wachter.Verwacht(Verwijdervraag(
+            QStringLiteral("Weet u zeker dat u regel 2 t/m regel %1 wilt verwijderen?").arg(tot),
+            Annuleren, namen));
+        Klik(Knop("cmdVerwijderVT"));
+        wachter.Klaar();
+    };
+    vraagTot(12);
+    Keus("cmbVerwTot")->setCurrentIndex(12);
+    namen.replace(QStringLiteral("11 s"), QStringLiteral("12 s"));
+    namen.replace(QStringLiteral("1 speler"), QStringLiteral("2 spelers"));
+    vraagTot(13);
+}
+
+/// The names come from the file: neither markup nor a length that no screen can show.
+TEST_F(VerwijderTest, EenNaamIsNooitOpmaakEnMaaktHetVensterNietBreed)
+{
+    suite.Zet("Spelers/RVDspelers.txt", "HKEY=100001\r\n1,100001,Gr01-,<b>Jan</b>,," +
+                                            std::string(500, 'x') + ",,,,,,,M,,,,,\r\n");
+    ASSERT_NO_FATAL_FAILURE(Herstart());
+    KiesRegel(1);
+    wachter.LaatBeslissen([](const QMessageBox& vraag) {
+        const auto* label = Vind<QLabel>(vraag, "qt_msgbox_informativelabel");
+        EXPECT_EQ(Qt::PlainText, label->textFormat());
+        EXPECT_TRUE(label->text().startsWith(QStringLiteral("1 speler:\n<b>Jan</b> xxx")));
+        EXPECT_LT(vraag.width(), 800);
+        return Annuleren;
+    });
+    Klik(Knop("cmdVerwijder"));
+}
+
 /// Meant: a register without players is never written, so the last players come back.
 TEST_F(VerwijderTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
 {
@@ -190,8 +237,9 @@ TEST_F(VerwijderTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
     suite.Zet("Spelers/RVDspelers.txt", oud);
     ASSERT_NO_FATAL_FAILURE(Herstart());
     Keus("cmbVerwTot")->setCurrentIndex(1);
-    wachter.Verwacht(Verwijdervraag(
-        QStringLiteral("Weet u zeker dat u regel 1 t/m regel 2 wilt verwijderen?"), OK));
+    wachter.Verwacht(
+        Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 1 t/m regel 2 wilt verwijderen?"),
+                       OK, QStringLiteral("2 spelers:\nJan Bos\nPiet Dam")));
     wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
     wachter.Informatie(
         QStringLiteral("Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn "
@@ -207,8 +255,8 @@ TEST_F(VerwijderTest, DeSleutelVanEenVerwijderdeSpelerKomtNooitTerug)
 {
     KiesGroep(10);
     Toets(Qt::Key_End);
-    wachter.Verwacht(
-        Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 8 wilt verwijderen?"), OK));
+    wachter.Verwacht(Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 8 wilt verwijderen?"),
+                                    OK, QStringLiteral("1 speler:\nTjitske Eÿckenduÿn")));
     wachter.Informatie(QStringLiteral("De regel is verwijderd."));
     Toets(Qt::Key_Delete);
     wachter.Bedien([](QDialog& ingave) {

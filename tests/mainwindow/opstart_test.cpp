@@ -416,6 +416,8 @@ TEST_F(Opstartproef, HetKoppelenIsNaDeStartVerborgenOokInDeImportgroep)
     ASSERT_EQ(5, GetoondeGroep());
     EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
     EXPECT_TRUE(Knop("cmdHaalNBBnamen")->isVisible());
+    KiesUit(Keus("cmbGr"), 4);
+    EXPECT_TRUE(Knop("cmdKoppel")->isVisible()) << "de getoonde groep nog eens gekozen";
     KiesGroep(6);
     EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
     KiesGroep(5);

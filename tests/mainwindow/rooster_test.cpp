@@ -1,9 +1,11 @@
 // The grid at work: selecting by mouse and keys, scrolling, column widths, what is drawn.
+#include <QAccessible>
 #include <QWheelEvent>
 #include <QtTest/qtestspontaneevent.h>
 
 #include <cmath>
 
+#include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
 #include "platform/scherm/meter.h"
 
@@ -53,6 +55,21 @@ class RoosterTest : public Hoofdvensterproef {
         qApp->notify(doel, &gebeurtenis);
     }
 
+    /// What is painted on a header, which must lie on it.
+    [[nodiscard]] std::string OpHeader(int nummer) const
+    {
+        QPushButton* header = Header(nummer);
+        Tekstvanger vanger(header->size());
+        header->render(&vanger, {}, {}, QWidget::RenderFlags());
+        std::string tekst;
+        for (const Getekend& deel : vanger.Teksten()) {
+            EXPECT_GE(deel.x, 0);
+            EXPECT_LE(deel.x + deel.breed, header->width());
+            tekst += deel.tekst;
+        }
+        return tekst;
+    }
+
     [[nodiscard]] QImage Beeld() const
     {
         Deel("cmdEinde")->setFocus(); // without the frame of the focus
@@ -86,6 +103,8 @@ TEST_F(RoosterTest, OpZevenDeEersteOpTienDeTweedeEnErbovenGeen)
     EXPECT_EQ(2, GekozenRegel());
     VerwachtLijnenOm(2);
     KlikOpHoogte(4);
+    EXPECT_EQ(0, GekozenRegel());
+    KlikOpHoogte(0.7); // nearly a whole line above the first
     EXPECT_EQ(0, GekozenRegel());
     EXPECT_FALSE(Deel("Line1")->isVisible());
     EXPECT_FALSE(Deel("Line2")->isVisible());
@@ -227,6 +246,65 @@ TEST_F(RoosterTest, HetRoosterSpreektZijnRegel)
     EXPECT_FALSE(Vlak()->accessibleName().isEmpty());
 }
 
+TEST_F(RoosterTest, HetRoosterIsEenTabelVoorWieNietKijkt)
+{
+    QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(Vlak());
+    ASSERT_EQ(QAccessible::Table, vlak->role());
+    QAccessibleTableInterface* tabel = vlak->tableInterface();
+    ASSERT_NE(nullptr, tabel);
+    EXPECT_EQ(50, tabel->rowCount());
+    EXPECT_EQ(18, tabel->columnCount());
+    EXPECT_EQ(51 * 18, vlak->childCount());
+    EXPECT_EQ("Achternaam", tabel->columnDescription(5).toStdString());
+    EXPECT_EQ("Kolom 18", tabel->columnDescription(17).toStdString()) << "zonder naam";
+    QAccessibleInterface* cel = tabel->cellAt(2, 5);
+    EXPECT_EQ("Kuipersma", cel->text(QAccessible::Name).toStdString());
+    EXPECT_EQ(cel, tabel->cellAt(2, 5));
+    EXPECT_EQ(cel, vlak->child(vlak->indexOfChild(cel)));
+    EXPECT_EQ(QAccessible::Cell, cel->role());
+    EXPECT_EQ(2, cel->tableCellInterface()->rowIndex());
+    EXPECT_EQ(5, cel->tableCellInterface()->columnIndex());
+    QAccessibleInterface* kop = cel->tableCellInterface()->columnHeaderCells().value(0);
+    EXPECT_EQ("Achternaam", kop->text(QAccessible::Name).toStdString());
+    EXPECT_EQ(QAccessible::ColumnHeader, kop->role());
+    // Where it lies on the screen
+    const QPoint plek = Vlak()->mapToGlobal(QPoint(Header(6)->x() + 5, OpRegel(3).y()));
+    EXPECT_TRUE(cel->rect().contains(plek));
+    EXPECT_EQ(cel, vlak->childAt(plek.x(), plek.y()));
+    const QPoint opKop = Header(6)->mapToGlobal(QPoint(5, 5));
+    EXPECT_EQ(kop, vlak->childAt(opKop.x(), opKop.y()));
+    EXPECT_EQ(nullptr, tabel->cellAt(50, 0));
+    EXPECT_EQ(nullptr, tabel->cellAt(-1, 0));
+    EXPECT_EQ(nullptr, tabel->cellAt(0, 18));
+    KiesGroep(4);
+    EXPECT_EQ(0, tabel->rowCount());
+    EXPECT_FALSE(cel->isValid());
+    EXPECT_EQ("", cel->text(QAccessible::Name).toStdString());
+}
+
+TEST_F(RoosterTest, DeKeusVanHetRoosterIsDieVanDeTabel)
+{
+    QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(Vlak());
+    QAccessibleTableInterface* tabel = vlak->tableInterface();
+    EXPECT_TRUE(tabel->selectedRows().isEmpty());
+    EXPECT_EQ(nullptr, vlak->focusChild());
+    KiesRegel(3);
+    Vlak()->setFocus();
+    EXPECT_EQ(QList<int>{2}, tabel->selectedRows());
+    EXPECT_EQ(18, tabel->selectedCells().size());
+    EXPECT_EQ(tabel->cellAt(2, 0), vlak->focusChild());
+    EXPECT_TRUE(tabel->cellAt(2, 5)->state().selected);
+    EXPECT_FALSE(tabel->cellAt(3, 5)->state().selected);
+    EXPECT_TRUE(tabel->selectRow(48));
+    EXPECT_EQ(49, GekozenRegel());
+    EXPECT_TRUE(InBeeld(49));
+    EXPECT_FALSE(tabel->cellAt(48, 0)->state().offscreen);
+    EXPECT_TRUE(tabel->cellAt(0, 0)->state().offscreen);
+    EXPECT_FALSE(tabel->selectRow(50));
+    EXPECT_TRUE(tabel->unselectRow(48));
+    EXPECT_EQ(0, GekozenRegel());
+}
+
 // ---- Scrolling --------------------------------------------------------------------------------
 
 TEST_F(RoosterTest, DeBalkenReikenTotHetEindVanDeRegelsEnDeKolommen)
@@ -356,6 +434,39 @@ TEST_F(RoosterTest, ZonderVinkjeVolgtDeBreedteDeTeksten)
     EXPECT_GT(Header(8)->width(), smal); // e-mail
     Vink("chkKolBr")->click();
     EXPECT_EQ(smal, Header(8)->width());
+}
+
+TEST_F(RoosterTest, EenLegeGroepLaatDeBreedtenStaan)
+{
+    const auto breedten = [this] {
+        std::vector<int> uit;
+        for (int i = 1; i <= 18; ++i)
+            uit.push_back(Header(i)->width());
+        return uit;
+    };
+    Vink("chkKolBr")->click();
+    const auto gevuld = breedten();
+    KiesGroep(4);
+    EXPECT_EQ("Aantal regels: 0", Label("Label3")->text().toStdString());
+    EXPECT_EQ(gevuld, breedten());
+    Vink("chkKolBr")->click();
+    EXPECT_NE(gevuld, breedten());
+    Vink("chkKolBr")->click();
+    EXPECT_EQ(gevuld, breedten());
+}
+
+TEST_F(RoosterTest, EenNaamDieNietOpZijnHeaderPastWordtIngekort)
+{
+    suite.Zet("Spelers/RVDspelers.txt", "HKEY=100001\r\n1,100001,Gr01-,,,B,,,,,,,,,,,,\r\n");
+    ASSERT_NO_FATAL_FAILURE(Herstart());
+    EXPECT_EQ("Achternaam", OpHeader(6));
+    Vink("chkKolBr")->click();
+    const std::string kort = OpHeader(6);
+    EXPECT_TRUE(kort.starts_with("Ac")) << kort;
+    EXPECT_TRUE(kort.ends_with("…")) << kort;
+    EXPECT_EQ("Achternaam", Header(6)->text().toStdString());
+    EXPECT_EQ("Achternaam", Header(6)->toolTip().toStdString());
+    EXPECT_EQ("Achternaam", Header(6)->accessibleName().toStdString());
 }
 
 TEST_F(RoosterTest, HetVinkjeLaatDeGekozenRegelStaan)

@@ -35,37 +35,6 @@ constexpr std::size_t woonplaats = Plaats(Kolom::Plaats);
 
 // ---- Lines ------------------------------------------------------------------------------------
 
-TEST(RegelOp, HoogteZevenIsDeEersteRegelTienDeTweede)
-{
-    EXPECT_EQ(1, RegelOp(7, 50));
-    EXPECT_EQ(2, RegelOp(10, 50));
-}
-
-TEST(RegelOp, BovenVijfIsGeenRegel)
-{
-    EXPECT_EQ(0, RegelOp(4.99, 50));
-    EXPECT_EQ(0, RegelOp(0, 50));
-    EXPECT_EQ(0, RegelOp(0.61, 50)); // (0.61 - 5) / 4.4 is just above -1
-    EXPECT_EQ(0, RegelOp(-100, 50));
-    EXPECT_EQ(1, RegelOp(5, 50));
-}
-
-TEST(RegelOp, DeGrensHoortBijDeVolgendeRegel)
-{
-    EXPECT_EQ(1, RegelOp(9.39, 50));
-    EXPECT_EQ(2, RegelOp(9.41, 50));
-    EXPECT_EQ(3, RegelOp(13.81, 50));
-    EXPECT_EQ(50, RegelOp(5 + 49 * 4.4 + 0.01, 50));
-}
-
-TEST(RegelOp, OnderDeLaatsteIsGeenRegel)
-{
-    EXPECT_EQ(3, RegelOp(5 + 3 * 4.4 - 0.01, 3));
-    EXPECT_EQ(0, RegelOp(5 + 3 * 4.4 + 0.01, 3));
-    EXPECT_EQ(0, RegelOp(7, 0));
-    EXPECT_EQ(0, RegelOp(1e12, 3));
-}
-
 TEST(Regelgrenzen, LiggenOmDeVierenveertigTiendeVanafVijf)
 {
     EXPECT_DOUBLE_EQ(5.0, BovenkantVan(1));

@@ -45,7 +45,7 @@ class Rondgangproef : public testing::Test, protected Suitestand {
                 venster.hide();
         };
         DoorloopVensters(hoofdvenster, administratie, bezoek);
-        frmBericht bericht(QString(3000, QLatin1Char('x')), QStringLiteral("Bericht"),
+        frmBericht bericht(QString(3000, QLatin1Char('x')), QStringLiteral("Bericht"), {},
                            &hoofdvenster);
         bezoek(bericht);
         frmVoortgang voortgang(QStringLiteral("Even geduld"), QStringLiteral("&Stoppen"),

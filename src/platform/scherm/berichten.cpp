@@ -23,10 +23,13 @@ QString Titel(const QString& titel)
 }
 
 /// Texts carry names from files: never let one be taken for markup.
-void Vul(QMessageBox& venster, const QString& tekst)
+void Vul(QMessageBox& venster, const QString& tekst, const QString& toelichting = QString())
 {
     venster.setTextFormat(Qt::PlainText);
     venster.setText(tekst);
+    venster.setInformativeText(toelichting);
+    if (auto* label = venster.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+        label->setTextFormat(Qt::PlainText); // which the box itself forgets
 }
 
 /// The box waits for the user, not the other way round: whatever work goes on behind it, the busy
@@ -97,9 +100,9 @@ bool PastInBericht(const QWidget& ouder, const QString& tekst)
     return vlak.height() <= ruimte.height() && vlak.width() <= ruimte.width();
 }
 
-void ToonLang(QWidget* ouder, const QString& tekst, const QString& titel)
+void ToonLang(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
 {
-    frmBericht venster(tekst, titel, ouder);
+    frmBericht venster(tekst, titel, QMessageBox(icoon, {}, {}).iconPixmap(), ouder);
     LaatAntwoorden(venster);
 }
 
@@ -156,7 +159,7 @@ void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
 {
     constexpr int regelsInBericht = 25;
     if (tekst.count(QLatin1Char('\n')) > regelsInBericht || !PastInBericht(*ouder, tekst))
-        ToonLang(ouder, tekst, Titel({}));
+        ToonLang(ouder, icoon, tekst, Titel({}));
     else
         Meld(ouder, icoon, tekst);
 }
@@ -166,7 +169,7 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
 {
     constexpr int regelsInBericht = 25;
     if (tekst.count(QLatin1Char('\n')) > regelsInBericht) {
-        ToonLang(ouder, tekst, titel);
+        ToonLang(ouder, icoon, tekst, titel);
         return;
     }
     Verslagbericht venster(icoon, titel, QString(), QMessageBox::Ok, ouder);
@@ -176,14 +179,15 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
     if (venster.PastOpScherm())
         LaatAntwoorden(venster);
     else
-        ToonLang(ouder, tekst, titel);
+        ToonLang(ouder, icoon, tekst, titel);
 }
 
-bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
+bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel,
+           const QString& toelichting)
 {
     Berichtvenster venster(icoon, Titel(titel), QString(), QMessageBox::Ok | QMessageBox::Cancel,
                            ouder);
-    Vul(venster, tekst);
+    Vul(venster, tekst, toelichting);
     venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
     venster.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuleren"));
     return LaatAntwoorden(venster) == QMessageBox::Ok;

@@ -23,9 +23,10 @@ void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst);
 void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
                  QMessageBox::Icon icoon = QMessageBox::NoIcon);
 
-/// OK and Annuleren; true for OK. Escape and the close box count as Annuleren.
+/// OK and Annuleren; true for OK. Escape and the close box count as Annuleren. `toelichting` stands
+/// below the text.
 [[nodiscard]] bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
-                         const QString& titel = QString());
+                         const QString& titel = QString(), const QString& toelichting = QString());
 
 /// Answers worded by the caller; returns the place of the one that was picked. The last one is the
 /// harmless one: Escape and the close box pick it.

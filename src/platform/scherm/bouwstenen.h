@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QTextDocument>
 
 #include <vector>
@@ -41,6 +43,24 @@ class Knop : public QPushButton {
             click();
         else
             QPushButton::keyPressEvent(gebeurtenis);
+    }
+};
+
+/// Shows the beginning of a caption that does not fit.
+class Kortknop : public Knop {
+  public:
+    using Knop::Knop;
+
+  protected:
+    void paintEvent(QPaintEvent* /*gebeurtenis*/) override
+    {
+        QStylePainter schilder(this);
+        QStyleOptionButton knop;
+        initStyleOption(&knop);
+        const QRect ruimte = style()->subElementRect(QStyle::SE_PushButtonContents, &knop, this);
+        knop.text = fontMetrics().elidedText(knop.text, Qt::ElideRight, ruimte.width(),
+                                             Qt::TextShowMnemonic);
+        schilder.drawControl(QStyle::CE_PushButton, knop);
     }
 };
 

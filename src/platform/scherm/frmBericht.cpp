@@ -7,7 +7,9 @@
 
 namespace plexoran {
 
-frmBericht::frmBericht(const QString& tekst, const QString& titel, QWidget* ouder) : QDialog(ouder)
+frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap& icoon,
+                       QWidget* ouder)
+    : QDialog(ouder)
 {
     setObjectName(QStringLiteral("frmBericht"));
     setWindowTitle(titel);
@@ -17,7 +19,14 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, QWidget* oude
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(txtBericht);
+    auto* boven = new QHBoxLayout;
+    if (!icoon.isNull()) {
+        QLabel* lblIcoon = MaakLabel(QStringLiteral("lblIcoon"), QString(), this);
+        lblIcoon->setPixmap(icoon);
+        boven->addWidget(lblIcoon, 0, Qt::AlignTop);
+    }
+    boven->addWidget(txtBericht);
+    lagen->addLayout(boven);
     lagen->addLayout(Knoppenrij({cmdOK}));
     const Maten maten;
     PasInScherm(this, {maten.Twips(10800), maten.Twips(8100)});

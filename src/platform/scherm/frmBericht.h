@@ -9,7 +9,8 @@ class frmBericht : public QDialog {
     Q_OBJECT
 
   public:
-    frmBericht(const QString& tekst, const QString& titel, QWidget* ouder);
+    /// `icoon` is null for none.
+    frmBericht(const QString& tekst, const QString& titel, const QPixmap& icoon, QWidget* ouder);
 };
 
 } // namespace plexoran

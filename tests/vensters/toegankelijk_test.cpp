@@ -1,0 +1,119 @@
+// Every window as assistive programs see it: each control has a name, each list its lines, and what
+// takes the keys is something.
+#include <QAbstractItemView>
+#include <QAccessible>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "vensters/rondgang.h"
+
+using namespace plexoran;
+
+namespace {
+
+bool IsLijst(QAccessible::Role rol)
+{
+    return rol == QAccessible::List || rol == QAccessible::Table || rol == QAccessible::Tree;
+}
+
+bool IsBediening(QAccessible::Role rol)
+{
+    static const std::set<QAccessible::Role> rollen{
+        QAccessible::PushButton,   QAccessible::CheckBox, QAccessible::RadioButton,
+        QAccessible::ComboBox,     QAccessible::SpinBox,  QAccessible::EditableText,
+        QAccessible::ProgressBar,  QAccessible::Slider,   QAccessible::ScrollBar,
+        QAccessible::ColumnHeader, QAccessible::Graphic};
+    return rollen.contains(rol) || IsLijst(rol);
+}
+
+/// Whether a part that takes the keys says what it is.
+bool IsNiets(QAccessible::Role rol)
+{
+    return rol == QAccessible::NoRole || rol == QAccessible::Client || rol == QAccessible::Border ||
+           rol == QAccessible::Grouping || rol == QAccessible::Pane;
+}
+
+/// The scroll bars that Qt itself gives a list or a text; those have a name.
+bool IsVanEenLijst(const QObject* object)
+{
+    return object != nullptr && object->parent() != nullptr &&
+           object->parent()->objectName().startsWith(QStringLiteral("qt_scrollarea"));
+}
+
+/// A part that scrolls what stands in it, and has a name, has all that it needs.
+bool IsRol(QAccessibleInterface* deel)
+{
+    return qobject_cast<const QAbstractScrollArea*>(deel->object()) != nullptr &&
+           !deel->text(QAccessible::Name).isEmpty();
+}
+
+/// Walks through a window and gathers what is missing, by the name of the part.
+class Onderzoek {
+  public:
+    std::set<std::string> Loop(QWidget& venster)
+    {
+        gemist_.clear();
+        gezien_ = 0;
+        Bekijk(QAccessible::queryAccessibleInterface(&venster));
+        EXPECT_GT(gezien_, 0) << venster.objectName().toStdString();
+        return gemist_;
+    }
+
+  private:
+    void Mis(const char* wat, const QObject* object)
+    {
+        for (; object != nullptr && object->objectName().isEmpty();)
+            object = object->parent();
+        gemist_.insert((object == nullptr ? "" : object->objectName().toStdString()) + ": " + wat);
+    }
+
+    void Bekijk(QAccessibleInterface* deel)
+    {
+        ASSERT_NE(nullptr, deel);
+        if (!deel->isValid() || deel->state().invisible)
+            return;
+        const QAccessible::Role rol = deel->role();
+        const QObject* object = deel->object();
+        if (IsBediening(rol) && !IsVanEenLijst(object)) {
+            ++gezien_;
+            if (deel->text(QAccessible::Name).trimmed().isEmpty())
+                Mis("geen naam", object == nullptr ? deel->parent()->object() : object);
+        }
+        const auto* lijst = qobject_cast<const QAbstractItemView*>(object);
+        const bool leeg = lijst != nullptr && lijst->model()->rowCount() == 0;
+        if (IsLijst(rol) && deel->childCount() == 0 && !leeg)
+            Mis("een lijst zonder regels", object);
+        if (lijst != nullptr && !IsLijst(rol))
+            Mis("een lijst die er geen is", object);
+        const auto* widget = qobject_cast<const QWidget*>(object);
+        if (widget != nullptr && (widget->focusPolicy() & Qt::TabFocus) != 0 && IsNiets(rol) &&
+            !IsRol(deel))
+            Mis("neemt toetsen aan en is niets", object);
+        constexpr int genoeg = 60; // of the cells of a list
+        const int delen = IsLijst(rol) ? std::min(deel->childCount(), genoeg) : deel->childCount();
+        for (int i = 0; i < delen; ++i)
+            Bekijk(deel->child(i));
+    }
+
+    std::set<std::string> gemist_;
+    int gezien_ = 0;
+};
+
+/// What is missing and known, by the window.
+const std::map<std::string, std::set<std::string>> bekend{
+    {"frmAfdrukken", {"picP0: neemt toetsen aan en is niets"}}};
+
+} // namespace
+
+using Toegankelijk = Rondgangproef;
+
+TEST_F(Toegankelijk, ElkVensterIsTeGebruikenZonderKijken)
+{
+    Rondgang(QGuiApplication::primaryScreen(), [](QWidget& venster) {
+        const auto gemist = bekend.find(venster.objectName().toStdString());
+        EXPECT_EQ(gemist == bekend.end() ? std::set<std::string>() : gemist->second,
+                  Onderzoek().Loop(venster));
+    });
+}
