@@ -148,9 +148,9 @@ struct Venster {
         QApplication::processEvents();
     }
 
-    [[nodiscard]] Zoeklijst& Lijst(const char* naam) const
+    [[nodiscard]] Regellijst& Lijst(const char* naam) const
     {
-        return *venster->findChild<Zoeklijst*>(QString::fromLatin1(naam));
+        return *venster->findChild<Regellijst*>(QString::fromLatin1(naam));
     }
     void Kies(const char* lijst, int plaats) const
     {
@@ -217,7 +217,7 @@ void LijstenVullen(benchmark::State& meting)
         for (const char* naam : {"L1", "L2"})
             venster.Lijst(naam).Vul(
                 static_cast<int>(paren.Lalle().size()),
-                [&](int plaats) { return paren.Keuze(plaats); }, Zoeklijst::Plek::Behouden);
+                [&](int plaats) { return paren.Keuze(plaats); }, Regellijst::Plek::Behouden);
     });
 }
 BENCHMARK(LijstenVullen)->Apply(EenGrootte);

@@ -29,15 +29,12 @@ diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
 
 void diaKopieer::MaakDelen(QGroupBox* kader)
 {
-    const auto keus = [&](const QString& naam, const QString& gesproken) {
-        auto* nieuw = new QComboBox(kader);
-        Noem(nieuw, naam, gesproken);
-        return nieuw;
-    };
-    cmbUitGroep = keus(QStringLiteral("cmbUitGroep"), QStringLiteral("Uit spelergroep"));
-    cmbNBBgr = keus(QStringLiteral("cmbNBBgr"), QStringLiteral("Selecteer de spelers van"));
-    cmbGrnamen = keus(QStringLiteral("cmbGrnamen"), QStringLiteral("Kopieer hen naar groep"));
+    Label2 = MaakLabel(QStringLiteral("Label2"), QStringLiteral("Kopieer hen naar groep:"), kader);
     Label3 = MaakLabel(QStringLiteral("Label3"), QString(), kader);
+    Label4 = MaakLabel(QStringLiteral("Label4"), QStringLiteral("Uit spelergroep:"), kader);
+    cmbGrnamen = MaakKeus(QStringLiteral("cmbGrnamen"), Label2, kader);
+    cmbNBBgr = MaakKeus(QStringLiteral("cmbNBBgr"), Label3, kader);
+    cmbUitGroep = MaakKeus(QStringLiteral("cmbUitGroep"), Label4, kader);
     chkNBBgrOok = new QCheckBox(kader);
     Noem(chkNBBgrOok, QStringLiteral("chkNBBgrOok"));
     chkNBBnrOok = new QCheckBox(QStringLiteral("NBBnummer ook kopieren"), kader);
@@ -57,16 +54,12 @@ void diaKopieer::Bouw()
     MaakDelen(Frame1);
 
     auto* vakken = new QGridLayout(Frame1);
-    const auto label = [&](const QString& naam, const QString& tekst) {
-        return MaakLabel(naam, tekst, Frame1);
-    };
-    vakken->addWidget(label(QStringLiteral("Label4"), QStringLiteral("Uit spelergroep:")), 0, 0);
+    vakken->addWidget(Label4, 0, 0);
     vakken->addWidget(cmbUitGroep, 0, 1);
     vakken->addWidget(Label3, 1, 0);
     vakken->addWidget(cmbNBBgr, 1, 1);
     vakken->addWidget(keus_, 2, 0, 1, 2);
-    vakken->addWidget(label(QStringLiteral("Label2"), QStringLiteral("Kopieer hen naar groep:")), 3,
-                      0);
+    vakken->addWidget(Label2, 3, 0);
     vakken->addWidget(cmbGrnamen, 3, 1);
     vakken->addWidget(chkNBBgrOok, 4, 0, 1, 2);
     vakken->addWidget(chkNBBnrOok, 5, 0, 1, 2);
@@ -108,7 +101,7 @@ void diaKopieer::VulKeuslijst()
     VulKeus(*cmbNBBgr, waarden.Waarden());
     keus_->Vul(std::move(rijen), [&tabel](int rij) { return Kopieerregel(tabel, rij); });
     if (keus_->lstKeus->Aantal() > 0)
-        keus_->lstKeus->Kies(0, true);
+        keus_->lstKeus->Kies({0});
 }
 
 void diaKopieer::KiesBron()
@@ -121,7 +114,6 @@ void diaKopieer::KiesBron()
     chkNBBnrOok->setVisible(importgroep);
     Label3->setText(importgroep ? QStringLiteral("Selecteer de spelers van 'NBBgroep':")
                                 : QStringLiteral("Selecteer de spelers van 'Subgroep':"));
-    cmbNBBgr->setAccessibleName(Label3->text());
 }
 
 /// A plain search in the whole line, names included; what was chosen already stays.
@@ -131,9 +123,14 @@ void diaKopieer::KiesWaarde()
     if (plaats < 0)
         return;
     const Tekst gezocht = Hoofdletters(NaarTekst(cmbNBBgr->itemText(plaats)));
-    keus_->lstKeus->KiesOok(
-        [&](int regel) { return Hoofdletters(keus_->Regel(regel)).find(gezocht) != Tekst::npos; });
-    keus_->lstKeus->ZetHuidige(0);
+    Regellijst& lijst = *keus_->lstKeus;
+    std::vector<int> gevonden;
+    for (int regel = 0; regel < lijst.Aantal(); ++regel) {
+        if (Hoofdletters(lijst.Regel(regel)).find(gezocht) != Tekst::npos)
+            gevonden.push_back(regel);
+    }
+    lijst.Kies(gevonden);
+    lijst.ZetHuidige(0);
 }
 
 void diaKopieer::Kopieer()

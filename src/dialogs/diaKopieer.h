@@ -38,7 +38,9 @@ class diaKopieer : public QDialog {
     QComboBox* cmbNBBgr = nullptr;
     QComboBox* cmbGrnamen = nullptr;
     Spelerkeus* keus_ = nullptr;
+    QLabel* Label2 = nullptr;
     QLabel* Label3 = nullptr;
+    QLabel* Label4 = nullptr;
     QCheckBox* chkNBBgrOok = nullptr;
     QCheckBox* chkNBBnrOok = nullptr;
     QPushButton* cmdOK = nullptr;

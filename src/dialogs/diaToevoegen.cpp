@@ -33,8 +33,8 @@ diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
 
 void diaToevoegen::MaakDelen(QGroupBox* Frame1)
 {
-    Combo1 = new QComboBox(Frame1);
-    Noem(Combo1, QStringLiteral("Combo1"), QStringLiteral("Kies een zitting"));
+    Label1 = MaakLabel(QStringLiteral("Label1"), QStringLiteral("Kies een zitting:"), Frame1);
+    Combo1 = MaakKeus(QStringLiteral("Combo1"), Label1, Frame1);
     lstN2 = new QListWidget(Frame1);
     Noem(lstN2, QStringLiteral("lstN2"), QStringLiteral("Gevonden spelers"));
     lstN2->setUniformItemSizes(true);
@@ -62,8 +62,7 @@ void diaToevoegen::Bouw()
         return MaakLabel(naam, tekst, ouder);
     };
     auto* vakken = new QGridLayout(Frame1);
-    vakken->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Kies een zitting:"), Frame1),
-                      0, 0);
+    vakken->addWidget(Label1, 0, 0);
     vakken->addWidget(Combo1, 0, 1);
     vakken->addWidget(
         label(QStringLiteral("Label3"), QStringLiteral("(eindigend op '_Rev')"), Frame1), 0, 2);

@@ -62,6 +62,7 @@ class diaToevoegen : public QDialog {
     bool geladen_ = false;
     bool bewaard_ = false;
 
+    QLabel* Label1 = nullptr;
     QComboBox* Combo1 = nullptr;
     QPushButton* cmdLeesSpelers = nullptr;
     QListWidget* lstN2 = nullptr;

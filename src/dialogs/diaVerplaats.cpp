@@ -30,16 +30,16 @@ void diaVerplaats::Bouw()
     cmdAnnuleren =
         MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
     keus_ = new Spelerkeus(cmdOK, Frame1);
-    cmbGrnamen = new QComboBox(Frame1);
-    Noem(cmbGrnamen, QStringLiteral("cmbGrnamen"), QStringLiteral("Naar groep"));
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, Frame1);
     };
+    auto* Label2 =
+        label(QStringLiteral("Label2"), QStringLiteral("Verplaats hen naar de volgende groep:"));
+    cmbGrnamen = MaakKeus(QStringLiteral("cmbGrnamen"), Label2, Frame1);
 
     auto* binnen = new QVBoxLayout(Frame1);
     binnen->addWidget(keus_, 1);
-    binnen->addWidget(
-        label(QStringLiteral("Label2"), QStringLiteral("Verplaats hen naar de volgende groep:")));
+    binnen->addWidget(Label2);
     binnen->addWidget(cmbGrnamen);
     binnen->addWidget(label(QStringLiteral("Label3"),
                             QStringLiteral("Spelers van 'Gr05-' kunnen niet worden verplaatst. ")));

@@ -32,11 +32,10 @@ void frmVerwSubgroep::Bouw()
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, frame1);
     };
-    cmbRVDgr = new QComboBox(frame1);
-    Noem(cmbRVDgr, QStringLiteral("cmbRVDgr"), QStringLiteral("Spelergroep"));
-    cmbSubGr = new QComboBox(frame1);
-    Noem(cmbSubGr, QStringLiteral("cmbSubGr"), QStringLiteral("Subgroep"));
     Label3 = label(QStringLiteral("Label3"), QStringLiteral("met deze Subgroep:"));
+    auto* Label4 = label(QStringLiteral("Label4"), QStringLiteral("uit deze Spelergroep:"));
+    cmbRVDgr = MaakKeus(QStringLiteral("cmbRVDgr"), Label4, frame1);
+    cmbSubGr = MaakKeus(QStringLiteral("cmbSubGr"), Label3, frame1);
     cmdVerwijder =
         MaakKnop(QStringLiteral("cmdVerwijder"), QStringLiteral("Verwijderen ..."), u'V', this);
     cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Terug"), u'T', this);
@@ -44,8 +43,7 @@ void frmVerwSubgroep::Bouw()
     auto* vakken = new QGridLayout(frame1);
     vakken->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Verwijder ALLE spelers ")), 0,
                       0, 1, 2);
-    vakken->addWidget(label(QStringLiteral("Label4"), QStringLiteral("uit deze Spelergroep:")), 1,
-                      0);
+    vakken->addWidget(Label4, 1, 0);
     vakken->addWidget(cmbRVDgr, 1, 1);
     vakken->addWidget(Label3, 2, 0);
     vakken->addWidget(cmbSubGr, 2, 1);
@@ -68,7 +66,6 @@ void frmVerwSubgroep::KiesGroep()
 {
     Label3->setText(Code() == administratie_.mappen.DFIMPG ? QStringLiteral("met deze NBBgroep:")
                                                            : QStringLiteral("met deze SUBgroep:"));
-    cmbSubGr->setAccessibleName(Label3->text());
     subgroepen_ = SubgroepenVan(administratie_.spelers.tabel, Code());
     VulKeus(*cmbSubGr, subgroepen_);
     cmdVerwijder->setEnabled(!subgroepen_.empty());

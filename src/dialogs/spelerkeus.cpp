@@ -8,7 +8,7 @@
 namespace plexoran {
 
 Spelerkeus::Spelerkeus(QPushButton* cmdOK, QWidget* ouder)
-    : QWidget(ouder), lstKeus(new Meerkeuzelijst(this)),
+    : QWidget(ouder), lstKeus(new Regellijst(QListView::MultiSelection, this)),
       cmdSelAll(
           MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'S', this)),
       cmdSelNone(
@@ -17,37 +17,33 @@ Spelerkeus::Spelerkeus(QPushButton* cmdOK, QWidget* ouder)
     Noem(lstKeus, QStringLiteral("lstKeus"), QStringLiteral("Spelers"));
     auto* lagen = new QVBoxLayout(this);
     lagen->setContentsMargins(0, 0, 0, 0);
-    lagen->addWidget(
-        MaakLabel(QStringLiteral("Label1"), QStringLiteral("Selecteer de spelers(s) "), this));
+    auto* Label1 =
+        MaakLabel(QStringLiteral("Label1"), QStringLiteral("Selecteer de spelers(s) "), this);
+    Label1->setBuddy(lstKeus);
+    lagen->addWidget(Label1);
     lagen->addWidget(lstKeus, 1);
     lagen->addLayout(Knoppenrij({cmdSelAll, cmdSelNone}));
 
-    connect(cmdSelAll, &QPushButton::clicked, lstKeus, [this] { lstKeus->KiesAlles(true); });
-    connect(cmdSelNone, &QPushButton::clicked, lstKeus, [this] { lstKeus->KiesAlles(false); });
-    connect(lstKeus, &Meerkeuzelijst::keuzeVeranderd, cmdOK,
+    connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);
+    connect(cmdSelNone, &QPushButton::clicked, lstKeus, &Regellijst::clearSelection);
+    connect(lstKeus, &Regellijst::keuzeVeranderd, cmdOK,
             [this, cmdOK] { cmdOK->setEnabled(lstKeus->IetsGekozen()); });
     cmdOK->setEnabled(false);
 }
 
 void Spelerkeus::Vul(std::vector<int> rijen, std::function<Tekst(int)> regel)
 {
-    rijen_ = std::move(rijen);
-    regel_ = std::move(regel);
-    lstKeus->Vul(static_cast<int>(rijen_.size()),
-                 [this](int plaats) { return NaarQString(Regel(plaats)); });
-    lstKeus->ZetHuidige(0);
-}
-
-Tekst Spelerkeus::Regel(int plaats) const
-{
-    return regel_(rijen_[static_cast<std::size_t>(plaats)]);
+    const int aantal = static_cast<int>(rijen.size());
+    lstKeus->Vul(aantal, [rijen = std::move(rijen), regel = std::move(regel)](int plaats) {
+        return regel(rijen[static_cast<std::size_t>(plaats)]);
+    });
 }
 
 std::vector<Tekst> Spelerkeus::GekozenKeys() const
 {
     std::vector<Tekst> keys;
     for (const int plaats : lstKeus->GekozenPlaatsen())
-        keys.emplace_back(KeyVan(Regel(plaats)));
+        keys.emplace_back(KeyVan(lstKeus->Regel(plaats)));
     return keys;
 }
 

@@ -4,8 +4,7 @@
 
 #include <QPushButton>
 
-#include "platform/scherm/meerkeuzelijst.h"
-#include "platform/tekst.h"
+#include "platform/scherm/regellijst.h"
 
 namespace plexoran {
 
@@ -17,17 +16,12 @@ class Spelerkeus : public QWidget {
 
     /// Fills the list anew; `regel` gives the line of a row.
     void Vul(std::vector<int> rijen, std::function<Tekst(int rij)> regel);
-    [[nodiscard]] Tekst Regel(int plaats) const;
     /// Of the chosen lines, in list order.
     [[nodiscard]] std::vector<Tekst> GekozenKeys() const;
 
-    Meerkeuzelijst* const lstKeus;
+    Regellijst* const lstKeus;
     QPushButton* const cmdSelAll;
     QPushButton* const cmdSelNone;
-
-  private:
-    std::vector<int> rijen_; ///< of the lines in the list
-    std::function<Tekst(int)> regel_;
 };
 
 } // namespace plexoran

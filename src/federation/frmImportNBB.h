@@ -15,7 +15,7 @@
 #include "federation/ledenbestand.h"
 #include "federation/samenvoegen.h"
 #include "platform/scherm/bezigheid.h"
-#include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/regellijst.h"
 #include "platform/scherm/voortgangsbalk.h"
 #include "register/administratie.h"
 
@@ -111,7 +111,7 @@ class frmImportNBB : public QDialog {
     QPushButton* cmdKiesExportMap = nullptr;
     QLabel* lblExportMap = nullptr;
     QLabel* Label3 = nullptr;
-    Meerkeuzelijst* lstNBBbest = nullptr;
+    Regellijst* lstNBBbest = nullptr;
     QCheckBox* chkVoornaam = nullptr;
     QCheckBox* chkTus = nullptr;
     QCheckBox* chkAchternaam = nullptr;

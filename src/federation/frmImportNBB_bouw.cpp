@@ -191,7 +191,7 @@ QWidget* frmImportNBB::BouwKeuze()
 {
     auto* keuze = new QWidget(inhoud_);
     lblExportMap = MaakLopendeTekst(QStringLiteral("lblExportMap"), QString(), keuze);
-    lstNBBbest = new Meerkeuzelijst(keuze);
+    lstNBBbest = new Regellijst(QListView::MultiSelection, keuze);
     Label3 = MaakLabel(QStringLiteral("Label3"), QString(), keuze);
     Label3->setBuddy(lstNBBbest);
     ToonLijsttekst(QStringLiteral("Ledenbestanden:"));

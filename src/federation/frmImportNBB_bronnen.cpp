@@ -101,7 +101,9 @@ void frmImportNBB::ToonAanbod()
         return;
     const std::map<Ledenbron, QRadioButton*> opties{
         {Ledenbron::Csv, Option2}, {Ledenbron::XmlNbb3, Option3}, {Ledenbron::XmlNbb4, Option4}};
-    opties.at(*geheugen_.bron)->setChecked(true);
+    QRadioButton* optie = opties.at(*geheugen_.bron);
+    optie->setChecked(true);
+    optie->setFocus();
     KiesBron(*geheugen_.bron);
 }
 
@@ -120,9 +122,8 @@ void frmImportNBB::ToonLijsttekst(const QString& tekst)
 void frmImportNBB::VulLijst(std::vector<Tekst> namen)
 {
     namen_ = std::move(namen);
-    lstNBBbest->Vul(static_cast<int>(namen_.size()), [this](int plaats) {
-        return NaarQString(namen_[static_cast<std::size_t>(plaats)]);
-    });
+    lstNBBbest->Vul(static_cast<int>(namen_.size()),
+                    [this](int plaats) { return namen_[static_cast<std::size_t>(plaats)]; });
 }
 
 void frmImportNBB::KiesBron(Ledenbron bron)
@@ -298,7 +299,7 @@ void frmImportNBB::KiesInLijst(Tekstblik gekozen)
                      : bron_ != Ledenbron::Csv ? 0
                                                : -1;
     if (kies >= 0 && kies < lstNBBbest->Aantal())
-        lstNBBbest->Kies(kies, true);
+        lstNBBbest->Kies({kies});
     lstNBBbest->ZetHuidige(std::max(kies, 0));
 }
 

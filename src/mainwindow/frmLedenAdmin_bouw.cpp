@@ -134,6 +134,7 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     Label1->move(maten_.Twips(KeuzeLinks), maten_.Twips(Label1Boven));
     cmbGr = new QComboBox(boven);
     Noem(cmbGr, QStringLiteral("cmbGr"), QStringLiteral("Spelergroep"));
+    Label1->setBuddy(cmbGr);
     cmbGr->setMaxVisibleItems(25);
     cmbGr->setGeometry(maten_.Twips(KeuzeLinks), maten_.Twips(GroepBoven), maten_.Twips(GroepBreed),
                        cmbGr->sizeHint().height());
@@ -190,6 +191,8 @@ QGroupBox* frmLedenAdmin::BouwVerwijderkader()
                                 regelnummers_, kader);
     lblVan = MaakLabel(QStringLiteral("lblVan"), QStringLiteral("Van regel:"), kader);
     lblTot = MaakLabel(QStringLiteral("lblTot"), QStringLiteral("T/m regel:"), kader);
+    lblVan->setBuddy(cmbVerwVan);
+    lblTot->setBuddy(cmbVerwTot);
     auto* vakken = new QGridLayout(kader);
     vakken->setContentsMargins(8, 4, 8, 6);
     vakken->setVerticalSpacing(3);

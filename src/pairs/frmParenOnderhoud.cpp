@@ -75,10 +75,10 @@ void frmParenOnderhoud::LaadSubgroep(const Tekst& keuze)
     gelezen_ = gelezen.bestandstekst;
     const Tekst losse =
         paren_.LaadSubgroep(administratie_.spelers.tabel, code_, keuze, gelezen.paren);
-    VulParenlijst(Zoeklijst::Plek::Begin);
+    VulParenlijst(Regellijst::Plek::Begin);
     if (!gelezen.paren.empty())
         ToonAantalParen();
-    VulSpelerslijsten(Zoeklijst::Plek::Begin);
+    VulSpelerslijsten(Regellijst::Plek::Begin);
     if (fout)
         MeldFout(this, QMessageBox::Warning,
                  QStringLiteral("Het parenbestand '%1' kan niet worden gelezen; u ziet daarom geen "
@@ -99,16 +99,16 @@ void frmParenOnderhoud::MeldLosse(const Tekst& losse)
                 QString::fromLatin1(Programmatitel), QMessageBox::Warning);
 }
 
-void frmParenOnderhoud::VulSpelerslijsten(Zoeklijst::Plek plek)
+void frmParenOnderhoud::VulSpelerslijsten(Regellijst::Plek plek)
 {
-    for (Zoeklijst* lijst : {L1, L2})
+    for (Regellijst* lijst : {L1, L2})
         lijst->Vul(
             static_cast<int>(paren_.Lalle().size()),
             [this](int plaats) { return paren_.Keuze(plaats); }, plek);
     Label7->setText(QStringLiteral("Aantal spelers: %1").arg(L1->Aantal()));
 }
 
-void frmParenOnderhoud::VulParenlijst(Zoeklijst::Plek plek)
+void frmParenOnderhoud::VulParenlijst(Regellijst::Plek plek)
 {
     L3->Vul(
         static_cast<int>(paren_.L3().size()),
@@ -122,18 +122,18 @@ void frmParenOnderhoud::ToonAantalParen()
 
 // ---- Choosing ----------------------------------------------------------------------------------
 
-void frmParenOnderhoud::SpelerGekozen(const Zoeklijst* lijst)
+void frmParenOnderhoud::SpelerGekozen(const Regellijst* lijst)
 {
     if (lijst->Gekozen() >= 0)
-        L3->KiesNiets();
+        L3->clearSelection();
     ZetKnoppen();
 }
 
 void frmParenOnderhoud::PaarGekozen()
 {
     if (L3->Gekozen() >= 0) {
-        L1->KiesNiets();
-        L2->KiesNiets();
+        L1->clearSelection();
+        L2->clearSelection();
     }
     ZetKnoppen();
 }
@@ -163,10 +163,10 @@ void frmParenOnderhoud::MaakPaar()
 {
     const bool vanafToetsen = L2->hasFocus();
     const int plaats = paren_.MaakPaar(L1->Gekozen(), L2->Gekozen());
-    VulParenlijst(Zoeklijst::Plek::Behouden);
-    L3->ZetHuidige(plaats);
+    VulParenlijst(Regellijst::Plek::Behouden);
     ToonAantalParen();
-    VulSpelerslijsten(Zoeklijst::Plek::Behouden);
+    VulSpelerslijsten(Regellijst::Plek::Behouden);
+    L3->ZetHuidige(plaats);
     // The button went grey; the next pair begins with its first player.
     if (vanafToetsen || cmdOKE->hasFocus() || focusWidget() == nullptr)
         L1->setFocus();
@@ -175,8 +175,8 @@ void frmParenOnderhoud::MaakPaar()
 void frmParenOnderhoud::Ontbind()
 {
     paren_.Ontbind(L3->Gekozen());
-    VulSpelerslijsten(Zoeklijst::Plek::Behouden);
-    VulParenlijst(Zoeklijst::Plek::Behouden);
+    VulSpelerslijsten(Regellijst::Plek::Behouden);
+    VulParenlijst(Regellijst::Plek::Behouden);
     ToonAantalParen();
     L3->setFocus();
 }
@@ -184,7 +184,7 @@ void frmParenOnderhoud::Ontbind()
 void frmParenOnderhoud::SorteerParen()
 {
     paren_.Sorteer();
-    VulParenlijst(Zoeklijst::Plek::Behouden);
+    VulParenlijst(Regellijst::Plek::Behouden);
 }
 
 void frmParenOnderhoud::VerwijderBestand()
@@ -211,7 +211,7 @@ void frmParenOnderhoud::VerwijderBestand()
     }
     gelezen_.reset();
     paren_.WisParen();
-    VulParenlijst(Zoeklijst::Plek::Begin);
+    VulParenlijst(Regellijst::Plek::Begin);
     ToonAantalParen();
 }
 

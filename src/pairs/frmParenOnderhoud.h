@@ -11,7 +11,7 @@
 #include "pairs/paren.h"
 #include "pairs/parencsv.h"
 #include "platform/scherm/maten.h"
-#include "platform/scherm/zoeklijst.h"
+#include "platform/scherm/regellijst.h"
 #include "register/administratie.h"
 
 class QGridLayout;
@@ -39,11 +39,11 @@ class frmParenOnderhoud : public QDialog {
     void KiesSubgroep();
     void LaadSubgroep(const Tekst& keuze);
     void MeldLosse(const Tekst& losse);
-    void VulSpelerslijsten(Zoeklijst::Plek plek);
-    void VulParenlijst(Zoeklijst::Plek plek);
+    void VulSpelerslijsten(Regellijst::Plek plek);
+    void VulParenlijst(Regellijst::Plek plek);
     void ToonAantalParen();
 
-    void SpelerGekozen(const Zoeklijst* lijst);
+    void SpelerGekozen(const Regellijst* lijst);
     void PaarGekozen();
     void ZetKnoppen();
     void ZetKnopOKE(bool aan);
@@ -71,9 +71,9 @@ class frmParenOnderhoud : public QDialog {
     QLabel* Label8 = nullptr;
     QLabel* Label10 = nullptr;
     QComboBox* cmbNBBledengr = nullptr;
-    Zoeklijst* L1 = nullptr;
-    Zoeklijst* L2 = nullptr;
-    Zoeklijst* L3 = nullptr;
+    Regellijst* L1 = nullptr;
+    Regellijst* L2 = nullptr;
+    Regellijst* L3 = nullptr;
     QPushButton* cmdOKE = nullptr;
     QPushButton* cmdOntbindt = nullptr;
     QPushButton* cmdSortL3 = nullptr;

@@ -38,13 +38,12 @@ void frmParenOnderhoud::MaakDelen()
     cmdOntbindt->setAccessibleName(QStringLiteral("Ontbindt dit paar"));
     cmdSortL3->setToolTip(QStringLiteral("Zet de paren op volgorde van de eerste speler"));
 
-    cmbNBBledengr = new QComboBox(this);
-    Noem(cmbNBBledengr, QStringLiteral("cmbNBBledengr"), QStringLiteral("Groep-Subgroep"));
-    cmbNBBledengr->setMinimumContentsLength(24);
     const QFont letter = Roosterletter(maten_.Letter(Lijstletter).pixelSize());
     const auto lijst = [&](const QString& naam, const QString& gesproken) {
-        auto* nieuw = new Zoeklijst(NaamVanaf, letter, this);
+        auto* nieuw = new Regellijst(QListView::SingleSelection, this);
         Noem(nieuw, naam, gesproken);
+        nieuw->setFont(letter);
+        nieuw->ZetNaamVanaf(NaamVanaf);
         return nieuw;
     };
     L1 = lijst(QStringLiteral("L1"), QStringLiteral("Eerste speler"));
@@ -98,13 +97,16 @@ QHBoxLayout* frmParenOnderhoud::BouwKeuze()
     QFont vet = lblRVDledengr->font();
     vet.setBold(true);
     lblRVDledengr->setFont(vet);
+    auto* Label2 = label(QStringLiteral("Label2"), QStringLiteral("Groep-Subgroep:"));
+    cmbNBBledengr = MaakKeus(QStringLiteral("cmbNBBledengr"), Label2, this);
+    cmbNBBledengr->setMinimumContentsLength(8);
     auto* rij = new QHBoxLayout;
     rij->addWidget(label(QStringLiteral("Label9"), QStringLiteral("RVD-ledengroep:")));
     rij->addWidget(lblRVDledengr);
     rij->addSpacing(maten_.Twips(300));
-    rij->addWidget(label(QStringLiteral("Label2"), QStringLiteral("Groep-Subgroep:")));
-    rij->addWidget(cmbNBBledengr);
-    rij->addStretch();
+    rij->addWidget(Label2);
+    rij->addWidget(cmbNBBledengr, 1);
+    rij->addSpacing(maten_.Twips(300));
     rij->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Waarom paren samenstellen?")));
     rij->addWidget(cmdUitleg);
     return rij;
@@ -131,12 +133,13 @@ void frmParenOnderhoud::BouwSamenstelling(QGroupBox* kader)
     midden->addStretch(2);
     midden->addWidget(cmdSortL3);
     auto* vakken = new QGridLayout(kader);
-    vakken->addWidget(label(QStringLiteral("Label3"),
-                            QStringLiteral("Selecteer in beide kolommen een speler en klik op "
-                                           "'OKE'")),
-                      0, 0, 1, 2);
-    vakken->addWidget(label(QStringLiteral("Label4"), QStringLiteral("Reeds gevormde paren")), 0,
-                      3);
+    auto* Label3 = label(QStringLiteral("Label3"),
+                         QStringLiteral("Selecteer in beide kolommen een speler en klik op 'OKE'"));
+    auto* Label4 = label(QStringLiteral("Label4"), QStringLiteral("Reeds gevormde paren"));
+    Label3->setBuddy(L1);
+    Label4->setBuddy(L3);
+    vakken->addWidget(Label3, 0, 0, 1, 2);
+    vakken->addWidget(Label4, 0, 3);
     vakken->addWidget(L1, 1, 0);
     vakken->addWidget(L2, 1, 1);
     vakken->addLayout(midden, 1, 2);
@@ -171,13 +174,14 @@ void frmParenOnderhoud::Verbind()
 {
     // Also when the group-subgroup that is shown is picked again.
     connect(cmbNBBledengr, &QComboBox::activated, this, &frmParenOnderhoud::KiesSubgroep);
-    for (Zoeklijst* lijst : {L1, L2}) {
-        connect(lijst, &Zoeklijst::keuzeVeranderd, this, [this, lijst] { SpelerGekozen(lijst); });
-        connect(lijst, &Zoeklijst::enterGedrukt, cmdOKE, &QPushButton::click);
+    for (Regellijst* lijst : {L1, L2}) {
+        connect(lijst, &Regellijst::keuzeVeranderd, this, [this, lijst] { SpelerGekozen(lijst); });
+        for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter})
+            new QShortcut(enter, lijst, cmdOKE, &QPushButton::click, Qt::WidgetShortcut);
     }
-    connect(L2, &Zoeklijst::doubleClicked, cmdOKE, &QPushButton::click);
-    connect(L3, &Zoeklijst::keuzeVeranderd, this, &frmParenOnderhoud::PaarGekozen);
-    connect(L3, &Zoeklijst::deleteGedrukt, cmdOntbindt, &QPushButton::click);
+    connect(L2, &Regellijst::doubleClicked, cmdOKE, &QPushButton::click);
+    connect(L3, &Regellijst::keuzeVeranderd, this, &frmParenOnderhoud::PaarGekozen);
+    new QShortcut(Qt::Key_Delete, L3, cmdOntbindt, &QPushButton::click, Qt::WidgetShortcut);
     connect(cmdOKE, &QPushButton::clicked, this, &frmParenOnderhoud::MaakPaar);
     connect(cmdOntbindt, &QPushButton::clicked, this, &frmParenOnderhoud::Ontbind);
     connect(cmdSortL3, &QPushButton::clicked, this, &frmParenOnderhoud::SorteerParen);
@@ -188,8 +192,7 @@ void frmParenOnderhoud::Verbind()
             [this] { SchrijfCSV(ParenCSV::TweeKolommen); });
     connect(cmdEinde, &QPushButton::clicked, this, &frmParenOnderhoud::Einde);
     connect(cmdAnnu, &QPushButton::clicked, this, &QDialog::reject);
-    connect(new QShortcut(QKeySequence(QStringLiteral("F1")), this), &QShortcut::activated, this,
-            &frmParenOnderhoud::ToonUitleg);
+    new QShortcut(Qt::Key_F1, this, this, &frmParenOnderhoud::ToonUitleg);
 }
 
 } // namespace plexoran

@@ -112,6 +112,7 @@ QLayout* frmAfdrukken::BouwBladkeuze()
     Bladscroll->setPageStep(1);
     txtBlad =
         MaakVak(QStringLiteral("txtBlad"), QStringLiteral("Bladnummer"), maten_.Twips(600), this);
+    Label1->setBuddy(txtBlad);
     auto* nummers = new Bladnummers(Bladscroll);
     nummers->setParent(txtBlad);
     txtBlad->setValidator(nummers);

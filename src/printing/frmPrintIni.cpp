@@ -12,8 +12,7 @@
 namespace plexoran {
 namespace {
 
-constexpr int AantalVoorkeuze = 8; // entries chosen when the window opens
-constexpr int KleinsteSchaal = 7;  // tenths
+constexpr int KleinsteSchaal = 7; // tenths
 constexpr int GrootsteSchaal = 13;
 constexpr int GewoneSchaal = 3; // its place in the list
 constexpr int AantalPrintkolommen = AantalKolommen - static_cast<int>(EerstePrintkolom) + 1;
@@ -57,12 +56,13 @@ void frmPrintIni::MaakDelen()
     Label5 = label(QStringLiteral("Label5"), QStringLiteral("Kies de schaal:"));
     Label6 = label(QStringLiteral("Label6"), QStringLiteral("Print alleen deze Subgroep(en):"));
     Label7 = label(QStringLiteral("Label7"), QStringLiteral("Deze groep is leeg"));
-    lstKeus = new Meerkeuzelijst(this);
+    lstKeus = new Regellijst(QListView::MultiSelection, this);
     Noem(lstKeus, QStringLiteral("lstKeus"), Label1->text());
-    lstNBBgr = new Meerkeuzelijst(this);
+    Label1->setBuddy(lstKeus);
+    lstNBBgr = new Regellijst(QListView::MultiSelection, this);
     Noem(lstNBBgr, QStringLiteral("lstNBBgr"), Label6->text());
-    cmbSchaal = new QComboBox(this);
-    Noem(cmbSchaal, QStringLiteral("cmbSchaal"), Label5->text());
+    Label6->setBuddy(lstNBBgr);
+    cmbSchaal = MaakKeus(QStringLiteral("cmbSchaal"), Label5, this);
     cmdSelAll =
         MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'a', this);
     cmdSelNone =
@@ -136,29 +136,24 @@ void frmPrintIni::Vul()
         const Kolom kolom = PrintkolomOp(plaats);
         const Tekstblik naam = kolomnamen_[Plaats(kolom)];
         // Outside the import group the last column has no name.
-        return naam.empty() ? QStringLiteral("(kolom %1)").arg(static_cast<int>(kolom))
-                            : NaarQString(naam);
+        return naam.empty() ? "(kolom " + std::to_string(static_cast<int>(kolom)) + ")"
+                            : Tekst(naam);
     });
-    lstKeus->ZetHuidige(0);
-    for (int plaats = 0; plaats < AantalVoorkeuze; ++plaats)
-        lstKeus->Kies(plaats, true);
+    lstKeus->Kies({0, 1, 2, 3, 4, 5, 6, 7}); // `Voornaam` to `Plaats`
     for (int tiende = KleinsteSchaal; tiende <= GrootsteSchaal; ++tiende)
         cmbSchaal->addItem(getallen_.toString(tiende / 10.0));
     cmbSchaal->setCurrentIndex(GewoneSchaal);
-    lstNBBgr->Vul(static_cast<int>(subgroepen_.size()), [this](int plaats) {
-        return NaarQString(subgroepen_[static_cast<std::size_t>(plaats)]);
-    });
-    if (!subgroepen_.empty())
-        lstNBBgr->ZetHuidige(0);
+    lstNBBgr->Vul(static_cast<int>(subgroepen_.size()),
+                  [this](int plaats) { return subgroepen_[static_cast<std::size_t>(plaats)]; });
     lstNBBgr->setEnabled(!subgroepen_.empty());
     Label7->setVisible(subgroepen_.empty());
 }
 
 void frmPrintIni::Verbind()
 {
-    connect(lstKeus, &Meerkeuzelijst::keuzeVeranderd, this, &frmPrintIni::PasKnopAan);
-    connect(cmdSelAll, &QPushButton::clicked, this, [this] { lstKeus->KiesAlles(true); });
-    connect(cmdSelNone, &QPushButton::clicked, this, [this] { lstKeus->KiesAlles(false); });
+    connect(lstKeus, &Regellijst::keuzeVeranderd, this, &frmPrintIni::PasKnopAan);
+    connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);
+    connect(cmdSelNone, &QPushButton::clicked, lstKeus, &Regellijst::clearSelection);
     connect(cmdOK, &QPushButton::clicked, this, &frmPrintIni::Print);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
 }

@@ -9,7 +9,7 @@
 
 #include "platform/scherm/inrichting.h"
 #include "platform/scherm/maten.h"
-#include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/regellijst.h"
 #include "printing/printtabel.h"
 #include "register/administratie.h"
 
@@ -52,8 +52,8 @@ class frmPrintIni : public QDialog {
     QLabel* Label5 = nullptr;
     QLabel* Label6 = nullptr;
     QLabel* Label7 = nullptr;
-    Meerkeuzelijst* lstKeus = nullptr;
-    Meerkeuzelijst* lstNBBgr = nullptr;
+    Regellijst* lstKeus = nullptr;
+    Regellijst* lstNBBgr = nullptr;
     QComboBox* cmbSchaal = nullptr;
     QPushButton* cmdSelAll = nullptr;
     QPushButton* cmdSelNone = nullptr;

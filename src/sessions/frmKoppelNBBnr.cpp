@@ -16,17 +16,6 @@
 #include "register/spelerbestand.h"
 
 namespace plexoran {
-namespace {
-
-/// The selected line, or -1. The current one is no choice: a list that gets the focus makes its
-/// first line current by itself.
-int Gekozen(const QListView& lijst)
-{
-    const QModelIndexList regels = lijst.selectionModel()->selectedIndexes();
-    return regels.isEmpty() ? -1 : regels.first().row();
-}
-
-} // namespace
 
 frmKoppelNBBnr::frmKoppelNBBnr(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
@@ -41,20 +30,15 @@ void frmKoppelNBBnr::Verbind()
 {
     // Of the two that change together only one is listened to.
     connect(Option2, &QRadioButton::toggled, this, &frmKoppelNBBnr::KiesSoort);
-    connect(cmbC, &QComboBox::currentIndexChanged, this, [this](int plaats) {
-        cmbC->setToolTip(cmbC->itemData(plaats, Qt::ToolTipRole).toString());
-        VergeetGevonden();
-    });
+    connect(cmbC, &QComboBox::currentIndexChanged, this, &frmKoppelNBBnr::VergeetGevonden);
     connect(cmdZoekNamen, &QPushButton::clicked, this, &frmKoppelNBBnr::ZoekNamen);
-    connect(lstSpelers->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &frmKoppelNBBnr::ToonZwevende);
-    connect(lstRVDsp->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &frmKoppelNBBnr::ToonSpeler);
-    connect(lstSpelers, &QListView::activated, this, [this](const QModelIndex& regel) {
+    connect(lstSpelers, &Regellijst::keuzeVeranderd, this, &frmKoppelNBBnr::ToonZwevende);
+    connect(lstRVDsp, &Regellijst::keuzeVeranderd, this, &frmKoppelNBBnr::ToonSpeler);
+    connect(lstSpelers, &Regellijst::activated, this, [this](const QModelIndex& regel) {
         lstSpelers->setCurrentIndex(regel);
         KiesUitRegister();
     });
-    connect(lstRVDsp, &QListView::activated, this, [this](const QModelIndex& regel) {
+    connect(lstRVDsp, &Regellijst::activated, this, [this](const QModelIndex& regel) {
         lstRVDsp->setCurrentIndex(regel);
         cmdStartKoppelen->setFocus();
     });
@@ -144,9 +128,8 @@ void frmKoppelNBBnr::VulSessies()
 void frmKoppelNBBnr::VergeetGevonden()
 {
     zwevenden_.clear();
-    zwevendregels_->setStringList({});
+    VulZwevenden();
     Label11->clear();
-    ToonZwevende();
 }
 
 /// From the file and not from the table: sessions may only hold keys that are saved.
@@ -161,11 +144,9 @@ void frmKoppelNBBnr::LeesRegister()
     naambreedte_ = 4;
     for (const Koppelspeler& speler : spelers_)
         naambreedte_ = std::max(naambreedte_, std::min(speler.naam.size(), breedste));
-    QStringList regels;
-    for (const Koppelspeler& speler : spelers_)
-        regels << NaarQString(Spelerregel(speler, naambreedte_));
-    spelerregels_->setStringList(regels);
-    ToonSpeler();
+    lstRVDsp->Vul(static_cast<int>(spelers_.size()), [this](int plaats) {
+        return Spelerregel(spelers_[static_cast<std::size_t>(plaats)], naambreedte_);
+    });
     PlaatsKoppen();
     if (!inhoud)
         MeldLeesfout(QStringLiteral("Fout bij het lezen van het spelerbestand; er is nu niemand om "
@@ -188,13 +169,13 @@ void frmKoppelNBBnr::PlaatsKoppen()
 
 const Zwevende* frmKoppelNBBnr::GekozenZwevende() const
 {
-    const int regel = Gekozen(*lstSpelers);
+    const int regel = lstSpelers->Gekozen();
     return regel < 0 ? nullptr : &zwevenden_.at(static_cast<std::size_t>(regel));
 }
 
 const Koppelspeler* frmKoppelNBBnr::GekozenSpeler() const
 {
-    const int regel = Gekozen(*lstRVDsp);
+    const int regel = lstRVDsp->Gekozen();
     return regel < 0 ? nullptr : &spelers_.at(static_cast<std::size_t>(regel));
 }
 
@@ -212,8 +193,7 @@ void frmKoppelNBBnr::KiesUitRegister()
         std::find_if(spelers_.begin(), spelers_.end(),
                      [&](const Koppelspeler& speler) { return Hoofdletters(speler.naam) == naam; });
     if (zelfde != spelers_.end())
-        lstRVDsp->setCurrentIndex(
-            spelerregels_->index(static_cast<int>(zelfde - spelers_.begin())));
+        lstRVDsp->ZetHuidige(static_cast<int>(zelfde - spelers_.begin()));
 }
 
 /// A warning about the chosen name goes with that name; what was done comes back after it.

@@ -7,13 +7,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStringListModel>
 
 #include <functional>
 
+#include "platform/scherm/regellijst.h"
 #include "platform/scherm/voortgangsbalk.h"
 #include "register/administratie.h"
 #include "sessions/koppelen.h"
@@ -42,8 +41,6 @@ class frmKoppelNBBnr : public QDialog {
     QGroupBox* BouwRegister();
     QWidget* BouwKolomkoppen();
     QLayout* BouwOnderkant();
-    QListView* MaakLijst(const QString& naam, const QString& gesproken, QStringListModel* regels,
-                         QWidget* ouder);
     void StelTabvolgordeIn();
 
     // Choosing (frmKoppelNBBnr.cpp)
@@ -90,9 +87,6 @@ class frmKoppelNBBnr : public QDialog {
     bool bezig_ = false;
     bool stop_ = false;
 
-    QStringListModel* zwevendregels_ = nullptr;
-    QStringListModel* spelerregels_ = nullptr;
-
     QGroupBox* Frame1 = nullptr;
     QGroupBox* Frame2 = nullptr;
     QGroupBox* Frame4 = nullptr;
@@ -102,7 +96,7 @@ class frmKoppelNBBnr : public QDialog {
     QComboBox* cmbC = nullptr;
     QPushButton* cmdZoekNamen = nullptr;
     QLabel* Label11 = nullptr;
-    QListView* lstSpelers = nullptr;
+    Regellijst* lstSpelers = nullptr;
     QLineEdit* txtSpeler = nullptr;
     QPushButton* cmdKiesRVDspeler = nullptr;
     QWidget* kolomkoppen_ = nullptr;
@@ -110,7 +104,7 @@ class frmKoppelNBBnr : public QDialog {
     QLabel* Label7 = nullptr;
     QLabel* Label8 = nullptr;
     QLabel* lblNaam = nullptr;
-    QListView* lstRVDsp = nullptr;
+    Regellijst* lstRVDsp = nullptr;
     QLineEdit* txtRVDspeler = nullptr;
     QPushButton* cmdStartKoppelen = nullptr;
     QLabel* lblResultaat = nullptr;

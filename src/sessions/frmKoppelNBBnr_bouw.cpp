@@ -50,22 +50,13 @@ class Tekstvlak : public QScrollArea {
     int minstens_;
 };
 
-/// Asks a few lines only and takes what the window leaves; the texts above it need not give way.
-class Regellijst : public QListView {
-  public:
-    using QListView::QListView;
-
-    [[nodiscard]] QSize sizeHint() const override
-    {
-        return {QListView::sizeHint().width(), minimumSizeHint().height()};
-    }
-    [[nodiscard]] QSize minimumSizeHint() const override
-    {
-        constexpr int regels = 3;
-        return {QListView::minimumSizeHint().width(),
-                regels * fontMetrics().lineSpacing() + 2 * frameWidth()};
-    }
-};
+Regellijst* MaakLijst(const QString& naam, const QString& gesproken, QWidget* ouder)
+{
+    auto* lijst = new Regellijst(QListView::SingleSelection, ouder);
+    Noem(lijst, naam, gesproken);
+    lijst->setTabKeyNavigation(false);
+    return lijst;
+}
 
 } // namespace
 
@@ -98,9 +89,7 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
         MaakOptie(QStringLiteral("Option1"), QStringLiteral("In losse Zittingen"), u't', Frame1);
     Option2 = MaakOptie(QStringLiteral("Option2"), QStringLiteral("In Competities"), u'C', Frame1);
     Label4 = MaakLabel(QStringLiteral("Label4"), QString(), Frame1);
-    cmbC = new QComboBox(Frame1);
-    Noem(cmbC, QStringLiteral("cmbC"));
-    cmbC->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cmbC = MaakKeus(QStringLiteral("cmbC"), Label4, Frame1);
     cmdZoekNamen = MaakKnop(QStringLiteral("cmdZoekNamen"),
                             QStringLiteral("Zoek de zwevende spelers in RVD"), u'Z', Frame1);
     auto* lagen = new QVBoxLayout(Frame1);
@@ -158,33 +147,23 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
     return Frame3;
 }
 
-QListView* frmKoppelNBBnr::MaakLijst(const QString& naam, const QString& gesproken,
-                                     QStringListModel* regels, QWidget* ouder)
-{
-    auto* lijst = new Regellijst(ouder);
-    Noem(lijst, naam, gesproken);
-    lijst->setModel(regels);
-    lijst->setUniformItemSizes(true); // a hundred thousand lines must not be measured one by one
-    lijst->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    lijst->setTabKeyNavigation(false);
-    return lijst;
-}
-
 QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 {
     Frame2 = new QGroupBox(this);
     Noem(Frame2, QStringLiteral("Frame2"), QStringLiteral("Zwevende spelers"));
-    zwevendregels_ = new QStringListModel(this);
     Label11 = MaakLabel(QStringLiteral("Label11"), QString(), Frame2);
     lstSpelers = MaakLijst(QStringLiteral("lstSpelers"),
-                           QStringLiteral("Gevonden zwevende spelers"), zwevendregels_, Frame2);
+                           QStringLiteral("Gevonden zwevende spelers"), Frame2);
+    Label11->setBuddy(lstSpelers);
     txtSpeler =
         MaakLeesvak(QStringLiteral("txtSpeler"), QStringLiteral("Gekozen zwevende speler"), Frame2);
     auto* lagen = new QVBoxLayout(Frame2);
     lagen->addWidget(Label11);
     lagen->addWidget(lstSpelers, 1);
-    lagen->addWidget(MaakLabel(QStringLiteral("Label12"),
-                               QStringLiteral("Selecteer hierboven 1 speler"), Frame2));
+    auto* Label12 = MaakLabel(QStringLiteral("Label12"),
+                              QStringLiteral("Selecteer hierboven 1 speler"), Frame2);
+    Label12->setBuddy(txtSpeler);
+    lagen->addWidget(Label12);
     lagen->addWidget(txtSpeler);
     return Frame2;
 }
@@ -194,11 +173,10 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
     Frame4 = new QGroupBox(this);
     Noem(Frame4, QStringLiteral("Frame4"), QStringLiteral("Spelers uit RVD"));
     const QString groep = NaarQString(administratie_.mappen.DFIMPG);
-    spelerregels_ = new QStringListModel(this);
     cmdKiesRVDspeler = MaakKnop(QStringLiteral("cmdKiesRVDspeler"),
                                 QStringLiteral("Kies speler uit RVD (Gr05)"), u'K', Frame4);
-    lstRVDsp = MaakLijst(QStringLiteral("lstRVDsp"), QStringLiteral("Spelers uit RVD"),
-                         spelerregels_, Frame4);
+    lstRVDsp = MaakLijst(QStringLiteral("lstRVDsp"), QStringLiteral("Spelers uit RVD"), Frame4);
+    lstRVDsp->ZetNaamVanaf(8); // behind the key and two blanks
     QFont vast = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     vast.setPixelSize(QFontInfo(font()).pixelSize());
     lstRVDsp->setFont(vast);
@@ -209,6 +187,7 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
         QLabel* label = MaakTekst(naam, tekst, Frame4);
         label->setMinimumHeight(2 * fontMetrics().lineSpacing());
         lagen->addWidget(label);
+        return label;
     };
     wenk(u"Label9",
          QStringLiteral("Een speler moet vooraf in RVD (groep %1) bekend zijn anders kan "
@@ -217,7 +196,8 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
     wenk(u"Label10",
          QStringLiteral("Kies hier de RVD-speler (uit %1) wiens identiteit hetzelfde is "
                         "als de linker speler.")
-             .arg(groep));
+             .arg(groep))
+        ->setBuddy(txtRVDspeler);
     lagen->addWidget(cmdKiesRVDspeler);
     lagen->addWidget(BouwKolomkoppen());
     lagen->addWidget(lstRVDsp, 1);

@@ -110,10 +110,7 @@ void frmKoppelNBBnr::VergeetGekoppelde(const Koppelopdracht& opdracht)
                (gezochtInCompetitie_ || Plaatssleutel(zwevende.vindplaats.code) == plaats);
     });
     VulZwevenden();
-    lstSpelers->setCurrentIndex({});
-    lstRVDsp->setCurrentIndex({});
-    ToonZwevende();
-    ToonSpeler();
+    lstRVDsp->clearSelection();
 }
 
 } // namespace plexoran

@@ -46,10 +46,9 @@ void frmKoppelNBBnr::ZoekNamen()
 
 void frmKoppelNBBnr::VulZwevenden()
 {
-    QStringList regels;
-    for (const Zwevende& zwevende : zwevenden_)
-        regels << NaarQString(Lijstregel(zwevende));
-    zwevendregels_->setStringList(regels);
+    lstSpelers->Vul(static_cast<int>(zwevenden_.size()), [this](int plaats) {
+        return Lijstregel(zwevenden_[static_cast<std::size_t>(plaats)]);
+    });
 }
 
 void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
@@ -67,7 +66,7 @@ void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
                                       "geen 7 velden hebben: %1.")
                            .arg(uitslag.overgeslagen);
     if (!zwevenden_.empty()) {
-        lstSpelers->setCurrentIndex(zwevendregels_->index(0)); // may have to say something of it
+        lstSpelers->ZetHuidige(0); // may have to say something of it
         lstSpelers->setFocus();
     }
     if (!opmerkingen.isEmpty())

@@ -53,6 +53,11 @@ TEST_F(diaKopieerTest, DeTeksten)
     VerwachtAlleGroepen("cmbUitGroep");
 }
 
+TEST_F(diaKopieerTest, LangeNamenMakenHetVensterNietBreder)
+{
+    VerwachtDezelfdeBreedteBijLangeNamen({"cmbGrnamen", "cmbUitGroep", "cmbNBBgr"});
+}
+
 TEST_F(diaKopieerTest, DeOpschriftenHangenVanDeBronAf)
 {
     for (const int groep : {1, 5, 2}) {

@@ -27,6 +27,11 @@ TEST_F(diaVerplaatsTest, DeTeksten)
     VerwachtAlleGroepen("cmbGrnamen");
 }
 
+TEST_F(diaVerplaatsTest, LangeNamenMakenHetVensterNietBreder)
+{
+    VerwachtDezelfdeBreedteBijLangeNamen({"cmbGrnamen"});
+}
+
 /// Meant: the labels name "Gr05-" whatever the import group is called.
 TEST_F(diaVerplaatsTest, DeImportgroepStaatNietInDeLijst)
 {

@@ -4,7 +4,7 @@
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
-#include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/regellijst.h"
 
 namespace plexoran {
 
@@ -39,15 +39,12 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
         return Vind<QComboBox>(*venster, naam);
     }
     void Kies(const char* naam, int plaats) const { KiesUit(Keus(naam), plaats); }
-    [[nodiscard]] Meerkeuzelijst* Lijst() const
-    {
-        return Vind<Meerkeuzelijst>(*venster, "lstKeus");
-    }
+    [[nodiscard]] Regellijst* Lijst() const { return Vind<Regellijst>(*venster, "lstKeus"); }
     [[nodiscard]] std::vector<std::string> Regels() const
     {
         std::vector<std::string> regels;
         for (int plaats = 0; plaats < Lijst()->Aantal(); ++plaats)
-            regels.push_back(Lijst()->Regel(plaats).toStdString());
+            regels.push_back(Lijst()->Regel(plaats));
         return regels;
     }
     void KlikRegel(int plaats) const
@@ -84,6 +81,23 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
         EXPECT_EQ("Gr08-Introducés", teksten[7]);
         EXPECT_EQ("Gr50-", teksten[49]);
         EXPECT_EQ(0, Keus(keus)->currentIndex());
+    }
+    /// Also where it is shortened it can be read.
+    void VerwachtDezelfdeBreedteBijLangeNamen(const std::vector<const char*>& keuzes)
+    {
+        const int breed = venster->width();
+        const Tekst lang(300, 'W');
+        administratie.groepen.ZetNaam(1, lang);
+        administratie.groepen.ZetNaam(2, "<b>" + lang);
+        administratie.spelers.tabel.ZetCel(1, Kolom::NBBgr, lang);
+        Open();
+        EXPECT_EQ(breed, venster->width());
+        for (const char* naam : keuzes) {
+            EXPECT_EQ(Keus(naam)->currentText(), Keus(naam)->toolTip()) << naam;
+            EXPECT_EQ(Keus(naam)->currentText(), Keus(naam)->itemData(0, Qt::ToolTipRole)) << naam;
+        }
+        Kies(keuzes.front(), 1);
+        EXPECT_TRUE(Keus(keuzes.front())->toolTip().contains(QStringLiteral("Gr02-&lt;b&gt;W")));
     }
     [[nodiscard]] Tekst Cel(int rij, Kolom kolom) const
     {

@@ -20,9 +20,9 @@ class ImporterenTest : public Importproef {
     {
         return [optie, plaatsen](QDialog& dia) {
             KiesOptie(dia, optie);
-            Lijst(dia)->KiesAlles(false);
+            Lijst(dia)->clearSelection();
             for (const int plaats : plaatsen)
-                Lijst(dia)->Kies(plaats, true);
+                Lijst(dia)->Kies({plaats});
             Druk(dia, "cmdImporteer");
         };
     }
@@ -210,7 +210,7 @@ TEST_F(ImporterenTest, ZonderVinkjesWordenGegevensLeeggemaakt)
         KiesOptie(dia, "Option2");
         for (const char* naam : {"chkNAW", "chkTel", "chkEmail", "chkMV"})
             Klik(Vind<QCheckBox>(dia, naam), {8, Vind<QCheckBox>(dia, naam)->height() / 2});
-        Lijst(dia)->Kies(0, true);
+        Lijst(dia)->Kies({0});
         Druk(dia, "cmdImporteer");
     });
     VerwachtVraag(QStringLiteral("Club"), 1);
@@ -431,10 +431,10 @@ TEST_F(ImporterenTest, NaEenLeesfoutKanHetMetEenAnderBestandOpnieuw)
     Verwacht([this](QDialog& dia) {
         KiesOptie(dia, "Option2");
         suite.Verwijder("Bestanden/NBB4-Leden/A.csv"); // gone while it is listed
-        Lijst(dia)->Kies(0, true);
+        Lijst(dia)->Kies({0});
         Druk(dia, "cmdImporteer");
-        Lijst(dia)->KiesAlles(false);
-        Lijst(dia)->Kies(1, true);
+        Lijst(dia)->clearSelection();
+        Lijst(dia)->Kies({1});
         Druk(dia, "cmdImporteer");
     });
     wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'A.csv' CSV-bestand\r\n"),
@@ -455,8 +455,8 @@ TEST_F(ImporterenTest, EenFoutInDeDatabaseBreektAfEnHetVensterBlijft)
         // Damaged while it is listed.
         suite.Zet("Rekenprogramma/data/Members.mdb",
                   LeesAlsBytes(Accessbestand("bad/no-table-leden.mdb")));
-        Lijst(dia)->Kies(0, true);
-        Lijst(dia)->Kies(1, true);
+        Lijst(dia)->Kies({0});
+        Lijst(dia)->Kies({1});
         Druk(dia, "cmdImporteer");
         EXPECT_TRUE(dia.isVisible());
         Druk(dia, "cmdAnnuleren");
@@ -533,7 +533,7 @@ TEST_F(ImporterenTest, StoppenTijdensHetLezen)
     ZetExport("B.csv", "772;V;Eva;;;Twee;;;;;;\r\n");
     Verwacht([](QDialog& dia) {
         KiesOptie(dia, "Option2");
-        Lijst(dia)->KiesAlles(true);
+        Lijst(dia)->selectAll();
         int keren = 0;
         QTimer kijker;
         QObject::connect(&kijker, &QTimer::timeout, &dia, [&] {

@@ -65,10 +65,12 @@ class KapotTest : public Importproef {
     {
         std::vector<std::string> over;
         const auto kies = [&](QDialog& dia) {
-            for (int i = 0; i < Lijst(dia)->Aantal(); ++i)
-                Lijst(dia)->Kies(i, std::find(over.begin(), over.end(),
-                                              Bestanden(dia)[static_cast<std::size_t>(i)]) !=
-                                        over.end());
+            Lijst(dia)->clearSelection();
+            for (int i = 0; i < Lijst(dia)->Aantal(); ++i) {
+                if (std::find(over.begin(), over.end(),
+                              Bestanden(dia)[static_cast<std::size_t>(i)]) != over.end())
+                    Lijst(dia)->Kies({i});
+            }
         };
         Verwacht([&](QDialog& dia) {
             KiesOptie(dia, optie);
@@ -112,7 +114,7 @@ class KapotTest : public Importproef {
     {
         Verwacht([&](QDialog& dia) {
             KiesOptie(dia, optie);
-            Lijst(dia)->KiesAlles(true);
+            Lijst(dia)->selectAll();
             EXPECT_EQ(1, Lijst(dia)->Aantal());
             Druk(dia, "cmdImporteer");
             EXPECT_TRUE(dia.isVisible());
@@ -132,7 +134,7 @@ class KapotTest : public Importproef {
     {
         Verwacht([&](QDialog& dia) {
             KiesOptie(dia, "Option4");
-            Lijst(dia)->KiesAlles(true);
+            Lijst(dia)->selectAll();
             EXPECT_EQ(1, Lijst(dia)->Aantal());
             Druk(dia, "cmdImporteer");
         });
@@ -230,7 +232,7 @@ class KapotTest : public Importproef {
             dynamic_cast<frmImportNBB&>(dia).ZetGrenzen(grenzen);
             KiesOptie(dia, "Option1");
             aantal = Lijst(dia)->Aantal();
-            Lijst(dia)->KiesAlles(true);
+            Lijst(dia)->selectAll();
             if (aantal > 0)
                 Druk(dia, "cmdImporteer");
             if (dia.isVisible())
@@ -402,7 +404,7 @@ TEST_F(KapotTest, EenBestandDatVerdwijntTerwijlHetInDeLijstStaat)
         const bool vier = std::string("Option4") == optie;
         Verwacht([&, optie = optie, naam = naam](QDialog& dia) {
             KiesOptie(dia, optie);
-            Lijst(dia)->KiesAlles(true);
+            Lijst(dia)->selectAll();
             suite.Verwijder(std::string("Bestanden/NBB4-Leden/") + naam);
             Druk(dia, "cmdImporteer");
             EXPECT_NE(vier, dia.isVisible());
@@ -428,7 +430,7 @@ TEST_F(KapotTest, DeDatabaseVerdwijntTerwijlHaarLijstErStaat)
     StartMetDatabase();
     Verwacht([this](QDialog& dia) {
         KiesOptie(dia, "Option1");
-        Lijst(dia)->KiesAlles(true);
+        Lijst(dia)->selectAll();
         suite.Verwijder("Rekenprogramma/data/Members.mdb");
         Druk(dia, "cmdImporteer");
         EXPECT_TRUE(dia.isVisible());

@@ -132,7 +132,7 @@ TEST_F(frmImportNBBTest, ElkeBronHaaltZijnEigenBestandenUitDeMapVanDeBond)
                   Opschrift(Vind<QPushButton>(dia, "cmdKiesExportMap")));
         EXPECT_EQ("XML-Ledenbestanden uit NBBR-3: 1", Labeltekst(dia, "Label3"));
         EXPECT_EQ((Namen{"Donderdag 20260901.xml"}), Bestanden(dia));
-        EXPECT_TRUE(Lijst(dia)->Gekozen(0));
+        EXPECT_TRUE(Lijst(dia)->Gekozen() == 0);
         KiesOptie(dia, "Option4");
         EXPECT_EQ("Kies een map en wijs een XML-bestand aan",
                   Opschrift(Vind<QPushButton>(dia, "cmdKiesExportMap")));
@@ -168,6 +168,13 @@ TEST_F(frmImportNBBTest, DeMapWordtPerBronOnthoudenZolangHetProgrammaLoopt)
     Verwacht([](QDialog& dia) {
         EXPECT_TRUE(Vind<QRadioButton>(dia, "Option2")->isChecked());
         EXPECT_EQ("CSV-Ledenbestanden: 2", Labeltekst(dia, "Label3"));
+        KiesOptie(dia, "Option4");
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+    Verwacht([](QDialog& dia) {
+        EXPECT_TRUE(Vind<QRadioButton>(dia, "Option4")->isChecked());
+        EXPECT_EQ("Option4", dia.focusWidget()->objectName().toStdString());
         Druk(dia, "cmdAnnuleren");
     });
     Importeer();
@@ -299,7 +306,7 @@ TEST_F(frmImportNBBTest, EenMapMetVeelXmlBestandenOpEenTrageSchijf)
         KiesOptie(dia, "Option4");
         EXPECT_GT(keren, 3);
         EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: 40", Labeltekst(dia, "Label3"));
-        EXPECT_TRUE(Lijst(dia)->Gekozen(0));
+        EXPECT_TRUE(Lijst(dia)->Gekozen() == 0);
         stop = true;
         keren = 0;
         KiesOptie(dia, "Option4");
@@ -373,7 +380,7 @@ TEST_F(frmImportNBBTest, HetOverzichtVanDeNummers)
     Verwacht([](QDialog& dia) {
         KiesOptie(dia, "Option4");
         Druk(dia, "cmdControleNBBnrs");
-        Lijst(dia)->KiesAlles(false);
+        Lijst(dia)->clearSelection();
         Druk(dia, "cmdControleNBBnrs");
         Druk(dia, "cmdAnnuleren");
     });

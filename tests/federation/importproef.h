@@ -8,7 +8,7 @@
 #include <QRadioButton>
 
 #include "mainwindow/vensterproef.h"
-#include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/regellijst.h"
 
 namespace plexoran {
 
@@ -72,16 +72,13 @@ class Importproef : public Hoofdvensterproef {
         Vind<QRadioButton>(dia, optie)->click();
         QApplication::processEvents();
     }
-    static Meerkeuzelijst* Lijst(const QDialog& dia)
-    {
-        return Vind<Meerkeuzelijst>(dia, "lstNBBbest");
-    }
+    static Regellijst* Lijst(const QDialog& dia) { return Vind<Regellijst>(dia, "lstNBBbest"); }
     static std::vector<std::string> Bestanden(const QDialog& dia)
     {
         std::vector<std::string> namen;
         namen.reserve(static_cast<std::size_t>(Lijst(dia)->Aantal()));
         for (int i = 0; i < Lijst(dia)->Aantal(); ++i)
-            namen.push_back(Lijst(dia)->Regel(i).toStdString());
+            namen.push_back(Lijst(dia)->Regel(i));
         return namen;
     }
     /// The text as it reads, without the marks of the mnemonic and of where a long path may be

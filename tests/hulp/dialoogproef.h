@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "hulp/berichtwachter.h"
+#include "hulp/labels.h"
 #include "hulp/venstergrepen.h"
 
 namespace plexoran {
@@ -26,6 +27,7 @@ template <class Venster, class Stand> class Dialoogproef : public testing::Test,
     {
         Maak(std::forward<Delen>(delen)...);
         ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        EXPECT_EQ(std::vector<std::string>(), ZonderLabel(*venster));
     }
     /// The same for a window that reads when it is there: after a box of its own it need not be the
     /// active one.
@@ -34,6 +36,7 @@ template <class Venster, class Stand> class Dialoogproef : public testing::Test,
         Maak(std::forward<Delen>(delen)...);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(venster.get()));
         QApplication::processEvents();
+        EXPECT_EQ(std::vector<std::string>(), ZonderLabel(*venster));
     }
 
     template <class T> [[nodiscard]] T* Deel(const std::string& naam) const

@@ -5,7 +5,7 @@
 
 #include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
-#include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/regellijst.h"
 
 using namespace plexoran;
 
@@ -80,7 +80,7 @@ class LijstenTest : public Hoofdvensterproef {
 
     static void KiesRegels(QDialog& dialoog, const std::vector<int>& plaatsen)
     {
-        auto* lstKeus = Vind<Meerkeuzelijst>(dialoog, "lstKeus");
+        auto* lstKeus = Vind<Regellijst>(dialoog, "lstKeus");
         for (const int plaats : plaatsen) {
             lstKeus->ZetHuidige(plaats);
             QTest::keyClick(lstKeus, Qt::Key_Space);

@@ -9,7 +9,7 @@
 #include "hulp/printdialoog.h"
 #include "mainwindow/vensterproef.h"
 #include "platform/klok.h"
-#include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/regellijst.h"
 
 using namespace plexoran;
 
@@ -51,9 +51,8 @@ TEST_F(PrintenTest, EenLijstVanDeGetoondeGroep)
     Print(
         [&](QDialog& keuze) {
             groep = Vind<QLabel>(keuze, "Label3")->text().toStdString();
-            EXPECT_EQ("(kolom 18)",
-                      Vind<Meerkeuzelijst>(keuze, "lstKeus")->Regel(14).toStdString());
-            Vind<Meerkeuzelijst>(keuze, "lstNBBgr")->KiesAlles(true);
+            EXPECT_EQ("(kolom 18)", Vind<Regellijst>(keuze, "lstKeus")->Regel(14));
+            Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
         },
         [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
     EXPECT_EQ(Keus("cmbGr")->currentText().toStdString(), groep);
@@ -73,9 +72,9 @@ TEST_F(PrintenTest, AlleenDeGekozenSubgroep)
     KiesGroep(1);
     Print(
         [](QDialog& keuze) {
-            auto* subgroepen = Vind<Meerkeuzelijst>(keuze, "lstNBBgr");
-            ASSERT_EQ("B-LIJN", subgroepen->Regel(1).toStdString());
-            subgroepen->Kies(1, true);
+            auto* subgroepen = Vind<Regellijst>(keuze, "lstNBBgr");
+            ASSERT_EQ("B-LIJN", subgroepen->Regel(1));
+            subgroepen->Kies({1});
         },
         [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
     const auto bladen = LeesPdf(Bestand());
@@ -93,11 +92,11 @@ TEST_F(PrintenTest, MeerSubgroepenStaanInDeKopZoalsInDeLijst)
     const Tekst voor = Dagtekening();
     Print(
         [](QDialog& keuze) {
-            auto* subgroepen = Vind<Meerkeuzelijst>(keuze, "lstNBBgr");
+            auto* subgroepen = Vind<Regellijst>(keuze, "lstNBBgr");
             for (const int plaats : {2, 0})
-                subgroepen->Kies(plaats, true);
+                subgroepen->Kies({plaats});
             Klik(Vind<QPushButton>(keuze, "cmdSelNone"));
-            Vind<Meerkeuzelijst>(keuze, "lstKeus")->Kies(2, true);
+            Vind<Regellijst>(keuze, "lstKeus")->Kies({2});
         },
         [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
     const auto bladen = LeesPdf(Bestand());
@@ -117,12 +116,12 @@ TEST_F(PrintenTest, InDeImportgroepMetNummer)
     KiesGroep(5);
     Print(
         [&](QDialog& keuze) {
-            auto* kolommen = Vind<Meerkeuzelijst>(keuze, "lstKeus");
-            EXPECT_EQ("NBBnr", kolommen->Regel(14).toStdString());
+            auto* kolommen = Vind<Regellijst>(keuze, "lstKeus");
+            EXPECT_EQ("NBBnr", kolommen->Regel(14));
             Klik(Vind<QPushButton>(keuze, "cmdSelNone"));
-            kolommen->Kies(2, true);
-            kolommen->Kies(14, true);
-            Vind<Meerkeuzelijst>(keuze, "lstNBBgr")->KiesAlles(true);
+            kolommen->Kies({2});
+            kolommen->Kies({14});
+            Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
         },
         [](QDialog& blad) {
             EXPECT_EQ("Printformaat: A4-staand",

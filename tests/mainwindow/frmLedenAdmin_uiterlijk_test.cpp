@@ -4,6 +4,7 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include "hulp/labels.h"
 #include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
 
@@ -222,6 +223,7 @@ TEST_F(UiterlijkTest, ElkDeelHeeftEenNaamVoorWieNietKijkt)
             EXPECT_FALSE(deel->accessibleName().isEmpty()) << deel->objectName().toStdString();
         }
     }
+    EXPECT_EQ(std::vector<std::string>(), ZonderLabel(*venster));
 }
 
 TEST_F(UiterlijkTest, DeEersteFocusStaatNietOpEenKnop)

@@ -36,14 +36,14 @@ class ParenSuiteTest : public Hoofdvensterproef {
     static Teksten Regels(const QDialog& dialoog, const char* lijst)
     {
         Teksten regels;
-        const auto* model = Vind<Zoeklijst>(dialoog, lijst)->model();
+        const auto* model = Vind<Regellijst>(dialoog, lijst)->model();
         for (int rij = 0; rij < model->rowCount(); ++rij)
             regels.push_back(model->index(rij, 0).data().toString().toStdString());
         return regels;
     }
     static void KiesRegel(const QDialog& dialoog, const char* lijst, const char* begin)
     {
-        auto* l = Vind<Zoeklijst>(dialoog, lijst);
+        auto* l = Vind<Regellijst>(dialoog, lijst);
         const auto gevonden = l->model()->match(l->model()->index(0, 0), Qt::DisplayRole,
                                                 QString::fromUtf8(begin), 1, Qt::MatchStartsWith);
         ASSERT_EQ(1, gevonden.size()) << begin;

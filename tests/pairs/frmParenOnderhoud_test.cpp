@@ -46,7 +46,7 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
     void Open(Tekstblik groep = "Gr03-Clubleden") { Toon(administratie, groep); }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
 
-    [[nodiscard]] Zoeklijst* Lijst(const char* naam) const { return Deel<Zoeklijst>(naam); }
+    [[nodiscard]] Regellijst* Lijst(const char* naam) const { return Deel<Regellijst>(naam); }
     /// As a user who picks it in the drop-down.
     void Kies(const char* keuze) const
     {
@@ -66,12 +66,12 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
     }
     void KlikRegel(const char* lijst, int plaats) const
     {
-        Zoeklijst* l = Lijst(lijst);
+        Regellijst* l = Lijst(lijst);
         Klik(l->viewport(), l->visualRect(l->model()->index(plaats, 0)).center());
     }
     void DubbelklikRegel(const char* lijst, int plaats) const
     {
-        Zoeklijst* l = Lijst(lijst);
+        Regellijst* l = Lijst(lijst);
         const QPoint plek = l->visualRect(l->model()->index(plaats, 0)).center();
         Klik(l->viewport(), plek);
         QTest::mouseDClick(l->viewport(), Qt::LeftButton, {}, plek);
@@ -146,6 +146,16 @@ TEST_F(frmParenOnderhoudTest, HetBegin)
     EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
     EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
     EXPECT_EQ(venster->screen()->size().height() - Maten().Twips(1000), venster->height());
+}
+
+/// A screen that is 800 pixels wide, less what stands around a window.
+TEST_F(frmParenOnderhoudTest, PastOp800Pixels)
+{
+    venster->resize(784, 600);
+    EXPECT_EQ(784, venster->width());
+    Kies("Gr03-Dinsdag");
+    for (const char* lijst : {"L1", "L2"})
+        EXPECT_EQ(0, Lijst(lijst)->horizontalScrollBar()->maximum()) << "namen passen";
 }
 
 TEST_F(frmParenOnderhoudTest, EenAndereGroepEnEenGroepZonderSpelers)
@@ -460,8 +470,8 @@ TEST_F(GroteGroep, DeLijstenHoudenHunSchuifplaats)
     EXPECT_EQ(0, Lijst("L1")->verticalScrollBar()->value());
 }
 
-/// Also when the new pair comes out of sight.
-TEST_F(GroteGroep, DeParenlijstHoudtZijnSchuifplaats)
+/// It is the one that can be dissolved at once, and from which the arrow keys go on.
+TEST_F(GroteGroep, HetNieuwePaarIsGekozenEnInBeeld)
 {
     Tekst paren;
     for (int i = 0; i < 150; ++i)
@@ -471,11 +481,20 @@ TEST_F(GroteGroep, DeParenlijstHoudtZijnSchuifplaats)
     ASSERT_EQ(150U, Regels("L3").size());
     Lijst("L3")->verticalScrollBar()->setValue(60);
     for (const char* lijst : {"L1", "L2"})
-        Lijst(lijst)->verticalScrollBar()->setValue(90);
+        Lijst(lijst)->verticalScrollBar()->setValue(50);
     MaakPaar(97, 98); // the last in the list
     ASSERT_EQ(151U, Regels("L3").size());
-    EXPECT_EQ(60, Lijst("L3")->verticalScrollBar()->value());
+    EXPECT_EQ(150, Gekozen("L3"));
     EXPECT_EQ(150, Lijst("L3")->currentIndex().row());
+    EXPECT_TRUE(Lijst("L3")->viewport()->rect().intersects(
+        Lijst("L3")->visualRect(Lijst("L3")->currentIndex())));
+    EXPECT_TRUE(Knop("cmdOntbindt")->isEnabled());
+    for (const char* lijst : {"L1", "L2"}) {
+        EXPECT_EQ(50, Lijst(lijst)->verticalScrollBar()->value());
+        EXPECT_EQ(-1, Gekozen(lijst));
+    }
+    Klik(Knop("cmdOntbindt"));
+    EXPECT_EQ(150U, Regels("L3").size());
 }
 
 // ---- Saving and closing ------------------------------------------------------------------------

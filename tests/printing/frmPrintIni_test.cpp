@@ -36,15 +36,15 @@ class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
         venster->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
     }
-    [[nodiscard]] Meerkeuzelijst* Lijst(const char* naam) const
+    [[nodiscard]] Regellijst* Lijst(const char* naam) const
     {
-        return Vind<Meerkeuzelijst>(*venster, naam);
+        return Vind<Regellijst>(*venster, naam);
     }
     [[nodiscard]] std::vector<std::string> Regels(const char* naam) const
     {
         std::vector<std::string> regels;
         for (int plaats = 0; plaats < Lijst(naam)->Aantal(); ++plaats)
-            regels.push_back(Lijst(naam)->Regel(plaats).toStdString());
+            regels.push_back(Lijst(naam)->Regel(plaats));
         return regels;
     }
     void KlikRegel(const char* lijst, int plaats) const

@@ -27,7 +27,7 @@
 #include "hulp/voortgangstopper.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/echteSchijf.h"
-#include "platform/scherm/meerkeuzelijst.h"
+#include "platform/scherm/regellijst.h"
 #include "printing/frmAfdrukken.h"
 #include "printing/printproef.h"
 
@@ -270,11 +270,11 @@ TEST_F(WachtrijProef, DrieBladenZoalsInHetVoorbeeld)
     Vind<QComboBox>(venster, "cmbGr")->setCurrentIndex(0);
 
     wachter.Bedien([&](QDialog& keuze) {
-        Vind<Meerkeuzelijst>(keuze, "lstNBBgr")->KiesAlles(true);
-        auto* kolommen = Vind<Meerkeuzelijst>(keuze, "lstKeus");
-        kolommen->KiesAlles(false);
+        Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
+        auto* kolommen = Vind<Regellijst>(keuze, "lstKeus");
+        kolommen->clearSelection();
         for (const int plaats : {0, 1, 2, 3, 7}) // names, telephone, town: A4 on its side
-            kolommen->Kies(plaats, true);
+            kolommen->Kies({plaats});
         Klik(Vind<QPushButton>(keuze, "cmdOK"));
         Klik(Vind<QPushButton>(keuze, "cmdAnnuleren"));
     });

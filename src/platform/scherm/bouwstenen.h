@@ -90,12 +90,29 @@ class Kortknop : public Knop {
 }
 
 /// A tool tip that shows a text of the user as it is; Qt would take its "<" for layout.
+[[nodiscard]] inline QString Wenk(const QString& tekst)
+{
+    return Qt::mightBeRichText(tekst) ? QStringLiteral("<span style=\"white-space:pre\">%1</span>")
+                                            .arg(tekst.toHtmlEscaped())
+                                      : tekst;
+}
+
 inline void ZetWenk(QWidget* widget, const QString& tekst)
 {
-    widget->setToolTip(
-        Qt::mightBeRichText(tekst)
-            ? QStringLiteral("<span style=\"white-space:pre\">%1</span>").arg(tekst.toHtmlEscaped())
-            : tekst);
+    widget->setToolTip(Wenk(tekst));
+}
+
+/// A drop-down that belongs to a label. It keeps its width whatever its lines hold; its tool tip is
+/// that of the line it shows.
+[[nodiscard]] inline QComboBox* MaakKeus(const QString& naam, QLabel* label, QWidget* ouder)
+{
+    auto* keus = new QComboBox(ouder);
+    Noem(keus, naam);
+    keus->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    label->setBuddy(keus);
+    QObject::connect(keus, &QComboBox::currentIndexChanged, keus,
+                     [keus] { keus->setToolTip(keus->currentData(Qt::ToolTipRole).toString()); });
+    return keus;
 }
 
 /// The Tab key goes through these controls in this order.
@@ -153,14 +170,18 @@ inline bool VerschuifOpzij(QScrollBar& balk, int toets)
     return true;
 }
 
-/// Fills a drop-down anew, silently, and selects its first entry.
+/// Fills a drop-down anew, silently, and selects its first entry. Lines that come out shortened can
+/// be read in their tool tips.
 inline void VulKeus(QComboBox& keus, const std::vector<Tekst>& teksten)
 {
     const QSignalBlocker stil(&keus);
     keus.clear();
-    for (const Tekst& tekst : teksten)
+    for (const Tekst& tekst : teksten) {
         keus.addItem(NaarQString(tekst));
+        keus.setItemData(keus.count() - 1, Wenk(NaarQString(tekst)), Qt::ToolTipRole);
+    }
     keus.setCurrentIndex(teksten.empty() ? -1 : 0);
+    keus.setToolTip(keus.currentData(Qt::ToolTipRole).toString());
 }
 
 } // namespace plexoran
