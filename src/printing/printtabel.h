@@ -15,23 +15,11 @@ inline constexpr Kolom EerstePrintkolom = Kolom::Voornaam;
 /// What stands for a player without a subgroup; blanks alone are none.
 inline constexpr Tekstblik GeenSubgroep = "GEEN";
 
-/// The distinct subgroups of the group's players, as the set-up lists them.
+/// The distinct subgroups of the group's players, as the set-up lists them: a `Waardenlijst`.
 [[nodiscard]] std::vector<Tekst> Printsubgroepen(const Spelertabel& tabel, Tekstblik groepscode);
 
 /// "Subgroep(en): " and the subgroups as listed, joined by " + "; empty without any.
 [[nodiscard]] Tekst Subgroepkop(const std::vector<Tekst>& subgroepen);
-
-/// The chosen subgroups. A player is in it when "#" + his subgroup + "#", in capitals, stands in
-/// the text of the chosen ones, each between two "#" marks; so a "#" in a name can match more.
-class Subgroepkeuze {
-  public:
-    explicit Subgroepkeuze(const std::vector<Tekst>& gekozen);
-    [[nodiscard]] bool Hoort(Tekstblik subgroep) const;
-
-  private:
-    Tekst tekst_;
-    std::vector<Tekst> delen_; ///< what stands between two marks, sorted
-};
 
 /// What is printed. Rows and columns are counted as on paper: row 1 is the first player, column 0
 /// the number of the row, columns 1 to `Kolommen()` are the chosen ones.
@@ -58,8 +46,10 @@ class Printtabel {
 /// What the set-up asks for.
 struct Printopdracht {
     Tekst groepscode{};
-    std::vector<Tekst> subgroepen{}; ///< the chosen ones, as listed; empty: all players
-    std::vector<Kolom> kolommen{};   ///< in list order
+    /// The chosen ones, as listed; empty: all players. Capitals do not count, and a player is in
+    /// when the running text of the chosen ones holds his subgroup.
+    std::vector<Tekst> subgroepen{};
+    std::vector<Kolom> kolommen{};                                 ///< in list order
     std::array<Tekstblik, AantalKolommen> kolomnamen = Kolomnamen; ///< as the group shows them
 };
 

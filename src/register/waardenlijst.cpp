@@ -19,26 +19,23 @@ std::vector<Tekst> Knip(Tekstblik waarde)
 
 } // namespace
 
-void Waardenlijst::Voeg(const Tekst& waarde)
+void Hekjestekst::Voeg(Tekstblik waarde)
 {
-    const std::vector<Tekst> delen = Knip(waarde);
-    if (IsGezien(delen))
-        return;
-    for (const Tekst& deel : delen)
+    for (const Tekst& deel : Knip(waarde))
         VoegDeelToe(deel);
     VoegDeelToe({}); // between the closing mark of this value and the opening one of the next
-    waarden_.push_back(waarde);
 }
 
-void Waardenlijst::VoegDeelToe(const Tekst& deel)
+void Hekjestekst::VoegDeelToe(const Tekst& deel)
 {
     plaatsen_[deel].push_back(delen_.size());
     delen_.push_back(deel);
 }
 
 /// Looks where the rarest part of the value stands.
-bool Waardenlijst::IsGezien(const std::vector<Tekst>& delen) const
+bool Hekjestekst::Bevat(Tekstblik waarde) const
 {
+    const std::vector<Tekst> delen = Knip(waarde);
     const std::vector<std::size_t>* zeldzaamst = nullptr;
     std::size_t anker = 0;
     for (std::size_t i = 0; i < delen.size(); ++i) {
@@ -56,11 +53,19 @@ bool Waardenlijst::IsGezien(const std::vector<Tekst>& delen) const
 }
 
 /// The first and last part of the running text lack a mark before or behind them.
-bool Waardenlijst::StaatOp(const std::vector<Tekst>& delen, std::size_t begin) const
+bool Hekjestekst::StaatOp(const std::vector<Tekst>& delen, std::size_t begin) const
 {
     return begin + delen.size() < delen_.size() &&
            std::equal(delen.begin(), delen.end(),
                       delen_.begin() + static_cast<std::ptrdiff_t>(begin));
+}
+
+void Waardenlijst::Voeg(const Tekst& waarde)
+{
+    if (gezien_.Bevat(waarde))
+        return;
+    gezien_.Voeg(waarde);
+    waarden_.push_back(waarde);
 }
 
 } // namespace plexoran

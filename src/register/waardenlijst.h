@@ -8,21 +8,31 @@
 
 namespace plexoran {
 
-/// Distinct values in order of first appearance. A value is new when "#" + value + "#" does not
-/// occur in the running text of those seen, each between two "#" marks of its own; so a value with
-/// a "#" in it can hide another one. That is kept to the letter, with an index instead of a search.
+/// A running text in which each value stands between two "#" marks of its own. It holds whatever
+/// stands between two marks in it; so a value with a "#" in it answers for its parts too. That is
+/// kept to the letter, with an index instead of a search.
+class Hekjestekst {
+  public:
+    void Voeg(Tekstblik waarde);
+    [[nodiscard]] bool Bevat(Tekstblik waarde) const;
+
+  private:
+    void VoegDeelToe(const Tekst& deel);
+    [[nodiscard]] bool StaatOp(const std::vector<Tekst>& delen, std::size_t begin) const;
+
+    std::vector<Tekst> delen_{Tekst()}; ///< the running text, cut at its marks
+    std::unordered_map<Tekst, std::vector<std::size_t>> plaatsen_;
+};
+
+/// Distinct values in order of first appearance: those that the running text of the values so far
+/// did not hold.
 class Waardenlijst {
   public:
     void Voeg(const Tekst& waarde);
     [[nodiscard]] const std::vector<Tekst>& Waarden() const { return waarden_; }
 
   private:
-    [[nodiscard]] bool IsGezien(const std::vector<Tekst>& delen) const;
-    [[nodiscard]] bool StaatOp(const std::vector<Tekst>& delen, std::size_t begin) const;
-    void VoegDeelToe(const Tekst& deel);
-
-    std::vector<Tekst> delen_{Tekst()}; ///< the running text, cut at its marks
-    std::unordered_map<Tekst, std::vector<std::size_t>> plaatsen_;
+    Hekjestekst gezien_;
     std::vector<Tekst> waarden_;
 };
 
