@@ -24,7 +24,6 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/sorteerlijst.h"
 #include "pairs/frmParenOnderhoud.h"
-#include "platform/scherm/diaPrinter.h"
 #include "platform/scherm/tekstbrug.h"
 #include "printing/frmAfdrukken.h"
 #include "printing/frmPrintIni.h"
@@ -177,11 +176,6 @@ void NeemPrinten(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
     // It is as high as the screen lets it be.
     blad.setProperty(Standaardmaat, QSize(maten.Twips(12700), maten.Twips(10500)));
     rondgang.Neem(blad);
-    rondgang.Neem(diaPrinter({.titel = blad.windowTitle(),
-                              .stand = Papierstand::Staand,
-                              .bladen = 3,
-                              .voorstel = Bladkeus::Soort::Huidig},
-                             {.printers = {QStringLiteral("Clubhuis")}}, &blad));
 }
 
 } // namespace

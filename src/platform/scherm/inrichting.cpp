@@ -5,6 +5,9 @@
 #include <QProxyStyle>
 #include <QTranslator>
 
+#include <array>
+#include <string_view>
+
 #include "platform/scherm/pictogram.h"
 
 namespace plexoran {
@@ -24,8 +27,28 @@ class Huisstijl : public QProxyStyle {
     }
 };
 
-/// Words that the file dialog shows and that the Dutch texts of Qt lack.
-class Ontbrekend : public QTranslator {
+struct Woord {
+    std::string_view waar; ///< what of Qt asks for it
+    std::string_view bron;
+    const char* nederlands;
+};
+
+/// Words on the screen that the Dutch texts of Qt 6.4 lack or have half in English.
+constexpr std::array Woorden{
+    Woord{"QAbstractFileIconProvider", "Folder", "Map"},
+    Woord{"QAbstractFileIconProvider", "File Folder", "Map"},
+    Woord{"QAbstractFileIconProvider", "Drive", "Schijf"},
+    Woord{"QPrintSettingsOutput", "Double Sided Printing", "Dubbelzijdig afdrukken"},
+    Woord{"QPrintSettingsOutput", "Off", "Uit"},
+    Woord{"QPrintSettingsOutput", "Long side binding", "Lange zijde"},
+    Woord{"QPrintSettingsOutput", "Short side binding", "Korte zijde"},
+    Woord{"QPageSetupWidget", "Page size:", "Paginagrootte:"},
+    Woord{"QPageSize", "Envelope US 9", "Envelop US 9"},
+    Woord{"QPageSize", "Letter Small", "Letter klein"},
+    Woord{"QPageSize", "PRC 32K Big", "PRC 32K groot"},
+};
+
+class Aanvulling : public QTranslator {
   public:
     using QTranslator::QTranslator;
 
@@ -33,13 +56,10 @@ class Ontbrekend : public QTranslator {
     QString translate(const char* waar, const char* bron, const char* /*toelichting*/,
                       int /*aantal*/) const override
     {
-        const QLatin1String tekst(bron);
-        if (QLatin1String(waar) != QLatin1String("QAbstractFileIconProvider"))
-            return {};
-        if (tekst == QLatin1String("Folder") || tekst == QLatin1String("File Folder"))
-            return QStringLiteral("Map");
-        if (tekst == QLatin1String("Drive"))
-            return QStringLiteral("Schijf");
+        for (const Woord& woord : Woorden) {
+            if (woord.waar == waar && woord.bron == bron)
+                return QString::fromLatin1(woord.nederlands);
+        }
         return {};
     }
 };
@@ -53,12 +73,11 @@ void SpreekNederlands(QApplication& programma)
 {
     const QLocale nederlands = Nederlands();
     QLocale::setDefault(nederlands);
-    // Installed first: it is asked last, so that Qt's own word goes before.
-    QApplication::installTranslator(new Ontbrekend(&programma));
     auto* vertaling = new QTranslator(&programma);
     if (vertaling->load(nederlands, QStringLiteral("qtbase"), QStringLiteral("_"),
                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(vertaling);
+    QApplication::installTranslator(new Aanvulling(&programma)); // the last one is asked first
 }
 
 /// A bare system may answer "the standard font" with one for typewriter text.

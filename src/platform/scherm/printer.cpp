@@ -1,15 +1,17 @@
 #include "platform/scherm/printer.h"
 
+#include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
 
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/diaPrinter.h"
 #include "platform/scherm/frmVoortgang.h"
+#include "platform/scherm/maten.h"
 
 namespace plexoran {
 namespace {
@@ -60,8 +62,7 @@ Printeraanbod HuidigAanbod()
 {
     if (DialoogVanQt)
         return {.pdfInDialoog = true};
-    return {.printers = QPrinterInfo::availablePrinterNames(),
-            .standaard = QPrinterInfo::defaultPrinterName()};
+    return {.printers = QPrinterInfo::availablePrinterNames()};
 }
 
 /// Printers that make a PDF file say so by their name.
@@ -72,19 +73,30 @@ bool MaaktPdf(const QStringList& printers)
     });
 }
 
-/// The print dialog of the system, with this printer chosen when it has one of that name.
-std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, const QString& naam,
-                                    QWidget* ouder)
+/// A PDF file by the dialog of the system; all pages go into it.
+std::optional<Printer> VraagPdf(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
+{
+    QFileDialog kiezer(ouder, QStringLiteral("Opslaan als PDF-bestand"));
+    Noem(&kiezer, QStringLiteral("CommonDialog1"));
+    kiezer.setAcceptMode(QFileDialog::AcceptSave);
+    kiezer.setNameFilter(QStringLiteral("PDF-bestanden (*.pdf)"));
+    kiezer.setDefaultSuffix(QStringLiteral("pdf"));
+    kiezer.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    kiezer.selectFile(vraag.titel + QStringLiteral(".pdf"));
+    if (kiezer.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return Printer(schijf, VolledigPad(kiezer.selectedFiles().constFirst().toStdString()),
+                   {.soort = Bladkeus::Soort::Alle});
+}
+
+std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    if (!naam.isEmpty())
-        printer->setPrinterName(naam);
     printer->setDocName(vraag.titel);
     printer->setPageSize(QPageSize(QPageSize::A4));
     printer->setPageOrientation(vraag.stand == Papierstand::Staand ? QPageLayout::Portrait
                                                                    : QPageLayout::Landscape);
-    const bool huidig = vraag.voorstel == Bladkeus::Soort::Huidig;
-    printer->setPrintRange(huidig ? QPrinter::CurrentPage : QPrinter::AllPages);
+    printer->setPrintRange(QPrinter::PageRange);
 
     QPrintDialog dialoog(printer.get(), ouder);
     dialoog.setObjectName(QStringLiteral("QPrintDialog"));
@@ -92,7 +104,7 @@ std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, con
     dialoog.setOptions(QAbstractPrintDialog::PrintPageRange |
                        QAbstractPrintDialog::PrintCollateCopies);
     dialoog.setOption(QAbstractPrintDialog::PrintToFile, DialoogVanQt);
-    dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, huidig);
+    dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, vraag.bladInBeeld);
     dialoog.setMinMax(1, std::max(1, vraag.bladen));
     dialoog.setFromTo(1, std::max(1, vraag.bladen));
     VerbergLosseBladen(dialoog);
@@ -171,13 +183,18 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
                                    const Printeraanbod& aanbod, QWidget* ouder)
 {
     if (aanbod.pdfInDialoog || MaaktPdf(aanbod.printers))
-        return VraagSysteem(schijf, vraag, aanbod.standaard, ouder);
-    diaPrinter dialoog(vraag, aanbod, ouder);
-    if (dialoog.exec() != QDialog::Accepted)
+        return VraagSysteem(schijf, vraag, ouder);
+    enum { Printen, Pdf, Annuleren };
+    const int antwoord =
+        aanbod.printers.isEmpty()
+            ? Pdf
+            : Kies(ouder, QMessageBox::Question,
+                   QStringLiteral("Wilt u de bladen printen of opslaan als PDF-bestand?"),
+                   {QStringLiteral("Printen..."), QStringLiteral("PDF-bestand..."),
+                    QStringLiteral("Annuleren")});
+    if (antwoord == Annuleren)
         return std::nullopt;
-    if (dialoog.Printernaam().isEmpty())
-        return Printer(schijf, VolledigPad(dialoog.Pdfbestand().toStdString()), dialoog.Keus());
-    return VraagSysteem(schijf, vraag, dialoog.Printernaam(), ouder);
+    return antwoord == Pdf ? VraagPdf(schijf, vraag, ouder) : VraagSysteem(schijf, vraag, ouder);
 }
 
 void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,

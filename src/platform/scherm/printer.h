@@ -48,22 +48,21 @@ class Printer {
 };
 
 struct Printvraag {
-    QString titel;     ///< names the job, and the file that is proposed for a PDF
-    Papierstand stand; ///< of the pages
-    int bladen = 1;    ///< how many there are to choose from
-    /// What is chosen when the dialog opens. Without a page in view `Huidig` is not offered.
-    Bladkeus::Soort voorstel = Bladkeus::Soort::Alle;
+    QString titel;            ///< names the job, and the file that is proposed for a PDF
+    Papierstand stand;        ///< of the pages
+    int bladen = 1;           ///< how many there are to choose from
+    bool bladInBeeld = false; ///< the page in view is one to choose
 };
 
 /// What the system has to print on.
 struct Printeraanbod {
     bool pdfInDialoog = false; ///< its print dialog adds a PDF file to the printers by itself
     QStringList printers{};    ///< by the names that the system gives them
-    QString standaard{};       ///< one of them, or empty
 };
 
-/// The print dialog of the system; nothing when the user cancels it. Where that has neither a PDF
-/// file nor a printer that makes one, `diaPrinter` comes before it. `aanbod` is what there is now.
+/// The print dialog of the system, which proposes all pages as a range; nothing when the user
+/// cancels it. Where it has neither a PDF file nor a printer that makes one, the user is first
+/// asked which of both he wants. `aanbod` is what there is now.
 [[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
                                                  const Printeraanbod& aanbod, QWidget* ouder);
 [[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,

@@ -1,5 +1,7 @@
 #include "platform/scherm/printer.h"
 
+#include <QFileDialog>
+#include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -175,7 +177,8 @@ TEST_F(PrinterTest, EenMapDieErNietIsWordtGeweigerd)
 
 TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestand)
 {
-    const auto printer = Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand});
+    const auto printer =
+        Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9});
     ASSERT_TRUE(printer);
     ASSERT_TRUE(Print(*printer, 2));
     EXPECT_EQ(2U, Lees().size());
@@ -214,14 +217,116 @@ TEST_F(PrinterTest, LosseEnEvenBladenWordenNietAangeboden)
                      }));
 }
 
-TEST_F(PrinterTest, HetBladInBeeldIsHetVoorstel)
+/// The whole list is the proposal, as a range; the page in view is one to choose where there is
+/// one.
+TEST_F(PrinterTest, HetVoorstelIsVanHetEersteTotHetLaatsteBlad)
 {
-    const auto printer = Kies({.titel = QStringLiteral("Proef"),
-                               .stand = Papierstand::Staand,
-                               .bladen = 9,
-                               .voorstel = Bladkeus::Soort::Huidig});
+    Printvraag vraag{.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9};
+    for (const bool inBeeld : {false, true}) {
+        vraag.bladInBeeld = inBeeld;
+        const auto printer = Kies(vraag, [&](QDialog& dialoog) {
+            EXPECT_TRUE(Vind<QRadioButton>(dialoog, "printRange")->isChecked());
+            EXPECT_EQ(1, Vind<QSpinBox>(dialoog, "from")->value());
+            EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->value());
+            const auto* huidig = Vind<QRadioButton>(dialoog, "printCurrentPage");
+            EXPECT_EQ(inBeeld, huidig->isVisibleTo(huidig->parentWidget()));
+        });
+        ASSERT_TRUE(printer);
+        EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 7));
+    }
+    const auto printer = Kies(vraag, [](QDialog& dialoog) {
+        Vind<QRadioButton>(dialoog, "printCurrentPage")->setChecked(true);
+    });
     ASSERT_TRUE(printer);
     EXPECT_EQ((std::vector<int>{7}), printer->Keus().Bladen(9, 7));
+}
+
+TEST_F(PrinterTest, AllesIsAlleBladen)
+{
+    const auto printer =
+        Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9},
+             [](QDialog& dialoog) { Vind<QRadioButton>(dialoog, "printAll")->setChecked(true); });
+    ASSERT_TRUE(printer);
+    EXPECT_EQ(Bladkeus::Soort::Alle, printer->Keus().soort);
+    EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 7));
+}
+
+/// On a system whose own print dialog has no PDF file.
+class ZonderPdfTest : public PrinterTest {
+  protected:
+    std::optional<Printer> Kies(const QStringList& printers)
+    {
+        hoofd.show();
+        auto keus = KiesPrinter(
+            schijf,
+            {.titel = QStringLiteral("Ledenlijst Gr01"), .stand = Papierstand::Staand, .bladen = 9},
+            {.printers = printers}, &hoofd);
+        wachter.Klaar();
+        return keus;
+    }
+    void VerwachtVraag(const QString& antwoord)
+    {
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("Wilt u de bladen printen of opslaan als PDF-bestand?"),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Question,
+             .knoppen = {QStringLiteral("Printen..."), QStringLiteral("PDF-bestand..."),
+                         QStringLiteral("Annuleren")}});
+    }
+    void VerwachtBestand(const char* naam)
+    {
+        const QString pad = QString::fromStdString((map.Weg() / naam).string());
+        wachter.Bedien([pad](QDialog& dialoog) {
+            auto& kiezer = dynamic_cast<QFileDialog&>(dialoog);
+            EXPECT_EQ("Opslaan als PDF-bestand", kiezer.windowTitle().toStdString());
+            auto* vak = Vind<QLineEdit>(kiezer, "fileNameEdit");
+            EXPECT_EQ("Ledenlijst Gr01.pdf", vak->text().toStdString());
+            vak->setText(pad);
+            QMetaObject::invokeMethod(&kiezer, "accept");
+        });
+    }
+    void VerwachtSysteem()
+    {
+        wachter.Bedien([](QDialog& dialoog) {
+            EXPECT_NE(nullptr, qobject_cast<QPrintDialog*>(&dialoog));
+            DrukPrintdialoog(dialoog, QDialogButtonBox::RejectRole);
+        });
+    }
+};
+
+TEST_F(ZonderPdfTest, HetBestandKrijgtAlleBladenEnZijnAchtervoegsel)
+{
+    VerwachtVraag(QStringLiteral("PDF-bestand..."));
+    VerwachtBestand("lijst");
+    const auto printer = Kies({QStringLiteral("Kantoor")});
+    ASSERT_TRUE(printer);
+    EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 4));
+    ASSERT_TRUE(Print(*printer, 2));
+    EXPECT_EQ(2U, Lees().size());
+}
+
+TEST_F(ZonderPdfTest, ZonderPrinterVolgtMeteenHetBestand)
+{
+    VerwachtBestand("lijst.pdf");
+    EXPECT_TRUE(Kies({}));
+    wachter.Bedien([](QDialog& dialoog) { dialoog.reject(); });
+    EXPECT_FALSE(Kies({}));
+    EXPECT_TRUE(std::filesystem::is_empty(map.Weg()));
+}
+
+TEST_F(ZonderPdfTest, VoorEenPrinterVolgtHetVensterVanHetSysteem)
+{
+    VerwachtVraag(QStringLiteral("Printen..."));
+    VerwachtSysteem();
+    EXPECT_FALSE(Kies({QStringLiteral("Kantoor")}));
+    VerwachtVraag(Berichtwachter::Escape);
+    EXPECT_FALSE(Kies({QStringLiteral("Kantoor")}));
+}
+
+TEST_F(ZonderPdfTest, EenPrinterDieZelfPdfMaaktWordtNietGevraagd)
+{
+    VerwachtSysteem();
+    EXPECT_FALSE(Kies({QStringLiteral("Kantoor"), QStringLiteral("Microsoft Print to PDF")}));
 }
 
 TEST_F(PrinterTest, AnnulerenGeeftGeenPrinter)
