@@ -2,6 +2,7 @@
 // otherwise. Nothing here draws.
 #pragma once
 
+#include <cmath>
 #include <vector>
 
 #include "platform/tekenvlak.h"
@@ -52,6 +53,8 @@ struct Bladindeling {
     int bladen;       ///< P, which may exceed the limit
 
     [[nodiscard]] float Printbreedte() const { return begin.back(); }
+    /// Whole millimetres, never fewer than there are.
+    [[nodiscard]] int Millimeters() const { return static_cast<int>(std::ceil(Printbreedte())); }
     /// Wider than A4 on its side.
     [[nodiscard]] bool TeBreed() const;
     [[nodiscard]] int ToonbareBladen() const;

@@ -24,6 +24,19 @@ QLineEdit* MaakVak(const QString& naam, const QString& gesproken, int breed, QWi
     return vak;
 }
 
+/// Qt's own bar goes back at the right arrow.
+class Bladbalk : public QScrollBar {
+  public:
+    using QScrollBar::QScrollBar;
+
+  protected:
+    void keyPressEvent(QKeyEvent* gebeurtenis) override
+    {
+        if (!VerschuifOpzij(*this, gebeurtenis->key()) && !Verschuif(*this, gebeurtenis->key()))
+            QScrollBar::keyPressEvent(gebeurtenis);
+    }
+};
+
 /// Numbers of pages that can be shown. What is left standing and is none, such as 0, becomes the
 /// number of the page in view.
 class Bladnummers : public QIntValidator {
@@ -75,6 +88,8 @@ void frmAfdrukken::Bouw()
     setWindowTitle(QStringLiteral("Toon/print ...."));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     Label2 = MaakLabel(QStringLiteral("Label2"), QString(), this);
+    lblReden = MaakLabel(QStringLiteral("lblReden"), QString(), this);
+    lblReden->setWordWrap(true);
     lblZoom = MaakLabel(QStringLiteral("lblZoom"), QStringLiteral("100 %"), this);
     lblZoom->setToolTip(QStringLiteral("Groter of kleiner: Ctrl met het muiswiel, of met + en -"));
     cmdPrinten = MaakKnop(QStringLiteral("cmdPrinten"), QStringLiteral("Printen..."), u'P', this);
@@ -91,11 +106,12 @@ void frmAfdrukken::Bouw()
     onder->addLayout(Knoppenrij({cmdPrinten, cmdAnnuleren}));
     auto* lagen = new QVBoxLayout(this);
     lagen->addLayout(boven);
+    lagen->addWidget(lblReden);
     lagen->addWidget(picP0, 1);
     lagen->addLayout(onder);
     picP0->setMinimumSize(maten_.Twips(3000), maten_.Twips(3000));
     PasInScherm(this, {maten_.Twips(VensterBreed), screen()->availableSize().height()});
-    ZetTabvolgorde({picP0, Bladscroll, txtBlad, txtAantPages, cmdPrinten, cmdAnnuleren});
+    ZetTabvolgorde({picP0, Bladscroll, txtBlad, cmdPrinten, cmdAnnuleren});
     ToonPapier();
 }
 
@@ -103,7 +119,7 @@ QLayout* frmAfdrukken::BouwBladkeuze()
 {
     const int bladen = lijst_.indeling.ToonbareBladen();
     Label1 = MaakLabel(QStringLiteral("Label1"), QString(), this);
-    Bladscroll = new QScrollBar(Qt::Horizontal, this);
+    Bladscroll = new Bladbalk(Qt::Horizontal, this);
     Noem(Bladscroll, QStringLiteral("Bladscroll"), QStringLiteral("Blad kiezen"));
     Bladscroll->setFocusPolicy(Qt::StrongFocus);
     Bladscroll->setMinimumWidth(maten_.Twips(1800));
@@ -120,6 +136,7 @@ QLayout* frmAfdrukken::BouwBladkeuze()
     txtAantPages = MaakVak(QStringLiteral("txtAantPages"), QStringLiteral("Aantal bladen"),
                            maten_.Twips(1700), this);
     txtAantPages->setReadOnly(true);
+    txtAantPages->setFocusPolicy(Qt::ClickFocus); // no tab stop
     txtAantPages->setFrame(false);
     QPalette palet = txtAantPages->palette();
     palet.setColor(QPalette::Base, Qt::transparent);
@@ -145,7 +162,6 @@ void frmAfdrukken::Verbind()
     connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-/// The tool tip names the columns that are left off.
 void frmAfdrukken::ToonPapier()
 {
     const Bladindeling& indeling = lijst_.indeling;
@@ -157,9 +173,15 @@ void frmAfdrukken::ToonPapier()
         const QString titel = NaarQString(lijst_.tabel.Titel(kolom));
         ontbreken << (titel.isEmpty() ? QStringLiteral("(kolom %1)").arg(AantalKolommen) : titel);
     }
-    if (!ontbreken.isEmpty())
-        Label2->setToolTip(QStringLiteral("Niet op het blad: ") +
-                           ontbreken.join(QStringLiteral(", ")));
+    const QString breed = QString::number(indeling.Millimeters());
+    lblReden->setVisible(!staand);
+    lblReden->setText(indeling.TeBreed()
+                          ? QStringLiteral("De kolommen zijn samen %1 mm breed; liggend is er 297 "
+                                           "mm. Niet op het blad: %2")
+                                .arg(breed, ontbreken.join(QStringLiteral(", ")))
+                          : QStringLiteral("Liggend omdat de kolommen samen %1 mm breed zijn; "
+                                           "staand is er 210 mm.")
+                                .arg(breed));
 }
 
 void frmAfdrukken::WaarschuwVooraf()
@@ -233,7 +255,7 @@ void frmAfdrukken::Print()
                                      {.titel = Titel(),
                                       .stand = indeling.papier.stand,
                                       .bladen = indeling.ToonbareBladen(),
-                                      .voorstel = Bladkeus::Soort::Huidig},
+                                      .bladInBeeld = true},
                                      this);
     if (!printer)
         return;

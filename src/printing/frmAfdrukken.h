@@ -59,6 +59,7 @@ class frmAfdrukken : public QDialog {
     QLineEdit* txtAantPages = nullptr;
     QLabel* Label1 = nullptr;
     QLabel* Label2 = nullptr;
+    QLabel* lblReden = nullptr;
     QLabel* lblZoom = nullptr;
     QPushButton* cmdPrinten = nullptr;
     QPushButton* cmdAnnuleren = nullptr;

@@ -33,9 +33,9 @@ frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
 {
     MaakDelen();
     Bouw();
-    Verbind();
     Vul();
-    PasKnopAan();
+    Verbind();
+    PasAan();
     lstKeus->setFocus();
 }
 
@@ -63,6 +63,9 @@ void frmPrintIni::MaakDelen()
     Noem(lstNBBgr, QStringLiteral("lstNBBgr"), Label6->text());
     Label6->setBuddy(lstNBBgr);
     cmbSchaal = MaakKeus(QStringLiteral("cmbSchaal"), Label5, this);
+    lblBreedte = label(QStringLiteral("lblBreedte"), QString());
+    lblBreedte->setWordWrap(true);
+    cmdPassend = MaakKnop(QStringLiteral("cmdPassend"), QString(), 0, this);
     cmdSelAll =
         MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'a', this);
     cmdSelNone =
@@ -83,6 +86,7 @@ QGroupBox* frmPrintIni::BouwKolommen()
     kolom->addWidget(Label1);
     kolom->addWidget(lstKeus, 1);
     kolom->addLayout(knoppen);
+    kolom->addWidget(lblBreedte);
     return Frame1;
 }
 
@@ -91,6 +95,7 @@ QLayout* frmPrintIni::BouwRechts()
     auto* schaal = new QHBoxLayout;
     schaal->addWidget(Label5);
     schaal->addWidget(cmbSchaal);
+    schaal->addWidget(cmdPassend);
     schaal->addStretch();
     auto* kolom = new QVBoxLayout;
     kolom->addWidget(Label6);
@@ -127,7 +132,8 @@ void frmPrintIni::Bouw()
     lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
     ZetOpSchuifblad(this);
     PasInScherm(this, {maten_.Twips(8400), maten_.Twips(7200)});
-    ZetTabvolgorde({lstKeus, cmdSelAll, cmdSelNone, lstNBBgr, cmbSchaal, cmdOK, cmdAnnuleren});
+    ZetTabvolgorde(
+        {lstKeus, cmdSelAll, cmdSelNone, lstNBBgr, cmbSchaal, cmdPassend, cmdOK, cmdAnnuleren});
 }
 
 void frmPrintIni::Vul()
@@ -151,21 +157,66 @@ void frmPrintIni::Vul()
 
 void frmPrintIni::Verbind()
 {
-    connect(lstKeus, &Regellijst::keuzeVeranderd, this, &frmPrintIni::PasKnopAan);
+    connect(lstKeus, &Regellijst::keuzeVeranderd, this, &frmPrintIni::PasAan);
+    connect(lstNBBgr, &Regellijst::keuzeVeranderd, this, &frmPrintIni::ToonBreedte);
+    connect(cmbSchaal, &QComboBox::currentIndexChanged, this, &frmPrintIni::ToonBreedte);
+    connect(cmdPassend, &QPushButton::clicked, this,
+            [this] { cmbSchaal->setCurrentIndex(passend_); });
     connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);
     connect(cmdSelNone, &QPushButton::clicked, lstKeus, &Regellijst::clearSelection);
     connect(cmdOK, &QPushButton::clicked, this, &frmPrintIni::Print);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void frmPrintIni::PasKnopAan()
+void frmPrintIni::PasAan()
 {
     cmdOK->setEnabled(lstKeus->IetsGekozen() && !subgroepen_.empty());
+    ToonBreedte();
 }
 
-float frmPrintIni::Schaal() const
+/// Of the players that the chosen subgroups have, or all of the group while none is chosen.
+void frmPrintIni::ToonBreedte()
 {
-    return getallen_.toFloat(cmbSchaal->currentText());
+    const Printtabel tabel = MaakPrinttabel(administratie_.spelers.tabel, Opdracht());
+    const auto bij = [&](int plaats) { return BerekenKolommen(tabel, Schaal(plaats), kast_); };
+    passend_ = cmbSchaal->count() - 1;
+    while (passend_ >= 0 && bij(passend_).TeBreed())
+        --passend_;
+    const Bladindeling indeling = bij(cmbSchaal->currentIndex());
+    QString tekst = QStringLiteral("Samen %1 mm breed: ").arg(indeling.Millimeters());
+    if (indeling.TeBreed())
+        tekst += QStringLiteral("te breed voor A4-liggend (297 mm).");
+    else if (indeling.papier.stand == Papierstand::Liggend)
+        tekst += QStringLiteral("past op A4-liggend (297 mm).");
+    else
+        tekst += QStringLiteral("past op A4-staand (210 mm).");
+    lblBreedte->setText(cmdOK->isEnabled() ? tekst : QString());
+    cmdPassend->setText(
+        passend_ < 0
+            ? QStringLiteral("Geen schaal past")
+            : MetSneltoets(
+                  QStringLiteral("Grootste die past: %1").arg(cmbSchaal->itemText(passend_)),
+                  u'G'));
+    cmdPassend->setEnabled(cmdOK->isEnabled() && passend_ >= 0 &&
+                           passend_ != cmbSchaal->currentIndex());
+}
+
+float frmPrintIni::Schaal(int plaats) const
+{
+    return getallen_.toFloat(cmbSchaal->itemText(plaats));
+}
+
+Printopdracht frmPrintIni::Opdracht() const
+{
+    Printopdracht opdracht{.groepscode = Tekst(CodeUit(groeptekst_)),
+                           .subgroepen = {},
+                           .kolommen = {},
+                           .kolomnamen = kolomnamen_};
+    for (const int plaats : lstNBBgr->GekozenPlaatsen())
+        opdracht.subgroepen.push_back(subgroepen_[static_cast<std::size_t>(plaats)]);
+    for (const int plaats : lstKeus->GekozenPlaatsen())
+        opdracht.kolommen.push_back(PrintkolomOp(plaats));
+    return opdracht;
 }
 
 void frmPrintIni::Print()
@@ -180,19 +231,12 @@ void frmPrintIni::Print()
         Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog een subgroep kiezen."));
         return;
     }
-    Printopdracht opdracht{.groepscode = Tekst(CodeUit(groeptekst_)),
-                           .subgroepen = {},
-                           .kolommen = {},
-                           .kolomnamen = kolomnamen_};
-    for (const int plaats : lstNBBgr->GekozenPlaatsen())
-        opdracht.subgroepen.push_back(subgroepen_[static_cast<std::size_t>(plaats)]);
-    for (const int plaats : lstKeus->GekozenPlaatsen())
-        opdracht.kolommen.push_back(PrintkolomOp(plaats));
+    const Printopdracht opdracht = Opdracht();
     frmAfdrukken venster(administratie_,
                          {.tabel = MaakPrinttabel(administratie_.spelers.tabel, opdracht),
                           .groeptekst = groeptekst_,
                           .subgroepkop = Subgroepkop(opdracht.subgroepen),
-                          .schaal = Schaal()},
+                          .schaal = Schaal(cmbSchaal->currentIndex())},
                          this);
     venster.exec();
 }

@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "platform/scherm/inrichting.h"
+#include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
 #include "platform/scherm/regellijst.h"
 #include "printing/printtabel.h"
@@ -34,15 +35,19 @@ class frmPrintIni : public QDialog {
     [[nodiscard]] QLayout* BouwRechts();
     void Vul();
     void Verbind();
-    void PasKnopAan();
+    void PasAan();
+    void ToonBreedte();
     void Print();
-    [[nodiscard]] float Schaal() const;
+    [[nodiscard]] Printopdracht Opdracht() const;
+    [[nodiscard]] float Schaal(int plaats) const;
 
     Administratie& administratie_;
     Maten maten_;
     Tekst groeptekst_;
     std::array<Tekstblik, AantalKolommen> kolomnamen_;
     QLocale getallen_;
+    Letterkast kast_;
+    int passend_ = -1; ///< the largest scale at which all columns come out, its place in the list
     std::vector<Tekst> subgroepen_; ///< as listed; none: the group is empty
 
     QLabel* Label1 = nullptr;
@@ -54,7 +59,9 @@ class frmPrintIni : public QDialog {
     QLabel* Label7 = nullptr;
     Regellijst* lstKeus = nullptr;
     Regellijst* lstNBBgr = nullptr;
+    QLabel* lblBreedte = nullptr;
     QComboBox* cmbSchaal = nullptr;
+    QPushButton* cmdPassend = nullptr;
     QPushButton* cmdSelAll = nullptr;
     QPushButton* cmdSelNone = nullptr;
     QPushButton* cmdOK = nullptr;

@@ -118,6 +118,10 @@ class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
     {
         Vind<QRadioButton>(dialoog, "printAll")->setChecked(true);
     }
+    static void KiesHuidig(QDialog& dialoog)
+    {
+        Vind<QRadioButton>(dialoog, "printCurrentPage")->setChecked(true);
+    }
     static void KiesReeks(QDialog& dialoog, int van, int tot)
     {
         Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
@@ -136,7 +140,21 @@ TEST_F(frmAfdrukkenTest, DeOpschriften)
     EXPECT_EQ("Print blad 1", Label("Label1"));
     EXPECT_EQ("1", Vak("txtBlad"));
     EXPECT_EQ("(Totaal 2)", Vak("txtAantPages"));
-    EXPECT_EQ("", Deel<QLabel>("Label2")->toolTip().toStdString());
+    EXPECT_FALSE(Deel<QLabel>("lblReden")->isVisible());
+    EXPECT_EQ(Qt::ClickFocus, Deel<QLineEdit>("txtAantPages")->focusPolicy()); // no tab stop
+}
+
+TEST_F(frmAfdrukkenTest, DeTabtoetsSlaatHetAantalBladenOver)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(56));
+    std::vector<std::string> volgorde;
+    for (int keer = 0; keer < 6; ++keer) {
+        volgorde.push_back(QApplication::focusWidget()->objectName().toStdString());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ((std::vector<std::string>{"picP0", "Bladscroll", "txtBlad", "cmdPrinten",
+                                        "cmdAnnuleren", "picP0"}),
+              volgorde);
 }
 
 /// As far as the screen allows; its frame grows with the window.
@@ -200,6 +218,9 @@ TEST_F(frmAfdrukkenTest, EenBredeLijstGaatLiggen)
 {
     ASSERT_NO_FATAL_FAILURE(Open(MaakPrintspelers(1, Tekst(130, 'x')), {Kolom::Achternaam}));
     EXPECT_EQ("Printformaat: A4-liggend", Label("Label2"));
+    EXPECT_TRUE(Deel<QLabel>("lblReden")->isVisible());
+    EXPECT_EQ("Liggend omdat de kolommen samen 244 mm breed zijn; staand is er 210 mm.",
+              Label("lblReden"));
     const QSize vlak = Deel<QWidget>("picP1")->size();
     EXPECT_NEAR(297.0 / 210, static_cast<double>(vlak.width()) / vlak.height(), 0.01);
 }
@@ -211,13 +232,15 @@ TEST_F(frmAfdrukkenTest, EenTeBredeLijstWaarschuwtEnNoemtWatOntbreekt)
     ASSERT_NO_FATAL_FAILURE(Open(MaakPrintspelers(1, Tekst(200, 'x')),
                                  {Kolom::Voornaam, Kolom::Achternaam, Kolom::Telef}));
     EXPECT_EQ("Printformaat: A4-liggend", Label("Label2"));
-    EXPECT_EQ("Niet op het blad: Achternaam, Telef",
-              Deel<QLabel>("Label2")->toolTip().toStdString());
+    EXPECT_TRUE(Deel<QLabel>("lblReden")->isVisible());
+    EXPECT_EQ("De kolommen zijn samen 396 mm breed; liggend is er 297 mm. "
+              "Niet op het blad: Achternaam, Telef",
+              Label("lblReden"));
     const auto bladen = Print();
     EXPECT_EQ("RegNr Voornaam", bladen.at(0).Regel(bladen.at(0).Woord("RegNr").boven));
 }
 
-/// Outside the import group the last column has no name: none on paper, one in the tool tip.
+/// Outside the import group the last column has no name: none on paper, one in the window.
 TEST_F(frmAfdrukkenTest, DeLaatsteKolomZonderNaam)
 {
     auto namen = Kolomnamen;
@@ -233,8 +256,7 @@ TEST_F(frmAfdrukkenTest, DeLaatsteKolomZonderNaam)
                                         "Rechts ontbreken dus kolommen!"));
     ASSERT_NO_FATAL_FAILURE(
         Open(MaakPrintspelers(1, Tekst(200, 'x')), {Kolom::Achternaam, Kolom::NBBnr}, 1, namen));
-    EXPECT_EQ("Niet op het blad: Achternaam, (kolom 18)",
-              Deel<QLabel>("Label2")->toolTip().toStdString());
+    EXPECT_TRUE(Label("lblReden").ends_with("Niet op het blad: Achternaam, (kolom 18)"));
 }
 
 TEST_F(frmAfdrukkenTest, EenBladKiezenMetDeBalk)
@@ -267,6 +289,20 @@ TEST_F(frmAfdrukkenTest, EenBladKiezenMetToetsenOfEenNummer)
     EXPECT_EQ("Print blad 4", Label("Label1"));
 }
 
+TEST_F(frmAfdrukkenTest, DePijltjesOpDeBladbalk)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    Balk()->setFocus();
+    using Stap = std::pair<Qt::Key, int>;
+    for (const auto& [toets, blad] :
+         {Stap(Qt::Key_Right, 2), Stap(Qt::Key_Right, 3), Stap(Qt::Key_Left, 2),
+          Stap(Qt::Key_Down, 3), Stap(Qt::Key_Up, 2), Stap(Qt::Key_PageDown, 3),
+          Stap(Qt::Key_PageUp, 2), Stap(Qt::Key_End, 4), Stap(Qt::Key_Home, 1)}) {
+        QTest::keyClick(Balk(), toets);
+        EXPECT_EQ(blad, Balk()->value()) << toets;
+    }
+}
+
 /// The keys that turn the page and zoom work from every part of the window.
 TEST_F(frmAfdrukkenTest, DeToetsenWerkenOokInHetVakEnOpDeKnoppen)
 {
@@ -291,7 +327,7 @@ TEST_F(frmAfdrukkenTest, EenGetyptNummerTeltVoorHetPrintenMetAltP)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
     Schrijf(*venster, "txtBlad", QStringLiteral("3"));
-    VerwachtPdf(wachter, map.Weg() / "lijst.pdf");
+    VerwachtPdf(wachter, map.Weg() / "lijst.pdf", KiesHuidig);
     QTest::keyClick(Deel<QLineEdit>("txtBlad"), Qt::Key_P, Qt::AltModifier);
     const auto bestand = map.Weg() / "lijst.pdf";
     ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(bestand); }));
@@ -524,12 +560,39 @@ TEST_F(frmAfdrukkenTest, LiggendPapierLigt)
     EXPECT_EQ("38", bladen[1].Woord("38").tekst); // 37 rows on the first
 }
 
-/// Without a choice of pages the page in view comes out.
+/// So that Enter prints the whole list.
+TEST_F(frmAfdrukkenTest, HetVoorstelIsDeHeleLijst)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
+    Balk()->setValue(3);
+    std::filesystem::remove(map.Weg() / "lijst.pdf");
+    wachter.Bedien([&](QDialog& dialoog) {
+        KiesPdf(dialoog, map.Weg() / "lijst.pdf");
+        QTest::keyClick(&dialoog, Qt::Key_Return);
+    });
+    Klik(Deel<QPushButton>("cmdPrinten"));
+    wachter.Klaar();
+    const auto bladen = LeesPdf(map.Weg() / "lijst.pdf");
+    ASSERT_EQ(4U, bladen.size());
+    EXPECT_EQ("v1", bladen[0].Woord("v1").tekst);
+    EXPECT_EQ("v200", bladen[3].Woord("v200").tekst);
+}
+
+/// More pages than can be printed are not proposed either.
+TEST_F(frmAfdrukkenTest, HetVoorstelBlijftBinnenDeGrens)
+{
+    wachter.Waarschuwing(
+        QStringLiteral("\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"));
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(2000));
+    EXPECT_EQ(30U, Print().size());
+}
+
+/// Without a range the page in view comes out.
 TEST_F(frmAfdrukkenTest, HetBladInBeeldIsDeReeks)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
     Balk()->setValue(3);
-    const auto bladen = Print();
+    const auto bladen = Print(KiesHuidig);
     ASSERT_EQ(1U, bladen.size());
     EXPECT_EQ("v111", bladen[0].Woord("v111").tekst);
 }

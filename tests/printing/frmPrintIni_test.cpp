@@ -238,6 +238,86 @@ TEST_F(frmPrintIniTest, AlleenEmailIsGenoeg)
     Klik(Knop("cmdOK"));
 }
 
+/// A surname of so many times "x", which is 1.76 mm wide at scale 1.
+class BreedteTest : public frmPrintIniTest {
+  protected:
+    void OpenMet(int letters)
+    {
+        administratie.spelers.tabel =
+            MaakTabel({{"100001", "Gr01-", "An", "", Tekst(static_cast<std::size_t>(letters), 'x'),
+                        "A-lijn", "1"},
+                       {"100002", "Gr01-", "Bea", "", "Cock", "B-lijn", "2"}});
+        ASSERT_NO_FATAL_FAILURE(Open());
+        Klik(Knop("cmdSelNone"));
+        KlikRegel("lstKeus", 2);
+    }
+    [[nodiscard]] std::string Schaal() const
+    {
+        return Deel<QComboBox>("cmbSchaal")->currentText().toStdString();
+    }
+};
+
+TEST_F(BreedteTest, DeBreedteVolgtDeKolommenEnDeSubgroepen)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenMet(102));
+    EXPECT_EQ("Samen 194 mm breed: past op A4-staand (210 mm).", Label("lblBreedte"));
+    KlikRegel("lstKeus", 0);
+    EXPECT_EQ("Samen 213 mm breed: past op A4-liggend (297 mm).", Label("lblBreedte"));
+    KlikRegel("lstNBBgr", 1); // without the long name
+    EXPECT_EQ("Samen 54 mm breed: past op A4-staand (210 mm).", Label("lblBreedte"));
+    KlikRegel("lstNBBgr", 0);
+    EXPECT_EQ("Samen 213 mm breed: past op A4-liggend (297 mm).", Label("lblBreedte"));
+    Klik(Knop("cmdSelNone"));
+    EXPECT_EQ("", Label("lblBreedte"));
+    EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
+}
+
+TEST_F(BreedteTest, DeGrootsteSchaalDiePastWordtAangeboden)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenMet(180));
+    EXPECT_EQ("Samen 332 mm breed: te breed voor A4-liggend (297 mm).", Label("lblBreedte"));
+    EXPECT_EQ("Grootste die past: 0,8", Opschrift(Knop("cmdPassend")));
+    EXPECT_EQ("1", Schaal());
+    Klik(Knop("cmdPassend"));
+    EXPECT_EQ("0,8", Schaal());
+    EXPECT_EQ("Samen 266 mm breed: past op A4-liggend (297 mm).", Label("lblBreedte"));
+    EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
+
+    ASSERT_NO_FATAL_FAILURE(OpenMet(10));
+    EXPECT_EQ("Grootste die past: 1,3", Opschrift(Knop("cmdPassend")));
+    ASSERT_NO_FATAL_FAILURE(OpenMet(300));
+    EXPECT_EQ("Geen schaal past", Opschrift(Knop("cmdPassend")));
+    EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
+}
+
+/// What the set-up says of a list is what the preview does with it.
+TEST_F(BreedteTest, HetVoorbeeldIsZoBreedAlsGezegd)
+{
+    for (const int letters : {102, 180}) {
+        ASSERT_NO_FATAL_FAILURE(OpenMet(letters));
+        KlikRegel("lstKeus", 0);
+        KlikRegel("lstNBBgr", 0);
+        Klik(Knop("cmdPassend"));
+        const std::string breed = Label("lblBreedte").substr(0, 12); // "Samen 213 mm"
+        wachter.Bedien([&](QDialog& voorbeeld) {                     // and no warning before it
+            EXPECT_NE(
+                std::string::npos,
+                Vind<QLabel>(voorbeeld, "lblReden")->text().toStdString().find(breed.substr(6, 6)))
+                << breed;
+            voorbeeld.reject();
+        });
+        Klik(Knop("cmdOK"));
+        wachter.Klaar();
+    }
+}
+
+TEST_F(frmPrintIniTest, EenLegeGroepHeeftGeenBreedte)
+{
+    ASSERT_NO_FATAL_FAILURE(Open("Gr09-"));
+    EXPECT_EQ("", Label("lblBreedte"));
+    EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
+}
+
 TEST_F(frmPrintIniTest, NaHetVoorbeeldBlijftHetVensterMetZijnKeuzes)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
