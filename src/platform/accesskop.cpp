@@ -42,18 +42,18 @@ Uitkomst<void> KeurAccesskop(const fs::path& bestand)
     if (soort == fs::file_type::not_found)
         return Mis(bestand, Foutsoort::Ontbreekt, {});
     if (soort == fs::file_type::none)
-        return Mis(bestand, Foutsoort::Geweigerd, fout.message());
+        return Mis(bestand, Foutsoort::Geweigerd, Systeemmelding(fout));
     if (soort != fs::file_type::regular)
         return Mis(bestand, Foutsoort::Geweigerd, "het is geen gewoon bestand");
     const std::uintmax_t grootte = fs::file_size(bestand, fout);
     if (fout)
-        return Mis(bestand, Foutsoort::Geweigerd, fout.message());
+        return Mis(bestand, Foutsoort::Geweigerd, Systeemmelding(fout));
     if (grootte == 0)
         return Mis(bestand, Foutsoort::Beschadigd, "het bestand is leeg");
     errno = 0;
     std::ifstream stroom(bestand, std::ios::binary);
     if (!stroom)
-        return Mis(bestand, Foutsoort::Geweigerd, std::generic_category().message(errno));
+        return Mis(bestand, Foutsoort::Geweigerd, Systeemmelding({errno, std::generic_category()}));
     std::array<char, koplengte> kop{};
     if (!stroom.read(kop.data(), koplengte))
         return Mis(bestand, Foutsoort::Beschadigd, "het is geen Access-database");

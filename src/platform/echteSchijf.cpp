@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "platform/codepagina.h"
 #include "platform/greep.h"
 #include "platform/systeempad.h"
 
@@ -12,21 +11,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Melding(const std::error_code& code)
-{
-#ifdef _WIN32
-    if (code.category() == std::system_category())
-        return NaarUtf8(code.message()); // Windows gives its words in the code page
-#endif
-    return code.message();
-}
-
 tl::unexpected<Fout> Mislukt(const fs::path& waar, const std::error_code& code)
 {
     const bool ontbreekt =
         code == std::errc::no_such_file_or_directory || code == std::errc::not_a_directory;
     return tl::unexpected(Fout{ontbreekt ? Foutsoort::Ontbreekt : Foutsoort::Geweigerd,
-                               Leesbaar(waar), 0, Melding(code)});
+                               Leesbaar(waar), 0, Systeemmelding(code)});
 }
 
 Uitkomst<void> Uitslag(const fs::path& waar, const std::error_code& code)

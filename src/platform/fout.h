@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <system_error>
 
 #include <tl/expected.hpp>
 
@@ -22,6 +23,10 @@ struct [[nodiscard]] Fout {
     int regel = 0;       ///< line of the file from 1; 0 where no line is to blame
     std::string systeem; ///< the system's own words, or what a reader found; UTF-8; may be empty
 };
+
+/// The words of the system for what went wrong: in Dutch for the errors that disks give, else its
+/// own; UTF-8.
+[[nodiscard]] std::string Systeemmelding(const std::error_code& code);
 
 template <class T> using Uitkomst = tl::expected<T, Fout>;
 

@@ -49,7 +49,8 @@ tl::unexpected<Fout> Mislukt(const Pad& pad, std::errc oorzaak)
 {
     const auto soort = oorzaak == std::errc::no_such_file_or_directory ? Foutsoort::Ontbreekt
                                                                        : Foutsoort::Geweigerd;
-    return tl::unexpected(Fout{soort, NaarUtf8(pad), 0, std::make_error_code(oorzaak).message()});
+    return tl::unexpected(
+        Fout{soort, NaarUtf8(pad), 0, Systeemmelding(std::make_error_code(oorzaak))});
 }
 
 /// Of what stands in this folder, as it was written.

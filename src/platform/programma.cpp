@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -105,7 +106,9 @@ Uitkomst<void> StartProgramma(Schijf& schijf, const Pad& pad)
     if (proces.startDetached())
         return {};
     fout.soort = Foutsoort::Geweigerd;
-    fout.systeem = proces.errorString().toStdString();
+    fout.systeem = QFileInfo(proces.program()).isExecutable()
+                       ? proces.errorString().toStdString()
+                       : Systeemmelding(std::make_error_code(std::errc::permission_denied));
     return tl::unexpected(fout);
 }
 

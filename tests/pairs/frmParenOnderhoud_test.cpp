@@ -553,7 +553,7 @@ TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
                        "tekstbestand, verhelp de oorzaak en sla dat op onder de naam "
                        "hieronder.\n\n"
                        "Bestand: C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt\n"
-                       "Melding van het systeem: Permission denied"));
+                       "Melding van het systeem: u hebt daar geen rechten voor"));
     Klik(Knop("cmdEinde"));
     wachter.Klaar();
     EXPECT_FALSE(venster->isVisible());

@@ -234,6 +234,9 @@ TEST(StartProgramma, BestandDatNietKanStarten)
     const auto uitkomst = StartProgramma(schijf, Samen(map.AlsPad(), "Gatenlijst.exe"));
     ASSERT_FALSE(uitkomst);
     EXPECT_EQ(uitkomst.error().soort, Foutsoort::Geweigerd);
+#ifndef _WIN32
+    EXPECT_EQ("u hebt daar geen rechten voor", uitkomst.error().systeem);
+#endif
 }
 
 #ifndef _WIN32

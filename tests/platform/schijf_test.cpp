@@ -279,6 +279,41 @@ TEST(EchteSchijfTest, NulbyteVindtNiets)
     EXPECT_EQ(map.Inhoud("a"), "x");
 }
 
+TEST(Systeemmelding, DeGewoneFoutenInHetNederlands)
+{
+    const auto melding = [](std::errc fout) { return Systeemmelding(std::make_error_code(fout)); };
+    EXPECT_EQ("het bestand of de map bestaat niet", melding(std::errc::no_such_file_or_directory));
+    EXPECT_EQ("u hebt daar geen rechten voor", melding(std::errc::permission_denied));
+    EXPECT_EQ("de schijf is vol", melding(std::errc::no_space_on_device));
+    EXPECT_EQ("op deze schijf kan alleen worden gelezen",
+              melding(std::errc::read_only_file_system));
+    for (const std::errc fout :
+         {std::errc::not_a_directory, std::errc::is_a_directory, std::errc::file_exists,
+          std::errc::directory_not_empty, std::errc::operation_not_permitted,
+          std::errc::file_too_large, std::errc::io_error, std::errc::device_or_resource_busy,
+          std::errc::text_file_busy, std::errc::filename_too_long, std::errc::invalid_argument,
+          std::errc::too_many_symbolic_link_levels, std::errc::cross_device_link,
+          std::errc::too_many_files_open, std::errc::too_many_files_open_in_system,
+          std::errc::not_enough_memory, std::errc::no_such_device, std::errc::timed_out})
+        EXPECT_NE(std::make_error_code(fout).message(), melding(fout));
+}
+
+TEST(Systeemmelding, DeRestInDeWoordenVanHetSysteem)
+{
+    const auto zeldzaam = std::make_error_code(std::errc::owner_dead);
+    EXPECT_EQ(zeldzaam.message(), Systeemmelding(zeldzaam));
+}
+
+/// What the system says of its own disk comes out in the same words.
+TEST(Systeemmelding, OokVanHetSysteemZelf)
+{
+    EXPECT_EQ("het bestand of de map bestaat niet",
+              Systeemmelding({ENOENT, std::generic_category()}));
+    std::error_code fout;
+    (void)std::filesystem::file_size("/bestaat/niet", fout);
+    EXPECT_EQ("het bestand of de map bestaat niet", Systeemmelding(fout));
+}
+
 TEST(EchteSchijfTest, FoutNoemtBestandEnReden)
 {
     EchteSchijf schijf;
@@ -286,8 +321,7 @@ TEST(EchteSchijfTest, FoutNoemtBestandEnReden)
     const auto gelezen = schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9"));
     ASSERT_FALSE(gelezen);
     EXPECT_EQ(gelezen.error().bestand, map.Toonpad(u8"René"));
-    EXPECT_EQ(gelezen.error().systeem,
-              std::make_error_code(std::errc::no_such_file_or_directory).message());
+    EXPECT_EQ("het bestand of de map bestaat niet", gelezen.error().systeem);
     EXPECT_EQ(schijf.Toonpad(Samen(map.AlsPad(), "Ren\xE9")), gelezen.error().bestand);
 }
 
