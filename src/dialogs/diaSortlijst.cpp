@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/meter.h"
+#include "platform/scherm/letterkast.h"
 
 namespace plexoran {
 namespace {

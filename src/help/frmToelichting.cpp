@@ -5,7 +5,7 @@
 #include "help/tekstblad.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/leesvak.h"
-#include "platform/scherm/meter.h"
+#include "platform/scherm/letterkast.h"
 
 namespace plexoran {
 namespace {

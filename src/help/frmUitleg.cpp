@@ -3,8 +3,8 @@
 #include <QVBoxLayout>
 
 #include "platform/scherm/leesvak.h"
+#include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
-#include "platform/scherm/meter.h"
 
 namespace plexoran {
 namespace {

@@ -1,8 +1,8 @@
 #include "mainwindow/rooster.h"
 
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
-#include "platform/scherm/meter.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
@@ -20,7 +20,7 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
       P2(new QWidget(P9))
 {
     const QFont letter = Roosterletter(maten.Letter(Letterpunten).pixelSize());
-    inhoud_.meter = MaakMeter(letter, pixelsPerMm_);
+    inhoud_.meter = Roostermeter(letter.pixelSize(), pixelsPerMm_);
     P1->setFont(letter);
     BouwHeader(letter);
     const int naast = maten.Twips(VrijNaastVlakTwips) - 2 * frameWidth();

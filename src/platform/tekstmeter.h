@@ -9,10 +9,9 @@
 namespace plexoran {
 
 struct Tekstmeter {
-    /// Advance of each character in micrometres.
-    std::array<std::int32_t, 256> opschuiving{};
+    std::array<std::int32_t, 256> opschuiving{}; ///< of each character, in the unit of its maker
 
-    /// Width in micrometres.
+    /// In the same unit.
     [[nodiscard]] std::int64_t Breedte(Tekstblik tekst) const
     {
         std::int64_t som = 0;

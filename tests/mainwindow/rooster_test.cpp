@@ -7,7 +7,7 @@
 
 #include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
-#include "platform/scherm/meter.h"
+#include "platform/scherm/letterkast.h"
 
 using namespace plexoran;
 
@@ -401,7 +401,7 @@ TEST_F(RoosterTest, NaEenWijzigingBlijftHetBeeldStaan)
 TEST_F(RoosterTest, DeHeadersSluitenAanEnHebbenDeBreedteVanHunNaam)
 {
     const double perMm = Maten().PixelsPerMm();
-    const Tekstmeter meter = MaakMeter(Header(1)->font(), perMm);
+    const Tekstmeter meter = Roostermeter(Header(1)->font().pixelSize(), perMm);
     int links = 0;
     for (int i = 1; i <= 18; ++i) {
         const QPushButton* header = Header(i);
@@ -420,7 +420,7 @@ TEST_F(RoosterTest, ZonderVinkjeVolgtDeBreedteDeTeksten)
     QTest::mouseClick(Vink("chkKolBr"), Qt::LeftButton, {}, {8, Vink("chkKolBr")->height() / 2});
     ASSERT_FALSE(Vink("chkKolBr")->isChecked());
     const double perMm = Maten().PixelsPerMm();
-    const Tekstmeter meter = MaakMeter(Header(1)->font(), perMm);
+    const Tekstmeter meter = Roostermeter(Header(1)->font().pixelSize(), perMm);
     for (int i = 1; i <= 18; ++i) {
         std::int64_t breedst = 0;
         const Spelertabel& tabel = administratie.spelers.tabel;

@@ -1,7 +1,5 @@
 #include "platform/scherm/letterkast.h"
 
-#include <QFont>
-
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
@@ -36,18 +34,24 @@ QFont::StyleHint Soort(Lettertype type)
     return QFont::Serif;
 }
 
-std::unique_ptr<Lettersnede> Laad(const Letter& letter)
+QFont Schermletter(Lettertype type, bool vet, int pixels)
 {
-    QFont font(Families(letter.type).constFirst());
-    font.setFamilies(Families(letter.type));
-    font.setStyleHint(Soort(letter.type), QFont::NoFontMerging);
-    font.setPixelSize(Lettersnede::Em);
-    font.setBold(letter.vet);
+    QFont font(Families(type).constFirst());
+    font.setFamilies(Families(type));
+    // The font has the whole code page, so no other font need be looked for.
+    font.setStyleHint(Soort(type), QFont::NoFontMerging);
+    font.setPixelSize(pixels);
+    font.setBold(vet);
+    font.setKerning(false);
     // Hinting would bend the widths towards the dots of one device.
     font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
 
+std::unique_ptr<Lettersnede> Laad(const Letter& letter)
+{
     auto snede = std::make_unique<Lettersnede>();
-    snede->letter = QRawFont::fromFont(font);
+    snede->letter = QRawFont::fromFont(Schermletter(letter.type, letter.vet, Lettersnede::Em));
     snede->stijging = snede->letter.ascent();
     snede->daling = snede->letter.descent();
     for (std::size_t i = 0; i < snede->beeld.size(); ++i) {
@@ -59,7 +63,7 @@ std::unique_ptr<Lettersnede> Laad(const Letter& letter)
             continue;
         snede->beeld[i] = beelden.constFirst();
         const auto schuif = snede->letter.advancesForGlyphIndexes(beelden.mid(0, 1));
-        snede->opschuiving[i] = schuif.isEmpty() ? 0 : qRound(schuif.constFirst().x());
+        snede->meter.opschuiving[i] = schuif.isEmpty() ? 0 : qRound(schuif.constFirst().x());
     }
     return snede;
 }
@@ -81,17 +85,28 @@ const Lettersnede& Letterkast::Snede(const Letter& letter) const
 
 double Letterkast::Breedte(const Letter& letter, Tekstblik tekst) const
 {
-    const Lettersnede& snede = Snede(letter);
-    std::int64_t som = 0;
-    for (const char teken : tekst)
-        som += snede.opschuiving[static_cast<unsigned char>(teken)];
-    return static_cast<double>(som) * Lettersnede::Mm(letter.punten);
+    return static_cast<double>(Snede(letter).meter.Breedte(tekst)) * Lettersnede::Mm(letter.punten);
 }
 
 double Letterkast::Hoogte(const Letter& letter) const
 {
     const Lettersnede& snede = Snede(letter);
     return (snede.stijging + snede.daling) * Lettersnede::Mm(letter.punten);
+}
+
+QFont Roosterletter(int pixels)
+{
+    return Schermletter(Lettertype::Arial, false, pixels);
+}
+
+Tekstmeter Roostermeter(int pixels, double pixelsPerMm)
+{
+    constexpr double MicrometerPerMm = 1000.0;
+    const double eenheid = MicrometerPerMm * pixels / (Lettersnede::Em * pixelsPerMm);
+    Tekstmeter meter = Laad({.type = Lettertype::Arial})->meter;
+    for (std::int32_t& opschuiving : meter.opschuiving)
+        opschuiving = qRound(opschuiving * eenheid);
+    return meter;
 }
 
 } // namespace plexoran

@@ -2,12 +2,14 @@
 // PDF, so that a text is equally wide on all of them and stands where the layout put it.
 #pragma once
 
+#include <QFont>
 #include <QRawFont>
 
 #include <array>
 #include <memory>
 
 #include "platform/tekenvlak.h"
+#include "platform/tekstmeter.h"
 
 namespace plexoran {
 
@@ -18,7 +20,7 @@ struct Lettersnede {
 
     QRawFont letter;
     std::array<quint32, 256> beeld{}; ///< the glyph of each character of the code page
-    std::array<std::int32_t, 256> opschuiving{};
+    Tekstmeter meter;
     double stijging = 0; ///< from the base line up
     double daling = 0;   ///< from the base line down
 
@@ -38,5 +40,11 @@ class Letterkast : public Lettermeter {
     static constexpr std::size_t AantalSneden = 6; // three fonts, each in two weights
     mutable std::array<std::unique_ptr<Lettersnede>, AantalSneden> sneden_;
 };
+
+/// The font of the grid and of lists on the screen: "Arial", or its metric equal, without kerning,
+/// so that the width of a text is the sum of its characters'.
+[[nodiscard]] QFont Roosterletter(int pixels);
+/// Its widths in micrometres.
+[[nodiscard]] Tekstmeter Roostermeter(int pixels, double pixelsPerMm);
 
 } // namespace plexoran

@@ -10,7 +10,7 @@
 #include <numeric>
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/meter.h"
+#include "platform/scherm/letterkast.h"
 #include "platform/tekstorde.h"
 
 namespace plexoran {
@@ -130,7 +130,7 @@ void Regellijst::Vul(int aantal, std::function<Tekst(int)> regel, Plek plek)
 /// In pixels, of all lines.
 int Regellijst::Breedste() const
 {
-    const Tekstmeter meter = MaakMeter(font(), 1);
+    const Tekstmeter meter = Roostermeter(font().pixelSize(), 1);
     std::int64_t breedste = 0;
     for (int plaats = 0; plaats < Aantal(); ++plaats)
         breedste = std::max(breedste, meter.Breedte(regel_(plaats)));

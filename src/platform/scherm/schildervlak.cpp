@@ -38,7 +38,7 @@ void Schildervlak::Schrijf(double x, double y, const Letter& letter, Tekstblik t
         const auto i = static_cast<unsigned char>(teken);
         beelden << snede.beeld[i];
         plekken << QPointF(pen, 0);
-        pen += snede.opschuiving[i];
+        pen += snede.meter.opschuiving[i];
     }
     QGlyphRun rij;
     rij.setRawFont(snede.letter);
