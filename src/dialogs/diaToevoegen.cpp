@@ -145,7 +145,7 @@ void diaToevoegen::KiesZitting()
     // The name of the club is to blame for every session; it is told once.
     const bool opnieuw = !gehaald && gehaald.error().soort == Foutsoort::Beschadigd &&
                          std::exchange(gemeld_, gehaald.error().bestand) == gehaald.error().bestand;
-    if (!gehaald && !opnieuw)
+    if (!opnieuw && !StaatEr(this, gehaald))
         MeldFout(QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
                                 "spelerslijst van deze zitting is gebleven zoals hij was."),
                  gehaald.error());

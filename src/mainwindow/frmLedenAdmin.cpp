@@ -93,6 +93,8 @@ void frmLedenAdmin::BewaarInstellingen()
     if (uitkomst || instellingenfoutGemeld_)
         return;
     instellingenfoutGemeld_ = true;
+    if (StaatEr(this, uitkomst))
+        return;
     MeldFout(this, QMessageBox::Warning,
              QStringLiteral("De instellingen van het programma kunnen niet worden opgeslagen. De "
                             "gegevens van de spelers zijn niet in gevaar: alleen de groep die u "

@@ -173,7 +173,7 @@ bool frmLedenAdmin::BewaarGroepen(const Groepen& oud)
     for (;;) {
         const auto uitkomst =
             SchrijfGroepen(administratie_.schijf, administratie_.mappen, administratie_.groepen);
-        if (uitkomst)
+        if (StaatEr(this, uitkomst))
             return true;
         const int antwoord =
             Kies(this, QMessageBox::Critical,

@@ -14,7 +14,7 @@ frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
     for (;;) {
         const auto uitkomst = SchrijfSpelers(administratie_.schijf, administratie_.mappen,
                                              administratie_.spelers, overschrijven);
-        if (uitkomst)
+        if (StaatEr(this, uitkomst))
             break;
         MerkNietOpgeslagen(true);
         ToonGroep();

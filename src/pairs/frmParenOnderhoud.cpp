@@ -221,7 +221,7 @@ void frmParenOnderhoud::SchrijfCSV(ParenCSV soort)
     const QString naam = NaarQString(ParenCSVNaam(soort));
     const auto geschreven = SchrijfParenCSV(administratie_.schijf, mappen, paren_.L3(),
                                             administratie_.spelers.tabel, soort);
-    if (geschreven)
+    if (StaatEr(this, geschreven))
         Meld(this, QMessageBox::Information,
              QStringLiteral("Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n").arg(naam) +
                  QString::fromStdString(administratie_.schijf.Toonpad(ParenCSVMap(mappen))));
@@ -255,7 +255,7 @@ void frmParenOnderhoud::Einde()
     }
     const auto bewaard =
         BewaarParen(administratie_.schijf, administratie_.mappen, keuze_, paren_.L3(), gelezen_);
-    if (!bewaard)
+    if (!StaatEr(this, bewaard))
         MeldOpslagfout(bewaard.error());
     accept();
 }

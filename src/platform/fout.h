@@ -15,6 +15,7 @@ enum class Foutsoort {
     Geweigerd,        ///< the system refused: rights, a full disk, a broken device
     Gewijzigd,        ///< someone else changed the file since it was read
     GeenReservekopie, ///< the copy that must come before a save could not be made
+    NietVast,         ///< the new file is in place and whole, but may not survive a loss of power
 };
 
 struct [[nodiscard]] Fout {
@@ -29,5 +30,11 @@ struct [[nodiscard]] Fout {
 [[nodiscard]] std::string Systeemmelding(const std::error_code& code);
 
 template <class T> using Uitkomst = tl::expected<T, Fout>;
+
+/// Whether a save put the new file in place, be it without surviving a loss of power.
+[[nodiscard]] inline bool StaatOpSchijf(const Uitkomst<void>& opslag)
+{
+    return opslag || opslag.error().soort == Foutsoort::NietVast;
+}
 
 } // namespace plexoran

@@ -93,7 +93,12 @@ Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, const Vuller& vul, Houdba
         static_cast<void>(schijf.Verwijder(tijdelijk->pad));
         return geruild;
     }
-    return houdbaarheid == Houdbaarheid::Blijvend ? schijf.SyncMapVan(*doel) : Uitkomst<void>();
+    if (houdbaarheid == Houdbaarheid::Vluchtig)
+        return {};
+    return schijf.SyncMapVan(*doel).map_error([](Fout fout) {
+        fout.soort = Foutsoort::NietVast;
+        return fout;
+    });
 }
 
 /// What failed may be a temporary file; the user knows the file by its own name.

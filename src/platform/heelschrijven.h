@@ -11,8 +11,7 @@ namespace plexoran {
 /// Makes a temporary file in the same folder with the old file's rights, writes and syncs it,
 /// renames it over the old file and syncs the folder. Where `pad` is a link, the file it leads to
 /// is the one that is replaced. On any failure before the rename the temporary file is removed and
-/// the old file untouched. A failing folder sync is reported too: the new file is in place then,
-/// but may not survive a loss of power.
+/// the old file untouched. A failing folder sync, the last step, is reported as `NietVast`.
 [[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud);
 
 /// Writes the contents piece by piece; its errors are handed on.

@@ -98,9 +98,10 @@ Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen, Groepen& gro
     const auto magWeg = [&](Tekstblik oud) {
         return groepen.bestandstekst == oud && IsGroepenbestand(oud);
     };
-    return VervangMetKopie(schijf, mappen.SPEMAP, mappen.Groepenbestand(), nieuw, magWeg).map([&] {
+    auto uitkomst = VervangMetKopie(schijf, mappen.SPEMAP, mappen.Groepenbestand(), nieuw, magWeg);
+    if (StaatOpSchijf(uitkomst))
         groepen.bestandstekst = std::move(nieuw);
-    });
+    return uitkomst;
 }
 
 } // namespace plexoran

@@ -56,8 +56,7 @@ Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers
     auto uitkomst = SchrijfHeel(schijf, pad, [&](Schrijver& schrijver) {
         return InStukken(spelers, [&](Tekstblik stuk) { return schrijver.Schrijf(stuk); });
     });
-    // The last step can fail when the new file is already in place; it is not someone else's then.
-    if (!uitkomst && schijf.LeesBestand(pad) != SpelersTekst(spelers))
+    if (!StaatOpSchijf(uitkomst))
         return uitkomst;
     spelers.kopieNodig = false;
     const auto stempel = schijf.NeemStempel(pad);

@@ -79,7 +79,7 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 /// Writes the file whole; a table without rows is not written: the file keeps its contents.
 /// A file that someone else changed since it was read is only replaced with `OokGewijzigd`, after a
 /// copy; so is a file of which something was not taken into the table.
-/// On any error the file is as it was and the table whole.
+/// On any error but `NietVast` the file is as it was; the table is always whole.
 [[nodiscard]] Uitkomst<void> SchrijfSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers,
                                             Overschrijven overschrijven);
 

@@ -34,13 +34,6 @@ void LeesBestandUit(Schijf& schijf, const Zittingplaats& plaats, Lijstsoort soor
         uit.zwevenden.push_back({plaats, soort, std::move(vindplaats)});
 }
 
-/// Reports a file that is in place although bringing it to the disk failed as what it is: changed.
-bool StaatEr(Schijf& schijf, const Pad& pad, const Tekst& inhoud)
-{
-    const auto nu = schijf.LeesBestand(pad);
-    return nu && *nu == inhoud;
-}
-
 struct Uitgevoerd {
     std::vector<bool> vervangen;
     bool geschreven = false;
@@ -61,13 +54,11 @@ Uitgevoerd PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort,
     if (!nieuw.IetsVervangen())
         return {.vervangen = std::move(nieuw.vervangen), .geschreven = false, .fout = std::nullopt};
     const auto geschreven = SchrijfHeel(schijf, pad, nieuw.inhoud);
-    if (geschreven)
-        return {.vervangen = std::move(nieuw.vervangen), .geschreven = true, .fout = std::nullopt};
-    const bool staatEr = StaatEr(schijf, pad, nieuw.inhoud);
+    const bool staatEr = StaatOpSchijf(geschreven);
     return {.vervangen =
                 staatEr ? std::move(nieuw.vervangen) : std::vector<bool>(vervanging.codes.size()),
             .geschreven = staatEr,
-            .fout = geschreven.error()};
+            .fout = geschreven ? std::nullopt : std::optional(geschreven.error())};
 }
 
 Uitkomst<std::vector<bool>> Als(Uitgevoerd uitgevoerd)

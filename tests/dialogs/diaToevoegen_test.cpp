@@ -229,6 +229,17 @@ TEST_F(diaToevoegenTest, EenKopieDieMislukt)
     EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
 }
 
+TEST_F(diaToevoegenTest, EenKopieDieErStaatMaarNietVastIsGelezen)
+{
+    schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
+    wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat "
+                                              "heel op de schijf."),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_EQ("Aantal toe te voegen spelers: 12", Label("Label4")); // not the 6 of its own list
+}
+
 TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
 {
     ASSERT_NO_FATAL_FAILURE(Open());

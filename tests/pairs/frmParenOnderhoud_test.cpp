@@ -46,6 +46,18 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
     void Open(Tekstblik groep = "Gr03-Clubleden") { Toon(administratie, groep); }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
 
+    void VerwachtNietVast(const Pad& bestand)
+    {
+        wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud "
+                                                  "staat heel op de schijf. Het systeem kon alleen "
+                                                  "niet bevestigen dat dit na een stroomstoring "
+                                                  "nog zo is. Kijk of de schijf in orde is en sla "
+                                                  "later nog eens op.\n\nBestand: ") +
+                                   QString::fromStdString(geheugen.Toonpad(bestand)),
+                          .icoon = QMessageBox::Warning,
+                          .alleenBegin = true});
+    }
+
     [[nodiscard]] Regellijst* Lijst(const char* naam) const { return Deel<Regellijst>(naam); }
     /// As a user who picks it in the drop-down.
     void Kies(const char* keuze) const
@@ -561,6 +573,30 @@ TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
     EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
 }
 
+/// Only syncing the folder, the last step, fails: the pairs are in their file.
+TEST_F(frmParenOnderhoudTest, ParenDieErStaanMaarNietVastGaanNietNaarHetKlembord)
+{
+    int stappen = 0;
+    for (const bool faalt : {false, true}) {
+        geheugen.Zet(dinsdag, "100004-100005#\r\n");
+        ASSERT_NO_FATAL_FAILURE(Open());
+        Kies("Gr03-Dinsdag");
+        MaakPaar(0, 1);
+        QGuiApplication::clipboard()->setText(QStringLiteral("van mij"));
+        schijf.FaalNiet();
+        if (faalt) {
+            schijf.FaalBij(stappen);
+            VerwachtNietVast("C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt");
+        }
+        Klik(Knop("cmdEinde"));
+        wachter.Klaar();
+        stappen = schijf.Aantal();
+        EXPECT_FALSE(venster->isVisible());
+        EXPECT_EQ("van mij", QGuiApplication::clipboard()->text().toStdString());
+        EXPECT_EQ("100001-100002#100004-100005#\r\n", geheugen.Inhoud(dinsdag));
+    }
+}
+
 TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
 {
     Kies("Gr03-A/B");
@@ -664,6 +700,29 @@ TEST_F(frmParenOnderhoudTest, DeCSVBestanden)
     opgeslagen("RVDparenCSV2.csv");
     Klik(Knop("cmdPrintLos"));
     EXPECT_EQ("", geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+}
+
+TEST_F(frmParenOnderhoudTest, EenCSVDieErStaatMaarNietVastIsOpgeslagen)
+{
+    Kies("Gr03-Dinsdag");
+    MaakPaar(0, 1);
+    int stappen = 0;
+    for (const bool faalt : {false, true}) {
+        schijf.FaalNiet();
+        if (faalt) {
+            ASSERT_TRUE(geheugen.Verwijder("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+            schijf.FaalBij(stappen);
+            VerwachtNietVast("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv");
+        }
+        wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'RVDparenCSV2.csv' is "
+                                                  "opgeslagen in de map: \r\n\r\n"),
+                          .alleenBegin = true});
+        Klik(Knop("cmdPrintLos"));
+        wachter.Klaar();
+        stappen = schijf.Aantal();
+        EXPECT_EQ("1;\xC9ls \xC4rp;An Bos\r\n",
+                  geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+    }
 }
 
 TEST_F(frmParenOnderhoudTest, EenCSVDieNietLukt)

@@ -707,6 +707,21 @@ TEST_F(frmAfdrukkenTest, EenVolleSchijfWordtGemeldEnLaatGeenHalfBestand)
     EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
 }
 
+/// Only syncing the folder, the last step, fails.
+TEST_F(frmAfdrukkenTest, EenBestandDatErStaatMaarNietVastIsGeprint)
+{
+    ASSERT_NO_FATAL_FAILURE(OpenRijen(3));
+    schijf.FaalBij(6); // make, write, sync, close, rename, and then the folder
+    VerwachtPdf(wachter, map.Weg() / "lijst.pdf");
+    wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat "
+                                              "heel op de schijf."),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    Klik(Deel<QPushButton>("cmdPrinten"));
+    wachter.Klaar();
+    EXPECT_EQ(1U, LeesPdf(map.Weg() / "lijst.pdf").size());
+}
+
 TEST_F(frmAfdrukkenTest, TerugEnEscapeSluiten)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(3));

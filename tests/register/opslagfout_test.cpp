@@ -52,7 +52,10 @@ void EenStap(Schijf& binnen, const Mappen& mappen, const Proef& proef, FalendeSc
     BekijkBestand(binnen, mappen, proef, !eerste);
     if (!eerste) {
         const bool kopieMislukt = eerste.error().soort == Foutsoort::GeenReservekopie;
-        EXPECT_TRUE(kopieMislukt || eerste.error().soort == Foutsoort::Geweigerd);
+        // What is told is what stands there: the new file only behind the error that says so.
+        const bool staatEr = binnen.LeesBestand(proef.bestand) == proef.nieuw;
+        EXPECT_EQ(staatEr, eerste.error().soort == Foutsoort::NietVast);
+        EXPECT_TRUE(kopieMislukt || staatEr || eerste.error().soort == Foutsoort::Geweigerd);
         EXPECT_EQ(eerste.error().systeem, "schijf vol");
         EXPECT_NE(eerste.error().bestand, "");
         if (kopieMislukt) {
@@ -323,10 +326,27 @@ TEST(Opslagfout, NaEenMislukteSyncVanDeMapIsHetBestandNietVanEenAnder)
     schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
     const auto eerste = SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::AlleenEigen);
     ASSERT_FALSE(eerste);
-    EXPECT_EQ(eerste.error().soort, Foutsoort::Geweigerd);
+    EXPECT_EQ(eerste.error().soort, Foutsoort::NietVast);
     EXPECT_EQ(binnen.Inhoud(spelerbestand), SpelersTekst(spelers));
     spelers.tabel.ZetCel(1, Kolom::Voornaam, "Annie");
     EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::AlleenEigen));
+}
+
+TEST(Opslagfout, NaEenMislukteSyncVanDeMapKomtErGeenKopieVanDeEigenGroepsnamen)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet(groepenbestand, "Gr01-Oud\r\n");
+    Groepen groepen = LeesGroepen(binnen, Proefmappen());
+    groepen.ZetNaam(1, "Clubleden");
+    FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
+    schijf.FaalBij(7);
+    const auto eerste = SchrijfGroepen(schijf, Proefmappen(), groepen);
+    ASSERT_FALSE(eerste);
+    EXPECT_EQ(eerste.error().soort, Foutsoort::NietVast);
+    EXPECT_EQ(binnen.Inhoud(groepenbestand), GroepenTekst(groepen));
+    groepen.ZetNaam(1, "Avond");
+    EXPECT_TRUE(SchrijfGroepen(schijf, Proefmappen(), groepen));
+    EXPECT_EQ(Kopieen(binnen), std::vector<Tekst>{});
 }
 
 TEST(Opslagfout, AlleenLezenMapOfBestand)

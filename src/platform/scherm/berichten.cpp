@@ -230,6 +230,18 @@ void MeldFout(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, con
          bijzonderheden.isEmpty() ? tekst : tekst + QStringLiteral("\n\n") + bijzonderheden);
 }
 
+bool StaatEr(QWidget* ouder, const Uitkomst<void>& opslag)
+{
+    if (!opslag && StaatOpSchijf(opslag))
+        MeldFout(ouder, QMessageBox::Warning,
+                 QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat heel op de "
+                                "schijf. Het systeem kon alleen niet bevestigen dat dit na een "
+                                "stroomstoring nog zo is. Kijk of de schijf in orde is en sla "
+                                "later nog eens op."),
+                 opslag.error());
+    return StaatOpSchijf(opslag);
+}
+
 void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats)
 {
     MeldFout(ouder, QMessageBox::Critical,

@@ -39,6 +39,10 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
 /// Says what happened, whether the data is safe and what to do; the details of the error follow.
 void MeldFout(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const Fout& fout);
 
+/// Whether a save put the new file in place. Where only its last step failed, so that the file may
+/// not survive a loss of power, the user is told.
+[[nodiscard]] bool StaatEr(QWidget* ouder, const Uitkomst<void>& opslag);
+
 /// `wat` did not happen, because no key is left; the error names where the highest key stands.
 void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats);
 

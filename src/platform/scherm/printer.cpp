@@ -136,7 +136,7 @@ Uitkomst<std::size_t> DrukBladen(const Printer& printer, const Printgang& gang,
         teken((*taak)->Vlak(), gang.bladen[gedaan]);
         ++gedaan;
     } while (voortgang.Meld(gedaan, gang.bladen.size()) && gedaan < gang.bladen.size());
-    if (const auto eind = (*taak)->Eind(); !eind)
+    if (const auto eind = (*taak)->Eind(); !StaatEr(ouder, eind))
         return tl::unexpected(eind.error());
     return gedaan;
 }

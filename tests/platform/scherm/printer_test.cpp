@@ -150,10 +150,10 @@ TEST_F(PrinterTest, EenVolleSchijfIsEenFoutEnLaatHetOudeBestand)
         if (uitkomst)
             break;
         ++mislukt;
-        EXPECT_EQ(Foutsoort::Geweigerd, uitkomst.error().soort);
         const auto inhoud = geheugen.LeesBestand("C:\\Uit\\lijst.pdf");
         ASSERT_TRUE(inhoud);
-        EXPECT_TRUE(*inhoud == "van gisteren" || inhoud->substr(0, 5) == "%PDF-") << stap;
+        const bool staatEr = uitkomst.error().soort == Foutsoort::NietVast;
+        EXPECT_TRUE(staatEr ? inhoud->starts_with("%PDF-") : *inhoud == "van gisteren") << stap;
     }
     EXPECT_GT(mislukt, 3);
 }
