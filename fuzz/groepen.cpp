@@ -63,7 +63,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
     mappen.SPEMAP = "C:\\Spelers";
     GeheugenSchijf schijf;
     schijf.Zet(mappen.Groepenbestand(), inhoud);
-    Eis(MaakGroepenbestand(schijf, mappen).has_value(), "het maken");
+    Eis(MaakGroepenbestand(schijf, mappen).gemaakt.has_value(), "het maken");
     const Groepen start = LeesGroepen(schijf, mappen);
     Eis(schijf.Inhoud(mappen.Groepenbestand()) == inhoud || NamenGelijk(start, Groepen()),
         "een nieuw bestand heeft geen namen");

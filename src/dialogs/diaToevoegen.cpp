@@ -16,12 +16,13 @@ namespace plexoran {
 bool ZetTerugOfMeld(Koppelverslag& verslag, QWidget* ouder)
 {
     const auto terug = verslag.ZetTerug();
-    if (!terug)
-        Meld(ouder, QMessageBox::Warning,
-             QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. Verwijder dat "
-                            "bestand: de sleutels die erin staan, zijn niet uitgegeven.\n\n") +
-                 Bijzonderheden(terug.error()));
-    return terug.has_value();
+    if (StaatEr(ouder, terug))
+        return true;
+    Meld(ouder, QMessageBox::Warning,
+         QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. Verwijder dat bestand: "
+                        "de sleutels die erin staan, zijn niet uitgegeven.\n\n") +
+             Bijzonderheden(terug.error()));
+    return false;
 }
 
 diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)

@@ -78,15 +78,6 @@ Sessiespeler Ontleed(Tekstblik naam, Tekstblik paar)
     return uit;
 }
 
-/// Register keys begin at the base; nobody is given one below it.
-std::int32_t HoogsteKey(const Spelertabel& tabel)
-{
-    std::int32_t hoogste = 0;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
-        hoogste = std::max(hoogste, Geheel32(tabel.Cel(rij, Kolom::Key)).value_or(0));
-    return hoogste < Sleutelbasis ? 0 : hoogste;
-}
-
 /// An item without "-" holds one name; the second player is nobody then.
 Helften NamenVan(const Lijstpaar& paar, Tekstblik item)
 {
@@ -246,7 +237,7 @@ std::optional<Tekst> VoegSpelersToe(Register& spelers, const std::vector<Sessies
 {
     const std::int32_t oud = spelers.HKEY;
     if (spelers.HKEY == 0)
-        spelers.HKEY = HoogsteKey(spelers.tabel);
+        spelers.HKEY = HoogsteSleutel(spelers.tabel);
     const auto aantal = std::count_if(namen.begin(), namen.end(),
                                       [](const Sessiespeler& naam) { return !IsNiemand(naam); });
     if (!ZijnErSleutels(spelers, static_cast<std::size_t>(aantal))) {
@@ -294,7 +285,7 @@ Uitkomst<void> Koppelverslag::ZetTerug()
     auto terug = oud_ ? SchrijfHeel(schijf_, pad_, *oud_) : schijf_.Verwijder(pad_);
     if (!terug && !oud_ && terug.error().soort == Foutsoort::Ontbreekt)
         terug = {};
-    staat_ = !terug;
+    staat_ = !StaatOpSchijf(terug);
     return terug;
 }
 

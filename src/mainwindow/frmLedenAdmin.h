@@ -46,6 +46,8 @@ class frmLedenAdmin : public QMainWindow {
     void closeEvent(QCloseEvent* gebeurtenis) override;
 
   private:
+    /// When a player file is read.
+    enum class Leesmoment { Start, NaOpslag, Opnieuw };
     enum class Opslag { Gelukt, RegisterBehouden, Mislukt };
     /// What the user wants after a save that failed.
     enum class Vervolg { Opnieuw, Overschrijven, LeesOpnieuw, Later };
@@ -68,11 +70,17 @@ class frmLedenAdmin : public QMainWindow {
     void ZoekRekenprogrammaBijStart();
     void KiesRekenprogramma();
     void LeesGroepenBijStart();
-    void LeesSpelersBijStart();
     void MeldLosseSleutels();
-    void MeldLezing(const Leesverslag& verslag);
-    [[nodiscard]] QString WatNietGelezenIs(const Leesverslag& verslag) const;
+    void BiedTerugzettenAan(const Aanmaak& aanmaak, const Pad& pad, const QString& wat);
+    [[nodiscard]] bool IsGemaakt(const Aanmaak& aanmaak, const QString& wat);
     void MeldMapfout(const QString& wat, const Fout& fout);
+
+    // Reading the players (frmLedenAdmin_lezing.cpp)
+    [[nodiscard]] bool LeesSpelersBijStart();
+    [[nodiscard]] bool VraagHogereSleutel(std::int32_t hoogste);
+    void MeldLezing(const Leesverslag& verslag, Leesmoment moment);
+    void MeldNietGeopend(const Fout& fout, Leesmoment moment);
+    [[nodiscard]] QString WatNietGelezenIs(const Leesverslag& verslag) const;
 
     // Groups
     void VulGroepen();
@@ -110,7 +118,7 @@ class frmLedenAdmin : public QMainWindow {
 
     // Saving (frmLedenAdmin_opslag.cpp)
     Opslag SlaOp();
-    void LeesOpnieuw();
+    void LeesOpnieuw(Leesmoment moment);
     void MerkNietOpgeslagen(bool nietOpgeslagen);
     [[nodiscard]] Vervolg VraagVervolg(const Fout& fout);
     [[nodiscard]] Vervolg VraagNaWijziging(const Fout& fout);

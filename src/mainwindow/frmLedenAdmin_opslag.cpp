@@ -24,14 +24,14 @@ frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
         else if (vervolg != Vervolg::Opnieuw) {
             ZetVerslagenTerug(vervolg == Vervolg::LeesOpnieuw);
             if (vervolg == Vervolg::LeesOpnieuw)
-                LeesOpnieuw();
+                LeesOpnieuw(Leesmoment::Opnieuw);
             return Opslag::Mislukt;
         }
     }
     MerkNietOpgeslagen(false);
     if (!leeg)
         SchrijfVerslagen();
-    LeesOpnieuw();
+    LeesOpnieuw(leeg ? Leesmoment::Opnieuw : Leesmoment::NaOpslag);
     return leeg && administratie_.spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden
                                                             : Opslag::Gelukt;
 }
@@ -42,7 +42,7 @@ void frmLedenAdmin::MerkNietOpgeslagen(bool nietOpgeslagen)
     setWindowModified(nietOpgeslagen);
 }
 
-void frmLedenAdmin::LeesOpnieuw()
+void frmLedenAdmin::LeesOpnieuw(Leesmoment moment)
 {
     const Leesverslag verslag =
         LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
@@ -53,7 +53,7 @@ void frmLedenAdmin::LeesOpnieuw()
     if (verslag.AllesGelezen())
         return;
     ToonGroep(); // the grid must not show the old rows behind the box
-    MeldLezing(verslag);
+    MeldLezing(verslag, moment);
 }
 
 frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
@@ -119,23 +119,18 @@ void frmLedenAdmin::SchrijfVerslagen()
     };
     for (Koppelverslag& verslag : verslagen_) {
         auto geschreven = verslag.Staat() ? Uitkomst<void>() : verslag.Schrijf();
-        while (!geschreven && nogEens(geschreven.error()))
+        while (!StaatEr(this, geschreven) && nogEens(geschreven.error()))
             geschreven = verslag.Schrijf();
     }
     verslagen_.clear();
 }
 
 /// Keys that the register on the disk lacks will be issued to other players: no link file may name
-/// them. The last step of a save can fail when the new register is already in place.
+/// them.
 void frmLedenAdmin::ZetVerslagenTerug(bool vervallen)
 {
     if (verslagen_.empty())
         return;
-    if (administratie_.schijf.LeesBestand(administratie_.mappen.Spelerbestand()) ==
-        SpelersTekst(administratie_.spelers)) {
-        SchrijfVerslagen();
-        return;
-    }
     bool terug = false;
     for (Koppelverslag& verslag : verslagen_)
         terug = (verslag.Staat() && ZetTerugOfMeld(verslag, this)) || terug;

@@ -10,22 +10,6 @@
 #include "register/reservekopie.h"
 
 namespace plexoran {
-namespace {
-
-constexpr int TeNoemenRegels = 10;
-
-QString Opsomming(const std::vector<int>& regels)
-{
-    QStringList nummers;
-    for (const int regel : regels) {
-        if (nummers.size() == TeNoemenRegels)
-            return nummers.join(QStringLiteral(", ")) + QStringLiteral(", ...");
-        nummers << QString::number(regel);
-    }
-    return nummers.join(QStringLiteral(", "));
-}
-
-} // namespace
 
 std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
 {
@@ -49,11 +33,15 @@ std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
     opstarten_ = false;
     cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);
     LeesGroepenBijStart();
-    LeesSpelersBijStart();
+    const bool opslaan = LeesSpelersBijStart();
     MeldLosseSleutels();
 
     const int laatste = administratie_.instellingen.LOSTGR;
     KiesGroep(laatste >= 0 && laatste < AantalGroepen ? laatste : 0);
+    if (opslaan) { // not before: a display keeps the place of its group
+        (void)SlaOp();
+        ToonGroep();
+    }
     if (administratie_.mappen.NBB28UIT == 1)
         cmdToonGatenlijst->hide();
     cmdKoppel->hide();
@@ -66,6 +54,14 @@ bool frmLedenAdmin::LeesMappenBijStart(const Pad& mappenIni)
     auto mappen = LeesMappenIni(administratie_.schijf, mappenIni);
     if (mappen) {
         administratie_.mappen = std::move(*mappen);
+        if (const std::string& bezwaar = administratie_.mappen.bezwaar; !bezwaar.empty())
+            Meld(nullptr, QMessageBox::Warning,
+                 QStringLiteral("Misschien zijn niet alle regels van 'Mappen.ini' gelezen: %1. Er "
+                                "is niets aan uw gegevens veranderd. Sla dat bestand in een "
+                                "tekstprogramma op als ANSI (Windows-1252) en start Plexoran "
+                                "opnieuw.\n\nBestand: %2")
+                     .arg(QString::fromStdString(bezwaar),
+                          QString::fromStdString(administratie_.schijf.Toonpad(mappenIni))));
         return true;
     }
     const Fout& fout = mappen.error();
@@ -158,11 +154,12 @@ void frmLedenAdmin::LeesGroepenBijStart()
     const auto map = administratie_.schijf.MaakMap(administratie_.mappen.SPEMAP);
     if (!map)
         MeldMapfout(QStringLiteral("De map van de spelers kon niet worden gemaakt."), map.error());
-    const auto gemaakt = MaakGroepenbestand(administratie_.schijf, administratie_.mappen);
-    if (map && !gemaakt)
-        MeldMapfout(QStringLiteral("Het bestand met de groepsnamen kon niet worden gemaakt of "
-                                   "gelezen."),
-                    gemaakt.error());
+    const auto aanmaak = MaakGroepenbestand(administratie_.schijf, administratie_.mappen);
+    const QString wat = QStringLiteral("Het bestand met de groepsnamen");
+    BiedTerugzettenAan(aanmaak, pad, wat);
+    if (map && !IsGemaakt(aanmaak, wat))
+        MeldMapfout(wat + QStringLiteral(" kon niet worden gemaakt of gelezen."),
+                    aanmaak.gemaakt.error());
     administratie_.groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
     const auto& inhoud = administratie_.groepen.bestandstekst;
     if (inhoud && !IsGroepenbestand(*inhoud))
@@ -175,16 +172,51 @@ void frmLedenAdmin::LeesGroepenBijStart()
     VulGroepen();
 }
 
-void frmLedenAdmin::LeesSpelersBijStart()
+/// A file that was made anew although it held something.
+void frmLedenAdmin::BiedTerugzettenAan(const Aanmaak& aanmaak, const Pad& pad, const QString& wat)
 {
-    const auto gemaakt =
-        MaakSpelerbestand(administratie_.schijf, administratie_.mappen, administratie_.spelers);
-    const Leesverslag verslag =
-        LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
-    // A file that cannot be read is told of below.
-    if (!gemaakt && !verslag.fout)
-        MeldMapfout(QStringLiteral("Het spelerbestand kon niet worden gemaakt."), gemaakt.error());
-    MeldLezing(verslag);
+    if (!StaatOpSchijf(aanmaak.gemaakt) || aanmaak.inhoud.empty())
+        return;
+    const QString kopie = QStringLiteral("\n\nKopie: ") +
+                          QString::fromStdString(administratie_.schijf.Toonpad(aanmaak.kopie));
+    int antwoord =
+        Kies(this, QMessageBox::Warning,
+             wat +
+                 QStringLiteral(" begon met een lege regel of een leeg gegeven en is daarom "
+                                "vervangen door een nieuw, leeg bestand. Wat erin stond, staat "
+                                "heel in een kopie. Zet het terug zonder dat lege begin, tenzij u "
+                                "met een leeg bestand wilt beginnen.") +
+                 kopie,
+             {QStringLiteral("Leeg beginnen"), QStringLiteral("Terugzetten")}, 1);
+    while (antwoord == 1) {
+        const auto terug =
+            ZetTerug(administratie_.schijf, administratie_.mappen.SPEMAP, pad, aanmaak);
+        if (StaatEr(this, terug))
+            return;
+        antwoord = Kies(this, QMessageBox::Critical,
+                        wat +
+                            QStringLiteral(" kon niet worden teruggezet en is nu leeg. Wat erin "
+                                           "stond, staat heel in een kopie. Verhelp de oorzaak en "
+                                           "probeer het opnieuw, of zet de kopie zelf terug "
+                                           "voordat u iets invoert.") +
+                            kopie + QLatin1Char('\n') + Bijzonderheden(terug.error()),
+                        {QStringLiteral("Doorgaan"), QStringLiteral("Opnieuw proberen")}, 1);
+    }
+}
+
+/// Also when a file stands there that should have been made anew; the user is told of that one.
+bool frmLedenAdmin::IsGemaakt(const Aanmaak& aanmaak, const QString& wat)
+{
+    if (aanmaak.inhoud.empty() || StaatOpSchijf(aanmaak.gemaakt))
+        return StaatEr(this, aanmaak.gemaakt);
+    Meld(this, QMessageBox::Warning,
+         wat +
+             QStringLiteral(" begint met een lege regel of een leeg gegeven en moest daarom worden "
+                            "vervangen, na een kopie. Dat is mislukt; het bestand is gebleven "
+                            "zoals het was. Kijk na of u in de map mag schrijven, of haal het lege "
+                            "begin weg met een tekstprogramma.\n\n") +
+             Bijzonderheden(aanmaak.gemaakt.error()));
+    return true;
 }
 
 void frmLedenAdmin::MeldLosseSleutels()
@@ -217,46 +249,6 @@ void frmLedenAdmin::MeldMapfout(const QString& wat, const Fout& fout)
              QStringLiteral(" De gegevens van de spelers zijn niet veranderd. Kijk na of de map in "
                             "'Mappen.ini' bestaat en of u erin mag schrijven.\n\n") +
              Bijzonderheden(fout));
-}
-
-/// First the register's own warning, then what it means for the data.
-void frmLedenAdmin::MeldLezing(const Leesverslag& verslag)
-{
-    if (verslag.fout)
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"));
-    const QString uitleg = WatNietGelezenIs(verslag);
-    if (!uitleg.isEmpty())
-        Meld(this, QMessageBox::Information,
-             uitleg + QStringLiteral("\n\nHet bestand zelf is niet veranderd. Voordat dit "
-                                     "programma het de eerste keer vervangt, komt er een kopie "
-                                     "van in de map Reservekopie."));
-}
-
-QString frmLedenAdmin::WatNietGelezenIs(const Leesverslag& verslag) const
-{
-    QStringList delen;
-    if (verslag.fout) {
-        QString deel = QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan "
-                                      "nu %1 spelers in de tabel.")
-                           .arg(administratie_.spelers.tabel.Rijen());
-        if (verslag.velden > 0)
-            deel += QStringLiteral(" De genoemde regel heeft %1 velden in plaats van %2.")
-                        .arg(verslag.velden)
-                        .arg(AantalKolommen);
-        delen << deel << Bijzonderheden(*verslag.fout);
-    }
-    if (!verslag.zonderAchternaam.empty())
-        delen << QStringLiteral("Spelers zonder achternaam zijn niet ingelezen (aantal: %1, op "
-                                "regel %2 van het spelerbestand).")
-                     .arg(verslag.zonderAchternaam.size())
-                     .arg(Opsomming(verslag.zonderAchternaam));
-    if (verslag.zonderSleutelregel)
-        delen << QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de hoogste "
-                                "spelersleutel. Nieuwe spelers krijgen daardoor een sleutel vanaf "
-                                "100001, die al van een andere speler kan zijn. Voeg geen spelers "
-                                "toe voordat die regel is hersteld.");
-    return delen.join(QStringLiteral("\n\n"));
 }
 
 } // namespace plexoran

@@ -75,6 +75,16 @@ std::optional<std::int32_t> Geheel32(Tekstblik tekst)
     return Passend<std::int32_t>(tekst);
 }
 
+bool BegintMetGetal(Tekstblik tekst)
+{
+    tekst = ZonderSpaties(tekst);
+    for (const Tekstblik ervoor : {"+-", "."}) {
+        if (!tekst.empty() && ervoor.find(tekst.front()) != Tekstblik::npos)
+            tekst.remove_prefix(1);
+    }
+    return !tekst.empty() && IsCijfer(tekst.front());
+}
+
 std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte)
 {
     Tekstblik cijfers = ZonderSpaties(tekst);

@@ -14,6 +14,9 @@ namespace plexoran {
 [[nodiscard]] std::optional<std::int16_t> Geheel16(Tekstblik tekst);
 [[nodiscard]] std::optional<std::int32_t> Geheel32(Tekstblik tekst);
 
+/// Whether the text begins with a number, rather than being read as 0 for want of digits.
+[[nodiscard]] bool BegintMetGetal(Tekstblik tekst);
+
 /// A text of digits, outer spaces apart, as a number of at least `breedte` digits with leading
 /// zeros. Nothing for any other text.
 [[nodiscard]] std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte);

@@ -42,6 +42,15 @@ Tekstblik EersteItem(Tekstblik inhoud)
     return eerste == items.end() ? Tekstblik() : *eerste;
 }
 
+Tekstblik ZonderBlancoBegin(Tekstblik inhoud)
+{
+    for (const Tekstblik item : Items(inhoud)) {
+        if (!IsBlanco(item))
+            return inhoud.substr(static_cast<std::size_t>(item.data() - inhoud.data()));
+    }
+    return {};
+}
+
 bool IsLeeg(Tekstblik inhoud)
 {
     return inhoud.find_first_not_of(" \r\n") == Tekstblik::npos;

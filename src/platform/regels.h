@@ -53,6 +53,9 @@ class Stukken {
 /// The first item of a file; empty for an empty file.
 [[nodiscard]] Tekstblik EersteItem(Tekstblik inhoud);
 
+/// The text from its first item that is not blank; empty when there is none.
+[[nodiscard]] Tekstblik ZonderBlancoBegin(Tekstblik inhoud);
+
 /// Whether a text holds nothing but spaces and line ends.
 [[nodiscard]] bool IsLeeg(Tekstblik inhoud);
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/regels.h"
-#include "register/reservekopie.h"
 
 namespace plexoran {
 namespace {
@@ -70,16 +69,12 @@ bool IsGroepenbestand(Tekstblik inhoud)
     return true;
 }
 
-Uitkomst<void> MaakGroepenbestand(Schijf& schijf, const Mappen& mappen)
+Aanmaak MaakGroepenbestand(Schijf& schijf, const Mappen& mappen)
 {
-    const Pad pad = mappen.Groepenbestand();
-    const auto inhoud = schijf.LeesBestand(pad);
-    if (!inhoud && inhoud.error().soort != Foutsoort::Ontbreekt)
-        return tl::unexpected(inhoud.error());
-    if (inhoud && !IsBlanco(EersteItem(*inhoud)))
-        return {};
-    return VervangMetKopie(schijf, mappen.SPEMAP, pad, GroepenTekst(Groepen()),
-                           [](Tekstblik) { return false; });
+    Aanmaak uit =
+        MaakBestand(schijf, mappen.SPEMAP, mappen.Groepenbestand(), GroepenTekst(Groepen()));
+    uit.inhoud = Tekst(ZonderBlancoBegin(uit.inhoud));
+    return uit;
 }
 
 Groepen LeesGroepen(Schijf& schijf, const Mappen& mappen)

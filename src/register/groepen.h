@@ -14,6 +14,7 @@
 
 #include "register/groepscode.h"
 #include "register/mappen.h"
+#include "register/reservekopie.h"
 
 namespace plexoran {
 
@@ -47,7 +48,7 @@ class Groepen {
 
 /// Makes sure that there is a group file with 50 lines: a missing or empty one is made, and one
 /// whose first item is blank is made anew, copied aside first when it holds anything.
-[[nodiscard]] Uitkomst<void> MaakGroepenbestand(Schijf& schijf, const Mappen& mappen);
+[[nodiscard]] Aanmaak MaakGroepenbestand(Schijf& schijf, const Mappen& mappen);
 
 /// A file that cannot be read gives groups without names.
 [[nodiscard]] Groepen LeesGroepen(Schijf& schijf, const Mappen& mappen);

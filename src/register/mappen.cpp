@@ -37,6 +37,15 @@ bool BegintMet(Tekstblik regel, Tekstblik sleutel)
            Hoofdletters(regel.substr(0, sleutel.size())) == sleutel;
 }
 
+std::string Bezwaar(Tekstblik inhoud)
+{
+    if (inhoud.starts_with("\xEF\xBB\xBF"))
+        return "het is opgeslagen als UTF-8, en het merkteken daarvan staat voor de eerste regel";
+    if (inhoud.find('\0') != Tekstblik::npos)
+        return "er staan NUL-tekens in";
+    return {};
+}
+
 void NeemRegel(Mappen& mappen, Tekstblik regel)
 {
     for (const auto& [sleutel, veld] : tekstsleutels) {
@@ -66,6 +75,7 @@ Mappen MappenUit(Tekstblik inhoud)
     Mappen mappen;
     for (const Tekstblik regel : Regels(inhoud))
         NeemRegel(mappen, regel);
+    mappen.bezwaar = Bezwaar(inhoud);
     return mappen;
 }
 
@@ -77,7 +87,7 @@ Uitkomst<Mappen> LeesMappenIni(Schijf& schijf, const Pad& pad)
             return tl::unexpected(Fout{.soort = Foutsoort::Beschadigd,
                                        .bestand = schijf.Toonpad(pad),
                                        .regel = 0,
-                                       .systeem = {}});
+                                       .systeem = mappen.bezwaar});
         return mappen;
     });
 }

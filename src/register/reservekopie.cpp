@@ -71,4 +71,32 @@ Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap, const Pad&
     return SchrijfHeel(schijf, bestand, nieuw);
 }
 
+Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand, Tekst nieuw)
+{
+    const auto oud = schijf.LeesBestand(bestand);
+    if (!oud && oud.error().soort != Foutsoort::Ontbreekt)
+        return {.gemaakt = tl::unexpected(oud.error())};
+    if (oud && !IsBlanco(EersteItem(*oud)))
+        return {};
+    Aanmaak uit{.nieuw = std::move(nieuw)};
+    if (oud && !IsLeeg(*oud)) {
+        uit.inhoud = *oud;
+        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand);
+        if (!kopie) {
+            uit.gemaakt = tl::unexpected(kopie.error());
+            return uit;
+        }
+        uit.kopie = *kopie;
+    }
+    uit.gemaakt = SchrijfHeel(schijf, bestand, uit.nieuw);
+    return uit;
+}
+
+Uitkomst<void> ZetTerug(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                        const Aanmaak& aanmaak)
+{
+    return VervangMetKopie(schijf, spelersmap, bestand, aanmaak.inhoud,
+                           [&](Tekstblik nu) { return nu == aanmaak.nieuw; });
+}
+
 } // namespace plexoran

@@ -26,4 +26,21 @@ namespace plexoran {
                                              const Pad& bestand, Tekstblik nieuw,
                                              const std::function<bool(Tekstblik)>& magWeg);
 
+/// What the start did for a file that must be there and begin with something.
+struct Aanmaak {
+    Uitkomst<void> gemaakt{}; ///< `GeenReservekopie` or another error: the file is as it was
+    Tekst nieuw{};            ///< what stands there when it was made
+    Tekst inhoud{};           ///< what the file held; behind its blank beginning for the windows
+    Pad kopie{};              ///< where the file as it was stands now; empty without a copy
+};
+
+/// Makes a missing file, and makes one anew whose first item is blank, copied aside first when it
+/// holds anything. `inhoud` is the whole of the old text then.
+[[nodiscard]] Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                                  Tekst nieuw);
+
+/// Puts back what the file held. One that was changed since it was made is first copied aside.
+[[nodiscard]] Uitkomst<void> ZetTerug(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                                      const Aanmaak& aanmaak);
+
 } // namespace plexoran

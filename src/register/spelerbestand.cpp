@@ -1,11 +1,12 @@
 #include "register/spelerbestand.h"
 
+#include <algorithm>
 #include <limits>
 
+#include "platform/getal.h"
 #include "platform/heelschrijven.h"
 #include "platform/regels.h"
 #include "register/groepen.h"
-#include "register/reservekopie.h"
 
 namespace plexoran {
 namespace {
@@ -51,6 +52,22 @@ template <class Neem> Uitkomst<void> InStukken(const Register& spelers, Neem nee
     return neem(stuk);
 }
 
+/// Whether the first line that holds anything is a player whose row number alone is blank. Without
+/// that field the line would be too short; a number there is only its place.
+Tekst SpelersZonderBlancoBegin(Tekstblik oud)
+{
+    for (const Tekstblik regel : Regels(oud)) {
+        if (ZonderBlancoBegin(regel).empty())
+            continue;
+        const Tekstblik vanaf = oud.substr(static_cast<std::size_t>(regel.data() - oud.data()));
+        const auto kommas = std::count(regel.begin(), regel.end(), ',');
+        return IsBlanco(EersteItem(regel)) && kommas >= AantalKolommen - 1
+                   ? "1" + Tekst(vanaf.substr(vanaf.find(',')))
+                   : Tekst(ZonderBlancoBegin(vanaf));
+    }
+    return {};
+}
+
 Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers)
 {
     auto uitkomst = SchrijfHeel(schijf, pad, [&](Schrijver& schrijver) {
@@ -66,26 +83,17 @@ Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers
 
 } // namespace
 
-Uitkomst<void> MaakSpelerbestand(Schijf& schijf, const Mappen& mappen, Register& spelers)
+Aanmaak MaakSpelerbestand(Schijf& schijf, const Mappen& mappen, Register& spelers)
 {
-    auto map = schijf.MaakMap(mappen.SPEMAP);
-    if (!map)
-        return map;
-    const Pad pad = mappen.Spelerbestand();
-    const auto inhoud = schijf.LeesBestand(pad);
-    if (!inhoud && inhoud.error().soort != Foutsoort::Ontbreekt)
-        return tl::unexpected(inhoud.error());
-    if (inhoud && !IsBlanco(EersteItem(*inhoud)))
-        return {};
-    if (inhoud && !IsLeeg(*inhoud)) {
-        const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad);
-        if (!kopie)
-            return tl::unexpected(kopie.error());
-    }
-    spelers.HKEY = Sleutelbasis;
+    if (auto map = schijf.MaakMap(mappen.SPEMAP); !map)
+        return {.gemaakt = std::move(map)};
     Register leeg;
     leeg.HKEY = Sleutelbasis;
-    return SchrijfHeel(schijf, pad, SpelersTekst(leeg));
+    Aanmaak uit = MaakBestand(schijf, mappen.SPEMAP, mappen.Spelerbestand(), SpelersTekst(leeg));
+    uit.inhoud = SpelersZonderBlancoBegin(uit.inhoud);
+    if (!uit.nieuw.empty() && StaatOpSchijf(uit.gemaakt))
+        spelers.HKEY = Sleutelbasis;
+    return uit;
 }
 
 Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
@@ -96,13 +104,13 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
     auto inhoud = schijf.LeesBestand(pad);
     if (!inhoud || !stempel) {
         verslag.fout = inhoud ? stempel.error() : inhoud.error();
-        spelers.gelezen = std::nullopt;
-        spelers.kopieNodig = true;
         return verslag;
     }
     Spelerlezing lezing = SpelersUit(std::move(*inhoud));
     verslag.tabelVervangen = lezing.tabel.has_value();
     verslag.zonderSleutelregel = lezing.zonderSleutelregel;
+    verslag.sleutelZonderGetal = lezing.sleutelZonderGetal;
+    verslag.hoogsteWeggelaten = lezing.hoogsteWeggelaten;
     if (lezing.tabel)
         spelers.tabel = std::move(*lezing.tabel);
     spelers.HKEY = lezing.HKEY.value_or(spelers.HKEY);
@@ -179,6 +187,14 @@ Fout PlaatsVanHKEY(Schijf& schijf, const Mappen& mappen)
             plaats.regel = nummer;
     }
     return plaats;
+}
+
+std::int32_t HoogsteSleutel(const Spelertabel& tabel)
+{
+    std::int32_t hoogste = 0;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij)
+        hoogste = std::max(hoogste, Geheel32(tabel.Cel(rij, Kolom::Key)).value_or(0));
+    return hoogste < Sleutelbasis ? 0 : hoogste;
 }
 
 bool ZijnErSleutels(const Register& spelers, std::size_t aantal)

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "register/mappen.h"
+#include "register/reservekopie.h"
 #include "register/spelertabel.h"
 
 namespace plexoran {
@@ -21,7 +22,7 @@ inline constexpr std::int32_t Sleutelbasis = 100000;
 /// Where and why the reading of the lines ended before the last one.
 struct Regelfout {
     int regel = 0;  ///< line of the file, from 1
-    int velden = 0; ///< fields on that line; 0 for a key line with an impossible number
+    int velden = 0; ///< fields on that line; 0 for a key line with a number that does not fit
 };
 
 /// The outcome of reading a text. The lines are first counted and then filled in: a line that
@@ -31,9 +32,11 @@ struct Spelerlezing {
     std::optional<Spelertabel> tabel;
     std::optional<std::int32_t> HKEY; ///< of the last key line read; none without one
     std::optional<Regelfout> fout;
-    std::vector<int> zonderAchternaam; ///< line numbers that were left out
-    bool zonderSleutelregel = false;   ///< there are players, but no key line
-    bool verliest = false;             ///< writing the table would lose something of the text
+    std::vector<int> zonderAchternaam;  ///< line numbers that were left out
+    bool zonderSleutelregel = false;    ///< there are players, but no key line
+    int sleutelZonderGetal = 0;         ///< line of the last key line, when it names no number
+    std::int32_t hoogsteWeggelaten = 0; ///< the highest key on the lines that were left out
+    bool verliest = false;              ///< writing the table would lose something of the text
 };
 
 [[nodiscard]] Spelerlezing SpelersUit(Tekst inhoud);
@@ -53,11 +56,16 @@ struct Leesverslag {
     int velden = 0;           ///< fields on the line to blame, where one is
     std::vector<int> zonderAchternaam;
     bool zonderSleutelregel = false;
-    bool tabelVervangen = false; ///< the table is the file's now
+    int sleutelZonderGetal = 0;         ///< as above
+    std::int32_t hoogsteWeggelaten = 0; ///< as above
+    bool tabelVervangen = false;        ///< the table is the file's now
 
+    /// The disk did not give the file at all; the register is as it was.
+    [[nodiscard]] bool NietGeopend() const { return fout && fout->soort != Foutsoort::Beschadigd; }
+    [[nodiscard]] bool AlleSpelersGelezen() const { return !fout && zonderAchternaam.empty(); }
     [[nodiscard]] bool AllesGelezen() const
     {
-        return !fout && zonderAchternaam.empty() && !zonderSleutelregel;
+        return AlleSpelersGelezen() && !zonderSleutelregel && sleutelZonderGetal == 0;
     }
 };
 
@@ -65,8 +73,7 @@ enum class Overschrijven { AlleenEigen, OokGewijzigd };
 
 /// Makes sure that the players folder and the player file exist and that the file has a key line.
 /// A file whose first item is blank is made anew, copied aside first when it holds anything.
-[[nodiscard]] Uitkomst<void> MaakSpelerbestand(Schijf& schijf, const Mappen& mappen,
-                                               Register& spelers);
+[[nodiscard]] Aanmaak MaakSpelerbestand(Schijf& schijf, const Mappen& mappen, Register& spelers);
 
 /// Replaces the table by what the file holds. A file of which no line could be taken leaves the
 /// table as it was; without a key line `HKEY` keeps its value.
@@ -92,6 +99,9 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 
 /// Where the highest key stands, for a message: the player file and its last key line.
 [[nodiscard]] Fout PlaatsVanHKEY(Schijf& schijf, const Mappen& mappen);
+
+/// The highest key in the rows; 0 when none reaches the base, below which no key is issued.
+[[nodiscard]] std::int32_t HoogsteSleutel(const Spelertabel& tabel);
 
 /// Whether that many keys can still be issued.
 [[nodiscard]] bool ZijnErSleutels(const Register& spelers, std::size_t aantal);

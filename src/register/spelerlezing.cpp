@@ -139,6 +139,7 @@ class Lezer {
             BreekAf(0);
             return;
         }
+        uit_.sleutelZonderGetal = BegintMetGetal(getal) ? 0 : regel_;
         // Another key line, or anything behind the number, is not written again.
         if (uit_.HKEY || !AlsGetal(getal, 1))
             uit_.verliest = true;
@@ -151,14 +152,18 @@ class Lezer {
             BreekAf(velden_);
             return;
         }
-        if (uit_.fout) // filling in ended at an earlier line; this one was only counted
+        if (uit_.fout) { // filling in ended at an earlier line; this one was only counted
+            OnthoudSleutel();
             return;
+        }
         if (Lengte(Kolom::Achternaam) == 0) {
+            OnthoudSleutel();
             uit_.zonderAchternaam.push_back(regel_);
             uit_.verliest = true;
             return;
         }
         if (velden_ < AantalKolommen) {
+            OnthoudSleutel();
             uit_.fout = Regelfout{regel_, velden_};
             return;
         }
@@ -166,6 +171,14 @@ class Lezer {
             Lengte(Kolom::Groep) > LengteGroepscode)
             uit_.verliest = true;
         rijen_.push_back(grenzen_);
+    }
+
+    /// Of a line that is left out: its key was issued all the same.
+    void OnthoudSleutel()
+    {
+        const auto begin = grenzen_[Plaats(Kolom::Key)];
+        const auto key = Geheel32(Tekstblik(inhoud_).substr(begin, Lengte(Kolom::Key)));
+        uit_.hoogsteWeggelaten = std::max(uit_.hoogsteWeggelaten, key.value_or(0));
     }
 
     [[nodiscard]] std::size_t Lengte(Kolom kolom) const

@@ -12,7 +12,29 @@ namespace {
 
 const std::string ruis = "\x93\xFF\x00\x01PK\x03\x04\r\n\x81,\x8D\x00\x00\n\xE2\x28\xA1"s;
 
+const QString NietVerhogen = QStringLiteral("Niet verhogen");
+
 } // namespace
+
+TEST_F(Opstartproef, MappenIniMetHetMerktekenVanUTF8OfMetNULWordtGemeld)
+{
+    const QString begin = QStringLiteral("Misschien zijn niet alle regels van 'Mappen.ini' "
+                                         "gelezen: ");
+    const QString eind = QStringLiteral(
+        ". Er is niets aan uw gegevens veranderd. Sla dat bestand in een tekstprogramma op als "
+        "ANSI (Windows-1252) en start Plexoran opnieuw.\n\nBestand: C:\\RVD\\Mappen.ini");
+    geheugen.Zet("C:\\RVD\\Mappen.ini", "\xEF\xBB\xBF" + ini);
+    wachter.Waarschuwing(begin +
+                         QStringLiteral("het is opgeslagen als UTF-8, en het merkteken daarvan "
+                                        "staat voor de eerste regel") +
+                         eind);
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("", administratie.mappen.RVDMAP);
+
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "\0"s);
+    wachter.Waarschuwing(begin + QStringLiteral("er staan NUL-tekens in") + eind);
+    ASSERT_EQ(std::nullopt, Laad());
+}
 
 TEST_F(Opstartproef, RuisInHetSpelerbestandWordtGemeldEnPasNaEenKopieVervangen)
 {
@@ -68,13 +90,25 @@ TEST_F(Opstartproef, EenHalveRegelAanHetEindHoudtDeRijenErvoor)
     EXPECT_EQ(1U, Kopieen("RVDspelers").size());
 }
 
+TEST_F(Opstartproef, EenSpelerIsGeenSpelers)
+{
+    ZetSpelers("HKEY=100007\r\n" + Speler("1", "100001", "Gr01-", "Bos") +
+               "\r\n2,100002,Gr01-,Jan,,Elst,06\r\n");
+    VerwachtNietTotHetEinde(1, 7, 3);
+    ASSERT_EQ(std::nullopt, Laad());
+}
+
 TEST_F(Opstartproef, EenOnmogelijkeSleutelregelWordtGemeld)
 {
     ZetSpelers("HKEY=99999999999\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n");
     wachter.Waarschuwing(isNogLeeg);
     wachter.Informatie(QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan "
                                       "nu 0 spelers in de tabel.\n\n") +
-                       Spelerbestand + QStringLiteral("\nRegel: 1") + blijftZoHetIs);
+                       Spelerbestand +
+                       QStringLiteral("\nRegel: 1\n\nOp regel 1 van het spelerbestand staat achter "
+                                      "HKEY= een getal dat niet past: een sleutel is ten hoogste "
+                                      "2147483647.") +
+                       sleutelgevolg + blijftZoHetIs);
     ASSERT_EQ(std::nullopt, Laad());
 }
 
@@ -93,11 +127,9 @@ TEST_F(Opstartproef, ZonderSleutelregelBegintDeTellingBijDeBasis)
     const std::string oud = Speler("1", "100007", "Gr01-", "Bos") + "\r\n";
     ZetSpelers(oud);
     wachter.Informatie(QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de "
-                                      "hoogste spelersleutel. Nieuwe spelers krijgen daardoor een "
-                                      "sleutel vanaf 100001, die al van een andere speler kan "
-                                      "zijn. Voeg geen spelers toe voordat die regel is "
-                                      "hersteld.") +
-                       blijftZoHetIs);
+                                      "hoogste spelersleutel.") +
+                       sleutelgevolg + blijftZoHetIs);
+    VerwachtSleutelvraag(100007, 100000, NietVerhogen);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ(0, administratie.spelers.HKEY);
     VoegToe(QStringLiteral("Nieuweling"));
@@ -105,6 +137,71 @@ TEST_F(Opstartproef, ZonderSleutelregelBegintDeTellingBijDeBasis)
                   "\r\n2,100001,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n",
               Spelers());
     EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+}
+
+TEST_F(Opstartproef, EenSleutelregelZonderGetalWordtGemeldMetZijnRegel)
+{
+    for (const char* zonder : {"", "onzin"}) {
+        ZetSpelers(Speler("1", "100000", "Gr01-", "Bos") + "\r\nHKEY=" + zonder + "\r\n");
+        wachter.Informatie(
+            QStringLiteral("Op regel 2 van het spelerbestand staat achter HKEY= geen getal.") +
+            sleutelgevolg + blijftZoHetIs);
+        ASSERT_NO_FATAL_FAILURE(Start());
+        EXPECT_EQ(100000, administratie.spelers.HKEY);
+    }
+}
+
+TEST_F(Opstartproef, EenGetalOnderDeBasisGeeftGeenBericht)
+{
+    ZetSpelers("HKEY=99\r\n" + Speler("1", "100000", "Gr01-", "Bos") + "\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ(100000, administratie.spelers.HKEY);
+}
+
+TEST_F(Opstartproef, SleutelsBovenHKEYVerhogenStaatMeteenInHetBestand)
+{
+    ZetInstellingen("OPTIND=0\r\nLOSTGR=4\r\n");
+    const std::string rijen = Speler("1", "100250", "Gr05-", "Bos") + "\r\n" +
+                              Speler("2", "100003", "Gr05-", "Dam") + "\r\n";
+    ZetSpelers("HKEY=100171\r\n" + rijen);
+    VerwachtSleutelvraag(100250, 100171, QStringLiteral("Verhogen"));
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ("HKEY=100250\r\n" + rijen, Spelers());
+    EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDspelers"));
+    EXPECT_EQ(5, GetoondeGroep());
+    EXPECT_EQ("OPTIND=0\r\nLOSTGR=4\r\n", Plexo());
+    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_NE(std::string::npos, Spelers()->find("3,100251,Gr05-"));
+    ASSERT_NO_FATAL_FAILURE(Start()); // and is not asked again
+}
+
+TEST_F(Opstartproef, SleutelsBovenHKEYNietVerhogenLaatAllesZoals)
+{
+    const std::string oud = "HKEY=100171\r\n" + Speler("1", "100250", "Gr01-", "Bos") + "\r\n";
+    for (const QString& antwoord : {NietVerhogen, Berichtwachter::Escape}) {
+        ZetSpelers(oud);
+        VerwachtSleutelvraag(100250, 100171, antwoord);
+        ASSERT_NO_FATAL_FAILURE(Start());
+        EXPECT_EQ(oud, Spelers());
+        EXPECT_EQ(100171, administratie.spelers.HKEY);
+    }
+}
+
+/// A save would leave them out of the file; the new key waits for the first change.
+TEST_F(Opstartproef, VerhogenAlsErSpelersZijnOvergeslagenSlaatNietMeteenOp)
+{
+    const std::string oud = "HKEY=100171\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n" +
+                            Speler("2", "100300", "Gr01-", "") + "\r\n";
+    ZetSpelers(oud);
+    wachter.Verwacht({.tekst = QStringLiteral("Spelers zonder achternaam zijn niet ingelezen"),
+                      .alleenBegin = true});
+    VerwachtSleutelvraag(100300, 100171, QStringLiteral("Verhogen"));
+    ASSERT_NO_FATAL_FAILURE(Start());
+    EXPECT_EQ(oud, Spelers());
+    EXPECT_EQ(100300, administratie.spelers.HKEY);
+    VoegToe(QStringLiteral("Nieuweling"));
+    EXPECT_TRUE(Spelers()->starts_with("HKEY=100301\r\n"));
 }
 
 TEST_F(Opstartproef, SpelersZonderAchternaamWordenGenoemdEnBlijvenInEenKopie)
@@ -215,11 +312,7 @@ TEST_F(Opstartproef, EenOnleesbaarSpelerbestandWordtGemeldEnNietVervangen)
 {
     geheugen.ZetMap("C:\\RVD\\Spelers\\RVDspelers.txt"); // a folder of that name
     wachter.Waarschuwing(isNogLeeg);
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan nu 0 "
-                                 "spelers in de tabel.\n\n") +
-                  Spelerbestand,
-         .alleenBegin = true});
+    wachter.Verwacht({.tekst = nietGeopend + Spelerbestand, .alleenBegin = true});
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(Padsoort::Map, geheugen.Soort("C:\\RVD\\Spelers\\RVDspelers.txt").value());
 }

@@ -78,7 +78,10 @@ TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
         wachter.Verwacht(
             {.tekst = QStringLiteral("Het bestand 'Mappen.ini' noemt de map van de spelers niet: "
                                      "er staat geen map achter SPEMAP=.") +
-                      mappenvraag + QStringLiteral("Bestand: C:\\RVD\\Mappen.ini"),
+                      mappenvraag + QStringLiteral("Bestand: C:\\RVD\\Mappen.ini") +
+                      (inhoud.find('\0') == std::string::npos
+                           ? QString()
+                           : QStringLiteral("\nOorzaak: er staan NUL-tekens in")),
              .icoon = QMessageBox::Critical});
         const auto status = Laad();
         ASSERT_TRUE(status.has_value());
@@ -153,8 +156,8 @@ TEST_F(Opstartproef, EenSpelersmapWaarvanOokDeMapErbovenOntbreektWordtGemeldEnNi
                       .alleenBegin = true});
     wachter.Waarschuwing(isNogLeeg);
     wachter.Verwacht(
-        {.tekst = QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan nu 0 "
-                                 "spelers in de tabel.\n\nBestand: "
+        {.tekst = nietGeopend +
+                  QStringLiteral("Bestand: "
                                  "D:\\weg\\Spelers\\RVDspelers.txt\nMelding van het systeem: "),
          .alleenBegin = true});
     ASSERT_EQ(std::nullopt, Laad());
@@ -176,15 +179,27 @@ TEST_F(Opstartproef, EenBlancoEersteItemKostHetGroepenbestandMaarErKomtEenKopie)
 {
     const std::string oud = "   \r\nGr01-Clubleden\r\nGr02-Avond\r\n";
     ZetGroepen(oud);
+    VerwachtTerugzetvraag(groepenwat, LeegBeginnen);
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(KaleGroepen(), Groepen());
     EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDGroepen"));
+}
+
+TEST_F(Opstartproef, DeGroepsnamenKunnenTerugZonderHetBlancoBegin)
+{
+    ZetGroepen("   \r\nGr01-Clubleden\r\nGr02-Avond\r\n");
+    VerwachtTerugzetvraag(groepenwat, Terugzetten);
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("Gr01-Clubleden\r\nGr02-Avond\r\n", Groepen());
+    EXPECT_EQ("Gr02-Avond", Keus("cmbGr")->itemText(1).toStdString());
 }
 
 TEST_F(Opstartproef, EenKommaVooraanIsOokEenBlancoEersteItem)
 {
     ZetGroepen(",Gr01-Clubleden\r\n");
     ZetSpelers(",100001,Gr01-,Jan,,Jansen,,,,,,,M,,,,,\r\n");
+    VerwachtTerugzetvraag(groepenwat, LeegBeginnen);
+    VerwachtTerugzetvraag(spelerwat, LeegBeginnen);
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(KaleGroepen(), Groepen());
     EXPECT_EQ("HKEY=100000\r\n", Spelers());
@@ -207,9 +222,61 @@ TEST_F(Opstartproef, EenBlancoEersteItemKostHetSpelerbestandMaarErKomtEenKopie)
 {
     const std::string oud = "\r\nHKEY=100200\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n";
     ZetSpelers(oud);
+    VerwachtTerugzetvraag(spelerwat, LeegBeginnen);
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ("HKEY=100000\r\n", Spelers());
     EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+}
+
+TEST_F(Opstartproef, DeSpelersKunnenTerugZonderHetBlancoBegin)
+{
+    const std::string goed = "HKEY=100200\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n";
+    for (const QString& antwoord : {Terugzetten, Berichtwachter::Escape}) {
+        ZetSpelers("\r\n" + goed);
+        VerwachtTerugzetvraag(spelerwat, antwoord);
+        ASSERT_NO_FATAL_FAILURE(Start());
+        EXPECT_EQ(goed, Spelers());
+        EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
+        EXPECT_EQ(100200, administratie.spelers.HKEY);
+        VoegToe(QStringLiteral("Nieuweling"));
+        EXPECT_NE(std::string::npos, Spelers()->find("2,100201,Gr01-"));
+    }
+}
+
+TEST_F(Opstartproef, EnterZetTerug)
+{
+    ZetSpelers("\r\nHKEY=100200\r\n");
+    wachter.LaatBeslissen([](const QMessageBox& bericht) {
+        EXPECT_EQ(Terugzetten, bericht.defaultButton()->text());
+        return Terugzetten;
+    });
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("HKEY=100200\r\n", Spelers());
+}
+
+/// The copy is there; what cannot be put back is told, and may be tried again.
+TEST_F(Opstartproef, TerugzettenDatMislukt)
+{
+    const std::string oud = "\r\nHKEY=100200\r\n";
+    ZetGroepen(KaleGroepen());
+    ZetSpelers(oud);
+    wachter.LaatBeslissen([&](const QMessageBox& bericht) {
+        const bool eerste = bericht.text().contains(QStringLiteral(" begon met een lege regel"));
+        geheugen.ZetAlleenLezen("C:\\RVD\\Spelers", eerste);
+        if (!eerste) {
+            EXPECT_TRUE(bericht.text().startsWith(
+                QStringLiteral("Het spelerbestand kon niet worden teruggezet en is nu leeg. Wat "
+                               "erin stond, staat heel in een kopie. Verhelp de oorzaak en probeer "
+                               "het opnieuw, of zet de kopie zelf terug voordat u iets "
+                               "invoert.\n\nKopie: C:\\RVD\\Spelers\\Reservekopie\\RVDspelers ")))
+                << bericht.text().toStdString();
+            EXPECT_EQ("HKEY=100000\r\n", Spelers());
+            EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+        }
+        return eerste ? Terugzetten : QStringLiteral("Opnieuw proberen");
+    });
+    ASSERT_EQ(std::nullopt, Laad());
+    EXPECT_EQ("HKEY=100200\r\n", Spelers());
 }
 
 TEST_F(Opstartproef, AlsDeKopieNietKanBlijftHetBlancoSpelerbestandStaan)
@@ -218,8 +285,12 @@ TEST_F(Opstartproef, AlsDeKopieNietKanBlijftHetBlancoSpelerbestandStaan)
     ZetSpelers(oud);
     ZetGroepen(KaleGroepen());
     geheugen.Zet("C:\\RVD\\Spelers\\Reservekopie", "een bestand waar de map moet komen");
-    wachter.Verwacht({.tekst = QStringLiteral("Het spelerbestand kon niet worden gemaakt.") +
-                               mapvraag + QStringLiteral("Bestand: C:\\RVD\\Spelers\\Reservekopie"),
+    wachter.Verwacht({.tekst = QStringLiteral(
+                          "Het spelerbestand begint met een lege regel of een leeg gegeven en "
+                          "moest daarom worden vervangen, na een kopie. Dat is mislukt; het "
+                          "bestand is gebleven zoals het was. Kijk na of u in de map mag "
+                          "schrijven, of haal het lege begin weg met een "
+                          "tekstprogramma.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_EQ(std::nullopt, Laad());

@@ -22,6 +22,17 @@ inline const QString mapvraag = QStringLiteral(" De gegevens van de spelers zijn
 inline const QString blijftZoHetIs =
     QStringLiteral("\n\nHet bestand zelf is niet veranderd. Voordat dit programma het de eerste "
                    "keer vervangt, komt er een kopie van in de map Reservekopie.");
+inline const QString sleutelgevolg =
+    QStringLiteral(" Nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
+                   "andere speler kan zijn. Voeg geen spelers toe voordat die regel is hersteld.");
+inline const QString nietGeopend =
+    QStringLiteral("Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets "
+                   "aan veranderd. Voeg nu geen spelers toe, maar verhelp de oorzaak en start het "
+                   "programma opnieuw.\n\n");
+inline const QString groepenwat = QStringLiteral("Het bestand met de groepsnamen");
+inline const QString spelerwat = QStringLiteral("Het spelerbestand");
+inline const QString LeegBeginnen = QStringLiteral("Leeg beginnen");
+inline const QString Terugzetten = QStringLiteral("Terugzetten");
 inline const QString Spelerbestand = QStringLiteral("Bestand: C:\\RVD\\Spelers\\RVDspelers.txt");
 
 inline const std::string ini = "RVDMAP=C:\\RVD\r\n"
@@ -169,12 +180,43 @@ class Opstartproef : public Vensterproef {
     {
         wachter.Waarschuwing(isNogLeeg);
         wachter.Informatie(
-            QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan nu %1 "
-                           "spelers in de tabel. De genoemde regel heeft %2 velden in plaats van "
-                           "18.\n\n")
-                .arg(spelers)
-                .arg(velden) +
+            QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 in de tabel. De "
+                           "genoemde regel heeft %2 in plaats van 18.\n\n")
+                .arg(spelers == 1 ? QStringLiteral("staat nu 1 speler")
+                                  : QStringLiteral("staan nu %1 spelers").arg(spelers),
+                     velden == 1 ? QStringLiteral("1 veld")
+                                 : QStringLiteral("%1 velden").arg(velden)) +
             Spelerbestand + QStringLiteral("\nRegel: %1").arg(regel) + blijftZoHetIs);
+    }
+
+    /// Of a file that was made anew although it held something.
+    void VerwachtTerugzetvraag(const QString& wat, const QString& antwoord)
+    {
+        wachter.Verwacht(
+            {.tekst = wat + QStringLiteral(" begon met een lege regel of een leeg gegeven en is "
+                                           "daarom vervangen door een nieuw, leeg bestand. Wat "
+                                           "erin stond, staat heel in een kopie. Zet het terug "
+                                           "zonder dat lege begin, tenzij u met een leeg bestand "
+                                           "wilt beginnen.\n\nKopie: "
+                                           "C:\\RVD\\Spelers\\Reservekopie\\RVD"),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Warning,
+             .knoppen = {QStringLiteral("Leeg beginnen"), QStringLiteral("Terugzetten")},
+             .alleenBegin = true});
+    }
+
+    void VerwachtSleutelvraag(int hoogste, int geldt, const QString& antwoord)
+    {
+        wachter.Verwacht(
+            {.tekst = QStringLiteral("In het spelerbestand staat een speler met sleutel %1, maar "
+                                     "als hoogste uitgegeven sleutel (HKEY=) geldt %2. Een nieuwe "
+                                     "speler kan daardoor een sleutel krijgen die al van een ander "
+                                     "is. Met Verhogen geldt voortaan %1.")
+                          .arg(hoogste)
+                          .arg(geldt),
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Warning,
+             .knoppen = {QStringLiteral("Verhogen"), QStringLiteral("Niet verhogen")}});
     }
 
     void VoegToe(const QString& achternaam)

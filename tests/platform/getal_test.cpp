@@ -106,3 +106,11 @@ TEST(Getal, WatGeenCijfersZijnIsGeenGetal)
          {"", "   ", "abc", "12a", "a12", "-5", "+5", "1.5", "1,5", "\t1", "\xB2", "0x10", "1e3"})
         EXPECT_EQ(AlsGetal(tekst, 6), std::nullopt) << tekst;
 }
+
+TEST(BegintMetGetal, MetEenCijferNaTekenEnPunt)
+{
+    for (const char* getal : {"1", " 0x", "-5", "+7", ".5", "-.5", "12abc"})
+        EXPECT_TRUE(BegintMetGetal(getal)) << getal;
+    for (const char* geen : {"", " ", "-", "x1", "--5", ".", "-.x", "\t1"})
+        EXPECT_FALSE(BegintMetGetal(geen)) << geen;
+}

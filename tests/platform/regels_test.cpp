@@ -89,3 +89,11 @@ TEST(Regels, EersteItem)
     EXPECT_EQ(EersteItem("\r\nrest"), "");
     EXPECT_EQ(EersteItem(""), "");
 }
+
+TEST(ZonderBlancoBegin, VanafHetEersteItemDatNietBlancoIs)
+{
+    EXPECT_EQ(ZonderBlancoBegin(" a,b\r\n"), " a,b\r\n");
+    EXPECT_EQ(ZonderBlancoBegin("\r\n , \n,a,,b"), "a,,b");
+    EXPECT_EQ(ZonderBlancoBegin(", \r\n"), "");
+    EXPECT_EQ(ZonderBlancoBegin(""), "");
+}

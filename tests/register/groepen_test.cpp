@@ -196,7 +196,7 @@ TEST(MaakGroepenbestand, OntbrekendWordtGemaakt)
 {
     GeheugenSchijf schijf;
     schijf.ZetMap(spelersmap);
-    ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()));
+    ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()).gemaakt);
     EXPECT_EQ(schijf.Inhoud(groepenbestand), VijftigCodes());
     EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{groepenbestand});
 }
@@ -206,7 +206,7 @@ TEST(MaakGroepenbestand, LeegWordtOpnieuwGemaaktZonderKopie)
     for (const Tekst leeg : {"", "\r\n", "   ", "  \r\n\r\n \n"}) {
         GeheugenSchijf schijf;
         schijf.Zet(groepenbestand, leeg);
-        ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()));
+        ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()).gemaakt);
         EXPECT_EQ(schijf.Inhoud(groepenbestand), VijftigCodes());
         EXPECT_TRUE(Kopieen(schijf).empty());
     }
@@ -218,10 +218,25 @@ TEST(MaakGroepenbestand, EersteItemBlancoWordtOpnieuwGemaaktMetKopie)
     for (const Tekst half : {"\r\nGr01-a\r\n", "  ,Gr01-a\r\n", ",\r\n", " \nx"}) {
         GeheugenSchijf schijf;
         schijf.Zet(groepenbestand, half);
-        ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()));
+        ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()).gemaakt);
         EXPECT_EQ(schijf.Inhoud(groepenbestand), VijftigCodes());
         EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{half});
     }
+}
+
+TEST(MaakGroepenbestand, TerugzettenZonderHetBlancoBegin)
+{
+    for (const Tekst oud : {"\r\nGr01-a\r\nGr02-b", " , \r\n,Gr01-a\r\nGr02-b"}) {
+        GeheugenSchijf schijf;
+        schijf.Zet(groepenbestand, oud);
+        const Aanmaak aanmaak = MaakGroepenbestand(schijf, Proefmappen());
+        EXPECT_EQ(schijf.Inhoud(aanmaak.kopie), oud);
+        ASSERT_TRUE(ZetTerug(schijf, spelersmap, groepenbestand, aanmaak));
+        EXPECT_EQ(schijf.Inhoud(groepenbestand), "Gr01-a\r\nGr02-b");
+    }
+    GeheugenSchijf schijf;
+    schijf.Zet(groepenbestand, ",\r\n"); // nothing to put back
+    EXPECT_EQ(MaakGroepenbestand(schijf, Proefmappen()).inhoud, "");
 }
 
 TEST(MaakGroepenbestand, AndersBlijftHetZoalsHetIs)
@@ -230,7 +245,7 @@ TEST(MaakGroepenbestand, AndersBlijftHetZoalsHetIs)
         GeheugenSchijf schijf;
         schijf.Zet(groepenbestand, goed);
         const auto voor = schijf.NeemStempel(groepenbestand);
-        ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()));
+        ASSERT_TRUE(MaakGroepenbestand(schijf, Proefmappen()).gemaakt);
         EXPECT_EQ(schijf.Inhoud(groepenbestand), goed);
         EXPECT_EQ(schijf.NeemStempel(groepenbestand), *voor);
         EXPECT_TRUE(Kopieen(schijf).empty());
@@ -240,7 +255,7 @@ TEST(MaakGroepenbestand, AndersBlijftHetZoalsHetIs)
 TEST(MaakGroepenbestand, ZonderMapEenFout)
 {
     GeheugenSchijf schijf;
-    const auto uitkomst = MaakGroepenbestand(schijf, Proefmappen());
+    const auto uitkomst = MaakGroepenbestand(schijf, Proefmappen()).gemaakt;
     ASSERT_FALSE(uitkomst);
     EXPECT_EQ(uitkomst.error().soort, Foutsoort::Ontbreekt);
 }

@@ -191,3 +191,21 @@ TEST(LeesMappenIni, OntbreektOfOnleesbaar)
     EXPECT_EQ(geweigerd.error().soort, Foutsoort::Geweigerd);
     EXPECT_EQ(geweigerd.error().bestand, "C:\\RVD\\Mappen.ini");
 }
+
+TEST(LeesMappenIni, EenBezwaarTegenDeTekstWordtBewaard)
+{
+    EXPECT_EQ(MappenUit("SPEMAP=C:\\a\r\n").bezwaar, "");
+    // To the letter: the mark stands before the key, so that is no key.
+    const Mappen utf8 = MappenUit("\xEF\xBB\xBFRVDMAP=C:\\a\r\nSPEMAP=C:\\b\r\n");
+    EXPECT_EQ(utf8.RVDMAP, "");
+    EXPECT_EQ(utf8.SPEMAP, "C:\\b");
+    EXPECT_EQ(utf8.bezwaar,
+              "het is opgeslagen als UTF-8, en het merkteken daarvan staat voor de eerste regel");
+    EXPECT_EQ(MappenUit(Tekst("SPEMAP=C:\\b") + '\0').bezwaar, "er staan NUL-tekens in");
+
+    GeheugenSchijf schijf;
+    schijf.Zet("C:\\Mappen.ini", "\xEF\xBB\xBFSPEMAP=C:\\b\r\n");
+    const auto mappen = LeesMappenIni(schijf, "C:\\Mappen.ini");
+    ASSERT_FALSE(mappen);
+    EXPECT_EQ(mappen.error().systeem, utf8.bezwaar);
+}

@@ -227,8 +227,8 @@ Proef Startproef(Schijf& binnen, const Mappen& mappen, bool spelerbestandIsHet)
     };
     proef.bewaar = [mappen, spelerbestandIsHet](Schijf& schijf) {
         Register spelers;
-        return spelerbestandIsHet ? MaakSpelerbestand(schijf, mappen, spelers)
-                                  : MaakGroepenbestand(schijf, mappen);
+        return spelerbestandIsHet ? MaakSpelerbestand(schijf, mappen, spelers).gemaakt
+                                  : MaakGroepenbestand(schijf, mappen).gemaakt;
     };
     return proef;
 }

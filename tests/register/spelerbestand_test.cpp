@@ -34,7 +34,7 @@ TEST(MaakSpelerbestand, MapEnBestandWordenGemaakt)
     GeheugenSchijf schijf;
     schijf.ZetMap("C:\\club");
     Register spelers;
-    ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+    ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers).gemaakt);
     EXPECT_EQ(schijf.Inhoud(spelerbestand), "HKEY=100000\r\n");
     EXPECT_EQ(spelers.HKEY, 100000);
     EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{spelerbestand});
@@ -49,7 +49,7 @@ TEST(MaakSpelerbestand, LeegZonderKopie)
         GeheugenSchijf schijf;
         schijf.Zet(spelerbestand, leeg);
         Register spelers;
-        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers).gemaakt);
         EXPECT_EQ(schijf.Inhoud(spelerbestand), "HKEY=100000\r\n");
         EXPECT_TRUE(Kopieen(schijf).empty());
     }
@@ -63,11 +63,50 @@ TEST(MaakSpelerbestand, EersteItemBlancoMetKopie)
         GeheugenSchijf schijf;
         schijf.Zet(spelerbestand, half);
         Register spelers;
-        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers).gemaakt);
         EXPECT_EQ(schijf.Inhoud(spelerbestand), "HKEY=100000\r\n");
         EXPECT_EQ(spelers.HKEY, 100000);
         EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{half});
     }
+}
+
+TEST(MaakSpelerbestand, TerugzettenZonderHetBlancoBegin)
+{
+    const Tekst speler = ",100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n";
+    const std::vector<std::pair<Tekst, Tekst>> gevallen{
+        {"\r\n" + vijfSpelers, vijfSpelers},
+        {"  \n \r\r\n" + vijfSpelers, vijfSpelers},
+        {" ,\r\n,," + vijfSpelers, vijfSpelers},
+        // Without a number in its first field the line would have a field too few.
+        {speler, "1" + speler},
+        {"\r\n  " + speler + "\r\n" + vijfSpelers, "1" + speler + "\r\n" + vijfSpelers}};
+    for (const auto& [oud, terug] : gevallen) {
+        GeheugenSchijf schijf;
+        schijf.Zet(spelerbestand, oud);
+        Register spelers;
+        const Aanmaak aanmaak = MaakSpelerbestand(schijf, Proefmappen(), spelers);
+        EXPECT_EQ(schijf.Inhoud(aanmaak.kopie), oud);
+        ASSERT_TRUE(ZetTerug(schijf, spelersmap, spelerbestand, aanmaak));
+        EXPECT_EQ(schijf.Inhoud(spelerbestand), terug);
+        EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{oud});
+        const auto verslag = LeesSpelers(schijf, Proefmappen(), spelers);
+        EXPECT_FALSE(verslag.fout);
+        EXPECT_GT(spelers.tabel.Rijen(), 0);
+        EXPECT_FALSE(MaakSpelerbestand(schijf, Proefmappen(), spelers).inhoud.size());
+    }
+}
+
+TEST(MaakSpelerbestand, TerugzettenOverWatEenAnderIntussenSchreefGeeftDaarEerstEenKopieVan)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet(spelerbestand, "\r\n" + vijfSpelers);
+    Register spelers;
+    const Aanmaak aanmaak = MaakSpelerbestand(schijf, Proefmappen(), spelers);
+    schijf.Zet(spelerbestand, "van een ander");
+    ASSERT_TRUE(ZetTerug(schijf, spelersmap, spelerbestand, aanmaak));
+    EXPECT_EQ(schijf.Inhoud(spelerbestand), vijfSpelers);
+    const auto kopieen = Kopieen(schijf);
+    EXPECT_EQ(std::count(kopieen.begin(), kopieen.end(), "van een ander"), 1);
 }
 
 TEST(MaakSpelerbestand, AndersBlijftHetZoalsHetIs)
@@ -78,7 +117,7 @@ TEST(MaakSpelerbestand, AndersBlijftHetZoalsHetIs)
         schijf.Zet(spelerbestand, inhoud);
         const auto voor = schijf.NeemStempel(spelerbestand);
         Register spelers;
-        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers));
+        ASSERT_TRUE(MaakSpelerbestand(schijf, Proefmappen(), spelers).gemaakt);
         EXPECT_EQ(schijf.Inhoud(spelerbestand), inhoud);
         EXPECT_EQ(schijf.NeemStempel(spelerbestand), *voor);
         EXPECT_EQ(spelers.HKEY, 0);
@@ -92,7 +131,7 @@ TEST(MaakSpelerbestand, OnleesbaarBlijftStaan)
     FalendeSchijf schijf(binnen);
     schijf.FaalBij(2); // after the folder, the reading
     Register spelers;
-    const auto uitkomst = MaakSpelerbestand(schijf, Proefmappen(), spelers);
+    const auto uitkomst = MaakSpelerbestand(schijf, Proefmappen(), spelers).gemaakt;
     ASSERT_FALSE(uitkomst);
     EXPECT_EQ(uitkomst.error().soort, Foutsoort::Geweigerd);
     EXPECT_EQ(binnen.Inhoud(spelerbestand), vijfSpelers);
@@ -182,8 +221,10 @@ TEST(LeesSpelers, OntbrekendOfOnleesbaarLaatDeTabelZoalsHijWas)
         EXPECT_EQ(verslag.fout->soort, Foutsoort::Geweigerd);
         EXPECT_EQ(spelers.tabel.Rijen(), 5);
         EXPECT_EQ(spelers.HKEY, 100042);
-        EXPECT_TRUE(spelers.kopieNodig);
-        EXPECT_FALSE(spelers.gelezen);
+        EXPECT_TRUE(verslag.NietGeopend());
+        // What is known of the file stays too: when it is still the same, it may be replaced.
+        EXPECT_FALSE(spelers.kopieNodig);
+        EXPECT_EQ(spelers.gelezen, *binnen.NeemStempel(spelerbestand));
     }
     ASSERT_TRUE(binnen.Verwijder(spelerbestand));
     const auto weg = LeesSpelers(binnen, Proefmappen(), spelers);

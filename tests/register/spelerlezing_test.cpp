@@ -98,6 +98,34 @@ TEST(Spelerlezing, LageSleutelWordtDeBasis)
     EXPECT_EQ(Sleutel("HKEY=onzin\r\n"), 100000);
 }
 
+TEST(SpelersUit, EenSleutelregelZonderGetalWordtGenoemd)
+{
+    for (const Tekst zonder : {"", "  ", "onzin", "-", "+.", "x100007"}) {
+        const Spelerlezing lezing = SpelersUit(Regel("a") + "HKEY=" + zonder + "\r\n");
+        EXPECT_EQ(lezing.sleutelZonderGetal, 2) << zonder;
+        EXPECT_EQ(lezing.HKEY, 100000);
+        EXPECT_TRUE(lezing.verliest);
+    }
+    for (const Tekst met : {"0", " 99", "-5", ".5", "+100007", "100007 zie schrift"})
+        EXPECT_EQ(SpelersUit("HKEY=" + met + "\r\n").sleutelZonderGetal, 0) << met;
+    // The last key line counts.
+    EXPECT_EQ(SpelersUit("HKEY=\r\nHKEY=100007\r\n").sleutelZonderGetal, 0);
+    EXPECT_EQ(SpelersUit("HKEY=100007\r\nHKEY=\r\n").sleutelZonderGetal, 2);
+}
+
+TEST(SpelersUit, DeHoogsteSleutelVanWatIsWeggelaten)
+{
+    const auto regel = [](const Tekst& sleutel, const Tekst& naam) {
+        return "1," + sleutel + ",Gr01-,,," + naam + ",,,,,,,,,,,,\r\n";
+    };
+    EXPECT_EQ(SpelersUit(regel("100900", "Bos")).hoogsteWeggelaten, 0);
+    EXPECT_EQ(SpelersUit(regel("100900", "") + regel("100800", "")).hoogsteWeggelaten, 100900);
+    EXPECT_EQ(SpelersUit(regel("1", "Bos") + "2,100700,,,,Kort\r\n").hoogsteWeggelaten, 100700);
+    EXPECT_EQ(SpelersUit("2,100700,,,,Kort\r\n" + regel("100901", "Bos")).hoogsteWeggelaten,
+              100901);
+    EXPECT_EQ(SpelersUit(regel("99999999999", "")).hoogsteWeggelaten, 0);
+}
+
 TEST(Spelerlezing, SleutelWordtAfgerondNaarHetEvenGetal)
 {
     EXPECT_EQ(Sleutel("HKEY=100007.4\r\n"), 100007);

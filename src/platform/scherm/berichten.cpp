@@ -194,14 +194,14 @@ bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const 
 }
 
 int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
-         const QStringList& antwoorden)
+         const QStringList& antwoorden, int voorkeur)
 {
     Berichtvenster venster(icoon, Titel(QString()), QString(), QMessageBox::NoButton, ouder);
     Vul(venster, tekst);
     QList<QAbstractButton*> knoppen;
     for (const QString& antwoord : antwoorden)
         knoppen << venster.addButton(antwoord, QMessageBox::ActionRole);
-    venster.setDefaultButton(qobject_cast<QPushButton*>(knoppen.first()));
+    venster.setDefaultButton(qobject_cast<QPushButton*>(knoppen.at(voorkeur)));
     venster.setEscapeButton(knoppen.last());
     LaatAntwoorden(venster);
     const auto plaats = knoppen.indexOf(venster.clickedButton());

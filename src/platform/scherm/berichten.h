@@ -29,9 +29,9 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
                          const QString& titel = QString(), const QString& toelichting = QString());
 
 /// Answers worded by the caller; returns the place of the one that was picked. The last one is the
-/// harmless one: Escape and the close box pick it.
+/// harmless one: Escape and the close box pick it. Enter picks that at `voorkeur`.
 [[nodiscard]] int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
-                       const QStringList& antwoorden);
+                       const QStringList& antwoorden, int voorkeur = 0);
 
 /// Which file and line, and the system's own words, as the closing lines of a message.
 [[nodiscard]] QString Bijzonderheden(const Fout& fout);
