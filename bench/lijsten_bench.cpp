@@ -95,7 +95,7 @@ void Sorteren(benchmark::State& meting, Sorteersoort soort)
         meting, [] { return tl::expected<Sorteerlijst, GeenGetal>(); },
         [&](auto& lijst) {
             lijst = VulSorteerlijst(tabel, soort, std::nullopt);
-            Eis(meting, lijst && lijst->regels.size() == static_cast<std::size_t>(Grootte(meting)));
+            Eis(meting, lijst && lijst->size() == static_cast<std::size_t>(Grootte(meting)));
         });
 }
 
@@ -105,7 +105,7 @@ std::vector<Tekst> Ongesorteerd(const Spelertabel& tabel, Sorteersoort soort)
     auto lijst = VulSorteerlijst(tabel, soort, std::nullopt);
     if (!lijst)
         return {};
-    auto& regels = lijst->regels;
+    auto& regels = *lijst;
     std::sort(regels.begin(), regels.end(), [soort](Tekstblik een, Tekstblik ander) {
         return VeldenVan(een, soort) < VeldenVan(ander, soort);
     });

@@ -224,7 +224,6 @@ void Geheugen(benchmark::State& meting)
         proef.Lees(spelers);
         meting.counters["uitgegeven"] = (Uitgegeven() - uitgegeven) / bestand;
         meting.counters["aanwezig"] = (Aanwezig() - aanwezig) / bestand;
-        meting.counters["tabel"] = static_cast<double>(spelers.tabel.Geheugen()) / bestand;
         meting.SetIterationTime(1e-9);
     }
     meting.counters["bestand"] = bestand;

@@ -16,7 +16,6 @@
 #endif
 
 #include "hulp/proefsuite.h"
-#include "platform/grootgeheugen.h"
 
 namespace plexoran {
 
@@ -43,9 +42,7 @@ inline void Groottes(benchmark::internal::Benchmark* meting)
 inline void LeegCaches()
 {
     constexpr std::size_t bytes = std::size_t{256} * 1024 * 1024; // far more than caches hold
-    std::vector<char> vulling;
-    ReserveerGroot(vulling, bytes);
-    vulling.resize(bytes);
+    std::vector<char> vulling(bytes);
     constexpr std::size_t lijn = 64;
     for (std::size_t i = 0; i < bytes; i += lijn)
         ++vulling[i];

@@ -33,7 +33,6 @@ bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
     if (!ZijnErSleutels(spelers, opdracht.keys.size()))
         return false;
     const Sleutelwijzer wijzer(spelers.tabel);
-    spelers.tabel.Reserveer(opdracht.keys.size());
     for (const Tekst& key : opdracht.keys) {
         const int bron = wijzer.Rij(key); // a copy made here is never found, nor copied again
         const Tekst nieuweKey = std::to_string(NieuweSleutel(spelers).value());

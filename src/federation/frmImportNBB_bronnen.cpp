@@ -53,11 +53,11 @@ bool IsVanSoort(Tekstblik naam, Ledenbron bron)
 /// In text order.
 std::vector<Tekst> VanSoort(const std::vector<Tekst>& namen, Ledenbron bron)
 {
-    std::vector<Tekstblik> gevonden;
+    std::vector<Tekst> gevonden;
     std::copy_if(namen.begin(), namen.end(), std::back_inserter(gevonden),
                  [bron](const Tekst& naam) { return IsVanSoort(naam, bron); });
     Sorteer(gevonden);
-    return {gevonden.begin(), gevonden.end()};
+    return gevonden;
 }
 
 QString Lijstfouttekst(const Fout& fout)

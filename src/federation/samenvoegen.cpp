@@ -1,11 +1,9 @@
 #include "federation/samenvoegen.h"
 
-#include <bit>
-#include <functional>
 #include <optional>
+#include <unordered_map>
 
 #include "federation/nbbnrindex.h"
-#include "platform/grootgeheugen.h"
 
 namespace plexoran {
 namespace {
@@ -41,68 +39,15 @@ std::vector<Tekstblik> Nummers(const Tekstlijst& lstN1)
     return nummers;
 }
 
-/// The index takes some tens of bytes for every character of a long number: of a file that holds
-/// something else there, more than the machine has.
+/// A file with many texts there that no number comes near holds something else.
 bool ZijnTeGroot(const std::vector<Tekstblik>& nummers)
 {
-    constexpr std::size_t langste = 64; // many times a number
-    constexpr std::size_t meeste = std::size_t{16} << 20U;
+    constexpr std::size_t meeste = 65536;
     std::size_t samen = 0;
     for (const Tekstblik nummer : nummers)
-        samen += nummer.size() > langste ? nummer.size() : 0;
+        samen += nummer.size() > NBBnrIndex::Langste ? nummer.size() : 0;
     return samen > meeste;
 }
-
-/// The first row of a group with each number, as text. Rows in one block beside their hashes: a
-/// node for each would be somewhere else in memory for every member that is looked up.
-class RijMetNummer {
-  public:
-    RijMetNummer(const Spelertabel& tabel, Tekstblik groep)
-        : tabel_(tabel), vakken_(std::bit_ceil(2 * (static_cast<std::size_t>(tabel.Rijen()) + 1)))
-    {
-        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-            if (tabel.Cel(rij, Kolom::Groep) == groep)
-                Voeg(rij);
-        }
-    }
-
-    /// 0 when there is none.
-    [[nodiscard]] int Zoek(Tekstblik nummer) const { return vakken_[VakVan(nummer)].rij; }
-
-  private:
-    struct Vak {
-        std::uint32_t kenmerk = 0;
-        int rij = 0;
-    };
-
-    void Voeg(int rij)
-    {
-        const Tekstblik nummer = tabel_.Cel(rij, Kolom::NBBnr);
-        Vak& vak = vakken_[VakVan(nummer)];
-        if (vak.rij == 0)
-            vak = {Kenmerk(nummer), rij};
-    }
-
-    static std::uint32_t Kenmerk(Tekstblik nummer)
-    {
-        return static_cast<std::uint32_t>(std::hash<Tekstblik>()(nummer));
-    }
-
-    /// Where the number stands or would come; at least half of them are free.
-    [[nodiscard]] std::size_t VakVan(Tekstblik nummer) const
-    {
-        const std::uint32_t kenmerk = Kenmerk(nummer);
-        std::size_t plaats = kenmerk & (vakken_.size() - 1);
-        while (vakken_[plaats].rij != 0 &&
-               (vakken_[plaats].kenmerk != kenmerk ||
-                tabel_.Cel(vakken_[plaats].rij, Kolom::NBBnr) != nummer))
-            plaats = (plaats + 1) & (vakken_.size() - 1);
-        return plaats;
-    }
-
-    const Spelertabel& tabel_;
-    std::vector<Vak> vakken_;
-};
 
 /// One merge. It decides first what happens to every line and changes the register only then, so
 /// that stopping half-way changes nothing.
@@ -111,8 +56,7 @@ class Samenvoeger {
     Samenvoeger(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang,
                 std::vector<Tekstblik> nummers)
         : spelers_(spelers), opdracht_(opdracht), voortgang_(voortgang),
-          nummers_(std::move(nummers)), vragen_(Vragen(nummers_)), NBBnrIndex_(vragen_),
-          eersteRij_(NBBnrIndex_.AantalAntwoorden())
+          nummers_(std::move(nummers)), vragen_(Vragen(nummers_)), NBBnrIndex_(vragen_)
     {
         BouwNBBnrIndex();
     }
@@ -131,7 +75,7 @@ class Samenvoeger {
     static std::vector<Tekst> Vragen(const std::vector<Tekstblik>& nummers);
 
     void BouwNBBnrIndex();
-    [[nodiscard]] int ZoekRij(std::size_t regel);
+    [[nodiscard]] int ZoekRij(std::size_t regel) const;
     [[nodiscard]] bool KiesVerversingen();
     [[nodiscard]] bool KiesNieuwe();
     void Ververs(int rij, const Importvelden& velden);
@@ -149,8 +93,7 @@ class Samenvoeger {
     std::vector<Tekst> vragen_;      ///< the numbers as the index writes them
     Tekst NBBgr_ = Hoofdletters(opdracht_.subgroep);
     NBBnrIndex NBBnrIndex_;
-    std::vector<int> eersteRij_; ///< per answer of the index, of the group; 0: none, or not known
-    std::optional<RijMetNummer> rijMetNummer_; ///< made when a row cannot be told by its answer
+    std::unordered_map<Tekstblik, int> eersteRij_; ///< of the group, with each number as text
     std::vector<Verversing> verversingen_;
     std::vector<std::size_t> lstN2_; ///< places in lstN1 of what is to be added
     std::size_t gedaan_ = 0;
@@ -159,7 +102,7 @@ class Samenvoeger {
 std::vector<Tekst> Samenvoeger::Vragen(const std::vector<Tekstblik>& nummers)
 {
     std::vector<Tekst> vragen;
-    ReserveerGroot(vragen, nummers.size());
+    vragen.reserve(nummers.size());
     for (const Tekstblik nummer : nummers)
         vragen.push_back(OpgemaaktNBBnr(nummer));
     return vragen;
@@ -167,41 +110,21 @@ std::vector<Tekst> Samenvoeger::Vragen(const std::vector<Tekstblik>& nummers)
 
 void Samenvoeger::BouwNBBnrIndex()
 {
-    constexpr std::size_t tegelijk = 2 * NBBnrIndex::Vooruit;
-    std::vector<std::pair<int, Tekst>> hap;
-    const auto verwerk = [&] {
-        for (const auto& [rij, nummer] : hap) {
-            const std::uint32_t antwoord = NBBnrIndex_.Voeg(nummer);
-            if (antwoord != NBBnrIndex::Geen && eersteRij_[antwoord] == 0)
-                eersteRij_[antwoord] = rij;
-        }
-        hap.clear();
-    };
     const Spelertabel& tabel = spelers_.tabel;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         if (tabel.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
             continue;
-        hap.emplace_back(rij, OpgemaaktNBBnr(tabel.Cel(rij, Kolom::NBBnr)));
-        NBBnrIndex_.Kondig(hap.back().second);
-        if (hap.size() == tegelijk)
-            verwerk();
+        const Tekstblik nummer = tabel.Cel(rij, Kolom::NBBnr);
+        NBBnrIndex_.Voeg(OpgemaaktNBBnr(nummer));
+        eersteRij_.try_emplace(nummer, rij);
     }
-    verwerk();
 }
 
 /// The first row of the group whose number is, to the letter, the one of this line; 0: none.
-int Samenvoeger::ZoekRij(std::size_t regel)
+int Samenvoeger::ZoekRij(std::size_t regel) const
 {
-    if (!NBBnrIndex_.Bevat(regel))
-        return 0;
-    // The first of all that read the same as a number. Where it is written otherwise, a later row
-    // may still be written as the line is.
-    const int rij = eersteRij_[NBBnrIndex_.Antwoord(regel)];
-    if (rij != 0 && spelers_.tabel.Cel(rij, Kolom::NBBnr) == nummers_[regel])
-        return rij;
-    if (!rijMetNummer_)
-        rijMetNummer_.emplace(spelers_.tabel, opdracht_.importgroep);
-    return rijMetNummer_->Zoek(nummers_[regel]);
+    const auto plek = eersteRij_.find(nummers_[regel]);
+    return plek != eersteRij_.end() && NBBnrIndex_.Bevat(vragen_[regel]) ? plek->second : 0;
 }
 
 std::optional<Samenvoegfout> Samenvoeger::Beslis()
@@ -236,11 +159,8 @@ bool Samenvoeger::KiesVerversingen()
 bool Samenvoeger::KiesNieuwe()
 {
     std::size_t over = 0;
-    for (std::size_t k = 0; k < lstN2_.size(); ++k) {
-        if (k + NBBnrIndex::Vooruit < lstN2_.size())
-            NBBnrIndex_.Kondig(vragen_[lstN2_[k + NBBnrIndex::Vooruit]]);
-        const std::size_t i = lstN2_[k];
-        if (NBBnrIndex_.Bevat(i)) {
+    for (const std::size_t i : lstN2_) {
+        if (NBBnrIndex_.Bevat(vragen_[i])) {
             uitkomst.overgeslagen.VoegToe(opdracht_.lstN1[i]);
         } else {
             NBBnrIndex_.Voeg(vragen_[i]);
@@ -255,7 +175,6 @@ bool Samenvoeger::KiesNieuwe()
 
 void Samenvoeger::Voer()
 {
-    spelers_.tabel.Reserveer(lstN2_.size(), verversingen_.size());
     for (const auto& [regel, rij] : verversingen_)
         Ververs(rij, SplitsImportregel(opdracht_.lstN1[regel]));
     for (const std::size_t regel : lstN2_)

@@ -59,16 +59,16 @@ void frmLedenAdmin::ToonSorteerlijst(Sorteersoort soort)
         MeldGeenGetal(soort, lijst.error());
         return;
     }
-    if (lijst->regels.empty()) {
+    if (lijst->empty()) {
         Meld(this, QMessageBox::Information, NietsGevonden(soort));
         return;
     }
     diaSortlijst venster({.soort = soort,
                           .importgroep = code == administratie_.mappen.DFIMPG,
-                          .regels = static_cast<int>(lijst->regels.size()),
+                          .regels = static_cast<int>(lijst->size()),
                           .regel =
                               [&](int regel) {
-                                  return VeldenVan(lijst->regels[static_cast<std::size_t>(regel)],
+                                  return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
                                                    soort);
                               }},
                          this);

@@ -51,12 +51,11 @@ tl::expected<Sorteerlijst, GeenGetal> VulSorteerlijst(const Spelertabel& tabel, 
     const Kolom kolom = opKey ? Kolom::Key : Kolom::NBBnr;
     Sorteerlijst lijst;
     if (!groepscode)
-        lijst.regels.reserve(static_cast<std::size_t>(tabel.Rijen()));
-    Tekst regel;
+        lijst.reserve(static_cast<std::size_t>(tabel.Rijen()));
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         if (groepscode && tabel.Cel(rij, Kolom::Groep) != *groepscode)
             continue;
-        regel.clear();
+        Tekst regel;
         if (soort == Sorteersoort::NBBgroep) {
             VoegGroepEnNaamToe(regel, tabel, rij);
         } else {
@@ -70,9 +69,9 @@ tl::expected<Sorteerlijst, GeenGetal> VulSorteerlijst(const Spelertabel& tabel, 
             regel += ',';
         }
         VoegVeldenToe(regel, tabel, rij);
-        lijst.regels.push_back(lijst.teksten.Bewaar(regel));
+        lijst.push_back(std::move(regel));
     }
-    Sorteer(lijst.regels);
+    Sorteer(lijst);
     return lijst;
 }
 

@@ -6,18 +6,14 @@
 
 #include "dialogs/sorteerkolommen.h"
 #include "platform/fout.h"
-#include "platform/tekstvoorraad.h"
 #include "register/spelertabel.h"
 
 namespace plexoran {
 
-/// Each line is a sort prefix followed by the six fields key, first name, particle, surname, column
-/// 17 and column 18, joined by ",". Kinds 1 and 2 have a comma behind their prefix of digits, kind
-/// 3 has none behind its 42 characters.
-struct Sorteerlijst {
-    std::vector<Tekstblik> regels; ///< in text order
-    Tekstvoorraad teksten;         ///< what they look at
-};
+/// In text order. Each line is a sort prefix followed by the six fields key, first name, particle,
+/// surname, column 17 and column 18, joined by ",". Kinds 1 and 2 have a comma behind their prefix
+/// of digits, kind 3 has none behind its 42 characters.
+using Sorteerlijst = std::vector<Tekst>;
 
 /// A key or federation number that is no number.
 struct GeenGetal {

@@ -6,7 +6,6 @@
 
 #include "pairs/regelzoeker.h"
 #include "platform/tekstorde.h"
-#include "platform/tekstvoorraad.h"
 
 namespace plexoran {
 namespace {
@@ -24,14 +23,10 @@ bool GelijkInHoofdletters(Tekstblik een, Tekstblik ander)
 }
 
 /// The lines of the available players, in text order.
-struct Spelerregels {
-    Tekstvoorraad voorraad{};
-    std::vector<Tekstblik> regels{};
-};
-
-Spelerregels BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode, Tekstblik keuze)
+std::vector<Tekst> BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode,
+                                      Tekstblik keuze)
 {
-    Spelerregels uit;
+    std::vector<Tekst> uit;
     const auto lengte = std::min(keuze.size(), groepscode.size());
     if (!GelijkInHoofdletters(keuze.substr(0, lengte), groepscode))
         return uit;
@@ -40,9 +35,9 @@ Spelerregels BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode, 
         if (tabel.Cel(rij, Kolom::Groep) == groepscode &&
             GelijkInHoofdletters(tabel.Cel(rij, Kolom::NBBgr), subgroep) &&
             !IsOverleden(tabel.Cel(rij, Kolom::Status)))
-            uit.regels.push_back(uit.voorraad.Bewaar(Spelerregel(tabel, rij)));
+            uit.push_back(Spelerregel(tabel, rij));
     }
-    Sorteer(uit.regels);
+    Sorteer(uit);
     return uit;
 }
 
@@ -50,10 +45,7 @@ Spelerregels BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode, 
 Tekst Sorteerregel(Tekstblik paarregel, std::size_t plaats, int breedte)
 {
     const Paarspeler speler = LinkerSpeler(paarregel);
-    constexpr std::size_t ruim = 64;
-    Tekst regel;
-    regel.reserve(ruim);
-    regel += speler.naam;
+    Tekst regel(speler.naam);
     regel += ' ';
     regel += speler.key;
     regel += ' ';
@@ -105,13 +97,9 @@ bool IsOverleden(Tekstblik status)
 Tekst Paren::LaadSubgroep(const Spelertabel& tabel, Tekstblik groepscode, Tekstblik keuze,
                           const Paartekens& paren)
 {
-    const Spelerregels spelers = BeschikbareSpelers(tabel, groepscode, keuze);
+    lalle_ = BeschikbareSpelers(tabel, groepscode, keuze);
     l3_.clear();
-    if (paren.empty()) {
-        lalle_.assign(spelers.regels.begin(), spelers.regels.end());
-        return {};
-    }
-    Tekst losse = ToonParen(spelers.regels, paren);
+    Tekst losse = ToonParen(paren);
     Sorteer();
     return losse;
 }
@@ -121,20 +109,18 @@ Tekst Paren::Keuze(int plaats) const
     return Keuzeregel(lalle_[Index(plaats)]);
 }
 
-Tekst Paren::ToonParen(std::span<const Tekstblik> spelers, const Paartekens& paren)
+/// Puts the pairs in their list and takes their players out of the available ones.
+Tekst Paren::ToonParen(const Paartekens& paren)
 {
     Tekst losse;
-    Regelzoeker zoeker(spelers);
+    Regelzoeker zoeker(lalle_, paren);
     bool los = false;
     const auto speler = [&](Tekstblik key) {
         const int regel = zoeker.NeemEerste(key);
         los = los || regel < 0;
-        constexpr std::size_t ruim = 48;
-        Tekst metNaam;
-        metNaam.reserve(ruim);
-        metNaam += key;
+        Tekst metNaam(key);
         metNaam += ' ';
-        metNaam += regel < 0 ? OnbekendeNaam : Spelernaam(spelers[Index(regel)]);
+        metNaam += regel < 0 ? OnbekendeNaam : Spelernaam(lalle_[Index(regel)]);
         return metNaam;
     };
     l3_.reserve(paren.size());
@@ -146,11 +132,8 @@ Tekst Paren::ToonParen(std::span<const Tekstblik> spelers, const Paartekens& par
             losse.append(links).append(" - ").append(rechts).append("\r\n");
         l3_.push_back(Paarregel(links, rechts));
     }
-    lalle_.clear();
-    for (std::size_t i = 0; i < spelers.size(); ++i) {
-        if (!zoeker.Weg()[i])
-            lalle_.emplace_back(spelers[i]);
-    }
+    std::size_t plaats = 0;
+    std::erase_if(lalle_, [&](const Tekst&) { return zoeker.IsWeg(plaats++); });
     return losse;
 }
 
@@ -171,12 +154,12 @@ int Paren::MaakPaar(int links, int rechts)
 int Paren::VoegPaarToe(Tekst paarregel)
 {
     const int breedte = Plaatsbreedte(l3_.size() + 1);
-    const auto plek = std::upper_bound(
-        l3_.begin(), l3_.end(), Sorteersleutel(Sorteerregel(paarregel, l3_.size(), breedte)),
-        [&](const Tekst& sleutel, const Tekst& regel) {
-            const auto plaats = static_cast<std::size_t>(&regel - l3_.data());
-            return sleutel < Sorteersleutel(Sorteerregel(regel, plaats, breedte));
-        });
+    const auto plek =
+        std::upper_bound(l3_.begin(), l3_.end(), Sorteerregel(paarregel, l3_.size(), breedte),
+                         [&](const Tekst& nieuw, const Tekst& regel) {
+                             const auto plaats = static_cast<std::size_t>(&regel - l3_.data());
+                             return KomtVoor(nieuw, Sorteerregel(regel, plaats, breedte));
+                         });
     const auto plaats = plek - l3_.begin();
     l3_.insert(plek, std::move(paarregel));
     return static_cast<int>(plaats);
@@ -184,9 +167,7 @@ int Paren::VoegPaarToe(Tekst paarregel)
 
 void Paren::VoegSpelerToe(Tekst spelerregel)
 {
-    const auto plek = std::upper_bound(
-        lalle_.begin(), lalle_.end(), Sorteersleutel(spelerregel),
-        [](const Tekst& sleutel, const Tekst& regel) { return sleutel < Sorteersleutel(regel); });
+    const auto plek = std::upper_bound(lalle_.begin(), lalle_.end(), spelerregel, KomtVoor);
     lalle_.insert(plek, std::move(spelerregel));
 }
 
@@ -201,15 +182,14 @@ void Paren::Ontbind(int plaats)
 void Paren::Sorteer()
 {
     const int breedte = Plaatsbreedte(l3_.size());
-    Tekstvoorraad voorraad;
-    std::vector<Tekstblik> l9;
+    std::vector<Tekst> l9;
     l9.reserve(l3_.size());
     for (std::size_t i = 0; i < l3_.size(); ++i)
-        l9.push_back(voorraad.Bewaar(Sorteerregel(l3_[i], i, breedte)));
+        l9.push_back(Sorteerregel(l3_[i], i, breedte));
     plexoran::Sorteer(l9);
     std::vector<Tekst> gesorteerd;
     gesorteerd.reserve(l3_.size());
-    for (const Tekstblik regel : l9)
+    for (const Tekst& regel : l9)
         gesorteerd.push_back(std::move(l3_[PlaatsUit(regel, breedte)]));
     l3_ = std::move(gesorteerd);
 }

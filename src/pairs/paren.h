@@ -2,8 +2,6 @@
 // window shows and changes. Nothing here touches the player table.
 #pragma once
 
-#include <span>
-
 #include "pairs/paarregel.h"
 #include "pairs/parenbestand.h"
 
@@ -42,7 +40,7 @@ class Paren {
     void WisParen() { l3_.clear(); }
 
   private:
-    [[nodiscard]] Tekst ToonParen(std::span<const Tekstblik> spelers, const Paartekens& paren);
+    [[nodiscard]] Tekst ToonParen(const Paartekens& paren);
     int VoegPaarToe(Tekst paarregel);
     void VoegSpelerToe(Tekst spelerregel);
 

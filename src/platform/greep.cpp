@@ -5,8 +5,6 @@
 #include <new>
 #include <stdexcept>
 
-#include "platform/grootgeheugen.h"
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #ifdef _WIN32
@@ -177,9 +175,7 @@ try {
         return fout;
     // One byte more, so that the end shows without growing; the size is a guess, for the file may
     // change and some systems do not tell it.
-    const auto ruim = static_cast<std::size_t>(toestand.st_size) + 1;
-    ReserveerGroot(naar, ruim);
-    naar.resize(ruim);
+    naar.resize(static_cast<std::size_t>(toestand.st_size) + 1);
     std::size_t gelezen = 0;
     for (;;) {
         if (gelezen == naar.size())

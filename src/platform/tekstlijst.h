@@ -7,7 +7,6 @@
 #include <iterator>
 #include <vector>
 
-#include "platform/grootgeheugen.h"
 #include "platform/tekst.h"
 
 namespace plexoran {
@@ -24,8 +23,8 @@ class Tekstlijst {
     /// Makes room for so many more texts of so many bytes together.
     void Reserveer(std::size_t aantal, std::size_t bytes)
     {
-        ReserveerGroot(einden_, einden_.size() + aantal);
-        ReserveerGroot(tekens_, tekens_.size() + bytes);
+        einden_.reserve(einden_.size() + aantal);
+        tekens_.reserve(tekens_.size() + bytes);
     }
     void VoegToe(Tekstblik tekst)
     {

@@ -10,12 +10,12 @@
 
 namespace plexoran {
 
-/// Keys that compare byte by byte as their texts compare in the text order.
-[[nodiscard]] Tekst Sorteersleutel(Tekstblik tekst);
+/// Whether the one comes before the other, to sort by.
+[[nodiscard]] bool KomtVoor(Tekstblik een, Tekstblik ander);
 
-/// Puts the texts in text order. Looks at no more of them than it takes to tell them apart.
-void Sorteer(std::vector<Tekstblik>& teksten);
-/// The same for texts that own their characters.
 void Sorteer(std::vector<Tekst>& teksten);
+
+/// A key that compares byte by byte as its text compares in the text order.
+[[nodiscard]] Tekst Sorteersleutel(Tekstblik tekst);
 
 } // namespace plexoran

@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "platform/getal.h"
-#include "platform/grootgeheugen.h"
 #include "register/groepen.h"
 #include "register/spelerbestand.h"
 
@@ -70,7 +69,7 @@ class Lezer {
 
     Spelerlezing Lees()
     {
-        ReserveerGroot(rijen_, GeschatAantalRegels());
+        rijen_.reserve(GeschatAantalRegels());
         while (begin_ < inhoud_.size() && geteld_)
             LeesRegel();
         if (geteld_)

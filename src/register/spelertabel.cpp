@@ -36,8 +36,8 @@ template <class Rij> Spelertabel::Celgrenzen Spelertabel::SchrijfVelden(const Ri
     Celgrenzen grenzen{};
     for (std::size_t i = 0; i < velden.size(); ++i) {
         grenzen[i] = static_cast<std::uint32_t>(tekst_.size());
-        VoegVeldToe(tekst_.Tweede(), velden[i]);
-        tekst_.Tweede() += ',';
+        VoegVeldToe(tekst_, velden[i]);
+        tekst_ += ',';
     }
     grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());
     return grenzen;
@@ -55,7 +55,7 @@ void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
     const Tekst nieuw = AlsVeld(tekst); // a copy, since it may be a view into this table
     const auto begin = Grenzen(rij)[Plaats(kolom)];
     if (Grenzen(rij)[Plaats(kolom) + 1] - begin - 1 == nieuw.size()) {
-        std::copy(nieuw.begin(), nieuw.end(), tekst_.Vanaf(begin));
+        std::copy(nieuw.begin(), nieuw.end(), tekst_.begin() + begin);
         return;
     }
     const Celtekst anders{kolom, nieuw};
@@ -70,37 +70,23 @@ void Spelertabel::ZetCellen(int rij, std::span<const Celtekst> anders)
 
 void Spelertabel::VoegToe(const Rijvelden& velden)
 {
-    rijen_.Tweede().push_back(SchrijfVelden(velden));
+    rijen_.push_back(SchrijfVelden(velden));
 }
 
 void Spelertabel::VoegRijToe(const Rijblikken& velden)
 {
-    rijen_.Tweede().push_back(SchrijfVelden(velden));
-}
-
-void Spelertabel::Reserveer(std::size_t erbij, std::size_t anders)
-{
-    constexpr std::size_t speling = 16; // for a longer number, key or group
-    const std::size_t lengte = tekst_.size() / std::max<std::size_t>(rijen_.size(), 1) + speling;
-    rijen_.Reserveer(erbij);
-    tekst_.Reserveer(std::min((erbij + anders) * lengte, GrootsteTekst - tekst_.size()));
+    rijen_.push_back(SchrijfVelden(velden));
 }
 
 void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)
 {
-    rijen_.Tweede().push_back(SchrijfKopie(rij, anders));
+    rijen_.push_back(SchrijfKopie(rij, anders));
 }
 
 Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celtekst> anders)
 {
     const Celgrenzen& bron = Grenzen(rij);
-    std::size_t lengte = bron[AantalKolommen] - bron[0];
-    for (const Celtekst& cel : anders)
-        lengte += cel.tekst.size() + 1;
-    Tekst& kopie = kopie_; // on its own first, since the texts may be views into this table
-    kopie.clear();
-    kopie.reserve(lengte);
-
+    Tekst kopie; // on its own first, since the texts may be views into this table
     Celgrenzen grenzen{};
     std::size_t plaats = 0;
     const auto neemOver = [&](std::size_t tot) { // the cells up to `tot`, as they stand together
@@ -125,7 +111,7 @@ Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celte
     MaakRuimte(kopie.size());
     for (auto& grens : grenzen)
         grens += static_cast<std::uint32_t>(tekst_.size());
-    tekst_.Tweede() += kopie;
+    tekst_ += kopie;
     return grenzen;
 }
 
@@ -144,7 +130,7 @@ void Spelertabel::Verwijder(std::span<const int> rijen)
         rijen_[over++] = rijen_[i];
         ZetNr(static_cast<int>(over));
     }
-    rijen_.KortIn(over);
+    rijen_.resize(over);
 }
 
 /// Gives a row its position as `Nr`: at the end of the old number's bytes where it fits in them.
@@ -157,7 +143,7 @@ void Spelertabel::ZetNr(int rij)
         return;
     }
     grenzen[0] = grenzen[1] - 1 - static_cast<std::uint32_t>(nr.size());
-    std::copy(nr.begin(), nr.end(), tekst_.Vanaf(grenzen[0]));
+    std::copy(nr.begin(), nr.end(), tekst_.begin() + grenzen[0]);
 }
 
 /// Unused bytes of changed rows are given up when the text would outgrow the bounds.
@@ -175,7 +161,7 @@ void Spelertabel::MaakRuimte(std::size_t bytes)
         for (auto& grens : grenzen)
             grens = grens - begin + nieuw;
     }
-    tekst_ = Tweedelig(std::move(compact));
+    tekst_ = std::move(compact);
 }
 
 Rijvelden Spelertabel::Velden(int rij) const
@@ -184,12 +170,6 @@ Rijvelden Spelertabel::Velden(int rij) const
     for (int kolom = 1; kolom <= AantalKolommen; ++kolom)
         velden[static_cast<std::size_t>(kolom - 1)] = Cel(rij, static_cast<Kolom>(kolom));
     return velden;
-}
-
-std::size_t Spelertabel::Geheugen() const
-{
-    return sizeof(*this) + tekst_.capacity() + kopie_.capacity() +
-           rijen_.capacity() * sizeof(Celgrenzen);
 }
 
 Tekst VolleNaam(const Spelertabel& tabel, int rij)

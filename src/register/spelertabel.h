@@ -2,10 +2,9 @@
 //
 // The table keeps the bytes of the file in one buffer and, per row, where its 18 cells begin, so
 // that it costs little more than the file. A cell is changed where it stands when its length stays
-// the same; else its row is written anew behind what is there. That goes to a second buffer, so
-// that what was read is never copied to make room. Bytes that nothing refers to any more,
-// of old rows and of deleted ones, stay unused until the register is read again, as it is after
-// every save.
+// the same; else its row is written anew behind what is there. Bytes that nothing refers to any
+// more, of old rows and of deleted ones, stay unused until the register is read again, as it is
+// after every save.
 #pragma once
 
 #include <array>
@@ -15,7 +14,6 @@
 #include <utility>
 #include <vector>
 
-#include "platform/tweedelig.h"
 #include "register/groepscode.h"
 
 namespace plexoran {
@@ -100,9 +98,6 @@ class Spelertabel {
     void VoegToe(const Rijvelden& velden);
     /// The views may not be of this table.
     void VoegRijToe(const Rijblikken& velden);
-    /// Makes room for so many rows that are about to be added and others written anew, as long as
-    /// those that are there, so that memory is asked for once.
-    void Reserveer(std::size_t erbij, std::size_t anders = 0);
     /// Adds a row that is another one with some of its cells changed: those in `anders`, by rising
     /// column and none twice.
     void VoegKopieToe(int rij, std::span<const Celtekst> anders);
@@ -112,9 +107,6 @@ class Spelertabel {
     void Verwijder(std::span<const int> rijen);
 
     [[nodiscard]] Rijvelden Velden(int rij) const;
-
-    /// Bytes of memory in use, for measuring.
-    [[nodiscard]] std::size_t Geheugen() const;
 
   private:
     [[nodiscard]] const Celgrenzen& Grenzen(int rij) const
@@ -129,7 +121,7 @@ class Spelertabel {
     /// What stands from one bound of a row to another, without the separator at its end.
     [[nodiscard]] Tekstblik Bytes(std::uint32_t van, std::uint32_t tot) const
     {
-        return {tekst_.Vanaf(van), tot - van - std::size_t{1}};
+        return {tekst_.data() + van, tot - van - std::size_t{1}};
     }
     /// Behind the text; the row's own bounds are not touched.
     template <class Rij> Celgrenzen SchrijfVelden(const Rij& velden);
@@ -137,9 +129,8 @@ class Spelertabel {
     void ZetNr(int rij);
     void MaakRuimte(std::size_t bytes);
 
-    Tweedelig<Tekst> tekst_; ///< the file and what was written since; a row lies in one of them
-    Tekst kopie_; ///< the row that is being written anew; kept for the sake of its memory
-    Tweedelig<std::vector<Celgrenzen>> rijen_;
+    Tekst tekst_; ///< the file and what was written since
+    std::vector<Celgrenzen> rijen_;
 };
 
 /// First name, particle and last name, as far as they are there.

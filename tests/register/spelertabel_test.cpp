@@ -347,11 +347,6 @@ TEST(Spelertabel, VerwijderNaWijzigen)
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Voornaam), "Anna;Bea;Dirkje;Els;");
 }
 
-TEST(Spelertabel, GeheugenTeltDeTekst)
-{
-    EXPECT_GE(VijfRijen().Geheugen(), vijfSpelers.size());
-}
-
 TEST(Spelertabel, DoetAlsEenGewoneLijst)
 {
     constexpr int stappen = 20'000;
