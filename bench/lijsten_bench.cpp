@@ -1,7 +1,7 @@
-// The lists and the changes of many players at once: each sorted list beside sorting the same keys
-// and reading the table, the others beside one load of the same register, measured in the same run.
-#include <algorithm>
+// The lists and the changes of many players at once, each beside SQLite doing the same and beside one
+// load of the same register, measured in the same run.
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "dialogs/kopieren.h"
@@ -9,10 +9,11 @@
 #include "dialogs/verplaatsen.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
+#include "hulp/sqlite.h"
 #include "mainwindow/dubbelenamen.h"
 #include "mainwindow/sorteerlijst.h"
 #include "platform/echteSchijf.h"
-#include "platform/tekstorde.h"
+#include "printing/printtabel.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {
@@ -68,11 +69,18 @@ struct Proef {
         Lees(spelers);
         return spelers;
     }
+    Sqlite& Bank()
+    {
+        if (!bank)
+            bank.emplace(gelezen.tabel);
+        return *bank;
+    }
 
     EchteSchijf schijf;
     Proefsuite suite;
     Register gelezen;
     std::vector<Tekst> keys;
+    std::optional<Sqlite> bank;
 };
 
 Proefkast<Proef, int, Verdeling>& Proeven()
@@ -99,23 +107,6 @@ void Sorteren(benchmark::State& meting, Sorteersoort soort)
         });
 }
 
-/// The sort keys of the same lines in the order of the table: keys of players rise with the rows.
-std::vector<Tekst> Ongesorteerd(const Spelertabel& tabel, Sorteersoort soort)
-{
-    auto lijst = VulSorteerlijst(tabel, soort, std::nullopt);
-    if (!lijst)
-        return {};
-    auto& regels = *lijst;
-    std::sort(regels.begin(), regels.end(), [soort](Tekstblik een, Tekstblik ander) {
-        return VeldenVan(een, soort) < VeldenVan(ander, soort);
-    });
-    std::vector<Tekst> sleutels;
-    sleutels.reserve(regels.size());
-    for (const Tekstblik regel : regels)
-        sleutels.push_back(Sorteersleutel(regel));
-    return sleutels;
-}
-
 /// One walk over all cells, at least one byte of each.
 std::size_t LoopDoor(const Spelertabel& tabel)
 {
@@ -129,30 +120,11 @@ std::size_t LoopDoor(const Spelertabel& tabel)
     return som;
 }
 
-void SorterenGrens(benchmark::State& meting, Sorteersoort soort)
-{
-    const Spelertabel& tabel = ProefVan(meting, Verdeling::AlleGroepen).gelezen.tabel;
-    const std::vector<Tekst> sleutels = Ongesorteerd(tabel, soort);
-    Eis(meting, sleutels.size() == static_cast<std::size_t>(Grootte(meting)));
-    Meet(
-        meting, [&] { return sleutels; },
-        [&](std::vector<Tekst>& gesorteerd) {
-            benchmark::DoNotOptimize(LoopDoor(tabel));
-            std::sort(gesorteerd.begin(), gesorteerd.end());
-        });
-}
-
 void SorterenKey(benchmark::State& meting)
 {
     Sorteren(meting, Sorteersoort::Key);
 }
 BENCHMARK(SorterenKey)->Apply(Groottes);
-
-void SorterenKeyGrens(benchmark::State& meting)
-{
-    SorterenGrens(meting, Sorteersoort::Key);
-}
-BENCHMARK(SorterenKeyGrens)->Apply(Groottes);
 
 void SorterenNBBnr(benchmark::State& meting)
 {
@@ -160,23 +132,54 @@ void SorterenNBBnr(benchmark::State& meting)
 }
 BENCHMARK(SorterenNBBnr)->Apply(Groottes);
 
-void SorterenNBBnrGrens(benchmark::State& meting)
-{
-    SorterenGrens(meting, Sorteersoort::NBBnr);
-}
-BENCHMARK(SorterenNBBnrGrens)->Apply(Groottes);
-
 void SorterenNBBgroep(benchmark::State& meting)
 {
     Sorteren(meting, Sorteersoort::NBBgroep);
 }
 BENCHMARK(SorterenNBBgroep)->Apply(Groottes);
 
-void SorterenNBBgroepGrens(benchmark::State& meting)
+/// A question that SQLite answers with as many rows as `moet` says; what it changes is taken back.
+void Sql(benchmark::State& meting, Verdeling verdeling, Tekstblik sql, std::size_t moet)
 {
-    SorterenGrens(meting, Sorteersoort::NBBgroep);
+    Sqlite& bank = ProefVan(meting, verdeling).Bank();
+    Meet(
+        meting,
+        [&] {
+            bank.Vraag("BEGIN");
+            return std::unique_ptr<Sqlite, void (*)(Sqlite*)>(
+                &bank, [](Sqlite* wie) { wie->Vraag("ROLLBACK"); });
+        },
+        [&](auto&) { Eis(meting, bank.Vraag(sql) >= moet); });
 }
-BENCHMARK(SorterenNBBgroepGrens)->Apply(Groottes);
+
+void SorterenKeySql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::AlleGroepen,
+        "SELECT printf('%06d', Sleutel) || ',' || Sleutel || ',' || Voornaam || ',' || Tusv || ',' "
+        "|| Achternaam || ',' || NBBgr || ',' || NBBnr FROM spelers ORDER BY 1",
+        static_cast<std::size_t>(Grootte(meting)));
+}
+BENCHMARK(SorterenKeySql)->Apply(Groottes);
+
+void SorterenNBBnrSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::AlleGroepen,
+        "SELECT printf('%08d', NBBnr) || ',' || Sleutel || ',' || Voornaam || ',' || Tusv || ',' "
+        "|| Achternaam || ',' || NBBgr || ',' || NBBnr FROM spelers WHERE trim(NBBnr) <> '' "
+        "ORDER BY 1",
+        static_cast<std::size_t>(Grootte(meting)));
+}
+BENCHMARK(SorterenNBBnrSql)->Apply(Groottes);
+
+void SorterenNBBgroepSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::AlleGroepen,
+        "SELECT printf('%-12.12s%-30.30s', Groep || NBBgr, Achternaam) || Sleutel || ',' || "
+        "Voornaam || ',' || Tusv || ',' || Achternaam || ',' || NBBgr || ',' || NBBnr "
+        "FROM spelers ORDER BY 1 COLLATE NOCASE",
+        static_cast<std::size_t>(Grootte(meting)));
+}
+BENCHMARK(SorterenNBBgroepSql)->Apply(Groottes);
 
 // ---------------------------------------------------------------- many players at once
 
@@ -254,6 +257,67 @@ void SubgroepVerwijderen(benchmark::State& meting)
         });
 }
 BENCHMARK(SubgroepVerwijderen)->Apply(Groottes);
+
+/// Without the layout, which is the windows' business.
+void Printtabellen(benchmark::State& meting)
+{
+    const Spelertabel& tabel = ProefVan(meting, Verdeling::EenGroep).gelezen.tabel;
+    const Printopdracht opdracht{
+        .groepscode = "Gr01-",
+        .subgroepen = Printsubgroepen(tabel, "Gr01-"),
+        .kolommen = {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam, Kolom::Telef, Kolom::Email,
+                     Kolom::Adres, Kolom::Postc, Kolom::Plaats}};
+    Meet(
+        meting, [] { return Printtabel(); },
+        [&](Printtabel& print) {
+            print = MaakPrinttabel(tabel, opdracht);
+            Eis(meting, print.Rijen() == Grootte(meting));
+        });
+}
+BENCHMARK(Printtabellen)->Apply(Groottes);
+
+void DubbeleNamenSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::EenGroep,
+        "WITH n AS MATERIALIZED (SELECT rowid AS rij, Groep AS groep, Voornaam || Tusv || "
+        "Achternaam AS naam FROM spelers) SELECT een.rij, ander.rij FROM n AS een JOIN n AS ander "
+        "ON ander.naam = een.naam AND ander.rij > een.rij WHERE een.groep = 'Gr01-' "
+        "ORDER BY 1, 2",
+        static_cast<std::size_t>(Grootte(meting) / ElkeDubbele));
+}
+BENCHMARK(DubbeleNamenSql)->Apply(Groottes);
+
+void AllesVerplaatsenSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::EenGroep, "UPDATE spelers SET Groep = 'Gr02-'", 0);
+}
+BENCHMARK(AllesVerplaatsenSql)->Apply(Groottes);
+
+void AllesKopierenSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::EenGroep,
+        "INSERT INTO spelers SELECT Nr, CAST(Sleutel + 100000 AS TEXT), 'Gr02-', Voornaam, Tusv, "
+        "Achternaam, Telef, Email, Adres, Postc, Plaats, Land, MV, Div1, Div2, Status, '', '' "
+        "FROM spelers",
+        0);
+}
+BENCHMARK(AllesKopierenSql)->Apply(Groottes);
+
+void SubgroepVerwijderenSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::EenGroep,
+        "DELETE FROM spelers WHERE Groep = 'Gr01-' AND NBBgr = 'DINSDAG'", 0);
+}
+BENCHMARK(SubgroepVerwijderenSql)->Apply(Groottes);
+
+void PrinttabellenSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::EenGroep,
+        "SELECT Nr, Voornaam, Tusv, Achternaam, Telef, Email, Adres, Postc, Plaats FROM spelers "
+        "WHERE Groep = 'Gr01-' ORDER BY Achternaam COLLATE NOCASE, rowid",
+        static_cast<std::size_t>(Grootte(meting)));
+}
+BENCHMARK(PrinttabellenSql)->Apply(Groottes);
 
 } // namespace
 } // namespace plexoran

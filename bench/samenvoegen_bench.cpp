@@ -1,6 +1,6 @@
 // Importing as many members as the register has players, half of them known: reading the CSV and
-// merging, beside loading the register and reading the CSV, measured in the same run. Once with
-// usual numbers, once with numbers that the usual way of looking up cannot answer.
+// merging, beside SQLite doing the same without the reading, measured in the same run. Once with
+// usual numbers, once with numbers that can be found across two others.
 #include <memory>
 #include <utility>
 
@@ -8,6 +8,7 @@
 #include "federation/samenvoegen.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
+#include "hulp/sqlite.h"
 #include "platform/echteSchijf.h"
 #include "register/spelerbestand.h"
 
@@ -117,20 +118,48 @@ void ImporterenVreemd(benchmark::State& meting)
 }
 BENCHMARK(ImporterenVreemd)->Apply(Groottes);
 
-/// The register loaded and the CSV read.
-void ImporterenGrens(benchmark::State& meting)
+/// SQLite looks up, updates or inserts the same members, with an index on the number; the file is
+/// read and split beforehand.
+void ImporterenSql(benchmark::State& meting)
 {
     Proef& proef = ProefVan(meting, Nummers::Gewoon);
-    const auto leden = static_cast<std::size_t>(meting.range(0));
-    using Beide = std::pair<Register, Uitkomst<Ledenlezing>>;
+    const Ledenlezing lezing = proef.LeesCsv().value();
+    std::vector<Importvelden> leden;
+    for (const Tekstblik regel : lezing.lstN1)
+        leden.push_back(SplitsImportregel(regel));
+    Sqlite bank(proef.gelezen.tabel);
+    bank.Vraag("CREATE INDEX opNummer ON spelers (NBBnr)");
+    const auto zoek = bank.Maak("SELECT rowid FROM spelers WHERE NBBnr = ?11");
+    const auto ververs =
+        bank.Maak("UPDATE spelers SET Voornaam = ?1, Tusv = ?2, Achternaam = ?3, Adres = ?4, "
+                  "Postc = ?5, Plaats = ?6, Telef = ?7, Email = ?8, Land = ?9, MV = ?10, "
+                  "NBBgr = 'CLUB' WHERE NBBnr = ?11");
+    const auto voegToe = bank.Maak(
+        "INSERT INTO spelers (Nr, Sleutel, Groep, Voornaam, Tusv, Achternaam, Adres, Postc, "
+        "Plaats, Telef, Email, Land, MV, NBBgr, NBBnr) VALUES ('100001', '200001', 'Gr01-', ?1, "
+        "?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, 'CLUB', ?11)");
+    const auto stap = [&](const Sqlite::Opdracht& opdracht, const Importvelden& lid) {
+        return bank.Stap(opdracht.get(), {lid[0], lid[1], lid[2], lid[3], lid[4], lid[5], lid[6],
+                                          lid[7], lid[8], lid[9], lid[10]});
+    };
     Meet(
-        meting, [] { return Beide(); },
-        [&](Beide& beide) {
-            beide = {proef.Laad(), proef.LeesCsv()};
-            Eis(meting, beide.second && beide.second->lstN1.size() == leden);
+        meting,
+        [&] {
+            bank.Vraag("BEGIN");
+            return std::unique_ptr<Sqlite, void (*)(Sqlite*)>(
+                &bank, [](Sqlite* wie) { wie->Vraag("ROLLBACK"); });
+        },
+        [&](auto&) {
+            std::size_t bekend = 0;
+            for (const Importvelden& lid : leden) {
+                const bool is = stap(zoek, lid) != 0;
+                stap(is ? ververs : voegToe, lid);
+                bekend += is ? 1 : 0;
+            }
+            Eis(meting, bekend == leden.size() / 2);
         });
 }
-BENCHMARK(ImporterenGrens)->Apply(Groottes);
+BENCHMARK(ImporterenSql)->Apply(Groottes);
 
 } // namespace
 } // namespace plexoran
