@@ -1,5 +1,5 @@
-// The lists and the changes of many players at once, each beside SQLite doing the same and beside one
-// load of the same register, measured in the same run.
+// The lists and the changes of many players at once, each beside SQLite doing the same and beside
+// one load of the same register, measured in the same run.
 #include <memory>
 #include <optional>
 #include <utility>
@@ -262,11 +262,11 @@ BENCHMARK(SubgroepVerwijderen)->Apply(Groottes);
 void Printtabellen(benchmark::State& meting)
 {
     const Spelertabel& tabel = ProefVan(meting, Verdeling::EenGroep).gelezen.tabel;
-    const Printopdracht opdracht{
-        .groepscode = "Gr01-",
-        .subgroepen = Printsubgroepen(tabel, "Gr01-"),
-        .kolommen = {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam, Kolom::Telef, Kolom::Email,
-                     Kolom::Adres, Kolom::Postc, Kolom::Plaats}};
+    const Printopdracht opdracht{.groepscode = "Gr01-",
+                                 .subgroepen = Printsubgroepen(tabel, "Gr01-"),
+                                 .kolommen = {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam,
+                                              Kolom::Telef, Kolom::Email, Kolom::Adres,
+                                              Kolom::Postc, Kolom::Plaats}};
     Meet(
         meting, [] { return Printtabel(); },
         [&](Printtabel& print) {

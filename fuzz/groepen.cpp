@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "eis.h"
-#include "platform/geheugenSchijf.h"
 #include "register/groepen.h"
+#include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "eis.h"
-#include "platform/geheugenSchijf.h"
 #include "register/instellingen.h"
+#include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;
 

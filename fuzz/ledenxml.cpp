@@ -6,7 +6,7 @@
 #include "federation/ledenbestand.h"
 #include "federation/ledencsv.h"
 #include "federation/ledenxml.h"
-#include "platform/geheugenSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;
 

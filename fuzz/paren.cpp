@@ -7,7 +7,7 @@
 #include "eis.h"
 #include "pairs/paren.h"
 #include "pairs/parencsv.h"
-#include "platform/geheugenSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;
 

@@ -37,13 +37,13 @@ configureer() {
     (cd "$wortel" && cmake --preset "$preset" "$@")
 }
 
-# The program as users get it, without tests and benchmarks, in $programma. What the build says goes
-# to standard error, so that the output of the program itself stays clean.
+# The program as users get it, without tests and benchmarks, in $programma, or the target $1 beside it.
+# What the build says goes to standard error, so that the output of the program itself stays clean.
 bouw_programma() {
     {
         "$wortel/script/afhankelijkheden" bouw
         configureer release -B "$wortel/build/run" -DPLEXORAN_TESTS=OFF -DPLEXORAN_BENCH=OFF
-        cmake --build "$wortel/build/run" --target plexoran
+        cmake --build "$wortel/build/run" --target "${1:-plexoran}"
     } >&2
 }
 
@@ -102,6 +102,7 @@ vul_sjabloon() (
 # leaves the older ones as they were.
 teken_vensters() {
     local doel=$1 procent=$2 klad schaal status=0
+    bouw_programma afbeeldingen
     klad=$(nieuwe_kladmap)
     schaal=$(awk -v p="$procent" 'BEGIN { print p / 100 }')
     maak_suite "$klad/suite"
@@ -111,8 +112,7 @@ teken_vensters() {
         HOME="$klad/eigen" XDG_CONFIG_HOME="$klad/suite/Instellingen" XDG_DATA_HOME="$klad/eigen" \
         XDG_RUNTIME_DIR="$klad/eigen" TMPDIR="$klad/eigen" \
         QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 QT_SCALE_FACTOR="$schaal" \
-        "$programma" --mappen "$klad/suite/Mappen.ini" --afbeeldingen "$klad/beeld" \
-        --slot "$klad/slot" || status=$?
+        "$wortel/build/run/bin/afbeeldingen" "$klad/suite/Mappen.ini" "$klad/beeld" || status=$?
     if ((status == 0)) && [[ -s $klad/beeld/frmLedenAdmin.png ]]; then
         mkdir -p "$doel"
         cp "$klad/beeld"/*.png "$doel/"
@@ -120,5 +120,5 @@ teken_vensters() {
         return
     fi
     rm -rf "$klad"
-    afbreken "het programma maakte de afbeeldingen niet (status $status)"
+    afbreken "de afbeeldingen zijn niet gemaakt (status $status)"
 }

@@ -1,7 +1,6 @@
 // Picks the folder configuration and opens the main window.
 #include <QApplication>
 
-#include "afbeeldingen.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "opdrachtregel.h"
 #include "platform/accesskind.h"
@@ -36,7 +35,5 @@ int main(int argc, char** argv)
     if (const auto eindstatus = venster.Laad(opstart))
         return *eindstatus;
     venster.show();
-    if (!opdrachten.afbeeldingen.empty())
-        return MaakAfbeeldingen(venster, administratie, opdrachten.afbeeldingen);
     return QApplication::exec();
 }

@@ -20,8 +20,6 @@ Plexoran houdt de spelers van een bridgeclub bij.
 Opties:
   --mappen BESTAND      lees de mappen uit dit bestand in plaats van uit het
                         bestand "Mappen.ini" bij het programma
-  --afbeeldingen MAP    maak van elk venster een afbeelding (PNG) in deze map
-                        en stop
   --slot BESTAND        kijk alleen met dit bestand of het programma al loopt
   --help                toon deze uitleg
   --version             toon de versie
@@ -82,13 +80,11 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
         woorden << QString::fromLocal8Bit(argv[i]);
 
     const QCommandLineOption mappen(QStringLiteral("mappen"), {}, QStringLiteral("BESTAND"));
-    const QCommandLineOption afbeeldingen(QStringLiteral("afbeeldingen"), {},
-                                          QStringLiteral("MAP"));
     const QCommandLineOption slot(QStringLiteral("slot"), {}, QStringLiteral("BESTAND"));
     const QCommandLineOption help(QStringLiteral("help"));
     const QCommandLineOption versie(QStringLiteral("version"));
     QCommandLineParser lezer;
-    lezer.addOptions({mappen, afbeeldingen, slot, help, versie});
+    lezer.addOptions({mappen, slot, help, versie});
     const bool begrepen = lezer.parse(woorden);
 
     if (!lezer.unknownOptionNames().isEmpty())
@@ -103,13 +99,12 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
         return Antwoord(QString::fromUtf8(gebruik).arg(QString::fromStdString(Winkelplaats())));
     if (lezer.isSet(versie))
         return Antwoord(QStringLiteral("Plexoran " PLEXORAN_VERSIE "\n"));
-    for (const auto& optie : {mappen, afbeeldingen, slot}) {
+    for (const auto& optie : {mappen, slot}) {
         if (lezer.isSet(optie) && lezer.value(optie).isEmpty())
             return Weiger(
                 QStringLiteral("bij --%1 ontbreekt de waarde").arg(optie.names().constFirst()));
     }
     return {.mappenIni = lezer.value(mappen).toStdString(),
-            .afbeeldingen = lezer.value(afbeeldingen).toStdString(),
             .slot = lezer.value(slot).toStdU16String(),
             .eindstatus = std::nullopt};
 }

@@ -9,7 +9,6 @@ namespace plexoran {
 
 struct Opdrachten {
     std::string mappenIni;      ///< UTF-8; empty: beside the program
-    std::string afbeeldingen;   ///< UTF-8; folder for a picture of every window, then stop
     std::filesystem::path slot; ///< empty: the one file of this user
     /// The program ends at once with this status; what it had to say has been said.
     std::optional<int> eindstatus;

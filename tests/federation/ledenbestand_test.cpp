@@ -11,8 +11,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/echteSchijf.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/tijdelijkeMap.h"
+#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 namespace {

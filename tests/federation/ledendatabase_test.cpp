@@ -7,9 +7,9 @@
 
 #include "federation/ledenbestand.h"
 #include "hulp/accessgegevens.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/regels.h"
 #include "platform/tijdelijkeMap.h"
+#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/geheugenSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 namespace {

@@ -12,9 +12,9 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/venstergrepen.h"
 #include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
 #include "platform/scherm/maten.h"
 #include "platform/tijdelijkeMap.h"
+#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 

@@ -3,11 +3,11 @@
 
 #include "hulp/proefsuite.h"
 #include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/tijdelijkeMap.h"
 #include "register/administratie.h"
 #include "register/spelerbestand.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "mainwindow/vensterproef.h"
-#include "platform/geheugenSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 

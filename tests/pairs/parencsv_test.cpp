@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;
 

@@ -3,9 +3,9 @@
 #include <limits>
 
 #include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/tijdelijkeMap.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;
 

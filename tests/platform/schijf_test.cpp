@@ -1,10 +1,10 @@
 #include <algorithm>
 
 #include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/heelschrijven.h"
 #include "platform/tijdelijkeMap.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 #ifndef _WIN32
 #include <sys/stat.h>

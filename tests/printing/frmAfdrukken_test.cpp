@@ -16,8 +16,8 @@
 #include "hulp/printdialoog.h"
 #include "hulp/proefstand.h"
 #include "hulp/voortgangstopper.h"
-#include "platform/falendeSchijf.h"
 #include "printing/printproef.h"
+#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 

@@ -1,7 +1,7 @@
 #include "register/instellingen.h"
 
-#include "platform/falendeSchijf.h"
 #include "register/registerhulp.h"
+#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 

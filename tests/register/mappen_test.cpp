@@ -1,7 +1,7 @@
 #include "register/mappen.h"
 
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
 #include <gtest/gtest.h>
 
 using namespace plexoran;

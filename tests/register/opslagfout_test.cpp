@@ -4,11 +4,11 @@
 #include <set>
 
 #include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
 #include "platform/tijdelijkeMap.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/registerhulp.h"
+#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 

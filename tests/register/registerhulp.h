@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/geheugenSchijf.h"
 #include "register/spelerbestand.h"
+#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 

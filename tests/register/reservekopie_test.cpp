@@ -1,11 +1,11 @@
 #include "register/reservekopie.h"
 
 #include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
 #include "platform/tijdelijkeMap.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/registerhulp.h"
+#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 

@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "platform/falendeSchijf.h"
 #include "register/registerhulp.h"
+#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 

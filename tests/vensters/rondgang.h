@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "afbeeldingen.h"
+#include "afbeeldingen/vensterronde.h"
 #include "hulp/proefstand.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/frmBericht.h"

@@ -14,10 +14,10 @@
 #include "hulp/printdialoog.h"
 #include "hulp/proefsuite.h"
 #include "platform/echteSchijf.h"
-#include "platform/falendeSchijf.h"
-#include "platform/geheugenSchijf.h"
 #include "platform/scherm/letterkast.h"
 #include "platform/tijdelijkeMap.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;
 

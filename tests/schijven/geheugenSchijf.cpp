@@ -1,4 +1,4 @@
-#include "platform/geheugenSchijf.h"
+#include "schijven/geheugenSchijf.h"
 
 #include <algorithm>
 #include <system_error>

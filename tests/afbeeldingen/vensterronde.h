@@ -1,8 +1,8 @@
-// Pictures of every window on the data at hand, for the manual and for looking.
+// A walk along all windows on the data at hand, for looking at them and for testing what must hold of
+// each.
 #pragma once
 
 #include <functional>
-#include <string>
 
 class QWidget;
 
@@ -15,10 +15,5 @@ struct Administratie;
 /// with what the register has to show in it. A box that one of them opens is answered with Escape.
 void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                       const std::function<void(QWidget&)>& bezoek);
-
-/// Writes a PNG of each window, named after it, into the folder `map` (UTF-8, made when missing).
-/// Returns the exit status; a picture that cannot be written is named on standard error.
-[[nodiscard]] int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
-                                   const std::string& map);
 
 } // namespace plexoran

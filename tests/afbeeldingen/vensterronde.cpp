@@ -1,13 +1,11 @@
-#include "afbeeldingen.h"
+#include "afbeeldingen/vensterronde.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QDir>
 #include <QTimer>
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
@@ -31,22 +29,6 @@
 
 namespace plexoran {
 namespace {
-
-bool Bewaar(QWidget& venster, const QDir& map)
-{
-    // A screen that is only drawn may be small; the pictures show the standard size there.
-    const QSize maat = venster.property(Standaardmaat).toSize();
-    if (maat.isValid() && QGuiApplication::platformName() == QLatin1String("offscreen"))
-        venster.resize(maat);
-    venster.show();
-    QApplication::processEvents();
-    QApplication::processEvents(); // a layout that changed tells the one around it
-    const QString bestand = map.filePath(venster.objectName() + QStringLiteral(".png"));
-    const bool gelukt = venster.grab().save(bestand);
-    if (!gelukt)
-        std::fprintf(stderr, "plexoran: %s kon niet worden geschreven\n", qPrintable(bestand));
-    return gelukt;
-}
 
 /// A player of the shown group, so that the fields have something to show.
 Ingave Voorbeeldingave(const Administratie& administratie)
@@ -86,11 +68,11 @@ void NeemSorteerlijst(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
         return;
     rondgang.Neem(diaSortlijst({.soort = Sorteersoort::NBBgroep,
                                 .importgroep = false,
-                                .regels = static_cast<int>(lijst->regels.size()),
+                                .regels = static_cast<int>(lijst->size()),
                                 .regel =
                                     [&](int regel) {
                                         return VeldenVan(
-                                            lijst->regels[static_cast<std::size_t>(regel)],
+                                            (*lijst)[static_cast<std::size_t>(regel)],
                                             Sorteersoort::NBBgroep);
                                     }},
                                &hoofdvenster));
@@ -219,16 +201,6 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     rondgang.Neem(frmUitleg(&hoofdvenster));
     NeemParen(rondgang, administratie, hoofdvenster);
     NeemSorteerlijst(rondgang, hoofdvenster, administratie.spelers.tabel);
-}
-
-int MaakAfbeeldingen(frmLedenAdmin& hoofdvenster, Administratie& administratie,
-                     const std::string& map)
-{
-    const QDir doel(QString::fromStdString(map));
-    bool gelukt = doel.mkpath(QStringLiteral("."));
-    DoorloopVensters(hoofdvenster, administratie,
-                     [&](QWidget& venster) { gelukt = Bewaar(venster, doel) && gelukt; });
-    return gelukt ? 0 : 1;
 }
 
 } // namespace plexoran

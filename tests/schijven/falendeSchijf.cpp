@@ -1,4 +1,4 @@
-#include "platform/falendeSchijf.h"
+#include "schijven/falendeSchijf.h"
 
 #include <limits>
 #include <utility>
