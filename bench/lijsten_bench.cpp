@@ -267,12 +267,10 @@ void Printtabellen(benchmark::State& meting)
                                  .kolommen = {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam,
                                               Kolom::Telef, Kolom::Email, Kolom::Adres,
                                               Kolom::Postc, Kolom::Plaats}};
-    Meet(
-        meting, [] { return Printtabel(); },
-        [&](Printtabel& print) {
-            print = MaakPrinttabel(tabel, opdracht);
-            Eis(meting, print.Rijen() == Grootte(meting));
-        });
+    Meet(meting, [&] {
+        const Printtabel print = MaakPrinttabel(tabel, opdracht);
+        Eis(meting, print.Rijen() == Grootte(meting));
+    });
 }
 BENCHMARK(Printtabellen)->Apply(Groottes);
 

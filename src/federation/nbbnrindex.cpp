@@ -20,6 +20,7 @@ NBBnrIndex::NBBnrIndex(const std::vector<Tekst>& vragen)
         if (vraag.size() <= Langste) {
             gezien_.emplace(vraag, vraag.empty()); // nothing occurs everywhere
             lengten_.insert(vraag.size());
+            metStreep_ = metStreep_ || vraag.find('-') != Tekst::npos;
         }
     }
     lengten_.erase(0);
@@ -32,11 +33,13 @@ bool NBBnrIndex::Bevat(Tekstblik vraag) const
 
 void NBBnrIndex::Voeg(Tekstblik nummer)
 {
-    const std::size_t erbij = tekst_.size() + 1;
+    const std::size_t begin = tekst_.size() + 1;
     tekst_ += '-';
     tekst_ += nummer;
     for (const std::size_t lengte : lengten_) {
-        for (std::size_t eind = std::max(lengte, erbij); eind <= tekst_.size(); ++eind) {
+        // As a rule nothing that is asked can reach across the "-".
+        const std::size_t eerste = metStreep_ ? std::max(lengte, begin) : begin + lengte;
+        for (std::size_t eind = eerste; eind <= tekst_.size(); ++eind) {
             const auto plek = gezien_.find(Tekstblik(tekst_).substr(eind - lengte, lengte));
             if (plek != gezien_.end())
                 plek->second = true;

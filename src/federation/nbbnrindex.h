@@ -35,6 +35,7 @@ class NBBnrIndex {
     Tekst tekst_;
     std::unordered_map<Tekstblik, bool> gezien_; ///< per number asked for, but for the longest
     std::set<std::size_t> lengten_;              ///< of those
+    bool metStreep_ = false;                     ///< one of them holds a "-"
 };
 
 } // namespace plexoran
