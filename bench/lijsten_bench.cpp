@@ -107,19 +107,6 @@ void Sorteren(benchmark::State& meting, Sorteersoort soort)
         });
 }
 
-/// One walk over all cells, at least one byte of each.
-std::size_t LoopDoor(const Spelertabel& tabel)
-{
-    std::size_t som = 0;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        for (int kolom = 1; kolom <= AantalKolommen; ++kolom) {
-            const Tekstblik cel = tabel.Cel(rij, static_cast<Kolom>(kolom));
-            som += cel.size() + (cel.empty() ? 0 : static_cast<unsigned char>(cel.front()));
-        }
-    }
-    return som;
-}
-
 void SorterenKey(benchmark::State& meting)
 {
     Sorteren(meting, Sorteersoort::Key);
@@ -195,17 +182,6 @@ void Laden(benchmark::State& meting)
         });
 }
 BENCHMARK(Laden)->Apply(Groottes);
-
-/// The least that anything costs which looks at every player: how that grows tells what the
-/// processor's caches have to do with it.
-void Doorlopen(benchmark::State& meting)
-{
-    Proef& proef = ProefVan(meting, Verdeling::EenGroep);
-    Meet(
-        meting, [&] { return proef.Opnieuw(); },
-        [](const Register& spelers) { benchmark::DoNotOptimize(LoopDoor(spelers.tabel)); });
-}
-BENCHMARK(Doorlopen)->Apply(Groottes);
 
 void DubbeleNamen(benchmark::State& meting)
 {
