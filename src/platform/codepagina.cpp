@@ -56,15 +56,38 @@ struct Gelijkenis {
 // The letters of Europe that do not decompose into their likeness, and signs that keyboards and
 // other programs put in the place of a plain one; these as escapes, since many look alike.
 constexpr Gelijkenis gelijkenissen[] = {
-    {u"ĐƉ", "D"},        {u"đ", "d"},         {u"Ǆ", "D\x8E"}, // their second letter keeps its
-                                                               // caron
-    {u"ǅ", "D\x9E"},     {u"ǆ", "d\x9E"},     {u"Ə", "E"},         {u"ə", "e"},
-    {u"Ǥ", "G"},         {u"ǥ", "g"},         {u"Ħ", "H"},         {u"ħ", "h"},
-    {u"ı", "i"},         {u"ĸ", "k"},         {u"Ł", "L"},         {u"ł", "l"},
-    {u"Ŋ", "N"},         {u"ŋ", "n"},         {u"ẞ", "SS"},        {u"Ŧ", "T"},
-    {u"ŧ", "t"},         {u"Ʒ", "Z"},         {u"ʒ", "z"},         {u"\u02B9\u02C8\u2032", "'"},
-    {u"\u02BC", "\x92"}, {u"\u201B", "\x91"}, {u"\u2033", "\""},   {u"\u2010\u2011\u2212", "-"},
-    {u"\u2012", "\x96"}, {u"\u2015", "\x97"}, {u"\u03BC", "\xB5"}, {u"\u2044\u2215", "/"},
+    {u"ĐƉ", "D"},
+    {u"đ", "d"},
+    {u"Ǆ", "D\x8E"}, // their second letter keeps its
+                     // caron
+    {u"ǅ", "D\x9E"},
+    {u"ǆ", "d\x9E"},
+    {u"Ə", "E"},
+    {u"ə", "e"},
+    {u"Ǥ", "G"},
+    {u"ǥ", "g"},
+    {u"Ħ", "H"},
+    {u"ħ", "h"},
+    {u"ı", "i"},
+    {u"ĸ", "k"},
+    {u"Ł", "L"},
+    {u"ł", "l"},
+    {u"Ŋ", "N"},
+    {u"ŋ", "n"},
+    {u"ẞ", "SS"},
+    {u"Ŧ", "T"},
+    {u"ŧ", "t"},
+    {u"Ʒ", "Z"},
+    {u"ʒ", "z"},
+    {u"\u02B9\u02C8\u2032", "'"},
+    {u"\u02BC", "\x92"},
+    {u"\u201B", "\x91"},
+    {u"\u2033", "\""},
+    {u"\u2010\u2011\u2212", "-"},
+    {u"\u2012", "\x96"},
+    {u"\u2015", "\x97"},
+    {u"\u03BC", "\xB5"},
+    {u"\u2044\u2215", "/"},
 };
 
 const char* Gelijkend(char32_t teken)

@@ -71,9 +71,8 @@ void NeemSorteerlijst(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
                                 .regels = static_cast<int>(lijst->size()),
                                 .regel =
                                     [&](int regel) {
-                                        return VeldenVan(
-                                            (*lijst)[static_cast<std::size_t>(regel)],
-                                            Sorteersoort::NBBgroep);
+                                        return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
+                                                         Sorteersoort::NBBgroep);
                                     }},
                                &hoofdvenster));
 }

@@ -1,5 +1,5 @@
-// A walk along all windows on the data at hand, for looking at them and for testing what must hold of
-// each.
+// A walk along all windows on the data at hand, for looking at them and for testing what must hold
+// of each.
 #pragma once
 
 #include <functional>

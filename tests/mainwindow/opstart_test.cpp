@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "mainwindow/opstartproef.h"
-#include "platform/falendeSchijf.h"
 #include "platform/heelschrijven.h"
+#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 using namespace std::string_literals;
