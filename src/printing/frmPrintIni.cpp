@@ -63,6 +63,7 @@ void frmPrintIni::MaakDelen()
     Noem(lstNBBgr, QStringLiteral("lstNBBgr"), Label6->text());
     Label6->setBuddy(lstNBBgr);
     cmbSchaal = MaakKeus(QStringLiteral("cmbSchaal"), Label5, this);
+    cmbSchaal->setMinimumContentsLength(4);
     lblBreedte = label(QStringLiteral("lblBreedte"), QString());
     lblBreedte->setWordWrap(true);
     cmdPassend = MaakKnop(QStringLiteral("cmdPassend"), QString(), 0, this);

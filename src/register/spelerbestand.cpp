@@ -62,7 +62,7 @@ Tekst SpelersZonderBlancoBegin(Tekstblik oud)
         const Tekstblik vanaf = oud.substr(static_cast<std::size_t>(regel.data() - oud.data()));
         const auto kommas = std::count(regel.begin(), regel.end(), ',');
         return IsBlanco(EersteItem(regel)) && kommas >= AantalKolommen - 1
-                   ? "1" + Tekst(vanaf.substr(vanaf.find(',')))
+                   ? Tekst("1").append(vanaf.substr(vanaf.find(',')))
                    : Tekst(ZonderBlancoBegin(vanaf));
     }
     return {};

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QStyleOptionComboBox>
 #include <QTextDocument>
 
 #include <gtest/gtest.h>
@@ -88,6 +89,17 @@ TEST_F(frmPrintIniTest, DeOpschriften)
 }
 
 /// However long the name of the group is; all of it can be read.
+TEST_F(frmPrintIniTest, DeSchaalIsTeLezen)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    const auto* cmbSchaal = Deel<QComboBox>("cmbSchaal");
+    QStyleOptionComboBox optie;
+    optie.initFrom(cmbSchaal);
+    const QRect vak = cmbSchaal->style()->subControlRect(QStyle::CC_ComboBox, &optie,
+                                                         QStyle::SC_ComboBoxEditField, cmbSchaal);
+    EXPECT_GE(vak.width(), cmbSchaal->fontMetrics().horizontalAdvance(QStringLiteral("0,7 ")));
+}
+
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietBreder)
 {
     ASSERT_NO_FATAL_FAILURE(Open("Gr01-"));
