@@ -18,10 +18,10 @@ bool ZetTerugOfMeld(Koppelverslag& verslag, QWidget* ouder)
     const auto terug = verslag.ZetTerug();
     if (StaatEr(ouder, terug))
         return true;
-    Meld(ouder, QMessageBox::Warning,
-         QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. Verwijder dat bestand: "
-                        "de sleutels die erin staan, zijn niet uitgegeven.\n\n") +
-             Bijzonderheden(terug.error()));
+    MeldFout(ouder, QMessageBox::Warning,
+             QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. De sleutels die "
+                            "erin staan, zijn niet uitgegeven. Verwijder dat bestand."),
+             terug.error());
     return false;
 }
 
@@ -125,7 +125,8 @@ void diaToevoegen::VulZittingen()
 {
     auto gevonden = RevZittingen(administratie_.schijf, administratie_.mappen);
     if (!gevonden) {
-        MeldFout(QStringLiteral("Fout bij het lezen van de map met zittingen."), gevonden.error());
+        MeldLeesfout(QStringLiteral("Fout bij het lezen van de map met zittingen."),
+                     gevonden.error());
         return;
     }
     MeldOvergeslagen(this, administratie_.schijf, Zittingenmap(administratie_.mappen));
@@ -147,9 +148,9 @@ void diaToevoegen::KiesZitting()
     const bool opnieuw = !gehaald && gehaald.error().soort == Foutsoort::Beschadigd &&
                          std::exchange(gemeld_, gehaald.error().bestand) == gehaald.error().bestand;
     if (!opnieuw && !StaatEr(this, gehaald))
-        MeldFout(QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
-                                "spelerslijst van deze zitting is gebleven zoals hij was."),
-                 gehaald.error());
+        MeldLeesfout(QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map "
+                                    "Puntenboek."),
+                     gehaald.error());
     LeesNamen();
 }
 
@@ -159,8 +160,8 @@ void diaToevoegen::LeesNamen()
     namen_.clear();
     auto gelezen = LeesSessieSpelers(administratie_.schijf, administratie_.mappen, Zitting());
     if (!gelezen)
-        MeldFout(QStringLiteral("Fout bij het lezen van de spelers van deze zitting."),
-                 gelezen.error());
+        MeldLeesfout(QStringLiteral("Fout bij het lezen van de spelers van deze zitting."),
+                     gelezen.error());
     else if (gelezen->metKeys)
         Meld(this, QMessageBox::Information,
              QStringLiteral("De spelernamen hebben al een RVD-key, maar dit kan een oude zijn, "
@@ -190,9 +191,11 @@ void diaToevoegen::VoegToe()
     if (!geschreven) {
         static_cast<void>(verslag.ZetTerug()); // the first failure is the one to tell
         administratie_.spelers = std::move(vorige);
-        MeldFout(QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
+        MeldFout(this, QMessageBox::Warning,
+                 QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
                                 "toegevoegd: zonder dat bestand zijn de nieuwe spelers niet aan "
-                                "deze zitting te koppelen."),
+                                "deze zitting te koppelen. Verhelp de oorzaak en probeer het "
+                                "opnieuw."),
                  geschreven.error());
         return;
     }
@@ -223,9 +226,12 @@ void diaToevoegen::reject()
     QDialog::reject();
 }
 
-void diaToevoegen::MeldFout(const QString& wat, const Fout& fout)
+void diaToevoegen::MeldLeesfout(const QString& wat, const Fout& fout)
 {
-    Meld(this, QMessageBox::Warning, wat + QStringLiteral("\n\n") + Bijzonderheden(fout));
+    MeldFout(this, QMessageBox::Warning,
+             wat + QStringLiteral(" De spelers en de zitting zijn niet veranderd. Verhelp de "
+                                  "oorzaak en kies de zitting opnieuw."),
+             fout);
 }
 
 } // namespace plexoran

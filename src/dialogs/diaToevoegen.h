@@ -45,7 +45,7 @@ class diaToevoegen : public QDialog {
     void LeesNamen();
     void VoegToe();
     void Bewaar();
-    void MeldFout(const QString& wat, const Fout& fout);
+    void MeldLeesfout(const QString& wat, const Fout& fout);
     [[nodiscard]] Tekst Zitting() const;
 
     /// What adding replaced, kept until the user has decided.

@@ -221,8 +221,9 @@ TEST_F(diaToevoegenTest, EenKopieDieMislukt)
 {
     schijf.FaalBij(1);
     wachter.Verwacht({.tekst = QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map "
-                                              "Puntenboek. De spelerslijst van deze zitting is "
-                                              "gebleven zoals hij was.\n\nBestand: "),
+                                              "Puntenboek. De spelers en de zitting zijn niet "
+                                              "veranderd. Verhelp de oorzaak en kies de zitting "
+                                              "opnieuw.\n\nBestand: "),
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
@@ -250,7 +251,8 @@ TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
         wachter.Verwacht(
             {.tekst = QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
                                      "toegevoegd: zonder dat bestand zijn de nieuwe spelers niet "
-                                     "aan deze zitting te koppelen.\n\nBestand: "),
+                                     "aan deze zitting te koppelen. Verhelp de oorzaak en probeer "
+                                     "het opnieuw.\n\nBestand: "),
              .icoon = QMessageBox::Warning,
              .alleenBegin = true});
         Klik(Knop("cmdStart"));
@@ -302,7 +304,8 @@ TEST_F(diaToevoegenTest, EenClubnaamMetEenStreepWordtEenKeerGemeld)
     suite.Zet("Puntenboek/Rev_Clubnaam.txt", "Noord/Zuid\r\n");
     wachter.Waarschuwing(
         QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
-                       "spelerslijst van deze zitting is gebleven zoals hij was.\n\nBestand: ") +
+                       "spelers en de zitting zijn niet veranderd. Verhelp de oorzaak en kies de "
+                       "zitting opnieuw.\n\nBestand: ") +
         QString::fromStdString(suite.Toonpad("Puntenboek/Rev_Clubnaam.txt")) +
         QStringLiteral("\nOorzaak: 'Noord/Zuid' kan niet de naam van een bestand of map zijn: "
                        "daarin mogen geen '/', '\\', 'C:' of '..' staan"));

@@ -551,17 +551,16 @@ TEST_F(VerslagTest, AlsnogSchrijvenDatMisluktWordtGemeld)
 
 TEST_F(VerslagTest, TerugzettenDatMisluktWordtGemeldEnKomtBijDeVolgendeOpslagTerug)
 {
-    VoegSessieToe(
-        [this] { schijf.FaalVanaf(1); },
-        [this] {
-            VerwachtMislukt(Doorgaan);
-            wachter.Verwacht(
-                {.tekst = QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. "
-                                         "Verwijder dat bestand: de sleutels die erin staan, zijn "
-                                         "niet uitgegeven.\n\nBestand: "),
-                 .icoon = QMessageBox::Warning,
-                 .alleenBegin = true});
-        });
+    VoegSessieToe([this] { schijf.FaalVanaf(1); },
+                  [this] {
+                      VerwachtMislukt(Doorgaan);
+                      wachter.Verwacht({.tekst = QStringLiteral(
+                                            "Fout bij het terugzetten van 'Koppelverslag.txt'. "
+                                            "De sleutels die erin staan, zijn niet uitgegeven. "
+                                            "Verwijder dat bestand.\n\nBestand: "),
+                                        .icoon = QMessageBox::Warning,
+                                        .alleenBegin = true});
+                  });
     ASSERT_TRUE(NoemtNieuwe());
     schijf.FaalBij(1);
     VerwachtIngave();
