@@ -78,12 +78,13 @@ void frmLedenAdmin::MeldLezing(const Leesverslag& verslag, Leesmoment moment)
         return;
     const QString gevolg =
         moment == Leesmoment::NaOpslag
-            ? QStringLiteral("Uw wijziging is opgeslagen. Voordat dit programma het bestand weer "
+            ? QStringLiteral("Uw wijziging is opgeslagen; voordat dit programma het bestand weer "
                              "vervangt, komt er een kopie van in de map Reservekopie.")
-            : QStringLiteral("Het bestand zelf is niet veranderd. Voordat dit programma het de "
+            : QStringLiteral("Het bestand zelf is niet veranderd; voordat dit programma het de "
                              "eerste keer vervangt, komt er een kopie van in de map "
                              "Reservekopie.");
-    Meld(this, QMessageBox::Information, uitleg + QStringLiteral("\n\n") + gevolg);
+    MeldFout(this, QMessageBox::Information, uitleg + QStringLiteral("\n\n") + gevolg,
+             verslag.fout.value_or(Fout()));
 }
 
 void frmLedenAdmin::MeldNietGeopend(const Fout& fout, Leesmoment moment)
@@ -112,7 +113,7 @@ void frmLedenAdmin::MeldNietGeopend(const Fout& fout, Leesmoment moment)
 QString frmLedenAdmin::WatNietGelezenIs(const Leesverslag& verslag) const
 {
     const QString sleutelgevolg =
-        QStringLiteral(" Nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
+        QStringLiteral("; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
                        "andere speler kan zijn. Voeg geen spelers toe voordat die regel is "
                        "hersteld.");
     QStringList delen;
@@ -120,33 +121,36 @@ QString frmLedenAdmin::WatNietGelezenIs(const Leesverslag& verslag) const
         const auto rijen = static_cast<std::size_t>(administratie_.spelers.tabel.Rijen());
         QString deel =
             QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 nu %2 in de "
-                           "tabel.")
+                           "tabel")
                 .arg(rijen == 1 ? QStringLiteral("staat") : QStringLiteral("staan"),
                      Aantal(rijen, QStringLiteral("speler"), QStringLiteral("spelers")));
         if (verslag.velden > 0)
-            deel += QStringLiteral(" De genoemde regel heeft %1 in plaats van %2.")
+            deel += QStringLiteral(", want de genoemde regel heeft %1 in plaats van %2. Laat die "
+                                   "regel herstellen voordat u iets invoert")
                         .arg(Aantal(static_cast<std::size_t>(verslag.velden),
                                     QStringLiteral("veld"), QStringLiteral("velden")))
                         .arg(AantalKolommen);
-        delen << deel << Bijzonderheden(*verslag.fout);
+        delen << deel + QLatin1Char('.');
         if (verslag.velden == 0 && verslag.fout->regel > 0)
             delen << QStringLiteral(
                          "Op regel %1 van het spelerbestand staat achter HKEY= een getal "
-                         "dat niet past: een sleutel is ten hoogste 2147483647.")
+                         "dat niet past: een sleutel is ten hoogste 2147483647")
                              .arg(verslag.fout->regel) +
                          sleutelgevolg;
     }
     if (!verslag.zonderAchternaam.empty())
-        delen << QStringLiteral("Spelers zonder achternaam zijn niet ingelezen (aantal: %1, op "
-                                "regel %2 van het spelerbestand).")
-                     .arg(verslag.zonderAchternaam.size())
-                     .arg(Opsomming(verslag.zonderAchternaam));
+        delen << QStringLiteral("%1 niet ingelezen (regel %2 van het spelerbestand). Vul die "
+                                "achternaam daar in als u de speler wilt houden.")
+                     .arg(Aantal(verslag.zonderAchternaam.size(),
+                                 QStringLiteral("speler zonder achternaam is"),
+                                 QStringLiteral("spelers zonder achternaam zijn")),
+                          Opsomming(verslag.zonderAchternaam));
     if (verslag.zonderSleutelregel)
         delen << QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de hoogste "
-                                "spelersleutel.") +
+                                "sleutel") +
                      sleutelgevolg;
     if (verslag.sleutelZonderGetal > 0)
-        delen << QStringLiteral("Op regel %1 van het spelerbestand staat achter HKEY= geen getal.")
+        delen << QStringLiteral("Op regel %1 van het spelerbestand staat achter HKEY= geen getal")
                          .arg(verslag.sleutelZonderGetal) +
                      sleutelgevolg;
     return delen.join(QStringLiteral("\n\n"));

@@ -154,8 +154,8 @@ TEST_F(ImporterenTest, UitDeDatabase)
                 QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
                                "door een teken dat erop lijkt, of is weggelaten: 1\r\n"));
     // One of them has a comma in a name, which shifts the fields: no surname is left.
-    wachter.Verwacht({.tekst = QStringLiteral("Spelers zonder achternaam zijn niet ingelezen "
-                                              "(aantal: 1, op regel 150 van het spelerbestand)."),
+    wachter.Verwacht({.tekst = QStringLiteral("1 speler zonder achternaam is niet ingelezen (regel "
+                                              "150 van het spelerbestand)."),
                       .alleenBegin = true});
     Importeer();
     EXPECT_EQ("HKEY=100176", Sleutelregel());

@@ -389,8 +389,9 @@ TEST_F(OpslagTest, NaEenOpslagZijnDeSpelersZonderAchternaamGenoemdEnIsDeWijzigin
     administratie.spelers.tabel.ZetCel(1, Kolom::Achternaam, "");
     VerwachtIngave();
     wachter.Informatie(QStringLiteral(
-        "Spelers zonder achternaam zijn niet ingelezen (aantal: 1, op regel 2 van het "
-        "spelerbestand).\n\nUw wijziging is opgeslagen. Voordat dit programma het bestand weer "
+        "1 speler zonder achternaam is niet ingelezen (regel 2 van het spelerbestand). Vul die "
+        "achternaam daar in als u de speler wilt houden.\n\nUw wijziging is opgeslagen; voordat "
+        "dit programma het bestand weer "
         "vervangt, komt er een kopie van in de map Reservekopie."));
     VoegToe();
 }

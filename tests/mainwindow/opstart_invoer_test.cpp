@@ -103,12 +103,11 @@ TEST_F(Opstartproef, EenOnmogelijkeSleutelregelWordtGemeld)
     ZetSpelers("HKEY=99999999999\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n");
     wachter.Waarschuwing(isNogLeeg);
     wachter.Informatie(QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan "
-                                      "nu 0 spelers in de tabel.\n\n") +
-                       Spelerbestand +
-                       QStringLiteral("\nRegel: 1\n\nOp regel 1 van het spelerbestand staat achter "
-                                      "HKEY= een getal dat niet past: een sleutel is ten hoogste "
-                                      "2147483647.") +
-                       sleutelgevolg + blijftZoHetIs);
+                                      "nu 0 spelers in de tabel.\n\nOp regel 1 van het "
+                                      "spelerbestand staat achter HKEY= een getal dat niet past: "
+                                      "een sleutel is ten hoogste 2147483647") +
+                       sleutelgevolg + blijftZoHetIs + QStringLiteral("\n\n") + Spelerbestand +
+                       QStringLiteral("\nRegel: 1"));
     ASSERT_EQ(std::nullopt, Laad());
 }
 
@@ -127,7 +126,7 @@ TEST_F(Opstartproef, ZonderSleutelregelBegintDeTellingBijDeBasis)
     const std::string oud = Speler("1", "100007", "Gr01-", "Bos") + "\r\n";
     ZetSpelers(oud);
     wachter.Informatie(QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de "
-                                      "hoogste spelersleutel.") +
+                                      "hoogste sleutel") +
                        sleutelgevolg + blijftZoHetIs);
     VerwachtSleutelvraag(100007, 100000, NietVerhogen);
     ASSERT_NO_FATAL_FAILURE(Start());
@@ -144,7 +143,7 @@ TEST_F(Opstartproef, EenSleutelregelZonderGetalWordtGemeldMetZijnRegel)
     for (const char* zonder : {"", "onzin"}) {
         ZetSpelers(Speler("1", "100000", "Gr01-", "Bos") + "\r\nHKEY=" + zonder + "\r\n");
         wachter.Informatie(
-            QStringLiteral("Op regel 2 van het spelerbestand staat achter HKEY= geen getal.") +
+            QStringLiteral("Op regel 2 van het spelerbestand staat achter HKEY= geen getal") +
             sleutelgevolg + blijftZoHetIs);
         ASSERT_NO_FATAL_FAILURE(Start());
         EXPECT_EQ(100000, administratie.spelers.HKEY);
@@ -194,7 +193,7 @@ TEST_F(Opstartproef, VerhogenAlsErSpelersZijnOvergeslagenSlaatNietMeteenOp)
     const std::string oud = "HKEY=100171\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n" +
                             Speler("2", "100300", "Gr01-", "") + "\r\n";
     ZetSpelers(oud);
-    wachter.Verwacht({.tekst = QStringLiteral("Spelers zonder achternaam zijn niet ingelezen"),
+    wachter.Verwacht({.tekst = QStringLiteral("1 speler zonder achternaam is niet ingelezen"),
                       .alleenBegin = true});
     VerwachtSleutelvraag(100300, 100171, QStringLiteral("Verhogen"));
     ASSERT_NO_FATAL_FAILURE(Start());
@@ -210,8 +209,9 @@ TEST_F(Opstartproef, SpelersZonderAchternaamWordenGenoemdEnBlijvenInEenKopie)
                             Speler("2", "100002", "Gr01-", "Bos") + "\r\n" +
                             Speler("3", "100003", "Gr01-", "") + "\r\n";
     ZetSpelers(oud);
-    wachter.Informatie(QStringLiteral("Spelers zonder achternaam zijn niet ingelezen (aantal: 2, "
-                                      "op regel 2, 4 van het spelerbestand).") +
+    wachter.Informatie(QStringLiteral("2 spelers zonder achternaam zijn niet ingelezen (regel 2, 4 "
+                                      "van het spelerbestand). Vul die achternaam daar in als u "
+                                      "de speler wilt houden.") +
                        blijftZoHetIs);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());

@@ -20,10 +20,10 @@ inline const QString mapvraag = QStringLiteral(" De gegevens van de spelers zijn
                                                "Kijk na of de map in 'Mappen.ini' bestaat en of u "
                                                "erin mag schrijven.\n\n");
 inline const QString blijftZoHetIs =
-    QStringLiteral("\n\nHet bestand zelf is niet veranderd. Voordat dit programma het de eerste "
+    QStringLiteral("\n\nHet bestand zelf is niet veranderd; voordat dit programma het de eerste "
                    "keer vervangt, komt er een kopie van in de map Reservekopie.");
 inline const QString sleutelgevolg =
-    QStringLiteral(" Nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
+    QStringLiteral("; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
                    "andere speler kan zijn. Voeg geen spelers toe voordat die regel is hersteld.");
 inline const QString nietGeopend =
     QStringLiteral("Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets "
@@ -180,13 +180,15 @@ class Opstartproef : public Vensterproef {
     {
         wachter.Waarschuwing(isNogLeeg);
         wachter.Informatie(
-            QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 in de tabel. De "
-                           "genoemde regel heeft %2 in plaats van 18.\n\n")
+            QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 in de tabel, "
+                           "want de genoemde regel heeft %2 in plaats van 18. Laat die regel "
+                           "herstellen voordat u iets invoert.")
                 .arg(spelers == 1 ? QStringLiteral("staat nu 1 speler")
                                   : QStringLiteral("staan nu %1 spelers").arg(spelers),
                      velden == 1 ? QStringLiteral("1 veld")
                                  : QStringLiteral("%1 velden").arg(velden)) +
-            Spelerbestand + QStringLiteral("\nRegel: %1").arg(regel) + blijftZoHetIs);
+            blijftZoHetIs + QStringLiteral("\n\n") + Spelerbestand +
+            QStringLiteral("\nRegel: %1").arg(regel));
     }
 
     /// Of a file that was made anew although it held something.
