@@ -3,6 +3,7 @@
 # shellcheck shell=bash
 
 wortel=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# shellcheck disable=SC2034 # script/run starts it
 programma=$wortel/build/run/bin/plexoran
 
 afbreken() {
