@@ -3,8 +3,6 @@
 # shellcheck shell=bash
 
 wortel=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-# shellcheck disable=SC2034 # script/run starts it
-programma=$wortel/build/run/bin/plexoran
 
 afbreken() {
     echo "${0##*/}: $*" >&2
@@ -38,7 +36,7 @@ configureer() {
     (cd "$wortel" && cmake --preset "$preset" "$@")
 }
 
-# The program as users get it, without tests and benchmarks, in $programma, or the target $1 beside it.
+# The program as users get it, in build/run/bin without tests and benchmarks, or the target $1 there.
 # What the build says goes to standard error, so that the output of the program itself stays clean.
 bouw_programma() {
     {
