@@ -1,6 +1,6 @@
 #include "printing/bladbeeld.h"
 
-#include <QApplication>
+#include <QAccessibleWidget>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -12,20 +12,15 @@
 namespace plexoran {
 namespace {
 
-constexpr int BalkdikteTwips = 280;
 constexpr double BladPlaats = 3; // millimetres from the top left corner of the frame
 constexpr int RadPerStap = 120;  // of a wheel
 constexpr std::array Zoomstappen{25,  33,  50,  67,  75,  80,  90,  100,
                                  110, 125, 150, 175, 200, 250, 300, 400};
 
-QScrollBar* MaakBalk(Qt::Orientation richting, const QString& naam, const QString& gesproken,
-                     QWidget* ouder)
+QAccessibleInterface* MaakSpreker(const QString& /*soort*/, QObject* object)
 {
-    auto* balk = new QScrollBar(richting, ouder);
-    Noem(balk, naam, gesproken);
-    balk->setAttribute(Qt::WA_NoMousePropagation); // a wheel at its end must not come back
-    balk->setFocusPolicy(Qt::NoFocus);
-    return balk;
+    auto* beeld = qobject_cast<Bladbeeld*>(object);
+    return beeld == nullptr ? nullptr : new QAccessibleWidget(beeld, QAccessible::Graphic);
 }
 
 /// Where the middle of what is in view lies, as a part of the whole; the top or the left where the
@@ -88,21 +83,18 @@ void Bladvlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 
 Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, const Maten& maten,
                      QWidget* ouder)
-    : QFrame(ouder), lijst_(lijst), balkdikte_(maten.Twips(BalkdikteTwips)),
+    : Schuifkader(QStringLiteral("picP0"), maten, ouder), lijst_(lijst),
       pixelsPerMm_(SchermPixelsPerMm(*this)), P9(new QWidget(this)),
-      picP1(new Bladvlak(lijst, kast, P9)),
-      HScroll1(MaakBalk(Qt::Horizontal, QStringLiteral("HScroll1"),
-                        QStringLiteral("Blad opzij verschuiven"), this)),
-      VScroll1(MaakBalk(Qt::Vertical, QStringLiteral("VScroll1"),
-                        QStringLiteral("Blad op en neer verschuiven"), this))
+      picP1(new Bladvlak(lijst, kast, P9))
 {
-    Noem(this, QStringLiteral("picP0"), QStringLiteral("Afdrukvoorbeeld"));
-    Noem(P9, QStringLiteral("P9"));
-    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    QAccessible::installFactory(MaakSpreker); // which Qt does once
+    setAccessibleName(QStringLiteral("Afdrukvoorbeeld"));
     setFocusPolicy(Qt::StrongFocus);
+    Noem(P9, QStringLiteral("P9"));
     P9->setBackgroundRole(QPalette::Mid);
     P9->setAutoFillBackground(true);
-    for (QScrollBar* balk : {HScroll1, VScroll1})
+    Bevat(P9);
+    for (QScrollBar* balk : {&Staand(), &Liggend()})
         connect(balk, &QScrollBar::valueChanged, this, &Bladbeeld::PlaatsBlad);
     picP1->ZetSchaal(pixelsPerMm_);
 }
@@ -114,13 +106,13 @@ void Bladbeeld::Toon(int blad)
 
 void Bladbeeld::ZetZoom(int procent)
 {
-    const double staand = Midden(*VScroll1);
-    const double liggend = Midden(*HScroll1);
+    const double staand = Midden(Staand());
+    const double liggend = Midden(Liggend());
     zoom_ = std::clamp(procent, Zoomstappen.front(), Zoomstappen.back());
     picP1->ZetSchaal(pixelsPerMm_ * zoom_ / 100);
-    PlaatsDelen();
-    ZetMidden(*VScroll1, staand);
-    ZetMidden(*HScroll1, liggend);
+    StelBalken();
+    ZetMidden(Staand(), staand);
+    ZetMidden(Liggend(), liggend);
     emit zoomVeranderd(zoom_);
 }
 
@@ -134,7 +126,7 @@ void Bladbeeld::Zoom(int stappen)
 
 void Bladbeeld::paintEvent(QPaintEvent* gebeurtenis)
 {
-    QFrame::paintEvent(gebeurtenis);
+    Schuifkader::paintEvent(gebeurtenis);
     if (!hasFocus())
         return;
     QPainter schilder(this);
@@ -144,33 +136,25 @@ void Bladbeeld::paintEvent(QPaintEvent* gebeurtenis)
 
 void Bladbeeld::resizeEvent(QResizeEvent* gebeurtenis)
 {
-    QFrame::resizeEvent(gebeurtenis);
-    PlaatsDelen();
+    Schuifkader::resizeEvent(gebeurtenis);
+    StelBalken();
 }
 
-void Bladbeeld::PlaatsDelen()
+void Bladbeeld::StelBalken()
 {
-    const QRect binnen = contentsRect();
-    const QRect vlak = binnen.adjusted(0, 0, -balkdikte_, -balkdikte_);
-    P9->setGeometry(vlak);
-    VScroll1->setGeometry(vlak.right() + 1, vlak.top(), balkdikte_, vlak.height());
-    HScroll1->setGeometry(vlak.left(), vlak.bottom() + 1, vlak.width(), balkdikte_);
     const int rand = qRound(2 * BladPlaats * pixelsPerMm_);
-    const auto stel = [&](QScrollBar* balk, int blad, int zichtbaar) {
-        balk->setRange(0, std::max(0, blad + rand - zichtbaar));
-        balk->setPageStep(std::max(1, zichtbaar));
-        balk->setSingleStep(std::max(1, zichtbaar / 10));
-        balk->setEnabled(balk->maximum() > 0);
+    const auto stel = [&](QScrollBar& balk, int blad, int zichtbaar) {
+        Stel(balk, blad + rand, zichtbaar, zichtbaar, zichtbaar / 10);
     };
-    stel(HScroll1, picP1->width(), vlak.width());
-    stel(VScroll1, picP1->height(), vlak.height());
+    stel(Liggend(), picP1->width(), P9->width());
+    stel(Staand(), picP1->height(), P9->height());
     PlaatsBlad();
 }
 
 void Bladbeeld::PlaatsBlad()
 {
     const int rand = qRound(BladPlaats * pixelsPerMm_);
-    picP1->move(rand - HScroll1->value(), rand - VScroll1->value());
+    picP1->move(rand - Liggend().value(), rand - Staand().value());
 }
 
 void Bladbeeld::wheelEvent(QWheelEvent* gebeurtenis)
@@ -185,9 +169,7 @@ void Bladbeeld::wheelEvent(QWheelEvent* gebeurtenis)
         gebeurtenis->accept();
         return;
     }
-    const QPoint hoek = gebeurtenis->angleDelta();
-    const bool opzij = std::abs(hoek.x()) > std::abs(hoek.y());
-    QApplication::sendEvent(opzij ? HScroll1 : VScroll1, gebeurtenis);
+    Schuifkader::wheelEvent(gebeurtenis);
 }
 
 } // namespace plexoran

@@ -2,11 +2,9 @@
 // and minus. At 100 % a millimetre of the page is one of the screen.
 #pragma once
 
-#include <QFrame>
-#include <QScrollBar>
-
 #include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/schuifkader.h"
 #include "printing/bladtekenen.h"
 
 namespace plexoran {
@@ -29,7 +27,7 @@ class Bladvlak : public QWidget {
     double pixelsPerMm_ = 1;
 };
 
-class Bladbeeld : public QFrame {
+class Bladbeeld : public Schuifkader {
     Q_OBJECT
 
   public:
@@ -40,8 +38,6 @@ class Bladbeeld : public QFrame {
     void ZetZoom(int procent);
     /// So many steps nearer or, below 0, farther.
     void Zoom(int stappen);
-    [[nodiscard]] QScrollBar& Staand() { return *VScroll1; }
-    [[nodiscard]] QScrollBar& Liggend() { return *HScroll1; }
 
   signals:
     void zoomVeranderd(int procent);
@@ -52,18 +48,15 @@ class Bladbeeld : public QFrame {
     void wheelEvent(QWheelEvent* gebeurtenis) override;
 
   private:
-    void PlaatsDelen();
+    void StelBalken();
     void PlaatsBlad();
 
     const Printlijst& lijst_;
-    int balkdikte_;
     double pixelsPerMm_; ///< at 100 %
     int zoom_ = 100;
     int draai_ = 0; ///< of the wheel with Ctrl, not yet a step
     QWidget* P9;    ///< clips the page
     Bladvlak* picP1;
-    QScrollBar* HScroll1;
-    QScrollBar* VScroll1;
 };
 
 } // namespace plexoran

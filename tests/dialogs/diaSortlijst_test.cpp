@@ -438,6 +438,7 @@ TEST_F(diaSortlijstTest, DeToetsenKiezenEenRegel)
 {
     ASSERT_NO_FATAL_FAILURE(OpenVeel(200));
     QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(P1());
+    ASSERT_NE(nullptr, vlak->tableInterface());
     const auto gekozen = [&] { return vlak->tableInterface()->selectedRows().value(0, -1); };
     const auto inBeeld = [&] {
         return P1()->rect().contains(dynamic_cast<Tabelvlak*>(P1())->Plek(gekozen() + 1, 0));

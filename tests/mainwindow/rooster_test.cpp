@@ -286,6 +286,7 @@ TEST_F(RoosterTest, DeKeusVanHetRoosterIsDieVanDeTabel)
 {
     QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(Vlak());
     QAccessibleTableInterface* tabel = vlak->tableInterface();
+    ASSERT_NE(nullptr, tabel);
     EXPECT_TRUE(tabel->selectedRows().isEmpty());
     EXPECT_EQ(nullptr, vlak->focusChild());
     KiesRegel(3);
