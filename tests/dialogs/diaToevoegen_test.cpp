@@ -164,6 +164,23 @@ TEST_F(diaToevoegenTest, AnnulerenNaHetToevoegenMaaktAllesOngedaan)
     }
 }
 
+/// Only syncing the folder fails: the old link file is in its place, and need not be removed.
+TEST_F(diaToevoegenTest, EenVerslagDatTerugStaatMaarNietVastIsTeruggezet)
+{
+    suite.Zet(Zomer + "/Koppelverslag.txt", "van vroeger");
+    ASSERT_NO_FATAL_FAILURE(Open());
+    VoegToe();
+    schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
+    wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat "
+                                              "heel op de schijf."),
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
+    VerwachtAfscheid();
+    Klik(Knop("cmdAnnuleren"));
+    wachter.Klaar();
+    EXPECT_EQ("van vroeger", suite.Inhoud(Zomer + "/Koppelverslag.txt"));
+}
+
 TEST_F(diaToevoegenTest, HetSluitvakIsAnnuleren)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
