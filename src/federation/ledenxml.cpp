@@ -1,7 +1,10 @@
 #include "federation/ledenxml.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
+
+#include <pugixml.hpp>
 
 #include "federation/tussenbestand.h"
 #include "platform/xml.h"
@@ -9,67 +12,53 @@
 namespace plexoran {
 namespace {
 
-/// What an element of a member says.
-enum class Xmlveld {
-    Geen,
-    NBBnr,
-    Geslacht,
-    Voornaam,
-    Voorletters,
-    Tussenvoegsel,
-    Achternaam,
-    Adres,
-    Postcode,
-    Plaats,
-    Telefoon1,
-    Telefoon2,
-    Email,
-};
+/// What an element of a member says, beside the fields: what is passed over, and the telephone
+/// number that wins.
+constexpr auto Geen = static_cast<Lidveld>(AantalLidvelden);
+constexpr auto Telefoon2 = static_cast<Lidveld>(AantalLidvelden + 1);
 
 struct Naamveld {
     std::string_view naam;
-    Xmlveld veld;
+    Lidveld veld;
 };
 
-constexpr std::array<Naamveld, 12> namenNbb4 = {{{"LeagueId", Xmlveld::NBBnr},
-                                                 {"Geslacht", Xmlveld::Geslacht},
-                                                 {"Voornaam", Xmlveld::Voornaam},
-                                                 {"Voorletters", Xmlveld::Voorletters},
-                                                 {"Tussenvoegsel", Xmlveld::Tussenvoegsel},
-                                                 {"Achternaam", Xmlveld::Achternaam},
-                                                 {"Adres", Xmlveld::Adres},
-                                                 {"Postcode", Xmlveld::Postcode},
-                                                 {"Plaats", Xmlveld::Plaats},
-                                                 {"Telefoon1", Xmlveld::Telefoon1},
-                                                 {"Telefoon2", Xmlveld::Telefoon2},
-                                                 {"Email", Xmlveld::Email}}};
+constexpr std::array<Naamveld, 12> namenNbb4 = {{{"LeagueId", Lidveld::NBBnr},
+                                                 {"Geslacht", Lidveld::Geslacht},
+                                                 {"Voornaam", Lidveld::Voornaam},
+                                                 {"Voorletters", Lidveld::Voorletters},
+                                                 {"Tussenvoegsel", Lidveld::Tussenvoegsel},
+                                                 {"Achternaam", Lidveld::Achternaam},
+                                                 {"Adres", Lidveld::Adres},
+                                                 {"Postcode", Lidveld::Postcode},
+                                                 {"Plaats", Lidveld::Plaats},
+                                                 {"Telefoon1", Lidveld::Telefoon},
+                                                 {"Telefoon2", Telefoon2},
+                                                 {"Email", Lidveld::Email}}};
 
 /// Element 0 is position 1.
-constexpr std::array<Xmlveld, 15> plaatsenNbb3 = {
-    Xmlveld::Achternaam,    Xmlveld::Adres,       Xmlveld::Geen,      Xmlveld::NBBnr,
-    Xmlveld::Email,         Xmlveld::Geen,        Xmlveld::Geslacht,  Xmlveld::Geen,
-    Xmlveld::Plaats,        Xmlveld::Postcode,    Xmlveld::Telefoon1, Xmlveld::Telefoon2,
-    Xmlveld::Tussenvoegsel, Xmlveld::Voorletters, Xmlveld::Voornaam};
+constexpr std::array<Lidveld, 15> plaatsenNbb3 = {Lidveld::Achternaam,
+                                                  Lidveld::Adres,
+                                                  Geen,
+                                                  Lidveld::NBBnr,
+                                                  Lidveld::Email,
+                                                  Geen,
+                                                  Lidveld::Geslacht,
+                                                  Geen,
+                                                  Lidveld::Plaats,
+                                                  Lidveld::Postcode,
+                                                  Lidveld::Telefoon,
+                                                  Telefoon2,
+                                                  Lidveld::Tussenvoegsel,
+                                                  Lidveld::Voorletters,
+                                                  Lidveld::Voornaam};
 
 enum class Nbbversie { Drie, Vier };
 
-Xmlveld VeldOpPlaats(const Xmlknoop& kind, std::size_t plaats)
+Lidveld VeldMetNaam(std::string_view gezocht)
 {
-    return plaats < plaatsenNbb3.size() && kind.IsElement() ? plaatsenNbb3[plaats] : Xmlveld::Geen;
-}
-
-/// Looks from `verwacht` on, which becomes the name behind the one found: members have their
-/// elements in one order.
-Xmlveld VeldMetNaam(const Xmlknoop& kind, std::size_t& verwacht)
-{
-    const std::string_view gezocht = kind.Naam();
-    for (std::size_t i = 0; i < namenNbb4.size(); ++i) {
-        const auto& [naam, veld] = namenNbb4[verwacht];
-        verwacht = verwacht + 1 == namenNbb4.size() ? 0 : verwacht + 1;
-        if (gezocht == naam)
-            return veld;
-    }
-    return Xmlveld::Geen;
+    const auto gevonden = std::find_if(namenNbb4.begin(), namenNbb4.end(),
+                                       [&](const Naamveld& een) { return een.naam == gezocht; });
+    return gevonden == namenNbb4.end() ? Geen : gevonden->veld;
 }
 
 /// A placeholder for someone's partner is one word.
@@ -84,105 +73,85 @@ void PasAchternaamregelToe(Tekst& achternaam)
         achternaam = Vervang(achternaam, ' ', '_');
 }
 
-/// Turns one member after the other into lines, keeping its buffers.
+/// Turns one member after the other into lines.
 class Ledenomzetter {
   public:
-    Ledenomzetter(Nbbversie versie, std::size_t lengte) : versie_(versie)
-    {
-        constexpr std::size_t opmaak = 3; // of a document most is not text
-        regels_.reserve(lengte / opmaak);
-    }
+    Ledenomzetter(Nbbversie versie, std::string_view bron) : versie_(versie), bron_(bron) {}
 
-    void VoegToe(const Xmlknoop& member)
+    void VoegToe(const pugi::xml_node& member)
     {
-        for (Tekst& veld : lid_)
-            veld.clear();
-        telefoon2_.clear();
-        std::size_t plaats = member.BegintMetTekst() ? 1 : 0;
-        for (Xmlknoop kind = member.EersteKind(); kind; kind = kind.Volgende(), ++plaats)
-            Vul(versie_ == Nbbversie::Drie ? VeldOpPlaats(kind, plaats)
-                                           : VeldMetNaam(kind, verwacht_),
-                kind);
-        if (!telefoon2_.empty())
-            Veld(Lidveld::Telefoon) = telefoon2_;
+        Lidrij lid;
+        Tekst telefoon2;
+        std::size_t plaats = 0;
+        for (const pugi::xml_node& kind : member.children()) {
+            if (IsWit(kind, bron_))
+                continue;
+            const Lidveld veld = Veld(kind, plaats++);
+            if (veld == Geen)
+                continue;
+            Tekst tekst;
+            vervangen_ += LeesTekst(kind, bron_, tekst);
+            if (veld == Telefoon2 && !tekst.empty()) // wins, wherever it stands
+                telefoon2 = std::move(tekst);
+            else if (veld != Telefoon2)
+                lid[static_cast<std::size_t>(veld)] =
+                    veld == Lidveld::Geslacht ? GeslachtUit(tekst) : std::move(tekst);
+        }
+        if (!telefoon2.empty())
+            lid[static_cast<std::size_t>(Lidveld::Telefoon)] = std::move(telefoon2);
         if (versie_ == Nbbversie::Vier)
-            PasAchternaamregelToe(Veld(Lidveld::Achternaam));
-        VoegLidToe(regels_, lid_);
+            PasAchternaamregelToe(lid[static_cast<std::size_t>(Lidveld::Achternaam)]);
+        VoegLidToe(regels_, lid);
     }
 
     [[nodiscard]] std::size_t Vervangen() const { return vervangen_; }
     Tekst NeemRegels() { return std::move(regels_); }
 
   private:
-    Tekst& Veld(Lidveld veld) { return lid_[static_cast<std::size_t>(veld)]; }
-
-    void Vul(Xmlveld veld, const Xmlknoop& kind)
+    [[nodiscard]] Lidveld Veld(const pugi::xml_node& kind, std::size_t plaats) const
     {
-        constexpr std::array<Lidveld, 10> gewone = {
-            Lidveld::NBBnr,         Lidveld::Geslacht,   Lidveld::Voornaam, Lidveld::Voorletters,
-            Lidveld::Tussenvoegsel, Lidveld::Achternaam, Lidveld::Adres,    Lidveld::Postcode,
-            Lidveld::Plaats,        Lidveld::Telefoon};
-        switch (veld) {
-        case Xmlveld::Geen:
-            return;
-        case Xmlveld::Geslacht:
-            vervangen_ += kind.LeesTekst(klad_);
-            Veld(Lidveld::Geslacht) = GeslachtUit(klad_);
-            return;
-        case Xmlveld::Telefoon2: // wins, wherever it stands
-            vervangen_ += kind.LeesTekst(klad_);
-            if (!klad_.empty())
-                telefoon2_ = klad_;
-            return;
-        case Xmlveld::Email:
-            vervangen_ += kind.LeesTekst(Veld(Lidveld::Email));
-            return;
-        default:
-            vervangen_ += kind.LeesTekst(Veld(gewone[static_cast<std::size_t>(veld) - 1]));
-        }
+        if (kind.type() != pugi::node_element)
+            return Geen;
+        if (versie_ == Nbbversie::Vier)
+            return VeldMetNaam(kind.name());
+        return plaats < plaatsenNbb3.size() ? plaatsenNbb3[plaats] : Geen;
     }
 
     Nbbversie versie_;
-    Lidrij lid_;
-    Tekst telefoon2_;
-    Tekst klad_;
+    std::string_view bron_;
     Tekst regels_;
-    std::size_t verwacht_ = 0;
     std::size_t vervangen_ = 0;
 };
 
-/// Calls `werk` for every member, in the order of the document.
-template <class Werk> void VoorElkLid(const Xmldocument& document, const Werk& werk)
+/// A document and the text in which its nodes have their places.
+struct Ledendocument {
+    pugi::xml_document document;
+    std::string bron;
+};
+
+Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Ledendocument& in)
 {
-    const Xmlknoop wortel = document.Wortel();
-    if (wortel.Naam() != "ReportableMembersList")
-        return;
-    for (Xmlknoop leden = wortel.EersteElement("Members"); leden;
-         leden = leden.VolgendElement("Members")) {
-        for (Xmlknoop lid = leden.EersteElement("ReportableMember"); lid;
-             lid = lid.VolgendElement("ReportableMember"))
-            werk(lid);
-    }
+    return LeesBegrensd(schijf, bestand)
+        .and_then([&](const Tekst& bytes) {
+            return OntleedXml(bytes, schijf.Toonpad(bestand), in.document);
+        })
+        .map([&](std::string bron) { in.bron = std::move(bron); });
 }
 
-Uitkomst<Xmldocument> Laad(Schijf& schijf, const Pad& bestand)
-{
-    return LeesBegrensd(schijf, bestand).and_then([&](const Tekst& bytes) {
-        return Xmldocument::Ontleed(bytes, schijf.Toonpad(bestand));
-    });
-}
-
-Uitkomst<Xmlomzetting> Converteer(const Xmldocument& document, Nbbversie versie, Schijf& schijf,
+Uitkomst<Xmlomzetting> Converteer(const Ledendocument& van, Nbbversie versie, Schijf& schijf,
                                   const Pad& tussenbestand, const Voortgang& voortgang)
 {
     constexpr std::size_t elkeZoveel = 4096;
-    Ledenomzetter omzetter(versie, document.Lengte());
+    Ledenomzetter omzetter(versie, van.bron);
     std::size_t gedaan = 0;
-    VoorElkLid(document, [&](const Xmlknoop& lid) {
-        omzetter.VoegToe(lid);
-        if (++gedaan % elkeZoveel == 0 && voortgang)
-            voortgang(lid.Plaats(), document.Lengte());
-    });
+    const auto lijst = van.document.child("ReportableMembersList");
+    for (const pugi::xml_node& leden : lijst.children("Members")) {
+        for (const pugi::xml_node& lid : leden.children("ReportableMember")) {
+            omzetter.VoegToe(lid);
+            if (++gedaan % elkeZoveel == 0 && voortgang)
+                voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
+        }
+    }
     return SchrijfTussenregels(schijf, tussenbestand, omzetter.NeemRegels()).map([&] {
         return Xmlomzetting{omzetter.Vervangen(), std::nullopt};
     });
@@ -193,7 +162,8 @@ Uitkomst<Xmlomzetting> Converteer(const Xmldocument& document, Nbbversie versie,
 Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
                                          const Pad& tussenbestand, const Voortgang& voortgang)
 {
-    return Laad(schijf, bestand).and_then([&](const Xmldocument& document) {
+    Ledendocument document;
+    return Laad(schijf, bestand, document).and_then([&] {
         return Converteer(document, Nbbversie::Drie, schijf, tussenbestand, voortgang);
     });
 }
@@ -201,11 +171,12 @@ Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
 Uitkomst<Xmlomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
                                          const Pad& tussenbestand, const Voortgang& voortgang)
 {
-    const auto document = Laad(schijf, bestand);
-    if (document)
-        return Converteer(*document, Nbbversie::Vier, schijf, tussenbestand, voortgang);
+    Ledendocument document;
+    const auto geladen = Laad(schijf, bestand, document);
+    if (geladen)
+        return Converteer(document, Nbbversie::Vier, schijf, tussenbestand, voortgang);
     return SchrijfTussenregels(schijf, tussenbestand, {}).map([&] {
-        return Xmlomzetting{0, document.error()};
+        return Xmlomzetting{0, geladen.error()};
     });
 }
 

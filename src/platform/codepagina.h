@@ -29,6 +29,13 @@ struct Omzetting {
 /// letter, or is left out, and is listed.
 [[nodiscard]] Omzetting NaarCodepagina(std::u16string_view tekst);
 
+/// The same for UTF-8; a byte order mark in front is none of the text.
+[[nodiscard]] Omzetting Utf8NaarCodepagina(std::string_view tekst);
+
+/// Whether bytes of which nobody says what they are can only be meant as UTF-8: there is a
+/// character beyond ASCII in them, and all of those are whole.
+[[nodiscard]] bool IsUtf8(Tekstblik bytes);
+
 /// The exact conversion: nothing when any character does not fit.
 [[nodiscard]] std::optional<Tekst> ExactNaarCodepagina(std::u16string_view tekst);
 

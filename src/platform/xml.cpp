@@ -1,112 +1,170 @@
 #include "platform/xml.h"
 
+#include <QStringDecoder>
+
 #include <algorithm>
-#include <cstdlib>
-#include <limits>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
 #include <utility>
 
 #include <pugixml.hpp>
 
 #include "platform/codepagina.h"
-#include "platform/xmlcodering.h"
-#include "platform/xmlverwijzing.h"
 
 namespace plexoran {
 namespace {
 
-/// Comments and instructions are kept because they count as children; texts beside the outermost
-/// element so that they can be refused. The text that an element begins with stands in the element
-/// itself: of the nodes of an export nearly half would be such texts.
+constexpr auto nergens = std::string_view::npos;
+
+/// Comments and instructions are kept because they count as children, the document type and texts
+/// beside the outermost element so that they can be refused.
 constexpr unsigned Ontleedwijze = pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol |
-                                  pugi::parse_comments | pugi::parse_pi | pugi::parse_fragment |
-                                  pugi::parse_embed_pcdata;
+                                  pugi::parse_comments | pugi::parse_pi | pugi::parse_doctype |
+                                  pugi::parse_fragment | pugi::parse_ws_pcdata;
 
-/// What the parser may still take in this thread.
-constexpr std::size_t Onbeperkt = std::numeric_limits<std::size_t>::max();
-thread_local std::size_t geheugenOver = Onbeperkt;
-
-void* NeemGeheugen(std::size_t bytes)
-{
-    if (bytes > geheugenOver)
-        return nullptr;
-    if (geheugenOver != Onbeperkt)
-        geheugenOver -= bytes;
-    return std::malloc(bytes);
-}
-
-void GeefGeheugen(void* waar)
-{
-    std::free(waar);
-}
-
-/// Limits what one document may take; the parser's functions are those of the whole program.
-class Geheugengrens {
-  public:
-    explicit Geheugengrens(std::size_t bytes)
-    {
-        static const bool gezet = [] {
-            pugi::set_memory_management_functions(NeemGeheugen, GeefGeheugen);
-            return true;
-        }();
-        geheugenOver = gezet ? bytes : 0;
-    }
-    Geheugengrens(const Geheugengrens&) = delete;
-    Geheugengrens& operator=(const Geheugengrens&) = delete;
-    ~Geheugengrens() { geheugenOver = Onbeperkt; }
+/// What is wrong with a document, and at which byte of its text.
+struct Xmlfout {
+    std::size_t plaats = 0;
+    std::string wat;
 };
 
-bool IsTekst(const pugi::xml_node& knoop)
+Fout Leesfout(std::string_view bron, const std::string& bestand, const Xmlfout& fout)
 {
-    const auto soort = knoop.type();
-    return soort == pugi::node_pcdata || soort == pugi::node_cdata;
-}
-
-/// The next node below `top` in the order of the document. No recursion: a document may be nested
-/// as deep as its file is long.
-pugi::xml_node Verder(pugi::xml_node knoop, const pugi::xml_node& top)
-{
-    if (const auto kind = knoop.first_child())
-        return kind;
-    for (; knoop != top; knoop = knoop.parent()) {
-        if (const auto volgende = knoop.next_sibling())
-            return volgende;
-    }
-    return {};
-}
-
-/// The next character of a text that is valid UTF-8, in UTF-16.
-void VoegUtf16Toe(std::u16string& uit, std::string_view utf8, std::size_t& plaats)
-{
-    const auto byte = [&] { return static_cast<unsigned char>(utf8[plaats++]); };
-    const unsigned eerste = byte();
-    const int vervolg = eerste >= 0xF0 ? 3 : eerste >= 0xE0 ? 2 : eerste >= 0xC0 ? 1 : 0;
-    unsigned teken = vervolg == 0 ? eerste : eerste & (0x3FU >> static_cast<unsigned>(vervolg));
-    for (int i = 0; i < vervolg && plaats < utf8.size(); ++i)
-        teken = (teken << 6U) | (byte() & 0x3FU);
-    if (teken < 0x10000) {
-        uit += static_cast<char16_t>(teken);
-        return;
-    }
-    uit += static_cast<char16_t>(0xD800 + ((teken - 0x10000) >> 10U));
-    uit += static_cast<char16_t>(0xDC00 + ((teken - 0x10000) & 0x3FFU));
-}
-
-std::size_t NaarTekst(std::string_view utf8, Tekst& uit)
-{
-    const bool gewoon = std::all_of(utf8.begin(), utf8.end(), [](char teken) {
-        return static_cast<unsigned char>(teken) < 0x80;
+    const std::string_view tot = bron.substr(0, fout.plaats);
+    const std::string_view regel = tot.substr(tot.rfind('\n') + 1);
+    const auto tekens = std::count_if(regel.begin(), regel.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; // not one that goes on
     });
-    if (gewoon) {
-        uit = utf8;
-        return 0;
-    }
-    std::u16string utf16;
-    for (std::size_t i = 0; i < utf8.size();)
-        VoegUtf16Toe(utf16, utf8, i);
-    auto omgezet = NaarCodepagina(utf16);
-    uit = std::move(omgezet.tekst);
-    return omgezet.vervangen.size();
+    return {.soort = Foutsoort::Beschadigd,
+            .bestand = bestand,
+            .regel = static_cast<int>(std::count(tot.begin(), tot.end(), '\n')) + 1,
+            .systeem = fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)"};
 }
+
+// ---- Characters --------------------------------------------------------------------------------
+
+/// The value of `encoding` in the declaration with which the bytes begin, in capitals.
+Tekst Gedeclareerd(Tekstblik bytes)
+{
+    constexpr Tekstblik wit = " \t\r\n";
+    constexpr Tekstblik sleutel = "encoding";
+    constexpr std::size_t ruim = 1024;
+    bytes = bytes.substr(0, ruim);
+    if (!bytes.starts_with("<?xml") || bytes.find_first_of(wit) != 5)
+        return {};
+    bytes = bytes.substr(0, bytes.find("?>"));
+    const auto plaats = bytes.find(sleutel);
+    const auto quote = plaats == nergens ? nergens : bytes.find_first_of("\"'", plaats);
+    if (quote == nergens ||
+        bytes.find_first_not_of(Tekst(wit) + "=", plaats + sleutel.size()) != quote)
+        return {};
+    return Hoofdletters(bytes.substr(quote + 1, bytes.find(bytes[quote], quote + 1) - quote - 1));
+}
+
+bool IsEenVan(Tekstblik naam, std::initializer_list<Tekstblik> namen)
+{
+    return std::find(namen.begin(), namen.end(), naam) != namen.end();
+}
+
+/// Where the first character stands that XML does not allow, or half a pair; negative for none.
+qsizetype EersteVerkeerde(QStringView tekst)
+{
+    for (qsizetype i = 0; i < tekst.size(); ++i) {
+        const QChar teken = tekst[i];
+        if (teken.isHighSurrogate() && i + 1 < tekst.size() && tekst[i + 1].isLowSurrogate())
+            ++i;
+        else if ((teken < u' ' && teken != u'\t' && teken != u'\n' && teken != u'\r') ||
+                 teken.isSurrogate() || teken >= QChar(0xFFFE))
+            return i;
+    }
+    return -1;
+}
+
+/// The whole file in UTF-8, without its mark.
+Uitkomst<std::string> NaarXmltekst(Tekstblik bytes, const std::string& bestand)
+{
+    const QByteArrayView alles(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    const auto herkend = QStringConverter::encodingForData(alles, u'<');
+    const Tekst naam = herkend ? Tekst() : Gedeclareerd(bytes);
+    const bool utf32 = herkend && *herkend >= QStringConverter::Utf32;
+    QString tekst;
+    qsizetype verkeerd = -1;
+    if (IsEenVan(naam, {"WINDOWS-1252", "CP1252", "CP-1252", "X-CP1252", "US-ASCII", "ASCII",
+                        "ISO-8859-1", "ISO8859-1", "LATIN1"})) {
+        tekst = QString::fromStdU16String(NaarUtf16(bytes));
+    } else if (!utf32 && IsEenVan(naam, {"", "UTF-8", "UTF8", "UTF-16"})) {
+        QStringDecoder lezer(herkend.value_or(QStringConverter::Utf8),
+                             QStringConverter::Flag::Stateless);
+        tekst = lezer(alles);
+        if (lezer.hasError())
+            verkeerd = tekst.indexOf(QChar(QChar::ReplacementCharacter));
+    } else {
+        return tl::unexpected(Leesfout(
+            {}, bestand, {0, "de codering is onbekend: " + (utf32 ? "UTF-32" : NaarUtf8(naam))}));
+    }
+    if (verkeerd < 0)
+        verkeerd = EersteVerkeerde(tekst);
+    if (verkeerd < 0)
+        return tekst.toStdString();
+    const std::string tot = tekst.left(verkeerd).toStdString();
+    return tl::unexpected(
+        Leesfout(tot, bestand, {tot.size(), "hier staat geen teken dat in XML mag"}));
+}
+
+// ---- References --------------------------------------------------------------------------------
+
+bool IsBekendGetal(std::string_view cijfers)
+{
+    const bool zestientallig = cijfers.starts_with('x');
+    cijfers.remove_prefix(zestientallig ? 1 : 0);
+    char32_t teken = 0;
+    std::uint32_t getal = 0;
+    const char* const eind = cijfers.data() + cijfers.size();
+    const auto [tot, fout] = std::from_chars(cijfers.data(), eind, getal, zestientallig ? 16 : 10);
+    teken = getal;
+    return fout == std::errc() && tot == eind && teken <= 0x10FFFF &&
+           EersteVerkeerde(QString::fromUcs4(&teken, 1)) < 0;
+}
+
+/// Whether the text behind a "&" is a reference that the parser puts right.
+bool IsBekend(std::string_view rest)
+{
+    constexpr std::size_t langste = 32; // leading zeros and all
+    const auto eind = rest.substr(0, langste).find(';');
+    if (eind == nergens)
+        return false;
+    const std::string_view naam = rest.substr(0, eind);
+    return naam.starts_with('#') ? IsBekendGetal(naam.substr(1))
+                                 : IsEenVan(naam, {"amp", "lt", "gt", "quot", "apos"});
+}
+
+/// The first reference, comments, CDATA sections and instructions apart, that the parser would
+/// leave in the text as it is written, or that would cut the text.
+std::optional<Xmlfout> OnbekendeVerwijzing(std::string_view bron)
+{
+    using Sectie = std::pair<std::string_view, std::string_view>;
+    constexpr std::array<Sectie, 3> secties{{{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
+    for (std::size_t plaats = 0; plaats < bron.size(); ++plaats) {
+        if (bron[plaats] == '&' && !IsBekend(bron.substr(plaats + 1))) {
+            const std::string_view naam = bron.substr(plaats, 32);
+            return Xmlfout{plaats,
+                           "de verwijzing is onbekend: " +
+                               std::string(naam.substr(0, naam.find_first_of("; \t\r\n<", 1)))};
+        }
+        if (bron[plaats] != '<')
+            continue;
+        for (const auto& [begin, eind] : secties) {
+            if (bron.substr(plaats).starts_with(begin))
+                plaats = std::min(bron.find(eind, plaats + begin.size()), bron.size());
+        }
+    }
+    return std::nullopt;
+}
+
+// ---- Structure ---------------------------------------------------------------------------------
 
 const char* Oorzaak(pugi::xml_parse_status status)
 {
@@ -136,159 +194,80 @@ const char* Oorzaak(pugi::xml_parse_status status)
     }
 }
 
-Fout Leesfout(std::string_view tot, const std::string& bestand, const std::string& systeem)
+/// Exactly one element, no text beside it, and no document type.
+std::optional<Xmlfout> KeurBuitenste(const pugi::xml_document& document, std::string_view bron)
 {
-    const auto regeleinden = std::count(tot.begin(), tot.end(), '\n');
-    return {.soort = Foutsoort::Beschadigd,
-            .bestand = bestand,
-            .regel = static_cast<int>(regeleinden) + 1,
-            .systeem = systeem};
-}
-
-/// In a file of which not even the characters can be told, only the bytes can be counted.
-Fout Coderingsfout(Tekstblik bytes, const std::string& bestand, const Xmlfout& fout)
-{
-    return Leesfout(bytes.substr(0, fout.plaats), bestand,
-                    fout.wat + " (byte " + std::to_string(fout.plaats + 1) + " van het bestand)");
-}
-
-Fout Tekstfout(std::string_view utf8, const std::string& bestand, const Xmlfout& fout)
-{
-    const std::string_view tot = utf8.substr(0, fout.plaats);
-    const std::string_view regel = tot.substr(tot.rfind('\n') + 1);
-    const auto tekens = std::count_if(regel.begin(), regel.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; // not one that goes on
-    });
-    return Leesfout(tot, bestand,
-                    fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)");
-}
-
-} // namespace
-
-struct Xmldocument::Binnenkant {
-    std::string tekst; ///< the nodes look into it
-    pugi::xml_document document;
-};
-
-namespace {
-
-/// Exactly one element, and no text beside it.
-tl::expected<void, Xmlfout> KeurBuitenste(const pugi::xml_document& document)
-{
-    std::size_t elementen = 0;
-    for (const auto& knoop : document.children()) {
+    int elementen = 0;
+    for (const pugi::xml_node& knoop : document.children()) {
         const auto plaats =
             static_cast<std::size_t>(std::max<std::ptrdiff_t>(knoop.offset_debug(), 0));
-        if (IsTekst(knoop))
-            return tl::unexpected(Xmlfout{plaats, "er staat tekst buiten het buitenste element"});
-        if (knoop.type() == pugi::node_element && ++elementen > 1)
-            return tl::unexpected(Xmlfout{plaats, "er is meer dan één buitenste element"});
+        const auto soort = knoop.type();
+        if (soort == pugi::node_doctype)
+            return Xmlfout{plaats, "een documenttype (DOCTYPE) hoort niet in een ledenbestand"};
+        if (soort == pugi::node_cdata || (soort == pugi::node_pcdata && !IsWit(knoop, bron)))
+            return Xmlfout{plaats, "er staat tekst buiten het buitenste element"};
+        if (soort == pugi::node_element && ++elementen > 1)
+            return Xmlfout{plaats, "er is meer dan één buitenste element"};
     }
-    if (elementen == 0)
-        return tl::unexpected(Xmlfout{0, "er staat geen enkel element in"});
-    return {};
+    return elementen == 1 ? std::nullopt
+                          : std::optional(Xmlfout{0, "er staat geen enkel element in"});
 }
+
+/// Walks without recursion: a document may be nested as deep as its file is long.
+struct Tekstvanger : pugi::xml_tree_walker {
+    explicit Tekstvanger(std::string_view tekst) : bron(tekst) {}
+    bool for_each(pugi::xml_node& knoop) override
+    {
+        if (knoop.type() == pugi::node_pcdata || knoop.type() == pugi::node_cdata) {
+            utf8 += knoop.value();
+            alleenWit = alleenWit && IsWit(knoop, bron);
+        }
+        return true;
+    }
+
+    std::string_view bron;
+    std::string utf8;
+    bool alleenWit = true;
+};
 
 } // namespace
 
-Uitkomst<Xmldocument> Xmldocument::Ontleed(Tekstblik bytes, const std::string& bestand,
-                                           std::size_t meesteGeheugen)
+Uitkomst<std::string> OntleedXml(Tekstblik bytes, const std::string& bestand,
+                                 pugi::xml_document& document)
 {
-    const Geheugengrens grens(meesteGeheugen);
-    auto tekst = XmlNaarUtf8(bytes);
-    if (!tekst)
-        return tl::unexpected(Coderingsfout(bytes, bestand, tekst.error()));
-    if (const auto fout = OnbekendeVerwijzing(*tekst))
-        return tl::unexpected(Tekstfout(*tekst, bestand, *fout));
-    auto binnenkant = std::make_unique<Binnenkant>();
-    binnenkant->tekst = std::move(*tekst);
-    const auto uitkomst = binnenkant->document.load_buffer_inplace(
-        binnenkant->tekst.data(), binnenkant->tekst.size(), Ontleedwijze, pugi::encoding_utf8);
-    auto keuring = uitkomst ? KeurBuitenste(binnenkant->document)
-                            : tl::unexpected(Xmlfout{static_cast<std::size_t>(uitkomst.offset),
-                                                     Oorzaak(uitkomst.status)});
-    // Parsing broke up the text, so the line is counted in a fresh one.
-    if (!keuring)
-        return tl::unexpected(
-            Tekstfout(XmlNaarUtf8(bytes).value_or(std::string()), bestand, keuring.error()));
-    return Xmldocument(std::move(binnenkant));
+    auto bron = NaarXmltekst(bytes, bestand);
+    if (!bron)
+        return bron;
+    const auto ontleed =
+        document.load_buffer(bron->data(), bron->size(), Ontleedwijze, pugi::encoding_utf8);
+    std::optional<Xmlfout> fout;
+    if (!ontleed)
+        fout = {static_cast<std::size_t>(ontleed.offset), Oorzaak(ontleed.status)};
+    if (!fout)
+        fout = KeurBuitenste(document, *bron);
+    if (!fout)
+        fout = OnbekendeVerwijzing(*bron);
+    if (fout)
+        return tl::unexpected(Leesfout(*bron, bestand, *fout));
+    return bron;
 }
 
-Xmldocument::Xmldocument(std::unique_ptr<Binnenkant> binnenkant)
-    : binnenkant_(std::move(binnenkant))
-{}
-
-Xmldocument::Xmldocument(Xmldocument&&) noexcept = default;
-Xmldocument& Xmldocument::operator=(Xmldocument&&) noexcept = default;
-Xmldocument::~Xmldocument() = default;
-
-Xmlknoop Xmldocument::Wortel() const
+bool IsWit(const pugi::xml_node& knoop, std::string_view bron)
 {
-    return Xmlknoop(binnenkant_->document.document_element().internal_object());
+    if (knoop.type() != pugi::node_pcdata ||
+        std::string_view(knoop.value()).find_first_not_of(" \t\r\n") != nergens)
+        return false;
+    const auto geschreven = bron.substr(static_cast<std::size_t>(knoop.offset_debug()));
+    return geschreven.substr(0, geschreven.find('<')).find('&') == nergens;
 }
 
-std::size_t Xmldocument::Lengte() const
+std::size_t LeesTekst(const pugi::xml_node& element, std::string_view bron, Tekst& uit)
 {
-    return binnenkant_->tekst.size();
-}
-
-bool Xmlknoop::IsElement() const
-{
-    return pugi::xml_node(knoop_).type() == pugi::node_element;
-}
-
-std::string_view Xmlknoop::Naam() const
-{
-    return IsElement() ? pugi::xml_node(knoop_).name() : std::string_view();
-}
-
-bool Xmlknoop::BegintMetTekst() const
-{
-    return IsElement() && *pugi::xml_node(knoop_).value() != '\0';
-}
-
-std::size_t Xmlknoop::Plaats() const
-{
-    return static_cast<std::size_t>(
-        std::max<std::ptrdiff_t>(pugi::xml_node(knoop_).offset_debug(), 0));
-}
-
-Xmlknoop Xmlknoop::EersteKind() const
-{
-    return Xmlknoop(pugi::xml_node(knoop_).first_child().internal_object());
-}
-
-Xmlknoop Xmlknoop::Volgende() const
-{
-    return Xmlknoop(pugi::xml_node(knoop_).next_sibling().internal_object());
-}
-
-Xmlknoop Xmlknoop::VolgendElement(std::string_view naam) const
-{
-    Xmlknoop knoop = Volgende();
-    while (knoop && knoop.Naam() != naam)
-        knoop = knoop.Volgende();
-    return knoop;
-}
-
-Xmlknoop Xmlknoop::EersteElement(std::string_view naam) const
-{
-    const Xmlknoop kind = EersteKind();
-    return !kind || kind.Naam() == naam ? kind : kind.VolgendElement(naam);
-}
-
-std::size_t Xmlknoop::LeesTekst(Tekst& uit) const
-{
-    const pugi::xml_node top(knoop_);
-    const auto eerste = top.first_child();
-    if (!eerste)
-        return NaarTekst(top.value(), uit);
-    std::string utf8 = top.value();
-    for (auto knoop = eerste; knoop; knoop = Verder(knoop, top)) {
-        if (IsTekst(knoop) || knoop.type() == pugi::node_element)
-            utf8 += knoop.value();
-    }
-    return NaarTekst(utf8, uit);
+    Tekstvanger vanger(bron);
+    pugi::xml_node(element).traverse(vanger);
+    auto omgezet = vanger.alleenWit ? Omzetting() : Utf8NaarCodepagina(vanger.utf8);
+    uit = std::move(omgezet.tekst);
+    return omgezet.vervangen.size();
 }
 
 } // namespace plexoran

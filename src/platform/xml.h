@@ -1,81 +1,36 @@
-// XML documents read whole. Text comes out in Windows-1252; nothing outside this file knows which
-// library does the parsing.
+// XML documents read whole with pugixml, whose nodes the readers use themselves; texts come out in
+// Windows-1252.
 //
-// Only the five predefined entities and numeric references are known. A document type is passed
-// over and nothing that it names is ever fetched, so a reference to an entity of its own is
-// refused: it would otherwise stay in the text as it is written.
+// Known are UTF-8, UTF-16 and Windows-1252, as which ISO-8859-1 and US-ASCII are read too: a byte
+// order mark tells first, then the zero byte beside the first "<", then the declaration. A document
+// type is refused, and with it all entities but the five predefined ones.
 #pragma once
 
-#include <memory>
 #include <string_view>
 
 #include "platform/fout.h"
 #include "platform/tekst.h"
 
 namespace pugi {
-struct xml_node_struct;
-}
+class xml_document;
+class xml_node;
+} // namespace pugi
 
 namespace plexoran {
 
-/// A node of a document, valid as long as that lives; false when there is none.
-class Xmlknoop {
-  public:
-    Xmlknoop() = default;
-    explicit Xmlknoop(pugi::xml_node_struct* knoop) : knoop_(knoop) {}
+/// Fills the document and gives its text in UTF-8, in which the offsets of the nodes count.
+/// `bestand` names the file in an error, which is `Beschadigd` and tells the line and, in Dutch,
+/// what is wrong and where on that line.
+[[nodiscard]] Uitkomst<std::string> OntleedXml(Tekstblik bytes, const std::string& bestand,
+                                               pugi::xml_document& document);
 
-    explicit operator bool() const { return knoop_ != nullptr; }
-    [[nodiscard]] bool IsElement() const;
-    /// UTF-8, with its prefix; empty for what is no element. The view lives as the document does.
-    [[nodiscard]] std::string_view Naam() const;
+/// Whether a node is a text that is written as white space only, as an indented document has
+/// between its elements; a blank that is written as a reference is meant.
+[[nodiscard]] bool IsWit(const pugi::xml_node& knoop, std::string_view bron);
 
-    /// Whether an element begins with a text, which is none of its children below. One of white
-    /// space only, or in a CDATA section, does not count.
-    [[nodiscard]] bool BegintMetTekst() const;
-    /// Where an element begins in the text of the document, to tell how far a walk is.
-    [[nodiscard]] std::size_t Plaats() const;
-
-    /// Children: elements, CDATA sections, comments, processing instructions and the texts behind
-    /// the first of those, but not a text of white space only.
-    [[nodiscard]] Xmlknoop EersteKind() const;
-    [[nodiscard]] Xmlknoop Volgende() const;
-    /// The next child of the same parent, or the first below this node, that is an element `naam`.
-    [[nodiscard]] Xmlknoop VolgendElement(std::string_view naam) const;
-    [[nodiscard]] Xmlknoop EersteElement(std::string_view naam) const;
-
-    /// All texts and CDATA sections below an element, in order; line ends are LF. White space is
-    /// kept, but a text of white space only is no text. Returns how many characters the code page
-    /// lacks: the nearest letters stand for them.
-    std::size_t LeesTekst(Tekst& uit) const;
-
-  private:
-    pugi::xml_node_struct* knoop_ = nullptr;
-};
-
-class Xmldocument {
-  public:
-    /// `bestand` names the file in an error, which is `Beschadigd` and tells the line and, in
-    /// Dutch, what the parser found and where on that line. So is a document whose nodes would take
-    /// more than `meesteGeheugen` bytes.
-    [[nodiscard]] static Uitkomst<Xmldocument> Ontleed(Tekstblik bytes, const std::string& bestand,
-                                                       std::size_t meesteGeheugen = 512U << 20U);
-
-    Xmldocument(const Xmldocument&) = delete;
-    Xmldocument& operator=(const Xmldocument&) = delete;
-    Xmldocument(Xmldocument&&) noexcept;
-    Xmldocument& operator=(Xmldocument&&) noexcept;
-    ~Xmldocument();
-
-    /// The outermost element.
-    [[nodiscard]] Xmlknoop Wortel() const;
-    /// Of its text, in bytes.
-    [[nodiscard]] std::size_t Lengte() const;
-
-  private:
-    struct Binnenkant;
-    explicit Xmldocument(std::unique_ptr<Binnenkant> binnenkant);
-
-    std::unique_ptr<Binnenkant> binnenkant_;
-};
+/// All texts and CDATA sections below an element, in order; line ends are LF. White space is kept,
+/// unless the element holds nothing else. Returns how many characters the code page lacks: the
+/// nearest letters stand for them.
+std::size_t LeesTekst(const pugi::xml_node& element, std::string_view bron, Tekst& uit);
 
 } // namespace plexoran

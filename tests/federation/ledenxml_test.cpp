@@ -142,6 +142,7 @@ TEST(Nbb4Xml, WitBlijftMaarZonderTekstIsLeeg)
               " 1 ;;;;;;;;\tLaar;;;;;;;;");
     EXPECT_EQ(Lid4("<Adres>Brink\r\n1\nhoog</Adres><Plaats>a&#13;&#10;b&#13;c</Plaats>"),
               ";;;;;;Brink 1 hoog;;a b c;;;;;;;;");
+    EXPECT_EQ(Lid4("<Adres>Brink<!--x--> <![CDATA[1]]></Adres>"), ";;;;;;Brink 1;;;;;;;;;;");
     EXPECT_EQ(Lid4("<Adres>a;b</Adres>"), ";;;;;;a;b;;;;;;;;;;") << "een puntkomma splitst";
 }
 

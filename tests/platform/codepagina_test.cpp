@@ -171,3 +171,18 @@ TEST(Codepagina, LosseSurrogaten)
     EXPECT_EQ(NaarCodepagina(u"a" + hoog).tekst, "a");
     EXPECT_EQ(ExactNaarCodepagina(hoog), std::nullopt);
 }
+
+TEST(Codepagina, HerkentUtf8)
+{
+    EXPECT_TRUE(IsUtf8("Zo\xC3\xAB"));
+    EXPECT_TRUE(IsUtf8("\xEF\xBB\xBF"
+                       "1;M"));
+    EXPECT_TRUE(IsUtf8("\xE2\x82\xAC\x1A"));
+    EXPECT_FALSE(IsUtf8(""));
+    EXPECT_FALSE(IsUtf8("Zoe"));
+    EXPECT_FALSE(IsUtf8("Zo\xEB"));
+    EXPECT_FALSE(IsUtf8("Zo\xC3\xAB en Zo\xEB")) << "een enkel ander teken";
+    EXPECT_FALSE(IsUtf8("Zo\xC3")) << "afgekapt";
+    EXPECT_FALSE(IsUtf8("\xFF\xFE"
+                        "1"));
+}
