@@ -1,5 +1,6 @@
 #include "platform/access.h"
 
+#include <QDataStream>
 #include <QProcess>
 
 #include <algorithm>
@@ -7,7 +8,6 @@
 
 #include "platform/accesskind.h"
 #include "platform/accesskop.h"
-#include "platform/accesspijp.h"
 #include "platform/codepagina.h"
 #include "platform/systeempad.h"
 
@@ -54,119 +54,72 @@ std::string Padbytes(const std::filesystem::path& pad)
 #endif
 }
 
-bool IsAscii(std::string_view tekst)
+Accesswaarde NaarWaarde(QByteArray utf8)
 {
-    return std::all_of(tekst.begin(), tekst.end(), [](char teken) { return teken > 0; });
+    // A null byte would end the text in other programs.
+    const auto nullen = utf8.count('\0');
+    if (nullen > 0)
+        utf8.replace('\0', QByteArray());
+    Omzetting omgezet =
+        Utf8NaarCodepagina({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+    return {.tekst = std::move(omgezet.tekst),
+            .vervangen = omgezet.vervangen.size() + static_cast<std::size_t>(nullen)};
 }
 
-Accesswaarde NaarWaarde(std::string&& utf8)
+QStringList Argumenten(const Accessvraag& vraag)
 {
-    if (IsAscii(utf8))
-        return {.tekst = std::move(utf8), .vervangen = 0};
-    // A leading byte order mark is none of the text; a null byte would end it in other programs.
-    QString tekst = QString::fromUtf8(utf8);
-    const auto nullen = tekst.count(QChar(u'\0'));
-    tekst.remove(QChar(u'\0'));
-    Omzetting omzetting = NaarCodepagina(tekst.toStdU16String());
-    return {.tekst = std::move(omzetting.tekst),
-            .vervangen = omzetting.vervangen.size() + static_cast<std::size_t>(nullen)};
+    const auto woord = [](const std::string& bytes) {
+        return QString::fromLatin1(QByteArray::fromStdString(bytes).toPercentEncoding());
+    };
+    QStringList uit{QString::fromLatin1(Kindwoord), woord(vraag.pad), woord(vraag.tabel)};
+    for (const Accesskolom& kolom : vraag.kolommen)
+        uit << woord((kolom.soort == Accesssoort::Geheel ? "1" : "0") + kolom.naam);
+    return uit;
 }
 
-Accessrij NaarRij(Ruwerij&& ruw)
+tl::unexpected<Fout> Mis(Foutsoort soort, std::string reden)
 {
-    Accessrij rij;
-    rij.reserve(ruw.size());
-    for (auto& cel : ruw)
-        rij.push_back(cel ? std::optional(NaarWaarde(std::move(*cel))) : std::nullopt);
-    return rij;
+    return tl::unexpected(
+        Fout{.soort = soort, .bestand = {}, .regel = 0, .systeem = std::move(reden)});
+}
+
+/// What a child wrote that ended with this status.
+Uitkomst<std::vector<Accessrij>> LeesAntwoord(const QByteArray& bytes, bool goed,
+                                              std::size_t kolommen, std::size_t meesteRijen)
+{
+    QDataStream antwoord(bytes);
+    antwoord.setVersion(QDataStream::Qt_6_0);
+    std::vector<Accessrij> rijen;
+    quint8 nogEen = 0;
+    for (antwoord >> nogEen; nogEen == 1 && antwoord.status() == QDataStream::Ok;
+         antwoord >> nogEen) {
+        if (rijen.size() == meesteRijen)
+            return Mis(Foutsoort::Beschadigd, "de database geeft te veel gegevens");
+        Accessrij& rij = rijen.emplace_back();
+        for (std::size_t kolom = 0; kolom < kolommen; ++kolom) {
+            QByteArray cel;
+            antwoord >> cel;
+            rij.push_back(cel.isNull() ? std::nullopt : std::optional(NaarWaarde(cel)));
+        }
+    }
+    quint32 aantal = 0;
+    QByteArray reden;
+    antwoord >> aantal >> reden;
+    const bool heel = nogEen == 0 && antwoord.status() == QDataStream::Ok && antwoord.atEnd();
+    if (heel && !reden.isEmpty())
+        return Mis(Foutsoort::Beschadigd, reden.toStdString());
+    if (!heel || !goed || aantal != rijen.size())
+        return Mis(Foutsoort::Beschadigd, "de database is beschadigd: het lezen brak af");
+    return rijen;
 }
 
 /// One child, from its question to its end. Whatever goes wrong, it is gone afterwards.
 class Lezing {
   public:
-    Lezing(std::size_t kolommen, const Accessgrenzen& grenzen, const Voortgang& voortgang)
-        : lezer_(kolommen), grenzen_(grenzen), voortgang_(voortgang)
-    {}
+    explicit Lezing(const Accessgrenzen& grenzen) : grenzen_(grenzen) {}
     Lezing(const Lezing&) = delete;
     Lezing& operator=(const Lezing&) = delete;
-    ~Lezing() { Beeindig(); }
-
-    /// Everything that the child has to say, or what is wrong.
-    Uitkomst<std::vector<Accessrij>> Doe(const std::string& vraag)
-    {
-        if (!Start(vraag))
-            return Mis(Foutsoort::Geweigerd, kind_.errorString().toStdString());
-        for (;;) {
-            const bool leeft = kind_.state() != QProcess::NotRunning;
-            if (leeft)
-                kind_.waitForReadyRead(wachttijd);
-            const QByteArray stuk = kind_.readAllStandardOutput();
-            if (stuk.isEmpty() && !leeft)
-                return Oordeel();
-            if (const auto reden = Neem(stuk); !reden.empty())
-                return Mis(Foutsoort::Beschadigd, reden);
-            if (voortgang_)
-                voortgang_(lezer_.Gelezen(), lezer_.Geheel());
-        }
-    }
-
-  private:
-    static constexpr int wachttijd = 50; // ms, so that `voortgang` is called often enough
-
-    static tl::unexpected<Fout> Mis(Foutsoort soort, std::string reden)
-    {
-        return tl::unexpected(
-            Fout{.soort = soort, .bestand = {}, .regel = 0, .systeem = std::move(reden)});
-    }
-
-    bool Start(const std::string& vraag)
-    {
-        kind_.setProgram(grenzen_.programma.empty() ? EigenProgramma()
-                                                    : QString::fromStdString(grenzen_.programma));
-        kind_.setArguments({QString::fromLatin1(Kindwoord)});
-        kind_.setProcessEnvironment(Kindomgeving());
-        kind_.setStandardErrorFile(QProcess::nullDevice());
-        kind_.start();
-        if (!kind_.waitForStarted(static_cast<int>(grenzen_.zonderVoortgang.count())))
-            return false;
-        kind_.write(vraag.data(), static_cast<qint64>(vraag.size()));
-        kind_.closeWriteChannel();
-        laatste_ = Klok::now();
-        return true;
-    }
-
-    /// What is wrong with what came; empty when all is well.
-    std::string Neem(const QByteArray& stuk)
-    {
-        uitvoer_ += static_cast<std::size_t>(stuk.size());
-        if (uitvoer_ > grenzen_.uitvoer)
-            return "de database geeft te veel gegevens";
-        const std::size_t eerst = lezer_.Berichten();
-        if (!lezer_.Neem({stuk.data(), static_cast<std::size_t>(stuk.size())}))
-            return "het lezen gaf een onbegrijpelijk antwoord";
-        if (lezer_.Geheel() > grenzen_.rijen)
-            return "de database geeft te veel gegevens";
-        for (Ruwerij& rij : lezer_.NeemRijen())
-            rijen_.push_back(NaarRij(std::move(rij)));
-        const auto nu = Klok::now();
-        if (lezer_.Berichten() != eerst)
-            laatste_ = nu;
-        return nu - laatste_ > grenzen_.zonderVoortgang
-                   ? "de database is beschadigd: het lezen schoot niet meer op"
-                   : "";
-    }
-
-    Uitkomst<std::vector<Accessrij>> Oordeel()
-    {
-        if (lezer_.Melding())
-            return tl::unexpected(*lezer_.Melding());
-        const bool goed = kind_.exitStatus() == QProcess::NormalExit && kind_.exitCode() == 0;
-        if (!goed || !lezer_.Klaar())
-            return Mis(Foutsoort::Beschadigd, "de database is beschadigd: het lezen brak af");
-        return std::move(rijen_);
-    }
-
-    void Beeindig()
+    ~Lezing()
     {
         if (kind_.state() == QProcess::NotRunning)
             return;
@@ -174,13 +127,50 @@ class Lezing {
         kind_.waitForFinished();
     }
 
+    /// Everything that the child has to say, or what is wrong. `grootte` is that of the database,
+    /// beside which progress is measured.
+    Uitkomst<std::vector<Accessrij>> Doe(const Accessvraag& vraag, std::size_t grootte,
+                                         const Voortgang& voortgang)
+    {
+        constexpr int wachttijd = 50; // ms, so that `voortgang` is called often enough
+        if (!Start(vraag))
+            return Mis(Foutsoort::Geweigerd, kind_.errorString().toStdString());
+        std::size_t gegeven = 0;
+        for (auto laatste = Klok::now(); kind_.state() != QProcess::NotRunning;) {
+            kind_.waitForReadyRead(wachttijd);
+            const auto nu = static_cast<std::size_t>(kind_.bytesAvailable());
+            if (nu > grenzen_.uitvoer)
+                return Mis(Foutsoort::Beschadigd, "de database geeft te veel gegevens");
+            if (std::exchange(gegeven, nu) != nu)
+                laatste = Klok::now();
+            if (Klok::now() - laatste > grenzen_.zonderVoortgang)
+                return Mis(Foutsoort::Beschadigd,
+                           "de database is beschadigd: het lezen schoot niet meer op");
+            if (voortgang)
+                voortgang(std::min(gegeven, grootte), grootte);
+        }
+        const bool goed = kind_.exitStatus() == QProcess::NormalExit && kind_.exitCode() == 0;
+        const QByteArray antwoord = kind_.readAllStandardOutput();
+        if (static_cast<std::size_t>(antwoord.size()) > grenzen_.uitvoer)
+            return Mis(Foutsoort::Beschadigd, "de database geeft te veel gegevens");
+        return LeesAntwoord(antwoord, goed, vraag.kolommen.size(), grenzen_.rijen);
+    }
+
+  private:
+    bool Start(const Accessvraag& vraag)
+    {
+        kind_.setProgram(grenzen_.programma.empty() ? EigenProgramma()
+                                                    : QString::fromStdString(grenzen_.programma));
+        kind_.setArguments(Argumenten(vraag));
+        kind_.setProcessEnvironment(Kindomgeving());
+        kind_.setStandardInputFile(QProcess::nullDevice());
+        kind_.setStandardErrorFile(QProcess::nullDevice());
+        kind_.start(QIODevice::ReadOnly);
+        return kind_.waitForStarted(static_cast<int>(grenzen_.zonderVoortgang.count()));
+    }
+
     QProcess kind_;
-    Antwoordlezer lezer_;
     const Accessgrenzen& grenzen_;
-    const Voortgang& voortgang_;
-    std::vector<Accessrij> rijen_;
-    std::size_t uitvoer_ = 0;
-    Klok::time_point laatste_;
 };
 
 } // namespace
@@ -195,9 +185,9 @@ Uitkomst<std::vector<Accessrij>> LeesAccess(const Pad& database, const Tekst& ta
         return tl::unexpected(std::move(kop.error()));
     std::error_code fout;
     const std::filesystem::path heel = std::filesystem::absolute(bestand, fout);
-    Lezing lezing(kolommen.size(), grenzen, voortgang);
-    auto rijen = lezing.Doe(SchrijfVraag(
-        {.pad = Padbytes(fout ? bestand : heel), .tabel = tabel, .kolommen = kolommen}));
+    const auto grootte = std::filesystem::file_size(bestand, fout);
+    auto rijen = Lezing(grenzen).Doe({.pad = Padbytes(heel), .tabel = tabel, .kolommen = kolommen},
+                                     grootte, voortgang);
     if (!rijen)
         rijen.error().bestand = Leesbaar(bestand);
     return rijen;

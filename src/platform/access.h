@@ -37,13 +37,14 @@ using Accessrij = std::vector<std::optional<Accesswaarde>>;
 
 struct Accessgrenzen {
     std::string programma;                             ///< UTF-8; empty: the running program
-    std::chrono::milliseconds zonderVoortgang{10'000}; ///< without a new row
+    std::chrono::milliseconds zonderVoortgang{10'000}; ///< without a new piece of the answer
     std::size_t uitvoer = std::size_t{256} << 20;      ///< bytes
     std::size_t rijen = 500'000;
 };
 
 /// All rows of a table that are not deleted, in the order in which the file has them. `voortgang`
-/// is called at least every 100 ms; its answer is not looked at. `Beschadigd` for what is no
+/// is called at least every 100 ms, with about how much of the file was read; its answer is not
+/// looked at. `Beschadigd` for what is no
 /// database or lacks the table or a column; the reason stands in `systeem`, in Dutch.
 [[nodiscard]] Uitkomst<std::vector<Accessrij>> LeesAccess(const Pad& database, const Tekst& tabel,
                                                           const std::vector<Accesskolom>& kolommen,

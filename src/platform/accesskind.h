@@ -1,33 +1,39 @@
 // The child process that reads an Access database with libmdb; see platform/access.h.
 //
-// It is this same program, started with one word that is not for users. It reads its question from
-// standard input and writes its answer to what was its standard output, which it takes for itself
-// before libmdb can print there. It ends by itself when it takes too much memory or processor time,
-// and when the program that asked is gone.
+// It is this same program, started with a word that is not for users. Its question stands in the
+// arguments behind that word, in percent encoding, since not every system hands bytes on as they
+// are: the path, the table, and each column with the digit of its kind before its name. It ends by
+// itself when it takes too much memory or processor time, and when the program that asked is gone.
+//
+// Its answer, to what was its standard output, is a QDataStream: of each row a byte 1 and the
+// cells, texts in UTF-8 and a null text for NULL; then a byte 0, the number of rows, and what is
+// wrong, in Dutch, empty when nothing is. An answer without that end is worth nothing.
 #pragma once
 
-#include <filesystem>
-#include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
-#include "platform/accesspijp.h"
+#include "platform/access.h"
+
+class QDataStream;
 
 namespace plexoran {
 
 inline constexpr auto Kindwoord = "--lees-access";
 
+struct Accessvraag {
+    std::string pad; ///< in the system's own bytes, on Windows in UTF-8
+    Tekst tabel;
+    std::vector<Accesskolom> kolommen;
+};
+
 /// To be called first of all in `main`: the status to end with when this process is such a child,
 /// nothing when it is the program itself.
 [[nodiscard]] std::optional<int> AlsAccesskind(int argc, char** argv);
 
-/// The path of the question.
-[[nodiscard]] std::filesystem::path Padnaam(const Accessvraag& vraag);
-
-/// Takes bytes of the answer; false when nobody listens any more.
-using Antwoorduitvoer = std::function<bool(std::string_view)>;
-
-/// Walks the table with libmdb and writes the answer, all but a message of failure. May crash, loop
-/// or use all memory on a damaged file.
-[[nodiscard]] Uitkomst<void> LeesMetLibmdb(const Accessvraag& vraag, const Antwoorduitvoer& uit);
+/// Walks the table with libmdb and writes the rows. Gives how many there were, or what is wrong.
+/// May crash, loop or use all memory on a damaged file.
+[[nodiscard]] Uitkomst<std::uint32_t> LeesMetLibmdb(const Accessvraag& vraag, QDataStream& uit);
 
 } // namespace plexoran

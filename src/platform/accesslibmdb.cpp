@@ -2,6 +2,9 @@
 // taken on trust.
 #include "platform/accesskind.h"
 
+#include <QByteArray>
+#include <QDataStream>
+
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -48,16 +51,14 @@ bool IsSoort(int type, Accesssoort soort)
 
 class Tabellezing {
   public:
-    Tabellezing(const Accessvraag& vraag, const Antwoorduitvoer& uit) : vraag_(vraag), uit_(uit) {}
+    Tabellezing(const Accessvraag& vraag, QDataStream& uit) : vraag_(vraag), uit_(uit) {}
 
-    Uitkomst<void> Doe()
+    Uitkomst<std::uint32_t> Doe()
     {
-        for (const auto stap : {&Tabellezing::Open, &Tabellezing::VindTabel,
-                                &Tabellezing::VindKolommen, &Tabellezing::LeesRijen}) {
-            if (auto gelukt = (this->*stap)(); !gelukt)
-                return gelukt;
-        }
-        return {};
+        return Open()
+            .and_then([this] { return VindTabel(); })
+            .and_then([this] { return VindKolommen(); })
+            .and_then([this] { return LeesRijen(); });
     }
 
   private:
@@ -125,36 +126,35 @@ class Tabellezing {
         return {};
     }
 
-    Uitkomst<void> LeesRijen()
+    Uitkomst<std::uint32_t> LeesRijen()
     {
-        constexpr std::size_t brok = std::size_t{32} << 10; // bytes that go out together
         const std::uint32_t geheel = tabel_->num_rows;
         if (geheel > HoogstensRijen())
             return Beschadigd("de tabel " + Tussen(vraag_.tabel) +
                               " zegt onmogelijk veel rijen te hebben");
-        std::string bytes = Tabelbericht(geheel);
         std::uint32_t gelezen = 0;
         mdb_rewind_table(tabel_.get());
         while (geheel > 0 && mdb_fetch_row(tabel_.get())) {
-            const auto rij = LeesRij();
-            if (!rij)
-                return tl::unexpected(rij.error());
             if (++gelezen > geheel)
                 break;
-            VoegRijberichtToe(bytes, *rij);
-            if (bytes.size() >= brok) {
-                if (!uit_(bytes))
-                    return Beschadigd({});
-                bytes.clear();
-            }
+            if (auto gelukt = SchrijfRij(); !gelukt)
+                return tl::unexpected(std::move(gelukt.error()));
         }
         if (gelezen != geheel)
             return Beschadigd("in de tabel " + Tussen(vraag_.tabel) +
                               (gelezen < geheel ? " ontbreken rijen" : " staan te veel rijen") +
                               " (verwacht: " + std::to_string(geheel) +
                               ", gelezen: " + std::to_string(gelezen) + ")");
-        bytes += Eindbericht(gelezen);
-        return uit_(bytes) ? Uitkomst<void>() : Beschadigd({});
+        return gelezen;
+    }
+
+    [[nodiscard]] std::filesystem::path Padnaam() const
+    {
+#ifdef _WIN32
+        return std::u8string(vraag_.pad.begin(), vraag_.pad.end());
+#else
+        return vraag_.pad;
+#endif
     }
 
     /// A row is known by its page and one byte.
@@ -162,12 +162,12 @@ class Tabellezing {
     {
         constexpr std::uintmax_t perBlad = 256;
         std::error_code fout;
-        const std::uintmax_t grootte = std::filesystem::file_size(Padnaam(vraag_), fout);
+        const std::uintmax_t grootte = std::filesystem::file_size(Padnaam(), fout);
         return fout ? 0 : grootte / static_cast<std::uintmax_t>(database_->fmt->pg_size) * perBlad;
     }
 
     /// The row on which `mdb_fetch_row` stands.
-    Uitkomst<Ruwerij> LeesRij()
+    Uitkomst<void> SchrijfRij()
     {
         int begin = 0;
         std::size_t lengte = 0;
@@ -181,14 +181,13 @@ class Tabellezing {
         const auto blad = static_cast<std::size_t>(database_->fmt->pg_size);
         if (lengte == 0 || eind_ > blad || mdb_crack_row(tabel_.get(), begin, lengte, velden) < 0)
             return KapotteRij();
-        Ruwerij rij;
-        rij.reserve(kolommen_.size());
+        uit_ << quint8{1};
         for (const Zoekkolom& kolom : kolommen_) {
             const MdbField& veld = velden[kolom.plaats];
             if (veld.colnum != static_cast<int>(kolom.plaats))
                 return KapotteRij();
             if (veld.is_null) {
-                rij.emplace_back();
+                uit_ << QByteArray();
                 continue;
             }
             if (veld.siz < 0 || veld.start < begin || (veld.siz > 0 && !veld.value) ||
@@ -197,9 +196,10 @@ class Tabellezing {
             auto waarde = LeesWaarde(*kolom.kolom, veld);
             if (!waarde)
                 return tl::unexpected(std::move(waarde.error()));
-            rij.emplace_back(std::move(*waarde));
+            // Not null, though it may be empty.
+            uit_ << QByteArray(waarde->data(), static_cast<qsizetype>(waarde->size()));
         }
-        return rij;
+        return {};
     }
 
     Uitkomst<std::string> LeesWaarde(const MdbColumn& kolom, const MdbField& veld)
@@ -272,7 +272,7 @@ class Tabellezing {
     }
 
     const Accessvraag& vraag_;
-    const Antwoorduitvoer& uit_;
+    QDataStream& uit_;
     std::unique_ptr<MdbHandle, Sluiter> database_;
     std::unique_ptr<MdbTableDef, Sluiter> tabel_; // before the database it belongs to
     std::vector<Zoekkolom> kolommen_;
@@ -281,7 +281,7 @@ class Tabellezing {
 
 } // namespace
 
-Uitkomst<void> LeesMetLibmdb(const Accessvraag& vraag, const Antwoorduitvoer& uit)
+Uitkomst<std::uint32_t> LeesMetLibmdb(const Accessvraag& vraag, QDataStream& uit)
 {
     // Never torn down: the child ends right after, and a broken structure may not survive it.
     auto* lezing = new Tabellezing(vraag, uit);
