@@ -111,6 +111,15 @@ TEST_F(diaGrNamenTest, MetTabKomtElkVakInBeeld)
         ASSERT_TRUE(Vak(nummer)->hasFocus()) << nummer;
         ASSERT_TRUE(InBeeld(Vak(nummer))) << nummer;
     }
+    for (const char* naam : {"cmdAnnuleren", "cmdOK", "txt1_1"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(Deel<QWidget>(naam)->hasFocus()) << naam;
+    }
+    ASSERT_TRUE(InBeeld(Vak(1)));
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    ASSERT_TRUE(Vak(50)->hasFocus());
+    ASSERT_TRUE(InBeeld(Vak(50)));
     for (int nummer = 49; nummer >= 1; --nummer) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
         ASSERT_TRUE(Vak(nummer)->hasFocus()) << nummer;
