@@ -26,6 +26,12 @@ struct Opstelling {
     double punten;
 };
 
+/// Names the tests: their bytes, pointers among them, would differ from build to build.
+void PrintTo(const Opstelling& opstelling, std::ostream* uit)
+{
+    *uit << opstelling.scherm << " met " << opstelling.punten << " punten";
+}
+
 class SchermmaatTest : public Rondgangproef, public testing::WithParamInterface<Opstelling> {
   protected:
     [[nodiscard]] static QScreen* Scherm()

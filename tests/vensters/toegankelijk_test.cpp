@@ -1,7 +1,10 @@
-// Every window as assistive programs see it: each control has a name, each list its lines, and what
-// takes the keys is something.
+// Every window as assistive programs see it: each control has a name, each field a label that
+// stands for it, each list its lines, and what takes the keys is something.
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
 
 #include <algorithm>
 #include <set>
@@ -48,6 +51,23 @@ bool IsRol(QAccessibleInterface* deel)
            !deel->text(QAccessible::Name).isEmpty();
 }
 
+/// Qt gives what has no name of its own that of the frame around it.
+bool HeeftNaam(QAccessibleInterface* deel)
+{
+    const QString naam = deel->text(QAccessible::Name).trimmed();
+    const auto* kader = qobject_cast<const QGroupBox*>(deel->parent()->object());
+    return !naam.isEmpty() && (kader == nullptr || naam != kader->title());
+}
+
+/// Whether a label stands for it. Of a drop-down some assistive programs do not hear the name.
+bool HeeftOpschrift(QAccessibleInterface* deel)
+{
+    const auto banden = deel->relations(QAccessible::Label);
+    return std::any_of(banden.begin(), banden.end(), [](const auto& band) {
+        return qobject_cast<const QLabel*>(band.first->object()) != nullptr;
+    });
+}
+
 /// Walks through a window and gathers what is missing, by the name of the part.
 class Onderzoek {
   public:
@@ -77,7 +97,7 @@ class Onderzoek {
         const QObject* object = deel->object();
         if (IsBediening(rol) && !IsVanEenLijst(object)) {
             ++gezien_;
-            if (deel->text(QAccessible::Name).trimmed().isEmpty())
+            if (!HeeftNaam(deel))
                 Mis("geen naam", object == nullptr ? deel->parent()->object() : object);
         }
         const auto* lijst = qobject_cast<const QAbstractItemView*>(object);
@@ -87,9 +107,14 @@ class Onderzoek {
         if (lijst != nullptr && !IsLijst(rol))
             Mis("een lijst die er geen is", object);
         const auto* widget = qobject_cast<const QWidget*>(object);
-        if (widget != nullptr && (widget->focusPolicy() & Qt::TabFocus) != 0 && IsNiets(rol) &&
-            !IsRol(deel))
-            Mis("neemt toetsen aan en is niets", object);
+        if (widget != nullptr && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            if (IsNiets(rol) && !IsRol(deel))
+                Mis("neemt toetsen aan en is niets", object);
+            const bool veld =
+                rol == QAccessible::ComboBox || qobject_cast<const QLineEdit*>(object) != nullptr;
+            if (veld && !HeeftOpschrift(deel))
+                Mis("geen opschrift", object);
+        }
         constexpr int genoeg = 60; // of the cells of a list
         const int delen = IsLijst(rol) ? std::min(deel->childCount(), genoeg) : deel->childCount();
         for (int i = 0; i < delen; ++i)
