@@ -54,7 +54,10 @@ void Sluit(int greep)
 
 int Open(const std::filesystem::path& bestand)
 {
-    return ::open(bestand.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    constexpr int vlaggen = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const int greep = ::open(bestand.c_str(), vlaggen | O_RDWR | O_CREAT, S_IRUSR | S_IWUSR);
+    // A folder, or a file that may only be read, can be locked as well.
+    return greep != -1 ? greep : ::open(bestand.c_str(), vlaggen | O_RDONLY);
 }
 
 /// Everyone may make files in the folder; one that somebody else put there says nothing.

@@ -138,6 +138,14 @@ TEST_F(ExemplaarslotTest, WatErInStaatHoudtNiemandTegen)
     }
 }
 
+TEST_F(ExemplaarslotTest, EenMapHoudtAlleenEenTweedeTegen)
+{
+    std::filesystem::create_directory(Bestand());
+    Exemplaarslot slot(Bestand());
+    EXPECT_TRUE(slot.Neem());
+    EXPECT_FALSE(Exemplaarslot(Bestand()).Neem());
+}
+
 /// Killed before and after each call to the system that taking it makes.
 TEST_F(ExemplaarslotTest, GedoodBijElkeStap)
 {
