@@ -294,7 +294,7 @@ std::vector<Pad> VerslagenMetLosseSleutels(Schijf& schijf, const Mappen& mappen,
     std::vector<Pad> uit;
     for (const Tekst& zitting : RevZittingen(schijf, mappen).value_or(std::vector<Tekst>())) {
         const Pad pad = Samen(Zittingmap(mappen, zitting), Verslagnaam);
-        const auto verslag = schijf.LeesBestand(pad);
+        const auto verslag = LeesBegrensd(schijf, pad);
         if (verslag && HoogsteKeyIn(*verslag) > HKEY)
             uit.push_back(pad);
     }

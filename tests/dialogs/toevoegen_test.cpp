@@ -308,6 +308,9 @@ TEST_F(Toevoegen, VerslagenMetSleutelsDieNogUitgegevenWorden)
               VerslagenMetLosseSleutels(schijf, mappen, 100045));
     EXPECT_EQ(1U, VerslagenMetLosseSleutels(schijf, mappen, 100046).size());
     EXPECT_EQ(0U, VerslagenMetLosseSleutels(schijf, mappen, 1100001).size());
+    const Pad groot = "C:\\RVD\\Zittingen\\Groot_Rev\\Koppelverslag.txt";
+    schijf.Zet(groot, "N01 1100002 - 0\r\n" + Tekst(std::size_t{64} << 20U, ','));
+    EXPECT_EQ(0U, VerslagenMetLosseSleutels(schijf, mappen, 1100001).size()) << "te groot";
 }
 
 TEST_F(Toevoegen, HetVerslagRuimtOpWatEenAfgebrokenSchrijvenLiet)
