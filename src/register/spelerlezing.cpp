@@ -70,7 +70,7 @@ class Lezer {
     Spelerlezing Lees()
     {
         rijen_.reserve(GeschatAantalRegels());
-        while (begin_ < inhoud_.size() && geteld_)
+        while (begin_ < inhoud_.size())
             LeesRegel();
         if (geteld_)
             uit_.zonderSleutelregel = !uit_.HKEY && !rijen_.empty();
@@ -100,7 +100,10 @@ class Lezer {
         ++regel_;
         SplitsRegel();
         const Tekstblik regel(inhoud_.data() + begin_, eind_ - begin_);
-        if (regel.starts_with(sleutelkop))
+        if (!geteld_) {
+            if (velden_ >= VeldenVoorTelling)
+                OnthoudSleutel(grenzen_);
+        } else if (regel.starts_with(sleutelkop))
             NeemSleutel(regel.substr(sleutelkop.size()));
         else if (velden_ > 1 || !IsBlanco(regel))
             NeemSpeler();
@@ -152,17 +155,17 @@ class Lezer {
             return;
         }
         if (uit_.fout) { // filling in ended at an earlier line; this one was only counted
-            OnthoudSleutel();
+            OnthoudSleutel(grenzen_);
             return;
         }
         if (Lengte(Kolom::Achternaam) == 0) {
-            OnthoudSleutel();
+            OnthoudSleutel(grenzen_);
             uit_.zonderAchternaam.push_back(regel_);
             uit_.verliest = true;
             return;
         }
         if (velden_ < AantalKolommen) {
-            OnthoudSleutel();
+            OnthoudSleutel(grenzen_);
             uit_.fout = Regelfout{regel_, velden_};
             return;
         }
@@ -173,10 +176,11 @@ class Lezer {
     }
 
     /// Of a line that is left out: its key was issued all the same.
-    void OnthoudSleutel()
+    void OnthoudSleutel(const Spelertabel::Celgrenzen& grenzen)
     {
-        const auto begin = grenzen_[Plaats(Kolom::Key)];
-        const auto key = Geheel32(Tekstblik(inhoud_).substr(begin, Lengte(Kolom::Key)));
+        const auto begin = grenzen[Plaats(Kolom::Key)];
+        const auto lengte = grenzen[Plaats(Kolom::Key) + 1] - begin - 1;
+        const auto key = Geheel32(Tekstblik(inhoud_).substr(begin, lengte));
         uit_.hoogsteWeggelaten = std::max(uit_.hoogsteWeggelaten, key.value_or(0));
     }
 
@@ -190,6 +194,8 @@ class Lezer {
     {
         uit_.fout = Regelfout{regel_, velden};
         geteld_ = false;
+        for (const auto& rij : rijen_)
+            OnthoudSleutel(rij);
     }
 
     Tekst inhoud_;

@@ -108,7 +108,29 @@ TEST_F(Opstartproef, EenOnmogelijkeSleutelregelWordtGemeld)
                                       "een sleutel is ten hoogste 2147483647") +
                        sleutelgevolg + blijftZoHetIs + QStringLiteral("\n\n") + Spelerbestand +
                        QStringLiteral("\nRegel: 1"));
+    VerwachtSleutelvraag(100001, 100000, NietVerhogen);
     ASSERT_EQ(std::nullopt, Laad());
+}
+
+/// Of such a file no player is read, but the keys of all were issued.
+TEST_F(Opstartproef, SleutelsInEenBestandDatNietTeTellenIsWordenOokAangeboden)
+{
+    const std::string rijen = Speler("1", "100250", "Gr01-", "Bos") + "\r\n" +
+                              Speler("2", "100003", "Gr01-", "Dam") + "\r\n";
+    for (const std::string& oud : {"HKEY=99999999999\r\n" + rijen, rijen + "HKEY=99999999999\r\n",
+                                   "HKEY=100171\r\n" + rijen + "3,100004\r\n"}) {
+        administratie.spelers = {};
+        ZetSpelers(oud);
+        wachter.Waarschuwing(isNogLeeg);
+        wachter.Verwacht({.tekst = QStringLiteral("Het spelerbestand is niet tot het einde"),
+                          .alleenBegin = true});
+        VerwachtSleutelvraag(100250, oud.find("171") == std::string::npos ? 100000 : 100171,
+                             QStringLiteral("Verhogen"));
+        ASSERT_NO_FATAL_FAILURE(Start());
+        EXPECT_EQ(oud, Spelers());
+        VoegToe(QStringLiteral("Nieuweling"));
+        EXPECT_TRUE(Spelers()->starts_with("HKEY=100251\r\n1,100251,")) << *Spelers();
+    }
 }
 
 TEST_F(Opstartproef, LegeRegelsGevenGeenBericht)
