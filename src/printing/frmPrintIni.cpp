@@ -132,7 +132,7 @@ void frmPrintIni::Bouw()
     lagen->addSpacing(maten_.Twips(100));
     lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
     ZetOpSchuifblad(this);
-    PasInScherm(this, {maten_.Twips(8400), maten_.Twips(7200)});
+    PasInScherm(this, {maten_.Twips(9600), maten_.Twips(7200)});
     ZetTabvolgorde(
         {lstKeus, cmdSelAll, cmdSelNone, lstNBBgr, cmbSchaal, cmdPassend, cmdOK, cmdAnnuleren});
 }
