@@ -18,7 +18,7 @@ Fout GeenNaam(Tekstblik naam, std::string bestand)
     return {.soort = Foutsoort::Beschadigd,
             .bestand = std::move(bestand),
             .regel = 0,
-            .systeem = "'" + NaarUtf8(naam) +
+            .systeem = std::string("'").append(NaarUtf8(naam)) +
                        "' kan niet de naam van een bestand of map zijn: daarin mogen geen '/', "
                        "'\\', 'C:' of '..' staan"};
 }

@@ -93,6 +93,7 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
         Open();
         EXPECT_EQ(breed, venster->width());
         for (const char* naam : keuzes) {
+            EXPECT_TRUE(StaatHeelIn(*venster, *Keus(naam))) << naam;
             EXPECT_EQ(Keus(naam)->currentText(), Keus(naam)->toolTip()) << naam;
             EXPECT_EQ(Keus(naam)->currentText(), Keus(naam)->itemData(0, Qt::ToolTipRole)) << naam;
         }

@@ -22,6 +22,12 @@ template <class T> T* Vind(const QWidget& in, const char* naam)
     return deel;
 }
 
+/// Whether a part stands wholly within its window, so that nothing need scroll to reach it.
+inline bool StaatHeelIn(const QWidget& venster, const QWidget& deel)
+{
+    return venster.rect().contains(QRect(deel.mapTo(&venster, QPoint()), deel.size()));
+}
+
 /// A caption as it reads on the screen, without the mark of its mnemonic.
 inline std::string Opschrift(const QAbstractButton* knop)
 {

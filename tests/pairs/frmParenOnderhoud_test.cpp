@@ -164,7 +164,10 @@ TEST_F(frmParenOnderhoudTest, HetBegin)
 TEST_F(frmParenOnderhoudTest, PastOp800Pixels)
 {
     venster->resize(784, 600);
+    QApplication::processEvents();
     EXPECT_EQ(784, venster->width());
+    for (const char* deel : {"cmdUitleg", "L3", "cmdAnnu"})
+        EXPECT_TRUE(StaatHeelIn(*venster, *Deel<QWidget>(deel))) << deel;
     Kies("Gr03-Dinsdag");
     for (const char* lijst : {"L1", "L2"})
         EXPECT_EQ(0, Lijst(lijst)->horizontalScrollBar()->maximum()) << "namen passen";
