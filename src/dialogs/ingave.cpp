@@ -1,5 +1,7 @@
 #include "dialogs/ingave.h"
 
+#include "platform/getal.h"
+
 namespace plexoran {
 namespace {
 
@@ -27,8 +29,7 @@ std::optional<char> TypTeken(Kolom veld, char teken, std::size_t lengte)
         return teken >= 'a' && teken <= 'z' ? Hoofdletter(teken) : teken;
     if (veld != Kolom::NBBnr)
         return teken;
-    const bool cijfer = teken >= '0' && teken <= '9';
-    return cijfer && lengte < LangsteNBBnr ? std::optional(teken) : std::nullopt;
+    return IsCijfer(teken) && lengte < LangsteNBBnr ? std::optional(teken) : std::nullopt;
 }
 
 Veldverlaten VerlaatVeld(Kolom veld, Tekstblik tekst)

@@ -6,11 +6,6 @@
 namespace plexoran {
 namespace {
 
-bool IsCijfer(char teken)
-{
-    return teken >= '0' && teken <= '9';
-}
-
 /// How the digits after the point round the whole part: below, exactly or above a half.
 enum class Breuk { Onder, Half, Boven };
 

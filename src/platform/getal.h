@@ -8,6 +8,11 @@
 
 namespace plexoran {
 
+[[nodiscard]] constexpr bool IsCijfer(char teken)
+{
+    return teken >= '0' && teken <= '9';
+}
+
 /// The number with which the text begins: spaces, a sign, digits and a fraction after a point;
 /// what follows is ignored. Without digits it is 0. A value with a fraction is rounded to the
 /// nearest whole number, a half to the even one. Nothing when it does not fit.

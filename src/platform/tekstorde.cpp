@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "platform/getal.h"
+
 namespace plexoran {
 namespace {
 
@@ -67,9 +69,9 @@ constexpr std::array<Gewicht, 256> MaakGewichten()
     std::array<Gewicht, 256> gewichten{};
     unsigned char volgende = 1;
     gewichten[' '].eerste = volgende++;
-    const auto isCijfer = [](std::size_t i) { return i >= '0' && i <= '9'; };
     for (std::size_t i = 0; i < gewichten.size(); ++i) {
-        if (i != ' ' && !isCijfer(i) && Letters(static_cast<unsigned char>(i)).empty())
+        if (i != ' ' && !IsCijfer(static_cast<char>(i)) &&
+            Letters(static_cast<unsigned char>(i)).empty())
             gewichten[i].eerste = volgende++;
     }
     for (std::size_t i = '0'; i <= '9'; ++i)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/getal.h"
 #include "platform/regels.h"
 
 namespace plexoran {
@@ -15,9 +16,8 @@ bool IsGroepsitem(Tekstblik item)
 
 bool HeeftGroepscode(Tekstblik item)
 {
-    const auto isCijfer = [](char teken) { return teken >= '0' && teken <= '9'; };
-    return item.size() >= LengteGroepscode && IsGroepsitem(item) && isCijfer(item[2]) &&
-           isCijfer(item[3]) && item[4] == '-';
+    return item.size() >= LengteGroepscode && IsGroepsitem(item) && IsCijfer(item[2]) &&
+           IsCijfer(item[3]) && item[4] == '-';
 }
 
 } // namespace

@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
+#include "platform/getal.h"
+
 namespace plexoran {
 namespace {
 
 constexpr std::size_t LengteCode = 3;
-
-bool IsCijfer(char teken)
-{
-    return teken >= '0' && teken <= '9';
-}
 
 bool ZijnCijfers(Tekstblik tekst)
 {
