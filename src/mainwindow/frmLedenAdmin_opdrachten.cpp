@@ -7,7 +7,6 @@
 #include "dialogs/frmVerwSubgroep.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "mainwindow/verwijderen.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/programma.h"
 #include "platform/scherm/berichten.h"
@@ -120,7 +119,7 @@ void frmLedenAdmin::VerwijderGekozen()
             QStringLiteral("Weet u zeker dat u regel %1 wilt verwijderen?").arg(regel), regel,
             regel))
         return;
-    VerwijderRij(administratie_.spelers.tabel, picP0->GetoondeRijen(), regel);
+    VerwijderRijen(administratie_.spelers.tabel, picP0->GetoondeRijen(), regel, regel);
     const Opslag opslag = SlaOp();
     ToonGroep();
     if (opslag != Opslag::Mislukt)

@@ -1,5 +1,7 @@
 #include "mainwindow/weergave.h"
 
+#include <cassert>
+
 namespace plexoran {
 
 Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode,
@@ -13,6 +15,14 @@ Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode,
         bijElkeRij(rij);
     }
     return weergave;
+}
+
+void VerwijderRijen(Spelertabel& tabel, const Weergave& weergave, int van, int tot)
+{
+    assert(van >= 1 && van <= tot && tot <= static_cast<int>(weergave.size()));
+    const std::span rijen(weergave);
+    tabel.Verwijder(
+        rijen.subspan(static_cast<std::size_t>(van - 1), static_cast<std::size_t>(tot - van + 1)));
 }
 
 Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)

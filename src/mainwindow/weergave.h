@@ -17,6 +17,9 @@ using Weergave = std::vector<int>;
     const Spelertabel& tabel, Tekstblik groepscode,
     const std::function<void(int)>& bijElkeRij = [](int) {});
 
+/// Deletes the players on the grid lines `van` up to and including `tot`.
+void VerwijderRijen(Spelertabel& tabel, const Weergave& weergave, int van, int tot);
+
 /// What the option words do to a button when a group is shown.
 enum class Zichtbaarheid { Ongemoeid, Tonen, Verbergen };
 

@@ -1,4 +1,4 @@
-#include "mainwindow/verwijderen.h"
+#include "mainwindow/weergave.h"
 
 #include <gtest/gtest.h>
 
@@ -32,17 +32,17 @@ Tekst Inhoud(const Spelertabel& tabel)
 
 } // namespace
 
-TEST(VerwijderRij, NeemtDeRijVanDeRegelNietDeRijMetDatNummer)
+TEST(VerwijderRijen, NeemtDeRijVanDeRegelNietDeRijMetDatNummer)
 {
     Spelertabel tabel = Tabel({"Gr01-", "Gr02-", "Gr01-", "Gr02-", "Gr02-", "Gr01-"});
-    VerwijderRij(tabel, BouwWeergave(tabel, "Gr02-"), 3); // row 5
+    VerwijderRijen(tabel, BouwWeergave(tabel, "Gr02-"), 3, 3); // row 5
     EXPECT_EQ("1:1 2:2 3:3 4:4 5:6 ", Inhoud(tabel));
 }
 
-TEST(VerwijderRij, DeLaatsteSpelerLaatEenLegeTabel)
+TEST(VerwijderRijen, DeLaatsteSpelerLaatEenLegeTabel)
 {
     Spelertabel tabel = Tabel({"Gr02-"});
-    VerwijderRij(tabel, BouwWeergave(tabel, "Gr02-"), 1);
+    VerwijderRijen(tabel, BouwWeergave(tabel, "Gr02-"), 1, 1);
     EXPECT_EQ(0, tabel.Rijen());
 }
 
@@ -61,10 +61,10 @@ TEST(VerwijderRijen, EenHeleGroepLaatDeAndereGroepenStaan)
 }
 
 /// A row that came without a number is not the one that was chosen, so it stays.
-TEST(VerwijderRij, EenRijZonderNummerBlijftStaan)
+TEST(VerwijderRijen, EenRijZonderNummerBlijftStaan)
 {
     Spelertabel tabel = Tabel({"Gr02-", "Gr02-", "Gr02-"});
     tabel.ZetCel(2, Kolom::Nr, "");
-    VerwijderRij(tabel, BouwWeergave(tabel, "Gr02-"), 3);
+    VerwijderRijen(tabel, BouwWeergave(tabel, "Gr02-"), 3, 3);
     EXPECT_EQ("1:1 2:2 ", Inhoud(tabel));
 }
