@@ -4,12 +4,30 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "dialogs/subgroep.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
+
+QString NoemSpelers(const Spelertabel& tabel, const std::vector<int>& rijen, const QWidget& venster)
+{
+    constexpr std::size_t meeste = 10;
+    const int breedste = Maten().Twips(6000);
+    const auto spelers = [](std::size_t aantal) {
+        return Aantal(aantal, QStringLiteral("speler"), QStringLiteral("spelers"));
+    };
+    QStringList regels{spelers(rijen.size()) + QLatin1String(rijen.empty() ? "" : ":")};
+    for (std::size_t i = 0; i < std::min(meeste, rijen.size()); ++i)
+        regels << venster.fontMetrics().elidedText(NaarQString(VolleNaam(tabel, rijen[i])),
+                                                   Qt::ElideRight, breedste);
+    if (rijen.size() > meeste)
+        regels << QStringLiteral("en nog %1").arg(spelers(rijen.size() - meeste));
+    return regels.join(QLatin1Char('\n'));
+}
 
 frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
@@ -77,9 +95,11 @@ void frmVerwSubgroep::Verwijder()
     const QString vraag = QStringLiteral("U gaat alle spelers van Subgroep '%1'\r\nuit RVDgroep "
                                          "'%2' verwijderen!\r\n\r\nWeet u het zeker?")
                               .arg(NaarQString(subgroep), cmbRVDgr->currentText());
-    if (!Vraag(this, QMessageBox::Information, vraag, QStringLiteral("Verwijderen?")))
+    Spelertabel& tabel = administratie_.spelers.tabel;
+    if (!Vraag(this, QMessageBox::Information, vraag, QStringLiteral("Verwijderen?"),
+               NoemSpelers(tabel, RijenVanSubgroep(tabel, Code(), subgroep), *this)))
         return;
-    const int aantal = VerwijderSubgroep(administratie_.spelers.tabel, Code(), subgroep);
+    const int aantal = VerwijderSubgroep(tabel, Code(), subgroep);
     ietsVerwijderd_ = ietsVerwijderd_ || aantal > 0;
     emit rijenVerwijderd();
     Meld(this, QMessageBox::Information,

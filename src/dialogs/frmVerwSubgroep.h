@@ -10,6 +10,11 @@
 
 namespace plexoran {
 
+/// Who would be deleted with these rows: how many players, and the names of the first ten, none of
+/// them wider than a message box.
+[[nodiscard]] QString NoemSpelers(const Spelertabel& tabel, const std::vector<int>& rijen,
+                                  const QWidget& venster);
+
 class frmVerwSubgroep : public QDialog {
     Q_OBJECT
 

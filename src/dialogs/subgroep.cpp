@@ -15,17 +15,21 @@ std::vector<Tekst> SubgroepenVan(const Spelertabel& tabel, Tekstblik groepscode)
     return subgroepen.Waarden();
 }
 
-int VerwijderSubgroep(Spelertabel& tabel, Tekstblik groepscode, Tekstblik subgroep)
+std::vector<int> RijenVanSubgroep(const Spelertabel& tabel, Tekstblik groepscode,
+                                  Tekstblik subgroep)
 {
     const bool geen = Hoofdletters(subgroep) == "GEEN";
-    std::vector<int> weg;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) != groepscode)
-            continue;
+    std::vector<int> rijen = RijenVanGroep(tabel, groepscode);
+    std::erase_if(rijen, [&](int rij) {
         const Tekstblik waarde = tabel.Cel(rij, Kolom::NBBgr);
-        if (waarde == subgroep || (geen && waarde.empty()))
-            weg.push_back(rij);
-    }
+        return waarde != subgroep && !(geen && waarde.empty());
+    });
+    return rijen;
+}
+
+int VerwijderSubgroep(Spelertabel& tabel, Tekstblik groepscode, Tekstblik subgroep)
+{
+    const std::vector<int> weg = RijenVanSubgroep(tabel, groepscode, subgroep);
     tabel.Verwijder(weg);
     return static_cast<int>(weg.size());
 }

@@ -108,7 +108,6 @@ class frmLedenAdmin : public QMainWindow {
     void ToonToelichting();
     void Print();
     [[nodiscard]] bool VraagVerwijderen(const QString& vraag, int van, int tot);
-    [[nodiscard]] QString NoemSpelers(int van, int tot) const;
     [[nodiscard]] bool IsRegelGekozen();
 
     // Lists (frmLedenAdmin_lijsten.cpp)

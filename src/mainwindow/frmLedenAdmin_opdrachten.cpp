@@ -84,30 +84,11 @@ bool frmLedenAdmin::VraagVerwijderen(const QString& vraag, int van, int tot)
         vraag,
         QString(),
     };
-    return Vraag(this, QMessageBox::Information,
-                 regels.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"),
-                 QStringLiteral("Verwijderen"), NoemSpelers(van, tot));
-}
-
-/// The players on these lines: how many, and who the first ten are.
-QString frmLedenAdmin::NoemSpelers(int van, int tot) const
-{
-    constexpr int meeste = 10;
-    const int breedste = maten_.Twips(6000);
-    const auto spelers = [](int aantal) {
-        return Aantal(static_cast<std::size_t>(aantal), QStringLiteral("speler"),
-                      QStringLiteral("spelers"));
-    };
-    const int aantal = tot - van + 1;
-    QStringList regels{spelers(aantal) + QLatin1Char(':')};
-    for (int regel = van; regel <= tot && regel < van + meeste; ++regel) {
-        const int rij = picP0->GetoondeRijen()[static_cast<std::size_t>(regel - 1)];
-        regels << fontMetrics().elidedText(
-            NaarQString(VolleNaam(administratie_.spelers.tabel, rij)), Qt::ElideRight, breedste);
-    }
-    if (aantal > meeste)
-        regels << QStringLiteral("en nog %1").arg(spelers(aantal - meeste));
-    return regels.join(QLatin1Char('\n'));
+    const auto eerste = picP0->GetoondeRijen().begin();
+    return Vraag(
+        this, QMessageBox::Information,
+        regels.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"), QStringLiteral("Verwijderen"),
+        NoemSpelers(administratie_.spelers.tabel, {eerste + van - 1, eerste + tot}, *this));
 }
 
 void frmLedenAdmin::VerwijderGekozen()

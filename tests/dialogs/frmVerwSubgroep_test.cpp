@@ -12,14 +12,16 @@ class frmVerwSubgroepTest : public Groepsproef<frmVerwSubgroep> {
   protected:
     void KiesGroep(int nummer) const { Kies("cmbRVDgr", nummer - 1); }
 
-    static Bericht Vraag(const QString& subgroep, const QString& groep, const QString& antwoord)
+    static Bericht Vraag(const QString& subgroep, const QString& groep, const QString& antwoord,
+                         const QString& spelers)
     {
         return {.tekst = QStringLiteral("U gaat alle spelers van Subgroep '") + subgroep +
                          QStringLiteral("'\r\nuit RVDgroep '") + groep +
                          QStringLiteral("' verwijderen!\r\n\r\nWeet u het zeker?"),
                 .antwoord = antwoord,
                 .titel = QStringLiteral("Verwijderen?"),
-                .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+                .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")},
+                .toelichting = spelers};
     }
     void VerwachtKlaar(int aantal)
     {
@@ -29,6 +31,7 @@ class frmVerwSubgroepTest : public Groepsproef<frmVerwSubgroep> {
 };
 
 const QString ClubNaam = QStringLiteral("Gr01-Clubleden & co");
+const QString ALijn = QStringLiteral("2 spelers:\nAn Bos\nEls Fuik");
 const QString OK = QStringLiteral("OK");
 
 } // namespace
@@ -73,7 +76,7 @@ TEST_F(frmVerwSubgroepTest, DezelfdeGroepNogEensKiezenBegintOpnieuw)
 TEST_F(frmVerwSubgroepTest, VerwijdertNaDeVraagEnVultDeLijstOpnieuw)
 {
     EXPECT_FALSE(venster->IetsVerwijderd());
-    wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, OK));
+    wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, OK, ALijn));
     VerwachtKlaar(2);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -84,7 +87,8 @@ TEST_F(frmVerwSubgroepTest, VerwijdertNaDeVraagEnVultDeLijstOpnieuw)
     EXPECT_EQ("100004", Cel(3, Kolom::Key));
     EXPECT_EQ("3", Cel(3, Kolom::Nr));
 
-    wachter.Verwacht(Vraag(QStringLiteral("geen"), ClubNaam, OK));
+    wachter.Verwacht(
+        Vraag(QStringLiteral("geen"), ClubNaam, OK, QStringLiteral("1 speler:\nDirk Eik")));
     VerwachtKlaar(1);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -99,7 +103,8 @@ TEST_F(frmVerwSubgroepTest, DeGekozenSubgroepVanDeGekozenGroep)
 {
     KiesGroep(5);
     Keus("cmbSubGr")->setCurrentIndex(1);
-    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK));
+    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK,
+                           QStringLiteral("1 speler:\nFred Gans")));
     VerwachtKlaar(1);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -114,7 +119,7 @@ TEST_F(frmVerwSubgroepTest, MetSpatiesEromheenWordtErNietsVerwijderd)
     administratie.spelers.tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", " x ", ""}});
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ((Teksten_t{"x"}), Teksten("cmbSubGr"));
-    wachter.Verwacht(Vraag(QStringLiteral("x"), ClubNaam, OK));
+    wachter.Verwacht(Vraag(QStringLiteral("x"), ClubNaam, OK, QStringLiteral("0 spelers")));
     VerwachtKlaar(0);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -127,7 +132,7 @@ TEST_F(frmVerwSubgroepTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
     const auto oud = AlleRijen(administratie.spelers.tabel);
     for (const QString& antwoord :
          {QStringLiteral("Annuleren"), Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
-        wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, antwoord));
+        wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, antwoord, ALijn));
         Klik(Knop("cmdVerwijder"));
         wachter.Klaar();
     }
@@ -148,7 +153,8 @@ TEST_F(frmVerwSubgroepTest, MetHetToetsenbordAlleen)
     toets(Qt::Key_Down);
     toets(Qt::Key_Tab);
     EXPECT_TRUE(Knop("cmdVerwijder")->hasFocus());
-    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK));
+    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK,
+                           QStringLiteral("1 speler:\nFred Gans")));
     VerwachtKlaar(1);
     toets(Qt::Key_Return);
     wachter.Klaar();

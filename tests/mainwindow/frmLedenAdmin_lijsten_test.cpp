@@ -486,7 +486,9 @@ TEST_F(LijstenTest, EenSubgroepVerwijderen)
         {.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'GEVORDERDEN'\r\nuit RVDgroep "
                                  "'Gr03-Jeugd' verwijderen!\r\n\r\nWeet u het zeker?"),
          .titel = QStringLiteral("Verwijderen?"),
-         .knoppen = {OK, QStringLiteral("Annuleren")}});
+         .knoppen = {OK, QStringLiteral("Annuleren")},
+         .toelichting = QStringLiteral("4 spelers:\nJesse Nijboersma\nIlse ten Broekhoven\n"
+                                       "Mees de Drieskens\nAïcha el Amranouï")});
     wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
     Klik(Knop("cmdVerwGroep"));
     wachter.Klaar();
@@ -512,7 +514,8 @@ TEST_F(LijstenTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
     wachter.Verwacht(
         {.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'A'\r\nuit RVDgroep "
                                  "'Gr01-Clubleden' verwijderen!\r\n\r\nWeet u het zeker?"),
-         .titel = QStringLiteral("Verwijderen?")});
+         .titel = QStringLiteral("Verwijderen?"),
+         .toelichting = QStringLiteral("1 speler:\nJan Bos")});
     wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 1 speler(s) verwijderd."));
     wachter.Informatie(registerBehouden);
     Klik(Knop("cmdVerwGroep"));
