@@ -30,8 +30,16 @@ Schuifblad::Schuifblad(QWidget* inhoud, QWidget* ouder) : QScrollArea(ouder)
     // Keys bring what they lead to into sight. Not the mouse: what is pressed must stay where it
     // is.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*was*/, QWidget* nu) {
-        if (widget()->isAncestorOf(nu) && QGuiApplication::mouseButtons() == Qt::NoButton)
-            ensureWidgetVisible(nu);
+        if (!widget()->isAncestorOf(nu) || QGuiApplication::mouseButtons() != Qt::NoButton)
+            return;
+        // Of what is larger than this area its beginning, wherever that stands now.
+        QSize half = nu->size() / 2;
+        if (nu->width() > viewport()->width())
+            half.setWidth(viewport()->width() / 4);
+        if (nu->height() > viewport()->height())
+            half.setHeight(viewport()->height() / 4);
+        const QPoint midden = nu->mapTo(widget(), QPoint()) + QPoint(half.width(), half.height());
+        ensureVisible(midden.x(), midden.y(), half.width(), half.height());
     });
 }
 
