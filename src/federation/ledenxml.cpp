@@ -82,7 +82,7 @@ class Ledenomzetter {
     {
         Lidrij lid;
         Tekst telefoon2;
-        std::size_t plaats = 0;
+        std::size_t plaats = *member.value() == '\0' ? 0 : 1; // a text at the front
         for (const pugi::xml_node& kind : member.children()) {
             if (IsWit(kind, bron_))
                 continue;
@@ -129,13 +129,40 @@ struct Ledendocument {
     std::string bron;
 };
 
+/// Calls `werk` for every member, in the order of the document.
+template <class Werk> void VoorElkLid(const pugi::xml_document& document, const Werk& werk)
+{
+    for (const pugi::xml_node& leden :
+         document.child("ReportableMembersList").children("Members")) {
+        for (const pugi::xml_node& lid : leden.children("ReportableMember"))
+            werk(lid);
+    }
+}
+
+/// Whether the text of some field stands in pieces, which no export does.
+bool HeeftStukken(const pugi::xml_document& document)
+{
+    bool gevonden = false;
+    VoorElkLid(document, [&](const pugi::xml_node& lid) {
+        for (const pugi::xml_node& kind : lid.children())
+            gevonden = gevonden || kind.first_child();
+    });
+    return gevonden;
+}
+
 Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Ledendocument& in)
 {
-    return LeesBegrensd(schijf, bestand)
-        .and_then([&](const Tekst& bytes) {
-            return OntleedXml(bytes, schijf.Toonpad(bestand), in.document);
-        })
-        .map([&](std::string bron) { in.bron = std::move(bron); });
+    const std::string pad = schijf.Toonpad(bestand);
+    auto bron = LeesBegrensd(schijf, bestand).and_then([&](Tekst bytes) {
+        return LeesXml(std::move(bytes), pad);
+    });
+    if (!bron)
+        return tl::unexpected(std::move(bron.error()));
+    in.bron = std::move(*bron);
+    auto ontleed = OntleedXml(in.bron, pad, in.document, Xmlwit::Weg);
+    return ontleed && HeeftStukken(in.document)
+               ? OntleedXml(in.bron, pad, in.document, Xmlwit::Blijft)
+               : ontleed;
 }
 
 Uitkomst<Xmlomzetting> Converteer(const Ledendocument& van, Nbbversie versie, Schijf& schijf,
@@ -144,14 +171,11 @@ Uitkomst<Xmlomzetting> Converteer(const Ledendocument& van, Nbbversie versie, Sc
     constexpr std::size_t elkeZoveel = 4096;
     Ledenomzetter omzetter(versie, van.bron);
     std::size_t gedaan = 0;
-    const auto lijst = van.document.child("ReportableMembersList");
-    for (const pugi::xml_node& leden : lijst.children("Members")) {
-        for (const pugi::xml_node& lid : leden.children("ReportableMember")) {
-            omzetter.VoegToe(lid);
-            if (++gedaan % elkeZoveel == 0 && voortgang)
-                voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
-        }
-    }
+    VoorElkLid(van.document, [&](const pugi::xml_node& lid) {
+        omzetter.VoegToe(lid);
+        if (++gedaan % elkeZoveel == 0 && voortgang)
+            voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
+    });
     return SchrijfTussenregels(schijf, tussenbestand, omzetter.NeemRegels()).map([&] {
         return Xmlomzetting{omzetter.Vervangen(), std::nullopt};
     });

@@ -23,7 +23,7 @@ constexpr auto nergens = std::string_view::npos;
 /// beside the outermost element so that they can be refused.
 constexpr unsigned Ontleedwijze = pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol |
                                   pugi::parse_comments | pugi::parse_pi | pugi::parse_doctype |
-                                  pugi::parse_fragment | pugi::parse_ws_pcdata;
+                                  pugi::parse_fragment;
 
 /// What is wrong with a document, and at which byte of its text.
 struct Xmlfout {
@@ -69,49 +69,17 @@ bool IsEenVan(Tekstblik naam, std::initializer_list<Tekstblik> namen)
     return std::find(namen.begin(), namen.end(), naam) != namen.end();
 }
 
-/// Where the first character stands that XML does not allow, or half a pair; negative for none.
-qsizetype EersteVerkeerde(QStringView tekst)
+/// Where the first character stands that XML does not allow.
+std::size_t EersteVerkeerde(std::string_view utf8)
 {
-    for (qsizetype i = 0; i < tekst.size(); ++i) {
-        const QChar teken = tekst[i];
-        if (teken.isHighSurrogate() && i + 1 < tekst.size() && tekst[i + 1].isLowSurrogate())
-            ++i;
-        else if ((teken < u' ' && teken != u'\t' && teken != u'\n' && teken != u'\r') ||
-                 teken.isSurrogate() || teken >= QChar(0xFFFE))
-            return i;
-    }
-    return -1;
-}
-
-/// The whole file in UTF-8, without its mark.
-Uitkomst<std::string> NaarXmltekst(Tekstblik bytes, const std::string& bestand)
-{
-    const QByteArrayView alles(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    const auto herkend = QStringConverter::encodingForData(alles, u'<');
-    const Tekst naam = herkend ? Tekst() : Gedeclareerd(bytes);
-    const bool utf32 = herkend && *herkend >= QStringConverter::Utf32;
-    QString tekst;
-    qsizetype verkeerd = -1;
-    if (IsEenVan(naam, {"WINDOWS-1252", "CP1252", "CP-1252", "X-CP1252", "US-ASCII", "ASCII",
-                        "ISO-8859-1", "ISO8859-1", "LATIN1"})) {
-        tekst = QString::fromStdU16String(NaarUtf16(bytes));
-    } else if (!utf32 && IsEenVan(naam, {"", "UTF-8", "UTF8", "UTF-16"})) {
-        QStringDecoder lezer(herkend.value_or(QStringConverter::Utf8),
-                             QStringConverter::Flag::Stateless);
-        tekst = lezer(alles);
-        if (lezer.hasError())
-            verkeerd = tekst.indexOf(QChar(QChar::ReplacementCharacter));
-    } else {
-        return tl::unexpected(Leesfout(
-            {}, bestand, {0, "de codering is onbekend: " + (utf32 ? "UTF-32" : NaarUtf8(naam))}));
-    }
-    if (verkeerd < 0)
-        verkeerd = EersteVerkeerde(tekst);
-    if (verkeerd < 0)
-        return tekst.toStdString();
-    const std::string tot = tekst.left(verkeerd).toStdString();
-    return tl::unexpected(
-        Leesfout(tot, bestand, {tot.size(), "hier staat geen teken dat in XML mag"}));
+    const auto stuurteken = std::find_if(utf8.begin(), utf8.end(), [](char teken) {
+        return static_cast<unsigned char>(teken) < ' ' && teken != '\t' && teken != '\n' &&
+               teken != '\r';
+    });
+    const auto plaats = static_cast<std::size_t>(stuurteken - utf8.begin());
+    const auto voor = utf8.substr(0, plaats); // and two that are characters of no kind
+    const auto geen = std::min(voor.find("\xEF\xBF\xBE"), voor.find("\xEF\xBF\xBF"));
+    return geen != nergens ? geen : plaats == utf8.size() ? nergens : plaats;
 }
 
 // ---- References --------------------------------------------------------------------------------
@@ -120,13 +88,13 @@ bool IsBekendGetal(std::string_view cijfers)
 {
     const bool zestientallig = cijfers.starts_with('x');
     cijfers.remove_prefix(zestientallig ? 1 : 0);
-    char32_t teken = 0;
     std::uint32_t getal = 0;
     const char* const eind = cijfers.data() + cijfers.size();
     const auto [tot, fout] = std::from_chars(cijfers.data(), eind, getal, zestientallig ? 16 : 10);
-    teken = getal;
-    return fout == std::errc() && tot == eind && teken <= 0x10FFFF &&
-           EersteVerkeerde(QString::fromUcs4(&teken, 1)) < 0;
+    const bool teken = getal >= ' ' ? getal < 0xD800 || (getal > 0xDFFF && getal < 0xFFFE) ||
+                                          (getal > 0xFFFF && getal <= 0x10FFFF)
+                                    : getal == '\t' || getal == '\n' || getal == '\r';
+    return fout == std::errc() && tot == eind && teken;
 }
 
 /// Whether the text behind a "&" is a reference that the parser puts right.
@@ -147,6 +115,11 @@ std::optional<Xmlfout> OnbekendeVerwijzing(std::string_view bron)
 {
     using Sectie = std::pair<std::string_view, std::string_view>;
     constexpr std::array<Sectie, 3> secties{{{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
+    std::size_t eerste = bron.find('&');
+    while (eerste != nergens && IsBekend(bron.substr(eerste + 1)))
+        eerste = bron.find('&', eerste + 1);
+    if (eerste == nergens) // as good as always, and quickly seen
+        return std::nullopt;
     for (std::size_t plaats = 0; plaats < bron.size(); ++plaats) {
         if (bron[plaats] == '&' && !IsBekend(bron.substr(plaats + 1))) {
             const std::string_view naam = bron.substr(plaats, 32);
@@ -232,24 +205,57 @@ struct Tekstvanger : pugi::xml_tree_walker {
 
 } // namespace
 
-Uitkomst<std::string> OntleedXml(Tekstblik bytes, const std::string& bestand,
-                                 pugi::xml_document& document)
+Uitkomst<std::string> LeesXml(Tekst bytes, const std::string& bestand)
 {
-    auto bron = NaarXmltekst(bytes, bestand);
-    if (!bron)
-        return bron;
-    const auto ontleed =
-        document.load_buffer(bron->data(), bron->size(), Ontleedwijze, pugi::encoding_utf8);
+    const QByteArrayView alles(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    const auto herkend = QStringConverter::encodingForData(alles, u'<');
+    const auto codering = herkend.value_or(QStringConverter::Utf8);
+    const Tekst naam = herkend ? Tekst() : Gedeclareerd(bytes);
+    const bool utf32 = codering >= QStringConverter::Utf32;
+    std::string tekst;
+    std::size_t verkeerd = nergens;
+    if (IsEenVan(naam, {"WINDOWS-1252", "CP1252", "CP-1252", "X-CP1252", "US-ASCII", "ASCII",
+                        "ISO-8859-1", "ISO8859-1", "LATIN1"})) {
+        tekst = NaarUtf8(bytes);
+    } else if (utf32 || !IsEenVan(naam, {"", "UTF-8", "UTF8", "UTF-16"})) {
+        return tl::unexpected(Leesfout(
+            {}, bestand, {0, "de codering is onbekend: " + (utf32 ? "UTF-32" : NaarUtf8(naam))}));
+    } else if (codering == QStringConverter::Utf8 && QUtf8StringView(alles).isValidUtf8()) {
+        tekst = std::move(bytes);
+        tekst.erase(0, herkend ? 3 : 0); // it is recognised by its mark only
+    } else {
+        QStringDecoder lezer(codering, QStringConverter::Flag::Stateless);
+        const QString gelezen = lezer(alles);
+        tekst = gelezen.toStdString();
+        if (lezer.hasError() || !gelezen.isValidUtf16()) {
+            // U+FFFD stands for what could not be read, and now for half a pair too.
+            tekst = QString::fromStdU32String(gelezen.toStdU32String()).toStdString();
+            verkeerd = tekst.find("\xEF\xBF\xBD");
+        }
+    }
+    verkeerd = std::min(verkeerd, EersteVerkeerde(tekst));
+    if (verkeerd == nergens)
+        return tekst;
+    return tl::unexpected(
+        Leesfout(tekst, bestand, {verkeerd, "hier staat geen teken dat in XML mag"}));
+}
+
+Uitkomst<void> OntleedXml(std::string_view bron, const std::string& bestand,
+                          pugi::xml_document& document, Xmlwit wit)
+{
+    const unsigned hoe =
+        Ontleedwijze | (wit == Xmlwit::Weg ? pugi::parse_embed_pcdata : pugi::parse_ws_pcdata);
+    const auto ontleed = document.load_buffer(bron.data(), bron.size(), hoe, pugi::encoding_utf8);
     std::optional<Xmlfout> fout;
     if (!ontleed)
         fout = {static_cast<std::size_t>(ontleed.offset), Oorzaak(ontleed.status)};
     if (!fout)
-        fout = KeurBuitenste(document, *bron);
+        fout = KeurBuitenste(document, bron);
     if (!fout)
-        fout = OnbekendeVerwijzing(*bron);
+        fout = OnbekendeVerwijzing(bron);
     if (fout)
-        return tl::unexpected(Leesfout(*bron, bestand, *fout));
-    return bron;
+        return tl::unexpected(Leesfout(bron, bestand, *fout));
+    return {};
 }
 
 bool IsWit(const pugi::xml_node& knoop, std::string_view bron)
@@ -263,9 +269,15 @@ bool IsWit(const pugi::xml_node& knoop, std::string_view bron)
 
 std::size_t LeesTekst(const pugi::xml_node& element, std::string_view bron, Tekst& uit)
 {
-    Tekstvanger vanger(bron);
-    pugi::xml_node(element).traverse(vanger);
-    auto omgezet = vanger.alleenWit ? Omzetting() : Utf8NaarCodepagina(vanger.utf8);
+    Omzetting omgezet;
+    if (element.first_child()) {
+        Tekstvanger vanger(bron);
+        pugi::xml_node(element).traverse(vanger);
+        if (!vanger.alleenWit)
+            omgezet = Utf8NaarCodepagina(vanger.utf8);
+    } else {
+        omgezet = Utf8NaarCodepagina(element.value());
+    }
     uit = std::move(omgezet.tekst);
     return omgezet.vervangen.size();
 }
