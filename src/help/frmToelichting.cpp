@@ -4,7 +4,6 @@
 
 #include "help/tekstblad.h"
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/leesvak.h"
 #include "platform/scherm/letterkast.h"
 
 namespace plexoran {

@@ -2,9 +2,8 @@
 
 #include <QVBoxLayout>
 
-#include "platform/scherm/leesvak.h"
+#include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/letterkast.h"
-#include "platform/scherm/maten.h"
 
 namespace plexoran {
 namespace {

@@ -9,7 +9,7 @@
 #include "afbeeldingen/vensterronde.h"
 #include "hulp/proefstand.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "platform/scherm/frmBericht.h"
+#include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
 
 namespace plexoran {

@@ -52,4 +52,13 @@ void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats);
 /// Tells which names the disk left out of its lists of this folder, each once.
 void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map);
 
+/// A report that is too long for a message box: it scrolls and can be copied.
+class frmBericht : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// `icoon` is null for none.
+    frmBericht(const QString& tekst, const QString& titel, const QPixmap& icoon, QWidget* ouder);
+};
+
 } // namespace plexoran

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -87,6 +88,18 @@ class Kortknop : public Knop {
     Noem(label, naam);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+/// A text to read: it scrolls, and can be selected and copied by mouse and keyboard.
+[[nodiscard]] inline QPlainTextEdit* MaakLeesvak(const QString& naam, const QString& gesproken,
+                                                 const QString& tekst, QWidget* ouder)
+{
+    auto* vak = new QPlainTextEdit(tekst, ouder);
+    Noem(vak, naam, gesproken);
+    vak->setReadOnly(true);
+    vak->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    vak->setTabChangesFocus(true);
+    return vak;
 }
 
 /// A tool tip that shows a text of the user as it is; Qt would take its "<" for layout.

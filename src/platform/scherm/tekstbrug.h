@@ -7,13 +7,22 @@
 
 namespace plexoran {
 
-[[nodiscard]] QString NaarQString(Tekstblik tekst);
+[[nodiscard]] inline QString NaarQString(Tekstblik tekst)
+{
+    return QString::fromStdU16String(NaarUtf16(tekst));
+}
 
 /// The bytes of a text that a `Tekstvak` let through or that this program wrote itself; anything
 /// else becomes the nearest letters.
-[[nodiscard]] Tekst NaarTekst(const QString& tekst);
+[[nodiscard]] inline Tekst NaarTekst(const QString& tekst)
+{
+    return NaarCodepagina(tekst.toStdU16String()).tekst;
+}
 
 /// A text of the user on a button or label that has a mnemonic: its "&" is shown as it is.
-[[nodiscard]] QString ZonderSneltoets(const QString& tekst);
+[[nodiscard]] inline QString ZonderSneltoets(const QString& tekst)
+{
+    return QString(tekst).replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
 
 } // namespace plexoran
