@@ -132,9 +132,8 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     Label1 = MaakLabel(QStringLiteral("Label1"), QStringLiteral("Kies spelergroep:"), boven);
     Label1->adjustSize();
     Label1->move(maten_.Twips(KeuzeLinks), maten_.Twips(Label1Boven));
-    cmbGr = new QComboBox(boven);
-    Noem(cmbGr, QStringLiteral("cmbGr"), QStringLiteral("Spelergroep"));
-    Label1->setBuddy(cmbGr);
+    cmbGr = MaakKeus(QStringLiteral("cmbGr"), Label1, boven);
+    cmbGr->setAccessibleName(QStringLiteral("Spelergroep"));
     cmbGr->setMaxVisibleItems(25);
     cmbGr->setGeometry(maten_.Twips(KeuzeLinks), maten_.Twips(GroepBoven), maten_.Twips(GroepBreed),
                        cmbGr->sizeHint().height());

@@ -192,6 +192,23 @@ TEST_F(UiterlijkTest, VanEenLangOpschriftStaatHetBeginOpDeKnop)
     EXPECT_EQ("Print deze groep: Gr01-" + std::string(3000, 'x') + " ...", Opschrift(knop));
 }
 
+TEST_F(UiterlijkTest, EenLangeGroepsnaamEindigtOpDeKeusInEenBeletselteken)
+{
+    suite.Zet("Spelers/RVDGroepen.txt", "Gr01-" + std::string(3000, 'x') + "\r\n");
+    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    auto* keus = Vind<QComboBox>(*venster, "cmbGr");
+    Tekstvanger vanger(keus->size());
+    keus->render(&vanger, {}, {}, QWidget::RenderFlags());
+    std::string getekend;
+    for (const Getekend& deel : vanger.Teksten()) {
+        EXPECT_LE(deel.x + deel.breed, keus->width());
+        getekend += deel.tekst;
+    }
+    EXPECT_TRUE(getekend.starts_with("Gr01-xxx")) << getekend;
+    EXPECT_TRUE(getekend.ends_with("x…")) << getekend;
+    EXPECT_EQ("Gr01-" + std::string(3000, 'x'), keus->toolTip().toStdString());
+}
+
 TEST_F(UiterlijkTest, ElkeOpdrachtIsMetTabTeBereiken)
 {
     ASSERT_NO_FATAL_FAILURE(Start(1024, 700));

@@ -115,11 +115,33 @@ inline void ZetWenk(QWidget* widget, const QString& tekst)
     widget->setToolTip(Wenk(tekst));
 }
 
+/// Shows the beginning of a line that does not fit; Qt would cut through a letter.
+class Kortkeus : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+
+  protected:
+    void paintEvent(QPaintEvent* /*gebeurtenis*/) override
+    {
+        QStylePainter schilder(this);
+        schilder.setPen(palette().color(QPalette::Text));
+        QStyleOptionComboBox keus;
+        initStyleOption(&keus);
+        schilder.drawComplexControl(QStyle::CC_ComboBox, keus);
+        const QRect ruimte =
+            style()->subControlRect(QStyle::CC_ComboBox, &keus, QStyle::SC_ComboBoxEditField, this);
+        constexpr int rand = 2; // that styles leave beside the text
+        keus.currentText =
+            fontMetrics().elidedText(keus.currentText, Qt::ElideRight, ruimte.width() - rand);
+        schilder.drawControl(QStyle::CE_ComboBoxLabel, keus);
+    }
+};
+
 /// A drop-down that belongs to a label. It keeps its width whatever its lines hold; its tool tip is
 /// that of the line it shows.
 [[nodiscard]] inline QComboBox* MaakKeus(const QString& naam, QLabel* label, QWidget* ouder)
 {
-    auto* keus = new QComboBox(ouder);
+    auto* keus = new Kortkeus(ouder);
     Noem(keus, naam);
     keus->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     label->setBuddy(keus);
