@@ -180,7 +180,7 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
         std::size_t gelezen = 0;
         while (gelezen < namen.size() && !voortgang.Gestopt()) {
             const std::size_t i = gelezen++; // is read to its end, also when the user stops
-            voortgang.ZetTekst(
+            voortgang.setLabelText(
                 QStringLiteral("Ledenbestand wordt gelezen: %1").arg(NaarQString(namen[i])));
             const auto melder = [&](std::size_t gedaan, std::size_t geheel) {
                 // Each file is one step, of which this is the part that is done.

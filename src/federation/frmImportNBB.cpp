@@ -15,10 +15,8 @@ frmImportNBB::frmImportNBB(Administratie& administratie, Importgeheugen& geheuge
 
 void frmImportNBB::reject()
 {
-    if (!bezigheid_)
+    if (!bezig_)
         QDialog::reject();
-    else if (cmdStop->isVisible())
-        Stop();
 }
 
 } // namespace plexoran

@@ -14,9 +14,7 @@
 
 #include "federation/ledenbestand.h"
 #include "federation/samenvoegen.h"
-#include "platform/scherm/bezigheid.h"
 #include "platform/scherm/regellijst.h"
-#include "platform/scherm/voortgangsbalk.h"
 #include "register/administratie.h"
 
 namespace plexoran {
@@ -39,7 +37,7 @@ class frmImportNBB : public QDialog {
     /// Of reading the database; asked for when a source is chosen.
     void ZetGrenzen(const Accessgrenzen& grenzen) { grenzen_ = grenzen; }
 
-    /// While an import runs the window stays: closing it asks the import to stop.
+    /// Not while an import runs.
     void reject() override;
 
   private:
@@ -54,7 +52,6 @@ class frmImportNBB : public QDialog {
     QGroupBox* BouwGegevens();
     QWidget* BouwKeuze();
     QWidget* BouwHulp();
-    QWidget* BouwOnderkant();
     void StelTabvolgordeIn();
     void Verbind();
 
@@ -86,10 +83,6 @@ class frmImportNBB : public QDialog {
     void MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezing& lezing);
     void MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing, const Samenvoeging& uitkomst);
     void MeldAfgebroken(const Tekst& naam, Samenvoegfout fout);
-    void Stop();
-    void ZetBezig(bool bezig);
-    [[nodiscard]] Voortgang MaakVoortgang(const QString& wat);
-    void ToonGereed(const QString& wat);
 
     Administratie& administratie_;
     Importgeheugen& geheugen_;
@@ -99,10 +92,8 @@ class frmImportNBB : public QDialog {
     Accessgrenzen grenzen_;
     std::vector<Tekst> namen_; ///< the entries of lstNBBbest
     bool ietsGewijzigd_ = false;
-    bool gestopt_ = false;               ///< the user asked the run to stop
-    std::optional<Bezigheid> bezigheid_; ///< while an import runs
+    bool bezig_ = false; ///< an import runs
 
-    QWidget* inhoud_ = nullptr; ///< all that cannot be used while an import runs
     QLabel* lblOpening = nullptr;
     QRadioButton* Option1 = nullptr;
     QRadioButton* Option2 = nullptr;
@@ -126,9 +117,6 @@ class frmImportNBB : public QDialog {
     QPushButton* cmdHelpImport31 = nullptr;
     QPushButton* cmdHelpImport4 = nullptr;
     QPushButton* cmbHelpCSV = nullptr;
-    QLabel* lblVoortgang = nullptr;
-    Voortgangsbalk* prgVoortgang = nullptr;
-    QPushButton* cmdStop = nullptr;
     QPushButton* cmdAnnuleren = nullptr;
     QPushButton* cmdImporteer = nullptr;
 };

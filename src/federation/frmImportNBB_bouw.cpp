@@ -112,7 +112,6 @@ void frmImportNBB::MaakHulpknoppen()
     cmdHelpImport4 =
         knop(u"cmdHelpImport4", u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?", u'4');
     cmbHelpCSV = knop(u"cmbHelpCSV", u"Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?", u'V');
-    cmdStop = knop(u"cmdStop", u"Stoppen", u'S');
     cmdAnnuleren = knop(u"cmdAnnuleren", u"Terug", u'T');
     cmdImporteer = knop(u"cmdImporteer", u"Importeer", u'I');
     cmdImporteer->setDefault(true);
@@ -123,9 +122,9 @@ void frmImportNBB::Bouw()
     setObjectName(QStringLiteral("frmImportNBB"));
     setWindowTitle(QStringLiteral("Importeer een NBB-ledenbestand"));
     MaakDelen();
-    inhoud_ = new QWidget(this);
+    auto* inhoud = new QWidget(this);
     lblOpening = MaakLopendeTekst(QStringLiteral("lblOpening"),
-                                  Openingstekst(administratie_.mappen.DFIMPG), inhoud_);
+                                  Openingstekst(administratie_.mappen.DFIMPG), inhoud);
 
     auto* links = new QVBoxLayout;
     links->addWidget(BouwBronnen());
@@ -135,14 +134,14 @@ void frmImportNBB::Bouw()
     kolommen->addLayout(links);
     kolommen->addWidget(BouwKeuze(), 1);
 
-    auto* lagen = new QVBoxLayout(inhoud_);
+    auto* lagen = new QVBoxLayout(inhoud);
     lagen->setContentsMargins(0, 0, 0, 0);
     lagen->addWidget(lblOpening);
     lagen->addLayout(kolommen, 1);
     lagen->addWidget(BouwHulp());
     auto* geheel = new QVBoxLayout(this);
-    geheel->addWidget(new Schuifblad(inhoud_, this), 1);
-    geheel->addWidget(BouwOnderkant());
+    geheel->addWidget(new Schuifblad(inhoud, this), 1);
+    geheel->addLayout(Knoppenrij({cmdAnnuleren, cmdImporteer}));
     StelTabvolgordeIn();
     const Maten maten;
     PasInScherm(this, {maten.Twips(12600), maten.Twips(9900)});
@@ -150,7 +149,7 @@ void frmImportNBB::Bouw()
 
 QGroupBox* frmImportNBB::BouwBronnen()
 {
-    auto* Frame3 = new QGroupBox(QStringLiteral("Haal de spelers op:"), inhoud_);
+    auto* Frame3 = new QGroupBox(QStringLiteral("Haal de spelers op:"), this);
     Noem(Frame3, QStringLiteral("Frame3"));
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, Frame3);
@@ -174,7 +173,7 @@ QGroupBox* frmImportNBB::BouwBronnen()
 
 QGroupBox* frmImportNBB::BouwGegevens()
 {
-    auto* Frame1 = new QGroupBox(QStringLiteral("Spelergegevens importeren"), inhoud_);
+    auto* Frame1 = new QGroupBox(QStringLiteral("Spelergegevens importeren"), this);
     Noem(Frame1, QStringLiteral("Frame1"));
     auto* Frame2 = new QGroupBox(QStringLiteral("Naar keus inclusief:"), Frame1);
     Noem(Frame2, QStringLiteral("Frame2"));
@@ -189,7 +188,7 @@ QGroupBox* frmImportNBB::BouwGegevens()
 
 QWidget* frmImportNBB::BouwKeuze()
 {
-    auto* keuze = new QWidget(inhoud_);
+    auto* keuze = new QWidget(this);
     lblExportMap = MaakLopendeTekst(QStringLiteral("lblExportMap"), QString(), keuze);
     lstNBBbest = new Regellijst(QListView::MultiSelection, keuze);
     Label3 = MaakLabel(QStringLiteral("Label3"), QString(), keuze);
@@ -218,7 +217,7 @@ QWidget* frmImportNBB::BouwKeuze()
 
 QWidget* frmImportNBB::BouwHulp()
 {
-    auto* hulp = new QWidget(inhoud_);
+    auto* hulp = new QWidget(this);
     auto* vakken = new QGridLayout(hulp);
     vakken->setContentsMargins(0, 0, 0, 0);
     vakken->addWidget(cmdHelpImport28, 0, 0);
@@ -229,33 +228,11 @@ QWidget* frmImportNBB::BouwHulp()
     return hulp;
 }
 
-/// What tells of a running import keeps its place when none runs.
-QWidget* frmImportNBB::BouwOnderkant()
-{
-    auto* onder = new QWidget(this);
-    lblVoortgang = MaakLabel(QStringLiteral("lblVoortgang"), QString(), onder);
-    lblVoortgang->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    prgVoortgang = new Voortgangsbalk(QStringLiteral("prgVoortgang"), onder);
-    auto* rij = new QHBoxLayout(onder);
-    rij->setContentsMargins(0, 0, 0, 0);
-    rij->addWidget(lblVoortgang, 1);
-    rij->addWidget(prgVoortgang, 1);
-    for (QPushButton* knop : {cmdStop, cmdAnnuleren, cmdImporteer})
-        rij->addWidget(knop);
-    for (QWidget* deel : std::initializer_list<QWidget*>{lblVoortgang, prgVoortgang, cmdStop}) {
-        QSizePolicy beleid = deel->sizePolicy();
-        beleid.setRetainSizeWhenHidden(true);
-        deel->setSizePolicy(beleid);
-        deel->hide();
-    }
-    return onder;
-}
-
 void frmImportNBB::StelTabvolgordeIn()
 {
     ZetTabvolgorde({Option1, Option2, Option3, Option4, chkNAW, chkTel, chkEmail, chkMV,
                     cmdKiesExportMap, lstNBBbest, cmdControleNBBnrs, cmdHelpImport28,
-                    cmdHelpImport31, cmbHelpCSV, cmdHelpImport4, cmdHint, cmdStop, cmdAnnuleren,
+                    cmdHelpImport31, cmbHelpCSV, cmdHelpImport4, cmdHint, cmdAnnuleren,
                     cmdImporteer});
 }
 
@@ -269,7 +246,6 @@ void frmImportNBB::Verbind()
     connect(cmdControleNBBnrs, &QPushButton::clicked, this, &frmImportNBB::ControleerNBBnrs);
     connect(cmdImporteer, &QPushButton::clicked, this, &frmImportNBB::ImporteerLedenbestanden);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::close);
-    connect(cmdStop, &QPushButton::clicked, this, &frmImportNBB::Stop);
 }
 
 } // namespace plexoran

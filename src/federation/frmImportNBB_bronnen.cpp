@@ -175,13 +175,13 @@ void frmImportNBB::KiesDatabase()
                             "Start Plexoran opnieuw en kies dan het rekenprogramma."));
         return;
     }
-    ZetBezig(true);
-    cmdStop->hide(); // it is over within seconds, and cannot be stopped
-    auto namen = HaalLedenbestanden(LedenDatabase_,
-                                    MaakVoortgang(QStringLiteral("De ledenbestanden worden "
-                                                                 "opgehaald ...")),
-                                    grenzen_);
-    ZetBezig(false);
+    const Wachtcursor wacht;
+    auto namen = HaalLedenbestanden(
+        LedenDatabase_,
+        // It is over within seconds, and cannot be stopped.
+        frmVoortgang(QStringLiteral("De ledenbestanden worden opgehaald ..."), {}, this)
+            .AlsVoortgang(),
+        grenzen_);
     if (!namen)
         MeldFout(this, QMessageBox::Warning, Lijstfouttekst(namen.error()), namen.error());
     else if (namen->empty())

@@ -1,11 +1,11 @@
 // The import run: every chosen member file is read, asked about and merged.
-#include <QCoreApplication>
 #include <QGuiApplication>
 
 #include "federation/frmImportNBB.h"
 #include "federation/leesfoutmelding.h"
 #include "platform/regels.h"
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
@@ -34,50 +34,6 @@ template <class Reeks> QString Toonbaar(const Reeks& regels)
 
 } // namespace
 
-/// While a run lasts nothing can be used but the button that stops it.
-void frmImportNBB::ZetBezig(bool bezig)
-{
-    if (bezig) {
-        gestopt_ = false;
-        bezigheid_.emplace(*this, std::vector<QWidget*>{inhoud_, cmdAnnuleren, cmdImporteer});
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    } else {
-        QGuiApplication::restoreOverrideCursor();
-    }
-    cmdStop->setEnabled(bezig);
-    for (QWidget* deel : std::initializer_list<QWidget*>{lblVoortgang, prgVoortgang, cmdStop})
-        deel->setVisible(bezig);
-    if (!bezig)
-        bezigheid_.reset();
-}
-
-/// Shows how far the work is and lets the window live. The answer is whether it may go on.
-Voortgang frmImportNBB::MaakVoortgang(const QString& wat)
-{
-    lblVoortgang->setText(wat);
-    prgVoortgang->Begin();
-    QCoreApplication::processEvents();
-    return [this](std::size_t gedaan, std::size_t geheel) {
-        if (prgVoortgang->Zet(gedaan, geheel))
-            QCoreApplication::processEvents();
-        return !gestopt_;
-    };
-}
-
-void frmImportNBB::Stop()
-{
-    gestopt_ = true;
-    cmdStop->setEnabled(false);
-    lblVoortgang->setText(QStringLiteral("Het importeren wordt gestopt ..."));
-}
-
-/// A bar at rest: while the user answers a box nothing moves.
-void frmImportNBB::ToonGereed(const QString& wat)
-{
-    lblVoortgang->setText(wat);
-    prgVoortgang->Rust();
-}
-
 void frmImportNBB::ImporteerLedenbestanden()
 {
     const auto gekozen = GekozenBestanden();
@@ -87,13 +43,15 @@ void frmImportNBB::ImporteerLedenbestanden()
     }
     const Ledenopdracht opdracht = Opdracht();
     auto verloop = Verloop::Verder;
-    ZetBezig(true);
+    bezig_ = true;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     for (const Tekst& naam : gekozen) {
         verloop = LeesEnImporteer(opdracht, naam);
         if (verloop == Verloop::Afgebroken)
             break;
     }
-    ZetBezig(false);
+    QGuiApplication::restoreOverrideCursor();
+    bezig_ = false;
     if (verloop == Verloop::Verder)
         accept();
 }
@@ -101,21 +59,22 @@ void frmImportNBB::ImporteerLedenbestanden()
 frmImportNBB::Verloop frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdracht,
                                                     const Tekst& naam)
 {
-    auto lezing = LeesLedenbestand(
-        administratie_.schijf, opdracht, naam,
-        MaakVoortgang(QStringLiteral("'%1' wordt gelezen ...").arg(NaarQString(naam))));
+    frmVoortgang voortgang(QStringLiteral("'%1' wordt gelezen ...").arg(NaarQString(naam)),
+                           QStringLiteral("&Stoppen"), this);
+    connect(&voortgang, &frmVoortgang::canceled, &voortgang,
+            [&] { voortgang.setLabelText(QStringLiteral("Het importeren wordt gestopt ...")); });
+    auto lezing = LeesLedenbestand(administratie_.schijf, opdracht, naam, voortgang.AlsVoortgang());
+    voortgang.hide();
     RuimTussenbestandOp(opdracht, naam);
-    if (gestopt_) {
+    if (voortgang.Gestopt()) {
         MeldAfgebroken(naam, Samenvoegfout::Gestopt);
         return Verloop::Afgebroken;
     }
     if (!lezing) {
-        ToonGereed(QStringLiteral("'%1' is niet gelezen.").arg(NaarQString(naam)));
         Meld(this, QMessageBox::Warning,
              Leesfouttekst(opdracht.bron, naam, lezing.error(), Leesdoel::Import));
         return Verloop::Afgebroken;
     }
-    ToonGereed(QStringLiteral("'%1' is gelezen.").arg(NaarQString(naam)));
     MeldVooraf(opdracht.bron, naam, *lezing);
     return ImporteerEenBestand(naam, std::move(*lezing));
 }
@@ -178,22 +137,19 @@ frmImportNBB::Verloop frmImportNBB::ImporteerEenBestand(const Tekst& naam, Leden
         return Verloop::Verder;
     const Samenvoegopdracht opdracht{
         .importgroep = importgroep, .subgroep = subgroep, .lstN1 = std::move(lezing.lstN1)};
-    const Voortgang voortgang =
-        MaakVoortgang(QStringLiteral("'%1' wordt geïmporteerd ...").arg(NaarQString(naam)));
-    if (gestopt_) { // while its caption was shown
-        MeldAfgebroken(naam, Samenvoegfout::Gestopt);
-        return Verloop::Afgebroken;
-    }
-    const auto uitkomst = VoegLedenSamen(administratie_.spelers, opdracht, voortgang);
+    const auto uitkomst = VoegLedenSamen(
+        administratie_.spelers, opdracht,
+        frmVoortgang(QStringLiteral("'%1' wordt geïmporteerd ...").arg(NaarQString(naam)),
+                     QStringLiteral("&Stoppen"), this)
+            .AlsVoortgang());
     if (!uitkomst) {
         MeldAfgebroken(naam, uitkomst.error());
         return Verloop::Afgebroken;
     }
     if (uitkomst->AantalVerververst + uitkomst->AantalNieuw > 0)
         ietsGewijzigd_ = true;
-    ToonGereed(QStringLiteral("'%1' is geïmporteerd.").arg(NaarQString(naam)));
     MeldUitkomst(naam, lezing, *uitkomst);
-    return gestopt_ ? Verloop::Afgebroken : Verloop::Verder;
+    return Verloop::Verder;
 }
 
 /// The two boxes of every import, then one for all that nobody would see otherwise.

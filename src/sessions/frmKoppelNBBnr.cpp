@@ -1,8 +1,6 @@
 // The linking window: what there is to choose from, and what is chosen.
 #include "sessions/frmKoppelNBBnr.h"
 
-#include <QApplication>
-#include <QCloseEvent>
 #include <QScrollBar>
 #include <QStyle>
 #include <QTimer>
@@ -11,7 +9,6 @@
 
 #include "platform/klok.h"
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/bezigheid.h"
 #include "platform/scherm/bouwstenen.h"
 #include "register/spelerbestand.h"
 
@@ -46,7 +43,6 @@ void frmKoppelNBBnr::Verbind()
             &frmKoppelNBBnr::PlaatsKoppen);
     connect(cmdKiesRVDspeler, &QPushButton::clicked, this, &frmKoppelNBBnr::KiesUitRegister);
     connect(cmdStartKoppelen, &QPushButton::clicked, this, &frmKoppelNBBnr::StartKoppelen);
-    connect(cmdStop, &QPushButton::clicked, this, [this] { stop_ = true; });
     connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
 }
 
@@ -64,20 +60,6 @@ void frmKoppelNBBnr::Laad()
 {
     LeesRegister();
     KiesSoort();
-}
-
-void frmKoppelNBBnr::reject()
-{
-    if (!bezig_)
-        QDialog::reject();
-}
-
-void frmKoppelNBBnr::closeEvent(QCloseEvent* gebeurtenis)
-{
-    if (bezig_)
-        gebeurtenis->ignore();
-    else
-        QDialog::closeEvent(gebeurtenis);
 }
 
 void frmKoppelNBBnr::KiesSoort()
@@ -221,39 +203,7 @@ void frmKoppelNBBnr::ToonSpeler()
 void frmKoppelNBBnr::ToonKnoppen()
 {
     cmdZoekNamen->setEnabled(cmbC->currentIndex() >= 0);
-    cmdStartKoppelen->setEnabled(!bezig_ && !txtSpeler->text().isEmpty() &&
-                                 !txtRVDspeler->text().isEmpty());
-}
-
-Voortgang frmKoppelNBBnr::MaakVoortgang(bool magStoppen)
-{
-    prgVoortgang->Begin();
-    return [this, magStoppen](std::size_t gedaan, std::size_t geheel) {
-        constexpr int geduld = 300;
-        if (prgVoortgang->Zet(gedaan, geheel)) {
-            if (prgVoortgang->Duur() > geduld) {
-                prgVoortgang->show();
-                cmdStop->setVisible(magStoppen);
-            }
-            QApplication::processEvents();
-        }
-        return !(magStoppen && stop_);
-    };
-}
-
-void frmKoppelNBBnr::Doe(bool magStoppen, const std::function<void(const Voortgang&)>& werk)
-{
-    const auto zetBezig = [this](bool bezig) {
-        bezig_ = bezig;
-        ToonKnoppen();
-    };
-    const Bezigheid bezigheid(*this, {Frame1, Frame2, Frame4, cmdEinde});
-    stop_ = false;
-    zetBezig(true);
-    werk(MaakVoortgang(magStoppen));
-    prgVoortgang->hide();
-    cmdStop->hide();
-    zetBezig(false);
+    cmdStartKoppelen->setEnabled(!txtSpeler->text().isEmpty() && !txtRVDspeler->text().isEmpty());
 }
 
 void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)

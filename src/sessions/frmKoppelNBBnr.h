@@ -10,10 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <functional>
-
 #include "platform/scherm/regellijst.h"
-#include "platform/scherm/voortgangsbalk.h"
 #include "register/administratie.h"
 #include "sessions/koppelen.h"
 
@@ -25,11 +22,7 @@ class frmKoppelNBBnr : public QDialog {
   public:
     frmKoppelNBBnr(Administratie& administratie, QWidget* ouder);
 
-    /// Not while files are being read or written.
-    void reject() override;
-
   protected:
-    void closeEvent(QCloseEvent* gebeurtenis) override;
     void showEvent(QShowEvent* gebeurtenis) override;
 
   private:
@@ -57,9 +50,6 @@ class frmKoppelNBBnr : public QDialog {
     void ToonKnoppen();
     void MeldLeesfout(const QString& wat, const Fout& fout);
     void ToonResultaat(const QStringList& regels);
-    /// Keeps the window alive during `werk` and shows how far it is when it takes long.
-    void Doe(bool magStoppen, const std::function<void(const Voortgang&)>& werk);
-    [[nodiscard]] Voortgang MaakVoortgang(bool magStoppen);
     [[nodiscard]] bool InCompetities() const { return Option2->isChecked(); }
     [[nodiscard]] const Zwevende* GekozenZwevende() const;
     [[nodiscard]] const Koppelspeler* GekozenSpeler() const;
@@ -84,12 +74,7 @@ class frmKoppelNBBnr : public QDialog {
     QString resultaat_;                 ///< shown unless the chosen name needs a warning
     bool gezochtInCompetitie_ = false;
     bool geladen_ = false;
-    bool bezig_ = false;
-    bool stop_ = false;
 
-    QGroupBox* Frame1 = nullptr;
-    QGroupBox* Frame2 = nullptr;
-    QGroupBox* Frame4 = nullptr;
     QRadioButton* Option1 = nullptr;
     QRadioButton* Option2 = nullptr;
     QLabel* Label4 = nullptr;
@@ -108,8 +93,6 @@ class frmKoppelNBBnr : public QDialog {
     QLineEdit* txtRVDspeler = nullptr;
     QPushButton* cmdStartKoppelen = nullptr;
     QLabel* lblResultaat = nullptr;
-    Voortgangsbalk* prgVoortgang = nullptr;
-    QPushButton* cmdStop = nullptr;
     QPushButton* cmdEinde = nullptr;
 };
 

@@ -83,7 +83,7 @@ void frmKoppelNBBnr::Bouw()
 
 QGroupBox* frmKoppelNBBnr::BouwKeuze()
 {
-    Frame1 = new QGroupBox(QStringLiteral("Wijziging van een NBBnr"), this);
+    auto* Frame1 = new QGroupBox(QStringLiteral("Wijziging van een NBBnr"), this);
     Noem(Frame1, QStringLiteral("Frame1"));
     Option1 =
         MaakOptie(QStringLiteral("Option1"), QStringLiteral("In losse Zittingen"), u't', Frame1);
@@ -149,7 +149,7 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
 
 QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 {
-    Frame2 = new QGroupBox(this);
+    auto* Frame2 = new QGroupBox(this);
     Noem(Frame2, QStringLiteral("Frame2"), QStringLiteral("Zwevende spelers"));
     Label11 = MaakLabel(QStringLiteral("Label11"), QString(), Frame2);
     lstSpelers = MaakLijst(QStringLiteral("lstSpelers"),
@@ -170,7 +170,7 @@ QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 
 QGroupBox* frmKoppelNBBnr::BouwRegister()
 {
-    Frame4 = new QGroupBox(this);
+    auto* Frame4 = new QGroupBox(this);
     Noem(Frame4, QStringLiteral("Frame4"), QStringLiteral("Spelers uit RVD"));
     const QString groep = NaarQString(administratie_.mappen.DFIMPG);
     cmdKiesRVDspeler = MaakKnop(QStringLiteral("cmdKiesRVDspeler"),
@@ -208,7 +208,7 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
 /// Placed over the columns of the list when its lines are known.
 QWidget* frmKoppelNBBnr::BouwKolomkoppen()
 {
-    kolomkoppen_ = new QWidget(Frame4);
+    kolomkoppen_ = new QWidget(this);
     Label7 = MaakLabel(QStringLiteral("Label7"), QStringLiteral("RVDnr"), kolomkoppen_);
     lblNaam = MaakLabel(QStringLiteral("lblNaam"), QStringLiteral("Naam"), kolomkoppen_);
     Label6 = MaakLabel(QStringLiteral("Label6"), QStringLiteral("NBBnr"), kolomkoppen_);
@@ -224,11 +224,7 @@ QLayout* frmKoppelNBBnr::BouwOnderkant()
     cmdStartKoppelen =
         MaakKnop(QStringLiteral("cmdStartKoppelen"),
                  QStringLiteral("OK als dit identieke spelers zijn ..."), u'O', this);
-    cmdStop = MaakKnop(QStringLiteral("cmdStop"), QStringLiteral("Stoppen"), u'S', this);
     cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Einde"), u'E', this);
-    prgVoortgang = new Voortgangsbalk(QStringLiteral("prgVoortgang"), this);
-    prgVoortgang->hide();
-    cmdStop->hide();
     auto* vlak = new Tekstvlak(4, 2, this);
     Noem(vlak, QStringLiteral("vlakResultaat"), QStringLiteral("Resultaat"));
     lblResultaat = MaakLabel(QStringLiteral("lblResultaat"), QString(), vlak);
@@ -244,8 +240,6 @@ QLayout* frmKoppelNBBnr::BouwOnderkant()
                                  QStringLiteral("Elke speler moeten afzonderlijk verwerkt worden!"),
                                  this),
                        1);
-    knoppen->addWidget(prgVoortgang);
-    knoppen->addWidget(cmdStop);
     knoppen->addWidget(cmdStartKoppelen);
     knoppen->addWidget(cmdEinde);
     auto* lagen = new QVBoxLayout;
@@ -259,7 +253,7 @@ void frmKoppelNBBnr::StelTabvolgordeIn()
 {
     auto* vlakUitleg = findChild<QWidget*>(QStringLiteral("vlakUitleg"));
     ZetTabvolgorde({Option1, Option2, cmbC, cmdZoekNamen, vlakUitleg, lstSpelers, txtSpeler,
-                    cmdKiesRVDspeler, lstRVDsp, txtRVDspeler, cmdStop, cmdStartKoppelen, cmdEinde,
+                    cmdKiesRVDspeler, lstRVDsp, txtRVDspeler, cmdStartKoppelen, cmdEinde,
                     lblResultaat});
 }
 

@@ -1,5 +1,6 @@
 // Linking the chosen floating player, and telling what came of it.
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/tekstbrug.h"
 #include "sessions/frmKoppelNBBnr.h"
 #include "sessions/tafelparen.h"
@@ -42,10 +43,9 @@ void frmKoppelNBBnr::StartKoppelen()
     const Koppelopdracht opdracht = MaakKoppelopdracht(
         zwevenden_, static_cast<std::size_t>(GekozenZwevende() - zwevenden_.data()),
         NaarTekst(txtRVDspeler->text().left(lengteKey)));
-    Koppeluitslag uitslag;
-    Doe(false, [&](const Voortgang& voortgang) {
-        uitslag = Koppel(administratie_.schijf, opdracht, voortgang);
-    });
+    const Koppeluitslag uitslag = Koppel(
+        administratie_.schijf, opdracht,
+        frmVoortgang(QStringLiteral("De speler wordt gekoppeld ..."), {}, this).AlsVoortgang());
     QStringList regels;
     const QString naam = NaarQString(opdracht.naam);
     for (const Aangepast& aangepast : uitslag.aangepast)

@@ -1,5 +1,6 @@
 // Searching the floating players of a session or a competition.
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/tekstbrug.h"
 #include "sessions/frmKoppelNBBnr.h"
 
@@ -36,10 +37,11 @@ void frmKoppelNBBnr::ZoekNamen()
         return;
     }
     gezochtInCompetitie_ = InCompetities();
-    Zoekuitslag uitslag;
-    Doe(true, [&](const Voortgang& voortgang) {
-        uitslag = ZoekZwevenden(administratie_.schijf, *zittingen, voortgang);
-    });
+    auto uitslag =
+        ZoekZwevenden(administratie_.schijf, *zittingen,
+                      frmVoortgang(QStringLiteral("De zwevende spelers worden gezocht ..."),
+                                   QStringLiteral("&Stoppen"), this)
+                          .AlsVoortgang());
     zwevenden_ = std::move(uitslag.zwevenden);
     ToonGevonden(uitslag);
 }

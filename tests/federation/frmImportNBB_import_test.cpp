@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 
 #include "hulp/accessgegevens.h"
+#include "hulp/voortgangstopper.h"
 
 using namespace plexoran;
 
@@ -12,6 +13,25 @@ namespace {
 
 const QString OK = QStringLiteral("OK");
 const QString Annuleren = QStringLiteral("Annuleren");
+
+/// So many members that reading and merging them tells how far it is.
+constexpr int LangeExportLeden = 5000;
+
+std::string LangeExport()
+{
+    std::string export_;
+    for (int i = 0; i < LangeExportLeden; ++i)
+        export_ += std::to_string(200'000 + i) + ";V;Eva;;;Een;;;;;;\r\n";
+    return export_;
+}
+
+/// Where the user clicks, through the window system.
+void KlikErachter(QDialog& dia, const char* knop)
+{
+    const auto* deel = Vind<QPushButton>(dia, knop);
+    QTest::mouseClick(dia.windowHandle(), Qt::LeftButton, {},
+                      deel->mapTo(&dia, deel->rect().center()));
+}
 
 class ImporterenTest : public Importproef {
   protected:
@@ -385,10 +405,9 @@ TEST_F(ImporterenTest, TijdensDeVraagWachtHetProgramma)
             const auto* vraag = qobject_cast<QMessageBox*>(object);
             if (vraag != nullptr && gebeurtenis->type() == QEvent::Show) {
                 ++keren;
-                const auto& dia = dynamic_cast<QDialog&>(*vraag->parentWidget());
                 EXPECT_EQ(Qt::ArrowCursor, QGuiApplication::overrideCursor()->shape());
-                EXPECT_EQ("'Club.csv' is gelezen.", Labeltekst(dia, "lblVoortgang"));
-                EXPECT_EQ(1, Vind<QProgressBar>(dia, "prgVoortgang")->maximum());
+                for (const QWidget* venster : QApplication::topLevelWidgets())
+                    EXPECT_FALSE(venster->isVisible() && venster->inherits("QProgressDialog"));
             }
             return false;
         }
@@ -530,30 +549,34 @@ TEST_F(ImporterenTest, MislukteOpslagHoudtDeLedenInHetProgramma)
 TEST_F(ImporterenTest, StoppenTijdensHetLezen)
 {
     ZetExport("A.csv", "771;V;Eva;;;Een;;;;;;\r\n");
-    ZetExport("B.csv", "772;V;Eva;;;Twee;;;;;;\r\n");
+    ZetExport("B.csv", LangeExport());
+    ZetExport("C.csv", "772;V;Eva;;;Twee;;;;;;\r\n");
+    const Voortgangstopper meteenInBeeld(0);
     Verwacht([](QDialog& dia) {
         KiesOptie(dia, "Option2");
         Lijst(dia)->selectAll();
         int keren = 0;
         QTimer kijker;
         QObject::connect(&kijker, &QTimer::timeout, &dia, [&] {
-            auto* bericht = QApplication::activeModalWidget();
-            if (bericht != &dia || !Vind<QPushButton>(dia, "cmdStop")->isVisible() ||
-                !Vind<QLabel>(dia, "lblVoortgang")->text().startsWith("'B.csv' wordt gelezen"))
+            auto* voortgang = qobject_cast<frmVoortgang*>(QApplication::activeModalWidget());
+            if (voortgang == nullptr || ++keren > 1)
                 return;
-            ++keren;
-            EXPECT_FALSE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
-            EXPECT_FALSE(Vind<QPushButton>(dia, "cmdAnnuleren")->isEnabled());
-            EXPECT_FALSE(Lijst(dia)->isEnabled());
+            const auto* tekst = Vind<QLabel>(*voortgang, "lblTekst");
+            EXPECT_EQ("'B.csv' wordt gelezen ...", tekst->text());
+            for (const char* knop : {"cmdImporteer", "cmdAnnuleren"})
+                KlikErachter(dia, knop);
             ASSERT_NE(nullptr, QGuiApplication::overrideCursor());
             EXPECT_EQ(Qt::WaitCursor, QGuiApplication::overrideCursor()->shape());
             EXPECT_FALSE(dia.close());
             EXPECT_TRUE(dia.isVisible());
+            Klik(Vind<QPushButton>(*voortgang, "cmdStop"));
+            EXPECT_EQ("Het importeren wordt gestopt ...", tekst->text());
         });
         kijker.start(0);
         Druk(dia, "cmdImporteer");
         EXPECT_GE(keren, 1);
         EXPECT_TRUE(dia.isVisible());
+        EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
         Druk(dia, "cmdAnnuleren");
     });
     VerwachtVraag(QStringLiteral("A"), 1);
@@ -565,6 +588,27 @@ TEST_F(ImporterenTest, StoppenTijdensHetLezen)
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Een,,,,,,,V,,,,A,771", Speler("100172"));
     EXPECT_EQ("HKEY=100172", Sleutelregel());
+}
+
+TEST_F(ImporterenTest, StoppenTijdensHetSamenvoegen)
+{
+    ZetExport("B.csv", LangeExport());
+    ZetExport("C.csv", "772;V;Eva;;;Twee;;;;;;\r\n");
+    const Voortgangstopper stopper(2); // the first step is of reading
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        Lijst(dia)->selectAll();
+        Druk(dia, "cmdImporteer");
+        EXPECT_TRUE(dia.isVisible());
+        Druk(dia, "cmdAnnuleren");
+    });
+    VerwachtVraag(QStringLiteral("B"), LangeExportLeden);
+    wachter.Informatie(QStringLiteral("Het importeren is gestopt. Uit 'B.csv' is niets "
+                                      "geïmporteerd; wat eerder is geïmporteerd, blijft. "
+                                      "Importeer 'B.csv' opnieuw als u die leden nog nodig "
+                                      "hebt."));
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
 }
 
 /// Where nothing may be written beside the program, the intermediate file comes elsewhere.

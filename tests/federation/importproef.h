@@ -4,7 +4,6 @@
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QRadioButton>
 
 #include "mainwindow/vensterproef.h"

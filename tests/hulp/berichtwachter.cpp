@@ -101,7 +101,8 @@ bool Berichtwachter::eventFilter(QObject* object, QEvent* gebeurtenis)
 {
     if (gebeurtenis->type() == QEvent::Show) {
         auto* dialoog = qobject_cast<QDialog*>(object);
-        if (dialoog != nullptr && dialoog->isModal())
+        // A progress window asks nothing.
+        if (dialoog != nullptr && dialoog->isModal() && !object->inherits("QProgressDialog"))
             QTimer::singleShot(0, dialoog, [this, dialoog] { Verschenen(*dialoog); });
     }
     return QObject::eventFilter(object, gebeurtenis);

@@ -5,7 +5,6 @@
 #include <QEvent>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QThread>
 #include <QTimer>
 
 #include "hulp/venstergrepen.h"
@@ -19,10 +18,10 @@ class Voortgangstopper : public QObject {
   public:
     explicit Voortgangstopper(int naStappen) : naStappen_(naStappen)
     {
-        qApp->setProperty(VoortgangNa, 0);
+        frmVoortgang::totInBeeld = 0;
         qApp->installEventFilter(this);
     }
-    ~Voortgangstopper() override { qApp->setProperty(VoortgangNa, QVariant()); }
+    ~Voortgangstopper() override { frmVoortgang::totInBeeld = totInBeeld_; }
     Voortgangstopper(const Voortgangstopper&) = delete;
     Voortgangstopper& operator=(const Voortgangstopper&) = delete;
     Voortgangstopper(Voortgangstopper&&) = delete;
@@ -44,14 +43,13 @@ class Voortgangstopper : public QObject {
   private:
     void Stap(frmVoortgang& venster)
     {
-        constexpr unsigned long langGenoeg = 60; // milliseconds: the figures are shown anew
-        QThread::msleep(langGenoeg);
         if (++stappen_ != naStappen_)
             return;
         auto* knop = Vind<QPushButton>(venster, "cmdStop");
         QTimer::singleShot(0, knop, [knop] { QTest::mouseClick(knop, Qt::LeftButton); });
     }
 
+    int totInBeeld_ = frmVoortgang::totInBeeld;
     int naStappen_;
     int stappen_ = 0;
 };

@@ -5,6 +5,7 @@
 
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
+#include "hulp/voortgangstopper.h"
 #include "platform/klok.h"
 #include "register/spelerbestand.h"
 
@@ -524,54 +525,60 @@ TEST_F(Koppelvenster, MetHetToetsenbord)
     EXPECT_FALSE(venster->isVisible());
 }
 
-namespace {
-
-/// A disk on which every reading takes a moment.
-class Koppelvensterlang : public Koppelvenster {
-  protected:
-    void VulLangeCompetitie(int zittingen) const
-    {
-        suite.Zet("Competities/Laddercompetitie/Compdata.txt", "");
-        for (int zitting = 2; zitting <= zittingen; ++zitting) {
-            const std::string map =
-                "Competities/Laddercompetitie/Ronde-1/Zitting-" + std::to_string(zitting);
-            std::filesystem::create_directory(suite.Weg() / map);
-            std::string lijst;
-            for (int paar = 1; paar <= 4000; ++paar)
-                lijst += "N" + std::to_string(paar % 90 + 10) + " Jan Nieuw - 100001\r\n";
-            suite.Zet(map + "/Spelers.txt", lijst);
-        }
-    }
-};
-
-} // namespace
-
-TEST_F(Koppelvensterlang, LangZoekenToontVoortgangEnIsTeStoppen)
+/// Files are not searched twice at a time, nor without the window.
+TEST_F(Koppelvenster, ZoekenToontVoortgangEnIsTeStoppen)
 {
-    VulLangeCompetitie(700);
+    const Voortgangstopper meteenInBeeld(0);
     ASSERT_NO_FATAL_FAILURE(Open());
     Deel<QRadioButton>("Option2")->click();
-    bool gezien = false;
+    int keren = 0;
     QTimer kijker;
     QObject::connect(&kijker, &QTimer::timeout, &kijker, [&] {
-        if (!Deel<QProgressBar>("prgVoortgang")->isVisible() || gezien)
+        auto* voortgang = qobject_cast<frmVoortgang*>(QApplication::activeModalWidget());
+        if (voortgang == nullptr || ++keren > 1)
             return;
-        gezien = true;
-        EXPECT_EQ(700, Deel<QProgressBar>("prgVoortgang")->maximum());
-        EXPECT_FALSE(Knop("cmdEinde")->isEnabled());
-        EXPECT_FALSE(Knop("cmdZoekNamen")->isEnabled());
-        venster->close(); // not while files are read
+        EXPECT_EQ("De zwevende spelers worden gezocht ...",
+                  Vind<QLabel>(*voortgang, "lblTekst")->text());
+        QTest::mouseClick(
+            venster->windowHandle(), Qt::LeftButton, {},
+            Knop("cmdEinde")->mapTo(venster.get(), Knop("cmdEinde")->rect().center()));
         EXPECT_TRUE(venster->isVisible());
-        Klik(Knop("cmdStop"));
+        Klik(Vind<QPushButton>(*voortgang, "cmdStop"));
     });
-    kijker.start(10);
-    ASSERT_NO_FATAL_FAILURE(Zoek(QStringLiteral("Laddercompetitie")));
-    EXPECT_TRUE(gezien);
+    kijker.start(0);
+    ASSERT_NO_FATAL_FAILURE(Zoek(Najaar));
+    EXPECT_GE(keren, 1);
     EXPECT_EQ("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.", Label("lblResultaat"));
-    EXPECT_FALSE(Deel<QProgressBar>("prgVoortgang")->isVisible());
-    EXPECT_FALSE(Knop("cmdStop")->isVisible());
+    EXPECT_EQ(nullptr, QApplication::activeModalWidget());
     EXPECT_TRUE(Knop("cmdZoekNamen")->isEnabled());
-    EXPECT_TRUE(venster->close());
+    Klik(Knop("cmdEinde"));
+    EXPECT_FALSE(venster->isVisible());
+}
+
+TEST_F(Koppelvenster, KoppelenToontVoortgangMaarStoptNiet)
+{
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O02    J")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100084")));
+    const Voortgangstopper meteenInBeeld(0);
+    int keren = 0;
+    QTimer kijker;
+    QObject::connect(&kijker, &QTimer::timeout, &kijker, [&] {
+        auto* voortgang = qobject_cast<frmVoortgang*>(QApplication::activeModalWidget());
+        if (voortgang == nullptr || ++keren > 1)
+            return;
+        EXPECT_EQ("De speler wordt gekoppeld ...", Vind<QLabel>(*voortgang, "lblTekst")->text());
+        EXPECT_EQ(nullptr, voortgang->findChild<QPushButton*>());
+        voortgang->close();
+        EXPECT_TRUE(voortgang->isVisible());
+    });
+    kijker.start(0);
+    VerwachtVraag();
+    wachter.Informatie(QStringLiteral("Speler Jørgen Sørensgaard is gekoppeld."));
+    Klik(Knop("cmdStartKoppelen"));
+    wachter.Klaar();
+    EXPECT_EQ(1, keren);
 }
 
 #ifndef _WIN32

@@ -1,53 +1,52 @@
 #include "platform/scherm/frmVoortgang.h"
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QKeyEvent>
-#include <QVBoxLayout>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <limits>
 
 #include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
 namespace {
 
-constexpr qint64 TotInBeeld = 500; // milliseconds
-
-qint64 WachtVoorBeeld()
-{
-    const QVariant anders = qApp->property(VoortgangNa);
-    return anders.isValid() ? anders.toLongLong() : TotInBeeld;
-}
+constexpr int Delen = 1000; // of the bar; counts may exceed what it can hold
 
 } // namespace
 
 frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder)
-    : QWidget(ouder, Qt::Dialog), lblTekst(MaakLabel(QStringLiteral("lblTekst"), tekst, this)),
-      balk(new Voortgangsbalk(QStringLiteral("balk"), this)), totInBeeld_(WachtVoorBeeld())
+    : QProgressDialog(QString(), QString(), 0, 0, ouder) // else Escape stands for two buttons
 {
     setObjectName(QStringLiteral("frmVoortgang"));
     setWindowTitle(QStringLiteral("Plexoran"));
     setWindowModality(Qt::ApplicationModal);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(lblTekst);
-    lagen->addWidget(balk);
+    setAutoReset(false);
+    // By its own timer it would come over a box that is shown during the work.
+    setMinimumDuration(std::numeric_limits<int>::max());
+    disconnect(this, &QProgressDialog::canceled, nullptr, nullptr); // which hides it at once
+    setLabel(MaakLabel(QStringLiteral("lblTekst"), tekst, this));
+    auto* balk = new QProgressBar(this);
+    Noem(balk, QStringLiteral("balk"), QStringLiteral("Voortgang"));
+    setBar(balk);
     if (!stop.isEmpty()) {
-        cmdStop = new QPushButton(stop, this);
-        Noem(cmdStop, QStringLiteral("cmdStop"));
-        connect(cmdStop, &QPushButton::clicked, this, &frmVoortgang::Stop);
-        lagen->addLayout(Knoppenrij({cmdStop}));
+        auto* knop = new QPushButton(stop, this);
+        Noem(knop, QStringLiteral("cmdStop"));
+        setCancelButton(knop);
+        connect(this, &QProgressDialog::canceled, this, [this, knop] {
+            gestopt_ = true;
+            knop->setEnabled(false);
+        });
     }
-    const Maten maten;
-    setMinimumWidth(maten.Twips(5400));
-}
-
-void frmVoortgang::ZetTekst(const QString& tekst)
-{
-    lblTekst->setText(tekst);
+    setMinimumWidth(Maten().Twips(5400));
+    sinds_.start();
 }
 
 bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
 {
-    if (balk->Duur() >= totInBeeld_ && balk->Zet(gedaan, geheel, !isVisible())) {
+    if (sinds_.elapsed() >= totInBeeld) {
+        setMaximum(geheel == 0 ? 0 : Delen);
+        setValue(geheel == 0 ? 0 : static_cast<int>(Delen * gedaan / geheel));
         show();
         QApplication::processEvents();
     }
@@ -57,30 +56,6 @@ bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
 Voortgang frmVoortgang::AlsVoortgang()
 {
     return [this](std::size_t gedaan, std::size_t geheel) { return Meld(gedaan, geheel); };
-}
-
-void frmVoortgang::Stop()
-{
-    if (cmdStop == nullptr)
-        return;
-    gestopt_ = true;
-    cmdStop->setEnabled(false);
-}
-
-/// The window stays until the work has come to its end: without it the windows behind it would take
-/// commands in the middle of the work.
-void frmVoortgang::closeEvent(QCloseEvent* gebeurtenis)
-{
-    Stop();
-    gebeurtenis->ignore();
-}
-
-void frmVoortgang::keyPressEvent(QKeyEvent* gebeurtenis)
-{
-    if (gebeurtenis->key() == Qt::Key_Escape)
-        Stop();
-    else
-        QWidget::keyPressEvent(gebeurtenis);
 }
 
 } // namespace plexoran

@@ -2,27 +2,24 @@
 // while it stands there the program goes on painting but takes no other command.
 #pragma once
 
-#include <QLabel>
-#include <QPushButton>
+#include <QElapsedTimer>
+#include <QProgressDialog>
 
-#include "platform/scherm/voortgangsbalk.h"
 #include "platform/voortgang.h"
 
 namespace plexoran {
 
-/// The property of the application by which a test lets the window come sooner, after so many
-/// milliseconds.
-inline constexpr auto VoortgangNa = "voortgangNa";
-
-class frmVoortgang : public QWidget {
+class frmVoortgang : public QProgressDialog {
     Q_OBJECT
 
   public:
+    /// Milliseconds until the window comes; a test lets it come sooner.
+    static inline int totInBeeld = 500;
+
     /// `stop` is the caption of the button with which the user may stop the work, its mnemonic
     /// marked; empty where stopping is not safe.
     frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder);
 
-    void ZetTekst(const QString& tekst);
     /// What is done of the whole, 0 where the whole is not known. False once the user wants to
     /// stop.
     bool Meld(std::size_t gedaan, std::size_t geheel);
@@ -30,17 +27,12 @@ class frmVoortgang : public QWidget {
     /// The same for a rule; the window must outlive it.
     [[nodiscard]] Voortgang AlsVoortgang();
 
-  protected:
-    void closeEvent(QCloseEvent* gebeurtenis) override;
-    void keyPressEvent(QKeyEvent* gebeurtenis) override;
+    /// Escape and the close box ask the work to stop. The window stays until it has come to its
+    /// end: without it the windows behind it would take commands in the middle of the work.
+    void reject() override { emit canceled(); }
 
   private:
-    void Stop();
-
-    QLabel* lblTekst;
-    Voortgangsbalk* balk;
-    QPushButton* cmdStop = nullptr; ///< none where stopping is not safe
-    qint64 totInBeeld_;             ///< milliseconds
+    QElapsedTimer sinds_;
     bool gestopt_ = false;
 };
 

@@ -1,5 +1,9 @@
 #include "platform/scherm/frmVoortgang.h"
 
+#include <QElapsedTimer>
+#include <QProgressBar>
+#include <QPushButton>
+
 #include <gtest/gtest.h>
 
 #include "hulp/venstergrepen.h"
@@ -34,8 +38,48 @@ TEST(frmVoortgangTest, LangWerkToontHoeVerHetIs)
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
     auto* balk = Vind<QProgressBar>(voortgang, "balk");
     EXPECT_EQ(balk->maximum() / 4, balk->value());
-    EXPECT_TRUE(voortgang.isModal());
+    EXPECT_EQ("Voortgang", balk->accessibleName());
+    EXPECT_EQ("Plexoran", voortgang.windowTitle());
+    EXPECT_EQ(Qt::ApplicationModal, voortgang.windowModality());
     EXPECT_EQ(nullptr, voortgang.findChild<QPushButton*>());
+    voortgang.Meld(4, 4);
+    EXPECT_EQ(balk->maximum(), balk->value());
+    EXPECT_TRUE(voortgang.isVisible()); // what comes after it may take long too
+}
+
+TEST(frmVoortgangTest, EenNaamMetOpmaakStaatErZoalsHijIs)
+{
+    frmVoortgang voortgang(QStringLiteral("<b>A</b>.csv"), QString(), nullptr);
+    EXPECT_EQ(Qt::PlainText, Vind<QLabel>(voortgang, "lblTekst")->textFormat());
+    voortgang.setLabelText(QStringLiteral("<b>B</b>.csv"));
+    EXPECT_EQ("<b>B</b>.csv", Vind<QLabel>(voortgang, "lblTekst")->text());
+}
+
+/// A box that is shown during the work is waited for without the window.
+TEST(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
+{
+    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    voortgang.Meld(0, 4);
+    QTest::qWait(frmVoortgang::totInBeeld + 100);
+    EXPECT_FALSE(voortgang.isVisible());
+    ASSERT_TRUE(WerkTotInBeeld(voortgang));
+    voortgang.hide();
+    QTest::qWait(50);
+    EXPECT_FALSE(voortgang.isVisible());
+    voortgang.Meld(2, 4);
+    EXPECT_TRUE(voortgang.isVisible());
+}
+
+TEST(frmVoortgangTest, MeerDanEenBalkKanTellen)
+{
+    constexpr std::size_t groot = 400'000'000'000;
+    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    ASSERT_TRUE(WerkTotInBeeld(voortgang));
+    voortgang.Meld(groot / 4, groot);
+    auto* balk = Vind<QProgressBar>(voortgang, "balk");
+    EXPECT_NEAR(balk->maximum() / 4.0, balk->value(), 1);
+    voortgang.Meld(groot, groot);
+    EXPECT_EQ(balk->maximum(), balk->value());
 }
 
 /// Otherwise the windows behind it would take commands in the middle of the work.
@@ -64,14 +108,20 @@ TEST(frmVoortgangTest, StoppenMetKnopEscapeOfSluitvak)
         EXPECT_TRUE(voortgang.Gestopt()) << weg;
         EXPECT_FALSE(voortgang.AlsVoortgang()(2, 4)) << weg;
         EXPECT_TRUE(voortgang.isVisible()) << weg; // until the work has ended
+        EXPECT_FALSE(Vind<QPushButton>(voortgang, "cmdStop")->isEnabled()) << weg;
     }
 }
 
 TEST(frmVoortgangTest, ZonderBekendGeheelBeweegtDeBalkAlleen)
 {
     frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
-    ASSERT_TRUE(WerkTotInBeeld(voortgang));
-    QTest::qWait(60);
+    QTest::qWait(frmVoortgang::totInBeeld);
+    voortgang.Meld(0, 0);
+    EXPECT_TRUE(voortgang.isVisible());
+    auto* balk = Vind<QProgressBar>(voortgang, "balk");
+    EXPECT_EQ(0, balk->maximum());
+    voortgang.Meld(3, 4);
+    EXPECT_EQ(balk->maximum() / 4 * 3, balk->value());
     voortgang.Meld(5, 0);
-    EXPECT_EQ(0, Vind<QProgressBar>(voortgang, "balk")->maximum());
+    EXPECT_EQ(0, balk->maximum());
 }
