@@ -25,7 +25,9 @@ frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* o
     // By its own timer it would come over a box that is shown during the work.
     setMinimumDuration(std::numeric_limits<int>::max());
     disconnect(this, &QProgressDialog::canceled, nullptr, nullptr); // which hides it at once
-    setLabel(MaakLabel(QStringLiteral("lblTekst"), tekst, this));
+    auto* lblTekst = MaakLabel(QStringLiteral("lblTekst"), tekst, this);
+    lblTekst->setWordWrap(true);
+    setLabel(lblTekst);
     auto* balk = new QProgressBar(this);
     Noem(balk, QStringLiteral("balk"), QStringLiteral("Voortgang"));
     setBar(balk);
@@ -38,7 +40,9 @@ frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* o
             knop->setEnabled(false);
         });
     }
-    setMinimumWidth(Maten().Twips(5400));
+    const Maten maten;
+    setMinimumWidth(maten.Twips(5400));
+    setMaximumWidth(maten.Twips(9900)); // however long the name of a file is
     sinds_.start();
 }
 

@@ -55,6 +55,19 @@ TEST(frmVoortgangTest, EenNaamMetOpmaakStaatErZoalsHijIs)
     EXPECT_EQ("<b>B</b>.csv", Vind<QLabel>(voortgang, "lblTekst")->text());
 }
 
+TEST(frmVoortgangTest, EenLangeNaamBlijftInBeeld)
+{
+    for (const QString& naam : {QStringLiteral("lange naam ").repeated(20), QString(250, u'x')}) {
+        frmVoortgang voortgang(QString(), QStringLiteral("&Stoppen"), nullptr);
+        voortgang.setLabelText(naam);
+        ASSERT_TRUE(WerkTotInBeeld(voortgang));
+        EXPECT_LE(voortgang.width(), 700);
+        const auto* tekst = Vind<QLabel>(voortgang, "lblTekst");
+        EXPECT_GE(tekst->height(), tekst->heightForWidth(tekst->width()));
+        EXPECT_TRUE(voortgang.rect().contains(Vind<QPushButton>(voortgang, "cmdStop")->geometry()));
+    }
+}
+
 /// A box that is shown during the work is waited for without the window.
 TEST(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
 {
