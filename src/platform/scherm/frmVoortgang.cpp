@@ -24,6 +24,7 @@ frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* o
     setAutoReset(false);
     // By its own timer it would come over a box that is shown during the work.
     setMinimumDuration(std::numeric_limits<int>::max());
+    reset(); // stops the timer that runs already
     disconnect(this, &QProgressDialog::canceled, nullptr, nullptr); // which hides it at once
     auto* lblTekst = MaakLabel(QStringLiteral("lblTekst"), tekst, this);
     lblTekst->setWordWrap(true);

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -75,6 +76,8 @@ TEST(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
     voortgang.Meld(0, 4);
     QTest::qWait(frmVoortgang::totInBeeld + 100);
     EXPECT_FALSE(voortgang.isVisible());
+    for (const QTimer* wekker : voortgang.findChildren<QTimer*>())
+        EXPECT_TRUE(!wekker->isActive() || wekker->remainingTime() > 3'600'000);
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
     voortgang.hide();
     QTest::qWait(50);
