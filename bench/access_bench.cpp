@@ -13,8 +13,8 @@
 #include "federation/ledenbestand.h"
 #include "hulp/ledenmaker.h"
 #include "hulp/meten.h"
-#include "platform/accesskind.h"
-#include "platform/echteSchijf.h"
+#include "platform/bronnen/accesskind.h"
+#include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
 namespace {

@@ -8,8 +8,8 @@
 #include "federation/ledenbestand.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
-#include "platform/codepagina.h"
-#include "platform/echteSchijf.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/tekst/codepagina.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {

@@ -12,7 +12,7 @@
 #include "hulp/sqlite.h"
 #include "mainwindow/dubbelenamen.h"
 #include "mainwindow/sorteerlijst.h"
-#include "platform/echteSchijf.h"
+#include "platform/schijf/echteSchijf.h"
 #include "printing/printtabel.h"
 #include "register/spelerbestand.h"
 

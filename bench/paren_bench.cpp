@@ -9,7 +9,7 @@
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "pairs/frmParenOnderhoud.h"
-#include "platform/echteSchijf.h"
+#include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
 namespace {

@@ -9,7 +9,7 @@
 #include "hulp/register.h"
 #include "platform/scherm/letterkast.h"
 #include "platform/scherm/schildervlak.h"
-#include "platform/tekstorde.h"
+#include "platform/tekst/tekstorde.h"
 #include "printing/bladtekenen.h"
 #include "register/spelerbestand.h"
 

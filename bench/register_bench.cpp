@@ -5,8 +5,8 @@
 
 #include "hulp/meten.h"
 #include "hulp/register.h"
-#include "platform/echteSchijf.h"
-#include "platform/greep.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/greep.h"
 #include "register/spelerbestand.h"
 
 #ifdef __linux__

@@ -10,7 +10,7 @@
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "platform/echteSchijf.h"
+#include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
 namespace {

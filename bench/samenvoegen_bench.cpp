@@ -9,7 +9,7 @@
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "hulp/sqlite.h"
-#include "platform/echteSchijf.h"
+#include "platform/schijf/echteSchijf.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {

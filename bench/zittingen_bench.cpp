@@ -6,9 +6,9 @@
 #include <string>
 
 #include "hulp/meten.h"
-#include "platform/echteSchijf.h"
-#include "platform/greep.h"
-#include "platform/systeempad.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/greep.h"
+#include "platform/schijf/systeempad.h"
 #include "sessions/koppelen.h"
 
 namespace plexoran {

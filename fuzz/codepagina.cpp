@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "eis.h"
-#include "platform/codepagina.h"
+#include "platform/tekst/codepagina.h"
 
 using namespace plexoran;
 

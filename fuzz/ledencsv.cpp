@@ -4,7 +4,7 @@
 
 #include "eis.h"
 #include "federation/ledencsv.h"
-#include "platform/regels.h"
+#include "platform/tekst/regels.h"
 
 using namespace plexoran;
 

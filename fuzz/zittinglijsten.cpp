@@ -4,8 +4,7 @@
 #include <optional>
 
 #include "eis.h"
-#include "platform/items.h"
-#include "platform/regels.h"
+#include "platform/tekst/regels.h"
 #include "sessions/tafelparen.h"
 #include "sessions/zittinglijsten.h"
 

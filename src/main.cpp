@@ -3,10 +3,10 @@
 
 #include "mainwindow/frmLedenAdmin.h"
 #include "opdrachtregel.h"
-#include "platform/accesskind.h"
-#include "platform/echteSchijf.h"
-#include "platform/programma.h"
+#include "platform/bronnen/accesskind.h"
 #include "platform/scherm/inrichting.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/programma.h"
 
 using namespace plexoran;
 

@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-#include "platform/instellingenwinkel.h"
+#include "platform/bronnen/instellingenwinkel.h"
 
 #ifdef _WIN32
 #include <windows.h>

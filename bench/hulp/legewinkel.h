@@ -1,7 +1,7 @@
 // Settings of other programs for a benchmark with windows: none.
 #pragma once
 
-#include "platform/instellingenwinkel.h"
+#include "platform/bronnen/instellingenwinkel.h"
 
 namespace plexoran {
 

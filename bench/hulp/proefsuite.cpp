@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "platform/systeempad.h"
+#include "platform/schijf/systeempad.h"
 
 namespace plexoran {
 namespace {

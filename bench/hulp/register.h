@@ -1,7 +1,7 @@
 // Made-up registers of any size, with lines as long as those of real clubs.
 #pragma once
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

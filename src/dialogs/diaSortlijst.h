@@ -9,7 +9,7 @@
 #include "dialogs/sorteerkolommen.h"
 #include "platform/scherm/maten.h"
 #include "platform/scherm/tabelvlak.h"
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

@@ -1,6 +1,6 @@
 #include "dialogs/ingave.h"
 
-#include "platform/getal.h"
+#include "platform/tekst/getal.h"
 
 namespace plexoran {
 namespace {

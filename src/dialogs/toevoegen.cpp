@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/getal.h"
-#include "platform/heelschrijven.h"
-#include "platform/items.h"
-#include "platform/regels.h"
-#include "platform/tekstorde.h"
+#include "platform/schijf/heelschrijven.h"
+#include "platform/tekst/getal.h"
+#include "platform/tekst/regels.h"
+#include "platform/tekst/tekstorde.h"
 #include "sessions/sessiemappen.h"
 #include "sessions/tafelparen.h"
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numeric>
 
-#include "platform/tekstorde.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

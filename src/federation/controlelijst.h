@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "federation/importregel.h"
-#include "platform/tekenvlak.h"
+#include "platform/tekst/tekenvlak.h"
 
 namespace plexoran {
 

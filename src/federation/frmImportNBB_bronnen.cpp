@@ -6,11 +6,11 @@
 #include "federation/frmImportNBB.h"
 #include "federation/ledendatabase.h"
 #include "federation/tussenmap.h"
-#include "platform/programma.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/frmVoortgang.h"
-#include "platform/tekstorde.h"
+#include "platform/schijf/programma.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

@@ -3,10 +3,10 @@
 
 #include "federation/frmImportNBB.h"
 #include "federation/leesfoutmelding.h"
-#include "platform/regels.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/tekstbrug.h"
+#include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

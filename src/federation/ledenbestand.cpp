@@ -8,8 +8,8 @@
 #include "federation/ledendatabase.h"
 #include "federation/ledenxml.h"
 #include "federation/tussenbestand.h"
-#include "platform/codepagina.h"
-#include "platform/getal.h"
+#include "platform/tekst/codepagina.h"
+#include "platform/tekst/getal.h"
 
 namespace plexoran {
 namespace {

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "federation/importregel.h"
-#include "platform/access.h"
-#include "platform/tekstlijst.h"
+#include "platform/bronnen/access.h"
+#include "platform/tekst/tekstlijst.h"
 
 namespace plexoran {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "federation/tussenbestand.h"
-#include "platform/regels.h"
+#include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "federation/tussenbestand.h"
-#include "platform/getal.h"
-#include "platform/tekstorde.h"
+#include "platform/tekst/getal.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

@@ -1,9 +1,10 @@
-// The member database of a scoring program, read through a child process (platform/access.h).
+// The member database of a scoring program, read through a child process
+// (platform/bronnen/access.h).
 #pragma once
 
 #include <vector>
 
-#include "platform/access.h"
+#include "platform/bronnen/access.h"
 
 namespace plexoran {
 

@@ -7,7 +7,7 @@
 #include <pugixml.hpp>
 
 #include "federation/tussenbestand.h"
-#include "platform/xml.h"
+#include "platform/bronnen/xml.h"
 
 namespace plexoran {
 namespace {

@@ -7,8 +7,8 @@
 
 #include <optional>
 
-#include "platform/schijf.h"
-#include "platform/voortgang.h"
+#include "platform/schijf/schijf.h"
+#include "platform/schijf/voortgang.h"
 
 namespace plexoran {
 

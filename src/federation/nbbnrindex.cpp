@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/getal.h"
+#include "platform/tekst/getal.h"
 
 namespace plexoran {
 

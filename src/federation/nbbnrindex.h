@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

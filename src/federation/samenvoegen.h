@@ -7,8 +7,8 @@
 #include <tl/expected.hpp>
 
 #include "federation/importregel.h"
-#include "platform/tekstlijst.h"
-#include "platform/voortgang.h"
+#include "platform/schijf/voortgang.h"
+#include "platform/tekst/tekstlijst.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/heelschrijven.h"
+#include "platform/schijf/heelschrijven.h"
 
 namespace plexoran {
 namespace {

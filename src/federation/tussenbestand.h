@@ -7,7 +7,7 @@
 #include <array>
 #include <vector>
 
-#include "platform/schijf.h"
+#include "platform/schijf/schijf.h"
 
 namespace plexoran {
 

@@ -1,7 +1,7 @@
 // Where the intermediate file of an import comes.
 #pragma once
 
-#include "platform/schijf.h"
+#include "platform/schijf/schijf.h"
 
 namespace plexoran {
 

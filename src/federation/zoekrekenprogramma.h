@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "platform/instellingenwinkel.h"
+#include "platform/bronnen/instellingenwinkel.h"
 #include "register/rekenprogramma.h"
 
 namespace plexoran {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/regels.h"
+#include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "platform/tekenvlak.h"
+#include "platform/tekst/tekenvlak.h"
 
 namespace plexoran {
 

@@ -4,9 +4,9 @@
 #include <QCloseEvent>
 
 #include "mainwindow/nummerlijst.h"
-#include "platform/programma.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/schijf/programma.h"
 
 namespace plexoran {
 namespace {

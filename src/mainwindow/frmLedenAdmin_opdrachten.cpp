@@ -8,9 +8,9 @@
 #include "help/frmToelichting.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "pairs/frmParenOnderhoud.h"
-#include "platform/programma.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
+#include "platform/schijf/programma.h"
 #include "printing/frmPrintIni.h"
 #include "sessions/frmKoppelNBBnr.h"
 

@@ -4,9 +4,9 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "pairs/parenbestand.h"
 #include "pairs/parencsv.h"
-#include "platform/heelschrijven.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
+#include "platform/schijf/heelschrijven.h"
 #include "register/reservekopie.h"
 
 namespace plexoran {

@@ -2,7 +2,7 @@
 // measured from its top left corner; lines and columns count from 1.
 #pragma once
 
-#include "platform/tekstmeter.h"
+#include "platform/tekst/tekstmeter.h"
 #include "register/spelertabel.h"
 
 namespace plexoran {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/getal.h"
-#include "platform/tekstorde.h"
+#include "platform/tekst/getal.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

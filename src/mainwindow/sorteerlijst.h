@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "dialogs/sorteerkolommen.h"
-#include "platform/fout.h"
+#include "platform/schijf/fout.h"
 #include "register/spelertabel.h"
 
 namespace plexoran {

@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "pairs/regelzoeker.h"
-#include "platform/tekstorde.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

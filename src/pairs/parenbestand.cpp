@@ -4,7 +4,7 @@
 #include <unordered_set>
 
 #include "pairs/paarregel.h"
-#include "platform/regels.h"
+#include "platform/tekst/regels.h"
 #include "register/reservekopie.h"
 
 namespace plexoran {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "pairs/paarregel.h"
-#include "platform/getal.h"
-#include "platform/heelschrijven.h"
+#include "platform/schijf/heelschrijven.h"
+#include "platform/tekst/getal.h"
 
 namespace plexoran {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <vector>
 
-#include "platform/tekenvlak.h"
+#include "platform/tekst/tekenvlak.h"
 #include "printing/printtabel.h"
 
 namespace plexoran {

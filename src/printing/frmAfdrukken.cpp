@@ -5,10 +5,10 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "platform/klok.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/printer.h"
+#include "platform/schijf/klok.h"
 #include "register/groepscode.h"
 
 namespace plexoran {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/tekstorde.h"
+#include "platform/tekst/tekstorde.h"
 #include "register/waardenlijst.h"
 
 namespace plexoran {

@@ -1,8 +1,8 @@
 // What more than one window uses. `main` owns it, windows receive it by reference.
 #pragma once
 
-#include "platform/instellingenwinkel.h"
-#include "platform/programma.h"
+#include "platform/bronnen/instellingenwinkel.h"
+#include "platform/schijf/programma.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/rekenprogramma.h"

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/getal.h"
-#include "platform/regels.h"
+#include "platform/tekst/getal.h"
+#include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {

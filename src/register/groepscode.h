@@ -1,7 +1,7 @@
 // Group codes: "Gr", two digits and "-".
 #pragma once
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

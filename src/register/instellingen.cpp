@@ -1,7 +1,7 @@
 #include "register/instellingen.h"
 
-#include "platform/getal.h"
-#include "platform/regels.h"
+#include "platform/tekst/getal.h"
+#include "platform/tekst/regels.h"
 #include "register/reservekopie.h"
 
 namespace plexoran {

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "platform/getal.h"
-#include "platform/regels.h"
+#include "platform/tekst/getal.h"
+#include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {

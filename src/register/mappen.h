@@ -5,7 +5,7 @@
 // Lines of another kind are passed over; when a key occurs twice, the last line holds.
 #pragma once
 
-#include "platform/schijf.h"
+#include "platform/schijf/schijf.h"
 
 namespace plexoran {
 

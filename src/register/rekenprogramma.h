@@ -1,7 +1,7 @@
 // Which of the two scoring programs with a member database is installed, and where its data lie.
 #pragma once
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

@@ -1,8 +1,8 @@
 #include "register/reservekopie.h"
 
-#include "platform/heelschrijven.h"
-#include "platform/klok.h"
-#include "platform/regels.h"
+#include "platform/schijf/heelschrijven.h"
+#include "platform/schijf/klok.h"
+#include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {

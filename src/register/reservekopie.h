@@ -6,7 +6,7 @@
 
 #include <functional>
 
-#include "platform/schijf.h"
+#include "platform/schijf/schijf.h"
 
 namespace plexoran {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/getal.h"
-#include "platform/heelschrijven.h"
-#include "platform/regels.h"
+#include "platform/schijf/heelschrijven.h"
+#include "platform/tekst/getal.h"
+#include "platform/tekst/regels.h"
 #include "register/groepen.h"
 
 namespace plexoran {

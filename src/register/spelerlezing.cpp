@@ -3,7 +3,7 @@
 #include <bit>
 #include <cstring>
 
-#include "platform/getal.h"
+#include "platform/tekst/getal.h"
 #include "register/groepen.h"
 #include "register/spelerbestand.h"
 

@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-#include "platform/klok.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/schijf/klok.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {

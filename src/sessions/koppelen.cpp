@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "platform/heelschrijven.h"
-#include "platform/tekstorde.h"
+#include "platform/schijf/heelschrijven.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

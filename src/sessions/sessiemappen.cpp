@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "platform/tekstorde.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

@@ -5,8 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "platform/items.h"
-#include "platform/regels.h"
+#include "platform/tekst/regels.h"
 #include "sessions/tafelparen.h"
 
 namespace plexoran {

@@ -16,7 +16,7 @@
 
 #include <vector>
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

@@ -11,9 +11,9 @@
 
 #include "afbeeldingen/vensterronde.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "platform/echteSchijf.h"
-#include "platform/programma.h"
 #include "platform/scherm/inrichting.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/programma.h"
 
 using namespace plexoran;
 

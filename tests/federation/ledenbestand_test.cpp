@@ -10,8 +10,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/echteSchijf.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 #include "schijven/geheugenSchijf.h"
 
 namespace plexoran {

@@ -7,8 +7,8 @@
 
 #include "federation/ledenbestand.h"
 #include "hulp/accessgegevens.h"
-#include "platform/regels.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/tijdelijkeMap.h"
+#include "platform/tekst/regels.h"
 #include "schijven/geheugenSchijf.h"
 
 namespace plexoran {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
-#include "platform/getal.h"
+#include "platform/tekst/getal.h"
 
 namespace plexoran {
 namespace {

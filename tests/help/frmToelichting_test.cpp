@@ -11,9 +11,9 @@
 #include "hulp/berichtwachter.h"
 #include "hulp/pdfteksten.h"
 #include "hulp/venstergrepen.h"
-#include "platform/echteSchijf.h"
 #include "platform/scherm/maten.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 #include "schijven/falendeSchijf.h"
 
 using namespace plexoran;

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "hulp/proefsuite.h"
-#include "platform/echteSchijf.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 #include "register/administratie.h"
 #include "register/spelerbestand.h"
 #include "schijven/falendeSchijf.h"

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/instellingenwinkel.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/bronnen/instellingenwinkel.h"
+#include "platform/schijf/tijdelijkeMap.h"
 
 namespace plexoran {
 

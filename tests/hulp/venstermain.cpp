@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/accesskind.h"
+#include "platform/bronnen/accesskind.h"
 #include "platform/scherm/inrichting.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/tekenvlak.h"
+#include "platform/tekst/tekenvlak.h"
 
 namespace plexoran {
 

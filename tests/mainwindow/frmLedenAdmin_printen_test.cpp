@@ -8,8 +8,8 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "mainwindow/vensterproef.h"
-#include "platform/klok.h"
 #include "platform/scherm/regellijst.h"
+#include "platform/schijf/klok.h"
 
 using namespace plexoran;
 

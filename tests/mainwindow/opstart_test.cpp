@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "mainwindow/opstartproef.h"
-#include "platform/heelschrijven.h"
+#include "platform/schijf/heelschrijven.h"
 #include "schijven/falendeSchijf.h"
 
 using namespace plexoran;

@@ -26,8 +26,8 @@
 #include "hulp/proefsuite.h"
 #include "hulp/voortgangstopper.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "platform/echteSchijf.h"
 #include "platform/scherm/regellijst.h"
+#include "platform/schijf/echteSchijf.h"
 #include "printing/frmAfdrukken.h"
 #include "printing/printproef.h"
 

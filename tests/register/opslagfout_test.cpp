@@ -3,8 +3,8 @@
 #include <functional>
 #include <set>
 
-#include "platform/echteSchijf.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/registerhulp.h"

@@ -4,8 +4,8 @@
 #include <unistd.h>
 
 #include "hulp/kill.h"
-#include "platform/echteSchijf.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 #include "register/registerhulp.h"
 
 using namespace plexoran;

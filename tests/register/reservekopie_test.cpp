@@ -1,7 +1,7 @@
 #include "register/reservekopie.h"
 
-#include "platform/echteSchijf.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/registerhulp.h"

@@ -5,7 +5,7 @@
 #include <functional>
 #include <utility>
 
-#include "platform/schijf.h"
+#include "platform/schijf/schijf.h"
 
 namespace plexoran {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
-#include "platform/codepagina.h"
+#include "platform/tekst/codepagina.h"
 
 namespace plexoran {
 namespace {

@@ -5,7 +5,7 @@
 #include <map>
 #include <optional>
 
-#include "platform/schijf.h"
+#include "platform/schijf/schijf.h"
 
 namespace plexoran {
 

@@ -6,7 +6,7 @@
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/voortgangstopper.h"
-#include "platform/klok.h"
+#include "platform/schijf/klok.h"
 #include "register/spelerbestand.h"
 
 using namespace plexoran;

@@ -4,7 +4,7 @@
 
 #include <QMessageBox>
 
-#include "platform/schijf.h"
+#include "platform/schijf/schijf.h"
 
 namespace plexoran {
 

@@ -5,7 +5,7 @@
 #include <QElapsedTimer>
 #include <QProgressDialog>
 
-#include "platform/voortgang.h"
+#include "platform/schijf/voortgang.h"
 
 namespace plexoran {
 

@@ -8,8 +8,8 @@
 #include <array>
 #include <memory>
 
-#include "platform/tekenvlak.h"
-#include "platform/tekstmeter.h"
+#include "platform/tekst/tekenvlak.h"
+#include "platform/tekst/tekstmeter.h"
 
 namespace plexoran {
 

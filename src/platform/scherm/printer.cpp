@@ -8,10 +8,10 @@
 
 #include <algorithm>
 
-#include "platform/programma.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/maten.h"
+#include "platform/schijf/programma.h"
 
 namespace plexoran {
 namespace {

@@ -8,8 +8,8 @@
 
 #include <optional>
 
-#include "platform/heelschrijven.h"
 #include "platform/scherm/schildervlak.h"
+#include "platform/schijf/heelschrijven.h"
 
 namespace plexoran {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <memory>
 
-#include "platform/schijf.h"
-#include "platform/tekenvlak.h"
+#include "platform/schijf/schijf.h"
+#include "platform/tekst/tekenvlak.h"
 
 class QPrinter;
 

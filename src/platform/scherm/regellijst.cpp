@@ -11,7 +11,7 @@
 
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/letterkast.h"
-#include "platform/tekstorde.h"
+#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

@@ -17,7 +17,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

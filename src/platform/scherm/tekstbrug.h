@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "platform/codepagina.h"
+#include "platform/tekst/codepagina.h"
 
 namespace plexoran {
 

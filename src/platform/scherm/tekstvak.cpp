@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/codepagina.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
+#include "platform/tekst/codepagina.h"
 
 namespace plexoran {
 namespace {

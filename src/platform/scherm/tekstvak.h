@@ -7,7 +7,7 @@
 #include <functional>
 #include <optional>
 
-#include "platform/tekst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

@@ -20,9 +20,9 @@
 #include "hulp/berichtwachter.h"
 #include "hulp/printdialoog.h"
 #include "hulp/venstergrepen.h"
-#include "platform/echteSchijf.h"
 #include "platform/scherm/printer.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 
 using namespace plexoran;
 

@@ -13,9 +13,9 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "hulp/proefsuite.h"
-#include "platform/echteSchijf.h"
 #include "platform/scherm/letterkast.h"
-#include "platform/tijdelijkeMap.h"
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
 #include "schijven/falendeSchijf.h"
 #include "schijven/geheugenSchijf.h"
 

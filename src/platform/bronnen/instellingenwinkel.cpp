@@ -1,0 +1,96 @@
+#include "platform/bronnen/instellingenwinkel.h"
+
+#include <QSettings>
+#include <QStandardPaths>
+
+#include "platform/schijf/systeempad.h"
+#include "platform/tekst/codepagina.h"
+#include "platform/tekst/regels.h"
+
+namespace plexoran {
+namespace {
+
+#ifdef _WIN32
+
+constexpr auto registerpad = "HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings";
+
+class Registerwinkel : public Instellingenwinkel {
+  public:
+    std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
+    {
+        const QSettings tak(QString::fromLatin1(registerpad) + QLatin1Char('\\') +
+                                QString::fromStdU16String(NaarUtf16(Samen(toepassing, sectie))),
+                            QSettings::NativeFormat);
+        const QVariant waarde = tak.value(QString::fromStdU16String(NaarUtf16(sleutel)));
+        if (!waarde.isValid())
+            return std::nullopt;
+        return NaarCodepagina(waarde.toString().toStdU16String()).tekst;
+    }
+};
+
+#else
+
+std::filesystem::path Winkelbestand()
+{
+    const QString map = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return std::filesystem::path(map.toStdU16String()) / "plexoran" / "rekenprogrammas.ini";
+}
+
+class Bestandswinkel : public Instellingenwinkel {
+  public:
+    explicit Bestandswinkel(Schijf& schijf) : schijf_(schijf) {}
+
+    std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
+    {
+        const auto inhoud = schijf_.LeesBestand(PadVan(Winkelbestand()));
+        return inhoud ? WaardeUit(*inhoud, toepassing, sectie, sleutel) : std::nullopt;
+    }
+
+  private:
+    Schijf& schijf_;
+};
+
+#endif
+
+} // namespace
+
+std::optional<Tekst> WaardeUit(Tekstblik inhoud, Tekstblik toepassing, Tekstblik sectie,
+                               Tekstblik sleutel)
+{
+    Tekst kop(1, '[');
+    kop += Hoofdletters(Samen(toepassing, sectie));
+    kop += ']';
+    const Tekst gezocht = Hoofdletters(sleutel);
+    std::optional<Tekst> waarde;
+    bool inSectie = false;
+    for (const Tekstblik regel : Regels(inhoud)) {
+        const Tekstblik kaal = ZonderSpaties(regel);
+        const auto gelijk = kaal.find('=');
+        if (kaal.starts_with('['))
+            inSectie = Hoofdletters(kaal) == kop;
+        else if (inSectie && gelijk != Tekstblik::npos &&
+                 Hoofdletters(ZonderSpaties(kaal.substr(0, gelijk))) == gezocht)
+            waarde = ZonderSpaties(kaal.substr(gelijk + 1));
+    }
+    return waarde;
+}
+
+std::unique_ptr<Instellingenwinkel> MaakInstellingenwinkel([[maybe_unused]] Schijf& schijf)
+{
+#ifdef _WIN32
+    return std::make_unique<Registerwinkel>();
+#else
+    return std::make_unique<Bestandswinkel>(schijf);
+#endif
+}
+
+std::string Winkelplaats()
+{
+#ifdef _WIN32
+    return registerpad;
+#else
+    return Leesbaar(Winkelbestand());
+#endif
+}
+
+} // namespace plexoran

@@ -1,0 +1,37 @@
+// The per-user settings that other programs leave: on Windows the registry below
+// "HKEY_CURRENT_USER\Software\VB and VBA Program Settings", elsewhere a text file:
+//
+//     [<application>\<section>]
+//     <key>=<value>
+//
+// Applications, sections and keys are found without regard to case. A value is all that follows the
+// first "=", without outer spaces.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "platform/schijf/schijf.h"
+
+namespace plexoran {
+
+class Instellingenwinkel {
+  public:
+    virtual ~Instellingenwinkel() = default;
+
+    /// Nothing when it is not there or cannot be read.
+    [[nodiscard]] virtual std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie,
+                                                      Tekstblik sleutel) = 0;
+};
+
+/// A value in the text of such a file; the last one holds when it occurs twice.
+[[nodiscard]] std::optional<Tekst> WaardeUit(Tekstblik inhoud, Tekstblik toepassing,
+                                             Tekstblik sectie, Tekstblik sleutel);
+
+/// The store of this system, which must not outlive `schijf`.
+[[nodiscard]] std::unique_ptr<Instellingenwinkel> MaakInstellingenwinkel(Schijf& schijf);
+
+/// Where the store of this system is, UTF-8, for the eye.
+[[nodiscard]] std::string Winkelplaats();
+
+} // namespace plexoran

@@ -1,0 +1,205 @@
+#include "platform/schijf/echteSchijf.h"
+
+#include <utility>
+
+#include "platform/schijf/greep.h"
+#include "platform/schijf/systeempad.h"
+
+namespace plexoran {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+tl::unexpected<Fout> Mislukt(const fs::path& waar, const std::error_code& code)
+{
+    const bool ontbreekt =
+        code == std::errc::no_such_file_or_directory || code == std::errc::not_a_directory;
+    return tl::unexpected(Fout{ontbreekt ? Foutsoort::Ontbreekt : Foutsoort::Geweigerd,
+                               Leesbaar(waar), 0, Systeemmelding(code)});
+}
+
+Uitkomst<void> Uitslag(const fs::path& waar, const std::error_code& code)
+{
+    if (code)
+        return Mislukt(waar, code);
+    return {};
+}
+
+/// The names in a folder of what `hoort`; what no path of the suite can say is put with the others.
+template <class Hoort>
+Uitkomst<std::vector<Tekst>> Namen(const Pad& map, std::set<fs::path>& overgeslagen, Hoort hoort)
+{
+    const fs::path waar = Systeempad(map);
+    std::vector<Tekst> namen;
+    std::error_code fout;
+    for (fs::directory_iterator plaats(waar, fout); !fout && plaats != fs::directory_iterator();
+         plaats.increment(fout)) {
+        std::error_code nietTeZien; // as a link that leads nowhere
+        if (!hoort(*plaats, nietTeZien))
+            continue;
+        auto naam = NaamVan(plaats->path().filename());
+        if (naam && IsKaleNaam(*naam))
+            namen.push_back(std::move(*naam));
+        else
+            overgeslagen.insert(plaats->path());
+    }
+    if (fout)
+        return Mislukt(waar, fout);
+    return namen;
+}
+
+class EchteSchrijver : public Schrijver {
+  public:
+    explicit EchteSchrijver(fs::path pad) : pad_(std::move(pad)) {}
+
+    std::error_code Open() { return greep_.MaakNieuw(pad_); }
+    Uitkomst<void> Schrijf(Tekstblik bytes) override
+    {
+        return Uitslag(pad_, greep_.Schrijf(bytes));
+    }
+    Uitkomst<void> Sync() override { return Uitslag(pad_, greep_.Sync()); }
+    Uitkomst<void> Sluit() override { return Uitslag(pad_, greep_.Sluit()); }
+
+  private:
+    fs::path pad_;
+    systeem::Greep greep_;
+};
+
+} // namespace
+
+Uitkomst<Padsoort> EchteSchijf::Soort(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    std::error_code fout;
+    const fs::file_type soort = fs::status(waar, fout).type();
+    if (soort == fs::file_type::not_found)
+        return Padsoort::Niets;
+    if (soort == fs::file_type::none || fout)
+        return Mislukt(waar, fout);
+    return soort == fs::file_type::directory ? Padsoort::Map : Padsoort::Bestand;
+}
+
+Uitkomst<Tekst> EchteSchijf::LeesBestand(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    systeem::Greep greep;
+    Tekst inhoud;
+    std::error_code fout = greep.OpenLezen(waar);
+    if (!fout)
+        fout = greep.LeesAlles(inhoud);
+    if (fout)
+        return Mislukt(waar, fout);
+    return inhoud;
+}
+
+Uitkomst<Stempel> EchteSchijf::NeemStempel(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    Stempel stempel;
+    if (const auto fout = systeem::NeemStempel(waar, stempel))
+        return Mislukt(waar, fout);
+    return stempel;
+}
+
+Uitkomst<std::vector<Tekst>> EchteSchijf::Bestanden(const Pad& map)
+{
+    return Namen(map, overgeslagen_, [](const fs::directory_entry& deel, std::error_code& fout) {
+        return deel.is_regular_file(fout);
+    });
+}
+
+Uitkomst<std::vector<Tekst>> EchteSchijf::Mappen(const Pad& map)
+{
+    return Namen(map, overgeslagen_, [](const fs::directory_entry& deel, std::error_code& fout) {
+        return deel.is_directory(fout);
+    });
+}
+
+std::vector<std::string> EchteSchijf::NeemOvergeslagen(const Pad& map)
+{
+    const fs::path waar = Systeempad(map);
+    std::vector<std::string> namen;
+    for (const fs::path& pad : overgeslagen_) {
+        if (pad.parent_path() == waar && gemeld_.insert(pad).second)
+            namen.push_back(Leesbaar(pad.filename()));
+    }
+    return namen;
+}
+
+Uitkomst<void> EchteSchijf::MaakMap(const Pad& map)
+{
+    const fs::path waar = Systeempad(map);
+    std::error_code fout;
+    const bool gemaakt = fs::create_directory(waar, fout);
+    if (!gemaakt && !fout && !fs::is_directory(waar, fout))
+        fout = std::make_error_code(std::errc::file_exists);
+    // Nothing is missing: a file stands in the way. Windows has no word of its own for it.
+    std::error_code nietTeZien;
+    const bool achterBestand = fout == std::errc::no_such_file_or_directory &&
+                               fs::is_regular_file(waar.parent_path(), nietTeZien);
+    if (fout == std::errc::not_a_directory || achterBestand)
+        fout = std::make_error_code(std::errc::file_exists);
+    return Uitslag(waar, fout);
+}
+
+Uitkomst<Pad> EchteSchijf::Doel(const Pad& pad)
+{
+    fs::path waar = Systeempad(pad);
+    constexpr int hoogstens = 40; // as many as the systems follow themselves
+    for (int gevolgd = 0; gevolgd <= hoogstens; ++gevolgd) {
+        std::error_code fout;
+        const fs::file_type soort = fs::symlink_status(waar, fout).type();
+        if (soort == fs::file_type::none)
+            return Mislukt(waar, fout);
+        if (soort != fs::file_type::symlink)
+            return gevolgd == 0 ? pad : PadVan(waar);
+        const fs::path heen = fs::read_symlink(waar, fout);
+        if (fout)
+            return Mislukt(waar, fout);
+        waar = waar.parent_path() / heen;
+    }
+    return Mislukt(waar, std::make_error_code(std::errc::too_many_symbolic_link_levels));
+}
+
+Uitkomst<std::unique_ptr<Schrijver>> EchteSchijf::MaakNieuw(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    auto schrijver = std::make_unique<EchteSchrijver>(waar);
+    if (const auto fout = schrijver->Open())
+        return Mislukt(waar, fout);
+    return schrijver;
+}
+
+Uitkomst<void> EchteSchijf::NeemRechtenOver(const Pad& van, const Pad& naar)
+{
+    const fs::path waar = Systeempad(van);
+    return Uitslag(waar, systeem::NeemRechtenOver(waar, Systeempad(naar)));
+}
+
+Uitkomst<void> EchteSchijf::Hernoem(const Pad& van, const Pad& naar)
+{
+    const fs::path waar = Systeempad(naar);
+    return Uitslag(waar, systeem::Hernoem(Systeempad(van), waar));
+}
+
+Uitkomst<void> EchteSchijf::Verwijder(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    return Uitslag(waar, systeem::Verwijder(waar));
+}
+
+Uitkomst<void> EchteSchijf::SyncMapVan(const Pad& pad)
+{
+    fs::path map = Systeempad(pad).parent_path();
+    if (map.empty())
+        map = ".";
+    return Uitslag(map, systeem::SyncMap(map));
+}
+
+std::string EchteSchijf::Toonpad(const Pad& pad) const
+{
+    return Leesbaar(Systeempad(pad));
+}
+
+} // namespace plexoran

@@ -1,0 +1,101 @@
+// The disk as the house sees it: whole files read at once, and the single steps of which a durable
+// save is made (platform/schijf/heelschrijven.h). Every step can fail and says so, so that a test
+// can make each of them fail.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/schijf/fout.h"
+#include "platform/tekst/tekst.h"
+
+namespace plexoran {
+
+/// A path as the suite writes it: folders and name joined by `\`. Elsewhere than on Windows the
+/// disk turns it into the system's own.
+using Pad = Tekst;
+
+/// Folder and name, joined by a single `\`.
+[[nodiscard]] inline Pad Samen(Tekstblik map, Tekstblik naam)
+{
+    Pad pad(map);
+    pad += '\\';
+    pad += naam;
+    return pad;
+}
+
+/// Whether a name that was read from a file or a folder stays in the folder that it is put behind:
+/// no separator and no drive in it, and neither "." nor "..".
+[[nodiscard]] bool IsKaleNaam(Tekstblik naam);
+/// What is wrong with a name that is not so, as `Beschadigd`; `bestand` is where it was read.
+[[nodiscard]] Fout GeenNaam(Tekstblik naam, std::string bestand = {});
+
+enum class Padsoort { Niets, Bestand, Map };
+
+/// What tells one state of a file from the next: another stamp means that the file was changed or
+/// replaced since.
+struct Stempel {
+    std::uint64_t grootte = 0; ///< bytes
+    std::int64_t tijd = 0;     ///< of the last change, nanoseconds since 1970
+    std::uint64_t nummer = 0;  ///< the file's identity on its disk
+    bool operator==(const Stempel&) const = default;
+};
+
+/// A new file that is being written. Destroyed without `Sluit`, it is closed as it is.
+class Schrijver {
+  public:
+    virtual ~Schrijver() = default;
+    [[nodiscard]] virtual Uitkomst<void> Schrijf(Tekstblik bytes) = 0;
+    /// Returns when the bytes are on the device.
+    [[nodiscard]] virtual Uitkomst<void> Sync() = 0;
+    [[nodiscard]] virtual Uitkomst<void> Sluit() = 0;
+};
+
+class Schijf {
+  public:
+    virtual ~Schijf() = default;
+
+    /// What stands at the path. A path that cannot be looked at is an error, not `Niets`.
+    [[nodiscard]] virtual Uitkomst<Padsoort> Soort(const Pad& pad) = 0;
+    [[nodiscard]] virtual Uitkomst<Tekst> LeesBestand(const Pad& pad) = 0;
+    [[nodiscard]] virtual Uitkomst<Stempel> NeemStempel(const Pad& pad) = 0;
+    /// The names of the files in a folder, without their path, in no order. Only names that can
+    /// stand in a path of the suite.
+    [[nodiscard]] virtual Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) = 0;
+    /// The names of the folders in a folder, without their path, in no order; never "." or "..".
+    [[nodiscard]] virtual Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) = 0;
+    /// What was left out of these lists because of its name, UTF-8; each is handed out once.
+    [[nodiscard]] virtual std::vector<std::string> NeemOvergeslagen(const Pad& /*map*/)
+    {
+        return {};
+    }
+
+    /// Makes the folder inside one that exists; a folder that is there already is fine. Folders
+    /// above it are not made: a drive that is away must not turn into an empty register.
+    [[nodiscard]] virtual Uitkomst<void> MaakMap(const Pad& map) = 0;
+    /// The file that a write to `pad` must replace: where `pad` is a link, what it leads to.
+    [[nodiscard]] virtual Uitkomst<Pad> Doel(const Pad& pad) = 0;
+    /// Makes a file that must not exist yet.
+    [[nodiscard]] virtual Uitkomst<std::unique_ptr<Schrijver>> MaakNieuw(const Pad& pad) = 0;
+    /// Gives `naar` the rights of `van`; refused when `van` may not be written.
+    [[nodiscard]] virtual Uitkomst<void> NeemRechtenOver(const Pad& van, const Pad& naar) = 0;
+    /// Renames a file; a file that bears the new name is replaced in the same step.
+    [[nodiscard]] virtual Uitkomst<void> Hernoem(const Pad& van, const Pad& naar) = 0;
+    [[nodiscard]] virtual Uitkomst<void> Verwijder(const Pad& pad) = 0;
+    /// Returns when the names in the folder of `pad` are on the device.
+    [[nodiscard]] virtual Uitkomst<void> SyncMapVan(const Pad& pad) = 0;
+
+    /// The path as the system writes it, UTF-8, for messages only.
+    [[nodiscard]] virtual std::string Toonpad(const Pad& pad) const = 0;
+};
+
+/// Reads a file of at most 64 MB. A larger one is none of the suite's and is refused as
+/// `Beschadigd`, before it fills the memory.
+[[nodiscard]] Uitkomst<Tekst> LeesBegrensd(Schijf& schijf, const Pad& pad);
+
+/// The same, or nothing where there is no file of that name.
+[[nodiscard]] Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad);
+
+} // namespace plexoran

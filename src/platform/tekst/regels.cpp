@@ -1,0 +1,145 @@
+#include "platform/tekst/regels.h"
+
+#include <algorithm>
+
+namespace plexoran {
+
+Stukken::Iterator::Iterator(Tekstblik rest, bool opKomma) : rest_(rest), opKomma_(opKomma)
+{
+    Volgend();
+}
+
+Stukken::Iterator& Stukken::Iterator::operator++()
+{
+    Volgend();
+    return *this;
+}
+
+void Stukken::Iterator::Volgend()
+{
+    if (rest_.empty()) {
+        klaar_ = true;
+        return;
+    }
+    // Not find_first_of: that calls a function for every character.
+    const auto waar = std::find_if(rest_.begin(), rest_.end(), [this](char teken) {
+        return teken == '\n' || teken == '\r' || (opKomma_ && teken == ',');
+    });
+    const auto eind = static_cast<std::size_t>(waar - rest_.begin());
+    stuk_ = rest_.substr(0, eind);
+    if (eind == rest_.size()) {
+        rest_ = {};
+        return;
+    }
+    const bool paar = rest_.substr(eind, 2) == "\r\n";
+    rest_.remove_prefix(eind + (paar ? 2 : 1));
+}
+
+Tekstblik EersteItem(Tekstblik inhoud)
+{
+    const auto items = Items(inhoud);
+    const auto eerste = items.begin();
+    return eerste == items.end() ? Tekstblik() : *eerste;
+}
+
+Tekstblik ZonderBlancoBegin(Tekstblik inhoud)
+{
+    for (const Tekstblik item : Items(inhoud)) {
+        if (!IsBlanco(item))
+            return inhoud.substr(static_cast<std::size_t>(item.data() - inhoud.data()));
+    }
+    return {};
+}
+
+bool IsLeeg(Tekstblik inhoud)
+{
+    return inhoud.find_first_not_of(" \r\n") == Tekstblik::npos;
+}
+
+namespace {
+
+bool LeestTerug(Tekstblik geschreven, Tekstblik tekst)
+{
+    const auto items = ItemsVan(geschreven, 2);
+    return items.size() == 1 && items.front().tekst == tekst;
+}
+
+} // namespace
+
+struct Itemlezer::Slot {
+    std::size_t quote = Tekstblik::npos;
+    std::size_t eind = 0; ///< the comma or line end behind it
+};
+
+std::optional<Item> Itemlezer::Volgend()
+{
+    if (begin_ > regel_.size())
+        return std::nullopt;
+    const std::size_t vanaf = begin_;
+    const auto eerste = regel_.find_first_not_of(' ', vanaf);
+    if (eerste != Tekstblik::npos && regel_[eerste] == '"') {
+        const auto [quote, eind] = Sluiter(eerste + 1);
+        if (quote != Tekstblik::npos) {
+            begin_ = eind + 1;
+            return Item{regel_.substr(vanaf, eind - vanaf),
+                        regel_.substr(eerste + 1, quote - eerste - 1)};
+        }
+    }
+    const std::size_t eind = std::min(regel_.find(',', vanaf), regel_.size());
+    begin_ = eind + 1;
+    const Tekstblik rauw = regel_.substr(vanaf, eind - vanaf);
+    return Item{rauw, rauw};
+}
+
+/// The first quote from `vanaf` that closes an item.
+Itemlezer::Slot Itemlezer::Sluiter(std::size_t vanaf)
+{
+    // Without this a line of open quotes would be searched to its end for each of them.
+    if (geenQuoteMeer_)
+        return {};
+    for (auto quote = regel_.find('"', vanaf); quote != Tekstblik::npos;
+         quote = regel_.find('"', quote + 1)) {
+        const auto erna = regel_.find_first_not_of(' ', quote + 1);
+        if (erna == Tekstblik::npos)
+            return {quote, regel_.size()};
+        if (regel_[erna] == ',')
+            return {quote, erna};
+    }
+    geenQuoteMeer_ = true;
+    return {};
+}
+
+std::vector<Item> ItemsVan(Tekstblik regel, std::size_t hoogstens)
+{
+    constexpr std::size_t gewoonlijk = 8; // a record of a result list has 7
+    std::vector<Item> items;
+    items.reserve(gewoonlijk);
+    Itemlezer lezer(regel);
+    while (items.size() < hoogstens) {
+        const auto item = lezer.Volgend();
+        if (!item)
+            break;
+        items.push_back(*item);
+    }
+    return items;
+}
+
+Tekst MetTekst(const Item& item, Tekstblik tekst)
+{
+    const auto voor = static_cast<std::size_t>(item.tekst.data() - item.rauw.data());
+    Tekst uit(item.rauw.substr(0, voor));
+    uit += tekst;
+    uit += item.rauw.substr(voor + item.tekst.size());
+    return uit;
+}
+
+Tekst AlsItem(Tekstblik tekst)
+{
+    Tekst bloot(tekst);
+    if (LeestTerug(bloot, tekst))
+        return bloot;
+    const Tekst aangehaald = '"' + bloot + '"';
+    return LeestTerug(aangehaald, tekst) ? aangehaald : bloot;
+}
+
+} // namespace plexoran

@@ -1,0 +1,60 @@
+// Drawing and measuring in millimetres, without a display. One routine draws a page on whatever
+// surface it is given: the screen at any zoom, a printer, a PDF file, or a record kept by a test.
+//
+// A text is as wide everywhere: the sum of the advances of its characters, which are fractions of
+// the size of the letter, without kerning and without rounding to the dots of a device.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/tekst/tekst.h"
+
+namespace plexoran {
+
+/// The fonts that lists and explanations name. Where one is missing its metric equal is used, in
+/// which every character is as wide.
+enum class Lettertype { Arial, CourierNew, TimesNewRoman };
+
+struct Letter {
+    Lettertype type = Lettertype::Arial;
+    double punten = 10.0; ///< 1/72 inch
+    bool vet = false;
+    bool operator==(const Letter&) const = default;
+};
+
+struct Kleur {
+    std::uint8_t rood = 0;
+    std::uint8_t groen = 0;
+    std::uint8_t blauw = 0;
+    bool operator==(const Kleur&) const = default;
+};
+
+enum class Papierstand { Staand = 1, Liggend = 2 };
+
+/// The widths of texts before anything is drawn.
+class Lettermeter {
+  public:
+    virtual ~Lettermeter() = default;
+    /// Millimetres.
+    [[nodiscard]] virtual double Breedte(const Letter& letter, Tekstblik tekst) const = 0;
+    /// From the top of the highest letter to the bottom of the lowest, millimetres.
+    [[nodiscard]] virtual double Hoogte(const Letter& letter) const = 0;
+};
+
+/// A page, or a part of the screen. All lengths are millimetres from its top left corner.
+class Tekenvlak {
+  public:
+    virtual ~Tekenvlak() = default;
+
+    [[nodiscard]] virtual const Lettermeter& Meter() const = 0;
+    /// Writes in black with the left end of the text at `x` and the top of its letters, capitals
+    /// with accents included, at `y`. A control character is a blank.
+    virtual void Schrijf(double x, double y, const Letter& letter, Tekstblik tekst) = 0;
+    /// A straight line around whose middle `dikte` lies. On the screen it is never thinner than one
+    /// of its dots.
+    virtual void Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte) = 0;
+    /// A filled rectangle.
+    virtual void Vul(double x, double y, double breed, double hoog, Kleur kleur) = 0;
+};
+
+} // namespace plexoran

@@ -1,0 +1,247 @@
+#include "platform/schijf/heelschrijven.h"
+
+#include <limits>
+
+#include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/tijdelijkeMap.h"
+#include "schijven/falendeSchijf.h"
+#include "schijven/geheugenSchijf.h"
+
+using namespace plexoran;
+
+namespace {
+
+constexpr const char* bestand = "C:\\club\\spelers.txt";
+using Namen = std::vector<Tekst>;
+
+/// Saves with the first, second, ... operation refused, until nothing is left to refuse. After
+/// each refusal the old file must stand there alone; only after the folder sync, the last
+/// operation, it is the new one.
+template <class Bereid, class Bekijk>
+void FaalBijElkeStap(Schijf& binnen, const Pad& pad, const Tekst& oud, Bereid bereid, Bekijk bekijk)
+{
+    FalendeSchijf schijf(binnen);
+    bereid();
+    ASSERT_TRUE(SchrijfHeel(schijf, pad, "de nieuwe inhoud"));
+    const int stappen = schijf.Aantal();
+    ASSERT_GE(stappen, 8); // target, kind, make, rights, write, sync, close, rename, folder
+    for (int stap = 1; stap <= stappen; ++stap) {
+        bereid();
+        schijf.FaalBij(stap);
+        const auto uitkomst = SchrijfHeel(schijf, pad, "de nieuwe inhoud");
+        ASSERT_FALSE(uitkomst) << "stap " << stap;
+        EXPECT_EQ(uitkomst.error().soort,
+                  stap < stappen ? Foutsoort::Geweigerd : Foutsoort::NietVast);
+        EXPECT_EQ(uitkomst.error().systeem, "schijf vol");
+        EXPECT_EQ(bekijk(), stap < stappen ? oud : "de nieuwe inhoud") << "stap " << stap;
+        EXPECT_EQ(binnen.Bestanden(pad.substr(0, pad.find_last_of('\\'))), Namen{"spelers.txt"})
+            << "stap " << stap;
+    }
+}
+
+} // namespace
+
+TEST(HeelSchrijven, NieuwBestand)
+{
+    GeheugenSchijf schijf;
+    schijf.ZetMap("C:\\club");
+    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "inhoud"));
+    EXPECT_EQ(schijf.Inhoud(bestand), "inhoud");
+    EXPECT_EQ(schijf.AlleBestanden(), Namen{bestand});
+}
+
+TEST(HeelSchrijven, VervangtHetOude)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet(bestand, "veel langere oude inhoud");
+    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "nieuw"));
+    EXPECT_EQ(schijf.Inhoud(bestand), "nieuw");
+    EXPECT_EQ(schijf.AlleBestanden(), Namen{bestand});
+}
+
+TEST(HeelSchrijven, MapOntbreekt)
+{
+    GeheugenSchijf schijf;
+    const auto uitkomst = SchrijfHeel(schijf, bestand, "nieuw");
+    ASSERT_FALSE(uitkomst);
+    EXPECT_EQ(uitkomst.error().soort, Foutsoort::Ontbreekt);
+}
+
+TEST(HeelSchrijven, FaaltBijElkeStapInGeheugen)
+{
+    GeheugenSchijf schijf;
+    FaalBijElkeStap(
+        schijf, bestand, "oud", [&] { schijf.Zet(bestand, "oud"); },
+        [&] { return schijf.Inhoud(bestand).value_or("weg"); });
+}
+
+TEST(HeelSchrijven, FaaltBijElkeStapOpDeEchteSchijf)
+{
+    const TijdelijkeMap map;
+    EchteSchijf schijf;
+    FaalBijElkeStap(
+        schijf, Samen(map.AlsPad(), "spelers.txt"), "oud", [&] { map.Zet("spelers.txt", "oud"); },
+        [&] { return map.Inhoud("spelers.txt"); });
+}
+
+TEST(HeelSchrijven, EersteFoutWordtGemeld)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet(bestand, "oud");
+    FalendeSchijf schijf(binnen);
+    schijf.FaalVanaf(5); // the write, and the removal of the temporary file as well
+    const auto uitkomst = SchrijfHeel(schijf, bestand, "nieuw");
+    ASSERT_FALSE(uitkomst);
+    EXPECT_EQ(uitkomst.error().bestand, bestand); // the user's file, not the temporary one
+    EXPECT_EQ(binnen.Inhoud(bestand), "oud");
+}
+
+/// Without the two syncs the steps and what each failure leaves are those of a durable save.
+TEST(VluchtigSchrijven, FaaltBijElkeStap)
+{
+    GeheugenSchijf binnen;
+    FalendeSchijf schijf(binnen);
+    binnen.Zet(bestand, "oud");
+    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "nieuw"));
+    const int duurzaam = schijf.Aantal();
+    for (int stap = 1; stap <= duurzaam - 2; ++stap) {
+        binnen.Zet(bestand, "oud");
+        schijf.FaalBij(stap);
+        const auto uitkomst = SchrijfVluchtig(schijf, bestand, "nieuw");
+        ASSERT_FALSE(uitkomst) << "stap " << stap;
+        EXPECT_EQ(uitkomst.error().bestand, bestand);
+        EXPECT_EQ(binnen.Inhoud(bestand), "oud") << "stap " << stap;
+        EXPECT_EQ(binnen.AlleBestanden(), Namen{bestand}) << "stap " << stap;
+    }
+    schijf.FaalBij(duurzaam - 1);
+    ASSERT_TRUE(SchrijfVluchtig(schijf, bestand, "nieuw")) << "twee stappen minder";
+    EXPECT_EQ(binnen.Inhoud(bestand), "nieuw");
+}
+
+TEST(HeelSchrijven, StroomuitvalNaElkeStap)
+{
+    for (const auto namen : {GeheugenSchijf::Namen::Gesynct, GeheugenSchijf::Namen::Alle}) {
+        bool klaar = false;
+        bool oudGezien = false;
+        for (int stap = 1; !klaar; ++stap) {
+            ASSERT_LT(stap, 50) << "het opslaan lukt nooit";
+            GeheugenSchijf binnen;
+            binnen.Zet(bestand, "oud");
+            FalendeSchijf schijf(binnen);
+            schijf.FaalVanaf(stap);
+            klaar = SchrijfHeel(schijf, bestand, "nieuw").has_value();
+            const auto over = binnen.NaStroomuitval(namen);
+            ASSERT_TRUE(over.contains(bestand)) << "stap " << stap;
+            const Tekst& inhoud = over.at(bestand);
+            EXPECT_TRUE(inhoud == "nieuw" || (inhoud == "oud" && !klaar))
+                << "stap " << stap << ": " << inhoud;
+            oudGezien = oudGezien || inhoud == "oud";
+        }
+        EXPECT_TRUE(oudGezien);
+    }
+}
+
+TEST(HeelSchrijven, RechtenVoorDeInhoud)
+{
+    // The temporary file of a secret file is never readable to all with its contents in it.
+    GeheugenSchijf binnen;
+    binnen.Zet(bestand, "oud");
+    binnen.ZetAlleenLezen(bestand);
+    FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
+    EXPECT_FALSE(SchrijfHeel(schijf, bestand, "nieuw"));
+    EXPECT_EQ(schijf.Aantal(), 3); // make, rights, remove
+    EXPECT_EQ(binnen.AlleBestanden(), Namen{bestand});
+}
+
+namespace {
+
+constexpr std::int64_t seconde = 1'000'000'000;
+constexpr std::int64_t uur = 3600 * seconde;
+constexpr std::int64_t nu = 500'000 * uur;
+
+} // namespace
+
+TEST(RuimTijdelijkeOp, AlleenOudeVanDitProgrammaInDezeMap)
+{
+    GeheugenSchijf schijf;
+    const Namen blijven = {"spelers.txt",
+                           "spelers.txt.~",
+                           "spelers.txt.~123",
+                           "spelers.txt.~plexoran",
+                           "spelers.txt.~plexoran12a",
+                           "spelers.txt.~plexoran9.txt",
+                           "spelers.txt~plexoran9",
+                           "map\\spelers.txt.~plexoran1"};
+    for (const Tekst& naam : blijven) {
+        schijf.Zet(Samen("C:\\club", naam), "x");
+        schijf.ZetTijd(Samen("C:\\club", naam), nu - 1000 * uur);
+    }
+    for (const char* naam : {"spelers.txt.~plexoran1230001", "Club lijst.pdf.~plexoran7"}) {
+        schijf.Zet(Samen("C:\\club", naam), "x");
+        schijf.ZetTijd(Samen("C:\\club", naam), nu - uur - 1);
+    }
+    RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
+    EXPECT_EQ(schijf.AlleBestanden().size(), blijven.size());
+    for (const Tekst& naam : blijven)
+        EXPECT_TRUE(schijf.Inhoud(Samen("C:\\club", naam))) << naam;
+}
+
+TEST(RuimTijdelijkeOp, EenMapDieNietGenoemdIsBlijftMetRust)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet("\\spelers.txt.~plexoran1", "x");
+    RuimTijdelijkeOp(schijf, "", "spelers.txt", nu);
+    EXPECT_TRUE(schijf.Inhoud("\\spelers.txt.~plexoran1"));
+}
+
+TEST(RuimTijdelijkeOp, JongeBlijven)
+{
+    GeheugenSchijf schijf;
+    for (const std::int64_t tijd : {nu - uur, nu - seconde, nu + 5 * uur}) {
+        schijf.Zet("C:\\club\\spelers.txt.~plexoran1", "x");
+        schijf.ZetTijd("C:\\club\\spelers.txt.~plexoran1", tijd);
+        RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
+        EXPECT_TRUE(schijf.Inhoud("C:\\club\\spelers.txt.~plexoran1")) << tijd;
+    }
+}
+
+TEST(RuimTijdelijkeOp, MislukkenIsGeenRamp)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet("C:\\club\\spelers.txt.~plexoran1", "x");
+    binnen.Zet("C:\\club\\spelers.txt.~plexoran2", "x");
+    FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
+    schijf.FaalBij(1);
+    RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
+    EXPECT_EQ(binnen.AlleBestanden(), Namen{"C:\\club\\spelers.txt.~plexoran1"});
+    RuimTijdelijkeOp(schijf, "C:\\weg", "spelers.txt", nu);
+}
+
+TEST(RuimTijdelijkeOp, WatEenSaveAchterliet)
+{
+    GeheugenSchijf binnen;
+    binnen.Zet(bestand, "oud");
+    FalendeSchijf schijf(binnen);
+    schijf.FaalVanaf(6); // killed before the sync
+    EXPECT_FALSE(SchrijfHeel(schijf, bestand, "nieuw"));
+    ASSERT_EQ(binnen.AlleBestanden().size(), 2U);
+    RuimTijdelijkeOp(binnen, "C:\\club", "spelers.txt", nu);
+    EXPECT_EQ(binnen.AlleBestanden(), Namen{bestand});
+}
+
+#ifndef _WIN32
+
+TEST(RuimTijdelijkeOp, InDeMapVanHetDoelVanEenLink)
+{
+    const TijdelijkeMap map;
+    std::filesystem::create_directory(map.Weg() / "ver");
+    map.Zet("ver/echt.txt", "oud");
+    map.Zet("ver/echt.txt.~plexoran55", "rest");
+    std::filesystem::create_symlink("ver/echt.txt", map.Weg() / "link.txt");
+    EchteSchijf schijf;
+    RuimTijdelijkeOp(schijf, map.AlsPad(), "link.txt", std::numeric_limits<std::int64_t>::max());
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "ver/echt.txt.~plexoran55"));
+    EXPECT_EQ(map.Inhoud("ver/echt.txt"), "oud");
+}
+
+#endif

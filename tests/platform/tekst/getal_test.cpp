@@ -1,0 +1,116 @@
+#include "platform/tekst/getal.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+using namespace plexoran;
+
+TEST(Getal, GeheleGetallen)
+{
+    EXPECT_EQ(Geheel32("0"), 0);
+    EXPECT_EQ(Geheel32("123"), 123);
+    EXPECT_EQ(Geheel32("-45"), -45);
+    EXPECT_EQ(Geheel32("+7"), 7);
+    EXPECT_EQ(Geheel32("007"), 7);
+    EXPECT_EQ(Geheel32("   12"), 12);
+}
+
+TEST(Getal, ZonderCijfersNul)
+{
+    EXPECT_EQ(Geheel32(""), 0);
+    EXPECT_EQ(Geheel32("   "), 0);
+    EXPECT_EQ(Geheel32("abc"), 0);
+    EXPECT_EQ(Geheel32("-"), 0);
+    EXPECT_EQ(Geheel32("."), 0);
+    EXPECT_EQ(Geheel32("--5"), 0);
+    EXPECT_EQ(Geheel32("x5"), 0);
+}
+
+TEST(Getal, WatVolgtTeltNiet)
+{
+    EXPECT_EQ(Geheel32("12abc"), 12);
+    EXPECT_EQ(Geheel32("12,5"), 12);
+    EXPECT_EQ(Geheel32("12-3"), 12);
+    EXPECT_EQ(Geheel32("3."), 3);
+    EXPECT_EQ(Geheel32("3.x9"), 3);
+    EXPECT_EQ(Geheel32("1.4.9"), 1);
+}
+
+TEST(Getal, BreukRondtAf)
+{
+    EXPECT_EQ(Geheel32("2.4"), 2);
+    EXPECT_EQ(Geheel32("2.6"), 3);
+    EXPECT_EQ(Geheel32("2.49999"), 2);
+    EXPECT_EQ(Geheel32("-2.6"), -3);
+    EXPECT_EQ(Geheel32(".7"), 1);
+}
+
+TEST(Getal, HalfNaarEven)
+{
+    EXPECT_EQ(Geheel32("0.5"), 0);
+    EXPECT_EQ(Geheel32("1.5"), 2);
+    EXPECT_EQ(Geheel32("2.5"), 2);
+    EXPECT_EQ(Geheel32("2.500"), 2);
+    EXPECT_EQ(Geheel32("2.501"), 3);
+    EXPECT_EQ(Geheel32("2.5x1"), 2);
+    EXPECT_EQ(Geheel32("-1.5"), -2);
+    EXPECT_EQ(Geheel32("-2.5"), -2);
+}
+
+TEST(Getal, Grenzen)
+{
+    EXPECT_EQ(Geheel16("32767"), 32767);
+    EXPECT_EQ(Geheel16("32768"), std::nullopt);
+    EXPECT_EQ(Geheel16("-32768"), -32768);
+    EXPECT_EQ(Geheel16("-32769"), std::nullopt);
+    EXPECT_EQ(Geheel16("32767.4"), 32767);
+    EXPECT_EQ(Geheel16("32767.5"), std::nullopt);
+    EXPECT_EQ(Geheel32("2147483647"), 2147483647);
+    EXPECT_EQ(Geheel32("2147483648"), std::nullopt);
+    EXPECT_EQ(Geheel32("-2147483648"), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(Geheel32("-2147483649"), std::nullopt);
+}
+
+TEST(Getal, HeelLangeCijferreeks)
+{
+    EXPECT_EQ(Geheel32("99999999999999999999999999999999999999"), std::nullopt);
+    EXPECT_EQ(Geheel32("00000000000000000000000000000000000012"), 12);
+}
+
+TEST(Getal, AlsGetalVultAanMetNullen)
+{
+    EXPECT_EQ(AlsGetal("12345", 8), "00012345");
+    EXPECT_EQ(AlsGetal("100001", 6), "100001");
+    EXPECT_EQ(AlsGetal("0", 6), "000000");
+    EXPECT_EQ(AlsGetal("000", 2), "00");
+    EXPECT_EQ(AlsGetal("7", 0), "7");
+}
+
+TEST(Getal, AlsGetalKortNietAf)
+{
+    EXPECT_EQ(AlsGetal("123456789", 6), "123456789");
+    EXPECT_EQ(AlsGetal("0000000123456789", 6), "123456789");
+    EXPECT_EQ(AlsGetal("99999999999999999999999999", 8), "99999999999999999999999999");
+}
+
+TEST(Getal, AlsGetalLeestOverSpatiesEromheen)
+{
+    EXPECT_EQ(AlsGetal("  12 ", 4), "0012");
+    EXPECT_EQ(AlsGetal("1 2", 4), std::nullopt);
+}
+
+TEST(Getal, WatGeenCijfersZijnIsGeenGetal)
+{
+    for (const char* tekst :
+         {"", "   ", "abc", "12a", "a12", "-5", "+5", "1.5", "1,5", "\t1", "\xB2", "0x10", "1e3"})
+        EXPECT_EQ(AlsGetal(tekst, 6), std::nullopt) << tekst;
+}
+
+TEST(BegintMetGetal, MetEenCijferNaTekenEnPunt)
+{
+    for (const char* getal : {"1", " 0x", "-5", "+7", ".5", "-.5", "12abc"})
+        EXPECT_TRUE(BegintMetGetal(getal)) << getal;
+    for (const char* geen : {"", " ", "-", "x1", "--5", ".", "-.x", "\t1"})
+        EXPECT_FALSE(BegintMetGetal(geen)) << geen;
+}

@@ -1,0 +1,197 @@
+#include "platform/tekst/tekstorde.h"
+
+#include <algorithm>
+#include <random>
+
+#include <gtest/gtest.h>
+
+using namespace plexoran;
+
+namespace {
+
+/// Each text stands strictly before every later one.
+void VerwachtOplopend(const std::vector<Tekst>& teksten)
+{
+    for (std::size_t i = 0; i < teksten.size(); ++i) {
+        for (std::size_t j = i + 1; j < teksten.size(); ++j)
+            EXPECT_LT(Sorteersleutel(teksten[i]), Sorteersleutel(teksten[j]))
+                << "'" << teksten[i] << "' en '" << teksten[j] << "'";
+    }
+}
+
+/// The letters of a character, written out; empty for what is no letter.
+Tekst LettersVan(char teken)
+{
+    static const std::vector<std::pair<Tekst, Tekst>> lijst{
+        {"\xC0\xC1\xC2\xC3\xC4\xC5\xE0\xE1\xE2\xE3\xE4\xE5", "A"},
+        {"\xC7\xE7", "C"},
+        {"\xD0\xF0", "D"},
+        {"\xC8\xC9\xCA\xCB\xE8\xE9\xEA\xEB", "E"},
+        {"\xCC\xCD\xCE\xCF\xEC\xED\xEE\xEF", "I"},
+        {"\xD1\xF1", "N"},
+        {"\xD2\xD3\xD4\xD5\xD6\xD8\xF2\xF3\xF4\xF5\xF6\xF8", "O"},
+        {"\x8A\x9A", "S"},
+        {"\xD9\xDA\xDB\xDC\xF9\xFA\xFB\xFC", "U"},
+        {"\xDD\xFD\x9F\xFF", "Y"},
+        {"\x8E\x9E", "Z"},
+        {"\xC6\xE6", "AE"},
+        {"\x8C\x9C", "OE"},
+        {"\xDF", "SS"},
+        {"\xDE\xFE", "TH"}};
+    if (teken >= 'A' && teken <= 'Z')
+        return {teken};
+    if (teken >= 'a' && teken <= 'z')
+        return {static_cast<char>(teken - 'a' + 'A')};
+    for (const auto& [tekens, letters] : lijst) {
+        if (tekens.find(teken) != Tekst::npos)
+            return letters;
+    }
+    return {};
+}
+
+/// The same order, said plainly: a number per letter, sign or digit, and then the bytes.
+std::pair<std::vector<int>, Tekst> GewoneSleutel(const Tekst& tekst)
+{
+    std::vector<int> gewichten;
+    for (const char teken : tekst) {
+        const Tekst letters = LettersVan(teken);
+        for (const char letter : letters)
+            gewichten.push_back(3000 + letter);
+        if (!letters.empty())
+            continue;
+        const int code = static_cast<unsigned char>(teken);
+        if (teken == ' ')
+            gewichten.push_back(0);
+        else
+            gewichten.push_back((teken >= '0' && teken <= '9' ? 2000 : 1000) + code);
+    }
+    return {gewichten, tekst};
+}
+
+} // namespace
+
+TEST(Tekstorde, EerstBlankDanTekensDanCijfersDanLetters)
+{
+    VerwachtOplopend({"",  " ", "\t",   "!",    "'",    "(",    ",", "-", ".", "/", ":", "@", "[",
+                      "_", "~", "\x80", "\xA0", "\xD7", "\xF7", "0", "1", "9", "A", "B", "Z"});
+}
+
+TEST(Tekstorde, EenKortereTekstKomtVoorEenLangere)
+{
+    VerwachtOplopend({"Bos", "Bos ", "Bos-Dam", "Bos1", "Bosch", "Bosman"});
+}
+
+TEST(Tekstorde, HoofdletterEnAccentTellenPasAlsVerderAllesGelijkIs)
+{
+    VerwachtOplopend({"Anna", "anna", "\xC0nna", "\xE0nna", "anne", "B"});
+    VerwachtOplopend({"ZO\xCB"
+                      "A",
+                      "zoeb",
+                      "Zo\xEB"
+                      "C"});
+    VerwachtOplopend({"C", "\xC7", "\xE7", "D", "\xD0", "\xF0", "E"});
+    VerwachtOplopend({"N", "n", "\xD1", "\xF1", "O"});
+    VerwachtOplopend({"R", "S", "s", "\x8A", "\x9A", "T"});
+    VerwachtOplopend({"Y", "y", "\x9F", "\xDD", "\xFD", "\xFF", "Z", "z", "\x8E", "\x9E"});
+}
+
+TEST(Tekstorde, TekensDieVoorTweeLettersStaan)
+{
+    VerwachtOplopend({"Ad", "AE", "Ae", "aE", "ae", "\xC6", "\xE6", "Af"});
+    VerwachtOplopend({"Od", "OE", "oe", "\x8C", "\x9C", "Of"});
+    VerwachtOplopend({"Sr", "SS", "ss", "\xDF", "St"});
+    VerwachtOplopend({"Tg", "TH", "th", "\xDE", "\xFE", "Ti"});
+    VerwachtOplopend({"Gro\xDF"
+                      "a",
+                      "Grossb",
+                      "Gro\xDF"
+                      "c"});
+    VerwachtOplopend({"Nz", "O", "o", "\xD6", "\xD8", "\xF6", "\xF8", "Oa",
+                      "\xD8"
+                      "b"});
+}
+
+TEST(Tekstorde, AlleenGelijkeTekstenHebbenEenGelijkeSleutel)
+{
+    for (int i = 0; i < 256; ++i) {
+        for (int j = 0; j < 256; ++j) {
+            const Tekst een(1, static_cast<char>(i));
+            const Tekst ander(1, static_cast<char>(j));
+            EXPECT_EQ(i == j, Sorteersleutel(een) == Sorteersleutel(ander)) << i << " " << j;
+        }
+    }
+}
+
+TEST(Tekstorde, GelijkAanDeGewoneVergelijking)
+{
+    std::mt19937 toeval(20);
+    const Tekst geliefd = "aAbBeEoOsStThH \xC6\xE6\x8C\x9C\xDF\xDE\xFE\xD8\xE9,-09";
+    const auto tekst = [&] {
+        Tekst uit(toeval() % 6, ' ');
+        for (char& teken : uit)
+            teken = toeval() % 3 == 0 ? static_cast<char>(toeval() % 256)
+                                      : geliefd[toeval() % geliefd.size()];
+        return uit;
+    };
+    for (int i = 0; i < 100'000; ++i) {
+        const Tekst een = tekst();
+        const Tekst ander = tekst();
+        ASSERT_EQ(GewoneSleutel(een) < GewoneSleutel(ander), KomtVoor(een, ander)) << een << "\n"
+                                                                                   << ander;
+    }
+}
+
+TEST(Tekstorde, SorteertEnHoudtDubbeleTeksten)
+{
+    std::vector<Tekst> teksten{"bos", "9", "Zo\xEB", "Bos", "", "\xC5s", "bos", "Zoa", "'t Hof"};
+    Sorteer(teksten);
+    const std::vector<Tekst> gesorteerd{"",    "'t Hof", "9",   "\xC5s", "Bos",
+                                        "bos", "bos",    "Zoa", "Zo\xEB"};
+    EXPECT_EQ(gesorteerd, teksten);
+    std::vector<Tekst> geen;
+    Sorteer(geen);
+    std::vector<Tekst> eigen{"b", "a 2", "\xC9\xE9n", "A 10"};
+    Sorteer(eigen);
+    EXPECT_EQ((std::vector<Tekst>{"A 10", "a 2", "b", "\xC9\xE9n"}), eigen);
+    EXPECT_TRUE(geen.empty());
+}
+
+/// Beginnings in common of every length, characters that count as two letters astride every place,
+/// texts that are equal but for case or accent, and more of each than are compared one by one; now
+/// and then so many that they are not compared at all.
+TEST(Tekstorde, SorteertZoalsDeSleutelsOokLangeGelijkeTeksten)
+{
+    std::mt19937 toeval(21);
+    const auto stuk = [&] {
+        return Tekst(toeval() % 20, "aAbBe,9 \xC6\xE6\xDF\xFE"[toeval() % 12]);
+    };
+    for (int keer = 0; keer < 300; ++keer) {
+        std::vector<Tekst> stukken;
+        for (int i = 0; i < 4; ++i)
+            stukken.push_back(stuk());
+        std::vector<Tekst> teksten(toeval() % (keer % 50 == 1 ? 20'000 : 200));
+        for (Tekst& tekst : teksten) {
+            const auto delen = toeval() % (keer % 10 == 0 ? 40 : 6);
+            for (std::size_t i = 0; i < delen; ++i)
+                tekst += stukken[toeval() % 8 == 0 ? toeval() % 4 : i % 4];
+        }
+        std::vector<Tekst> moet = teksten;
+        std::sort(moet.begin(), moet.end(), [](const Tekst& een, const Tekst& ander) {
+            return GewoneSleutel(een) < GewoneSleutel(ander);
+        });
+        Sorteer(teksten);
+        ASSERT_EQ(moet, teksten);
+    }
+}
+
+TEST(Tekstorde, SorteertVeelHeelLangeGelijkeTeksten)
+{
+    const Tekst lang(1'000'000, 'a');
+    const std::vector<Tekst> bron{lang + "b", lang, lang + "B", lang.substr(1) + "A", lang,
+                                  lang + "c", lang, lang + "a", lang + "9",           "a"};
+    std::vector<Tekst> teksten = bron;
+    Sorteer(teksten);
+    const std::vector<Tekst> gesorteerd{bron[9], bron[3], bron[1], bron[4], bron[6],
+                                        bron[8], bron[7], bron[2], bron[0], bron[5]};
+    EXPECT_EQ(gesorteerd, teksten);
+}
