@@ -22,8 +22,8 @@ QString NoemSpelers(const Spelertabel& tabel, const std::vector<int>& rijen, con
     };
     QStringList regels{spelers(rijen.size()) + QLatin1String(rijen.empty() ? "" : ":")};
     for (std::size_t i = 0; i < std::min(meeste, rijen.size()); ++i)
-        regels << venster.fontMetrics().elidedText(NaarQString(VolleNaam(tabel, rijen[i])),
-                                                   Qt::ElideRight, breedste);
+        regels << Ingekort(venster.fontMetrics(), NaarQString(VolleNaam(tabel, rijen[i])),
+                           breedste);
     if (rijen.size() > meeste)
         regels << QStringLiteral("en nog %1").arg(spelers(rijen.size() - meeste));
     return regels.join(QLatin1Char('\n'));

@@ -80,7 +80,7 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] bool VraagHogereSleutel(std::int32_t hoogste);
     void MeldLezing(const Leesverslag& verslag, Leesmoment moment);
     void MeldNietGeopend(const Fout& fout, Leesmoment moment);
-    [[nodiscard]] QString WatNietGelezenIs(const Leesverslag& verslag) const;
+    [[nodiscard]] QString WaarHetLezenStopte(const Leesverslag& verslag) const;
 
     // Groups
     void VulGroepen();

@@ -9,6 +9,10 @@ namespace {
 
 constexpr int TeNoemenRegels = 10;
 
+const QString Sleutelgevolg =
+    QStringLiteral("; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
+                   "andere speler kan zijn. Voeg geen spelers toe voordat die regel is hersteld.");
+
 QString Opsomming(const std::vector<int>& regels)
 {
     QStringList nummers;
@@ -18,6 +22,27 @@ QString Opsomming(const std::vector<int>& regels)
         nummers << QString::number(regel);
     }
     return nummers.join(QStringLiteral(", "));
+}
+
+QStringList WatNietGelezenIs(const Leesverslag& verslag)
+{
+    QStringList delen;
+    if (!verslag.zonderAchternaam.empty())
+        delen << QStringLiteral("%1 niet ingelezen (regel %2 van het spelerbestand). Vul die "
+                                "achternaam daar in als u de speler wilt houden.")
+                     .arg(Aantal(verslag.zonderAchternaam.size(),
+                                 QStringLiteral("speler zonder achternaam is"),
+                                 QStringLiteral("spelers zonder achternaam zijn")),
+                          Opsomming(verslag.zonderAchternaam));
+    if (verslag.zonderSleutelregel)
+        delen << QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de hoogste "
+                                "sleutel") +
+                     Sleutelgevolg;
+    if (verslag.sleutelZonderGetal > 0)
+        delen << QStringLiteral("Op regel %1 van het spelerbestand staat achter HKEY= geen getal")
+                         .arg(verslag.sleutelZonderGetal) +
+                     Sleutelgevolg;
+    return delen;
 }
 
 } // namespace
@@ -73,9 +98,6 @@ void frmLedenAdmin::MeldLezing(const Leesverslag& verslag, Leesmoment moment)
         MeldNietGeopend(*verslag.fout, moment);
         return;
     }
-    const QString uitleg = WatNietGelezenIs(verslag);
-    if (uitleg.isEmpty())
-        return;
     const QString gevolg =
         moment == Leesmoment::NaOpslag
             ? QStringLiteral("Uw wijziging is opgeslagen; voordat dit programma het bestand weer "
@@ -83,8 +105,11 @@ void frmLedenAdmin::MeldLezing(const Leesverslag& verslag, Leesmoment moment)
             : QStringLiteral("Het bestand zelf is niet veranderd; voordat dit programma het de "
                              "eerste keer vervangt, komt er een kopie van in de map "
                              "Reservekopie.");
-    MeldFout(this, QMessageBox::Information, uitleg + QStringLiteral("\n\n") + gevolg,
-             verslag.fout.value_or(Fout()));
+    if (verslag.fout)
+        MeldFout(this, QMessageBox::Information,
+                 WaarHetLezenStopte(verslag) + QStringLiteral("\n\n") + gevolg, *verslag.fout);
+    for (const QString& uitleg : WatNietGelezenIs(verslag))
+        Meld(this, QMessageBox::Information, uitleg + QStringLiteral("\n\n") + gevolg);
 }
 
 void frmLedenAdmin::MeldNietGeopend(const Fout& fout, Leesmoment moment)
@@ -110,50 +135,25 @@ void frmLedenAdmin::MeldNietGeopend(const Fout& fout, Leesmoment moment)
     MeldFout(this, QMessageBox::Information, wat, fout);
 }
 
-QString frmLedenAdmin::WatNietGelezenIs(const Leesverslag& verslag) const
+QString frmLedenAdmin::WaarHetLezenStopte(const Leesverslag& verslag) const
 {
-    const QString sleutelgevolg =
-        QStringLiteral("; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
-                       "andere speler kan zijn. Voeg geen spelers toe voordat die regel is "
-                       "hersteld.");
-    QStringList delen;
-    if (verslag.fout) {
-        const auto rijen = static_cast<std::size_t>(administratie_.spelers.tabel.Rijen());
-        QString deel =
-            QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 nu %2 in de "
-                           "tabel")
-                .arg(rijen == 1 ? QStringLiteral("staat") : QStringLiteral("staan"),
-                     Aantal(rijen, QStringLiteral("speler"), QStringLiteral("spelers")));
-        if (verslag.velden > 0)
-            deel += QStringLiteral(", want de genoemde regel heeft %1 in plaats van %2. Laat die "
-                                   "regel herstellen voordat u iets invoert")
-                        .arg(Aantal(static_cast<std::size_t>(verslag.velden),
-                                    QStringLiteral("veld"), QStringLiteral("velden")))
-                        .arg(AantalKolommen);
-        delen << deel + QLatin1Char('.');
-        if (verslag.velden == 0 && verslag.fout->regel > 0)
-            delen << QStringLiteral(
-                         "Op regel %1 van het spelerbestand staat achter HKEY= een getal "
-                         "dat niet past: een sleutel is ten hoogste 2147483647")
-                             .arg(verslag.fout->regel) +
-                         sleutelgevolg;
-    }
-    if (!verslag.zonderAchternaam.empty())
-        delen << QStringLiteral("%1 niet ingelezen (regel %2 van het spelerbestand). Vul die "
-                                "achternaam daar in als u de speler wilt houden.")
-                     .arg(Aantal(verslag.zonderAchternaam.size(),
-                                 QStringLiteral("speler zonder achternaam is"),
-                                 QStringLiteral("spelers zonder achternaam zijn")),
-                          Opsomming(verslag.zonderAchternaam));
-    if (verslag.zonderSleutelregel)
-        delen << QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de hoogste "
-                                "sleutel") +
-                     sleutelgevolg;
-    if (verslag.sleutelZonderGetal > 0)
-        delen << QStringLiteral("Op regel %1 van het spelerbestand staat achter HKEY= geen getal")
-                         .arg(verslag.sleutelZonderGetal) +
-                     sleutelgevolg;
-    return delen.join(QStringLiteral("\n\n"));
+    const auto rijen = static_cast<std::size_t>(administratie_.spelers.tabel.Rijen());
+    QString reden = QStringLiteral(". Verhelp de oorzaak voordat u iets invoert.");
+    if (verslag.velden > 0)
+        reden = QStringLiteral(", want de genoemde regel heeft %1 in plaats van %2. Laat die regel "
+                               "herstellen voordat u iets invoert.")
+                    .arg(Aantal(static_cast<std::size_t>(verslag.velden), QStringLiteral("veld"),
+                                QStringLiteral("velden")))
+                    .arg(AantalKolommen);
+    else if (verslag.fout->regel > 0)
+        reden = QStringLiteral(", want op regel %1 staat achter HKEY= een getal dat niet past (een "
+                               "sleutel is ten hoogste 2147483647)")
+                    .arg(verslag.fout->regel) +
+                Sleutelgevolg;
+    return QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 nu %2 in de "
+                          "tabel%3")
+        .arg(rijen == 1 ? QStringLiteral("staat") : QStringLiteral("staan"),
+             Aantal(rijen, QStringLiteral("speler"), QStringLiteral("spelers")), reden);
 }
 
 } // namespace plexoran

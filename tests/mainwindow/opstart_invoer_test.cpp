@@ -103,9 +103,9 @@ TEST_F(Opstartproef, EenOnmogelijkeSleutelregelWordtGemeld)
     ZetSpelers("HKEY=99999999999\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n");
     wachter.Waarschuwing(isNogLeeg);
     wachter.Informatie(QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan "
-                                      "nu 0 spelers in de tabel.\n\nOp regel 1 van het "
-                                      "spelerbestand staat achter HKEY= een getal dat niet past: "
-                                      "een sleutel is ten hoogste 2147483647") +
+                                      "nu 0 spelers in de tabel, want op regel 1 staat achter "
+                                      "HKEY= een getal dat niet past (een sleutel is ten hoogste "
+                                      "2147483647)") +
                        sleutelgevolg + blijftZoHetIs + QStringLiteral("\n\n") + Spelerbestand +
                        QStringLiteral("\nRegel: 1"));
     VerwachtSleutelvraag(100001, 100000, NietVerhogen);
@@ -239,6 +239,21 @@ TEST_F(Opstartproef, SpelersZonderAchternaamWordenGenoemdEnBlijvenInEenKopie)
     EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
     VoegToe(QStringLiteral("Nieuweling"));
     EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
+}
+
+TEST_F(Opstartproef, ElkeFoutVanEenLezingKrijgtZijnEigenBericht)
+{
+    ZetSpelers(Speler("1", "100001", "Gr01-", "Bos") + "\r\n" + Speler("2", "100000", "Gr01-", "") +
+               "\r\n");
+    wachter.Informatie(QStringLiteral("1 speler zonder achternaam is niet ingelezen (regel 2 van "
+                                      "het spelerbestand). Vul die achternaam daar in als u de "
+                                      "speler wilt houden.") +
+                       blijftZoHetIs);
+    wachter.Informatie(QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de "
+                                      "hoogste sleutel") +
+                       sleutelgevolg + blijftZoHetIs);
+    VerwachtSleutelvraag(100001, 100000, NietVerhogen);
+    ASSERT_NO_FATAL_FAILURE(Start());
 }
 
 TEST_F(Opstartproef, EenVeldVan64KBKomtOnveranderdTerug)

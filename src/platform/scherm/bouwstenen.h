@@ -47,6 +47,21 @@ class Knop : public QPushButton {
     }
 };
 
+/// The beginning of a text that is wider than `breed` pixels, closed by three dots as in a cell.
+[[nodiscard]] inline QString Ingekort(const QFontMetrics& maten, const QString& tekst, int breed,
+                                      int vlaggen = 0)
+{
+    if (maten.size(vlaggen, tekst).width() <= breed)
+        return tekst;
+    const QString puntjes = QStringLiteral("...");
+    const QChar teken(0x2026); // that Qt closes with
+    const int meer = maten.horizontalAdvance(puntjes) - maten.horizontalAdvance(teken);
+    QString kort = maten.elidedText(tekst, Qt::ElideRight, breed - meer, vlaggen);
+    if (kort.endsWith(teken))
+        kort.replace(kort.size() - 1, 1, puntjes);
+    return kort;
+}
+
 /// Shows the beginning of a caption that does not fit.
 class Kortknop : public Knop {
   public:
@@ -59,8 +74,7 @@ class Kortknop : public Knop {
         QStyleOptionButton knop;
         initStyleOption(&knop);
         const QRect ruimte = style()->subElementRect(QStyle::SE_PushButtonContents, &knop, this);
-        knop.text = fontMetrics().elidedText(knop.text, Qt::ElideRight, ruimte.width(),
-                                             Qt::TextShowMnemonic);
+        knop.text = Ingekort(fontMetrics(), knop.text, ruimte.width(), Qt::TextShowMnemonic);
         schilder.drawControl(QStyle::CE_PushButton, knop);
     }
 };
@@ -131,8 +145,7 @@ class Kortkeus : public QComboBox {
         const QRect ruimte =
             style()->subControlRect(QStyle::CC_ComboBox, &keus, QStyle::SC_ComboBoxEditField, this);
         constexpr int rand = 2; // that styles leave beside the text
-        keus.currentText =
-            fontMetrics().elidedText(keus.currentText, Qt::ElideRight, ruimte.width() - rand);
+        keus.currentText = Ingekort(fontMetrics(), keus.currentText, ruimte.width() - rand);
         schilder.drawControl(QStyle::CE_ComboBoxLabel, keus);
     }
 };

@@ -70,6 +70,13 @@ class Regeltekenaar : public QStyledItemDelegate {
         return Zichtbaar(regel.toString());
     }
 
+  protected:
+    void initStyleOption(QStyleOptionViewItem* optie, const QModelIndex& plaats) const override
+    {
+        QStyledItemDelegate::initStyleOption(optie, plaats);
+        optie->text = Ingekort(optie->fontMetrics, optie->text, optie->rect.width() - 2 * Marge);
+    }
+
   private:
     int breed_ = 1;
 };
