@@ -9,6 +9,7 @@
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "pairs/frmParenOnderhoud.h"
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
@@ -140,7 +141,7 @@ struct Venster {
             std::filesystem::rename(bestand, weg);
         venster = std::make_unique<frmParenOnderhoud>(DeProef()->administratie, Groep, nullptr);
         venster->show();
-        auto* keus = venster->findChild<QComboBox*>(QStringLiteral("cmbNBBledengr"));
+        auto* keus = venster->findChild<QComboBox*>(u"cmbNBBledengr"_s);
         keus->setCurrentIndex(0);
         emit keus->activated(0);
         if (!metParen)
@@ -167,7 +168,7 @@ struct Venster {
 void MeetVenster(benchmark::State& meting, bool metParen, const char* knop)
 {
     const Venster venster(metParen);
-    const bool maken = QLatin1String(knop) == QLatin1String("cmdOKE");
+    const bool maken = QLatin1String(knop) == "cmdOKE"_L1;
     Meet(
         meting,
         [&] {

@@ -10,6 +10,7 @@
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "mainwindow/frmLedenAdmin.h"
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
@@ -31,11 +32,8 @@ struct Proef {
         QApplication::processEvents();
     }
 
-    QWidget& P1() const { return *venster.findChild<QWidget*>(QStringLiteral("P1")); }
-    QScrollBar& VScroll1() const
-    {
-        return *venster.findChild<QScrollBar*>(QStringLiteral("VScroll1"));
-    }
+    QWidget& P1() const { return *venster.findChild<QWidget*>(u"P1"_s); }
+    QScrollBar& VScroll1() const { return *venster.findChild<QScrollBar*>(u"VScroll1"_s); }
 
     EchteSchijf schijf;
     LegeWinkel winkel;

@@ -5,6 +5,7 @@
 #include "opdrachtregel.h"
 #include "platform/bronnen/accesskind.h"
 #include "platform/scherm/inrichting.h"
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/programma.h"
 
@@ -19,7 +20,7 @@ int main(int argc, char** argv)
         return *opdrachten.eindstatus;
 
     QApplication programma(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("plexoran"));
+    QApplication::setApplicationName(u"plexoran"_s);
     QApplication::setApplicationDisplayName(QString());
     RichtIn(programma);
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "platform/bronnen/instellingenwinkel.h"
+#include "platform/scherm/tekstbrug.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -79,30 +80,27 @@ Opdrachten LeesOpdrachtregel(int argc, char** argv)
     for (int i = 0; i < argc; ++i)
         woorden << QString::fromLocal8Bit(argv[i]);
 
-    const QCommandLineOption mappen(QStringLiteral("mappen"), {}, QStringLiteral("BESTAND"));
-    const QCommandLineOption slot(QStringLiteral("slot"), {}, QStringLiteral("BESTAND"));
-    const QCommandLineOption help(QStringLiteral("help"));
-    const QCommandLineOption versie(QStringLiteral("version"));
+    const QCommandLineOption mappen(u"mappen"_s, {}, u"BESTAND"_s);
+    const QCommandLineOption slot(u"slot"_s, {}, u"BESTAND"_s);
+    const QCommandLineOption help(u"help"_s);
+    const QCommandLineOption versie(u"version"_s);
     QCommandLineParser lezer;
     lezer.addOptions({mappen, slot, help, versie});
     const bool begrepen = lezer.parse(woorden);
 
     if (!lezer.unknownOptionNames().isEmpty())
-        return Weiger(
-            QStringLiteral("onbekende optie '%1'").arg(lezer.unknownOptionNames().constFirst()));
+        return Weiger(u"onbekende optie '%1'"_s.arg(lezer.unknownOptionNames().constFirst()));
     if (!begrepen)
-        return Weiger(QStringLiteral("bij een optie ontbreekt de waarde"));
+        return Weiger(u"bij een optie ontbreekt de waarde"_s);
     if (!lezer.positionalArguments().isEmpty())
-        return Weiger(
-            QStringLiteral("onbekend woord '%1'").arg(lezer.positionalArguments().constFirst()));
+        return Weiger(u"onbekend woord '%1'"_s.arg(lezer.positionalArguments().constFirst()));
     if (lezer.isSet(help))
         return Antwoord(QString::fromUtf8(gebruik).arg(QString::fromStdString(Winkelplaats())));
     if (lezer.isSet(versie))
         return Antwoord(QStringLiteral("Plexoran " PLEXORAN_VERSIE "\n"));
     for (const auto& optie : {mappen, slot}) {
         if (lezer.isSet(optie) && lezer.value(optie).isEmpty())
-            return Weiger(
-                QStringLiteral("bij --%1 ontbreekt de waarde").arg(optie.names().constFirst()));
+            return Weiger(u"bij --%1 ontbreekt de waarde"_s.arg(optie.names().constFirst()));
     }
     return {.mappenIni = lezer.value(mappen).toStdString(),
             .slot = lezer.value(slot).toStdU16String(),

@@ -27,17 +27,16 @@ constexpr int Rand = 100;
 
 diaGrNamen::diaGrNamen(Groepen& groepen, QWidget* ouder) : QDialog(ouder), groepen_(groepen)
 {
-    setObjectName(QStringLiteral("diaGrNamen"));
-    setWindowTitle(QStringLiteral("Groepsnamen ingeven/wijzigen"));
+    setObjectName(u"diaGrNamen"_s);
+    setWindowTitle(u"Groepsnamen ingeven/wijzigen"_s);
     const int rand = maten_.Twips(Rand);
     auto* lagen = new QVBoxLayout(this);
     lagen->setContentsMargins(rand, rand / 2, rand, rand);
     lagen->setSpacing(rand / 2);
     lagen->addWidget(BouwKader());
     lagen->addWidget(BouwRijen(), 1);
-    auto* cmdAnnuleren =
-        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
-    auto* cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
     cmdOK->setDefault(true);
     for (QPushButton* knop : {cmdAnnuleren, cmdOK})
         knop->setFocusPolicy(Qt::TabFocus);
@@ -53,22 +52,19 @@ diaGrNamen::diaGrNamen(Groepen& groepen, QWidget* ouder) : QDialog(ouder), groep
 QFrame* diaGrNamen::BouwKader()
 {
     auto* Frame2 = new QFrame(this);
-    Noem(Frame2, QStringLiteral("Frame2"));
+    Noem(Frame2, u"Frame2"_s);
     Frame2->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     Frame2->setFixedHeight(maten_.Twips(VlakBoven) - 2 * (maten_.Twips(Rand) / 2));
     auto* vakken = new QGridLayout(Frame2);
     vakken->setContentsMargins(6, 2, 6, 2);
     vakken->setSpacing(1);
     vakken->setHorizontalSpacing(20);
-    vakken->addWidget(MaakLabel(QStringLiteral("Label2"),
-                                QStringLiteral("Geef eventueel een herkenbare tekst aan de groep."),
-                                Frame2),
-                      0, 0, 1, 2);
-    vakken->addWidget(MaakLabel(QStringLiteral("Label1"),
-                                QStringLiteral("U bent vrij in de toe te voegen tekst."), Frame2),
+    vakken->addWidget(
+        MaakLabel(u"Label2"_s, u"Geef eventueel een herkenbare tekst aan de groep."_s, Frame2), 0,
+        0, 1, 2);
+    vakken->addWidget(MaakLabel(u"Label1"_s, u"U bent vrij in de toe te voegen tekst."_s, Frame2),
                       1, 0);
-    vakken->addWidget(MaakLabel(QStringLiteral("Label3"),
-                                QStringLiteral("'Gr01-' enz, blijft een vast voorvoegsel"), Frame2),
+    vakken->addWidget(MaakLabel(u"Label3"_s, u"'Gr01-' enz, blijft een vast voorvoegsel"_s, Frame2),
                       1, 1);
     vakken->setColumnStretch(1, 1);
     return Frame2;
@@ -77,16 +73,16 @@ QFrame* diaGrNamen::BouwKader()
 QScrollArea* diaGrNamen::BouwRijen()
 {
     auto* P1 = new QWidget(this);
-    Noem(P1, QStringLiteral("P1"));
+    Noem(P1, u"P1"_s);
     auto* rijen = new QFormLayout(P1);
     rijen->setContentsMargins(0, 0, maten_.Twips(Rand) / 2, 0);
     rijen->setSpacing(maten_.Twips(RijAfstand - RijHoog));
     rijen->setLabelAlignment(Qt::AlignLeft);
     for (int nummer = 1; nummer <= AantalGroepen; ++nummer) {
-        const QString kop = QStringLiteral("Groep %1: ").arg(nummer, 2, 10, QLatin1Char('0'));
-        auto* label = MaakLabel(QStringLiteral("lbl1_%1").arg(nummer), kop, P1);
+        const QString kop = u"Groep %1: "_s.arg(nummer, 2, 10, QChar(u'0'));
+        auto* label = MaakLabel(u"lbl1_%1"_s.arg(nummer), kop, P1);
         auto* vak = new Tekstvak(P1);
-        Noem(vak, QStringLiteral("txt1_%1").arg(nummer), kop.trimmed());
+        Noem(vak, u"txt1_%1"_s.arg(nummer), kop.trimmed());
         vak->ZetTekst(groepen_.Naam(nummer));
         label->setBuddy(vak);
         connect(vak, &Tekstvak::verlaten, this, [this, vak] { Verlaat(vak); });
@@ -94,7 +90,7 @@ QScrollArea* diaGrNamen::BouwRijen()
         txt1 << vak;
     }
     auto* P0 = new QScrollArea(this);
-    Noem(P0, QStringLiteral("P0"));
+    Noem(P0, u"P0"_s);
     P0->setFrameShape(QFrame::NoFrame);
     P0->setFocusPolicy(Qt::NoFocus);
     P0->setWidgetResizable(true);
@@ -102,7 +98,7 @@ QScrollArea* diaGrNamen::BouwRijen()
     P0->setMinimumHeight(maten_.Twips(Vlaklaagst));
     P0->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     QScrollBar* VScroll1 = P0->verticalScrollBar();
-    Noem(VScroll1, QStringLiteral("VScroll1"), QStringLiteral("Groepen verschuiven"));
+    Noem(VScroll1, u"VScroll1"_s, u"Groepen verschuiven"_s);
     VScroll1->setSingleStep(maten_.Twips(RijAfstand));
     connect(VScroll1, &QScrollBar::rangeChanged, VScroll1,
             [VScroll1](int /*van*/, int tot) { VScroll1->setEnabled(tot > 0); });
@@ -128,8 +124,7 @@ void diaGrNamen::Verlaat(Tekstvak* vak)
 void diaGrNamen::MeldKommas()
 {
     if (std::exchange(kommaTeMelden_, false))
-        Meld(this, QMessageBox::Information,
-             QStringLiteral("Komma's worden veranderd in Underscores. (_)"));
+        Meld(this, QMessageBox::Information, u"Komma's worden veranderd in Underscores. (_)"_s);
 }
 
 void diaGrNamen::accept()

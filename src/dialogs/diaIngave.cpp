@@ -64,27 +64,25 @@ diaIngave::diaIngave(Ingave& ingave, std::int16_t& terugkeerveld, std::function<
 
 void diaIngave::Bouw()
 {
-    setObjectName(QStringLiteral("diaIngave"));
-    setWindowTitle(QStringLiteral("Ingeven persoonsgegevens"));
+    setObjectName(u"diaIngave"_s);
+    setWindowTitle(u"Ingeven persoonsgegevens"_s);
     setMinimumSize(maten_.Twips(VensterBreed), maten_.Twips(KleinsteHoogte));
     PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
 
     velden_ = new QWidget(this);
     blad_ = new Schuifblad(velden_, this);
     blad_->setWidgetResizable(false);
-    Label1 = new QLabel(ingave_.IngaveModus == "Aanmaken"
-                            ? QStringLiteral("Aanmaken nieuwe regel")
-                            : QStringLiteral("Regelnummer %1").arg(ingave_.rij),
+    Label1 = new QLabel(ingave_.IngaveModus == "Aanmaken" ? u"Aanmaken nieuwe regel"_s
+                                                          : u"Regelnummer %1"_s.arg(ingave_.rij),
                         velden_);
-    Noem(Label1, QStringLiteral("Label1"));
+    Noem(Label1, u"Label1"_s);
     Label1->setAlignment(Qt::AlignCenter);
-    Label2 = new QLabel(QStringLiteral("Rood = verplichte ingave"), this);
-    Noem(Label2, QStringLiteral("Label2"));
+    Label2 = new QLabel(u"Rood = verplichte ingave"_s, this);
+    Noem(Label2, u"Label2"_s);
 
-    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
+    cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
     cmdOK->setDefault(true);
-    cmdAnnuleren =
-        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
     connect(cmdOK, &QPushButton::clicked, this, &diaIngave::close);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &diaIngave::reject);
     // A click on a button leaves no field: OK looks at all of them itself.
@@ -113,11 +111,11 @@ void diaIngave::BouwVeld(int veld)
     const QString naam = NaarQString(Kolomnamen[plaats - 1]);
     const QFont letter = maten_.Letter(Veldletter);
 
-    auto* label = new QLabel(naam + QLatin1Char(':'), velden_);
-    Noem(label, QStringLiteral("lbl1_%1").arg(veld));
+    auto* label = new QLabel(naam + u':', velden_);
+    Noem(label, u"lbl1_%1"_s.arg(veld));
     label->setFont(letter);
     auto* vak = new Tekstvak(velden_);
-    Noem(vak, QStringLiteral("txt1_%1").arg(veld), naam);
+    Noem(vak, u"txt1_%1"_s.arg(veld), naam);
     vak->setFont(letter);
     vak->ZetTekst(Begintekst(kolom, ingave_.IngaveVelden[plaats - 1]));
     label->setBuddy(vak);
@@ -135,8 +133,8 @@ void diaIngave::BouwVeld(int veld)
         return;
     }
     auto* opt = new QRadioButton(velden_);
-    Noem(opt, QStringLiteral("opt1_%1").arg(veld), QStringLiteral("Terugkeerveld %1").arg(naam));
-    opt->setToolTip(QStringLiteral("Kies hier het terugkeerveld tbv snelle ingave"));
+    Noem(opt, u"opt1_%1"_s.arg(veld), u"Terugkeerveld %1"_s.arg(naam));
+    opt->setToolTip(u"Kies hier het terugkeerveld tbv snelle ingave"_s);
     opt->setFocusPolicy(Qt::TabFocus);
     opt1[plaats] = opt;
     if (kolom == Kolom::Achternaam) {
@@ -153,7 +151,7 @@ void diaIngave::BouwVeld(int veld)
 void diaIngave::BouwGeslacht()
 {
     Frame1 = new QWidget(velden_);
-    Noem(Frame1, QStringLiteral("Frame1"), QStringLiteral("Geslacht"));
+    Noem(Frame1, u"Frame1"_s, u"Geslacht"_s);
     auto* rij = new QHBoxLayout(Frame1);
     rij->setContentsMargins(0, 0, 0, 0);
     const auto keus = [&](const QString& naam, const QString& tekst, const QString& letter) {
@@ -165,22 +163,22 @@ void diaIngave::BouwGeslacht()
         connect(knop, &QRadioButton::clicked, this, [this, letter] { KiesGeslacht(letter); });
         return knop;
     };
-    optMan = keus(QStringLiteral("optMan"), QStringLiteral("Man"), QStringLiteral("M"));
-    optVrouw = keus(QStringLiteral("optVrouw"), QStringLiteral("Vrouw"), QStringLiteral("V"));
+    optMan = keus(u"optMan"_s, u"Man"_s, u"M"_s);
+    optVrouw = keus(u"optVrouw"_s, u"Vrouw"_s, u"V"_s);
     rij->addStretch();
 
     lbl1[Nummer(Kolom::MV)]->clear();
     Tekstvak* vak = Vak(Kolom::MV);
     vak->setAlignment(Qt::AlignCenter);
-    optMan->setChecked(vak->text() == QLatin1String("M"));
-    optVrouw->setChecked(vak->text() == QLatin1String("V"));
+    optMan->setChecked(vak->text() == "M"_L1);
+    optVrouw->setChecked(vak->text() == "V"_L1);
 }
 
 void diaIngave::BouwHulp()
 {
-    cmdH = MaakKnop(QStringLiteral("cmdH_1"), QStringLiteral("?"), 0, velden_);
-    cmdH->setAccessibleName(QStringLiteral("Hulp voor Status"));
-    cmdH->setToolTip(QStringLiteral("Hulp voor Status"));
+    cmdH = MaakKnop(u"cmdH_1"_s, u"?"_s, 0, velden_);
+    cmdH->setAccessibleName(u"Hulp voor Status"_s);
+    cmdH->setToolTip(u"Hulp voor Status"_s);
     cmdH->setFocusPolicy(Qt::TabFocus);
     connect(cmdH, &QPushButton::clicked, this, &diaIngave::ToonHulp);
 }
@@ -196,8 +194,8 @@ void diaIngave::PasVeldenAanGroepAan()
     Kleur(groep, QPalette::Base, QColor(255, 255, 0));
 
     if (!ingave_.importgroep) {
-        lbl1[Nummer(Kolom::NBBgr)]->setText(QStringLiteral("Subgroep"));
-        lbl1[Nummer(Kolom::NBBnr)]->setText(QStringLiteral("-----"));
+        lbl1[Nummer(Kolom::NBBgr)]->setText(u"Subgroep"_s);
+        lbl1[Nummer(Kolom::NBBnr)]->setText(u"-----"_s);
     }
     for (QWidget* deel : std::initializer_list<QWidget*>{
              lbl1[Nummer(Kolom::NBBnr)], Vak(Kolom::NBBnr), opt1[Nummer(Kolom::NBBnr)]})
@@ -339,10 +337,9 @@ void diaIngave::KiesGeslacht(const QString& letter)
 void diaIngave::ToonHulp()
 {
     Meld(this, QMessageBox::Information,
-         QStringLiteral("Status: type 'overl' of 'overleden'. (is overleden)\r\n\r\n"
-                        "Deze speler wordt niet meer getoond bij 'Zittingindelen'.\r\n\r\n\r\n"
-                        "Tekst mag in hoofdletters of kleine letters."),
-         QStringLiteral("Hulp voor Status"));
+         u"Status: type 'overl' of 'overleden'. (is overleden)\r\n\r\nDeze speler wordt niet meer "
+         "getoond bij 'Zittingindelen'.\r\n\r\n\r\nTekst mag in hoofdletters of kleine letters."_s,
+         u"Hulp voor Status"_s);
 }
 
 void diaIngave::reject()

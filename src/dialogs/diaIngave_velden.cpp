@@ -30,9 +30,8 @@ void diaIngave::MeldReparaties()
     for (const Reparatie reparatie : reparaties)
         Meld(this, QMessageBox::Information,
              reparatie == Reparatie::Komma
-                 ? QStringLiteral("Komma's worden veranderd in Underscores")
-                 : QStringLiteral("Bij dummy-speler 'Partner...' worden spaties veranderd in "
-                                  "Underscores"));
+                 ? u"Komma's worden veranderd in Underscores"_s
+                 : u"Bij dummy-speler 'Partner...' worden spaties veranderd in Underscores"_s);
 }
 
 bool diaIngave::IngaveControle()
@@ -48,7 +47,7 @@ bool diaIngave::IngaveControle()
     for (int veld = 1; veld <= AantalKolommen; ++veld)
         velden[static_cast<std::size_t>(veld - 1)] = Vak(veld)->GeefTekst();
     if (!HeeftAchternaam(velden)) {
-        Meld(this, QMessageBox::Warning, QStringLiteral("U moet minimaal de ACHTERNAAM invullen!"));
+        Meld(this, QMessageBox::Warning, u"U moet minimaal de ACHTERNAAM invullen!"_s);
         ingave_.IngaveFout = true;
         Vak(Kolom::Achternaam)->setFocus(Qt::OtherFocusReason);
         return false;

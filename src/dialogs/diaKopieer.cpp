@@ -29,28 +29,27 @@ diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
 
 void diaKopieer::MaakDelen(QGroupBox* kader)
 {
-    Label2 = MaakLabel(QStringLiteral("Label2"), QStringLiteral("Kopieer hen naar groep:"), kader);
-    Label3 = MaakLabel(QStringLiteral("Label3"), QString(), kader);
-    Label4 = MaakLabel(QStringLiteral("Label4"), QStringLiteral("Uit spelergroep:"), kader);
-    cmbGrnamen = MaakKeus(QStringLiteral("cmbGrnamen"), Label2, kader);
-    cmbNBBgr = MaakKeus(QStringLiteral("cmbNBBgr"), Label3, kader);
-    cmbUitGroep = MaakKeus(QStringLiteral("cmbUitGroep"), Label4, kader);
+    Label2 = MaakLabel(u"Label2"_s, u"Kopieer hen naar groep:"_s, kader);
+    Label3 = MaakLabel(u"Label3"_s, QString(), kader);
+    Label4 = MaakLabel(u"Label4"_s, u"Uit spelergroep:"_s, kader);
+    cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, kader);
+    cmbNBBgr = MaakKeus(u"cmbNBBgr"_s, Label3, kader);
+    cmbUitGroep = MaakKeus(u"cmbUitGroep"_s, Label4, kader);
     chkNBBgrOok = new QCheckBox(kader);
-    Noem(chkNBBgrOok, QStringLiteral("chkNBBgrOok"));
-    chkNBBnrOok = new QCheckBox(QStringLiteral("NBBnummer ook kopieren"), kader);
-    Noem(chkNBBnrOok, QStringLiteral("chkNBBnrOok"));
-    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Kopieer"), u'K', this);
-    cmdAnnuleren =
-        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+    Noem(chkNBBgrOok, u"chkNBBgrOok"_s);
+    chkNBBnrOok = new QCheckBox(u"NBBnummer ook kopieren"_s, kader);
+    Noem(chkNBBnrOok, u"chkNBBnrOok"_s);
+    cmdOK = MaakKnop(u"cmdOK"_s, u"Kopieer"_s, u'K', this);
+    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
     keus_ = new Spelerkeus(cmdOK, kader);
 }
 
 void diaKopieer::Bouw()
 {
-    setObjectName(QStringLiteral("diaKopieer"));
-    setWindowTitle(QStringLiteral("Kopieer speler(s) naar een andere groep"));
-    auto* Frame1 = new QGroupBox(QStringLiteral("Spelers kopiëren"), this);
-    Noem(Frame1, QStringLiteral("Frame1"));
+    setObjectName(u"diaKopieer"_s);
+    setWindowTitle(u"Kopieer speler(s) naar een andere groep"_s);
+    auto* Frame1 = new QGroupBox(u"Spelers kopiëren"_s, this);
+    Noem(Frame1, u"Frame1"_s);
     MaakDelen(Frame1);
 
     auto* vakken = new QGridLayout(Frame1);
@@ -109,11 +108,11 @@ void diaKopieer::KiesBron()
     VulKeuslijst();
     const bool importgroep =
         Groepscode(cmbUitGroep->currentIndex() + 1) == administratie_.mappen.DFIMPG;
-    chkNBBgrOok->setText(importgroep ? QStringLiteral("NBBgroep ook kopieren")
-                                     : QStringLiteral("Subgroeptekst ook mee kopieren"));
+    chkNBBgrOok->setText(importgroep ? u"NBBgroep ook kopieren"_s
+                                     : u"Subgroeptekst ook mee kopieren"_s);
     chkNBBnrOok->setVisible(importgroep);
-    Label3->setText(importgroep ? QStringLiteral("Selecteer de spelers van 'NBBgroep':")
-                                : QStringLiteral("Selecteer de spelers van 'Subgroep':"));
+    Label3->setText(importgroep ? u"Selecteer de spelers van 'NBBgroep':"_s
+                                : u"Selecteer de spelers van 'Subgroep':"_s);
 }
 
 /// A plain search in the whole line, names included; what was chosen already stays.
@@ -138,9 +137,8 @@ void diaKopieer::Kopieer()
     const QString bron = cmbUitGroep->currentText();
     const QString doel = cmbGrnamen->currentText();
     const QString vraag =
-        QStringLiteral("U gaat spelers kopiëren van groep '%1' naar groep '%2'.\r\n\r\n"
-                       "Pas op: Reeds bestaande spelers in '%2' zullen er daarna 2 keer in staan "
-                       "en zult u handmatig moeten verwijderen!")
+        u"U gaat spelers kopiëren van groep '%1' naar groep '%2'.\r\n\r\nPas op: Reeds bestaande "
+        "spelers in '%2' zullen er daarna 2 keer in staan en zult u handmatig moeten verwijderen!"_s
             .arg(bron, doel);
     if (!Vraag(this, QMessageBox::Information, vraag))
         return;
@@ -149,12 +147,12 @@ void diaKopieer::Kopieer()
                                    .metNBBgr = chkNBBgrOok->isChecked(),
                                    .metNBBnr = chkNBBnrOok->isChecked()};
     if (!KopieerSpelers(administratie_.spelers, opdracht)) {
-        MeldSleutelsOp(this, QStringLiteral("Er is niets gekopieerd"),
+        MeldSleutelsOp(this, u"Er is niets gekopieerd"_s,
                        PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
     Meld(this, QMessageBox::Information,
-         QStringLiteral("Er zijn %1 spelers gekopieerd.").arg(opdracht.keys.size()));
+         u"Er zijn %1 spelers gekopieerd."_s.arg(opdracht.keys.size()));
     ingaveGeannuleerd_ = false;
     accept();
 }

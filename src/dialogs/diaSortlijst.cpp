@@ -24,13 +24,13 @@ QString Titel(Sorteersoort soort)
 {
     switch (soort) {
     case Sorteersoort::Key:
-        return QStringLiteral("Spelers gesorteerd op 'RVD-key'.");
+        return u"Spelers gesorteerd op 'RVD-key'."_s;
     case Sorteersoort::NBBnr:
-        return QStringLiteral("Spelers gesorteerd op 'NBB-nummer'.");
+        return u"Spelers gesorteerd op 'NBB-nummer'."_s;
     case Sorteersoort::NBBgroep:
         break;
     }
-    return QStringLiteral("Spelers gesorteerd op 'NBB-groep en Naam'.");
+    return u"Spelers gesorteerd op 'NBB-groep en Naam'."_s;
 }
 
 void ZetVet(QPainter& schilder, bool vet)
@@ -44,11 +44,11 @@ void ZetVet(QPainter& schilder, bool vet)
 
 Sorteervlak::Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, const Schuifkader& kader,
                          QWidget* ouder)
-    : Tabelvlak(kader, QStringLiteral("Gesorteerde spelers"), ouder), beeld_(beeld),
+    : Tabelvlak(kader, u"Gesorteerde spelers"_s, ouder), beeld_(beeld),
       randen_(ZetKolommen(beeld.soort))
 {
     setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));
-    breedteA_ = fontMetrics().horizontalAdvance(QLatin1Char('A'));
+    breedteA_ = fontMetrics().horizontalAdvance(u'A');
     regelhoogte_ = fontMetrics().height() + 4;
 }
 
@@ -65,15 +65,14 @@ int Sorteervlak::Y(int regel) const
 QString Sorteervlak::Celtekst(int regel, int kolom) const
 {
     const std::array<QString, AantalSorteervelden> titels{
-        QStringLiteral("Key"),
-        QStringLiteral("Voornaam"),
-        QStringLiteral("Tus"),
-        QStringLiteral("Achternaam"),
-        beeld_.importgroep ? QStringLiteral("NBBgroep") : QStringLiteral("Subgroep"),
-        beeld_.importgroep ? QStringLiteral("NBBnr") : QStringLiteral("-----")};
-    return regel == 0
-               ? titels[static_cast<std::size_t>(kolom)]
-               : NaarQString(beeld_.regel(regel - 1)).section(QLatin1Char(','), kolom, kolom);
+        u"Key"_s,
+        u"Voornaam"_s,
+        u"Tus"_s,
+        u"Achternaam"_s,
+        beeld_.importgroep ? u"NBBgroep"_s : u"Subgroep"_s,
+        beeld_.importgroep ? u"NBBnr"_s : u"-----"_s};
+    return regel == 0 ? titels[static_cast<std::size_t>(kolom)]
+                      : NaarQString(beeld_.regel(regel - 1)).section(u',', kolom, kolom);
 }
 
 QSize Sorteervlak::Vlakmaat() const
@@ -155,7 +154,7 @@ void Sorteervlak::TekenVeld(QPainter& schilder, int veld, int boven, const QStri
 
 diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)
     : QDialog(hoofdvenster), beeld_(std::move(beeld)),
-      Frame2(new Schuifkader(QStringLiteral("Frame2"), maten_, this)), P0(new QWidget(Frame2)),
+      Frame2(new Schuifkader(u"Frame2"_s, maten_, this)), P0(new QWidget(Frame2)),
       P1(new Sorteervlak(beeld_, maten_, *Frame2, P0))
 {
     Bouw();
@@ -172,14 +171,14 @@ void diaSortlijst::ZetBij(const QWidget& hoofdvenster)
 
 void diaSortlijst::Bouw()
 {
-    setObjectName(QStringLiteral("diaSortlijst"));
-    setWindowTitle(QStringLiteral("Gesorteerde spelerlijst"));
-    Noem(P0, QStringLiteral("P0"));
+    setObjectName(u"diaSortlijst"_s);
+    setWindowTitle(u"Gesorteerde spelerlijst"_s);
+    Noem(P0, u"P0"_s);
     auto* binnen = new QVBoxLayout(P0);
     binnen->setContentsMargins({});
     binnen->addWidget(P1);
     Frame2->Bevat(P0);
-    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Terug"), u'T', this);
+    cmdOK = MaakKnop(u"cmdOK"_s, u"Terug"_s, u'T', this);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
@@ -188,7 +187,7 @@ void diaSortlijst::Bouw()
     marges.setLeft(maten_.Twips(Zijmarge));
     marges.setRight(maten_.Twips(Zijmarge));
     lagen->setContentsMargins(marges);
-    lagen->addWidget(MaakLabel(QStringLiteral("Label1"), Titel(beeld_.soort), this));
+    lagen->addWidget(MaakLabel(u"Label1"_s, Titel(beeld_.soort), this));
     lagen->addWidget(Frame2, 1);
     lagen->addLayout(Knoppenrij({cmdOK}));
     const int breed = P1->Vlakmaat().width() + Frame2->Staand().width() + 2 * Frame2->frameWidth() +

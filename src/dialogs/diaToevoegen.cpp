@@ -18,10 +18,11 @@ bool ZetTerugOfMeld(Koppelverslag& verslag, QWidget* ouder)
     const auto terug = verslag.ZetTerug();
     if (StaatEr(ouder, terug))
         return true;
-    MeldFout(ouder, QMessageBox::Warning,
-             QStringLiteral("Fout bij het terugzetten van 'Koppelverslag.txt'. De sleutels die "
-                            "erin staan, zijn niet uitgegeven. Verwijder dat bestand."),
-             terug.error());
+    MeldFout(
+        ouder, QMessageBox::Warning,
+        u"Fout bij het terugzetten van 'Koppelverslag.txt'. De sleutels die erin staan, zijn niet "
+        "uitgegeven. Verwijder dat bestand."_s,
+        terug.error());
     return false;
 }
 
@@ -34,30 +35,28 @@ diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
 
 void diaToevoegen::MaakDelen(QGroupBox* Frame1)
 {
-    Label1 = MaakLabel(QStringLiteral("Label1"), QStringLiteral("Kies een zitting:"), Frame1);
-    Combo1 = MaakKeus(QStringLiteral("Combo1"), Label1, Frame1);
+    Label1 = MaakLabel(u"Label1"_s, u"Kies een zitting:"_s, Frame1);
+    Combo1 = MaakKeus(u"Combo1"_s, Label1, Frame1);
     lstN2 = new QListWidget(Frame1);
-    Noem(lstN2, QStringLiteral("lstN2"), QStringLiteral("Gevonden spelers"));
+    Noem(lstN2, u"lstN2"_s, u"Gevonden spelers"_s);
     lstN2->setUniformItemSizes(true);
-    Label4 = MaakLabel(QStringLiteral("Label4"), QStringLiteral("..."), Frame1);
-    cmdLeesSpelers = MaakKnop(QStringLiteral("cmdLeesSpelers"),
-                              QStringLiteral("Spelers ophalen uit deze zitting"), u'S', Frame1);
+    Label4 = MaakLabel(u"Label4"_s, u"..."_s, Frame1);
+    cmdLeesSpelers =
+        MaakKnop(u"cmdLeesSpelers"_s, u"Spelers ophalen uit deze zitting"_s, u'S', Frame1);
     cmdStart =
-        MaakKnop(QStringLiteral("cmdStart"),
-                 QStringLiteral("Deze spelers toevoegen aan het ledenbestand"), u'D', Frame1);
-    OKButton = MaakKnop(QStringLiteral("OKButton"), QStringLiteral("Klaar en opslaan"), u'K', this);
-    cmdAnnuleren =
-        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+        MaakKnop(u"cmdStart"_s, u"Deze spelers toevoegen aan het ledenbestand"_s, u'D', Frame1);
+    OKButton = MaakKnop(u"OKButton"_s, u"Klaar en opslaan"_s, u'K', this);
+    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
     for (QPushButton* later : {cmdLeesSpelers, cmdStart, OKButton})
         later->setEnabled(false);
 }
 
 void diaToevoegen::Bouw()
 {
-    setObjectName(QStringLiteral("diaToevoegen"));
-    setWindowTitle(QStringLiteral("Spelers toevoegen (speciaal)"));
+    setObjectName(u"diaToevoegen"_s);
+    setWindowTitle(u"Spelers toevoegen (speciaal)"_s);
     auto* Frame1 = new QGroupBox(this);
-    Noem(Frame1, QStringLiteral("Frame1"));
+    Noem(Frame1, u"Frame1"_s);
     MaakDelen(Frame1);
     const auto label = [](const QString& naam, const QString& tekst, QWidget* ouder) {
         return MaakLabel(naam, tekst, ouder);
@@ -65,17 +64,14 @@ void diaToevoegen::Bouw()
     auto* vakken = new QGridLayout(Frame1);
     vakken->addWidget(Label1, 0, 0);
     vakken->addWidget(Combo1, 0, 1);
-    vakken->addWidget(
-        label(QStringLiteral("Label3"), QStringLiteral("(eindigend op '_Rev')"), Frame1), 0, 2);
+    vakken->addWidget(label(u"Label3"_s, u"(eindigend op '_Rev')"_s, Frame1), 0, 2);
     vakken->addWidget(cmdLeesSpelers, 1, 1);
     vakken->addWidget(lstN2, 2, 0, 1, 3);
     vakken->addWidget(Label4, 3, 0, 1, 3);
-    vakken->addWidget(label(QStringLiteral("Label6"),
-                            QStringLiteral("Spelers worden toegevoegd aan spelergroep 'Gr08-'"),
-                            Frame1),
-                      4, 0, 1, 3);
-    vakken->addWidget(label(QStringLiteral("Label7"),
-                            QStringLiteral("U kunt ze daar later weer uit verwijderen."), Frame1),
+    vakken->addWidget(
+        label(u"Label6"_s, u"Spelers worden toegevoegd aan spelergroep 'Gr08-'"_s, Frame1), 4, 0, 1,
+        3);
+    vakken->addWidget(label(u"Label7"_s, u"U kunt ze daar later weer uit verwijderen."_s, Frame1),
                       5, 0, 1, 3);
     vakken->addWidget(cmdStart, 6, 0, 1, 3);
     vakken->setColumnStretch(1, 1);
@@ -83,10 +79,8 @@ void diaToevoegen::Bouw()
 
     auto* lagen = new QVBoxLayout(this);
     for (auto* waarschuwing :
-         {label(QStringLiteral("Label2"),
-                QStringLiteral("Alleen gebruiken door deskundigen van de materie."), this),
-          label(QStringLiteral("Label5"), QStringLiteral("(u riskeert een corrupt ledenbestand)"),
-                this)}) {
+         {label(u"Label2"_s, u"Alleen gebruiken door deskundigen van de materie."_s, this),
+          label(u"Label5"_s, u"(u riskeert een corrupt ledenbestand)"_s, this)}) {
         QFont vet = waarschuwing->font();
         vet.setBold(true);
         waarschuwing->setFont(vet);
@@ -125,8 +119,7 @@ void diaToevoegen::VulZittingen()
 {
     auto gevonden = RevZittingen(administratie_.schijf, administratie_.mappen);
     if (!gevonden) {
-        MeldLeesfout(QStringLiteral("Fout bij het lezen van de map met zittingen."),
-                     gevonden.error());
+        MeldLeesfout(u"Fout bij het lezen van de map met zittingen."_s, gevonden.error());
         return;
     }
     MeldOvergeslagen(this, administratie_.schijf, Zittingenmap(administratie_.mappen));
@@ -148,8 +141,7 @@ void diaToevoegen::KiesZitting()
     const bool opnieuw = !gehaald && gehaald.error().soort == Foutsoort::Beschadigd &&
                          std::exchange(gemeld_, gehaald.error().bestand) == gehaald.error().bestand;
     if (!opnieuw && !StaatEr(this, gehaald))
-        MeldLeesfout(QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map "
-                                    "Puntenboek."),
+        MeldLeesfout(u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek."_s,
                      gehaald.error());
     LeesNamen();
 }
@@ -160,19 +152,18 @@ void diaToevoegen::LeesNamen()
     namen_.clear();
     auto gelezen = LeesSessieSpelers(administratie_.schijf, administratie_.mappen, Zitting());
     if (!gelezen)
-        MeldLeesfout(QStringLiteral("Fout bij het lezen van de spelers van deze zitting."),
-                     gelezen.error());
+        MeldLeesfout(u"Fout bij het lezen van de spelers van deze zitting."_s, gelezen.error());
     else if (gelezen->metKeys)
         Meld(this, QMessageBox::Information,
-             QStringLiteral("De spelernamen hebben al een RVD-key, maar dit kan een oude zijn, "
-                            "wordt verwijderd."));
+             u"De spelernamen hebben al een RVD-key, maar dit kan een oude zijn, wordt "
+             "verwijderd."_s);
     if (gelezen)
         namen_ = std::move(gelezen->spelers);
     for (const Sessiespeler& speler : namen_)
         lstN2->addItem(NaarQString(Toevoegregel(speler)));
     if (lstN2->count() > 0)
         lstN2->setCurrentRow(0);
-    Label4->setText(QStringLiteral("Aantal toe te voegen spelers: %1").arg(namen_.size()));
+    Label4->setText(u"Aantal toe te voegen spelers: %1"_s.arg(namen_.size()));
     cmdStart->setEnabled(!namen_.empty());
 }
 
@@ -181,7 +172,7 @@ void diaToevoegen::VoegToe()
     Register vorige = administratie_.spelers;
     auto tekst = VoegSpelersToe(administratie_.spelers, namen_);
     if (!tekst) {
-        MeldSleutelsOp(this, QStringLiteral("Er is niets toegevoegd"),
+        MeldSleutelsOp(this, u"Er is niets toegevoegd"_s,
                        PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
@@ -191,18 +182,18 @@ void diaToevoegen::VoegToe()
     if (!geschreven) {
         static_cast<void>(verslag.ZetTerug()); // the first failure is the one to tell
         administratie_.spelers = std::move(vorige);
-        MeldFout(this, QMessageBox::Warning,
-                 QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
-                                "toegevoegd: zonder dat bestand zijn de nieuwe spelers niet aan "
-                                "deze zitting te koppelen. Verhelp de oorzaak en probeer het "
-                                "opnieuw."),
-                 geschreven.error());
+        MeldFout(
+            this, QMessageBox::Warning,
+            u"Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets toegevoegd: zonder dat "
+            "bestand zijn de nieuwe spelers niet aan deze zitting te koppelen. Verhelp de oorzaak "
+            "en probeer het opnieuw."_s,
+            geschreven.error());
         return;
     }
     vorige_.emplace(Vorige{std::move(vorige), std::move(verslag)});
     for (QWidget* klaar : std::initializer_list<QWidget*>{cmdStart, Combo1, cmdLeesSpelers})
         klaar->setEnabled(false);
-    Meld(this, QMessageBox::Information, QStringLiteral("De spelers zijn toegevoegd."));
+    Meld(this, QMessageBox::Information, u"De spelers zijn toegevoegd."_s);
     OKButton->setEnabled(true);
     OKButton->setDefault(true);
     OKButton->setFocus();
@@ -222,15 +213,15 @@ void diaToevoegen::reject()
         static_cast<void>(ZetTerugOfMeld(vorige_->verslag, this));
         vorige_.reset();
     }
-    Meld(this, QMessageBox::Information, QStringLiteral("Er worden geen spelers toegevoegd."));
+    Meld(this, QMessageBox::Information, u"Er worden geen spelers toegevoegd."_s);
     QDialog::reject();
 }
 
 void diaToevoegen::MeldLeesfout(const QString& wat, const Fout& fout)
 {
     MeldFout(this, QMessageBox::Warning,
-             wat + QStringLiteral(" De spelers en de zitting zijn niet veranderd. Verhelp de "
-                                  "oorzaak en kies de zitting opnieuw."),
+             wat + u" De spelers en de zitting zijn niet veranderd. Verhelp de oorzaak en kies de "
+                   "zitting opnieuw."_s,
              fout);
 }
 

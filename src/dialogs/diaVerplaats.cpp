@@ -22,30 +22,26 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
 
 void diaVerplaats::Bouw()
 {
-    setObjectName(QStringLiteral("diaVerplaats"));
-    setWindowTitle(QStringLiteral("Verplaats speler(s) naar een andere groep"));
+    setObjectName(u"diaVerplaats"_s);
+    setWindowTitle(u"Verplaats speler(s) naar een andere groep"_s);
     auto* Frame1 = new QGroupBox(this);
-    Noem(Frame1, QStringLiteral("Frame1"));
-    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Verplaats"), u'V', this);
-    cmdAnnuleren =
-        MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Annuleren"), u'A', this);
+    Noem(Frame1, u"Frame1"_s);
+    cmdOK = MaakKnop(u"cmdOK"_s, u"Verplaats"_s, u'V', this);
+    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
     keus_ = new Spelerkeus(cmdOK, Frame1);
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, Frame1);
     };
-    auto* Label2 =
-        label(QStringLiteral("Label2"), QStringLiteral("Verplaats hen naar de volgende groep:"));
-    cmbGrnamen = MaakKeus(QStringLiteral("cmbGrnamen"), Label2, Frame1);
+    auto* Label2 = label(u"Label2"_s, u"Verplaats hen naar de volgende groep:"_s);
+    cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, Frame1);
 
     auto* binnen = new QVBoxLayout(Frame1);
     binnen->addWidget(keus_, 1);
     binnen->addWidget(Label2);
     binnen->addWidget(cmbGrnamen);
-    binnen->addWidget(label(QStringLiteral("Label3"),
-                            QStringLiteral("Spelers van 'Gr05-' kunnen niet worden verplaatst. ")));
+    binnen->addWidget(label(u"Label3"_s, u"Spelers van 'Gr05-' kunnen niet worden verplaatst. "_s));
     binnen->addWidget(
-        label(QStringLiteral("Label4"),
-              QStringLiteral("Spelers mogen wel naar groep 'Gr05-' worden verplaatst.")));
+        label(u"Label4"_s, u"Spelers mogen wel naar groep 'Gr05-' worden verplaatst."_s));
     auto* lagen = new QVBoxLayout(this);
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));

@@ -18,15 +18,15 @@ QString NoemSpelers(const Spelertabel& tabel, const std::vector<int>& rijen, con
     constexpr std::size_t meeste = 10;
     const int breedste = Maten().Twips(6000);
     const auto spelers = [](std::size_t aantal) {
-        return Aantal(aantal, QStringLiteral("speler"), QStringLiteral("spelers"));
+        return Aantal(aantal, u"speler"_s, u"spelers"_s);
     };
     QStringList regels{spelers(rijen.size()) + QLatin1String(rijen.empty() ? "" : ":")};
     for (std::size_t i = 0; i < std::min(meeste, rijen.size()); ++i)
         regels << Ingekort(venster.fontMetrics(), NaarQString(VolleNaam(tabel, rijen[i])),
                            breedste);
     if (rijen.size() > meeste)
-        regels << QStringLiteral("en nog %1").arg(spelers(rijen.size() - meeste));
-    return regels.join(QLatin1Char('\n'));
+        regels << u"en nog %1"_s.arg(spelers(rijen.size() - meeste));
+    return regels.join(u'\n');
 }
 
 frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
@@ -43,34 +43,31 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
 
 void frmVerwSubgroep::Bouw()
 {
-    setObjectName(QStringLiteral("frmVerwSubgroep"));
-    setWindowTitle(QStringLiteral("Verwijderen van een subgroep"));
+    setObjectName(u"frmVerwSubgroep"_s);
+    setWindowTitle(u"Verwijderen van een subgroep"_s);
     auto* frame1 = new QGroupBox(this);
-    Noem(frame1, QStringLiteral("frame1"));
+    Noem(frame1, u"frame1"_s);
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, frame1);
     };
-    Label3 = label(QStringLiteral("Label3"), QStringLiteral("met deze Subgroep:"));
-    auto* Label4 = label(QStringLiteral("Label4"), QStringLiteral("uit deze Spelergroep:"));
-    cmbRVDgr = MaakKeus(QStringLiteral("cmbRVDgr"), Label4, frame1);
-    cmbSubGr = MaakKeus(QStringLiteral("cmbSubGr"), Label3, frame1);
-    cmdVerwijder =
-        MaakKnop(QStringLiteral("cmdVerwijder"), QStringLiteral("Verwijderen ..."), u'V', this);
-    cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Terug"), u'T', this);
+    Label3 = label(u"Label3"_s, u"met deze Subgroep:"_s);
+    auto* Label4 = label(u"Label4"_s, u"uit deze Spelergroep:"_s);
+    cmbRVDgr = MaakKeus(u"cmbRVDgr"_s, Label4, frame1);
+    cmbSubGr = MaakKeus(u"cmbSubGr"_s, Label3, frame1);
+    cmdVerwijder = MaakKnop(u"cmdVerwijder"_s, u"Verwijderen ..."_s, u'V', this);
+    cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this);
 
     auto* vakken = new QGridLayout(frame1);
-    vakken->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Verwijder ALLE spelers ")), 0,
-                      0, 1, 2);
+    vakken->addWidget(label(u"Label1"_s, u"Verwijder ALLE spelers "_s), 0, 0, 1, 2);
     vakken->addWidget(Label4, 1, 0);
     vakken->addWidget(cmbRVDgr, 1, 1);
     vakken->addWidget(Label3, 2, 0);
     vakken->addWidget(cmbSubGr, 2, 1);
     vakken->setColumnStretch(1, 1);
     auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(MaakLabel(
-        QStringLiteral("Label2"),
-        QStringLiteral("Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep."),
-        this));
+    lagen->addWidget(
+        MaakLabel(u"Label2"_s,
+                  u"Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep."_s, this));
     lagen->addWidget(frame1);
     lagen->addStretch();
     lagen->addLayout(Knoppenrij({cmdVerwijder, cmdEinde}));
@@ -82,8 +79,8 @@ void frmVerwSubgroep::Bouw()
 
 void frmVerwSubgroep::KiesGroep()
 {
-    Label3->setText(Code() == administratie_.mappen.DFIMPG ? QStringLiteral("met deze NBBgroep:")
-                                                           : QStringLiteral("met deze SUBgroep:"));
+    Label3->setText(Code() == administratie_.mappen.DFIMPG ? u"met deze NBBgroep:"_s
+                                                           : u"met deze SUBgroep:"_s);
     subgroepen_ = SubgroepenVan(administratie_.spelers.tabel, Code());
     VulKeus(*cmbSubGr, subgroepen_);
     cmdVerwijder->setEnabled(!subgroepen_.empty());
@@ -92,18 +89,18 @@ void frmVerwSubgroep::KiesGroep()
 void frmVerwSubgroep::Verwijder()
 {
     const Tekst subgroep = subgroepen_.at(static_cast<std::size_t>(cmbSubGr->currentIndex()));
-    const QString vraag = QStringLiteral("U gaat alle spelers van Subgroep '%1'\r\nuit RVDgroep "
-                                         "'%2' verwijderen!\r\n\r\nWeet u het zeker?")
-                              .arg(NaarQString(subgroep), cmbRVDgr->currentText());
+    const QString vraag =
+        u"U gaat alle spelers van Subgroep '%1'\r\nuit RVDgroep '%2' verwijderen!\r\n\r\nWeet u "
+        "het zeker?"_s.arg(NaarQString(subgroep), cmbRVDgr->currentText());
     Spelertabel& tabel = administratie_.spelers.tabel;
-    if (!Vraag(this, QMessageBox::Information, vraag, QStringLiteral("Verwijderen?"),
+    if (!Vraag(this, QMessageBox::Information, vraag, u"Verwijderen?"_s,
                NoemSpelers(tabel, RijenVanSubgroep(tabel, Code(), subgroep), *this)))
         return;
     const int aantal = VerwijderSubgroep(tabel, Code(), subgroep);
     ietsVerwijderd_ = ietsVerwijderd_ || aantal > 0;
     emit rijenVerwijderd();
     Meld(this, QMessageBox::Information,
-         QStringLiteral("Klaar! \r\nEr zijn %1 speler(s) verwijderd.").arg(aantal));
+         u"Klaar! \r\nEr zijn %1 speler(s) verwijderd."_s.arg(aantal));
     KiesGroep();
 }
 

@@ -9,16 +9,13 @@ namespace plexoran {
 
 Spelerkeus::Spelerkeus(QPushButton* cmdOK, QWidget* ouder)
     : QWidget(ouder), lstKeus(new Regellijst(QListView::MultiSelection, this)),
-      cmdSelAll(
-          MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'S', this)),
-      cmdSelNone(
-          MaakKnop(QStringLiteral("cmdSelNone"), QStringLiteral("Selecteer niets"), u'n', this))
+      cmdSelAll(MaakKnop(u"cmdSelAll"_s, u"Selecteer alles"_s, u'S', this)),
+      cmdSelNone(MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this))
 {
-    Noem(lstKeus, QStringLiteral("lstKeus"), QStringLiteral("Spelers"));
+    Noem(lstKeus, u"lstKeus"_s, u"Spelers"_s);
     auto* lagen = new QVBoxLayout(this);
     lagen->setContentsMargins(0, 0, 0, 0);
-    auto* Label1 =
-        MaakLabel(QStringLiteral("Label1"), QStringLiteral("Selecteer de spelers(s) "), this);
+    auto* Label1 = MaakLabel(u"Label1"_s, u"Selecteer de spelers(s) "_s, this);
     Label1->setBuddy(lstKeus);
     lagen->addWidget(Label1);
     lagen->addWidget(lstKeus, 1);

@@ -26,15 +26,14 @@ constexpr double Rand = 2; // millimetres of white around the list
 
 Controlevlak::Controlevlak(const Letterkast& kast, const Maten& maten, const Schuifkader& kader,
                            QWidget* ouder)
-    : Tabelvlak(kader, QStringLiteral("Leden van de gekozen ledenbestanden"), ouder,
+    : Tabelvlak(kader, u"Leden van de gekozen ledenbestanden"_s, ouder,
                 controle::Regelhoogte * maten.PixelsPerMm()),
       kast_(kast), pixelsPerMm_(maten.PixelsPerMm())
 {}
 
 QString Controlevlak::Celtekst(int regel, int kolom) const
 {
-    const std::array koppen{QStringLiteral("NBBnr"), QStringLiteral("M/V"),
-                            QStringLiteral("NBBgroep"), QStringLiteral("Naam")};
+    const std::array koppen{u"NBBnr"_s, u"M/V"_s, u"NBBgroep"_s, u"Naam"_s};
     const auto plaats = static_cast<std::size_t>(kolom);
     return regel == 0 ? koppen[plaats]
                       : NaarQString(rijen_->Cel(static_cast<std::size_t>(regel - 1), plaats));
@@ -125,18 +124,18 @@ diaControleNBB::diaControleNBB(Administratie& administratie, const Ledenopdracht
 
 void diaControleNBB::Bouw()
 {
-    setObjectName(QStringLiteral("diaControleNBB"));
-    setWindowTitle(QStringLiteral("Controle NBB-spelers op ontbrekende NBBnrs en M/V"));
+    setObjectName(u"diaControleNBB"_s);
+    setWindowTitle(u"Controle NBB-spelers op ontbrekende NBBnrs en M/V"_s);
     setSizeGripEnabled(true);
-    Frame2 = new Schuifkader(QStringLiteral("Frame2"), maten_, this);
+    Frame2 = new Schuifkader(u"Frame2"_s, maten_, this);
     P1 = new Controlevlak(kast_, maten_, *Frame2, Frame2);
     Frame2->Bevat(P1);
     Frame2->Liggend().hide(); // what is too wide goes on below
-    lblAantal = MaakLabel(QStringLiteral("lblAantal"), QString(), this);
-    chkSort = new QCheckBox(MetSneltoets(QStringLiteral("Sorteer op naam"), u'S'), this);
-    Noem(chkSort, QStringLiteral("chkSort"));
-    cmdPrint = MaakKnop(QStringLiteral("cmdPrint"), QStringLiteral("Print"), u'P', this);
-    cmdTerug = MaakKnop(QStringLiteral("cmdTerug"), QStringLiteral("Terug"), u'T', this);
+    lblAantal = MaakLabel(u"lblAantal"_s, QString(), this);
+    chkSort = new QCheckBox(MetSneltoets(u"Sorteer op naam"_s, u'S'), this);
+    Noem(chkSort, u"chkSort"_s);
+    cmdPrint = MaakKnop(u"cmdPrint"_s, u"Print"_s, u'P', this);
+    cmdTerug = MaakKnop(u"cmdTerug"_s, u"Terug"_s, u'T', this);
     cmdTerug->setDefault(true);
 
     auto* onder = new QHBoxLayout;
@@ -176,12 +175,11 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
 {
     QStringList opmerkingen;
     {
-        frmVoortgang voortgang(QString(), QStringLiteral("&Stoppen"), parentWidget());
+        frmVoortgang voortgang(QString(), u"&Stoppen"_s, parentWidget());
         std::size_t gelezen = 0;
         while (gelezen < namen.size() && !voortgang.Gestopt()) {
             const std::size_t i = gelezen++; // is read to its end, also when the user stops
-            voortgang.setLabelText(
-                QStringLiteral("Ledenbestand wordt gelezen: %1").arg(NaarQString(namen[i])));
+            voortgang.setLabelText(u"Ledenbestand wordt gelezen: %1"_s.arg(NaarQString(namen[i])));
             const auto melder = [&](std::size_t gedaan, std::size_t geheel) {
                 // Each file is one step, of which this is the part that is done.
                 const std::size_t deel = geheel == 0 ? 0 : 100 * std::min(gedaan, geheel) / geheel;
@@ -201,7 +199,7 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
             }
         }
         if (voortgang.Gestopt() && gelezen < namen.size())
-            opmerkingen << QStringLiteral("Het lezen is gestopt: de lijst is niet volledig.");
+            opmerkingen << u"Het lezen is gestopt: de lijst is niet volledig."_s;
     }
     MeldOpmerkingen(opmerkingen);
 }
@@ -213,42 +211,38 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
         lstN9.push_back(MaakControleregel(regel, groep));
     const QString bestand = NaarQString(naam);
     if (lezing.nietGeladen)
-        opmerkingen << QStringLiteral("'%1': geen leden, want %2.")
-                           .arg(bestand, Leesfoutreden(*lezing.nietGeladen));
+        opmerkingen << u"'%1': geen leden, want %2."_s.arg(bestand,
+                                                           Leesfoutreden(*lezing.nietGeladen));
     if (lezing.anderNummer)
-        opmerkingen << QStringLiteral("'%1': dit zijn de leden van het ledenbestand met nummer %2, "
-                                      "want van het nummer tellen alleen de laatste drie tekens.")
-                           .arg(bestand)
-                           .arg(*lezing.anderNummer);
+        opmerkingen
+            << u"'%1': dit zijn de leden van het ledenbestand met nummer %2, want van het nummer "
+               "tellen alleen de laatste drie tekens."_s.arg(bestand)
+                   .arg(*lezing.anderNummer);
     if (lezing.inUtf8)
-        opmerkingen << QStringLiteral("'%1': opgeslagen in UTF-8, dus letters met een accent komen "
-                                      "verkeerd over.")
-                           .arg(bestand);
+        opmerkingen
+            << u"'%1': opgeslagen in UTF-8, dus letters met een accent komen verkeerd over."_s.arg(
+                   bestand);
     if (lezing.teKorteRegel > 0)
-        opmerkingen << QStringLiteral("'%1': gelezen tot regel %2, want die regel heeft te weinig "
-                                      "kolommen.")
+        opmerkingen << u"'%1': gelezen tot regel %2, want die regel heeft te weinig kolommen."_s
                            .arg(bestand)
                            .arg(lezing.teKorteRegel);
     if (!lezing.metIsTeken.empty())
-        opmerkingen << QStringLiteral("'%1': %2 overgeslagen, omdat er een '=' in staat, zoals in "
-                                      "een kopregel.")
-                           .arg(bestand, Aantal(lezing.metIsTeken.size(), QStringLiteral("regel"),
-                                                QStringLiteral("regels")));
+        opmerkingen << u"'%1': %2 overgeslagen, omdat er een '=' in staat, zoals in een kopregel."_s
+                           .arg(bestand, Aantal(lezing.metIsTeken.size(), u"regel"_s, u"regels"_s));
     if (lezing.vervangenTekens > 0)
-        opmerkingen << QStringLiteral(
-                           "'%1': aantal tekens dat het spelerbestand niet kent en dat is "
-                           "vervangen door een teken dat erop lijkt, of is weggelaten: %2.")
-                           .arg(bestand)
-                           .arg(lezing.vervangenTekens);
+        opmerkingen
+            << u"'%1': aantal tekens dat het spelerbestand niet kent en dat is vervangen door een "
+               "teken dat erop lijkt, of is weggelaten: %2."_s.arg(bestand)
+                   .arg(lezing.vervangenTekens);
 }
 
 void diaControleNBB::MeldOpmerkingen(const QStringList& opmerkingen)
 {
     if (!opmerkingen.isEmpty())
-        MeldLijst(parentWidget(), QMessageBox::Information,
-                  QStringLiteral("Bij het lezen van de ledenbestanden viel dit op; er is niets "
-                                 "veranderd.\r\n\r\n") +
-                      opmerkingen.join(QStringLiteral("\r\n")));
+        MeldLijst(
+            parentWidget(), QMessageBox::Information,
+            u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"_s +
+                opmerkingen.join(u"\r\n"_s));
 }
 
 // ---------------------------------------------------------------- showing
@@ -264,7 +258,7 @@ void diaControleNBB::Teken()
         opNaam_ = VolgordeOpNaam(lstN9);
     rijen_ = std::make_unique<Controlerijen>(Rijen(P1->Breedte()));
     P1->Toon(rijen_.get());
-    lblAantal->setText(QStringLiteral("Aantal leden: %1").arg(lstN9.size()));
+    lblAantal->setText(u"Aantal leden: %1"_s.arg(lstN9.size()));
     cmdPrint->setEnabled(!lstN9.empty());
 }
 
@@ -283,7 +277,7 @@ void diaControleNBB::Print()
     const Controlerijen rijen =
         Rijen(TekensNaastElkaar(kast_, controleblad::Breed - 2 * controleblad::Marge));
     const int bladen = ControlebladenVoor(rijen.Aantal());
-    const QString titel = QStringLiteral("Controle NBB-spelers");
+    const QString titel = u"Controle NBB-spelers"_s;
     const auto printer =
         KiesPrinter(administratie_.schijf,
                     {.titel = titel, .stand = Papierstand::Staand, .bladen = bladen}, this);
@@ -293,7 +287,7 @@ void diaControleNBB::Print()
         *printer,
         {.titel = titel,
          .stand = Papierstand::Staand,
-         .bezig = QStringLiteral("De lijst wordt geprint"),
+         .bezig = u"De lijst wordt geprint"_s,
          .bladen = printer->Keus().Bladen(bladen, 1)},
         [&](Tekenvlak& vlak, int blad) { TekenControleblad(vlak, rijen, blad, bladen); }, this);
     Teken();

@@ -10,20 +10,18 @@ namespace plexoran {
 
 diaRekProgkeus::diaRekProgkeus(QWidget* ouder) : QDialog(ouder)
 {
-    setObjectName(QStringLiteral("diaRekProgkeus"));
-    setWindowTitle(QStringLiteral("Maak een keus"));
-    auto* Label1 =
-        new QLabel(QStringLiteral("Op deze computer zijn 2 Rekenprogramma's aangetroffen."), this);
-    Noem(Label1, QStringLiteral("Label1"));
-    auto* Label2 = new QLabel(QStringLiteral("Maak een keus"), this);
-    Noem(Label2, QStringLiteral("Label2"));
+    setObjectName(u"diaRekProgkeus"_s);
+    setWindowTitle(u"Maak een keus"_s);
+    auto* Label1 = new QLabel(u"Op deze computer zijn 2 Rekenprogramma's aangetroffen."_s, this);
+    Noem(Label1, u"Label1"_s);
+    auto* Label2 = new QLabel(u"Maak een keus"_s, this);
+    Noem(Label2, u"Label2"_s);
 
     auto* Frame1 = new QGroupBox(this);
-    Noem(Frame1, QStringLiteral("Frame1"), QStringLiteral("Rekenprogramma"));
-    Option1 =
-        MaakOptie(QStringLiteral("Option1"), QStringLiteral("NBB-Rekenprogamma"), u'N', Frame1);
-    Option2 = MaakOptie(QStringLiteral("Option2"), QStringLiteral("Bridge-It"), u'B', Frame1);
-    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
+    Noem(Frame1, u"Frame1"_s, u"Rekenprogramma"_s);
+    Option1 = MaakOptie(u"Option1"_s, u"NBB-Rekenprogamma"_s, u'N', Frame1);
+    Option2 = MaakOptie(u"Option2"_s, u"Bridge-It"_s, u'B', Frame1);
+    cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
     cmdOK->setDefault(true);
     cmdOK->setEnabled(false);
 

@@ -20,16 +20,13 @@ QLabel* MaakLopendeTekst(const QString& naam, const QString& tekst, QWidget* oud
 
 QString Openingstekst(const Tekst& importgroep)
 {
-    return QStringLiteral(
-               "Hieronder kunt u spelergegevens uit het NBB-Rekenprogramma importeren in Ravendeck "
-               "(RVD).\n"
-               "Om RVD en NBB4 naadloos met elkaar te kunnen laten werken is het van het grootste "
-               "belang dat de gegevens van de spelers in beide programma's gelijk zijn.\n"
-               "Werkt ook met Bridge-It als daar bij 'NBB-nummer' een uniek fictief nummer wordt "
-               "ingevuld lager dan 9999.\n"
-               "De spelers in de gekozen bestanden gaan standaard naar de RVD-verzamelgroep '%1' "
-               ",van daaruit kunt u ze eventueel kopieren naar andere groepen.")
-        .arg(NaarQString(importgroep));
+    return u"Hieronder kunt u spelergegevens uit het NBB-Rekenprogramma importeren in Ravendeck "
+           "(RVD).\nOm RVD en NBB4 naadloos met elkaar te kunnen laten werken is het van het "
+           "grootste belang dat de gegevens van de spelers in beide programma's gelijk zijn.\n"
+           "Werkt ook met Bridge-It als daar bij 'NBB-nummer' een uniek fictief nummer wordt "
+           "ingevuld lager dan 9999.\nDe spelers in de gekozen bestanden gaan standaard naar de "
+           "RVD-verzamelgroep '%1' ,van daaruit kunt u ze eventueel kopieren naar andere groepen."_s
+               .arg(NaarQString(importgroep));
 }
 
 QVBoxLayout* Onderelkaar(std::initializer_list<QWidget*> delen)
@@ -60,16 +57,14 @@ void frmImportNBB::MaakDelen()
         return optie;
     };
     // Two options bear the same caption: only their labels, and their spoken names, differ.
-    const QString xml = QStringLiteral("uit een geexporteerd XML-ledenbestand");
-    Option1 = keus(QStringLiteral("Option1"),
-                   administratie_.rekenprogramma.ProgrammaCode == "BRIT"
-                       ? QStringLiteral("direct uit Bridge-It")
-                       : QStringLiteral("direct uit NBBR 2.8"),
+    const QString xml = u"uit een geexporteerd XML-ledenbestand"_s;
+    Option1 = keus(u"Option1"_s,
+                   administratie_.rekenprogramma.ProgrammaCode == "BRIT" ? u"direct uit Bridge-It"_s
+                                                                         : u"direct uit NBBR 2.8"_s,
                    u'd', {});
-    Option2 = keus(QStringLiteral("Option2"),
-                   QStringLiteral("uit een geexporteerd CSV-ledenbestand"), u'C', {});
-    Option3 = keus(QStringLiteral("Option3"), xml, u'X', xml + QStringLiteral(" uit NBBR-3"));
-    Option4 = keus(QStringLiteral("Option4"), xml, u'L', xml + QStringLiteral(" uit NBB-4"));
+    Option2 = keus(u"Option2"_s, u"uit een geexporteerd CSV-ledenbestand"_s, u'C', {});
+    Option3 = keus(u"Option3"_s, xml, u'X', xml + u" uit NBBR-3"_s);
+    Option4 = keus(u"Option4"_s, xml, u'L', xml + u" uit NBB-4"_s);
 
     const auto vink = [this](const QString& naam, const QString& tekst, char16_t letter) {
         auto* vakje = new QCheckBox(MetSneltoets(tekst, letter), this);
@@ -77,22 +72,21 @@ void frmImportNBB::MaakDelen()
         vakje->setChecked(true);
         return vakje;
     };
-    chkVoornaam = vink(QStringLiteral("chkVoornaam"), QStringLiteral("Voornaam"), 0);
-    chkTus = vink(QStringLiteral("chkTus"), QStringLiteral("Tussenvoegsel"), 0);
-    chkAchternaam = vink(QStringLiteral("chkAchternaam"), QStringLiteral("Achternaam"), 0);
-    chkNBBnr = vink(QStringLiteral("chkNBBnr"), QStringLiteral("NBBnummer"), 0);
+    chkVoornaam = vink(u"chkVoornaam"_s, u"Voornaam"_s, 0);
+    chkTus = vink(u"chkTus"_s, u"Tussenvoegsel"_s, 0);
+    chkAchternaam = vink(u"chkAchternaam"_s, u"Achternaam"_s, 0);
+    chkNBBnr = vink(u"chkNBBnr"_s, u"NBBnummer"_s, 0);
     for (QCheckBox* altijd : {chkVoornaam, chkTus, chkAchternaam, chkNBBnr}) {
         altijd->setEnabled(false);
-        altijd->setToolTip(QStringLiteral("Wordt altijd geïmporteerd"));
+        altijd->setToolTip(u"Wordt altijd geïmporteerd"_s);
     }
-    chkNAW = vink(QStringLiteral("chkNAW"),
-                  QStringLiteral("NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"), u'N');
-    chkTel = vink(QStringLiteral("chkTel"), QStringLiteral("Telefoonnr"), u'f');
-    chkEmail = vink(QStringLiteral("chkEmail"), QStringLiteral("Emailadres"), u'E');
-    chkMV = vink(QStringLiteral("chkMV"), QStringLiteral("M/V"), u'M');
+    chkNAW = vink(u"chkNAW"_s, u"NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"_s, u'N');
+    chkTel = vink(u"chkTel"_s, u"Telefoonnr"_s, u'f');
+    chkEmail = vink(u"chkEmail"_s, u"Emailadres"_s, u'E');
+    chkMV = vink(u"chkMV"_s, u"M/V"_s, u'M');
     for (QCheckBox* naarKeus : {chkNAW, chkTel, chkEmail, chkMV})
-        naarKeus->setToolTip(QStringLiteral(
-            "Zonder vinkje wordt dit gegeven ook leeggemaakt bij spelers die er al staan"));
+        naarKeus->setToolTip(
+            u"Zonder vinkje wordt dit gegeven ook leeggemaakt bij spelers die er al staan"_s);
     MaakHulpknoppen();
 }
 
@@ -119,12 +113,12 @@ void frmImportNBB::MaakHulpknoppen()
 
 void frmImportNBB::Bouw()
 {
-    setObjectName(QStringLiteral("frmImportNBB"));
-    setWindowTitle(QStringLiteral("Importeer een NBB-ledenbestand"));
+    setObjectName(u"frmImportNBB"_s);
+    setWindowTitle(u"Importeer een NBB-ledenbestand"_s);
     MaakDelen();
     auto* inhoud = new QWidget(this);
-    lblOpening = MaakLopendeTekst(QStringLiteral("lblOpening"),
-                                  Openingstekst(administratie_.mappen.DFIMPG), inhoud);
+    lblOpening =
+        MaakLopendeTekst(u"lblOpening"_s, Openingstekst(administratie_.mappen.DFIMPG), inhoud);
 
     auto* links = new QVBoxLayout;
     links->addWidget(BouwBronnen());
@@ -149,8 +143,8 @@ void frmImportNBB::Bouw()
 
 QGroupBox* frmImportNBB::BouwBronnen()
 {
-    auto* Frame3 = new QGroupBox(QStringLiteral("Haal de spelers op:"), this);
-    Noem(Frame3, QStringLiteral("Frame3"));
+    auto* Frame3 = new QGroupBox(u"Haal de spelers op:"_s, this);
+    Noem(Frame3, u"Frame3"_s);
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, Frame3);
     };
@@ -158,25 +152,23 @@ QGroupBox* frmImportNBB::BouwBronnen()
     lagen->setSpacing(2);
     lagen->addWidget(Option1);
     lagen->addWidget(Option2);
-    lagen->addLayout(Ingesprongen(label(
-        QStringLiteral("Label10"), QStringLiteral("(dit is mogelijk met NBBR-2.8 en NBBR-3)"))));
-    lagen->addWidget(Option3);
     lagen->addLayout(
-        Ingesprongen(label(QStringLiteral("Label13"), QStringLiteral("(uit NBBR-3)"))));
-    lagen->addWidget(label(QStringLiteral("Label9"), QStringLiteral("Uit NBB-4:")));
+        Ingesprongen(label(u"Label10"_s, u"(dit is mogelijk met NBBR-2.8 en NBBR-3)"_s)));
+    lagen->addWidget(Option3);
+    lagen->addLayout(Ingesprongen(label(u"Label13"_s, u"(uit NBBR-3)"_s)));
+    lagen->addWidget(label(u"Label9"_s, u"Uit NBB-4:"_s));
     lagen->addWidget(Option4);
     lagen->addLayout(
-        Ingesprongen(label(QStringLiteral("Label2"),
-                           QStringLiteral("Kies eventueel 'CSV-ledenbestand' i.p.v. 'XML'"))));
+        Ingesprongen(label(u"Label2"_s, u"Kies eventueel 'CSV-ledenbestand' i.p.v. 'XML'"_s)));
     return Frame3;
 }
 
 QGroupBox* frmImportNBB::BouwGegevens()
 {
-    auto* Frame1 = new QGroupBox(QStringLiteral("Spelergegevens importeren"), this);
-    Noem(Frame1, QStringLiteral("Frame1"));
-    auto* Frame2 = new QGroupBox(QStringLiteral("Naar keus inclusief:"), Frame1);
-    Noem(Frame2, QStringLiteral("Frame2"));
+    auto* Frame1 = new QGroupBox(u"Spelergegevens importeren"_s, this);
+    Noem(Frame1, u"Frame1"_s);
+    auto* Frame2 = new QGroupBox(u"Naar keus inclusief:"_s, Frame1);
+    Noem(Frame2, u"Frame2"_s);
     Frame2->setLayout(Onderelkaar({chkNAW, chkTel, chkEmail, chkMV}));
     auto* vast = Onderelkaar({chkVoornaam, chkTus, chkAchternaam, chkNBBnr});
     vast->addStretch();
@@ -189,23 +181,22 @@ QGroupBox* frmImportNBB::BouwGegevens()
 QWidget* frmImportNBB::BouwKeuze()
 {
     auto* keuze = new QWidget(this);
-    lblExportMap = MaakLopendeTekst(QStringLiteral("lblExportMap"), QString(), keuze);
+    lblExportMap = MaakLopendeTekst(u"lblExportMap"_s, QString(), keuze);
     lstNBBbest = new Regellijst(QListView::MultiSelection, keuze);
-    Label3 = MaakLabel(QStringLiteral("Label3"), QString(), keuze);
+    Label3 = MaakLabel(u"Label3"_s, QString(), keuze);
     Label3->setBuddy(lstNBBbest);
-    ToonLijsttekst(QStringLiteral("Ledenbestanden:"));
-    Noem(lstNBBbest, QStringLiteral("lstNBBbest"), QStringLiteral("Ledenbestanden"));
-    lstNBBbest->setToolTip(QStringLiteral(
-        "Een klik of de spatiebalk kiest een ledenbestand of laat het los; Ctrl+A kiest alle"));
+    ToonLijsttekst(u"Ledenbestanden:"_s);
+    Noem(lstNBBbest, u"lstNBBbest"_s, u"Ledenbestanden"_s);
+    lstNBBbest->setToolTip(
+        u"Een klik of de spatiebalk kiest een ledenbestand of laat het los; Ctrl+A kiest alle"_s);
     auto* Label7 = MaakLopendeTekst(
-        QStringLiteral("Label7"),
-        QStringLiteral("Let op: alleen spelers met een ingevuld (eventueel fictief) NBB-nummer "
-                       "worden geimporteerd."),
+        u"Label7"_s,
+        u"Let op: alleen spelers met een ingevuld (eventueel fictief) NBB-nummer worden "
+        "geimporteerd."_s,
         keuze);
     auto* Label6 = MaakLopendeTekst(
-        QStringLiteral("Label6"),
-        QStringLiteral(
-            "Bestaande spelers worden overschreven (ververst) nieuwe spelers worden toegevoegd. "),
+        u"Label6"_s,
+        u"Bestaande spelers worden overschreven (ververst) nieuwe spelers worden toegevoegd. "_s,
         keuze);
     auto* lagen = Onderelkaar(
         {cmdKiesExportMap, lblExportMap, Label3, lstNBBbest, cmdControleNBBnrs, Label7, Label6});

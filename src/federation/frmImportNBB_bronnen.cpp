@@ -19,11 +19,11 @@ QString Knoptekst(Ledenbron bron)
 {
     switch (bron) {
     case Ledenbron::XmlNbb3:
-        return QStringLiteral("Kies een map en selecteer 'n 'XML'-bestand");
+        return u"Kies een map en selecteer 'n 'XML'-bestand"_s;
     case Ledenbron::XmlNbb4:
-        return QStringLiteral("Kies een map en wijs een XML-bestand aan");
+        return u"Kies een map en wijs een XML-bestand aan"_s;
     default:
-        return QStringLiteral("Kies een map en selecteer een 'CSV'-bestand");
+        return u"Kies een map en selecteer een 'CSV'-bestand"_s;
     }
 }
 
@@ -31,15 +31,15 @@ QString Lijsttekst(Ledenbron bron)
 {
     switch (bron) {
     case Ledenbron::Csv:
-        return QStringLiteral("CSV-Ledenbestanden: ");
+        return u"CSV-Ledenbestanden: "_s;
     case Ledenbron::XmlNbb3:
-        return QStringLiteral("XML-Ledenbestanden uit NBBR-3: ");
+        return u"XML-Ledenbestanden uit NBBR-3: "_s;
     case Ledenbron::XmlNbb4:
-        return QStringLiteral("XML-Ledenbestanden uit NBBR-4: ");
+        return u"XML-Ledenbestanden uit NBBR-4: "_s;
     case Ledenbron::Database:
         break;
     }
-    return QStringLiteral("Ledenbestanden:");
+    return u"Ledenbestanden:"_s;
 }
 
 /// Files whose name ends in ".csv" or ".xml", capitals or not.
@@ -62,19 +62,16 @@ std::vector<Tekst> VanSoort(const std::vector<Tekst>& namen, Ledenbron bron)
 
 QString Lijstfouttekst(const Fout& fout)
 {
-    const QString waarom = fout.soort == Foutsoort::Ontbreekt
-                               ? QStringLiteral("is niet gevonden")
-                               : QStringLiteral("kan niet worden gelezen");
-    return QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n"
-                          "De database met de ledenbestanden %1; er is niets geïmporteerd. Kies "
-                          "zo nodig een geëxporteerd ledenbestand.")
-        .arg(waarom);
+    const QString waarom =
+        fout.soort == Foutsoort::Ontbreekt ? u"is niet gevonden"_s : u"kan niet worden gelezen"_s;
+    return u"Fout bij het lezen van de ledenbestanden!\r\nDe database met de ledenbestanden %1; "
+           "er is niets geïmporteerd. Kies zo nodig een geëxporteerd ledenbestand."_s.arg(waarom);
 }
 
 /// Lets a long path break behind each folder.
 QString Breekbaar(QString pad)
 {
-    return pad.replace(QLatin1Char('\\'), QStringLiteral("\\\u200B"));
+    return pad.replace(u'\\', u"\\\u200B"_s);
 }
 
 /// The busy cursor for as long as this lives.
@@ -96,7 +93,7 @@ void frmImportNBB::ToonAanbod()
     Option1->setVisible(gevonden.NBBRaanwezig || gevonden.BRITaanwezig);
     cmdKiesExportMap->setEnabled(false);
     MaakBruikbaar(false);
-    lblExportMap->setText(QStringLiteral("Kies links eerst waar de spelers vandaan komen."));
+    lblExportMap->setText(u"Kies links eerst waar de spelers vandaan komen."_s);
     if (!geheugen_.bron || *geheugen_.bron == Ledenbron::Database)
         return;
     const std::map<Ledenbron, QRadioButton*> opties{
@@ -140,7 +137,7 @@ void frmImportNBB::KiesBron(Ledenbron bron)
     cmdKiesExportMap->setEnabled(true);
     map_.clear();
     MaakBruikbaar(false);
-    lblExportMap->setText(QStringLiteral("Er is nog geen map gekozen."));
+    lblExportMap->setText(u"Er is nog geen map gekozen."_s);
     ToonLijsttekst(Lijsttekst(bron));
     if (const Pad map = Beginmap(); !map.empty())
         ToonMap(map, {});
@@ -164,31 +161,29 @@ void frmImportNBB::KiesDatabase()
     MaakBruikbaar(true);
     ToonLijsttekst(Lijsttekst(Ledenbron::Database));
     const Tekst& code = administratie_.rekenprogramma.ProgrammaCode;
-    lblExportMap->setText(code == "BRIT"   ? QStringLiteral("Ledenbestanden direct uit BridgeIt:")
-                          : code == "NBBR" ? QStringLiteral("Ledenbestanden direct uit NBBR-2.8:")
+    lblExportMap->setText(code == "BRIT"   ? u"Ledenbestanden direct uit BridgeIt:"_s
+                          : code == "NBBR" ? u"Ledenbestanden direct uit NBBR-2.8:"_s
                                            : QString());
     if (LedenDatabase_.empty()) {
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\n"
-                            "Bij de start van Plexoran was niet bekend waar de database van het "
-                            "rekenprogramma staat; er is niets geïmporteerd. "
-                            "Start Plexoran opnieuw en kies dan het rekenprogramma."));
+             u"Fout bij het lezen van de ledenbestanden!\r\nBij de start van Plexoran was niet "
+             "bekend waar de database van het rekenprogramma staat; er is niets geïmporteerd. "
+             "Start Plexoran opnieuw en kies dan het rekenprogramma."_s);
         return;
     }
     const Wachtcursor wacht;
     auto namen = HaalLedenbestanden(
         LedenDatabase_,
         // It is over within seconds, and cannot be stopped.
-        frmVoortgang(QStringLiteral("De ledenbestanden worden opgehaald ..."), {}, this)
-            .AlsVoortgang(),
+        frmVoortgang(u"De ledenbestanden worden opgehaald ..."_s, {}, this).AlsVoortgang(),
         grenzen_);
     if (!namen)
         MeldFout(this, QMessageBox::Warning, Lijstfouttekst(namen.error()), namen.error());
     else if (namen->empty())
         Meld(this, QMessageBox::Information,
-             QStringLiteral("In de database van het rekenprogramma staat geen enkel ledenbestand. "
-                            "Er is niets gewijzigd. Maak in het rekenprogramma een ledenbestand, "
-                            "of kies een geëxporteerd ledenbestand."));
+             u"In de database van het rekenprogramma staat geen enkel ledenbestand. Er is niets "
+             "gewijzigd. Maak in het rekenprogramma een ledenbestand, of kies een geëxporteerd "
+             "ledenbestand."_s);
     else
         VulLijst(std::move(*namen));
 }
@@ -197,11 +192,10 @@ void frmImportNBB::KiesDatabase()
 void frmImportNBB::KiesExportMap()
 {
     const bool csv = bron_ == Ledenbron::Csv;
-    QFileDialog CommonDialog1(this, QStringLiteral("Kies 1 bestand uit de gekozen map"));
-    Noem(&CommonDialog1, QStringLiteral("CommonDialog1"));
+    QFileDialog CommonDialog1(this, u"Kies 1 bestand uit de gekozen map"_s);
+    Noem(&CommonDialog1, u"CommonDialog1"_s);
     CommonDialog1.setFileMode(QFileDialog::ExistingFile);
-    CommonDialog1.setNameFilter(csv ? QStringLiteral("CSV-bestanden (*.csv)")
-                                    : QStringLiteral("XML-bestanden (*.xml)"));
+    CommonDialog1.setNameFilter(csv ? u"CSV-bestanden (*.csv)"_s : u"XML-bestanden (*.xml)"_s);
     if (!map_.empty())
         CommonDialog1.setDirectory(QString::fromStdString(administratie_.schijf.Toonpad(map_)));
     if (CommonDialog1.exec() != QDialog::Accepted || CommonDialog1.selectedFiles().isEmpty())
@@ -209,10 +203,8 @@ void frmImportNBB::KiesExportMap()
     const QString aangewezen = CommonDialog1.selectedFiles().first();
     if (aangewezen.contains(u'\\')) { // Qt writes "/" between folders, on Windows too
         Meld(this, QMessageBox::Warning,
-             QStringLiteral(
-                 "Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map "
-                 "mag geen '\\' staan. Er is niets gewijzigd. Geef het een andere naam.\n\n"
-                 "Bestand: ") +
+             u"Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map mag geen '\\' "
+             "staan. Er is niets gewijzigd. Geef het een andere naam.\n\nBestand: "_s +
                  aangewezen);
         return;
     }
@@ -232,15 +224,13 @@ void frmImportNBB::MeldNietVanSoort(const Tekst& gekozen)
 {
     if (std::find(namen_.begin(), namen_.end(), gekozen) != namen_.end())
         return;
-    const QString soort =
-        bron_ == Ledenbron::XmlNbb3   ? QStringLiteral("XML-ledenbestand uit NBBR-3")
-        : bron_ == Ledenbron::XmlNbb4 ? QStringLiteral("XML-ledenbestand uit NBBR-4")
-                                      : QStringLiteral("CSV-ledenbestand");
-    Meld(
-        this, QMessageBox::Information,
-        QStringLiteral("'%1' is geen %2 en staat dus niet in de lijst. Er is niets geïmporteerd. "
-                       "Kies een ander bestand, of kies eerst links waar dit bestand vandaan komt.")
-            .arg(NaarQString(gekozen), soort));
+    const QString soort = bron_ == Ledenbron::XmlNbb3   ? u"XML-ledenbestand uit NBBR-3"_s
+                          : bron_ == Ledenbron::XmlNbb4 ? u"XML-ledenbestand uit NBBR-4"_s
+                                                        : u"CSV-ledenbestand"_s;
+    Meld(this, QMessageBox::Information,
+         u"'%1' is geen %2 en staat dus niet in de lijst. Er is niets geïmporteerd. Kies een ander "
+         "bestand, of kies eerst links waar dit bestand vandaan komt."_s.arg(NaarQString(gekozen),
+                                                                             soort));
 }
 
 /// Lists the folder. False when it cannot be listed, which leaves everything as it was, or not
@@ -251,8 +241,8 @@ bool frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
     const auto bestanden = administratie_.schijf.Bestanden(map);
     if (!bestanden) {
         MeldFout(this, QMessageBox::Warning,
-                 QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Er "
-                                "is niets geïmporteerd. Kies een andere map."),
+                 u"De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets "
+                 "geïmporteerd. Kies een andere map."_s,
                  bestanden.error());
         return false;
     }
@@ -260,7 +250,7 @@ bool frmImportNBB::ToonMap(const Pad& map, Tekstblik gekozen)
     geheugen_.mappen[bron_.value_or(Ledenbron::Csv)] = map;
     MaakBruikbaar(true);
     const QString pad = QString::fromStdString(administratie_.schijf.Toonpad(map));
-    lblExportMap->setText(QStringLiteral("Ledenbestanden in de gekozen map: ") + Breekbaar(pad));
+    lblExportMap->setText(u"Ledenbestanden in de gekozen map: "_s + Breekbaar(pad));
     ZetWenk(lblExportMap, pad);
     MeldOvergeslagen(this, administratie_.schijf, map);
     const bool volledig = ZoekBestanden(*bestanden);
@@ -277,16 +267,16 @@ bool frmImportNBB::ZoekBestanden(std::vector<Tekst> namen)
     namen = VanSoort(namen, bron);
     bool volledig = true;
     if (bron != Ledenbron::Csv) {
-        frmVoortgang voortgang(QStringLiteral("De XML-bestanden in de gekozen map worden bekeken"),
-                               QStringLiteral("&Stoppen"), this);
+        frmVoortgang voortgang(u"De XML-bestanden in de gekozen map worden bekeken"_s,
+                               u"&Stoppen"_s, this);
         namen = BepaalXMLsoort(administratie_.schijf, map_, namen, bron, voortgang.AlsVoortgang());
         volledig = !voortgang.Gestopt();
     }
     VulLijst(std::move(namen));
-    QString tekst = Lijsttekst(bron) +
-                    (namen_.empty() ? QStringLiteral("geen") : QString::number(namen_.size()));
+    QString tekst =
+        Lijsttekst(bron) + (namen_.empty() ? u"geen"_s : QString::number(namen_.size()));
     if (!volledig)
-        tekst += QStringLiteral(" (niet alle bestanden zijn bekeken)");
+        tekst += u" (niet alle bestanden zijn bekeken)"_s;
     ToonLijsttekst(tekst);
     return volledig;
 }
@@ -331,7 +321,7 @@ void frmImportNBB::ControleerNBBnrs()
 {
     const auto gekozen = GekozenBestanden();
     if (gekozen.empty()) {
-        Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+        Meld(this, QMessageBox::Warning, u"U moet nog ledenbestand(en) selecteren!"_s);
         return;
     }
     diaControleNBB(administratie_, Opdracht(), gekozen, this).exec();

@@ -24,11 +24,11 @@ template <class Reeks> QString Toonbaar(const Reeks& regels)
             continue;
         tekst += NaarQString(regel.substr(0, langste));
         if (regel.size() > langste)
-            tekst += QStringLiteral(" ...");
-        tekst += QStringLiteral("\r\n");
+            tekst += u" ..."_s;
+        tekst += u"\r\n"_s;
     }
     if (aantal > meeste)
-        tekst += QStringLiteral("... en nog %1\r\n").arg(aantal - meeste);
+        tekst += u"... en nog %1\r\n"_s.arg(aantal - meeste);
     return tekst;
 }
 
@@ -38,7 +38,7 @@ void frmImportNBB::ImporteerLedenbestanden()
 {
     const auto gekozen = GekozenBestanden();
     if (gekozen.empty()) {
-        Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+        Meld(this, QMessageBox::Warning, u"U moet nog ledenbestand(en) selecteren!"_s);
         return;
     }
     const Ledenopdracht opdracht = Opdracht();
@@ -59,10 +59,9 @@ void frmImportNBB::ImporteerLedenbestanden()
 frmImportNBB::Verloop frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdracht,
                                                     const Tekst& naam)
 {
-    frmVoortgang voortgang(QStringLiteral("'%1' wordt gelezen ...").arg(NaarQString(naam)),
-                           QStringLiteral("&Stoppen"), this);
+    frmVoortgang voortgang(u"'%1' wordt gelezen ..."_s.arg(NaarQString(naam)), u"&Stoppen"_s, this);
     connect(&voortgang, &frmVoortgang::canceled, &voortgang,
-            [&] { voortgang.setLabelText(QStringLiteral("Het importeren wordt gestopt ...")); });
+            [&] { voortgang.setLabelText(u"Het importeren wordt gestopt ..."_s); });
     auto lezing = LeesLedenbestand(administratie_.schijf, opdracht, naam, voortgang.AlsVoortgang());
     voortgang.hide();
     RuimTussenbestandOp(opdracht, naam);
@@ -87,11 +86,11 @@ void frmImportNBB::RuimTussenbestandOp(const Ledenopdracht& opdracht, const Teks
     const auto weg = administratie_.schijf.Verwijder(
         Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam)));
     if (!weg && weg.error().soort != Foutsoort::Ontbreekt)
-        MeldFout(this, QMessageBox::Information,
-                 QStringLiteral("Een tussenbestand met gegevens van leden kon niet worden "
-                                "verwijderd. Het importeren gaat gewoon door. Verwijder het "
-                                "bestand zelf."),
-                 weg.error());
+        MeldFout(
+            this, QMessageBox::Information,
+            u"Een tussenbestand met gegevens van leden kon niet worden verwijderd. Het importeren "
+            "gaat gewoon door. Verwijder het bestand zelf."_s,
+            weg.error());
 }
 
 /// What the user must know to answer the question that follows.
@@ -102,45 +101,39 @@ void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezi
              Leesfouttekst(bron, naam, *lezing.nietGeladen, Leesdoel::Import));
     if (lezing.anderNummer)
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Van het nummer achter de naam '%1' tellen alleen de laatste drie "
-                            "tekens: dit zijn de leden van het ledenbestand met nummer %2. Er is "
-                            "nog niets geïmporteerd. Kies bij de volgende vraag Annuleren als u "
-                            "een ander ledenbestand bedoelt.")
+             u"Van het nummer achter de naam '%1' tellen alleen de laatste drie tekens: dit zijn "
+             "de leden van het ledenbestand met nummer %2. Er is nog niets geïmporteerd. Kies bij "
+             "de volgende vraag Annuleren als u een ander ledenbestand bedoelt."_s
                  .arg(NaarQString(naam))
                  .arg(*lezing.anderNummer));
     if (lezing.inUtf8)
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("'%1' is opgeslagen in UTF-8: letters met een accent komen verkeerd "
-                            "over, en soms ook het eerste NBB-nummer. Er is nog niets "
-                            "geïmporteerd. Kies bij de volgende vraag liever Annuleren, en sla het "
-                            "bestand op als ANSI (Windows-1252) of exporteer een XML-bestand.")
-                 .arg(NaarQString(naam)));
+             u"'%1' is opgeslagen in UTF-8: letters met een accent komen verkeerd over, en soms "
+             "ook het eerste NBB-nummer. Er is nog niets geïmporteerd. Kies bij de volgende vraag "
+             "liever Annuleren, en sla het bestand op als ANSI (Windows-1252) of exporteer een "
+             "XML-bestand."_s.arg(NaarQString(naam)));
     if (lezing.teKorteRegel > 0)
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Regel %1 van '%2' heeft minder kolommen dan nodig is voor de gegevens "
-                            "die u hebt aangevinkt. Er is nog niets geïmporteerd; dat kan alleen "
-                            "met wie ervoor staat (%3). Kies bij de volgende vraag Annuleren als u "
-                            "eerst het bestand wilt herstellen.")
+             u"Regel %1 van '%2' heeft minder kolommen dan nodig is voor de gegevens die u hebt "
+             "aangevinkt. Er is nog niets geïmporteerd; dat kan alleen met wie ervoor staat (%3). "
+             "Kies bij de volgende vraag Annuleren als u eerst het bestand wilt herstellen."_s
                  .arg(lezing.teKorteRegel)
-                 .arg(NaarQString(naam), Aantal(lezing.lstN1.size(), QStringLiteral("speler"),
-                                                QStringLiteral("spelers"))));
+                 .arg(NaarQString(naam), Aantal(lezing.lstN1.size(), u"speler"_s, u"spelers"_s)));
 }
 
 frmImportNBB::Verloop frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
 {
     const Tekst& importgroep = administratie_.mappen.DFIMPG;
     const Tekst subgroep = SubgroepUitNaam(naam);
-    const QString vraag = QStringLiteral("U gaat van '%1' %2 spelers importeren naar groep '%3'.")
-                              .arg(NaarQString(subgroep), QString::number(lezing.lstN1.size()),
-                                   NaarQString(importgroep));
+    const QString vraag = u"U gaat van '%1' %2 spelers importeren naar groep '%3'."_s.arg(
+        NaarQString(subgroep), QString::number(lezing.lstN1.size()), NaarQString(importgroep));
     if (!Vraag(this, QMessageBox::Information, vraag))
         return Verloop::Verder;
     const Samenvoegopdracht opdracht{
         .importgroep = importgroep, .subgroep = subgroep, .lstN1 = std::move(lezing.lstN1)};
     const auto uitkomst = VoegLedenSamen(
         administratie_.spelers, opdracht,
-        frmVoortgang(QStringLiteral("'%1' wordt geïmporteerd ...").arg(NaarQString(naam)),
-                     QStringLiteral("&Stoppen"), this)
+        frmVoortgang(u"'%1' wordt geïmporteerd ..."_s.arg(NaarQString(naam)), u"&Stoppen"_s, this)
             .AlsVoortgang());
     if (!uitkomst) {
         MeldAfgebroken(naam, uitkomst.error());
@@ -158,58 +151,50 @@ void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
 {
     if (!uitkomst.ZonderNBBnr.empty())
         MeldLijst(this, QMessageBox::Warning,
-                  QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n") +
+                  u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s +
                       Toonbaar(Regels(uitkomst.ZonderNBBnr)));
     Meld(this, QMessageBox::Information,
-         QStringLiteral("Aantal spelers geupdate (ververst): %1\r\nAantal nieuwe spelers "
-                        "toegevoegd: %2")
+         u"Aantal spelers geupdate (ververst): %1\r\nAantal nieuwe spelers toegevoegd: %2"_s
              .arg(uitkomst.AantalVerververst)
              .arg(uitkomst.AantalNieuw));
     QStringList delen;
     if (!uitkomst.overgeslagen.empty())
-        delen << QStringLiteral("%1 overgeslagen, omdat het NBB-nummer al voorkomt: eerder in "
-                                "dit bestand, of anders geschreven in groep '%2':\r\n")
-                         .arg(Aantal(uitkomst.overgeslagen.size(), QStringLiteral("lid"),
-                                     QStringLiteral("leden")),
-                              NaarQString(administratie_.mappen.DFIMPG)) +
+        delen << u"%1 overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit bestand, of "
+                 "anders geschreven in groep '%2':\r\n"_s.arg(
+                     Aantal(uitkomst.overgeslagen.size(), u"lid"_s, u"leden"_s),
+                     NaarQString(administratie_.mappen.DFIMPG)) +
                      Toonbaar(uitkomst.overgeslagen);
     if (!lezing.metIsTeken.empty())
-        delen << QStringLiteral("%1 overgeslagen, omdat er een '=' in staat, zoals in een "
-                                "kopregel:\r\n")
-                         .arg(Aantal(lezing.metIsTeken.size(), QStringLiteral("regel"),
-                                     QStringLiteral("regels"))) +
+        delen << u"%1 overgeslagen, omdat er een '=' in staat, zoals in een kopregel:\r\n"_s.arg(
+                     Aantal(lezing.metIsTeken.size(), u"regel"_s, u"regels"_s)) +
                      Toonbaar(lezing.metIsTeken);
     if (lezing.vervangenTekens > 0)
-        delen << QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
-                                "door een teken dat erop lijkt, of is weggelaten: %1\r\n")
-                     .arg(lezing.vervangenTekens);
+        delen
+            << u"Aantal tekens dat het spelerbestand niet kent en dat is vervangen door een teken "
+               "dat erop lijkt, of is weggelaten: %1\r\n"_s.arg(lezing.vervangenTekens);
     if (!delen.isEmpty())
-        MeldLijst(this, QMessageBox::Information,
-                  QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er staat; de rest "
-                                 "is geïmporteerd. Verander het zo nodig in het rekenprogramma en "
-                                 "importeer opnieuw.\r\n\r\n")
-                          .arg(NaarQString(naam)) +
-                      delen.join(QStringLiteral("\r\n")));
+        MeldLijst(
+            this, QMessageBox::Information,
+            u"Niet alles uit '%1' is zo overgenomen als het er staat; de rest is geïmporteerd. "
+            "Verander het zo nodig in het rekenprogramma en importeer opnieuw.\r\n\r\n"_s.arg(
+                NaarQString(naam)) +
+                delen.join(u"\r\n"_s));
 }
 
 void frmImportNBB::MeldAfgebroken(const Tekst& naam, Samenvoegfout fout)
 {
     if (fout == Samenvoegfout::Gestopt)
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Het importeren is gestopt. Uit '%1' is niets geïmporteerd; wat eerder "
-                            "is geïmporteerd, blijft. Importeer '%1' opnieuw als u die leden nog "
-                            "nodig hebt.")
-                 .arg(NaarQString(naam)));
+             u"Het importeren is gestopt. Uit '%1' is niets geïmporteerd; wat eerder is "
+             "geïmporteerd, blijft. Importeer '%1' opnieuw als u die leden nog nodig hebt."_s.arg(
+                 NaarQString(naam)));
     else if (fout == Samenvoegfout::TeGroot)
         Meld(this, QMessageBox::Critical,
-             QStringLiteral(
-                 "Uit '%1' is niets geïmporteerd: wat er als NBB-nummer staat, is te lang om een "
-                 "nummer te zijn. Wat eerder is geïmporteerd, blijft. Exporteer het ledenbestand "
-                 "opnieuw.")
-                 .arg(NaarQString(naam)));
+             u"Uit '%1' is niets geïmporteerd: wat er als NBB-nummer staat, is te lang om een "
+             "nummer te zijn. Wat eerder is geïmporteerd, blijft. Exporteer het ledenbestand "
+             "opnieuw."_s.arg(NaarQString(naam)));
     else
-        MeldSleutelsOp(this,
-                       QStringLiteral("Uit '%1' is niets geïmporteerd").arg(NaarQString(naam)),
+        MeldSleutelsOp(this, u"Uit '%1' is niets geïmporteerd"_s.arg(NaarQString(naam)),
                        PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
 }
 

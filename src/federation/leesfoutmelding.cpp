@@ -10,29 +10,28 @@ QString Aanhef(Ledenbron bron, Tekstblik naam)
 {
     switch (bron) {
     case Ledenbron::Database:
-        return QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!");
+        return u"Fout bij het lezen van het ledenbestand (alle items)!"_s;
     case Ledenbron::Csv:
-        return QStringLiteral("Fout bij het lezen van '%1' CSV-bestand").arg(NaarQString(naam));
+        return u"Fout bij het lezen van '%1' CSV-bestand"_s.arg(NaarQString(naam));
     case Ledenbron::XmlNbb3:
-        return QStringLiteral("Fout bij het lezen van '%1' NBB3-XML-bestand")
-            .arg(NaarQString(naam));
+        return u"Fout bij het lezen van '%1' NBB3-XML-bestand"_s.arg(NaarQString(naam));
     case Ledenbron::XmlNbb4:
         break;
     }
-    return QStringLiteral("Fout bij het lezen van '%1' NBB4-XML-bestand").arg(NaarQString(naam));
+    return u"Fout bij het lezen van '%1' NBB4-XML-bestand"_s.arg(NaarQString(naam));
 }
 
 QString Oorzaak(const Fout& fout)
 {
     switch (fout.soort) {
     case Foutsoort::Ontbreekt:
-        return QStringLiteral("Het bestand is er niet (meer)");
+        return u"Het bestand is er niet (meer)"_s;
     case Foutsoort::Beschadigd:
         return fout.bestand.empty() // its name is to blame
-                   ? QStringLiteral("Het ledenbestand kan niet worden gelezen")
-                   : QStringLiteral("De inhoud is niet die van een ledenbestand");
+                   ? u"Het ledenbestand kan niet worden gelezen"_s
+                   : u"De inhoud is niet die van een ledenbestand"_s;
     default:
-        return QStringLiteral("Het bestand hieronder kan niet worden gelezen of geschreven");
+        return u"Het bestand hieronder kan niet worden gelezen of geschreven"_s;
     }
 }
 
@@ -41,31 +40,29 @@ QString Oorzaak(const Fout& fout)
 QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout, Leesdoel doel)
 {
     const QString tekst =
-        Aanhef(bron, naam) + QStringLiteral("\r\n") + Oorzaak(fout) +
-        (doel == Leesdoel::Import
-             ? QStringLiteral("; er is niets uit geïmporteerd. ")
-             : QStringLiteral("; de leden ervan staan niet in het overzicht. ")) +
-        (bron == Ledenbron::Database
-             ? QStringLiteral("Kies zo nodig een geëxporteerd ledenbestand.")
-             : QStringLiteral("Exporteer het opnieuw of kies een ander ledenbestand."));
+        Aanhef(bron, naam) + u"\r\n"_s + Oorzaak(fout) +
+        (doel == Leesdoel::Import ? u"; er is niets uit geïmporteerd. "_s
+                                  : u"; de leden ervan staan niet in het overzicht. "_s) +
+        (bron == Ledenbron::Database ? u"Kies zo nodig een geëxporteerd ledenbestand."_s
+                                     : u"Exporteer het opnieuw of kies een ander ledenbestand."_s);
     Fout plaats = fout;
     if (fout.soort == Foutsoort::Ontbreekt)
         plaats.systeem.clear(); // would say the same again, perhaps in another language
     const QString bijzonderheden = Bijzonderheden(plaats);
-    return bijzonderheden.isEmpty() ? tekst : tekst + QStringLiteral("\r\n\r\n") + bijzonderheden;
+    return bijzonderheden.isEmpty() ? tekst : tekst + u"\r\n\r\n"_s + bijzonderheden;
 }
 
 QString Leesfoutreden(const Fout& fout)
 {
     if (fout.soort == Foutsoort::Ontbreekt)
-        return QStringLiteral("het bestand is er niet (meer)");
+        return u"het bestand is er niet (meer)"_s;
     QString reden = fout.soort == Foutsoort::Beschadigd
-                        ? QStringLiteral("het bestand kon niet als XML worden gelezen")
-                        : QStringLiteral("het systeem stond het lezen niet toe");
+                        ? u"het bestand kon niet als XML worden gelezen"_s
+                        : u"het systeem stond het lezen niet toe"_s;
     if (fout.regel > 0)
-        reden += QStringLiteral("; regel %1").arg(fout.regel);
+        reden += u"; regel %1"_s.arg(fout.regel);
     if (!fout.systeem.empty())
-        reden += QStringLiteral(": ") + QString::fromStdString(fout.systeem);
+        reden += u": "_s + QString::fromStdString(fout.systeem);
     return reden;
 }
 

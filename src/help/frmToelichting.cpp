@@ -17,43 +17,38 @@ constexpr double Letterpunten = 9;
 QString VulToelichting()
 {
     const QStringList regels{
-        QStringLiteral("\tGebruik van Plexoran."),
+        u"\tGebruik van Plexoran."_s,
         QString(),
-        QStringLiteral(" In dit programma moeten de namen van spelers worden vastgelegd en bewaard "
-                       "voor eventuele volgende zittingen."),
-        QStringLiteral(" Bij het indelen van een zitting moet gekozen worden uit deze namen."),
-        QStringLiteral(" Het opzetten en afhandelen van zittingen kan echter ook zonder "
-                       "spelernamen (testdoeleinden), alleen een competitieoverzicht is niet "
-                       "mogelijk."),
+        u" In dit programma moeten de namen van spelers worden vastgelegd en bewaard voor "
+        "eventuele volgende zittingen."_s,
+        u" Bij het indelen van een zitting moet gekozen worden uit deze namen."_s,
+        u" Het opzetten en afhandelen van zittingen kan echter ook zonder spelernamen "
+        "(testdoeleinden), alleen een competitieoverzicht is niet mogelijk."_s,
         QString(),
-        QStringLiteral(" - Van een speler moet minimaal de Achternaam worden ingevuld, overige "
-                       "gegevens zijn ter uw beoordeling."),
-        QStringLiteral(" - Spelers kunnen worden ingedeeld in GROEPEN ter onderscheiding. (max "
-                       "50, Gr01 t/m GR50). "),
-        QStringLiteral("    Bij het indelen van de zitting worden de spelers per groep getoond, zo "
-                       "kunt u ze eenvoudiger terugvinden."),
-        QStringLiteral("    Het is aan u om te bepalen of u hier gebruik van maakt, experimenteer "
-                       "hiermee."),
-        QStringLiteral(" - Om een groep beter herkenbaar te maken voor u zelf kunt u de Groepsnaam "
-                       "aanvullen met eigen tekst."),
-        QStringLiteral(" - De kolom 'NBBgr' kan gebruikt worden voor een onderverdeling binnen een "
-                       "groep."),
-        QStringLiteral(" - Printen: Per groep, rubrieken naar keuze."),
-        QStringLiteral("    Indien te breed dan wordt automatisch overgegaan naar A4-liggend."),
-        QStringLiteral("    U kunt ook de tekst in grootte verschalen om een en ander passend te "
-                       "maken."),
+        u" - Van een speler moet minimaal de Achternaam worden ingevuld, overige gegevens zijn "
+        "ter uw beoordeling."_s,
+        u" - Spelers kunnen worden ingedeeld in GROEPEN ter onderscheiding. (max 50, Gr01 t/m "
+        "GR50). "_s,
+        u"    Bij het indelen van de zitting worden de spelers per groep getoond, zo kunt u ze "
+        "eenvoudiger terugvinden."_s,
+        u"    Het is aan u om te bepalen of u hier gebruik van maakt, experimenteer hiermee."_s,
+        u" - Om een groep beter herkenbaar te maken voor u zelf kunt u de Groepsnaam aanvullen "
+        "met eigen tekst."_s,
+        u" - De kolom 'NBBgr' kan gebruikt worden voor een onderverdeling binnen een groep."_s,
+        u" - Printen: Per groep, rubrieken naar keuze."_s,
+        u"    Indien te breed dan wordt automatisch overgegaan naar A4-liggend."_s,
+        u"    U kunt ook de tekst in grootte verschalen om een en ander passend te maken."_s,
         QString(),
-        QStringLiteral(" Attentie!"),
-        QStringLiteral(" Groep 'Gr05-' is gereserveerd voor spelers die uit NBBR zijn "
-                       "geimporteerd."),
-        QStringLiteral(" De kolom 'NBBgr' is de ledengroep-onderverdeling volgens NBBR"),
-        QStringLiteral(" Zorg dat deze spelers gelijk lopen met NBBR, want bij het maken van een "
-                       "BWS-zitting worden deze gebruikt."),
-        QStringLiteral(" De basis voor deze lijst is het NBB-nummer dat slechts eenmaal kan "
-                       "voorkomen, spelers zonder NBB-nummer worden niet geimporteerd."),
-        QStringLiteral(" Met NBB-nummers in andere groepen dan 'Gr05-' wordt niets gedaan."),
+        u" Attentie!"_s,
+        u" Groep 'Gr05-' is gereserveerd voor spelers die uit NBBR zijn geimporteerd."_s,
+        u" De kolom 'NBBgr' is de ledengroep-onderverdeling volgens NBBR"_s,
+        u" Zorg dat deze spelers gelijk lopen met NBBR, want bij het maken van een BWS-zitting "
+        "worden deze gebruikt."_s,
+        u" De basis voor deze lijst is het NBB-nummer dat slechts eenmaal kan voorkomen, spelers "
+        "zonder NBB-nummer worden niet geimporteerd."_s,
+        u" Met NBB-nummers in andere groepen dan 'Gr05-' wordt niets gedaan."_s,
     };
-    return regels.join(QStringLiteral("\r\n"));
+    return regels.join(u"\r\n"_s);
 }
 
 } // namespace
@@ -68,13 +63,13 @@ frmToelichting::frmToelichting(QWidget* hoofdvenster, Printerkeus printer)
 
 void frmToelichting::Bouw()
 {
-    setObjectName(QStringLiteral("frmToelichting"));
-    setWindowTitle(QStringLiteral("Toelichting"));
+    setObjectName(u"frmToelichting"_s);
+    setWindowTitle(u"Toelichting"_s);
     const Maten maten;
-    Text1 = MaakLeesvak(QStringLiteral("Text1"), windowTitle(), VulToelichting(), this);
+    Text1 = MaakLeesvak(u"Text1"_s, windowTitle(), VulToelichting(), this);
     Text1->setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));
-    cmdPrintToel = MaakKnop(QStringLiteral("cmdPrintToel"), QStringLiteral("Print"), u'P', this);
-    cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Terug"), u'T', this);
+    cmdPrintToel = MaakKnop(u"cmdPrintToel"_s, u"Print"_s, u'P', this);
+    cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this);
     cmdEinde->setDefault(true);
 
     auto* lagen = new QVBoxLayout(this);

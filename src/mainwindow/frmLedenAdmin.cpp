@@ -55,7 +55,7 @@ void frmLedenAdmin::ToonGroep()
     Weergave weergave = BouwWeergave(tabel, code, [&](int rij) { celmeter.Meet(rij); });
     const int regels = static_cast<int>(weergave.size());
 
-    Label3->setText(QStringLiteral("Aantal regels: %1").arg(regels));
+    Label3->setText(u"Aantal regels: %1"_s.arg(regels));
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdWijzig, cmdVerwijder, cmdVerwijderVT,
                                                          cmbVerwVan, cmbVerwTot})
         deel->setEnabled(regels > 0);
@@ -63,8 +63,7 @@ void frmLedenAdmin::ToonGroep()
     cmbVerwVan->setCurrentIndex(regels > 0 ? 0 : -1);
     cmbVerwTot->setCurrentIndex(regels > 0 ? 0 : -1);
     PasKnoppenAan(beeld);
-    const QString printtekst =
-        QStringLiteral("Print deze groep: %1 ...").arg(NaarQString(groeptekst));
+    const QString printtekst = u"Print deze groep: %1 ..."_s.arg(NaarQString(groeptekst));
     cmdPrint->setText(MetSneltoets(printtekst, u'P'));
     ZetWenk(cmdPrint, printtekst);
 
@@ -81,8 +80,7 @@ void frmLedenAdmin::PasKnoppenAan(const Groepsbeeld& beeld)
     PasToe(cmdToonGatenlijst, beeld.cmdToonGatenlijst);
     cmdKoppel->setVisible(beeld.importgroep);
     cmdSortlijst2->setVisible(beeld.importgroep);
-    cmdSortlijst3->setText(MetSneltoets(
-        beeld.importgroep ? QStringLiteral("NBBgroep") : QStringLiteral("Subgroep"), u'o'));
+    cmdSortlijst3->setText(MetSneltoets(beeld.importgroep ? u"NBBgroep"_s : u"Subgroep"_s, u'o'));
 }
 
 /// A settings file that cannot be written costs the user little: told once, then kept quiet.
@@ -95,12 +93,12 @@ void frmLedenAdmin::BewaarInstellingen()
     instellingenfoutGemeld_ = true;
     if (StaatEr(this, uitkomst))
         return;
-    MeldFout(this, QMessageBox::Warning,
-             QStringLiteral("De instellingen van het programma kunnen niet worden opgeslagen. De "
-                            "gegevens van de spelers zijn niet in gevaar: alleen de groep die u "
-                            "het laatst zag en het terugkeerveld worden niet onthouden. Kijk of u "
-                            "in die map mag schrijven."),
-             uitkomst.error());
+    MeldFout(
+        this, QMessageBox::Warning,
+        u"De instellingen van het programma kunnen niet worden opgeslagen. De gegevens van de "
+        "spelers zijn niet in gevaar: alleen de groep die u het laatst zag en het terugkeerveld "
+        "worden niet onthouden. Kijk of u in die map mag schrijven."_s,
+        uitkomst.error());
 }
 
 void frmLedenAdmin::closeEvent(QCloseEvent* gebeurtenis)
@@ -109,10 +107,9 @@ void frmLedenAdmin::closeEvent(QCloseEvent* gebeurtenis)
     if (nietOpgeslagen_) {
         const int antwoord = Kies(
             this, QMessageBox::Warning,
-            QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand. Met 'Niet "
-                           "opslaan' gaan ze verloren. Met 'Annuleren' blijft Plexoran open."),
-            {QStringLiteral("Opslaan"), QStringLiteral("Niet opslaan"),
-             QStringLiteral("Annuleren")});
+            u"De laatste wijzigingen staan nog niet in het spelerbestand. Met 'Niet opslaan' gaan "
+            "ze verloren. Met 'Annuleren' blijft Plexoran open."_s,
+            {u"Opslaan"_s, u"Niet opslaan"_s, u"Annuleren"_s});
         const bool klaar = antwoord == 1 || (antwoord == 0 && SlaOp() != Opslag::Mislukt);
         if (!klaar) {
             gebeurtenis->ignore();

@@ -80,25 +80,24 @@ void frmLedenAdmin::MaakKnoppen()
     cmdHaalNBBnamen = knop(u"cmdHaalNBBnamen", u"Importeer NBB-spelers", u'I');
     cmdKoppel = knop(u"cmdKoppel", u"Koppel zwevende NBB-speler", u'l');
     cmdParenOnderhoud = knop(u"cmdParenOnderhoud", u"Paren-onderhoud", u'u');
-    cmdPrint = new Kortknop(MetSneltoets(QStringLiteral("Printen..."), u'P'), this);
-    Noem(cmdPrint, QStringLiteral("cmdPrint"));
+    cmdPrint = new Kortknop(MetSneltoets(u"Printen..."_s, u'P'), this);
+    Noem(cmdPrint, u"cmdPrint"_s);
     cmdToelichting = knop(u"cmdToelichting", u"Toelichting", u'c');
     cmdToonGatenlijst = knop(u"cmdToonGatenlijst", u"Toon vrije NBB-nummers", u'T');
     cmdMaakScripts = knop(u"cmdMaakScripts", u"MaakScripts ...", u'M');
     cmdEinde = knop(u"cmdEinde", u"Einde", u'E');
 
     cmdMaakGrNamen->setToolTip(
-        QStringLiteral("Voor de duidelijkheid kunt u tekst toevoegen. Bijv: Gro2-Clubleden"));
-    cmdWijzig->setToolTip(QStringLiteral("U kunt ook dubbelklikken op een regel"));
-    cmdVerwijder->setToolTip(QStringLiteral("Selecteer een regel"));
-    cmdToonGatenlijst->setToolTip(
-        QStringLiteral("Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "));
+        u"Voor de duidelijkheid kunt u tekst toevoegen. Bijv: Gro2-Clubleden"_s);
+    cmdWijzig->setToolTip(u"U kunt ook dubbelklikken op een regel"_s);
+    cmdVerwijder->setToolTip(u"Selecteer een regel"_s);
+    cmdToonGatenlijst->setToolTip(u"Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "_s);
 }
 
 void frmLedenAdmin::Bouw()
 {
-    setObjectName(QStringLiteral("frmLedenAdmin"));
-    setWindowTitle(QStringLiteral("Onderhoud Plexoran[*]"));
+    setObjectName(u"frmLedenAdmin"_s);
+    setWindowTitle(u"Onderhoud Plexoran[*]"_s);
     MaakKnoppen();
     picP0 = new Rooster(maten_, this);
 
@@ -122,18 +121,18 @@ QWidget* frmLedenAdmin::BouwBovenkant()
 {
     auto* boven = new QWidget(this);
     boven->setFixedHeight(maten_.Twips(RoosterBoven));
-    lblToel = MaakLabel(QStringLiteral("lblToel"), QString(), boven);
+    lblToel = MaakLabel(u"lblToel"_s, QString(), boven);
     lblToel->setWordWrap(true);
     lblToel->setFont(maten_.Letter(Toelichtingletter));
     lblToel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lblToel->setGeometry(maten_.Twips(RoosterLinks), maten_.Twips(KolBrBoven),
                          maten_.Twips(KeuzeLinks - 3 * RoosterLinks),
                          maten_.Twips(RoosterBoven - 2 * KolBrBoven));
-    Label1 = MaakLabel(QStringLiteral("Label1"), QStringLiteral("Kies spelergroep:"), boven);
+    Label1 = MaakLabel(u"Label1"_s, u"Kies spelergroep:"_s, boven);
     Label1->adjustSize();
     Label1->move(maten_.Twips(KeuzeLinks), maten_.Twips(Label1Boven));
-    cmbGr = MaakKeus(QStringLiteral("cmbGr"), Label1, boven);
-    cmbGr->setAccessibleName(QStringLiteral("Spelergroep"));
+    cmbGr = MaakKeus(u"cmbGr"_s, Label1, boven);
+    cmbGr->setAccessibleName(u"Spelergroep"_s);
     cmbGr->setMaxVisibleItems(25);
     cmbGr->setGeometry(maten_.Twips(KeuzeLinks), maten_.Twips(GroepBoven), maten_.Twips(GroepBreed),
                        cmbGr->sizeHint().height());
@@ -141,9 +140,8 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     cmdMaakGrNamen->setParent(boven);
     cmdMaakGrNamen->adjustSize();
     cmdMaakGrNamen->move(naast, maten_.Twips(NamenBoven));
-    chkKolBr =
-        new QCheckBox(MetSneltoets(QStringLiteral("Kolombreedte volgens header"), u'd'), boven);
-    Noem(chkKolBr, QStringLiteral("chkKolBr"));
+    chkKolBr = new QCheckBox(MetSneltoets(u"Kolombreedte volgens header"_s, u'd'), boven);
+    Noem(chkKolBr, u"chkKolBr"_s);
     chkKolBr->adjustSize();
     chkKolBr->move(naast, cmdMaakGrNamen->y() - chkKolBr->height() - maten_.Twips(KolBrBoven) / 2);
     boven->setMinimumWidth(chkKolBr->geometry().right() + maten_.Twips(RoosterLinks));
@@ -153,7 +151,7 @@ QWidget* frmLedenAdmin::BouwBovenkant()
 QWidget* frmLedenAdmin::BouwOpdrachten()
 {
     auto* opdrachten = new QWidget(this);
-    Label3 = MaakLabel(QStringLiteral("Label3"), QString(), opdrachten);
+    Label3 = MaakLabel(u"Label3"_s, QString(), opdrachten);
     auto* kolommen = new QHBoxLayout;
     kolommen->setSpacing(Tussenruimte);
     kolommen->addLayout(MaakKolom({Label3, cmdAanm, cmdWijzig, cmdVerplaats, cmdKopieer}), 1);
@@ -181,15 +179,13 @@ QWidget* frmLedenAdmin::BouwOpdrachten()
 
 QGroupBox* frmLedenAdmin::BouwVerwijderkader()
 {
-    auto* kader = new QGroupBox(QStringLiteral("Verwijder regels van/tot"), this);
-    Noem(kader, QStringLiteral("Frame2"));
+    auto* kader = new QGroupBox(u"Verwijder regels van/tot"_s, this);
+    Noem(kader, u"Frame2"_s);
     regelnummers_ = new Nummerlijst(this);
-    cmbVerwVan = MaakNummerkeus(QStringLiteral("cmbVerwVan"), QStringLiteral("Van regel"),
-                                regelnummers_, kader);
-    cmbVerwTot = MaakNummerkeus(QStringLiteral("cmbVerwTot"), QStringLiteral("Tot en met regel"),
-                                regelnummers_, kader);
-    lblVan = MaakLabel(QStringLiteral("lblVan"), QStringLiteral("Van regel:"), kader);
-    lblTot = MaakLabel(QStringLiteral("lblTot"), QStringLiteral("T/m regel:"), kader);
+    cmbVerwVan = MaakNummerkeus(u"cmbVerwVan"_s, u"Van regel"_s, regelnummers_, kader);
+    cmbVerwTot = MaakNummerkeus(u"cmbVerwTot"_s, u"Tot en met regel"_s, regelnummers_, kader);
+    lblVan = MaakLabel(u"lblVan"_s, u"Van regel:"_s, kader);
+    lblTot = MaakLabel(u"lblTot"_s, u"T/m regel:"_s, kader);
     lblVan->setBuddy(cmbVerwVan);
     lblTot->setBuddy(cmbVerwTot);
     auto* vakken = new QGridLayout(kader);
@@ -206,10 +202,10 @@ QGroupBox* frmLedenAdmin::BouwVerwijderkader()
 
 QGroupBox* frmLedenAdmin::BouwSorteerkader()
 {
-    auto* kader = new QGroupBox(QStringLiteral("Sorteerlijst op:"), this);
-    Noem(kader, QStringLiteral("Frame1"));
-    chkToonAlle = new QCheckBox(MetSneltoets(QStringLiteral("Alle groepen"), u'A'), kader);
-    Noem(chkToonAlle, QStringLiteral("chkToonAlle"));
+    auto* kader = new QGroupBox(u"Sorteerlijst op:"_s, this);
+    Noem(kader, u"Frame1"_s);
+    chkToonAlle = new QCheckBox(MetSneltoets(u"Alle groepen"_s, u'A'), kader);
+    Noem(chkToonAlle, u"chkToonAlle"_s);
     QSizePolicy beleid = cmdSortlijst2->sizePolicy();
     beleid.setRetainSizeWhenHidden(true);
     cmdSortlijst2->setSizePolicy(beleid);
@@ -295,13 +291,13 @@ void frmLedenAdmin::Verbind()
         connect(knop, &QPushButton::clicked, this,
                 [this, soort = soort] { ToonSorteerlijst(soort); });
     connect(cmdEinde, &QPushButton::clicked, this, &frmLedenAdmin::close);
-    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+G")), this), &QShortcut::activated,
-            this, [this] { cmbGr->setFocus(Qt::ShortcutFocusReason); });
-    connect(new QShortcut(QKeySequence(QStringLiteral("F6")), this), &QShortcut::activated, this,
+    connect(new QShortcut(QKeySequence(u"Ctrl+G"_s), this), &QShortcut::activated, this,
+            [this] { cmbGr->setFocus(Qt::ShortcutFocusReason); });
+    connect(new QShortcut(QKeySequence(u"F6"_s), this), &QShortcut::activated, this,
             [this] { picP0->Toetsenvlak()->setFocus(Qt::ShortcutFocusReason); });
-    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+N")), this), &QShortcut::activated,
-            this, &frmLedenAdmin::VoegToe);
-    connect(new QShortcut(QKeySequence(QStringLiteral("F1")), this), &QShortcut::activated, this,
+    connect(new QShortcut(QKeySequence(u"Ctrl+N"_s), this), &QShortcut::activated, this,
+            &frmLedenAdmin::VoegToe);
+    connect(new QShortcut(QKeySequence(u"F1"_s), this), &QShortcut::activated, this,
             &frmLedenAdmin::ToonToelichting);
 }
 

@@ -3,6 +3,7 @@
 
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 namespace {
@@ -10,37 +11,35 @@ namespace {
 constexpr int TeNoemenRegels = 10;
 
 const QString Sleutelgevolg =
-    QStringLiteral("; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
-                   "andere speler kan zijn. Voeg geen spelers toe voordat die regel is hersteld.");
+    u"; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een andere speler "
+    "kan zijn. Voeg geen spelers toe voordat die regel is hersteld."_s;
 
 QString Opsomming(const std::vector<int>& regels)
 {
     QStringList nummers;
     for (const int regel : regels) {
         if (nummers.size() == TeNoemenRegels)
-            return nummers.join(QStringLiteral(", ")) + QStringLiteral(", ...");
+            return nummers.join(u", "_s) + u", ..."_s;
         nummers << QString::number(regel);
     }
-    return nummers.join(QStringLiteral(", "));
+    return nummers.join(u", "_s);
 }
 
 QStringList WatNietGelezenIs(const Leesverslag& verslag)
 {
     QStringList delen;
     if (!verslag.zonderAchternaam.empty())
-        delen << QStringLiteral("%1 niet ingelezen (regel %2 van het spelerbestand). Vul die "
-                                "achternaam daar in als u de speler wilt houden.")
-                     .arg(Aantal(verslag.zonderAchternaam.size(),
-                                 QStringLiteral("speler zonder achternaam is"),
-                                 QStringLiteral("spelers zonder achternaam zijn")),
-                          Opsomming(verslag.zonderAchternaam));
+        delen << u"%1 niet ingelezen (regel %2 van het spelerbestand). Vul die achternaam daar in "
+                 "als u de speler wilt houden."_s.arg(Aantal(verslag.zonderAchternaam.size(),
+                                                             u"speler zonder achternaam is"_s,
+                                                             u"spelers zonder achternaam zijn"_s),
+                                                      Opsomming(verslag.zonderAchternaam));
     if (verslag.zonderSleutelregel)
-        delen << QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de hoogste "
-                                "sleutel") +
+        delen << u"In het spelerbestand ontbreekt de regel HKEY= met de hoogste sleutel"_s +
                      Sleutelgevolg;
     if (verslag.sleutelZonderGetal > 0)
-        delen << QStringLiteral("Op regel %1 van het spelerbestand staat achter HKEY= geen getal")
-                         .arg(verslag.sleutelZonderGetal) +
+        delen << u"Op regel %1 van het spelerbestand staat achter HKEY= geen getal"_s.arg(
+                     verslag.sleutelZonderGetal) +
                      Sleutelgevolg;
     return delen;
 }
@@ -53,13 +52,13 @@ bool frmLedenAdmin::LeesSpelersBijStart()
 {
     const auto aanmaak =
         MaakSpelerbestand(administratie_.schijf, administratie_.mappen, administratie_.spelers);
-    const QString wat = QStringLiteral("Het spelerbestand");
+    const QString wat = u"Het spelerbestand"_s;
     BiedTerugzettenAan(aanmaak, administratie_.mappen.Spelerbestand(), wat);
     const Leesverslag verslag =
         LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
     // A file that cannot be read is told of below.
     if (!verslag.fout && !IsGemaakt(aanmaak, wat))
-        MeldMapfout(wat + QStringLiteral(" kon niet worden gemaakt."), aanmaak.gemaakt.error());
+        MeldMapfout(wat + u" kon niet worden gemaakt."_s, aanmaak.gemaakt.error());
     MeldLezing(verslag, Leesmoment::Start);
     const std::int32_t hoogste =
         std::max(HoogsteSleutel(administratie_.spelers.tabel), verslag.hoogsteWeggelaten);
@@ -75,13 +74,11 @@ bool frmLedenAdmin::VraagHogereSleutel(std::int32_t hoogste)
         return false;
     const int antwoord = Kies(
         this, QMessageBox::Warning,
-        QStringLiteral("In het spelerbestand staat een speler met sleutel %1, maar als hoogste "
-                       "uitgegeven sleutel (HKEY=) geldt %2. Een nieuwe speler kan daardoor "
-                       "een sleutel krijgen die al van een ander is. Met Verhogen geldt "
-                       "voortaan %1.")
-            .arg(hoogste)
+        u"In het spelerbestand staat een speler met sleutel %1, maar als hoogste uitgegeven "
+        "sleutel (HKEY=) geldt %2. Een nieuwe speler kan daardoor een sleutel krijgen die al van "
+        "een ander is. Met Verhogen geldt voortaan %1."_s.arg(hoogste)
             .arg(geldt),
-        {QStringLiteral("Verhogen"), QStringLiteral("Niet verhogen")});
+        {u"Verhogen"_s, u"Niet verhogen"_s});
     if (antwoord != 0)
         return false;
     HKEY = hoogste;
@@ -93,23 +90,22 @@ void frmLedenAdmin::MeldLezing(const Leesverslag& verslag, Leesmoment moment)
 {
     if (verslag.fout)
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"));
+             u"Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"_s);
     if (verslag.NietGeopend()) {
         MeldNietGeopend(*verslag.fout, moment);
         return;
     }
     const QString gevolg =
         moment == Leesmoment::NaOpslag
-            ? QStringLiteral("Uw wijziging is opgeslagen; voordat dit programma het bestand weer "
-                             "vervangt, komt er een kopie van in de map Reservekopie.")
-            : QStringLiteral("Het bestand zelf is niet veranderd; voordat dit programma het de "
-                             "eerste keer vervangt, komt er een kopie van in de map "
-                             "Reservekopie.");
+            ? u"Uw wijziging is opgeslagen; voordat dit programma het bestand weer vervangt, komt "
+              "er een kopie van in de map Reservekopie."_s
+            : u"Het bestand zelf is niet veranderd; voordat dit programma het de eerste keer "
+              "vervangt, komt er een kopie van in de map Reservekopie."_s;
     if (verslag.fout)
-        MeldFout(this, QMessageBox::Information,
-                 WaarHetLezenStopte(verslag) + QStringLiteral("\n\n") + gevolg, *verslag.fout);
+        MeldFout(this, QMessageBox::Information, WaarHetLezenStopte(verslag) + u"\n\n"_s + gevolg,
+                 *verslag.fout);
     for (const QString& uitleg : WatNietGelezenIs(verslag))
-        Meld(this, QMessageBox::Information, uitleg + QStringLiteral("\n\n") + gevolg);
+        Meld(this, QMessageBox::Information, uitleg + u"\n\n"_s + gevolg);
 }
 
 void frmLedenAdmin::MeldNietGeopend(const Fout& fout, Leesmoment moment)
@@ -117,19 +113,19 @@ void frmLedenAdmin::MeldNietGeopend(const Fout& fout, Leesmoment moment)
     QString wat;
     switch (moment) {
     case Leesmoment::Start:
-        wat = QStringLiteral("Het spelerbestand kan niet worden geopend; er is niets uit gelezen "
-                             "en niets aan veranderd. Voeg nu geen spelers toe, maar verhelp de "
-                             "oorzaak en start het programma opnieuw.");
+        wat = u"Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets aan "
+              "veranderd. Voeg nu geen spelers toe, maar verhelp de oorzaak en start het programma "
+              "opnieuw."_s;
         break;
     case Leesmoment::NaOpslag:
-        wat = QStringLiteral("Uw wijziging is opgeslagen, maar het spelerbestand kan daarna niet "
-                             "worden geopend. In dit programma staan dezelfde spelers als in dat "
-                             "bestand. Verhelp de oorzaak voordat u verder gaat.");
+        wat = u"Uw wijziging is opgeslagen, maar het spelerbestand kan daarna niet worden geopend. "
+              "In dit programma staan dezelfde spelers als in dat bestand. Verhelp de oorzaak "
+              "voordat u verder gaat."_s;
         break;
     case Leesmoment::Opnieuw:
-        wat = QStringLiteral("Het spelerbestand kan niet worden geopend; er is niets aan "
-                             "veranderd. In dit programma staan de spelers van zonet, met uw "
-                             "laatste wijziging. Verhelp de oorzaak voordat u verder gaat.");
+        wat = u"Het spelerbestand kan niet worden geopend; er is niets aan veranderd. In dit "
+              "programma staan de spelers van zonet, met uw laatste wijziging. Verhelp de oorzaak "
+              "voordat u verder gaat."_s;
         break;
     }
     MeldFout(this, QMessageBox::Information, wat, fout);
@@ -138,22 +134,19 @@ void frmLedenAdmin::MeldNietGeopend(const Fout& fout, Leesmoment moment)
 QString frmLedenAdmin::WaarHetLezenStopte(const Leesverslag& verslag) const
 {
     const auto rijen = static_cast<std::size_t>(administratie_.spelers.tabel.Rijen());
-    QString reden = QStringLiteral(". Verhelp de oorzaak voordat u iets invoert.");
+    QString reden = u". Verhelp de oorzaak voordat u iets invoert."_s;
     if (verslag.velden > 0)
-        reden = QStringLiteral(", want de genoemde regel heeft %1 in plaats van %2. Laat die regel "
-                               "herstellen voordat u iets invoert.")
-                    .arg(Aantal(static_cast<std::size_t>(verslag.velden), QStringLiteral("veld"),
-                                QStringLiteral("velden")))
+        reden = u", want de genoemde regel heeft %1 in plaats van %2. Laat die regel herstellen "
+                "voordat u iets invoert."_s
+                    .arg(Aantal(static_cast<std::size_t>(verslag.velden), u"veld"_s, u"velden"_s))
                     .arg(AantalKolommen);
     else if (verslag.fout->regel > 0)
-        reden = QStringLiteral(", want op regel %1 staat achter HKEY= een getal dat niet past (een "
-                               "sleutel is ten hoogste 2147483647)")
-                    .arg(verslag.fout->regel) +
-                Sleutelgevolg;
-    return QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 nu %2 in de "
-                          "tabel%3")
-        .arg(rijen == 1 ? QStringLiteral("staat") : QStringLiteral("staan"),
-             Aantal(rijen, QStringLiteral("speler"), QStringLiteral("spelers")), reden);
+        reden =
+            u", want op regel %1 staat achter HKEY= een getal dat niet past (een sleutel is ten "
+            "hoogste 2147483647)"_s.arg(verslag.fout->regel) +
+            Sleutelgevolg;
+    return u"Het spelerbestand is niet tot het einde gelezen; er %1 nu %2 in de tabel%3"_s.arg(
+        rijen == 1 ? u"staat"_s : u"staan"_s, Aantal(rijen, u"speler"_s, u"spelers"_s), reden);
 }
 
 } // namespace plexoran

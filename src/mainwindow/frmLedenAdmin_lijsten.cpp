@@ -13,14 +13,13 @@ QString NietsGevonden(Sorteersoort soort)
 {
     switch (soort) {
     case Sorteersoort::Key:
-        return QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium.");
+        return u"Er zijn geen regels die voldoen aan het zoek-criterium."_s;
     case Sorteersoort::NBBnr:
-        return QStringLiteral(
-            "Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-nummer'.");
+        return u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-nummer'."_s;
     case Sorteersoort::NBBgroep:
         break;
     }
-    return QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'.");
+    return u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'."_s;
 }
 
 void VoegRegelToe(Tekst& verslag, const Spelertabel& tabel, int rij)
@@ -79,14 +78,12 @@ void frmLedenAdmin::MeldGeenGetal(Sorteersoort soort, const GeenGetal& fout)
 {
     const Spelertabel& tabel = administratie_.spelers.tabel;
     Meld(this, QMessageBox::Warning,
-         QStringLiteral("De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De "
-                        "gegevens zijn niet veranderd. Verbeter dat %5.")
-             .arg(soort == Sorteersoort::Key ? QStringLiteral("de sleutel")
-                                             : QStringLiteral("het NBB-nummer"),
-                  NaarQString(VolleNaam(tabel, fout.rij)),
-                  NaarQString(tabel.Cel(fout.rij, Kolom::Groep)), NaarQString(fout.waarde),
-                  soort == Sorteersoort::Key ? QStringLiteral("in het spelerbestand")
-                                             : QStringLiteral("bij deze speler")));
+         u"De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De gegevens zijn "
+         "niet veranderd. Verbeter dat %5."_s.arg(
+             soort == Sorteersoort::Key ? u"de sleutel"_s : u"het NBB-nummer"_s,
+             NaarQString(VolleNaam(tabel, fout.rij)),
+             NaarQString(tabel.Cel(fout.rij, Kolom::Groep)), NaarQString(fout.waarde),
+             soort == Sorteersoort::Key ? u"in het spelerbestand"_s : u"bij deze speler"_s));
 }
 
 void frmLedenAdmin::ToonDubbeleNamen()
@@ -95,12 +92,11 @@ void frmLedenAdmin::ToonDubbeleNamen()
     const Tekst code(CodeUit(Groeptekst()));
     const Dubbelen dubbelen = ZoekDubbeleNamen(tabel, code);
     MeldVerslag(this, NaarQString(Verslag(tabel, dubbelen.paren)),
-                QStringLiteral("DUBBELE NAMEN in deze groep: %1").arg(NaarQString(code)));
+                u"DUBBELE NAMEN in deze groep: %1"_s.arg(NaarQString(code)));
     if (dubbelen.meer)
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na "
-                            "%1 paren. Verwijder er eerst een aantal en zoek dan opnieuw.")
-                 .arg(MeesteDubbelen));
+             u"Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na %1 paren. "
+             "Verwijder er eerst een aantal en zoek dan opnieuw."_s.arg(MeesteDubbelen));
 }
 
 } // namespace plexoran

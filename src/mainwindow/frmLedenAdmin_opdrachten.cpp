@@ -20,7 +20,7 @@ bool frmLedenAdmin::IsRegelGekozen()
 {
     if (picP0->Regel() > 0)
         return true;
-    Meld(this, QMessageBox::Warning, QStringLiteral("Er is geen regel geselecteerd!"));
+    Meld(this, QMessageBox::Warning, u"Er is geen regel geselecteerd!"_s);
     return false;
 }
 
@@ -43,7 +43,7 @@ void frmLedenAdmin::VoegToe()
     if (!ToonIngave(ingave))
         return;
     if (!VoegSpelerToe(administratie_.spelers, Groeptekst(), ingave.IngaveVelden)) {
-        MeldSleutelsOp(this, QStringLiteral("De speler is niet toegevoegd"),
+        MeldSleutelsOp(this, u"De speler is niet toegevoegd"_s,
                        PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
@@ -72,22 +72,21 @@ void frmLedenAdmin::Wijzig()
 bool frmLedenAdmin::VraagVerwijderen(const QString& vraag, int van, int tot)
 {
     const QStringList regels{
-        QStringLiteral("\t\tLET OP!"),
+        u"\t\tLET OP!"_s,
         QString(),
-        QStringLiteral("Als u spelers verwijdert die nog voorkomen in bestaande zittingen dan zal "
-                       "hun naam daarin niet meer verschijnen."),
-        QStringLiteral("Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen."),
+        u"Als u spelers verwijdert die nog voorkomen in bestaande zittingen dan zal hun naam "
+        "daarin niet meer verschijnen."_s,
+        u"Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen."_s,
         QString(),
-        QStringLiteral("Het opnieuw invoeren van een speler die per vergissing is verwijderd heeft "
-                       "alleen zin als men in elke relevante zitting zijn naam opnieuw ingeeft."),
+        u"Het opnieuw invoeren van een speler die per vergissing is verwijderd heeft alleen zin "
+        "als men in elke relevante zitting zijn naam opnieuw ingeeft."_s,
         QString(),
         vraag,
         QString(),
     };
     const auto eerste = picP0->GetoondeRijen().begin();
     return Vraag(
-        this, QMessageBox::Information,
-        regels.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"), QStringLiteral("Verwijderen"),
+        this, QMessageBox::Information, regels.join(u"\r\n"_s) + u"\r\n"_s, u"Verwijderen"_s,
         NoemSpelers(administratie_.spelers.tabel, {eerste + van - 1, eerste + tot}, *this));
 }
 
@@ -96,15 +95,14 @@ void frmLedenAdmin::VerwijderGekozen()
     if (!IsRegelGekozen())
         return;
     const int regel = picP0->Regel();
-    if (!VraagVerwijderen(
-            QStringLiteral("Weet u zeker dat u regel %1 wilt verwijderen?").arg(regel), regel,
-            regel))
+    if (!VraagVerwijderen(u"Weet u zeker dat u regel %1 wilt verwijderen?"_s.arg(regel), regel,
+                          regel))
         return;
     VerwijderRijen(administratie_.spelers.tabel, picP0->GetoondeRijen(), regel, regel);
     const Opslag opslag = SlaOp();
     ToonGroep();
     if (opslag != Opslag::Mislukt)
-        Meld(this, QMessageBox::Information, QStringLiteral("De regel is verwijderd."));
+        Meld(this, QMessageBox::Information, u"De regel is verwijderd."_s);
     MeldRegisterBehouden(opslag);
 }
 
@@ -114,24 +112,21 @@ void frmLedenAdmin::VerwijderVanTot()
     const int tot = cmbVerwTot->currentIndex() + 1;
     if (van > tot) {
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Er is niets verwijderd: regel %1 komt na regel %2. Kies bij 'Van "
-                            "regel' de eerste en bij 'T/m regel' de laatste regel.")
-                 .arg(van)
+             u"Er is niets verwijderd: regel %1 komt na regel %2. Kies bij 'Van regel' de eerste "
+             "en bij 'T/m regel' de laatste regel."_s.arg(van)
                  .arg(tot));
         return;
     }
-    if (!VraagVerwijderen(QStringLiteral("Weet u zeker dat u regel %1 t/m regel %2 wilt "
-                                         "verwijderen?")
-                              .arg(van)
-                              .arg(tot),
-                          van, tot))
+    if (!VraagVerwijderen(
+            u"Weet u zeker dat u regel %1 t/m regel %2 wilt verwijderen?"_s.arg(van).arg(tot), van,
+            tot))
         return;
     const int groep = cmbGr->currentIndex();
     VerwijderRijen(administratie_.spelers.tabel, picP0->GetoondeRijen(), van, tot);
     const Opslag opslag = SlaOp();
     ToonGroep();
     if (opslag != Opslag::Mislukt)
-        Meld(this, QMessageBox::Information, QStringLiteral("De regels zijn verwijderd."));
+        Meld(this, QMessageBox::Information, u"De regels zijn verwijderd."_s);
     MeldRegisterBehouden(opslag);
     KiesGroep(groep);
 }
@@ -157,11 +152,10 @@ bool frmLedenAdmin::BewaarGroepen(const Groepen& oud)
             return true;
         const int antwoord =
             Kies(this, QMessageBox::Critical,
-                 QStringLiteral("De groepsnamen konden niet worden opgeslagen. Het bestand is "
-                                "gebleven zoals het was. Probeer het opnieuw, of kies Annuleren om "
-                                "de oude namen te houden.\n\n") +
+                 u"De groepsnamen konden niet worden opgeslagen. Het bestand is gebleven zoals het "
+                 "was. Probeer het opnieuw, of kies Annuleren om de oude namen te houden.\n\n"_s +
                      Bijzonderheden(uitkomst.error()),
-                 {QStringLiteral("Opnieuw proberen"), QStringLiteral("Annuleren")});
+                 {u"Opnieuw proberen"_s, u"Annuleren"_s});
         if (antwoord != 0) {
             administratie_.groepen = oud;
             return false;
@@ -178,7 +172,7 @@ void frmLedenAdmin::Verplaats()
     const Opslag opslag = SlaOp();
     ToonGroep();
     if (opslag != Opslag::Mislukt)
-        Meld(this, QMessageBox::Information, QStringLiteral("De spelers(s) zijn verplaatst."));
+        Meld(this, QMessageBox::Information, u"De spelers(s) zijn verplaatst."_s);
 }
 
 void frmLedenAdmin::Kopieer()
@@ -213,9 +207,9 @@ void frmLedenAdmin::HaalNBBnamen()
         bestaat = bestaat || Groepscode(nummer) == importgroep;
     if (!bestaat) {
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat "
-                            "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-. Er is niets "
-                            "veranderd. Vul die groep in en start Plexoran opnieuw."));
+             u"Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat achter DFIMPG= "
+             "niet in welke groep ze komen, zoals Gr05-. Er is niets veranderd. Vul die groep in "
+             "en start Plexoran opnieuw."_s);
         return;
     }
     KiesRekenprogramma();
@@ -250,7 +244,7 @@ void frmLedenAdmin::KoppelZwevenden()
 void frmLedenAdmin::OnderhoudParen()
 {
     if (!eersteExemplaar_()) {
-        Meld(this, QMessageBox::Information, QStringLiteral("Het programma is al gestart!..."));
+        Meld(this, QMessageBox::Information, u"Het programma is al gestart!..."_s);
         close();
         return;
     }
@@ -280,13 +274,13 @@ void frmLedenAdmin::StartGatenlijst()
     if (uitkomst)
         return;
     if (uitkomst.error().soort == Foutsoort::Ontbreekt)
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het programma 'Gatenlijst.exe' is niet te vinden."));
+        Meld(this, QMessageBox::Warning, u"Het programma 'Gatenlijst.exe' is niet te vinden."_s);
     else
-        MeldFout(this, QMessageBox::Warning,
-                 QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart. Er is "
-                                "niets veranderd. Kijk of u dat programma mag starten."),
-                 uitkomst.error());
+        MeldFout(
+            this, QMessageBox::Warning,
+            u"Het programma 'Gatenlijst.exe' kon niet worden gestart. Er is niets veranderd. Kijk "
+            "of u dat programma mag starten."_s,
+            uitkomst.error());
 }
 
 } // namespace plexoran

@@ -2,6 +2,7 @@
 #include "dialogs/diaToevoegen.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 
@@ -62,16 +63,15 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
         return VraagNaWijziging(fout);
     const QString wat =
         fout.soort == Foutsoort::GeenReservekopie
-            ? QStringLiteral("Er is niets opgeslagen: het spelerbestand bevat gegevens die niet "
-                             "zijn ingelezen, en de kopie die daarvan eerst in de map "
-                             "Reservekopie moet komen, is mislukt.")
-            : QStringLiteral("De spelers konden niet worden opgeslagen.");
-    const QString gevolg = QStringLiteral(
-        " Het spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
+            ? u"Er is niets opgeslagen: het spelerbestand bevat gegevens die niet zijn ingelezen, "
+              "en de kopie die daarvan eerst in de map Reservekopie moet komen, is mislukt."_s
+            : u"De spelers konden niet worden opgeslagen."_s;
+    const QString gevolg =
+        u" Het spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
         "dit programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij de volgende "
-        "wijziging en bij het afsluiten komt deze keus terug.\n\n");
+        "wijziging en bij het afsluiten komt deze keus terug.\n\n"_s;
     const int antwoord = Kies(this, QMessageBox::Critical, wat + gevolg + Bijzonderheden(fout),
-                              {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")});
+                              {u"Opnieuw proberen"_s, u"Doorgaan"_s});
     return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
 }
 
@@ -79,20 +79,18 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagNaWijziging(const Fout& fout)
 {
     const QString wat =
         administratie_.spelers.gelezen
-            ? QStringLiteral("Het spelerbestand is door een ander programma gewijzigd nadat het "
-                             "hier is ingelezen.")
-            : QStringLiteral("Het spelerbestand op de schijf is hier niet ingelezen.");
+            ? u"Het spelerbestand is door een ander programma gewijzigd nadat het hier is "
+              "ingelezen."_s
+            : u"Het spelerbestand op de schijf is hier niet ingelezen."_s;
     const int antwoord = Kies(
         this, QMessageBox::Warning,
         wat +
-            QStringLiteral("\n\nOpslaan: uw gegevens vervangen dat bestand; er "
-                           "komt eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: "
-                           "dat bestand blijft zoals het is; uw laatste wijziging vervalt.\n"
-                           "Later beslissen: er verandert nu niets; bij de volgende wijziging en "
-                           "bij het afsluiten komt deze keus terug.\n\n") +
+            u"\n\nOpslaan: uw gegevens vervangen dat bestand; er komt eerst een kopie van in de "
+            "map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals het is; uw laatste "
+            "wijziging vervalt.\nLater beslissen: er verandert nu niets; bij de volgende "
+            "wijziging en bij het afsluiten komt deze keus terug.\n\n"_s +
             Bijzonderheden(fout),
-        {QStringLiteral("Opslaan"), QStringLiteral("Opnieuw inlezen"),
-         QStringLiteral("Later beslissen")});
+        {u"Opslaan"_s, u"Opnieuw inlezen"_s, u"Later beslissen"_s});
     constexpr std::array vervolgen{Vervolg::Overschrijven, Vervolg::LeesOpnieuw, Vervolg::Later};
     return vervolgen.at(static_cast<std::size_t>(antwoord));
 }
@@ -101,9 +99,8 @@ void frmLedenAdmin::MeldRegisterBehouden(Opslag opslag)
 {
     if (opslag == Opslag::RegisterBehouden)
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt "
-                            "zijn laatste inhoud, en die ziet u nu weer. Voeg eerst een andere "
-                            "speler toe."));
+             u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
+             "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
 }
 
 /// The players are saved: link files that were put back after an earlier failure come again.
@@ -111,11 +108,11 @@ void frmLedenAdmin::SchrijfVerslagen()
 {
     const auto nogEens = [this](const Fout& fout) {
         return Kies(this, QMessageBox::Critical,
-                    QStringLiteral("De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun "
-                                   "zitting kon niet worden geschreven. Zonder dat bestand zijn "
-                                   "ze niet aan die zitting te koppelen.\n\n") +
+                    u"De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun zitting kon "
+                    "niet worden geschreven. Zonder dat bestand zijn ze niet aan die zitting te "
+                    "koppelen.\n\n"_s +
                         Bijzonderheden(fout),
-                    {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")}) == 0;
+                    {u"Opnieuw proberen"_s, u"Doorgaan"_s}) == 0;
     };
     for (Koppelverslag& verslag : verslagen_) {
         auto geschreven = verslag.Staat() ? Uitkomst<void>() : verslag.Schrijf();
@@ -136,10 +133,11 @@ void frmLedenAdmin::ZetVerslagenTerug(bool vervallen)
         terug = (verslag.Staat() && ZetTerugOfMeld(verslag, this)) || terug;
     if (!terug)
         return;
-    QString tekst = QStringLiteral("De nieuwe spelers staan niet in het spelerbestand. Daarom is "
-                                   "'Koppelverslag.txt' van hun zitting weer zoals het was.");
+    QString tekst =
+        u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van "
+        "hun zitting weer zoals het was."_s;
     if (!vervallen)
-        tekst += QStringLiteral(" Het wordt opnieuw geschreven zodra ze zijn opgeslagen.");
+        tekst += u" Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s;
     Meld(this, QMessageBox::Information, tekst);
 }
 

@@ -15,12 +15,12 @@ std::optional<int> frmLedenAdmin::Laad(const Opstart& opstart)
 {
     eersteExemplaar_ = opstart.eersteExemplaar;
     if (!eersteExemplaar_()) {
-        Meld(nullptr, QMessageBox::Information, QStringLiteral("Het programma is al gestart!..."));
+        Meld(nullptr, QMessageBox::Information, u"Het programma is al gestart!..."_s);
         return 0;
     }
-    lblToel->setText(QStringLiteral(
-        "Met dit programma moet u de gegevens van de spelers vastleggen en bewaren.\n"
-        "Bij het opzetten van de zitting moet u kiezen uit deze spelers."));
+    lblToel->setText(
+        u"Met dit programma moet u de gegevens van de spelers vastleggen en bewaren.\nBij het "
+        "opzetten van de zitting moet u kiezen uit deze spelers."_s);
 
     if (!LeesMappenBijStart(opstart.mappenIni))
         return 1;
@@ -56,26 +56,24 @@ bool frmLedenAdmin::LeesMappenBijStart(const Pad& mappenIni)
         administratie_.mappen = std::move(*mappen);
         if (const std::string& bezwaar = administratie_.mappen.bezwaar; !bezwaar.empty())
             Meld(nullptr, QMessageBox::Warning,
-                 QStringLiteral("Misschien zijn niet alle regels van 'Mappen.ini' gelezen: %1. Er "
-                                "is niets aan uw gegevens veranderd. Sla dat bestand in een "
-                                "tekstprogramma op als ANSI (Windows-1252) en start Plexoran "
-                                "opnieuw.\n\nBestand: %2")
-                     .arg(QString::fromStdString(bezwaar),
-                          QString::fromStdString(administratie_.schijf.Toonpad(mappenIni))));
+                 u"Misschien zijn niet alle regels van 'Mappen.ini' gelezen: %1. Er is niets aan "
+                 "uw gegevens veranderd. Sla dat bestand in een tekstprogramma op als ANSI "
+                 "(Windows-1252) en start Plexoran opnieuw.\n\nBestand: %2"_s.arg(
+                     QString::fromStdString(bezwaar),
+                     QString::fromStdString(administratie_.schijf.Toonpad(mappenIni))));
         return true;
     }
     const Fout& fout = mappen.error();
     const QString wat =
         fout.soort == Foutsoort::Beschadigd
-            ? QStringLiteral("Het bestand 'Mappen.ini' noemt de map van de spelers niet: er staat "
-                             "geen map achter SPEMAP=.")
-            : QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen.");
+            ? u"Het bestand 'Mappen.ini' noemt de map van de spelers niet: er staat geen map "
+              "achter SPEMAP=."_s
+            : u"Het bestand 'Mappen.ini' kan niet worden gelezen."_s;
     Meld(nullptr, QMessageBox::Critical,
          wat +
-             QStringLiteral(" Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit "
-                            "programma niet waar ze staan. Zet het goede bestand op deze plaats, "
-                            "of start Plexoran met --mappen en de naam "
-                            "van het bestand.\n\n") +
+             u" Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit programma niet "
+             "waar ze staan. Zet het goede bestand op deze plaats, of start Plexoran met --mappen "
+             "en de naam van het bestand.\n\n"_s +
              Bijzonderheden(fout));
     return false;
 }
@@ -83,13 +81,12 @@ bool frmLedenAdmin::LeesMappenBijStart(const Pad& mappenIni)
 void frmLedenAdmin::MaakLedenmapBijStart()
 {
     const Mappen& mappen = administratie_.mappen;
-    const QString wat = QStringLiteral("De map voor de ledenbestanden van de bond (NBB4-Leden) kon "
-                                       "niet worden gemaakt.");
+    const QString wat =
+        u"De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden gemaakt."_s;
     if (mappen.WINMAP.empty()) {
         Meld(this, QMessageBox::Warning,
-             wat + QStringLiteral(" Er staat geen map achter WINMAP= in 'Mappen.ini'; de gegevens "
-                                  "van de spelers zijn niet in gevaar. Vul die map in en start "
-                                  "Plexoran opnieuw."));
+             wat + u" Er staat geen map achter WINMAP= in 'Mappen.ini'; de gegevens van de spelers "
+                   "zijn niet in gevaar. Vul die map in en start Plexoran opnieuw."_s);
         return;
     }
     const auto map = administratie_.schijf.MaakMap(mappen.Ledenmap());
@@ -119,9 +116,9 @@ void frmLedenAdmin::LeesInstellingenBijStart()
     const auto inhoud = administratie_.schijf.LeesBestand(pad);
     if (inhoud && !IsInstellingenbestand(*inhoud))
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit "
-                            "programma. Voordat het wordt vervangen, komt er een kopie van in de "
-                            "map Reservekopie. U hoeft niets te doen.\n\nBestand: ") +
+             u"Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit programma. "
+             "Voordat het wordt vervangen, komt er een kopie van in de map Reservekopie. U hoeft "
+             "niets te doen.\n\nBestand: "_s +
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
 }
 
@@ -153,21 +150,19 @@ void frmLedenAdmin::LeesGroepenBijStart()
     // The players folder holds the group file too, so it must be there before that file is made.
     const auto map = administratie_.schijf.MaakMap(administratie_.mappen.SPEMAP);
     if (!map)
-        MeldMapfout(QStringLiteral("De map van de spelers kon niet worden gemaakt."), map.error());
+        MeldMapfout(u"De map van de spelers kon niet worden gemaakt."_s, map.error());
     const auto aanmaak = MaakGroepenbestand(administratie_.schijf, administratie_.mappen);
-    const QString wat = QStringLiteral("Het bestand met de groepsnamen");
+    const QString wat = u"Het bestand met de groepsnamen"_s;
     BiedTerugzettenAan(aanmaak, pad, wat);
     if (map && !IsGemaakt(aanmaak, wat))
-        MeldMapfout(wat + QStringLiteral(" kon niet worden gemaakt of gelezen."),
-                    aanmaak.gemaakt.error());
+        MeldMapfout(wat + u" kon niet worden gemaakt of gelezen."_s, aanmaak.gemaakt.error());
     administratie_.groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
     const auto& inhoud = administratie_.groepen.bestandstekst;
     if (inhoud && !IsGroepenbestand(*inhoud))
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; "
-                            "die zijn overgeslagen. Voordat het bestand wordt vervangen, komt er "
-                            "een kopie van in de map Reservekopie. Kijk na of de groepsnamen "
-                            "kloppen.\n\nBestand: ") +
+             u"Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; die zijn "
+             "overgeslagen. Voordat het bestand wordt vervangen, komt er een kopie van in de map "
+             "Reservekopie. Kijk na of de groepsnamen kloppen.\n\nBestand: "_s +
                  QString::fromStdString(administratie_.schijf.Toonpad(pad)));
     VulGroepen();
 }
@@ -177,30 +172,29 @@ void frmLedenAdmin::BiedTerugzettenAan(const Aanmaak& aanmaak, const Pad& pad, c
 {
     if (!StaatOpSchijf(aanmaak.gemaakt) || aanmaak.inhoud.empty())
         return;
-    const QString kopie = QStringLiteral("\n\nKopie: ") +
-                          QString::fromStdString(administratie_.schijf.Toonpad(aanmaak.kopie));
-    int antwoord =
-        Kies(this, QMessageBox::Warning,
-             wat +
-                 QStringLiteral(" begon met een lege regel of een leeg gegeven en is daarom "
-                                "vervangen door een nieuw, leeg bestand. Wat erin stond, staat "
-                                "heel in een kopie. Zet het terug zonder dat lege begin, tenzij u "
-                                "met een leeg bestand wilt beginnen.") +
-                 kopie,
-             {QStringLiteral("Leeg beginnen"), QStringLiteral("Terugzetten")}, 1);
+    const QString kopie =
+        u"\n\nKopie: "_s + QString::fromStdString(administratie_.schijf.Toonpad(aanmaak.kopie));
+    int antwoord = Kies(
+        this, QMessageBox::Warning,
+        wat +
+            u" begon met een lege regel of een leeg gegeven en is daarom vervangen door een "
+            "nieuw, leeg bestand. Wat erin stond, staat heel in een kopie. Zet het terug zonder "
+            "dat lege begin, tenzij u met een leeg bestand wilt beginnen."_s +
+            kopie,
+        {u"Leeg beginnen"_s, u"Terugzetten"_s}, 1);
     while (antwoord == 1) {
         const auto terug =
             ZetTerug(administratie_.schijf, administratie_.mappen.SPEMAP, pad, aanmaak);
         if (StaatEr(this, terug))
             return;
-        antwoord = Kies(this, QMessageBox::Critical,
-                        wat +
-                            QStringLiteral(" kon niet worden teruggezet en is nu leeg. Wat erin "
-                                           "stond, staat heel in een kopie. Verhelp de oorzaak en "
-                                           "probeer het opnieuw, of zet de kopie zelf terug "
-                                           "voordat u iets invoert.") +
-                            kopie + QLatin1Char('\n') + Bijzonderheden(terug.error()),
-                        {QStringLiteral("Doorgaan"), QStringLiteral("Opnieuw proberen")}, 1);
+        antwoord = Kies(
+            this, QMessageBox::Critical,
+            wat +
+                u" kon niet worden teruggezet en is nu leeg. Wat erin stond, staat heel in een "
+                "kopie. Verhelp de oorzaak en probeer het opnieuw, of zet de kopie zelf terug "
+                "voordat u iets invoert."_s +
+                kopie + u'\n' + Bijzonderheden(terug.error()),
+            {u"Doorgaan"_s, u"Opnieuw proberen"_s}, 1);
     }
 }
 
@@ -211,10 +205,9 @@ bool frmLedenAdmin::IsGemaakt(const Aanmaak& aanmaak, const QString& wat)
         return StaatEr(this, aanmaak.gemaakt);
     Meld(this, QMessageBox::Warning,
          wat +
-             QStringLiteral(" begint met een lege regel of een leeg gegeven en moest daarom worden "
-                            "vervangen, na een kopie. Dat is mislukt; het bestand is gebleven "
-                            "zoals het was. Kijk na of u in de map mag schrijven, of haal het lege "
-                            "begin weg met een tekstprogramma.\n\n") +
+             u" begint met een lege regel of een leeg gegeven en moest daarom worden vervangen, na "
+             "een kopie. Dat is mislukt; het bestand is gebleven zoals het was. Kijk na of u in de "
+             "map mag schrijven, of haal het lege begin weg met een tekstprogramma.\n\n"_s +
              Bijzonderheden(aanmaak.gemaakt.error()));
     return true;
 }
@@ -229,16 +222,13 @@ void frmLedenAdmin::MeldLosseSleutels()
         return;
     const bool een = verslagen.size() == 1;
     QString tekst =
-        QStringLiteral("In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn uitgegeven, "
-                       "zoals na een toevoegen dat is afgebroken. Het spelerbestand is niet "
-                       "veranderd. Verwijder %2 of voeg de spelers opnieuw toe, anders krijgen "
-                       "andere spelers die sleutels.\n")
-            .arg(een ? QStringLiteral("een zitting")
-                     : QStringLiteral("%1 zittingen").arg(verslagen.size()),
-                 een ? QStringLiteral("dat bestand") : QStringLiteral("die bestanden"));
+        u"In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn uitgegeven, zoals na een "
+        "toevoegen dat is afgebroken. Het spelerbestand is niet veranderd. Verwijder %2 of voeg "
+        "de spelers opnieuw toe, anders krijgen andere spelers die sleutels.\n"_s.arg(
+            een ? u"een zitting"_s : u"%1 zittingen"_s.arg(verslagen.size()),
+            een ? u"dat bestand"_s : u"die bestanden"_s);
     for (const Pad& pad : verslagen)
-        tekst += QStringLiteral("\nBestand: ") +
-                 QString::fromStdString(administratie_.schijf.Toonpad(pad));
+        tekst += u"\nBestand: "_s + QString::fromStdString(administratie_.schijf.Toonpad(pad));
     MeldLijst(this, QMessageBox::Warning, tekst);
 }
 
@@ -246,8 +236,8 @@ void frmLedenAdmin::MeldMapfout(const QString& wat, const Fout& fout)
 {
     Meld(this, QMessageBox::Warning,
          wat +
-             QStringLiteral(" De gegevens van de spelers zijn niet veranderd. Kijk na of de map in "
-                            "'Mappen.ini' bestaat en of u erin mag schrijven.\n\n") +
+             u" De gegevens van de spelers zijn niet veranderd. Kijk na of de map in 'Mappen.ini' "
+             "bestaat en of u erin mag schrijven.\n\n"_s +
              Bijzonderheden(fout));
 }
 

@@ -15,7 +15,7 @@ constexpr int KleinsteAantalRegels = 4; // that stay in sight however small the 
 } // namespace
 
 Rooster::Rooster(const Maten& maten, QWidget* ouder)
-    : Schuifkader(QStringLiteral("picP0"), maten, ouder), pixelsPerMm_(maten.PixelsPerMm()),
+    : Schuifkader(u"picP0"_s, maten, ouder), pixelsPerMm_(maten.PixelsPerMm()),
       P1(new Roostervlak(inhoud_, pixelsPerMm_, *this, this)), P9(new QWidget(this)),
       P2(new QWidget(P9))
 {
@@ -34,12 +34,12 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
 
 void Rooster::BouwHeader(const QFont& letter)
 {
-    Noem(P9, QStringLiteral("P9"));
-    Noem(P2, QStringLiteral("P2"));
+    Noem(P9, u"P9"_s);
+    Noem(P2, u"P2"_s);
     P9->setAutoFillBackground(true);
     for (std::size_t i = 0; i < cmd.size(); ++i) {
         cmd[i] = new Kortknop(P2);
-        Noem(cmd[i], QStringLiteral("cmd_%1").arg(i + 1));
+        Noem(cmd[i], u"cmd_%1"_s.arg(i + 1));
         cmd[i]->setFont(letter);
         cmd[i]->setFocusPolicy(Qt::NoFocus);
         connect(cmd[i], &QPushButton::clicked, P1, &Roostervlak::VerbergLijnen);
@@ -89,7 +89,7 @@ void Rooster::PlaatsKolommen()
         const int rechts = qRound(inhoud_.randen[i + 1] * pixelsPerMm_);
         cmd[i]->setText(naam);
         cmd[i]->setToolTip(naam);
-        cmd[i]->setAccessibleName(naam.isEmpty() ? QStringLiteral("Kolom %1").arg(i + 1) : naam);
+        cmd[i]->setAccessibleName(naam.isEmpty() ? u"Kolom %1"_s.arg(i + 1) : naam);
         cmd[i]->setGeometry(links, 0, rechts - links, hoogte);
     }
     P2->resize(P1->Vlakmaat().width(), hoogte);

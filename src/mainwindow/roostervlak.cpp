@@ -32,9 +32,9 @@ QFrame* MaakLijn(const QString& naam, QWidget* ouder)
 
 Roostervlak::Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, const Schuifkader& kader,
                          QWidget* ouder)
-    : Tabelvlak(kader, QStringLiteral("Spelers van de groep"), ouder), inhoud_(inhoud),
-      pixelsPerMm_(pixelsPerMm), Line1(MaakLijn(QStringLiteral("Line1"), this)),
-      Line2(MaakLijn(QStringLiteral("Line2"), this))
+    : Tabelvlak(kader, u"Spelers van de groep"_s, ouder), inhoud_(inhoud),
+      pixelsPerMm_(pixelsPerMm), Line1(MaakLijn(u"Line1"_s, this)),
+      Line2(MaakLijn(u"Line2"_s, this))
 {
     for (const QScrollBar* balk : {&kader.Staand(), &kader.Liggend()})
         connect(balk, &QScrollBar::valueChanged, this, &Roostervlak::PlaatsLijnen);

@@ -46,12 +46,12 @@ void frmParenOnderhoud::MaakParenmap()
 {
     const auto map = administratie_.schijf.MaakMap(Parenmap(administratie_.mappen));
     if (!map)
-        MeldFout(parentWidget(), QMessageBox::Warning,
-                 QStringLiteral("De map voor de parenbestanden (Parenmap) kon niet worden gemaakt, "
-                                "dus paren kunnen nu niet worden opgeslagen. De gegevens van de "
-                                "spelers zijn niet veranderd. Kijk of u in de map van de spelers "
-                                "mag schrijven."),
-                 map.error());
+        MeldFout(
+            parentWidget(), QMessageBox::Warning,
+            u"De map voor de parenbestanden (Parenmap) kon niet worden gemaakt, dus paren kunnen "
+            "nu niet worden opgeslagen. De gegevens van de spelers zijn niet veranderd. Kijk of u "
+            "in de map van de spelers mag schrijven."_s,
+            map.error());
 }
 
 // ---- Showing a group-subgroup ------------------------------------------------------------------
@@ -80,13 +80,12 @@ void frmParenOnderhoud::LaadSubgroep(const Tekst& keuze)
         ToonAantalParen();
     VulSpelerslijsten(Regellijst::Plek::Begin);
     if (fout)
-        MeldFout(this, QMessageBox::Warning,
-                 QStringLiteral("Het parenbestand '%1' kan niet worden gelezen; u ziet daarom geen "
-                                "paren. Voordat het wordt vervangen, komt er een kopie van in de "
-                                "map Reservekopie. Sluit met Annuleren als u eerst de oorzaak wilt "
-                                "verhelpen.")
-                     .arg(NaarQString(keuze)),
-                 *fout);
+        MeldFout(
+            this, QMessageBox::Warning,
+            u"Het parenbestand '%1' kan niet worden gelezen; u ziet daarom geen paren. Voordat "
+            "het wordt vervangen, komt er een kopie van in de map Reservekopie. Sluit met "
+            "Annuleren als u eerst de oorzaak wilt verhelpen."_s.arg(NaarQString(keuze)),
+            *fout);
     if (!losse.empty())
         MeldLosse(losse);
 }
@@ -94,8 +93,7 @@ void frmParenOnderhoud::LaadSubgroep(const Tekst& keuze)
 void frmParenOnderhoud::MeldLosse(const Tekst& losse)
 {
     MeldVerslag(this,
-                QStringLiteral("De volgende spelers zijn losse spelers: \r\n\r\n%1\r\n")
-                    .arg(NaarQString(losse)),
+                u"De volgende spelers zijn losse spelers: \r\n\r\n%1\r\n"_s.arg(NaarQString(losse)),
                 QString::fromLatin1(Programmatitel), QMessageBox::Warning);
 }
 
@@ -105,7 +103,7 @@ void frmParenOnderhoud::VulSpelerslijsten(Regellijst::Plek plek)
         lijst->Vul(
             static_cast<int>(paren_.Lalle().size()),
             [this](int plaats) { return paren_.Keuze(plaats); }, plek);
-    Label7->setText(QStringLiteral("Aantal spelers: %1").arg(L1->Aantal()));
+    Label7->setText(u"Aantal spelers: %1"_s.arg(L1->Aantal()));
 }
 
 void frmParenOnderhoud::VulParenlijst(Regellijst::Plek plek)
@@ -117,7 +115,7 @@ void frmParenOnderhoud::VulParenlijst(Regellijst::Plek plek)
 
 void frmParenOnderhoud::ToonAantalParen()
 {
-    Label8->setText(QStringLiteral("Aantal paren: %1").arg(paren_.L3().size()));
+    Label8->setText(u"Aantal paren: %1"_s.arg(paren_.L3().size()));
 }
 
 // ---- Choosing ----------------------------------------------------------------------------------
@@ -193,20 +191,19 @@ void frmParenOnderhoud::VerwijderBestand()
     const auto pad = Parenbestand(administratie_.mappen, keuze_);
     const auto soort = pad ? administratie_.schijf.Soort(*pad) : Padsoort::Niets;
     if (soort && *soort != Padsoort::Bestand) {
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("Parenbestand '%1' bestaat nog niet!").arg(keuze));
+        Meld(this, QMessageBox::Warning, u"Parenbestand '%1' bestaat nog niet!"_s.arg(keuze));
         return;
     }
     if (!Vraag(this, QMessageBox::Information,
-               QStringLiteral("U gaat Parenbestand %1 volledig verwijderen!\r\nWeet u het zeker?")
-                   .arg(keuze)))
+               u"U gaat Parenbestand %1 volledig verwijderen!\r\nWeet u het zeker?"_s.arg(keuze)))
         return;
     const auto weg = administratie_.schijf.Verwijder(*pad);
     if (!weg) {
-        MeldFout(this, QMessageBox::Warning,
-                 QStringLiteral("Het parenbestand kon niet worden verwijderd; het is gebleven "
-                                "zoals het was. Verhelp de oorzaak en probeer het opnieuw."),
-                 weg.error());
+        MeldFout(
+            this, QMessageBox::Warning,
+            u"Het parenbestand kon niet worden verwijderd; het is gebleven zoals het was. Verhelp "
+            "de oorzaak en probeer het opnieuw."_s,
+            weg.error());
         return;
     }
     gelezen_.reset();
@@ -223,20 +220,18 @@ void frmParenOnderhoud::SchrijfCSV(ParenCSV soort)
                                             administratie_.spelers.tabel, soort);
     if (StaatEr(this, geschreven))
         Meld(this, QMessageBox::Information,
-             QStringLiteral("Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n").arg(naam) +
+             u"Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n"_s.arg(naam) +
                  QString::fromStdString(administratie_.schijf.Toonpad(ParenCSVMap(mappen))));
     else if (mappen.RVDMAP.empty())
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het parenbestand '%1' is niet opgeslagen: er staat geen map achter "
-                            "RVDMAP= in 'Mappen.ini'. De paren in dit venster zijn niet veranderd. "
-                            "Vul die map in en start Plexoran opnieuw.")
-                 .arg(naam));
+             u"Het parenbestand '%1' is niet opgeslagen: er staat geen map achter RVDMAP= in "
+             "'Mappen.ini'. De paren in dit venster zijn niet veranderd. Vul die map in en start "
+             "Plexoran opnieuw."_s.arg(naam));
     else
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Het parenbestand '%1' is niet opgeslagen. De paren in dit venster "
-                            "zijn niet veranderd. Sluit het bestand als het nog open is in een "
-                            "ander programma, en probeer het opnieuw.\n\n")
-                     .arg(naam) +
+             u"Het parenbestand '%1' is niet opgeslagen. De paren in dit venster zijn niet "
+             "veranderd. Sluit het bestand als het nog open is in een ander programma, en probeer "
+             "het opnieuw.\n\n"_s.arg(naam) +
                  Bijzonderheden(geschreven.error()));
 }
 
@@ -245,12 +240,11 @@ void frmParenOnderhoud::Einde()
     const Tekst geweigerd = GeweigerdeTekens(keuze_);
     if (!paren_.L3().empty() && !geweigerd.empty()) {
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("De paren van '%1' kunnen niet worden opgeslagen, want %2 %3 niet in "
-                            "de naam van een bestand staan. De paren staan nog op het scherm. Geef "
-                            "de spelers een andere subgroep, of kies Annuleren om niets op te "
-                            "slaan.")
-                 .arg(NaarQString(keuze_), NaarQString(geweigerd),
-                      geweigerd.size() == 1 ? QStringLiteral("kan") : QStringLiteral("kunnen")));
+             u"De paren van '%1' kunnen niet worden opgeslagen, want %2 %3 niet in de naam van een "
+             "bestand staan. De paren staan nog op het scherm. Geef de spelers een andere "
+             "subgroep, of kies Annuleren om niets op te slaan."_s.arg(
+                 NaarQString(keuze_), NaarQString(geweigerd),
+                 geweigerd.size() == 1 ? u"kan"_s : u"kunnen"_s));
         return;
     }
     const auto bewaard =
@@ -267,10 +261,9 @@ void frmParenOnderhoud::MeldOpslagfout(const Fout& fout)
     QGuiApplication::clipboard()->setText(
         NaarQString(Tekstblik(tekst).substr(0, tekst.find('\r'))));
     Meld(this, QMessageBox::Warning,
-         QStringLiteral("Fout bij het opslaan van Paren\nDe paren zijn niet verloren: ze staan nu "
-                        "op het klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla "
-                        "dat op onder de naam hieronder.\n\n%1")
-             .arg(Bijzonderheden(fout)));
+         u"Fout bij het opslaan van Paren\nDe paren zijn niet verloren: ze staan nu op het "
+         "klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla dat op onder de naam "
+         "hieronder.\n\n%1"_s.arg(Bijzonderheden(fout)));
 }
 
 void frmParenOnderhoud::ToonUitleg()

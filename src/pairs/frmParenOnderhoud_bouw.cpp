@@ -34,9 +34,9 @@ void frmParenOnderhoud::MaakDelen()
     cmdPrintLos = knop(u"cmdPrintLos", u"Als paar in    2 kolommen", u'2');
     cmdEinde = knop(u"cmdEinde", u"Opslaan en Einde", u'E');
     cmdAnnu = knop(u"cmdAnnu", u"Annuleren", u'A');
-    cmdOKE->setAccessibleName(QStringLiteral("Maak een paar"));
-    cmdOntbindt->setAccessibleName(QStringLiteral("Ontbindt dit paar"));
-    cmdSortL3->setToolTip(QStringLiteral("Zet de paren op volgorde van de eerste speler"));
+    cmdOKE->setAccessibleName(u"Maak een paar"_s);
+    cmdOntbindt->setAccessibleName(u"Ontbindt dit paar"_s);
+    cmdSortL3->setToolTip(u"Zet de paren op volgorde van de eerste speler"_s);
 
     const QFont letter = Roosterletter(maten_.Letter(Lijstletter).pixelSize());
     const auto lijst = [&](const QString& naam, const QString& gesproken) {
@@ -46,27 +46,26 @@ void frmParenOnderhoud::MaakDelen()
         nieuw->ZetNaamVanaf(NaamVanaf);
         return nieuw;
     };
-    L1 = lijst(QStringLiteral("L1"), QStringLiteral("Eerste speler"));
-    L2 = lijst(QStringLiteral("L2"), QStringLiteral("Tweede speler"));
-    L3 = lijst(QStringLiteral("L3"), QStringLiteral("Reeds gevormde paren"));
+    L1 = lijst(u"L1"_s, u"Eerste speler"_s);
+    L2 = lijst(u"L2"_s, u"Tweede speler"_s);
+    L3 = lijst(u"L3"_s, u"Reeds gevormde paren"_s);
 }
 
 void frmParenOnderhoud::Bouw()
 {
-    setObjectName(QStringLiteral("frmParenOnderhoud"));
-    setWindowTitle(QStringLiteral("Paren samenstellen"));
+    setObjectName(u"frmParenOnderhoud"_s);
+    setWindowTitle(u"Paren samenstellen"_s);
     MaakDelen();
-    auto* Frame1 = new QGroupBox(
-        QStringLiteral("Samenstelling of ontbinden van paren tbv RVD en Ranking"), this);
-    Noem(Frame1, QStringLiteral("Frame1"));
+    auto* Frame1 =
+        new QGroupBox(u"Samenstelling of ontbinden van paren tbv RVD en Ranking"_s, this);
+    Noem(Frame1, u"Frame1"_s);
     BouwSamenstelling(Frame1);
-    auto* Frame2 = new QGroupBox(QStringLiteral("Paren opslaan als CSV-bestand"), this);
-    Noem(Frame2, QStringLiteral("Frame2"));
+    auto* Frame2 = new QGroupBox(u"Paren opslaan als CSV-bestand"_s, this);
+    Noem(Frame2, u"Frame2"_s);
     BouwCSVKader(Frame2);
-    Label10 = MaakLabel(QStringLiteral("Label10"),
-                        QStringLiteral("Alvorens om te schakelen naar een andere groep eerst de "
-                                       "wijzigingen opslaan!"),
-                        this);
+    Label10 = MaakLabel(
+        u"Label10"_s,
+        u"Alvorens om te schakelen naar een andere groep eerst de wijzigingen opslaan!"_s, this);
 
     auto* onder = new QHBoxLayout;
     onder->addWidget(cmdVerwParenbest);
@@ -93,21 +92,21 @@ QHBoxLayout* frmParenOnderhoud::BouwKeuze()
     const auto label = [this](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, this);
     };
-    lblRVDledengr = label(QStringLiteral("lblRVDledengr"), NaarQString(code_));
+    lblRVDledengr = label(u"lblRVDledengr"_s, NaarQString(code_));
     QFont vet = lblRVDledengr->font();
     vet.setBold(true);
     lblRVDledengr->setFont(vet);
-    auto* Label2 = label(QStringLiteral("Label2"), QStringLiteral("Groep-Subgroep:"));
-    cmbNBBledengr = MaakKeus(QStringLiteral("cmbNBBledengr"), Label2, this);
+    auto* Label2 = label(u"Label2"_s, u"Groep-Subgroep:"_s);
+    cmbNBBledengr = MaakKeus(u"cmbNBBledengr"_s, Label2, this);
     cmbNBBledengr->setMinimumContentsLength(8);
     auto* rij = new QHBoxLayout;
-    rij->addWidget(label(QStringLiteral("Label9"), QStringLiteral("RVD-ledengroep:")));
+    rij->addWidget(label(u"Label9"_s, u"RVD-ledengroep:"_s));
     rij->addWidget(lblRVDledengr);
     rij->addSpacing(maten_.Twips(300));
     rij->addWidget(Label2);
     rij->addWidget(cmbNBBledengr, 1);
     rij->addSpacing(maten_.Twips(300));
-    rij->addWidget(label(QStringLiteral("Label1"), QStringLiteral("Waarom paren samenstellen?")));
+    rij->addWidget(label(u"Label1"_s, u"Waarom paren samenstellen?"_s));
     rij->addWidget(cmdUitleg);
     return rij;
 }
@@ -119,23 +118,20 @@ void frmParenOnderhoud::BouwSamenstelling(QGroupBox* kader)
         nieuw->setWordWrap(true);
         return nieuw;
     };
-    Label7 = label(QStringLiteral("Label7"), QStringLiteral("Aantal spelers:"));
-    Label8 = label(QStringLiteral("Label8"), QStringLiteral("Aantal paren:"));
+    Label7 = label(u"Label7"_s, u"Aantal spelers:"_s);
+    Label8 = label(u"Label8"_s, u"Aantal paren:"_s);
     auto* midden = new QVBoxLayout;
     midden->addStretch(1);
-    midden->addWidget(label(QStringLiteral("Label6"), QStringLiteral("Maak  een paar")), 0,
-                      Qt::AlignHCenter);
+    midden->addWidget(label(u"Label6"_s, u"Maak  een paar"_s), 0, Qt::AlignHCenter);
     midden->addWidget(cmdOKE);
     midden->addSpacing(maten_.Twips(450));
-    midden->addWidget(label(QStringLiteral("Label5"), QStringLiteral("Ontbindt dit paar")), 0,
-                      Qt::AlignHCenter);
+    midden->addWidget(label(u"Label5"_s, u"Ontbindt dit paar"_s), 0, Qt::AlignHCenter);
     midden->addWidget(cmdOntbindt);
     midden->addStretch(2);
     midden->addWidget(cmdSortL3);
     auto* vakken = new QGridLayout(kader);
-    auto* Label3 = label(QStringLiteral("Label3"),
-                         QStringLiteral("Selecteer in beide kolommen een speler en klik op 'OKE'"));
-    auto* Label4 = label(QStringLiteral("Label4"), QStringLiteral("Reeds gevormde paren"));
+    auto* Label3 = label(u"Label3"_s, u"Selecteer in beide kolommen een speler en klik op 'OKE'"_s);
+    auto* Label4 = label(u"Label4"_s, u"Reeds gevormde paren"_s);
     Label3->setBuddy(L1);
     Label4->setBuddy(L3);
     vakken->addWidget(Label3, 0, 0, 1, 2);
@@ -159,14 +155,11 @@ void frmParenOnderhoud::BouwCSVKader(QGroupBox* kader)
     };
     auto* vakken = new QGridLayout(kader);
     vakken->addWidget(cmdPrintVast, 0, 0);
-    vakken->addWidget(
-        label(QStringLiteral("lblPrintVast"), QStringLiteral("Tuprufo - Leo Jansen ")), 0, 1);
+    vakken->addWidget(label(u"lblPrintVast"_s, u"Tuprufo - Leo Jansen "_s), 0, 1);
     vakken->addWidget(cmdPrintLos, 1, 0);
-    vakken->addWidget(label(QStringLiteral("lblPrintLos"),
-                            QStringLiteral("Tuprufo        Leo Jansen  (aparte kolom)")),
-                      1, 1);
-    vakken->addWidget(
-        label(QStringLiteral("lblExcel"), QStringLiteral("Kan in Excel worden ingelezen. ")), 0, 3);
+    vakken->addWidget(label(u"lblPrintLos"_s, u"Tuprufo        Leo Jansen  (aparte kolom)"_s), 1,
+                      1);
+    vakken->addWidget(label(u"lblExcel"_s, u"Kan in Excel worden ingelezen. "_s), 0, 3);
     vakken->setColumnStretch(2, 1);
 }
 

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "platform/scherm/schildervlak.h"
+#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 namespace {
@@ -46,7 +47,7 @@ void ZetMidden(QScrollBar& balk, double midden)
 Bladvlak::Bladvlak(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder)
     : QWidget(ouder), lijst_(lijst), kast_(kast)
 {
-    Noem(this, QStringLiteral("picP1"), QStringLiteral("Blad"));
+    Noem(this, u"picP1"_s, u"Blad"_s);
     QPalette palet = palette();
     palet.setColor(QPalette::Window, Qt::white);
     setPalette(palet);
@@ -57,8 +58,7 @@ Bladvlak::Bladvlak(const Printlijst& lijst, const Letterkast& kast, QWidget* oud
 void Bladvlak::Toon(int blad)
 {
     blad_ = blad;
-    setAccessibleDescription(
-        QStringLiteral("Blad %1 van %2").arg(blad).arg(lijst_.indeling.bladen));
+    setAccessibleDescription(u"Blad %1 van %2"_s.arg(blad).arg(lijst_.indeling.bladen));
     update();
 }
 
@@ -83,14 +83,13 @@ void Bladvlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 
 Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, const Maten& maten,
                      QWidget* ouder)
-    : Schuifkader(QStringLiteral("picP0"), maten, ouder), lijst_(lijst),
-      pixelsPerMm_(SchermPixelsPerMm(*this)), P9(new QWidget(this)),
-      picP1(new Bladvlak(lijst, kast, P9))
+    : Schuifkader(u"picP0"_s, maten, ouder), lijst_(lijst), pixelsPerMm_(SchermPixelsPerMm(*this)),
+      P9(new QWidget(this)), picP1(new Bladvlak(lijst, kast, P9))
 {
     QAccessible::installFactory(MaakSpreker); // which Qt does once
-    setAccessibleName(QStringLiteral("Afdrukvoorbeeld"));
+    setAccessibleName(u"Afdrukvoorbeeld"_s);
     setFocusPolicy(Qt::StrongFocus);
-    Noem(P9, QStringLiteral("P9"));
+    Noem(P9, u"P9"_s);
     P9->setBackgroundRole(QPalette::Mid);
     P9->setAutoFillBackground(true);
     Bevat(P9);

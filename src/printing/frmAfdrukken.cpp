@@ -84,16 +84,16 @@ frmAfdrukken::~frmAfdrukken()
 
 void frmAfdrukken::Bouw()
 {
-    setObjectName(QStringLiteral("frmAfdrukken"));
-    setWindowTitle(QStringLiteral("Toon/print ...."));
+    setObjectName(u"frmAfdrukken"_s);
+    setWindowTitle(u"Toon/print ...."_s);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    Label2 = MaakLabel(QStringLiteral("Label2"), QString(), this);
-    lblReden = MaakLabel(QStringLiteral("lblReden"), QString(), this);
+    Label2 = MaakLabel(u"Label2"_s, QString(), this);
+    lblReden = MaakLabel(u"lblReden"_s, QString(), this);
     lblReden->setWordWrap(true);
-    lblZoom = MaakLabel(QStringLiteral("lblZoom"), QStringLiteral("100 %"), this);
-    lblZoom->setToolTip(QStringLiteral("Groter of kleiner: Ctrl met het muiswiel, of met + en -"));
-    cmdPrinten = MaakKnop(QStringLiteral("cmdPrinten"), QStringLiteral("Printen..."), u'P', this);
-    cmdAnnuleren = MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Terug"), u'T', this);
+    lblZoom = MaakLabel(u"lblZoom"_s, u"100 %"_s, this);
+    lblZoom->setToolTip(u"Groter of kleiner: Ctrl met het muiswiel, of met + en -"_s);
+    cmdPrinten = MaakKnop(u"cmdPrinten"_s, u"Printen..."_s, u'P', this);
+    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
     cmdPrinten->setDefault(true);
 
     auto* boven = new QHBoxLayout;
@@ -118,30 +118,28 @@ void frmAfdrukken::Bouw()
 QLayout* frmAfdrukken::BouwBladkeuze()
 {
     const int bladen = lijst_.indeling.ToonbareBladen();
-    Label1 = MaakLabel(QStringLiteral("Label1"), QString(), this);
+    Label1 = MaakLabel(u"Label1"_s, QString(), this);
     Bladscroll = new Bladbalk(Qt::Horizontal, this);
-    Noem(Bladscroll, QStringLiteral("Bladscroll"), QStringLiteral("Blad kiezen"));
+    Noem(Bladscroll, u"Bladscroll"_s, u"Blad kiezen"_s);
     Bladscroll->setFocusPolicy(Qt::StrongFocus);
     Bladscroll->setMinimumWidth(maten_.Twips(1800));
     Bladscroll->setRange(1, bladen);
     Bladscroll->setSingleStep(1);
     Bladscroll->setPageStep(1);
-    txtBlad =
-        MaakVak(QStringLiteral("txtBlad"), QStringLiteral("Bladnummer"), maten_.Twips(600), this);
+    txtBlad = MaakVak(u"txtBlad"_s, u"Bladnummer"_s, maten_.Twips(600), this);
     Label1->setBuddy(txtBlad);
     auto* nummers = new Bladnummers(Bladscroll);
     nummers->setParent(txtBlad);
     txtBlad->setValidator(nummers);
     txtBlad->setAlignment(Qt::AlignRight);
-    txtAantPages = MaakVak(QStringLiteral("txtAantPages"), QStringLiteral("Aantal bladen"),
-                           maten_.Twips(1700), this);
+    txtAantPages = MaakVak(u"txtAantPages"_s, u"Aantal bladen"_s, maten_.Twips(1700), this);
     txtAantPages->setReadOnly(true);
     txtAantPages->setFocusPolicy(Qt::ClickFocus); // no tab stop
     txtAantPages->setFrame(false);
     QPalette palet = txtAantPages->palette();
     palet.setColor(QPalette::Base, Qt::transparent);
     txtAantPages->setPalette(palet);
-    txtAantPages->setText(QStringLiteral("(Totaal %1)").arg(lijst_.indeling.bladen));
+    txtAantPages->setText(u"(Totaal %1)"_s.arg(lijst_.indeling.bladen));
 
     auto* rij = new QHBoxLayout;
     rij->addWidget(Label1);
@@ -157,7 +155,7 @@ void frmAfdrukken::Verbind()
     connect(txtBlad, &QLineEdit::editingFinished, this,
             [this] { Bladscroll->setValue(txtBlad->text().toInt()); });
     connect(picP0, &Bladbeeld::zoomVeranderd, this,
-            [this](int procent) { lblZoom->setText(QStringLiteral("%1 %").arg(procent)); });
+            [this](int procent) { lblZoom->setText(u"%1 %"_s.arg(procent)); });
     connect(cmdPrinten, &QPushButton::clicked, this, &frmAfdrukken::Print);
     connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -166,39 +164,35 @@ void frmAfdrukken::ToonPapier()
 {
     const Bladindeling& indeling = lijst_.indeling;
     const bool staand = indeling.papier.stand == Papierstand::Staand;
-    Label2->setText(staand ? QStringLiteral("Printformaat: A4-staand")
-                           : QStringLiteral("Printformaat: A4-liggend"));
+    Label2->setText(staand ? u"Printformaat: A4-staand"_s : u"Printformaat: A4-liggend"_s);
     QStringList ontbreken;
     for (int kolom = indeling.kolommen; kolom <= lijst_.tabel.Kolommen(); ++kolom) {
         const QString titel = NaarQString(lijst_.tabel.Titel(kolom));
-        ontbreken << (titel.isEmpty() ? QStringLiteral("(kolom %1)").arg(AantalKolommen) : titel);
+        ontbreken << (titel.isEmpty() ? u"(kolom %1)"_s.arg(AantalKolommen) : titel);
     }
     const QString breed = QString::number(indeling.Millimeters());
     lblReden->setVisible(!staand);
-    lblReden->setText(indeling.TeBreed()
-                          ? QStringLiteral("De kolommen zijn samen %1 mm breed; liggend is er 297 "
-                                           "mm. Niet op het blad: %2")
-                                .arg(breed, ontbreken.join(QStringLiteral(", ")))
-                          : QStringLiteral("Liggend omdat de kolommen samen %1 mm breed zijn; "
-                                           "staand is er 210 mm.")
-                                .arg(breed));
+    lblReden->setText(
+        indeling.TeBreed()
+            ? u"De kolommen zijn samen %1 mm breed; liggend is er 297 mm. Niet op het blad: %2"_s
+                  .arg(breed, ontbreken.join(u", "_s))
+            : u"Liggend omdat de kolommen samen %1 mm breed zijn; staand is er 210 mm."_s.arg(
+                  breed));
 }
 
 void frmAfdrukken::WaarschuwVooraf()
 {
     if (lijst_.indeling.TeBreed())
         Meld(parentWidget(), QMessageBox::Warning,
-             QStringLiteral("De printbreedte is groter dan het liggende A4.\r\n"
-                            "Rechts ontbreken dus kolommen!"));
+             u"De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus kolommen!"_s);
     if (lijst_.indeling.bladen > Bladgrens)
         Meld(parentWidget(), QMessageBox::Warning,
-             QStringLiteral("\r\nEr worden niet meer dan %1 pagina's tegelijk geprint!\r\n")
-                 .arg(Bladgrens));
+             u"\r\nEr worden niet meer dan %1 pagina's tegelijk geprint!\r\n"_s.arg(Bladgrens));
 }
 
 void frmAfdrukken::ToonBlad(int blad)
 {
-    Label1->setText(QStringLiteral("Print blad %1").arg(blad));
+    Label1->setText(u"Print blad %1"_s.arg(blad));
     txtBlad->setText(QString::number(blad));
     picP0->Toon(blad);
 }
@@ -245,7 +239,7 @@ bool frmAfdrukken::Verwerk(const QKeyEvent& toets)
 
 QString frmAfdrukken::Titel() const
 {
-    return QStringLiteral("Ledenlijst ") + NaarQString(CodeUit(lijst_.groeptekst)).left(4);
+    return u"Ledenlijst "_s + NaarQString(CodeUit(lijst_.groeptekst)).left(4);
 }
 
 void frmAfdrukken::Print()
@@ -263,7 +257,7 @@ void frmAfdrukken::Print()
         *printer,
         {.titel = Titel(),
          .stand = indeling.papier.stand,
-         .bezig = QStringLiteral("De bladen worden geprint"),
+         .bezig = u"De bladen worden geprint"_s,
          .bladen = printer->Keus().Bladen(indeling.ToonbareBladen(), Bladscroll->value())},
         [this](Tekenvlak& vlak, int blad) { TekenBlad(vlak, lijst_, blad); }, this);
 }

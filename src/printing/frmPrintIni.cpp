@@ -44,42 +44,39 @@ void frmPrintIni::MaakDelen()
     const auto label = [this](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, this);
     };
-    Label1 = label(QStringLiteral("Label1"), QStringLiteral("Te printen Rubrieken (kolommen)"));
-    Label2 = label(QStringLiteral("Label2"), QStringLiteral("Gekozen Groep:"));
-    Label3 = label(QStringLiteral("Label3"), NaarQString(groeptekst_));
+    Label1 = label(u"Label1"_s, u"Te printen Rubrieken (kolommen)"_s);
+    Label2 = label(u"Label2"_s, u"Gekozen Groep:"_s);
+    Label3 = label(u"Label3"_s, NaarQString(groeptekst_));
     // A long name must not make the window wider than the screen.
     Label3->setWordWrap(true);
     Label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     ZetWenk(Label3, Label3->text());
-    Label4 =
-        label(QStringLiteral("Label4"), QStringLiteral("Printuitvoer verkleinen of vergroten:"));
-    Label5 = label(QStringLiteral("Label5"), QStringLiteral("Kies de schaal:"));
-    Label6 = label(QStringLiteral("Label6"), QStringLiteral("Print alleen deze Subgroep(en):"));
-    Label7 = label(QStringLiteral("Label7"), QStringLiteral("Deze groep is leeg"));
+    Label4 = label(u"Label4"_s, u"Printuitvoer verkleinen of vergroten:"_s);
+    Label5 = label(u"Label5"_s, u"Kies de schaal:"_s);
+    Label6 = label(u"Label6"_s, u"Print alleen deze Subgroep(en):"_s);
+    Label7 = label(u"Label7"_s, u"Deze groep is leeg"_s);
     lstKeus = new Regellijst(QListView::MultiSelection, this);
-    Noem(lstKeus, QStringLiteral("lstKeus"), Label1->text());
+    Noem(lstKeus, u"lstKeus"_s, Label1->text());
     Label1->setBuddy(lstKeus);
     lstNBBgr = new Regellijst(QListView::MultiSelection, this);
-    Noem(lstNBBgr, QStringLiteral("lstNBBgr"), Label6->text());
+    Noem(lstNBBgr, u"lstNBBgr"_s, Label6->text());
     Label6->setBuddy(lstNBBgr);
-    cmbSchaal = MaakKeus(QStringLiteral("cmbSchaal"), Label5, this);
+    cmbSchaal = MaakKeus(u"cmbSchaal"_s, Label5, this);
     cmbSchaal->setMinimumContentsLength(4);
-    lblBreedte = label(QStringLiteral("lblBreedte"), QString());
+    lblBreedte = label(u"lblBreedte"_s, QString());
     lblBreedte->setWordWrap(true);
-    cmdPassend = MaakKnop(QStringLiteral("cmdPassend"), QString(), 0, this);
-    cmdSelAll =
-        MaakKnop(QStringLiteral("cmdSelAll"), QStringLiteral("Selecteer alles"), u'a', this);
-    cmdSelNone =
-        MaakKnop(QStringLiteral("cmdSelNone"), QStringLiteral("Selecteer niets"), u'n', this);
-    cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("Printen..."), u'P', this);
-    cmdAnnuleren = MaakKnop(QStringLiteral("cmdAnnuleren"), QStringLiteral("Terug"), u'T', this);
+    cmdPassend = MaakKnop(u"cmdPassend"_s, QString(), 0, this);
+    cmdSelAll = MaakKnop(u"cmdSelAll"_s, u"Selecteer alles"_s, u'a', this);
+    cmdSelNone = MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this);
+    cmdOK = MaakKnop(u"cmdOK"_s, u"Printen..."_s, u'P', this);
+    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
     cmdOK->setDefault(true);
 }
 
 QGroupBox* frmPrintIni::BouwKolommen()
 {
-    auto* Frame1 = new QGroupBox(QStringLiteral("Welke kolommen te printen"), this);
-    Noem(Frame1, QStringLiteral("Frame1"));
+    auto* Frame1 = new QGroupBox(u"Welke kolommen te printen"_s, this);
+    Noem(Frame1, u"Frame1"_s);
     auto* knoppen = new QHBoxLayout;
     knoppen->addWidget(cmdSelAll);
     knoppen->addWidget(cmdSelNone);
@@ -110,8 +107,8 @@ QLayout* frmPrintIni::BouwRechts()
 
 void frmPrintIni::Bouw()
 {
-    setObjectName(QStringLiteral("frmPrintIni"));
-    setWindowTitle(QStringLiteral("Printen van ledenlijsten per groep"));
+    setObjectName(u"frmPrintIni"_s);
+    setWindowTitle(u"Printen van ledenlijsten per groep"_s);
     for (QLabel* label : {Label3, Label7}) {
         QFont vet = label->font();
         vet.setBold(true);
@@ -184,20 +181,18 @@ void frmPrintIni::ToonBreedte()
     while (passend_ >= 0 && bij(passend_).TeBreed())
         --passend_;
     const Bladindeling indeling = bij(cmbSchaal->currentIndex());
-    QString tekst = QStringLiteral("Samen %1 mm breed: ").arg(indeling.Millimeters());
+    QString tekst = u"Samen %1 mm breed: "_s.arg(indeling.Millimeters());
     if (indeling.TeBreed())
-        tekst += QStringLiteral("te breed voor A4-liggend (297 mm).");
+        tekst += u"te breed voor A4-liggend (297 mm)."_s;
     else if (indeling.papier.stand == Papierstand::Liggend)
-        tekst += QStringLiteral("past op A4-liggend (297 mm).");
+        tekst += u"past op A4-liggend (297 mm)."_s;
     else
-        tekst += QStringLiteral("past op A4-staand (210 mm).");
+        tekst += u"past op A4-staand (210 mm)."_s;
     lblBreedte->setText(cmdOK->isEnabled() ? tekst : QString());
     cmdPassend->setText(
         passend_ < 0
-            ? QStringLiteral("Geen schaal past")
-            : MetSneltoets(
-                  QStringLiteral("Grootste die past: %1").arg(cmbSchaal->itemText(passend_)),
-                  u'G'));
+            ? u"Geen schaal past"_s
+            : MetSneltoets(u"Grootste die past: %1"_s.arg(cmbSchaal->itemText(passend_)), u'G'));
     cmdPassend->setEnabled(cmdOK->isEnabled() && passend_ >= 0 &&
                            passend_ != cmbSchaal->currentIndex());
 }
@@ -224,12 +219,11 @@ void frmPrintIni::Print()
 {
     if (!lstKeus->IetsGekozen()) {
         // Any column will do; the text is meant as it stands.
-        Meld(this, QMessageBox::Warning,
-             QStringLiteral("U moet minimaal de rubriek 'Achternaam' selecteren."));
+        Meld(this, QMessageBox::Warning, u"U moet minimaal de rubriek 'Achternaam' selecteren."_s);
         return;
     }
     if (lstNBBgr->Aantal() > 0 && !lstNBBgr->IetsGekozen()) {
-        Meld(this, QMessageBox::Warning, QStringLiteral("U moet nog een subgroep kiezen."));
+        Meld(this, QMessageBox::Warning, u"U moet nog een subgroep kiezen."_s);
         return;
     }
     const Printopdracht opdracht = Opdracht();

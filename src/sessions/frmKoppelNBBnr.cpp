@@ -65,13 +65,12 @@ void frmKoppelNBBnr::Laad()
 void frmKoppelNBBnr::KiesSoort()
 {
     const bool competities = InCompetities();
-    Label4->setText(competities ? QStringLiteral("Kies een Competitie")
-                                : QStringLiteral("Kies een Zitting"));
+    Label4->setText(competities ? u"Kies een Competitie"_s : u"Kies een Zitting"_s);
     cmbC->setAccessibleName(Label4->text());
-    cmdZoekNamen->setText(
-        MetSneltoets(competities ? QStringLiteral("Zoek de zwevende spelers in deze Competitie")
-                                 : QStringLiteral("Zoek de zwevende spelers in deze Zitting"),
-                     u'Z'));
+    cmdZoekNamen->setText(MetSneltoets(competities
+                                           ? u"Zoek de zwevende spelers in deze Competitie"_s
+                                           : u"Zoek de zwevende spelers in deze Zitting"_s,
+                                       u'Z'));
     VulSessies();
 }
 
@@ -93,17 +92,16 @@ void frmKoppelNBBnr::VulSessies()
     MeldOvergeslagen(this, schijf,
                      InCompetities() ? administratie_.mappen.COMMAP : administratie_.mappen.ZITMAP);
     if (!gelezen)
-        MeldLeesfout(InCompetities()
-                         ? QStringLiteral("Fout bij het lezen van de map met competities.")
-                         : QStringLiteral("Fout bij het lezen van de map met zittingen."),
+        MeldLeesfout(InCompetities() ? u"Fout bij het lezen van de map met competities."_s
+                                     : u"Fout bij het lezen van de map met zittingen."_s,
                      gelezen.error());
     else if (sessies_.empty())
         Meld(this, QMessageBox::Information,
              InCompetities()
-                 ? QStringLiteral("Er zijn nog geen competities voorhanden.\r\nU dient dus eerst "
-                                  "een Competitie aan te maken.")
-                 : QStringLiteral("Er zijn nog geen Zittingen voorhanden.\r\nU dient dus eerst een "
-                                  "Zitting aan te maken."));
+                 ? u"Er zijn nog geen competities voorhanden.\r\nU dient dus eerst een Competitie "
+                   "aan te maken."_s
+                 : u"Er zijn nog geen Zittingen voorhanden.\r\nU dient dus eerst een Zitting aan "
+                   "te maken."_s);
 }
 
 /// What was found belongs to the session in which it was searched.
@@ -131,9 +129,9 @@ void frmKoppelNBBnr::LeesRegister()
     });
     PlaatsKoppen();
     if (!inhoud)
-        MeldLeesfout(QStringLiteral("Fout bij het lezen van het spelerbestand; er is nu niemand om "
-                                    "te koppelen."),
-                     inhoud.error());
+        MeldLeesfout(
+            u"Fout bij het lezen van het spelerbestand; er is nu niemand om te koppelen."_s,
+            inhoud.error());
 }
 
 /// Over the columns of the list, also when it is scrolled sideways.
@@ -146,7 +144,7 @@ void frmKoppelNBBnr::PlaatsKoppen()
     const int naam = static_cast<int>(naambreedte_);
     for (const auto& [kop, kolom] : {std::pair{Label7, 0}, std::pair{lblNaam, 8},
                                      std::pair{Label6, 10 + naam}, std::pair{Label8, 20 + naam}})
-        kop->move(begin + maten.horizontalAdvance(QString(kolom, QLatin1Char('0'))), 0);
+        kop->move(begin + maten.horizontalAdvance(QString(kolom, u'0')), 0);
 }
 
 const Zwevende* frmKoppelNBBnr::GekozenZwevende() const
@@ -185,10 +183,11 @@ void frmKoppelNBBnr::ToonZwevende()
     txtSpeler->setText(zwevende != nullptr ? NaarQString(Lijstregel(*zwevende)) : QString());
     const bool streepje = zwevende != nullptr && zwevende->vindplaats.naam.find('-') != Tekst::npos;
     lblResultaat->setText(
-        streepje ? QStringLiteral("Let op: in deze naam staat een streepje. Het eerste streepje "
-                                  "van een paar scheidt de twee spelers.\nNa het koppelen staat de "
-                                  "sleutel in de plaats van alles wat hierboven als naam staat.")
-                 : resultaat_);
+        streepje
+            ? u"Let op: in deze naam staat een streepje. Het eerste streepje van een paar scheidt "
+              "de twee spelers.\nNa het koppelen staat de sleutel in de plaats van alles wat "
+              "hierboven als naam staat."_s
+            : resultaat_);
     ToonKnoppen();
 }
 
@@ -208,16 +207,14 @@ void frmKoppelNBBnr::ToonKnoppen()
 
 void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)
 {
-    resultaat_ = regels.join(QLatin1Char('\n'));
+    resultaat_ = regels.join(u'\n');
     lblResultaat->setText(resultaat_);
 }
 
 void frmKoppelNBBnr::MeldLeesfout(const QString& wat, const Fout& fout)
 {
     MeldFout(this, QMessageBox::Warning,
-             wat + QStringLiteral(" Er is niets veranderd. Verhelp de oorzaak en probeer het "
-                                  "opnieuw."),
-             fout);
+             wat + u" Er is niets veranderd. Verhelp de oorzaak en probeer het opnieuw."_s, fout);
 }
 
 } // namespace plexoran

@@ -62,8 +62,8 @@ Regellijst* MaakLijst(const QString& naam, const QString& gesproken, QWidget* ou
 
 void frmKoppelNBBnr::Bouw()
 {
-    setObjectName(QStringLiteral("frmKoppelNBBnr"));
-    setWindowTitle(QStringLiteral("Koppelen van zwevende NBB-spelers  aan RVD-ledenbestand"));
+    setObjectName(u"frmKoppelNBBnr"_s);
+    setWindowTitle(u"Koppelen van zwevende NBB-spelers  aan RVD-ledenbestand"_s);
     auto* vakken = new QGridLayout;
     vakken->addWidget(BouwKeuze(), 0, 0);
     vakken->addWidget(BouwUitleg(), 0, 1);
@@ -83,15 +83,13 @@ void frmKoppelNBBnr::Bouw()
 
 QGroupBox* frmKoppelNBBnr::BouwKeuze()
 {
-    auto* Frame1 = new QGroupBox(QStringLiteral("Wijziging van een NBBnr"), this);
-    Noem(Frame1, QStringLiteral("Frame1"));
-    Option1 =
-        MaakOptie(QStringLiteral("Option1"), QStringLiteral("In losse Zittingen"), u't', Frame1);
-    Option2 = MaakOptie(QStringLiteral("Option2"), QStringLiteral("In Competities"), u'C', Frame1);
-    Label4 = MaakLabel(QStringLiteral("Label4"), QString(), Frame1);
-    cmbC = MaakKeus(QStringLiteral("cmbC"), Label4, Frame1);
-    cmdZoekNamen = MaakKnop(QStringLiteral("cmdZoekNamen"),
-                            QStringLiteral("Zoek de zwevende spelers in RVD"), u'Z', Frame1);
+    auto* Frame1 = new QGroupBox(u"Wijziging van een NBBnr"_s, this);
+    Noem(Frame1, u"Frame1"_s);
+    Option1 = MaakOptie(u"Option1"_s, u"In losse Zittingen"_s, u't', Frame1);
+    Option2 = MaakOptie(u"Option2"_s, u"In Competities"_s, u'C', Frame1);
+    Label4 = MaakLabel(u"Label4"_s, QString(), Frame1);
+    cmbC = MaakKeus(u"cmbC"_s, Label4, Frame1);
+    cmdZoekNamen = MaakKnop(u"cmdZoekNamen"_s, u"Zoek de zwevende spelers in RVD"_s, u'Z', Frame1);
     auto* lagen = new QVBoxLayout(Frame1);
     lagen->addWidget(Option1);
     lagen->addWidget(Option2);
@@ -104,37 +102,36 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
 
 QGroupBox* frmKoppelNBBnr::BouwUitleg()
 {
-    auto* Frame3 = new QGroupBox(QStringLiteral("Waarom dit programmadeel?"), this);
-    Noem(Frame3, QStringLiteral("Frame3"));
+    auto* Frame3 = new QGroupBox(u"Waarom dit programmadeel?"_s, this);
+    Noem(Frame3, u"Frame3"_s);
     // A small screen scrolls the texts; it does not cut them.
     auto* vlak = new Tekstvlak(12, 6, Frame3);
-    Noem(vlak, QStringLiteral("vlakUitleg"), QStringLiteral("Waarom dit programmadeel?"));
+    Noem(vlak, u"vlakUitleg"_s, u"Waarom dit programmadeel?"_s);
     vlak->setFrameShape(QFrame::NoFrame);
     vlak->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* blad = new QWidget(vlak);
     auto* lagen = new QVBoxLayout(blad);
     lagen->addWidget(MaakTekst(
         u"Label1",
-        QStringLiteral("Als er in geimporteerde NBB-zittingen (o.a. BWS-zittingen) spelers "
-                       "voorkomen die (ten tijde van het importeren!) nog niet in het "
-                       "RVD-ledenbestand bekend waren (zgn zwevende spelers), dan kunt u hiermee "
-                       "alsnog die spelers koppelen."),
+        u"Als er in geimporteerde NBB-zittingen (o.a. BWS-zittingen) spelers voorkomen die (ten "
+        "tijde van het importeren!) nog niet in het RVD-ledenbestand bekend waren (zgn zwevende "
+        "spelers), dan kunt u hiermee alsnog die spelers koppelen."_s,
         blad));
     lagen->addWidget(MaakTekst(
         u"Label2",
-        QStringLiteral("Dit hoeft niet persé, maar als u gebruik wilt maken van de speciale "
-                       "RVD-opties en zeker in de geimporteeerde competitiezittingen dan moet u "
-                       "dit doen. Denk bijv aan berekenen Clubkampioenschap."),
+        u"Dit hoeft niet persé, maar als u gebruik wilt maken van de speciale RVD-opties en zeker "
+        "in de geimporteeerde competitiezittingen dan moet u dit doen. Denk bijv aan berekenen "
+        "Clubkampioenschap."_s,
         blad));
-    lagen->addWidget(MaakTekst(u"Label3",
-                               QStringLiteral("Vóór dit koppelen moeten de spelergegevens vooraf "
-                                              "van NBB naar RVD geimporteerd zijn."),
-                               blad));
+    lagen->addWidget(MaakTekst(
+        u"Label3",
+        u"Vóór dit koppelen moeten de spelergegevens vooraf van NBB naar RVD geimporteerd zijn."_s,
+        blad));
     lagen->addWidget(MaakTekst(
         u"Label5",
-        QStringLiteral(" Als in NBB een (evt fictief) NBBnr wordt gewijzigd, bijv een cursist "
-                       "wordt NBB-lid, dan kan men volstaan met het handmatig wijzigen van het "
-                       "NBBnr in beide, NBB en RVD (groep Gr05)."),
+        u" Als in NBB een (evt fictief) NBBnr wordt gewijzigd, bijv een cursist wordt NBB-lid, "
+        "dan kan men volstaan met het handmatig wijzigen van het NBBnr in beide, NBB en RVD "
+        "(groep Gr05)."_s,
         blad));
     lagen->addStretch();
     lagen->setContentsMargins(0, 0, 0, 0);
@@ -150,18 +147,15 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
 QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 {
     auto* Frame2 = new QGroupBox(this);
-    Noem(Frame2, QStringLiteral("Frame2"), QStringLiteral("Zwevende spelers"));
-    Label11 = MaakLabel(QStringLiteral("Label11"), QString(), Frame2);
-    lstSpelers = MaakLijst(QStringLiteral("lstSpelers"),
-                           QStringLiteral("Gevonden zwevende spelers"), Frame2);
+    Noem(Frame2, u"Frame2"_s, u"Zwevende spelers"_s);
+    Label11 = MaakLabel(u"Label11"_s, QString(), Frame2);
+    lstSpelers = MaakLijst(u"lstSpelers"_s, u"Gevonden zwevende spelers"_s, Frame2);
     Label11->setBuddy(lstSpelers);
-    txtSpeler =
-        MaakLeesvak(QStringLiteral("txtSpeler"), QStringLiteral("Gekozen zwevende speler"), Frame2);
+    txtSpeler = MaakLeesvak(u"txtSpeler"_s, u"Gekozen zwevende speler"_s, Frame2);
     auto* lagen = new QVBoxLayout(Frame2);
     lagen->addWidget(Label11);
     lagen->addWidget(lstSpelers, 1);
-    auto* Label12 = MaakLabel(QStringLiteral("Label12"),
-                              QStringLiteral("Selecteer hierboven 1 speler"), Frame2);
+    auto* Label12 = MaakLabel(u"Label12"_s, u"Selecteer hierboven 1 speler"_s, Frame2);
     Label12->setBuddy(txtSpeler);
     lagen->addWidget(Label12);
     lagen->addWidget(txtSpeler);
@@ -171,17 +165,16 @@ QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 QGroupBox* frmKoppelNBBnr::BouwRegister()
 {
     auto* Frame4 = new QGroupBox(this);
-    Noem(Frame4, QStringLiteral("Frame4"), QStringLiteral("Spelers uit RVD"));
+    Noem(Frame4, u"Frame4"_s, u"Spelers uit RVD"_s);
     const QString groep = NaarQString(administratie_.mappen.DFIMPG);
-    cmdKiesRVDspeler = MaakKnop(QStringLiteral("cmdKiesRVDspeler"),
-                                QStringLiteral("Kies speler uit RVD (Gr05)"), u'K', Frame4);
-    lstRVDsp = MaakLijst(QStringLiteral("lstRVDsp"), QStringLiteral("Spelers uit RVD"), Frame4);
+    cmdKiesRVDspeler =
+        MaakKnop(u"cmdKiesRVDspeler"_s, u"Kies speler uit RVD (Gr05)"_s, u'K', Frame4);
+    lstRVDsp = MaakLijst(u"lstRVDsp"_s, u"Spelers uit RVD"_s, Frame4);
     lstRVDsp->ZetNaamVanaf(8); // behind the key and two blanks
     QFont vast = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     vast.setPixelSize(QFontInfo(font()).pixelSize());
     lstRVDsp->setFont(vast);
-    txtRVDspeler = MaakLeesvak(QStringLiteral("txtRVDspeler"),
-                               QStringLiteral("Gekozen speler uit RVD"), Frame4);
+    txtRVDspeler = MaakLeesvak(u"txtRVDspeler"_s, u"Gekozen speler uit RVD"_s, Frame4);
     auto* lagen = new QVBoxLayout(Frame4);
     const auto wenk = [&](const char16_t* naam, const QString& tekst) {
         QLabel* label = MaakTekst(naam, tekst, Frame4);
@@ -190,12 +183,10 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
         return label;
     };
     wenk(u"Label9",
-         QStringLiteral("Een speler moet vooraf in RVD (groep %1) bekend zijn anders kan "
-                        "hij hieronder niet gekozen worden.")
-             .arg(groep));
+         u"Een speler moet vooraf in RVD (groep %1) bekend zijn anders kan hij hieronder niet "
+         "gekozen worden."_s.arg(groep));
     wenk(u"Label10",
-         QStringLiteral("Kies hier de RVD-speler (uit %1) wiens identiteit hetzelfde is "
-                        "als de linker speler.")
+         u"Kies hier de RVD-speler (uit %1) wiens identiteit hetzelfde is als de linker speler."_s
              .arg(groep))
         ->setBuddy(txtRVDspeler);
     lagen->addWidget(cmdKiesRVDspeler);
@@ -209,10 +200,10 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
 QWidget* frmKoppelNBBnr::BouwKolomkoppen()
 {
     kolomkoppen_ = new QWidget(this);
-    Label7 = MaakLabel(QStringLiteral("Label7"), QStringLiteral("RVDnr"), kolomkoppen_);
-    lblNaam = MaakLabel(QStringLiteral("lblNaam"), QStringLiteral("Naam"), kolomkoppen_);
-    Label6 = MaakLabel(QStringLiteral("Label6"), QStringLiteral("NBBnr"), kolomkoppen_);
-    Label8 = MaakLabel(QStringLiteral("Label8"), QStringLiteral("NBBledengroep"), kolomkoppen_);
+    Label7 = MaakLabel(u"Label7"_s, u"RVDnr"_s, kolomkoppen_);
+    lblNaam = MaakLabel(u"lblNaam"_s, u"Naam"_s, kolomkoppen_);
+    Label6 = MaakLabel(u"Label6"_s, u"NBBnr"_s, kolomkoppen_);
+    Label8 = MaakLabel(u"Label8"_s, u"NBBledengroep"_s, kolomkoppen_);
     for (QLabel* kop : {Label7, lblNaam, Label6, Label8})
         kop->adjustSize();
     kolomkoppen_->setFixedHeight(Label7->height());
@@ -222,12 +213,11 @@ QWidget* frmKoppelNBBnr::BouwKolomkoppen()
 QLayout* frmKoppelNBBnr::BouwOnderkant()
 {
     cmdStartKoppelen =
-        MaakKnop(QStringLiteral("cmdStartKoppelen"),
-                 QStringLiteral("OK als dit identieke spelers zijn ..."), u'O', this);
-    cmdEinde = MaakKnop(QStringLiteral("cmdEinde"), QStringLiteral("Einde"), u'E', this);
+        MaakKnop(u"cmdStartKoppelen"_s, u"OK als dit identieke spelers zijn ..."_s, u'O', this);
+    cmdEinde = MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this);
     auto* vlak = new Tekstvlak(4, 2, this);
-    Noem(vlak, QStringLiteral("vlakResultaat"), QStringLiteral("Resultaat"));
-    lblResultaat = MaakLabel(QStringLiteral("lblResultaat"), QString(), vlak);
+    Noem(vlak, u"vlakResultaat"_s, u"Resultaat"_s);
+    lblResultaat = MaakLabel(u"lblResultaat"_s, QString(), vlak);
     lblResultaat->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     lblResultaat->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     lblResultaat->setMargin(4);
@@ -236,10 +226,8 @@ QLayout* frmKoppelNBBnr::BouwOnderkant()
     vlak->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
 
     auto* knoppen = new QHBoxLayout;
-    knoppen->addWidget(MaakTekst(u"Label13",
-                                 QStringLiteral("Elke speler moeten afzonderlijk verwerkt worden!"),
-                                 this),
-                       1);
+    knoppen->addWidget(
+        MaakTekst(u"Label13", u"Elke speler moeten afzonderlijk verwerkt worden!"_s, this), 1);
     knoppen->addWidget(cmdStartKoppelen);
     knoppen->addWidget(cmdEinde);
     auto* lagen = new QVBoxLayout;
@@ -251,7 +239,7 @@ QLayout* frmKoppelNBBnr::BouwOnderkant()
 /// As the eye reads: what to search, what was found, the register, then the link.
 void frmKoppelNBBnr::StelTabvolgordeIn()
 {
-    auto* vlakUitleg = findChild<QWidget*>(QStringLiteral("vlakUitleg"));
+    auto* vlakUitleg = findChild<QWidget*>(u"vlakUitleg"_s);
     ZetTabvolgorde({Option1, Option2, cmbC, cmdZoekNamen, vlakUitleg, lstSpelers, txtSpeler,
                     cmdKiesRVDspeler, lstRVDsp, txtRVDspeler, cmdStartKoppelen, cmdEinde,
                     lblResultaat});

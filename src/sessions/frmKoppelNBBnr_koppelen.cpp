@@ -16,19 +16,18 @@ QString Opsomming(const std::vector<std::string>& bestanden)
     QStringList uit;
     for (const std::string& bestand : bestanden) {
         if (uit.size() == TeNoemenBestanden) {
-            uit << QStringLiteral("... en nog ") + Aantal(bestanden.size() - TeNoemenBestanden,
-                                                          QStringLiteral("bestand"),
-                                                          QStringLiteral("bestanden"));
+            uit << u"... en nog "_s +
+                       Aantal(bestanden.size() - TeNoemenBestanden, u"bestand"_s, u"bestanden"_s);
             break;
         }
-        uit << QStringLiteral("- ") + QString::fromStdString(bestand);
+        uit << u"- "_s + QString::fromStdString(bestand);
     }
-    return uit.isEmpty() ? QStringLiteral("- geen") : uit.join(QLatin1Char('\n'));
+    return uit.isEmpty() ? u"- geen"_s : uit.join(u'\n');
 }
 
 QString Hoeveel(const std::vector<std::string>& bestanden, const QString& wat)
 {
-    return wat + QStringLiteral(" (%1):\n").arg(bestanden.size());
+    return wat + u" (%1):\n"_s.arg(bestanden.size());
 }
 
 } // namespace
@@ -36,25 +35,25 @@ QString Hoeveel(const std::vector<std::string>& bestanden, const QString& wat)
 void frmKoppelNBBnr::StartKoppelen()
 {
     if (!Vraag(this, QMessageBox::Information,
-               QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de "
-                              "betreffende zittingbestanden.\r\n\r\nKies OK of Annuleer.")))
+               u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
+               "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s))
         return;
     constexpr int lengteKey = 6;
     const Koppelopdracht opdracht = MaakKoppelopdracht(
         zwevenden_, static_cast<std::size_t>(GekozenZwevende() - zwevenden_.data()),
         NaarTekst(txtRVDspeler->text().left(lengteKey)));
-    const Koppeluitslag uitslag = Koppel(
-        administratie_.schijf, opdracht,
-        frmVoortgang(QStringLiteral("De speler wordt gekoppeld ..."), {}, this).AlsVoortgang());
+    const Koppeluitslag uitslag =
+        Koppel(administratie_.schijf, opdracht,
+               frmVoortgang(u"De speler wordt gekoppeld ..."_s, {}, this).AlsVoortgang());
     QStringList regels;
     const QString naam = NaarQString(opdracht.naam);
     for (const Aangepast& aangepast : uitslag.aangepast)
-        regels << naam + QStringLiteral(" - ") + NaarQString(aangepast.code) +
+        regels << naam + u" - "_s + NaarQString(aangepast.code) +
                       (aangepast.soort == Lijstsoort::Spelers
-                           ? QStringLiteral(" aangepast in Spelerbestand.")
-                           : QStringLiteral(" aangepast in Percentagebestand."));
+                           ? u" aangepast in Spelerbestand."_s
+                           : u" aangepast in Percentagebestand."_s);
     for (const std::string& bestand : uitslag.nietGewijzigd)
-        regels << QStringLiteral("Niet aangepast: ") + QString::fromStdString(bestand);
+        regels << u"Niet aangepast: "_s + QString::fromStdString(bestand);
     ToonResultaat(regels);
     if (uitslag.fout)
         MeldAfgebroken(uitslag);
@@ -70,18 +69,16 @@ void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppelu
         lstSpelers->setFocus(); // for the next one
     if (uitslag.aangepast.empty()) {
         Meld(this, QMessageBox::Warning,
-             QStringLiteral("Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. "
-                            "Misschien heeft een ander programma ze intussen gewijzigd. Zoek de "
-                            "zwevende spelers opnieuw.")
-                 .arg(naam));
+             u"Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. Misschien heeft "
+             "een ander programma ze intussen gewijzigd. Zoek de zwevende spelers opnieuw."_s.arg(
+                 naam));
         return;
     }
     // Not arg: a name may hold a "%1" of its own.
     const QString gekoppeld =
-        gezochtInCompetitie_
-            ? QString(naam + QStringLiteral(" is in alle competitie-zittingen gekoppeld (") +
-                      QString::number(opdracht.regels.size()) + QStringLiteral(" keer)"))
-            : QString(QStringLiteral("Speler ") + naam + QStringLiteral(" is gekoppeld."));
+        gezochtInCompetitie_ ? QString(naam + u" is in alle competitie-zittingen gekoppeld ("_s +
+                                       QString::number(opdracht.regels.size()) + u" keer)"_s)
+                             : QString(u"Speler "_s + naam + u" is gekoppeld."_s);
     Meld(this, QMessageBox::Information, gekoppeld);
 }
 
@@ -89,13 +86,11 @@ void frmKoppelNBBnr::MeldAfgebroken(const Koppeluitslag& uitslag)
 {
     MeldFout(
         this, QMessageBox::Critical,
-        QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of "
-                       "nog zoals het was. Verhelp de oorzaak en koppel deze speler opnieuw; dan "
-                       "wordt de rest aangepast.\n\n") +
-            Hoeveel(uitslag.gewijzigd, QStringLiteral("Aangepast")) + Opsomming(uitslag.gewijzigd) +
-            QStringLiteral("\n\n") +
-            Hoeveel(uitslag.nietGewijzigd, QStringLiteral("Niet aangepast")) +
-            Opsomming(uitslag.nietGewijzigd),
+        u"Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of nog zoals het "
+        "was. Verhelp de oorzaak en koppel deze speler opnieuw; dan wordt de rest aangepast.\n\n"
+        ""_s +
+            Hoeveel(uitslag.gewijzigd, u"Aangepast"_s) + Opsomming(uitslag.gewijzigd) + u"\n\n"_s +
+            Hoeveel(uitslag.nietGewijzigd, u"Niet aangepast"_s) + Opsomming(uitslag.nietGewijzigd),
         *uitslag.fout);
 }
 

@@ -30,17 +30,15 @@ void frmKoppelNBBnr::ZoekNamen()
     if (!zittingen) {
         MeldLeesfout(
             zittingen.error().soort == Foutsoort::Ontbreekt
-                ? QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze map is "
-                                 "er niet meer.")
-                : QStringLiteral("Fout bij het zoeken van de zwevende spelers."),
+                ? u"Fout bij het zoeken van de zwevende spelers: deze map is er niet meer."_s
+                : u"Fout bij het zoeken van de zwevende spelers."_s,
             zittingen.error());
         return;
     }
     gezochtInCompetitie_ = InCompetities();
     auto uitslag =
         ZoekZwevenden(administratie_.schijf, *zittingen,
-                      frmVoortgang(QStringLiteral("De zwevende spelers worden gezocht ..."),
-                                   QStringLiteral("&Stoppen"), this)
+                      frmVoortgang(u"De zwevende spelers worden gezocht ..."_s, u"&Stoppen"_s, this)
                           .AlsVoortgang());
     zwevenden_ = std::move(uitslag.zwevenden);
     ToonGevonden(uitslag);
@@ -56,17 +54,16 @@ void frmKoppelNBBnr::VulZwevenden()
 void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
 {
     VulZwevenden();
-    Label11->setText(zwevenden_.empty() ? QStringLiteral("Geen zwevende spelers gevonden")
-                     : gezochtInCompetitie_
-                         ? QStringLiteral("Gevonden zwevende spelers in deze Competitie")
-                         : QStringLiteral("Gevonden zwevende spelers in deze Zitting"));
+    Label11->setText(zwevenden_.empty()     ? u"Geen zwevende spelers gevonden"_s
+                     : gezochtInCompetitie_ ? u"Gevonden zwevende spelers in deze Competitie"_s
+                                            : u"Gevonden zwevende spelers in deze Zitting"_s);
     QStringList opmerkingen;
     if (uitslag.gestopt)
-        opmerkingen << QStringLiteral("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.");
+        opmerkingen << u"Het zoeken is gestopt: niet alle zittingen zijn doorzocht."_s;
     if (uitslag.overgeslagen > 0)
-        opmerkingen << QStringLiteral("Overgeslagen regels in de percentagebestanden, omdat ze "
-                                      "geen 7 velden hebben: %1.")
-                           .arg(uitslag.overgeslagen);
+        opmerkingen
+            << u"Overgeslagen regels in de percentagebestanden, omdat ze geen 7 velden hebben: "
+               "%1."_s.arg(uitslag.overgeslagen);
     if (!zwevenden_.empty()) {
         lstSpelers->ZetHuidige(0); // may have to say something of it
         lstSpelers->setFocus();
@@ -74,13 +71,13 @@ void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
     if (!opmerkingen.isEmpty())
         ToonResultaat(opmerkingen);
     if (!uitslag.fouten.empty())
-        MeldLeesfout(QStringLiteral("Fout bij het lezen van de zittingbestanden: de spelers uit %1 "
-                                    "staan niet in de lijst.")
-                         .arg(uitslag.fouten.size() == 1
-                                  ? QStringLiteral("het bestand hieronder")
-                                  : QStringLiteral("%1 bestanden, waarvan hieronder het eerste,")
-                                        .arg(uitslag.fouten.size())),
-                     uitslag.fouten.front());
+        MeldLeesfout(
+            u"Fout bij het lezen van de zittingbestanden: de spelers uit %1 staan niet in de "
+            "lijst."_s.arg(
+                uitslag.fouten.size() == 1
+                    ? u"het bestand hieronder"_s
+                    : u"%1 bestanden, waarvan hieronder het eerste,"_s.arg(uitslag.fouten.size())),
+            uitslag.fouten.front());
 }
 
 } // namespace plexoran

@@ -12,10 +12,13 @@
 #include "afbeeldingen/vensterronde.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/inrichting.h"
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/programma.h"
 
 using namespace plexoran;
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,12 +26,12 @@ bool Bewaar(QWidget& venster, const QDir& map)
 {
     // A screen that is only drawn may be small; the pictures show the standard size there.
     const QSize maat = venster.property(Standaardmaat).toSize();
-    if (maat.isValid() && QGuiApplication::platformName() == QLatin1String("offscreen"))
+    if (maat.isValid() && QGuiApplication::platformName() == "offscreen"_L1)
         venster.resize(maat);
     venster.show();
     QApplication::processEvents();
     QApplication::processEvents(); // a layout that changed tells the one around it
-    const QString bestand = map.filePath(venster.objectName() + QStringLiteral(".png"));
+    const QString bestand = map.filePath(venster.objectName() + u".png"_s);
     const bool gelukt = venster.grab().save(bestand);
     if (!gelukt)
         std::fprintf(stderr, "afbeeldingen: %s kon niet worden geschreven\n", qPrintable(bestand));
@@ -45,7 +48,7 @@ int main(int argc, char** argv)
         std::fputs("Gebruik: afbeeldingen MAPPEN_INI MAP\n", stderr);
         return 2;
     }
-    QApplication::setApplicationName(QStringLiteral("plexoran"));
+    QApplication::setApplicationName(u"plexoran"_s);
     QApplication::setApplicationDisplayName(QString());
     RichtIn(programma);
 
@@ -59,7 +62,7 @@ int main(int argc, char** argv)
         return *eindstatus;
     hoofdvenster.show();
     const QDir doel(woorden[2]);
-    bool gelukt = doel.mkpath(QStringLiteral("."));
+    bool gelukt = doel.mkpath(u"."_s);
     DoorloopVensters(hoofdvenster, administratie,
                      [&](QWidget& venster) { gelukt = Bewaar(venster, doel) && gelukt; });
     return gelukt ? 0 : 1;

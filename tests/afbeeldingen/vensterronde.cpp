@@ -103,12 +103,12 @@ void NeemKoppelvenster(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
 {
     frmKoppelNBBnr venster(administratie, &hoofdvenster);
     rondgang.Neem(venster); // fills it
-    if (auto* competities = venster.findChild<QRadioButton*>(QStringLiteral("Option2")))
+    if (auto* competities = venster.findChild<QRadioButton*>(u"Option2"_s))
         competities->setChecked(true);
-    if (auto* cmbC = venster.findChild<QComboBox*>(QStringLiteral("cmbC")))
+    if (auto* cmbC = venster.findChild<QComboBox*>(u"cmbC"_s))
         cmbC->setCurrentIndex(cmbC->count() - 1);
     for (const char* knop : {"cmdZoekNamen", "cmdKiesRVDspeler"}) {
-        if (auto* zwevenden = venster.findChild<QListView*>(QStringLiteral("lstSpelers")))
+        if (auto* zwevenden = venster.findChild<QListView*>(u"lstSpelers"_s))
             zwevenden->setCurrentIndex(zwevenden->model()->index(0, 0));
         if (auto* deel = venster.findChild<QPushButton*>(QString::fromLatin1(knop)))
             deel->click();
@@ -123,8 +123,8 @@ void NeemParen(const Rondgang& rondgang, Administratie& administratie, QWidget& 
     const Maten maten;
     // It is as high as the screen lets it be, which says nothing of a screen that is only drawn.
     venster.setProperty(Standaardmaat, QSize(maten.Twips(15000), maten.Twips(9600)));
-    if (auto* keus = venster.findChild<QComboBox*>(QStringLiteral("cmbNBBledengr"))) {
-        keus->setCurrentIndex(keus->findText(QStringLiteral("Gr05-DINSDAG")));
+    if (auto* keus = venster.findChild<QComboBox*>(u"cmbNBBledengr"_s)) {
+        keus->setCurrentIndex(keus->findText(u"Gr05-DINSDAG"_s));
         emit keus->activated(keus->currentIndex());
     }
     int plaats = 1;

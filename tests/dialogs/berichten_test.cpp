@@ -8,13 +8,15 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 namespace {
 
 TEST(Aantal, EenIsGeenMeervoud)
 {
     const auto spelers = [](std::size_t aantal) {
-        return Aantal(aantal, QStringLiteral("speler"), QStringLiteral("spelers")).toStdString();
+        return Aantal(aantal, u"speler"_s, u"spelers"_s).toStdString();
     };
     EXPECT_EQ("0 spelers", spelers(0));
     EXPECT_EQ("1 speler", spelers(1));
@@ -23,8 +25,8 @@ TEST(Aantal, EenIsGeenMeervoud)
 
 TEST(MeldVerslag, BreektGeenRegelAf)
 {
-    const QString regel = QStringLiteral("100079\tMieke\t\tOudewortel-Quist-van-Wielerdam\t") +
-                          QStringLiteral("DONDERDAGMIDDAG\t97202990\r\n");
+    const QString regel =
+        u"100079\tMieke\t\tOudewortel-Quist-van-Wielerdam\t"_s + u"DONDERDAGMIDDAG\t97202990\r\n"_s;
     bool gezien = false;
     QTimer straks;
     straks.setSingleShot(true);
@@ -32,7 +34,7 @@ TEST(MeldVerslag, BreektGeenRegelAf)
         QApplication::processEvents();
         auto* venster = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(nullptr, venster);
-        const auto* label = venster->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        const auto* label = venster->findChild<QLabel*>(u"qt_msgbox_label"_s);
         ASSERT_NE(nullptr, label);
         EXPECT_EQ(regel + regel, label->text());
         EXPECT_FALSE(label->wordWrap());
@@ -41,7 +43,7 @@ TEST(MeldVerslag, BreektGeenRegelAf)
         venster->close();
     });
     straks.start(0);
-    MeldVerslag(nullptr, regel + regel, QStringLiteral("DUBBELE NAMEN"));
+    MeldVerslag(nullptr, regel + regel, u"DUBBELE NAMEN"_s);
     EXPECT_TRUE(gezien);
 }
 
@@ -49,7 +51,7 @@ TEST(MeldVerslag, BreektGeenRegelAf)
 TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
 {
     for (const int lengte : {40, 400}) {
-        const QString tekst = QStringLiteral("100079\t") + QString(lengte, u'x');
+        const QString tekst = u"100079\t"_s + QString(lengte, u'x');
         QString venster;
         QTimer straks;
         straks.setSingleShot(true);
@@ -66,7 +68,7 @@ TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
             dialoog->close();
         });
         straks.start(0);
-        MeldVerslag(nullptr, tekst, QStringLiteral("DUBBELE NAMEN"));
+        MeldVerslag(nullptr, tekst, u"DUBBELE NAMEN"_s);
         EXPECT_EQ(lengte == 40 ? "" : "frmBericht", venster.toStdString());
     }
 }
@@ -81,13 +83,13 @@ TEST(MeldLijst, EenLangeTekstHoudtZijnIcoon)
             QWidget* dialoog = QApplication::activeModalWidget();
             ASSERT_NE(nullptr, dialoog);
             EXPECT_EQ("frmBericht", dialoog->objectName());
-            const auto* label = dialoog->findChild<QLabel*>(QStringLiteral("lblIcoon"));
+            const auto* label = dialoog->findChild<QLabel*>(u"lblIcoon"_s);
             gezien =
                 label != nullptr && label->isVisible() && label->pixmap().toImage() == verwacht;
             dialoog->close();
         });
         QWidget ouder;
-        MeldLijst(&ouder, icoon, QStringLiteral("regel\n").repeated(40));
+        MeldLijst(&ouder, icoon, u"regel\n"_s.repeated(40));
         EXPECT_TRUE(gezien) << icoon;
     }
     EXPECT_NE(QMessageBox(QMessageBox::Warning, {}, {}).iconPixmap().toImage(),

@@ -9,7 +9,7 @@ using namespace plexoran;
 
 namespace {
 
-const QString kommas = QStringLiteral("Komma's worden veranderd in Underscores. (_)");
+const QString kommas = u"Komma's worden veranderd in Underscores. (_)"_s;
 
 struct Groepstand {
     Groepen groepen;
@@ -77,7 +77,7 @@ TEST_F(diaGrNamenTest, VijftigRijenMetHunOpschriftEnNaam)
         EXPECT_EQ(groepen.Naam(nummer), Vak(nummer)->GeefTekst());
     }
     EXPECT_EQ("Introducés", Vak(8)->text().toStdString());
-    EXPECT_EQ(nullptr, venster->findChild<QWidget*>(QStringLiteral("txt1_51")));
+    EXPECT_EQ(nullptr, venster->findChild<QWidget*>(u"txt1_51"_s));
 }
 
 TEST_F(diaGrNamenTest, DeRijenSchuivenInHunVenster)
@@ -146,8 +146,8 @@ TEST_F(diaGrNamenTest, HetWielSchuiftEnDoetAanHetEindNiets)
 
 TEST_F(diaGrNamenTest, OKBewaartDeTekstenZonderSpatiesEromheen)
 {
-    TypIn(2, QStringLiteral("  Avond & café "));
-    TypIn(3, QStringLiteral("     "));
+    TypIn(2, u"  Avond & café "_s);
+    TypIn(3, u"     "_s);
     KlikOK();
     EXPECT_FALSE(venster->isVisible());
     EXPECT_FALSE(venster->Geannuleerd());
@@ -160,7 +160,7 @@ TEST_F(diaGrNamenTest, OKBewaartDeTekstenZonderSpatiesEromheen)
 
 TEST_F(diaGrNamenTest, EnterIsOK)
 {
-    TypIn(2, QStringLiteral("Avond"));
+    TypIn(2, u"Avond"_s);
     QTest::keyClick(Vak(2), Qt::Key_Return);
     EXPECT_FALSE(venster->isVisible());
     EXPECT_EQ("Avond", groepen.Naam(2));
@@ -170,7 +170,7 @@ TEST_F(diaGrNamenTest, AnnulerenEscapeEnHetSluitvakLatenDeNamenStaan)
 {
     for (int weg = 0; weg < 3; ++weg) {
         Open();
-        TypIn(1, QStringLiteral("Anders"));
+        TypIn(1, u"Anders"_s);
         if (weg == 0)
             Klik(Deel<QPushButton>("cmdAnnuleren"));
         else if (weg == 1)
@@ -186,7 +186,7 @@ TEST_F(diaGrNamenTest, AnnulerenEscapeEnHetSluitvakLatenDeNamenStaan)
 
 TEST_F(diaGrNamenTest, EenKommaWordtBijHetVerlatenEenUnderscore)
 {
-    TypIn(2, QStringLiteral("a,b,c"));
+    TypIn(2, u"a,b,c"_s);
     wachter.Informatie(kommas);
     QTest::keyClick(Vak(2), Qt::Key_Tab);
     QApplication::processEvents();
@@ -198,7 +198,7 @@ TEST_F(diaGrNamenTest, EenKommaKomtOokMetEnterOfOKNietInDeNaam)
 {
     for (int weg = 0; weg < 2; ++weg) {
         Open();
-        TypIn(2, QStringLiteral("a,b"));
+        TypIn(2, u"a,b"_s);
         wachter.Informatie(kommas);
         if (weg == 0)
             QTest::keyClick(Vak(2), Qt::Key_Return);
@@ -213,10 +213,10 @@ TEST_F(diaGrNamenTest, EenKommaKomtOokMetEnterOfOKNietInDeNaam)
 
 TEST_F(diaGrNamenTest, EenTekenDatNietKanWordtGemeld)
 {
-    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet worden opgeslagen.\n\nIn plaats van "
-                                        "'ő' staat er nu 'o'.\n\nKijk na of de tekst zo goed "
-                                        "is."));
-    TypIn(2, QStringLiteral("Erdő"));
+    wachter.Waarschuwing(
+        u"Dit teken kan niet worden opgeslagen.\n\nIn plaats van 'ő' staat er nu 'o'.\n\nKijk na "
+        "of de tekst zo goed is."_s);
+    TypIn(2, u"Erdő"_s);
     wachter.Klaar();
     EXPECT_EQ("Erdo", Vak(2)->text().toStdString());
 }
@@ -225,7 +225,7 @@ TEST_F(diaGrNamenTest, OngedefinieerdeBytesBlijven)
 {
     groepen.ZetNaam(4, "\x81\x8D\x01");
     Open();
-    TypIn(5, QStringLiteral("x"));
+    TypIn(5, u"x"_s);
     KlikOK();
     EXPECT_EQ("\x81\x8D\x01", groepen.Naam(4));
     EXPECT_EQ("x", groepen.Naam(5));

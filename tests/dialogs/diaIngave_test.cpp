@@ -159,7 +159,7 @@ TEST_F(diaIngaveTest, NummerSleutelEnGroepZijnNietTeTypen)
     }
     for (int veld = 1; veld <= 2; ++veld)
         EXPECT_EQ(venster->palette().color(QPalette::Button), Kleur(Vak(veld), QPalette::Base));
-    EXPECT_EQ(nullptr, venster->findChild<QWidget*>(QStringLiteral("opt1_3")));
+    EXPECT_EQ(nullptr, venster->findChild<QWidget*>(u"opt1_3"_s));
 }
 
 TEST_F(diaIngaveTest, DeGroepStaatVetRoodOpGeelInHetMidden)
@@ -246,12 +246,13 @@ TEST_F(diaIngaveTest, ManEnVrouwSchrijvenHunLetter)
 TEST_F(diaIngaveTest, DeHulpVoorStatus)
 {
     Open();
-    wachter.Verwacht({.tekst = QStringLiteral("Status: type 'overl' of 'overleden'. (is "
-                                              "overleden)\r\n\r\nDeze speler wordt niet meer "
-                                              "getoond bij 'Zittingindelen'.\r\n\r\n\r\nTekst "
-                                              "mag in hoofdletters of kleine letters."),
-                      .titel = QStringLiteral("Hulp voor Status"),
-                      .knoppen = {QStringLiteral("OK")}});
+    wachter.Verwacht(
+        {.tekst =
+             u"Status: type 'overl' of 'overleden'. (is overleden)\r\n\r\nDeze speler wordt niet "
+             "meer getoond bij 'Zittingindelen'.\r\n\r\n\r\nTekst mag in hoofdletters of kleine "
+             "letters."_s,
+         .titel = u"Hulp voor Status"_s,
+         .knoppen = {u"OK"_s}});
     Klik(Deel<QPushButton>("cmdH_1"));
     wachter.Klaar();
     EXPECT_TRUE(IsOpen());

@@ -8,7 +8,7 @@ namespace {
 
 class diaIngaveVeldenTest : public Ingaveproef {};
 
-const QString ab = QStringLiteral("a,b");
+const QString ab = u"a,b"_s;
 
 } // namespace
 
@@ -17,7 +17,7 @@ const QString ab = QStringLiteral("a,b");
 TEST_F(diaIngaveVeldenTest, DeSubgroepTyptHoofdletters)
 {
     Open();
-    TypIn(17, QStringLiteral("c-lijn 2é"));
+    TypIn(17, u"c-lijn 2é"_s);
     EXPECT_EQ("C-LIJN 2é", Tekst_(17)) << "een accent pas bij het verlaten";
     Tab();
     EXPECT_EQ("C-LIJN 2É", Tekst_(17));
@@ -27,7 +27,7 @@ TEST_F(diaIngaveVeldenTest, HetNummerTyptAlleenCijfersEnHoogstensAcht)
 {
     Open();
     TypIn(18, QString());
-    Typ(Vak(18), QStringLiteral("1a2b-3 4.5é678,90"));
+    Typ(Vak(18), u"1a2b-3 4.5é678,90"_s);
     EXPECT_EQ("12345678", Tekst_(18));
     QTest::keyClick(Vak(18), Qt::Key_Backspace);
     EXPECT_EQ("1234567", Tekst_(18));
@@ -43,23 +43,23 @@ TEST_F(diaIngaveVeldenTest, BijAchtCijfersWordtOokOverEenSelectieNietsGetypt)
     Open();
     Vak(18)->setFocus();
     Vak(18)->selectAll();
-    Typ(Vak(18), QStringLiteral("9"));
+    Typ(Vak(18), u"9"_s);
     EXPECT_EQ("12345678", Tekst_(18));
 }
 
 TEST_F(diaIngaveVeldenTest, PlakkenInDeSubgroepGeeftHoofdletters)
 {
     Open();
-    PlakIn(17, QStringLiteral("nieuwe groep"));
+    PlakIn(17, u"nieuwe groep"_s);
     EXPECT_EQ("NIEUWE GROEP", Tekst_(17));
 }
 
 TEST_F(diaIngaveVeldenTest, PlakkenInHetNummerHoudtDeCijfersDiePassen)
 {
     Open();
-    PlakIn(18, QStringLiteral("nr. 12.345-678 9"));
+    PlakIn(18, u"nr. 12.345-678 9"_s);
     EXPECT_EQ("12345678", Tekst_(18));
-    PlakIn(18, QStringLiteral("abc,def"));
+    PlakIn(18, u"abc,def"_s);
     EXPECT_EQ("", Tekst_(18));
 }
 
@@ -69,7 +69,7 @@ TEST_F(diaIngaveVeldenTest, PlakkenInHetMiddenVanHetNummerPastOpDeRest)
     Open();
     Vak(18)->setFocus();
     Vak(18)->setCursorPosition(3);
-    QApplication::clipboard()->setText(QStringLiteral("a987b6"));
+    QApplication::clipboard()->setText(u"a987b6"_s);
     QTest::keyClick(Vak(18), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ("12398456", Tekst_(18));
 }
@@ -101,7 +101,7 @@ TEST_F(diaIngaveVeldenTest, EenKommaWordtBijHetVerlatenEenUnderscoreInElkVeld)
     VerwachtKomma();
     Tab();
     EXPECT_EQ("A_B", Tekst_(17));
-    TypIn(13, QStringLiteral(","));
+    TypIn(13, u","_s);
     VerwachtKomma();
     Tab();
     EXPECT_EQ("_", Tekst_(13));
@@ -121,7 +121,7 @@ TEST_F(diaIngaveVeldenTest, EenKlikOpEenAnderVeldIsOokVerlaten)
 TEST_F(diaIngaveVeldenTest, EenGeplakteKommaGaatDezelfdeWeg)
 {
     Open();
-    PlakIn(9, QStringLiteral("Laan 1, 2,3"));
+    PlakIn(9, u"Laan 1, 2,3"_s);
     EXPECT_EQ("Laan 1, 2,3", Tekst_(9));
     VerwachtKomma();
     Enter(9);
@@ -189,10 +189,10 @@ TEST_F(diaIngaveVeldenTest, EenLozePartnerKrijgtUnderscores)
         wachter.Klaar();
         EXPECT_EQ(wordt, Tekst_(6));
     }
-    TypIn(6, QStringLiteral("Jan Partner"));
+    TypIn(6, u"Jan Partner"_s);
     Tab();
     EXPECT_EQ("Jan Partner", Tekst_(6));
-    TypIn(4, QStringLiteral("Partner Jan"));
+    TypIn(4, u"Partner Jan"_s);
     Tab();
     EXPECT_EQ("Partner Jan", Tekst_(4));
 }
@@ -200,7 +200,7 @@ TEST_F(diaIngaveVeldenTest, EenLozePartnerKrijgtUnderscores)
 TEST_F(diaIngaveVeldenTest, EerstHetBerichtVanDeKommaDanDatVanDePartner)
 {
     Open();
-    TypIn(6, QStringLiteral("Partner, Jan"));
+    TypIn(6, u"Partner, Jan"_s);
     VerwachtKomma();
     VerwachtPartner();
     Enter(6);
@@ -212,7 +212,7 @@ TEST_F(diaIngaveVeldenTest, EerstHetBerichtVanDeKommaDanDatVanDePartner)
 TEST_F(diaIngaveVeldenTest, EenSubgroepMetAccentIsOokZonderVerlatenInHoofdletters)
 {
     Open();
-    TypIn(17, QStringLiteral("café"));
+    TypIn(17, u"café"_s);
     Enter(17);
     EXPECT_EQ("CAF\xC9", ingave.IngaveVelden[16]);
 }
@@ -233,7 +233,7 @@ TEST_F(diaIngaveVeldenTest, ZonderAchternaamWordtGeweigerd)
         EXPECT_EQ(Vak(6), venster->focusWidget());
         EXPECT_EQ("veld6", ingave.IngaveVelden[5]) << "er is niets teruggegeven";
 
-        TypIn(6, QStringLiteral("  Bos"));
+        TypIn(6, u"  Bos"_s);
         KlikOK();
         EXPECT_TRUE(Geaccepteerd());
         EXPECT_FALSE(ingave.IngaveFout);
@@ -245,7 +245,7 @@ TEST_F(diaIngaveVeldenTest, ZonderAchternaamWordtGeweigerd)
 TEST_F(diaIngaveVeldenTest, HetSluitvakIsAccepterenMetDeControle)
 {
     Open();
-    TypIn(4, QStringLiteral("Anders"));
+    TypIn(4, u"Anders"_s);
     EXPECT_TRUE(venster->close());
     EXPECT_TRUE(Geaccepteerd());
     EXPECT_EQ("Anders", ingave.IngaveVelden[3]);
@@ -300,8 +300,8 @@ TEST_F(diaIngaveVeldenTest, EnterInElkVeldAccepteert)
 TEST_F(diaIngaveVeldenTest, AlleVeldenKomenTerugOngetrimd)
 {
     Open();
-    TypIn(4, QStringLiteral(" Jan "));
-    TypIn(10, QStringLiteral("  "));
+    TypIn(4, u" Jan "_s);
+    TypIn(10, u"  "_s);
     KlikOK();
     Rijvelden verwacht = velden;
     verwacht[2] = "Gr05-Bondsleden";
@@ -314,7 +314,7 @@ TEST_F(diaIngaveVeldenTest, HetVerborgenNummerKomtOnveranderdTerug)
 {
     velden[17] = "0012\x81z";
     OpenGewoneGroep();
-    TypIn(4, QStringLiteral("Anders"));
+    TypIn(4, u"Anders"_s);
     KlikOK();
     EXPECT_EQ("0012\x81z", ingave.IngaveVelden[17]);
 }
@@ -325,7 +325,7 @@ TEST_F(diaIngaveVeldenTest, EenNieuweSpelerOpentLeegOpHetGeslachtNa)
     Open("Gr02-Avond", false, "Aanmaken");
     for (int veld = 4; veld <= 18; ++veld)
         EXPECT_EQ(veld == 13 ? "M" : "", Tekst_(veld)) << veld;
-    TypIn(6, QStringLiteral("Bos"));
+    TypIn(6, u"Bos"_s);
     KlikOK();
     Rijvelden verwacht;
     verwacht[2] = "Gr02-Avond";
@@ -353,7 +353,7 @@ TEST_F(diaIngaveVeldenTest, WatMenNietAanraaktKomtTotOpDeByteTerug)
     velden[17] = "\x9D\x02z";
     for (const bool importgroep : {true, false}) {
         Open("Gr05-X", importgroep);
-        TypIn(4, QStringLiteral("Jan"));
+        TypIn(4, u"Jan"_s);
         Tab();
         KlikOK();
         Rijvelden verwacht = velden;
@@ -376,7 +376,7 @@ TEST_F(diaIngaveVeldenTest, EenGeplakteTekstVan64KBBlijftHeel)
 TEST_F(diaIngaveVeldenTest, AccentenEnHetEuroteken)
 {
     Open();
-    TypIn(4, QStringLiteral("Zoë Œ€ž"));
+    TypIn(4, u"Zoë Œ€ž"_s);
     KlikOK();
     EXPECT_EQ("Zo\xEB \x8C\x80\x9E", ingave.IngaveVelden[3]);
 }
@@ -384,10 +384,10 @@ TEST_F(diaIngaveVeldenTest, AccentenEnHetEuroteken)
 TEST_F(diaIngaveVeldenTest, EenGetyptTekenDatNietKanWordtVervangenEnGemeld)
 {
     Open();
-    wachter.Waarschuwing(QStringLiteral("Dit teken kan niet worden opgeslagen.\n\nIn plaats van "
-                                        "'ő' staat er nu 'o'.\n\nKijk na of de tekst zo goed "
-                                        "is."));
-    TypIn(4, QStringLiteral("Erdő"));
+    wachter.Waarschuwing(
+        u"Dit teken kan niet worden opgeslagen.\n\nIn plaats van 'ő' staat er nu 'o'.\n\nKijk na "
+        "of de tekst zo goed is."_s);
+    TypIn(4, u"Erdő"_s);
     wachter.Klaar();
     EXPECT_EQ("Erdo", Tekst_(4));
 }
@@ -397,9 +397,10 @@ TEST_F(diaIngaveVeldenTest, EenGetyptTekenZonderLetterDieErOpLijktWordtGeweigerd
     Open();
     for (const int veld : {4, 17}) {
         TypIn(veld, QString());
-        wachter.Waarschuwing(QStringLiteral("Dit teken kan niet worden opgeslagen.\n\n'漢' is "
-                                            "weggelaten.\n\nKijk na of de tekst zo goed is."));
-        Typ(Vak(veld), QStringLiteral("漢"));
+        wachter.Waarschuwing(
+            u"Dit teken kan niet worden opgeslagen.\n\n'漢' is weggelaten.\n\nKijk na of de tekst "
+            "zo goed is."_s);
+        Typ(Vak(veld), u"漢"_s);
         QApplication::processEvents();
         wachter.Klaar();
         EXPECT_EQ("", Tekst_(veld));
@@ -409,10 +410,10 @@ TEST_F(diaIngaveVeldenTest, EenGetyptTekenZonderLetterDieErOpLijktWordtGeweigerd
 TEST_F(diaIngaveVeldenTest, GeplakteTekensDieNietKunnenWordenGemeld)
 {
     Open();
-    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet worden opgeslagen.\n\nIn plaats "
-                                        "van 'ő' staat er nu 'o'.\n'漢' is weggelaten.\n\nKijk na "
-                                        "of de tekst zo goed is."));
-    PlakIn(4, QStringLiteral("Erdő 漢ő"));
+    wachter.Waarschuwing(
+        u"Deze tekens kunnen niet worden opgeslagen.\n\nIn plaats van 'ő' staat er nu 'o'.\n'漢' "
+        "is weggelaten.\n\nKijk na of de tekst zo goed is."_s);
+    PlakIn(4, u"Erdő 漢ő"_s);
     wachter.Klaar();
     EXPECT_EQ("Erdo o", Tekst_(4));
 }

@@ -23,18 +23,17 @@ class diaKopieerTest : public Groepsproef<diaKopieer> {
 
     static Bericht Kopieervraag(const QString& bron, const QString& doel, const QString& antwoord)
     {
-        return {.tekst = QStringLiteral("U gaat spelers kopiëren van groep '") + bron +
-                         QStringLiteral("' naar groep '") + doel +
-                         QStringLiteral("'.\r\n\r\nPas op: Reeds bestaande spelers in '") + doel +
-                         QStringLiteral("' zullen er daarna 2 keer in staan en zult u handmatig "
-                                        "moeten verwijderen!"),
+        return {.tekst =
+                    u"U gaat spelers kopiëren van groep '"_s + bron + u"' naar groep '"_s + doel +
+                    u"'.\r\n\r\nPas op: Reeds bestaande spelers in '"_s + doel +
+                    u"' zullen er daarna 2 keer in staan en zult u handmatig moeten verwijderen!"_s,
                 .antwoord = antwoord,
-                .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+                .knoppen = {u"OK"_s, u"Annuleren"_s}};
     }
 };
 
-const QString ClubNaam = QStringLiteral("Gr01-Clubleden & co");
-const QString OK = QStringLiteral("OK");
+const QString ClubNaam = u"Gr01-Clubleden & co"_s;
+const QString OK = u"OK"_s;
 
 } // namespace
 
@@ -192,8 +191,8 @@ TEST_F(diaKopieerTest, KopieertNaDeVraagEnMeldtHetAantal)
     }
     KlikRegel(2);
     Keus("cmbGrnamen")->setCurrentIndex(7);
-    wachter.Verwacht(Kopieervraag(ClubNaam, QStringLiteral("Gr08-Introducés"), OK));
-    wachter.Informatie(QStringLiteral("Er zijn 2 spelers gekopieerd."));
+    wachter.Verwacht(Kopieervraag(ClubNaam, u"Gr08-Introducés"_s, OK));
+    wachter.Informatie(u"Er zijn 2 spelers gekopieerd."_s);
     Klik(Knop("cmdOK"));
     wachter.Klaar();
     EXPECT_FALSE(venster->isVisible());
@@ -219,8 +218,8 @@ TEST_F(diaKopieerTest, EenRegelZonderSpelerTeltMee)
         moet[rij][17] = "";
     }
     Keus("cmbGrnamen")->setCurrentIndex(7);
-    wachter.Verwacht(Kopieervraag(ClubNaam, QStringLiteral("Gr08-Introducés"), OK));
-    wachter.Informatie(QStringLiteral("Er zijn 3 spelers gekopieerd."));
+    wachter.Verwacht(Kopieervraag(ClubNaam, u"Gr08-Introducés"_s, OK));
+    wachter.Informatie(u"Er zijn 3 spelers gekopieerd."_s);
     Klik(Knop("cmdOK"));
     wachter.Klaar();
     EXPECT_EQ(moet, AlleRijen(administratie.spelers.tabel));
@@ -231,7 +230,7 @@ TEST_F(diaKopieerTest, ZonderSubgroeptekst)
 {
     Vink("chkNBBgrOok")->click();
     wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, OK));
-    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    wachter.Informatie(u"Er zijn 1 spelers gekopieerd."_s);
     Klik(Knop("cmdOK"));
     wachter.Klaar();
     EXPECT_EQ("Gr01-", Cel(7, Kolom::Groep));
@@ -244,8 +243,8 @@ TEST_F(diaKopieerTest, ZonderSubgroeptekst)
 TEST_F(diaKopieerTest, HetNummerGaatNooitMee)
 {
     KiesBron(5);
-    wachter.Verwacht(Kopieervraag(QStringLiteral("Gr05-Bondsleden"), ClubNaam, OK));
-    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    wachter.Verwacht(Kopieervraag(u"Gr05-Bondsleden"_s, ClubNaam, OK));
+    wachter.Informatie(u"Er zijn 1 spelers gekopieerd."_s);
     Vink("chkNBBnrOok")->click();
     Klik(Knop("cmdOK"));
     wachter.Klaar();
@@ -257,7 +256,7 @@ TEST_F(diaKopieerTest, AnnulerenVanDeVraagLaatHetVensterOpen)
 {
     const auto oud = AlleRijen(administratie.spelers.tabel);
     for (const QString& antwoord :
-         {QStringLiteral("Annuleren"), Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
+         {u"Annuleren"_s, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
         wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, antwoord));
         Klik(Knop("cmdOK"));
         wachter.Klaar();
@@ -284,7 +283,7 @@ TEST_F(diaKopieerTest, AlsDeSleutelsOpZijnBlijftHetVensterOpen)
     administratie.mappen.SPEMAP = "C:\\club";
     geheugen.Zet("C:\\club\\RVDspelers.txt", "HKEY=2147483647\r\n");
     wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, OK));
-    wachter.SleutelsOp(QStringLiteral("Er is niets gekopieerd"), "C:\\club\\RVDspelers.txt");
+    wachter.SleutelsOp(u"Er is niets gekopieerd"_s, "C:\\club\\RVDspelers.txt");
     Klik(Knop("cmdOK"));
     wachter.Klaar();
     EXPECT_TRUE(venster->isVisible());

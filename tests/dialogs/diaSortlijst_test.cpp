@@ -91,10 +91,7 @@ class diaSortlijstTest : public testing::Test {
         return {};
     }
     /// The width of the letter "A" on the surface.
-    [[nodiscard]] double A() const
-    {
-        return QFontMetrics(P1()->font()).horizontalAdvance(QLatin1Char('A'));
-    }
+    [[nodiscard]] double A() const { return QFontMetrics(P1()->font()).horizontalAdvance(u'A'); }
 
     QWidget hoofd;
     std::vector<Tekst> regels;

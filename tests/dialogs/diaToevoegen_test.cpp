@@ -18,8 +18,7 @@ using Teksten = std::vector<std::string>;
 const std::string Zomer = "Zittingen/Zomerdrive 2024_Rev";
 const std::string Zondag = "Zittingen/Zondagdrive 2024_Rev";
 const QString OudeKeys =
-    QStringLiteral("De spelernamen hebben al een RVD-key, maar dit kan een oude zijn, wordt "
-                   "verwijderd.");
+    u"De spelernamen hebben al een RVD-key, maar dit kan een oude zijn, wordt verwijderd."_s;
 
 /// The real dialog on a copy of the sample suite.
 class diaToevoegenTest : public Dialoogproef<diaToevoegen, Suitestand> {
@@ -40,14 +39,11 @@ class diaToevoegenTest : public Dialoogproef<diaToevoegen, Suitestand> {
     [[nodiscard]] const Spelertabel& Tabel() const { return administratie.spelers.tabel; }
     void VoegToe()
     {
-        wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+        wachter.Informatie(u"De spelers zijn toegevoegd."_s);
         Klik(Knop("cmdStart"));
         wachter.Klaar();
     }
-    void VerwachtAfscheid()
-    {
-        wachter.Informatie(QStringLiteral("Er worden geen spelers toegevoegd."));
-    }
+    void VerwachtAfscheid() { wachter.Informatie(u"Er worden geen spelers toegevoegd."_s); }
 };
 
 const std::string Verslag = "N01 100172 - 100173\r\nN02 100174 - 100175\r\nN03 100176 - 0\r\n"
@@ -171,10 +167,10 @@ TEST_F(diaToevoegenTest, EenVerslagDatTerugStaatMaarNietVastIsTeruggezet)
     ASSERT_NO_FATAL_FAILURE(Open());
     VoegToe();
     schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
-    wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat "
-                                              "heel op de schijf."),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst = u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf."_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     VerwachtAfscheid();
     Klik(Knop("cmdAnnuleren"));
     wachter.Klaar();
@@ -237,12 +233,12 @@ TEST_F(diaToevoegenTest, ZonderClubnaamBlijftDeEigenLijst)
 TEST_F(diaToevoegenTest, EenKopieDieMislukt)
 {
     schijf.FaalBij(1);
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map "
-                                              "Puntenboek. De spelers en de zitting zijn niet "
-                                              "veranderd. Verhelp de oorzaak en kies de zitting "
-                                              "opnieuw.\n\nBestand: "),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst = u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de "
+                  "zitting zijn niet veranderd. Verhelp de oorzaak en kies de zitting opnieuw.\n\n"
+                  "Bestand: "_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
 }
@@ -250,10 +246,10 @@ TEST_F(diaToevoegenTest, EenKopieDieMislukt)
 TEST_F(diaToevoegenTest, EenKopieDieErStaatMaarNietVastIsGelezen)
 {
     schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
-    wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat "
-                                              "heel op de schijf."),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst = u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf."_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ("Aantal toe te voegen spelers: 12", Label("Label4")); // not the 6 of its own list
 }
@@ -266,10 +262,10 @@ TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
     for (const int stap : {1, 2, 3, 4, 5, 6}) {
         schijf.FaalBij(stap);
         wachter.Verwacht(
-            {.tekst = QStringLiteral("Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets "
-                                     "toegevoegd: zonder dat bestand zijn de nieuwe spelers niet "
-                                     "aan deze zitting te koppelen. Verhelp de oorzaak en probeer "
-                                     "het opnieuw.\n\nBestand: "),
+            {.tekst =
+                 u"Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets toegevoegd: zonder "
+                 "dat bestand zijn de nieuwe spelers niet aan deze zitting te koppelen. Verhelp "
+                 "de oorzaak en probeer het opnieuw.\n\nBestand: "_s,
              .icoon = QMessageBox::Warning,
              .alleenBegin = true});
         Klik(Knop("cmdStart"));
@@ -289,8 +285,7 @@ TEST_F(diaToevoegenTest, AlsDeSleutelsOpZijn)
 {
     administratie.spelers.HKEY = std::numeric_limits<std::int32_t>::max() - 3;
     ASSERT_NO_FATAL_FAILURE(Open());
-    wachter.SleutelsOp(QStringLiteral("Er is niets toegevoegd"),
-                       suite.Toonpad("Spelers/RVDspelers.txt"));
+    wachter.SleutelsOp(u"Er is niets toegevoegd"_s, suite.Toonpad("Spelers/RVDspelers.txt"));
     const int oud = Tabel().Rijen();
     Klik(Knop("cmdStart"));
     EXPECT_EQ(oud, Tabel().Rijen());
@@ -306,7 +301,7 @@ TEST_F(diaToevoegenTest, MetHetToetsenbord)
         EXPECT_STREQ(naam, venster->focusWidget()->objectName().toUtf8().constData());
         QTest::keyClick(venster->focusWidget(), Qt::Key_Tab);
     }
-    wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+    wachter.Informatie(u"De spelers zijn toegevoegd."_s);
     QTest::keyClick(venster.get(), Qt::Key_D, Qt::AltModifier);
     ASSERT_TRUE(QTest::qWaitFor([this] { return Knop("OKButton")->isEnabled(); }));
     wachter.Klaar();
@@ -320,12 +315,11 @@ TEST_F(diaToevoegenTest, EenClubnaamMetEenStreepWordtEenKeerGemeld)
 {
     suite.Zet("Puntenboek/Rev_Clubnaam.txt", "Noord/Zuid\r\n");
     wachter.Waarschuwing(
-        QStringLiteral("Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De "
-                       "spelers en de zitting zijn niet veranderd. Verhelp de oorzaak en kies de "
-                       "zitting opnieuw.\n\nBestand: ") +
+        u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de zitting "
+        "zijn niet veranderd. Verhelp de oorzaak en kies de zitting opnieuw.\n\nBestand: "_s +
         QString::fromStdString(suite.Toonpad("Puntenboek/Rev_Clubnaam.txt")) +
-        QStringLiteral("\nOorzaak: 'Noord/Zuid' kan niet de naam van een bestand of map zijn: "
-                       "daarin mogen geen '/', '\\', 'C:' of '..' staan"));
+        u"\nOorzaak: 'Noord/Zuid' kan niet de naam van een bestand of map zijn: daarin mogen geen "
+        "'/', '\\', 'C:' of '..' staan"_s);
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Klaar();
     ASSERT_EQ(2, Keus()->count());

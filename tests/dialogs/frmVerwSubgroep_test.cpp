@@ -15,24 +15,23 @@ class frmVerwSubgroepTest : public Groepsproef<frmVerwSubgroep> {
     static Bericht Vraag(const QString& subgroep, const QString& groep, const QString& antwoord,
                          const QString& spelers)
     {
-        return {.tekst = QStringLiteral("U gaat alle spelers van Subgroep '") + subgroep +
-                         QStringLiteral("'\r\nuit RVDgroep '") + groep +
-                         QStringLiteral("' verwijderen!\r\n\r\nWeet u het zeker?"),
+        return {.tekst = u"U gaat alle spelers van Subgroep '"_s + subgroep +
+                         u"'\r\nuit RVDgroep '"_s + groep +
+                         u"' verwijderen!\r\n\r\nWeet u het zeker?"_s,
                 .antwoord = antwoord,
-                .titel = QStringLiteral("Verwijderen?"),
-                .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")},
+                .titel = u"Verwijderen?"_s,
+                .knoppen = {u"OK"_s, u"Annuleren"_s},
                 .toelichting = spelers};
     }
     void VerwachtKlaar(int aantal)
     {
-        wachter.Informatie(
-            QStringLiteral("Klaar! \r\nEr zijn %1 speler(s) verwijderd.").arg(aantal));
+        wachter.Informatie(u"Klaar! \r\nEr zijn %1 speler(s) verwijderd."_s.arg(aantal));
     }
 };
 
-const QString ClubNaam = QStringLiteral("Gr01-Clubleden & co");
-const QString ALijn = QStringLiteral("2 spelers:\nAn Bos\nEls Fuik");
-const QString OK = QStringLiteral("OK");
+const QString ClubNaam = u"Gr01-Clubleden & co"_s;
+const QString ALijn = u"2 spelers:\nAn Bos\nEls Fuik"_s;
+const QString OK = u"OK"_s;
 
 } // namespace
 
@@ -76,7 +75,7 @@ TEST_F(frmVerwSubgroepTest, DezelfdeGroepNogEensKiezenBegintOpnieuw)
 TEST_F(frmVerwSubgroepTest, VerwijdertNaDeVraagEnVultDeLijstOpnieuw)
 {
     EXPECT_FALSE(venster->IetsVerwijderd());
-    wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, OK, ALijn));
+    wachter.Verwacht(Vraag(u"A-lijn"_s, ClubNaam, OK, ALijn));
     VerwachtKlaar(2);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -87,8 +86,7 @@ TEST_F(frmVerwSubgroepTest, VerwijdertNaDeVraagEnVultDeLijstOpnieuw)
     EXPECT_EQ("100004", Cel(3, Kolom::Key));
     EXPECT_EQ("3", Cel(3, Kolom::Nr));
 
-    wachter.Verwacht(
-        Vraag(QStringLiteral("geen"), ClubNaam, OK, QStringLiteral("1 speler:\nDirk Eik")));
+    wachter.Verwacht(Vraag(u"geen"_s, ClubNaam, OK, u"1 speler:\nDirk Eik"_s));
     VerwachtKlaar(1);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -103,8 +101,7 @@ TEST_F(frmVerwSubgroepTest, DeGekozenSubgroepVanDeGekozenGroep)
 {
     KiesGroep(5);
     Keus("cmbSubGr")->setCurrentIndex(1);
-    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK,
-                           QStringLiteral("1 speler:\nFred Gans")));
+    wachter.Verwacht(Vraag(u"MAANDAG"_s, u"Gr05-Bondsleden"_s, OK, u"1 speler:\nFred Gans"_s));
     VerwachtKlaar(1);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -119,7 +116,7 @@ TEST_F(frmVerwSubgroepTest, MetSpatiesEromheenWordtErNietsVerwijderd)
     administratie.spelers.tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", " x ", ""}});
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ((Teksten_t{"x"}), Teksten("cmbSubGr"));
-    wachter.Verwacht(Vraag(QStringLiteral("x"), ClubNaam, OK, QStringLiteral("0 spelers")));
+    wachter.Verwacht(Vraag(u"x"_s, ClubNaam, OK, u"0 spelers"_s));
     VerwachtKlaar(0);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
@@ -131,8 +128,8 @@ TEST_F(frmVerwSubgroepTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
 {
     const auto oud = AlleRijen(administratie.spelers.tabel);
     for (const QString& antwoord :
-         {QStringLiteral("Annuleren"), Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
-        wachter.Verwacht(Vraag(QStringLiteral("A-lijn"), ClubNaam, antwoord, ALijn));
+         {u"Annuleren"_s, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
+        wachter.Verwacht(Vraag(u"A-lijn"_s, ClubNaam, antwoord, ALijn));
         Klik(Knop("cmdVerwijder"));
         wachter.Klaar();
     }
@@ -153,8 +150,7 @@ TEST_F(frmVerwSubgroepTest, MetHetToetsenbordAlleen)
     toets(Qt::Key_Down);
     toets(Qt::Key_Tab);
     EXPECT_TRUE(Knop("cmdVerwijder")->hasFocus());
-    wachter.Verwacht(Vraag(QStringLiteral("MAANDAG"), QStringLiteral("Gr05-Bondsleden"), OK,
-                           QStringLiteral("1 speler:\nFred Gans")));
+    wachter.Verwacht(Vraag(u"MAANDAG"_s, u"Gr05-Bondsleden"_s, OK, u"1 speler:\nFred Gans"_s));
     VerwachtKlaar(1);
     toets(Qt::Key_Return);
     wachter.Klaar();

@@ -98,7 +98,7 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
             EXPECT_EQ(Keus(naam)->currentText(), Keus(naam)->itemData(0, Qt::ToolTipRole)) << naam;
         }
         Kies(keuzes.front(), 1);
-        EXPECT_TRUE(Keus(keuzes.front())->toolTip().contains(QStringLiteral("Gr02-&lt;b&gt;W")));
+        EXPECT_TRUE(Keus(keuzes.front())->toolTip().contains(u"Gr02-&lt;b&gt;W"_s));
     }
     [[nodiscard]] Tekst Cel(int rij, Kolom kolom) const
     {

@@ -101,18 +101,15 @@ class Ingaveproef : public testing::Test {
     }
     void KlikOK() const { Klik(Deel<QPushButton>("cmdOK")); }
 
-    void VerwachtKomma()
-    {
-        wachter.Informatie(QStringLiteral("Komma's worden veranderd in Underscores"));
-    }
+    void VerwachtKomma() { wachter.Informatie(u"Komma's worden veranderd in Underscores"_s); }
     void VerwachtPartner()
     {
-        wachter.Informatie(QStringLiteral(
-            "Bij dummy-speler 'Partner...' worden spaties veranderd in Underscores"));
+        wachter.Informatie(
+            u"Bij dummy-speler 'Partner...' worden spaties veranderd in Underscores"_s);
     }
     void VerwachtGeenAchternaam()
     {
-        wachter.Waarschuwing(QStringLiteral("U moet minimaal de ACHTERNAAM invullen!"));
+        wachter.Waarschuwing(u"U moet minimaal de ACHTERNAAM invullen!"_s);
     }
 
     [[nodiscard]] bool IsOpen() const { return venster->isVisible(); }

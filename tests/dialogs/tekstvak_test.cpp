@@ -33,9 +33,8 @@ class TekstvakTest : public testing::Test {
     void VerwachtTeken(const QString& regels)
     {
         wachter.Waarschuwing(
-            QStringLiteral("Dit teken kan niet worden opgeslagen.\n\n%1\n\nKijk na of de tekst zo "
-                           "goed is.")
-                .arg(regels));
+            u"Dit teken kan niet worden opgeslagen.\n\n%1\n\nKijk na of de tekst zo goed is."_s.arg(
+                regels));
     }
 
     Berichtwachter wachter;
@@ -67,7 +66,7 @@ TEST_F(TekstvakTest, GeeftEenTekstVanElkeLengteTerug)
     vak.ZetTekst(lang);
     EXPECT_EQ(lang, vak.GeefTekst());
     QTest::keyClick(&vak, Qt::Key_End);
-    Typ(&vak, QStringLiteral("y"));
+    Typ(&vak, u"y"_s);
     EXPECT_EQ(lang + "y", vak.GeefTekst());
 }
 
@@ -75,7 +74,7 @@ TEST_F(TekstvakTest, OngedefinieerdeBytesBlijvenOokNaEenWijzigingErnaast)
 {
     vak.ZetTekst("a\x81\x8D\x8F\x90\x9Dz");
     QTest::keyClick(&vak, Qt::Key_End);
-    Typ(&vak, QStringLiteral("é"));
+    Typ(&vak, u"é"_s);
     EXPECT_EQ("a\x81\x8D\x8F\x90\x9Dz\xE9", vak.GeefTekst());
 }
 
@@ -83,22 +82,22 @@ TEST_F(TekstvakTest, NaTerugtypenStaanDeBeginbytesErWeer)
 {
     vak.ZetTekst("\x01\tz");
     QTest::keyClick(&vak, Qt::Key_End);
-    Typ(&vak, QStringLiteral("x"));
+    Typ(&vak, u"x"_s);
     QTest::keyClick(&vak, Qt::Key_Backspace);
     EXPECT_EQ("\x01\tz", vak.GeefTekst());
 }
 
 TEST_F(TekstvakTest, EenLosAccentHoortBijZijnLetter)
 {
-    Typ(&vak, QStringLiteral("e\u0301"));
+    Typ(&vak, u"e\u0301"_s);
     EXPECT_EQ("\xE9", vak.GeefTekst());
     EXPECT_EQ("é", vak.text().toStdString());
 }
 
 TEST_F(TekstvakTest, EenGetyptTekenDatNietKanWordtDeNaasteLetter)
 {
-    VerwachtTeken(QStringLiteral("In plaats van 'ő' staat er nu 'o'."));
-    Typ(&vak, QStringLiteral("aőb"));
+    VerwachtTeken(u"In plaats van 'ő' staat er nu 'o'."_s);
+    Typ(&vak, u"aőb"_s);
     QApplication::processEvents();
     wachter.Klaar();
     EXPECT_EQ("aob", vak.GeefTekst());
@@ -106,8 +105,8 @@ TEST_F(TekstvakTest, EenGetyptTekenDatNietKanWordtDeNaasteLetter)
 
 TEST_F(TekstvakTest, EenTekenZonderNaasteLetterWordtWeggelaten)
 {
-    VerwachtTeken(QStringLiteral("'漢' is weggelaten."));
-    Typ(&vak, QStringLiteral("a漢b"));
+    VerwachtTeken(u"'漢' is weggelaten."_s);
+    Typ(&vak, u"a漢b"_s);
     QApplication::processEvents();
     wachter.Klaar();
     EXPECT_EQ("ab", vak.GeefTekst());
@@ -116,13 +115,13 @@ TEST_F(TekstvakTest, EenTekenZonderNaasteLetterWordtWeggelaten)
 TEST_F(TekstvakTest, MetEenToetsregelWordtHetOokGemeld)
 {
     vak.ZetToetsregel([](char teken, std::size_t) { return teken; });
-    VerwachtTeken(QStringLiteral("In plaats van 'ő' staat er nu 'o'."));
-    Typ(&vak, QStringLiteral("ő"));
+    VerwachtTeken(u"In plaats van 'ő' staat er nu 'o'."_s);
+    Typ(&vak, u"ő"_s);
     QApplication::processEvents();
     wachter.Klaar();
     EXPECT_EQ("o", vak.GeefTekst());
-    VerwachtTeken(QStringLiteral("'漢' is weggelaten."));
-    Typ(&vak, QStringLiteral("漢"));
+    VerwachtTeken(u"'漢' is weggelaten."_s);
+    Typ(&vak, u"漢"_s);
     QApplication::processEvents();
     wachter.Klaar();
     EXPECT_EQ("o", vak.GeefTekst());
@@ -130,25 +129,25 @@ TEST_F(TekstvakTest, MetEenToetsregelWordtHetOokGemeld)
 
 TEST_F(TekstvakTest, ElkTekenWordtEenKeerGenoemd)
 {
-    wachter.Waarschuwing(QStringLiteral("Deze tekens kunnen niet worden opgeslagen.\n\nIn plaats "
-                                        "van 'ő' staat er nu 'o'.\n'漢' is weggelaten.\n\nKijk na "
-                                        "of de tekst zo goed is."));
-    Plak(QStringLiteral("ő漢ő漢"));
+    wachter.Waarschuwing(
+        u"Deze tekens kunnen niet worden opgeslagen.\n\nIn plaats van 'ő' staat er nu 'o'.\n'漢' "
+        "is weggelaten.\n\nKijk na of de tekst zo goed is."_s);
+    Plak(u"ő漢ő漢"_s);
     wachter.Klaar();
     EXPECT_EQ("oo", vak.GeefTekst());
 }
 
 TEST_F(TekstvakTest, EenTekenVanTweeEenheden)
 {
-    VerwachtTeken(QStringLiteral("'😀' is weggelaten."));
-    Plak(QStringLiteral("a😀b"));
+    VerwachtTeken(u"'😀' is weggelaten."_s);
+    Plak(u"a😀b"_s);
     wachter.Klaar();
     EXPECT_EQ("ab", vak.GeefTekst());
 }
 
 TEST_F(TekstvakTest, RegeleindenEnTabsWordenSpatiesEnStuurtekensGaanWeg)
 {
-    Plak(QStringLiteral("een\r\ntwee\tdrie\u0007vier\u2028vijf"));
+    Plak(u"een\r\ntwee\tdrie\u0007vier\u2028vijf"_s);
     const Tekst tekst = vak.GeefTekst();
     EXPECT_EQ(Tekst::npos, tekst.find_first_of("\r\n\t\x07"));
     EXPECT_TRUE(tekst == "een  twee drievier vijf" || tekst == "een twee drievier vijf") << tekst;
@@ -161,9 +160,9 @@ TEST_F(TekstvakTest, DeToetsregelGeldtVoorTypenEnPlakken)
             return std::nullopt;
         return teken;
     });
-    Typ(&vak, QStringLiteral("a1b2"));
+    Typ(&vak, u"a1b2"_s);
     EXPECT_EQ("12", vak.GeefTekst());
-    Plak(QStringLiteral("x3y4"));
+    Plak(u"x3y4"_s);
     EXPECT_EQ("123", vak.GeefTekst());
     QTest::keyClick(&vak, Qt::Key_Backspace);
     EXPECT_EQ("12", vak.GeefTekst()) << "wissen mag altijd";
@@ -196,9 +195,9 @@ TEST_F(TekstvakTest, VerlatenKomtBijEenAnderDeelEnNietBijEenMenu)
 
 TEST_F(TekstvakTest, GeslepteTekstWordtOokGezuiverd)
 {
-    VerwachtTeken(QStringLiteral("In plaats van 'ő' staat er nu 'o'."));
+    VerwachtTeken(u"In plaats van 'ő' staat er nu 'o'."_s);
     QMimeData tekst;
-    tekst.setText(QStringLiteral("xő\ny"));
+    tekst.setText(u"xő\ny"_s);
     QDragEnterEvent begin(QPoint(3, 3), Qt::CopyAction, &tekst, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&vak, &begin);
     QDropEvent val(QPointF(3, 3), Qt::CopyAction, &tekst, Qt::LeftButton, Qt::NoModifier);

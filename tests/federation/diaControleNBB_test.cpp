@@ -114,7 +114,7 @@ TEST_F(diaControleNBBTest, IsEenTabelVoorWieNietKijkt)
         QStringList cellen;
         for (int kolom = 0; kolom < 4; ++kolom)
             cellen << tabel->cellAt(nummer, kolom)->text(QAccessible::Name);
-        return cellen.join(QLatin1Char('|')).toStdString();
+        return cellen.join(u'|').toStdString();
     };
     EXPECT_EQ("101|V|Club|Zee, Zus van", rij(0));
     EXPECT_EQ("||Club|Bos, An", rij(1));
@@ -154,11 +154,12 @@ TEST_F(diaControleNBBTest, GeslachtAlleenAlsHetIsAangevinkt)
 
 TEST_F(diaControleNBBTest, NaEenBestandDatNietGelezenWerdGaatDeLijstVerder)
 {
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Weg.csv' CSV-bestand\r\n"
-                                              "Het bestand is er niet (meer); de leden "
-                                              "ervan staan niet in het overzicht. "),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"Fout bij het lezen van 'Weg.csv' CSV-bestand\r\nHet bestand is er niet (meer); de "
+             "leden ervan staan niet in het overzicht. "_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open({"Weg.csv", "Dinsdagavondclub.csv"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 104 V Dinsdagavo Aap, Bea de", Geschilderd());
 }
@@ -168,12 +169,11 @@ TEST_F(diaControleNBBTest, EenFoutInEenNbb3Bestand)
     opdracht.bron = Ledenbron::XmlNbb3;
     map.Zet("Stuk.xml", "<lijst><lid>");
     wachter.Waarschuwing(
-        QStringLiteral("Fout bij het lezen van 'Stuk.xml' NBB3-XML-bestand\r\nDe inhoud is niet "
-                       "die van een ledenbestand; de leden ervan staan niet in het overzicht. "
-                       "Exporteer het opnieuw of kies een ander ledenbestand.\r\n\r\n"
-                       "Bestand: %1\nRegel: 1\nOorzaak: een eindtag ontbreekt of hoort niet bij de "
-                       "begintag (teken 12 van die regel)")
-            .arg(QString::fromStdString((map.Weg() / "Stuk.xml").string())));
+        u"Fout bij het lezen van 'Stuk.xml' NBB3-XML-bestand\r\nDe inhoud is niet die van een "
+        "ledenbestand; de leden ervan staan niet in het overzicht. Exporteer het opnieuw of kies "
+        "een ander ledenbestand.\r\n\r\nBestand: %1\nRegel: 1\nOorzaak: een eindtag ontbreekt of "
+        "hoort niet bij de begintag (teken 12 van die regel)"_s.arg(
+            QString::fromStdString((map.Weg() / "Stuk.xml").string())));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml"}));
     EXPECT_FALSE(Knop("cmdPrint")->isEnabled());
 }
@@ -182,10 +182,9 @@ TEST_F(diaControleNBBTest, EenTeKorteRegelWordtGemeldMetWatErVoorStond)
 {
     map.Zet("Kort.csv",
             Csv("1", "V", "An", "", "Bos") + "2;V;Bea\r\n" + Csv("3", "V", "Cor", "", "Dam"));
-    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden viel dit op; er is "
-                                      "niets veranderd.\r\n\r\n'Kort.csv': "
-                                      "gelezen tot regel 2, want die regel heeft te weinig "
-                                      "kolommen."));
+    wachter.Informatie(
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"
+        "'Kort.csv': gelezen tot regel 2, want die regel heeft te weinig kolommen."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Kort.csv"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 1 V Kort Bos, An", Geschilderd());
 }
@@ -194,12 +193,10 @@ TEST_F(diaControleNBBTest, WatErNietInStaatWordtGemeld)
 {
     map.Zet("Kop.csv", "VERSIE=2.8\r\n" + Csv("1", "V", "An", "", "Bos") +
                            Csv("2", "V", "Bea", "", "D=m") + Csv("3", "V", "Zo\xC3\xAB", "", "Ek"));
-    wachter.Informatie(QStringLiteral(
-        "Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n'Kop.csv': "
-        "opgeslagen in UTF-8, dus letters "
-        "met "
-        "een accent komen verkeerd over.\r\n'Kop.csv': 2 regels overgeslagen, omdat er een '=' "
-        "in staat, zoals in een kopregel."));
+    wachter.Informatie(
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"
+        "'Kop.csv': opgeslagen in UTF-8, dus letters met een accent komen verkeerd over.\r\n"
+        "'Kop.csv': 2 regels overgeslagen, omdat er een '=' in staat, zoals in een kopregel."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Kop.csv"}));
     EXPECT_EQ("Aantal leden: 2", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
 }
@@ -211,14 +208,13 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
     map.Zet("Heel.xml", "<ReportableMembersList><Members><ReportableMember><LeagueId>7</LeagueId>"
                         "<Achternaam>Sz\xC5\x91</Achternaam></ReportableMember></Members>"
                         "</ReportableMembersList>");
-    wachter.Informatie(QStringLiteral(
-        "Bij het lezen van de ledenbestanden viel dit op; er is niets "
-        "veranderd.\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
-        "niet als XML worden gelezen; regel 1: een eindtag ontbreekt of hoort niet bij de begintag "
-        "(teken 12 van die regel).\r\n'Weg.xml': geen leden, want het bestand is er niet "
-        "(meer).\r\n'Heel.xml': aantal tekens dat het spelerbestand niet kent en "
-        "dat "
-        "is vervangen door een teken dat erop lijkt, of is weggelaten: 1."));
+    wachter.Informatie(
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"
+        "'Stuk.xml': geen leden, want het bestand kon niet als XML worden gelezen; regel 1: een "
+        "eindtag ontbreekt of hoort niet bij de begintag (teken 12 van die regel).\r\n'Weg.xml': "
+        "geen leden, want het bestand is er niet (meer).\r\n'Heel.xml': aantal tekens dat het "
+        "spelerbestand niet kent en dat is vervangen door een teken dat erop lijkt, of is "
+        "weggelaten: 1."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Weg.xml", "Heel.xml"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 7 Heel Szo,", Geschilderd());
 }
@@ -228,13 +224,11 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
     map.Zet("Members.mdb", DatabaseMetJeugdnummer(1012));
     opdracht.bron = Ledenbron::Database;
     opdracht.LedenDatabase = Samen(map.AlsPad(), "Members.mdb");
-    wachter.Informatie(QStringLiteral(
-        "Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n'Jeugd "
-        "1012': dit zijn de leden van het "
-        "ledenbestand met nummer 12, want van het nummer tellen alleen de laatste drie tekens."
-        "\r\n'Jeugd 1012': aantal tekens dat het spelerbestand niet kent en dat is vervangen door "
-        "een "
-        "teken dat erop lijkt, of is weggelaten: 1."));
+    wachter.Informatie(
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n'Jeugd "
+        "1012': dit zijn de leden van het ledenbestand met nummer 12, want van het nummer tellen "
+        "alleen de laatste drie tekens.\r\n'Jeugd 1012': aantal tekens dat het spelerbestand niet "
+        "kent en dat is vervangen door een teken dat erop lijkt, of is weggelaten: 1."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Jeugd 1012"}));
     EXPECT_EQ("Aantal leden: 6", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
 }
@@ -243,9 +237,9 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
 TEST_F(diaControleNBBTest, StoppenLaatDeVolgendeBestandenWeg)
 {
     const Voortgangstopper stopper(1);
-    wachter.Informatie(QStringLiteral("Bij het lezen van de ledenbestanden viel dit op; er is "
-                                      "niets veranderd.\r\n\r\nHet lezen is "
-                                      "gestopt: de lijst is niet volledig."));
+    wachter.Informatie(
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\nHet "
+        "lezen is gestopt: de lijst is niet volledig."_s);
     ASSERT_NO_FATAL_FAILURE(OpenBeide());
     EXPECT_EQ("Aantal leden: 3", Label("lblAantal"));
 }
@@ -262,7 +256,7 @@ TEST_F(diaControleNBBTest, EenLeesfoutWordtOokNaStoppenGemeld)
 {
     map.Zet("Nul.csv", std::string("a\0b", 3));
     const Voortgangstopper stopper(1);
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Nul.csv' CSV-bestand\r\n"),
+    wachter.Verwacht({.tekst = u"Fout bij het lezen van 'Nul.csv' CSV-bestand\r\n"_s,
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open({"Nul.csv"}));

@@ -11,8 +11,8 @@ using namespace plexoran;
 
 namespace {
 
-const QString OK = QStringLiteral("OK");
-const QString Annuleren = QStringLiteral("Annuleren");
+const QString OK = u"OK"_s;
+const QString Annuleren = u"Annuleren"_s;
 
 /// So many members that reading and merging them tells how far it is.
 constexpr int LangeExportLeden = 5000;
@@ -70,7 +70,7 @@ class ImporterenTest : public Importproef {
     {
         ZetExport("Club.csv", inhoud);
         Verwacht(Voer("Option2", {0}));
-        VerwachtVraag(QStringLiteral("Club"), spelers);
+        VerwachtVraag(u"Club"_s, spelers);
         wachter.Bedien([](QDialog& bericht) {
             EXPECT_EQ("frmBericht", bericht.objectName());
             Druk(bericht, "cmdOK");
@@ -81,11 +81,11 @@ class ImporterenTest : public Importproef {
 
     void VerwachtLos(const QString& naam, const QString& rest)
     {
-        wachter.Informatie(QStringLiteral("Niet alles uit '%1' is zo overgenomen als het er "
-                                          "staat; de rest is geïmporteerd. Verander het zo nodig "
-                                          "in het rekenprogramma en importeer opnieuw.\r\n\r\n")
-                               .arg(naam) +
-                           rest);
+        wachter.Informatie(
+            u"Niet alles uit '%1' is zo overgenomen als het er staat; de rest is geïmporteerd. "
+            "Verander het zo nodig in het rekenprogramma en importeer opnieuw.\r\n\r\n"_s.arg(
+                naam) +
+            rest);
     }
 };
 
@@ -95,16 +95,16 @@ TEST_F(ImporterenTest, UitCsv)
 {
     KopieerExports();
     Verwacht(Voer("Option2", {0, 1}));
-    VerwachtVraag(QStringLiteral("Dinsdag"), 6);
+    VerwachtVraag(u"Dinsdag"_s, 6);
     VerwachtAantallen(4, 2);
-    VerwachtVraag(QStringLiteral("Maandag"), 8);
-    wachter.Waarschuwing(QStringLiteral(
-        "Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nGonnie,,Gastvrouw,Brink 2,0411 "
-        "JK,Wielerdam,06-00000607,,Nederland,V,\r\n"));
+    VerwachtVraag(u"Maandag"_s, 8);
+    wachter.Waarschuwing(
+        u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nGonnie,,Gastvrouw,Brink 2,0411 "
+        "JK,Wielerdam,06-00000607,,Nederland,V,\r\n"_s);
     VerwachtAantallen(5, 2);
-    VerwachtLos(QStringLiteral("Maandag 20260901.csv"),
-                QStringLiteral("1 regel overgeslagen, omdat er een '=' in staat, zoals in een "
-                               "kopregel:\r\nLEDENBESTAND=Maandag;VERSIE=2.8\r\n"));
+    VerwachtLos(u"Maandag 20260901.csv"_s,
+                u"1 regel overgeslagen, omdat er een '=' in staat, zoals in een kopregel:\r\n"
+                "LEDENBESTAND=Maandag;VERSIE=2.8\r\n"_s);
     Importeer();
     EXPECT_EQ("HKEY=100175", Sleutelregel());
     EXPECT_EQ("Gr05-,Rob,van,Beukering,010-0000298,r.vanbeukering@thuispost.example,Graanstraat "
@@ -113,13 +113,13 @@ TEST_F(ImporterenTest, UitCsv)
     EXPECT_EQ("Gr05-,Dirk Jan,,Overtoomse,010-0000604,,Achterom 31,0437 ML,Oud-Merwolde,Nederland,"
               "M,,,,MAANDAG,93380926",
               Speler("100175"));
-    EXPECT_EQ(40, Label("Label3")->text().section(QLatin1Char(' '), -1).toInt());
+    EXPECT_EQ(40, Label("Label3")->text().section(u' ', -1).toInt());
     EXPECT_FALSE(venster->isWindowModified());
     EXPECT_TRUE(suite.Namen("Programma").empty());
 
     // The second time everybody is refreshed.
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Dinsdag"), 6);
+    VerwachtVraag(u"Dinsdag"_s, 6);
     VerwachtAantallen(6, 0);
     Importeer();
 }
@@ -128,11 +128,10 @@ TEST_F(ImporterenTest, UitXmlVanNbbr3)
 {
     KopieerExports();
     Verwacht(Voer("Option3", {0}));
-    VerwachtVraag(QStringLiteral("Donderdag"), 6);
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"),
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    VerwachtVraag(u"Donderdag"_s, 6);
+    wachter.Verwacht({.tekst = u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s,
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
     VerwachtAantallen(4, 1);
     Importeer();
     EXPECT_EQ("HKEY=100172", Sleutelregel());
@@ -144,17 +143,17 @@ TEST_F(ImporterenTest, UitXmlVanNbbr4MetVervangenLetters)
 {
     KopieerExports();
     Verwacht(Voer("Option4", {0, 1}));
-    VerwachtVraag(QStringLiteral("Cursus"), 3);
+    VerwachtVraag(u"Cursus"_s, 3);
     VerwachtAantallen(1, 2);
-    VerwachtVraag(QStringLiteral("Zomer"), 7);
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"),
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    VerwachtVraag(u"Zomer"_s, 7);
+    wachter.Verwacht({.tekst = u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s,
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
     VerwachtAantallen(3, 3);
-    VerwachtLos(QStringLiteral("Zomer 20260901.xml"),
-                QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
-                               "door een teken dat erop lijkt, of is weggelaten: 2\r\n"));
+    VerwachtLos(
+        u"Zomer 20260901.xml"_s,
+        u"Aantal tekens dat het spelerbestand niet kent en dat is vervangen door een teken dat "
+        "erop lijkt, of is weggelaten: 2\r\n"_s);
     Importeer();
     EXPECT_EQ("HKEY=100176", Sleutelregel());
     EXPECT_NE(std::string::npos, suite.Spelers().find("Gyongyi,,Dvor\xE1kova"));
@@ -166,17 +165,19 @@ TEST_F(ImporterenTest, UitDeDatabase)
     winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
     Herstart();
     Verwacht(Voer("Option1", {1}));
-    VerwachtVraag(QStringLiteral("Cursus"), 6);
-    wachter.Waarschuwing(QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"
-                                        ",,Partner van Jansen,,,,,,,,\r\n"));
+    VerwachtVraag(u"Cursus"_s, 6);
+    wachter.Waarschuwing(
+        u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n,,Partner van Jansen,,,,,,,,\r\n"_s);
     VerwachtAantallen(0, 5);
-    VerwachtLos(QStringLiteral("Cursus 012"),
-                QStringLiteral("Aantal tekens dat het spelerbestand niet kent en dat is vervangen "
-                               "door een teken dat erop lijkt, of is weggelaten: 1\r\n"));
+    VerwachtLos(
+        u"Cursus 012"_s,
+        u"Aantal tekens dat het spelerbestand niet kent en dat is vervangen door een teken dat "
+        "erop lijkt, of is weggelaten: 1\r\n"_s);
     // One of them has a comma in a name, which shifts the fields: no surname is left.
-    wachter.Verwacht({.tekst = QStringLiteral("1 speler zonder achternaam is niet ingelezen (regel "
-                                              "150 van het spelerbestand)."),
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"1 speler zonder achternaam is niet ingelezen (regel 150 van het spelerbestand)."_s,
+         .alleenBegin = true});
     Importeer();
     EXPECT_EQ("HKEY=100176", Sleutelregel());
     EXPECT_NE(std::string::npos, Speler("100176").find(",CURSUS,"));
@@ -192,11 +193,11 @@ TEST_F(ImporterenTest, EenNummerVanVierCijfersWordtVoorDeVraagGemeld)
     suite.Zet("Rekenprogramma/data/Members.mdb", DatabaseMetJeugdnummer(1007));
     Herstart();
     Verwacht(Voer("Option1", {2}));
-    wachter.Waarschuwing(QStringLiteral(
-        "Van het nummer achter de naam 'Jeugd 1007' tellen alleen de laatste drie tekens: dit zijn "
-        "de leden van het ledenbestand met nummer 7. Er is nog niets geïmporteerd. Kies bij de "
-        "volgende vraag Annuleren als u een ander ledenbestand bedoelt."));
-    VerwachtVraag(QStringLiteral("Jeugd"), 13, Annuleren);
+    wachter.Waarschuwing(
+        u"Van het nummer achter de naam 'Jeugd 1007' tellen alleen de laatste drie tekens: dit "
+        "zijn de leden van het ledenbestand met nummer 7. Er is nog niets geïmporteerd. Kies bij "
+        "de volgende vraag Annuleren als u een ander ledenbestand bedoelt."_s);
+    VerwachtVraag(u"Jeugd"_s, 13, Annuleren);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -205,8 +206,8 @@ TEST_F(ImporterenTest, AnnulerenSlaatAlleenDatBestandOver)
 {
     KopieerExports();
     Verwacht(Voer("Option2", {0, 1}));
-    VerwachtVraag(QStringLiteral("Dinsdag"), 6, Berichtwachter::Escape);
-    VerwachtVraag(QStringLiteral("Maandag"), 8, Annuleren);
+    VerwachtVraag(u"Dinsdag"_s, 6, Berichtwachter::Escape);
+    VerwachtVraag(u"Maandag"_s, 8, Annuleren);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -216,7 +217,7 @@ TEST_F(ImporterenTest, ZonderWijzigingWordtErNietGeschreven)
     ZetExport("Leeg.csv", "");
     schijf.FaalVanaf(1);
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Leeg"), 0);
+    VerwachtVraag(u"Leeg"_s, 0);
     VerwachtAantallen(0, 0);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
@@ -233,7 +234,7 @@ TEST_F(ImporterenTest, ZonderVinkjesWordenGegevensLeeggemaakt)
         Lijst(dia)->Kies({0});
         Druk(dia, "cmdImporteer");
     });
-    VerwachtVraag(QStringLiteral("Club"), 1);
+    VerwachtVraag(u"Club"_s, 1);
     VerwachtAantallen(1, 0);
     Importeer();
     EXPECT_EQ("Gr05-,Agnes,,Appelscha,,,,,,,,,,,CLUB,92076715", Speler("100070"));
@@ -245,13 +246,13 @@ TEST_F(ImporterenTest, WieStilWordtOvergeslagenWordtGenoemd)
                           "771;V;Eva;;;Twee;;;;;;\r\n"
                           "092076715;V;Agnes;;;Appelscha;;;;;;\r\n");
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Club"), 3);
+    VerwachtVraag(u"Club"_s, 3);
     VerwachtAantallen(0, 1);
     VerwachtLos(
-        QStringLiteral("Club.csv"),
-        QStringLiteral("2 leden overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit "
-                       "bestand, of anders geschreven in groep 'Gr05-':\r\n"
-                       "Eva,,Twee,,,,,,,V,771\r\nAgnes,,Appelscha,,,,,,,V,092076715\r\n"));
+        u"Club.csv"_s,
+        u"2 leden overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit bestand, of "
+        "anders geschreven in groep 'Gr05-':\r\nEva,,Twee,,,,,,,V,771\r\n"
+        "Agnes,,Appelscha,,,,,,,V,092076715\r\n"_s);
     Importeer();
     EXPECT_EQ("HKEY=100172", Sleutelregel());
 }
@@ -260,11 +261,11 @@ TEST_F(ImporterenTest, EenRegelMetTeWeinigKolommen)
 {
     ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n772;V;Eva;;;Kort\r\n773;V;Eva;;;Na;;;;;;\r\n");
     Verwacht(Voer("Option2", {0}));
-    wachter.Waarschuwing(QStringLiteral(
-        "Regel 2 van 'Club.csv' heeft minder kolommen dan nodig is voor de gegevens die u hebt "
-        "aangevinkt. Er is nog niets geïmporteerd; dat kan alleen met wie ervoor staat (1 speler). "
-        "Kies bij de volgende vraag Annuleren als u eerst het bestand wilt herstellen."));
-    VerwachtVraag(QStringLiteral("Club"), 1);
+    wachter.Waarschuwing(
+        u"Regel 2 van 'Club.csv' heeft minder kolommen dan nodig is voor de gegevens die u hebt "
+        "aangevinkt. Er is nog niets geïmporteerd; dat kan alleen met wie ervoor staat (1 "
+        "speler). Kies bij de volgende vraag Annuleren als u eerst het bestand wilt herstellen."_s);
+    VerwachtVraag(u"Club"_s, 1);
     VerwachtAantallen(0, 1);
     Importeer();
 }
@@ -276,12 +277,12 @@ TEST_F(ImporterenTest, EenLijstZonderEindHoudtOpEnZegtDat)
         inhoud += "a=b\r\n";
     ZetExport("Club.csv", inhoud);
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Club"), 0);
+    VerwachtVraag(u"Club"_s, 0);
     VerwachtAantallen(0, 0);
     wachter.Bedien([](QDialog& bericht) {
         EXPECT_TRUE(Vind<QPlainTextEdit>(bericht, "txtBericht")
                         ->toPlainText()
-                        .endsWith(QStringLiteral("\na=b\n... en nog 2\n")));
+                        .endsWith(u"\na=b\n... en nog 2\n"_s));
         Druk(bericht, "cmdOK");
     });
     Importeer();
@@ -299,11 +300,9 @@ TEST_F(ImporterenTest, LedenInXmlMetEenLeegNummerWordenGenoemd)
                               lid("<LeagueId> </LeagueId>", "Drie") + lid("<LeagueId/>", "Vier") +
                               lid("", "Vijf") + "</Members></ReportableMembersList>");
     Verwacht(Voer("Option4", {0}));
-    VerwachtVraag(QStringLiteral("Club"), 5);
-    wachter.Waarschuwing(
-        QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"
-                       "Eva,,Een,,,,,,,,\r\nEva,,Drie,,,,,,,,\r\nEva,,Vier,,,,,,,,\r\n"
-                       "Eva,,Vijf,,,,,,,,\r\n"));
+    VerwachtVraag(u"Club"_s, 5);
+    wachter.Waarschuwing(u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nEva,,Een,,,,,,,,\r\n"
+                         "Eva,,Drie,,,,,,,,\r\nEva,,Vier,,,,,,,,\r\nEva,,Vijf,,,,,,,,\r\n"_s);
     VerwachtAantallen(0, 1);
     Importeer();
     const std::string nieuw = suite.Spelers();
@@ -324,9 +323,9 @@ TEST_F(ImporterenTest, EenXmlMetAlleenLegeNummersTeltAlsNbbr3)
         EXPECT_EQ(0, Lijst(dia)->Aantal());
         Voer("Option3", {0})(dia);
     });
-    VerwachtVraag(QStringLiteral("Club"), 1);
-    wachter.Waarschuwing(QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"
-                                        ",,,Eva,,,,,,,\r\n"));
+    VerwachtVraag(u"Club"_s, 1);
+    wachter.Waarschuwing(
+        u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n,,,Eva,,,,,,,\r\n"_s);
     VerwachtAantallen(0, 0);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
@@ -338,17 +337,16 @@ TEST_F(ImporterenTest, EenReusachtigeRegelHoudtHetProgrammaNietOp)
     const std::string lang(std::size_t{4} << 20U, 'x');
     ZetExport("Club.csv", "a=" + lang + "\r\n;;Eva;;;" + lang + ";;;;;;\r\n");
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Club"), 1);
-    const QString kort(498, QLatin1Char('x'));
-    VerwachtLang(QStringLiteral("Niet verwerkte spelers ivm ontbrekend NBBnummer!\nEva,,") +
-                 kort.left(495) + QStringLiteral(" ...\n"));
+    VerwachtVraag(u"Club"_s, 1);
+    const QString kort(498, u'x');
+    VerwachtLang(u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\nEva,,"_s + kort.left(495) +
+                 u" ...\n"_s);
     VerwachtAantallen(0, 0);
-    VerwachtLang(QStringLiteral("Niet alles uit 'Club.csv' is zo overgenomen als het er staat; "
-                                "de rest is geïmporteerd. Verander het zo nodig in het "
-                                "rekenprogramma en importeer opnieuw.\n\n"
-                                "1 regel overgeslagen, omdat er een '=' in staat, zoals in een "
-                                "kopregel:\na=") +
-                 kort + QStringLiteral(" ...\n"));
+    VerwachtLang(
+        u"Niet alles uit 'Club.csv' is zo overgenomen als het er staat; de rest is geïmporteerd. "
+        "Verander het zo nodig in het rekenprogramma en importeer opnieuw.\n\n1 regel "
+        "overgeslagen, omdat er een '=' in staat, zoals in een kopregel:\na="_s +
+        kort + u" ...\n"_s);
     QElapsedTimer klok;
     klok.start();
     Importeer();
@@ -360,12 +358,12 @@ TEST_F(ImporterenTest, EenCsvInUtf8WordtVoorDeVraagGemeld)
     ZetExport("Club.csv", "\xEF\xBB\xBF"
                           "771;V;Zo\xC3\xAB;;;Een;;;;;;\r\n");
     Verwacht(Voer("Option2", {0}));
-    wachter.Waarschuwing(QStringLiteral(
-        "'Club.csv' is opgeslagen in UTF-8: letters met een accent komen verkeerd over, en soms "
+    wachter.Waarschuwing(
+        u"'Club.csv' is opgeslagen in UTF-8: letters met een accent komen verkeerd over, en soms "
         "ook het eerste NBB-nummer. Er is nog niets geïmporteerd. Kies bij de volgende vraag "
         "liever Annuleren, en sla het bestand op als ANSI (Windows-1252) of exporteer een "
-        "XML-bestand."));
-    VerwachtVraag(QStringLiteral("Club"), 1, Annuleren);
+        "XML-bestand."_s);
+    VerwachtVraag(u"Club"_s, 1, Annuleren);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -416,7 +414,7 @@ TEST_F(ImporterenTest, TijdensDeVraagWachtHetProgramma)
     ZetExport("Club.csv", LangeExport());
     const Voortgangstopper teller(0);
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Club"), LangeExportLeden, QStringLiteral("Annuleren"));
+    VerwachtVraag(u"Club"_s, LangeExportLeden, u"Annuleren"_s);
     Importeer();
     EXPECT_GT(teller.Stappen(), 0);
     EXPECT_EQ(1, kijker.keren);
@@ -432,12 +430,11 @@ TEST_F(ImporterenTest, EenLeesfoutBreektAfEnHoudtWatErWas)
     ZetExport("B kapot.xml", "<ReportableMembersList><Members><ReportableMember><a>");
     ZetExport("C.xml", suite.Inhoud("Bestanden/NBB4-Leden/A.xml"));
     Verwacht(VoerEnSluit("Option3", {0, 1, 2}));
-    VerwachtVraag(QStringLiteral("A"), 1);
+    VerwachtVraag(u"A"_s, 1);
     VerwachtAantallen(0, 1);
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("Fout bij het lezen van 'B kapot.xml' NBB3-XML-bestand\r\n"),
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    wachter.Verwacht({.tekst = u"Fout bij het lezen van 'B kapot.xml' NBB3-XML-bestand\r\n"_s,
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
     Importeer();
     EXPECT_EQ("HKEY=100172", Sleutelregel());
     EXPECT_EQ("Gr05-,,,Bos,,,,,,,M,,,,A,771", Speler("100172"));
@@ -458,10 +455,10 @@ TEST_F(ImporterenTest, NaEenLeesfoutKanHetMetEenAnderBestandOpnieuw)
         Lijst(dia)->Kies({1});
         Druk(dia, "cmdImporteer");
     });
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'A.csv' CSV-bestand\r\n"),
+    wachter.Verwacht({.tekst = u"Fout bij het lezen van 'A.csv' CSV-bestand\r\n"_s,
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
-    VerwachtVraag(QStringLiteral("B"), 1);
+    VerwachtVraag(u"B"_s, 1);
     VerwachtAantallen(0, 1);
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Twee,,,,,,,V,,,,B,772", Speler("100172"));
@@ -483,10 +480,10 @@ TEST_F(ImporterenTest, EenFoutInDeDatabaseBreektAfEnHetVensterBlijft)
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Verwacht(
-        {.tekst = QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!\r\nDe "
-                                 "inhoud is niet die van een ledenbestand; er is niets uit "
-                                 "geïmporteerd. Kies zo nodig een geëxporteerd "
-                                 "ledenbestand.\r\n\r\nBestand: "),
+        {.tekst =
+             u"Fout bij het lezen van het ledenbestand (alle items)!\r\nDe inhoud is niet die van "
+             "een ledenbestand; er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
+             "ledenbestand.\r\n\r\nBestand: "_s,
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
     Importeer();
@@ -498,10 +495,10 @@ TEST_F(ImporterenTest, EenNbbr4BestandDatGeenXmlIsHeeftGeenLedenEnDatWordtGezegd
 {
     ZetExport("Club.xml", "<ReportableMember><LeagueId>");
     Verwacht(Voer("Option4", {0}));
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van 'Club.xml' NBB4-XML-bestand"),
+    wachter.Verwacht({.tekst = u"Fout bij het lezen van 'Club.xml' NBB4-XML-bestand"_s,
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
-    VerwachtVraag(QStringLiteral("Club"), 0);
+    VerwachtVraag(u"Club"_s, 0);
     VerwachtAantallen(0, 0);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
@@ -512,8 +509,8 @@ TEST_F(ImporterenTest, ZonderSleutelsGebeurtErNiets)
     ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n");
     administratie.spelers.HKEY = 2147483647;
     Verwacht(VoerEnSluit("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Club"), 1);
-    wachter.SleutelsOp(QStringLiteral("Uit 'Club.csv' is niets geïmporteerd"),
+    VerwachtVraag(u"Club"_s, 1);
+    wachter.SleutelsOp(u"Uit 'Club.csv' is niets geïmporteerd"_s,
                        suite.Toonpad("Spelers/RVDspelers.txt"));
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
@@ -525,10 +522,10 @@ TEST_F(ImporterenTest, MislukteOpslagHoudtDeLedenInHetProgramma)
     ZetExport("Club.csv", "771;V;Eva;;;Een;;;;;;\r\n");
     schijf.FaalVanaf(1);
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(QStringLiteral("Club"), 1);
+    VerwachtVraag(u"Club"_s, 1);
     VerwachtAantallen(0, 1);
-    wachter.Verwacht({.tekst = QStringLiteral("De spelers konden niet worden opgeslagen."),
-                      .antwoord = QStringLiteral("Doorgaan"),
+    wachter.Verwacht({.tekst = u"De spelers konden niet worden opgeslagen."_s,
+                      .antwoord = u"Doorgaan"_s,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});
     Importeer();
@@ -536,11 +533,10 @@ TEST_F(ImporterenTest, MislukteOpslagHoudtDeLedenInHetProgramma)
     EXPECT_TRUE(venster->isWindowModified());
     EXPECT_EQ(149, administratie.spelers.tabel.Rijen());
     schijf.FaalNiet();
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
-         .antwoord = QStringLiteral("Opslaan"),
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    wachter.Verwacht({.tekst = u"De laatste wijzigingen staan nog niet in het spelerbestand."_s,
+                      .antwoord = u"Opslaan"_s,
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
     EXPECT_TRUE(venster->close());
     wachter.Klaar();
     EXPECT_EQ("HKEY=100172", Sleutelregel());
@@ -581,12 +577,11 @@ TEST_F(ImporterenTest, StoppenTijdensHetLezen)
         EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
         Druk(dia, "cmdAnnuleren");
     });
-    VerwachtVraag(QStringLiteral("A"), 1);
+    VerwachtVraag(u"A"_s, 1);
     VerwachtAantallen(0, 1);
-    wachter.Informatie(QStringLiteral("Het importeren is gestopt. Uit 'B.csv' is niets "
-                                      "geïmporteerd; wat eerder is geïmporteerd, blijft. "
-                                      "Importeer 'B.csv' opnieuw als u die leden nog nodig "
-                                      "hebt."));
+    wachter.Informatie(
+        u"Het importeren is gestopt. Uit 'B.csv' is niets geïmporteerd; wat eerder is "
+        "geïmporteerd, blijft. Importeer 'B.csv' opnieuw als u die leden nog nodig hebt."_s);
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Een,,,,,,,V,,,,A,771", Speler("100172"));
     EXPECT_EQ("HKEY=100172", Sleutelregel());
@@ -604,11 +599,10 @@ TEST_F(ImporterenTest, StoppenTijdensHetSamenvoegen)
         EXPECT_TRUE(dia.isVisible());
         Druk(dia, "cmdAnnuleren");
     });
-    VerwachtVraag(QStringLiteral("B"), LangeExportLeden);
-    wachter.Informatie(QStringLiteral("Het importeren is gestopt. Uit 'B.csv' is niets "
-                                      "geïmporteerd; wat eerder is geïmporteerd, blijft. "
-                                      "Importeer 'B.csv' opnieuw als u die leden nog nodig "
-                                      "hebt."));
+    VerwachtVraag(u"B"_s, LangeExportLeden);
+    wachter.Informatie(
+        u"Het importeren is gestopt. Uit 'B.csv' is niets geïmporteerd; wat eerder is "
+        "geïmporteerd, blijft. Importeer 'B.csv' opnieuw als u die leden nog nodig hebt."_s);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -619,7 +613,7 @@ TEST_F(ImporterenTest, EenProgrammamapWaarNietsInMag)
     KopieerExports();
     administratie.programmamap = (suite.Weg() / "ontbreekt").string();
     Verwacht(Voer("Option4", {0}));
-    VerwachtVraag(QStringLiteral("Cursus"), 3);
+    VerwachtVraag(u"Cursus"_s, 3);
     VerwachtAantallen(1, 2);
     Importeer();
     EXPECT_EQ((std::vector<std::string>{"Plexo.ini"}), suite.Namen("Admin"));

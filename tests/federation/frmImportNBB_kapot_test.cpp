@@ -32,18 +32,18 @@ class KapotTest : public Importproef {
             const std::string tekst = box.text().toStdString();
             if (tekst.starts_with("U gaat van '")) {
                 ++vragen;
-                return QStringLiteral("Annuleren");
+                return u"Annuleren"_s;
             }
             const bool zonderBestanden =
                 tekst.starts_with("In de database van het rekenprogramma staat geen enkel");
             if (zonderBestanden) { // which is no damage
                 EXPECT_EQ(QMessageBox::Information, box.icon());
-                return QStringLiteral("OK");
+                return u"OK"_s;
             }
             EXPECT_EQ(QMessageBox::Warning, box.icon()) << tekst;
             EXPECT_TRUE(IsVerklaard(tekst)) << tekst;
             berichten.push_back(tekst);
-            return QStringLiteral("OK");
+            return u"OK"_s;
         });
     }
 
@@ -122,7 +122,7 @@ class KapotTest : public Importproef {
         });
         const QString pad =
             QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
-        wachter.Waarschuwing(QString(fout).replace(QStringLiteral("<pad>"), pad));
+        wachter.Waarschuwing(QString(fout).replace(u"<pad>"_s, pad));
         QElapsedTimer klok;
         klok.start();
         Importeer();
@@ -140,7 +140,7 @@ class KapotTest : public Importproef {
         });
         const QString pad =
             QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
-        wachter.Waarschuwing(QString(fout).replace(QStringLiteral("<pad>"), pad));
+        wachter.Waarschuwing(QString(fout).replace(u"<pad>"_s, pad));
         VerwachtVraag(QString::fromStdString(naam.substr(0, naam.find_first_of(" ."))), 0);
         VerwachtAantallen(0, 0);
         Importeer();
@@ -149,25 +149,26 @@ class KapotTest : public Importproef {
     /// What every box says between the cause and where it is.
     static QString Vervolg()
     {
-        return QStringLiteral("; er is niets uit geïmporteerd. Exporteer het opnieuw of kies een "
-                              "ander ledenbestand.\r\n\r\n");
+        return u"; er is niets uit geïmporteerd. Exporteer het opnieuw of kies een ander "
+               "ledenbestand.\r\n\r\n"_s;
     }
     static QString Fouttekst(const std::string& naam, const char* soort, const QString& rest)
     {
-        return QStringLiteral("Fout bij het lezen van '%1' %2-bestand\r\n")
-                   .arg(QString::fromStdString(naam), QString::fromLatin1(soort)) +
+        return u"Fout bij het lezen van '%1' %2-bestand\r\n"_s.arg(QString::fromStdString(naam),
+                                                                   QString::fromLatin1(soort)) +
                rest;
     }
     static QString Documenttypefout()
     {
-        return Inhoudsfout(QStringLiteral("Regel: 2\n"),
-                           QStringLiteral("een documenttype (DOCTYPE) hoort niet in een "
-                                          "ledenbestand (teken 11 van die regel)"));
+        return Inhoudsfout(
+            u"Regel: 2\n"_s,
+            u"een documenttype (DOCTYPE) hoort niet in een ledenbestand (teken 11 van die "
+            "regel)"_s);
     }
     static QString Inhoudsfout(const QString& plaats, const QString& oorzaak)
     {
-        return QStringLiteral("De inhoud is niet die van een ledenbestand") + Vervolg() +
-               QStringLiteral("Bestand: <pad>\n") + plaats + QStringLiteral("Oorzaak: ") + oorzaak;
+        return u"De inhoud is niet die van een ledenbestand"_s + Vervolg() + u"Bestand: <pad>\n"_s +
+               plaats + u"Oorzaak: "_s + oorzaak;
     }
 
     /// The same bytes, some of them other ones, gone or twice there.
@@ -348,12 +349,10 @@ TEST_F(KapotTest, BestandenVanZestigMegabyte)
     };
     ZetExport("Groot.csv", "1;V;An;;;Bos;;;;;;\r\n");
     maakGroot("Groot.csv");
-    EisFout(
-        "Option2", "Groot.csv",
-        Fouttekst("Groot.csv", "CSV", Inhoudsfout({}, QStringLiteral("dit is geen tekstbestand"))));
-    const QString oorzaak =
-        Inhoudsfout(QStringLiteral("Regel: 4\n"),
-                    QStringLiteral("hier staat geen teken dat in XML mag (teken 1 van die regel)"));
+    EisFout("Option2", "Groot.csv",
+            Fouttekst("Groot.csv", "CSV", Inhoudsfout({}, u"dit is geen tekstbestand"_s)));
+    const QString oorzaak = Inhoudsfout(
+        u"Regel: 4\n"_s, u"hier staat geen teken dat in XML mag (teken 1 van die regel)"_s);
     const std::string drie = Lijstdocument("", Nbb3(member));
     ZetExport("Groot.xml", drie);
     maakGroot("Groot.xml");
@@ -366,8 +365,7 @@ TEST_F(KapotTest, BestandenVanZestigMegabyte)
 
 TEST_F(KapotTest, BestandenVanTweehonderdMegabyteWordenNietGelezen)
 {
-    const QString oorzaak =
-        Inhoudsfout({}, QStringLiteral("het bestand is te groot: meer dan 64 MB"));
+    const QString oorzaak = Inhoudsfout({}, u"het bestand is te groot: meer dan 64 MB"_s);
     for (const char* naam : {"Groot.csv", "Groot.xml"}) {
         ZetExport(naam, "");
         fs::resize_file(suite.Weg() / "Bestanden/NBB4-Leden" / naam, 200'000'000);
@@ -381,12 +379,10 @@ TEST_F(KapotTest, EenBestandZonderRechten)
 {
     ZetExport("Dicht.csv", "1;V;An;;;Bos;;;;;;\r\n");
     schijf.Vooraf([](const Pad& pad) { return !pad.ends_with("Dicht.csv"); });
-    EisFout(
-        "Option2", "Dicht.csv",
-        Fouttekst("Dicht.csv", "CSV",
-                  QStringLiteral("Het bestand hieronder kan niet worden gelezen of geschreven") +
-                      Vervolg() +
-                      QStringLiteral("Bestand: <pad>\nMelding van het systeem: geen toegang")));
+    EisFout("Option2", "Dicht.csv",
+            Fouttekst("Dicht.csv", "CSV",
+                      u"Het bestand hieronder kan niet worden gelezen of geschreven"_s + Vervolg() +
+                          u"Bestand: <pad>\nMelding van het systeem: geen toegang"_s));
 }
 
 TEST_F(KapotTest, EenBestandDatVerdwijntTerwijlHetInDeLijstStaat)
@@ -409,11 +405,10 @@ TEST_F(KapotTest, EenBestandDatVerdwijntTerwijlHetInDeLijstStaat)
         });
         const QString pad =
             QString::fromStdString(suite.Toonpad(fs::path("Bestanden/NBB4-Leden") / naam));
-        wachter.Waarschuwing(Fouttekst(naam, soort,
-                                       QStringLiteral("Het bestand is er niet (meer)") + Vervolg() +
-                                           QStringLiteral("Bestand: ") + pad));
+        wachter.Waarschuwing(Fouttekst(
+            naam, soort, u"Het bestand is er niet (meer)"_s + Vervolg() + u"Bestand: "_s + pad));
         if (vier) {
-            VerwachtVraag(QStringLiteral("Zomer"), 0);
+            VerwachtVraag(u"Zomer"_s, 0);
             VerwachtAantallen(0, 0);
         }
         Importeer();
@@ -433,10 +428,10 @@ TEST_F(KapotTest, DeDatabaseVerdwijntTerwijlHaarLijstErStaat)
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Waarschuwing(
-        QStringLiteral("Fout bij het lezen van het ledenbestand (alle items)!\r\nHet bestand is er "
-                       "niet (meer); er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
-                       "ledenbestand.\r\n\r\nBestand: %1")
-            .arg(QString::fromStdString(suite.Toonpad("Rekenprogramma/data/Members.mdb"))));
+        u"Fout bij het lezen van het ledenbestand (alle items)!\r\nHet bestand is er niet (meer); "
+        "er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd ledenbestand.\r\n\r\n"
+        "Bestand: %1"_s.arg(
+            QString::fromStdString(suite.Toonpad("Rekenprogramma/data/Members.mdb"))));
     Importeer();
     AllesIsGebleven();
 }

@@ -146,7 +146,7 @@ TEST_F(frmImportNBBTest, ElkeBronHaaltZijnEigenBestandenUitDeMapVanDeBond)
 
 TEST_F(frmImportNBBTest, DeMapWordtPerBronOnthoudenZolangHetProgrammaLoopt)
 {
-    const QString csv = QStringLiteral("CSV-bestanden (*.csv)");
+    const QString csv = u"CSV-bestanden (*.csv)"_s;
     suite.Zet("Spelers/Los.csv", "");
     Verwacht([](QDialog& dia) {
         KiesOptie(dia, "Option2");
@@ -188,8 +188,7 @@ TEST_F(frmImportNBBTest, DeBestandskeuzeVanXmlEnAnnulerenDaarvan)
         EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: 2", Labeltekst(dia, "Label3"));
         Druk(dia, "cmdAnnuleren");
     });
-    VerwachtBestandskeuze(QStringLiteral("XML-bestanden (*.xml)"),
-                          "Ledenbestanden/Zomer 20260901.xml");
+    VerwachtBestandskeuze(u"XML-bestanden (*.xml)"_s, "Ledenbestanden/Zomer 20260901.xml");
     wachter.Bedien([](QDialog& keuze) {
         EXPECT_EQ("Map", QFileIconProvider().type(QFileInfo(QDir::tempPath())));
         keuze.reject();
@@ -208,12 +207,11 @@ TEST_F(frmImportNBBTest, EenBestandVanEenAndereSoortWordtGenoemd)
         EXPECT_EQ(Lijst(dia), dia.focusWidget());
         Druk(dia, "cmdAnnuleren");
     });
-    VerwachtBestandskeuze(QStringLiteral("XML-bestanden (*.xml)"),
-                          "Ledenbestanden/Zomer 20260901.xml");
-    wachter.Informatie(QStringLiteral(
-        "'Zomer 20260901.xml' is geen XML-ledenbestand uit NBBR-3 en staat dus niet in de "
-        "lijst. Er is niets geïmporteerd. Kies een ander bestand, of kies eerst links waar dit "
-        "bestand vandaan komt."));
+    VerwachtBestandskeuze(u"XML-bestanden (*.xml)"_s, "Ledenbestanden/Zomer 20260901.xml");
+    wachter.Informatie(
+        u"'Zomer 20260901.xml' is geen XML-ledenbestand uit NBBR-3 en staat dus niet in de lijst. "
+        "Er is niets geïmporteerd. Kies een ander bestand, of kies eerst links waar dit bestand "
+        "vandaan komt."_s);
     Importeer();
 }
 
@@ -223,10 +221,9 @@ TEST_F(frmImportNBBTest, EenMapZonderRechten)
     ZetExport("Dinsdag.csv", "");
     schijf.Vooraf([](const Pad& pad) { return !pad.ends_with("NBB4-Leden"); });
     const QString bericht =
-        QStringLiteral("De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets "
-                       "geïmporteerd. Kies een andere map.\n\nBestand: %1\nMelding van het "
-                       "systeem: geen toegang")
-            .arg(QString::fromStdString(suite.Toonpad("Bestanden/NBB4-Leden")));
+        u"De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets geïmporteerd. "
+        "Kies een andere map.\n\nBestand: %1\nMelding van het systeem: geen toegang"_s.arg(
+            QString::fromStdString(suite.Toonpad("Bestanden/NBB4-Leden")));
     Verwacht([](QDialog& dia) {
         for (const char* optie : {"Option2", "Option3", "Option4"}) {
             KiesOptie(dia, optie);
@@ -244,8 +241,7 @@ TEST_F(frmImportNBBTest, EenMapZonderRechten)
     });
     for (int i = 0; i < 3; ++i)
         wachter.Waarschuwing(bericht);
-    VerwachtBestandskeuze(QStringLiteral("XML-bestanden (*.xml)"),
-                          "Ledenbestanden/Zomer 20260901.xml");
+    VerwachtBestandskeuze(u"XML-bestanden (*.xml)"_s, "Ledenbestanden/Zomer 20260901.xml");
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -263,13 +259,12 @@ TEST_F(frmImportNBBTest, EenGekozenMapZonderRechten)
         EXPECT_EQ((Namen{"Dinsdag 20260901.csv", "Maandag 20260901.csv"}), Bestanden(dia));
         Druk(dia, "cmdAnnuleren");
     });
-    VerwachtBestandskeuze(QStringLiteral("CSV-bestanden (*.csv)"),
-                          "Ledenbestanden/Maandag 20260901.csv");
-    wachter.Verwacht({.tekst = QStringLiteral("De bestanden in de gekozen map kunnen niet worden "
-                                              "opgezocht. Er is niets geïmporteerd. Kies een "
-                                              "andere map.\n\nBestand: "),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    VerwachtBestandskeuze(u"CSV-bestanden (*.csv)"_s, "Ledenbestanden/Maandag 20260901.csv");
+    wachter.Verwacht(
+        {.tekst = u"De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets "
+                  "geïmporteerd. Kies een andere map.\n\nBestand: "_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     Importeer();
 }
 
@@ -290,7 +285,7 @@ TEST_F(frmImportNBBTest, EenMapMetVeelXmlBestandenOpEenTrageSchijf)
     QTimer kijker;
     QObject::connect(&kijker, &QTimer::timeout, &kijker, [&] {
         auto* voortgang = QApplication::activeModalWidget();
-        if (voortgang == nullptr || voortgang->objectName() != QStringLiteral("frmVoortgang"))
+        if (voortgang == nullptr || voortgang->objectName() != u"frmVoortgang"_s)
             return;
         if (++keren == 1) {
             EXPECT_EQ("De XML-bestanden in de gekozen map worden bekeken",
@@ -366,7 +361,7 @@ TEST_F(frmImportNBBTest, ZonderKeusVanEenBestandWordtErNietsGedaan)
         EXPECT_TRUE(dia.isVisible());
         Druk(dia, "cmdAnnuleren");
     });
-    wachter.Waarschuwing(QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+    wachter.Waarschuwing(u"U moet nog ledenbestand(en) selecteren!"_s);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -386,7 +381,7 @@ TEST_F(frmImportNBBTest, HetOverzichtVanDeNummers)
         EXPECT_EQ("diaControleNBB", overzicht.objectName());
         Druk(overzicht, "cmdTerug");
     });
-    wachter.Waarschuwing(QStringLiteral("U moet nog ledenbestand(en) selecteren!"));
+    wachter.Waarschuwing(u"U moet nog ledenbestand(en) selecteren!"_s);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -435,10 +430,11 @@ TEST_F(frmImportNBBTest, EenOntbrekendeDatabaseNoemtDeGeprobeerdePlaats)
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Verwacht(
-        {.tekst = QStringLiteral("Fout bij het lezen van de ledenbestanden!\r\nDe database met de "
-                                 "ledenbestanden is niet gevonden; er is niets geïmporteerd. Kies "
-                                 "zo nodig een geëxporteerd ledenbestand.\n\nBestand: ") +
-                  QString::fromStdString(suite.Toonpad("weg/data/Members.mdb")),
+        {.tekst =
+             u"Fout bij het lezen van de ledenbestanden!\r\nDe database met de ledenbestanden is "
+             "niet gevonden; er is niets geïmporteerd. Kies zo nodig een geëxporteerd "
+             "ledenbestand.\n\nBestand: "_s +
+             QString::fromStdString(suite.Toonpad("weg/data/Members.mdb")),
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
     Importeer();
@@ -491,10 +487,10 @@ TEST_F(frmImportNBBTest, GeenKeusTussenBeideWordtUitgelegd)
         KiesOptie(dia, "Option1");
         Druk(dia, "cmdAnnuleren");
     });
-    wachter.Waarschuwing(QStringLiteral(
-        "Fout bij het lezen van de ledenbestanden!\r\nBij de start van Plexoran was niet bekend "
-        "waar de database van het rekenprogramma staat; er is niets geïmporteerd. "
-        "Start Plexoran opnieuw en kies dan het rekenprogramma."));
+    wachter.Waarschuwing(
+        u"Fout bij het lezen van de ledenbestanden!\r\nBij de start van Plexoran was niet bekend "
+        "waar de database van het rekenprogramma staat; er is niets geïmporteerd. Start Plexoran "
+        "opnieuw en kies dan het rekenprogramma."_s);
     Importeer();
 }
 
@@ -505,16 +501,16 @@ TEST_F(frmImportNBBTest, DeHint)
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Verwacht(
-        {.tekst = QStringLiteral(
-             "Als u fictieve 'NBB-nrs' moet toekennen aan spelers die nog geen nummer hebben, bijv "
-             "gasten, dan begint u gewoon te nummeren bij bijv 100.\r\n"
-             "Blijf altijd onder 9999 om niet in conflict te komen met de echte NBB-nummers.\r\n"
-             "Op een gegeven moment weet u niet meer welke nummers al geweest zijn.\r\n"
-             "Om snel te weten wat het laatst toegekende nummer was kunt u het volgende doen:\r\n"
-             " - Druk (rechtsonder) op de knop 'Sorteerlijst op' >> 'NBB-nr'.\r\n"
-             " - Of: In het NBB-programma: klik in de ledenlijst op de titel 'Bondsnummer', er "
-             "verschijnt dan een 'warrige' sorteerlijst."),
-         .titel = QStringLiteral("Hint")});
+        {.tekst =
+             u"Als u fictieve 'NBB-nrs' moet toekennen aan spelers die nog geen nummer hebben, "
+             "bijv gasten, dan begint u gewoon te nummeren bij bijv 100.\r\nBlijf altijd onder "
+             "9999 om niet in conflict te komen met de echte NBB-nummers.\r\nOp een gegeven "
+             "moment weet u niet meer welke nummers al geweest zijn.\r\nOm snel te weten wat het "
+             "laatst toegekende nummer was kunt u het volgende doen:\r\n - Druk (rechtsonder) op "
+             "de knop 'Sorteerlijst op' >> 'NBB-nr'.\r\n - Of: In het NBB-programma: klik in de "
+             "ledenlijst op de titel 'Bondsnummer', er verschijnt dan een 'warrige' "
+             "sorteerlijst."_s,
+         .titel = u"Hint"_s});
     Importeer();
 }
 
@@ -554,9 +550,9 @@ TEST_F(frmImportNBBTest, ZonderVerzamelgroepGaatHetVensterNietOpen)
 {
     administratie.mappen.DFIMPG = "Gr51-";
     wachter.Waarschuwing(
-        QStringLiteral("Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat "
-                       "achter DFIMPG= niet in welke groep ze komen, zoals Gr05-. Er is niets "
-                       "veranderd. Vul die groep in en start Plexoran opnieuw."));
+        u"Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat achter DFIMPG= "
+        "niet in welke groep ze komen, zoals Gr05-. Er is niets veranderd. Vul die groep in en "
+        "start Plexoran opnieuw."_s);
     Importeer();
 }
 
@@ -573,9 +569,9 @@ TEST_F(frmImportNBBTest, EenDatabaseZonderLedenbestandenZegtDat)
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Informatie(
-        QStringLiteral("In de database van het rekenprogramma staat geen enkel ledenbestand. Er is "
-                       "niets gewijzigd. Maak in het rekenprogramma een ledenbestand, of kies een "
-                       "geëxporteerd ledenbestand."));
+        u"In de database van het rekenprogramma staat geen enkel ledenbestand. Er is niets "
+        "gewijzigd. Maak in het rekenprogramma een ledenbestand, of kies een geëxporteerd "
+        "ledenbestand."_s);
     Importeer();
 }
 
@@ -594,15 +590,14 @@ TEST_F(frmImportNBBTest, EenBestandMetEenNaamDieNaarEldersWijst)
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Waarschuwing(
-        QStringLiteral("Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een "
-                       "naam in Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef "
-                       "wat u ervan nodig hebt, een andere naam.\n\n..\\elders.csv"));
+        u"Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een naam in "
+        "Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef wat u ervan nodig "
+        "hebt, een andere naam.\n\n..\\elders.csv"_s);
     const std::filesystem::path aangewezen = "Bestanden/NBB4-Leden/..\\elders.csv";
-    VerwachtBestandskeuze(QStringLiteral("CSV-bestanden (*.csv)"), aangewezen);
+    VerwachtBestandskeuze(u"CSV-bestanden (*.csv)"_s, aangewezen);
     wachter.Waarschuwing(
-        QStringLiteral("Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map mag "
-                       "geen '\\' staan. Er is niets gewijzigd. Geef het een andere naam.\n\n"
-                       "Bestand: ") +
+        u"Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map mag geen '\\' "
+        "staan. Er is niets gewijzigd. Geef het een andere naam.\n\nBestand: "_s +
         QString::fromStdString((suite.Weg() / aangewezen).string()));
     Importeer();
 }

@@ -34,22 +34,21 @@ class Importproef : public Hoofdvensterproef {
         Klik(Knop("cmdHaalNBBnamen"));
         wachter.Klaar();
     }
-    void VerwachtVraag(const QString& subgroep, int spelers,
-                       const QString& antwoord = QStringLiteral("OK"))
+    void VerwachtVraag(const QString& subgroep, int spelers, const QString& antwoord = u"OK"_s)
     {
-        wachter.Verwacht({.tekst = QStringLiteral("U gaat van '%1' %2 spelers importeren naar "
-                                                  "groep 'Gr05-'.")
-                                       .arg(subgroep)
-                                       .arg(spelers),
-                          .antwoord = antwoord,
-                          .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}});
+        wachter.Verwacht(
+            {.tekst =
+                 u"U gaat van '%1' %2 spelers importeren naar groep 'Gr05-'."_s.arg(subgroep).arg(
+                     spelers),
+             .antwoord = antwoord,
+             .knoppen = {u"OK"_s, u"Annuleren"_s}});
     }
     void VerwachtAantallen(int ververst, int nieuw)
     {
-        wachter.Informatie(QStringLiteral("Aantal spelers geupdate (ververst): %1\r\nAantal "
-                                          "nieuwe spelers toegevoegd: %2")
-                               .arg(ververst)
-                               .arg(nieuw));
+        wachter.Informatie(
+            u"Aantal spelers geupdate (ververst): %1\r\nAantal nieuwe spelers toegevoegd: %2"_s
+                .arg(ververst)
+                .arg(nieuw));
     }
     /// The file dialog, in which a file of the suite is picked.
     void VerwachtBestandskeuze(const QString& filter, const std::filesystem::path& bestand)
@@ -84,11 +83,7 @@ class Importproef : public Hoofdvensterproef {
     /// broken.
     static std::string Labeltekst(const QDialog& dia, const char* label)
     {
-        return Vind<QLabel>(dia, label)
-            ->text()
-            .remove(QLatin1Char('&'))
-            .remove(QChar(0x200B))
-            .toStdString();
+        return Vind<QLabel>(dia, label)->text().remove(u'&').remove(QChar(0x200B)).toStdString();
     }
     /// Puts an export in the folder that is looked in first.
     void ZetExport(const std::string& naam, const std::string& inhoud) const

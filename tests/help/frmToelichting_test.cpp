@@ -88,7 +88,7 @@ std::string Woorden()
     QStringList alles;
     for (const std::string& regel : regels)
         alles << QString::fromStdString(regel);
-    return alles.join(QLatin1Char(' ')).simplified().toStdString();
+    return alles.join(u' ').simplified().toStdString();
 }
 
 } // namespace
@@ -98,7 +98,7 @@ TEST_F(frmToelichtingTest, DeTekst)
     EXPECT_EQ("Toelichting", venster->windowTitle().toStdString());
     EXPECT_EQ("Print", Opschrift(Knop("cmdPrintToel")));
     EXPECT_EQ("Terug", Opschrift(Knop("cmdEinde")));
-    const QStringList getoond = Tekst()->toPlainText().split(QLatin1Char('\n'));
+    const QStringList getoond = Tekst()->toPlainText().split(u'\n');
     ASSERT_EQ(regels.size(), static_cast<std::size_t>(getoond.size()));
     for (std::size_t i = 0; i < regels.size(); ++i)
         EXPECT_EQ(regels[i], getoond[static_cast<qsizetype>(i)].toStdString());
@@ -183,7 +183,7 @@ TEST_F(frmToelichtingTest, HetBladHeeftAlleWoorden)
 TEST_F(frmToelichtingTest, EenPrinterDieWeigertLaatHetVensterOpen)
 {
     schijf.FaalVanaf(1);
-    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+    wachter.Verwacht({.tekst = u"Het printen is niet gelukt."_s,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});
     Klik(Knop("cmdPrintToel"));
@@ -197,12 +197,12 @@ TEST_F(frmToelichtingTest, ZonderPrinterEenFoutEnHetVensterBlijftOpen)
     ASSERT_NO_FATAL_FAILURE(Open([] {
         return Uitkomst<Printer>(tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}}));
     }));
-    wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
-                                              "printer geïnstalleerd of geen standaardprinter "
-                                              "gekozen. De gegevens van de spelers zijn niet "
-                                              "veranderd. Kies een standaardprinter in de "
-                                              "instellingen van uw computer."),
-                      .icoon = QMessageBox::Critical});
+    wachter.Verwacht(
+        {.tekst =
+             u"Er is niets geprint: op deze computer is geen printer geïnstalleerd of geen "
+             "standaardprinter gekozen. De gegevens van de spelers zijn niet veranderd. Kies een "
+             "standaardprinter in de instellingen van uw computer."_s,
+         .icoon = QMessageBox::Critical});
     Klik(Knop("cmdPrintToel"));
     wachter.Klaar();
     EXPECT_TRUE(venster->isVisible());
@@ -216,8 +216,7 @@ TEST_F(frmToelichtingTest, UitZichzelfVraagtHijDeStandaardprinter)
         GTEST_SKIP() << "hier zou echt worden geprint";
     venster = std::make_unique<frmToelichting>(&hoofd);
     venster->show();
-    wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
-                                              "printer"),
+    wachter.Verwacht({.tekst = u"Er is niets geprint: op deze computer is geen printer"_s,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});
     Klik(Knop("cmdPrintToel"));

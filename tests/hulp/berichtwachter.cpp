@@ -9,13 +9,15 @@
 
 #include <utility>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 namespace {
 
 /// As it reads on the screen, without the mark of its mnemonic.
 QString Opschrift(const QAbstractButton& knop)
 {
-    return knop.text().remove(QLatin1Char('&'));
+    return knop.text().remove(u'&');
 }
 
 QStringList Opschriften(const QMessageBox& venster)
@@ -64,23 +66,24 @@ void Berichtwachter::Verwacht(Bericht bericht)
 
 void Berichtwachter::Informatie(const QString& tekst)
 {
-    Verwacht({.tekst = tekst, .knoppen = {QStringLiteral("OK")}});
+    Verwacht({.tekst = tekst, .knoppen = {u"OK"_s}});
 }
 
 void Berichtwachter::Waarschuwing(const QString& tekst)
 {
-    Verwacht({.tekst = tekst, .icoon = QMessageBox::Warning, .knoppen = {QStringLiteral("OK")}});
+    Verwacht({.tekst = tekst, .icoon = QMessageBox::Warning, .knoppen = {u"OK"_s}});
 }
 
 void Berichtwachter::SleutelsOp(const QString& wat, const std::string& spelerbestand)
 {
-    Verwacht({.tekst = wat +
-                       QStringLiteral(": er zijn geen nieuwe sleutels meer. De gegevens zijn niet "
-                                      "veranderd. Zet op de regel hieronder achter HKEY= de "
-                                      "hoogste sleutel die ooit is uitgegeven, en start Plexoran "
-                                      "opnieuw.\n\nBestand: ") +
-                       QString::fromStdString(spelerbestand) + QStringLiteral("\nRegel: 1"),
-              .icoon = QMessageBox::Critical});
+    Verwacht(
+        {.tekst =
+             wat +
+             u": er zijn geen nieuwe sleutels meer. De gegevens zijn niet veranderd. Zet op de "
+             "regel hieronder achter HKEY= de hoogste sleutel die ooit is uitgegeven, en start "
+             "Plexoran opnieuw.\n\nBestand: "_s +
+             QString::fromStdString(spelerbestand) + u"\nRegel: 1"_s,
+         .icoon = QMessageBox::Critical});
 }
 
 void Berichtwachter::Bedien(std::function<void(QDialog&)> stappen)
@@ -91,9 +94,8 @@ void Berichtwachter::Bedien(std::function<void(QDialog&)> stappen)
 void Berichtwachter::Klaar()
 {
     for (const Verwachting& verwachting : std::exchange(verwacht_, {}))
-        Faal(verwachting.bericht
-                 ? QStringLiteral("verwacht, maar niet gekomen: ") + verwachting.bericht->tekst
-                 : QStringLiteral("het verwachte venster is niet gekomen"));
+        Faal(verwachting.bericht ? u"verwacht, maar niet gekomen: "_s + verwachting.bericht->tekst
+                                 : u"het verwachte venster is niet gekomen"_s);
 }
 
 /// A window shows just before its own event loop begins; it is dealt with inside that loop.
@@ -125,7 +127,7 @@ void Berichtwachter::Behandel(QMessageBox& venster)
         return;
     }
     if (verwacht_.empty() || !verwacht_.front().bericht) {
-        Faal(QStringLiteral("onverwacht bericht: ") + venster.text());
+        Faal(u"onverwacht bericht: "_s + venster.text());
         SluitOnschuldig(venster);
         return;
     }
@@ -139,25 +141,23 @@ void Berichtwachter::Vergelijk(const QMessageBox& venster, const Bericht& berich
 {
     const auto gelijk = [this](const QString& wat, const QString& is, const QString& moet) {
         if (is != moet)
-            Faal(wat + QStringLiteral(" is\n  \"") + is + QStringLiteral("\"\nen niet\n  \"") +
-                 moet + QStringLiteral("\""));
+            Faal(wat + u" is\n  \""_s + is + u"\"\nen niet\n  \""_s + moet + u"\""_s);
     };
     const auto vergelijk = [&](const QString& wat, const QString& is, const QString& moet) {
         gelijk(wat, bericht.alleenBegin ? is.left(moet.size()) : is, moet);
     };
-    vergelijk(QStringLiteral("de tekst"), venster.text(), bericht.tekst);
-    vergelijk(QStringLiteral("de toelichting"), venster.informativeText(), bericht.toelichting);
-    gelijk(QStringLiteral("de titel"), venster.windowTitle(), bericht.titel);
-    gelijk(QStringLiteral("de tekstsoort"), QString::number(venster.textFormat()),
+    vergelijk(u"de tekst"_s, venster.text(), bericht.tekst);
+    vergelijk(u"de toelichting"_s, venster.informativeText(), bericht.toelichting);
+    gelijk(u"de titel"_s, venster.windowTitle(), bericht.titel);
+    gelijk(u"de tekstsoort"_s, QString::number(venster.textFormat()),
            QString::number(Qt::PlainText));
     if (venster.icon() != bericht.icoon)
-        Faal(QStringLiteral("icoon %1 en niet %2 bij: %3")
-                 .arg(venster.icon())
+        Faal(u"icoon %1 en niet %2 bij: %3"_s.arg(venster.icon())
                  .arg(bericht.icoon)
                  .arg(venster.text()));
     if (!bericht.knoppen.isEmpty())
-        gelijk(QStringLiteral("de rij knoppen"), Opschriften(venster).join(QStringLiteral(" | ")),
-               bericht.knoppen.join(QStringLiteral(" | ")));
+        gelijk(u"de rij knoppen"_s, Opschriften(venster).join(u" | "_s),
+               bericht.knoppen.join(u" | "_s));
 }
 
 void Berichtwachter::Beantwoord(QMessageBox& venster, const QString& antwoord)
@@ -169,7 +169,7 @@ void Berichtwachter::Beantwoord(QMessageBox& venster, const QString& antwoord)
     } else if (QAbstractButton* knop = Knop(venster, antwoord)) {
         knop->click();
     } else {
-        Faal(QStringLiteral("geen knop '%1' bij: %2").arg(antwoord, venster.text()));
+        Faal(u"geen knop '%1' bij: %2"_s.arg(antwoord, venster.text()));
         SluitOnschuldig(venster);
     }
 }
@@ -191,13 +191,13 @@ void Berichtwachter::BehandelDialoog(QDialog& dialoog)
 {
     const QPointer<QDialog> nog(&dialoog);
     if (verwacht_.empty() || verwacht_.front().bericht) {
-        Faal(QStringLiteral("onverwacht venster: ") + dialoog.objectName());
+        Faal(u"onverwacht venster: "_s + dialoog.objectName());
     } else {
         const auto stappen = std::move(verwacht_.front().stappen);
         verwacht_.pop_front();
         // Activating it is done by now; what showing put off runs before the steps.
         if (!QTest::qWaitForWindowActive(&dialoog, geduld_))
-            Faal(QStringLiteral("het venster wordt niet actief: ") + dialoog.objectName());
+            Faal(u"het venster wordt niet actief: "_s + dialoog.objectName());
         QApplication::processEvents();
         try { // an exception would not survive the event loop
             stappen(dialoog);
@@ -208,7 +208,7 @@ void Berichtwachter::BehandelDialoog(QDialog& dialoog)
         }
         if (!nog || !nog->isVisible())
             return;
-        Faal(QStringLiteral("de stappen lieten het venster open: ") + dialoog.objectName());
+        Faal(u"de stappen lieten het venster open: "_s + dialoog.objectName());
     }
     dialoog.done(QDialog::Rejected);
 }
@@ -226,8 +226,8 @@ void Berichtwachter::Waak()
     }
     if (sinds_.elapsed() < geduld_)
         return;
-    Faal(QStringLiteral("te lang open: %1 '%2'")
-             .arg(QString::fromLatin1(nu->metaObject()->className()), nu->objectName()));
+    Faal(u"te lang open: %1 '%2'"_s.arg(QString::fromLatin1(nu->metaObject()->className()),
+                                        nu->objectName()));
     sinds_.start();
     if (auto* dialoog = qobject_cast<QDialog*>(nu))
         dialoog->done(QDialog::Rejected);

@@ -13,15 +13,17 @@
 #include <functional>
 #include <optional>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 
 /// An expected message box. The whole text is compared, or its beginning where the rest is the
 /// system's own words.
 struct Bericht {
     QString tekst;
-    QString antwoord = QStringLiteral("OK"); ///< the caption of the button that is pressed
+    QString antwoord = u"OK"_s; ///< the caption of the button that is pressed
     QMessageBox::Icon icoon = QMessageBox::Information;
-    QString titel = QStringLiteral("Plexoran");
+    QString titel = u"Plexoran"_s;
     QStringList knoppen{}; ///< all of them, left to right; not looked at when empty
     bool alleenBegin = false;
     QString toelichting{}; ///< below the text
@@ -30,8 +32,8 @@ struct Bericht {
 class Berichtwachter : public QObject {
   public:
     /// Answers instead of a caption: the Escape key, or the close box of the window.
-    static inline const QString Escape = QStringLiteral("<Escape>");
-    static inline const QString Sluitvak = QStringLiteral("<sluitvak>");
+    static inline const QString Escape = u"<Escape>"_s;
+    static inline const QString Sluitvak = u"<sluitvak>"_s;
 
     Berichtwachter();
     /// Fails the test when something expected did not come.

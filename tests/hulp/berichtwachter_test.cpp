@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
 
 using namespace plexoran;
 
@@ -28,7 +29,7 @@ class BerichtwachterTest : public testing::Test {
     Berichtwachter wachter;
 };
 
-const QString Hallo = QStringLiteral("Hallo");
+const QString Hallo = u"Hallo"_s;
 
 } // namespace
 
@@ -36,7 +37,7 @@ TEST_F(BerichtwachterTest, HetVerwachteBerichtIsGeenFout)
 {
     wachter.Informatie(Hallo);
     Meld(nullptr, QMessageBox::Information, Hallo);
-    wachter.Verwacht({.tekst = Hallo, .antwoord = QStringLiteral("Annuleren")});
+    wachter.Verwacht({.tekst = Hallo, .antwoord = u"Annuleren"_s});
     EXPECT_FALSE(Vraag(nullptr, QMessageBox::Information, Hallo));
     wachter.Verwacht({.tekst = Hallo});
     EXPECT_TRUE(Vraag(nullptr, QMessageBox::Information, Hallo));
@@ -48,8 +49,7 @@ TEST_F(BerichtwachterTest, EenOnverwachtBerichtGaatOnschuldigDichtEnIsEenFout)
 {
     EXPECT_FALSE(Vraag(nullptr, QMessageBox::Information, Hallo));
     VerwachtFout("onverwacht bericht: Hallo");
-    EXPECT_EQ(1, Kies(nullptr, QMessageBox::Warning, Hallo,
-                      {QStringLiteral("Doe het"), QStringLiteral("Laat maar")}));
+    EXPECT_EQ(1, Kies(nullptr, QMessageBox::Warning, Hallo, {u"Doe het"_s, u"Laat maar"_s}));
     VerwachtFout("onverwacht bericht: Hallo");
 }
 
@@ -67,32 +67,32 @@ TEST_F(BerichtwachterTest, WatNietKomtIsEenFout)
 
 TEST_F(BerichtwachterTest, ElkVerschilIsEenFout)
 {
-    wachter.Informatie(QStringLiteral("Hallo daar"));
+    wachter.Informatie(u"Hallo daar"_s);
     Meld(nullptr, QMessageBox::Information, Hallo);
     VerwachtFout("de tekst is");
     wachter.Informatie(Hallo);
-    Meld(nullptr, QMessageBox::Information, QStringLiteral("Hallo daar"));
+    Meld(nullptr, QMessageBox::Information, u"Hallo daar"_s);
     VerwachtFout("de tekst is");
     wachter.Informatie(Hallo);
     Meld(nullptr, QMessageBox::Warning, Hallo);
     VerwachtFout("icoon");
     wachter.Informatie(Hallo);
-    Meld(nullptr, QMessageBox::Information, Hallo, QStringLiteral("Titel"));
+    Meld(nullptr, QMessageBox::Information, Hallo, u"Titel"_s);
     VerwachtFout("de titel is");
     wachter.Informatie(Hallo);
     EXPECT_TRUE(Vraag(nullptr, QMessageBox::Information, Hallo));
     VerwachtFout("de rij knoppen is");
-    wachter.Verwacht({.tekst = Hallo, .antwoord = QStringLiteral("Misschien")});
+    wachter.Verwacht({.tekst = Hallo, .antwoord = u"Misschien"_s});
     EXPECT_FALSE(Vraag(nullptr, QMessageBox::Information, Hallo));
     VerwachtFout("geen knop 'Misschien'");
 }
 
 TEST_F(BerichtwachterTest, AlleenHetBeginTeltAlsDatGevraagdIs)
 {
-    wachter.Verwacht({.tekst = QStringLiteral("Hal"), .alleenBegin = true});
+    wachter.Verwacht({.tekst = u"Hal"_s, .alleenBegin = true});
     Meld(nullptr, QMessageBox::Information, Hallo);
     EXPECT_EQ(QStringList(), fouten);
-    wachter.Verwacht({.tekst = QStringLiteral("Hul"), .alleenBegin = true});
+    wachter.Verwacht({.tekst = u"Hul"_s, .alleenBegin = true});
     Meld(nullptr, QMessageBox::Information, Hallo);
     VerwachtFout("de tekst is");
 }
@@ -123,7 +123,7 @@ TEST_F(BerichtwachterTest, EenBerichtTijdensDeStappenVanEenVenster)
 TEST_F(BerichtwachterTest, EenOnverwachtVensterGaatDicht)
 {
     QDialog dialoog;
-    dialoog.setObjectName(QStringLiteral("diaVreemd"));
+    dialoog.setObjectName(u"diaVreemd"_s);
     EXPECT_EQ(QDialog::Rejected, dialoog.exec());
     VerwachtFout("onverwacht venster: diaVreemd");
 }

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 namespace {
 
@@ -24,7 +26,7 @@ QByteArray Uitvoer(const QString& programma, const QStringList& bij)
     lezer.start(programma, bij);
     if (!lezer.waitForFinished() || lezer.exitCode() != 0)
         throw std::runtime_error(programma.toStdString() + " leest " +
-                                 bij.join(QLatin1Char(' ')).toStdString() +
+                                 bij.join(u' ').toStdString() +
                                  " niet: " + lezer.readAllStandardError().toStdString());
     return lezer.readAllStandardOutput();
 }
@@ -86,17 +88,15 @@ void ZetInLeesvolgorde(Pdfblad& blad)
 std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
 {
     std::vector<Pdfblad> bladen;
-    QXmlStreamReader xml(
-        Uitvoer(QStringLiteral("pdftotext"),
-                {QStringLiteral("-bbox"), QString::fromStdU16String(bestand.u16string()),
-                 QStringLiteral("-")}));
+    QXmlStreamReader xml(Uitvoer(
+        u"pdftotext"_s, {u"-bbox"_s, QString::fromStdU16String(bestand.u16string()), u"-"_s}));
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         const QXmlStreamAttributes bij = xml.attributes();
-        if (xml.name() == QLatin1String("page"))
+        if (xml.name() == "page"_L1)
             bladen.push_back({Maat(bij, "width"), Maat(bij, "height"), {}});
-        else if (xml.name() == QLatin1String("word") && !bladen.empty())
+        else if (xml.name() == "word"_L1 && !bladen.empty())
             bladen.back().woorden.push_back({.tekst = xml.readElementText().toStdString(),
                                              .links = Maat(bij, "xMin"),
                                              .boven = Maat(bij, "yMin"),
@@ -110,11 +110,11 @@ std::vector<Pdfblad> LeesPdf(const std::filesystem::path& bestand)
 
 QImage Pdfbeeld(const std::filesystem::path& bestand, int puntenPerMm)
 {
-    return QImage::fromData(Uitvoer(QStringLiteral("pdftoppm"),
-                                    {QStringLiteral("-gray"), QStringLiteral("-singlefile"),
-                                     QStringLiteral("-r"), QString::number(25.4 * puntenPerMm),
-                                     QString::fromStdU16String(bestand.u16string())}),
-                            "PGM");
+    return QImage::fromData(
+        Uitvoer(u"pdftoppm"_s,
+                {u"-gray"_s, u"-singlefile"_s, u"-r"_s, QString::number(25.4 * puntenPerMm),
+                 QString::fromStdU16String(bestand.u16string())}),
+        "PGM");
 }
 
 } // namespace plexoran

@@ -12,6 +12,7 @@
 
 #include "hulp/berichtwachter.h"
 #include "hulp/venstergrepen.h"
+#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 
@@ -33,7 +34,7 @@ inline void DrukPrintdialoog(QDialog& dialoog, QDialogButtonBox::ButtonRole rol)
 inline void VouwUit(QDialog& dialoog)
 {
     for (QPushButton* knop : dialoog.findChildren<QPushButton*>()) {
-        if (knop->text().endsWith(QLatin1String(">>"))) {
+        if (knop->text().endsWith(">>"_L1)) {
             knop->click();
             QApplication::processEvents();
             return;
@@ -45,7 +46,7 @@ inline void VouwUit(QDialog& dialoog)
 inline void KiesPdf(QDialog& dialoog, const std::filesystem::path& bestand)
 {
     auto* printers = Vind<QComboBox>(dialoog, "printers");
-    const int plaats = printers->findText(QStringLiteral("(PDF)"), Qt::MatchContains);
+    const int plaats = printers->findText(u"(PDF)"_s, Qt::MatchContains);
     if (plaats < 0)
         throw std::runtime_error("er staat geen PDF tussen de printers");
     printers->setCurrentIndex(plaats);

@@ -11,6 +11,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 
 /// Finds a control of a window by its name.
@@ -31,11 +33,7 @@ inline bool StaatHeelIn(const QWidget& venster, const QWidget& deel)
 /// A caption as it reads on the screen, without the mark of its mnemonic.
 inline std::string Opschrift(const QAbstractButton* knop)
 {
-    return knop->text()
-        .replace(QStringLiteral("&&"), QStringLiteral("\1"))
-        .remove(QLatin1Char('&'))
-        .replace(QLatin1Char('\1'), QLatin1Char('&'))
-        .toStdString();
+    return knop->text().replace(u"&&"_s, u"\1"_s).remove(u'&').replace(u'\1', u'&').toStdString();
 }
 
 /// Between two acts of a user the program gets the time to do what it put off.

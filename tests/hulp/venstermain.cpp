@@ -9,6 +9,8 @@
 #include "platform/bronnen/accesskind.h"
 #include "platform/scherm/inrichting.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A display that the user chose is kept, so that a test can be looked at.
@@ -21,8 +23,8 @@ void ZetAlsLeeg(const char* naam, const char* waarde)
 void Vang(QtMsgType soort, const QMessageLogContext&, const QString& tekst)
 {
     // What the off-screen display cannot do is no fault of the program.
-    const bool vanHetScherm = tekst.startsWith(QLatin1String("This plugin does not support"));
-    if (vanHetScherm || tekst.contains(QLatin1String("XDG_RUNTIME_DIR")))
+    const bool vanHetScherm = tekst.startsWith("This plugin does not support"_L1);
+    if (vanHetScherm || tekst.contains("XDG_RUNTIME_DIR"_L1))
         return;
     std::fprintf(stderr, "Qt: %s\n", qPrintable(tekst));
     if (soort != QtDebugMsg && soort != QtInfoMsg)
@@ -40,7 +42,7 @@ int main(int argc, char** argv)
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(Vang);
     QApplication programma(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(u"Fusion"_s);
     plexoran::RichtIn(programma);
     return RUN_ALL_TESTS();
 }

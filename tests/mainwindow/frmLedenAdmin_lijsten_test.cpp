@@ -11,10 +11,10 @@ using namespace plexoran;
 
 namespace {
 
-const QString OK = QStringLiteral("OK");
+const QString OK = u"OK"_s;
 const QString registerBehouden =
-    QStringLiteral("Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
-                   "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe.");
+    u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste inhoud, en "
+    "die ziet u nu weer. Voeg eerst een andere speler toe."_s;
 
 class LijstenTest : public Hoofdvensterproef {
   protected:
@@ -26,10 +26,10 @@ class LijstenTest : public Hoofdvensterproef {
             Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
             Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
         });
-        wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep '"),
-                          .titel = QStringLiteral("Verwijderen?"),
+        wachter.Verwacht({.tekst = u"U gaat alle spelers van Subgroep '"_s,
+                          .titel = u"Verwijderen?"_s,
                           .alleenBegin = true});
-        wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+        wachter.Informatie(u"Klaar! \r\nEr zijn 4 speler(s) verwijderd."_s);
     }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
 
@@ -73,7 +73,7 @@ class LijstenTest : public Hoofdvensterproef {
     {
         wachter.Verwacht({.tekst = tekst,
                           .icoon = QMessageBox::NoIcon,
-                          .titel = QStringLiteral("DUBBELE NAMEN in deze groep: ") + groep,
+                          .titel = u"DUBBELE NAMEN in deze groep: "_s + groep,
                           .knoppen = {OK}});
     }
     [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
@@ -102,28 +102,25 @@ class LijstenTest : public Hoofdvensterproef {
             Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(naarGroep - 1);
             Klik(Vind<QPushButton>(dialoog, "cmdOK"));
         });
-        wachter.Informatie(QStringLiteral("De spelers(s) zijn verplaatst."));
+        wachter.Informatie(u"De spelers(s) zijn verplaatst."_s);
         Klik(Knop("cmdVerplaats"));
         wachter.Klaar();
     }
-    void VerwachtOpslagfout(const QString& antwoord = QStringLiteral("Doorgaan"))
+    void VerwachtOpslagfout(const QString& antwoord = u"Doorgaan"_s)
     {
-        wachter.Verwacht(
-            {.tekst = QStringLiteral("De spelers konden niet worden opgeslagen."),
-             .antwoord = antwoord,
-             .icoon = QMessageBox::Critical,
-             .knoppen = {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")},
-             .alleenBegin = true});
+        wachter.Verwacht({.tekst = u"De spelers konden niet worden opgeslagen."_s,
+                          .antwoord = antwoord,
+                          .icoon = QMessageBox::Critical,
+                          .knoppen = {u"Opnieuw proberen"_s, u"Doorgaan"_s},
+                          .alleenBegin = true});
     }
 };
 
-const QString kop =
-    QStringLiteral("RVDkey\tNaam\t\t\tNBBgr\tNBBnr\r\n"
-                   "-----------------------------------------------------------------------\r\n");
+const QString kop = u"RVDkey\tNaam\t\t\tNBBgr\tNBBnr\r\n"
+                    "-----------------------------------------------------------------------\r\n"_s;
 const QString slot =
-    QStringLiteral("\r\nGa na welke regel nog actueel is.\r\n"
-                   "Verwijder 1 van beide, deze zal dan niet meer worden getoond in de overzichten "
-                   "ed.\r\n");
+    u"\r\nGa na welke regel nog actueel is.\r\nVerwijder 1 van beide, deze zal dan niet meer "
+    "worden getoond in de overzichten ed.\r\n"_s;
 
 } // namespace
 
@@ -183,16 +180,14 @@ TEST_F(LijstenTest, OpGroepEnNaam)
 TEST_F(LijstenTest, EenLegeLijstGeeftDeMeldingVanZijnSoort)
 {
     KiesGroep(4);
-    wachter.Informatie(QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium."));
+    wachter.Informatie(u"Er zijn geen regels die voldoen aan het zoek-criterium."_s);
     Klik(Knop("cmdSortlijst1"));
-    wachter.Informatie(
-        QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'."));
+    wachter.Informatie(u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'."_s);
     Klik(Knop("cmdSortlijst3"));
     wachter.Klaar();
     StartMet("HKEY=100009\r\n1,100001,Gr05-,Jan,,Bos,,,,,,,M,,,,DI,  \r\n");
     KiesGroep(5);
-    wachter.Informatie(
-        QStringLiteral("Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-nummer'."));
+    wachter.Informatie(u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-nummer'."_s);
     Klik(Knop("cmdSortlijst2"));
     wachter.Klaar();
 }
@@ -201,13 +196,13 @@ TEST_F(LijstenTest, WatGeenGetalIsWordtGenoemd)
 {
     StartMet("HKEY=100009\r\n1,10A001,Gr05-,Jan,de,Bos,,,,,,,M,,,,DI,lid 1\r\n");
     KiesGroep(5);
-    wachter.Waarschuwing(QStringLiteral("De lijst kan niet worden gemaakt: de sleutel van Jan de "
-                                        "Bos (Gr05-) is geen getal: '10A001'. De gegevens zijn "
-                                        "niet veranderd. Verbeter dat in het spelerbestand."));
+    wachter.Waarschuwing(
+        u"De lijst kan niet worden gemaakt: de sleutel van Jan de Bos (Gr05-) is geen getal: "
+        "'10A001'. De gegevens zijn niet veranderd. Verbeter dat in het spelerbestand."_s);
     Klik(Knop("cmdSortlijst1"));
-    wachter.Waarschuwing(QStringLiteral("De lijst kan niet worden gemaakt: het NBB-nummer van Jan "
-                                        "de Bos (Gr05-) is geen getal: 'lid 1'. De gegevens zijn "
-                                        "niet veranderd. Verbeter dat bij deze speler."));
+    wachter.Waarschuwing(
+        u"De lijst kan niet worden gemaakt: het NBB-nummer van Jan de Bos (Gr05-) is geen getal: "
+        "'lid 1'. De gegevens zijn niet veranderd. Verbeter dat bij deze speler."_s);
     Klik(Knop("cmdSortlijst2"));
     wachter.Klaar();
 }
@@ -215,7 +210,7 @@ TEST_F(LijstenTest, WatGeenGetalIsWordtGenoemd)
 TEST_F(LijstenTest, DubbeleNamenInDeGroep)
 {
     KiesGroep(3);
-    VerwachtVerslag(QStringLiteral("Géén dubbele namen gevonden!\r\n"), QStringLiteral("Gr03-"));
+    VerwachtVerslag(u"Géén dubbele namen gevonden!\r\n"_s, u"Gr03-"_s);
     Klik(Knop("cmdZoekDubbeleNamen"));
     wachter.Klaar();
     StartMet("HKEY=100009\r\n1,100001,Gr02-,Jan,,Bos,,,,,,,M,,,,,\r\n"
@@ -225,16 +220,14 @@ TEST_F(LijstenTest, DubbeleNamenInDeGroep)
              "5,100005,Gr01-,Jande,,Vries,,,,,,,M,,,,B,\r\n");
     KiesGroep(1);
     VerwachtVerslag(kop +
-                        QStringLiteral("100002\tJan\t\tBos\tA-lijn\t7\r\n"
-                                       "100004\tJan\t\tBos\tDI\t12345\r\n"
-                                       "100003\tJan\tde\tVries\t\t\r\n"
-                                       "100005\tJande\t\tVries\tB\t\r\n") +
+                        u"100002\tJan\t\tBos\tA-lijn\t7\r\n100004\tJan\t\tBos\tDI\t12345\r\n"
+                        "100003\tJan\tde\tVries\t\t\r\n100005\tJande\t\tVries\tB\t\r\n"_s +
                         slot,
-                    QStringLiteral("Gr01-"));
+                    u"Gr01-"_s);
     Klik(Knop("cmdZoekDubbeleNamen"));
     wachter.Klaar();
     KiesGroep(5);
-    VerwachtVerslag(QStringLiteral("Géén dubbele namen gevonden!\r\n"), QStringLiteral("Gr05-"));
+    VerwachtVerslag(u"Géén dubbele namen gevonden!\r\n"_s, u"Gr05-"_s);
     Klik(Knop("cmdZoekDubbeleNamen"));
     wachter.Klaar();
 }
@@ -273,7 +266,7 @@ TEST_F(LijstenTest, LijstenVeranderenHetBestandNiet)
 {
     const std::string oud = suite.Spelers();
     Lijst("cmdSortlijst1", "Spelers gesorteerd op 'RVD-key'.");
-    VerwachtVerslag(QStringLiteral("Géén dubbele namen gevonden!\r\n"), QStringLiteral("Gr03-"));
+    VerwachtVerslag(u"Géén dubbele namen gevonden!\r\n"_s, u"Gr03-"_s);
     KiesGroep(3);
     Klik(Knop("cmdZoekDubbeleNamen"));
     wachter.Klaar();
@@ -348,11 +341,10 @@ TEST_F(LijstenTest, VerplaatsenDatNietOpgeslagenKanWordenBlijftInHetProgramma)
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ("Aantal regels: 49", Aantal());
     EXPECT_TRUE(venster->isWindowModified());
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand."),
-         .antwoord = QStringLiteral("Opslaan"),
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    wachter.Verwacht({.tekst = u"De laatste wijzigingen staan nog niet in het spelerbestand."_s,
+                      .antwoord = u"Opslaan"_s,
+                      .icoon = QMessageBox::Warning,
+                      .alleenBegin = true});
     venster->close();
     wachter.Klaar();
     EXPECT_NE(std::string::npos, Regel("100001").find(",Gr04-,"));
@@ -367,12 +359,12 @@ TEST_F(LijstenTest, KopierenDatNietOpgeslagenKanWordenKanOpnieuw)
         Klik(Vind<QPushButton>(dialoog, "cmdOK"));
     });
     wachter.Verwacht(
-        {.tekst = QStringLiteral(
-             "U gaat spelers kopiëren van groep 'Gr01-Clubleden' naar groep 'Gr07-Zomerdrive'."),
+        {.tekst =
+             u"U gaat spelers kopiëren van groep 'Gr01-Clubleden' naar groep 'Gr07-Zomerdrive'."_s,
          .alleenBegin = true});
-    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
-    VerwachtOpslagfout(QStringLiteral("Opnieuw proberen"));
-    VerwachtOpslagfout(QStringLiteral("Doorgaan"));
+    wachter.Informatie(u"Er zijn 1 spelers gekopieerd."_s);
+    VerwachtOpslagfout(u"Opnieuw proberen"_s);
+    VerwachtOpslagfout(u"Doorgaan"_s);
     Klik(Knop("cmdKopieer"));
     wachter.Klaar();
     schijf.FaalNiet();
@@ -403,9 +395,9 @@ TEST_F(LijstenTest, BijHetOpnieuwProberenWordtDeKopieEenKeerOpgeslagen)
         Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(6);
         Klik(Vind<QPushButton>(dialoog, "cmdOK"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("U gaat spelers kopiëren"), .alleenBegin = true});
-    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
-    VerwachtOpslagfout(QStringLiteral("Opnieuw proberen"));
+    wachter.Verwacht({.tekst = u"U gaat spelers kopiëren"_s, .alleenBegin = true});
+    wachter.Informatie(u"Er zijn 1 spelers gekopieerd."_s);
+    VerwachtOpslagfout(u"Opnieuw proberen"_s);
     Klik(Knop("cmdKopieer"));
     wachter.Klaar();
     EXPECT_FALSE(venster->isWindowModified());
@@ -422,8 +414,7 @@ TEST_F(LijstenTest, EenSubgroepVerwijderenDatNietOpgeslagenKanWordenKanOpnieuw)
         KiesGroep(3);
         schijf.FaalBij(1);
         VerwachtSubgroepWeg();
-        VerwachtOpslagfout(opnieuw ? QStringLiteral("Opnieuw proberen")
-                                   : QStringLiteral("Doorgaan"));
+        VerwachtOpslagfout(opnieuw ? u"Opnieuw proberen"_s : u"Doorgaan"_s);
         Klik(Knop("cmdVerwGroep"));
         wachter.Klaar();
         schijf.FaalNiet();
@@ -454,12 +445,12 @@ TEST_F(LijstenTest, KopierenVraagtEnMeldtEnSlaatOp)
         EXPECT_FALSE(dialoog.isVisible());
     });
     wachter.Verwacht(
-        {.tekst = QStringLiteral(
-             "U gaat spelers kopiëren van groep 'Gr03-Jeugd' naar groep 'Gr07-Zomerdrive'.\r\n\r\n"
-             "Pas op: Reeds bestaande spelers in 'Gr07-Zomerdrive' zullen er daarna 2 keer in "
-             "staan en zult u handmatig moeten verwijderen!"),
-         .knoppen = {OK, QStringLiteral("Annuleren")}});
-    wachter.Informatie(QStringLiteral("Er zijn 2 spelers gekopieerd."));
+        {.tekst =
+             u"U gaat spelers kopiëren van groep 'Gr03-Jeugd' naar groep 'Gr07-Zomerdrive'.\r\n"
+             "\r\nPas op: Reeds bestaande spelers in 'Gr07-Zomerdrive' zullen er daarna 2 keer in "
+             "staan en zult u handmatig moeten verwijderen!"_s,
+         .knoppen = {OK, u"Annuleren"_s}});
+    wachter.Informatie(u"Er zijn 2 spelers gekopieerd."_s);
     Klik(Knop("cmdKopieer"));
     wachter.Klaar();
     auto moet = oud;
@@ -483,13 +474,14 @@ TEST_F(LijstenTest, EenSubgroepVerwijderen)
         Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
     });
     wachter.Verwacht(
-        {.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'GEVORDERDEN'\r\nuit RVDgroep "
-                                 "'Gr03-Jeugd' verwijderen!\r\n\r\nWeet u het zeker?"),
-         .titel = QStringLiteral("Verwijderen?"),
-         .knoppen = {OK, QStringLiteral("Annuleren")},
-         .toelichting = QStringLiteral("4 spelers:\nJesse Nijboersma\nIlse ten Broekhoven\n"
-                                       "Mees de Drieskens\nAïcha el Amranouï")});
-    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+        {.tekst = u"U gaat alle spelers van Subgroep 'GEVORDERDEN'\r\nuit RVDgroep 'Gr03-Jeugd' "
+                  "verwijderen!\r\n\r\nWeet u het zeker?"_s,
+         .titel = u"Verwijderen?"_s,
+         .knoppen = {OK, u"Annuleren"_s},
+         .toelichting =
+             u"4 spelers:\nJesse Nijboersma\nIlse ten Broekhoven\nMees de Drieskens\nAïcha el "
+             "Amranouï"_s});
+    wachter.Informatie(u"Klaar! \r\nEr zijn 4 speler(s) verwijderd."_s);
     Klik(Knop("cmdVerwGroep"));
     wachter.Klaar();
     EXPECT_EQ("Aantal regels: 5", Aantal());
@@ -511,12 +503,12 @@ TEST_F(LijstenTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
         Klik(Vind<QPushButton>(dialoog, "cmdVerwijder"));
         Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
     });
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'A'\r\nuit RVDgroep "
-                                 "'Gr01-Clubleden' verwijderen!\r\n\r\nWeet u het zeker?"),
-         .titel = QStringLiteral("Verwijderen?"),
-         .toelichting = QStringLiteral("1 speler:\nJan Bos")});
-    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 1 speler(s) verwijderd."));
+    wachter.Verwacht({.tekst =
+                          u"U gaat alle spelers van Subgroep 'A'\r\nuit RVDgroep 'Gr01-Clubleden' "
+                          "verwijderen!\r\n\r\nWeet u het zeker?"_s,
+                      .titel = u"Verwijderen?"_s,
+                      .toelichting = u"1 speler:\nJan Bos"_s});
+    wachter.Informatie(u"Klaar! \r\nEr zijn 1 speler(s) verwijderd."_s);
     wachter.Informatie(registerBehouden);
     Klik(Knop("cmdVerwGroep"));
     wachter.Klaar();
@@ -548,10 +540,10 @@ TEST_F(LijstenTest, HetRoosterKloptOokVoordatHetVensterDichtIs)
         EXPECT_EQ("100115", GekozenSleutel());
         Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("U gaat alle spelers van Subgroep 'BEGINNERS'"),
-                      .titel = QStringLiteral("Verwijderen?"),
+    wachter.Verwacht({.tekst = u"U gaat alle spelers van Subgroep 'BEGINNERS'"_s,
+                      .titel = u"Verwijderen?"_s,
                       .alleenBegin = true});
-    wachter.Informatie(QStringLiteral("Klaar! \r\nEr zijn 4 speler(s) verwijderd."));
+    wachter.Informatie(u"Klaar! \r\nEr zijn 4 speler(s) verwijderd."_s);
     Klik(Knop("cmdVerwGroep"));
     wachter.Klaar();
     EXPECT_EQ("Aantal regels: 5", Aantal());
@@ -568,8 +560,8 @@ TEST_F(LijstenTest, HetRoosterBlijftOpZijnPlaatsNaKopierenEnVerwijderen)
         Vind<QComboBox>(dialoog, "cmbGrnamen")->setCurrentIndex(6);
         Klik(Vind<QPushButton>(dialoog, "cmdOK"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("U gaat spelers kopiëren"), .alleenBegin = true});
-    wachter.Informatie(QStringLiteral("Er zijn 1 spelers gekopieerd."));
+    wachter.Verwacht({.tekst = u"U gaat spelers kopiëren"_s, .alleenBegin = true});
+    wachter.Informatie(u"Er zijn 1 spelers gekopieerd."_s);
     Klik(Knop("cmdKopieer"));
     wachter.Klaar();
     EXPECT_EQ(stand, Balk("VScroll1")->value());

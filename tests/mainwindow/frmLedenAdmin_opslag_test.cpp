@@ -5,15 +5,14 @@ using namespace plexoran;
 
 namespace {
 
-const QString Opnieuw = QStringLiteral("Opnieuw proberen");
-const QString Doorgaan = QStringLiteral("Doorgaan");
-const QString Opslaan = QStringLiteral("Opslaan");
-const QString NietOpslaan = QStringLiteral("Niet opslaan");
-const QString Annuleren = QStringLiteral("Annuleren");
-const QString LeesIn = QStringLiteral("Opnieuw inlezen");
-const QString isLeeg =
-    QStringLiteral("Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!");
-const QString Later = QStringLiteral("Later beslissen");
+const QString Opnieuw = u"Opnieuw proberen"_s;
+const QString Doorgaan = u"Doorgaan"_s;
+const QString Opslaan = u"Opslaan"_s;
+const QString NietOpslaan = u"Niet opslaan"_s;
+const QString Annuleren = u"Annuleren"_s;
+const QString LeesIn = u"Opnieuw inlezen"_s;
+const QString isLeeg = u"Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"_s;
+const QString Later = u"Later beslissen"_s;
 
 class OpslagTest : public Hoofdvensterproef {
   protected:
@@ -28,19 +27,18 @@ class OpslagTest : public Hoofdvensterproef {
     [[nodiscard]] QString Bestandsregel() const
     {
         const auto pad = suite.Weg() / "Spelers" / "RVDspelers.txt";
-        return QStringLiteral("Bestand: ") + QString::fromStdString(pad.string());
+        return u"Bestand: "_s + QString::fromStdString(pad.string());
     }
 
     void VerwachtMislukt(const QString& antwoord)
     {
         wachter.Verwacht(
-            {.tekst = QStringLiteral(
-                          "De spelers konden niet worden opgeslagen. Het spelerbestand op de "
-                          "schijf is heel gebleven, en uw laatste wijziging staat nog in dit "
-                          "programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij "
-                          "de volgende wijziging en bij het afsluiten komt deze keus "
-                          "terug.\n\n") +
-                      Bestandsregel(),
+            {.tekst =
+                 u"De spelers konden niet worden opgeslagen. Het spelerbestand op de schijf is "
+                 "heel gebleven, en uw laatste wijziging staat nog in dit programma. Verhelp de "
+                 "oorzaak en probeer het opnieuw, of ga door: bij de volgende wijziging en bij "
+                 "het afsluiten komt deze keus terug.\n\n"_s +
+                 Bestandsregel(),
              .antwoord = antwoord,
              .icoon = QMessageBox::Critical,
              .knoppen = {Opnieuw, Doorgaan},
@@ -51,26 +49,25 @@ class OpslagTest : public Hoofdvensterproef {
     void VerwachtNietVast(const std::string& bestand = "RVDspelers.txt")
     {
         wachter.Verwacht(
-            {.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat heel op de "
-                                     "schijf. Het systeem kon alleen niet bevestigen dat dit na "
-                                     "een stroomstoring nog zo is. Kijk of de schijf in orde is en "
-                                     "sla later nog eens op.\n\nBestand: ") +
-                      QString::fromStdString((suite.Weg() / "Spelers" / bestand).string()) +
-                      QStringLiteral("\nMelding van het systeem: schijf vol"),
+            {.tekst =
+                 u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf. Het "
+                 "systeem kon alleen niet bevestigen dat dit na een stroomstoring nog zo is. Kijk "
+                 "of de schijf in orde is en sla later nog eens op.\n\nBestand: "_s +
+                 QString::fromStdString((suite.Weg() / "Spelers" / bestand).string()) +
+                 u"\nMelding van het systeem: schijf vol"_s,
              .icoon = QMessageBox::Warning});
     }
 
     void VerwachtGewijzigd(const QString& antwoord)
     {
         wachter.Verwacht(
-            {.tekst = QStringLiteral(
-                          "Het spelerbestand is door een ander programma gewijzigd nadat het hier "
-                          "is ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er komt "
-                          "eerst een kopie van in de map Reservekopie.\nOpnieuw inlezen: dat "
-                          "bestand blijft zoals het is; uw laatste wijziging vervalt.\nLater "
-                          "beslissen: er verandert nu niets; bij de volgende wijziging en bij het "
-                          "afsluiten komt deze keus terug.\n\n") +
-                      Bestandsregel(),
+            {.tekst =
+                 u"Het spelerbestand is door een ander programma gewijzigd nadat het hier is "
+                 "ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er komt eerst een "
+                 "kopie van in de map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals "
+                 "het is; uw laatste wijziging vervalt.\nLater beslissen: er verandert nu niets; "
+                 "bij de volgende wijziging en bij het afsluiten komt deze keus terug.\n\n"_s +
+                 Bestandsregel(),
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,
              .knoppen = {Opslaan, LeesIn, Later}});
@@ -79,15 +76,15 @@ class OpslagTest : public Hoofdvensterproef {
     void VerwachtSluitvraag(const QString& antwoord)
     {
         wachter.Verwacht(
-            {.tekst = QStringLiteral("De laatste wijzigingen staan nog niet in het spelerbestand. "
-                                     "Met 'Niet opslaan' gaan ze verloren. Met 'Annuleren' blijft "
-                                     "Plexoran open."),
+            {.tekst =
+                 u"De laatste wijzigingen staan nog niet in het spelerbestand. Met 'Niet opslaan' "
+                 "gaan ze verloren. Met 'Annuleren' blijft Plexoran open."_s,
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,
              .knoppen = {Opslaan, NietOpslaan, Annuleren}});
     }
 
-    void VerwachtIngave(const QString& achternaam = QStringLiteral("Nieuweling"))
+    void VerwachtIngave(const QString& achternaam = u"Nieuweling"_s)
     {
         wachter.Bedien([achternaam](QDialog& ingave) {
             Schrijf(ingave, "txt1_6", achternaam);
@@ -197,7 +194,7 @@ TEST_F(OpslagTest, DeVolgendeWijzigingSlaatOokDeVorigeOp)
     VoegToeZonderOpslag();
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ("Aantal regels: 51", Aantal());
-    VerwachtIngave(QStringLiteral("Tweede"));
+    VerwachtIngave(u"Tweede"_s);
     VoegToe();
     std::string beide = nieuw + "150,100173,Gr01-,,,Tweede,,,,,,,M,,,,,\r\n";
     beide.replace(beide.find("HKEY=100172"), 11, "HKEY=100173");
@@ -209,9 +206,7 @@ TEST_F(OpslagTest, EenMislukteVerwijderingHeetNietVerwijderd)
 {
     KiesRegel(1);
     schijf.FaalVanaf(1);
-    wachter.Verwacht({.tekst = QStringLiteral("\t\tLET OP!"),
-                      .titel = QStringLiteral("Verwijderen"),
-                      .alleenBegin = true});
+    wachter.Verwacht({.tekst = u"\t\tLET OP!"_s, .titel = u"Verwijderen"_s, .alleenBegin = true});
     VerwachtMislukt(Doorgaan);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar(); // and not: De regel is verwijderd.
@@ -334,20 +329,20 @@ TEST_F(OpslagTest, NaEenGoedeOpslagDieNietTerugTeLezenIsStaatDatErBij)
     schijf.Vooraf([&](const Pad&) { return ++gedaan != laatste; });
     nieuw += "150,100173,Gr01-,,,Tweede,,,,,,,M,,,,,\r\n";
     nieuw.replace(nieuw.find("HKEY=100172"), 11, "HKEY=100173");
-    VerwachtIngave(QStringLiteral("Tweede"));
+    VerwachtIngave(u"Tweede"_s);
     wachter.Waarschuwing(isLeeg);
-    wachter.Informatie(QStringLiteral("Uw wijziging is opgeslagen, maar het spelerbestand kan "
-                                      "daarna niet worden geopend. In dit programma staan dezelfde "
-                                      "spelers als in dat bestand. Verhelp de oorzaak voordat u "
-                                      "verder gaat.\n\n") +
-                       Bestandsregel() + QStringLiteral("\nMelding van het systeem: geen toegang"));
+    wachter.Informatie(
+        u"Uw wijziging is opgeslagen, maar het spelerbestand kan daarna niet worden geopend. In "
+        "dit programma staan dezelfde spelers als in dat bestand. Verhelp de oorzaak voordat u "
+        "verder gaat.\n\n"_s +
+        Bestandsregel() + u"\nMelding van het systeem: geen toegang"_s);
     VoegToe();
     EXPECT_EQ(nieuw, suite.Spelers());
     EXPECT_EQ("Aantal regels: 52", Aantal());
     EXPECT_FALSE(venster->isWindowModified());
     // The file is still the one that was saved: the next save asks nothing.
     schijf.Vooraf([](const Pad&) { return true; });
-    VerwachtIngave(QStringLiteral("Derde"));
+    VerwachtIngave(u"Derde"_s);
     VoegToe();
     EXPECT_NE(std::string::npos, suite.Spelers().find(",,Derde,"));
     EXPECT_EQ(std::vector<std::string>{}, Kopieen());
@@ -360,20 +355,20 @@ TEST_F(OpslagTest, OpnieuwInlezenDatNietLuktHoudtDeWijziging)
     bool gevraagd = false;
     wachter.LaatBeslissen([&](const QMessageBox& bericht) {
         const QString tekst = bericht.text();
-        if (tekst.startsWith(QStringLiteral("Het spelerbestand is door een ander"))) {
+        if (tekst.startsWith(u"Het spelerbestand is door een ander"_s)) {
             schijf.Vooraf([](const Pad& pad) { return !pad.ends_with("RVDspelers.txt"); });
             return LeesIn;
         }
         if (tekst != isLeeg) {
             gevraagd = true;
-            EXPECT_EQ(tekst, QStringLiteral("Het spelerbestand kan niet worden geopend; er is "
-                                            "niets aan veranderd. In dit programma staan de "
-                                            "spelers van zonet, met uw laatste wijziging. Verhelp "
-                                            "de oorzaak voordat u verder gaat.\n\n") +
-                                 Bestandsregel() +
-                                 QStringLiteral("\nMelding van het systeem: geen toegang"));
+            EXPECT_EQ(
+                tekst,
+                u"Het spelerbestand kan niet worden geopend; er is niets aan veranderd. In dit "
+                "programma staan de spelers van zonet, met uw laatste wijziging. Verhelp de "
+                "oorzaak voordat u verder gaat.\n\n"_s +
+                    Bestandsregel() + u"\nMelding van het systeem: geen toegang"_s);
         }
-        return QStringLiteral("OK");
+        return u"OK"_s;
     });
     VoegToe();
     EXPECT_TRUE(gevraagd);
@@ -388,11 +383,10 @@ TEST_F(OpslagTest, NaEenOpslagZijnDeSpelersZonderAchternaamGenoemdEnIsDeWijzigin
 {
     administratie.spelers.tabel.ZetCel(1, Kolom::Achternaam, "");
     VerwachtIngave();
-    wachter.Informatie(QStringLiteral(
-        "1 speler zonder achternaam is niet ingelezen (regel 2 van het spelerbestand). Vul die "
+    wachter.Informatie(
+        u"1 speler zonder achternaam is niet ingelezen (regel 2 van het spelerbestand). Vul die "
         "achternaam daar in als u de speler wilt houden.\n\nUw wijziging is opgeslagen; voordat "
-        "dit programma het bestand weer "
-        "vervangt, komt er een kopie van in de map Reservekopie."));
+        "dit programma het bestand weer vervangt, komt er een kopie van in de map Reservekopie."_s);
     VoegToe();
 }
 
@@ -413,10 +407,10 @@ namespace {
 
 const std::string Verslagbestand = "Zittingen/Zomerdrive 2024_Rev/Koppelverslag.txt";
 const QString NietInHetBestand =
-    QStringLiteral("De nieuwe spelers staan niet in het spelerbestand. Daarom is "
-                   "'Koppelverslag.txt' van hun zitting weer zoals het was.");
+    u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van hun "
+    "zitting weer zoals het was."_s;
 const QString KomtNog =
-    NietInHetBestand + QStringLiteral(" Het wordt opnieuw geschreven zodra ze zijn opgeslagen.");
+    NietInHetBestand + u" Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s;
 
 class VerslagTest : public OpslagTest {
   protected:
@@ -435,7 +429,7 @@ class VerslagTest : public OpslagTest {
             dan();
             Klik(Vind<QPushButton>(dialoog, "OKButton"));
         });
-        wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+        wachter.Informatie(u"De spelers zijn toegevoegd."_s);
         verwacht();
         Klik(Knop("cmdSpToevoegen"));
         wachter.Klaar();
@@ -539,9 +533,10 @@ TEST_F(VerslagTest, AlsnogSchrijvenDatMisluktWordtGemeld)
     VerwachtIngave();
     for (const QString& antwoord : {Opnieuw, Doorgaan})
         wachter.Verwacht(
-            {.tekst = QStringLiteral("De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun "
-                                     "zitting kon niet worden geschreven. Zonder dat bestand zijn "
-                                     "ze niet aan die zitting te koppelen.\n\nBestand: "),
+            {.tekst =
+                 u"De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun zitting kon niet "
+                 "worden geschreven. Zonder dat bestand zijn ze niet aan die zitting te "
+                 "koppelen.\n\nBestand: "_s,
              .antwoord = antwoord,
              .icoon = QMessageBox::Critical,
              .knoppen = {Opnieuw, Doorgaan},
@@ -552,16 +547,16 @@ TEST_F(VerslagTest, AlsnogSchrijvenDatMisluktWordtGemeld)
 
 TEST_F(VerslagTest, TerugzettenDatMisluktWordtGemeldEnKomtBijDeVolgendeOpslagTerug)
 {
-    VoegSessieToe([this] { schijf.FaalVanaf(1); },
-                  [this] {
-                      VerwachtMislukt(Doorgaan);
-                      wachter.Verwacht({.tekst = QStringLiteral(
-                                            "Fout bij het terugzetten van 'Koppelverslag.txt'. "
-                                            "De sleutels die erin staan, zijn niet uitgegeven. "
-                                            "Verwijder dat bestand.\n\nBestand: "),
-                                        .icoon = QMessageBox::Warning,
-                                        .alleenBegin = true});
-                  });
+    VoegSessieToe(
+        [this] { schijf.FaalVanaf(1); },
+        [this] {
+            VerwachtMislukt(Doorgaan);
+            wachter.Verwacht(
+                {.tekst = u"Fout bij het terugzetten van 'Koppelverslag.txt'. De sleutels die erin "
+                          "staan, zijn niet uitgegeven. Verwijder dat bestand.\n\nBestand: "_s,
+                 .icoon = QMessageBox::Warning,
+                 .alleenBegin = true});
+        });
     ASSERT_TRUE(NoemtNieuwe());
     schijf.FaalBij(1);
     VerwachtIngave();
@@ -590,15 +585,16 @@ TEST_F(OpslagTest, GroepsnamenDieNietTeBewarenZijnWordenTeruggenomen)
     KiesGroep(6);
     schijf.FaalVanaf(1);
     wachter.Bedien([](QDialog& namen) {
-        Schrijf(namen, "txt1_11", QStringLiteral("Nieuw"));
+        Schrijf(namen, "txt1_11", u"Nieuw"_s);
         Klik(Vind<QPushButton>(namen, "cmdOK"));
     });
     for (const QString& antwoord : {Opnieuw, Annuleren})
         wachter.Verwacht(
-            {.tekst = QStringLiteral("De groepsnamen konden niet worden opgeslagen. Het bestand is "
-                                     "gebleven zoals het was. Probeer het opnieuw, of kies "
-                                     "Annuleren om de oude namen te houden.\n\nBestand: ") +
-                      QString::fromStdString((suite.Weg() / "Spelers" / "RVDGroepen.txt").string()),
+            {.tekst =
+                 u"De groepsnamen konden niet worden opgeslagen. Het bestand is gebleven zoals "
+                 "het was. Probeer het opnieuw, of kies Annuleren om de oude namen te houden.\n"
+                 "\nBestand: "_s +
+                 QString::fromStdString((suite.Weg() / "Spelers" / "RVDGroepen.txt").string()),
              .antwoord = antwoord,
              .icoon = QMessageBox::Critical,
              .knoppen = {Opnieuw, Annuleren},
@@ -616,7 +612,7 @@ TEST_F(OpslagTest, GroepsnamenDieErStaanMaarNietVastBlijvenOokOpHetScherm)
 {
     schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
     wachter.Bedien([](QDialog& namen) {
-        Schrijf(namen, "txt1_11", QStringLiteral("Nieuw"));
+        Schrijf(namen, "txt1_11", u"Nieuw"_s);
         Klik(Vind<QPushButton>(namen, "cmdOK"));
     });
     VerwachtNietVast("RVDGroepen.txt");
@@ -631,10 +627,10 @@ TEST_F(OpslagTest, GroepsnamenOpnieuwProberen)
 {
     schijf.FaalBij(1);
     wachter.Bedien([](QDialog& namen) {
-        Schrijf(namen, "txt1_11", QStringLiteral("Nieuw"));
+        Schrijf(namen, "txt1_11", u"Nieuw"_s);
         Klik(Vind<QPushButton>(namen, "cmdOK"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("De groepsnamen konden niet worden opgeslagen."),
+    wachter.Verwacht({.tekst = u"De groepsnamen konden niet worden opgeslagen."_s,
                       .antwoord = Opnieuw,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});
@@ -647,10 +643,10 @@ TEST_F(OpslagTest, GroepsnamenOpnieuwProberen)
 TEST_F(OpslagTest, InstellingenDieMislukkenWordenEenKeerGemeldEnGaanLaterGewoonGoed)
 {
     schijf.FaalVanaf(1);
-    wachter.Verwacht({.tekst = QStringLiteral(
-                          "De instellingen van het programma kunnen niet worden opgeslagen."),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst = u"De instellingen van het programma kunnen niet worden opgeslagen."_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     KiesGroep(2);
     KiesGroep(3);
     wachter.Klaar();

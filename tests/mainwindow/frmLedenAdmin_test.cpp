@@ -11,7 +11,7 @@ using namespace plexoran;
 
 namespace {
 
-const QString geenRegel = QStringLiteral("Er is geen regel geselecteerd!");
+const QString geenRegel = u"Er is geen regel geselecteerd!"_s;
 
 class HoofdvensterTest : public Hoofdvensterproef {
   protected:
@@ -156,8 +156,8 @@ TEST_F(HoofdvensterTest, DeOpschriftenEnWenkenVanDeOpdrachten)
     QStringList teksten;
     for (const QLabel* label : Deel("Frame2")->findChildren<QLabel*>())
         teksten << label->text();
-    EXPECT_TRUE(teksten.contains(QStringLiteral("Van regel:")));
-    EXPECT_TRUE(teksten.contains(QStringLiteral("T/m regel:")));
+    EXPECT_TRUE(teksten.contains(u"Van regel:"_s));
+    EXPECT_TRUE(teksten.contains(u"T/m regel:"_s));
 }
 
 TEST_F(HoofdvensterTest, ElkeOpdrachtHeeftEenEigenLetter)
@@ -165,10 +165,9 @@ TEST_F(HoofdvensterTest, ElkeOpdrachtHeeftEenEigenLetter)
     KiesGroep(5); // shows every button
     std::map<QChar, QString> letters;
     for (const QAbstractButton* knop : venster->findChildren<QAbstractButton*>()) {
-        const auto en = knop->text().replace(QStringLiteral("&&"), QString()).indexOf(u'&');
-        if (knop->objectName().startsWith(QStringLiteral("cmd_")) ||
-            !(knop->objectName().startsWith(QStringLiteral("cmd")) ||
-              knop->objectName().startsWith(QStringLiteral("chk"))))
+        const auto en = knop->text().replace(u"&&"_s, QString()).indexOf(u'&');
+        if (knop->objectName().startsWith(u"cmd_"_s) ||
+            !(knop->objectName().startsWith(u"cmd"_s) || knop->objectName().startsWith(u"chk"_s)))
             continue;
         ASSERT_GE(en, 0) << knop->objectName().toStdString();
         const QChar letter = knop->text().at(en + 1).toUpper();
@@ -199,9 +198,9 @@ TEST_F(HoofdvensterTest, EenNieuweSpelerKomtAchteraanMetDeVolgendeSleutel)
         EXPECT_EQ("diaIngave", ingave.objectName().toStdString());
         EXPECT_EQ("Aanmaken nieuwe regel", Vind<QLabel>(ingave, "Label1")->text().toStdString());
         EXPECT_EQ("Gr02-Donderdagmiddag", Vind<QLineEdit>(ingave, "txt1_3")->text().toStdString());
-        Schrijf(ingave, "txt1_4", QStringLiteral("  Zoë "));
-        Schrijf(ingave, "txt1_5", QStringLiteral("van 't"));
-        Schrijf(ingave, "txt1_6", QStringLiteral("IJssel"));
+        Schrijf(ingave, "txt1_4", u"  Zoë "_s);
+        Schrijf(ingave, "txt1_5", u"van 't"_s);
+        Schrijf(ingave, "txt1_6", u"IJssel"_s);
         Klik(Vind<QPushButton>(ingave, "cmdOK"));
     });
     Klik(Knop("cmdAanm"));
@@ -217,7 +216,7 @@ TEST_F(HoofdvensterTest, HetAnnulerenVanEenNieuweSpelerVerbruiktGeenSleutel)
 {
     const std::string oud = suite.Spelers();
     wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_6", QStringLiteral("Toch niet"));
+        Schrijf(ingave, "txt1_6", u"Toch niet"_s);
         Klik(Vind<QPushButton>(ingave, "cmdAnnuleren"));
     });
     Klik(Knop("cmdAanm"));
@@ -230,7 +229,7 @@ TEST_F(HoofdvensterTest, HetAnnulerenVanEenNieuweSpelerVerbruiktGeenSleutel)
 TEST_F(HoofdvensterTest, DeNieuweSpelerIsInBeeld)
 {
     wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_6", QStringLiteral("Laatste"));
+        Schrijf(ingave, "txt1_6", u"Laatste"_s);
         Klik(Vind<QPushButton>(ingave, "cmdOK"));
     });
     Klik(Knop("cmdAanm"));
@@ -246,7 +245,7 @@ TEST_F(HoofdvensterTest, HetWijzigenVerandertAlleenDieRegel)
     KiesRegel(3);
     const std::string sleutel = GekozenSleutel();
     wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_11", QStringLiteral(" Nieuw-Oord "));
+        Schrijf(ingave, "txt1_11", u" Nieuw-Oord "_s);
         Klik(Vind<QPushButton>(ingave, "cmdOK"));
     });
     Klik(Knop("cmdWijzig"));
@@ -285,7 +284,7 @@ TEST_F(HoofdvensterTest, OngedefinieerdeBytesVanEenGewijzigdeSpelerBlijven)
     ASSERT_NO_FATAL_FAILURE(Herstart());
     KiesRegel(1);
     wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_8", QStringLiteral("x@y.example"));
+        Schrijf(ingave, "txt1_8", u"x@y.example"_s);
         Klik(Vind<QPushButton>(ingave, "cmdOK"));
     });
     Klik(Knop("cmdWijzig"));
@@ -344,7 +343,7 @@ TEST_F(HoofdvensterTest, CtrlNVoegtToeVanafElkDeel)
 
 TEST_F(HoofdvensterTest, ZonderGatenlijstEenBericht)
 {
-    wachter.Waarschuwing(QStringLiteral("Het programma 'Gatenlijst.exe' is niet te vinden."));
+    wachter.Waarschuwing(u"Het programma 'Gatenlijst.exe' is niet te vinden."_s);
     Klik(Knop("cmdToonGatenlijst"));
     wachter.Klaar();
 }
@@ -363,9 +362,8 @@ TEST_F(HoofdvensterTest, EenGatenlijstDieNietStartGeeftEenBericht)
 {
     suite.Zet("Gatenlijst.exe", "dit is geen programma");
     wachter.Verwacht(
-        {.tekst = QStringLiteral("Het programma 'Gatenlijst.exe' kon niet worden gestart. Er is "
-                                 "niets veranderd. Kijk of u dat programma mag starten.\n\n"
-                                 "Bestand: ") +
+        {.tekst = u"Het programma 'Gatenlijst.exe' kon niet worden gestart. Er is niets veranderd. "
+                  "Kijk of u dat programma mag starten.\n\nBestand: "_s +
                   QString::fromStdString((suite.Weg() / "Gatenlijst.exe").string()),
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
@@ -383,7 +381,7 @@ TEST_F(HoofdvensterTest, GroepsnamenKomenInHetBestandEnDeEersteGroepWordtGetoond
     KiesGroep(6);
     wachter.Bedien([](QDialog& namen) {
         EXPECT_EQ("diaGrNamen", namen.objectName().toStdString());
-        Schrijf(namen, "txt1_11", QStringLiteral("  Na de zomer "));
+        Schrijf(namen, "txt1_11", u"  Na de zomer "_s);
         Klik(Vind<QPushButton>(namen, "cmdOK"));
     });
     Klik(Knop("cmdMaakGrNamen"));
@@ -401,7 +399,7 @@ TEST_F(HoofdvensterTest, HetAnnulerenVanDeGroepsnamenLaatAllesStaan)
     const std::string oud = suite.Groepen();
     KiesGroep(6);
     wachter.Bedien([](QDialog& namen) {
-        Schrijf(namen, "txt1_11", QStringLiteral("Toch niet"));
+        Schrijf(namen, "txt1_11", u"Toch niet"_s);
         Klik(Vind<QPushButton>(namen, "cmdAnnuleren"));
     });
     Klik(Knop("cmdMaakGrNamen"));

@@ -23,7 +23,7 @@ int Tekstruimte(const QPushButton* knop)
 
 bool IsHeader(const QWidget* deel)
 {
-    return deel->objectName().startsWith(QStringLiteral("cmd_"));
+    return deel->objectName().startsWith(u"cmd_"_s);
 }
 
 class UiterlijkTest : public Hoofdvensterproef {
@@ -226,7 +226,7 @@ TEST_F(UiterlijkTest, ElkeOpdrachtIsMetTabTeBereiken)
             EXPECT_TRUE(bereikt.contains(deel->objectName())) << deel->objectName().toStdString();
         }
     }
-    EXPECT_TRUE(bereikt.contains(QStringLiteral("P1")));
+    EXPECT_TRUE(bereikt.contains(u"P1"_s));
 }
 
 TEST_F(UiterlijkTest, ElkDeelHeeftEenNaamVoorWieNietKijkt)

@@ -10,17 +10,12 @@ namespace {
 /// The warning before a deletion, to the letter.
 QString LetOp(const QString& vraag)
 {
-    return QStringLiteral(
-               "\t\tLET OP!\r\n"
-               "\r\n"
-               "Als u spelers verwijdert die nog voorkomen in bestaande zittingen dan zal hun naam "
-               "daarin niet meer verschijnen.\r\n"
-               "Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen.\r\n"
-               "\r\n"
-               "Het opnieuw invoeren van een speler die per vergissing is verwijderd heeft alleen "
-               "zin als men in elke relevante zitting zijn naam opnieuw ingeeft.\r\n"
-               "\r\n") +
-           vraag + QStringLiteral("\r\n\r\n");
+    return u"\t\tLET OP!\r\n\r\nAls u spelers verwijdert die nog voorkomen in bestaande zittingen "
+           "dan zal hun naam daarin niet meer verschijnen.\r\nVoor competitie-zittingen betekent "
+           "dat ook dat ze niet meer meedoen.\r\n\r\nHet opnieuw invoeren van een speler die per "
+           "vergissing is verwijderd heeft alleen zin als men in elke relevante zitting zijn naam "
+           "opnieuw ingeeft.\r\n\r\n"_s +
+           vraag + u"\r\n\r\n"_s;
 }
 
 Bericht Verwijdervraag(const QString& vraag, const QString& antwoord, const QString& spelers)
@@ -28,16 +23,16 @@ Bericht Verwijdervraag(const QString& vraag, const QString& antwoord, const QStr
     return {.tekst = LetOp(vraag),
             .antwoord = antwoord,
             .icoon = QMessageBox::Information,
-            .titel = QStringLiteral("Verwijderen"),
-            .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")},
+            .titel = u"Verwijderen"_s,
+            .knoppen = {u"OK"_s, u"Annuleren"_s},
             .toelichting = spelers};
 }
 
-const QString OK = QStringLiteral("OK");
-const QString Annuleren = QStringLiteral("Annuleren");
-const QString regel3 = QStringLiteral("Weet u zeker dat u regel 3 wilt verwijderen?");
-const QString johan = QStringLiteral("1 speler:\nJohan Kuipersma");
-const QString geenRegel = QStringLiteral("Er is geen regel geselecteerd!");
+const QString OK = u"OK"_s;
+const QString Annuleren = u"Annuleren"_s;
+const QString regel3 = u"Weet u zeker dat u regel 3 wilt verwijderen?"_s;
+const QString johan = u"1 speler:\nJohan Kuipersma"_s;
+const QString geenRegel = u"Er is geen regel geselecteerd!"_s;
 
 class VerwijderTest : public Hoofdvensterproef {
   protected:
@@ -73,8 +68,8 @@ TEST_F(VerwijderTest, VerwijdertDeGetoondeRegelNietDeTabelrij)
     KiesGroep(2);
     KiesRegel(3);
     const std::string sleutel = GekozenSleutel();
-    wachter.Verwacht(Verwijdervraag(regel3, OK, QStringLiteral("1 speler:\nGerda Verstegh-Holl")));
-    wachter.Informatie(QStringLiteral("De regel is verwijderd."));
+    wachter.Verwacht(Verwijdervraag(regel3, OK, u"1 speler:\nGerda Verstegh-Holl"_s));
+    wachter.Informatie(u"De regel is verwijderd."_s);
     Klik(Knop("cmdVerwijder"));
     wachter.Klaar();
     EXPECT_NE("100003", sleutel);
@@ -89,7 +84,7 @@ TEST_F(VerwijderTest, DeleteVerwijdertDeGekozenRegel)
     const std::string oud = suite.Spelers();
     KiesRegel(3);
     wachter.Verwacht(Verwijdervraag(regel3, OK, johan));
-    wachter.Informatie(QStringLiteral("De regel is verwijderd."));
+    wachter.Informatie(u"De regel is verwijderd."_s);
     Toets(Qt::Key_Delete);
     wachter.Klaar();
     EXPECT_EQ(ZonderSleutels(oud, {"100003"}), suite.Spelers());
@@ -131,10 +126,10 @@ TEST_F(VerwijderTest, VerwijdertVanTotEnMet)
     }
     Keus("cmbVerwVan")->setCurrentIndex(3);
     Keus("cmbVerwTot")->setCurrentIndex(5);
-    wachter.Verwacht(Verwijdervraag(
-        QStringLiteral("Weet u zeker dat u regel 4 t/m regel 6 wilt verwijderen?"), OK,
-        QStringLiteral("3 spelers:\nChloë Blokzijlder\nJesse Nijboersma\nIlse ten Broekhoven")));
-    wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
+    wachter.Verwacht(
+        Verwijdervraag(u"Weet u zeker dat u regel 4 t/m regel 6 wilt verwijderen?"_s, OK,
+                       u"3 spelers:\nChloë Blokzijlder\nJesse Nijboersma\nIlse ten Broekhoven"_s));
+    wachter.Informatie(u"De regels zijn verwijderd."_s);
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
     EXPECT_EQ(ZonderSleutels(oud, sleutels), suite.Spelers());
@@ -148,12 +143,10 @@ TEST_F(VerwijderTest, EenHeleGroepVerwijderenLaatDeGroepLeegStaan)
     KiesGroep(3);
     Keus("cmbVerwTot")->setCurrentIndex(8);
     wachter.Verwacht(Verwijdervraag(
-        QStringLiteral("Weet u zeker dat u regel 1 t/m regel 9 wilt verwijderen?"), OK,
-        QStringLiteral(
-            "9 spelers:\nSem Kloosterziel\nNoor van Dorremolen\nDaan Leliveldt\nChloë Blokzijlder\n"
-            "Jesse Nijboersma\nIlse ten Broekhoven\nMees de Drieskens\nAïcha el Amranouï\nThijs "
-            "O")));
-    wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
+        u"Weet u zeker dat u regel 1 t/m regel 9 wilt verwijderen?"_s, OK,
+        u"9 spelers:\nSem Kloosterziel\nNoor van Dorremolen\nDaan Leliveldt\nChloë Blokzijlder\n"
+        "Jesse Nijboersma\nIlse ten Broekhoven\nMees de Drieskens\nAïcha el Amranouï\nThijs O"_s));
+    wachter.Informatie(u"De regels zijn verwijderd."_s);
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
     EXPECT_EQ("Aantal regels: 0", Aantal());
@@ -167,9 +160,8 @@ TEST_F(VerwijderTest, AnnulerenVanVanTotVerwijdertNiets)
     KiesGroep(3);
     Keus("cmbVerwVan")->setCurrentIndex(1);
     Keus("cmbVerwTot")->setCurrentIndex(1);
-    wachter.Verwacht(
-        Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 2 t/m regel 2 wilt verwijderen?"),
-                       Annuleren, QStringLiteral("1 speler:\nNoor van Dorremolen")));
+    wachter.Verwacht(Verwijdervraag(u"Weet u zeker dat u regel 2 t/m regel 2 wilt verwijderen?"_s,
+                                    Annuleren, u"1 speler:\nNoor van Dorremolen"_s));
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
     EXPECT_EQ(oud, suite.Spelers());
@@ -183,8 +175,8 @@ TEST_F(VerwijderTest, VanNaTotWordtGeweigerd)
     Keus("cmbVerwVan")->setCurrentIndex(4);
     Keus("cmbVerwTot")->setCurrentIndex(2);
     wachter.Waarschuwing(
-        QStringLiteral("Er is niets verwijderd: regel 5 komt na regel 3. Kies bij 'Van regel' de "
-                       "eerste en bij 'T/m regel' de laatste regel."));
+        u"Er is niets verwijderd: regel 5 komt na regel 3. Kies bij 'Van regel' de eerste en bij "
+        "'T/m regel' de laatste regel."_s);
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
     EXPECT_EQ(oud, suite.Spelers());
@@ -194,21 +186,21 @@ TEST_F(VerwijderTest, DeEersteTienSpelersStaanErMetNaamEnHetAantal)
 {
     Keus("cmbVerwVan")->setCurrentIndex(1);
     Keus("cmbVerwTot")->setCurrentIndex(11);
-    QString namen = QStringLiteral(
-        "11 spelers:\nIneke van der Horst-Blaauw\nJohan Kuipersma\nTrudy Kuipersma-Hol\n"
-        "Gerrit Jan ten Broekhoven\nZoë Wolthuizen\nCorrie de Bruÿn\nPiet de Bruÿn\n"
-        "François Delacourtine\nHennie Müller\nRia van den Eikelenboom\nen nog 1 speler");
+    QString namen =
+        u"11 spelers:\nIneke van der Horst-Blaauw\nJohan Kuipersma\nTrudy Kuipersma-Hol\nGerrit "
+        "Jan ten Broekhoven\nZoë Wolthuizen\nCorrie de Bruÿn\nPiet de Bruÿn\nFrançois "
+        "Delacourtine\nHennie Müller\nRia van den Eikelenboom\nen nog 1 speler"_s;
     const auto vraagTot = [&](int tot) {
-        wachter.Verwacht(Verwijdervraag(
-            QStringLiteral("Weet u zeker dat u regel 2 t/m regel %1 wilt verwijderen?").arg(tot),
-            Annuleren, namen));
+        wachter.Verwacht(
+            Verwijdervraag(u"Weet u zeker dat u regel 2 t/m regel %1 wilt verwijderen?"_s.arg(tot),
+                           Annuleren, namen));
         Klik(Knop("cmdVerwijderVT"));
         wachter.Klaar();
     };
     vraagTot(12);
     Keus("cmbVerwTot")->setCurrentIndex(12);
-    namen.replace(QStringLiteral("11 s"), QStringLiteral("12 s"));
-    namen.replace(QStringLiteral("1 speler"), QStringLiteral("2 spelers"));
+    namen.replace(u"11 s"_s, u"12 s"_s);
+    namen.replace(u"1 speler"_s, u"2 spelers"_s);
     vraagTot(13);
 }
 
@@ -222,7 +214,7 @@ TEST_F(VerwijderTest, EenNaamIsNooitOpmaakEnMaaktHetVensterNietBreed)
     wachter.LaatBeslissen([](const QMessageBox& vraag) {
         const auto* label = Vind<QLabel>(vraag, "qt_msgbox_informativelabel");
         EXPECT_EQ(Qt::PlainText, label->textFormat());
-        EXPECT_TRUE(label->text().startsWith(QStringLiteral("1 speler:\n<b>Jan</b> xxx")));
+        EXPECT_TRUE(label->text().startsWith(u"1 speler:\n<b>Jan</b> xxx"_s));
         EXPECT_LT(vraag.width(), 800);
         return Annuleren;
     });
@@ -237,14 +229,12 @@ TEST_F(VerwijderTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
     suite.Zet("Spelers/RVDspelers.txt", oud);
     ASSERT_NO_FATAL_FAILURE(Herstart());
     Keus("cmbVerwTot")->setCurrentIndex(1);
-    wachter.Verwacht(
-        Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 1 t/m regel 2 wilt verwijderen?"),
-                       OK, QStringLiteral("2 spelers:\nJan Bos\nPiet Dam")));
-    wachter.Informatie(QStringLiteral("De regels zijn verwijderd."));
+    wachter.Verwacht(Verwijdervraag(u"Weet u zeker dat u regel 1 t/m regel 2 wilt verwijderen?"_s,
+                                    OK, u"2 spelers:\nJan Bos\nPiet Dam"_s));
+    wachter.Informatie(u"De regels zijn verwijderd."_s);
     wachter.Informatie(
-        QStringLiteral("Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn "
-                       "laatste inhoud, en die ziet u nu weer. Voeg eerst een andere speler "
-                       "toe."));
+        u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste inhoud, "
+        "en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
     Klik(Knop("cmdVerwijderVT"));
     wachter.Klaar();
     EXPECT_EQ(oud, suite.Spelers());
@@ -255,12 +245,12 @@ TEST_F(VerwijderTest, DeSleutelVanEenVerwijderdeSpelerKomtNooitTerug)
 {
     KiesGroep(10);
     Toets(Qt::Key_End);
-    wachter.Verwacht(Verwijdervraag(QStringLiteral("Weet u zeker dat u regel 8 wilt verwijderen?"),
-                                    OK, QStringLiteral("1 speler:\nTjitske Eÿckenduÿn")));
-    wachter.Informatie(QStringLiteral("De regel is verwijderd."));
+    wachter.Verwacht(Verwijdervraag(u"Weet u zeker dat u regel 8 wilt verwijderen?"_s, OK,
+                                    u"1 speler:\nTjitske Eÿckenduÿn"_s));
+    wachter.Informatie(u"De regel is verwijderd."_s);
     Toets(Qt::Key_Delete);
     wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_6", QStringLiteral("Nieuw"));
+        Schrijf(ingave, "txt1_6", u"Nieuw"_s);
         Klik(Vind<QPushButton>(ingave, "cmdOK"));
     });
     Klik(Knop("cmdAanm"));

@@ -40,10 +40,10 @@ TEST_F(ZittingenTest, KoppelenVerandertAlleenDeZitting)
         Klik(Vind<QPushButton>(dialoog, "cmdStartKoppelen"));
         Klik(Vind<QPushButton>(dialoog, "cmdEinde"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer "
-                                              "toegewezen in de betreffende zittingbestanden."
-                                              "\r\n\r\nKies OK of Annuleer.")});
-    wachter.Informatie(QStringLiteral("Speler Marleen Hijmanse is gekoppeld."));
+    wachter.Verwacht(
+        {.tekst = u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
+                  "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s});
+    wachter.Informatie(u"Speler Marleen Hijmanse is gekoppeld."_s);
     Klik(Knop("cmdKoppel"));
     wachter.Klaar();
     EXPECT_EQ(spelers, suite.Spelers());
@@ -61,7 +61,7 @@ TEST_F(ZittingenTest, NaHetToevoegenWordtErOpgeslagenEnGetoond)
         Klik(Vind<QPushButton>(dialoog, "cmdStart"));
         Klik(Vind<QPushButton>(dialoog, "OKButton"));
     });
-    wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
+    wachter.Informatie(u"De spelers zijn toegevoegd."_s);
     Klik(Knop("cmdSpToevoegen"));
     wachter.Klaar();
     EXPECT_EQ("Aantal regels: 19", Label("Label3")->text().toStdString());
@@ -82,8 +82,8 @@ TEST_F(ZittingenTest, NaAnnulerenBlijftHetBestandMetRust)
         Klik(Vind<QPushButton>(dialoog, "cmdStart"));
         Klik(Vind<QPushButton>(dialoog, "cmdAnnuleren"));
     });
-    wachter.Informatie(QStringLiteral("De spelers zijn toegevoegd."));
-    wachter.Informatie(QStringLiteral("Er worden geen spelers toegevoegd."));
+    wachter.Informatie(u"De spelers zijn toegevoegd."_s);
+    wachter.Informatie(u"Er worden geen spelers toegevoegd."_s);
     schijf.FaalNiet();
     Klik(Knop("cmdSpToevoegen"));
     wachter.Klaar();

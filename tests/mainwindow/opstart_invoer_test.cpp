@@ -12,27 +12,26 @@ namespace {
 
 const std::string ruis = "\x93\xFF\x00\x01PK\x03\x04\r\n\x81,\x8D\x00\x00\n\xE2\x28\xA1"s;
 
-const QString NietVerhogen = QStringLiteral("Niet verhogen");
+const QString NietVerhogen = u"Niet verhogen"_s;
 
 } // namespace
 
 TEST_F(Opstartproef, MappenIniMetHetMerktekenVanUTF8OfMetNULWordtGemeld)
 {
-    const QString begin = QStringLiteral("Misschien zijn niet alle regels van 'Mappen.ini' "
-                                         "gelezen: ");
-    const QString eind = QStringLiteral(
-        ". Er is niets aan uw gegevens veranderd. Sla dat bestand in een tekstprogramma op als "
-        "ANSI (Windows-1252) en start Plexoran opnieuw.\n\nBestand: C:\\RVD\\Mappen.ini");
+    const QString begin = u"Misschien zijn niet alle regels van 'Mappen.ini' gelezen: "_s;
+    const QString eind =
+        u". Er is niets aan uw gegevens veranderd. Sla dat bestand in een tekstprogramma op als "
+        "ANSI (Windows-1252) en start Plexoran opnieuw.\n\nBestand: C:\\RVD\\Mappen.ini"_s;
     geheugen.Zet("C:\\RVD\\Mappen.ini", "\xEF\xBB\xBF" + ini);
-    wachter.Waarschuwing(begin +
-                         QStringLiteral("het is opgeslagen als UTF-8, en het merkteken daarvan "
-                                        "staat voor de eerste regel") +
-                         eind);
+    wachter.Waarschuwing(
+        begin +
+        u"het is opgeslagen als UTF-8, en het merkteken daarvan staat voor de eerste regel"_s +
+        eind);
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ("", administratie.mappen.RVDMAP);
 
     geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "\0"s);
-    wachter.Waarschuwing(begin + QStringLiteral("er staan NUL-tekens in") + eind);
+    wachter.Waarschuwing(begin + u"er staan NUL-tekens in"_s + eind);
     ASSERT_EQ(std::nullopt, Laad());
 }
 
@@ -45,7 +44,7 @@ TEST_F(Opstartproef, RuisInHetSpelerbestandWordtGemeldEnPasNaEenKopieVervangen)
     EXPECT_EQ(ruis, Spelers());
     EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDspelers"));
 
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_EQ(std::vector<Tekst>{ruis}, Kopieen("RVDspelers"));
     EXPECT_EQ("HKEY=100001\r\n1,100001,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n", Spelers());
 }
@@ -62,7 +61,7 @@ TEST_F(Opstartproef, EenTeKorteRegelInDeEersteGangLaatDeTabelLeeg)
     EXPECT_EQ(oud, Spelers());
     EXPECT_EQ(100007, administratie.spelers.HKEY);
 
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
     EXPECT_EQ("HKEY=100008\r\n1,100008,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n", Spelers());
 }
@@ -78,7 +77,7 @@ TEST_F(Opstartproef, EenHalveRegelAanHetEindHoudtDeRijenErvoor)
     EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
     EXPECT_EQ(oud, Spelers());
 
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
     EXPECT_EQ("HKEY=100008\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n" +
                   Speler("2", "100002", "Gr02-", "Dam") +
@@ -86,7 +85,7 @@ TEST_F(Opstartproef, EenHalveRegelAanHetEindHoudtDeRijenErvoor)
               Spelers());
 
     // What was left out stands in the copy; the next save needs none.
-    VoegToe(QStringLiteral("Tweede"));
+    VoegToe(u"Tweede"_s);
     EXPECT_EQ(1U, Kopieen("RVDspelers").size());
 }
 
@@ -102,12 +101,11 @@ TEST_F(Opstartproef, EenOnmogelijkeSleutelregelWordtGemeld)
 {
     ZetSpelers("HKEY=99999999999\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n");
     wachter.Waarschuwing(isNogLeeg);
-    wachter.Informatie(QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er staan "
-                                      "nu 0 spelers in de tabel, want op regel 1 staat achter "
-                                      "HKEY= een getal dat niet past (een sleutel is ten hoogste "
-                                      "2147483647)") +
-                       sleutelgevolg + blijftZoHetIs + QStringLiteral("\n\n") + Spelerbestand +
-                       QStringLiteral("\nRegel: 1"));
+    wachter.Informatie(
+        u"Het spelerbestand is niet tot het einde gelezen; er staan nu 0 spelers in de tabel, "
+        "want op regel 1 staat achter HKEY= een getal dat niet past (een sleutel is ten hoogste "
+        "2147483647)"_s +
+        sleutelgevolg + blijftZoHetIs + u"\n\n"_s + Spelerbestand + u"\nRegel: 1"_s);
     VerwachtSleutelvraag(100001, 100000, NietVerhogen);
     ASSERT_EQ(std::nullopt, Laad());
 }
@@ -122,13 +120,13 @@ TEST_F(Opstartproef, SleutelsInEenBestandDatNietTeTellenIsWordenOokAangeboden)
         administratie.spelers = {};
         ZetSpelers(oud);
         wachter.Waarschuwing(isNogLeeg);
-        wachter.Verwacht({.tekst = QStringLiteral("Het spelerbestand is niet tot het einde"),
-                          .alleenBegin = true});
+        wachter.Verwacht(
+            {.tekst = u"Het spelerbestand is niet tot het einde"_s, .alleenBegin = true});
         VerwachtSleutelvraag(100250, oud.find("171") == std::string::npos ? 100000 : 100171,
-                             QStringLiteral("Verhogen"));
+                             u"Verhogen"_s);
         ASSERT_NO_FATAL_FAILURE(Start());
         EXPECT_EQ(oud, Spelers());
-        VoegToe(QStringLiteral("Nieuweling"));
+        VoegToe(u"Nieuweling"_s);
         EXPECT_TRUE(Spelers()->starts_with("HKEY=100251\r\n1,100251,")) << *Spelers();
     }
 }
@@ -147,13 +145,12 @@ TEST_F(Opstartproef, ZonderSleutelregelBegintDeTellingBijDeBasis)
 {
     const std::string oud = Speler("1", "100007", "Gr01-", "Bos") + "\r\n";
     ZetSpelers(oud);
-    wachter.Informatie(QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de "
-                                      "hoogste sleutel") +
+    wachter.Informatie(u"In het spelerbestand ontbreekt de regel HKEY= met de hoogste sleutel"_s +
                        sleutelgevolg + blijftZoHetIs);
     VerwachtSleutelvraag(100007, 100000, NietVerhogen);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ(0, administratie.spelers.HKEY);
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_EQ("HKEY=100001\r\n" + Speler("1", "100007", "Gr01-", "Bos") +
                   "\r\n2,100001,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n",
               Spelers());
@@ -164,9 +161,8 @@ TEST_F(Opstartproef, EenSleutelregelZonderGetalWordtGemeldMetZijnRegel)
 {
     for (const char* zonder : {"", "onzin"}) {
         ZetSpelers(Speler("1", "100000", "Gr01-", "Bos") + "\r\nHKEY=" + zonder + "\r\n");
-        wachter.Informatie(
-            QStringLiteral("Op regel 2 van het spelerbestand staat achter HKEY= geen getal") +
-            sleutelgevolg + blijftZoHetIs);
+        wachter.Informatie(u"Op regel 2 van het spelerbestand staat achter HKEY= geen getal"_s +
+                           sleutelgevolg + blijftZoHetIs);
         ASSERT_NO_FATAL_FAILURE(Start());
         EXPECT_EQ(100000, administratie.spelers.HKEY);
     }
@@ -185,14 +181,14 @@ TEST_F(Opstartproef, SleutelsBovenHKEYVerhogenStaatMeteenInHetBestand)
     const std::string rijen = Speler("1", "100250", "Gr05-", "Bos") + "\r\n" +
                               Speler("2", "100003", "Gr05-", "Dam") + "\r\n";
     ZetSpelers("HKEY=100171\r\n" + rijen);
-    VerwachtSleutelvraag(100250, 100171, QStringLiteral("Verhogen"));
+    VerwachtSleutelvraag(100250, 100171, u"Verhogen"_s);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ("HKEY=100250\r\n" + rijen, Spelers());
     EXPECT_EQ(std::vector<Tekst>{}, Kopieen("RVDspelers"));
     EXPECT_EQ(5, GetoondeGroep());
     EXPECT_EQ("OPTIND=0\r\nLOSTGR=4\r\n", Plexo());
     EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_NE(std::string::npos, Spelers()->find("3,100251,Gr05-"));
     ASSERT_NO_FATAL_FAILURE(Start()); // and is not asked again
 }
@@ -215,13 +211,13 @@ TEST_F(Opstartproef, VerhogenAlsErSpelersZijnOvergeslagenSlaatNietMeteenOp)
     const std::string oud = "HKEY=100171\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n" +
                             Speler("2", "100300", "Gr01-", "") + "\r\n";
     ZetSpelers(oud);
-    wachter.Verwacht({.tekst = QStringLiteral("1 speler zonder achternaam is niet ingelezen"),
-                      .alleenBegin = true});
-    VerwachtSleutelvraag(100300, 100171, QStringLiteral("Verhogen"));
+    wachter.Verwacht(
+        {.tekst = u"1 speler zonder achternaam is niet ingelezen"_s, .alleenBegin = true});
+    VerwachtSleutelvraag(100300, 100171, u"Verhogen"_s);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ(oud, Spelers());
     EXPECT_EQ(100300, administratie.spelers.HKEY);
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_TRUE(Spelers()->starts_with("HKEY=100301\r\n"));
 }
 
@@ -231,13 +227,13 @@ TEST_F(Opstartproef, SpelersZonderAchternaamWordenGenoemdEnBlijvenInEenKopie)
                             Speler("2", "100002", "Gr01-", "Bos") + "\r\n" +
                             Speler("3", "100003", "Gr01-", "") + "\r\n";
     ZetSpelers(oud);
-    wachter.Informatie(QStringLiteral("2 spelers zonder achternaam zijn niet ingelezen (regel 2, 4 "
-                                      "van het spelerbestand). Vul die achternaam daar in als u "
-                                      "de speler wilt houden.") +
-                       blijftZoHetIs);
+    wachter.Informatie(
+        u"2 spelers zonder achternaam zijn niet ingelezen (regel 2, 4 van het spelerbestand). Vul "
+        "die achternaam daar in als u de speler wilt houden."_s +
+        blijftZoHetIs);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
 }
 
@@ -245,12 +241,11 @@ TEST_F(Opstartproef, ElkeFoutVanEenLezingKrijgtZijnEigenBericht)
 {
     ZetSpelers(Speler("1", "100001", "Gr01-", "Bos") + "\r\n" + Speler("2", "100000", "Gr01-", "") +
                "\r\n");
-    wachter.Informatie(QStringLiteral("1 speler zonder achternaam is niet ingelezen (regel 2 van "
-                                      "het spelerbestand). Vul die achternaam daar in als u de "
-                                      "speler wilt houden.") +
-                       blijftZoHetIs);
-    wachter.Informatie(QStringLiteral("In het spelerbestand ontbreekt de regel HKEY= met de "
-                                      "hoogste sleutel") +
+    wachter.Informatie(
+        u"1 speler zonder achternaam is niet ingelezen (regel 2 van het spelerbestand). Vul die "
+        "achternaam daar in als u de speler wilt houden."_s +
+        blijftZoHetIs);
+    wachter.Informatie(u"In het spelerbestand ontbreekt de regel HKEY= met de hoogste sleutel"_s +
                        sleutelgevolg + blijftZoHetIs);
     VerwachtSleutelvraag(100001, 100000, NietVerhogen);
     ASSERT_NO_FATAL_FAILURE(Start());
@@ -263,7 +258,7 @@ TEST_F(Opstartproef, EenVeldVan64KBKomtOnveranderdTerug)
     ZetSpelers("HKEY=100001\r\n" + regel + "\r\n");
     ASSERT_NO_FATAL_FAILURE(Start());
     QApplication::processEvents(); // painting it too
-    VoegToe(QStringLiteral("Nieuweling"));
+    VoegToe(u"Nieuweling"_s);
     EXPECT_EQ("HKEY=100002\r\n" + regel + "\r\n2,100002,Gr01-,,,Nieuweling,,,,,,,M,,,,,\r\n",
               Spelers());
 }
@@ -276,20 +271,20 @@ TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
     VerwachtNietTotHetEinde(0, 1, 1);
     ASSERT_NO_FATAL_FAILURE(Start());
     wachter.Bedien([](QDialog& dialoog) {
-        Schrijf(dialoog, "txt1_6", QStringLiteral("Nieuweling"));
+        Schrijf(dialoog, "txt1_6", u"Nieuweling"_s);
         Klik(Vind<QPushButton>(dialoog, "cmdOK"));
     });
     wachter.Verwacht(
-        {.tekst = QStringLiteral(
-             "Er is niets opgeslagen: het spelerbestand bevat gegevens die niet zijn ingelezen, en "
-             "de kopie die daarvan eerst in de map Reservekopie moet komen, is mislukt. Het "
+        {.tekst =
+             u"Er is niets opgeslagen: het spelerbestand bevat gegevens die niet zijn ingelezen, "
+             "en de kopie die daarvan eerst in de map Reservekopie moet komen, is mislukt. Het "
              "spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
              "dit programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij de "
              "volgende wijziging en bij het afsluiten komt deze keus terug.\n\nBestand: "
-             "C:\\RVD\\Spelers\\Reservekopie"),
-         .antwoord = QStringLiteral("Doorgaan"),
+             "C:\\RVD\\Spelers\\Reservekopie"_s,
+         .antwoord = u"Doorgaan"_s,
          .icoon = QMessageBox::Critical,
-         .knoppen = {QStringLiteral("Opnieuw proberen"), QStringLiteral("Doorgaan")},
+         .knoppen = {u"Opnieuw proberen"_s, u"Doorgaan"_s},
          .alleenBegin = true});
     Klik(Knop("cmdAanm"));
     wachter.Klaar();
@@ -301,10 +296,10 @@ TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
 TEST_F(Opstartproef, OnzinInPlexoIniWordtGemeldEnKomtInEenKopie)
 {
     ZetInstellingen("dit is\r\ngeen instelling\r\n");
-    wachter.Informatie(QStringLiteral(
-        "Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit "
-        "programma. Voordat het wordt vervangen, komt er een kopie van in de map "
-        "Reservekopie. U hoeft niets te doen.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"));
+    wachter.Informatie(
+        u"Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit programma. "
+        "Voordat het wordt vervangen, komt er een kopie van in de map Reservekopie. U hoeft niets "
+        "te doen.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"_s);
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(1, GetoondeGroep());
     EXPECT_EQ("OPTIND=0\r\nLOSTGR=0\r\n", Plexo());
@@ -315,8 +310,8 @@ TEST_F(Opstartproef, OnzinInPlexoIniWordtGemeldEnKomtInEenKopie)
 TEST_F(Opstartproef, EenTeGrootGetalInPlexoIniBeeindigtHetLezen)
 {
     ZetInstellingen("OPTIND=7\r\nLOSTGR=99999\r\nLOSTGR=3\r\n");
-    wachter.Verwacht({.tekst = QStringLiteral("Het bestand 'Plexo.ini' bevat iets anders"),
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst = u"Het bestand 'Plexo.ini' bevat iets anders"_s, .alleenBegin = true});
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(1, GetoondeGroep());
     EXPECT_EQ(7, administratie.instellingen.OPTIND);
@@ -326,11 +321,11 @@ TEST_F(Opstartproef, OnzinInDeGroepsnamenWordtGemeldEnBlijftStaan)
 {
     const std::string oud = "dit is geen groep\r\nGr01-Clubleden\r\n" + ruis;
     ZetGroepen(oud);
-    wachter.Informatie(QStringLiteral(
-        "Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; die zijn "
+    wachter.Informatie(
+        u"Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; die zijn "
         "overgeslagen. Voordat het bestand wordt vervangen, komt er een kopie van in de map "
         "Reservekopie. Kijk na of de groepsnamen kloppen.\n\nBestand: "
-        "C:\\RVD\\Spelers\\RVDGroepen.txt"));
+        "C:\\RVD\\Spelers\\RVDGroepen.txt"_s);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ("Gr01-Clubleden", Keus("cmbGr")->itemText(0).toStdString());
     EXPECT_EQ("Gr02-", Keus("cmbGr")->itemText(1).toStdString());
@@ -367,14 +362,14 @@ TEST_F(Opstartproef, InEenSpelersmapDieNietBeschrevenMagWordenWerktHetKijken)
 TEST_F(Opstartproef, InstellingenDieNietTeBewarenZijnWordenEenKeerGemeld)
 {
     geheugen.ZetAlleenLezen("C:\\RVD\\Admin");
-    wachter.Verwacht({.tekst = QStringLiteral(
-                          "De instellingen van het programma kunnen niet worden opgeslagen. De "
-                          "gegevens van de spelers zijn niet in gevaar: alleen de groep die "
-                          "u het laatst zag en het terugkeerveld worden niet "
-                          "onthouden. Kijk of u in die map mag "
-                          "schrijven.\n\nBestand: C:\\RVD\\Admin\\Plexo.ini"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"De instellingen van het programma kunnen niet worden opgeslagen. De gegevens van "
+             "de spelers zijn niet in gevaar: alleen de groep die u het laatst zag en het "
+             "terugkeerveld worden niet onthouden. Kijk of u in die map mag schrijven.\n\n"
+             "Bestand: C:\\RVD\\Admin\\Plexo.ini"_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Start());
     KiesGroep(2);
     KiesGroep(3);
@@ -407,7 +402,7 @@ TEST_F(OpstartOpSchijf, EenOnleesbaarMappenIniEindigtMetStatusEen)
     namespace fs = std::filesystem;
     fs::permissions(suite.Weg() / "Mappen.ini", fs::perms::none);
     const Gewoon gewoon;
-    wachter.Verwacht({.tekst = QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen."),
+    wachter.Verwacht({.tekst = u"Het bestand 'Mappen.ini' kan niet worden gelezen."_s,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});
     venster = std::make_unique<frmLedenAdmin>(administratie);
@@ -428,14 +423,16 @@ TEST_F(OpstartOpSchijf, OpEenAlleenLezenMapBlijftAllesStaan)
     const Gewoon gewoon;
     ASSERT_NO_FATAL_FAILURE(Start());
     wachter.Bedien([](QDialog& dialoog) {
-        Schrijf(dialoog, "txt1_6", QStringLiteral("Nieuweling"));
+        Schrijf(dialoog, "txt1_6", u"Nieuweling"_s);
         Klik(Vind<QPushButton>(dialoog, "cmdOK"));
     });
-    wachter.Verwacht({.tekst = QStringLiteral("De spelers konden niet worden opgeslagen. Het "
-                                              "spelerbestand op de schijf is heel gebleven"),
-                      .antwoord = QStringLiteral("Doorgaan"),
-                      .icoon = QMessageBox::Critical,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"De spelers konden niet worden opgeslagen. Het spelerbestand op de schijf is heel "
+             "gebleven"_s,
+         .antwoord = u"Doorgaan"_s,
+         .icoon = QMessageBox::Critical,
+         .alleenBegin = true});
     Klik(Knop("cmdAanm"));
     wachter.Klaar();
     EXPECT_EQ(spelers, suite.Spelers());

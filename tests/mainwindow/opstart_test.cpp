@@ -56,13 +56,12 @@ TEST_F(Opstartproef, DeStappenKomenInHunVolgorde)
 TEST_F(Opstartproef, ZonderMappenIniNoemtHetBerichtHetHelePadEnIsDeStatusEen)
 {
     static_cast<void>(geheugen.Verwijder("C:\\RVD\\Mappen.ini"));
-    wachter.Verwacht(
-        {.tekst = QStringLiteral("Het bestand 'Mappen.ini' kan niet worden gelezen.") +
-                  mappenvraag +
-                  QStringLiteral("Bestand: C:\\RVD\\Mappen.ini\nMelding van het systeem: "),
-         .icoon = QMessageBox::Critical,
-         .knoppen = {QStringLiteral("OK")},
-         .alleenBegin = true});
+    wachter.Verwacht({.tekst = u"Het bestand 'Mappen.ini' kan niet worden gelezen."_s +
+                               mappenvraag +
+                               u"Bestand: C:\\RVD\\Mappen.ini\nMelding van het systeem: "_s,
+                      .icoon = QMessageBox::Critical,
+                      .knoppen = {u"OK"_s},
+                      .alleenBegin = true});
     const auto status = Laad();
     ASSERT_TRUE(status.has_value());
     EXPECT_EQ(1, *status);
@@ -76,12 +75,12 @@ TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
                                       "\x00\xFF\x01\r\n,,=\xAB"s}) {
         geheugen.Zet("C:\\RVD\\Mappen.ini", inhoud);
         wachter.Verwacht(
-            {.tekst = QStringLiteral("Het bestand 'Mappen.ini' noemt de map van de spelers niet: "
-                                     "er staat geen map achter SPEMAP=.") +
-                      mappenvraag + QStringLiteral("Bestand: C:\\RVD\\Mappen.ini") +
-                      (inhoud.find('\0') == std::string::npos
-                           ? QString()
-                           : QStringLiteral("\nOorzaak: er staan NUL-tekens in")),
+            {.tekst =
+                 u"Het bestand 'Mappen.ini' noemt de map van de spelers niet: er staat geen map "
+                 "achter SPEMAP=."_s +
+                 mappenvraag + u"Bestand: C:\\RVD\\Mappen.ini"_s +
+                 (inhoud.find('\0') == std::string::npos ? QString()
+                                                         : u"\nOorzaak: er staan NUL-tekens in"_s),
              .icoon = QMessageBox::Critical});
         const auto status = Laad();
         ASSERT_TRUE(status.has_value());
@@ -93,10 +92,10 @@ TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
 TEST_F(Opstartproef, ZonderWINMAPGaatDeStartDoor)
 {
     geheugen.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\RVD\\Spelers\r\nADMMAP=C:\\RVD\\Admin\r\n");
-    wachter.Waarschuwing(QStringLiteral(
-        "De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden "
-        "gemaakt. Er staat geen map achter WINMAP= in 'Mappen.ini'; de gegevens van de "
-        "spelers zijn niet in gevaar. Vul die map in en start Plexoran opnieuw."));
+    wachter.Waarschuwing(
+        u"De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden gemaakt. Er "
+        "staat geen map achter WINMAP= in 'Mappen.ini'; de gegevens van de spelers zijn niet in "
+        "gevaar. Vul die map in en start Plexoran opnieuw."_s);
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ("HKEY=100000\r\n", Spelers());
     EXPECT_EQ(Padsoort::Niets, geheugen.Soort("\\NBB4-Leden").value());
@@ -119,9 +118,9 @@ TEST_F(Opstartproef, EenLedenmapDieNietTeMakenIsWordtGemeldEnHoudtNietsTegen)
 {
     geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "WINMAP=D:\\weg\r\n");
     wachter.Verwacht(
-        {.tekst = QStringLiteral("De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet "
-                                 "worden gemaakt.") +
-                  mapvraag + QStringLiteral("Bestand: D:\\weg\\NBB4-Leden\n"),
+        {.tekst =
+             u"De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden gemaakt."_s +
+             mapvraag + u"Bestand: D:\\weg\\NBB4-Leden\n"_s,
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
     ASSERT_EQ(std::nullopt, Laad());
@@ -150,15 +149,14 @@ TEST_F(Opstartproef, MaaktEenOntbrekendeSpelersmap)
 TEST_F(Opstartproef, EenSpelersmapWaarvanOokDeMapErbovenOntbreektWordtGemeldEnNietGemaakt)
 {
     geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "SPEMAP=D:\\weg\\Spelers\r\n");
-    wachter.Verwacht({.tekst = QStringLiteral("De map van de spelers kon niet worden gemaakt.") +
-                               mapvraag + QStringLiteral("Bestand: D:\\weg\\Spelers\n"),
+    wachter.Verwacht({.tekst = u"De map van de spelers kon niet worden gemaakt."_s + mapvraag +
+                               u"Bestand: D:\\weg\\Spelers\n"_s,
                       .icoon = QMessageBox::Warning,
                       .alleenBegin = true});
     wachter.Waarschuwing(isNogLeeg);
     wachter.Verwacht(
         {.tekst = nietGeopend +
-                  QStringLiteral("Bestand: "
-                                 "D:\\weg\\Spelers\\RVDspelers.txt\nMelding van het systeem: "),
+                  u"Bestand: D:\\weg\\Spelers\\RVDspelers.txt\nMelding van het systeem: "_s,
          .alleenBegin = true});
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(Padsoort::Niets, geheugen.Soort("D:\\weg\\Spelers").value());
@@ -238,7 +236,7 @@ TEST_F(Opstartproef, DeSpelersKunnenTerugZonderHetBlancoBegin)
         EXPECT_EQ(goed, Spelers());
         EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
         EXPECT_EQ(100200, administratie.spelers.HKEY);
-        VoegToe(QStringLiteral("Nieuweling"));
+        VoegToe(u"Nieuweling"_s);
         EXPECT_NE(std::string::npos, Spelers()->find("2,100201,Gr01-"));
     }
 }
@@ -261,19 +259,19 @@ TEST_F(Opstartproef, TerugzettenDatMislukt)
     ZetGroepen(KaleGroepen());
     ZetSpelers(oud);
     wachter.LaatBeslissen([&](const QMessageBox& bericht) {
-        const bool eerste = bericht.text().contains(QStringLiteral(" begon met een lege regel"));
+        const bool eerste = bericht.text().contains(u" begon met een lege regel"_s);
         geheugen.ZetAlleenLezen("C:\\RVD\\Spelers", eerste);
         if (!eerste) {
             EXPECT_TRUE(bericht.text().startsWith(
-                QStringLiteral("Het spelerbestand kon niet worden teruggezet en is nu leeg. Wat "
-                               "erin stond, staat heel in een kopie. Verhelp de oorzaak en probeer "
-                               "het opnieuw, of zet de kopie zelf terug voordat u iets "
-                               "invoert.\n\nKopie: C:\\RVD\\Spelers\\Reservekopie\\RVDspelers ")))
+                u"Het spelerbestand kon niet worden teruggezet en is nu leeg. Wat erin stond, "
+                "staat heel in een kopie. Verhelp de oorzaak en probeer het opnieuw, of zet de "
+                "kopie zelf terug voordat u iets invoert.\n\nKopie: "
+                "C:\\RVD\\Spelers\\Reservekopie\\RVDspelers "_s))
                 << bericht.text().toStdString();
             EXPECT_EQ("HKEY=100000\r\n", Spelers());
             EXPECT_EQ(std::vector<Tekst>{oud}, Kopieen("RVDspelers"));
         }
-        return eerste ? Terugzetten : QStringLiteral("Opnieuw proberen");
+        return eerste ? Terugzetten : u"Opnieuw proberen"_s;
     });
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ("HKEY=100200\r\n", Spelers());
@@ -285,14 +283,14 @@ TEST_F(Opstartproef, AlsDeKopieNietKanBlijftHetBlancoSpelerbestandStaan)
     ZetSpelers(oud);
     ZetGroepen(KaleGroepen());
     geheugen.Zet("C:\\RVD\\Spelers\\Reservekopie", "een bestand waar de map moet komen");
-    wachter.Verwacht({.tekst = QStringLiteral(
-                          "Het spelerbestand begint met een lege regel of een leeg gegeven en "
-                          "moest daarom worden vervangen, na een kopie. Dat is mislukt; het "
-                          "bestand is gebleven zoals het was. Kijk na of u in de map mag "
-                          "schrijven, of haal het lege begin weg met een "
-                          "tekstprogramma.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"Het spelerbestand begint met een lege regel of een leeg gegeven en moest daarom "
+             "worden vervangen, na een kopie. Dat is mislukt; het bestand is gebleven zoals het "
+             "was. Kijk na of u in de map mag schrijven, of haal het lege begin weg met een "
+             "tekstprogramma.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ(oud, Spelers());
 }
@@ -364,11 +362,10 @@ TEST_F(Opstartproef, WatEenAfgebrokenOpslagLietWordtNaEenUurOpgeruimd)
 TEST_F(Opstartproef, KoppelverslagenMetSleutelsDieNogUitgegevenWordenZijnGemeld)
 {
     const auto melding = [](const QString& waarvan, const QString& welk) {
-        return QStringLiteral("In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn "
-                              "uitgegeven, zoals na een toevoegen dat is afgebroken. Het "
-                              "spelerbestand is niet veranderd. Verwijder %2 of voeg de spelers "
-                              "opnieuw toe, anders krijgen andere spelers die sleutels.\n")
-            .arg(waarvan, welk);
+        return u"In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn uitgegeven, zoals "
+               "na een toevoegen dat is afgebroken. Het spelerbestand is niet veranderd. "
+               "Verwijder %2 of voeg de spelers opnieuw toe, anders krijgen andere spelers die "
+               "sleutels.\n"_s.arg(waarvan, welk);
     };
     const Pad een = "C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt";
     const Pad twee = "C:\\RVD\\Zittingen\\Twee_Rev\\Koppelverslag.txt";
@@ -376,15 +373,13 @@ TEST_F(Opstartproef, KoppelverslagenMetSleutelsDieNogUitgegevenWordenZijnGemeld)
     geheugen.Zet(een, "N01 100172 - 0\r\n");
     ASSERT_EQ(std::nullopt, Laad());
     geheugen.Zet(een, "N01 100172 - 100173\r\n");
-    wachter.Waarschuwing(
-        melding(QStringLiteral("een zitting"), QStringLiteral("dat bestand")) +
-        QStringLiteral("\nBestand: C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt"));
+    wachter.Waarschuwing(melding(u"een zitting"_s, u"dat bestand"_s) +
+                         u"\nBestand: C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt"_s);
     ASSERT_EQ(std::nullopt, Laad());
     geheugen.Zet(twee, "N01 100174 - 0\r\n");
-    wachter.Waarschuwing(
-        melding(QStringLiteral("2 zittingen"), QStringLiteral("die bestanden")) +
-        QStringLiteral("\nBestand: C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt"
-                       "\nBestand: C:\\RVD\\Zittingen\\Twee_Rev\\Koppelverslag.txt"));
+    wachter.Waarschuwing(melding(u"2 zittingen"_s, u"die bestanden"_s) +
+                         u"\nBestand: C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt\nBestand: "
+                         "C:\\RVD\\Zittingen\\Twee_Rev\\Koppelverslag.txt"_s);
     ASSERT_EQ(std::nullopt, Laad());
     EXPECT_EQ("N01 100174 - 0\r\n", geheugen.Inhoud(twee));
 }

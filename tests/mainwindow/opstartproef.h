@@ -8,32 +8,30 @@
 
 namespace plexoran {
 
-inline const QString isAlGestart = QStringLiteral("Het programma is al gestart!...");
+inline const QString isAlGestart = u"Het programma is al gestart!..."_s;
 inline const QString isNogLeeg =
-    QStringLiteral("Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!");
-inline const QString mappenvraag = QStringLiteral(
-    " Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit programma niet waar ze "
-    "staan. Zet het goede bestand op deze plaats, of start Plexoran met "
-    "--mappen en de naam "
-    "van het bestand.\n\n");
-inline const QString mapvraag = QStringLiteral(" De gegevens van de spelers zijn niet veranderd. "
-                                               "Kijk na of de map in 'Mappen.ini' bestaat en of u "
-                                               "erin mag schrijven.\n\n");
+    u"Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"_s;
+inline const QString mappenvraag =
+    u" Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit programma niet waar ze "
+    "staan. Zet het goede bestand op deze plaats, of start Plexoran met --mappen en de naam van "
+    "het bestand.\n\n"_s;
+inline const QString mapvraag =
+    u" De gegevens van de spelers zijn niet veranderd. Kijk na of de map in 'Mappen.ini' bestaat "
+    "en of u erin mag schrijven.\n\n"_s;
 inline const QString blijftZoHetIs =
-    QStringLiteral("\n\nHet bestand zelf is niet veranderd; voordat dit programma het de eerste "
-                   "keer vervangt, komt er een kopie van in de map Reservekopie.");
+    u"\n\nHet bestand zelf is niet veranderd; voordat dit programma het de eerste keer vervangt, "
+    "komt er een kopie van in de map Reservekopie."_s;
 inline const QString sleutelgevolg =
-    QStringLiteral("; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een "
-                   "andere speler kan zijn. Voeg geen spelers toe voordat die regel is hersteld.");
+    u"; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een andere speler "
+    "kan zijn. Voeg geen spelers toe voordat die regel is hersteld."_s;
 inline const QString nietGeopend =
-    QStringLiteral("Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets "
-                   "aan veranderd. Voeg nu geen spelers toe, maar verhelp de oorzaak en start het "
-                   "programma opnieuw.\n\n");
-inline const QString groepenwat = QStringLiteral("Het bestand met de groepsnamen");
-inline const QString spelerwat = QStringLiteral("Het spelerbestand");
-inline const QString LeegBeginnen = QStringLiteral("Leeg beginnen");
-inline const QString Terugzetten = QStringLiteral("Terugzetten");
-inline const QString Spelerbestand = QStringLiteral("Bestand: C:\\RVD\\Spelers\\RVDspelers.txt");
+    u"Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets aan veranderd. "
+    "Voeg nu geen spelers toe, maar verhelp de oorzaak en start het programma opnieuw.\n\n"_s;
+inline const QString groepenwat = u"Het bestand met de groepsnamen"_s;
+inline const QString spelerwat = u"Het spelerbestand"_s;
+inline const QString LeegBeginnen = u"Leeg beginnen"_s;
+inline const QString Terugzetten = u"Terugzetten"_s;
+inline const QString Spelerbestand = u"Bestand: C:\\RVD\\Spelers\\RVDspelers.txt"_s;
 
 inline const std::string ini = "RVDMAP=C:\\RVD\r\n"
                                "ADMMAP=C:\\RVD\\Admin\r\n"
@@ -180,45 +178,41 @@ class Opstartproef : public Vensterproef {
     {
         wachter.Waarschuwing(isNogLeeg);
         wachter.Informatie(
-            QStringLiteral("Het spelerbestand is niet tot het einde gelezen; er %1 in de tabel, "
-                           "want de genoemde regel heeft %2 in plaats van 18. Laat die regel "
-                           "herstellen voordat u iets invoert.")
-                .arg(spelers == 1 ? QStringLiteral("staat nu 1 speler")
-                                  : QStringLiteral("staan nu %1 spelers").arg(spelers),
-                     velden == 1 ? QStringLiteral("1 veld")
-                                 : QStringLiteral("%1 velden").arg(velden)) +
-            blijftZoHetIs + QStringLiteral("\n\n") + Spelerbestand +
-            QStringLiteral("\nRegel: %1").arg(regel));
+            u"Het spelerbestand is niet tot het einde gelezen; er %1 in de tabel, want de "
+            "genoemde regel heeft %2 in plaats van 18. Laat die regel herstellen voordat u iets "
+            "invoert."_s.arg(spelers == 1 ? u"staat nu 1 speler"_s
+                                          : u"staan nu %1 spelers"_s.arg(spelers),
+                             velden == 1 ? u"1 veld"_s : u"%1 velden"_s.arg(velden)) +
+            blijftZoHetIs + u"\n\n"_s + Spelerbestand + u"\nRegel: %1"_s.arg(regel));
     }
 
     /// Of a file that was made anew although it held something.
     void VerwachtTerugzetvraag(const QString& wat, const QString& antwoord)
     {
         wachter.Verwacht(
-            {.tekst = wat + QStringLiteral(" begon met een lege regel of een leeg gegeven en is "
-                                           "daarom vervangen door een nieuw, leeg bestand. Wat "
-                                           "erin stond, staat heel in een kopie. Zet het terug "
-                                           "zonder dat lege begin, tenzij u met een leeg bestand "
-                                           "wilt beginnen.\n\nKopie: "
-                                           "C:\\RVD\\Spelers\\Reservekopie\\RVD"),
+            {.tekst =
+                 wat +
+                 u" begon met een lege regel of een leeg gegeven en is daarom vervangen door een "
+                 "nieuw, leeg bestand. Wat erin stond, staat heel in een kopie. Zet het terug "
+                 "zonder dat lege begin, tenzij u met een leeg bestand wilt beginnen.\n\nKopie: "
+                 "C:\\RVD\\Spelers\\Reservekopie\\RVD"_s,
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,
-             .knoppen = {QStringLiteral("Leeg beginnen"), QStringLiteral("Terugzetten")},
+             .knoppen = {u"Leeg beginnen"_s, u"Terugzetten"_s},
              .alleenBegin = true});
     }
 
     void VerwachtSleutelvraag(int hoogste, int geldt, const QString& antwoord)
     {
         wachter.Verwacht(
-            {.tekst = QStringLiteral("In het spelerbestand staat een speler met sleutel %1, maar "
-                                     "als hoogste uitgegeven sleutel (HKEY=) geldt %2. Een nieuwe "
-                                     "speler kan daardoor een sleutel krijgen die al van een ander "
-                                     "is. Met Verhogen geldt voortaan %1.")
-                          .arg(hoogste)
-                          .arg(geldt),
+            {.tekst =
+                 u"In het spelerbestand staat een speler met sleutel %1, maar als hoogste "
+                 "uitgegeven sleutel (HKEY=) geldt %2. Een nieuwe speler kan daardoor een sleutel "
+                 "krijgen die al van een ander is. Met Verhogen geldt voortaan %1."_s.arg(hoogste)
+                     .arg(geldt),
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,
-             .knoppen = {QStringLiteral("Verhogen"), QStringLiteral("Niet verhogen")}});
+             .knoppen = {u"Verhogen"_s, u"Niet verhogen"_s}});
     }
 
     void VoegToe(const QString& achternaam)

@@ -240,8 +240,8 @@ TEST_F(RoosterTest, HetRoosterSpreektZijnRegel)
     EXPECT_EQ("Geen regel geselecteerd", Vlak()->accessibleDescription().toStdString());
     KiesRegel(1);
     EXPECT_TRUE(Vlak()->accessibleDescription().startsWith(
-        QStringLiteral("Regel 1, Nr 1, Key 100001, Groep Gr01-, Voornaam Willem, Tusv van der, "
-                       "Achternaam Horst, ")))
+        u"Regel 1, Nr 1, Key 100001, Groep Gr01-, Voornaam Willem, Tusv van der, Achternaam "
+        "Horst, "_s))
         << Vlak()->accessibleDescription().toStdString();
     EXPECT_FALSE(Vlak()->accessibleName().isEmpty());
 }
@@ -515,7 +515,7 @@ TEST_F(RoosterTest, EenGewijzigdeNaamStaatErMeteen)
     const QImage voor = Beeld();
     KiesRegel(2);
     wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_6", QStringLiteral("WWWWWW"));
+        Schrijf(ingave, "txt1_6", u"WWWWWW"_s);
         Klik(Vind<QPushButton>(ingave, "cmdOK"));
     });
     Klik(Knop("cmdWijzig"));

@@ -75,15 +75,13 @@ class Vensterproef : public testing::Test {
     [[nodiscard]] int GekozenRegel() const
     {
         const QString tekst = Vlak()->accessibleDescription();
-        return tekst.startsWith(QStringLiteral("Regel "))
-                   ? tekst.mid(6).section(QLatin1Char(','), 0, 0).toInt()
-                   : 0;
+        return tekst.startsWith(u"Regel "_s) ? tekst.mid(6).section(u',', 0, 0).toInt() : 0;
     }
     /// The register key of the player on the selected line.
     [[nodiscard]] std::string GekozenSleutel() const
     {
         const QString tekst = Vlak()->accessibleDescription();
-        return tekst.section(QStringLiteral("Key "), 1).left(6).toStdString();
+        return tekst.section(u"Key "_s, 1).left(6).toStdString();
     }
 
     Berichtwachter wachter;

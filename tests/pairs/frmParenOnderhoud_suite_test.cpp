@@ -120,10 +120,10 @@ TEST_F(ParenSuiteTest, DeLosseSpelersVanDeVoorbeeldsuite)
 {
     KiesGroep(1);
     const auto los = [&](const char* regel) {
-        wachter.Verwacht({.tekst = QStringLiteral("De volgende spelers zijn losse spelers: "
-                                                  "\r\n\r\n%1\r\n\r\n")
-                                       .arg(QString::fromUtf8(regel)),
-                          .icoon = QMessageBox::Warning});
+        wachter.Verwacht(
+            {.tekst = u"De volgende spelers zijn losse spelers: \r\n\r\n%1\r\n\r\n"_s.arg(
+                 QString::fromUtf8(regel)),
+             .icoon = QMessageBox::Warning});
     };
     wachter.Bedien([&](QDialog& dialoog) {
         Kies(dialoog, "Gr01-A-LIJN");
@@ -158,9 +158,8 @@ TEST_F(ParenSuiteTest, DeCSVBestanden)
         Druk(dialoog, "cmdAnnu");
     });
     for (const char* naam : {"RVDparenCSV1.csv", "RVDparenCSV2.csv"})
-        wachter.Informatie(
-            QStringLiteral("Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n%2")
-                .arg(QString::fromLatin1(naam), map));
+        wachter.Informatie(u"Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n%2"_s.arg(
+            QString::fromLatin1(naam), map));
     Klik(Knop("cmdParenOnderhoud"));
     wachter.Klaar();
     EXPECT_EQ("1;Kees Aardappelaer - Lot Aardappelaer-Vink\r\n"
@@ -187,8 +186,8 @@ TEST_F(ParenSuiteTest, HetBestandVerwijderen)
         Druk(dialoog, "cmdVerwParenbest");
         Druk(dialoog, "cmdEinde");
     });
-    wachter.Verwacht({.tekst = QStringLiteral("U gaat Parenbestand Gr02- volledig verwijderen!\r\n"
-                                              "Weet u het zeker?")});
+    wachter.Verwacht(
+        {.tekst = u"U gaat Parenbestand Gr02- volledig verwijderen!\r\nWeet u het zeker?"_s});
     Klik(Knop("cmdParenOnderhoud"));
     wachter.Klaar();
     EXPECT_FALSE(suite.Bestaat(parenmap / "Gr02-.txt"));
@@ -211,7 +210,7 @@ TEST_F(ParenSuiteTest, EenTweedeExemplaarEindigtHetProgramma)
     MetParen([](QDialog& dialoog) { Druk(dialoog, "cmdAnnu"); });
     EXPECT_TRUE(venster->isVisible());
     eerste = false;
-    wachter.Informatie(QStringLiteral("Het programma is al gestart!..."));
+    wachter.Informatie(u"Het programma is al gestart!..."_s);
     Klik(Knop("cmdParenOnderhoud"));
     wachter.Klaar();
     EXPECT_FALSE(venster->isVisible());

@@ -48,14 +48,14 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
 
     void VerwachtNietVast(const Pad& bestand)
     {
-        wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud "
-                                                  "staat heel op de schijf. Het systeem kon alleen "
-                                                  "niet bevestigen dat dit na een stroomstoring "
-                                                  "nog zo is. Kijk of de schijf in orde is en sla "
-                                                  "later nog eens op.\n\nBestand: ") +
-                                   QString::fromStdString(geheugen.Toonpad(bestand)),
-                          .icoon = QMessageBox::Warning,
-                          .alleenBegin = true});
+        wachter.Verwacht(
+            {.tekst =
+                 u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf. Het "
+                 "systeem kon alleen niet bevestigen dat dit na een stroomstoring nog zo is. Kijk "
+                 "of de schijf in orde is en sla later nog eens op.\n\nBestand: "_s +
+                 QString::fromStdString(geheugen.Toonpad(bestand)),
+             .icoon = QMessageBox::Warning,
+             .alleenBegin = true});
     }
 
     [[nodiscard]] Regellijst* Lijst(const char* naam) const { return Deel<Regellijst>(naam); }
@@ -188,13 +188,13 @@ TEST_F(frmParenOnderhoudTest, EenAndereGroepEnEenGroepZonderSpelers)
 TEST_F(frmParenOnderhoudTest, EenMapDieNietGemaaktKanWorden)
 {
     administratie.mappen.SPEMAP = "C:\\club\\Anders";
-    wachter.Verwacht({.tekst = QStringLiteral("De map voor de parenbestanden (Parenmap) kon niet "
-                                              "worden gemaakt, dus paren kunnen nu niet worden "
-                                              "opgeslagen. De gegevens van de spelers zijn niet "
-                                              "veranderd. Kijk of u in de map van de spelers mag "
-                                              "schrijven.\n\n"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"De map voor de parenbestanden (Parenmap) kon niet worden gemaakt, dus paren kunnen "
+             "nu niet worden opgeslagen. De gegevens van de spelers zijn niet veranderd. Kijk of "
+             "u in de map van de spelers mag schrijven.\n\n"_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Klaar();
     Kies("Gr03-Dinsdag");
@@ -231,11 +231,12 @@ TEST_F(frmParenOnderhoudTest, MetParen)
 TEST_F(frmParenOnderhoudTest, LosseSpelersWordenGemeld)
 {
     geheugen.Zet(dinsdag, "100001-100099#100004-100005#100098-100097#\r\n");
-    wachter.Verwacht({.tekst = QStringLiteral("De volgende spelers zijn losse spelers: \r\n\r\n"
-                                              "100001 Bos An - 100099 ??????\r\n"
-                                              "100098 ?????? - 100097 ??????\r\n\r\n"),
-                      .icoon = QMessageBox::Warning,
-                      .knoppen = {QStringLiteral("OK")}});
+    wachter.Verwacht(
+        {.tekst =
+             u"De volgende spelers zijn losse spelers: \r\n\r\n100001 Bos An - 100099 ??????\r\n"
+             "100098 ?????? - 100097 ??????\r\n\r\n"_s,
+         .icoon = QMessageBox::Warning,
+         .knoppen = {u"OK"_s}});
     Kies("Gr03-Dinsdag");
     wachter.Klaar();
     EXPECT_EQ(
@@ -260,22 +261,22 @@ TEST_F(frmParenOnderhoudTest, VeelLosseSpelersInEenVensterDatSchuift)
     });
     Kies("Gr03-Dinsdag");
     wachter.Klaar();
-    EXPECT_TRUE(tekst.startsWith(QStringLiteral("De volgende spelers zijn losse spelers: \n\n"
-                                                "200000 ?????? - 300000 ??????\n")));
-    EXPECT_EQ(60, tekst.count(QStringLiteral(" - ")));
+    EXPECT_TRUE(tekst.startsWith(
+        u"De volgende spelers zijn losse spelers: \n\n200000 ?????? - 300000 ??????\n"_s));
+    EXPECT_EQ(60, tekst.count(u" - "_s));
 }
 
 TEST_F(frmParenOnderhoudTest, EenBestandDatNietGelezenKanWorden)
 {
     geheugen.Zet(dinsdag, "100004-100005#\r\n");
     schijf.FaalVanaf(1);
-    wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'Gr03-Dinsdag' kan niet worden "
-                                              "gelezen; u ziet daarom geen paren. Voordat het "
-                                              "wordt vervangen, komt er een kopie van in de map "
-                                              "Reservekopie. Sluit met Annuleren als u eerst de "
-                                              "oorzaak wilt verhelpen.\n\n"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"Het parenbestand 'Gr03-Dinsdag' kan niet worden gelezen; u ziet daarom geen paren. "
+             "Voordat het wordt vervangen, komt er een kopie van in de map Reservekopie. Sluit "
+             "met Annuleren als u eerst de oorzaak wilt verhelpen.\n\n"_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     Kies("Gr03-Dinsdag");
     wachter.Klaar();
     schijf.FaalNiet();
@@ -442,9 +443,9 @@ TEST_F(frmParenOnderhoudTest, TypenSpringtNaarDeNaam)
 {
     Kies("Gr03-Dinsdag");
     Lijst("L1")->setFocus();
-    QTest::keyClicks(Lijst("L1"), QStringLiteral("co"));
+    QTest::keyClicks(Lijst("L1"), u"co"_s);
     EXPECT_EQ(2, Gekozen("L1"));
-    QTest::keyClicks(Lijst("L2"), QStringLiteral("ar")); // Ärp
+    QTest::keyClicks(Lijst("L2"), u"ar"_s); // Ärp
     EXPECT_EQ(0, Gekozen("L2"));
     EXPECT_TRUE(Knop("cmdOKE")->isEnabled());
 }
@@ -563,12 +564,10 @@ TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
     MaakPaar(0, 1);
     geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
     wachter.Waarschuwing(
-        QStringLiteral("Fout bij het opslaan van Paren\n"
-                       "De paren zijn niet verloren: ze staan nu op het klembord. Plak ze in een "
-                       "tekstbestand, verhelp de oorzaak en sla dat op onder de naam "
-                       "hieronder.\n\n"
-                       "Bestand: C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt\n"
-                       "Melding van het systeem: u hebt daar geen rechten voor"));
+        u"Fout bij het opslaan van Paren\nDe paren zijn niet verloren: ze staan nu op het "
+        "klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla dat op onder de naam "
+        "hieronder.\n\nBestand: C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt\nMelding van het "
+        "systeem: u hebt daar geen rechten voor"_s);
     Klik(Knop("cmdEinde"));
     wachter.Klaar();
     EXPECT_FALSE(venster->isVisible());
@@ -585,7 +584,7 @@ TEST_F(frmParenOnderhoudTest, ParenDieErStaanMaarNietVastGaanNietNaarHetKlembord
         ASSERT_NO_FATAL_FAILURE(Open());
         Kies("Gr03-Dinsdag");
         MaakPaar(0, 1);
-        QGuiApplication::clipboard()->setText(QStringLiteral("van mij"));
+        QGuiApplication::clipboard()->setText(u"van mij"_s);
         schijf.FaalNiet();
         if (faalt) {
             schijf.FaalBij(stappen);
@@ -604,10 +603,10 @@ TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
 {
     Kies("Gr03-A/B");
     MaakPaar(0, 1);
-    wachter.Waarschuwing(QStringLiteral(
-        "De paren van 'Gr03-A/B' kunnen niet worden opgeslagen, want / kan niet in de naam van een "
-        "bestand staan. De paren staan nog op het scherm. Geef de spelers een andere subgroep, of "
-        "kies Annuleren om niets op te slaan."));
+    wachter.Waarschuwing(
+        u"De paren van 'Gr03-A/B' kunnen niet worden opgeslagen, want / kan niet in de naam van "
+        "een bestand staan. De paren staan nog op het scherm. Geef de spelers een andere "
+        "subgroep, of kies Annuleren om niets op te slaan."_s);
     Klik(Knop("cmdEinde"));
     wachter.Klaar();
     EXPECT_TRUE(venster->isVisible());
@@ -625,12 +624,12 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatErNietIs)
 {
     Kies("Gr03-Dinsdag");
     MaakPaar(0, 1);
-    wachter.Waarschuwing(QStringLiteral("Parenbestand 'Gr03-Dinsdag' bestaat nog niet!"));
+    wachter.Waarschuwing(u"Parenbestand 'Gr03-Dinsdag' bestaat nog niet!"_s);
     Klik(Knop("cmdVerwParenbest"));
     wachter.Klaar();
     EXPECT_EQ(1U, Regels("L3").size());
     Kies("Gr03-A/B");
-    wachter.Waarschuwing(QStringLiteral("Parenbestand 'Gr03-A/B' bestaat nog niet!"));
+    wachter.Waarschuwing(u"Parenbestand 'Gr03-A/B' bestaat nog niet!"_s);
     Klik(Knop("cmdVerwParenbest"));
 }
 
@@ -639,16 +638,17 @@ TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
     geheugen.Zet(dinsdag, "100004-100005#\r\n");
     Kies("Gr03-Dinsdag");
     const auto vraag = [](const QString& antwoord) {
-        return Bericht{.tekst = QStringLiteral("U gaat Parenbestand Gr03-Dinsdag volledig "
-                                               "verwijderen!\r\nWeet u het zeker?"),
-                       .antwoord = antwoord,
-                       .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}};
+        return Bericht{
+            .tekst =
+                u"U gaat Parenbestand Gr03-Dinsdag volledig verwijderen!\r\nWeet u het zeker?"_s,
+            .antwoord = antwoord,
+            .knoppen = {u"OK"_s, u"Annuleren"_s}};
     };
-    wachter.Verwacht(vraag(QStringLiteral("Annuleren")));
+    wachter.Verwacht(vraag(u"Annuleren"_s));
     Klik(Knop("cmdVerwParenbest"));
     EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
     EXPECT_EQ(1U, Regels("L3").size());
-    wachter.Verwacht(vraag(QStringLiteral("OK")));
+    wachter.Verwacht(vraag(u"OK"_s));
     Klik(Knop("cmdVerwParenbest"));
     wachter.Klaar();
     EXPECT_EQ(std::nullopt, geheugen.Inhoud(dinsdag));
@@ -665,13 +665,12 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
     geheugen.Zet(dinsdag, "100004-100005#\r\n");
     Kies("Gr03-Dinsdag");
     geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
+    wachter.Verwacht({.tekst = u"U gaat Parenbestand Gr03-Dinsdag"_s, .alleenBegin = true});
     wachter.Verwacht(
-        {.tekst = QStringLiteral("U gaat Parenbestand Gr03-Dinsdag"), .alleenBegin = true});
-    wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand kon niet worden verwijderd; het "
-                                              "is gebleven zoals het was. Verhelp de oorzaak en "
-                                              "probeer het opnieuw.\n\n"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+        {.tekst = u"Het parenbestand kon niet worden verwijderd; het is gebleven zoals het was. "
+                  "Verhelp de oorzaak en probeer het opnieuw.\n\n"_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     Klik(Knop("cmdVerwParenbest"));
     wachter.Klaar();
     EXPECT_EQ(1U, Regels("L3").size());
@@ -686,9 +685,8 @@ TEST_F(frmParenOnderhoudTest, DeCSVBestanden)
     Kies("Gr03-Dinsdag");
     const QString map = QString::fromStdString(schijf.Toonpad("C:\\club\\DiverseUitvoer"));
     const auto opgeslagen = [&](const char* naam) {
-        wachter.Informatie(
-            QStringLiteral("Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n%2")
-                .arg(QString::fromLatin1(naam), map));
+        wachter.Informatie(u"Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n%2"_s.arg(
+            QString::fromLatin1(naam), map));
     };
     opgeslagen("RVDparenCSV1.csv");
     Klik(Knop("cmdPrintVast"));
@@ -717,9 +715,9 @@ TEST_F(frmParenOnderhoudTest, EenCSVDieErStaatMaarNietVastIsOpgeslagen)
             schijf.FaalBij(stappen);
             VerwachtNietVast("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv");
         }
-        wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'RVDparenCSV2.csv' is "
-                                                  "opgeslagen in de map: \r\n\r\n"),
-                          .alleenBegin = true});
+        wachter.Verwacht(
+            {.tekst = u"Het parenbestand 'RVDparenCSV2.csv' is opgeslagen in de map: \r\n\r\n"_s,
+             .alleenBegin = true});
         Klik(Knop("cmdPrintLos"));
         wachter.Klaar();
         stappen = schijf.Aantal();
@@ -731,18 +729,19 @@ TEST_F(frmParenOnderhoudTest, EenCSVDieErStaatMaarNietVastIsOpgeslagen)
 TEST_F(frmParenOnderhoudTest, EenCSVDieNietLukt)
 {
     geheugen.ZetAlleenLezen("C:\\club");
-    wachter.Verwacht({.tekst = QStringLiteral("Het parenbestand 'RVDparenCSV1.csv' is niet "
-                                              "opgeslagen. De paren in dit venster zijn niet "
-                                              "veranderd. Sluit het bestand als het nog open is in "
-                                              "een ander programma, en probeer het opnieuw.\n\n"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"Het parenbestand 'RVDparenCSV1.csv' is niet opgeslagen. De paren in dit venster "
+             "zijn niet veranderd. Sluit het bestand als het nog open is in een ander programma, "
+             "en probeer het opnieuw.\n\n"_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     Klik(Knop("cmdPrintVast"));
     administratie.mappen.RVDMAP.clear();
-    wachter.Waarschuwing(QStringLiteral("Het parenbestand 'RVDparenCSV2.csv' is niet opgeslagen: "
-                                        "er staat geen map achter RVDMAP= in 'Mappen.ini'. De "
-                                        "paren in dit venster zijn niet veranderd. Vul die map in "
-                                        "en start Plexoran opnieuw."));
+    wachter.Waarschuwing(
+        u"Het parenbestand 'RVDparenCSV2.csv' is niet opgeslagen: er staat geen map achter "
+        "RVDMAP= in 'Mappen.ini'. De paren in dit venster zijn niet veranderd. Vul die map in en "
+        "start Plexoran opnieuw."_s);
     Klik(Knop("cmdPrintLos"));
 }
 

@@ -184,8 +184,7 @@ TEST_F(frmAfdrukkenTest, VijfenvijftigRijenGevenTweeBladen)
 
 TEST_F(frmAfdrukkenTest, MeerDanDertigBladen)
 {
-    wachter.Waarschuwing(
-        QStringLiteral("\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"));
+    wachter.Waarschuwing(u"\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"_s);
     ASSERT_NO_FATAL_FAILURE(OpenRijen(2000));
     EXPECT_EQ(30, Balk()->maximum());
     EXPECT_EQ("(Totaal 37)", Vak("txtAantPages"));
@@ -197,10 +196,8 @@ TEST_F(frmAfdrukkenTest, MeerDanDertigBladen)
 TEST_F(frmAfdrukkenTest, TeBreedEnTeVeelBladenGeeftBeideWaarschuwingen)
 {
     wachter.Waarschuwing(
-        QStringLiteral("De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus "
-                       "kolommen!"));
-    wachter.Waarschuwing(
-        QStringLiteral("\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"));
+        u"De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus kolommen!"_s);
+    wachter.Waarschuwing(u"\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"_s);
     ASSERT_NO_FATAL_FAILURE(
         Open(MaakPrintspelers(2000, Tekst(250, 'x')), {Kolom::Voornaam, Kolom::Achternaam}));
     EXPECT_EQ(30, Balk()->maximum());
@@ -227,8 +224,8 @@ TEST_F(frmAfdrukkenTest, EenBredeLijstGaatLiggen)
 
 TEST_F(frmAfdrukkenTest, EenTeBredeLijstWaarschuwtEnNoemtWatOntbreekt)
 {
-    wachter.Waarschuwing(QStringLiteral("De printbreedte is groter dan het liggende A4.\r\n"
-                                        "Rechts ontbreken dus kolommen!"));
+    wachter.Waarschuwing(
+        u"De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus kolommen!"_s);
     ASSERT_NO_FATAL_FAILURE(Open(MaakPrintspelers(1, Tekst(200, 'x')),
                                  {Kolom::Voornaam, Kolom::Achternaam, Kolom::Telef}));
     EXPECT_EQ("Printformaat: A4-liggend", Label("Label2"));
@@ -252,8 +249,8 @@ TEST_F(frmAfdrukkenTest, DeLaatsteKolomZonderNaam)
     EXPECT_EQ("RegNr Achternaam", blad.Regel(blad.Woord("RegNr").boven));
     EXPECT_EQ("1 Bos 12345", blad.Regel(blad.Woord("12345").boven));
 
-    wachter.Waarschuwing(QStringLiteral("De printbreedte is groter dan het liggende A4.\r\n"
-                                        "Rechts ontbreken dus kolommen!"));
+    wachter.Waarschuwing(
+        u"De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus kolommen!"_s);
     ASSERT_NO_FATAL_FAILURE(
         Open(MaakPrintspelers(1, Tekst(200, 'x')), {Kolom::Achternaam, Kolom::NBBnr}, 1, namen));
     EXPECT_TRUE(Label("lblReden").ends_with("Niet op het blad: Achternaam, (kolom 18)"));
@@ -283,7 +280,7 @@ TEST_F(frmAfdrukkenTest, EenBladKiezenMetToetsenOfEenNummer)
     EXPECT_EQ(3, Balk()->value());
     Toets(Qt::Key_Home);
     EXPECT_EQ(1, Balk()->value());
-    Schrijf(*venster, "txtBlad", QStringLiteral("4"));
+    Schrijf(*venster, "txtBlad", u"4"_s);
     QTest::keyClick(Deel<QLineEdit>("txtBlad"), Qt::Key_Return); // opens no print dialog
     EXPECT_EQ(4, Balk()->value());
     EXPECT_EQ("Print blad 4", Label("Label1"));
@@ -326,7 +323,7 @@ TEST_F(frmAfdrukkenTest, DeToetsenWerkenOokInHetVakEnOpDeKnoppen)
 TEST_F(frmAfdrukkenTest, EenGetyptNummerTeltVoorHetPrintenMetAltP)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(200));
-    Schrijf(*venster, "txtBlad", QStringLiteral("3"));
+    Schrijf(*venster, "txtBlad", u"3"_s);
     VerwachtPdf(wachter, map.Weg() / "lijst.pdf", KiesHuidig);
     QTest::keyClick(Deel<QLineEdit>("txtBlad"), Qt::Key_P, Qt::AltModifier);
     const auto bestand = map.Weg() / "lijst.pdf";
@@ -361,7 +358,7 @@ TEST_F(frmAfdrukkenTest, EenNummerDatGeenBladIs)
         EXPECT_EQ("Print blad " + verwacht, Label("Label1")) << getypt;
     }
     Balk()->setValue(3);
-    Schrijf(*venster, "txtBlad", QStringLiteral("0"));
+    Schrijf(*venster, "txtBlad", u"0"_s);
     Deel<QWidget>("picP0")->setFocus();
     EXPECT_EQ("3", Vak("txtBlad"));
 }
@@ -581,8 +578,7 @@ TEST_F(frmAfdrukkenTest, HetVoorstelIsDeHeleLijst)
 /// More pages than can be printed are not proposed either.
 TEST_F(frmAfdrukkenTest, HetVoorstelBlijftBinnenDeGrens)
 {
-    wachter.Waarschuwing(
-        QStringLiteral("\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"));
+    wachter.Waarschuwing(u"\r\nEr worden niet meer dan 30 pagina's tegelijk geprint!\r\n"_s);
     ASSERT_NO_FATAL_FAILURE(OpenRijen(2000));
     EXPECT_EQ(30U, Print().size());
 }
@@ -612,11 +608,11 @@ TEST_F(frmAfdrukkenTest, StoppenNaHetBladDatWordtGetekend)
 {
     ASSERT_NO_FATAL_FAILURE(OpenRijen(500)); // ten pages
     for (const auto& [na, melding] :
-         {std::pair<int, QString>(1,
-                                  QStringLiteral("Het printen is gestopt na 1 van de 9 bladen. De "
-                                                 "overige bladen kunt u later printen.")),
-          {4, QStringLiteral("Het printen is gestopt na 4 van de 9 bladen. De overige bladen "
-                             "kunt u later printen.")}}) {
+         {std::pair<int, QString>(
+              1, u"Het printen is gestopt na 1 van de 9 bladen. De overige bladen kunt u later "
+                 "printen."_s),
+          {4, u"Het printen is gestopt na 4 van de 9 bladen. De overige bladen kunt u later "
+              "printen."_s}}) {
         std::filesystem::remove(map.Weg() / "lijst.pdf"); // else the dialog asks first
         const Voortgangstopper stopper(na);
         VerwachtPdf(wachter, map.Weg() / "lijst.pdf",
@@ -653,7 +649,7 @@ TEST_F(frmAfdrukkenTest, EenVolleSchijfNaHetStoppenIsDeMelding)
     schijf.FaalVanaf(2);
     const Voortgangstopper stopper(2);
     VerwachtPdf(wachter, map.Weg() / "lijst.pdf", KiesAlles);
-    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+    wachter.Verwacht({.tekst = u"Het printen is niet gelukt."_s,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});
     Klik(Deel<QPushButton>("cmdPrinten"));
@@ -698,7 +694,7 @@ TEST_F(frmAfdrukkenTest, EenVolleSchijfWordtGemeldEnLaatGeenHalfBestand)
     ASSERT_NO_FATAL_FAILURE(OpenRijen(3));
     schijf.FaalVanaf(2);
     VerwachtPdf(wachter, map.Weg() / "lijst.pdf");
-    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+    wachter.Verwacht({.tekst = u"Het printen is niet gelukt."_s,
                       .icoon = QMessageBox::Critical,
                       .alleenBegin = true});
     Klik(Deel<QPushButton>("cmdPrinten"));
@@ -713,10 +709,10 @@ TEST_F(frmAfdrukkenTest, EenBestandDatErStaatMaarNietVastIsGeprint)
     ASSERT_NO_FATAL_FAILURE(OpenRijen(3));
     schijf.FaalBij(6); // make, write, sync, close, rename, and then the folder
     VerwachtPdf(wachter, map.Weg() / "lijst.pdf");
-    wachter.Verwacht({.tekst = QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat "
-                                              "heel op de schijf."),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst = u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf."_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     Klik(Deel<QPushButton>("cmdPrinten"));
     wachter.Klaar();
     EXPECT_EQ(1U, LeesPdf(map.Weg() / "lijst.pdf").size());

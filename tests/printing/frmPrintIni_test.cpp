@@ -97,7 +97,7 @@ TEST_F(frmPrintIniTest, DeSchaalIsTeLezen)
     optie.initFrom(cmbSchaal);
     const QRect vak = cmbSchaal->style()->subControlRect(QStyle::CC_ComboBox, &optie,
                                                          QStyle::SC_ComboBoxEditField, cmbSchaal);
-    EXPECT_GE(vak.width(), cmbSchaal->fontMetrics().horizontalAdvance(QStringLiteral("0,7 ")));
+    EXPECT_GE(vak.width(), cmbSchaal->fontMetrics().horizontalAdvance(u"0,7 "_s));
 }
 
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietBreder)
@@ -219,7 +219,7 @@ TEST_F(frmPrintIniTest, EenLegeGroepHoudtDeKnopUit)
 TEST_F(frmPrintIniTest, EerstEenSubgroepKiezen)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
-    wachter.Waarschuwing(QStringLiteral("U moet nog een subgroep kiezen."));
+    wachter.Waarschuwing(u"U moet nog een subgroep kiezen."_s);
     Klik(Knop("cmdOK"));
     EXPECT_TRUE(venster->isVisible());
 }
@@ -231,7 +231,7 @@ TEST_F(frmPrintIniTest, ZonderRubriekWordtOmDeAchternaamGevraagd)
     KlikRegel("lstNBBgr", 1);
     Klik(Knop("cmdSelNone"));
     Knop("cmdOK")->setEnabled(true);
-    wachter.Waarschuwing(QStringLiteral("U moet minimaal de rubriek 'Achternaam' selecteren."));
+    wachter.Waarschuwing(u"U moet minimaal de rubriek 'Achternaam' selecteren."_s);
     Klik(Knop("cmdOK"));
     EXPECT_TRUE(venster->isVisible());
 }

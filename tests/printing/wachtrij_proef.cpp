@@ -27,6 +27,7 @@
 #include "hulp/voortgangstopper.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/regellijst.h"
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/echteSchijf.h"
 #include "printing/frmAfdrukken.h"
 #include "printing/printproef.h"
@@ -130,7 +131,7 @@ class WachtrijProef : public testing::Test {
     void WerkVoorbeeld(QDialog& voorbeeld)
     {
         ASSERT_EQ("(Totaal 3)", Vind<QLineEdit>(voorbeeld, "txtAantPages")->text().toStdString());
-        while (Vind<QLabel>(voorbeeld, "lblZoom")->text() != QStringLiteral("%1 %").arg(100 * Zoom))
+        while (Vind<QLabel>(voorbeeld, "lblZoom")->text() != u"%1 %"_s.arg(100 * Zoom))
             QTest::keyClick(Vind<QWidget>(voorbeeld, "picP0"), Qt::Key_Plus, Qt::ControlModifier);
         for (int blad = 1; blad <= Bladen; ++blad) {
             Vind<QScrollBar>(voorbeeld, "Bladscroll")->setValue(blad);
@@ -181,7 +182,7 @@ class WachtrijProef : public testing::Test {
     void MeldtFoutBij(const std::function<void(QDialog&)>& stappen)
     {
         const auto venster = OpenLijst(1, stappen);
-        wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt."),
+        wachter.Verwacht({.tekst = u"Het printen is niet gelukt."_s,
                           .icoon = QMessageBox::Critical,
                           .alleenBegin = true});
         Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
@@ -224,8 +225,7 @@ TEST_F(WachtrijProef, EenVerdwenenWachtrijWordtGemeld)
     MeldtFoutBij([](QDialog& dialoog) {
         KiesWachtrij(dialoog, "PRINTPROEF_WEG");
         QProcess lpadmin;
-        lpadmin.start(QStringLiteral("lpadmin"),
-                      {QStringLiteral("-x"), qEnvironmentVariable("PRINTPROEF_WEG")});
+        lpadmin.start(u"lpadmin"_s, {u"-x"_s, qEnvironmentVariable("PRINTPROEF_WEG")});
         ASSERT_TRUE(lpadmin.waitForFinished());
         ASSERT_EQ(0, lpadmin.exitCode());
     });
@@ -236,8 +236,8 @@ TEST_F(WachtrijProef, EenReeksDieWordtGestopt)
 {
     const Voortgangstopper stopper(2);
     const auto venster = OpenLijst(300, [](QDialog& dialoog) { KiesReeks(dialoog, 2, 5); });
-    wachter.Informatie(QStringLiteral("Het printen is gestopt na 2 van de 4 bladen. De overige "
-                                      "bladen kunt u later printen."));
+    wachter.Informatie(
+        u"Het printen is gestopt na 2 van de 4 bladen. De overige bladen kunt u later printen."_s);
     Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
     wachter.Klaar();
     EXPECT_EQ((std::vector<std::string>{"2", "3"}), Bladnummers());

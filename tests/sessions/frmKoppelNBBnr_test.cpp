@@ -15,13 +15,13 @@ namespace {
 
 using Teksten = std::vector<std::string>;
 
-const QString Dinsdag = QStringLiteral("Dinsdagavond 2024-09-10");
-const QString Maandag = QStringLiteral("Maandagmiddag 2024-10-07");
-const QString Najaar = QStringLiteral("Najaarscompetitie 2024");
+const QString Dinsdag = u"Dinsdagavond 2024-09-10"_s;
+const QString Maandag = u"Maandagmiddag 2024-10-07"_s;
+const QString Najaar = u"Najaarscompetitie 2024"_s;
 
 const QString Koppelvraag =
-    QStringLiteral("De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
-                   "zittingbestanden.\r\n\r\nKies OK of Annuleer.");
+    u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
+    "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s;
 
 /// The real window on a copy of the sample suite, with production saving.
 class Koppelvenster : public Dialoogproef<frmKoppelNBBnr, Suitestand> {
@@ -65,11 +65,10 @@ class Koppelvenster : public Dialoogproef<frmKoppelNBBnr, Suitestand> {
         ASSERT_EQ(sessie, Keus()->currentText());
         Klik(Knop("cmdZoekNamen"));
     }
-    void VerwachtVraag(const QString& antwoord = QStringLiteral("OK"))
+    void VerwachtVraag(const QString& antwoord = u"OK"_s)
     {
-        wachter.Verwacht({.tekst = Koppelvraag,
-                          .antwoord = antwoord,
-                          .knoppen = {QStringLiteral("OK"), QStringLiteral("Annuleren")}});
+        wachter.Verwacht(
+            {.tekst = Koppelvraag, .antwoord = antwoord, .knoppen = {u"OK"_s, u"Annuleren"_s}});
     }
     [[nodiscard]] static std::string Com(const std::string& rest)
     {
@@ -157,13 +156,14 @@ TEST_F(Koppelvenster, ZonderZittingenEnCompetities)
 {
     suite.Verwijder("Zittingen");
     suite.Verwijder("Competities");
-    wachter.Informatie(QStringLiteral("Er zijn nog geen Zittingen voorhanden.\r\nU dient dus eerst "
-                                      "een Zitting aan te maken."));
+    wachter.Informatie(
+        u"Er zijn nog geen Zittingen voorhanden.\r\nU dient dus eerst een Zitting aan te maken."_s);
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Klaar();
     EXPECT_FALSE(Knop("cmdZoekNamen")->isEnabled());
-    wachter.Informatie(QStringLiteral("Er zijn nog geen competities voorhanden.\r\nU dient dus "
-                                      "eerst een Competitie aan te maken."));
+    wachter.Informatie(
+        u"Er zijn nog geen competities voorhanden.\r\nU dient dus eerst een Competitie aan te "
+        "maken."_s);
     Deel<QRadioButton>("Option2")->click();
     EXPECT_EQ(Teksten{}, Sessies());
     EXPECT_FALSE(Knop("cmdZoekNamen")->isEnabled());
@@ -216,11 +216,12 @@ TEST_F(Koppelvenster, DeSpelersVanDeImportgroepUitHetBestand)
 TEST_F(Koppelvenster, EenSpelerbestandDatErNietIs)
 {
     suite.Verwijder("Spelers/RVDspelers.txt");
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het lezen van het spelerbestand; er is nu "
-                                              "niemand om te koppelen. Er is niets veranderd. "
-                                              "Verhelp de oorzaak en probeer het opnieuw.\n\n"),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"Fout bij het lezen van het spelerbestand; er is nu niemand om te koppelen. Er is "
+             "niets veranderd. Verhelp de oorzaak en probeer het opnieuw.\n\n"_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ(Teksten{}, Regels("lstRVDsp"));
 }
@@ -233,20 +234,20 @@ TEST_F(Koppelvenster, KoppelenInEenZitting)
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
     EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O02    J")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als O02    J"_s));
     EXPECT_EQ("als O02    Jørgen Sørensgaard", Vak("txtSpeler"));
     EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100084")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100084"_s));
     EXPECT_EQ("100084    Jørgen Sørensgaard", Vak("txtRVDspeler"));
 
-    VerwachtVraag(QStringLiteral("Annuleren"));
+    VerwachtVraag(u"Annuleren"_s);
     Klik(Knop("cmdStartKoppelen"));
     wachter.Klaar();
     EXPECT_EQ(spelers, suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/Spelers.txt"));
     EXPECT_EQ("als O02    Jørgen Sørensgaard", Vak("txtSpeler"));
 
     VerwachtVraag();
-    wachter.Informatie(QStringLiteral("Speler Jørgen Sørensgaard is gekoppeld."));
+    wachter.Informatie(u"Speler Jørgen Sørensgaard is gekoppeld."_s);
     Klik(Knop("cmdStartKoppelen"));
     wachter.Klaar();
     EXPECT_EQ(Vervangen(spelers, "J\xF8rgen S\xF8rensgaard", "100084"),
@@ -272,10 +273,10 @@ TEST_F(Koppelvenster, EenNaamDieVakerInDeZittingStaatAlleenOpDeGekozenPlaats)
     const std::string spelers = suite.Inhoud("Zittingen/Maandagmiddag 2024-10-07/Spelers.txt");
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Zoek(Maandag));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O03    Sven")));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100094")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als O03    Sven"_s));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100094"_s));
     VerwachtVraag();
-    wachter.Informatie(QStringLiteral("Speler Sven Nijboersma is gekoppeld."));
+    wachter.Informatie(u"Speler Sven Nijboersma is gekoppeld."_s);
     Klik(Knop("cmdStartKoppelen"));
     EXPECT_EQ(Vervangen(spelers, "O03 Sven Nijboersma", "O03 100094"),
               suite.Inhoud("Zittingen/Maandagmiddag 2024-10-07/Spelers.txt"));
@@ -290,7 +291,7 @@ TEST_F(Koppelvenster, WieNietInHetRegisterStaatKrijgtNiemandVoorgesteld)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Zoek(Maandag));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Tol - Paul")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als N02    Tol - Paul"_s));
     Klik(Knop("cmdKiesRVDspeler"));
     EXPECT_EQ("lstRVDsp", venster->focusWidget()->objectName().toStdString());
     EXPECT_EQ("", Vak("txtRVDspeler"));
@@ -309,9 +310,9 @@ TEST_F(Koppelvenster, DeFocusAlleenKiestNiemand)
     EXPECT_EQ("", Vak("txtRVDspeler"));
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
     EXPECT_EQ("als N02    Marleen Hijmanse", Vak("txtSpeler"));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100090")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100090"_s));
     VerwachtVraag();
-    wachter.Informatie(QStringLiteral("Speler Marleen Hijmanse is gekoppeld."));
+    wachter.Informatie(u"Speler Marleen Hijmanse is gekoppeld."_s);
     Klik(Knop("cmdStartKoppelen"));
     wachter.Klaar();
     EXPECT_EQ("lstSpelers", venster->focusWidget()->objectName().toStdString());
@@ -335,11 +336,10 @@ TEST_F(Koppelvenster, KoppelenInEenHeleCompetitie)
     EXPECT_EQ("Gevonden zwevende spelers in deze Competitie", Label("Label11"));
     EXPECT_EQ("In R1 - Z1 als N01    Cornélie Vaandrager", Regels("lstSpelers").front());
     EXPECT_EQ("In R10 - Z4 als O1    Sven Nijboersma", Regels("lstSpelers").back());
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("In R10 - Z4 als O01    Sven")));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100094")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"In R10 - Z4 als O01    Sven"_s));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100094"_s));
     VerwachtVraag();
-    wachter.Informatie(
-        QStringLiteral("Sven Nijboersma is in alle competitie-zittingen gekoppeld (6 keer)"));
+    wachter.Informatie(u"Sven Nijboersma is in alle competitie-zittingen gekoppeld (6 keer)"_s);
     Klik(Knop("cmdStartKoppelen"));
     wachter.Klaar();
     EXPECT_EQ(Vervangen(eerste, "Sven Nijboersma", "100094"),
@@ -363,8 +363,8 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
     ASSERT_NO_FATAL_FAILURE(Open());
     Deel<QRadioButton>("Option2")->click();
     ASSERT_NO_FATAL_FAILURE(Zoek(Najaar));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("In R1 - Z1 als O01    Rosa")));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100097")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"In R1 - Z1 als O01    Rosa"_s));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100097"_s));
     const std::size_t regels = Regels("lstSpelers").size();
     const auto pad = [&](const std::string& rest) {
         return QString::fromStdString(suite.Toonpad(Com(rest)));
@@ -373,12 +373,12 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
     VerwachtVraag();
     wachter.Verwacht(
         {.tekst =
-             QStringLiteral("Fout bij het koppelen. Elk bestand is heel: het is helemaal "
-                            "aangepast of nog zoals het was. Verhelp de oorzaak en koppel deze "
-                            "speler opnieuw; dan wordt de rest aangepast.\n\nAangepast (1):\n"
-                            "- %1\n\nNiet aangepast (3):\n- %2\n- %3\n- %4\n\nBestand: ")
-                 .arg(pad("Ronde-1/Zitting-1/Spelers.txt"), pad("Ronde-1/Zitting-1/PercZit-1.txt"),
-                      pad("Ronde-2/Zitting-3/Spelers.txt"), pad("Ronde-2/Zitting-3/PercZit-3.txt")),
+             u"Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of nog zoals "
+             "het was. Verhelp de oorzaak en koppel deze speler opnieuw; dan wordt de rest "
+             "aangepast.\n\nAangepast (1):\n- %1\n\nNiet aangepast (3):\n- %2\n- %3\n- %4\n\n"
+             "Bestand: "_s.arg(
+                 pad("Ronde-1/Zitting-1/Spelers.txt"), pad("Ronde-1/Zitting-1/PercZit-1.txt"),
+                 pad("Ronde-2/Zitting-3/Spelers.txt"), pad("Ronde-2/Zitting-3/PercZit-3.txt")),
          .icoon = QMessageBox::Critical,
          .alleenBegin = true});
     Klik(Knop("cmdStartKoppelen"));
@@ -391,8 +391,7 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
 
     schijf.FaalNiet();
     VerwachtVraag();
-    wachter.Informatie(
-        QStringLiteral("Rosa Zwaluwstaart is in alle competitie-zittingen gekoppeld (4 keer)"));
+    wachter.Informatie(u"Rosa Zwaluwstaart is in alle competitie-zittingen gekoppeld (4 keer)"_s);
     Klik(Knop("cmdStartKoppelen"));
     EXPECT_EQ("Rosa Zwaluwstaart - O01 aangepast in Percentagebestand.\n"
               "Rosa Zwaluwstaart - N02 aangepast in Spelerbestand.\n"
@@ -404,15 +403,15 @@ TEST_F(Koppelvenster, WatIntussenVerdweenWordtNietGekoppeldGenoemd)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Marleen")));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100090")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als N02    Marleen"_s));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100090"_s));
     suite.Verwijder("Zittingen/Dinsdagavond 2024-09-10/Spelers.txt");
     suite.Zet("Zittingen/Dinsdagavond 2024-09-10/PercZit.txt", "ruis\r\n");
     VerwachtVraag();
     wachter.Waarschuwing(
-        QStringLiteral("Er is niets gewijzigd: 'Marleen Hijmanse' komt niet meer voor in de "
-                       "bestanden. Misschien heeft een ander programma ze intussen gewijzigd. "
-                       "Zoek de zwevende spelers opnieuw."));
+        u"Er is niets gewijzigd: 'Marleen Hijmanse' komt niet meer voor in de bestanden. "
+        "Misschien heeft een ander programma ze intussen gewijzigd. Zoek de zwevende spelers "
+        "opnieuw."_s);
     Klik(Knop("cmdStartKoppelen"));
     EXPECT_EQ("ruis\r\n", suite.Inhoud("Zittingen/Dinsdagavond 2024-09-10/PercZit.txt"));
 }
@@ -421,35 +420,35 @@ TEST_F(Koppelvenster, EenVerdwenenMap)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
     suite.Verwijder("Zittingen/Dinsdagavond 2024-09-10");
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze "
-                                              "map is er niet meer. Er is niets veranderd. "
-                                              "Verhelp de oorzaak en probeer het "
-                                              "opnieuw.\n\nBestand: "),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Verwacht(
+        {.tekst =
+             u"Fout bij het zoeken van de zwevende spelers: deze map is er niet meer. Er is niets "
+             "veranderd. Verhelp de oorzaak en probeer het opnieuw.\n\nBestand: "_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
     wachter.Klaar();
     Deel<QRadioButton>("Option2")->click();
     suite.Verwijder("Competities/Laddercompetitie");
-    wachter.Verwacht({.tekst = QStringLiteral("Fout bij het zoeken van de zwevende spelers: deze "
-                                              "map is er niet meer. Er is niets veranderd. "
-                                              "Verhelp de oorzaak en probeer het "
-                                              "opnieuw.\n\nBestand: "),
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
-    ASSERT_NO_FATAL_FAILURE(Zoek(QStringLiteral("Laddercompetitie")));
+    wachter.Verwacht(
+        {.tekst =
+             u"Fout bij het zoeken van de zwevende spelers: deze map is er niet meer. Er is niets "
+             "veranderd. Verhelp de oorzaak en probeer het opnieuw.\n\nBestand: "_s,
+         .icoon = QMessageBox::Warning,
+         .alleenBegin = true});
+    ASSERT_NO_FATAL_FAILURE(Zoek(u"Laddercompetitie"_s));
 }
 
 TEST_F(Koppelvenster, OvergeslagenRegelsEnEenNaamMetEenStreepje)
 {
     suite.Zet("Zittingen/Nog te spelen/PercZit.txt", "1,2\r\n\r\n1,2,3,4,5,6,7,8\r\n");
     ASSERT_NO_FATAL_FAILURE(Open());
-    ASSERT_NO_FATAL_FAILURE(Zoek(QStringLiteral("Nog te spelen")));
+    ASSERT_NO_FATAL_FAILURE(Zoek(u"Nog te spelen"_s));
     EXPECT_EQ("Overgeslagen regels in de percentagebestanden, omdat ze geen 7 velden hebben: 2.",
               Label("lblResultaat"));
     ASSERT_NO_FATAL_FAILURE(Zoek(Maandag));
     EXPECT_EQ("", Label("lblResultaat"));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Tol - Paul")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als N02    Tol - Paul"_s));
     EXPECT_TRUE(Label("lblResultaat").starts_with("Let op: in deze naam staat een streepje."));
 }
 
@@ -457,20 +456,20 @@ TEST_F(Koppelvenster, DeWaarschuwingVoorEenStreepjeGaatWegMetDeNaam)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N03    Mieke")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als N03    Mieke"_s));
     EXPECT_TRUE(Label("lblResultaat").starts_with("Let op: in deze naam staat een streepje."));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O01    Sven")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als O01    Sven"_s));
     EXPECT_EQ("", Label("lblResultaat"));
 
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100094")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100094"_s));
     VerwachtVraag();
-    wachter.Informatie(QStringLiteral("Speler Sven Nijboersma is gekoppeld."));
+    wachter.Informatie(u"Speler Sven Nijboersma is gekoppeld."_s);
     Klik(Knop("cmdStartKoppelen"));
     const auto gedaan = Label("lblResultaat");
     EXPECT_TRUE(gedaan.starts_with("Sven Nijboersma - O01 aangepast in Spelerbestand."));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N03    Mieke")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als N03    Mieke"_s));
     EXPECT_TRUE(Label("lblResultaat").starts_with("Let op: in deze naam staat een streepje."));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als N02    Marleen")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als N02    Marleen"_s));
     EXPECT_EQ(gedaan, Label("lblResultaat"));
 }
 
@@ -517,7 +516,7 @@ TEST_F(Koppelvenster, MetHetToetsenbord)
     QTest::keyClick(venster->focusWidget(), Qt::Key_Return);
     EXPECT_EQ("cmdStartKoppelen", venster->focusWidget()->objectName().toStdString());
     VerwachtVraag();
-    wachter.Informatie(QStringLiteral("Speler Marleen Hijmanse is gekoppeld."));
+    wachter.Informatie(u"Speler Marleen Hijmanse is gekoppeld."_s);
     QTest::keyClick(venster->focusWidget(), Qt::Key_Space);
     QApplication::processEvents();
     wachter.Klaar();
@@ -559,8 +558,8 @@ TEST_F(Koppelvenster, KoppelenToontVoortgangMaarStoptNiet)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", QStringLiteral("als O02    J")));
-    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", QStringLiteral("100084")));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstSpelers", u"als O02    J"_s));
+    ASSERT_NO_FATAL_FAILURE(KiesRegel("lstRVDsp", u"100084"_s));
     const Voortgangstopper meteenInBeeld(0);
     int keren = 0;
     QTimer kijker;
@@ -575,7 +574,7 @@ TEST_F(Koppelvenster, KoppelenToontVoortgangMaarStoptNiet)
     });
     kijker.start(0);
     VerwachtVraag();
-    wachter.Informatie(QStringLiteral("Speler Jørgen Sørensgaard is gekoppeld."));
+    wachter.Informatie(u"Speler Jørgen Sørensgaard is gekoppeld."_s);
     Klik(Knop("cmdStartKoppelen"));
     wachter.Klaar();
     EXPECT_EQ(1, keren);
@@ -591,9 +590,9 @@ TEST_F(Koppelvenster, EenMapDieNaarEldersWijstWordtEenKeerGemeld)
     suite.Zet(elders + "/Zitdata.txt", "");
     suite.Zet("Competities/Zitdata.txt", "");
     wachter.Waarschuwing(
-        QStringLiteral("Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een "
-                       "naam in Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef "
-                       "wat u ervan nodig hebt, een andere naam.\n\n..\\Competities"));
+        u"Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een naam in "
+        "Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef wat u ervan nodig "
+        "hebt, een andere naam.\n\n..\\Competities"_s);
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Klaar();
     for (const std::string& sessie : Sessies())
@@ -610,11 +609,10 @@ TEST_F(Koppelvenster, EenLijstDieTeGrootIsWordtGeweigerd)
     std::filesystem::resize_file(suite.Weg() / lijst, std::uintmax_t{200} << 20U);
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Waarschuwing(
-        QStringLiteral(
-            "Fout bij het lezen van de zittingbestanden: de spelers uit het bestand "
-            "hieronder staan niet in de lijst. Er is niets veranderd. Verhelp de oorzaak "
-            "en probeer het opnieuw.\n\nBestand: ") +
+        u"Fout bij het lezen van de zittingbestanden: de spelers uit het bestand hieronder staan "
+        "niet in de lijst. Er is niets veranderd. Verhelp de oorzaak en probeer het opnieuw.\n\n"
+        "Bestand: "_s +
         QString::fromStdString(suite.Toonpad(lijst)) +
-        QStringLiteral("\nOorzaak: het bestand is te groot: meer dan 64 MB"));
+        u"\nOorzaak: het bestand is te groot: meer dan 64 MB"_s);
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
 }

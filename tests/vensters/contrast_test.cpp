@@ -11,6 +11,7 @@
 
 #include <cmath>
 
+#include "platform/scherm/tekstbrug.h"
 #include "vensters/rondgang.h"
 
 using namespace plexoran;
@@ -114,8 +115,8 @@ class ContrastTest : public Rondgangproef, public testing::WithParamInterface<bo
 bool IsGesteld(const QWidget* deel, bool donker)
 {
     const QString naam = deel->objectName();
-    return deel->window()->objectName() == QLatin1String("diaIngave") &&
-           (naam == QLatin1String("txt1_3") || (!donker && naam == QLatin1String("lbl1_6")));
+    return deel->window()->objectName() == "diaIngave"_L1 &&
+           (naam == "txt1_3"_L1 || (!donker && naam == "lbl1_6"_L1));
 }
 
 void VerwachtLeesbaar(const QWidget& venster, bool donker)
@@ -125,7 +126,7 @@ void VerwachtLeesbaar(const QWidget& venster, bool donker)
         if (!kleuren || !deel->isVisible() || IsGesteld(deel, donker))
             continue;
         // What cannot be used is grey; the fields that are never typed hold texts to be read.
-        const bool leesveld = deel->objectName().startsWith(QLatin1String("txt1_"));
+        const bool leesveld = deel->objectName().startsWith("txt1_"_L1);
         if (deel->isEnabled() || leesveld) {
             EXPECT_GE(Contrast(kleuren->first, kleuren->second), Leesbaar)
                 << deel->objectName().toStdString() << ' ' << kleuren->first.name().toStdString()
@@ -147,15 +148,15 @@ TEST_P(ContrastTest, HetRoosterEnDeLijstenVolgenHetBureaublad)
     const QColor papier = QApplication::palette().color(QPalette::Base);
     QStringList gezien;
     Rondgang(QGuiApplication::screens().constLast(), [&](QWidget& venster) {
-        auto* vlak = venster.findChild<QWidget*>(QStringLiteral("P1"));
-        if (vlak == nullptr || venster.objectName() == QLatin1String("diaGrNamen"))
+        auto* vlak = venster.findChild<QWidget*>(u"P1"_s);
+        if (vlak == nullptr || venster.objectName() == "diaGrNamen"_L1)
             return;
         gezien << venster.objectName();
         const QImage beeld = vlak->grab().toImage();
         // Texts without lines among them: the first name on the first line, or the top of a list.
         QRect teksten(0, 0, beeld.width(), vlak->fontMetrics().height());
-        if (venster.objectName() == QLatin1String("frmLedenAdmin")) {
-            const QRect kop = venster.findChild<QWidget*>(QStringLiteral("cmd_4"))->geometry();
+        if (venster.objectName() == "frmLedenAdmin"_L1) {
+            const QRect kop = venster.findChild<QWidget*>(u"cmd_4"_s)->geometry();
             teksten = QRect(kop.left() + 2, kop.height() + 3, kop.width() - 4, 11);
             const auto [zwart, band] =
                 InktOpPapier(beeld, QRect(2, teksten.top(), 20, teksten.height()));
@@ -166,19 +167,19 @@ TEST_P(ContrastTest, HetRoosterEnDeLijstenVolgenHetBureaublad)
         EXPECT_EQ(papier.name().toStdString(), ondergrond.name().toStdString());
         EXPECT_GE(Contrast(inkt, ondergrond), Leesbaar);
     });
-    EXPECT_EQ(3, gezien.size()) << gezien.join(QLatin1Char(' ')).toStdString();
+    EXPECT_EQ(3, gezien.size()) << gezien.join(u' ').toStdString();
 }
 
 /// These are stated; the one that a dark theme would make hard to read gets a ground.
 TEST_P(ContrastTest, HetRodeOpschriftEnDeGeleGroepHoudenHunKleur)
 {
     Rondgang(QGuiApplication::screens().constLast(), [](const QWidget& venster) {
-        if (venster.objectName() != QLatin1String("diaIngave"))
+        if (venster.objectName() != "diaIngave"_L1)
             return;
-        const auto* naam = venster.findChild<QLabel*>(QStringLiteral("lbl1_6"));
+        const auto* naam = venster.findChild<QLabel*>(u"lbl1_6"_s);
         EXPECT_EQ(QColor(255, 0, 0), naam->palette().color(QPalette::WindowText));
         EXPECT_EQ(GetParam(), naam->autoFillBackground());
-        const auto* groep = venster.findChild<QLineEdit*>(QStringLiteral("txt1_3"));
+        const auto* groep = venster.findChild<QLineEdit*>(u"txt1_3"_s);
         EXPECT_EQ(QColor(255, 0, 0), groep->palette().color(QPalette::Text));
         EXPECT_EQ(QColor(255, 255, 0), groep->palette().color(QPalette::Base));
     });

@@ -11,6 +11,7 @@
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
+#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 
@@ -45,15 +46,13 @@ class Rondgangproef : public testing::Test, protected Suitestand {
                 venster.hide();
         };
         DoorloopVensters(hoofdvenster, administratie, bezoek);
-        frmBericht bericht(QString(3000, QLatin1Char('x')), QStringLiteral("Bericht"), {},
-                           &hoofdvenster);
+        frmBericht bericht(QString(3000, u'x'), u"Bericht"_s, {}, &hoofdvenster);
         bezoek(bericht);
-        frmVoortgang voortgang(QStringLiteral("Even geduld"), QStringLiteral("&Stoppen"),
-                               &hoofdvenster);
+        frmVoortgang voortgang(u"Even geduld"_s, u"&Stoppen"_s, &hoofdvenster);
         voortgang.move(ouder.pos()); // else the window manager places it
         bezoek(voortgang);
         gezien_.removeDuplicates();
-        EXPECT_EQ(19, gezien_.size()) << gezien_.join(QLatin1Char(' ')).toStdString();
+        EXPECT_EQ(19, gezien_.size()) << gezien_.join(u' ').toStdString();
     }
 
   private:

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "platform/scherm/berichten.h"
+#include "platform/scherm/tekstbrug.h"
 #include "vensters/rondgang.h"
 
 using namespace plexoran;
@@ -54,8 +55,7 @@ class SchermmaatTest : public Rondgangproef, public testing::WithParamInterface<
 /// Those that scroll with the grid or with the names of the groups have been there before.
 bool WordtGeschoven(const QWidget& deel)
 {
-    return deel.objectName().startsWith(QLatin1String("cmd_")) ||
-           deel.parentWidget()->objectName() == QLatin1String("P1");
+    return deel.objectName().startsWith("cmd_"_L1) || deel.parentWidget()->objectName() == "P1"_L1;
 }
 
 void VerwachtBereikbaar(QWidget& deel)
@@ -73,7 +73,7 @@ void VerwachtBereikbaar(QWidget& deel)
     EXPECT_GE(deel.height(), deel.fontMetrics().height()) << deel.objectName().toStdString();
     const auto* knop = qobject_cast<QPushButton*>(&deel);
     const bool eigenMaat = deel.sizePolicy().horizontalPolicy() != QSizePolicy::Ignored &&
-                           deel.objectName() != QLatin1String("cmdH_1"); // stands in its row
+                           deel.objectName() != "cmdH_1"_L1; // stands in its row
     if (knop != nullptr && eigenMaat) {
         EXPECT_GE(deel.width(), deel.minimumSizeHint().width()) << deel.objectName().toStdString();
     }
@@ -102,7 +102,7 @@ TEST_P(SchermmaatTest, ElkVensterStaatErHelemaalOp)
 TEST_P(SchermmaatTest, EenLangBerichtHeeftZijnKnoppenInBeeld)
 {
     ZetLetter();
-    const QString regels = QStringLiteral("Een regel van een bericht.\n").repeated(80);
+    const QString regels = u"Een regel van een bericht.\n"_s.repeated(80);
     QMessageBox* bericht = nullptr;
     QTimer::singleShot(0, [&] {
         bericht = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -112,7 +112,7 @@ TEST_P(SchermmaatTest, EenLangBerichtHeeftZijnKnoppenInBeeld)
         ASSERT_EQ(3, bericht->buttons().size());
         for (QAbstractButton* knop : bericht->buttons())
             EXPECT_EQ(knop->rect(), knop->visibleRegion().boundingRect());
-        auto* tekst = bericht->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        auto* tekst = bericht->findChild<QLabel*>(u"qt_msgbox_label"_s);
         EXPECT_GE(tekst->height(), 80 * tekst->fontMetrics().height()) << "de tekst is afgeknipt";
         EXPECT_GE(tekst->visibleRegion().boundingRect().width(), tekst->sizeHint().width());
         bericht->buttons().constFirst()->click();
@@ -121,8 +121,7 @@ TEST_P(SchermmaatTest, EenLangBerichtHeeftZijnKnoppenInBeeld)
     ouder.move(Scherm()->availableGeometry().topLeft());
     ouder.show();
     EXPECT_EQ(0, Kies(&ouder, QMessageBox::Warning, regels,
-                      {QStringLiteral("Opslaan"), QStringLiteral("Niet opslaan"),
-                       QStringLiteral("Annuleren")}));
+                      {u"Opslaan"_s, u"Niet opslaan"_s, u"Annuleren"_s}));
     EXPECT_NE(nullptr, bericht);
 }
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <set>
 
+#include "platform/scherm/tekstbrug.h"
 #include "vensters/rondgang.h"
 
 using namespace plexoran;
@@ -41,7 +42,7 @@ bool IsNiets(QAccessible::Role rol)
 bool IsVanEenLijst(const QObject* object)
 {
     return object != nullptr && object->parent() != nullptr &&
-           object->parent()->objectName().startsWith(QStringLiteral("qt_scrollarea"));
+           object->parent()->objectName().startsWith(u"qt_scrollarea"_s);
 }
 
 /// A part that scrolls what stands in it, and has a name, has all that it needs.

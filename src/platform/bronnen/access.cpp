@@ -25,6 +25,7 @@ namespace plexoran {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace Qt::StringLiterals;
 using namespace std::string_view_literals;
 using Klok = std::chrono::steady_clock;
 
@@ -36,7 +37,7 @@ QString EigenProgramma()
     return QString::fromStdWString(naam);
 #elif defined(__linux__)
     // Of the child itself, which still is this program then; holds after an upgrade too.
-    return QStringLiteral("/proc/self/exe");
+    return u"/proc/self/exe"_s;
 #else
     return QCoreApplication::applicationFilePath();
 #endif

@@ -18,7 +18,7 @@ class Registerwinkel : public Instellingenwinkel {
   public:
     std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
     {
-        const QSettings tak(QString::fromLatin1(registerpad) + QLatin1Char('\\') +
+        const QSettings tak(QString::fromLatin1(registerpad) + u'\\' +
                                 QString::fromStdU16String(NaarUtf16(Samen(toepassing, sectie))),
                             QSettings::NativeFormat);
         const QVariant waarde = tak.value(QString::fromStdU16String(NaarUtf16(sleutel)));

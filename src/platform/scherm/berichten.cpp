@@ -27,7 +27,7 @@ void Vul(QMessageBox& venster, const QString& tekst, const QString& toelichting 
     venster.setTextFormat(Qt::PlainText);
     venster.setText(tekst);
     venster.setInformativeText(toelichting);
-    if (auto* label = venster.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+    if (auto* label = venster.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
         label->setTextFormat(Qt::PlainText); // which the box itself forgets
 }
 
@@ -71,8 +71,8 @@ class Berichtvenster : public QMessageBox {
         auto* blad = new Schuifblad(inhoud, this);
         auto* teksten = new QVBoxLayout(inhoud);
         teksten->setContentsMargins(0, 0, 0, 0);
-        const auto labels = findChildren<QLabel*>(
-            QRegularExpression(QStringLiteral("^qt_msgbox_(informative)?label$")));
+        const auto labels =
+            findChildren<QLabel*>(QRegularExpression(u"^qt_msgbox_(informative)?label$"_s));
         layout()->replaceWidget(labels.front(), blad);
         for (QLabel* label : labels) {
             teksten->addWidget(label);
@@ -150,14 +150,14 @@ void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const Q
 {
     Berichtvenster venster(icoon, Titel(titel), QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
-    venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
+    venster.button(QMessageBox::Ok)->setText(u"OK"_s);
     LaatAntwoorden(venster);
 }
 
 void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
 {
     constexpr int regelsInBericht = 25;
-    if (tekst.count(QLatin1Char('\n')) > regelsInBericht || !PastInBericht(*ouder, tekst))
+    if (tekst.count(u'\n') > regelsInBericht || !PastInBericht(*ouder, tekst))
         ToonLang(ouder, icoon, tekst, Titel({}));
     else
         Meld(ouder, icoon, tekst);
@@ -167,14 +167,14 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
                  QMessageBox::Icon icoon)
 {
     constexpr int regelsInBericht = 25;
-    if (tekst.count(QLatin1Char('\n')) > regelsInBericht) {
+    if (tekst.count(u'\n') > regelsInBericht) {
         ToonLang(ouder, icoon, tekst, titel);
         return;
     }
     Verslagbericht venster(icoon, titel, QString(), QMessageBox::Ok, ouder);
     Vul(venster, tekst);
     venster.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
+    venster.button(QMessageBox::Ok)->setText(u"OK"_s);
     if (venster.PastOpScherm())
         LaatAntwoorden(venster);
     else
@@ -187,8 +187,8 @@ bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const 
     Berichtvenster venster(icoon, Titel(titel), QString(), QMessageBox::Ok | QMessageBox::Cancel,
                            ouder);
     Vul(venster, tekst, toelichting);
-    venster.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
-    venster.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuleren"));
+    venster.button(QMessageBox::Ok)->setText(u"OK"_s);
+    venster.button(QMessageBox::Cancel)->setText(u"Annuleren"_s);
     return LaatAntwoorden(venster) == QMessageBox::Ok;
 }
 
@@ -211,48 +211,48 @@ QString Bijzonderheden(const Fout& fout)
 {
     QStringList regels;
     if (!fout.bestand.empty())
-        regels << QStringLiteral("Bestand: ") + QString::fromStdString(fout.bestand);
+        regels << u"Bestand: "_s + QString::fromStdString(fout.bestand);
     if (fout.regel > 0)
-        regels << QStringLiteral("Regel: ") + QString::number(fout.regel);
+        regels << u"Regel: "_s + QString::number(fout.regel);
     if (!fout.systeem.empty())
         regels << (fout.soort == Foutsoort::Beschadigd
-                       ? QStringLiteral("Oorzaak: ") // what a reader of this program found
-                       : QStringLiteral("Melding van het systeem: ")) +
+                       ? u"Oorzaak: "_s // what a reader of this program found
+                       : u"Melding van het systeem: "_s) +
                       QString::fromStdString(fout.systeem);
-    return regels.join(QLatin1Char('\n'));
+    return regels.join(u'\n');
 }
 
 void MeldFout(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const Fout& fout)
 {
     const QString bijzonderheden = Bijzonderheden(fout);
-    Meld(ouder, icoon,
-         bijzonderheden.isEmpty() ? tekst : tekst + QStringLiteral("\n\n") + bijzonderheden);
+    Meld(ouder, icoon, bijzonderheden.isEmpty() ? tekst : tekst + u"\n\n"_s + bijzonderheden);
 }
 
 bool StaatEr(QWidget* ouder, const Uitkomst<void>& opslag)
 {
     if (!opslag && StaatOpSchijf(opslag))
-        MeldFout(ouder, QMessageBox::Warning,
-                 QStringLiteral("Het bestand is opgeslagen: de nieuwe inhoud staat heel op de "
-                                "schijf. Het systeem kon alleen niet bevestigen dat dit na een "
-                                "stroomstoring nog zo is. Kijk of de schijf in orde is en sla "
-                                "later nog eens op."),
-                 opslag.error());
+        MeldFout(
+            ouder, QMessageBox::Warning,
+            u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf. Het systeem "
+            "kon alleen niet bevestigen dat dit na een stroomstoring nog zo is. Kijk of de schijf "
+            "in orde is en sla later nog eens op."_s,
+            opslag.error());
     return StaatOpSchijf(opslag);
 }
 
 void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats)
 {
     MeldFout(ouder, QMessageBox::Critical,
-             wat + QStringLiteral(": er zijn geen nieuwe sleutels meer. De gegevens zijn niet "
-                                  "veranderd. Zet op de regel hieronder achter HKEY= de hoogste "
-                                  "sleutel die ooit is uitgegeven, en start Plexoran opnieuw."),
+             wat +
+                 u": er zijn geen nieuwe sleutels meer. De gegevens zijn niet veranderd. Zet op de "
+                 "regel hieronder achter HKEY= de hoogste sleutel die ooit is uitgegeven, en start "
+                 "Plexoran opnieuw."_s,
              plaats);
 }
 
 QString Aantal(std::size_t aantal, const QString& een, const QString& meer)
 {
-    return QStringLiteral("%1 %2").arg(aantal).arg(aantal == 1 ? een : meer);
+    return u"%1 %2"_s.arg(aantal).arg(aantal == 1 ? een : meer);
 }
 
 void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map)
@@ -264,12 +264,10 @@ void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map)
         return;
     MeldLijst(
         ouder, QMessageBox::Warning,
-        QStringLiteral("Overgeslagen van deze map: ") +
-            Aantal(static_cast<std::size_t>(namen.size()), QStringLiteral("naam"),
-                   QStringLiteral("namen")) +
-            QStringLiteral(", omdat er een teken in staat dat een naam in Ravendeck niet kan "
-                           "hebben, zoals '\\'. Er is niets gewijzigd. Geef wat u ervan nodig "
-                           "hebt, een andere naam.\n\n") +
+        u"Overgeslagen van deze map: "_s +
+            Aantal(static_cast<std::size_t>(namen.size()), u"naam"_s, u"namen"_s) +
+            u", omdat er een teken in staat dat een naam in Ravendeck niet kan hebben, zoals "
+            "'\\'. Er is niets gewijzigd. Geef wat u ervan nodig hebt, een andere naam.\n\n"_s +
             namen.join(u'\n'));
 }
 
@@ -277,17 +275,17 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap
                        QWidget* ouder)
     : QDialog(ouder)
 {
-    setObjectName(QStringLiteral("frmBericht"));
+    setObjectName(u"frmBericht"_s);
     setWindowTitle(titel);
-    auto* txtBericht = MaakLeesvak(QStringLiteral("txtBericht"), titel, tekst, this);
+    auto* txtBericht = MaakLeesvak(u"txtBericht"_s, titel, tekst, this);
     txtBericht->setLineWrapMode(QPlainTextEdit::NoWrap);
-    auto* cmdOK = MaakKnop(QStringLiteral("cmdOK"), QStringLiteral("OK"), u'O', this);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     auto* lagen = new QVBoxLayout(this);
     auto* boven = new QHBoxLayout;
     if (!icoon.isNull()) {
-        QLabel* lblIcoon = MaakLabel(QStringLiteral("lblIcoon"), QString(), this);
+        QLabel* lblIcoon = MaakLabel(u"lblIcoon"_s, QString(), this);
         lblIcoon->setPixmap(icoon);
         boven->addWidget(lblIcoon, 0, Qt::AlignTop);
     }

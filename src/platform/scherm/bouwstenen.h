@@ -27,8 +27,7 @@ namespace plexoran {
     const auto plaats = letter == 0 ? -1 : tekst.indexOf(QChar(letter));
     if (plaats < 0)
         return ZonderSneltoets(tekst);
-    return ZonderSneltoets(tekst.left(plaats)) + QLatin1Char('&') +
-           ZonderSneltoets(tekst.mid(plaats));
+    return ZonderSneltoets(tekst.left(plaats)) + u'&' + ZonderSneltoets(tekst.mid(plaats));
 }
 
 /// Enter presses the button that has the focus, and never another one. Qt does so only for buttons
@@ -53,7 +52,7 @@ class Knop : public QPushButton {
 {
     if (maten.size(vlaggen, tekst).width() <= breed)
         return tekst;
-    const QString puntjes = QStringLiteral("...");
+    const QString puntjes = u"..."_s;
     const QChar teken(0x2026); // that Qt closes with
     const int meer = maten.horizontalAdvance(puntjes) - maten.horizontalAdvance(teken);
     QString kort = maten.elidedText(tekst, Qt::ElideRight, breed - meer, vlaggen);
@@ -119,9 +118,9 @@ class Kortknop : public Knop {
 /// A tool tip that shows a text of the user as it is; Qt would take its "<" for layout.
 [[nodiscard]] inline QString Wenk(const QString& tekst)
 {
-    return Qt::mightBeRichText(tekst) ? QStringLiteral("<span style=\"white-space:pre\">%1</span>")
-                                            .arg(tekst.toHtmlEscaped())
-                                      : tekst;
+    return Qt::mightBeRichText(tekst)
+               ? u"<span style=\"white-space:pre\">%1</span>"_s.arg(tekst.toHtmlEscaped())
+               : tekst;
 }
 
 inline void ZetWenk(QWidget* widget, const QString& tekst)

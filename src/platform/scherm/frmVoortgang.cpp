@@ -18,23 +18,23 @@ constexpr int Delen = 1000; // of the bar; counts may exceed what it can hold
 frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder)
     : QProgressDialog(QString(), QString(), 0, 0, ouder) // else Escape stands for two buttons
 {
-    setObjectName(QStringLiteral("frmVoortgang"));
-    setWindowTitle(QStringLiteral("Plexoran"));
+    setObjectName(u"frmVoortgang"_s);
+    setWindowTitle(u"Plexoran"_s);
     setWindowModality(Qt::ApplicationModal);
     setAutoReset(false);
     // By its own timer it would come over a box that is shown during the work.
     setMinimumDuration(std::numeric_limits<int>::max());
     reset(); // stops the timer that runs already
     disconnect(this, &QProgressDialog::canceled, nullptr, nullptr); // which hides it at once
-    auto* lblTekst = MaakLabel(QStringLiteral("lblTekst"), tekst, this);
+    auto* lblTekst = MaakLabel(u"lblTekst"_s, tekst, this);
     lblTekst->setWordWrap(true);
     setLabel(lblTekst);
     auto* balk = new QProgressBar(this);
-    Noem(balk, QStringLiteral("balk"), QStringLiteral("Voortgang"));
+    Noem(balk, u"balk"_s, u"Voortgang"_s);
     setBar(balk);
     if (!stop.isEmpty()) {
         auto* knop = new QPushButton(stop, this);
-        Noem(knop, QStringLiteral("cmdStop"));
+        Noem(knop, u"cmdStop"_s);
         setCancelButton(knop);
         connect(this, &QProgressDialog::canceled, this, [this, knop] {
             gestopt_ = true;

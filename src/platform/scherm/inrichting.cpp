@@ -11,6 +11,8 @@
 #include <array>
 #include <string_view>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 namespace {
 
@@ -75,7 +77,7 @@ void SpreekNederlands(QApplication& programma)
     const QLocale nederlands = Nederlands();
     QLocale::setDefault(nederlands);
     auto* vertaling = new QTranslator(&programma);
-    if (vertaling->load(nederlands, QStringLiteral("qtbase"), QStringLiteral("_"),
+    if (vertaling->load(nederlands, u"qtbase"_s, u"_"_s,
                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(vertaling);
     QApplication::installTranslator(new Aanvulling(&programma)); // the last one is asked first
@@ -87,7 +89,7 @@ void ZorgVoorVensterletter()
     QFont letter = QApplication::font();
     if (!QFontInfo(letter).fixedPitch())
         return;
-    letter.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+    letter.setFamilies({u"Arial"_s, u"Liberation Sans"_s});
     QApplication::setFont(letter);
 }
 

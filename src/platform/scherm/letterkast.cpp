@@ -12,13 +12,13 @@ QStringList Families(Lettertype type)
 {
     switch (type) {
     case Lettertype::Arial:
-        return {QStringLiteral("Arial"), QStringLiteral("Liberation Sans")};
+        return {u"Arial"_s, u"Liberation Sans"_s};
     case Lettertype::CourierNew:
-        return {QStringLiteral("Courier New"), QStringLiteral("Liberation Mono")};
+        return {u"Courier New"_s, u"Liberation Mono"_s};
     case Lettertype::TimesNewRoman:
         break;
     }
-    return {QStringLiteral("Times New Roman"), QStringLiteral("Liberation Serif")};
+    return {u"Times New Roman"_s, u"Liberation Serif"_s};
 }
 
 QFont::StyleHint Soort(Lettertype type)
@@ -57,7 +57,7 @@ std::unique_ptr<Lettersnede> Laad(const Letter& letter)
     for (std::size_t i = 0; i < snede->beeld.size(); ++i) {
         QChar teken = NaarUtf16(Tekst(1, static_cast<char>(i))).front();
         if (teken.category() == QChar::Other_Control)
-            teken = QLatin1Char(' ');
+            teken = u' ';
         const auto beelden = snede->letter.glyphIndexesForString(QString(teken));
         if (beelden.isEmpty())
             continue;

@@ -11,6 +11,7 @@
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/programma.h"
 
 namespace plexoran {
@@ -69,20 +70,20 @@ Printeraanbod HuidigAanbod()
 bool MaaktPdf(const QStringList& printers)
 {
     return std::any_of(printers.begin(), printers.end(), [](const QString& naam) {
-        return naam.contains(QLatin1String("PDF"), Qt::CaseInsensitive);
+        return naam.contains("PDF"_L1, Qt::CaseInsensitive);
     });
 }
 
 /// A PDF file by the dialog of the system; all pages go into it.
 std::optional<Printer> VraagPdf(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
 {
-    QFileDialog kiezer(ouder, QStringLiteral("Opslaan als PDF-bestand"));
-    Noem(&kiezer, QStringLiteral("CommonDialog1"));
+    QFileDialog kiezer(ouder, u"Opslaan als PDF-bestand"_s);
+    Noem(&kiezer, u"CommonDialog1"_s);
     kiezer.setAcceptMode(QFileDialog::AcceptSave);
-    kiezer.setNameFilter(QStringLiteral("PDF-bestanden (*.pdf)"));
-    kiezer.setDefaultSuffix(QStringLiteral("pdf"));
+    kiezer.setNameFilter(u"PDF-bestanden (*.pdf)"_s);
+    kiezer.setDefaultSuffix(u"pdf"_s);
     kiezer.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    kiezer.selectFile(vraag.titel + QStringLiteral(".pdf"));
+    kiezer.selectFile(vraag.titel + u".pdf"_s);
     if (kiezer.exec() != QDialog::Accepted)
         return std::nullopt;
     return Printer(schijf, VolledigPad(kiezer.selectedFiles().constFirst().toStdString()),
@@ -99,8 +100,8 @@ std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, QWi
     printer->setPrintRange(QPrinter::PageRange);
 
     QPrintDialog dialoog(printer.get(), ouder);
-    dialoog.setObjectName(QStringLiteral("QPrintDialog"));
-    dialoog.setWindowTitle(QStringLiteral("Printen"));
+    dialoog.setObjectName(u"QPrintDialog"_s);
+    dialoog.setWindowTitle(u"Printen"_s);
     dialoog.setOptions(QAbstractPrintDialog::PrintPageRange |
                        QAbstractPrintDialog::PrintCollateCopies);
     dialoog.setOption(QAbstractPrintDialog::PrintToFile, DialoogVanQt);
@@ -123,7 +124,7 @@ std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, QWi
 Uitkomst<std::size_t> DrukBladen(const Printer& printer, const Printgang& gang,
                                  const Bladtekenaar& teken, QWidget* ouder)
 {
-    frmVoortgang voortgang(gang.bezig, QStringLiteral("&Stoppen na dit blad"), ouder);
+    frmVoortgang voortgang(gang.bezig, u"&Stoppen na dit blad"_s, ouder);
     auto taak = printer.Begin(gang.stand, gang.titel);
     if (!taak)
         return tl::unexpected(taak.error());
@@ -185,13 +186,11 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
     if (aanbod.pdfInDialoog || MaaktPdf(aanbod.printers))
         return VraagSysteem(schijf, vraag, ouder);
     enum { Printen, Pdf, Annuleren };
-    const int antwoord =
-        aanbod.printers.isEmpty()
-            ? Pdf
-            : Kies(ouder, QMessageBox::Question,
-                   QStringLiteral("Wilt u de bladen printen of opslaan als PDF-bestand?"),
-                   {QStringLiteral("Printen..."), QStringLiteral("PDF-bestand..."),
-                    QStringLiteral("Annuleren")});
+    const int antwoord = aanbod.printers.isEmpty()
+                             ? Pdf
+                             : Kies(ouder, QMessageBox::Question,
+                                    u"Wilt u de bladen printen of opslaan als PDF-bestand?"_s,
+                                    {u"Printen..."_s, u"PDF-bestand..."_s, u"Annuleren"_s});
     if (antwoord == Annuleren)
         return std::nullopt;
     return antwoord == Pdf ? VraagPdf(schijf, vraag, ouder) : VraagSysteem(schijf, vraag, ouder);
@@ -207,9 +206,8 @@ void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekena
         MeldPrintfout(ouder, geprint.error());
     else if (*geprint < gang.bladen.size())
         Meld(ouder, QMessageBox::Information,
-             QStringLiteral("Het printen is gestopt na %1 van de %2 bladen. De overige bladen kunt "
-                            "u later printen.")
-                 .arg(*geprint)
+             u"Het printen is gestopt na %1 van de %2 bladen. De overige bladen kunt u later "
+             "printen."_s.arg(*geprint)
                  .arg(gang.bladen.size()));
 }
 
@@ -226,13 +224,12 @@ void MeldPrintfout(QWidget* ouder, const Fout& fout)
 {
     const QString tekst =
         fout.soort == Foutsoort::Ontbreekt && fout.bestand.empty()
-            ? QStringLiteral("Er is niets geprint: op deze computer is geen printer "
-                             "geïnstalleerd of geen standaardprinter gekozen. De gegevens van de "
-                             "spelers zijn niet veranderd. Kies een standaardprinter in de "
-                             "instellingen van uw computer.")
-            : QStringLiteral("Het printen is niet gelukt. De gegevens van de spelers zijn niet "
-                             "veranderd. Kijk of de printer aan staat of, bij een PDF-bestand, of "
-                             "u op die plaats mag schrijven en of er nog ruimte is.");
+            ? u"Er is niets geprint: op deze computer is geen printer geïnstalleerd of geen "
+              "standaardprinter gekozen. De gegevens van de spelers zijn niet veranderd. Kies een "
+              "standaardprinter in de instellingen van uw computer."_s
+            : u"Het printen is niet gelukt. De gegevens van de spelers zijn niet veranderd. Kijk "
+              "of de printer aan staat of, bij een PDF-bestand, of u op die plaats mag schrijven "
+              "en of er nog ruimte is."_s;
     MeldFout(ouder, QMessageBox::Critical, tekst, fout);
 }
 

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "platform/scherm/schildervlak.h"
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/heelschrijven.h"
 
 namespace plexoran {
@@ -38,7 +39,7 @@ std::optional<std::string> Serverfout()
 {
 #ifdef Q_OS_UNIX
     constexpr int eersteFout = 0x0400; // below it are the shades of success
-    QLibrary cups(QStringLiteral("cups"), 2);
+    QLibrary cups(u"cups"_s, 2);
     cups.setLoadHints(QLibrary::PreventUnloadHint);
     const auto laatste = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
     const auto tekst = reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
@@ -60,7 +61,7 @@ class PdfTaak : public Printtaak {
         schrijver_->setResolution(PdfPuntenPerInch);
         schrijver_->setPageLayout(HeleVel(stand));
         schrijver_->setTitle(titel);
-        schrijver_->setCreator(QStringLiteral("Plexoran"));
+        schrijver_->setCreator(u"Plexoran"_s);
         schilder_.begin(schrijver_.get());
         vlak_ = std::make_unique<Schildervlak>(schilder_, kast_, PdfPuntenPerInch / MmPerInch,
                                                Schildervlak::Doel::Papier);
@@ -121,7 +122,7 @@ class Printertaak : public Printtaak {
         printer_->setFullPage(true);
         printer_->setPageLayout(HeleVel(stand));
         printer_->setDocName(titel);
-        printer_->setCreator(QStringLiteral("Plexoran"));
+        printer_->setCreator(u"Plexoran"_s);
         if (!schilder_.begin(printer_.get()))
             return Weigering(Naam());
         vlak_ = std::make_unique<Schildervlak>(schilder_, kast_, printer_->resolution() / MmPerInch,

@@ -50,7 +50,7 @@ class Regelmodel : public QAbstractListModel {
 QString Zichtbaar(const QString& regel)
 {
     constexpr qsizetype verborgenNaSpaties = 60;
-    return regel.left(regel.indexOf(QString(verborgenNaSpaties, QLatin1Char(' '))));
+    return regel.left(regel.indexOf(QString(verborgenNaSpaties, u' ')));
 }
 
 /// One size for all lines, so that none is asked for before it is painted.

@@ -4,6 +4,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 namespace {
 
@@ -22,7 +24,7 @@ class Inhoud : public QWidget {
 
 Schuifblad::Schuifblad(QWidget* inhoud, QWidget* ouder) : QScrollArea(ouder)
 {
-    setObjectName(QStringLiteral("schuifblad"));
+    setObjectName(u"schuifblad"_s);
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);

@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "platform/scherm/maten.h"
+#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 namespace {
@@ -22,8 +23,8 @@ Schuifkader::Schuifkader(const QString& naam, const Maten& maten, QWidget* ouder
 {
     Noem(this, naam);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    Noem(HScroll1, QStringLiteral("HScroll1"), QStringLiteral("Opzij verschuiven"));
-    Noem(VScroll1, QStringLiteral("VScroll1"), QStringLiteral("Op en neer verschuiven"));
+    Noem(HScroll1, u"HScroll1"_s, u"Opzij verschuiven"_s);
+    Noem(VScroll1, u"VScroll1"_s, u"Op en neer verschuiven"_s);
     HScroll1->setFixedHeight(maten.Twips(BalkdikteTwips));
     VScroll1->setFixedWidth(maten.Twips(BalkdikteTwips));
     for (QScrollBar* balk : {HScroll1, VScroll1})

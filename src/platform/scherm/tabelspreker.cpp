@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 
 #include "platform/scherm/tabelvlak.h"
+#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 namespace {
@@ -30,8 +31,7 @@ class Celspreker : public QAccessibleInterface, public QAccessibleTableCellInter
         if (soort != QAccessible::Name || !isValid())
             return {};
         const QString tekst = vlak_.Celtekst(Regel(), columnIndex());
-        return IsKop() && tekst.isEmpty() ? QStringLiteral("Kolom %1").arg(columnIndex() + 1)
-                                          : tekst;
+        return IsKop() && tekst.isEmpty() ? u"Kolom %1"_s.arg(columnIndex() + 1) : tekst;
     }
     void setText(QAccessible::Text, const QString&) override {}
     [[nodiscard]] QRect rect() const override

@@ -15,7 +15,7 @@ Tabelvlak::Tabelvlak(const Schuifkader& kader, const QString& gesproken, QWidget
                      double pixelsPerStand)
     : QWidget(ouder), kader_(kader), pixelsPerStand_(pixelsPerStand)
 {
-    Noem(this, QStringLiteral("P1"), gesproken);
+    Noem(this, u"P1"_s, gesproken);
     setFocusPolicy(Qt::StrongFocus);
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
@@ -137,13 +137,13 @@ void Tabelvlak::TekenFocus(QPainter& schilder) const
 /// Screen readers read the description of the surface: the chosen line, column by column.
 void Tabelvlak::Beschrijf()
 {
-    QString tekst = QStringLiteral("Geen regel geselecteerd");
+    QString tekst = u"Geen regel geselecteerd"_s;
     if (regel_ > 0) {
-        tekst = QStringLiteral("Regel %1").arg(regel_);
+        tekst = u"Regel %1"_s.arg(regel_);
         for (int kolom = 0; kolom < Kolommen(); ++kolom) {
             const QString cel = Celtekst(regel_, kolom);
             if (!cel.isEmpty())
-                tekst += QStringLiteral(", %1 %2").arg(Celtekst(0, kolom), cel);
+                tekst += u", %1 %2"_s.arg(Celtekst(0, kolom), cel);
         }
     }
     setAccessibleDescription(tekst);

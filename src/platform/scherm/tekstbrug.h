@@ -7,6 +7,8 @@
 
 namespace plexoran {
 
+using namespace Qt::StringLiterals; // u"..."_s: the texts of windows
+
 [[nodiscard]] inline QString NaarQString(Tekstblik tekst)
 {
     return QString::fromStdU16String(NaarUtf16(tekst));
@@ -22,7 +24,7 @@ namespace plexoran {
 /// A text of the user on a button or label that has a mnemonic: its "&" is shown as it is.
 [[nodiscard]] inline QString ZonderSneltoets(const QString& tekst)
 {
-    return QString(tekst).replace(QLatin1Char('&'), QStringLiteral("&&"));
+    return QString(tekst).replace(u'&', u"&&"_s);
 }
 
 } // namespace plexoran

@@ -23,7 +23,7 @@ QString ZonderStuurtekens(const QString& tekst)
                                teken == QChar::Tabulation || teken == QChar::LineSeparator ||
                                teken == QChar::ParagraphSeparator;
         if (scheiding)
-            uit += QLatin1Char(' ');
+            uit += u' ';
         else if (teken.category() != QChar::Other_Control)
             uit += teken;
     }
@@ -58,17 +58,15 @@ QString Melding(const std::vector<Vervanging>& vervangen)
     for (const Vervanging& vervanging : vervangen) {
         const QString teken = QString::fromStdU16String(vervanging.teken);
         const QString regel = vervanging.door.empty()
-                                  ? QStringLiteral("'%1' is weggelaten.").arg(teken)
-                                  : QStringLiteral("In plaats van '%1' staat er nu '%2'.")
-                                        .arg(teken, NaarQString(vervanging.door));
+                                  ? u"'%1' is weggelaten."_s.arg(teken)
+                                  : u"In plaats van '%1' staat er nu '%2'."_s.arg(
+                                        teken, NaarQString(vervanging.door));
         if (!regels.contains(regel))
             regels << regel;
     }
-    const QString begin = regels.size() == 1
-                              ? QStringLiteral("Dit teken kan niet worden opgeslagen.")
-                              : QStringLiteral("Deze tekens kunnen niet worden opgeslagen.");
-    return begin + QStringLiteral("\n\n") + regels.join(QLatin1Char('\n')) +
-           QStringLiteral("\n\nKijk na of de tekst zo goed is.");
+    const QString begin = regels.size() == 1 ? u"Dit teken kan niet worden opgeslagen."_s
+                                             : u"Deze tekens kunnen niet worden opgeslagen."_s;
+    return begin + u"\n\n"_s + regels.join(u'\n') + u"\n\nKijk na of de tekst zo goed is."_s;
 }
 
 } // namespace

@@ -27,7 +27,7 @@ bool WerkTotInBeeld(frmVoortgang& voortgang)
 
 TEST(frmVoortgangTest, KortWerkToontNiets)
 {
-    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     for (std::size_t i = 0; i < 1000; ++i)
         EXPECT_TRUE(voortgang.Meld(i, 1000));
     EXPECT_FALSE(voortgang.isVisible());
@@ -35,7 +35,7 @@ TEST(frmVoortgangTest, KortWerkToontNiets)
 
 TEST(frmVoortgangTest, LangWerkToontHoeVerHetIs)
 {
-    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
     auto* balk = Vind<QProgressBar>(voortgang, "balk");
     EXPECT_EQ(balk->maximum() / 4, balk->value());
@@ -50,16 +50,16 @@ TEST(frmVoortgangTest, LangWerkToontHoeVerHetIs)
 
 TEST(frmVoortgangTest, EenNaamMetOpmaakStaatErZoalsHijIs)
 {
-    frmVoortgang voortgang(QStringLiteral("<b>A</b>.csv"), QString(), nullptr);
+    frmVoortgang voortgang(u"<b>A</b>.csv"_s, QString(), nullptr);
     EXPECT_EQ(Qt::PlainText, Vind<QLabel>(voortgang, "lblTekst")->textFormat());
-    voortgang.setLabelText(QStringLiteral("<b>B</b>.csv"));
+    voortgang.setLabelText(u"<b>B</b>.csv"_s);
     EXPECT_EQ("<b>B</b>.csv", Vind<QLabel>(voortgang, "lblTekst")->text());
 }
 
 TEST(frmVoortgangTest, EenLangeNaamBlijftInBeeld)
 {
-    for (const QString& naam : {QStringLiteral("lange naam ").repeated(20), QString(250, u'x')}) {
-        frmVoortgang voortgang(QString(), QStringLiteral("&Stoppen"), nullptr);
+    for (const QString& naam : {u"lange naam "_s.repeated(20), QString(250, u'x')}) {
+        frmVoortgang voortgang(QString(), u"&Stoppen"_s, nullptr);
         voortgang.setLabelText(naam);
         ASSERT_TRUE(WerkTotInBeeld(voortgang));
         EXPECT_LE(voortgang.width(), 700);
@@ -72,7 +72,7 @@ TEST(frmVoortgangTest, EenLangeNaamBlijftInBeeld)
 /// A box that is shown during the work is waited for without the window.
 TEST(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
 {
-    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     voortgang.Meld(0, 4);
     QTest::qWait(frmVoortgang::totInBeeld + 100);
     EXPECT_FALSE(voortgang.isVisible());
@@ -89,7 +89,7 @@ TEST(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
 TEST(frmVoortgangTest, MeerDanEenBalkKanTellen)
 {
     constexpr std::size_t groot = 400'000'000'000;
-    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
     voortgang.Meld(groot / 4, groot);
     auto* balk = Vind<QProgressBar>(voortgang, "balk");
@@ -101,7 +101,7 @@ TEST(frmVoortgangTest, MeerDanEenBalkKanTellen)
 /// Otherwise the windows behind it would take commands in the middle of the work.
 TEST(frmVoortgangTest, ZonderStopknopBlijftHetVensterStaan)
 {
-    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
     voortgang.close();
     QTest::keyClick(&voortgang, Qt::Key_Escape);
@@ -113,7 +113,7 @@ TEST(frmVoortgangTest, ZonderStopknopBlijftHetVensterStaan)
 TEST(frmVoortgangTest, StoppenMetKnopEscapeOfSluitvak)
 {
     for (int weg = 0; weg < 3; ++weg) {
-        frmVoortgang voortgang(QStringLiteral("bezig"), QStringLiteral("&Stoppen"), nullptr);
+        frmVoortgang voortgang(u"bezig"_s, u"&Stoppen"_s, nullptr);
         ASSERT_TRUE(WerkTotInBeeld(voortgang));
         if (weg == 0)
             Klik(Vind<QPushButton>(voortgang, "cmdStop"));
@@ -130,7 +130,7 @@ TEST(frmVoortgangTest, StoppenMetKnopEscapeOfSluitvak)
 
 TEST(frmVoortgangTest, ZonderBekendGeheelBeweegtDeBalkAlleen)
 {
-    frmVoortgang voortgang(QStringLiteral("bezig"), QString(), nullptr);
+    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     QTest::qWait(frmVoortgang::totInBeeld);
     voortgang.Meld(0, 0);
     EXPECT_TRUE(voortgang.isVisible());

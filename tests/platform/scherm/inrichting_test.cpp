@@ -115,7 +115,7 @@ TEST_F(NederlandsTest, DePrintdialoog)
         QStringList keuzes;
         for (const QRadioButton* keus : duplex->findChildren<QRadioButton*>())
             keuzes << keus->text();
-        EXPECT_EQ("Uit,Lange zijde,Korte zijde", keuzes.join(QLatin1Char(',')).toStdString());
+        EXPECT_EQ("Uit,Lange zijde,Korte zijde", keuzes.join(u',').toStdString());
         wachter.Bedien([](QDialog& eigenschappen) {
             EXPECT_EQ("Paginagrootte:",
                       Vind<QLabel>(eigenschappen, "pageSizeLabel")->text().toStdString());
@@ -125,28 +125,24 @@ TEST_F(NederlandsTest, DePrintdialoog)
         OpenMenu(*Vind<QLineEdit>(dialoog, "filename"));
         OpenMenu(*Vind<QSpinBox>(dialoog, "copies"));
         VerwachtVraag(Vind<QLineEdit>(dialoog, "filename")->text() +
-                      QStringLiteral(" bestaat al.\nWilt u het overschrijven?"));
+                      u" bestaat al.\nWilt u het overschrijven?"_s);
         DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
         dialoog.reject();
     });
     (void)KiesPrinter(
-        schijf,
-        {.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladInBeeld = true},
-        &hoofd);
+        schijf, {.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladInBeeld = true}, &hoofd);
     EXPECT_EQ(1, vragen);
 }
 
 TEST_F(NederlandsTest, DeBestandsdialoog)
 {
     map.Zet("lijst.pdf", "van gisteren");
-    QFileDialog kiezer(&hoofd, QStringLiteral("Kiezen"),
-                       QString::fromStdString(map.Weg().string()));
+    QFileDialog kiezer(&hoofd, u"Kiezen"_s, QString::fromStdString(map.Weg().string()));
     for (const auto& [soort, naam, tekst] :
-         {std::tuple(QFileDialog::AcceptOpen, QStringLiteral("weg"),
-                     QStringLiteral("weg\nBestand niet gevonden.\nVerifieer op juiste "
-                                    "bestandsnaam.")),
-          {QFileDialog::AcceptSave, QStringLiteral("lijst.pdf"),
-           QStringLiteral("lijst.pdf bestaat al.\nWilt u het vervangen?")}}) {
+         {std::tuple(QFileDialog::AcceptOpen, u"weg"_s,
+                     u"weg\nBestand niet gevonden.\nVerifieer op juiste bestandsnaam."_s),
+          {QFileDialog::AcceptSave, u"lijst.pdf"_s,
+           u"lijst.pdf bestaat al.\nWilt u het vervangen?"_s}}) {
         const bool open = soort == QFileDialog::AcceptOpen;
         kiezer.setAcceptMode(soort);
         kiezer.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

@@ -42,7 +42,7 @@ class PrinterTest : public testing::Test {
     static Uitkomst<void> Print(const Printer& printer, int bladen,
                                 Papierstand stand = Papierstand::Staand)
     {
-        auto taak = printer.Begin(stand, QStringLiteral("Proef"));
+        auto taak = printer.Begin(stand, u"Proef"_s);
         if (!taak)
             return tl::unexpected(taak.error());
         for (int blad = 1; blad <= bladen; ++blad) {
@@ -79,7 +79,7 @@ TEST_F(PrinterTest, PdfHeeftDeTekstenOpHunTiendeMillimeter)
     const Letter titel{.type = Lettertype::Arial, .punten = 14, .vet = true};
     const Letter gewoon{.type = Lettertype::Arial, .punten = 7};
     const Letter vast{.type = Lettertype::CourierNew, .punten = 9};
-    auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, QStringLiteral("Proef"));
+    auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, u"Proef"_s);
     ASSERT_TRUE(taak);
     Tekenvlak& vlak = (*taak)->Vlak();
     vlak.Schrijf(15, 15, titel, "AVAWATiTo\xEB");
@@ -123,7 +123,7 @@ TEST_F(PrinterTest, AfgebrokenKomtErGeenBestand)
 {
     map.Zet("lijst.pdf", "van gisteren");
     {
-        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, QStringLiteral("Proef"));
+        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, u"Proef"_s);
         ASSERT_TRUE(taak);
         (*taak)->Vlak().Schrijf(10, 10, {}, "half");
         ASSERT_TRUE((*taak)->NieuwBlad());
@@ -131,7 +131,7 @@ TEST_F(PrinterTest, AfgebrokenKomtErGeenBestand)
     }
     EXPECT_EQ("van gisteren", map.Inhoud("lijst.pdf"));
     {
-        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, QStringLiteral("Proef"));
+        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, u"Proef"_s);
         ASSERT_TRUE(taak);
     }
     EXPECT_EQ("van gisteren", map.Inhoud("lijst.pdf"));
@@ -177,8 +177,7 @@ TEST_F(PrinterTest, EenMapDieErNietIsWordtGeweigerd)
 
 TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestand)
 {
-    const auto printer =
-        Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9});
+    const auto printer = Kies({.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9});
     ASSERT_TRUE(printer);
     ASSERT_TRUE(Print(*printer, 2));
     EXPECT_EQ(2U, Lees().size());
@@ -187,16 +186,15 @@ TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestand)
 
 TEST_F(PrinterTest, DeDialoogGeeftEenReeksBladen)
 {
-    const auto printer =
-        Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Liggend, .bladen = 9},
-             [](QDialog& dialoog) {
-                 Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
-                 EXPECT_EQ(1, Vind<QSpinBox>(dialoog, "from")->value());
-                 EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->value());
-                 EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->maximum());
-                 Vind<QSpinBox>(dialoog, "from")->setValue(3);
-                 Vind<QSpinBox>(dialoog, "to")->setValue(5);
-             });
+    const auto printer = Kies({.titel = u"Proef"_s, .stand = Papierstand::Liggend, .bladen = 9},
+                              [](QDialog& dialoog) {
+                                  Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
+                                  EXPECT_EQ(1, Vind<QSpinBox>(dialoog, "from")->value());
+                                  EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->value());
+                                  EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->maximum());
+                                  Vind<QSpinBox>(dialoog, "from")->setValue(3);
+                                  Vind<QSpinBox>(dialoog, "to")->setValue(5);
+                              });
     ASSERT_TRUE(printer);
     EXPECT_EQ((std::vector<int>{3, 4, 5}), printer->Keus().Bladen(9, 7));
 }
@@ -204,24 +202,24 @@ TEST_F(PrinterTest, DeDialoogGeeftEenReeksBladen)
 /// They would not work, or print other pages than those asked for.
 TEST_F(PrinterTest, LosseEnEvenBladenWordenNietAangeboden)
 {
-    ASSERT_TRUE(Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9},
-                     [](QDialog& dialoog) {
-                         VouwUit(dialoog);
-                         EXPECT_FALSE(Vind<QWidget>(dialoog, "from")->visibleRegion().isEmpty());
-                         for (const char* naam : {"pagesRadioButton", "pagesLineEdit",
-                                                  "pageSetLabel", "pageSetCombo"}) {
-                             const auto* deel = Vind<QWidget>(dialoog, naam);
-                             EXPECT_TRUE(deel->visibleRegion().isEmpty()) << naam;
-                             EXPECT_EQ(Qt::NoFocus, deel->focusPolicy()) << naam;
-                         }
-                     }));
+    ASSERT_TRUE(Kies(
+        {.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9}, [](QDialog& dialoog) {
+            VouwUit(dialoog);
+            EXPECT_FALSE(Vind<QWidget>(dialoog, "from")->visibleRegion().isEmpty());
+            for (const char* naam :
+                 {"pagesRadioButton", "pagesLineEdit", "pageSetLabel", "pageSetCombo"}) {
+                const auto* deel = Vind<QWidget>(dialoog, naam);
+                EXPECT_TRUE(deel->visibleRegion().isEmpty()) << naam;
+                EXPECT_EQ(Qt::NoFocus, deel->focusPolicy()) << naam;
+            }
+        }));
 }
 
 /// The whole list is the proposal, as a range; the page in view is one to choose where there is
 /// one.
 TEST_F(PrinterTest, HetVoorstelIsVanHetEersteTotHetLaatsteBlad)
 {
-    Printvraag vraag{.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9};
+    Printvraag vraag{.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9};
     for (const bool inBeeld : {false, true}) {
         vraag.bladInBeeld = inBeeld;
         const auto printer = Kies(vraag, [&](QDialog& dialoog) {
@@ -244,7 +242,7 @@ TEST_F(PrinterTest, HetVoorstelIsVanHetEersteTotHetLaatsteBlad)
 TEST_F(PrinterTest, AllesIsAlleBladen)
 {
     const auto printer =
-        Kies({.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand, .bladen = 9},
+        Kies({.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9},
              [](QDialog& dialoog) { Vind<QRadioButton>(dialoog, "printAll")->setChecked(true); });
     ASSERT_TRUE(printer);
     EXPECT_EQ(Bladkeus::Soort::Alle, printer->Keus().soort);
@@ -258,20 +256,17 @@ class ZonderPdfTest : public PrinterTest {
     {
         hoofd.show();
         auto keus = KiesPrinter(
-            schijf,
-            {.titel = QStringLiteral("Ledenlijst Gr01"), .stand = Papierstand::Staand, .bladen = 9},
+            schijf, {.titel = u"Ledenlijst Gr01"_s, .stand = Papierstand::Staand, .bladen = 9},
             {.printers = printers}, &hoofd);
         wachter.Klaar();
         return keus;
     }
     void VerwachtVraag(const QString& antwoord)
     {
-        wachter.Verwacht(
-            {.tekst = QStringLiteral("Wilt u de bladen printen of opslaan als PDF-bestand?"),
-             .antwoord = antwoord,
-             .icoon = QMessageBox::Question,
-             .knoppen = {QStringLiteral("Printen..."), QStringLiteral("PDF-bestand..."),
-                         QStringLiteral("Annuleren")}});
+        wachter.Verwacht({.tekst = u"Wilt u de bladen printen of opslaan als PDF-bestand?"_s,
+                          .antwoord = antwoord,
+                          .icoon = QMessageBox::Question,
+                          .knoppen = {u"Printen..."_s, u"PDF-bestand..."_s, u"Annuleren"_s}});
     }
     void VerwachtBestand(const char* naam)
     {
@@ -296,9 +291,9 @@ class ZonderPdfTest : public PrinterTest {
 
 TEST_F(ZonderPdfTest, HetBestandKrijgtAlleBladenEnZijnAchtervoegsel)
 {
-    VerwachtVraag(QStringLiteral("PDF-bestand..."));
+    VerwachtVraag(u"PDF-bestand..."_s);
     VerwachtBestand("lijst");
-    const auto printer = Kies({QStringLiteral("Kantoor")});
+    const auto printer = Kies({u"Kantoor"_s});
     ASSERT_TRUE(printer);
     EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 4));
     ASSERT_TRUE(Print(*printer, 2));
@@ -316,17 +311,17 @@ TEST_F(ZonderPdfTest, ZonderPrinterVolgtMeteenHetBestand)
 
 TEST_F(ZonderPdfTest, VoorEenPrinterVolgtHetVensterVanHetSysteem)
 {
-    VerwachtVraag(QStringLiteral("Printen..."));
+    VerwachtVraag(u"Printen..."_s);
     VerwachtSysteem();
-    EXPECT_FALSE(Kies({QStringLiteral("Kantoor")}));
+    EXPECT_FALSE(Kies({u"Kantoor"_s}));
     VerwachtVraag(Berichtwachter::Escape);
-    EXPECT_FALSE(Kies({QStringLiteral("Kantoor")}));
+    EXPECT_FALSE(Kies({u"Kantoor"_s}));
 }
 
 TEST_F(ZonderPdfTest, EenPrinterDieZelfPdfMaaktWordtNietGevraagd)
 {
     VerwachtSysteem();
-    EXPECT_FALSE(Kies({QStringLiteral("Kantoor"), QStringLiteral("Microsoft Print to PDF")}));
+    EXPECT_FALSE(Kies({u"Kantoor"_s, u"Microsoft Print to PDF"_s}));
 }
 
 TEST_F(PrinterTest, AnnulerenGeeftGeenPrinter)
@@ -335,8 +330,7 @@ TEST_F(PrinterTest, AnnulerenGeeftGeenPrinter)
         KiesPdf(dialoog, map.Weg() / "lijst.pdf");
         DrukPrintdialoog(dialoog, QDialogButtonBox::RejectRole);
     });
-    EXPECT_FALSE(KiesPrinter(
-        schijf, {.titel = QStringLiteral("Proef"), .stand = Papierstand::Staand}, &hoofd));
+    EXPECT_FALSE(KiesPrinter(schijf, {.titel = u"Proef"_s, .stand = Papierstand::Staand}, &hoofd));
     EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
 }
 
@@ -380,19 +374,19 @@ TEST(StandaardPrinterTest, ZonderPrinterIsHetEenFout)
 TEST(MeldPrintfoutTest, ZegtWatErMisIs)
 {
     Berichtwachter wachter;
-    wachter.Verwacht({.tekst = QStringLiteral("Er is niets geprint: op deze computer is geen "
-                                              "printer geïnstalleerd of geen standaardprinter "
-                                              "gekozen. De gegevens van de spelers zijn niet "
-                                              "veranderd. Kies een standaardprinter in de "
-                                              "instellingen van uw computer."),
-                      .icoon = QMessageBox::Critical});
+    wachter.Verwacht(
+        {.tekst =
+             u"Er is niets geprint: op deze computer is geen printer geïnstalleerd of geen "
+             "standaardprinter gekozen. De gegevens van de spelers zijn niet veranderd. Kies een "
+             "standaardprinter in de instellingen van uw computer."_s,
+         .icoon = QMessageBox::Critical});
     MeldPrintfout(nullptr, {Foutsoort::Ontbreekt, {}, 0, {}});
-    wachter.Verwacht({.tekst = QStringLiteral("Het printen is niet gelukt. De gegevens van de "
-                                              "spelers zijn niet veranderd. Kijk of de printer aan "
-                                              "staat of, bij een PDF-bestand, of u op die plaats "
-                                              "mag schrijven en of er nog ruimte is.\n\nBestand: "
-                                              "/uit/lijst.pdf\nMelding van het systeem: schijf "
-                                              "vol"),
-                      .icoon = QMessageBox::Critical});
+    wachter.Verwacht(
+        {.tekst =
+             u"Het printen is niet gelukt. De gegevens van de spelers zijn niet veranderd. Kijk "
+             "of de printer aan staat of, bij een PDF-bestand, of u op die plaats mag schrijven "
+             "en of er nog ruimte is.\n\nBestand: /uit/lijst.pdf\nMelding van het systeem: schijf "
+             "vol"_s,
+         .icoon = QMessageBox::Critical});
     MeldPrintfout(nullptr, {Foutsoort::Geweigerd, "/uit/lijst.pdf", 0, "schijf vol"});
 }
