@@ -18,8 +18,6 @@
 
 using namespace plexoran;
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 bool Bewaar(QWidget& venster, const QDir& map)
