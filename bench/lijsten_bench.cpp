@@ -4,9 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "dialogs/kopieren.h"
-#include "dialogs/subgroep.h"
-#include "dialogs/verplaatsen.h"
+#include "dialogs/groepswerk.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "hulp/sqlite.h"
@@ -228,8 +226,8 @@ void SubgroepVerwijderen(benchmark::State& meting)
     Meet(
         meting, [&] { return proef.Opnieuw(); },
         [&](Register& spelers) {
-            const int aantal = VerwijderSubgroep(spelers.tabel, "Gr01-", Subgroep);
-            Eis(meting, aantal == Grootte(meting) / 2);
+            spelers.tabel.Verwijder(RijenVanSubgroep(spelers.tabel, "Gr01-", Subgroep));
+            Eis(meting, spelers.tabel.Rijen() == Grootte(meting) / 2);
         });
 }
 BENCHMARK(SubgroepVerwijderen)->Apply(Groottes);

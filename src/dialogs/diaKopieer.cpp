@@ -2,12 +2,8 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QVBoxLayout>
 
-#include "dialogs/keuslijst.h"
-#include "dialogs/kopieren.h"
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
 #include "register/waardenlijst.h"
 
@@ -16,54 +12,18 @@ namespace plexoran {
 diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
 {
-    Bouw();
-    for (QComboBox* groepen : {cmbGrnamen, cmbUitGroep})
-        VulKeus(*groepen, administratie_.groepen.Toonteksten());
-    // The number box may be shown or hidden, but is never ticked: copies get no federation number.
-    chkNBBnrOok->setChecked(false);
-    chkNBBnrOok->setEnabled(false);
-    chkNBBgrOok->setChecked(true);
-    KiesBron();
-    Verbind();
-}
-
-void diaKopieer::MaakDelen(QGroupBox* kader)
-{
-    Label2 = MaakLabel(u"Label2"_s, u"Kopieer hen naar groep:"_s, kader);
-    Label3 = MaakLabel(u"Label3"_s, QString(), kader);
-    Label4 = MaakLabel(u"Label4"_s, u"Uit spelergroep:"_s, kader);
-    cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, kader);
-    cmbNBBgr = MaakKeus(u"cmbNBBgr"_s, Label3, kader);
-    cmbUitGroep = MaakKeus(u"cmbUitGroep"_s, Label4, kader);
-    chkNBBgrOok = new QCheckBox(kader);
-    Noem(chkNBBgrOok, u"chkNBBgrOok"_s);
-    chkNBBnrOok = new QCheckBox(u"NBBnummer ook kopieren"_s, kader);
-    Noem(chkNBBnrOok, u"chkNBBnrOok"_s);
-    cmdOK = MaakKnop(u"cmdOK"_s, u"Kopieer"_s, u'K', this);
-    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    keus_ = new Spelerkeus(cmdOK, kader);
-}
-
-void diaKopieer::Bouw()
-{
     setObjectName(u"diaKopieer"_s);
     setWindowTitle(u"Kopieer speler(s) naar een andere groep"_s);
     auto* Frame1 = new QGroupBox(u"Spelers kopiëren"_s, this);
     Noem(Frame1, u"Frame1"_s);
-    MaakDelen(Frame1);
-
-    auto* vakken = new QGridLayout(Frame1);
-    vakken->addWidget(Label4, 0, 0);
-    vakken->addWidget(cmbUitGroep, 0, 1);
-    vakken->addWidget(Label3, 1, 0);
-    vakken->addWidget(cmbNBBgr, 1, 1);
-    vakken->addWidget(keus_, 2, 0, 1, 2);
-    vakken->addWidget(Label2, 3, 0);
-    vakken->addWidget(cmbGrnamen, 3, 1);
-    vakken->addWidget(chkNBBgrOok, 4, 0, 1, 2);
-    vakken->addWidget(chkNBBnrOok, 5, 0, 1, 2);
-    vakken->setRowStretch(2, 1);
-    vakken->setColumnStretch(1, 1);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Kopieer"_s, u'K', this);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    keus_ = new Spelerkeus(administratie_.spelers.tabel, cmdOK, Frame1);
+    for (QPushButton* knop : {keus_->cmdSelAll, keus_->cmdSelNone})
+        connect(knop, &QPushButton::clicked, this, [this] { keus_->lstKeus->ZetHuidige(0); });
+    BouwKader(Frame1);
 
     auto* lagen = new QVBoxLayout(this);
     lagen->addWidget(Frame1, 1);
@@ -75,39 +35,59 @@ void diaKopieer::Bouw()
                     cmbGrnamen, chkNBBgrOok, chkNBBnrOok, cmdAnnuleren, cmdOK});
     cmdOK->setDefault(true);
     cmbUitGroep->setFocus();
+    KiesBron();
 }
 
-void diaKopieer::Verbind()
+void diaKopieer::BouwKader(QGroupBox* kader)
 {
+    auto* Label2 = MaakLabel(u"Label2"_s, u"Kopieer hen naar groep:"_s, kader);
+    Label3 = MaakLabel(u"Label3"_s, QString(), kader);
+    auto* Label4 = MaakLabel(u"Label4"_s, u"Uit spelergroep:"_s, kader);
+    cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, kader);
+    cmbNBBgr = MaakKeus(u"cmbNBBgr"_s, Label3, kader);
+    cmbUitGroep = MaakKeus(u"cmbUitGroep"_s, Label4, kader);
+    for (QComboBox* groepen : {cmbGrnamen, cmbUitGroep})
+        VulKeus(*groepen, administratie_.groepen.Toonteksten());
     // Also when what is shown is picked again.
     connect(cmbUitGroep, &QComboBox::activated, this, &diaKopieer::KiesBron);
     connect(cmbNBBgr, &QComboBox::activated, this, &diaKopieer::KiesWaarde);
-    for (QPushButton* knop : {keus_->cmdSelAll, keus_->cmdSelNone})
-        connect(knop, &QPushButton::clicked, this, [this] { keus_->lstKeus->ZetHuidige(0); });
-    connect(cmdOK, &QPushButton::clicked, this, &diaKopieer::Kopieer);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    chkNBBgrOok = new QCheckBox(kader);
+    Noem(chkNBBgrOok, u"chkNBBgrOok"_s);
+    chkNBBgrOok->setChecked(true);
+    // This one may be shown or hidden, but is never ticked: copies get no federation number.
+    chkNBBnrOok = new QCheckBox(u"NBBnummer ook kopieren"_s, kader);
+    Noem(chkNBBnrOok, u"chkNBBnrOok"_s);
+    chkNBBnrOok->setEnabled(false);
+
+    auto* vakken = new QGridLayout(kader);
+    vakken->addWidget(Label4, 0, 0);
+    vakken->addWidget(cmbUitGroep, 0, 1);
+    vakken->addWidget(Label3, 1, 0);
+    vakken->addWidget(cmbNBBgr, 1, 1);
+    vakken->addWidget(keus_, 2, 0, 1, 2);
+    vakken->addWidget(Label2, 3, 0);
+    vakken->addWidget(cmbGrnamen, 3, 1);
+    vakken->addWidget(chkNBBgrOok, 4, 0, 1, 2);
+    vakken->addWidget(chkNBBnrOok, 5, 0, 1, 2);
+    vakken->setRowStretch(2, 1);
+    vakken->setColumnStretch(1, 1);
 }
 
-void diaKopieer::VulKeuslijst()
+void diaKopieer::KiesBron()
 {
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    std::vector<int> rijen = RijenVanGroep(tabel, Groepscode(cmbUitGroep->currentIndex() + 1));
+    std::vector<int> rijen = RijenVanGroep(tabel, Broncode());
     Waardenlijst waarden;
     for (const int rij : rijen) {
         const Tekstblik waarde = tabel.Cel(rij, Kolom::NBBgr);
         waarden.Voeg(IsBlanco(waarde) ? "geen" : Tekst(waarde));
     }
     VulKeus(*cmbNBBgr, waarden.Waarden());
-    keus_->Vul(std::move(rijen), [&tabel](int rij) { return Kopieerregel(tabel, rij); });
+    keus_->Vul(std::move(rijen), Kopieerregel);
     if (keus_->lstKeus->Aantal() > 0)
         keus_->lstKeus->Kies({0});
-}
 
-void diaKopieer::KiesBron()
-{
-    VulKeuslijst();
-    const bool importgroep =
-        Groepscode(cmbUitGroep->currentIndex() + 1) == administratie_.mappen.DFIMPG;
+    const bool importgroep = Broncode() == administratie_.mappen.DFIMPG;
     chkNBBgrOok->setText(importgroep ? u"NBBgroep ook kopieren"_s
                                      : u"Subgroeptekst ook mee kopieren"_s);
     chkNBBnrOok->setVisible(importgroep);
@@ -118,21 +98,18 @@ void diaKopieer::KiesBron()
 /// A plain search in the whole line, names included; what was chosen already stays.
 void diaKopieer::KiesWaarde()
 {
-    const int plaats = cmbNBBgr->currentIndex();
-    if (plaats < 0)
-        return;
-    const Tekst gezocht = Hoofdletters(NaarTekst(cmbNBBgr->itemText(plaats)));
+    const Tekst gezocht = Hoofdletters(NaarTekst(cmbNBBgr->currentText()));
     Regellijst& lijst = *keus_->lstKeus;
     std::vector<int> gevonden;
-    for (int regel = 0; regel < lijst.Aantal(); ++regel) {
-        if (Hoofdletters(lijst.Regel(regel)).find(gezocht) != Tekst::npos)
-            gevonden.push_back(regel);
+    for (int plek = 0; plek < lijst.Aantal(); ++plek) {
+        if (Hoofdletters(lijst.Regel(plek)).find(gezocht) != Tekst::npos)
+            gevonden.push_back(plek);
     }
     lijst.Kies(gevonden);
     lijst.ZetHuidige(0);
 }
 
-void diaKopieer::Kopieer()
+void diaKopieer::accept()
 {
     const QString bron = cmbUitGroep->currentText();
     const QString doel = cmbGrnamen->currentText();
@@ -153,8 +130,7 @@ void diaKopieer::Kopieer()
     }
     Meld(this, QMessageBox::Information,
          u"Er zijn %1 spelers gekopieerd."_s.arg(opdracht.keys.size()));
-    ingaveGeannuleerd_ = false;
-    accept();
+    QDialog::accept();
 }
 
 } // namespace plexoran

@@ -2,9 +2,7 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDialog>
-#include <QLabel>
 
 #include "dialogs/spelerkeus.h"
 #include "register/administratie.h"
@@ -20,31 +18,24 @@ class diaKopieer : public QDialog {
     diaKopieer(Administratie& administratie, QWidget* ouder);
 
     /// The close box and Escape cancel too.
-    [[nodiscard]] bool IngaveGeannuleerd() const { return ingaveGeannuleerd_; }
+    [[nodiscard]] bool IngaveGeannuleerd() const { return result() != Accepted; }
+    /// When the question is answered with OK and there are keys enough.
+    void accept() override;
 
   private:
-    void MaakDelen(QGroupBox* kader);
-    void Bouw();
-    void Verbind();
-    void VulKeuslijst();
+    void BouwKader(QGroupBox* kader);
     void KiesBron();
     void KiesWaarde();
-    void Kopieer();
+    [[nodiscard]] Tekst Broncode() const { return Groepscode(cmbUitGroep->currentIndex() + 1); }
 
     Administratie& administratie_;
-    bool ingaveGeannuleerd_ = true;
-
-    QComboBox* cmbUitGroep = nullptr;
-    QComboBox* cmbNBBgr = nullptr;
-    QComboBox* cmbGrnamen = nullptr;
-    Spelerkeus* keus_ = nullptr;
-    QLabel* Label2 = nullptr;
-    QLabel* Label3 = nullptr;
-    QLabel* Label4 = nullptr;
-    QCheckBox* chkNBBgrOok = nullptr;
-    QCheckBox* chkNBBnrOok = nullptr;
-    QPushButton* cmdOK = nullptr;
-    QPushButton* cmdAnnuleren = nullptr;
+    Spelerkeus* keus_;
+    QComboBox* cmbUitGroep;
+    QComboBox* cmbNBBgr;
+    QComboBox* cmbGrnamen;
+    QLabel* Label3;
+    QCheckBox* chkNBBgrOok;
+    QCheckBox* chkNBBnrOok;
 };
 
 } // namespace plexoran

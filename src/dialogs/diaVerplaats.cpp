@@ -1,39 +1,30 @@
 #include "dialogs/diaVerplaats.h"
 
 #include <QGroupBox>
-#include <QVBoxLayout>
 
-#include "dialogs/keuslijst.h"
-#include "dialogs/verplaatsen.h"
-#include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 
 diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
-    : QDialog(ouder), administratie_(administratie)
-{
-    Bouw();
-    VulKeus(*cmbGrnamen, administratie_.groepen.Toonteksten());
-    const Spelertabel& tabel = administratie_.spelers.tabel;
-    keus_->Vul(VerplaatsbareRijen(tabel, administratie_.mappen.DFIMPG),
-               [&tabel](int rij) { return Verplaatsregel(tabel, rij); });
-}
-
-void diaVerplaats::Bouw()
+    : QDialog(ouder), tabel_(administratie.spelers.tabel)
 {
     setObjectName(u"diaVerplaats"_s);
     setWindowTitle(u"Verplaats speler(s) naar een andere groep"_s);
     auto* Frame1 = new QGroupBox(this);
     Noem(Frame1, u"Frame1"_s);
-    cmdOK = MaakKnop(u"cmdOK"_s, u"Verplaats"_s, u'V', this);
-    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    keus_ = new Spelerkeus(cmdOK, Frame1);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Verplaats"_s, u'V', this);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, Frame1);
     };
     auto* Label2 = label(u"Label2"_s, u"Verplaats hen naar de volgende groep:"_s);
     cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, Frame1);
+    VulKeus(*cmbGrnamen, administratie.groepen.Toonteksten());
+    keus_ = new Spelerkeus(tabel_, cmdOK, Frame1);
+    keus_->Vul(VerplaatsbareRijen(tabel_, administratie.mappen.DFIMPG), Verplaatsregel);
 
     auto* binnen = new QVBoxLayout(Frame1);
     binnen->addWidget(keus_, 1);
@@ -52,17 +43,12 @@ void diaVerplaats::Bouw()
     ZetTabvolgorde(
         {keus_->lstKeus, keus_->cmdSelAll, keus_->cmdSelNone, cmbGrnamen, cmdAnnuleren, cmdOK});
     keus_->lstKeus->setFocus();
-
-    connect(cmdOK, &QPushButton::clicked, this, &diaVerplaats::Verplaats);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void diaVerplaats::Verplaats()
+void diaVerplaats::accept()
 {
-    VerplaatsSpelers(administratie_.spelers.tabel, keus_->GekozenKeys(),
-                     Groepscode(cmbGrnamen->currentIndex() + 1));
-    ingaveGeannuleerd_ = false;
-    accept();
+    VerplaatsSpelers(tabel_, keus_->GekozenKeys(), Groepscode(cmbGrnamen->currentIndex() + 1));
+    QDialog::accept();
 }
 
 } // namespace plexoran

@@ -1,7 +1,6 @@
 // Moving players to another group.
 #pragma once
 
-#include <QComboBox>
 #include <QDialog>
 
 #include "dialogs/spelerkeus.h"
@@ -16,19 +15,13 @@ class diaVerplaats : public QDialog {
     diaVerplaats(Administratie& administratie, QWidget* ouder);
 
     /// The close box and Escape cancel too.
-    [[nodiscard]] bool IngaveGeannuleerd() const { return ingaveGeannuleerd_; }
+    [[nodiscard]] bool IngaveGeannuleerd() const { return result() != Accepted; }
+    void accept() override;
 
   private:
-    void Bouw();
-    void Verplaats();
-
-    Administratie& administratie_;
-    bool ingaveGeannuleerd_ = true;
-
+    Spelertabel& tabel_;
     Spelerkeus* keus_;
     QComboBox* cmbGrnamen;
-    QPushButton* cmdOK;
-    QPushButton* cmdAnnuleren;
 };
 
 } // namespace plexoran

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "dialogs/subgroep.h"
+#include "dialogs/groepswerk.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
@@ -32,17 +32,6 @@ QString NoemSpelers(const Spelertabel& tabel, const std::vector<int>& rijen, con
 frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
 {
-    Bouw();
-    VulKeus(*cmbRVDgr, administratie_.groepen.Toonteksten());
-    KiesGroep();
-    // Also when what is shown is picked again.
-    connect(cmbRVDgr, &QComboBox::activated, this, &frmVerwSubgroep::KiesGroep);
-    connect(cmdVerwijder, &QPushButton::clicked, this, &frmVerwSubgroep::Verwijder);
-    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
-}
-
-void frmVerwSubgroep::Bouw()
-{
     setObjectName(u"frmVerwSubgroep"_s);
     setWindowTitle(u"Verwijderen van een subgroep"_s);
     auto* frame1 = new QGroupBox(this);
@@ -53,9 +42,14 @@ void frmVerwSubgroep::Bouw()
     Label3 = label(u"Label3"_s, u"met deze Subgroep:"_s);
     auto* Label4 = label(u"Label4"_s, u"uit deze Spelergroep:"_s);
     cmbRVDgr = MaakKeus(u"cmbRVDgr"_s, Label4, frame1);
+    VulKeus(*cmbRVDgr, administratie_.groepen.Toonteksten());
     cmbSubGr = MaakKeus(u"cmbSubGr"_s, Label3, frame1);
     cmdVerwijder = MaakKnop(u"cmdVerwijder"_s, u"Verwijderen ..."_s, u'V', this);
-    cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this);
+    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this);
+    // Also when what is shown is picked again.
+    connect(cmbRVDgr, &QComboBox::activated, this, &frmVerwSubgroep::KiesGroep);
+    connect(cmdVerwijder, &QPushButton::clicked, this, &frmVerwSubgroep::Verwijder);
+    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
 
     auto* vakken = new QGridLayout(frame1);
     vakken->addWidget(label(u"Label1"_s, u"Verwijder ALLE spelers "_s), 0, 0, 1, 2);
@@ -71,10 +65,10 @@ void frmVerwSubgroep::Bouw()
     lagen->addWidget(frame1);
     lagen->addStretch();
     lagen->addLayout(Knoppenrij({cmdVerwijder, cmdEinde}));
-    const Maten maten;
     ZetOpSchuifblad(this);
-    PasInScherm(this, {maten.Twips(7200), sizeHint().height()});
+    PasInScherm(this, {Maten().Twips(7200), sizeHint().height()});
     cmbRVDgr->setFocus();
+    KiesGroep();
 }
 
 void frmVerwSubgroep::KiesGroep()
@@ -93,14 +87,15 @@ void frmVerwSubgroep::Verwijder()
         u"U gaat alle spelers van Subgroep '%1'\r\nuit RVDgroep '%2' verwijderen!\r\n\r\nWeet u "
         "het zeker?"_s.arg(NaarQString(subgroep), cmbRVDgr->currentText());
     Spelertabel& tabel = administratie_.spelers.tabel;
+    const std::vector<int> weg = RijenVanSubgroep(tabel, Code(), subgroep);
     if (!Vraag(this, QMessageBox::Information, vraag, u"Verwijderen?"_s,
-               NoemSpelers(tabel, RijenVanSubgroep(tabel, Code(), subgroep), *this)))
+               NoemSpelers(tabel, weg, *this)))
         return;
-    const int aantal = VerwijderSubgroep(tabel, Code(), subgroep);
-    ietsVerwijderd_ = ietsVerwijderd_ || aantal > 0;
+    tabel.Verwijder(weg);
+    ietsVerwijderd_ = ietsVerwijderd_ || !weg.empty();
     emit rijenVerwijderd();
     Meld(this, QMessageBox::Information,
-         u"Klaar! \r\nEr zijn %1 speler(s) verwijderd."_s.arg(aantal));
+         u"Klaar! \r\nEr zijn %1 speler(s) verwijderd."_s.arg(weg.size()));
     KiesGroep();
 }
 

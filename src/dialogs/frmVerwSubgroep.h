@@ -29,7 +29,6 @@ class frmVerwSubgroep : public QDialog {
     void rijenVerwijderd();
 
   private:
-    void Bouw();
     void KiesGroep();
     void Verwijder();
     [[nodiscard]] Tekst Code() const { return Groepscode(cmbRVDgr->currentIndex() + 1); }
@@ -38,11 +37,10 @@ class frmVerwSubgroep : public QDialog {
     std::vector<Tekst> subgroepen_;
     bool ietsVerwijderd_ = false;
 
-    QLabel* Label3 = nullptr;
-    QComboBox* cmbRVDgr = nullptr;
-    QComboBox* cmbSubGr = nullptr;
-    QPushButton* cmdVerwijder = nullptr;
-    QPushButton* cmdEinde = nullptr;
+    QLabel* Label3;
+    QComboBox* cmbRVDgr;
+    QComboBox* cmbSubGr;
+    QPushButton* cmdVerwijder;
 };
 
 } // namespace plexoran

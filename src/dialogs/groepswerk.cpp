@@ -1,0 +1,117 @@
+#include "dialogs/groepswerk.h"
+
+#include "register/sleutelwijzer.h"
+#include "register/waardenlijst.h"
+
+namespace plexoran {
+namespace {
+
+/// Group code, tab, surname, three spaces, first name, space, particle.
+Tekst Naamdeel(const Spelertabel& tabel, int rij)
+{
+    const auto cel = [&](Kolom kolom) { return Tekst(tabel.Cel(rij, kolom)); };
+    return cel(Kolom::Groep) + '\t' + cel(Kolom::Achternaam) + "   " + cel(Kolom::Voornaam) + ' ' +
+           cel(Kolom::Tusv);
+}
+
+/// What stands behind the visible part of a line.
+Tekst Keydeel(const Spelertabel& tabel, int rij)
+{
+    return Tekst(60, ' ').append(tabel.Cel(rij, Kolom::Key));
+}
+
+/// The rows of the group, or those outside it.
+std::vector<int> Rijen(const Spelertabel& tabel, Tekstblik groepscode, bool erin)
+{
+    std::vector<int> rijen;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if ((tabel.Cel(rij, Kolom::Groep) == groepscode) == erin)
+            rijen.push_back(rij);
+    }
+    return rijen;
+}
+
+} // namespace
+
+std::vector<int> VerplaatsbareRijen(const Spelertabel& tabel, Tekstblik importgroep)
+{
+    return Rijen(tabel, importgroep, false);
+}
+
+Tekst Verplaatsregel(const Spelertabel& tabel, int rij)
+{
+    return Naamdeel(tabel, rij) + Keydeel(tabel, rij);
+}
+
+std::vector<int> RijenVanGroep(const Spelertabel& tabel, Tekstblik groepscode)
+{
+    return Rijen(tabel, groepscode, true);
+}
+
+Tekst Kopieerregel(const Spelertabel& tabel, int rij)
+{
+    const Tekst subgroep(tabel.Cel(rij, Kolom::NBBgr));
+    return Naamdeel(tabel, rij) + (IsBlanco(subgroep) ? "(geen)" : "  (" + subgroep + ')') +
+           Keydeel(tabel, rij);
+}
+
+Tekst Regelkey(const Spelertabel& tabel, int rij)
+{
+    const Tekst deel = Keydeel(tabel, rij);
+    return deel.substr(deel.size() - 6);
+}
+
+void VerplaatsSpelers(Spelertabel& tabel, const std::vector<Tekst>& keys, Tekstblik groepscode)
+{
+    const Sleutelwijzer wijzer(tabel);
+    for (const Tekst& key : keys) {
+        if (const int rij = wijzer.Rij(key); rij != 0)
+            tabel.ZetCel(rij, Kolom::Groep, groepscode);
+    }
+}
+
+bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
+{
+    if (!ZijnErSleutels(spelers, opdracht.keys.size()))
+        return false;
+    std::vector<Celtekst> anders{{Kolom::Key, {}}, {Kolom::Groep, opdracht.naarGroep}};
+    if (!opdracht.metNBBgr)
+        anders.push_back({Kolom::NBBgr, {}});
+    if (!opdracht.metNBBnr)
+        anders.push_back({Kolom::NBBnr, {}});
+    const Sleutelwijzer wijzer(spelers.tabel);
+    for (const Tekst& key : opdracht.keys) {
+        const int bron = wijzer.Rij(key); // a copy made here is never found, nor copied again
+        const Tekst nieuweKey = std::to_string(NieuweSleutel(spelers).value());
+        anders.front().tekst = nieuweKey;
+        if (bron == 0)
+            spelers.tabel.VoegRijToe({"", nieuweKey, opdracht.naarGroep});
+        else
+            spelers.tabel.VoegKopieToe(bron, anders);
+    }
+    return true;
+}
+
+std::vector<Tekst> SubgroepenVan(const Spelertabel& tabel, Tekstblik groepscode)
+{
+    Waardenlijst subgroepen;
+    for (const int rij : RijenVanGroep(tabel, groepscode)) {
+        const Tekstblik waarde = ZonderSpaties(tabel.Cel(rij, Kolom::NBBgr));
+        subgroepen.Voeg(waarde.empty() ? "geen" : Tekst(waarde));
+    }
+    return subgroepen.Waarden();
+}
+
+std::vector<int> RijenVanSubgroep(const Spelertabel& tabel, Tekstblik groepscode,
+                                  Tekstblik subgroep)
+{
+    const bool geen = Hoofdletters(subgroep) == "GEEN";
+    std::vector<int> rijen = RijenVanGroep(tabel, groepscode);
+    std::erase_if(rijen, [&](int rij) {
+        const Tekstblik waarde = tabel.Cel(rij, Kolom::NBBgr);
+        return waarde != subgroep && !(geen && waarde.empty());
+    });
+    return rijen;
+}
+
+} // namespace plexoran
