@@ -37,9 +37,7 @@ frmParenOnderhoud::frmParenOnderhoud(Administratie& administratie, Tekstblik gro
     MaakParenmap();
     VulKeus(*cmbNBBledengr, keuzes_);
     cmbNBBledengr->setCurrentIndex(-1);
-    ZetKnopOKE(false);
-    ZetKnopOntbindt(false);
-    Verbind();
+    ZetKnoppen();
 }
 
 void frmParenOnderhoud::MaakParenmap()
@@ -56,45 +54,35 @@ void frmParenOnderhoud::MaakParenmap()
 
 // ---- Showing a group-subgroup ------------------------------------------------------------------
 
-void frmParenOnderhoud::KiesSubgroep()
-{
-    const int plaats = cmbNBBledengr->currentIndex();
-    if (plaats < 0)
-        return;
-    keuze_ = keuzes_[static_cast<std::size_t>(plaats)];
-    Label8->clear();
-    LaadSubgroep(keuze_);
-}
-
 /// The pairs that were shown before are not saved.
-void frmParenOnderhoud::LaadSubgroep(const Tekst& keuze)
+void frmParenOnderhoud::LaadSubgroep()
 {
-    auto lezing = LeesParenbestand(administratie_.schijf, administratie_.mappen, keuze);
-    const std::optional<Fout> fout = lezing ? std::nullopt : std::optional(lezing.error());
+    const int keuze = cmbNBBledengr->currentIndex();
+    if (keuze < 0)
+        return;
+    keuze_ = keuzes_[static_cast<std::size_t>(keuze)];
+    const auto lezing = LeesParenbestand(administratie_.schijf, administratie_.mappen, keuze_);
     const Parenlezing gelezen = lezing.value_or(Parenlezing());
     gelezen_ = gelezen.bestandstekst;
     const Tekst losse =
-        paren_.LaadSubgroep(administratie_.spelers.tabel, code_, keuze, gelezen.paren);
+        paren_.LaadSubgroep(administratie_.spelers.tabel, code_, keuze_, gelezen.paren);
     VulParenlijst(Regellijst::Plek::Begin);
+    Label8->clear();
     if (!gelezen.paren.empty())
         ToonAantalParen();
     VulSpelerslijsten(Regellijst::Plek::Begin);
-    if (fout)
+    if (!lezing)
         MeldFout(
             this, QMessageBox::Warning,
             u"Het parenbestand '%1' kan niet worden gelezen; u ziet daarom geen paren. Voordat "
             "het wordt vervangen, komt er een kopie van in de map Reservekopie. Sluit met "
-            "Annuleren als u eerst de oorzaak wilt verhelpen."_s.arg(NaarQString(keuze)),
-            *fout);
+            "Annuleren als u eerst de oorzaak wilt verhelpen."_s.arg(NaarQString(keuze_)),
+            lezing.error());
     if (!losse.empty())
-        MeldLosse(losse);
-}
-
-void frmParenOnderhoud::MeldLosse(const Tekst& losse)
-{
-    MeldVerslag(this,
-                u"De volgende spelers zijn losse spelers: \r\n\r\n%1\r\n"_s.arg(NaarQString(losse)),
-                QString::fromLatin1(Programmatitel), QMessageBox::Warning);
+        MeldVerslag(
+            this,
+            u"De volgende spelers zijn losse spelers: \r\n\r\n%1\r\n"_s.arg(NaarQString(losse)),
+            QString::fromLatin1(Programmatitel), QMessageBox::Warning);
 }
 
 void frmParenOnderhoud::VulSpelerslijsten(Regellijst::Plek plek)
@@ -102,7 +90,7 @@ void frmParenOnderhoud::VulSpelerslijsten(Regellijst::Plek plek)
     for (Regellijst* lijst : {L1, L2})
         lijst->Vul(
             static_cast<int>(paren_.Lalle().size()),
-            [this](int plaats) { return paren_.Keuze(plaats); }, plek);
+            [this](int regel) { return paren_.Keuze(regel); }, plek);
     Label7->setText(u"Aantal spelers: %1"_s.arg(L1->Aantal()));
 }
 
@@ -110,7 +98,7 @@ void frmParenOnderhoud::VulParenlijst(Regellijst::Plek plek)
 {
     L3->Vul(
         static_cast<int>(paren_.L3().size()),
-        [this](int plaats) { return paren_.L3()[static_cast<std::size_t>(plaats)]; }, plek);
+        [this](int regel) { return paren_.L3()[static_cast<std::size_t>(regel)]; }, plek);
 }
 
 void frmParenOnderhoud::ToonAantalParen()
@@ -120,39 +108,25 @@ void frmParenOnderhoud::ToonAantalParen()
 
 // ---- Choosing ----------------------------------------------------------------------------------
 
-void frmParenOnderhoud::SpelerGekozen(const Regellijst* lijst)
+/// A pair and players are not chosen together.
+void frmParenOnderhoud::KeuzeIn(const Regellijst* lijst)
 {
-    if (lijst->Gekozen() >= 0)
-        L3->clearSelection();
-    ZetKnoppen();
-}
-
-void frmParenOnderhoud::PaarGekozen()
-{
-    if (L3->Gekozen() >= 0) {
-        L1->clearSelection();
-        L2->clearSelection();
+    if (lijst->Gekozen() >= 0) {
+        for (Regellijst* ander : {L1, L2, L3}) {
+            if ((ander == L3) != (lijst == L3))
+                ander->clearSelection();
+        }
     }
     ZetKnoppen();
 }
 
-/// The same place in both lists is the same player.
+/// The same line in both lists is the same player.
 void frmParenOnderhoud::ZetKnoppen()
 {
     const int links = L1->Gekozen();
     const int rechts = L2->Gekozen();
-    ZetKnopOKE(links >= 0 && rechts >= 0 && links != rechts);
-    ZetKnopOntbindt(L3->Gekozen() >= 0);
-}
-
-void frmParenOnderhoud::ZetKnopOKE(bool aan)
-{
-    ZetKnop(cmdOKE, aan, Paarkleur);
-}
-
-void frmParenOnderhoud::ZetKnopOntbindt(bool aan)
-{
-    ZetKnop(cmdOntbindt, aan, Ontbindkleur);
+    ZetKnop(cmdOKE, links >= 0 && rechts >= 0 && links != rechts, Paarkleur);
+    ZetKnop(cmdOntbindt, L3->Gekozen() >= 0, Ontbindkleur);
 }
 
 // ---- Commands ----------------------------------------------------------------------------------
@@ -160,11 +134,11 @@ void frmParenOnderhoud::ZetKnopOntbindt(bool aan)
 void frmParenOnderhoud::MaakPaar()
 {
     const bool vanafToetsen = L2->hasFocus();
-    const int plaats = paren_.MaakPaar(L1->Gekozen(), L2->Gekozen());
+    const int paar = paren_.MaakPaar(L1->Gekozen(), L2->Gekozen());
     VulParenlijst(Regellijst::Plek::Behouden);
     ToonAantalParen();
     VulSpelerslijsten(Regellijst::Plek::Behouden);
-    L3->ZetHuidige(plaats);
+    L3->ZetHuidige(paar);
     // The button went grey; the next pair begins with its first player.
     if (vanafToetsen || cmdOKE->hasFocus() || focusWidget() == nullptr)
         L1->setFocus();

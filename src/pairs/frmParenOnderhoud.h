@@ -14,9 +14,6 @@
 #include "platform/scherm/regellijst.h"
 #include "register/administratie.h"
 
-class QGridLayout;
-class QHBoxLayout;
-
 namespace plexoran {
 
 class frmParenOnderhoud : public QDialog {
@@ -27,27 +24,26 @@ class frmParenOnderhoud : public QDialog {
     frmParenOnderhoud(Administratie& administratie, Tekstblik groeptekst, QWidget* ouder);
 
   private:
-    // Building
-    void MaakDelen();
+    // Building (frmParenOnderhoud_bouw.cpp)
     void Bouw();
-    QHBoxLayout* BouwKeuze();
-    void BouwSamenstelling(QGroupBox* kader);
-    void BouwCSVKader(QGroupBox* kader);
-    void Verbind();
+    QLayout* BouwKeuze();
+    QGroupBox* BouwSamenstelling();
+    QLayout* BouwMidden();
+    QGroupBox* BouwCSVKader();
+    QLayout* BouwOnderkant();
+    template <class Opdracht>
+    QPushButton* Knop(const QString& naam, const QString& tekst, char16_t letter,
+                      const Opdracht& opdracht);
+    Regellijst* Lijst(const QString& naam, const QString& gesproken);
 
     void MaakParenmap();
-    void KiesSubgroep();
-    void LaadSubgroep(const Tekst& keuze);
-    void MeldLosse(const Tekst& losse);
+    void LaadSubgroep();
     void VulSpelerslijsten(Regellijst::Plek plek);
     void VulParenlijst(Regellijst::Plek plek);
     void ToonAantalParen();
 
-    void SpelerGekozen(const Regellijst* lijst);
-    void PaarGekozen();
+    void KeuzeIn(const Regellijst* lijst);
     void ZetKnoppen();
-    void ZetKnopOKE(bool aan);
-    void ZetKnopOntbindt(bool aan);
 
     void MaakPaar();
     void Ontbind();
@@ -66,23 +62,14 @@ class frmParenOnderhoud : public QDialog {
     Paren paren_;
     Maten maten_;
 
-    QLabel* lblRVDledengr = nullptr;
     QLabel* Label7 = nullptr;
     QLabel* Label8 = nullptr;
-    QLabel* Label10 = nullptr;
     QComboBox* cmbNBBledengr = nullptr;
     Regellijst* L1 = nullptr;
     Regellijst* L2 = nullptr;
     Regellijst* L3 = nullptr;
     QPushButton* cmdOKE = nullptr;
     QPushButton* cmdOntbindt = nullptr;
-    QPushButton* cmdSortL3 = nullptr;
-    QPushButton* cmdVerwParenbest = nullptr;
-    QPushButton* cmdUitleg = nullptr;
-    QPushButton* cmdPrintVast = nullptr;
-    QPushButton* cmdPrintLos = nullptr;
-    QPushButton* cmdEinde = nullptr;
-    QPushButton* cmdAnnu = nullptr;
 };
 
 } // namespace plexoran

@@ -1,4 +1,5 @@
-// Building the pairs window: its controls, their captions and places.
+// Building the pairs window: its controls, their captions and places. They are made in the order in
+// which the eye reads them, which is that of the Tab key.
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
@@ -20,85 +21,58 @@ constexpr std::size_t NaamVanaf = 7; // in every line, behind the key and a blan
 
 } // namespace
 
-void frmParenOnderhoud::MaakDelen()
+template <class Opdracht>
+QPushButton* frmParenOnderhoud::Knop(const QString& naam, const QString& tekst, char16_t letter,
+                                     const Opdracht& opdracht)
 {
-    const auto knop = [this](const char16_t* naam, const char16_t* tekst, char16_t letter) {
-        return MaakKnop(QString::fromUtf16(naam), QString::fromUtf16(tekst), letter, this);
-    };
-    cmdOKE = knop(u"cmdOKE", u"OKE >>>", u'O');
-    cmdOntbindt = knop(u"cmdOntbindt", u" OKE <<<", u'K');
-    cmdSortL3 = knop(u"cmdSortL3", u"Sort  L9", u'S');
-    cmdVerwParenbest = knop(u"cmdVerwParenbest", u"Verwijder dit parenbestand", u'V');
-    cmdUitleg = knop(u"cmdUitleg", u"Klik hier voor uitleg", u'u');
-    cmdPrintVast = knop(u"cmdPrintVast", u"Als paar in 1 kolom", u'1');
-    cmdPrintLos = knop(u"cmdPrintLos", u"Als paar in    2 kolommen", u'2');
-    cmdEinde = knop(u"cmdEinde", u"Opslaan en Einde", u'E');
-    cmdAnnu = knop(u"cmdAnnu", u"Annuleren", u'A');
-    cmdOKE->setAccessibleName(u"Maak een paar"_s);
-    cmdOntbindt->setAccessibleName(u"Ontbindt dit paar"_s);
-    cmdSortL3->setToolTip(u"Zet de paren op volgorde van de eerste speler"_s);
+    QPushButton* knop = MaakKnop(naam, tekst, letter, this);
+    connect(knop, &QPushButton::clicked, this, opdracht);
+    return knop;
+}
 
-    const QFont letter = Roosterletter(maten_.Letter(Lijstletter).pixelSize());
-    const auto lijst = [&](const QString& naam, const QString& gesproken) {
-        auto* nieuw = new Regellijst(QListView::SingleSelection, this);
-        Noem(nieuw, naam, gesproken);
-        nieuw->setFont(letter);
-        nieuw->ZetNaamVanaf(NaamVanaf);
-        return nieuw;
-    };
-    L1 = lijst(u"L1"_s, u"Eerste speler"_s);
-    L2 = lijst(u"L2"_s, u"Tweede speler"_s);
-    L3 = lijst(u"L3"_s, u"Reeds gevormde paren"_s);
+Regellijst* frmParenOnderhoud::Lijst(const QString& naam, const QString& gesproken)
+{
+    auto* lijst = new Regellijst(QListView::SingleSelection, this);
+    Noem(lijst, naam, gesproken);
+    lijst->setFont(Roosterletter(maten_.Letter(Lijstletter).pixelSize()));
+    lijst->ZetNaamVanaf(NaamVanaf);
+    connect(lijst, &Regellijst::keuzeVeranderd, this, [this, lijst] { KeuzeIn(lijst); });
+    return lijst;
 }
 
 void frmParenOnderhoud::Bouw()
 {
     setObjectName(u"frmParenOnderhoud"_s);
     setWindowTitle(u"Paren samenstellen"_s);
-    MaakDelen();
-    auto* Frame1 =
-        new QGroupBox(u"Samenstelling of ontbinden van paren tbv RVD en Ranking"_s, this);
-    Noem(Frame1, u"Frame1"_s);
-    BouwSamenstelling(Frame1);
-    auto* Frame2 = new QGroupBox(u"Paren opslaan als CSV-bestand"_s, this);
-    Noem(Frame2, u"Frame2"_s);
-    BouwCSVKader(Frame2);
-    Label10 = MaakLabel(
-        u"Label10"_s,
-        u"Alvorens om te schakelen naar een andere groep eerst de wijzigingen opslaan!"_s, this);
-
-    auto* onder = new QHBoxLayout;
-    onder->addWidget(cmdVerwParenbest);
-    onder->addStretch();
-    onder->addWidget(cmdEinde);
-    onder->addWidget(cmdAnnu);
     auto* lagen = new QVBoxLayout(this);
     lagen->addLayout(BouwKeuze());
-    lagen->addWidget(Label10);
-    lagen->addWidget(Frame1, 1);
-    lagen->addWidget(Frame2);
-    lagen->addLayout(onder);
+    lagen->addWidget(MaakLabel(
+        u"Label10"_s,
+        u"Alvorens om te schakelen naar een andere groep eerst de wijzigingen opslaan!"_s, this));
+    lagen->addWidget(BouwSamenstelling(), 1);
+    lagen->addWidget(BouwCSVKader());
+    lagen->addLayout(BouwOnderkant());
     ZetOpSchuifblad(this);
     PasInScherm(
         this, {maten_.Twips(VensterBreed), screen()->size().height() - maten_.Twips(OnderScherm)});
-    // As the eye reads.
-    ZetTabvolgorde({cmbNBBledengr, cmdUitleg, L1, L2, cmdOKE, cmdOntbindt, cmdSortL3, L3,
-                    cmdPrintVast, cmdPrintLos, cmdVerwParenbest, cmdEinde, cmdAnnu});
     cmbNBBledengr->setFocus();
+    new QShortcut(Qt::Key_F1, this, this, &frmParenOnderhoud::ToonUitleg);
 }
 
-QHBoxLayout* frmParenOnderhoud::BouwKeuze()
+QLayout* frmParenOnderhoud::BouwKeuze()
 {
     const auto label = [this](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, this);
     };
-    lblRVDledengr = label(u"lblRVDledengr"_s, NaarQString(code_));
+    auto* lblRVDledengr = label(u"lblRVDledengr"_s, NaarQString(code_));
     QFont vet = lblRVDledengr->font();
     vet.setBold(true);
     lblRVDledengr->setFont(vet);
     auto* Label2 = label(u"Label2"_s, u"Groep-Subgroep:"_s);
     cmbNBBledengr = MaakKeus(u"cmbNBBledengr"_s, Label2, this);
     cmbNBBledengr->setMinimumContentsLength(8);
+    // Also when the group-subgroup that is shown is picked again.
+    connect(cmbNBBledengr, &QComboBox::activated, this, &frmParenOnderhoud::LaadSubgroep);
     auto* rij = new QHBoxLayout;
     rij->addWidget(label(u"Label9"_s, u"RVD-ledengroep:"_s));
     rij->addWidget(lblRVDledengr);
@@ -107,85 +81,101 @@ QHBoxLayout* frmParenOnderhoud::BouwKeuze()
     rij->addWidget(cmbNBBledengr, 1);
     rij->addSpacing(maten_.Twips(300));
     rij->addWidget(label(u"Label1"_s, u"Waarom paren samenstellen?"_s));
-    rij->addWidget(cmdUitleg);
+    rij->addWidget(
+        Knop(u"cmdUitleg"_s, u"Klik hier voor uitleg"_s, u'u', &frmParenOnderhoud::ToonUitleg));
     return rij;
 }
 
-void frmParenOnderhoud::BouwSamenstelling(QGroupBox* kader)
+QGroupBox* frmParenOnderhoud::BouwSamenstelling()
 {
-    const auto label = [&](const QString& naam, const QString& tekst) {
-        auto* nieuw = MaakLabel(naam, tekst, kader);
+    auto* Frame1 =
+        new QGroupBox(u"Samenstelling of ontbinden van paren tbv RVD en Ranking"_s, this);
+    Noem(Frame1, u"Frame1"_s);
+    auto* vakken = new QGridLayout(Frame1);
+    const auto label = [&](const QString& naam, const QString& tekst, int rij, int kolom,
+                           int kolommen = 1) {
+        auto* nieuw = MaakLabel(naam, tekst, Frame1);
         nieuw->setWordWrap(true);
+        vakken->addWidget(nieuw, rij, kolom, 1, kolommen);
         return nieuw;
     };
-    Label7 = label(u"Label7"_s, u"Aantal spelers:"_s);
-    Label8 = label(u"Label8"_s, u"Aantal paren:"_s);
-    auto* midden = new QVBoxLayout;
-    midden->addStretch(1);
-    midden->addWidget(label(u"Label6"_s, u"Maak  een paar"_s), 0, Qt::AlignHCenter);
-    midden->addWidget(cmdOKE);
-    midden->addSpacing(maten_.Twips(450));
-    midden->addWidget(label(u"Label5"_s, u"Ontbindt dit paar"_s), 0, Qt::AlignHCenter);
-    midden->addWidget(cmdOntbindt);
-    midden->addStretch(2);
-    midden->addWidget(cmdSortL3);
-    auto* vakken = new QGridLayout(kader);
-    auto* Label3 = label(u"Label3"_s, u"Selecteer in beide kolommen een speler en klik op 'OKE'"_s);
-    auto* Label4 = label(u"Label4"_s, u"Reeds gevormde paren"_s);
-    Label3->setBuddy(L1);
-    Label4->setBuddy(L3);
-    vakken->addWidget(Label3, 0, 0, 1, 2);
-    vakken->addWidget(Label4, 0, 3);
-    vakken->addWidget(L1, 1, 0);
-    vakken->addWidget(L2, 1, 1);
-    vakken->addLayout(midden, 1, 2);
-    vakken->addWidget(L3, 1, 3);
-    vakken->addWidget(Label7, 2, 0);
-    vakken->addWidget(Label8, 2, 3);
-    vakken->setRowStretch(1, 1);
-    vakken->setColumnStretch(0, 3);
-    vakken->setColumnStretch(1, 3);
-    vakken->setColumnStretch(3, 6);
-}
-
-void frmParenOnderhoud::BouwCSVKader(QGroupBox* kader)
-{
-    const auto label = [&](const QString& naam, const QString& tekst) {
-        return MaakLabel(naam, tekst, kader);
-    };
-    auto* vakken = new QGridLayout(kader);
-    vakken->addWidget(cmdPrintVast, 0, 0);
-    vakken->addWidget(label(u"lblPrintVast"_s, u"Tuprufo - Leo Jansen "_s), 0, 1);
-    vakken->addWidget(cmdPrintLos, 1, 0);
-    vakken->addWidget(label(u"lblPrintLos"_s, u"Tuprufo        Leo Jansen  (aparte kolom)"_s), 1,
-                      1);
-    vakken->addWidget(label(u"lblExcel"_s, u"Kan in Excel worden ingelezen. "_s), 0, 3);
-    vakken->setColumnStretch(2, 1);
-}
-
-void frmParenOnderhoud::Verbind()
-{
-    // Also when the group-subgroup that is shown is picked again.
-    connect(cmbNBBledengr, &QComboBox::activated, this, &frmParenOnderhoud::KiesSubgroep);
+    vakken->addWidget(L1 = Lijst(u"L1"_s, u"Eerste speler"_s), 1, 0);
+    vakken->addWidget(L2 = Lijst(u"L2"_s, u"Tweede speler"_s), 1, 1);
+    vakken->addLayout(BouwMidden(), 1, 2);
+    vakken->addWidget(L3 = Lijst(u"L3"_s, u"Reeds gevormde paren"_s), 1, 3);
+    label(u"Label3"_s, u"Selecteer in beide kolommen een speler en klik op 'OKE'"_s, 0, 0, 2)
+        ->setBuddy(L1);
+    label(u"Label4"_s, u"Reeds gevormde paren"_s, 0, 3)->setBuddy(L3);
+    Label7 = label(u"Label7"_s, u"Aantal spelers:"_s, 2, 0);
+    Label8 = label(u"Label8"_s, u"Aantal paren:"_s, 2, 3);
     for (Regellijst* lijst : {L1, L2}) {
-        connect(lijst, &Regellijst::keuzeVeranderd, this, [this, lijst] { SpelerGekozen(lijst); });
         for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter})
             new QShortcut(enter, lijst, cmdOKE, &QPushButton::click, Qt::WidgetShortcut);
     }
     connect(L2, &Regellijst::doubleClicked, cmdOKE, &QPushButton::click);
-    connect(L3, &Regellijst::keuzeVeranderd, this, &frmParenOnderhoud::PaarGekozen);
     new QShortcut(Qt::Key_Delete, L3, cmdOntbindt, &QPushButton::click, Qt::WidgetShortcut);
-    connect(cmdOKE, &QPushButton::clicked, this, &frmParenOnderhoud::MaakPaar);
-    connect(cmdOntbindt, &QPushButton::clicked, this, &frmParenOnderhoud::Ontbind);
-    connect(cmdSortL3, &QPushButton::clicked, this, &frmParenOnderhoud::SorteerParen);
-    connect(cmdVerwParenbest, &QPushButton::clicked, this, &frmParenOnderhoud::VerwijderBestand);
-    connect(cmdUitleg, &QPushButton::clicked, this, &frmParenOnderhoud::ToonUitleg);
-    connect(cmdPrintVast, &QPushButton::clicked, this, [this] { SchrijfCSV(ParenCSV::EenKolom); });
-    connect(cmdPrintLos, &QPushButton::clicked, this,
-            [this] { SchrijfCSV(ParenCSV::TweeKolommen); });
-    connect(cmdEinde, &QPushButton::clicked, this, &frmParenOnderhoud::Einde);
-    connect(cmdAnnu, &QPushButton::clicked, this, &QDialog::reject);
-    new QShortcut(Qt::Key_F1, this, this, &frmParenOnderhoud::ToonUitleg);
+    vakken->setRowStretch(1, 1);
+    vakken->setColumnStretch(0, 3);
+    vakken->setColumnStretch(1, 3);
+    vakken->setColumnStretch(3, 6);
+    return Frame1;
+}
+
+QLayout* frmParenOnderhoud::BouwMidden()
+{
+    cmdOKE = Knop(u"cmdOKE"_s, u"OKE >>>"_s, u'O', &frmParenOnderhoud::MaakPaar);
+    cmdOKE->setAccessibleName(u"Maak een paar"_s);
+    cmdOntbindt = Knop(u"cmdOntbindt"_s, u" OKE <<<"_s, u'K', &frmParenOnderhoud::Ontbind);
+    cmdOntbindt->setAccessibleName(u"Ontbindt dit paar"_s);
+    auto* cmdSortL3 = Knop(u"cmdSortL3"_s, u"Sort  L9"_s, u'S', &frmParenOnderhoud::SorteerParen);
+    cmdSortL3->setToolTip(u"Zet de paren op volgorde van de eerste speler"_s);
+    auto* midden = new QVBoxLayout;
+    const auto label = [&](const QString& naam, const QString& tekst) {
+        auto* nieuw = MaakLabel(naam, tekst, this);
+        nieuw->setWordWrap(true);
+        midden->addWidget(nieuw, 0, Qt::AlignHCenter);
+    };
+    midden->addStretch(1);
+    label(u"Label6"_s, u"Maak  een paar"_s);
+    midden->addWidget(cmdOKE);
+    midden->addSpacing(maten_.Twips(450));
+    label(u"Label5"_s, u"Ontbindt dit paar"_s);
+    midden->addWidget(cmdOntbindt);
+    midden->addStretch(2);
+    midden->addWidget(cmdSortL3);
+    return midden;
+}
+
+QGroupBox* frmParenOnderhoud::BouwCSVKader()
+{
+    auto* Frame2 = new QGroupBox(u"Paren opslaan als CSV-bestand"_s, this);
+    Noem(Frame2, u"Frame2"_s);
+    auto* vakken = new QGridLayout(Frame2);
+    const auto label = [&](const QString& naam, const QString& tekst, int rij, int kolom) {
+        vakken->addWidget(MaakLabel(naam, tekst, Frame2), rij, kolom);
+    };
+    vakken->addWidget(Knop(u"cmdPrintVast"_s, u"Als paar in 1 kolom"_s, u'1',
+                           [this] { SchrijfCSV(ParenCSV::EenKolom); }),
+                      0, 0);
+    label(u"lblPrintVast"_s, u"Tuprufo - Leo Jansen "_s, 0, 1);
+    vakken->addWidget(Knop(u"cmdPrintLos"_s, u"Als paar in    2 kolommen"_s, u'2',
+                           [this] { SchrijfCSV(ParenCSV::TweeKolommen); }),
+                      1, 0);
+    label(u"lblPrintLos"_s, u"Tuprufo        Leo Jansen  (aparte kolom)"_s, 1, 1);
+    label(u"lblExcel"_s, u"Kan in Excel worden ingelezen. "_s, 0, 3);
+    vakken->setColumnStretch(2, 1);
+    return Frame2;
+}
+
+QLayout* frmParenOnderhoud::BouwOnderkant()
+{
+    auto* onder = new QHBoxLayout;
+    onder->addWidget(Knop(u"cmdVerwParenbest"_s, u"Verwijder dit parenbestand"_s, u'V',
+                          &frmParenOnderhoud::VerwijderBestand));
+    onder->addStretch();
+    onder->addWidget(Knop(u"cmdEinde"_s, u"Opslaan en Einde"_s, u'E', &frmParenOnderhoud::Einde));
+    onder->addWidget(Knop(u"cmdAnnu"_s, u"Annuleren"_s, u'A', &QDialog::reject));
+    return onder;
 }
 
 } // namespace plexoran

@@ -1,7 +1,5 @@
 #include "pairs/paarregel.h"
 
-#include <algorithm>
-
 namespace plexoran {
 namespace {
 
@@ -17,17 +15,10 @@ Paarspeler SpelerUit(Tekstblik deel)
 
 Tekst Spelerregel(const Spelertabel& tabel, int rij)
 {
-    constexpr std::size_t ruim = 64;
-    Tekst regel;
-    regel.reserve(ruim);
-    regel += tabel.Cel(rij, Kolom::Achternaam);
-    regel += ' ';
-    regel += tabel.Cel(rij, Kolom::Voornaam);
-    regel += ' ';
-    regel += tabel.Cel(rij, Kolom::Tusv);
-    regel += "   ";
-    regel += tabel.Cel(rij, Kolom::Key);
-    return regel;
+    const auto cel = [&](Kolom kolom) { return tabel.Cel(rij, kolom); };
+    Tekst regel(cel(Kolom::Achternaam));
+    regel.append(" ").append(cel(Kolom::Voornaam)).append(" ").append(cel(Kolom::Tusv));
+    return regel.append("   ").append(cel(Kolom::Key));
 }
 
 Tekstblik Spelernaam(Tekstblik spelerregel)
@@ -37,31 +28,20 @@ Tekstblik Spelernaam(Tekstblik spelerregel)
 
 Tekst Keuzeregel(Tekstblik spelerregel)
 {
-    Tekst regel(Laatste6(spelerregel));
-    regel += ' ';
-    regel += Spelernaam(spelerregel);
-    return regel;
+    return Tekst(Laatste6(spelerregel)).append(" ").append(Spelernaam(spelerregel));
 }
 
 Tekst Paarregel(Tekstblik links, Tekstblik rechts)
 {
-    Tekst regel;
-    regel.reserve(links.size() + Scheiding.size() + rechts.size());
-    regel += links;
-    regel += Scheiding;
-    regel += rechts;
-    return regel;
+    return Tekst(links).append(Scheiding).append(rechts);
 }
 
 Tekst Paarspeler::AlsSpelerregel() const
 {
-    Tekst regel(naam);
-    regel += "   ";
-    regel += key;
-    return regel;
+    return Tekst(naam).append("   ").append(key);
 }
 
-std::size_t Plusplaats(Tekstblik paarregel)
+std::size_t Plusplek(Tekstblik paarregel)
 {
     const auto scheiding = paarregel.find(Scheiding);
     return scheiding == Tekstblik::npos ? paarregel.find('+') : scheiding + Scheiding.size() - 1;
@@ -69,13 +49,12 @@ std::size_t Plusplaats(Tekstblik paarregel)
 
 Paarspeler LinkerSpeler(Tekstblik paarregel)
 {
-    return SpelerUit(paarregel.substr(0, Plusplaats(paarregel)));
+    return SpelerUit(paarregel.substr(0, Plusplek(paarregel)));
 }
 
 Paarspeler RechterSpeler(Tekstblik paarregel)
 {
-    const auto plus = std::min(Plusplaats(paarregel), paarregel.size() - 1);
-    return SpelerUit(paarregel.substr(plus + 1));
+    return SpelerUit(paarregel.substr(Plusplek(paarregel) + 1));
 }
 
 } // namespace plexoran

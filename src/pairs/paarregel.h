@@ -10,19 +10,14 @@
 
 namespace plexoran {
 
-/// Every key in a line or a pair token takes six characters.
-inline constexpr std::size_t Sleutellengte = 6;
-/// Stands for the name of a player who is not available.
-inline constexpr Tekstblik OnbekendeNaam = "??????";
-
-/// The first, and the last, six characters of a text, or all of a shorter one.
+/// The first, and the last, six characters of a text: in a line or a pair token that is a key.
 [[nodiscard]] constexpr Tekstblik Eerste6(Tekstblik tekst)
 {
-    return tekst.substr(0, Sleutellengte);
+    return tekst.substr(0, 6);
 }
 [[nodiscard]] constexpr Tekstblik Laatste6(Tekstblik tekst)
 {
-    return tekst.size() <= Sleutellengte ? tekst : tekst.substr(tekst.size() - Sleutellengte);
+    return tekst.size() <= 6 ? tekst : tekst.substr(tekst.size() - 6);
 }
 
 /// The line of an available player. The key is always its last six characters.
@@ -44,7 +39,7 @@ struct Paarspeler {
 
 /// Where the "+" between the two players is: behind ten blanks, so that a "+" in the first one's
 /// name does no harm, and else the first "+" of the line. `npos` when there is none.
-[[nodiscard]] std::size_t Plusplaats(Tekstblik paarregel);
+[[nodiscard]] std::size_t Plusplek(Tekstblik paarregel);
 
 /// The players of a line that has a "+".
 [[nodiscard]] Paarspeler LinkerSpeler(Tekstblik paarregel);

@@ -1,39 +1,26 @@
 #include "pairs/paren.h"
 
 #include <algorithm>
-#include <charconv>
+#include <unordered_map>
 #include <unordered_set>
 
-#include "pairs/regelzoeker.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {
 
-std::size_t Index(int plaats)
-{
-    return static_cast<std::size_t>(plaats);
-}
-
-bool GelijkInHoofdletters(Tekstblik een, Tekstblik ander)
-{
-    return een.size() == ander.size() &&
-           std::equal(een.begin(), een.end(), ander.begin(),
-                      [](char a, char b) { return Hoofdletter(a) == Hoofdletter(b); });
-}
+/// Stands for the name of a player who is not available.
+constexpr Tekstblik OnbekendeNaam = "??????";
 
 /// The lines of the available players, in text order.
 std::vector<Tekst> BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode,
                                       Tekstblik keuze)
 {
     std::vector<Tekst> uit;
-    const auto lengte = std::min(keuze.size(), groepscode.size());
-    if (!GelijkInHoofdletters(keuze.substr(0, lengte), groepscode))
-        return uit;
-    const Tekstblik subgroep = keuze.substr(lengte);
+    const Tekst gezocht = Hoofdletters(keuze);
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         if (tabel.Cel(rij, Kolom::Groep) == groepscode &&
-            GelijkInHoofdletters(tabel.Cel(rij, Kolom::NBBgr), subgroep) &&
+            Hoofdletters(Tekst(groepscode).append(tabel.Cel(rij, Kolom::NBBgr))) == gezocht &&
             !IsOverleden(tabel.Cel(rij, Kolom::Status)))
             uit.push_back(Spelerregel(tabel, rij));
     }
@@ -41,32 +28,44 @@ std::vector<Tekst> BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groeps
     return uit;
 }
 
-/// A line of the sort buffer `L9`: name, key and place, so that equal names keep their order.
-Tekst Sorteerregel(Tekstblik paarregel, std::size_t plaats, int breedte)
-{
-    const Paarspeler speler = LinkerSpeler(paarregel);
-    Tekst regel(speler.naam);
-    regel += ' ';
-    regel += speler.key;
-    regel += ' ';
-    regel += MetNullen(static_cast<std::int64_t>(plaats), breedte);
-    return regel;
-}
+/// Which line is the first that contains a key, as a search from the top finds it: anywhere in the
+/// line, a player's name included. Only keys of the pairs it was made for can be asked, so that one
+/// walk through the lines finds where each of them stands.
+class Regelzoeker {
+  public:
+    Regelzoeker(const std::vector<Tekst>& regels, const Paartekens& paren) : weg_(regels.size())
+    {
+        for (const Tekst& paar : paren) {
+            regelsMet_[Eerste6(paar)];
+            regelsMet_[Laatste6(paar)];
+        }
+        for (std::size_t i = regels.size(); i-- > 0;) {
+            const Tekstblik regel = regels[i];
+            for (std::size_t begin = 0; begin < regel.size(); ++begin) {
+                const auto plek = regelsMet_.find(Eerste6(regel.substr(begin)));
+                if (plek != regelsMet_.end())
+                    plek->second.push_back(i);
+            }
+        }
+    }
 
-/// Three digits as the suite has them, and more when there are more than a thousand pairs.
-int Plaatsbreedte(std::size_t paren)
-{
-    constexpr std::size_t drie = 3;
-    return static_cast<int>(std::max(drie, std::to_string(paren).size()));
-}
+    /// The first line left that contains the key. That line is taken out.
+    std::optional<std::size_t> NeemEerste(Tekstblik key)
+    {
+        std::vector<std::size_t>& regels = regelsMet_.at(key);
+        while (!regels.empty() && weg_[regels.back()])
+            regels.pop_back();
+        if (regels.empty())
+            return std::nullopt;
+        weg_[regels.back()] = true;
+        return regels.back();
+    }
+    [[nodiscard]] bool IsWeg(std::size_t regel) const { return weg_[regel]; }
 
-std::size_t PlaatsUit(Tekstblik sorteerregel, int breedte)
-{
-    const Tekstblik cijfers = sorteerregel.substr(sorteerregel.size() - Index(breedte));
-    std::size_t plaats = 0;
-    std::from_chars(cijfers.data(), cijfers.data() + cijfers.size(), plaats);
-    return plaats;
-}
+  private:
+    std::unordered_map<Tekstblik, std::vector<std::size_t>> regelsMet_; ///< from the bottom up
+    std::vector<bool> weg_;
+};
 
 } // namespace
 
@@ -75,11 +74,9 @@ std::vector<Tekst> VulGroepSubgroepen(const Spelertabel& tabel, Tekstblik groeps
     std::vector<Tekst> lstHulp;
     std::unordered_set<Tekstblik> gezien;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) != groepscode ||
-            !gezien.insert(tabel.Cel(rij, Kolom::NBBgr)).second)
-            continue;
-        lstHulp.emplace_back(groepscode);
-        lstHulp.back() += tabel.Cel(rij, Kolom::NBBgr);
+        const Tekstblik subgroep = tabel.Cel(rij, Kolom::NBBgr);
+        if (tabel.Cel(rij, Kolom::Groep) == groepscode && gezien.insert(subgroep).second)
+            lstHulp.push_back(Tekst(groepscode).append(subgroep));
     }
     return lstHulp;
 }
@@ -88,10 +85,9 @@ bool IsOverleden(Tekstblik status)
 {
     constexpr std::size_t kortste = 5;
     constexpr Tekstblik woord = "OVERLEDEN";
-    if (ZonderSpaties(status).size() < kortste)
-        return false;
     const Tekst hoofdletters = Hoofdletters(ZonderSpaties(status));
-    return hoofdletters.find(woord) != Tekst::npos || woord.starts_with(hoofdletters);
+    return hoofdletters.size() >= kortste &&
+           (hoofdletters.find(woord) != Tekst::npos || woord.starts_with(hoofdletters));
 }
 
 Tekst Paren::LaadSubgroep(const Spelertabel& tabel, Tekstblik groepscode, Tekstblik keuze,
@@ -104,94 +100,70 @@ Tekst Paren::LaadSubgroep(const Spelertabel& tabel, Tekstblik groepscode, Tekstb
     return losse;
 }
 
-Tekst Paren::Keuze(int plaats) const
-{
-    return Keuzeregel(lalle_[Index(plaats)]);
-}
-
 /// Puts the pairs in their list and takes their players out of the available ones.
 Tekst Paren::ToonParen(const Paartekens& paren)
 {
     Tekst losse;
     Regelzoeker zoeker(lalle_, paren);
-    bool los = false;
-    const auto speler = [&](Tekstblik key) {
-        const int regel = zoeker.NeemEerste(key);
-        los = los || regel < 0;
-        Tekst metNaam(key);
-        metNaam += ' ';
-        metNaam += regel < 0 ? OnbekendeNaam : Spelernaam(lalle_[Index(regel)]);
-        return metNaam;
-    };
-    l3_.reserve(paren.size());
     for (const Tekst& paar : paren) {
-        los = false;
+        bool los = false;
+        const auto speler = [&](Tekstblik key) {
+            const auto regel = zoeker.NeemEerste(key);
+            los = los || !regel;
+            return Tekst(key).append(" ").append(regel ? Spelernaam(lalle_[*regel])
+                                                       : OnbekendeNaam);
+        };
         const Tekst links = speler(Eerste6(paar));
         const Tekst rechts = speler(Laatste6(paar));
         if (los)
             losse.append(links).append(" - ").append(rechts).append("\r\n");
         l3_.push_back(Paarregel(links, rechts));
     }
-    std::size_t plaats = 0;
-    std::erase_if(lalle_, [&](const Tekst&) { return zoeker.IsWeg(plaats++); });
+    std::size_t regel = 0;
+    std::erase_if(lalle_, [&](const Tekst&) { return zoeker.IsWeg(regel++); });
     return losse;
 }
 
 int Paren::MaakPaar(int links, int rechts)
 {
-    const Tekst linkerregel = Keuze(links);
-    const Tekst rechterregel = Keuze(rechts);
-    const int plaats = VoegPaarToe(Paarregel(linkerregel, rechterregel));
+    const Tekst linkerkeuze = Keuze(links);
+    const Tekst rechterkeuze = Keuze(rechts);
+    const Tekst paar = Paarregel(linkerkeuze, rechterkeuze);
+    l3_.push_back(paar);
+    Sorteer();
     // Every line that contains a key goes, a key in somebody else's name included.
     std::erase_if(lalle_, [&](const Tekst& regel) {
-        return regel.find(Eerste6(linkerregel)) != Tekst::npos ||
-               regel.find(Eerste6(rechterregel)) != Tekst::npos;
+        return regel.find(Eerste6(linkerkeuze)) != Tekst::npos ||
+               regel.find(Eerste6(rechterkeuze)) != Tekst::npos;
     });
-    return plaats;
+    return static_cast<int>(std::find(l3_.begin(), l3_.end(), paar) - l3_.begin());
 }
 
-/// The list is in order, so the pair goes where sorting would bring it from the end.
-int Paren::VoegPaarToe(Tekst paarregel)
+void Paren::Ontbind(int regel)
 {
-    const int breedte = Plaatsbreedte(l3_.size() + 1);
-    const auto plek =
-        std::upper_bound(l3_.begin(), l3_.end(), Sorteerregel(paarregel, l3_.size(), breedte),
-                         [&](const Tekst& nieuw, const Tekst& regel) {
-                             const auto plaats = static_cast<std::size_t>(&regel - l3_.data());
-                             return KomtVoor(nieuw, Sorteerregel(regel, plaats, breedte));
-                         });
-    const auto plaats = plek - l3_.begin();
-    l3_.insert(plek, std::move(paarregel));
-    return static_cast<int>(plaats);
-}
-
-void Paren::VoegSpelerToe(Tekst spelerregel)
-{
-    const auto plek = std::upper_bound(lalle_.begin(), lalle_.end(), spelerregel, KomtVoor);
-    lalle_.insert(plek, std::move(spelerregel));
-}
-
-void Paren::Ontbind(int plaats)
-{
-    const Tekst regel = std::move(l3_[Index(plaats)]);
-    l3_.erase(l3_.begin() + plaats);
-    VoegSpelerToe(LinkerSpeler(regel).AlsSpelerregel());
-    VoegSpelerToe(RechterSpeler(regel).AlsSpelerregel());
+    const Tekst paar = std::move(l3_.at(Index(regel)));
+    l3_.erase(l3_.begin() + regel);
+    lalle_.push_back(LinkerSpeler(paar).AlsSpelerregel());
+    lalle_.push_back(RechterSpeler(paar).AlsSpelerregel());
+    plexoran::Sorteer(lalle_);
 }
 
 void Paren::Sorteer()
 {
-    const int breedte = Plaatsbreedte(l3_.size());
-    std::vector<Tekst> l9;
-    l9.reserve(l3_.size());
-    for (std::size_t i = 0; i < l3_.size(); ++i)
-        l9.push_back(Sorteerregel(l3_[i], i, breedte));
-    plexoran::Sorteer(l9);
-    std::vector<Tekst> gesorteerd;
-    gesorteerd.reserve(l3_.size());
-    for (const Tekst& regel : l9)
-        gesorteerd.push_back(std::move(l3_[PlaatsUit(regel, breedte)]));
-    l3_ = std::move(gesorteerd);
+    // Three digits as the suite has them, and more when there are more than a thousand pairs.
+    const auto breedte = std::max<std::size_t>(3, std::to_string(l3_.size()).size());
+    std::vector<std::pair<Tekst, Tekst>> l9;
+    for (Tekst& regel : l3_) {
+        const Paarspeler speler = LinkerSpeler(regel);
+        Tekst sleutel(speler.naam);
+        sleutel.append(" ").append(speler.key).append(" ");
+        sleutel += MetNullen(static_cast<std::int64_t>(l9.size()), static_cast<int>(breedte));
+        l9.emplace_back(Sorteersleutel(sleutel), std::move(regel));
+    }
+    std::sort(l9.begin(), l9.end());
+    l3_.clear();
+    for (auto& [sleutel, regel] : l9)
+        l3_.push_back(std::move(regel));
 }
 
 } // namespace plexoran

@@ -25,24 +25,23 @@ class Paren {
 
     /// The lines of the available players, in text order.
     [[nodiscard]] const std::vector<Tekst>& Lalle() const { return lalle_; }
-    /// The line of the choice lists at that place.
-    [[nodiscard]] Tekst Keuze(int plaats) const;
+    /// What the choice lists show of such a line.
+    [[nodiscard]] Tekst Keuze(int regel) const { return Keuzeregel(lalle_.at(Index(regel))); }
     /// The lines of the pairs, in the order of their first player's names.
     [[nodiscard]] const std::vector<Tekst>& L3() const { return l3_; }
 
-    /// Makes a pair of the players at these two places of the choice lists; both are taken out, and
-    /// so is every line that contains one of their keys. The answer is the pair's place.
+    /// Makes a pair of the players in these two lines of `Lalle`; both are taken out, and so is
+    /// every line that contains one of their keys. The answer is the pair's line in `L3`.
     int MaakPaar(int links, int rechts);
-    /// Takes a pair out; its players come back, whoever they are.
-    void Ontbind(int plaats);
+    /// Takes a pair out of `L3`; its players come back, whoever they are.
+    void Ontbind(int regel);
     /// Orders the pairs by the first player's name and key, then as they stood.
     void Sorteer();
     void WisParen() { l3_.clear(); }
 
   private:
+    [[nodiscard]] static std::size_t Index(int regel) { return static_cast<std::size_t>(regel); }
     [[nodiscard]] Tekst ToonParen(const Paartekens& paren);
-    int VoegPaarToe(Tekst paarregel);
-    void VoegSpelerToe(Tekst spelerregel);
 
     std::vector<Tekst> lalle_;
     std::vector<Tekst> l3_;

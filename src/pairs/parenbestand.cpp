@@ -11,7 +11,7 @@ namespace plexoran {
 namespace {
 
 constexpr std::size_t Tekenlengte = 13;
-constexpr std::size_t Streepplaats = Sleutellengte;
+constexpr std::size_t Streep = 6; // where it stands in a token
 
 /// Calls `stuk` with every piece between the "#" of the last line.
 template <class Stuk> void LoopDoorStukken(Tekstblik inhoud, const Stuk& stuk)
@@ -30,10 +30,7 @@ template <class Stuk> void LoopDoorStukken(Tekstblik inhoud, const Stuk& stuk)
 
 Tekst Paarteken(Tekstblik key1, Tekstblik key2)
 {
-    Tekst paar(key1);
-    paar += '-';
-    paar += key2;
-    return paar;
+    return Tekst(key1).append("-").append(key2);
 }
 
 } // namespace
@@ -60,9 +57,7 @@ std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze)
 {
     if (!GeweigerdeTekens(keuze).empty())
         return std::nullopt;
-    Pad pad = Samen(Parenmap(mappen), keuze);
-    pad += ".txt";
-    return pad;
+    return Samen(Parenmap(mappen), keuze) + ".txt";
 }
 
 Paartekens PaartekensUit(Tekstblik inhoud)
@@ -77,12 +72,11 @@ Paartekens PaartekensUit(Tekstblik inhoud)
 
 bool IsParenbestand(Tekstblik inhoud)
 {
-    int regels = 0;
-    for ([[maybe_unused]] const Tekstblik regel : Regels(inhoud))
-        ++regels;
-    bool alleenParen = regels <= 1;
+    const auto regels = Regels(inhoud);
+    auto tweede = regels.begin();
+    bool alleenParen = tweede == regels.end() || ++tweede == regels.end();
     LoopDoorStukken(inhoud, [&](Tekstblik stuk) {
-        const bool paar = stuk.size() == Tekenlengte && stuk[Streepplaats] == '-';
+        const bool paar = stuk.size() == Tekenlengte && stuk[Streep] == '-';
         alleenParen = alleenParen && (stuk.empty() || paar);
     });
     return alleenParen;
@@ -102,17 +96,12 @@ Uitkomst<Parenlezing> LeesParenbestand(Schijf& schijf, const Mappen& mappen, Tek
 std::optional<Tekst> ParenTekst(std::span<const Tekst> regels)
 {
     Tekst tekst;
-    tekst.reserve(regels.size() * (Tekenlengte + 1) + 2);
     for (const Tekst& regel : regels) {
-        if (Plusplaats(regel) == Tekst::npos)
+        if (Plusplek(regel) == Tekst::npos)
             return std::nullopt;
-        tekst += LinkerSpeler(regel).key;
-        tekst += '-';
-        tekst += RechterSpeler(regel).key;
-        tekst += '#';
+        tekst += Paarteken(LinkerSpeler(regel).key, RechterSpeler(regel).key) + "#";
     }
-    tekst += "\r\n";
-    return tekst;
+    return tekst + "\r\n";
 }
 
 Uitkomst<void> BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
@@ -123,10 +112,8 @@ Uitkomst<void> BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze
     const auto tekst = ParenTekst(regels);
     const auto pad = Parenbestand(mappen, keuze);
     if (!tekst || !pad)
-        return tl::unexpected(Fout{.soort = tekst ? Foutsoort::Geweigerd : Foutsoort::Beschadigd,
-                                   .bestand = {},
-                                   .regel = 0,
-                                   .systeem = {}});
+        return tl::unexpected(
+            Fout{tekst ? Foutsoort::Geweigerd : Foutsoort::Beschadigd, {}, 0, {}});
     const auto magWeg = [&](Tekstblik oud) { return gelezen == oud && IsParenbestand(oud); };
     return VervangMetKopie(schijf, mappen.SPEMAP, *pad, *tekst, magWeg);
 }

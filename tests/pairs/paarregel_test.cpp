@@ -59,8 +59,8 @@ TEST(Paarregel, SpatiesRondDeDelenTellenNietMee)
 
 TEST(Paarregel, ZonderTienSpatiesTeltHetEerstePlusteken)
 {
-    EXPECT_EQ(8U, Plusplaats("100234 F+100417 B+c"));
-    EXPECT_EQ(Tekst::npos, Plusplaats("100234 F - 100417 B"));
+    EXPECT_EQ(8U, Plusplek("100234 F+100417 B+c"));
+    EXPECT_EQ(Tekst::npos, Plusplek("100234 F - 100417 B"));
 }
 
 /// A "+" in a name must not tear the pair apart.
