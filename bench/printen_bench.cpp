@@ -7,7 +7,6 @@
 
 #include "hulp/meten.h"
 #include "hulp/register.h"
-#include "platform/scherm/letterkast.h"
 #include "platform/scherm/schildervlak.h"
 #include "platform/tekst/tekstorde.h"
 #include "printing/bladtekenen.h"

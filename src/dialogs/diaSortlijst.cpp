@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 
 namespace plexoran {
 namespace {

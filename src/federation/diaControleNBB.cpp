@@ -277,20 +277,15 @@ void diaControleNBB::Print()
     const Controlerijen rijen =
         Rijen(TekensNaastElkaar(kast_, controleblad::Breed - 2 * controleblad::Marge));
     const int bladen = ControlebladenVoor(rijen.Aantal());
-    const QString titel = u"Controle NBB-spelers"_s;
-    const auto printer =
-        KiesPrinter(administratie_.schijf,
-                    {.titel = titel, .stand = Papierstand::Staand, .bladen = bladen}, this);
-    if (!printer)
-        return;
-    PrintBladen(
-        *printer,
-        {.titel = titel,
+    const bool gekozen = PrintBladen(
+        administratie_.schijf,
+        {.titel = u"Controle NBB-spelers"_s,
          .stand = Papierstand::Staand,
          .bezig = u"De lijst wordt geprint"_s,
-         .bladen = printer->Keus().Bladen(bladen, 1)},
+         .bladen = bladen},
         [&](Tekenvlak& vlak, int blad) { TekenControleblad(vlak, rijen, blad, bladen); }, this);
-    Teken();
+    if (gekozen)
+        Teken();
 }
 
 } // namespace plexoran

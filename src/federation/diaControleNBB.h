@@ -9,8 +9,8 @@
 
 #include "federation/controlelijst.h"
 #include "federation/ledenbestand.h"
-#include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/schildervlak.h"
 #include "platform/scherm/tabelvlak.h"
 #include "register/administratie.h"
 

@@ -2,9 +2,11 @@
 
 #include <QVBoxLayout>
 
+#include <numeric>
+
 #include "help/tekstblad.h"
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 
 namespace plexoran {
 namespace {
@@ -96,20 +98,13 @@ Uitkomst<void> frmToelichting::PrintTekst() const
     const auto printer = printer_();
     if (!printer)
         return tl::unexpected(printer.error());
-    const auto taak = printer->Begin(Papierstand::Staand, windowTitle());
-    if (!taak)
-        return tl::unexpected(taak.error());
-    const Tekst tekst = NaarTekst(Text1->toPlainText());
-    bool eerste = true;
-    for (const auto& regels : Tekstbladen(tekst, (*taak)->Vlak().Meter())) {
-        if (!eerste) {
-            if (auto blad = (*taak)->NieuwBlad(); !blad)
-                return blad;
-        }
-        eerste = false;
-        TekenTekstblad((*taak)->Vlak(), regels);
-    }
-    return (*taak)->Eind();
+    const auto bladen = Tekstbladen(NaarTekst(Text1->toPlainText()), Letterkast());
+    std::vector<int> nummers(bladen.size());
+    std::iota(nummers.begin(), nummers.end(), 0);
+    return printer->Druk({.titel = windowTitle(), .stand = Papierstand::Staand}, nummers,
+                         [&](Tekenvlak& vlak, int blad) {
+                             TekenTekstblad(vlak, bladen[static_cast<std::size_t>(blad)]);
+                         });
 }
 
 } // namespace plexoran

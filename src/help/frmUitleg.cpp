@@ -3,7 +3,7 @@
 #include <QVBoxLayout>
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 
 namespace plexoran {
 namespace {

@@ -1,8 +1,8 @@
 #include "mainwindow/rooster.h"
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/schildervlak.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {

@@ -8,7 +8,7 @@
 
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 #include "platform/scherm/schuifblad.h"
 
 namespace plexoran {

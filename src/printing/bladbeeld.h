@@ -2,9 +2,9 @@
 // and minus. At 100 % a millimetre of the page is one of the screen.
 #pragma once
 
-#include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
-#include "platform/scherm/schuifkader.h"
+#include "platform/scherm/schildervlak.h"
+#include "platform/scherm/schuifblad.h"
 #include "printing/bladtekenen.h"
 
 namespace plexoran {

@@ -237,28 +237,16 @@ bool frmAfdrukken::Verwerk(const QKeyEvent& toets)
 
 // ---------------------------------------------------------------- printing
 
-QString frmAfdrukken::Titel() const
-{
-    return u"Ledenlijst "_s + NaarQString(CodeUit(lijst_.groeptekst)).left(4);
-}
-
 void frmAfdrukken::Print()
 {
     const Bladindeling& indeling = lijst_.indeling;
-    const auto printer = KiesPrinter(administratie_.schijf,
-                                     {.titel = Titel(),
-                                      .stand = indeling.papier.stand,
-                                      .bladen = indeling.ToonbareBladen(),
-                                      .bladInBeeld = true},
-                                     this);
-    if (!printer)
-        return;
     PrintBladen(
-        *printer,
-        {.titel = Titel(),
+        administratie_.schijf,
+        {.titel = u"Ledenlijst "_s + NaarQString(CodeUit(lijst_.groeptekst)).left(4),
          .stand = indeling.papier.stand,
          .bezig = u"De bladen worden geprint"_s,
-         .bladen = printer->Keus().Bladen(indeling.ToonbareBladen(), Bladscroll->value())},
+         .bladen = indeling.ToonbareBladen(),
+         .bladInBeeld = [this] { return Bladscroll->value(); }},
         [this](Tekenvlak& vlak, int blad) { TekenBlad(vlak, lijst_, blad); }, this);
 }
 

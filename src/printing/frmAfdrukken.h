@@ -46,7 +46,6 @@ class frmAfdrukken : public QDialog {
     void ToonBlad(int blad);
     [[nodiscard]] bool Verwerk(const QKeyEvent& toets);
     void Print();
-    [[nodiscard]] QString Titel() const;
 
     Administratie& administratie_;
     Maten maten_;

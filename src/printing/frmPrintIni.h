@@ -8,9 +8,9 @@
 #include <QPushButton>
 
 #include "platform/scherm/inrichting.h"
-#include "platform/scherm/letterkast.h"
 #include "platform/scherm/maten.h"
 #include "platform/scherm/regellijst.h"
+#include "platform/scherm/schildervlak.h"
 #include "printing/printtabel.h"
 #include "register/administratie.h"
 

@@ -7,7 +7,7 @@
 
 #include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 
 using namespace plexoran;
 

@@ -1,6 +1,9 @@
 #include "platform/scherm/printer.h"
 
+#include <QBuffer>
 #include <QFileDialog>
+#include <QLibrary>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -11,7 +14,9 @@
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/maten.h"
+#include "platform/scherm/schildervlak.h"
 #include "platform/scherm/tekstbrug.h"
+#include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/programma.h"
 
 namespace plexoran {
@@ -59,13 +64,6 @@ void VerbergLosseBladen(const QPrintDialog& dialoog)
     }
 }
 
-Printeraanbod HuidigAanbod()
-{
-    if (DialoogVanQt)
-        return {.pdfInDialoog = true};
-    return {.printers = QPrinterInfo::availablePrinterNames()};
-}
-
 /// Printers that make a PDF file say so by their name.
 bool MaaktPdf(const QStringList& printers)
 {
@@ -75,7 +73,7 @@ bool MaaktPdf(const QStringList& printers)
 }
 
 /// A PDF file by the dialog of the system; all pages go into it.
-std::optional<Printer> VraagPdf(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
+std::optional<Printer> VraagPdf(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
 {
     QFileDialog kiezer(ouder, u"Opslaan als PDF-bestand"_s);
     Noem(&kiezer, u"CommonDialog1"_s);
@@ -83,20 +81,20 @@ std::optional<Printer> VraagPdf(Schijf& schijf, const Printvraag& vraag, QWidget
     kiezer.setNameFilter(u"PDF-bestanden (*.pdf)"_s);
     kiezer.setDefaultSuffix(u"pdf"_s);
     kiezer.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    kiezer.selectFile(vraag.titel + u".pdf"_s);
+    kiezer.selectFile(werk.titel + u".pdf"_s);
     if (kiezer.exec() != QDialog::Accepted)
         return std::nullopt;
     return Printer(schijf, VolledigPad(kiezer.selectedFiles().constFirst().toStdString()),
                    {.soort = Bladkeus::Soort::Alle});
 }
 
-std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
+std::optional<Printer> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    printer->setDocName(vraag.titel);
+    printer->setDocName(werk.titel);
     printer->setPageSize(QPageSize(QPageSize::A4));
-    printer->setPageOrientation(vraag.stand == Papierstand::Staand ? QPageLayout::Portrait
-                                                                   : QPageLayout::Landscape);
+    printer->setPageOrientation(werk.stand == Papierstand::Staand ? QPageLayout::Portrait
+                                                                  : QPageLayout::Landscape);
     printer->setPrintRange(QPrinter::PageRange);
 
     QPrintDialog dialoog(printer.get(), ouder);
@@ -105,9 +103,9 @@ std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, QWi
     dialoog.setOptions(QAbstractPrintDialog::PrintPageRange |
                        QAbstractPrintDialog::PrintCollateCopies);
     dialoog.setOption(QAbstractPrintDialog::PrintToFile, DialoogVanQt);
-    dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, vraag.bladInBeeld);
-    dialoog.setMinMax(1, std::max(1, vraag.bladen));
-    dialoog.setFromTo(1, std::max(1, vraag.bladen));
+    dialoog.setOption(QAbstractPrintDialog::PrintCurrentPage, static_cast<bool>(werk.bladInBeeld));
+    dialoog.setMinMax(1, werk.bladen);
+    dialoog.setFromTo(1, werk.bladen);
     VerbergLosseBladen(dialoog);
     if (dialoog.exec() != QDialog::Accepted)
         return std::nullopt;
@@ -120,26 +118,50 @@ std::optional<Printer> VraagSysteem(Schijf& schijf, const Printvraag& vraag, QWi
     return Printer(std::move(printer), keus);
 }
 
-/// How many of the pages come out.
-Uitkomst<std::size_t> DrukBladen(const Printer& printer, const Printgang& gang,
-                                 const Bladtekenaar& teken, QWidget* ouder)
+QPageLayout HeleVel(Papierstand stand)
 {
-    frmVoortgang voortgang(gang.bezig, u"&Stoppen na dit blad"_s, ouder);
-    auto taak = printer.Begin(gang.stand, gang.titel);
-    if (!taak)
-        return tl::unexpected(taak.error());
+    QPageLayout vel(QPageSize(QPageSize::A4),
+                    stand == Papierstand::Staand ? QPageLayout::Portrait : QPageLayout::Landscape,
+                    QMarginsF(), QPageLayout::Millimeter);
+    vel.setMode(QPageLayout::FullPageMode);
+    return vel;
+}
+
+/// What the print server said of the job that this thread just handed over, when it refused it. Qt
+/// does not tell; the server's own library, which Qt has loaded by then, remembers it.
+std::optional<std::string> Serverfout()
+{
+#ifdef Q_OS_UNIX
+    constexpr int eersteFout = 0x0400; // below it are the shades of success
+    QLibrary cups(u"cups"_s, 2);
+    cups.setLoadHints(QLibrary::PreventUnloadHint);
+    const auto laatste = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
+    const auto tekst = reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
+    if (laatste != nullptr && tekst != nullptr && laatste() >= eersteFout) {
+        const char* woorden = tekst();
+        return woorden == nullptr ? std::string() : std::string(woorden);
+    }
+#endif
+    return std::nullopt;
+}
+
+/// Whether the device took all that was drawn on it.
+bool TekenBladen(QPagedPaintDevice& apparaat, QPainter& schilder, int puntenPerInch,
+                 const std::vector<int>& bladen, const Bladtekenaar& teken, const Voortgang& verder)
+{
+    constexpr double mmPerInch = 25.4;
+    if (!schilder.begin(&apparaat))
+        return false;
+    const Letterkast kast;
+    Schildervlak vlak(schilder, kast, puntenPerInch / mmPerInch, Schildervlak::Doel::Papier);
     std::size_t gedaan = 0;
     do {
-        if (gedaan > 0) {
-            if (const auto nieuw = (*taak)->NieuwBlad(); !nieuw)
-                return tl::unexpected(nieuw.error());
-        }
-        teken((*taak)->Vlak(), gang.bladen[gedaan]);
+        if (gedaan > 0 && !apparaat.newPage())
+            return false;
+        teken(vlak, bladen[gedaan]);
         ++gedaan;
-    } while (voortgang.Meld(gedaan, gang.bladen.size()) && gedaan < gang.bladen.size());
-    if (const auto eind = (*taak)->Eind(); !StaatEr(ouder, eind))
-        return tl::unexpected(eind.error());
-    return gedaan;
+    } while ((!verder || verder(gedaan, bladen.size())) && gedaan < bladen.size());
+    return schilder.end();
 }
 
 } // namespace
@@ -168,23 +190,64 @@ Printer::Printer(Schijf& schijf, Pad bestand, Bladkeus keus)
     : schijf_(&schijf), bestand_(std::move(bestand)), keus_(keus)
 {}
 
-Uitkomst<std::unique_ptr<Printtaak>> Printer::Begin(Papierstand stand, const QString& titel) const
+Uitkomst<void> Printer::Druk(const Printwerk& werk, const std::vector<int>& bladen,
+                             const Bladtekenaar& teken, const Voortgang& verder) const
 {
-    if (!printer_)
-        return MaakPdfTaak(*schijf_, bestand_, stand, titel);
-    return MaakPrintertaak(printer_, stand, titel);
+    const auto weigering = [](const std::string& waar, const std::string& systeem = {}) {
+        return tl::unexpected(
+            Fout{.soort = Foutsoort::Geweigerd, .bestand = waar, .regel = 0, .systeem = systeem});
+    };
+    const auto richtIn = [&](auto& apparaat) {
+        apparaat.setPageLayout(HeleVel(werk.stand));
+        apparaat.setCreator(u"Plexoran"_s);
+    };
+    if (!printer_) {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        {
+            QPdfWriter schrijver(&buffer); // which writes the last of it when it goes
+            QPainter schilder;
+            schrijver.setResolution(1200);
+            schrijver.setTitle(werk.titel);
+            richtIn(schrijver);
+            if (!TekenBladen(schrijver, schilder, schrijver.resolution(), bladen, teken, verder))
+                return weigering(schijf_->Toonpad(bestand_));
+        }
+        const auto streep = bestand_.find_last_of("\\/");
+        RuimTijdelijkeOp(*schijf_, bestand_.substr(0, streep), bestand_.substr(streep + 1));
+        return SchrijfHeel(*schijf_, bestand_, buffer.buffer().toStdString());
+    }
+    const std::string naam = printer_->printerName().toStdString();
+    printer_->setFullPage(true);
+    printer_->setDocName(werk.titel);
+    richtIn(*printer_);
+    QPainter schilder;
+    if (!TekenBladen(*printer_, schilder, printer_->resolution(), bladen, teken, verder)) {
+        if (schilder.isActive())
+            printer_->abort();
+        return weigering(naam);
+    }
+    if (printer_->printerState() == QPrinter::Error)
+        return weigering(naam);
+    if (printer_->outputFormat() == QPrinter::NativeFormat) {
+        if (const auto fout = Serverfout())
+            return weigering(naam, *fout);
+    }
+    return {};
 }
 
-std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag, QWidget* ouder)
+Printeraanbod HuidigAanbod()
 {
-    return KiesPrinter(schijf, vraag, HuidigAanbod(), ouder);
+    if (DialoogVanQt)
+        return {.pdfInDialoog = true};
+    return {.printers = QPrinterInfo::availablePrinterNames()};
 }
 
-std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
-                                   const Printeraanbod& aanbod, QWidget* ouder)
+std::optional<Printer> KiesPrinter(Schijf& schijf, const Printwerk& werk, QWidget* ouder,
+                                   const Printeraanbod& aanbod)
 {
     if (aanbod.pdfInDialoog || MaaktPdf(aanbod.printers))
-        return VraagSysteem(schijf, vraag, ouder);
+        return VraagSysteem(schijf, werk, ouder);
     enum { Printen, Pdf, Annuleren };
     const int antwoord = aanbod.printers.isEmpty()
                              ? Pdf
@@ -193,22 +256,35 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
                                     {u"Printen..."_s, u"PDF-bestand..."_s, u"Annuleren"_s});
     if (antwoord == Annuleren)
         return std::nullopt;
-    return antwoord == Pdf ? VraagPdf(schijf, vraag, ouder) : VraagSysteem(schijf, vraag, ouder);
+    return antwoord == Pdf ? VraagPdf(schijf, werk, ouder) : VraagSysteem(schijf, werk, ouder);
 }
 
-void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,
-                 QWidget* ouder)
+bool PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teken, QWidget* ouder)
 {
-    if (gang.bladen.empty())
-        return;
-    const auto geprint = DrukBladen(printer, gang, teken, ouder);
-    if (!geprint)
+    const auto printer = KiesPrinter(schijf, werk, ouder);
+    if (!printer)
+        return false;
+    const auto bladen =
+        printer->Keus().Bladen(werk.bladen, werk.bladInBeeld ? werk.bladInBeeld() : 1);
+    if (bladen.empty())
+        return true;
+    std::size_t gedaan = 0;
+    Uitkomst<void> geprint;
+    {
+        frmVoortgang voortgang(werk.bezig, u"&Stoppen na dit blad"_s, ouder);
+        geprint = printer->Druk(werk, bladen, teken, [&](std::size_t nu, std::size_t geheel) {
+            gedaan = nu;
+            return voortgang.Meld(nu, geheel);
+        });
+    }
+    if (!StaatEr(ouder, geprint))
         MeldPrintfout(ouder, geprint.error());
-    else if (*geprint < gang.bladen.size())
+    else if (gedaan < bladen.size())
         Meld(ouder, QMessageBox::Information,
              u"Het printen is gestopt na %1 van de %2 bladen. De overige bladen kunt u later "
-             "printen."_s.arg(*geprint)
-                 .arg(gang.bladen.size()));
+             "printen."_s.arg(gedaan)
+                 .arg(bladen.size()));
+    return true;
 }
 
 Uitkomst<Printer> StandaardPrinter()

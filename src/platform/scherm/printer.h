@@ -5,11 +5,15 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
-#include "platform/scherm/printtaak.h"
+#include "platform/schijf/schijf.h"
+#include "platform/schijf/voortgang.h"
+#include "platform/tekst/tekenvlak.h"
 
+class QPrinter;
 class QWidget;
 
 namespace plexoran {
@@ -28,17 +32,34 @@ struct Bladkeus {
     [[nodiscard]] std::vector<int> Bladen(int totaal, int huidig) const;
 };
 
+/// Pages to print, all of one orientation. A page is the whole sheet of A4; its margins are the
+/// drawer's business.
+struct Printwerk {
+    QString titel{}; ///< names the job, and the file that is proposed for a PDF
+    Papierstand stand = Papierstand::Staand;
+    QString bezig{}; ///< what the progress window says
+    int bladen = 1;  ///< how many there are to choose from
+    /// That can be chosen as such, asked after the choice; empty: there is none.
+    std::function<int()> bladInBeeld{};
+};
+
+/// Draws page `blad` on the surface.
+using Bladtekenaar = std::function<void(Tekenvlak& vlak, int blad)>;
+
 /// A printer that was chosen.
 class Printer {
   public:
     /// A printer of the system.
     Printer(std::shared_ptr<QPrinter> printer, Bladkeus keus);
-    /// A PDF file.
+    /// A PDF file, written whole when all pages are drawn.
     Printer(Schijf& schijf, Pad bestand, Bladkeus keus = {});
 
     [[nodiscard]] const Bladkeus& Keus() const { return keus_; }
-    [[nodiscard]] Uitkomst<std::unique_ptr<Printtaak>> Begin(Papierstand stand,
-                                                             const QString& titel) const;
+    /// Prints these pages, of which there is one at least, and those that were drawn when
+    /// `verder`, asked after each, wants no more. `Geweigerd` when the printer does not take them.
+    [[nodiscard]] Uitkomst<void> Druk(const Printwerk& werk, const std::vector<int>& bladen,
+                                      const Bladtekenaar& teken,
+                                      const Voortgang& verder = {}) const;
 
   private:
     std::shared_ptr<QPrinter> printer_; ///< none for a PDF file
@@ -47,43 +68,24 @@ class Printer {
     Bladkeus keus_;
 };
 
-struct Printvraag {
-    QString titel;            ///< names the job, and the file that is proposed for a PDF
-    Papierstand stand;        ///< of the pages
-    int bladen = 1;           ///< how many there are to choose from
-    bool bladInBeeld = false; ///< the page in view is one to choose
-};
-
 /// What the system has to print on.
 struct Printeraanbod {
     bool pdfInDialoog = false; ///< its print dialog adds a PDF file to the printers by itself
     QStringList printers{};    ///< by the names that the system gives them
 };
+[[nodiscard]] Printeraanbod HuidigAanbod();
 
 /// The print dialog of the system, which proposes all pages as a range; nothing when the user
 /// cancels it. Where it has neither a PDF file nor a printer that makes one, the user is first
-/// asked which of both he wants. `aanbod` is what there is now.
-[[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
-                                                 const Printeraanbod& aanbod, QWidget* ouder);
-[[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printvraag& vraag,
-                                                 QWidget* ouder);
+/// asked which of both he wants.
+[[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printwerk& werk,
+                                                 QWidget* ouder,
+                                                 const Printeraanbod& aanbod = HuidigAanbod());
 
-/// What is printed, once a printer was chosen.
-struct Printgang {
-    QString titel; ///< names the job
-    Papierstand stand;
-    QString bezig; ///< what the progress window says
-    std::vector<int> bladen{};
-};
-
-/// Draws page `blad` on the surface.
-using Bladtekenaar = std::function<void(Tekenvlak& vlak, int blad)>;
-
-/// Prints these pages; with none it does nothing. While many go out the user may stop: then the
-/// page that is being drawn is the last, what was drawn comes out, and he is told how much that is.
-/// He is also told of a failure.
-void PrintBladen(const Printer& printer, const Printgang& gang, const Bladtekenaar& teken,
-                 QWidget* ouder);
+/// Lets the user choose a printer and prints the pages that he wants. While many go out he may
+/// stop: then the page that is being drawn is the last, what was drawn comes out, and he is told
+/// how much that is. He is also told of a failure. False when he chose no printer.
+bool PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teken, QWidget* ouder);
 
 /// The default printer of the system; `Ontbreekt` when there is none.
 [[nodiscard]] Uitkomst<Printer> StandaardPrinter();

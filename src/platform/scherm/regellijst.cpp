@@ -10,7 +10,7 @@
 #include <numeric>
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {

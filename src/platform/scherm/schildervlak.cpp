@@ -5,8 +5,57 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/scherm/tekstbrug.h"
+
 namespace plexoran {
 namespace {
+
+constexpr double MmPerPunt = 25.4 / 72.0;
+
+/// The fonts by their names and, behind those, the ones with the same measures.
+struct Soort {
+    const char* naam;
+    const char* gelijke;
+    QFont::StyleHint aard;
+};
+constexpr std::array Soorten{Soort{"Arial", "Liberation Sans", QFont::SansSerif},
+                             Soort{"Courier New", "Liberation Mono", QFont::Monospace},
+                             Soort{"Times New Roman", "Liberation Serif", QFont::Serif}};
+
+QFont Schermletter(Lettertype type, bool vet, int pixels)
+{
+    const Soort& soort = Soorten.at(static_cast<std::size_t>(type));
+    QFont font;
+    font.setFamilies({QString::fromLatin1(soort.naam), QString::fromLatin1(soort.gelijke)});
+    // The font has the whole code page, so no other font need be looked for.
+    font.setStyleHint(soort.aard, QFont::NoFontMerging);
+    font.setPixelSize(pixels);
+    font.setBold(vet);
+    font.setKerning(false);
+    // Hinting would bend the widths towards the dots of one device.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+std::unique_ptr<Lettersnede> Laad(const Letter& letter)
+{
+    auto snede = std::make_unique<Lettersnede>();
+    snede->letter = QRawFont::fromFont(Schermletter(letter.type, letter.vet, Lettersnede::Em));
+    snede->stijging = snede->letter.ascent();
+    snede->daling = snede->letter.descent();
+    for (std::size_t i = 0; i < snede->beeld.size(); ++i) {
+        QChar teken = NaarUtf16(Tekst(1, static_cast<char>(i))).front();
+        if (teken.category() == QChar::Other_Control)
+            teken = u' ';
+        const auto beelden = snede->letter.glyphIndexesForString(QString(teken));
+        if (beelden.isEmpty())
+            continue;
+        snede->beeld[i] = beelden.constFirst();
+        const auto schuif = snede->letter.advancesForGlyphIndexes(beelden.mid(0, 1));
+        snede->meter.opschuiving[i] = schuif.isEmpty() ? 0 : qRound(schuif.constFirst().x());
+    }
+    return snede;
+}
 
 QColor Inkt(Kleur kleur)
 {
@@ -14,6 +63,47 @@ QColor Inkt(Kleur kleur)
 }
 
 } // namespace
+
+double Lettersnede::Mm(double punten)
+{
+    return punten * MmPerPunt / Em;
+}
+
+const Lettersnede& Letterkast::Snede(const Letter& letter) const
+{
+    auto& snede = sneden_.at(2 * static_cast<std::size_t>(letter.type) + (letter.vet ? 1 : 0));
+    if (!snede)
+        snede = Laad(letter);
+    return *snede;
+}
+
+double Letterkast::Breedte(const Letter& letter, Tekstblik tekst) const
+{
+    return static_cast<double>(Snede(letter).meter.Breedte(tekst)) * Lettersnede::Mm(letter.punten);
+}
+
+double Letterkast::Hoogte(const Letter& letter) const
+{
+    const Lettersnede& snede = Snede(letter);
+    return (snede.stijging + snede.daling) * Lettersnede::Mm(letter.punten);
+}
+
+QFont Roosterletter(int pixels)
+{
+    return Schermletter(Lettertype::Arial, false, pixels);
+}
+
+Tekstmeter Roostermeter(int pixels, double pixelsPerMm)
+{
+    constexpr double MicrometerPerMm = 1000.0;
+    const double eenheid = MicrometerPerMm * pixels / (Lettersnede::Em * pixelsPerMm);
+    Tekstmeter meter = Laad({.type = Lettertype::Arial})->meter;
+    for (std::int32_t& opschuiving : meter.opschuiving)
+        opschuiving = qRound(opschuiving * eenheid);
+    return meter;
+}
+
+// ---------------------------------------------------------------- drawing
 
 Schildervlak::Schildervlak(QPainter& schilder, const Letterkast& kast, double eenhedenPerMm,
                            Doel doel, QPointF oorsprong, const QColor& inkt)

@@ -1,9 +1,13 @@
 // What of a window does not fit on the screen scrolls inside it.
 #pragma once
 
+#include <QFrame>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace plexoran {
+
+class Maten;
 
 class Schuifblad : public QScrollArea {
   public:
@@ -19,5 +23,29 @@ class Schuifblad : public QScrollArea {
 /// that is a row of buttons: it stays in sight below. Before the focus and the order of Tab are
 /// set.
 void ZetOpSchuifblad(QWidget* venster);
+
+/// A frame around a surface that draws itself, with both scroll bars beside it: `VScroll1` and
+/// `HScroll1`, 280 twips thick. The wheel scrolls wherever in the frame it turns.
+class Schuifkader : public QFrame {
+    Q_OBJECT
+
+  public:
+    Schuifkader(const QString& naam, const Maten& maten, QWidget* ouder);
+
+    /// The surface is laid beside the bars, with so many pixels free at the left and the right.
+    void Bevat(QWidget* vlak, int links = 0, int rechts = 0);
+
+    [[nodiscard]] QScrollBar& Staand() const { return *VScroll1; }
+    [[nodiscard]] QScrollBar& Liggend() const { return *HScroll1; }
+    /// From now on `zichtbaar` of `geheel` is seen, and a page is so much.
+    static void Stel(QScrollBar& balk, int geheel, int zichtbaar, int bladzij, int stap);
+
+  protected:
+    void wheelEvent(QWheelEvent* gebeurtenis) override;
+
+  private:
+    QScrollBar* HScroll1;
+    QScrollBar* VScroll1;
+};
 
 } // namespace plexoran

@@ -9,7 +9,7 @@
 
 #include <utility>
 
-#include "platform/scherm/schuifkader.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 

@@ -130,7 +130,9 @@ TEST_F(NederlandsTest, DePrintdialoog)
         dialoog.reject();
     });
     (void)KiesPrinter(
-        schijf, {.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladInBeeld = true}, &hoofd);
+        schijf,
+        {.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladInBeeld = [] { return 1; }},
+        &hoofd);
     EXPECT_EQ(1, vragen);
 }
 

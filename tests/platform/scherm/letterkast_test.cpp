@@ -1,4 +1,4 @@
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 
 #include <gtest/gtest.h>
 

@@ -13,7 +13,7 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "hulp/proefsuite.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"
 #include "schijven/falendeSchijf.h"
@@ -42,33 +42,41 @@ class PrinterTest : public testing::Test {
     static Uitkomst<void> Print(const Printer& printer, int bladen,
                                 Papierstand stand = Papierstand::Staand)
     {
-        auto taak = printer.Begin(stand, u"Proef"_s);
-        if (!taak)
-            return tl::unexpected(taak.error());
-        for (int blad = 1; blad <= bladen; ++blad) {
-            if (blad > 1) {
-                if (const auto nieuw = (*taak)->NieuwBlad(); !nieuw)
-                    return nieuw;
-            }
-            (*taak)->Vlak().Schrijf(20, 30, {}, "Blad" + std::to_string(blad));
-        }
-        return (*taak)->Eind();
+        return printer.Druk({.titel = u"Proef"_s, .stand = stand}, Alle(bladen),
+                            [](Tekenvlak& vlak, int blad) {
+                                vlak.Schrijf(20, 30, {}, "Blad" + std::to_string(blad));
+                            });
     }
 
-    std::optional<Printer> Kies(
-        const Printvraag& vraag, const std::function<void(QDialog&)>& stappen = [](QDialog&) {})
+    /// The pages, of nine, one of them in view, that the print dialog gives after these steps.
+    std::vector<int> Keus(const std::function<void(QDialog&)>& stappen,
+                          const std::function<int()>& bladInBeeld = {})
     {
         VerwachtPdf(wachter, map.Weg() / "lijst.pdf", stappen);
         hoofd.show();
-        auto keus = KiesPrinter(schijf, vraag, &hoofd);
+        gekozen = KiesPrinter(schijf,
+                              {.titel = u"Proef"_s,
+                               .stand = Papierstand::Staand,
+                               .bladen = 9,
+                               .bladInBeeld = bladInBeeld},
+                              &hoofd);
         wachter.Klaar();
-        return keus;
+        return gekozen ? gekozen->Keus().Bladen(9, 7) : std::vector<int>();
+    }
+    static void Vink(QDialog& dialoog, const char* naam)
+    {
+        Vind<QRadioButton>(dialoog, naam)->setChecked(true);
+    }
+    static QSpinBox* Getal(QDialog& dialoog, const char* naam)
+    {
+        return Vind<QSpinBox>(dialoog, naam);
     }
 
     TijdelijkeMap map;
     EchteSchijf schijf;
     QWidget hoofd;
     Berichtwachter wachter;
+    std::optional<Printer> gekozen;
 };
 
 } // namespace
@@ -79,15 +87,13 @@ TEST_F(PrinterTest, PdfHeeftDeTekstenOpHunTiendeMillimeter)
     const Letter titel{.type = Lettertype::Arial, .punten = 14, .vet = true};
     const Letter gewoon{.type = Lettertype::Arial, .punten = 7};
     const Letter vast{.type = Lettertype::CourierNew, .punten = 9};
-    auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, u"Proef"_s);
-    ASSERT_TRUE(taak);
-    Tekenvlak& vlak = (*taak)->Vlak();
-    vlak.Schrijf(15, 15, titel, "AVAWATiTo\xEB");
-    vlak.Schrijf(123.4, 280.5, gewoon, "office \x80");
-    vlak.Schrijf(33.3, 100, vast, "0123456789");
-    vlak.Lijn(0, 0, 210, 297, {100, 100, 100}, 0.1);
-    vlak.Vul(50, 50, 10, 10, {200, 0, 0});
-    ASSERT_TRUE((*taak)->Eind());
+    ASSERT_TRUE(Printer(schijf, Bestand()).Druk({}, {1}, [&](Tekenvlak& vlak, int) {
+        vlak.Schrijf(15, 15, titel, "AVAWATiTo\xEB");
+        vlak.Schrijf(123.4, 280.5, gewoon, "office \x80");
+        vlak.Schrijf(33.3, 100, vast, "0123456789");
+        vlak.Lijn(0, 0, 210, 297, {100, 100, 100}, 0.1);
+        vlak.Vul(50, 50, 10, 10, {200, 0, 0});
+    }));
 
     const auto bladen = Lees();
     ASSERT_EQ(1U, bladen.size());
@@ -119,22 +125,15 @@ TEST_F(PrinterTest, PdfLiggendMetMeerBladen)
     }
 }
 
-TEST_F(PrinterTest, AfgebrokenKomtErGeenBestand)
+/// A file that stood there stays whole until all pages are drawn.
+TEST_F(PrinterTest, HetBestandKomtAlsAlleBladenGetekendZijn)
 {
     map.Zet("lijst.pdf", "van gisteren");
-    {
-        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, u"Proef"_s);
-        ASSERT_TRUE(taak);
-        (*taak)->Vlak().Schrijf(10, 10, {}, "half");
-        ASSERT_TRUE((*taak)->NieuwBlad());
-        (*taak)->BreekAf();
-    }
-    EXPECT_EQ("van gisteren", map.Inhoud("lijst.pdf"));
-    {
-        auto taak = Printer(schijf, Bestand()).Begin(Papierstand::Staand, u"Proef"_s);
-        ASSERT_TRUE(taak);
-    }
-    EXPECT_EQ("van gisteren", map.Inhoud("lijst.pdf"));
+    ASSERT_TRUE(Printer(schijf, Bestand()).Druk({}, {1, 2}, [&](Tekenvlak& vlak, int) {
+        vlak.Schrijf(10, 10, {}, "half");
+        EXPECT_EQ("van gisteren", map.Inhoud("lijst.pdf"));
+    }));
+    EXPECT_EQ(2U, Lees().size());
 }
 
 /// Whatever step of the saving fails: an error comes back and the old file is whole.
@@ -175,78 +174,54 @@ TEST_F(PrinterTest, EenMapDieErNietIsWordtGeweigerd)
     EXPECT_NE(std::string::npos, uitkomst.error().bestand.find("lijst.pdf"));
 }
 
-TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestand)
+TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestandMetEenReeksBladen)
 {
-    const auto printer = Kies({.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9});
-    ASSERT_TRUE(printer);
-    ASSERT_TRUE(Print(*printer, 2));
+    EXPECT_EQ((std::vector<int>{3, 4, 5}), Keus([](QDialog& dialoog) {
+                  Vink(dialoog, "printRange");
+                  EXPECT_EQ(9, Getal(dialoog, "to")->maximum());
+                  Getal(dialoog, "from")->setValue(3);
+                  Getal(dialoog, "to")->setValue(5);
+              }));
+    ASSERT_TRUE(Print(*gekozen, 2));
     EXPECT_EQ(2U, Lees().size());
-    EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 4));
-}
-
-TEST_F(PrinterTest, DeDialoogGeeftEenReeksBladen)
-{
-    const auto printer = Kies({.titel = u"Proef"_s, .stand = Papierstand::Liggend, .bladen = 9},
-                              [](QDialog& dialoog) {
-                                  Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
-                                  EXPECT_EQ(1, Vind<QSpinBox>(dialoog, "from")->value());
-                                  EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->value());
-                                  EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->maximum());
-                                  Vind<QSpinBox>(dialoog, "from")->setValue(3);
-                                  Vind<QSpinBox>(dialoog, "to")->setValue(5);
-                              });
-    ASSERT_TRUE(printer);
-    EXPECT_EQ((std::vector<int>{3, 4, 5}), printer->Keus().Bladen(9, 7));
 }
 
 /// They would not work, or print other pages than those asked for.
 TEST_F(PrinterTest, LosseEnEvenBladenWordenNietAangeboden)
 {
-    ASSERT_TRUE(Kies(
-        {.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9}, [](QDialog& dialoog) {
-            VouwUit(dialoog);
-            EXPECT_FALSE(Vind<QWidget>(dialoog, "from")->visibleRegion().isEmpty());
-            for (const char* naam :
-                 {"pagesRadioButton", "pagesLineEdit", "pageSetLabel", "pageSetCombo"}) {
-                const auto* deel = Vind<QWidget>(dialoog, naam);
-                EXPECT_TRUE(deel->visibleRegion().isEmpty()) << naam;
-                EXPECT_EQ(Qt::NoFocus, deel->focusPolicy()) << naam;
-            }
-        }));
+    EXPECT_EQ(Alle(9), Keus([](QDialog& dialoog) {
+                  VouwUit(dialoog);
+                  EXPECT_FALSE(Vind<QWidget>(dialoog, "from")->visibleRegion().isEmpty());
+                  for (const char* naam :
+                       {"pagesRadioButton", "pagesLineEdit", "pageSetLabel", "pageSetCombo"}) {
+                      const auto* deel = Vind<QWidget>(dialoog, naam);
+                      EXPECT_TRUE(deel->visibleRegion().isEmpty()) << naam;
+                      EXPECT_EQ(Qt::NoFocus, deel->focusPolicy()) << naam;
+                  }
+              }));
 }
 
 /// The whole list is the proposal, as a range; the page in view is one to choose where there is
 /// one.
 TEST_F(PrinterTest, HetVoorstelIsVanHetEersteTotHetLaatsteBlad)
 {
-    Printvraag vraag{.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9};
-    for (const bool inBeeld : {false, true}) {
-        vraag.bladInBeeld = inBeeld;
-        const auto printer = Kies(vraag, [&](QDialog& dialoog) {
-            EXPECT_TRUE(Vind<QRadioButton>(dialoog, "printRange")->isChecked());
-            EXPECT_EQ(1, Vind<QSpinBox>(dialoog, "from")->value());
-            EXPECT_EQ(9, Vind<QSpinBox>(dialoog, "to")->value());
-            const auto* huidig = Vind<QRadioButton>(dialoog, "printCurrentPage");
-            EXPECT_EQ(inBeeld, huidig->isVisibleTo(huidig->parentWidget()));
-        });
-        ASSERT_TRUE(printer);
-        EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 7));
+    const std::function<int()> zeven = [] { return 7; };
+    for (const auto& inBeeld : {std::function<int()>(), zeven}) {
+        const auto bladen = Keus(
+            [&](QDialog& dialoog) {
+                EXPECT_TRUE(Vind<QRadioButton>(dialoog, "printRange")->isChecked());
+                EXPECT_EQ(1, Getal(dialoog, "from")->value());
+                EXPECT_EQ(9, Getal(dialoog, "to")->value());
+                const auto* huidig = Vind<QRadioButton>(dialoog, "printCurrentPage");
+                EXPECT_EQ(static_cast<bool>(inBeeld), huidig->isVisibleTo(huidig->parentWidget()));
+            },
+            inBeeld);
+        EXPECT_EQ(Alle(9), bladen);
     }
-    const auto printer = Kies(vraag, [](QDialog& dialoog) {
-        Vind<QRadioButton>(dialoog, "printCurrentPage")->setChecked(true);
-    });
-    ASSERT_TRUE(printer);
-    EXPECT_EQ((std::vector<int>{7}), printer->Keus().Bladen(9, 7));
-}
-
-TEST_F(PrinterTest, AllesIsAlleBladen)
-{
-    const auto printer =
-        Kies({.titel = u"Proef"_s, .stand = Papierstand::Staand, .bladen = 9},
-             [](QDialog& dialoog) { Vind<QRadioButton>(dialoog, "printAll")->setChecked(true); });
-    ASSERT_TRUE(printer);
-    EXPECT_EQ(Bladkeus::Soort::Alle, printer->Keus().soort);
-    EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 7));
+    EXPECT_EQ((std::vector<int>{7}),
+              Keus([](QDialog& dialoog) { Vink(dialoog, "printCurrentPage"); }, zeven));
+    EXPECT_EQ(Alle(9), Keus([](QDialog& dialoog) { Vink(dialoog, "printAll"); }, zeven));
+    EXPECT_EQ(Bladkeus::Soort::Alle, gekozen->Keus().soort);
 }
 
 /// On a system whose own print dialog has no PDF file.
@@ -257,7 +232,7 @@ class ZonderPdfTest : public PrinterTest {
         hoofd.show();
         auto keus = KiesPrinter(
             schijf, {.titel = u"Ledenlijst Gr01"_s, .stand = Papierstand::Staand, .bladen = 9},
-            {.printers = printers}, &hoofd);
+            &hoofd, {.printers = printers});
         wachter.Klaar();
         return keus;
     }

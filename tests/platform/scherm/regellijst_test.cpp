@@ -11,7 +11,7 @@
 #include "hulp/groei.h"
 #include "hulp/tekstvanger.h"
 #include "hulp/venstergrepen.h"
-#include "platform/scherm/letterkast.h"
+#include "platform/scherm/schildervlak.h"
 
 using namespace plexoran;
 
