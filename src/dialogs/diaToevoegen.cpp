@@ -20,8 +20,8 @@ bool ZetTerugOfMeld(Koppelverslag& verslag, QWidget* ouder)
         return true;
     MeldFout(
         ouder, QMessageBox::Warning,
-        u"Fout bij het terugzetten van 'Koppelverslag.txt'. De sleutels die erin staan, zijn niet "
-        "uitgegeven. Verwijder dat bestand."_s,
+        u"Fout bij het terugzetten van 'Koppelverslag.txt': de sleutels die erin staan, zijn niet "
+        "uitgegeven. Het spelerbestand is niet veranderd. Verwijder 'Koppelverslag.txt'."_s,
         terug.error());
     return false;
 }

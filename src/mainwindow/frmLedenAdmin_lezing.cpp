@@ -11,8 +11,8 @@ namespace {
 constexpr int TeNoemenRegels = 10;
 
 const QString Sleutelgevolg =
-    u"; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een andere speler "
-    "kan zijn. Voeg geen spelers toe voordat die regel is hersteld."_s;
+    u". Nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een ander kan zijn: "
+    "voeg er geen toe voordat die regel is hersteld."_s;
 
 QString Opsomming(const std::vector<int>& regels)
 {
@@ -28,12 +28,14 @@ QString Opsomming(const std::vector<int>& regels)
 QStringList WatNietGelezenIs(const Leesverslag& verslag)
 {
     QStringList delen;
-    if (!verslag.zonderAchternaam.empty())
-        delen << u"%1 niet ingelezen (regel %2 van het spelerbestand). Vul die achternaam daar in "
-                 "als u de speler wilt houden."_s.arg(Aantal(verslag.zonderAchternaam.size(),
-                                                             u"speler zonder achternaam is"_s,
-                                                             u"spelers zonder achternaam zijn"_s),
-                                                      Opsomming(verslag.zonderAchternaam));
+    if (const std::size_t aantal = verslag.zonderAchternaam.size(); aantal > 0)
+        delen << (aantal == 1 ? u"%2 speler zonder achternaam is niet ingelezen (regel %1 van het "
+                                "spelerbestand). Vul die achternaam daar in als u de speler wilt "
+                                "houden."_s
+                              : u"%2 spelers zonder achternaam zijn niet ingelezen (regels %1 van "
+                                "het spelerbestand). Vul die achternamen daar in als u de spelers "
+                                "wilt houden."_s)
+                     .arg(Opsomming(verslag.zonderAchternaam), QString::number(aantal));
     if (verslag.zonderSleutelregel)
         delen << u"In het spelerbestand ontbreekt de regel HKEY= met de hoogste sleutel"_s +
                      Sleutelgevolg;
@@ -76,7 +78,8 @@ bool frmLedenAdmin::VraagHogereSleutel(std::int32_t hoogste)
         this, QMessageBox::Warning,
         u"In het spelerbestand staat een speler met sleutel %1, maar als hoogste uitgegeven "
         "sleutel (HKEY=) geldt %2. Een nieuwe speler kan daardoor een sleutel krijgen die al van "
-        "een ander is. Met Verhogen geldt voortaan %1."_s.arg(hoogste)
+        "een ander is. Met Verhogen geldt voortaan %1; met Niet verhogen blijft alles zoals het "
+        "is."_s.arg(hoogste)
             .arg(geldt),
         {u"Verhogen"_s, u"Niet verhogen"_s});
     if (antwoord != 0)
@@ -141,10 +144,9 @@ QString frmLedenAdmin::WaarHetLezenStopte(const Leesverslag& verslag) const
                     .arg(Aantal(static_cast<std::size_t>(verslag.velden), u"veld"_s, u"velden"_s))
                     .arg(AantalKolommen);
     else if (verslag.fout->regel > 0)
-        reden =
-            u", want op regel %1 staat achter HKEY= een getal dat niet past (een sleutel is ten "
-            "hoogste 2147483647)"_s.arg(verslag.fout->regel) +
-            Sleutelgevolg;
+        reden = u", want op regel %1 staat achter HKEY= een getal dat niet past"_s.arg(
+                    verslag.fout->regel) +
+                Sleutelgevolg;
     return u"Het spelerbestand is niet tot het einde gelezen; er %1 nu %2 in de tabel%3"_s.arg(
         rijen == 1 ? u"staat"_s : u"staan"_s, Aantal(rijen, u"speler"_s, u"spelers"_s), reden);
 }

@@ -95,8 +95,9 @@ void frmLedenAdmin::ToonDubbeleNamen()
                 u"DUBBELE NAMEN in deze groep: %1"_s.arg(NaarQString(code)));
     if (dubbelen.meer)
         Meld(this, QMessageBox::Information,
-             u"Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na %1 paren. "
-             "Verwijder er eerst een aantal en zoek dan opnieuw."_s.arg(MeesteDubbelen));
+             u"Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na %1 paren. Er "
+             "is niets veranderd. Verwijder er eerst een aantal en zoek dan "
+             "opnieuw."_s.arg(MeesteDubbelen));
 }
 
 } // namespace plexoran

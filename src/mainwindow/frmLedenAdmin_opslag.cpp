@@ -63,8 +63,8 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
         return VraagNaWijziging(fout);
     const QString wat =
         fout.soort == Foutsoort::GeenReservekopie
-            ? u"Er is niets opgeslagen: het spelerbestand bevat gegevens die niet zijn ingelezen, "
-              "en de kopie die daarvan eerst in de map Reservekopie moet komen, is mislukt."_s
+            ? u"Er is niets opgeslagen: de kopie van het spelerbestand die eerst in de map "
+              "Reservekopie moet komen, is mislukt."_s
             : u"De spelers konden niet worden opgeslagen."_s;
     const QString gevolg =
         u" Het spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
@@ -86,9 +86,9 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagNaWijziging(const Fout& fout)
         this, QMessageBox::Warning,
         wat +
             u"\n\nOpslaan: uw gegevens vervangen dat bestand; er komt eerst een kopie van in de "
-            "map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals het is; uw laatste "
-            "wijziging vervalt.\nLater beslissen: er verandert nu niets; bij de volgende "
-            "wijziging en bij het afsluiten komt deze keus terug.\n\n"_s +
+            "map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals het is; uw wijzigingen "
+            "die nog niet zijn opgeslagen, vervallen.\nLater beslissen: er verandert nu niets; bij "
+            "de volgende wijziging en bij het afsluiten komt deze keus terug.\n\n"_s +
             Bijzonderheden(fout),
         {u"Opslaan"_s, u"Opnieuw inlezen"_s, u"Later beslissen"_s});
     constexpr std::array vervolgen{Vervolg::Overschrijven, Vervolg::LeesOpnieuw, Vervolg::Later};
@@ -110,7 +110,8 @@ void frmLedenAdmin::SchrijfVerslagen()
         return Kies(this, QMessageBox::Critical,
                     u"De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun zitting kon "
                     "niet worden geschreven. Zonder dat bestand zijn ze niet aan die zitting te "
-                    "koppelen.\n\n"_s +
+                    "koppelen. Verhelp de oorzaak en probeer het opnieuw; met Doorgaan komt dat "
+                    "bestand er niet.\n\n"_s +
                         Bijzonderheden(fout),
                     {u"Opnieuw proberen"_s, u"Doorgaan"_s}) == 0;
     };
@@ -136,8 +137,8 @@ void frmLedenAdmin::ZetVerslagenTerug(bool vervallen)
     QString tekst =
         u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van "
         "hun zitting weer zoals het was."_s;
-    if (!vervallen)
-        tekst += u" Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s;
+    tekst += vervallen ? u" Voeg ze zo nodig opnieuw toe."_s
+                       : u" Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s;
     Meld(this, QMessageBox::Information, tekst);
 }
 

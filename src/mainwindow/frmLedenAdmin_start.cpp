@@ -222,11 +222,12 @@ void frmLedenAdmin::MeldLosseSleutels()
         return;
     const bool een = verslagen.size() == 1;
     QString tekst =
-        u"In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn uitgegeven, zoals na een "
-        "toevoegen dat is afgebroken. Het spelerbestand is niet veranderd. Verwijder %2 of voeg "
-        "de spelers opnieuw toe, anders krijgen andere spelers die sleutels.\n"_s.arg(
-            een ? u"een zitting"_s : u"%1 zittingen"_s.arg(verslagen.size()),
-            een ? u"dat bestand"_s : u"die bestanden"_s);
+        u"In 'Koppelverslag.txt' van %1 staan sleutels die andere spelers nog kunnen krijgen, "
+        "zoals na een toevoegen dat is afgebroken. Het spelerbestand is niet veranderd. Verwijder "
+        "%2 of voeg de spelers opnieuw toe; hebt u een oud spelerbestand teruggezet, verhoog dan "
+        "het getal achter HKEY=.\n"_s.arg(een ? u"een zitting"_s
+                                              : u"%1 zittingen"_s.arg(verslagen.size()),
+                                          een ? u"dat bestand"_s : u"die bestanden"_s);
     for (const Pad& pad : verslagen)
         tekst += u"\nBestand: "_s + QString::fromStdString(administratie_.schijf.Toonpad(pad));
     MeldLijst(this, QMessageBox::Warning, tekst);

@@ -77,12 +77,11 @@ void Berichtwachter::Waarschuwing(const QString& tekst)
 void Berichtwachter::SleutelsOp(const QString& wat, const std::string& spelerbestand)
 {
     Verwacht(
-        {.tekst =
-             wat +
-             u": er zijn geen nieuwe sleutels meer. De gegevens zijn niet veranderd. Zet op de "
-             "regel hieronder achter HKEY= de hoogste sleutel die ooit is uitgegeven, en start "
-             "Plexoran opnieuw.\n\nBestand: "_s +
-             QString::fromStdString(spelerbestand) + u"\nRegel: 1"_s,
+        {.tekst = wat +
+                  u": er zijn geen nieuwe sleutels meer. Wat er al was, is niet veranderd. Sluit "
+                  "Plexoran, zet op de regel hieronder achter HKEY= de hoogste sleutel die ooit is "
+                  "uitgegeven, en start het opnieuw.\n\nBestand: "_s +
+                  QString::fromStdString(spelerbestand) + u"\nRegel: 1"_s,
          .icoon = QMessageBox::Critical});
 }
 

@@ -262,6 +262,22 @@ TEST_F(LijstenTest, EenLangVerslagSchuiftInZijnEigenVenster)
     wachter.Klaar();
 }
 
+/// 448 namesakes make 100,128 pairs.
+TEST_F(LijstenTest, EenVerslagDatOphoudtZegtDat)
+{
+    std::string spelers = "HKEY=100999\r\n";
+    for (int i = 1; i <= 448; ++i)
+        spelers += std::to_string(i) + "," + std::to_string(100'000 + i) +
+                   ",Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n";
+    StartMet(spelers);
+    wachter.Bedien([](QDialog& bericht) { Klik(Vind<QPushButton>(bericht, "cmdOK")); });
+    wachter.Informatie(
+        u"Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na 100000 paren. Er "
+        "is niets veranderd. Verwijder er eerst een aantal en zoek dan opnieuw."_s);
+    Klik(Knop("cmdZoekDubbeleNamen"));
+    wachter.Klaar();
+}
+
 TEST_F(LijstenTest, LijstenVeranderenHetBestandNiet)
 {
     const std::string oud = suite.Spelers();

@@ -64,9 +64,10 @@ class OpslagTest : public Hoofdvensterproef {
             {.tekst =
                  u"Het spelerbestand is door een ander programma gewijzigd nadat het hier is "
                  "ingelezen.\n\nOpslaan: uw gegevens vervangen dat bestand; er komt eerst een "
-                 "kopie van in de map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals "
-                 "het is; uw laatste wijziging vervalt.\nLater beslissen: er verandert nu niets; "
-                 "bij de volgende wijziging en bij het afsluiten komt deze keus terug.\n\n"_s +
+                 "kopie van in de map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals het "
+                 "is; uw wijzigingen die nog niet zijn opgeslagen, vervallen.\nLater beslissen: er "
+                 "verandert nu niets; bij de volgende wijziging en bij het afsluiten komt deze "
+                 "keus terug.\n\n"_s +
                  Bestandsregel(),
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,
@@ -409,6 +410,7 @@ const std::string Verslagbestand = "Zittingen/Zomerdrive 2024_Rev/Koppelverslag.
 const QString NietInHetBestand =
     u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van hun "
     "zitting weer zoals het was."_s;
+const QString Vervallen = NietInHetBestand + u" Voeg ze zo nodig opnieuw toe."_s;
 const QString KomtNog =
     NietInHetBestand + u" Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s;
 
@@ -506,7 +508,7 @@ TEST_F(VerslagTest, OpnieuwInlezenNeemtHetTerug)
     VoegSessieToe([this] { WijzigVanBuiten(); },
                   [this] {
                       VerwachtGewijzigd(LeesIn);
-                      wachter.Informatie(NietInHetBestand);
+                      wachter.Informatie(Vervallen);
                   });
     EXPECT_EQ(vreemd, suite.Spelers());
     EXPECT_EQ("van vroeger", Verslag());
@@ -535,8 +537,9 @@ TEST_F(VerslagTest, AlsnogSchrijvenDatMisluktWordtGemeld)
         wachter.Verwacht(
             {.tekst =
                  u"De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun zitting kon niet "
-                 "worden geschreven. Zonder dat bestand zijn ze niet aan die zitting te "
-                 "koppelen.\n\nBestand: "_s,
+                 "worden geschreven. Zonder dat bestand zijn ze niet aan die zitting te koppelen. "
+                 "Verhelp de oorzaak en probeer het opnieuw; met Doorgaan komt dat bestand er "
+                 "niet.\n\nBestand: "_s,
              .antwoord = antwoord,
              .icoon = QMessageBox::Critical,
              .knoppen = {Opnieuw, Doorgaan},
@@ -552,8 +555,10 @@ TEST_F(VerslagTest, TerugzettenDatMisluktWordtGemeldEnKomtBijDeVolgendeOpslagTer
         [this] {
             VerwachtMislukt(Doorgaan);
             wachter.Verwacht(
-                {.tekst = u"Fout bij het terugzetten van 'Koppelverslag.txt'. De sleutels die erin "
-                          "staan, zijn niet uitgegeven. Verwijder dat bestand.\n\nBestand: "_s,
+                {.tekst =
+                     u"Fout bij het terugzetten van 'Koppelverslag.txt': de sleutels die erin "
+                     "staan, zijn niet uitgegeven. Het spelerbestand is niet veranderd. Verwijder "
+                     "'Koppelverslag.txt'.\n\nBestand: "_s,
                  .icoon = QMessageBox::Warning,
                  .alleenBegin = true});
         });

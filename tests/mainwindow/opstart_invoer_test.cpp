@@ -102,9 +102,8 @@ TEST_F(Opstartproef, EenOnmogelijkeSleutelregelWordtGemeld)
     ZetSpelers("HKEY=99999999999\r\n" + Speler("1", "100001", "Gr01-", "Bos") + "\r\n");
     wachter.Waarschuwing(isNogLeeg);
     wachter.Informatie(
-        u"Het spelerbestand is niet tot het einde gelezen; er staan nu 0 spelers in de tabel, "
-        "want op regel 1 staat achter HKEY= een getal dat niet past (een sleutel is ten hoogste "
-        "2147483647)"_s +
+        u"Het spelerbestand is niet tot het einde gelezen; er staan nu 0 spelers in de tabel, want "
+        "op regel 1 staat achter HKEY= een getal dat niet past"_s +
         sleutelgevolg + blijftZoHetIs + u"\n\n"_s + Spelerbestand + u"\nRegel: 1"_s);
     VerwachtSleutelvraag(100001, 100000, NietVerhogen);
     ASSERT_EQ(std::nullopt, Laad());
@@ -228,8 +227,8 @@ TEST_F(Opstartproef, SpelersZonderAchternaamWordenGenoemdEnBlijvenInEenKopie)
                             Speler("3", "100003", "Gr01-", "") + "\r\n";
     ZetSpelers(oud);
     wachter.Informatie(
-        u"2 spelers zonder achternaam zijn niet ingelezen (regel 2, 4 van het spelerbestand). Vul "
-        "die achternaam daar in als u de speler wilt houden."_s +
+        u"2 spelers zonder achternaam zijn niet ingelezen (regels 2, 4 van het spelerbestand). Vul "
+        "die achternamen daar in als u de spelers wilt houden."_s +
         blijftZoHetIs);
     ASSERT_NO_FATAL_FAILURE(Start());
     EXPECT_EQ("Aantal regels: 1", Label("Label3")->text().toStdString());
@@ -276,12 +275,11 @@ TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
     });
     wachter.Verwacht(
         {.tekst =
-             u"Er is niets opgeslagen: het spelerbestand bevat gegevens die niet zijn ingelezen, "
-             "en de kopie die daarvan eerst in de map Reservekopie moet komen, is mislukt. Het "
-             "spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
-             "dit programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij de "
-             "volgende wijziging en bij het afsluiten komt deze keus terug.\n\nBestand: "
-             "C:\\RVD\\Spelers\\Reservekopie"_s,
+             u"Er is niets opgeslagen: de kopie van het spelerbestand die eerst in de map "
+             "Reservekopie moet komen, is mislukt. Het spelerbestand op de schijf is heel "
+             "gebleven, en uw laatste wijziging staat nog in dit programma. Verhelp de oorzaak en "
+             "probeer het opnieuw, of ga door: bij de volgende wijziging en bij het afsluiten komt "
+             "deze keus terug.\n\nBestand: C:\\RVD\\Spelers\\Reservekopie"_s,
          .antwoord = u"Doorgaan"_s,
          .icoon = QMessageBox::Critical,
          .knoppen = {u"Opnieuw proberen"_s, u"Doorgaan"_s},

@@ -362,10 +362,11 @@ TEST_F(Opstartproef, WatEenAfgebrokenOpslagLietWordtNaEenUurOpgeruimd)
 TEST_F(Opstartproef, KoppelverslagenMetSleutelsDieNogUitgegevenWordenZijnGemeld)
 {
     const auto melding = [](const QString& waarvan, const QString& welk) {
-        return u"In 'Koppelverslag.txt' van %1 staan sleutels die nog niet zijn uitgegeven, zoals "
-               "na een toevoegen dat is afgebroken. Het spelerbestand is niet veranderd. "
-               "Verwijder %2 of voeg de spelers opnieuw toe, anders krijgen andere spelers die "
-               "sleutels.\n"_s.arg(waarvan, welk);
+        return u"In 'Koppelverslag.txt' van %1 staan sleutels die andere spelers nog kunnen "
+               "krijgen, zoals na een toevoegen dat is afgebroken. Het spelerbestand is niet "
+               "veranderd. Verwijder %2 of voeg de spelers opnieuw toe; hebt u een oud "
+               "spelerbestand teruggezet, verhoog dan het getal achter HKEY=.\n"_s.arg(waarvan,
+                                                                                       welk);
     };
     const Pad een = "C:\\RVD\\Zittingen\\Een_Rev\\Koppelverslag.txt";
     const Pad twee = "C:\\RVD\\Zittingen\\Twee_Rev\\Koppelverslag.txt";

@@ -22,8 +22,8 @@ inline const QString blijftZoHetIs =
     u"\n\nHet bestand zelf is niet veranderd; voordat dit programma het de eerste keer vervangt, "
     "komt er een kopie van in de map Reservekopie."_s;
 inline const QString sleutelgevolg =
-    u"; nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een andere speler "
-    "kan zijn. Voeg geen spelers toe voordat die regel is hersteld."_s;
+    u". Nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een ander kan zijn: "
+    "voeg er geen toe voordat die regel is hersteld."_s;
 inline const QString nietGeopend =
     u"Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets aan veranderd. "
     "Voeg nu geen spelers toe, maar verhelp de oorzaak en start het programma opnieuw.\n\n"_s;
@@ -208,7 +208,8 @@ class Opstartproef : public Vensterproef {
             {.tekst =
                  u"In het spelerbestand staat een speler met sleutel %1, maar als hoogste "
                  "uitgegeven sleutel (HKEY=) geldt %2. Een nieuwe speler kan daardoor een sleutel "
-                 "krijgen die al van een ander is. Met Verhogen geldt voortaan %1."_s.arg(hoogste)
+                 "krijgen die al van een ander is. Met Verhogen geldt voortaan %1; met Niet "
+                 "verhogen blijft alles zoals het is."_s.arg(hoogste)
                      .arg(geldt),
              .antwoord = antwoord,
              .icoon = QMessageBox::Warning,

@@ -237,7 +237,7 @@ TEST_F(RoosterTest, InEenLegeGroepDoenDeToetsenNiets)
 
 TEST_F(RoosterTest, HetRoosterSpreektZijnRegel)
 {
-    EXPECT_EQ("Geen regel geselecteerd", Vlak()->accessibleDescription().toStdString());
+    EXPECT_EQ("Geen regel gekozen", Vlak()->accessibleDescription().toStdString());
     KiesRegel(1);
     EXPECT_TRUE(Vlak()->accessibleDescription().startsWith(
         u"Regel 1, Nr 1, Key 100001, Groep Gr01-, Voornaam Willem, Tusv van der, Achternaam "

@@ -244,9 +244,9 @@ void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats)
 {
     MeldFout(ouder, QMessageBox::Critical,
              wat +
-                 u": er zijn geen nieuwe sleutels meer. De gegevens zijn niet veranderd. Zet op de "
-                 "regel hieronder achter HKEY= de hoogste sleutel die ooit is uitgegeven, en start "
-                 "Plexoran opnieuw."_s,
+                 u": er zijn geen nieuwe sleutels meer. Wat er al was, is niet veranderd. Sluit "
+                 "Plexoran, zet op de regel hieronder achter HKEY= de hoogste sleutel die ooit is "
+                 "uitgegeven, en start het opnieuw."_s,
              plaats);
 }
 

@@ -137,7 +137,7 @@ void Tabelvlak::TekenFocus(QPainter& schilder) const
 /// Screen readers read the description of the surface: the chosen line, column by column.
 void Tabelvlak::Beschrijf()
 {
-    QString tekst = u"Geen regel geselecteerd"_s;
+    QString tekst = u"Geen regel gekozen"_s;
     if (regel_ > 0) {
         tekst = u"Regel %1"_s.arg(regel_);
         for (int kolom = 0; kolom < Kolommen(); ++kolom) {
