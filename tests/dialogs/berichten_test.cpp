@@ -47,6 +47,32 @@ TEST(MeldVerslag, BreektGeenRegelAf)
     EXPECT_TRUE(gezien);
 }
 
+/// Its place follows from the size that its unbroken lines give it, not from the one before.
+TEST(MeldVerslag, StaatMiddenVoorZijnOuderEnHeelOpHetScherm)
+{
+    const QString regel = u"een woord, "_s.repeated(9) + u'\n';
+    for (const QString& tekst : {regel, regel.repeated(20)}) {
+        QWidget ouder;
+        const QRect scherm = ouder.screen()->availableGeometry();
+        ouder.setGeometry(scherm.adjusted(100, 100, -100, -100));
+        ouder.show();
+        bool gezien = false;
+        QTimer::singleShot(0, qApp, [&] {
+            QApplication::processEvents();
+            auto* venster = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(nullptr, venster);
+            EXPECT_TRUE(scherm.contains(venster->frameGeometry()));
+            const QPoint midden = venster->geometry().center() - ouder.geometry().center();
+            EXPECT_LE(std::abs(midden.x()), 40) << venster->width();
+            EXPECT_LE(std::abs(midden.y()), 40) << venster->height();
+            gezien = true;
+            venster->close();
+        });
+        MeldVerslag(&ouder, tekst, u"DUBBELE NAMEN"_s);
+        EXPECT_TRUE(gezien);
+    }
+}
+
 /// The names of a register can be of any length.
 TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
 {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 
 #include "platform/scherm/berichten.h"
@@ -123,6 +124,32 @@ TEST_P(SchermmaatTest, EenLangBerichtHeeftZijnKnoppenInBeeld)
     EXPECT_EQ(0, Kies(&ouder, QMessageBox::Warning, regels,
                       {u"Opslaan"_s, u"Niet opslaan"_s, u"Annuleren"_s}));
     EXPECT_NE(nullptr, bericht);
+}
+
+TEST_P(SchermmaatTest, EenLangeVraagSchuiftAlleenOmlaag)
+{
+    ZetLetter();
+    bool gezien = false;
+    QTimer::singleShot(0, [&] {
+        auto* vraag = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(nullptr, vraag);
+        QApplication::processEvents();
+        EXPECT_TRUE(Scherm()->availableGeometry().contains(vraag->frameGeometry()));
+        const auto* blad = vraag->findChild<QScrollArea*>(u"schuifblad"_s);
+        ASSERT_NE(nullptr, blad);
+        EXPECT_LT(0, blad->verticalScrollBar()->maximum());
+        EXPECT_EQ(0, blad->horizontalScrollBar()->maximum());
+        gezien = true;
+        vraag->reject();
+    });
+    QWidget ouder;
+    ouder.setGeometry(Scherm()->availableGeometry());
+    ouder.show();
+    EXPECT_FALSE(Vraag(
+        &ouder, QMessageBox::Information,
+        u"Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen.\n\n"_s.repeated(9),
+        {}, u"Willem van der Horst\n"_s.repeated(80)));
+    EXPECT_TRUE(gezien);
 }
 
 INSTANTIATE_TEST_SUITE_P(Opstellingen, SchermmaatTest,

@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
 
@@ -63,8 +65,8 @@ class Berichtvenster : public QMessageBox {
     void showEvent(QShowEvent* gebeurtenis) override
     {
         QMessageBox::showEvent(gebeurtenis);
-        const int ruimte = screen()->availableSize().height() - Kader.height();
-        if (height() <= ruimte || geschoven_)
+        const QSize ruimte = screen()->availableSize() - Kader;
+        if (height() <= ruimte.height() || geschoven_)
             return;
         geschoven_ = true;
         auto* inhoud = new QWidget(this);
@@ -73,6 +75,7 @@ class Berichtvenster : public QMessageBox {
         teksten->setContentsMargins(0, 0, 0, 0);
         const auto labels =
             findChildren<QLabel*>(QRegularExpression(u"^qt_msgbox_(informative)?label$"_s));
+        const int tekstbreed = labels.front()->width();
         layout()->replaceWidget(labels.front(), blad);
         for (QLabel* label : labels) {
             teksten->addWidget(label);
@@ -80,7 +83,11 @@ class Berichtvenster : public QMessageBox {
         }
         teksten->addStretch();
         blad->show();
-        setFixedSize(width() + blad->verticalScrollBar()->sizeHint().width(), ruimte);
+        // The box counted on breaking lines that the labels leave whole.
+        const int tekort = std::max(0, inhoud->minimumSizeHint().width() - tekstbreed);
+        const int breed = width() + tekort + blad->verticalScrollBar()->sizeHint().width();
+        setFixedSize(std::min(breed, ruimte.width()), ruimte.height());
+        adjustPosition(parentWidget());
     }
 
   private:
@@ -133,6 +140,7 @@ class Verslagbericht : public QMessageBox {
         QMessageBox::showEvent(gebeurtenis);
         BreekNietAf();
         setFixedSize(layout()->totalSizeHint());
+        adjustPosition(parentWidget()); // it was placed at the size of broken lines
     }
 
   private:
