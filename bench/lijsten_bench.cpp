@@ -1,6 +1,5 @@
 // The lists and the changes of many players at once, each beside SQLite doing the same and beside
 // one load of the same register, measured in the same run.
-#include <memory>
 #include <optional>
 #include <utility>
 
@@ -128,12 +127,7 @@ void Sql(benchmark::State& meting, Verdeling verdeling, Tekstblik sql, std::size
 {
     Sqlite& bank = ProefVan(meting, verdeling).Bank();
     Meet(
-        meting,
-        [&] {
-            bank.Vraag("BEGIN");
-            return std::unique_ptr<Sqlite, void (*)(Sqlite*)>(
-                &bank, [](Sqlite* wie) { wie->Vraag("ROLLBACK"); });
-        },
+        meting, [&] { return bank.VoorEven(); },
         [&](auto&) { Eis(meting, bank.Vraag(sql) >= moet); });
 }
 

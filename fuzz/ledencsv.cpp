@@ -10,7 +10,7 @@ using namespace plexoran;
 
 namespace {
 
-constexpr std::ptrdiff_t Kommas = AantalImportvelden - 1;
+constexpr std::ptrdiff_t Kommas = Importveld::Aantal - 1;
 
 struct Telling {
     std::size_t gewoon = 0;

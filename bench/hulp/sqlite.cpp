@@ -69,6 +69,12 @@ Sqlite::Opdracht Sqlite::Maak(Tekstblik sql)
     return Opdracht(opdracht);
 }
 
+std::unique_ptr<Sqlite, Sqlite::Terugnemer> Sqlite::VoorEven()
+{
+    Vraag("BEGIN");
+    return std::unique_ptr<Sqlite, Terugnemer>(this);
+}
+
 std::size_t Sqlite::Vraag(Tekstblik sql)
 {
     return LeesRijen(bank_.get(), Maak(sql).get());

@@ -29,6 +29,12 @@ class Sqlite {
     using Opdracht = std::unique_ptr<sqlite3_stmt, Einde>;
     [[nodiscard]] Opdracht Maak(Tekstblik sql);
 
+    struct Terugnemer {
+        void operator()(Sqlite* bank) const { bank->Vraag("ROLLBACK"); }
+    };
+    /// What is changed from now on is taken back when the answer goes.
+    [[nodiscard]] std::unique_ptr<Sqlite, Terugnemer> VoorEven();
+
   private:
     std::unique_ptr<sqlite3, Einde> bank_;
 };

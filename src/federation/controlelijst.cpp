@@ -13,11 +13,6 @@ constexpr std::size_t GroepBreed = 10;
 constexpr std::array<std::size_t, AantalControlekolommen> Breedten{10, 5, GroepBreed, 20};
 constexpr Tekstblik Scheiding = "  ";
 
-Tekstblik Veld(const Importvelden& velden, Importveld veld)
-{
-    return velden[static_cast<std::size_t>(veld)];
-}
-
 void Voeg(Tekst& regel, Tekstblik tekst, std::size_t breedte)
 {
     regel += tekst;
@@ -35,10 +30,10 @@ Tekst Achternaam(Tekstblik achternaam)
 
 Tekst Naamkolom(const Importvelden& velden)
 {
-    Tekst naam = Achternaam(Veld(velden, Importveld::Achternaam));
+    Tekst naam = Achternaam(velden[Importveld::Achternaam]);
     naam += ", ";
-    naam += Veld(velden, Importveld::Voornaam);
-    if (const Tekstblik tusv = Veld(velden, Importveld::Tusv); !IsBlanco(tusv))
+    naam += velden[Importveld::Voornaam];
+    if (const Tekstblik tusv = velden[Importveld::Tusv]; !IsBlanco(tusv))
         naam.append(" ").append(tusv);
     return naam;
 }
@@ -57,8 +52,7 @@ Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep)
     Controleregel uit;
     const Tekst naam = Naamkolom(velden);
     const std::array<Tekstblik, AantalControlekolommen> teksten{
-        Veld(velden, Importveld::NBBnr), Veld(velden, Importveld::MV),
-        ledengroep.substr(0, GroepBreed), naam};
+        velden[Importveld::NBBnr], velden[Importveld::MV], ledengroep.substr(0, GroepBreed), naam};
     for (std::size_t i = 0; i < teksten.size(); ++i) {
         if (i > 0)
             uit.regel += Scheiding;

@@ -5,7 +5,6 @@
 #include "federation/diaControleNBB.h"
 #include "federation/frmImportNBB.h"
 #include "federation/ledendatabase.h"
-#include "federation/tussenmap.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/frmVoortgang.h"

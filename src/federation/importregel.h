@@ -1,6 +1,7 @@
 // The import line: one federation member as the import window lists it and merges it.
 #pragma once
 
+#include <algorithm>
 #include <array>
 
 #include "platform/tekst/tekst.h"
@@ -15,11 +16,10 @@ struct Importkeuzes {
     bool mv = true;    ///< sex
 };
 
-inline constexpr std::size_t AantalImportvelden = 11;
-
-/// The places of the fields in an import line, which joins them by commas without any quoting: a
-/// comma inside a field splits it in two when the line is split again.
-enum class Importveld : std::size_t {
+/// The fields of an import line, which joins them by commas without any quoting: a comma inside a
+/// field splits it in two when the line is split again.
+namespace Importveld {
+enum : std::size_t {
     Voornaam,
     Tusv,
     Achternaam,
@@ -31,11 +31,22 @@ enum class Importveld : std::size_t {
     Land,
     MV,
     NBBnr,
+    Aantal,
 };
+} // namespace Importveld
 
 /// A line split on its commas; fields that a short line lacks are empty, what follows the
 /// eleventh is left out.
-using Importvelden = std::array<Tekstblik, AantalImportvelden>;
-[[nodiscard]] Importvelden SplitsImportregel(Tekstblik regel);
+using Importvelden = std::array<Tekstblik, Importveld::Aantal>;
+
+[[nodiscard]] inline Importvelden SplitsImportregel(Tekstblik regel)
+{
+    Importvelden velden;
+    for (Tekstblik& veld : velden) {
+        veld = regel.substr(0, regel.find(','));
+        regel.remove_prefix(std::min(veld.size() + 1, regel.size()));
+    }
+    return velden;
+}
 
 } // namespace plexoran

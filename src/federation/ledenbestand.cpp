@@ -1,33 +1,20 @@
 #include "federation/ledenbestand.h"
 
-#include <algorithm>
-#include <array>
-#include <utility>
-
-#include "federation/ledencsv.h"
 #include "federation/ledendatabase.h"
 #include "federation/ledenxml.h"
-#include "federation/tussenbestand.h"
 #include "platform/tekst/codepagina.h"
 #include "platform/tekst/getal.h"
 
 namespace plexoran {
 namespace {
 
-/// Sources that are converted first are halfway when that is done.
-Voortgang EersteHelft(const Voortgang& voortgang)
+/// Sources that are converted first are halfway when that is done: the first or the second half.
+Voortgang Helft(const Voortgang& voortgang, std::size_t eerder)
 {
     if (!voortgang)
         return {};
-    return [&](std::size_t gedaan, std::size_t geheel) { return voortgang(gedaan, 2 * geheel); };
-}
-
-Voortgang TweedeHelft(const Voortgang& voortgang)
-{
-    if (!voortgang)
-        return {};
-    return [&](std::size_t gedaan, std::size_t geheel) {
-        return voortgang(geheel + gedaan, 2 * geheel);
+    return [&voortgang, eerder](std::size_t gedaan, std::size_t geheel) {
+        return voortgang(eerder * geheel + gedaan, 2 * geheel);
     };
 }
 
@@ -43,8 +30,7 @@ int Databasenummer(Tekstblik naam)
 bool IsHeelNummer(Tekstblik naam)
 {
     const Tekstblik nummer = naam.substr(naam.rfind(' ') + 1);
-    return nummer.size() == Nummerlengte &&
-           nummer.find_first_not_of("0123456789") == Tekstblik::npos;
+    return nummer.size() == Nummerlengte && std::all_of(nummer.begin(), nummer.end(), IsCijfer);
 }
 
 Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Tekstblik naam,
@@ -79,6 +65,19 @@ Uitkomst<Ledenlezing> LeesBestand(Schijf& schijf, const Pad& bestand, const Lede
     return lezing;
 }
 
+/// Whether a file is for this source. One that is too large is for both, so that reading it says
+/// so.
+bool IsVoor(Schijf& schijf, const Pad& bestand, Ledenbron bron)
+{
+    auto inhoud = LeesBegrensd(schijf, bestand);
+    if (!inhoud)
+        return inhoud.error().soort == Foutsoort::Beschadigd;
+    std::erase(*inhoud, '\0'); // of UTF-16 this leaves what is written in ASCII
+    const bool nbb4 = inhoud->find("<LeagueId>") != Tekst::npos;
+    return inhoud->find("<ReportableMember>") != Tekst::npos &&
+           nbb4 == (bron == Ledenbron::XmlNbb4);
+}
+
 } // namespace
 
 Tekst SubgroepUitNaam(Tekstblik naam)
@@ -89,9 +88,19 @@ Tekst SubgroepUitNaam(Tekstblik naam)
 
 Pad Tussenbestand(const Pad& programmamap, Tekstblik subgroep)
 {
-    Pad pad = Samen(programmamap, subgroep);
-    pad += " Temp-NBBXMLtoCSV.csv";
-    return pad;
+    return Samen(programmamap, subgroep) + " Temp-NBBXMLtoCSV.csv";
+}
+
+Pad Tussenmap(Schijf& schijf, const Pad& programmamap, const Pad& anders)
+{
+    const Pad proef = Samen(programmamap, "Temp-NBBXMLtoCSV.proef");
+    (void)schijf.Verwijder(proef); // left by a program that was killed just here
+    if (const auto schrijver = schijf.MaakNieuw(proef); schrijver)
+        (void)(*schrijver)->Sluit();
+    else if (!anders.empty())
+        return anders;
+    (void)schijf.Verwijder(proef);
+    return programmamap;
 }
 
 Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdracht,
@@ -104,10 +113,10 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
     if (!IsKaleNaam(subgroep))
         return tl::unexpected(GeenNaam(subgroep));
     const Pad tussenbestand = Tussenbestand(opdracht.programmamap, subgroep);
-    auto omgezet = ZetOm(schijf, opdracht, naam, tussenbestand, EersteHelft(voortgang));
+    auto omgezet = ZetOm(schijf, opdracht, naam, tussenbestand, Helft(voortgang, 0));
     if (!omgezet)
         return tl::unexpected(std::move(omgezet.error()));
-    auto lezing = LeesBestand(schijf, tussenbestand, opdracht, TweedeHelft(voortgang));
+    auto lezing = LeesBestand(schijf, tussenbestand, opdracht, Helft(voortgang, 1));
     if (lezing) {
         lezing->vervangenTekens = omgezet->vervangenTekens;
         lezing->nietGeladen = std::move(omgezet->nietGeladen);
@@ -115,6 +124,19 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
             lezing->anderNummer = Databasenummer(naam);
     }
     return lezing;
+}
+
+std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map, const std::vector<Tekst>& namen,
+                                  Ledenbron bron, const Voortgang& voortgang)
+{
+    std::vector<Tekst> uit;
+    for (std::size_t i = 0; i < namen.size(); ++i) {
+        if (voortgang && !voortgang(i, namen.size()))
+            break;
+        if (IsVoor(schijf, Samen(map, namen[i]), bron))
+            uit.push_back(namen[i]);
+    }
+    return uit;
 }
 
 } // namespace plexoran

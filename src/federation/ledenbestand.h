@@ -1,12 +1,10 @@
 // Reading one member file of the federation, whatever its source, into import lines.
 #pragma once
 
-#include <optional>
 #include <vector>
 
-#include "federation/importregel.h"
+#include "federation/ledencsv.h"
 #include "platform/bronnen/access.h"
-#include "platform/tekst/tekstlijst.h"
 
 namespace plexoran {
 
@@ -29,16 +27,9 @@ struct Ledenopdracht {
 /// The intermediate file of a subgroup.
 [[nodiscard]] Pad Tussenbestand(const Pad& programmamap, Tekstblik subgroep);
 
-struct Ledenlezing {
-    Tekstlijst lstN1;      ///< import lines in the order of the file
-    Tekstlijst metIsTeken; ///< lines left out because of a "="
-    int teKorteRegel = 0;  ///< line, from 1, at which reading ended for want of columns; 0: none
-    bool inUtf8 = false;   ///< an exported CSV that was saved as UTF-8, and read byte by byte
-    std::size_t vervangenTekens = 0; ///< characters that the code page lacks
-    std::optional<Fout> nietGeladen; ///< an NBBR-4 file that could not be loaded has no members
-    /// Database: the number of the member file that was read, when it is not that of the entry.
-    std::optional<int> anderNummer;
-};
+/// Where the intermediate files come: the program's own folder or, where no file can be made in it,
+/// as with a program that the system installed, `anders`.
+[[nodiscard]] Pad Tussenmap(Schijf& schijf, const Pad& programmamap, const Pad& anders);
 
 /// Reads the member file `naam`; for the database that is an entry of its list, of which the last
 /// three characters are the number of the file that is read. All sources but the CSV go by way of

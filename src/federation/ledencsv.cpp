@@ -1,22 +1,19 @@
 #include "federation/ledencsv.h"
 
-#include <algorithm>
-#include <array>
-
-#include "federation/tussenbestand.h"
+#include "platform/schijf/heelschrijven.h"
 #include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {
 
-constexpr std::size_t AantalKolommen = 12;
+constexpr std::size_t AantalCsvkolommen = 12;
 
 /// Which column each field of an import line comes from, and whether its box is ticked.
 struct Herkomst {
     std::size_t kolom = 0;
     bool gekozen = true;
 };
-using Herkomsten = std::array<Herkomst, AantalImportvelden>;
+using Herkomsten = std::array<Herkomst, Importveld::Aantal>;
 
 Herkomsten HerkomstenVan(const Importkeuzes& keuzes)
 {
@@ -33,45 +30,78 @@ Herkomsten HerkomstenVan(const Importkeuzes& keuzes)
              {0, true}}};
 }
 
-std::size_t NodigeKolommen(const Herkomsten& herkomsten)
+/// The import line of a line; false when it lacks columns that are asked for.
+bool MaakImportregel(Tekst& uit, Tekstblik regel, const Herkomsten& herkomsten)
 {
-    std::size_t nodig = 0;
-    for (const auto& [kolom, gekozen] : herkomsten)
-        nodig = std::max(nodig, gekozen ? kolom + 1 : 0);
-    return nodig;
-}
-
-struct Kolommen {
-    std::array<Tekstblik, AantalKolommen> teksten;
-    std::size_t aantal = 0; ///< of those in use
-};
-
-Kolommen Splits(Tekstblik regel)
-{
-    Kolommen uit;
-    while (uit.aantal < AantalKolommen) {
-        const auto eind = regel.find(';');
-        uit.teksten[uit.aantal++] = regel.substr(0, eind);
-        if (eind == Tekstblik::npos)
-            break;
-        regel.remove_prefix(eind + 1);
+    std::array<Tekstblik, AantalCsvkolommen> kolommen;
+    std::size_t aantal = 0;
+    for (std::size_t eind = 0; eind != Tekstblik::npos && aantal < kolommen.size(); ++aantal) {
+        eind = regel.find(';');
+        kolommen[aantal] = regel.substr(0, eind);
+        regel.remove_prefix(std::min(kolommen[aantal].size() + 1, regel.size()));
     }
-    uit.teksten[0] = ZonderVoorloop(uit.teksten[0]);
-    return uit;
-}
-
-void MaakImportregel(Tekst& uit, const Kolommen& kolommen, const Herkomsten& herkomsten)
-{
+    kolommen[0] = ZonderVoorloop(kolommen[0]);
     uit.clear();
     for (const auto& [kolom, gekozen] : herkomsten) {
+        if (gekozen && kolom >= aantal)
+            return false;
         if (gekozen)
-            uit += kolommen.teksten[kolom];
+            uit += kolommen[kolom];
         uit += ',';
     }
     uit.pop_back();
+    return true;
 }
 
 } // namespace
+
+Tekst GeslachtUit(Tekstblik tekst)
+{
+    const Tekst groot = Hoofdletters(tekst);
+    if (groot == "MAN" || groot == "MALE")
+        return "M";
+    if (groot == "VROUW" || groot == "FEMALE")
+        return "V";
+    return {}; // "NIET BEKEND" and "UNKNOWN" are no different from any other text
+}
+
+Tekstblik ZonderVoorloop(Tekstblik nummer)
+{
+    constexpr unsigned char hoogste = 240;
+    if (IsBlanco(nummer))
+        return nummer;
+    while (!nummer.empty() && static_cast<unsigned char>(nummer.front()) > hoogste)
+        nummer.remove_prefix(1);
+    return nummer;
+}
+
+Tekst ZonderRegeleinden(Tekstblik tekst)
+{
+    Tekst uit;
+    uit.reserve(tekst.size());
+    for (std::size_t i = 0; i < tekst.size(); ++i) {
+        if (tekst.substr(i, 2) == "\r\n")
+            ++i;
+        uit += tekst[i] == '\r' || tekst[i] == '\n' ? ' ' : tekst[i];
+    }
+    return uit;
+}
+
+void VoegLidToe(Tekst& regels, const Lidrij& lid)
+{
+    for (const Tekst& veld : lid) {
+        const bool meer = veld.find('\n') != Tekst::npos || veld.find('\r') != Tekst::npos;
+        regels += meer ? ZonderRegeleinden(veld) : veld;
+        regels += ';';
+    }
+    regels += "\r\n";
+}
+
+Uitkomst<void> SchrijfTussenregels(Schijf& schijf, const Pad& pad, Tekst regels)
+{
+    regels += "\r\n";
+    return SchrijfVluchtig(schijf, pad, regels);
+}
 
 Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
                                    const Voortgang& voortgang)
@@ -80,7 +110,6 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
         return tl::unexpected(Fout{Foutsoort::Beschadigd, {}, 0, "dit is geen tekstbestand"});
     constexpr int elkeZoveel = 4096;
     const Herkomsten herkomsten = HerkomstenVan(keuzes);
-    const std::size_t nodig = NodigeKolommen(herkomsten);
     Ledenlezing uit;
     uit.lstN1.Reserveer(static_cast<std::size_t>(std::count(tekst.begin(), tekst.end(), '\n')) + 1,
                         tekst.size());
@@ -93,15 +122,12 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
             continue;
         if (regel.find('=') != Tekstblik::npos) {
             uit.metIsTeken.VoegToe(regel);
-            continue;
-        }
-        const Kolommen kolommen = Splits(regel);
-        if (kolommen.aantal < nodig) {
+        } else if (MaakImportregel(importregel, regel, herkomsten)) {
+            uit.lstN1.VoegToe(importregel);
+        } else {
             uit.teKorteRegel = nummer;
             break;
         }
-        MaakImportregel(importregel, kolommen, herkomsten);
-        uit.lstN1.VoegToe(importregel);
     }
     return uit;
 }

@@ -1,19 +1,16 @@
 #include "federation/ledendatabase.h"
 
 #include <algorithm>
-#include <array>
-#include <numeric>
-#include <utility>
 
-#include "federation/tussenbestand.h"
+#include "federation/ledencsv.h"
 #include "platform/tekst/getal.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {
 
-/// The places of the columns in a row of "leden", as they are asked.
-enum Kolomplaats : std::size_t {
+/// The columns of "leden", as they are asked and stand in a row.
+enum Ledenkolom : std::size_t {
     Voornaam,
     Tussenvoegsel,
     Voorletters,
@@ -33,35 +30,24 @@ enum Kolomplaats : std::size_t {
 
 std::vector<Accesskolom> Ledenkolommen()
 {
-    constexpr auto tekst = Accesssoort::Letters;
-    return {{"voornaam", tekst},
-            {"tussenvoegsel", tekst},
-            {"voorletters", tekst},
-            {"achternaam", tekst},
-            {"bestand", Accesssoort::Geheel},
-            {"telefoon1", tekst},
-            {"telefoon2", tekst},
-            {"email", tekst},
-            {"geslacht", tekst},
-            {"bondsnummer", tekst},
-            {"adres", tekst},
-            {"postcode", tekst},
-            {"plaats", tekst},
-            {"land", tekst},
-            {"status", tekst}};
-}
-
-Tekstblik ZonderStaart(Tekstblik tekst)
-{
-    return tekst.substr(0, tekst.find_last_not_of(' ') + 1);
+    std::vector<Accesskolom> kolommen;
+    for (const char* naam : {"voornaam", "tussenvoegsel", "voorletters", "achternaam", "bestand",
+                             "telefoon1", "telefoon2", "email", "geslacht", "bondsnummer", "adres",
+                             "postcode", "plaats", "land", "status"})
+        kolommen.push_back({naam, Accesssoort::Letters});
+    kolommen[Bestand].soort = Accesssoort::Geheel;
+    return kolommen;
 }
 
 /// `waarde <> tekst` as the database engine has it: false for NULL; capitals and trailing blanks do
 /// not count. A letter that only the code page made equal is another one.
 bool Ongelijk(const std::optional<Accesswaarde>& waarde, Tekstblik tekst)
 {
-    return waarde && (waarde->vervangen > 0 ||
-                      Hoofdletters(ZonderStaart(waarde->tekst)) != Hoofdletters(tekst));
+    if (!waarde)
+        return false;
+    const Tekstblik zonderStaart =
+        Tekstblik(waarde->tekst).substr(0, waarde->tekst.find_last_not_of(' ') + 1);
+    return waarde->vervangen > 0 || Hoofdletters(zonderStaart) != Hoofdletters(tekst);
 }
 
 bool DoetMee(const Accessrij& rij, const Tekst& bestand)
@@ -70,58 +56,37 @@ bool DoetMee(const Accessrij& rij, const Tekst& bestand)
            Ongelijk(rij[Status], "Overleden");
 }
 
-class Rijvuller {
-  public:
-    Rijvuller(const Accessrij& rij, std::size_t& vervangen) : rij_(rij), vervangen_(vervangen) {}
-
-    Lidrij Vul()
-    {
-        const bool tweede = rij_[Telefoon2] && !IsBlanco(rij_[Telefoon2]->tekst);
-        Zet(Lidveld::NBBnr, ZonderVoorloop(Neem(Bondsnummer)));
-        Zet(Lidveld::Geslacht, GeslachtUit(rij_[Geslacht] ? rij_[Geslacht]->tekst : Tekst()));
-        Zet(Lidveld::Voornaam, Neem(Voornaam));
-        Zet(Lidveld::Voorletters, Neem(Voorletters));
-        Zet(Lidveld::Tussenvoegsel, Neem(Tussenvoegsel));
-        Zet(Lidveld::Achternaam, Neem(Achternaam));
-        Zet(Lidveld::Adres, Neem(Adres));
-        Zet(Lidveld::Postcode, Neem(Postcode));
-        Zet(Lidveld::Plaats, Neem(Plaats));
-        Zet(Lidveld::Telefoon, Neem(tweede ? Telefoon2 : Telefoon1));
-        Zet(Lidveld::Email, Neem(Email));
-        return std::move(lid_);
-    }
-
-  private:
-    void Zet(Lidveld veld, Tekstblik tekst) { lid_[static_cast<std::size_t>(veld)] = tekst; }
-
-    Tekstblik Neem(Kolomplaats kolom)
-    {
-        if (!rij_[kolom])
-            return {};
-        vervangen_ += rij_[kolom]->vervangen;
-        return rij_[kolom]->tekst;
-    }
-
-    const Accessrij& rij_;
-    std::size_t& vervangen_;
-    Lidrij lid_;
-};
+Lidrij AlsLid(const Accessrij& rij, std::size_t& vervangen)
+{
+    const auto neem = [&](Ledenkolom kolom) {
+        const Accesswaarde waarde = rij[kolom].value_or(Accesswaarde());
+        vervangen += waarde.vervangen;
+        return waarde.tekst;
+    };
+    const bool tweede = rij[Telefoon2] && !IsBlanco(rij[Telefoon2]->tekst);
+    Lidrij lid;
+    lid[Lidveld::NBBnr] = ZonderVoorloop(neem(Bondsnummer));
+    lid[Lidveld::Geslacht] = rij[Geslacht] ? GeslachtUit(rij[Geslacht]->tekst) : Tekst();
+    lid[Lidveld::Voornaam] = neem(Voornaam);
+    lid[Lidveld::Voorletters] = neem(Voorletters);
+    lid[Lidveld::Tussenvoegsel] = neem(Tussenvoegsel);
+    lid[Lidveld::Achternaam] = neem(Achternaam);
+    lid[Lidveld::Adres] = neem(Adres);
+    lid[Lidveld::Postcode] = neem(Postcode);
+    lid[Lidveld::Plaats] = neem(Plaats);
+    lid[Lidveld::Telefoon] = neem(tweede ? Telefoon2 : Telefoon1);
+    lid[Lidveld::Email] = neem(Email);
+    return lid;
+}
 
 /// The rows that take part, by surname in the text order and then as they were read.
-std::vector<const Accessrij*> Gekozen(const std::vector<Accessrij>& rijen, const Tekst& bestand)
+std::vector<Accessrij> Gekozen(std::vector<Accessrij> rijen, const Tekst& bestand)
 {
-    std::vector<std::pair<Tekst, const Accessrij*>> gekozen;
-    for (const Accessrij& rij : rijen) {
-        if (DoetMee(rij, bestand))
-            gekozen.emplace_back(Sorteersleutel(rij[Achternaam]->tekst), &rij);
-    }
-    std::stable_sort(gekozen.begin(), gekozen.end(),
-                     [](const auto& een, const auto& ander) { return een.first < ander.first; });
-    std::vector<const Accessrij*> uit;
-    uit.reserve(gekozen.size());
-    for (const auto& [sleutel, rij] : gekozen)
-        uit.push_back(rij);
-    return uit;
+    std::erase_if(rijen, [&](const Accessrij& rij) { return !DoetMee(rij, bestand); });
+    std::stable_sort(rijen.begin(), rijen.end(), [](const Accessrij& een, const Accessrij& ander) {
+        return KomtVoor(een[Achternaam]->tekst, ander[Achternaam]->tekst);
+    });
+    return rijen;
 }
 
 } // namespace
@@ -136,11 +101,10 @@ Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database, const Voort
         return tl::unexpected(rijen.error());
     std::vector<Tekst> lijst;
     for (const Accessrij& rij : *rijen) {
-        Tekst regel = rij[1] ? rij[1]->tekst : Tekst();
+        Tekst& regel = lijst.emplace_back(rij[1] ? rij[1]->tekst : Tekst());
         regel += ' ';
         if (rij[0])
             regel += MetNullen(Geheel32(rij[0]->tekst).value_or(0), 3);
-        lijst.push_back(std::move(regel));
     }
     return lijst;
 }
@@ -149,16 +113,16 @@ Uitkomst<std::size_t> HaalLeden(Schijf& schijf, const Pad& database, int id,
                                 const Pad& tussenbestand, const Voortgang& voortgang,
                                 const Accessgrenzen& grenzen)
 {
-    const auto rijen = LeesAccess(database, "leden", Ledenkolommen(), voortgang, grenzen);
+    auto rijen = LeesAccess(database, "leden", Ledenkolommen(), voortgang, grenzen);
     if (!rijen)
-        return tl::unexpected(rijen.error());
-    std::vector<Lidrij> leden;
+        return tl::unexpected(std::move(rijen.error()));
+    Tekst regels;
     std::size_t vervangen = 0;
-    for (const Accessrij* rij : Gekozen(*rijen, std::to_string(id)))
-        leden.push_back(Rijvuller(*rij, vervangen).Vul());
-    if (auto geschreven = SchrijfTussenbestand(schijf, tussenbestand, leden); !geschreven)
-        return tl::unexpected(std::move(geschreven.error()));
-    return vervangen;
+    for (const Accessrij& rij : Gekozen(std::move(*rijen), std::to_string(id)))
+        VoegLidToe(regels, AlsLid(rij, vervangen));
+    return SchrijfTussenregels(schijf, tussenbestand, std::move(regels)).map([&] {
+        return vervangen;
+    });
 }
 
 } // namespace plexoran

@@ -1,12 +1,11 @@
 #include "federation/ledenxml.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include <pugixml.hpp>
 
-#include "federation/tussenbestand.h"
+#include "federation/ledencsv.h"
 #include "platform/bronnen/xml.h"
 
 namespace plexoran {
@@ -14,62 +13,51 @@ namespace {
 
 /// What an element of a member says, beside the fields: what is passed over, and the telephone
 /// number that wins.
-constexpr auto Geen = static_cast<Lidveld>(AantalLidvelden);
-constexpr auto Telefoon2 = static_cast<Lidveld>(AantalLidvelden + 1);
+constexpr std::size_t Geen = Lidveld::Aantal;
+constexpr std::size_t Telefoon2 = Lidveld::Aantal + 1;
 
-struct Naamveld {
-    std::string_view naam;
-    Lidveld veld;
-};
-
-constexpr std::array<Naamveld, 12> namenNbb4 = {{{"LeagueId", Lidveld::NBBnr},
-                                                 {"Geslacht", Lidveld::Geslacht},
-                                                 {"Voornaam", Lidveld::Voornaam},
-                                                 {"Voorletters", Lidveld::Voorletters},
-                                                 {"Tussenvoegsel", Lidveld::Tussenvoegsel},
-                                                 {"Achternaam", Lidveld::Achternaam},
-                                                 {"Adres", Lidveld::Adres},
-                                                 {"Postcode", Lidveld::Postcode},
-                                                 {"Plaats", Lidveld::Plaats},
-                                                 {"Telefoon1", Lidveld::Telefoon},
-                                                 {"Telefoon2", Telefoon2},
-                                                 {"Email", Lidveld::Email}}};
+constexpr std::array<std::pair<std::string_view, std::size_t>, 12> namenNbb4 = {
+    {{"LeagueId", Lidveld::NBBnr},
+     {"Geslacht", Lidveld::Geslacht},
+     {"Voornaam", Lidveld::Voornaam},
+     {"Voorletters", Lidveld::Voorletters},
+     {"Tussenvoegsel", Lidveld::Tussenvoegsel},
+     {"Achternaam", Lidveld::Achternaam},
+     {"Adres", Lidveld::Adres},
+     {"Postcode", Lidveld::Postcode},
+     {"Plaats", Lidveld::Plaats},
+     {"Telefoon1", Lidveld::Telefoon},
+     {"Telefoon2", Telefoon2},
+     {"Email", Lidveld::Email}}};
 
 /// Element 0 is position 1.
-constexpr std::array<Lidveld, 15> plaatsenNbb3 = {Lidveld::Achternaam,
-                                                  Lidveld::Adres,
-                                                  Geen,
-                                                  Lidveld::NBBnr,
-                                                  Lidveld::Email,
-                                                  Geen,
-                                                  Lidveld::Geslacht,
-                                                  Geen,
-                                                  Lidveld::Plaats,
-                                                  Lidveld::Postcode,
-                                                  Lidveld::Telefoon,
-                                                  Telefoon2,
-                                                  Lidveld::Tussenvoegsel,
-                                                  Lidveld::Voorletters,
-                                                  Lidveld::Voornaam};
+constexpr std::array<std::size_t, 15> veldenNbb3 = {Lidveld::Achternaam,
+                                                    Lidveld::Adres,
+                                                    Geen,
+                                                    Lidveld::NBBnr,
+                                                    Lidveld::Email,
+                                                    Geen,
+                                                    Lidveld::Geslacht,
+                                                    Geen,
+                                                    Lidveld::Plaats,
+                                                    Lidveld::Postcode,
+                                                    Lidveld::Telefoon,
+                                                    Telefoon2,
+                                                    Lidveld::Tussenvoegsel,
+                                                    Lidveld::Voorletters,
+                                                    Lidveld::Voornaam};
 
 enum class Nbbversie { Drie, Vier };
-
-Lidveld VeldMetNaam(std::string_view gezocht)
-{
-    const auto gevonden = std::find_if(namenNbb4.begin(), namenNbb4.end(),
-                                       [&](const Naamveld& een) { return een.naam == gezocht; });
-    return gevonden == namenNbb4.end() ? Geen : gevonden->veld;
-}
 
 /// A placeholder for someone's partner is one word.
 void PasAchternaamregelToe(Tekst& achternaam)
 {
-    constexpr std::size_t lengte = 7;
-    if (achternaam.empty() || Hoofdletter(achternaam.front()) != 'P')
+    constexpr Tekstblik partner = "PARTNER";
+    if (achternaam.empty() || Hoofdletter(achternaam.front()) != partner.front())
         return; // the word takes all seven
     achternaam = ZonderRegeleinden(achternaam);
-    const Tekstblik begin = ZonderSpaties(Tekstblik(achternaam).substr(0, lengte));
-    if (Hoofdletters(begin) == "PARTNER")
+    const Tekstblik begin = ZonderSpaties(Tekstblik(achternaam).substr(0, partner.size()));
+    if (Hoofdletters(begin) == partner)
         achternaam = Vervang(achternaam, ' ', '_');
 }
 
@@ -82,45 +70,45 @@ class Ledenomzetter {
     {
         Lidrij lid;
         Tekst telefoon2;
-        std::size_t plaats = *member.value() == '\0' ? 0 : 1; // a text at the front
+        std::size_t positie = *member.value() == '\0' ? 0 : 1; // a text at the front
         for (const pugi::xml_node& kind : member.children()) {
             if (IsWit(kind, bron_))
                 continue;
-            const Lidveld veld = Veld(kind, plaats++);
+            const std::size_t veld = Veld(kind, positie++);
             if (veld == Geen)
                 continue;
             Tekst tekst;
-            vervangen_ += LeesTekst(kind, bron_, tekst);
+            vervangen += LeesTekst(kind, bron_, tekst);
             if (veld == Telefoon2 && !tekst.empty()) // wins, wherever it stands
                 telefoon2 = std::move(tekst);
             else if (veld != Telefoon2)
-                lid[static_cast<std::size_t>(veld)] =
-                    veld == Lidveld::Geslacht ? GeslachtUit(tekst) : std::move(tekst);
+                lid[veld] = veld == Lidveld::Geslacht ? GeslachtUit(tekst) : std::move(tekst);
         }
         if (!telefoon2.empty())
-            lid[static_cast<std::size_t>(Lidveld::Telefoon)] = std::move(telefoon2);
+            lid[Lidveld::Telefoon] = std::move(telefoon2);
         if (versie_ == Nbbversie::Vier)
-            PasAchternaamregelToe(lid[static_cast<std::size_t>(Lidveld::Achternaam)]);
-        VoegLidToe(regels_, lid);
+            PasAchternaamregelToe(lid[Lidveld::Achternaam]);
+        VoegLidToe(regels, lid);
     }
 
-    [[nodiscard]] std::size_t Vervangen() const { return vervangen_; }
-    Tekst NeemRegels() { return std::move(regels_); }
+    Tekst regels;
+    std::size_t vervangen = 0;
 
   private:
-    [[nodiscard]] Lidveld Veld(const pugi::xml_node& kind, std::size_t plaats) const
+    [[nodiscard]] std::size_t Veld(const pugi::xml_node& kind, std::size_t positie) const
     {
         if (kind.type() != pugi::node_element)
             return Geen;
-        if (versie_ == Nbbversie::Vier)
-            return VeldMetNaam(kind.name());
-        return plaats < plaatsenNbb3.size() ? plaatsenNbb3[plaats] : Geen;
+        if (versie_ == Nbbversie::Drie)
+            return positie < veldenNbb3.size() ? veldenNbb3[positie] : Geen;
+        const auto* const gevonden =
+            std::find_if(namenNbb4.begin(), namenNbb4.end(),
+                         [&](const auto& een) { return een.first == kind.name(); });
+        return gevonden == namenNbb4.end() ? Geen : gevonden->second;
     }
 
     Nbbversie versie_;
     std::string_view bron_;
-    Tekst regels_;
-    std::size_t vervangen_ = 0;
 };
 
 /// A document and the text in which its nodes have their places.
@@ -176,8 +164,8 @@ Uitkomst<Xmlomzetting> Converteer(const Ledendocument& van, Nbbversie versie, Sc
         if (++gedaan % elkeZoveel == 0 && voortgang)
             voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
     });
-    return SchrijfTussenregels(schijf, tussenbestand, omzetter.NeemRegels()).map([&] {
-        return Xmlomzetting{omzetter.Vervangen(), std::nullopt};
+    return SchrijfTussenregels(schijf, tussenbestand, std::move(omzetter.regels)).map([&] {
+        return Xmlomzetting{omzetter.vervangen, std::nullopt};
     });
 }
 

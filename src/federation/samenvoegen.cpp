@@ -1,9 +1,6 @@
 #include "federation/samenvoegen.h"
 
-#include <optional>
-#include <unordered_map>
-
-#include "federation/nbbnrindex.h"
+#include "platform/tekst/getal.h"
 
 namespace plexoran {
 namespace {
@@ -11,7 +8,7 @@ namespace {
 constexpr std::size_t MeldElke = 2048; // lines between two reports
 
 /// The columns that an import line fills, rising, and from which of its fields.
-constexpr std::array<std::pair<Kolom, Importveld>, 10> Herkomst{{
+constexpr std::array<std::pair<Kolom, std::size_t>, 10> Herkomst{{
     {Kolom::Voornaam, Importveld::Voornaam},
     {Kolom::Tusv, Importveld::Tusv},
     {Kolom::Achternaam, Importveld::Achternaam},
@@ -24,19 +21,9 @@ constexpr std::array<std::pair<Kolom, Importveld>, 10> Herkomst{{
     {Kolom::MV, Importveld::MV},
 }};
 
-Tekstblik Veld(const Importvelden& velden, Importveld veld)
+Tekstblik Nummer(const Importvelden& velden)
 {
-    return velden[static_cast<std::size_t>(veld)];
-}
-
-/// The number of every line, without outer blanks.
-std::vector<Tekstblik> Nummers(const Tekstlijst& lstN1)
-{
-    std::vector<Tekstblik> nummers;
-    nummers.reserve(lstN1.size());
-    for (const Tekstblik regel : lstN1)
-        nummers.push_back(ZonderSpaties(Veld(SplitsImportregel(regel), Importveld::NBBnr)));
-    return nummers;
+    return ZonderSpaties(velden[Importveld::NBBnr]);
 }
 
 /// A file with many texts there that no number comes near holds something else.
@@ -56,171 +43,183 @@ class Samenvoeger {
     Samenvoeger(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang,
                 std::vector<Tekstblik> nummers)
         : spelers_(spelers), opdracht_(opdracht), voortgang_(voortgang),
-          nummers_(std::move(nummers)), vragen_(Vragen(nummers_)), NBBnrIndex_(vragen_)
+          nummers_(std::move(nummers)), NBBnrIndex_(nummers_)
     {
-        BouwNBBnrIndex();
+        const Spelertabel& tabel = spelers_.tabel;
+        eersteRij_.reserve(static_cast<std::size_t>(tabel.Rijen()));
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+            if (tabel.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
+                continue;
+            const Tekstblik nummer = tabel.Cel(rij, Kolom::NBBnr);
+            NBBnrIndex_.Voeg(nummer);
+            eersteRij_.try_emplace(nummer, rij);
+        }
     }
 
-    [[nodiscard]] std::optional<Samenvoegfout> Beslis();
-    void Voer();
+    /// What has a row of its own number is refreshed; the rest that has a number is left for
+    /// adding. False when the user stops it, here and below.
+    [[nodiscard]] bool KiesVerversingen()
+    {
+        for (std::size_t i = 0; i < nummers_.size(); ++i) {
+            if (nummers_[i].empty()) {
+                uitkomst.ZonderNBBnr.append(opdracht_.lstN1[i]).append("\r\n");
+            } else if (const auto gevonden = eersteRij_.find(nummers_[i]);
+                       gevonden != eersteRij_.end() && NBBnrIndex_.Bevat(i)) {
+                verversingen_.emplace_back(i, gevonden->second);
+            } else {
+                lstN2_.push_back(i);
+            }
+            if (!GaVerder())
+                return false;
+        }
+        return true;
+    }
+
+    /// Of what is left, all whose number does not occur yet; every one of them makes it occur.
+    [[nodiscard]] bool KiesNieuwe()
+    {
+        std::size_t over = 0;
+        for (const std::size_t i : lstN2_) {
+            if (NBBnrIndex_.Bevat(i)) {
+                uitkomst.overgeslagen.VoegToe(opdracht_.lstN1[i]);
+            } else {
+                NBBnrIndex_.Voeg(nummers_[i]);
+                lstN2_[over++] = i;
+            }
+            if (!GaVerder())
+                return false;
+        }
+        lstN2_.resize(over);
+        return true;
+    }
+
+    [[nodiscard]] bool ZijnErSleutels() const
+    {
+        return plexoran::ZijnErSleutels(spelers_, lstN2_.size());
+    }
+
+    void Voer()
+    {
+        for (const auto& [regel, rij] : verversingen_)
+            Ververs(rij, SplitsImportregel(opdracht_.lstN1[regel]));
+        for (const std::size_t regel : lstN2_)
+            VoegSpelerToe(SplitsImportregel(opdracht_.lstN1[regel]));
+        uitkomst.AantalVerververst = verversingen_.size();
+        uitkomst.AantalNieuw = lstN2_.size();
+    }
 
     Samenvoeging uitkomst;
 
   private:
-    struct Verversing {
-        std::size_t regel; ///< place in lstN1
-        int rij;
-    };
-
-    static std::vector<Tekst> Vragen(const std::vector<Tekstblik>& nummers);
-
-    void BouwNBBnrIndex();
-    [[nodiscard]] int ZoekRij(std::size_t regel) const;
-    [[nodiscard]] bool KiesVerversingen();
-    [[nodiscard]] bool KiesNieuwe();
-    void Ververs(int rij, const Importvelden& velden);
-    void VoegLidToe(const Importvelden& velden);
     [[nodiscard]] bool GaVerder()
     {
         return ++gedaan_ % MeldElke != 0 || !voortgang_ ||
                voortgang_(gedaan_, 2 * opdracht_.lstN1.size());
     }
 
+    /// The fields as they stand: one that was not asked for is empty and empties the cell.
+    void Ververs(int rij, const Importvelden& velden)
+    {
+        std::array<Celtekst, Herkomst.size() + 1> cellen;
+        for (std::size_t i = 0; i < Herkomst.size(); ++i)
+            cellen[i] = {Herkomst[i].first, velden[Herkomst[i].second]};
+        cellen.back() = {Kolom::NBBgr, NBBgr_};
+        spelers_.tabel.ZetCellen(rij, cellen);
+    }
+
+    void VoegSpelerToe(const Importvelden& velden)
+    {
+        const Tekst nr = std::to_string(spelers_.tabel.Rijen() + 1);
+        const Tekst key = std::to_string(NieuweSleutel(spelers_).value());
+        Rijblikken cellen;
+        cellen[Plaats(Kolom::Nr)] = nr;
+        cellen[Plaats(Kolom::Key)] = key;
+        cellen[Plaats(Kolom::Groep)] = opdracht_.importgroep;
+        for (const auto& [kolom, veld] : Herkomst)
+            cellen[Plaats(kolom)] = ZonderSpaties(velden[veld]);
+        cellen[Plaats(Kolom::NBBgr)] = NBBgr_;
+        cellen[Plaats(Kolom::NBBnr)] = Nummer(velden);
+        spelers_.tabel.VoegRijToe(cellen);
+    }
+
     Register& spelers_;
     const Samenvoegopdracht& opdracht_;
     const Voortgang& voortgang_;
     std::vector<Tekstblik> nummers_; ///< of every line, without outer blanks
-    std::vector<Tekst> vragen_;      ///< the numbers as the index writes them
     Tekst NBBgr_ = Hoofdletters(opdracht_.subgroep);
     NBBnrIndex NBBnrIndex_;
     std::unordered_map<Tekstblik, int> eersteRij_; ///< of the group, with each number as text
-    std::vector<Verversing> verversingen_;
-    std::vector<std::size_t> lstN2_; ///< places in lstN1 of what is to be added
+    std::vector<std::pair<std::size_t, int>> verversingen_; ///< element of lstN1, and row
+    std::vector<std::size_t> lstN2_;                        ///< elements of lstN1 to be added
     std::size_t gedaan_ = 0;
 };
-
-std::vector<Tekst> Samenvoeger::Vragen(const std::vector<Tekstblik>& nummers)
-{
-    std::vector<Tekst> vragen;
-    vragen.reserve(nummers.size());
-    for (const Tekstblik nummer : nummers)
-        vragen.push_back(OpgemaaktNBBnr(nummer));
-    return vragen;
-}
-
-void Samenvoeger::BouwNBBnrIndex()
-{
-    const Spelertabel& tabel = spelers_.tabel;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
-            continue;
-        const Tekstblik nummer = tabel.Cel(rij, Kolom::NBBnr);
-        NBBnrIndex_.Voeg(OpgemaaktNBBnr(nummer));
-        eersteRij_.try_emplace(nummer, rij);
-    }
-}
-
-/// The first row of the group whose number is, to the letter, the one of this line; 0: none.
-int Samenvoeger::ZoekRij(std::size_t regel) const
-{
-    const auto plek = eersteRij_.find(nummers_[regel]);
-    return plek != eersteRij_.end() && NBBnrIndex_.Bevat(vragen_[regel]) ? plek->second : 0;
-}
-
-std::optional<Samenvoegfout> Samenvoeger::Beslis()
-{
-    if (!KiesVerversingen() || !KiesNieuwe())
-        return Samenvoegfout::Gestopt;
-    if (!ZijnErSleutels(spelers_, lstN2_.size()))
-        return Samenvoegfout::GeenSleutels;
-    return std::nullopt;
-}
-
-/// What has a row of its own number is refreshed; the rest that has a number is left for adding.
-bool Samenvoeger::KiesVerversingen()
-{
-    for (std::size_t i = 0; i < nummers_.size(); ++i) {
-        if (nummers_[i].empty()) {
-            uitkomst.ZonderNBBnr.append(opdracht_.lstN1[i]).append("\r\n");
-        } else {
-            const int rij = ZoekRij(i);
-            if (rij == 0)
-                lstN2_.push_back(i);
-            else
-                verversingen_.push_back({i, rij});
-        }
-        if (!GaVerder())
-            return false;
-    }
-    return true;
-}
-
-/// Of what is left, all whose number does not occur yet; every one of them makes it occur.
-bool Samenvoeger::KiesNieuwe()
-{
-    std::size_t over = 0;
-    for (const std::size_t i : lstN2_) {
-        if (NBBnrIndex_.Bevat(vragen_[i])) {
-            uitkomst.overgeslagen.VoegToe(opdracht_.lstN1[i]);
-        } else {
-            NBBnrIndex_.Voeg(vragen_[i]);
-            lstN2_[over++] = i;
-        }
-        if (!GaVerder())
-            return false;
-    }
-    lstN2_.resize(over);
-    return true;
-}
-
-void Samenvoeger::Voer()
-{
-    for (const auto& [regel, rij] : verversingen_)
-        Ververs(rij, SplitsImportregel(opdracht_.lstN1[regel]));
-    for (const std::size_t regel : lstN2_)
-        VoegLidToe(SplitsImportregel(opdracht_.lstN1[regel]));
-    uitkomst.AantalVerververst = verversingen_.size();
-    uitkomst.AantalNieuw = lstN2_.size();
-}
-
-/// The fields as they stand: one that was not asked for is empty and empties the cell.
-void Samenvoeger::Ververs(int rij, const Importvelden& velden)
-{
-    std::array<Celtekst, Herkomst.size() + 1> cellen;
-    for (std::size_t i = 0; i < Herkomst.size(); ++i)
-        cellen[i] = {Herkomst[i].first, Veld(velden, Herkomst[i].second)};
-    cellen.back() = {Kolom::NBBgr, NBBgr_};
-    spelers_.tabel.ZetCellen(rij, cellen);
-}
-
-void Samenvoeger::VoegLidToe(const Importvelden& velden)
-{
-    const Tekst nr = std::to_string(spelers_.tabel.Rijen() + 1);
-    const Tekst key = std::to_string(NieuweSleutel(spelers_).value());
-    Rijblikken cellen;
-    cellen[Plaats(Kolom::Nr)] = nr;
-    cellen[Plaats(Kolom::Key)] = key;
-    cellen[Plaats(Kolom::Groep)] = opdracht_.importgroep;
-    for (const auto& [kolom, veld] : Herkomst)
-        cellen[Plaats(kolom)] = ZonderSpaties(Veld(velden, veld));
-    cellen[Plaats(Kolom::NBBgr)] = NBBgr_;
-    cellen[Plaats(Kolom::NBBnr)] = ZonderSpaties(Veld(velden, Importveld::NBBnr));
-    spelers_.tabel.VoegRijToe(cellen);
-}
 
 } // namespace
 
 tl::expected<Samenvoeging, Samenvoegfout>
 VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
 {
-    auto nummers = Nummers(opdracht.lstN1);
+    std::vector<Tekstblik> nummers;
+    nummers.reserve(opdracht.lstN1.size());
+    for (const Tekstblik regel : opdracht.lstN1)
+        nummers.push_back(Nummer(SplitsImportregel(regel)));
     if (ZijnTeGroot(nummers))
         return tl::unexpected(Samenvoegfout::TeGroot);
     Samenvoeger samenvoeger(spelers, opdracht, voortgang, std::move(nummers));
-    if (const auto fout = samenvoeger.Beslis())
-        return tl::unexpected(*fout);
+    if (!samenvoeger.KiesVerversingen() || !samenvoeger.KiesNieuwe())
+        return tl::unexpected(Samenvoegfout::Gestopt);
+    if (!samenvoeger.ZijnErSleutels())
+        return tl::unexpected(Samenvoegfout::GeenSleutels);
     samenvoeger.Voer();
     return std::move(samenvoeger.uitkomst);
+}
+
+Tekst OpgemaaktNBBnr(Tekstblik nummer)
+{
+    constexpr std::size_t cijfers = 8;
+    auto getal = AlsGetal(nummer, cijfers);
+    return getal ? std::move(*getal) : Tekst(nummer);
+}
+
+NBBnrIndex::NBBnrIndex(const std::vector<Tekstblik>& vragen)
+{
+    vragen_.reserve(vragen.size()); // their texts stay where they are
+    gezien_.reserve(vragen.size());
+    antwoorden_.reserve(vragen.size());
+    for (const Tekstblik nummer : vragen) {
+        const Tekst& vraag = vragen_.emplace_back(OpgemaaktNBBnr(nummer));
+        if (vraag.size() > Langste) {
+            antwoorden_.push_back(nullptr);
+            continue;
+        }
+        // Nothing occurs everywhere.
+        antwoorden_.push_back(&gezien_.try_emplace(vraag, vraag.empty()).first->second);
+        lengten_.insert(vraag.size());
+        metStreep_ = metStreep_ || vraag.find('-') != Tekst::npos;
+    }
+    lengten_.erase(0);
+}
+
+bool NBBnrIndex::Bevat(std::size_t vraag) const
+{
+    const bool* const antwoord = antwoorden_[vraag];
+    return antwoord != nullptr ? *antwoord : tekst_.find(vragen_[vraag]) != Tekst::npos;
+}
+
+void NBBnrIndex::Voeg(Tekstblik nummer)
+{
+    const std::size_t begin = tekst_.size() + 1;
+    tekst_ += '-';
+    tekst_ += OpgemaaktNBBnr(nummer);
+    for (const std::size_t lengte : lengten_) {
+        // As a rule nothing that is asked can reach across the "-".
+        const std::size_t eerste = metStreep_ ? std::max(lengte, begin) : begin + lengte;
+        for (std::size_t eind = eerste; eind <= tekst_.size(); ++eind) {
+            const auto gevonden = gezien_.find(Tekstblik(tekst_).substr(eind - lengte, lengte));
+            if (gevonden != gezien_.end())
+                gevonden->second = true;
+        }
+    }
 }
 
 } // namespace plexoran

@@ -4,6 +4,10 @@
 // with a new key. Players of other groups are never looked at.
 #pragma once
 
+#include <set>
+#include <unordered_map>
+#include <vector>
+
 #include <tl/expected.hpp>
 
 #include "federation/importregel.h"
@@ -39,5 +43,38 @@ enum class Samenvoegfout {
 [[nodiscard]] tl::expected<Samenvoeging, Samenvoegfout>
 VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht,
                const Voortgang& voortgang = {});
+
+/// A number as the index below writes it: digits with leading zeros to at least 8, any other text
+/// as it is. Outer spaces do not count for digits.
+[[nodiscard]] Tekst OpgemaaktNBBnr(Tekstblik nummer);
+
+/// Which federation numbers occur in the import group, asked as a search in one text: for every
+/// player "-" and the number in at least 8 digits ("-00012345-00067890"). A number is found
+/// wherever it stands in that text, so a longer number hides those within its digits, and one that
+/// holds a "-" can be found across two players. That is kept to the letter.
+class NBBnrIndex {
+  public:
+    /// The numbers that will be asked for, known before the first player: of the text only
+    /// stretches as long as one of them are looked up.
+    explicit NBBnrIndex(const std::vector<Tekstblik>& vragen);
+    NBBnrIndex(const NBBnrIndex&) = delete;
+    NBBnrIndex& operator=(const NBBnrIndex&) = delete;
+
+    /// Lengthens the text by "-" and this number.
+    void Voeg(Tekstblik nummer);
+    /// Whether that one of the numbers occurs in the text so far.
+    [[nodiscard]] bool Bevat(std::size_t vraag) const;
+
+    /// Longer ones are searched for one by one; a file should hold few of them.
+    static constexpr std::size_t Langste = 64;
+
+  private:
+    Tekst tekst_;
+    std::vector<Tekst> vragen_; ///< as the text has them
+    std::unordered_map<Tekstblik, bool> gezien_;
+    std::vector<const bool*> antwoorden_; ///< per number asked for; none for the longest
+    std::set<std::size_t> lengten_;
+    bool metStreep_ = false; ///< one of them holds a "-"
+};
 
 } // namespace plexoran

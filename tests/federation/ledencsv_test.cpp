@@ -2,10 +2,120 @@
 
 #include <gtest/gtest.h>
 
+#include "schijven/geheugenSchijf.h"
+
 namespace plexoran {
 namespace {
 
 using Lijst = Tekstlijst;
+
+// ---- The import line ---------------------------------------------------------------------------
+
+TEST(SplitsImportregel, GeeftElkVeldZijnPlek)
+{
+    const auto velden =
+        SplitsImportregel("Zo\xEB,van,Ek,Brink 1,0411 JK,Laar,06,z@x.example,Nederland,V, 123 ");
+    EXPECT_EQ(velden[Importveld::Voornaam], "Zo\xEB");
+    EXPECT_EQ(velden[Importveld::Tusv], "van");
+    EXPECT_EQ(velden[Importveld::Achternaam], "Ek");
+    EXPECT_EQ(velden[Importveld::Adres], "Brink 1");
+    EXPECT_EQ(velden[Importveld::Postc], "0411 JK");
+    EXPECT_EQ(velden[Importveld::Plaats], "Laar");
+    EXPECT_EQ(velden[Importveld::Telef], "06");
+    EXPECT_EQ(velden[Importveld::Email], "z@x.example");
+    EXPECT_EQ(velden[Importveld::Land], "Nederland");
+    EXPECT_EQ(velden[Importveld::MV], "V");
+    EXPECT_EQ(velden[Importveld::NBBnr], " 123 ");
+}
+
+TEST(SplitsImportregel, LegeOntbrekendeEnTeVeelVelden)
+{
+    EXPECT_EQ(SplitsImportregel(""), Importvelden());
+    EXPECT_EQ(SplitsImportregel(",,,,,,,,,,"), Importvelden());
+    EXPECT_EQ(SplitsImportregel("a,,b"), (Importvelden{"a", "", "b"}));
+    EXPECT_EQ(SplitsImportregel("0,1,2,3,4,5,6,7,8,9,10,11"),
+              (Importvelden{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}))
+        << "een komma in een veld schuift de rest op";
+}
+
+// ---- The intermediate file ---------------------------------------------------------------------
+
+const Pad tussenbestand = "C:\\P\\Club Temp-NBBXMLtoCSV.csv";
+
+Uitkomst<void> Schrijf(Schijf& schijf, const std::vector<Lidrij>& leden)
+{
+    Tekst regels;
+    for (const Lidrij& lid : leden)
+        VoegLidToe(regels, lid);
+    return SchrijfTussenregels(schijf, tussenbestand, regels);
+}
+
+TEST(Geslacht, ZesTekstenZijnBekendInHoofdlettersOfNiet)
+{
+    for (const char* tekst : {"MAN", "man", "Man", "MALE", "male"})
+        EXPECT_EQ(GeslachtUit(tekst), "M") << tekst;
+    for (const char* tekst : {"VROUW", "vrouw", "FEMALE", "female", "Female"})
+        EXPECT_EQ(GeslachtUit(tekst), "V") << tekst;
+    for (const char* tekst : {"NIET BEKEND", "unknown", "", "M", "V", " MAN", "MAN ", "X", "MANN"})
+        EXPECT_EQ(GeslachtUit(tekst), "") << tekst;
+}
+
+TEST(ZonderVoorloop, NeemtAlleenTekensBoven240VoorafWeg)
+{
+    for (const auto& [nummer, rest] :
+         std::vector<std::pair<Tekst, Tekst>>{{"\xFF\xFE\x31\x32", "12"},
+                                              {"\xF1\x39", "9"},
+                                              {"\xF1\xF1\x31\xFF", "1\xFF"},
+                                              {"\xFF\xFF", ""},
+                                              {"\xFF 123", " 123"},
+                                              // These stay; the mark of UTF-8 begins with 239.
+                                              {"\xF0\x39", "\xF0\x39"},
+                                              {"\xEF\xBB\xBF\x31", "\xEF\xBB\xBF\x31"},
+                                              {" \xFF\x31", " \xFF\x31"},
+                                              {"12\xFF", "12\xFF"},
+                                              {" 123 ", " 123 "},
+                                              {"   ", "   "},
+                                              {"", ""}})
+        EXPECT_EQ(ZonderVoorloop(nummer), rest) << nummer;
+}
+
+TEST(Tussenbestand, HoudtZestienVeldenPerLidEnEenLegeRegelAanHetEind)
+{
+    const auto geschreven = [](const std::vector<Lidrij>& leden) {
+        GeheugenSchijf schijf;
+        schijf.ZetMap("C:\\P");
+        EXPECT_TRUE(Schrijf(schijf, leden).has_value());
+        return schijf.Inhoud(tussenbestand).value_or("(niets)");
+    };
+    EXPECT_EQ(geschreven({{"1", "V", "Zo\xEB", "Z.", "van", "Ek", "Brink 1", "0411 JK", "Laar",
+                           "06", "z@x.example"},
+                          {"2"}}),
+              "1;V;Zo\xEB;Z.;van;Ek;Brink 1;0411 JK;Laar;06;z@x.example;;;;;;\r\n"
+              "2;;;;;;;;;;;;;;;;\r\n"
+              "\r\n");
+    EXPECT_EQ(geschreven({}), "\r\n");
+    // A line end in a field becomes a blank; those of two fields do not run together.
+    EXPECT_EQ(geschreven({{"1", "", "a\r\nb", "c\rd", "e\nf", "\r\n", "\n\n", "g\n\rh", "i;j"}}),
+              "1;;a b;c d;e f; ;  ;g  h;i;j;;;;;;;;\r\n\r\n");
+    EXPECT_EQ(geschreven({{"1\r", "\nV"}, {"2"}}),
+              "1 ; V;;;;;;;;;;;;;;;\r\n2;;;;;;;;;;;;;;;;\r\n\r\n");
+}
+
+TEST(Tussenbestand, VervangtEenEerderOfMeldtEenSchijfDieWeigert)
+{
+    GeheugenSchijf schijf;
+    schijf.Zet(tussenbestand, "een veel langere oude inhoud dan de nieuwe\r\nen nog een regel\r\n");
+    ASSERT_TRUE(Schrijf(schijf, {}).has_value());
+    EXPECT_EQ(schijf.Inhoud(tussenbestand), "\r\n");
+    EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{tussenbestand});
+    schijf.ZetAlleenLezen("C:\\P");
+    const auto geweigerd = Schrijf(schijf, {{"1"}});
+    ASSERT_FALSE(geweigerd.has_value());
+    EXPECT_EQ(geweigerd.error().soort, Foutsoort::Geweigerd);
+    EXPECT_EQ(schijf.Inhoud(tussenbestand), "\r\n");
+}
+
+// ---- Reading -----------------------------------------------------------------------------------
 
 constexpr Importkeuzes geen{.naw = false, .tel = false, .email = false, .mv = false};
 
@@ -56,19 +166,9 @@ TEST(Ledencsv, HoudtDeVolgordeEnTrimtNiets)
               (Lijst{" Bea , de , B ,,,,,,,, 2 ", "Ans,,A,,,,,, nl ,,1"}));
 }
 
-TEST(Ledencsv, HetNummerVerliestAlleenTekensBoven240Vooraan)
+TEST(Ledencsv, AlleenHetNummerVerliestTekensBoven240Vooraan)
 {
-    const auto nummer = [](const Tekst& kolom) {
-        const Tekst regel(Lees(kolom + ";;;;;X", geen).lstN1[0]);
-        return regel.substr(regel.rfind(',') + 1);
-    };
-    EXPECT_EQ(nummer("\xFF\xFE\x31"), "1");
-    EXPECT_EQ(nummer("\xF1\xF1\x31\xFF"), "1\xFF");
-    EXPECT_EQ(nummer("\xF0\x31"), "\xF0\x31");
-    EXPECT_EQ(nummer(" 1"), " 1");
-    EXPECT_EQ(nummer("\xFF 1"), " 1");
-    EXPECT_EQ(nummer("   "), "   ");
-    EXPECT_EQ(nummer(""), "");
+    EXPECT_EQ(Lees("\xFF\xFE\x31;;\xFF\x32;;;X", geen).lstN1[0], "\xFF\x32,,X,,,,,,,,1");
 }
 
 TEST(Ledencsv, EenKommaBlijftStaanEnSplitstHetVeld)
