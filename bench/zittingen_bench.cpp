@@ -63,7 +63,7 @@ class Competitie {
     void ZetTerug()
     {
         int nummer = 0;
-        for (const Zittingplaats& plaats : zittingen_) {
+        for (const Zitting& plaats : zittingen_) {
             fs::create_directories(Systeempad(plaats.map));
             const Lijsten lijsten = MaakLijsten(++nummer);
             Zet(plaats.Bestand(Lijstsoort::Spelers), lijsten.spelers);
@@ -78,7 +78,7 @@ class Competitie {
     [[nodiscard]] std::vector<fs::path> Bestanden() const
     {
         std::vector<fs::path> uit;
-        for (const Zittingplaats& plaats : zittingen_) {
+        for (const Zitting& plaats : zittingen_) {
             for (const Lijstsoort soort : Soorten)
                 uit.push_back(Systeempad(plaats.Bestand(soort)));
         }
@@ -95,7 +95,7 @@ class Competitie {
 
     Proefsuite suite_;
     Mappen mappen_;
-    std::vector<Zittingplaats> zittingen_;
+    std::vector<Zitting> zittingen_;
 };
 
 Proefkast<Competitie, int>& Competities()

@@ -5,7 +5,6 @@
 
 #include "eis.h"
 #include "platform/tekst/regels.h"
-#include "sessions/tafelparen.h"
 #include "sessions/zittinglijsten.h"
 
 using namespace plexoran;
@@ -28,8 +27,8 @@ std::vector<Helft> AlleHelften(Tekstblik inhoud, Lijstsoort soort)
         const auto helften = SplitsHelften(spelers);
         if (!helften)
             return;
-        uit.push_back({Plaatssleutel(code), Tekst(helften->eerste)});
-        uit.push_back({Plaatssleutel(code), Tekst(helften->tweede)});
+        uit.push_back({Tafelsleutel(code), Tekst(helften->eerste)});
+        uit.push_back({Tafelsleutel(code), Tekst(helften->tweede)});
     };
     for (const Tekstblik regel : Regels(inhoud)) {
         const auto items = ItemsVan(regel);
@@ -45,14 +44,14 @@ std::vector<Helft> AlleHelften(Tekstblik inhoud, Lijstsoort soort)
     return uit;
 }
 
-void EisEenVervangen(const Tekst& inhoud, Lijstsoort soort, const Vindplaats& gekozen)
+void EisEenVervangen(const Tekst& inhoud, Lijstsoort soort, const Tafelnaam& gekozen)
 {
     const Naamvervanging vervanging{{gekozen.code}, gekozen.naam, Tekst(key)};
     const Herschrijving nieuw = HerschrijfLijst(inhoud, soort, vervanging);
-    Eis(nieuw.IetsVervangen(), "wat gevonden is, wordt vervangen");
+    Eis(!nieuw.vervangen.empty(), "wat gevonden is, wordt vervangen");
     std::vector<Helft> verwacht = AlleHelften(inhoud, soort);
     for (Helft& helft : verwacht) {
-        if (helft.plaats == Plaatssleutel(gekozen.code) && helft.speler == gekozen.naam)
+        if (helft.plaats == Tafelsleutel(gekozen.code) && helft.speler == gekozen.naam)
             helft.speler = key;
     }
     Eis(AlleHelften(nieuw.inhoud, soort) == verwacht, "alleen die helft is anders");
@@ -74,14 +73,14 @@ void Proef(const Tekst& inhoud, Lijstsoort soort)
     const Lijstlezing lezing = LeesLijst(inhoud, soort);
     const auto zwevend = AlleHelften(inhoud, soort);
     Eis(lezing.zwevend.size() <= zwevend.size(), "niet meer zwevenden dan helften");
-    for (const Vindplaats& vindplaats : lezing.zwevend)
-        Eis(IsZwevend(vindplaats.naam), "een zwevende is geen getal en niet leeg");
+    for (const Tafelnaam& wie : lezing.zwevend)
+        Eis(IsZwevend(wie.naam), "een zwevende is geen getal en niet leeg");
     constexpr std::size_t hoogstens = 8;
     for (std::size_t i = 0; i < std::min(lezing.zwevend.size(), hoogstens); ++i)
         EisEenVervangen(inhoud, soort, lezing.zwevend[i]);
     const Herschrijving ongemoeid =
         HerschrijfLijst(inhoud, soort, {{"N05"}, "een naam\nmet een regeleinde", Tekst(key)});
-    Eis(!ongemoeid.IetsVervangen() && ongemoeid.inhoud == inhoud, "anders blijft alles");
+    Eis(ongemoeid.vervangen.empty() && ongemoeid.inhoud == inhoud, "anders blijft alles");
 }
 
 } // namespace

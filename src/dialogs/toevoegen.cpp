@@ -8,7 +8,6 @@
 #include "platform/tekst/regels.h"
 #include "platform/tekst/tekstorde.h"
 #include "sessions/sessiemappen.h"
-#include "sessions/tafelparen.h"
 
 namespace plexoran {
 namespace {

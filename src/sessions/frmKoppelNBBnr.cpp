@@ -1,49 +1,44 @@
-// The linking window: what there is to choose from, and what is chosen.
+// The linking window: choosing a session, finding its floating players and linking one of them.
 #include "sessions/frmKoppelNBBnr.h"
 
 #include <QScrollBar>
 #include <QStyle>
 #include <QTimer>
 
-#include <algorithm>
-
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/frmVoortgang.h"
 #include "platform/schijf/klok.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {
+namespace {
+
+/// What happened to how many files, and "- " before each; of many only the first ones and how many
+/// more there are.
+QString Opsomming(const QString& wat, const std::vector<std::string>& bestanden)
+{
+    constexpr int meeste = 10;
+    QStringList uit;
+    for (const std::string& bestand : bestanden) {
+        if (uit.size() == meeste) {
+            uit << u"... en nog "_s +
+                       Aantal(bestanden.size() - meeste, u"bestand"_s, u"bestanden"_s);
+            break;
+        }
+        uit << u"- "_s + QString::fromStdString(bestand);
+    }
+    return wat + u" (%1):\n"_s.arg(bestanden.size()) +
+           (uit.isEmpty() ? u"- geen"_s : uit.join(u'\n'));
+}
+
+} // namespace
 
 frmKoppelNBBnr::frmKoppelNBBnr(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
 {
     Bouw();
-    Option1->setChecked(true);
-    Verbind();
     ToonKnoppen();
-}
-
-void frmKoppelNBBnr::Verbind()
-{
-    // Of the two that change together only one is listened to.
-    connect(Option2, &QRadioButton::toggled, this, &frmKoppelNBBnr::KiesSoort);
-    connect(cmbC, &QComboBox::currentIndexChanged, this, &frmKoppelNBBnr::VergeetGevonden);
-    connect(cmdZoekNamen, &QPushButton::clicked, this, &frmKoppelNBBnr::ZoekNamen);
-    connect(lstSpelers, &Regellijst::keuzeVeranderd, this, &frmKoppelNBBnr::ToonZwevende);
-    connect(lstRVDsp, &Regellijst::keuzeVeranderd, this, &frmKoppelNBBnr::ToonSpeler);
-    connect(lstSpelers, &Regellijst::activated, this, [this](const QModelIndex& regel) {
-        lstSpelers->setCurrentIndex(regel);
-        KiesUitRegister();
-    });
-    connect(lstRVDsp, &Regellijst::activated, this, [this](const QModelIndex& regel) {
-        lstRVDsp->setCurrentIndex(regel);
-        cmdStartKoppelen->setFocus();
-    });
-    connect(lstRVDsp->horizontalScrollBar(), &QScrollBar::valueChanged, this,
-            &frmKoppelNBBnr::PlaatsKoppen);
-    connect(cmdKiesRVDspeler, &QPushButton::clicked, this, &frmKoppelNBBnr::KiesUitRegister);
-    connect(cmdStartKoppelen, &QPushButton::clicked, this, &frmKoppelNBBnr::StartKoppelen);
-    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
 }
 
 /// Filled when the window is there, so that its messages stand before it.
@@ -71,15 +66,10 @@ void frmKoppelNBBnr::KiesSoort()
                                            ? u"Zoek de zwevende spelers in deze Competitie"_s
                                            : u"Zoek de zwevende spelers in deze Zitting"_s,
                                        u'Z'));
-    VulSessies();
-}
-
-void frmKoppelNBBnr::VulSessies()
-{
-    Schijf& schijf = administratie_.schijf;
-    auto gelezen = InCompetities() ? LeesCompetities(schijf, administratie_.mappen)
-                                   : LeesZittingen(schijf, administratie_.mappen);
-    sessies_ = gelezen ? std::move(*gelezen) : std::vector<Sessiemap>();
+    const Mappen& mappen = administratie_.mappen;
+    auto gelezen = competities ? LeesCompetities(administratie_.schijf, mappen)
+                               : LeesZittingen(administratie_.schijf, mappen);
+    sessies_ = gelezen.value_or(std::vector<Sessiemap>());
     std::vector<Tekst> namen;
     for (const Sessiemap& sessie : sessies_)
         namen.push_back(sessie.naam);
@@ -89,15 +79,14 @@ void frmKoppelNBBnr::VulSessies()
                           Qt::ToolTipRole);
     cmbC->setToolTip(cmbC->currentData(Qt::ToolTipRole).toString());
     VergeetGevonden();
-    MeldOvergeslagen(this, schijf,
-                     InCompetities() ? administratie_.mappen.COMMAP : administratie_.mappen.ZITMAP);
+    MeldOvergeslagen(this, administratie_.schijf, competities ? mappen.COMMAP : mappen.ZITMAP);
     if (!gelezen)
-        MeldLeesfout(InCompetities() ? u"Fout bij het lezen van de map met competities."_s
-                                     : u"Fout bij het lezen van de map met zittingen."_s,
+        MeldLeesfout(competities ? u"Fout bij het lezen van de map met competities."_s
+                                 : u"Fout bij het lezen van de map met zittingen."_s,
                      gelezen.error());
     else if (sessies_.empty())
         Meld(this, QMessageBox::Information,
-             InCompetities()
+             competities
                  ? u"Er zijn nog geen competities voorhanden.\r\nU dient dus eerst een Competitie "
                    "aan te maken."_s
                  : u"Er zijn nog geen Zittingen voorhanden.\r\nU dient dus eerst een Zitting aan "
@@ -120,13 +109,10 @@ void frmKoppelNBBnr::LeesRegister()
     const auto lezing = inhoud ? SpelersUit(std::move(*inhoud)) : Spelerlezing();
     spelers_ = lezing.tabel ? Koppelspelers(*lezing.tabel, administratie_.mappen.DFIMPG)
                             : std::vector<Koppelspeler>();
-    constexpr std::size_t breedste = 40;
-    naambreedte_ = 4;
-    for (const Koppelspeler& speler : spelers_)
-        naambreedte_ = std::max(naambreedte_, std::min(speler.naam.size(), breedste));
-    lstRVDsp->Vul(static_cast<int>(spelers_.size()), [this](int plaats) {
-        return Spelerregel(spelers_[static_cast<std::size_t>(plaats)], naambreedte_);
-    });
+    lstRVDsp->Vul(static_cast<int>(spelers_.size()),
+                  [this, breedte = Naambreedte(spelers_)](int regel) {
+                      return Koppelregel(spelers_[static_cast<std::size_t>(regel)], breedte);
+                  });
     PlaatsKoppen();
     if (!inhoud)
         MeldLeesfout(
@@ -141,10 +127,10 @@ void frmKoppelNBBnr::PlaatsKoppen()
     const int begin = lstRVDsp->frameWidth() + 1 +
                       lstRVDsp->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) -
                       lstRVDsp->horizontalScrollBar()->value();
-    const int naam = static_cast<int>(naambreedte_);
-    for (const auto& [kop, kolom] : {std::pair{Label7, 0}, std::pair{lblNaam, 8},
-                                     std::pair{Label6, 10 + naam}, std::pair{Label8, 20 + naam}})
-        kop->move(begin + maten.horizontalAdvance(QString(kolom, u'0')), 0);
+    const int naam = static_cast<int>(Naambreedte(spelers_));
+    const std::array kolommen{0, 8, 10 + naam, 20 + naam};
+    for (std::size_t i = 0; i < koppen_.size(); ++i)
+        koppen_[i]->move(begin + maten.horizontalAdvance(QString(kolommen[i], u'0')), 0);
 }
 
 const Zwevende* frmKoppelNBBnr::GekozenZwevende() const
@@ -166,14 +152,9 @@ void frmKoppelNBBnr::KiesUitRegister()
     LeesRegister();
     lstRVDsp->setFocus();
     const Zwevende* zwevende = GekozenZwevende();
-    if (zwevende == nullptr)
-        return;
-    const Tekst naam = Hoofdletters(zwevende->vindplaats.naam);
-    const auto zelfde =
-        std::find_if(spelers_.begin(), spelers_.end(),
-                     [&](const Koppelspeler& speler) { return Hoofdletters(speler.naam) == naam; });
-    if (zelfde != spelers_.end())
-        lstRVDsp->ZetHuidige(static_cast<int>(zelfde - spelers_.begin()));
+    const int zelfde = zwevende == nullptr ? -1 : Naamgenoot(spelers_, zwevende->naam);
+    if (zelfde >= 0)
+        lstRVDsp->ZetHuidige(zelfde);
 }
 
 /// A warning about the chosen name goes with that name; what was done comes back after it.
@@ -181,7 +162,7 @@ void frmKoppelNBBnr::ToonZwevende()
 {
     const Zwevende* zwevende = GekozenZwevende();
     txtSpeler->setText(zwevende != nullptr ? NaarQString(Lijstregel(*zwevende)) : QString());
-    const bool streepje = zwevende != nullptr && zwevende->vindplaats.naam.find('-') != Tekst::npos;
+    const bool streepje = zwevende != nullptr && zwevende->naam.find('-') != Tekst::npos;
     lblResultaat->setText(
         streepje
             ? u"Let op: in deze naam staat een streepje. Het eerste streepje van een paar scheidt "
@@ -202,7 +183,7 @@ void frmKoppelNBBnr::ToonSpeler()
 void frmKoppelNBBnr::ToonKnoppen()
 {
     cmdZoekNamen->setEnabled(cmbC->currentIndex() >= 0);
-    cmdStartKoppelen->setEnabled(!txtSpeler->text().isEmpty() && !txtRVDspeler->text().isEmpty());
+    cmdStartKoppelen->setEnabled(GekozenZwevende() != nullptr && GekozenSpeler() != nullptr);
 }
 
 void frmKoppelNBBnr::ToonResultaat(const QStringList& regels)
@@ -215,6 +196,132 @@ void frmKoppelNBBnr::MeldLeesfout(const QString& wat, const Fout& fout)
 {
     MeldFout(this, QMessageBox::Warning,
              wat + u" Er is niets veranderd. Verhelp de oorzaak en probeer het opnieuw."_s, fout);
+}
+
+// ---- Searching ---------------------------------------------------------------------------------
+
+void frmKoppelNBBnr::ZoekNamen()
+{
+    VergeetGevonden();
+    ToonResultaat({});
+    Schijf& schijf = administratie_.schijf;
+    const Tekst& naam = sessies_.at(static_cast<std::size_t>(cmbC->currentIndex())).naam;
+    const auto zittingen = InCompetities() ? ZittingenVan(schijf, administratie_.mappen, naam)
+                                           : ZittingVan(schijf, administratie_.mappen, naam);
+    if (!zittingen) {
+        MeldLeesfout(
+            zittingen.error().soort == Foutsoort::Ontbreekt
+                ? u"Fout bij het zoeken van de zwevende spelers: deze map is er niet meer."_s
+                : u"Fout bij het zoeken van de zwevende spelers."_s,
+            zittingen.error());
+        return;
+    }
+    auto uitslag =
+        ZoekZwevenden(schijf, *zittingen,
+                      frmVoortgang(u"De zwevende spelers worden gezocht ..."_s, u"&Stoppen"_s, this)
+                          .AlsVoortgang());
+    zwevenden_ = std::move(uitslag.zwevenden);
+    ToonGevonden(uitslag);
+}
+
+void frmKoppelNBBnr::VulZwevenden()
+{
+    lstSpelers->Vul(static_cast<int>(zwevenden_.size()), [this](int regel) {
+        return Lijstregel(zwevenden_[static_cast<std::size_t>(regel)]);
+    });
+}
+
+void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
+{
+    VulZwevenden();
+    Label11->setText(zwevenden_.empty() ? u"Geen zwevende spelers gevonden"_s
+                     : InCompetities()  ? u"Gevonden zwevende spelers in deze Competitie"_s
+                                        : u"Gevonden zwevende spelers in deze Zitting"_s);
+    QStringList opmerkingen;
+    if (uitslag.gestopt)
+        opmerkingen << u"Het zoeken is gestopt: niet alle zittingen zijn doorzocht."_s;
+    if (uitslag.overgeslagen > 0)
+        opmerkingen
+            << u"Overgeslagen regels in de percentagebestanden, omdat ze geen 7 velden hebben: "
+               "%1."_s.arg(uitslag.overgeslagen);
+    if (!zwevenden_.empty()) {
+        lstSpelers->ZetHuidige(0); // may have to say something of it
+        lstSpelers->setFocus();
+    }
+    if (!opmerkingen.isEmpty())
+        ToonResultaat(opmerkingen);
+    if (!uitslag.fouten.empty())
+        MeldLeesfout(
+            u"Fout bij het lezen van de zittingbestanden: de spelers uit %1 staan niet in de "
+            "lijst."_s.arg(
+                uitslag.fouten.size() == 1
+                    ? u"het bestand hieronder"_s
+                    : u"%1 bestanden, waarvan hieronder het eerste,"_s.arg(uitslag.fouten.size())),
+            uitslag.fouten.front());
+}
+
+// ---- Linking -----------------------------------------------------------------------------------
+
+void frmKoppelNBBnr::StartKoppelen()
+{
+    if (!Vraag(this, QMessageBox::Information,
+               u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
+               "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s))
+        return;
+    const Koppelopdracht opdracht = MaakKoppelopdracht(
+        zwevenden_, static_cast<std::size_t>(lstSpelers->Gekozen()), GekozenSpeler()->key);
+    const Koppeluitslag uitslag =
+        Koppel(administratie_.schijf, opdracht,
+               frmVoortgang(u"De speler wordt gekoppeld ..."_s, {}, this).AlsVoortgang());
+    QStringList regels;
+    const QString naam = NaarQString(opdracht.naam);
+    for (const Aangepast& aangepast : uitslag.aangepast)
+        regels << naam + u" - "_s + NaarQString(aangepast.code) +
+                      (aangepast.soort == Lijstsoort::Spelers
+                           ? u" aangepast in Spelerbestand."_s
+                           : u" aangepast in Percentagebestand."_s);
+    for (const std::string& bestand : uitslag.nietGewijzigd)
+        regels << u"Niet aangepast: "_s + QString::fromStdString(bestand);
+    ToonResultaat(regels);
+    if (uitslag.fout)
+        MeldAfgebroken(uitslag);
+    else
+        MeldKoppeling(opdracht, uitslag);
+}
+
+void frmKoppelNBBnr::MeldKoppeling(const Koppelopdracht& opdracht, const Koppeluitslag& uitslag)
+{
+    const QString naam = NaarQString(opdracht.naam);
+    // The next player becomes the chosen one only when the user picks him.
+    HaalGekoppeldenUit(zwevenden_, opdracht);
+    VulZwevenden();
+    lstRVDsp->clearSelection();
+    if (!zwevenden_.empty())
+        lstSpelers->setFocus(); // for the next one
+    if (uitslag.aangepast.empty()) {
+        Meld(this, QMessageBox::Warning,
+             u"Er is niets gewijzigd: '%1' komt niet meer voor in de bestanden. Misschien heeft "
+             "een ander programma ze intussen gewijzigd. Zoek de zwevende spelers opnieuw."_s.arg(
+                 naam));
+        return;
+    }
+    // Not arg: a name may hold a "%1" of its own.
+    const QString gekoppeld =
+        InCompetities() ? QString(naam + u" is in alle competitie-zittingen gekoppeld ("_s +
+                                  QString::number(opdracht.regels.size()) + u" keer)"_s)
+                        : QString(u"Speler "_s + naam + u" is gekoppeld."_s);
+    Meld(this, QMessageBox::Information, gekoppeld);
+}
+
+void frmKoppelNBBnr::MeldAfgebroken(const Koppeluitslag& uitslag)
+{
+    MeldFout(
+        this, QMessageBox::Critical,
+        u"Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of nog zoals het "
+        "was. Verhelp de oorzaak en koppel deze speler opnieuw; dan wordt de rest aangepast.\n\n"_s +
+            Opsomming(u"Aangepast"_s, uitslag.gewijzigd) + u"\n\n"_s +
+            Opsomming(u"Niet aangepast"_s, uitslag.nietGewijzigd),
+        *uitslag.fout);
 }
 
 } // namespace plexoran

@@ -33,14 +33,12 @@ class frmKoppelNBBnr : public QDialog {
     QGroupBox* BouwZwevenden();
     QGroupBox* BouwRegister();
     QWidget* BouwKolomkoppen();
-    QLayout* BouwOnderkant();
-    void StelTabvolgordeIn();
+    QLayout* BouwKnoppen();
+    QWidget* BouwResultaat();
 
-    // Choosing (frmKoppelNBBnr.cpp)
-    void Verbind();
+    // Choosing
     void Laad();
     void KiesSoort();
-    void VulSessies();
     void VergeetGevonden();
     void LeesRegister();
     void PlaatsKoppen();
@@ -48,34 +46,29 @@ class frmKoppelNBBnr : public QDialog {
     void ToonZwevende();
     void ToonSpeler();
     void ToonKnoppen();
-    void MeldLeesfout(const QString& wat, const Fout& fout);
     void ToonResultaat(const QStringList& regels);
+    void MeldLeesfout(const QString& wat, const Fout& fout);
     [[nodiscard]] bool InCompetities() const { return Option2->isChecked(); }
     [[nodiscard]] const Zwevende* GekozenZwevende() const;
     [[nodiscard]] const Koppelspeler* GekozenSpeler() const;
 
-    // Searching (frmKoppelNBBnr_zoeken.cpp)
+    // Searching
     void ZoekNamen();
     void VulZwevenden();
     void ToonGevonden(const Zoekuitslag& uitslag);
-    [[nodiscard]] Uitkomst<std::vector<Zittingplaats>> TeDoorzoeken() const;
 
-    // Linking (frmKoppelNBBnr_koppelen.cpp)
+    // Linking
     void StartKoppelen();
     void MeldKoppeling(const Koppelopdracht& opdracht, const Koppeluitslag& uitslag);
     void MeldAfgebroken(const Koppeluitslag& uitslag);
-    void VergeetGekoppelde(const Koppelopdracht& opdracht);
 
     Administratie& administratie_;
-    std::vector<Sessiemap> sessies_;
+    std::vector<Sessiemap> sessies_;    ///< of the lines of cmbC
     std::vector<Zwevende> zwevenden_;   ///< of the lines of lstSpelers
     std::vector<Koppelspeler> spelers_; ///< of the lines of lstRVDsp
-    std::size_t naambreedte_ = 0;       ///< of the name column, in characters
     QString resultaat_;                 ///< shown unless the chosen name needs a warning
-    bool gezochtInCompetitie_ = false;
     bool geladen_ = false;
 
-    QRadioButton* Option1 = nullptr;
     QRadioButton* Option2 = nullptr;
     QLabel* Label4 = nullptr;
     QComboBox* cmbC = nullptr;
@@ -83,17 +76,11 @@ class frmKoppelNBBnr : public QDialog {
     QLabel* Label11 = nullptr;
     Regellijst* lstSpelers = nullptr;
     QLineEdit* txtSpeler = nullptr;
-    QPushButton* cmdKiesRVDspeler = nullptr;
-    QWidget* kolomkoppen_ = nullptr;
-    QLabel* Label6 = nullptr;
-    QLabel* Label7 = nullptr;
-    QLabel* Label8 = nullptr;
-    QLabel* lblNaam = nullptr;
+    std::array<QLabel*, 4> koppen_{}; ///< above the columns of lstRVDsp, from the left
     Regellijst* lstRVDsp = nullptr;
     QLineEdit* txtRVDspeler = nullptr;
     QPushButton* cmdStartKoppelen = nullptr;
     QLabel* lblResultaat = nullptr;
-    QPushButton* cmdEinde = nullptr;
 };
 
 } // namespace plexoran

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 #include "platform/schijf/heelschrijven.h"
 #include "platform/tekst/tekstorde.h"
@@ -10,147 +9,101 @@
 namespace plexoran {
 namespace {
 
-constexpr Tekstblik Tussen = "    ";
+constexpr std::array Soorten{Lijstsoort::Spelers, Lijstsoort::Percentages};
 
-void LeesBestandUit(Schijf& schijf, const Zittingplaats& plaats, Lijstsoort soort, Zoekuitslag& uit)
+void ZoekIn(Schijf& schijf, const Zitting& zitting, Lijstsoort soort, Zoekuitslag& uit)
 {
-    const auto inhoud = LeesAlsErIs(schijf, plaats.Bestand(soort));
+    const auto inhoud = LeesAlsErIs(schijf, zitting.Bestand(soort));
     if (!inhoud) {
         uit.fouten.push_back(inhoud.error());
         return;
     }
-    if (!*inhoud)
-        return;
-    Lijstlezing lezing = LeesLijst(**inhoud, soort);
+    Lijstlezing lezing = LeesLijst(inhoud->value_or(Tekst()), soort);
     if (lezing.IsTeVeel()) {
-        uit.fouten.push_back({.soort = Foutsoort::Beschadigd,
-                              .bestand = schijf.Toonpad(plaats.Bestand(soort)),
-                              .regel = 0,
-                              .systeem = TeVeelNamen});
+        uit.fouten.push_back(
+            {Foutsoort::Beschadigd, schijf.Toonpad(zitting.Bestand(soort)), 0, TeVeelNamen});
         return;
     }
     uit.overgeslagen += lezing.overgeslagen;
-    for (Vindplaats& vindplaats : lezing.zwevend)
-        uit.zwevenden.push_back({plaats, soort, std::move(vindplaats)});
+    for (Tafelnaam& wie : lezing.zwevend)
+        uit.zwevenden.push_back({zitting, soort, std::move(wie.code), std::move(wie.naam)});
 }
 
-struct Uitgevoerd {
-    std::vector<bool> vervangen;
-    bool geschreven = false;
+struct Aanpassing {
+    std::set<Tekst> vervangen; ///< of the codes; none when the file still holds its old text
     std::optional<Fout> fout;
 };
 
-Uitgevoerd PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort,
+Aanpassing PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort,
                   const Naamvervanging& vervanging)
 {
     const auto inhoud = LeesAlsErIs(schijf, pad);
     if (!inhoud)
-        return {.vervangen = {}, .geschreven = false, .fout = inhoud.error()};
-    if (!*inhoud)
-        return {.vervangen = std::vector<bool>(vervanging.codes.size()),
-                .geschreven = false,
-                .fout = std::nullopt};
-    Herschrijving nieuw = HerschrijfLijst(**inhoud, soort, vervanging);
-    if (!nieuw.IetsVervangen())
-        return {.vervangen = std::move(nieuw.vervangen), .geschreven = false, .fout = std::nullopt};
+        return {{}, inhoud.error()};
+    Herschrijving nieuw = HerschrijfLijst(inhoud->value_or(Tekst()), soort, vervanging);
+    if (nieuw.vervangen.empty())
+        return {};
     const auto geschreven = SchrijfHeel(schijf, pad, nieuw.inhoud);
-    const bool staatEr = StaatOpSchijf(geschreven);
-    return {.vervangen =
-                staatEr ? std::move(nieuw.vervangen) : std::vector<bool>(vervanging.codes.size()),
-            .geschreven = staatEr,
-            .fout = geschreven ? std::nullopt : std::optional(geschreven.error())};
-}
-
-Uitkomst<std::vector<bool>> Als(Uitgevoerd uitgevoerd)
-{
-    if (uitgevoerd.fout)
-        return tl::unexpected(*uitgevoerd.fout);
-    return std::move(uitgevoerd.vervangen);
+    if (!StaatOpSchijf(geschreven))
+        return {{}, geschreven.error()};
+    return {std::move(nieuw.vervangen),
+            geschreven ? std::nullopt : std::optional(geschreven.error())};
 }
 
 /// The lines of one session that stand together in the list.
 struct Groep {
-    const Zittingplaats* plaats = nullptr;
+    Zitting zitting;
     Naamvervanging vervanging;
-    bool inSpelers = false; ///< the list found the name itself in this file
-    bool inPercentages = false;
-
-    [[nodiscard]] bool Gevonden(Lijstsoort soort) const
-    {
-        return soort == Lijstsoort::Spelers ? inSpelers : inPercentages;
-    }
+    std::set<Lijstsoort> bronnen; ///< the files in which the list found the name itself
 };
 
 std::vector<Groep> PerZitting(const Koppelopdracht& opdracht)
 {
     std::vector<Groep> groepen;
     for (const Zwevende& regel : opdracht.regels) {
-        if (groepen.empty() || groepen.back().plaats->map != regel.plaats.map)
-            groepen.push_back({&regel.plaats, {{}, opdracht.naam, opdracht.key}, false, false});
-        Groep& groep = groepen.back();
-        groep.vervanging.codes.push_back(regel.vindplaats.code);
-        if (regel.vindplaats.naam == opdracht.naam)
-            (regel.bron == Lijstsoort::Spelers ? groep.inSpelers : groep.inPercentages) = true;
+        if (groepen.empty() || groepen.back().zitting.map != regel.zitting.map)
+            groepen.push_back({regel.zitting, {{}, opdracht.naam, opdracht.key}, {}});
+        groepen.back().vervanging.codes.push_back(regel.code);
+        if (regel.naam == opdracht.naam)
+            groepen.back().bronnen.insert(regel.bron);
     }
     return groepen;
 }
 
-constexpr std::array Soorten{Lijstsoort::Spelers, Lijstsoort::Percentages};
-
-/// Both files of a session. Which of them failed, if any.
-std::optional<Lijstsoort> KoppelZitting(Schijf& schijf, const Groep& groep, Koppeluitslag& uit)
+/// Both files of a session; behind a failure they are only named.
+void KoppelZitting(Schijf& schijf, const Groep& groep, Koppeluitslag& uit)
 {
-    std::array<std::vector<bool>, Soorten.size()> vervangen;
-    std::optional<Lijstsoort> mislukt;
+    std::array<std::set<Tekst>, Soorten.size()> vervangen;
     for (const Lijstsoort soort : Soorten) {
-        const Pad pad = groep.plaats->Bestand(soort);
-        // What a link left here that was killed; the next one comes by to finish its work.
-        RuimTijdelijkeOp(schijf, groep.plaats->map, groep.plaats->Bestandsnaam(soort));
-        Uitgevoerd uitgevoerd = PasAan(schijf, pad, soort, groep.vervanging);
-        if (uitgevoerd.geschreven)
-            uit.gewijzigd.push_back(schijf.Toonpad(pad));
-        vervangen.at(static_cast<std::size_t>(soort)) = std::move(uitgevoerd.vervangen);
-        if (uitgevoerd.fout) {
-            uit.fout = std::move(uitgevoerd.fout);
-            if (!uitgevoerd.geschreven)
+        const Pad pad = groep.zitting.Bestand(soort);
+        if (uit.fout) {
+            if (groep.bronnen.contains(soort))
                 uit.nietGewijzigd.push_back(schijf.Toonpad(pad));
-            mislukt = soort;
-            break;
+            continue;
         }
+        // What a link left here that was killed; the next one comes by to finish its work.
+        RuimTijdelijkeOp(schijf, groep.zitting.map, groep.zitting.Bestandsnaam(soort));
+        Aanpassing aanpassing = PasAan(schijf, pad, soort, groep.vervanging);
+        if (!aanpassing.vervangen.empty())
+            uit.gewijzigd.push_back(schijf.Toonpad(pad));
+        else if (aanpassing.fout)
+            uit.nietGewijzigd.push_back(schijf.Toonpad(pad));
+        uit.fout = std::move(aanpassing.fout);
+        vervangen.at(static_cast<std::size_t>(soort)) = std::move(aanpassing.vervangen);
     }
-    for (std::size_t i = 0; i < groep.vervanging.codes.size(); ++i) {
+    for (const Tekst& code : groep.vervanging.codes) {
         for (const Lijstsoort soort : Soorten) {
-            const auto& per = vervangen.at(static_cast<std::size_t>(soort));
-            if (i < per.size() && per[i])
-                uit.aangepast.push_back({groep.vervanging.codes[i], soort});
-        }
-    }
-    return mislukt;
-}
-
-/// The files behind the one that failed in which the list found the name.
-void VoegResterendeToe(Schijf& schijf, const std::vector<Groep>& groepen, std::size_t waar,
-                       Lijstsoort mislukt, Koppeluitslag& uit)
-{
-    for (std::size_t i = waar; i < groepen.size(); ++i) {
-        for (const Lijstsoort soort : Soorten) {
-            const bool erna = i > waar || soort > mislukt;
-            if (erna && groepen[i].Gevonden(soort))
-                uit.nietGewijzigd.push_back(schijf.Toonpad(groepen[i].plaats->Bestand(soort)));
+            // A code that occurs twice is told of once.
+            if (vervangen.at(static_cast<std::size_t>(soort)).erase(code) > 0)
+                uit.aangepast.push_back({code, soort});
         }
     }
 }
 
-bool IsKey(Tekstblik key)
+Tekst Opgevuld(Tekst tekst, std::size_t breedte)
 {
-    return key.size() == 6 && key.find_first_not_of("0123456789") == Tekstblik::npos;
-}
-
-Tekst Opgevuld(Tekstblik tekst, std::size_t breedte)
-{
-    Tekst uit(tekst);
-    uit.resize(std::max(uit.size(), breedte), ' ');
-    return uit;
+    tekst.resize(std::max(tekst.size(), breedte), ' ');
+    return tekst;
 }
 
 } // namespace
@@ -158,17 +111,13 @@ Tekst Opgevuld(Tekstblik tekst, std::size_t breedte)
 Tekst Lijstregel(const Zwevende& zwevende)
 {
     Tekst uit;
-    if (zwevende.plaats.inCompetitie)
-        uit = "In R" + std::to_string(zwevende.plaats.ronde) + " - Z" +
-              std::to_string(zwevende.plaats.zitting) + " ";
-    uit += "als ";
-    uit += zwevende.vindplaats.code;
-    uit += Tussen;
-    uit += zwevende.vindplaats.naam;
-    return uit;
+    if (zwevende.zitting.inCompetitie)
+        uit = "In R" + std::to_string(zwevende.zitting.ronde) + " - Z" +
+              std::to_string(zwevende.zitting.zitting) + " ";
+    return uit + "als " + zwevende.code + "    " + zwevende.naam;
 }
 
-Zoekuitslag ZoekZwevenden(Schijf& schijf, const std::vector<Zittingplaats>& zittingen,
+Zoekuitslag ZoekZwevenden(Schijf& schijf, const std::vector<Zitting>& zittingen,
                           const Voortgang& voortgang)
 {
     Zoekuitslag uit;
@@ -178,7 +127,7 @@ Zoekuitslag ZoekZwevenden(Schijf& schijf, const std::vector<Zittingplaats>& zitt
             break;
         }
         for (const Lijstsoort soort : Soorten)
-            LeesBestandUit(schijf, zittingen[i], soort, uit);
+            ZoekIn(schijf, zittingen[i], soort, uit);
     }
     return uit;
 }
@@ -187,8 +136,8 @@ Koppelopdracht MaakKoppelopdracht(const std::vector<Zwevende>& lijst, std::size_
                                   Tekstblik key)
 {
     const Zwevende& regel = lijst.at(gekozen);
-    Koppelopdracht uit{.regels = {}, .naam = regel.vindplaats.naam, .key = Tekst(key)};
-    if (!regel.plaats.inCompetitie) {
+    Koppelopdracht uit{.regels = {}, .naam = regel.naam, .key = Tekst(key)};
+    if (!regel.zitting.inCompetitie) {
         uit.regels.push_back(regel);
         return uit;
     }
@@ -204,36 +153,31 @@ Koppeluitslag Koppel(Schijf& schijf, const Koppelopdracht& opdracht, const Voort
     Koppeluitslag uit;
     const std::vector<Groep> groepen = PerZitting(opdracht);
     for (std::size_t i = 0; i < groepen.size(); ++i) {
-        if (voortgang)
+        if (voortgang && !uit.fout)
             static_cast<void>(voortgang(i, groepen.size()));
-        if (const auto mislukt = KoppelZitting(schijf, groepen[i], uit)) {
-            VoegResterendeToe(schijf, groepen, i, *mislukt, uit);
-            break;
-        }
+        KoppelZitting(schijf, groepen[i], uit);
     }
     return uit;
 }
 
-Uitkomst<std::vector<bool>> PasSpelersbestandAan(Schijf& schijf, const Zittingplaats& plaats,
-                                                 const Naamvervanging& vervanging)
+void HaalGekoppeldenUit(std::vector<Zwevende>& lijst, const Koppelopdracht& opdracht)
 {
-    return Als(
-        PasAan(schijf, plaats.Bestand(Lijstsoort::Spelers), Lijstsoort::Spelers, vervanging));
-}
-
-Uitkomst<std::vector<bool>> PasPercentagebestandAan(Schijf& schijf, const Zittingplaats& plaats,
-                                                    const Naamvervanging& vervanging)
-{
-    return Als(PasAan(schijf, plaats.Bestand(Lijstsoort::Percentages), Lijstsoort::Percentages,
-                      vervanging));
+    const Zwevende& gekozen = opdracht.regels.front();
+    std::erase_if(lijst, [&, tafel = Tafelsleutel(gekozen.code)](const Zwevende& zwevende) {
+        return zwevende.naam == opdracht.naam &&
+               (gekozen.zitting.inCompetitie || Tafelsleutel(zwevende.code) == tafel);
+    });
 }
 
 std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel, Tekstblik importgroep)
 {
+    constexpr std::size_t lengteKey = 6;
     std::vector<std::pair<Tekst, Koppelspeler>> gevonden;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         const auto cel = [&](Kolom kolom) { return Tekst(tabel.Cel(rij, kolom)); };
-        if (tabel.Cel(rij, Kolom::Groep) != importgroep || !IsKey(tabel.Cel(rij, Kolom::Key)))
+        const Tekst key = cel(Kolom::Key);
+        if (tabel.Cel(rij, Kolom::Groep) != importgroep || key.size() != lengteKey ||
+            !ZijnCijfers(key))
             continue;
         Tekst naam;
         for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam}) {
@@ -242,22 +186,37 @@ std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel, Tekstblik impo
                 naam += ' ';
             naam += deel;
         }
-        Tekst sleutel = Sorteersleutel(cel(Kolom::Achternaam) + " " + cel(Kolom::Voornaam) + " " +
-                                       cel(Kolom::Tusv) + " " + cel(Kolom::Key));
-        gevonden.emplace_back(
-            std::move(sleutel),
-            Koppelspeler{cel(Kolom::Key), std::move(naam), cel(Kolom::NBBnr), cel(Kolom::NBBgr)});
+        gevonden.emplace_back(Sorteersleutel(cel(Kolom::Achternaam) + " " + cel(Kolom::Voornaam) +
+                                             " " + cel(Kolom::Tusv) + " " + key),
+                              Koppelspeler{key, naam, cel(Kolom::NBBnr), cel(Kolom::NBBgr)});
     }
     std::stable_sort(gevonden.begin(), gevonden.end(),
                      [](const auto& een, const auto& ander) { return een.first < ander.first; });
     std::vector<Koppelspeler> uit;
-    uit.reserve(gevonden.size());
     for (auto& [sleutel, speler] : gevonden)
         uit.push_back(std::move(speler));
     return uit;
 }
 
-Tekst Spelerregel(const Koppelspeler& speler, std::size_t breedte)
+int Naamgenoot(const std::vector<Koppelspeler>& spelers, Tekstblik naam)
+{
+    const auto gevonden = std::find_if(spelers.begin(), spelers.end(),
+                                       [gezocht = Hoofdletters(naam)](const auto& wie) {
+                                           return Hoofdletters(wie.naam) == gezocht;
+                                       });
+    return gevonden == spelers.end() ? -1 : static_cast<int>(gevonden - spelers.begin());
+}
+
+std::size_t Naambreedte(const std::vector<Koppelspeler>& spelers)
+{
+    constexpr std::size_t breedste = 40;
+    std::size_t breedte = 4;
+    for (const Koppelspeler& speler : spelers)
+        breedte = std::max(breedte, std::min(speler.naam.size(), breedste));
+    return breedte;
+}
+
+Tekst Koppelregel(const Koppelspeler& speler, std::size_t breedte)
 {
     constexpr std::size_t nummerbreedte = 8;
     Tekst uit = speler.key + "  " + Opgevuld(speler.naam, breedte);

@@ -13,9 +13,10 @@ namespace plexoran {
 
 /// One floating half of a pair: where it was found.
 struct Zwevende {
-    Zittingplaats plaats;
+    Zitting zitting;
     Lijstsoort bron = Lijstsoort::Spelers;
-    Vindplaats vindplaats;
+    Tekst code;
+    Tekst naam;
 };
 
 /// "als " + code + four blanks + name; in a competition with "In R<round> - Z<session> " before it.
@@ -29,7 +30,7 @@ struct Zoekuitslag {
 };
 
 /// Session after session, of each the player list first. A file that is missing is passed over.
-[[nodiscard]] Zoekuitslag ZoekZwevenden(Schijf& schijf, const std::vector<Zittingplaats>& zittingen,
+[[nodiscard]] Zoekuitslag ZoekZwevenden(Schijf& schijf, const std::vector<Zitting>& zittingen,
                                         const Voortgang& voortgang = {});
 
 struct Koppelopdracht {
@@ -44,7 +45,7 @@ struct Koppelopdracht {
 [[nodiscard]] Koppelopdracht MaakKoppelopdracht(const std::vector<Zwevende>& lijst,
                                                 std::size_t gekozen, Tekstblik key);
 
-/// A place in a file at which the name became the key.
+/// A position in a file at which the name became the key.
 struct Aangepast {
     Tekst code; ///< as the line of the list has it
     Lijstsoort soort = Lijstsoort::Spelers;
@@ -64,13 +65,8 @@ struct Koppeluitslag {
 [[nodiscard]] Koppeluitslag Koppel(Schijf& schijf, const Koppelopdracht& opdracht,
                                    const Voortgang& voortgang = {});
 
-/// Which of the codes were replaced in the session's player list or result list; rewrites it when
-/// any was. None in a file that is missing.
-[[nodiscard]] Uitkomst<std::vector<bool>>
-PasSpelersbestandAan(Schijf& schijf, const Zittingplaats& plaats, const Naamvervanging& vervanging);
-[[nodiscard]] Uitkomst<std::vector<bool>> PasPercentagebestandAan(Schijf& schijf,
-                                                                  const Zittingplaats& plaats,
-                                                                  const Naamvervanging& vervanging);
+/// Takes the lines of the positions that now hold the key out of the list.
+void HaalGekoppeldenUit(std::vector<Zwevende>& lijst, const Koppelopdracht& opdracht);
 
 /// A player of the register who can be linked.
 struct Koppelspeler {
@@ -85,8 +81,14 @@ struct Koppelspeler {
 [[nodiscard]] std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel,
                                                       Tekstblik importgroep);
 
+/// The first of them who bears the name, capitals or not; -1 when nobody does.
+[[nodiscard]] int Naamgenoot(const std::vector<Koppelspeler>& spelers, Tekstblik naam);
+
+/// How many characters the column of the names takes, within limits.
+[[nodiscard]] std::size_t Naambreedte(const std::vector<Koppelspeler>& spelers);
+
 /// A line of the list of these players: key, name, federation number and member group, each in a
 /// column of a fixed width for a name column of `breedte` characters.
-[[nodiscard]] Tekst Spelerregel(const Koppelspeler& speler, std::size_t breedte);
+[[nodiscard]] Tekst Koppelregel(const Koppelspeler& speler, std::size_t breedte);
 
 } // namespace plexoran

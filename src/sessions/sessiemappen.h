@@ -8,7 +8,6 @@
 // of change are looked at.
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "register/mappen.h"
@@ -28,7 +27,7 @@ struct Sessiemap {
                                                                const Mappen& mappen);
 
 /// One session, loose or of a competition.
-struct Zittingplaats {
+struct Zitting {
     Pad map;
     bool inCompetitie = false;
     int ronde = 0; ///< this and the next only in a competition
@@ -38,12 +37,15 @@ struct Zittingplaats {
     [[nodiscard]] Pad Bestand(Lijstsoort soort) const { return Samen(map, Bestandsnaam(soort)); }
 };
 
-[[nodiscard]] Zittingplaats LosseZitting(const Mappen& mappen, Tekstblik naam);
-[[nodiscard]] Zittingplaats Competitiezitting(const Mappen& mappen, Tekstblik competitie, int ronde,
-                                              int zitting);
+[[nodiscard]] Zitting LosseZitting(const Mappen& mappen, Tekstblik naam);
+[[nodiscard]] Zitting Competitiezitting(const Mappen& mappen, Tekstblik competitie, int ronde,
+                                        int zitting);
 
-/// The sessions of a competition, rounds and sessions in numeric order.
-[[nodiscard]] Uitkomst<std::vector<Zittingplaats>>
-ZittingenVan(Schijf& schijf, const Mappen& mappen, Tekstblik competitie);
+/// The loose session itself, or the sessions of the competition, rounds and sessions in numeric
+/// order. `Ontbreekt` when it is not there any more.
+[[nodiscard]] Uitkomst<std::vector<Zitting>> ZittingVan(Schijf& schijf, const Mappen& mappen,
+                                                        Tekstblik zitting);
+[[nodiscard]] Uitkomst<std::vector<Zitting>> ZittingenVan(Schijf& schijf, const Mappen& mappen,
+                                                          Tekstblik competitie);
 
 } // namespace plexoran

@@ -1,16 +1,15 @@
 #include "sessions/zittinglijsten.h"
 
 #include <algorithm>
-#include <optional>
 #include <unordered_map>
-#include <utility>
 
+#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
-#include "sessions/tafelparen.h"
 
 namespace plexoran {
 namespace {
 
+constexpr std::size_t LengteCode = 3;
 constexpr std::size_t AantalVelden = 7;
 constexpr std::size_t Codeveld = 2;
 constexpr std::size_t Paarveld = 3;
@@ -22,7 +21,7 @@ std::optional<std::vector<Item>> RecordUit(Tekstblik regel)
     return velden.size() == AantalVelden ? std::optional(std::move(velden)) : std::nullopt;
 }
 
-void VoegZwevendenToe(std::vector<Vindplaats>& uit, Tekstblik code, Tekstblik spelers)
+void VoegZwevendenToe(std::vector<Tafelnaam>& uit, Tekstblik code, Tekstblik spelers)
 {
     const auto helften = SplitsHelften(spelers);
     if (!helften)
@@ -43,40 +42,39 @@ Tekstblik Regeleinde(Tekstblik inhoud, Tekstblik regel)
     return rest.substr(0, 1);
 }
 
-/// Looks up a place and remembers where something was replaced.
-class Plaatslijst {
+/// Replaces the name at the positions where it is to be, and remembers these.
+class Vervanger {
   public:
-    explicit Plaatslijst(const Naamvervanging& vervanging)
-        : vervanging_(vervanging), vervangen_(vervanging.codes.size())
+    explicit Vervanger(const Naamvervanging& vervanging) : vervanging_(vervanging)
     {
-        for (std::size_t i = 0; i < vervanging.codes.size(); ++i)
-            plaatsen_.try_emplace(Plaatssleutel(vervanging.codes[i]), i);
+        for (const Tekst& code : vervanging.codes)
+            codes_.try_emplace(Tafelsleutel(code), code);
     }
 
     /// The players with the key in the name's place; nothing where it is not to be replaced.
     std::optional<Tekst> Vervang(Tekstblik code, Tekstblik spelers)
     {
-        const auto plaats = plaatsen_.find(Plaatssleutel(code));
+        const auto gezocht = codes_.find(Tafelsleutel(code));
         const auto helften = SplitsHelften(spelers);
-        if (plaats == plaatsen_.end() || !helften)
+        if (gezocht == codes_.end() || !helften)
             return std::nullopt;
         auto nieuw = MetKey(*helften, vervanging_.naam, vervanging_.key);
         if (nieuw)
-            vervangen_[plaats->second] = true;
+            vervangen_.insert(gezocht->second);
         return nieuw;
     }
 
-    [[nodiscard]] std::vector<bool> Vervangen() const { return vervangen_; }
+    [[nodiscard]] const std::set<Tekst>& Vervangen() const { return vervangen_; }
 
   private:
     const Naamvervanging& vervanging_;
-    std::unordered_map<Tekst, std::size_t> plaatsen_;
-    std::vector<bool> vervangen_;
+    std::unordered_map<Tekst, Tekst> codes_; ///< by their key
+    std::set<Tekst> vervangen_;
 };
 
 /// The line of a player list anew: its items on lines of their own, without quotes where they can
 /// do without. Nothing when no name on it was replaced.
-std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Plaatslijst& plaatsen)
+std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Vervanger& vervanger)
 {
     Tekst uit;
     bool veranderd = false;
@@ -87,7 +85,7 @@ std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Plaats
             uit += einde;
         eerste = false;
         const auto paar = PaarUit(item->tekst);
-        const auto nieuw = paar ? plaatsen.Vervang(paar->code, paar->spelers) : std::nullopt;
+        const auto nieuw = paar ? vervanger.Vervang(paar->code, paar->spelers) : std::nullopt;
         if (nieuw) {
             veranderd = true;
             uit += AlsItem(Tekst(paar->code) + ' ' + *nieuw);
@@ -99,13 +97,13 @@ std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Plaats
 }
 
 /// The record with the pair replaced and all else, quotes included, as it was.
-std::optional<Tekst> NieuweRecordregel(Tekstblik regel, Plaatslijst& plaatsen)
+std::optional<Tekst> NieuweRecordregel(Tekstblik regel, Vervanger& vervanger)
 {
     const auto velden = RecordUit(regel);
     if (!velden)
         return std::nullopt;
     const Item& paar = (*velden)[Paarveld];
-    const auto nieuw = plaatsen.Vervang((*velden)[Codeveld].tekst, paar.tekst);
+    const auto nieuw = vervanger.Vervang((*velden)[Codeveld].tekst, paar.tekst);
     if (!nieuw)
         return std::nullopt;
     const auto begin = static_cast<std::size_t>(paar.rauw.data() - regel.data());
@@ -116,6 +114,52 @@ std::optional<Tekst> NieuweRecordregel(Tekstblik regel, Plaatslijst& plaatsen)
 }
 
 } // namespace
+
+bool ZijnCijfers(Tekstblik tekst)
+{
+    return !tekst.empty() && std::all_of(tekst.begin(), tekst.end(), IsCijfer);
+}
+
+std::optional<Helften> SplitsHelften(Tekstblik spelers)
+{
+    const auto streep = spelers.find('-');
+    if (streep == Tekstblik::npos)
+        return std::nullopt;
+    return Helften{ZonderSpaties(spelers.substr(0, streep)),
+                   ZonderSpaties(spelers.substr(streep + 1))};
+}
+
+bool IsZwevend(Tekstblik helft)
+{
+    return !helft.empty() && !ZijnCijfers(helft);
+}
+
+std::optional<Tekst> MetKey(const Helften& helften, Tekstblik naam, Tekstblik key)
+{
+    if (helften.eerste != naam && helften.tweede != naam)
+        return std::nullopt;
+    Tekst uit(helften.eerste == naam ? key : helften.eerste);
+    return uit.append(" - ").append(helften.tweede == naam ? key : helften.tweede);
+}
+
+std::optional<Lijstpaar> PaarUit(Tekstblik item)
+{
+    const Tekstblik tekst = ZonderSpaties(item);
+    if (tekst.empty())
+        return std::nullopt;
+    return Lijstpaar{tekst.substr(0, LengteCode),
+                     ZonderSpaties(tekst.substr(std::min(LengteCode, tekst.size())))};
+}
+
+Tekst Tafelsleutel(Tekstblik code)
+{
+    const Tekstblik tekst = ZonderSpaties(code);
+    if (tekst.size() < 2 || IsCijfer(tekst.front()) || !ZijnCijfers(tekst.substr(1)))
+        return Tekst(tekst);
+    Tekstblik nummer = tekst.substr(1);
+    nummer.remove_prefix(std::min(nummer.find_first_not_of('0'), nummer.size() - 1));
+    return Tekst(tekst.substr(0, 1)).append(nummer);
+}
 
 Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort)
 {
@@ -140,22 +184,17 @@ Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort)
     return uit;
 }
 
-bool Herschrijving::IetsVervangen() const
-{
-    return std::find(vervangen.begin(), vervangen.end(), true) != vervangen.end();
-}
-
 Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort, const Naamvervanging& vervanging)
 {
     Herschrijving uit;
-    Plaatslijst plaatsen(vervanging);
+    Vervanger vervanger(vervanging);
     std::size_t klaar = 0; // so much of the old text stands in the new one
     for (const Tekstblik regel : Regels(inhoud)) {
         if (regel.find(vervanging.naam) == Tekstblik::npos)
             continue;
         const auto nieuw = soort == Lijstsoort::Spelers
-                               ? NieuweSpelersregel(regel, Regeleinde(inhoud, regel), plaatsen)
-                               : NieuweRecordregel(regel, plaatsen);
+                               ? NieuweSpelersregel(regel, Regeleinde(inhoud, regel), vervanger)
+                               : NieuweRecordregel(regel, vervanger);
         if (!nieuw)
             continue;
         const auto begin = static_cast<std::size_t>(regel.data() - inhoud.data());
@@ -164,7 +203,7 @@ Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort, const Naamverv
         klaar = begin + regel.size();
     }
     uit.inhoud += inhoud.substr(klaar);
-    uit.vervangen = plaatsen.Vervangen();
+    uit.vervangen = vervanger.Vervangen();
     return uit;
 }
 

@@ -1,5 +1,6 @@
 // The two files of a session that name players, as texts: finding the floating ones, and putting a
-// register key in the place of one of them.
+// register key in the place of one of them. Each line names a pair: a position code and two
+// players, each a register key or, as long as he is floating, a name.
 //
 // "Spelers.txt", the player list: items, one a line, each a pair:
 //
@@ -14,19 +15,53 @@
 // which bytes these are.
 #pragma once
 
+#include <optional>
+#include <set>
 #include <vector>
 
 #include "platform/tekst/tekst.h"
 
 namespace plexoran {
 
+/// Two players joined by "-". The first "-" splits them, also one inside a name.
+struct Helften {
+    Tekstblik eerste;
+    Tekstblik tweede;
+};
+
+/// The halves, each without outer spaces; nothing for a text without "-".
+[[nodiscard]] std::optional<Helften> SplitsHelften(Tekstblik spelers);
+
+/// Whether a text is made of digits only, and of one at least: a key, or another number.
+[[nodiscard]] bool ZijnCijfers(Tekstblik tekst);
+
+/// A half is floating when it is neither empty nor made of digits only.
+[[nodiscard]] bool IsZwevend(Tekstblik helft);
+
+/// The halves joined by " - ", in each of which the name has become the key. Nothing when neither
+/// is the name.
+[[nodiscard]] std::optional<Tekst> MetKey(const Helften& helften, Tekstblik naam, Tekstblik key);
+
+/// An item of a player list: characters 1 to 3 are the position code, the rest the players.
+struct Lijstpaar {
+    Tekstblik code;
+    Tekstblik spelers; ///< from character 4, without outer spaces
+};
+
+/// Outer spaces of the item do not count; nothing for an empty one.
+[[nodiscard]] std::optional<Lijstpaar> PaarUit(Tekstblik item);
+
+/// The same for every spelling of a position, a letter and a number: "N05" and "N5" are one.
+/// Another text is a position by itself.
+[[nodiscard]] Tekst Tafelsleutel(Tekstblik code);
+
 enum class Lijstsoort { Spelers, Percentages };
 
 /// A floating player as a file has him; the code as it is written there, without outer spaces.
-struct Vindplaats {
+struct Tafelnaam {
     Tekst code;
     Tekst naam;
-    bool operator==(const Vindplaats&) const = default;
+    bool operator==(const Tafelnaam&) const = default;
 };
 
 /// More names than this stand in no list of a session.
@@ -34,8 +69,8 @@ inline constexpr std::size_t MeesteNamen = 100'000;
 inline constexpr auto TeVeelNamen = "er staan meer dan 100.000 namen in";
 
 struct Lijstlezing {
-    std::vector<Vindplaats> zwevend; ///< in file order, of a pair the first player first
-    int overgeslagen = 0;            ///< lines of a result list that are no record of 7 fields
+    std::vector<Tafelnaam> zwevend; ///< in file order, of a pair the first player first
+    int overgeslagen = 0;           ///< lines of a result list that are no record of 7 fields
 
     /// The reading ended there: it is no list.
     [[nodiscard]] bool IsTeVeel() const { return zwevend.size() > MeesteNamen; }
@@ -43,7 +78,7 @@ struct Lijstlezing {
 
 [[nodiscard]] Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort);
 
-/// What is to be replaced: the name, at these places only.
+/// What is to be replaced: the name, at these positions only.
 struct Naamvervanging {
     std::vector<Tekst> codes;
     Tekst naam;
@@ -51,10 +86,8 @@ struct Naamvervanging {
 };
 
 struct Herschrijving {
-    Tekst inhoud;                ///< the new text; the old one where nothing was replaced
-    std::vector<bool> vervangen; ///< per code; of codes of one place only the first counts
-
-    [[nodiscard]] bool IetsVervangen() const;
+    Tekst inhoud;              ///< the new text; the old one where nothing was replaced
+    std::set<Tekst> vervangen; ///< of the codes; of codes of one position only the first counts
 };
 
 [[nodiscard]] Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort,

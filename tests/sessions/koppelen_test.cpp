@@ -168,7 +168,7 @@ TEST_F(Koppelen, DeRegelUitHetPercentagebestandKoppeltOokInBeide)
     schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
     schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,Jansen-100001,50,0,x\r\n");
     const auto lijst = ZoekZitting().zwevenden;
-    ASSERT_EQ("N5", lijst[1].vindplaats.code);
+    ASSERT_EQ("N5", lijst[1].code);
     const auto uitslag = Koppel(schijf, MaakKoppelopdracht(lijst, 1, "100237"));
     EXPECT_EQ(Meldingen(uitslag), (Teksten{"N5 spelers", "N5 percentages"}));
     EXPECT_EQ("N05 100237 - 100001\r\n", schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
@@ -330,21 +330,6 @@ TEST_F(Koppelen, EenBestandAlleenOmTeLezenBlijftZoals)
                                         schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Percentages))}));
 }
 
-TEST_F(Koppelen, EenBestandAanpassen)
-{
-    ZetCompetitie();
-    const Zittingplaats plaats = Competitiezitting(mappen, "Ladder", 2, 1);
-    const Naamvervanging vervanging{{"N05"}, "Jansen", "100237"};
-    EXPECT_EQ(PasSpelersbestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{true});
-    EXPECT_EQ(PasPercentagebestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{true});
-    EXPECT_EQ(PasSpelersbestandAan(schijf, plaats, vervanging).value(), std::vector<bool>{false});
-    EXPECT_EQ(
-        PasSpelersbestandAan(schijf, Competitiezitting(mappen, "Ladder", 3, 1), vervanging).value(),
-        std::vector<bool>{false});
-    schijf.ZetAlleenLezen("C:\\Com\\Ladder\\Ronde-2\\Zitting-1");
-    EXPECT_FALSE(PasSpelersbestandAan(schijf, plaats, {{"O01"}, "Bos", "100238"}));
-}
-
 // ---------------------------------------------------------------- the register's side
 
 TEST(Koppelspeler, AlleenDeImportgroepMetEenKeyVanZesCijfersOpAchternaam)
@@ -358,10 +343,10 @@ TEST(Koppelspeler, AlleenDeImportgroepMetEenKeyVanZesCijfersOpAchternaam)
                                  {"100003", "Gr05-", "An", "", "Cock", "", "7"}}),
                       "Gr05-");
     ASSERT_EQ(3U, spelers.size());
-    EXPECT_EQ("100004  Bos", Spelerregel(spelers[0], 3));
-    EXPECT_EQ("100003  An Cock      7       ", Spelerregel(spelers[1], 11));
-    EXPECT_EQ("100002  Bea de Cock  2         DI", Spelerregel(spelers[2], 11));
-    EXPECT_EQ("100002  Bea de Cock  2         DI", Spelerregel(spelers[2], 2));
+    EXPECT_EQ("100004  Bos", Koppelregel(spelers[0], 3));
+    EXPECT_EQ("100003  An Cock      7       ", Koppelregel(spelers[1], 11));
+    EXPECT_EQ("100002  Bea de Cock  2         DI", Koppelregel(spelers[2], 11));
+    EXPECT_EQ("100002  Bea de Cock  2         DI", Koppelregel(spelers[2], 2));
 }
 
 // ---- Size --------------------------------------------------------------------------------------

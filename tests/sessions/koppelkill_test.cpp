@@ -42,13 +42,13 @@ class Koppelkill : public testing::Test {
         return "1,\"A\",\"N1\",\"100001-100002\",50,0,\"\"\r\n2,\"A\",\"O5\",\"" + paar +
                "\",50,0,\"\"\r\n";
     }
-    [[nodiscard]] std::vector<Zittingplaats> Zittingen()
+    [[nodiscard]] std::vector<Zitting> Zittingen()
     {
         return ZittingenVan(schijf, mappen, "Ladder").value();
     }
     void ZetOud()
     {
-        for (const Zittingplaats& plaats : Zittingen()) {
+        for (const Zitting& plaats : Zittingen()) {
             const auto zet = [](const Pad& pad, const std::string& tekst) {
                 std::ofstream(pad, std::ios::binary) << tekst;
             };
@@ -65,7 +65,7 @@ class Koppelkill : public testing::Test {
     [[nodiscard]] std::size_t Gekoppeld()
     {
         std::size_t aantal = 0;
-        for (const Zittingplaats& plaats : Zittingen()) {
+        for (const Zitting& plaats : Zittingen()) {
             const Tekst spelers = schijf.LeesBestand(plaats.Bestand(Lijstsoort::Spelers)).value();
             const Tekst percentages =
                 schijf.LeesBestand(plaats.Bestand(Lijstsoort::Percentages)).value();

@@ -30,7 +30,7 @@ class Sessiemappen : public testing::Test {
     {
         Teksten uit;
         const auto zittingen = ZittingenVan(schijf, mappen, competitie);
-        for (const Zittingplaats& plaats : zittingen.value())
+        for (const Zitting& plaats : zittingen.value())
             uit.push_back(plaats.Bestand(Lijstsoort::Percentages));
         return uit;
     }
@@ -86,10 +86,10 @@ TEST_F(Sessiemappen, EenWeigerendeSchijfIsEenFout)
 
 TEST_F(Sessiemappen, DeBestandenVanEenZitting)
 {
-    const Zittingplaats los = LosseZitting(mappen, "Dinsdag");
+    const Zitting los = LosseZitting(mappen, "Dinsdag");
     EXPECT_EQ("C:\\Zit\\Dinsdag\\Spelers.txt", los.Bestand(Lijstsoort::Spelers));
     EXPECT_EQ("C:\\Zit\\Dinsdag\\PercZit.txt", los.Bestand(Lijstsoort::Percentages));
-    const Zittingplaats van = Competitiezitting(mappen, "Ladder", 2, 13);
+    const Zitting van = Competitiezitting(mappen, "Ladder", 2, 13);
     EXPECT_EQ("C:\\Com\\Ladder\\Ronde-2\\Zitting-13\\Spelers.txt",
               van.Bestand(Lijstsoort::Spelers));
     EXPECT_EQ("C:\\Com\\Ladder\\Ronde-2\\Zitting-13\\PercZit-13.txt",

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "sessions/tafelparen.h"
+#include "sessions/zittinglijsten.h"
 
 namespace plexoran {
 namespace {

@@ -18,9 +18,9 @@ namespace {
 constexpr auto Spelers = Lijstsoort::Spelers;
 constexpr auto Percentages = Lijstsoort::Percentages;
 
-using Vindplaatsen = std::vector<Vindplaats>;
+using Tafelnamen = std::vector<Tafelnaam>;
 
-Vindplaatsen Zwevend(Tekstblik inhoud, Lijstsoort soort)
+Tafelnamen Zwevend(Tekstblik inhoud, Lijstsoort soort)
 {
     return LeesLijst(inhoud, soort).zwevend;
 }
@@ -32,40 +32,119 @@ Tekst Gekoppeld(Tekstblik inhoud, Lijstsoort soort, const Tekst& naam = "Jansen"
     return HerschrijfLijst(inhoud, soort, {codes, naam, "100237"}).inhoud;
 }
 
+using Paarteksten = std::pair<Tekst, Tekst>;
+
+std::optional<Paarteksten> Gesplitst(Tekstblik spelers)
+{
+    const auto helften = SplitsHelften(spelers);
+    if (!helften)
+        return std::nullopt;
+    return Paarteksten(helften->eerste, helften->tweede);
+}
+
 } // namespace
+
+// ---------------------------------------------------------------- pairs
+
+TEST(Tafelparen, HetEersteStreepjeSplitst)
+{
+    EXPECT_EQ(Gesplitst("Jansen - 100234"), Paarteksten("Jansen", "100234"));
+    EXPECT_EQ(Gesplitst("Jansen-100234"), Paarteksten("Jansen", "100234"));
+    EXPECT_EQ(Gesplitst("  Jan  Bos  -  Piet "), Paarteksten("Jan  Bos", "Piet"));
+    EXPECT_EQ(Gesplitst("-"), Paarteksten("", ""));
+    EXPECT_EQ(Gesplitst("Jansen"), std::nullopt);
+    EXPECT_EQ(Gesplitst(""), std::nullopt);
+}
+
+/// Meant: a hyphen in the name of the first player counts as the one between the two.
+TEST(Tafelparen, OokEenStreepjeInDeEersteNaamSplitst)
+{
+    EXPECT_EQ(Gesplitst("Tol-Vink - 100234"), Paarteksten("Tol", "Vink - 100234"));
+    EXPECT_EQ(Gesplitst("100234 - Tol-Vink"), Paarteksten("100234", "Tol-Vink"));
+}
+
+TEST(Tafelparen, ZwevendIsWatNietAlleenUitCijfersBestaat)
+{
+    EXPECT_TRUE(IsZwevend("Jansen"));
+    EXPECT_TRUE(IsZwevend("100234a"));
+    EXPECT_TRUE(IsZwevend("10 0234"));
+    EXPECT_TRUE(IsZwevend("+100234"));
+    EXPECT_FALSE(IsZwevend("100234"));
+    EXPECT_FALSE(IsZwevend("7")); // digits, though no register key
+    EXPECT_FALSE(IsZwevend(""));
+}
+
+TEST(Tafelparen, DeHelftDieDeNaamIsWordtDeKey)
+{
+    EXPECT_EQ(MetKey({"Jan", "Piet"}, "Jan", "100237"), "100237 - Piet");
+    EXPECT_EQ(MetKey({"Jan", "Piet"}, "Piet", "100237"), "Jan - 100237");
+    EXPECT_EQ(MetKey({"Jan", "Jan"}, "Jan", "100237"), "100237 - 100237");
+    EXPECT_EQ(MetKey({"Jansen", "Piet"}, "Jan", "100237"), std::nullopt);
+    EXPECT_EQ(MetKey({"jan", "Piet"}, "Jan", "100237"), std::nullopt);
+}
+
+TEST(Tafelparen, EenItemIsCodeEnSpelers)
+{
+    const auto paar = PaarUit("N05 Jansen - 100234");
+    ASSERT_TRUE(paar);
+    EXPECT_EQ("N05", paar->code);
+    EXPECT_EQ("Jansen - 100234", paar->spelers);
+    EXPECT_EQ("Jansen - 1", PaarUit("  N05Jansen - 1 ")->spelers);
+    EXPECT_EQ("N5 ", PaarUit("N5 Jansen - 1")->code);
+    EXPECT_EQ("5 Jansen - 1", PaarUit("N105 Jansen - 1")->spelers); // three characters, no more
+    EXPECT_EQ("", PaarUit("N05")->spelers);
+    EXPECT_EQ("N", PaarUit("N")->code);
+    EXPECT_EQ("", PaarUit("N")->spelers);
+    EXPECT_FALSE(PaarUit(""));
+    EXPECT_FALSE(PaarUit("   "));
+}
+
+TEST(Tafelparen, EenPlaatsIsEenLetterEnEenGetal)
+{
+    EXPECT_EQ(Tafelsleutel("N05"), Tafelsleutel("N5"));
+    EXPECT_EQ(Tafelsleutel("N005"), Tafelsleutel(" N5 "));
+    EXPECT_EQ(Tafelsleutel("N0"), Tafelsleutel("N00"));
+    EXPECT_NE(Tafelsleutel("N5"), Tafelsleutel("N50"));
+    EXPECT_NE(Tafelsleutel("N5"), Tafelsleutel("O5"));
+    EXPECT_NE(Tafelsleutel("N5"), Tafelsleutel("n5"));
+    EXPECT_NE(Tafelsleutel("105"), Tafelsleutel("15"));
+    EXPECT_NE(Tafelsleutel("N0x"), Tafelsleutel("Nx"));
+    EXPECT_EQ(Tafelsleutel("N"), "N");
+    EXPECT_EQ(Tafelsleutel(""), "");
+}
 
 // ---------------------------------------------------------------- player lists
 
 TEST(Spelerslijst, AlleenDeHelftDieGeenGetalIs)
 {
-    EXPECT_EQ(Zwevend("N05 Jansen - 100234\r\n", Spelers), (Vindplaatsen{{"N05", "Jansen"}}));
-    EXPECT_EQ(Zwevend("N05 7 - 100234\r\n", Spelers), Vindplaatsen{});
+    EXPECT_EQ(Zwevend("N05 Jansen - 100234\r\n", Spelers), (Tafelnamen{{"N05", "Jansen"}}));
+    EXPECT_EQ(Zwevend("N05 7 - 100234\r\n", Spelers), Tafelnamen{});
 }
 
 TEST(Spelerslijst, InBestandsvolgordeDeEersteSpelerEerst)
 {
     EXPECT_EQ(Zwevend("O02 Bos - 100001\r\nN01 Cos - Dos\r\n\r\n  \r\nN02 100002 - Bos", Spelers),
-              (Vindplaatsen{{"O02", "Bos"}, {"N01", "Cos"}, {"N01", "Dos"}, {"N02", "Bos"}}));
+              (Tafelnamen{{"O02", "Bos"}, {"N01", "Cos"}, {"N01", "Dos"}, {"N02", "Bos"}}));
 }
 
 TEST(Spelerslijst, EenItemEindigtBijKommaOfRegeleinde)
 {
     EXPECT_EQ(Zwevend("N01 Bos - 1,N02 Cos - 2\nN03 Dos - 3\r,,", Spelers),
-              (Vindplaatsen{{"N01", "Bos"}, {"N02", "Cos"}, {"N03", "Dos"}}));
+              (Tafelnamen{{"N01", "Bos"}, {"N02", "Cos"}, {"N03", "Dos"}}));
 }
 
 TEST(Spelerslijst, AanhalingstekensOmEenItemVallenWeg)
 {
     EXPECT_EQ(Zwevend("\"N01 Bos, Jan - 1\"\r\n\"N02 Cos - 2\",N03 Dos - 3", Spelers),
-              (Vindplaatsen{{"N01", "Bos, Jan"}, {"N02", "Cos"}, {"N03", "Dos"}}));
+              (Tafelnamen{{"N01", "Bos, Jan"}, {"N02", "Cos"}, {"N03", "Dos"}}));
 }
 
 TEST(Spelerslijst, WatGeenPaarIsGeeftNiets)
 {
-    EXPECT_EQ(Zwevend("", Spelers), Vindplaatsen{});
+    EXPECT_EQ(Zwevend("", Spelers), Tafelnamen{});
     EXPECT_EQ(Zwevend("N05 Jansen\r\nN\r\nN05\r\n-\r\nN05 -\r\nN05 - 100234\r\n", Spelers),
-              Vindplaatsen{});
-    EXPECT_EQ(Zwevend(Tekst("\0\xFF\x01\r\x81", 5), Spelers), Vindplaatsen{});
+              Tafelnamen{});
+    EXPECT_EQ(Zwevend(Tekst("\0\xFF\x01\r\x81", 5), Spelers), Tafelnamen{});
 }
 
 TEST(Spelerslijst, HetVoorbeeld)
@@ -119,9 +198,8 @@ TEST(Spelerslijst, WelkePlaatsenErVervangenZijn)
 {
     const auto nieuw = HerschrijfLijst("N01 Jan - 1\r\nN02 Piet - Jan\r\n", Spelers,
                                        {{"N03", "N02", "N2", "N01"}, "Jan", "100237"});
-    EXPECT_EQ(nieuw.vervangen, (std::vector<bool>{false, true, false, true}));
-    EXPECT_TRUE(nieuw.IetsVervangen());
-    EXPECT_FALSE(HerschrijfLijst("N01 Jan - 1", Spelers, {{"N02"}, "Jan", "1"}).IetsVervangen());
+    EXPECT_EQ(nieuw.vervangen, (std::set<Tekst>{"N01", "N02"}));
+    EXPECT_TRUE(HerschrijfLijst("N01 Jan - 1", Spelers, {{"N02"}, "Jan", "1"}).vervangen.empty());
 }
 
 // ---------------------------------------------------------------- result lists
@@ -129,15 +207,15 @@ TEST(Spelerslijst, WelkePlaatsenErVervangenZijn)
 TEST(Percentagelijst, VeldDrieIsDeCodeEnVeldVierHetPaar)
 {
     EXPECT_EQ(Zwevend("1,\"A\",\"N5\",\"Jansen-100234\",52.08,0,\"\"\r\n", Percentages),
-              (Vindplaatsen{{"N5", "Jansen"}}));
+              (Tafelnamen{{"N5", "Jansen"}}));
     EXPECT_EQ(Zwevend("1,A, N5 ,Jansen - Bos,52.08,0,\r\n", Percentages),
-              (Vindplaatsen{{"N5", "Jansen"}, {"N5", "Bos"}}));
+              (Tafelnamen{{"N5", "Jansen"}, {"N5", "Bos"}}));
 }
 
 TEST(Percentagelijst, EenKommaTussenAanhalingstekensHoortBijZijnVeld)
 {
     const Tekst tekst = "1,\"a,b\",\"N5\",\"Bos, Jan-Jansen\",52,0,\",\"\r\n";
-    EXPECT_EQ(Zwevend(tekst, Percentages), (Vindplaatsen{{"N5", "Bos, Jan"}, {"N5", "Jansen"}}));
+    EXPECT_EQ(Zwevend(tekst, Percentages), (Tafelnamen{{"N5", "Bos, Jan"}, {"N5", "Jansen"}}));
     EXPECT_EQ("1,\"a,b\",\"N5\",\"Bos, Jan - 100237\",52,0,\",\"\r\n",
               Gekoppeld(tekst, Percentages));
 }
@@ -147,7 +225,7 @@ TEST(Percentagelijst, RegelsZonderZevenVeldenWordenOvergeslagen)
     const Tekst tekst =
         "\r\n1,2,\"N5\",\"Jansen-1\",5,6\r\n  \r\n1,2,\"N5\",\"Jansen-1\",5,6,7,8\r\n"
         "ruis\r\n1,2,\"N5\",Bos, Jan-Jansen,5,6,7\r\n";
-    EXPECT_EQ(Zwevend(tekst, Percentages), Vindplaatsen{});
+    EXPECT_EQ(Zwevend(tekst, Percentages), Tafelnamen{});
     EXPECT_EQ(4, LeesLijst(tekst, Percentages).overgeslagen);
     EXPECT_EQ(tekst, Gekoppeld(tekst, Percentages));
     EXPECT_EQ(0, LeesLijst("\r\n\r\n", Percentages).overgeslagen);
@@ -175,7 +253,7 @@ TEST(Percentagelijst, LeegAfgeknipEnRuis)
 {
     for (const Tekst& tekst :
          {Tekst(), Tekst("1,\"A\",\"N5\",\"Jan"), Tekst("\"\"\",\"\0,\xFF", 9)}) {
-        EXPECT_EQ(Zwevend(tekst, Percentages), Vindplaatsen{});
+        EXPECT_EQ(Zwevend(tekst, Percentages), Tafelnamen{});
         EXPECT_EQ(tekst, Gekoppeld(tekst, Percentages));
     }
 }
