@@ -29,11 +29,11 @@ int main(int argc, char** argv)
     const auto winkel = MaakInstellingenwinkel(schijf);
     Administratie administratie{.schijf = schijf, .winkel = *winkel};
     frmLedenAdmin venster(administratie);
-    const Opstart opstart{.mappenIni = opdrachten.mappenIni.empty()
-                                           ? MappenIniPad(Programmamap())
-                                           : VolledigPad(opdrachten.mappenIni),
-                          .eersteExemplaar = [&slot] { return slot.Neem(); }};
-    if (const auto eindstatus = venster.Laad(opstart))
+    const Startgegevens start{.mappenIni = opdrachten.mappenIni.empty()
+                                               ? MappenIniPad(Programmamap())
+                                               : VolledigPad(opdrachten.mappenIni),
+                              .eersteExemplaar = [&slot] { return slot.Neem(); }};
+    if (const auto eindstatus = venster.Laad(start))
         return *eindstatus;
     venster.show();
     return QApplication::exec();

@@ -1,9 +1,10 @@
-// The main window shows a group, remembers it, and ends.
+// The main window starts, shows a group and its lists, remembers it, and ends.
 #include "mainwindow/frmLedenAdmin.h"
 
 #include <QCloseEvent>
 
-#include "mainwindow/nummerlijst.h"
+#include "dialogs/diaSortlijst.h"
+#include "mainwindow/frmLedenAdmin_opstart.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/schijf/programma.h"
@@ -17,22 +18,84 @@ void PasToe(QPushButton* knop, Zichtbaarheid zichtbaarheid)
         knop->setVisible(zichtbaarheid == Zichtbaarheid::Tonen);
 }
 
+QString NietsGevonden(Sorteersoort soort)
+{
+    switch (soort) {
+    case Sorteersoort::Key:
+        return u"Er zijn geen regels die voldoen aan het zoek-criterium."_s;
+    case Sorteersoort::NBBnr:
+        return u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-nummer'."_s;
+    case Sorteersoort::NBBgroep:
+        break;
+    }
+    return u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'."_s;
+}
+
+void VoegRegelToe(Tekst& verslag, const Spelertabel& tabel, int rij)
+{
+    constexpr std::array kolommen{Kolom::Key,        Kolom::Voornaam, Kolom::Tusv,
+                                  Kolom::Achternaam, Kolom::NBBgr,    Kolom::NBBnr};
+    for (const Kolom kolom : kolommen) {
+        verslag += tabel.Cel(rij, kolom);
+        verslag += kolom == kolommen.back() ? "\r\n" : "\t";
+    }
+}
+
+Tekst Verslag(const Spelertabel& tabel, const std::vector<Dubbel>& dubbelen)
+{
+    if (dubbelen.empty())
+        return "G\xE9\xE9n dubbele namen gevonden!\r\n";
+    Tekst verslag = "RVDkey\tNaam\t\t\tNBBgr\tNBBnr\r\n" + Tekst(71, '-') + "\r\n";
+    for (const Dubbel& dubbel : dubbelen) {
+        VoegRegelToe(verslag, tabel, dubbel.rij);
+        VoegRegelToe(verslag, tabel, dubbel.latere);
+    }
+    return verslag + "\r\nGa na welke regel nog actueel is.\r\n"
+                     "Verwijder 1 van beide, deze zal dan niet meer worden getoond in de "
+                     "overzichten ed.\r\n";
+}
+
 } // namespace
 
 frmLedenAdmin::frmLedenAdmin(Administratie& administratie, QWidget* ouder)
-    : QMainWindow(ouder), administratie_(administratie)
+    : QMainWindow(ouder), administratie_(administratie),
+      opslag_(administratie, this, [this] { ToonGroep(); })
 {
     Bouw();
+}
+
+std::optional<int> frmLedenAdmin::Laad(const Startgegevens& start)
+{
+    eersteExemplaar_ = start.eersteExemplaar;
+    if (!IsEersteExemplaar())
+        return 0;
+    const Startafloop afloop = Opstart(administratie_, this).Lees(start.mappenIni);
+    if (afloop == Startafloop::Mislukt)
+        return 1;
+    cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);
+    VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
+    const int laatste = administratie_.instellingen.LOSTGR;
+    KiesGroep(laatste >= 0 && laatste < AantalGroepen ? laatste : 0);
+    if (afloop == Startafloop::TeBewaren) // not before: a display keeps the place of its group
+        SlaOpEnToon();
+    if (administratie_.mappen.NBB28UIT == 1)
+        cmdToonGatenlijst->hide();
+    cmdKoppel->hide();
+    picP0->Toetsenvlak()->setFocus();
+    return std::nullopt;
+}
+
+bool frmLedenAdmin::IsEersteExemplaar()
+{
+    const bool eerste = eersteExemplaar_();
+    if (!eerste)
+        Meld(this, QMessageBox::Information, u"Het programma is al gestart!..."_s);
+    return eerste;
 }
 
 Tekst frmLedenAdmin::Groeptekst() const
 {
     return administratie_.groepen.Toontekst(cmbGr->currentIndex() + 1);
-}
-
-void frmLedenAdmin::VulGroepen()
-{
-    VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
 }
 
 /// Selecting runs the display, also when the place stays the same.
@@ -51,10 +114,8 @@ void frmLedenAdmin::ToonGroep()
     const Tekst code(CodeUit(groeptekst));
     const Groepsbeeld beeld = BeeldVan(administratie_.mappen, code);
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    Celmeter celmeter(tabel, picP0->Meter());
-    Weergave weergave = BouwWeergave(tabel, code, [&](int rij) { celmeter.Meet(rij); });
-    const int regels = static_cast<int>(weergave.size());
-
+    picP0->Toon(tabel, BouwWeergave(tabel, code), beeld.kolomnamen);
+    const int regels = picP0->Regels();
     Label3->setText(u"Aantal regels: %1"_s.arg(regels));
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdWijzig, cmdVerwijder, cmdVerwijderVT,
                                                          cmbVerwVan, cmbVerwTot})
@@ -67,10 +128,10 @@ void frmLedenAdmin::ToonGroep()
     cmdPrint->setText(MetSneltoets(printtekst, u'P'));
     ZetWenk(cmdPrint, printtekst);
 
-    picP0->Toon(tabel, std::move(weergave), celmeter.Maten(), beeld.kolomnamen);
-    if (administratie_.instellingen.LOSTGR != cmbGr->currentIndex())
+    std::int16_t& LOSTGR = administratie_.instellingen.LOSTGR;
+    if (LOSTGR != cmbGr->currentIndex())
         picP0->NaarBoven();
-    administratie_.instellingen.LOSTGR = static_cast<std::int16_t>(cmbGr->currentIndex());
+    LOSTGR = static_cast<std::int16_t>(cmbGr->currentIndex());
     BewaarInstellingen();
 }
 
@@ -101,22 +162,63 @@ void frmLedenAdmin::BewaarInstellingen()
         uitkomst.error());
 }
 
+void frmLedenAdmin::ToonSorteerlijst(Sorteersoort soort)
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    const Tekst code(CodeUit(Groeptekst()));
+    const auto lijst = VulSorteerlijst(
+        tabel, soort, chkToonAlle->isChecked() ? std::nullopt : std::optional(code));
+    if (!lijst) {
+        MeldGeenGetal(soort, lijst.error());
+        return;
+    }
+    if (lijst->empty()) {
+        Meld(this, QMessageBox::Information, NietsGevonden(soort));
+        return;
+    }
+    diaSortlijst venster({.soort = soort,
+                          .importgroep = code == administratie_.mappen.DFIMPG,
+                          .regels = static_cast<int>(lijst->size()),
+                          .regel =
+                              [&](int regel) {
+                                  return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
+                                                   soort);
+                              }},
+                         this);
+    venster.exec();
+}
+
+void frmLedenAdmin::MeldGeenGetal(Sorteersoort soort, const GeenGetal& fout)
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    Meld(this, QMessageBox::Warning,
+         u"De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De gegevens zijn "
+         "niet veranderd. Verbeter dat %5."_s.arg(
+             soort == Sorteersoort::Key ? u"de sleutel"_s : u"het NBB-nummer"_s,
+             NaarQString(VolleNaam(tabel, fout.rij)),
+             NaarQString(tabel.Cel(fout.rij, Kolom::Groep)), NaarQString(fout.waarde),
+             soort == Sorteersoort::Key ? u"in het spelerbestand"_s : u"bij deze speler"_s));
+}
+
+void frmLedenAdmin::ToonDubbeleNamen()
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    const Tekst code(CodeUit(Groeptekst()));
+    const Dubbelen dubbelen = ZoekDubbeleNamen(tabel, code);
+    MeldVerslag(this, NaarQString(Verslag(tabel, dubbelen.paren)),
+                u"DUBBELE NAMEN in deze groep: %1"_s.arg(NaarQString(code)));
+    if (dubbelen.meer)
+        Meld(this, QMessageBox::Information,
+             u"Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na %1 paren. Er "
+             "is niets veranderd. Verwijder er eerst een aantal en zoek dan "
+             "opnieuw."_s.arg(MeesteDubbelen));
+}
+
 void frmLedenAdmin::closeEvent(QCloseEvent* gebeurtenis)
 {
-    gebeurtenis->accept();
-    if (nietOpgeslagen_) {
-        const int antwoord = Kies(
-            this, QMessageBox::Warning,
-            u"De laatste wijzigingen staan nog niet in het spelerbestand. Met 'Niet opslaan' gaan "
-            "ze verloren. Met 'Annuleren' blijft Plexoran open."_s,
-            {u"Opslaan"_s, u"Niet opslaan"_s, u"Annuleren"_s});
-        const bool klaar = antwoord == 1 || (antwoord == 0 && SlaOp() != Opslag::Mislukt);
-        if (!klaar) {
-            gebeurtenis->ignore();
-            return;
-        }
-    }
-    ZetWerkmap(administratie_.mappen.RVDMAP);
+    gebeurtenis->setAccepted(opslag_.MagEindigen());
+    if (gebeurtenis->isAccepted())
+        ZetWerkmap(administratie_.mappen.RVDMAP);
 }
 
 } // namespace plexoran

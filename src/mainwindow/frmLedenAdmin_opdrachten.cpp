@@ -7,14 +7,28 @@
 #include "dialogs/frmVerwSubgroep.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmLedenAdmin.h"
+#include "mainwindow/frmLedenAdmin_opstart.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/tekstbrug.h"
+#include "platform/scherm/bouwstenen.h"
 #include "platform/schijf/programma.h"
 #include "printing/frmPrintIni.h"
 #include "sessions/frmKoppelNBBnr.h"
 
 namespace plexoran {
+
+/// Saves, shows what is in the table now, and says `klaar` when it is saved.
+void frmLedenAdmin::SlaOpEnToon(const QString& klaar)
+{
+    const Opslag opslag = opslag_.SlaOp();
+    ToonGroep();
+    if (opslag != Opslag::Mislukt && !klaar.isEmpty())
+        Meld(this, QMessageBox::Information, klaar);
+    if (opslag == Opslag::RegisterBehouden)
+        Meld(this, QMessageBox::Information,
+             u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
+             "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
+}
 
 bool frmLedenAdmin::IsRegelGekozen()
 {
@@ -47,8 +61,7 @@ void frmLedenAdmin::VoegToe()
                        PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
-    (void)SlaOp();
-    ToonGroep();
+    SlaOpEnToon();
     picP0->BrengInBeeld(picP0->Regels());
 }
 
@@ -63,15 +76,35 @@ void frmLedenAdmin::Wijzig()
     if (!ToonIngave(ingave))
         return;
     WijzigSpeler(administratie_.spelers, ingave.rij, ingave.IngaveVelden);
-    (void)SlaOp();
-    ToonGroep();
+    SlaOpEnToon();
 }
 
-/// `vraag` names the lines; the warning is the same for one line and for many. Below it stand the
-/// players.
-bool frmLedenAdmin::VraagVerwijderen(const QString& vraag, int van, int tot)
+void frmLedenAdmin::VerwijderGekozen()
 {
-    const QStringList regels{
+    if (!IsRegelGekozen())
+        return;
+    const int regel = picP0->Regel();
+    Verwijder(regel, regel, u"regel %1"_s.arg(regel), u"De regel is verwijderd."_s);
+}
+
+void frmLedenAdmin::VerwijderVanTot()
+{
+    const int van = cmbVerwVan->currentIndex() + 1;
+    const int tot = cmbVerwTot->currentIndex() + 1;
+    if (van <= tot)
+        Verwijder(van, tot, u"regel %1 t/m regel %2"_s.arg(van).arg(tot),
+                  u"De regels zijn verwijderd."_s);
+    else
+        Meld(this, QMessageBox::Warning,
+             u"Er is niets verwijderd: regel %1 komt na regel %2. Kies bij 'Van regel' de eerste "
+             "en bij 'T/m regel' de laatste regel."_s.arg(van)
+                 .arg(tot));
+}
+
+/// After a warning with the names of the players; `regels` are the lines as the question says them.
+void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QString& klaar)
+{
+    const QStringList waarschuwing{
         u"\t\tLET OP!"_s,
         QString(),
         u"Als u spelers verwijdert die nog voorkomen in bestaande zittingen dan zal hun naam "
@@ -81,54 +114,18 @@ bool frmLedenAdmin::VraagVerwijderen(const QString& vraag, int van, int tot)
         u"Het opnieuw invoeren van een speler die per vergissing is verwijderd heeft alleen zin "
         "als men in elke relevante zitting zijn naam opnieuw ingeeft."_s,
         QString(),
-        vraag,
+        u"Weet u zeker dat u %1 wilt verwijderen?"_s.arg(regels),
+        QString(),
         QString(),
     };
+    Spelertabel& tabel = administratie_.spelers.tabel;
     const auto eerste = picP0->GetoondeRijen().begin();
-    return Vraag(
-        this, QMessageBox::Information, regels.join(u"\r\n"_s) + u"\r\n"_s, u"Verwijderen"_s,
-        NoemSpelers(administratie_.spelers.tabel, {eerste + van - 1, eerste + tot}, *this));
-}
-
-void frmLedenAdmin::VerwijderGekozen()
-{
-    if (!IsRegelGekozen())
+    const std::vector<int> rijen(eerste + van - 1, eerste + tot);
+    if (!Vraag(this, QMessageBox::Information, waarschuwing.join(u"\r\n"_s), u"Verwijderen"_s,
+               NoemSpelers(tabel, rijen, *this)))
         return;
-    const int regel = picP0->Regel();
-    if (!VraagVerwijderen(u"Weet u zeker dat u regel %1 wilt verwijderen?"_s.arg(regel), regel,
-                          regel))
-        return;
-    VerwijderRijen(administratie_.spelers.tabel, picP0->GetoondeRijen(), regel, regel);
-    const Opslag opslag = SlaOp();
-    ToonGroep();
-    if (opslag != Opslag::Mislukt)
-        Meld(this, QMessageBox::Information, u"De regel is verwijderd."_s);
-    MeldRegisterBehouden(opslag);
-}
-
-void frmLedenAdmin::VerwijderVanTot()
-{
-    const int van = cmbVerwVan->currentIndex() + 1;
-    const int tot = cmbVerwTot->currentIndex() + 1;
-    if (van > tot) {
-        Meld(this, QMessageBox::Warning,
-             u"Er is niets verwijderd: regel %1 komt na regel %2. Kies bij 'Van regel' de eerste "
-             "en bij 'T/m regel' de laatste regel."_s.arg(van)
-                 .arg(tot));
-        return;
-    }
-    if (!VraagVerwijderen(
-            u"Weet u zeker dat u regel %1 t/m regel %2 wilt verwijderen?"_s.arg(van).arg(tot), van,
-            tot))
-        return;
-    const int groep = cmbGr->currentIndex();
-    VerwijderRijen(administratie_.spelers.tabel, picP0->GetoondeRijen(), van, tot);
-    const Opslag opslag = SlaOp();
-    ToonGroep();
-    if (opslag != Opslag::Mislukt)
-        Meld(this, QMessageBox::Information, u"De regels zijn verwijderd."_s);
-    MeldRegisterBehouden(opslag);
-    KiesGroep(groep);
+    tabel.Verwijder(rijen);
+    SlaOpEnToon(klaar);
 }
 
 void frmLedenAdmin::WijzigGroepsnamen()
@@ -138,7 +135,7 @@ void frmLedenAdmin::WijzigGroepsnamen()
     venster.exec();
     if (venster.Geannuleerd() || !BewaarGroepen(oud))
         return;
-    VulGroepen();
+    VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     KiesGroep(0);
 }
 
@@ -169,10 +166,7 @@ void frmLedenAdmin::Verplaats()
     venster.exec();
     if (venster.IngaveGeannuleerd())
         return;
-    const Opslag opslag = SlaOp();
-    ToonGroep();
-    if (opslag != Opslag::Mislukt)
-        Meld(this, QMessageBox::Information, u"De spelers(s) zijn verplaatst."_s);
+    SlaOpEnToon(u"De spelers(s) zijn verplaatst."_s);
 }
 
 void frmLedenAdmin::Kopieer()
@@ -181,8 +175,7 @@ void frmLedenAdmin::Kopieer()
     venster.exec();
     if (venster.IngaveGeannuleerd())
         return;
-    (void)SlaOp();
-    ToonGroep();
+    SlaOpEnToon();
 }
 
 void frmLedenAdmin::VerwijderGroep()
@@ -193,9 +186,7 @@ void frmLedenAdmin::VerwijderGroep()
     venster.exec();
     if (!venster.IetsVerwijderd())
         return;
-    const Opslag opslag = SlaOp();
-    ToonGroep();
-    MeldRegisterBehouden(opslag);
+    SlaOpEnToon();
 }
 
 /// Members in a group that is none of the fifty would never be seen again.
@@ -212,7 +203,7 @@ void frmLedenAdmin::HaalNBBnamen()
              "en start Plexoran opnieuw."_s);
         return;
     }
-    KiesRekenprogramma();
+    KiesRekenprogramma(administratie_, this);
     frmImportNBB venster(administratie_, importgeheugen_, this);
     venster.exec();
     // Its last box and the window itself go at once, and a window manager may then give the focus
@@ -220,8 +211,7 @@ void frmLedenAdmin::HaalNBBnamen()
     activateWindow();
     if (!venster.IetsGewijzigd())
         return;
-    (void)SlaOp();
-    ToonGroep();
+    SlaOpEnToon();
 }
 
 void frmLedenAdmin::VoegSessiespelersToe()
@@ -230,9 +220,8 @@ void frmLedenAdmin::VoegSessiespelersToe()
     venster.exec();
     if (!venster.ToegevoegdEnBewaard())
         return;
-    verslagen_.push_back(venster.NeemVerslag());
-    (void)SlaOp();
-    ToonGroep();
+    opslag_.Bewaak(venster.NeemVerslag());
+    SlaOpEnToon();
 }
 
 /// Changes session files only: there is nothing to save in the register.
@@ -243,8 +232,7 @@ void frmLedenAdmin::KoppelZwevenden()
 
 void frmLedenAdmin::OnderhoudParen()
 {
-    if (!eersteExemplaar_()) {
-        Meld(this, QMessageBox::Information, u"Het programma is al gestart!..."_s);
+    if (!IsEersteExemplaar()) {
         close();
         return;
     }

@@ -1,89 +1,101 @@
-// Saving after a command, and reading back.
+#include "mainwindow/frmLedenAdmin_opslag.h"
+
 #include "dialogs/diaToevoegen.h"
-#include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
+namespace {
 
-/// Save and reload. A change that could not be saved stays in the table and is tried again with the
-/// next save and at the end of the program.
-frmLedenAdmin::Opslag frmLedenAdmin::SlaOp()
+constexpr int TeNoemenRegels = 10;
+
+const QString Sleutelgevolg =
+    u". Nieuwe spelers krijgen daardoor een sleutel vanaf 100001, die al van een ander kan zijn: "
+    "voeg er geen toe voordat die regel is hersteld."_s;
+
+QString Opsomming(const std::vector<int>& regels)
 {
-    const bool leeg = administratie_.spelers.tabel.Rijen() == 0;
-    auto overschrijven = Overschrijven::AlleenEigen;
-    for (;;) {
-        const auto uitkomst = SchrijfSpelers(administratie_.schijf, administratie_.mappen,
-                                             administratie_.spelers, overschrijven);
-        if (StaatEr(this, uitkomst))
-            break;
-        MerkNietOpgeslagen(true);
-        ToonGroep();
-        const Vervolg vervolg = VraagVervolg(uitkomst.error());
-        if (vervolg == Vervolg::Overschrijven)
-            overschrijven = Overschrijven::OokGewijzigd;
-        else if (vervolg != Vervolg::Opnieuw) {
-            ZetVerslagenTerug(vervolg == Vervolg::LeesOpnieuw);
-            if (vervolg == Vervolg::LeesOpnieuw)
-                LeesOpnieuw(Leesmoment::Opnieuw);
-            return Opslag::Mislukt;
-        }
+    QStringList nummers;
+    for (const int regel : regels) {
+        if (nummers.size() == TeNoemenRegels)
+            return nummers.join(u", "_s) + u", ..."_s;
+        nummers << QString::number(regel);
     }
-    MerkNietOpgeslagen(false);
-    if (!leeg)
-        SchrijfVerslagen();
-    LeesOpnieuw(leeg ? Leesmoment::Opnieuw : Leesmoment::NaOpslag);
-    return leeg && administratie_.spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden
-                                                            : Opslag::Gelukt;
+    return nummers.join(u", "_s);
 }
 
-void frmLedenAdmin::MerkNietOpgeslagen(bool nietOpgeslagen)
+QStringList WatNietGelezenIs(const Leesverslag& verslag)
 {
-    nietOpgeslagen_ = nietOpgeslagen;
-    setWindowModified(nietOpgeslagen);
+    QStringList delen;
+    if (const std::size_t aantal = verslag.zonderAchternaam.size(); aantal > 0)
+        delen << (aantal == 1 ? u"%2 speler zonder achternaam is niet ingelezen (regel %1 van het "
+                                "spelerbestand). Vul die achternaam daar in als u de speler wilt "
+                                "houden."_s
+                              : u"%2 spelers zonder achternaam zijn niet ingelezen (regels %1 van "
+                                "het spelerbestand). Vul die achternamen daar in als u de spelers "
+                                "wilt houden."_s)
+                     .arg(Opsomming(verslag.zonderAchternaam), QString::number(aantal));
+    if (verslag.zonderSleutelregel)
+        delen << u"In het spelerbestand ontbreekt de regel HKEY= met de hoogste sleutel"_s +
+                     Sleutelgevolg;
+    if (verslag.sleutelZonderGetal > 0)
+        delen << u"Op regel %1 van het spelerbestand staat achter HKEY= geen getal"_s.arg(
+                     verslag.sleutelZonderGetal) +
+                     Sleutelgevolg;
+    return delen;
 }
 
-void frmLedenAdmin::LeesOpnieuw(Leesmoment moment)
+QString WaarHetLezenStopte(const Spelertabel& tabel, const Leesverslag& verslag)
 {
-    const Leesverslag verslag =
-        LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
-    if (verslag.tabelVervangen) {
-        MerkNietOpgeslagen(false);
-        verslagen_.clear();
+    const auto rijen = static_cast<std::size_t>(tabel.Rijen());
+    QString reden = u". Verhelp de oorzaak voordat u iets invoert."_s;
+    if (verslag.velden > 0)
+        reden = u", want de genoemde regel heeft %1 in plaats van %2. Laat die regel herstellen "
+                "voordat u iets invoert."_s
+                    .arg(Aantal(static_cast<std::size_t>(verslag.velden), u"veld"_s, u"velden"_s))
+                    .arg(AantalKolommen);
+    else if (verslag.fout->regel > 0)
+        reden = u", want op regel %1 staat achter HKEY= een getal dat niet past"_s.arg(
+                    verslag.fout->regel) +
+                Sleutelgevolg;
+    return u"Het spelerbestand is niet tot het einde gelezen; er %1 nu %2 in de tabel%3"_s.arg(
+        rijen == 1 ? u"staat"_s : u"staan"_s, Aantal(rijen, u"speler"_s, u"spelers"_s), reden);
+}
+
+void MeldNietGeopend(QWidget* ouder, const Fout& fout, Leesmoment moment)
+{
+    QString wat;
+    switch (moment) {
+    case Leesmoment::Start:
+        wat = u"Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets aan "
+              "veranderd. Voeg nu geen spelers toe, maar verhelp de oorzaak en start het programma "
+              "opnieuw."_s;
+        break;
+    case Leesmoment::NaOpslag:
+        wat = u"Uw wijziging is opgeslagen, maar het spelerbestand kan daarna niet worden geopend. "
+              "In dit programma staan dezelfde spelers als in dat bestand. Verhelp de oorzaak "
+              "voordat u verder gaat."_s;
+        break;
+    case Leesmoment::Opnieuw:
+        wat = u"Het spelerbestand kan niet worden geopend; er is niets aan veranderd. In dit "
+              "programma staan de spelers van zonet, met uw laatste wijziging. Verhelp de oorzaak "
+              "voordat u verder gaat."_s;
+        break;
     }
-    if (verslag.AllesGelezen())
-        return;
-    ToonGroep(); // the grid must not show the old rows behind the box
-    MeldLezing(verslag, moment);
+    MeldFout(ouder, QMessageBox::Information, wat, fout);
 }
 
-frmLedenAdmin::Vervolg frmLedenAdmin::VraagVervolg(const Fout& fout)
-{
-    if (fout.soort == Foutsoort::Gewijzigd)
-        return VraagNaWijziging(fout);
-    const QString wat =
-        fout.soort == Foutsoort::GeenReservekopie
-            ? u"Er is niets opgeslagen: de kopie van het spelerbestand die eerst in de map "
-              "Reservekopie moet komen, is mislukt."_s
-            : u"De spelers konden niet worden opgeslagen."_s;
-    const QString gevolg =
-        u" Het spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
-        "dit programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij de volgende "
-        "wijziging en bij het afsluiten komt deze keus terug.\n\n"_s;
-    const int antwoord = Kies(this, QMessageBox::Critical, wat + gevolg + Bijzonderheden(fout),
-                              {u"Opnieuw proberen"_s, u"Doorgaan"_s});
-    return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
-}
+/// What the user wants after a save that failed.
+enum class Vervolg { Opnieuw, Overschrijven, LeesOpnieuw, Later };
 
-frmLedenAdmin::Vervolg frmLedenAdmin::VraagNaWijziging(const Fout& fout)
+Vervolg VraagNaWijziging(QWidget* ouder, const Fout& fout, bool gelezen)
 {
     const QString wat =
-        administratie_.spelers.gelezen
-            ? u"Het spelerbestand is door een ander programma gewijzigd nadat het hier is "
-              "ingelezen."_s
-            : u"Het spelerbestand op de schijf is hier niet ingelezen."_s;
+        gelezen ? u"Het spelerbestand is door een ander programma gewijzigd nadat het hier is "
+                  "ingelezen."_s
+                : u"Het spelerbestand op de schijf is hier niet ingelezen."_s;
     const int antwoord = Kies(
-        this, QMessageBox::Warning,
+        ouder, QMessageBox::Warning,
         wat +
             u"\n\nOpslaan: uw gegevens vervangen dat bestand; er komt eerst een kopie van in de "
             "map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals het is; uw wijzigingen "
@@ -95,19 +107,103 @@ frmLedenAdmin::Vervolg frmLedenAdmin::VraagNaWijziging(const Fout& fout)
     return vervolgen.at(static_cast<std::size_t>(antwoord));
 }
 
-void frmLedenAdmin::MeldRegisterBehouden(Opslag opslag)
+Vervolg VraagVervolg(QWidget* ouder, const Fout& fout, bool gelezen)
 {
-    if (opslag == Opslag::RegisterBehouden)
-        Meld(this, QMessageBox::Information,
-             u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
-             "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
+    if (fout.soort == Foutsoort::Gewijzigd)
+        return VraagNaWijziging(ouder, fout, gelezen);
+    const QString wat =
+        fout.soort == Foutsoort::GeenReservekopie
+            ? u"Er is niets opgeslagen: de kopie van het spelerbestand die eerst in de map "
+              "Reservekopie moet komen, is mislukt."_s
+            : u"De spelers konden niet worden opgeslagen."_s;
+    const QString gevolg =
+        u" Het spelerbestand op de schijf is heel gebleven, en uw laatste wijziging staat nog in "
+        "dit programma. Verhelp de oorzaak en probeer het opnieuw, of ga door: bij de volgende "
+        "wijziging en bij het afsluiten komt deze keus terug.\n\n"_s;
+    const int antwoord = Kies(ouder, QMessageBox::Critical, wat + gevolg + Bijzonderheden(fout),
+                              {u"Opnieuw proberen"_s, u"Doorgaan"_s});
+    return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
+}
+
+} // namespace
+
+void MeldLezing(QWidget* ouder, const Spelertabel& tabel, const Leesverslag& verslag,
+                Leesmoment moment)
+{
+    if (verslag.fout)
+        Meld(ouder, QMessageBox::Warning,
+             u"Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"_s);
+    if (verslag.NietGeopend()) {
+        MeldNietGeopend(ouder, *verslag.fout, moment);
+        return;
+    }
+    const QString gevolg =
+        moment == Leesmoment::NaOpslag
+            ? u"Uw wijziging is opgeslagen; voordat dit programma het bestand weer vervangt, komt "
+              "er een kopie van in de map Reservekopie."_s
+            : u"Het bestand zelf is niet veranderd; voordat dit programma het de eerste keer "
+              "vervangt, komt er een kopie van in de map Reservekopie."_s;
+    if (verslag.fout)
+        MeldFout(ouder, QMessageBox::Information,
+                 WaarHetLezenStopte(tabel, verslag) + u"\n\n"_s + gevolg, *verslag.fout);
+    for (const QString& uitleg : WatNietGelezenIs(verslag))
+        Meld(ouder, QMessageBox::Information, uitleg + u"\n\n"_s + gevolg);
+}
+
+Spelersopslag::Spelersopslag(Administratie& administratie, QWidget* venster,
+                             std::function<void()> toon)
+    : administratie_(administratie), venster_(venster), toon_(std::move(toon))
+{}
+
+Opslag Spelersopslag::SlaOp()
+{
+    Register& spelers = administratie_.spelers;
+    const bool leeg = spelers.tabel.Rijen() == 0;
+    auto overschrijven = Overschrijven::AlleenEigen;
+    for (;;) {
+        const auto uitkomst =
+            SchrijfSpelers(administratie_.schijf, administratie_.mappen, spelers, overschrijven);
+        if (StaatEr(venster_, uitkomst))
+            break;
+        venster_->setWindowModified(true);
+        toon_();
+        const Vervolg vervolg =
+            VraagVervolg(venster_, uitkomst.error(), spelers.gelezen.has_value());
+        if (vervolg == Vervolg::Overschrijven)
+            overschrijven = Overschrijven::OokGewijzigd;
+        else if (vervolg != Vervolg::Opnieuw) {
+            ZetVerslagenTerug(vervolg == Vervolg::LeesOpnieuw);
+            if (vervolg == Vervolg::LeesOpnieuw)
+                LeesOpnieuw(Leesmoment::Opnieuw);
+            return Opslag::Mislukt;
+        }
+    }
+    venster_->setWindowModified(false);
+    if (!leeg)
+        SchrijfVerslagen();
+    LeesOpnieuw(leeg ? Leesmoment::Opnieuw : Leesmoment::NaOpslag);
+    return leeg && spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden : Opslag::Gelukt;
+}
+
+void Spelersopslag::LeesOpnieuw(Leesmoment moment)
+{
+    const Leesverslag verslag =
+        LeesSpelers(administratie_.schijf, administratie_.mappen, administratie_.spelers);
+    if (verslag.tabelVervangen) {
+        venster_->setWindowModified(false);
+        verslagen_.clear();
+    }
+    if (verslag.AllesGelezen())
+        return;
+    toon_(); // not the old rows behind the box
+    MeldLezing(venster_, administratie_.spelers.tabel, verslag, moment);
 }
 
 /// The players are saved: link files that were put back after an earlier failure come again.
-void frmLedenAdmin::SchrijfVerslagen()
+void Spelersopslag::SchrijfVerslagen()
 {
     const auto nogEens = [this](const Fout& fout) {
-        return Kies(this, QMessageBox::Critical,
+        return Kies(venster_, QMessageBox::Critical,
                     u"De spelers zijn opgeslagen, maar 'Koppelverslag.txt' van hun zitting kon "
                     "niet worden geschreven. Zonder dat bestand zijn ze niet aan die zitting te "
                     "koppelen. Verhelp de oorzaak en probeer het opnieuw; met Doorgaan komt dat "
@@ -117,7 +213,7 @@ void frmLedenAdmin::SchrijfVerslagen()
     };
     for (Koppelverslag& verslag : verslagen_) {
         auto geschreven = verslag.Staat() ? Uitkomst<void>() : verslag.Schrijf();
-        while (!StaatEr(this, geschreven) && nogEens(geschreven.error()))
+        while (!StaatEr(venster_, geschreven) && nogEens(geschreven.error()))
             geschreven = verslag.Schrijf();
     }
     verslagen_.clear();
@@ -125,13 +221,13 @@ void frmLedenAdmin::SchrijfVerslagen()
 
 /// Keys that the register on the disk lacks will be issued to other players: no link file may name
 /// them.
-void frmLedenAdmin::ZetVerslagenTerug(bool vervallen)
+void Spelersopslag::ZetVerslagenTerug(bool vervallen)
 {
     if (verslagen_.empty())
         return;
     bool terug = false;
     for (Koppelverslag& verslag : verslagen_)
-        terug = (verslag.Staat() && ZetTerugOfMeld(verslag, this)) || terug;
+        terug = (verslag.Staat() && ZetTerugOfMeld(verslag, venster_)) || terug;
     if (!terug)
         return;
     QString tekst =
@@ -139,7 +235,19 @@ void frmLedenAdmin::ZetVerslagenTerug(bool vervallen)
         "hun zitting weer zoals het was."_s;
     tekst += vervallen ? u" Voeg ze zo nodig opnieuw toe."_s
                        : u" Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s;
-    Meld(this, QMessageBox::Information, tekst);
+    Meld(venster_, QMessageBox::Information, tekst);
+}
+
+bool Spelersopslag::MagEindigen()
+{
+    if (!venster_->isWindowModified())
+        return true;
+    const int antwoord =
+        Kies(venster_, QMessageBox::Warning,
+             u"De laatste wijzigingen staan nog niet in het spelerbestand. Met 'Niet opslaan' gaan "
+             "ze verloren. Met 'Annuleren' blijft Plexoran open."_s,
+             {u"Opslaan"_s, u"Niet opslaan"_s, u"Annuleren"_s});
+    return antwoord == 1 || (antwoord == 0 && SlaOp() != Opslag::Mislukt);
 }
 
 } // namespace plexoran

@@ -1,9 +1,14 @@
 #include "mainwindow/rooster.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/maten.h"
 #include "platform/scherm/schildervlak.h"
-#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 namespace {
@@ -11,6 +16,22 @@ namespace {
 constexpr int VrijNaastVlakTwips = 220;
 constexpr double Letterpunten = 9.0;
 constexpr int KleinsteAantalRegels = 4; // that stay in sight however small the window
+
+constexpr QColor bandkleur(235, 235, 235);
+constexpr QColor lijnkleur(200, 200, 200);
+constexpr int KolommenInBand = 3; // Nr, Key and Groep: what the user never types
+constexpr int Lijndikte = 2;
+
+QFrame* MaakLijn(const QString& naam, QWidget* ouder)
+{
+    auto* lijn = new QFrame(ouder);
+    Noem(lijn, naam);
+    lijn->setAutoFillBackground(true);
+    lijn->setBackgroundRole(QPalette::Highlight);
+    lijn->setAttribute(Qt::WA_TransparentForMouseEvents);
+    lijn->hide();
+    return lijn;
+}
 
 } // namespace
 
@@ -46,21 +67,21 @@ void Rooster::BouwHeader(const QFont& letter)
     }
 }
 
-void Rooster::Toon(const Spelertabel& tabel, Weergave weergave, const Kolommaten& celmaten,
+void Rooster::Toon(const Spelertabel& tabel, Weergave weergave,
                    const std::array<Tekstblik, AantalKolommen>& kolomnamen)
 {
     inhoud_.tabel = &tabel;
     inhoud_.weergave = std::move(weergave);
     inhoud_.kolomnamen = kolomnamen;
-    for (std::size_t i = 0; i < kolomnamen.size(); ++i)
-        inhoud_.headermaten[i] = inhoud_.meter.Breedte(kolomnamen[i]);
+    std::transform(kolomnamen.begin(), kolomnamen.end(), headermaten_.begin(),
+                   [this](Tekstblik naam) { return inhoud_.meter.Breedte(naam); });
     P1->KiesRegel(0);
     const bool eersteKeer = inhoud_.randen.back() == 0;
     if (inhoud_.Regels() > 0 || eersteKeer) { // an empty group leaves the widths alone
-        inhoud_.celmaten = celmaten;
+        celmaten_ = MeetCellen(tabel, inhoud_.weergave, inhoud_.meter);
         for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
             if (kolomnamen[i].empty())
-                inhoud_.celmaten[i] = 0;
+                celmaten_[i] = 0;
         }
         BerekenKolommen();
     }
@@ -77,7 +98,7 @@ void Rooster::ZetBreedteregel(Breedteregel regel)
 
 void Rooster::BerekenKolommen()
 {
-    inhoud_.randen = MaakKolommen(inhoud_.celmaten, inhoud_.headermaten, breedteregel_);
+    inhoud_.randen = MaakKolommen(celmaten_, headermaten_, breedteregel_);
 }
 
 void Rooster::PlaatsKolommen()
@@ -113,6 +134,122 @@ void Rooster::StelSchuifbalkenIn()
          qRound(rooster::SmalsteKolom * pixelsPerMm_));
     Stel(Staand(), vlak.height(), P1->height(), P1->height() - P9->height(),
          qRound(rooster::Regelhoogte * pixelsPerMm_));
+}
+
+Roostervlak::Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, const Schuifkader& kader,
+                         QWidget* ouder)
+    : Tabelvlak(kader, u"Spelers van de groep"_s, ouder), inhoud_(inhoud),
+      pixelsPerMm_(pixelsPerMm), Line1(MaakLijn(u"Line1"_s, this)),
+      Line2(MaakLijn(u"Line2"_s, this))
+{
+    for (const QScrollBar* balk : {&kader.Staand(), &kader.Liggend()})
+        connect(balk, &QScrollBar::valueChanged, this, &Roostervlak::PlaatsLijnen);
+}
+
+QString Roostervlak::Celtekst(int regel, int kolom) const
+{
+    const auto plaats = static_cast<std::size_t>(kolom);
+    return NaarQString(regel == 0 ? inhoud_.kolomnamen[plaats] : inhoud_.Cel(regel, plaats));
+}
+
+void Roostervlak::KiesRegel(int regel)
+{
+    Tabelvlak::KiesRegel(regel);
+    lijnenZichtbaar_ = regel > 0;
+    PlaatsLijnen();
+}
+
+void Roostervlak::VerbergLijnen()
+{
+    lijnenZichtbaar_ = false;
+    PlaatsLijnen();
+}
+
+QSize Roostervlak::Vlakmaat() const
+{
+    return {static_cast<int>(std::ceil(inhoud_.randen.back() * pixelsPerMm_)) + 1,
+            static_cast<int>(std::ceil(Vlakhoogte(Regels()) * pixelsPerMm_)) + 1};
+}
+
+void Roostervlak::paintEvent(QPaintEvent* gebeurtenis)
+{
+    QPainter schilder(this);
+    if (Regels() > 0) {
+        const QRect deel = gebeurtenis->rect();
+        const auto [eerste, laatste] = RegelsIn(deel);
+        TekenRasters(schilder, eerste, laatste);
+        schilder.setFont(font());
+        for (int regel = eerste; regel <= laatste; ++regel)
+            TekenTeksten(schilder, regel, deel.left(), deel.right());
+    }
+    TekenFocus(schilder);
+}
+
+void Roostervlak::TekenRasters(QPainter& schilder, int eerste, int laatste) const
+{
+    const double boven = Y(BovenkantVan(eerste));
+    const double onder = Y(OnderkantVan(laatste));
+    const Kolomranden& randen = inhoud_.randen;
+    schilder.fillRect(QRectF(QPointF(X(0), boven), QPointF(X(randen[KolommenInBand]), onder)),
+                      bandkleur);
+    schilder.setPen(lijnkleur);
+    for (const double rand : randen)
+        schilder.drawLine(QLineF(qRound(X(rand)), boven, qRound(X(rand)), onder));
+    for (int regel = eerste; regel <= laatste + 1; ++regel) {
+        const int y = qRound(Y(BovenkantVan(regel)));
+        schilder.drawLine(QLineF(X(0), y, X(randen.back()), y));
+    }
+}
+
+void Roostervlak::TekenTeksten(QPainter& schilder, int regel, double links, double rechts) const
+{
+    const QFontMetricsF letter(font());
+    const double midden = (Y(BovenkantVan(regel)) + Y(OnderkantVan(regel))) / 2;
+    const double basislijn = midden + (letter.ascent() - letter.descent()) / 2;
+    for (std::size_t i = 0; i < AantalKolommen; ++i) {
+        const double begin = inhoud_.randen[i];
+        const double eind = inhoud_.randen[i + 1];
+        if (X(eind) < links || X(begin) > rechts)
+            continue;
+        const Tekstblik cel = inhoud_.Cel(regel, i);
+        // The band is light in dark themes too.
+        schilder.setPen(i < KolommenInBand ? Qt::black : palette().color(QPalette::Text));
+        if (!cel.empty())
+            schilder.drawText(QPointF(X(begin + rooster::Celmarge), qRound(basislijn)),
+                              NaarQString(PasTekst(cel, eind - begin, inhoud_.meter)));
+    }
+}
+
+void Roostervlak::mouseDoubleClickEvent(QMouseEvent* gebeurtenis)
+{
+    if (gebeurtenis->button() == Qt::LeftButton)
+        emit wijzigGevraagd();
+}
+
+void Roostervlak::keyPressEvent(QKeyEvent* gebeurtenis)
+{
+    const int toets = gebeurtenis->key();
+    if (toets == Qt::Key_Return || toets == Qt::Key_Enter || toets == Qt::Key_F2)
+        emit wijzigGevraagd();
+    else if (toets == Qt::Key_Delete)
+        emit verwijderGevraagd();
+    else if (!KiesMet(toets))
+        QWidget::keyPressEvent(gebeurtenis);
+}
+
+void Roostervlak::PlaatsLijnen()
+{
+    const bool tonen = lijnenZichtbaar_ && Regel() > 0;
+    if (tonen) {
+        const int breedte = qRound(inhoud_.randen.back() * pixelsPerMm_);
+        const auto plaats = [&](QFrame* lijn, double y) {
+            lijn->setGeometry(qRound(X(0)), qRound(Y(y)) - Lijndikte / 2, breedte, Lijndikte);
+        };
+        plaats(Line1, BovenkantVan(Regel()));
+        plaats(Line2, OnderkantVan(Regel()));
+    }
+    Line1->setVisible(tonen);
+    Line2->setVisible(tonen);
 }
 
 } // namespace plexoran

@@ -1,15 +1,89 @@
-// The grid in its frame, `picP0`: header buttons, rows and both scroll bars.
+// The grid of the main window: `picP0`, a frame with header buttons and both scroll bars around the
+// rows, `P1`.
 #pragma once
 
+#include <QFrame>
 #include <QPushButton>
 
-#include <memory>
-
-#include "mainwindow/roostervlak.h"
+#include "mainwindow/roostermaten.h"
+#include "mainwindow/weergave.h"
+#include "platform/scherm/tabelvlak.h"
 
 namespace plexoran {
 
 class Maten;
+
+/// What the grid shows. `tabel` is borrowed; a line whose row it no longer has is drawn empty.
+struct Roosterinhoud {
+    const Spelertabel* tabel = nullptr;
+    Weergave weergave;
+    std::array<Tekstblik, AantalKolommen> kolomnamen = Kolomnamen;
+    Kolomranden randen{};
+    Tekstmeter meter;
+
+    [[nodiscard]] int Regels() const { return static_cast<int>(weergave.size()); }
+
+    /// The text of a cell as the grid shows it, by its line: a column without a name shows nothing.
+    [[nodiscard]] Tekstblik Cel(int regel, std::size_t kolom) const
+    {
+        const int rij = weergave[static_cast<std::size_t>(regel - 1)];
+        return rij > tabel->Rijen() || kolomnamen[kolom].empty()
+                   ? Tekstblik()
+                   : tabel->Cel(rij, static_cast<Kolom>(kolom + 1));
+    }
+};
+
+/// Paints the lines and columns that are exposed, shows the selected line between two guide lines,
+/// and turns mouse and keys into line numbers.
+class Roostervlak : public Tabelvlak {
+    Q_OBJECT
+
+  public:
+    Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, const Schuifkader& kader,
+                QWidget* ouder);
+
+    [[nodiscard]] int Regels() const override { return inhoud_.Regels(); }
+    [[nodiscard]] int Kolommen() const override { return AantalKolommen; }
+    [[nodiscard]] QString Celtekst(int regel, int kolom) const override;
+    [[nodiscard]] double Boven(int regel) const override { return Y(BovenkantVan(regel)); }
+    [[nodiscard]] double Links(int kolom) const override
+    {
+        return X(inhoud_.randen[static_cast<std::size_t>(kolom)]);
+    }
+    [[nodiscard]] double Koponder() const override { return rooster::Bovenmarge * pixelsPerMm_; }
+    void KiesRegel(int regel) override;
+
+    /// Hides the guide lines; the selection stays.
+    void VerbergLijnen();
+    /// Puts the guide lines where the selected line is now.
+    void PlaatsLijnen();
+    /// Of all lines and columns.
+    [[nodiscard]] QSize Vlakmaat() const;
+
+  signals:
+    void wijzigGevraagd();
+    void verwijderGevraagd();
+
+  protected:
+    void paintEvent(QPaintEvent* gebeurtenis) override;
+    void mouseDoubleClickEvent(QMouseEvent* gebeurtenis) override;
+    void keyPressEvent(QKeyEvent* gebeurtenis) override;
+
+  private:
+    [[nodiscard]] double X(double mm) const
+    {
+        return mm * pixelsPerMm_ - Kader().Liggend().value();
+    }
+    [[nodiscard]] double Y(double mm) const { return mm * pixelsPerMm_ - Kader().Staand().value(); }
+    void TekenRasters(QPainter& schilder, int eerste, int laatste) const;
+    void TekenTeksten(QPainter& schilder, int regel, double links, double rechts) const;
+
+    const Roosterinhoud& inhoud_;
+    double pixelsPerMm_;
+    bool lijnenZichtbaar_ = false;
+    QFrame* Line1;
+    QFrame* Line2;
+};
 
 class Rooster : public Schuifkader {
     Q_OBJECT
@@ -19,16 +93,13 @@ class Rooster : public Schuifkader {
 
     /// Shows these rows of the table, which must outlive their display; clears the selection. The
     /// scroll bars keep their place as far as the rows reach.
-    void Toon(const Spelertabel& tabel, Weergave weergave, const Kolommaten& celmaten,
+    void Toon(const Spelertabel& tabel, Weergave weergave,
               const std::array<Tekstblik, AantalKolommen>& kolomnamen);
     void ZetBreedteregel(Breedteregel regel);
     void NaarBoven() { Staand().setValue(0); }
     void BrengInBeeld(int regel) { P1->BrengInBeeld(regel); }
 
-    /// The widths in the font of the grid.
-    [[nodiscard]] const Tekstmeter& Meter() const { return inhoud_.meter; }
     [[nodiscard]] int Regel() const { return P1->Regel(); }
-    void KiesRegel(int regel) { P1->KiesRegel(regel); }
     [[nodiscard]] int Regels() const { return inhoud_.Regels(); }
     [[nodiscard]] const Weergave& GetoondeRijen() const { return inhoud_.weergave; }
     /// The widget that has the keys of the grid.
@@ -49,6 +120,8 @@ class Rooster : public Schuifkader {
 
     double pixelsPerMm_;
     Breedteregel breedteregel_ = Breedteregel::VolgensHeader;
+    Kolommaten celmaten_{};
+    Kolommaten headermaten_{};
     Roosterinhoud inhoud_;
     Roostervlak* P1;
     QWidget* P9; ///< clips the header

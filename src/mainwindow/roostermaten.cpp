@@ -26,20 +26,21 @@ double Vlakhoogte(int regels)
     return OnderkantVan(regels);
 }
 
-Celmeter::Celmeter(const Spelertabel& tabel, const Tekstmeter& meter)
-    : tabel_(tabel), meter_(meter),
-      breedste_(*std::max_element(meter.opschuiving.begin(), meter.opschuiving.end()))
-{}
-
-void Celmeter::Meet(int rij)
+Kolommaten MeetCellen(const Spelertabel& tabel, std::span<const int> rijen, const Tekstmeter& meter)
 {
-    for (std::size_t i = 0; i < maten_.size(); ++i) {
-        const Tekstblik cel = tabel_.Cel(rij, static_cast<Kolom>(i + 1));
-        // A text that could not be wider than the widest so far, even of the widest characters,
-        // need not be looked at: in a large group that is most of them.
-        if (static_cast<std::int64_t>(cel.size()) * breedste_ > maten_[i])
-            maten_[i] = std::max(maten_[i], meter_.Breedte(cel));
+    const std::int64_t breedste =
+        *std::max_element(meter.opschuiving.begin(), meter.opschuiving.end());
+    Kolommaten maten{};
+    for (const int rij : rijen) {
+        for (std::size_t i = 0; i < maten.size(); ++i) {
+            const Tekstblik cel = tabel.Cel(rij, static_cast<Kolom>(i + 1));
+            // A text that could not be wider than the widest so far, even of the widest characters,
+            // need not be looked at: in a large group that is most of them.
+            if (static_cast<std::int64_t>(cel.size()) * breedste > maten[i])
+                maten[i] = std::max(maten[i], meter.Breedte(cel));
+        }
     }
+    return maten;
 }
 
 Kolomranden MaakKolommen(const Kolommaten& cellen, const Kolommaten& headers, Breedteregel regel)

@@ -2,6 +2,8 @@
 // measured from its top left corner; lines and columns count from 1.
 #pragma once
 
+#include <span>
+
 #include "platform/tekst/tekstmeter.h"
 #include "register/spelertabel.h"
 
@@ -20,22 +22,11 @@ inline constexpr double SmalsteKolom = 10.0;
 /// Height of the surface that holds `regels` lines.
 [[nodiscard]] double Vlakhoogte(int regels);
 
-/// Widest text of each column, in micrometres; element 0 is column 1.
+/// Widest text of each column over the rows shown, in micrometres; element 0 is column 1.
 using Kolommaten = std::array<std::int64_t, AantalKolommen>;
 
-/// Finds the widest cell text of each column over the rows that it is shown.
-class Celmeter {
-  public:
-    Celmeter(const Spelertabel& tabel, const Tekstmeter& meter);
-    void Meet(int rij);
-    [[nodiscard]] const Kolommaten& Maten() const { return maten_; }
-
-  private:
-    const Spelertabel& tabel_;
-    const Tekstmeter& meter_;
-    std::int64_t breedste_; ///< the widest character
-    Kolommaten maten_{};
-};
+[[nodiscard]] Kolommaten MeetCellen(const Spelertabel& tabel, std::span<const int> rijen,
+                                    const Tekstmeter& meter);
 
 enum class Breedteregel { VolgensTeksten, VolgensHeader };
 

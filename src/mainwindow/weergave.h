@@ -1,7 +1,6 @@
 // Which rows of the player table the grid shows, and which commands belong to the shown group.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "register/mappen.h"
@@ -12,13 +11,7 @@ namespace plexoran {
 /// The rows of the players in a group, in table order: element i is the row on grid line i + 1.
 using Weergave = std::vector<int>;
 
-/// Each of them is handed to `bijElkeRij` on the way, so that a large table is walked only once.
-[[nodiscard]] Weergave BouwWeergave(
-    const Spelertabel& tabel, Tekstblik groepscode,
-    const std::function<void(int)>& bijElkeRij = [](int) {});
-
-/// Deletes the players on the grid lines `van` up to and including `tot`.
-void VerwijderRijen(Spelertabel& tabel, const Weergave& weergave, int van, int tot);
+[[nodiscard]] Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode);
 
 /// What the option words do to a button when a group is shown.
 enum class Zichtbaarheid { Ongemoeid, Tonen, Verbergen };

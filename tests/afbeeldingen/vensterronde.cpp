@@ -20,7 +20,7 @@
 #include "help/frmToelichting.h"
 #include "help/frmUitleg.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "mainwindow/sorteerlijst.h"
+#include "mainwindow/lijsten.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/tekstbrug.h"
 #include "printing/frmAfdrukken.h"

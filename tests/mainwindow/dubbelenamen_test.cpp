@@ -1,4 +1,4 @@
-#include "mainwindow/dubbelenamen.h"
+#include "mainwindow/lijsten.h"
 
 #include <random>
 

@@ -48,22 +48,13 @@ TEST(Regelgrenzen, LiggenOmDeVierenveertigTiendeVanafVijf)
 
 // ---- Columns ----------------------------------------------------------------------------------
 
-Kolommaten MeetCellen(const Spelertabel& tabel, const std::vector<int>& rijen,
-                      const Tekstmeter& meter)
-{
-    Celmeter celmeter(tabel, meter);
-    for (const int rij : rijen)
-        celmeter.Meet(rij);
-    return celmeter.Maten();
-}
-
-TEST(Celmeter, NeemtPerKolomDeBreedsteVanDeGetoondeRijen)
+TEST(MeetCellen, NeemtPerKolomDeBreedsteVanDeGetoondeRijen)
 {
     Spelertabel tabel;
     tabel.VoegToe(Rij("Jansen", "Breda"));
     tabel.VoegToe(Rij("Wit", "Oss"));
     tabel.VoegToe(Rij("een heel lange achternaam", "Den Haag"));
-    const Kolommaten maten = MeetCellen(tabel, {1, 2}, Proefmeter());
+    const Kolommaten maten = MeetCellen(tabel, std::vector{1, 2}, Proefmeter());
     EXPECT_EQ(6000, maten[achternaam]); // "Jansen"; "Wit" is 3000 + 500 + 1000
     EXPECT_EQ(5000, maten[woonplaats]);
     EXPECT_EQ(0, maten[Plaats(Kolom::Telef)]);

@@ -1,4 +1,4 @@
-#include "mainwindow/sorteerlijst.h"
+#include "mainwindow/lijsten.h"
 
 #include <algorithm>
 #include <random>

@@ -1,4 +1,4 @@
-// The three sorted lists: the lines that the viewer shows, in the text order of their sort texts.
+// The lists of the main window: players sorted, and names that occur twice.
 #pragma once
 
 #include <optional>
@@ -27,5 +27,25 @@ VulSorteerlijst(const Spelertabel& tabel, Sorteersoort soort, std::optional<Teks
 
 /// The six fields of a line, without its prefix.
 [[nodiscard]] Tekstblik VeldenVan(Tekstblik regel, Sorteersoort soort);
+
+/// Two rows with the same name, the earlier one first.
+struct Dubbel {
+    int rij;
+    int latere;
+};
+
+struct Dubbelen {
+    std::vector<Dubbel> paren;
+    bool meer = false; ///< there are more than `MeesteDubbelen`
+};
+
+/// A name that thousands bear gives millions of pairs; nobody reads a report of that length.
+inline constexpr std::size_t MeesteDubbelen = 100'000;
+
+/// Every row of the group with each later row, of any group, that bears the same name: first name,
+/// particle and surname joined without a separator, compared byte by byte. The rule is one-sided on
+/// purpose: a namesake of another group that comes earlier in the table is not found. In table
+/// order of the first row, then of the second.
+[[nodiscard]] Dubbelen ZoekDubbeleNamen(const Spelertabel& tabel, Tekstblik groepscode);
 
 } // namespace plexoran
