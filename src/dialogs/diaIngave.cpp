@@ -1,15 +1,16 @@
 #include "dialogs/diaIngave.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 namespace {
@@ -21,12 +22,12 @@ constexpr int KleinsteHoogte = 3000;
 constexpr int RijBoven = 500;
 constexpr int RijAfstand = 300;
 constexpr int RijHoog = 285;
-constexpr int VeldenHoog = RijBoven + AantalKolommen * RijAfstand;
-constexpr int LabelLinks = 300;
 constexpr int LabelBreed = 1100;
 constexpr int VakLinks = 1500;
 constexpr int VakBreed = 2500;
 constexpr int GeslachtBreed = 500;
+constexpr int VoetHoog = 250;
+constexpr int Inspringing = 300;
 constexpr int Rand = 100;
 
 constexpr double Veldletter = 8.0;
@@ -34,10 +35,7 @@ constexpr double Groepletter = 10.0;
 constexpr double KleinsteGroepletter = 7.0;
 constexpr int AchterDeTekst = 50; // caret position on returning to a field
 
-constexpr int Nummer(Kolom kolom)
-{
-    return static_cast<int>(kolom);
-}
+constexpr int EersteIngaveveld = static_cast<int>(Kolom::Voornaam);
 
 void Kleur(QWidget* widget, QPalette::ColorRole rol, const QColor& kleur)
 {
@@ -53,92 +51,98 @@ void Kleur(QWidget* widget, QPalette::ColorRole rol, const QColor& kleur)
 diaIngave::diaIngave(Ingave& ingave, std::int16_t& terugkeerveld, std::function<void()> bewaar,
                      QWidget* hoofdvenster)
     : QDialog(hoofdvenster), ingave_(ingave), Terugkeerveld(terugkeerveld),
-      bewaar_(std::move(bewaar)), hoofdvenster_(hoofdvenster)
-{
-    ingave_.IngaveGeannuleerd = false;
-    Bouw();
-    BouwVelden();
-    StelTabvolgordeIn();
-    PlaatsNaastHoofdvenster();
-}
-
-void diaIngave::Bouw()
+      bewaar_(std::move(bewaar)), opt1(new QButtonGroup(this))
 {
     setObjectName(u"diaIngave"_s);
     setWindowTitle(u"Ingeven persoonsgegevens"_s);
     setMinimumSize(maten_.Twips(VensterBreed), maten_.Twips(KleinsteHoogte));
+    auto* lagen = new QVBoxLayout(this);
+    lagen->setContentsMargins({});
+    lagen->setSpacing(0);
+    lagen->addWidget(new Schuifblad(BouwVelden(), this), 1);
+    lagen->addLayout(BouwVoet());
+    ToonGroep();
     PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
+    Vak(Kolom::Voornaam)->setFocus();
 
-    velden_ = new QWidget(this);
-    blad_ = new Schuifblad(velden_, this);
-    blad_->setWidgetResizable(false);
-    Label1 = new QLabel(ingave_.IngaveModus == "Aanmaken" ? u"Aanmaken nieuwe regel"_s
-                                                          : u"Regelnummer %1"_s.arg(ingave_.rij),
-                        velden_);
-    Noem(Label1, u"Label1"_s);
+    const QRect scherm = hoofdvenster->screen()->availableGeometry();
+    const int links = hoofdvenster->frameGeometry().right() + 1 - width() - maten_.Twips(Rand);
+    const int boven = scherm.top() + (scherm.height() - height()) / 2;
+    ZetInScherm(this, {links, boven}, *hoofdvenster);
+    // Showing ends with selecting all of the first field; the return field comes after that.
+    QTimer::singleShot(0, this, [this] {
+        if (!KanTerugkeerveld(Terugkeerveld))
+            return;
+        opt1->button(Terugkeerveld)->setChecked(true);
+        GaNaar(Terugkeerveld);
+    });
+}
+
+/// What scrolls on a low screen. The controls are made in the order of the Tab key, which is as the
+/// eye reads: the fields from top to bottom, then the return fields.
+QWidget* diaIngave::BouwVelden()
+{
+    const auto tw = [this](int twips) { return maten_.Twips(twips); };
+    auto* velden = new QWidget(this);
+    auto* rooster = new QGridLayout(velden);
+    rooster->setContentsMargins(0, tw(Rand), 0, 0);
+    rooster->setHorizontalSpacing(tw(Rand));
+    rooster->setVerticalSpacing(tw(RijAfstand - RijHoog));
+    rooster->setRowMinimumHeight(0, tw(RijBoven) - tw(Rand) - tw(RijAfstand - RijHoog));
+    rooster->setRowStretch(AantalKolommen + 1, 1);
+    rooster->setColumnMinimumWidth(0, tw(VakLinks - Rand));
+    rooster->setColumnMinimumWidth(1, tw(VakBreed));
+    rooster->setColumnStretch(1, 1);
+    // The text boxes get what the window is wider; what a scroll bar takes goes at the right.
+    rooster->addItem(
+        new QSpacerItem(tw(VensterBreed - VakLinks - VakBreed - Rand), 0, QSizePolicy::Preferred),
+        0, 2);
+
+    auto* Label1 =
+        MaakLabel(u"Label1"_s,
+                  ingave_.IngaveModus == "Aanmaken" ? u"Aanmaken nieuwe regel"_s
+                                                    : u"Regelnummer %1"_s.arg(ingave_.rij),
+                  velden);
     Label1->setAlignment(Qt::AlignCenter);
-    Label2 = new QLabel(u"Rood = verplichte ingave"_s, this);
-    Noem(Label2, u"Label2"_s);
-
-    cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
-    cmdOK->setDefault(true);
-    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    connect(cmdOK, &QPushButton::clicked, this, &diaIngave::close);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &diaIngave::reject);
-    // A click on a button leaves no field: OK looks at all of them itself.
-    cmdOK->setFocusPolicy(Qt::TabFocus);
-    cmdAnnuleren->setFocusPolicy(Qt::TabFocus);
-}
-
-void diaIngave::BouwVelden()
-{
+    Label1->setFixedHeight(tw(RijBoven - 2 * Rand));
+    rooster->addWidget(Label1, 0, 0, 1, 3, Qt::AlignTop);
     for (int veld = 1; veld <= AantalKolommen; ++veld)
-        BouwVeld(veld);
-    BouwGeslacht();
-    BouwHulp();
-    PasVeldenAanGroepAan();
-    // Each pick is one of its own group; without it the sex buttons would switch these off.
-    auto* terugkeer = new QButtonGroup(this);
-    for (int veld = Nummer(Kolom::Voornaam); veld <= AantalKolommen; ++veld)
-        terugkeer->addButton(opt1[static_cast<std::size_t>(veld)], veld);
-    connect(terugkeer, &QButtonGroup::idClicked, this, &diaIngave::KiesTerugkeerveld);
+        BouwVeld(veld, rooster);
+    BouwTerugkeerkeuzen(rooster);
+    return velden;
 }
 
-void diaIngave::BouwVeld(int veld)
+void diaIngave::BouwVeld(int veld, QGridLayout* rooster)
 {
-    const auto plaats = static_cast<std::size_t>(veld);
     const auto kolom = static_cast<Kolom>(veld);
-    const QString naam = NaarQString(Kolomnamen[plaats - 1]);
-    const QFont letter = maten_.Letter(Veldletter);
+    const QString naam = NaarQString(Kolomnamen[Plaats(kolom)]);
+    QWidget* velden = rooster->parentWidget();
 
-    auto* label = new QLabel(naam + u':', velden_);
-    Noem(label, u"lbl1_%1"_s.arg(veld));
-    label->setFont(letter);
-    auto* vak = new Tekstvak(velden_);
+    auto* label = MaakLabel(u"lbl1_%1"_s.arg(veld), Opschrift(kolom), velden);
+    label->setMinimumWidth(maten_.Twips(LabelBreed));
+    rooster->addWidget(label, veld, 0, Qt::AlignRight);
+    auto* vak = new Tekstvak(velden);
     Noem(vak, u"txt1_%1"_s.arg(veld), naam);
-    vak->setFont(letter);
-    vak->ZetTekst(Begintekst(kolom, ingave_.IngaveVelden[plaats - 1]));
+    vak->ZetTekst(Begintekst(kolom, ingave_.IngaveVelden[Plaats(kolom)]));
     label->setBuddy(vak);
     vak->ZetToetsregel(
         [kolom](char teken, std::size_t lengte) { return TypTeken(kolom, teken, lengte); });
     connect(vak, &Tekstvak::verlaten, this, [this, veld] { Verlaat(veld); });
-    lbl1[plaats] = label;
-    txt1[plaats] = vak;
+    txt1 << vak;
+    for (QWidget* deel : std::initializer_list<QWidget*>{label, vak}) {
+        deel->setFont(maten_.Letter(Veldletter));
+        deel->setFixedHeight(maten_.Twips(RijHoog));
+        deel->setVisible(kolom != Kolom::NBBnr || ingave_.importgroep);
+    }
 
-    if (veld < Nummer(Kolom::Voornaam)) {
+    if (veld < EersteIngaveveld) {
         vak->setEnabled(false);
         vak->setReadOnly(true);
         Kleur(vak, QPalette::Base, palette().color(QPalette::Button));
         Kleur(vak, QPalette::Text, palette().color(QPalette::ButtonText));
-        return;
     }
-    auto* opt = new QRadioButton(velden_);
-    Noem(opt, u"opt1_%1"_s.arg(veld), u"Terugkeerveld %1"_s.arg(naam));
-    opt->setToolTip(u"Kies hier het terugkeerveld tbv snelle ingave"_s);
-    opt->setFocusPolicy(Qt::TabFocus);
-    opt1[plaats] = opt;
     if (kolom == Kolom::Achternaam) {
-        QFont vet = letter;
+        QFont vet = label->font();
         vet.setBold(true);
         label->setFont(vet);
         Kleur(label, QPalette::WindowText, QColor(255, 0, 0));
@@ -146,171 +150,128 @@ void diaIngave::BouwVeld(int veld)
         Kleur(label, QPalette::Window, Qt::black);
         label->setAutoFillBackground(palette().color(QPalette::Window).lightness() < 128);
     }
+    if (kolom == Kolom::Status)
+        BouwHulp(rooster, veld);
+    if (kolom != Kolom::MV) {
+        rooster->addWidget(vak, veld, 1);
+        return;
+    }
+    vak->setFixedWidth(maten_.Twips(GeslachtBreed));
+    vak->setAlignment(Qt::AlignCenter);
+    auto* rij = new QHBoxLayout;
+    rij->setSpacing(maten_.Twips(Rand));
+    rij->addWidget(vak);
+    rij->addWidget(BouwGeslacht(velden), 1);
+    rooster->addLayout(rij, veld, 1);
 }
 
-void diaIngave::BouwGeslacht()
+QString diaIngave::Opschrift(Kolom kolom) const
 {
-    Frame1 = new QWidget(velden_);
+    if (kolom == Kolom::MV)
+        return {};
+    if (kolom == Kolom::NBBgr && !ingave_.importgroep)
+        return u"Subgroep"_s;
+    if (kolom == Kolom::NBBnr && !ingave_.importgroep)
+        return u"-----"_s;
+    return NaarQString(Kolomnamen[Plaats(kolom)]) + u':';
+}
+
+QWidget* diaIngave::BouwGeslacht(QWidget* velden)
+{
+    auto* Frame1 = new QWidget(velden);
     Noem(Frame1, u"Frame1"_s, u"Geslacht"_s);
     auto* rij = new QHBoxLayout(Frame1);
-    rij->setContentsMargins(0, 0, 0, 0);
-    const auto keus = [&](const QString& naam, const QString& tekst, const QString& letter) {
-        auto* knop = new QRadioButton(MetSneltoets(tekst, tekst.front().unicode()), Frame1);
-        Noem(knop, naam);
+    rij->setContentsMargins({});
+    Frame1->setFixedHeight(maten_.Twips(RijHoog));
+    for (const auto& [naam, tekst] :
+         {std::pair(u"optMan"_s, u"Man"_s), std::pair(u"optVrouw"_s, u"Vrouw"_s)}) {
+        const QString letter = tekst.left(1);
+        auto* knop = MaakOptie(naam, tekst, letter.front().unicode(), Frame1);
         knop->setFont(maten_.Letter(Veldletter));
         knop->setFocusPolicy(Qt::TabFocus);
+        knop->setChecked(Vak(Kolom::MV)->text() == letter);
         rij->addWidget(knop);
-        connect(knop, &QRadioButton::clicked, this, [this, letter] { KiesGeslacht(letter); });
-        return knop;
-    };
-    optMan = keus(u"optMan"_s, u"Man"_s, u"M"_s);
-    optVrouw = keus(u"optVrouw"_s, u"Vrouw"_s, u"V"_s);
+        connect(knop, &QRadioButton::clicked, this,
+                [this, letter] { Vak(Kolom::MV)->setText(letter); });
+    }
     rij->addStretch();
-
-    lbl1[Nummer(Kolom::MV)]->clear();
-    Tekstvak* vak = Vak(Kolom::MV);
-    vak->setAlignment(Qt::AlignCenter);
-    optMan->setChecked(vak->text() == "M"_L1);
-    optVrouw->setChecked(vak->text() == "V"_L1);
+    return Frame1;
 }
 
-void diaIngave::BouwHulp()
+void diaIngave::BouwHulp(QGridLayout* rooster, int rij)
 {
-    cmdH = MaakKnop(u"cmdH_1"_s, u"?"_s, 0, velden_);
+    auto* cmdH = MaakKnop(u"cmdH_1"_s, u"?"_s, 0, rooster->parentWidget());
     cmdH->setAccessibleName(u"Hulp voor Status"_s);
     cmdH->setToolTip(u"Hulp voor Status"_s);
     cmdH->setFocusPolicy(Qt::TabFocus);
+    cmdH->setFixedSize(maten_.Twips(RijHoog), maten_.Twips(RijHoog));
     connect(cmdH, &QPushButton::clicked, this, &diaIngave::ToonHulp);
+    auto* naastKeus = new QHBoxLayout;
+    naastKeus->addSpacing(maten_.Twips(Inspringing));
+    naastKeus->addWidget(cmdH);
+    naastKeus->addStretch();
+    rooster->addLayout(naastKeus, rij, 2);
 }
 
-void diaIngave::PasVeldenAanGroepAan()
+void diaIngave::BouwTerugkeerkeuzen(QGridLayout* rooster)
+{
+    for (int veld = EersteIngaveveld; veld <= AantalKolommen; ++veld) {
+        const QString naam = Vak(veld)->accessibleName();
+        auto* opt = new QRadioButton(rooster->parentWidget());
+        Noem(opt, u"opt1_%1"_s.arg(veld), u"Terugkeerveld %1"_s.arg(naam));
+        opt->setToolTip(u"Kies hier het terugkeerveld tbv snelle ingave"_s);
+        opt->setFocusPolicy(Qt::TabFocus);
+        opt->setFixedHeight(maten_.Twips(RijHoog));
+        opt->setVisible(veld != static_cast<int>(Kolom::NBBnr) || ingave_.importgroep);
+        opt1->addButton(opt, veld);
+        rooster->addWidget(opt, veld, 2, Qt::AlignLeft);
+    }
+    connect(opt1, &QButtonGroup::idClicked, this, &diaIngave::KiesTerugkeerveld);
+}
+
+QLayout* diaIngave::BouwVoet()
+{
+    auto* Label2 = MaakLabel(u"Label2"_s, u"Rood = verplichte ingave"_s, this);
+    Label2->setFixedHeight(maten_.Twips(VoetHoog));
+    Label2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &diaIngave::close);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &diaIngave::reject);
+    // A click on a button leaves no field: OK looks at all of them itself.
+    for (QPushButton* knop : {cmdAnnuleren, cmdOK})
+        knop->setFocusPolicy(Qt::TabFocus);
+    auto* knoppen = Knoppenrij({cmdAnnuleren, cmdOK});
+    knoppen->setSpacing(maten_.Twips(Inspringing));
+    auto* voet = new QVBoxLayout;
+    const int rand = maten_.Twips(Rand);
+    voet->setContentsMargins(rand, 0, rand, rand);
+    voet->setSpacing(0);
+    voet->addWidget(Label2);
+    voet->addLayout(knoppen);
+    return voet;
+}
+
+/// Bold and large, but for a long name as small as it must be to stand in its box.
+void diaIngave::ToonGroep()
 {
     Tekstvak* groep = Vak(Kolom::Groep);
     groep->ZetTekst(ingave_.groeptekst);
     groep->setAlignment(Qt::AlignCenter);
     ZetWenk(groep, groep->text());
-    groep->setFont(Groepsletter(groep->text()));
     Kleur(groep, QPalette::Text, QColor(255, 0, 0));
     Kleur(groep, QPalette::Base, QColor(255, 255, 0));
-
-    if (!ingave_.importgroep) {
-        lbl1[Nummer(Kolom::NBBgr)]->setText(u"Subgroep"_s);
-        lbl1[Nummer(Kolom::NBBnr)]->setText(u"-----"_s);
-    }
-    for (QWidget* deel : std::initializer_list<QWidget*>{
-             lbl1[Nummer(Kolom::NBBnr)], Vak(Kolom::NBBnr), opt1[Nummer(Kolom::NBBnr)]})
-        deel->setVisible(ingave_.importgroep);
-}
-
-/// Bold and large, but for a long name as small as it must be to stand in its box.
-QFont diaIngave::Groepsletter(const QString& tekst) const
-{
     const int ruimte = maten_.Twips(VakBreed - Rand);
-    for (double punten = Groepletter;; punten -= 0.5) {
-        QFont letter = maten_.Letter(punten);
+    double punten = Groepletter;
+    QFont letter;
+    do {
+        letter = maten_.Letter(punten);
         letter.setBold(true);
-        if (punten <= KleinsteGroepletter ||
-            QFontMetrics(letter).horizontalAdvance(tekst) <= ruimte)
-            return letter;
-    }
-}
-
-/// As the eye reads: the fields from top to bottom, then the return fields, then the buttons.
-void diaIngave::StelTabvolgordeIn()
-{
-    QList<QWidget*> volgorde;
-    for (int veld = Nummer(Kolom::Voornaam); veld <= AantalKolommen; ++veld) {
-        volgorde << Vak(veld);
-        if (veld == Nummer(Kolom::MV))
-            volgorde << optMan << optVrouw;
-        if (veld == Nummer(Kolom::Status))
-            volgorde << cmdH;
-    }
-    for (int veld = Nummer(Kolom::Voornaam); veld <= AantalKolommen; ++veld)
-        volgorde << opt1[static_cast<std::size_t>(veld)];
-    volgorde << cmdAnnuleren << cmdOK;
-    ZetTabvolgorde(volgorde);
-    Vak(Kolom::Voornaam)->setFocus();
-}
-
-void diaIngave::resizeEvent(QResizeEvent* gebeurtenis)
-{
-    QDialog::resizeEvent(gebeurtenis);
-    PlaatsDelen();
-}
-
-/// The places given in twips; what the window is wider than that goes to the text boxes.
-void diaIngave::PlaatsDelen()
-{
-    const auto tw = [this](int twips) { return maten_.Twips(twips); };
-    const QSize ok = cmdOK->sizeHint();
-    const QSize annuleren = cmdAnnuleren->sizeHint();
-    const int knopBoven = height() - ok.height() - tw(Rand);
-    cmdOK->setGeometry(width() - ok.width() - tw(Rand), knopBoven, ok.width(), ok.height());
-    cmdAnnuleren->setGeometry(cmdOK->x() - annuleren.width() - tw(300), knopBoven,
-                              annuleren.width(), ok.height());
-    Label2->adjustSize();
-    Label2->move(tw(Rand), knopBoven - tw(250));
-
-    blad_->setGeometry(0, 0, width(), Label2->y());
-    const bool balk = tw(VeldenHoog) > blad_->height();
-    velden_->resize(width() - (balk ? blad_->verticalScrollBar()->sizeHint().width() : 0),
-                    tw(VeldenHoog));
-    PlaatsVelden();
-}
-
-void diaIngave::PlaatsVelden()
-{
-    const auto tw = [this](int twips) { return maten_.Twips(twips); };
-    const int extra = std::max(0, velden_->width() - tw(VensterBreed));
-    const int vakbreed = tw(VakBreed) + extra;
-    Label1->setGeometry(0, tw(Rand), velden_->width(), tw(RijBoven - 2 * Rand));
-    for (int veld = 1; veld <= AantalKolommen; ++veld) {
-        const auto plaats = static_cast<std::size_t>(veld);
-        const int boven = tw(RijBoven + (veld - 1) * RijAfstand);
-        const int hoog = tw(RijHoog);
-        const bool geslacht = veld == Nummer(Kolom::MV);
-        const int labelbreed = std::max(tw(LabelBreed), lbl1[plaats]->sizeHint().width());
-        lbl1[plaats]->setGeometry(std::min(tw(LabelLinks), tw(VakLinks - Rand) - labelbreed), boven,
-                                  labelbreed, hoog);
-        txt1[plaats]->setGeometry(tw(VakLinks), boven, geslacht ? tw(GeslachtBreed) : vakbreed,
-                                  hoog);
-        if (opt1[plaats] != nullptr)
-            opt1[plaats]->setGeometry(tw(VakLinks) + vakbreed + tw(Rand), boven,
-                                      opt1[plaats]->sizeHint().width(), hoog);
-    }
-    const int geslachtBoven = Vak(Kolom::MV)->y();
-    Frame1->setGeometry(tw(VakLinks + GeslachtBreed + Rand), geslachtBoven,
-                        vakbreed - tw(GeslachtBreed + Rand), tw(RijHoog));
-    const QRadioButton* statuskeus = opt1[Nummer(Kolom::Status)];
-    cmdH->setGeometry(statuskeus->x() + tw(300), statuskeus->y(), tw(RijHoog), tw(RijHoog));
-}
-
-void diaIngave::PlaatsNaastHoofdvenster()
-{
-    const QRect scherm = hoofdvenster_->screen()->availableGeometry();
-    const QRect hoofd = hoofdvenster_->frameGeometry();
-    const int links = hoofd.right() + 1 - width() - maten_.Twips(Rand);
-    const int boven = scherm.top() + (scherm.height() - height()) / 2;
-    ZetInScherm(this, {links, boven}, *hoofdvenster_);
-}
-
-void diaIngave::showEvent(QShowEvent* gebeurtenis)
-{
-    QDialog::showEvent(gebeurtenis);
-    if (!geactiveerd_) {
-        geactiveerd_ = true;
-        // Showing ends with selecting all of the first field; the return field comes after that.
-        QTimer::singleShot(0, this, &diaIngave::Activeer);
-    }
-}
-
-void diaIngave::Activeer()
-{
-    if (!KanTerugkeerveld(Terugkeerveld))
-        return;
-    opt1[static_cast<std::size_t>(Terugkeerveld)]->setChecked(true);
-    GaNaar(Terugkeerveld);
+        punten -= 0.5;
+    } while (punten >= KleinsteGroepletter &&
+             QFontMetrics(letter).horizontalAdvance(groep->text()) > ruimte);
+    groep->setFont(letter);
 }
 
 void diaIngave::GaNaar(int veld)
@@ -329,11 +290,6 @@ void diaIngave::KiesTerugkeerveld(int veld)
         GaNaar(veld);
 }
 
-void diaIngave::KiesGeslacht(const QString& letter)
-{
-    Vak(Kolom::MV)->setText(letter);
-}
-
 void diaIngave::ToonHulp()
 {
     Meld(this, QMessageBox::Information,
@@ -342,21 +298,49 @@ void diaIngave::ToonHulp()
          u"Hulp voor Status"_s);
 }
 
-void diaIngave::reject()
+/// The text is mended at once; the messages follow when what took the focus away is done.
+void diaIngave::Verlaat(int veld)
 {
-    ingave_.IngaveGeannuleerd = true;
-    close();
+    Tekstvak* vak = Vak(veld);
+    const Tekst tekst = vak->GeefTekst();
+    const Veldverlaten verlaten = VerlaatVeld(static_cast<Kolom>(veld), tekst);
+    if (verlaten.tekst != tekst)
+        vak->Vervang(verlaten.tekst);
+    if (verlaten.reparaties.empty())
+        return;
+    teMelden_.insert(teMelden_.end(), verlaten.reparaties.begin(), verlaten.reparaties.end());
+    QTimer::singleShot(0, this, &diaIngave::MeldReparaties);
+}
+
+void diaIngave::MeldReparaties()
+{
+    for (const Reparatie reparatie : std::exchange(teMelden_, {}))
+        Meld(this, QMessageBox::Information,
+             reparatie == Reparatie::Komma
+                 ? u"Komma's worden veranderd in Underscores"_s
+                 : u"Bij dummy-speler 'Partner...' worden spaties veranderd in Underscores"_s);
+}
+
+bool diaIngave::GeefTerug()
+{
+    for (int veld = EersteIngaveveld; veld <= AantalKolommen; ++veld)
+        Verlaat(veld);
+    MeldReparaties();
+    if (IsBlanco(Vak(Kolom::Achternaam)->GeefTekst())) {
+        Meld(this, QMessageBox::Warning, u"U moet minimaal de ACHTERNAAM invullen!"_s);
+        Vak(Kolom::Achternaam)->setFocus(Qt::OtherFocusReason);
+        return false;
+    }
+    std::ranges::transform(txt1, ingave_.IngaveVelden.begin(), &Tekstvak::GeefTekst);
+    return true;
 }
 
 /// The close box counts as OK; this asymmetry with Escape is intended.
 void diaIngave::closeEvent(QCloseEvent* gebeurtenis)
 {
-    if (!IngaveControle()) {
-        gebeurtenis->ignore();
-        return;
-    }
-    gebeurtenis->accept();
-    done(ingave_.IngaveGeannuleerd ? Rejected : Accepted);
+    gebeurtenis->setAccepted(GeefTerug());
+    if (gebeurtenis->isAccepted())
+        done(Accepted);
 }
 
 } // namespace plexoran

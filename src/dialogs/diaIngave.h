@@ -4,17 +4,14 @@
 
 #include <QButtonGroup>
 #include <QDialog>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 
-#include <array>
 #include <functional>
 
 #include "dialogs/ingave.h"
 #include "platform/scherm/maten.h"
-#include "platform/scherm/schuifblad.h"
 #include "platform/scherm/tekstvak.h"
+
+class QGridLayout;
 
 namespace plexoran {
 
@@ -27,62 +24,38 @@ class diaIngave : public QDialog {
     diaIngave(Ingave& ingave, std::int16_t& Terugkeerveld, std::function<void()> bewaar,
               QWidget* hoofdvenster);
 
-    void reject() override;
-
   protected:
-    void showEvent(QShowEvent* gebeurtenis) override;
     void closeEvent(QCloseEvent* gebeurtenis) override;
-    void resizeEvent(QResizeEvent* gebeurtenis) override;
 
   private:
-    void Bouw();
-    void BouwVelden();
-    void BouwVeld(int veld);
-    void BouwGeslacht();
-    void BouwHulp();
-    void PasVeldenAanGroepAan();
-    [[nodiscard]] QFont Groepsletter(const QString& tekst) const;
-    void StelTabvolgordeIn();
-    void PlaatsDelen();
-    void PlaatsVelden();
-    void PlaatsNaastHoofdvenster();
-    void Activeer();
+    [[nodiscard]] QWidget* BouwVelden();
+    void BouwVeld(int veld, QGridLayout* rooster);
+    [[nodiscard]] QWidget* BouwGeslacht(QWidget* velden);
+    void BouwHulp(QGridLayout* rooster, int rij);
+    void BouwTerugkeerkeuzen(QGridLayout* rooster);
+    [[nodiscard]] QLayout* BouwVoet();
+    void ToonGroep();
+    [[nodiscard]] QString Opschrift(Kolom kolom) const;
 
     void Verlaat(int veld);
     void MeldReparaties();
     void KiesTerugkeerveld(int veld);
     void GaNaar(int veld);
-    void KiesGeslacht(const QString& letter);
     void ToonHulp();
-    /// True when the dialog may close: cancelled, or with a surname and everything handed back.
-    [[nodiscard]] bool IngaveControle();
+    /// True when everything was handed back; false, which it told, when there is no surname.
+    [[nodiscard]] bool GeefTerug();
 
-    [[nodiscard]] Tekstvak* Vak(int veld) const { return txt1[static_cast<std::size_t>(veld)]; }
+    [[nodiscard]] Tekstvak* Vak(int veld) const { return txt1[veld - 1]; }
     [[nodiscard]] Tekstvak* Vak(Kolom veld) const { return Vak(static_cast<int>(veld)); }
-
-    template <class T> using PerVeld = std::array<T*, AantalKolommen + 1>; // element 0 is unused
 
     Ingave& ingave_;
     std::int16_t& Terugkeerveld;
     std::function<void()> bewaar_;
-    QWidget* hoofdvenster_;
-    QWidget* velden_ = nullptr; ///< what scrolls on a low screen
     Maten maten_;
-    bool geactiveerd_ = false;
     std::vector<Reparatie> teMelden_;
 
-    PerVeld<QLabel> lbl1{};
-    PerVeld<Tekstvak> txt1{};
-    PerVeld<QRadioButton> opt1{};
-    QWidget* Frame1 = nullptr;
-    QRadioButton* optMan = nullptr;
-    QRadioButton* optVrouw = nullptr;
-    QPushButton* cmdH = nullptr;
-    Schuifblad* blad_ = nullptr;
-    QPushButton* cmdOK;
-    QPushButton* cmdAnnuleren;
-    QLabel* Label1;
-    QLabel* Label2;
+    QList<Tekstvak*> txt1; ///< of the columns in their order
+    QButtonGroup* opt1;    ///< by column number
 };
 
 } // namespace plexoran

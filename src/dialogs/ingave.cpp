@@ -50,9 +50,4 @@ Veldverlaten VerlaatVeld(Kolom veld, Tekstblik tekst)
     return uit;
 }
 
-bool HeeftAchternaam(const Rijvelden& velden)
-{
-    return !IsBlanco(velden[Plaats(Kolom::Achternaam)]);
-}
-
 } // namespace plexoran

@@ -16,8 +16,6 @@ struct Ingave {
     bool importgroep = false;
     /// In: the texts to start from. Out, when the dialog was accepted: the texts as edited.
     Rijvelden IngaveVelden;
-    bool IngaveGeannuleerd = false;
-    bool IngaveFout = false; ///< the last check refused the input
 };
 
 /// A field number as a return field of fast entry: 4 to 18, the sex field excepted.
@@ -40,8 +38,5 @@ struct Veldverlaten {
 
 /// What leaving a field makes of its text.
 [[nodiscard]] Veldverlaten VerlaatVeld(Kolom veld, Tekstblik tekst);
-
-/// Whether there is the surname that a player must have.
-[[nodiscard]] bool HeeftAchternaam(const Rijvelden& velden);
 
 } // namespace plexoran

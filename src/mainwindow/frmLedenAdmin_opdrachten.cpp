@@ -45,8 +45,7 @@ bool frmLedenAdmin::ToonIngave(Ingave& ingave)
     ingave.importgroep = CodeUit(groeptekst) == administratie_.mappen.DFIMPG;
     diaIngave venster(
         ingave, administratie_.instellingen.OPTIND, [this] { BewaarInstellingen(); }, this);
-    venster.exec();
-    return !ingave.IngaveGeannuleerd;
+    return venster.exec() == QDialog::Accepted;
 }
 
 void frmLedenAdmin::VoegToe()

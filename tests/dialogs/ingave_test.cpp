@@ -152,14 +152,3 @@ TEST(VerlaatVeld, DeSubgroepKomtGeheelInHoofdletters)
     EXPECT_EQ(Reparaties{Reparatie::Komma}, uit.reparaties);
     EXPECT_EQ("caf\xE9", VerlaatVeld(Kolom::Div1, "caf\xE9").tekst);
 }
-
-TEST(HeeftAchternaam, SpatiesZijnGeenNaam)
-{
-    Rijvelden velden;
-    velden[3] = "Jan";
-    EXPECT_FALSE(HeeftAchternaam(velden));
-    velden[5] = "    ";
-    EXPECT_FALSE(HeeftAchternaam(velden));
-    velden[5] = "  Bos";
-    EXPECT_TRUE(HeeftAchternaam(velden));
-}

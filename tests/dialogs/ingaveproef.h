@@ -115,7 +115,7 @@ class Ingaveproef : public testing::Test {
     [[nodiscard]] bool IsOpen() const { return venster->isVisible(); }
     [[nodiscard]] bool Geaccepteerd() const
     {
-        return !IsOpen() && venster->result() == QDialog::Accepted && !ingave.IngaveGeannuleerd;
+        return !IsOpen() && venster->result() == QDialog::Accepted;
     }
 
     Rijvelden velden;
