@@ -142,14 +142,13 @@ void Sorteervlak::TekenVeld(QPainter& schilder, int veld, int boven, const QStri
 {
     const float rand = randen_[static_cast<std::size_t>(veld - 1)];
     const int basislijn = boven + fontMetrics().ascent() + 1;
-    int links = X(rand + Inspringing);
-    if (veld == NBBnrVeld)
-        links = X(rand + NummerBreed) - QFontMetrics(schilder.font()).horizontalAdvance(tekst);
+    const int begin = X(rand + Inspringing);
     // A long text must not run into its neighbour.
-    const int rechts = X(randen_[static_cast<std::size_t>(veld)]);
-    schilder.setClipRect(QRect(X(rand) + 1, boven, rechts - X(rand) - 1, regelhoogte_));
-    schilder.drawText(links, basislijn, tekst);
-    schilder.setClipping(false);
+    const bool isNummer = veld == NBBnrVeld;
+    const int eind = isNummer ? X(rand + NummerBreed) : X(randen_[static_cast<std::size_t>(veld)]);
+    const QFontMetrics maten(schilder.font());
+    const QString kort = Ingekort(maten, tekst, eind - begin);
+    schilder.drawText(isNummer ? eind - maten.horizontalAdvance(kort) : begin, basislijn, kort);
 }
 
 diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)

@@ -1,8 +1,10 @@
 #include "dialogs/diaSortlijst.h"
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <QtTest/qtestspontaneevent.h>
 
@@ -187,6 +189,35 @@ TEST_F(diaSortlijstTest, DeVeldenStaanOpHunPlaats)
         EXPECT_LT(Deel("100001").y, Deel("100007").y);
         EXPECT_EQ(Deel("100001").y, Deel("12345").y);
     }
+}
+
+TEST_F(diaSortlijstTest, EenTeLangeTekstEindigtInPuntjesEnHeeftEenWenk)
+{
+    const std::string lang = "Maximiliaan Frederik Hendrik Alexander";
+    const std::string nummer = "123456789012345678901234567890";
+    ASSERT_NO_FATAL_FAILURE(Open(opKey, true, {"100001," + lang + ",van,Bos,A," + nummer}));
+    const auto teksten = Geschilderd();
+    ASSERT_EQ(12U, teksten.size());
+    EXPECT_EQ("van", teksten[8]);
+    const QFontMetrics maten(P1()->font());
+    for (const auto& [heel, kort, links, rechts] :
+         {std::tuple(lang, teksten[7], 14.5, 34.5), std::tuple(nummer, teksten[11], 88.5, 104.5)}) {
+        EXPECT_TRUE(heel.starts_with(kort.substr(0, 8)) && kort.ends_with("...")) << kort;
+        const double begin = Deel(kort).x;
+        EXPECT_GE(begin, links * A());
+        EXPECT_LE(begin + maten.horizontalAdvance(QString::fromStdString(kort)), rechts * A());
+    }
+
+    const auto wenk = [this](double breedtenA) {
+        const QPoint plek(qRound(breedtenA * A()),
+                          qRound(1.5 * QFontMetrics(P1()->font()).height()) + 6);
+        QHelpEvent vraag(QEvent::ToolTip, plek, P1()->mapToGlobal(plek));
+        qApp->notify(P1(), &vraag);
+        return QToolTip::text().toStdString();
+    };
+    EXPECT_EQ("", wenk(36)); // "van" fits
+    EXPECT_EQ(lang, wenk(20));
+    EXPECT_EQ(nummer, wenk(95));
 }
 
 TEST_F(diaSortlijstTest, EenRegelMetTeWeinigOfLegeVelden)

@@ -1,7 +1,9 @@
 #include "platform/scherm/tabelvlak.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <climits>
@@ -109,6 +111,29 @@ bool Tabelvlak::LeesMet(int toets)
 {
     Verschuif(kader_.Staand(), toets);
     return KiesMet(toets);
+}
+
+bool Tabelvlak::event(QEvent* gebeurtenis)
+{
+    if (gebeurtenis->type() != QEvent::ToolTip)
+        return QWidget::event(gebeurtenis);
+    const auto* vraag = static_cast<QHelpEvent*>(gebeurtenis);
+    QToolTip::showText(vraag->globalPos(), Wenk(TeLangeTekst(vraag->pos())), this);
+    return true;
+}
+
+/// The whole text of the cell there when its column is too narrow for it, else nothing.
+QString Tabelvlak::TeLangeTekst(QPoint plek) const
+{
+    const int regel = RegelOp(plek.y());
+    for (int kolom = 0; regel > 0 && kolom < Kolommen(); ++kolom) {
+        const QRect cel = Plek(regel, kolom);
+        // One more letter: texts begin behind the edge.
+        const QString tekst = Celtekst(regel, kolom);
+        if (cel.contains(plek) && fontMetrics().horizontalAdvance(tekst + u'A') > cel.width())
+            return tekst;
+    }
+    return {};
 }
 
 void Tabelvlak::mousePressEvent(QMouseEvent* gebeurtenis)

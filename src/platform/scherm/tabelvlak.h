@@ -47,6 +47,8 @@ class Tabelvlak : public QWidget {
     bool LeesMet(int toets);
 
   protected:
+    /// A text that does not fit its column can be read in a tool tip.
+    bool event(QEvent* gebeurtenis) override;
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
 
     [[nodiscard]] double Regelhoogte() const { return Boven(2) - Boven(1); }
@@ -60,6 +62,7 @@ class Tabelvlak : public QWidget {
 
   private:
     [[nodiscard]] int Doelregel(int toets) const;
+    [[nodiscard]] QString TeLangeTekst(QPoint plek) const;
     void Beschrijf();
     // For assistive programs (tabelspreker.cpp)
     static void LaatSpreken();
