@@ -8,8 +8,10 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "platform/scherm/tekstbrug.h"
 
@@ -51,6 +53,36 @@ inline void KiesUit(QComboBox* keus, int plaats)
     keus->view()->setCurrentIndex(keus->model()->index(plaats, 0));
     QTest::keyClick(keus->view(), Qt::Key_Return);
     QApplication::processEvents();
+}
+
+/// The lines of a list as they read on the screen.
+inline std::vector<std::string> Lijstregels(const QWidget& in, const char* naam)
+{
+    std::vector<std::string> regels;
+    const auto* model = Vind<QAbstractItemView>(in, naam)->model();
+    for (int rij = 0; rij < model->rowCount(); ++rij)
+        regels.push_back(model->index(rij, 0).data().toString().toStdString());
+    return regels;
+}
+
+/// Clicks on a line of a list.
+inline void KlikRegel(const QWidget& in, const char* naam, int regel)
+{
+    auto* lijst = Vind<QAbstractItemView>(in, naam);
+    const QModelIndex plek = lijst->model()->index(regel, 0);
+    lijst->scrollTo(plek);
+    Klik(lijst->viewport(), lijst->visualRect(plek).center());
+}
+
+/// The same for the first line that begins with a text.
+inline void KlikRegel(const QWidget& in, const char* naam, const std::string& begin)
+{
+    const auto regels = Lijstregels(in, naam);
+    const auto gevonden = std::find_if(regels.begin(), regels.end(),
+                                       [&](const auto& regel) { return regel.starts_with(begin); });
+    if (gevonden == regels.end())
+        throw std::runtime_error("geen regel die zo begint: " + begin);
+    KlikRegel(in, naam, static_cast<int>(gevonden - regels.begin()));
 }
 
 /// Types a text, key by key; any character will do.

@@ -44,6 +44,12 @@ class Koppelen : public testing::Test {
     {
         return ZoekZwevenden(op, ZittingenVan(op, mappen, "Ladder").value());
     }
+    void ZetDinsdag(const Tekst& spelers, const Tekst& percentages = {})
+    {
+        schijf.Zet("C:\\Zit\\Di\\Spelers.txt", spelers);
+        schijf.Zet("C:\\Zit\\Di\\PercZit.txt", percentages);
+    }
+    [[nodiscard]] Tekst Spelers() { return schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt").value(); }
     Zoekuitslag ZoekZitting() { return ZoekZwevenden(schijf, {LosseZitting(mappen, "Di")}); }
 
     static Teksten Regels(const Zoekuitslag& uitslag)
@@ -61,12 +67,13 @@ class Koppelen : public testing::Test {
                           (aangepast.soort == Lijstsoort::Spelers ? " spelers" : " percentages"));
         return uit;
     }
-    /// The line of the list with this text.
-    static std::size_t Plaats(const Zoekuitslag& uitslag, const Tekst& regel)
+    /// To link the player of this line of the competition.
+    Koppelopdracht Opdracht(const Tekst& regel)
     {
-        const Teksten regels = Regels(uitslag);
-        return static_cast<std::size_t>(std::find(regels.begin(), regels.end(), regel) -
-                                        regels.begin());
+        const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+        const Teksten regels = Regels(gevonden);
+        const auto plek = std::find(regels.begin(), regels.end(), regel) - regels.begin();
+        return MaakKoppelopdracht(gevonden.zwevenden, static_cast<std::size_t>(plek), "100237");
     }
     [[nodiscard]] std::map<Pad, Tekst> AlleInhoud() const
     {
@@ -84,8 +91,8 @@ class Koppelen : public testing::Test {
 
 TEST_F(Koppelen, InEenZittingEerstDeSpelersDanDePercentages)
 {
-    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\nO01 Bos - Cos\r\n");
-    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,O1,Bos-Cos,50,0,x\r\n2,A,N5,Jansen-100001,50,0,x");
+    ZetDinsdag("N05 Jansen - 100001\r\nO01 Bos - Cos\r\n",
+               "1,A,O1,Bos-Cos,50,0,x\r\n2,A,N5,Jansen-100001,50,0,x");
     EXPECT_EQ(Regels(ZoekZitting()),
               (Teksten{"als N05    Jansen", "als O01    Bos", "als O01    Cos", "als O1    Bos",
                        "als O1    Cos", "als N5    Jansen"}));
@@ -150,34 +157,30 @@ TEST_F(Koppelen, OvergeslagenRecordsWordenGeteld)
 
 TEST_F(Koppelen, InEenZittingAlleenOpDeGekozenPlaats)
 {
-    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\nO01 Bos - Jansen\r\n");
-    schijf.Zet("C:\\Zit\\Di\\PercZit.txt",
+    ZetDinsdag("N05 Jansen - 100001\r\nO01 Bos - Jansen\r\n",
                "1,A,O1,Bos-Jansen,50,0,x\r\n2,A,N5,Jansen-100001,50,0,x\r\n");
     const auto lijst = ZoekZitting().zwevenden;
     const auto uitslag = Koppel(schijf, MaakKoppelopdracht(lijst, 0, "100237"));
     EXPECT_FALSE(uitslag.fout);
     EXPECT_EQ(Meldingen(uitslag), (Teksten{"N05 spelers", "N05 percentages"}));
-    EXPECT_EQ("N05 100237 - 100001\r\nO01 Bos - Jansen\r\n",
-              schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+    EXPECT_EQ("N05 100237 - 100001\r\nO01 Bos - Jansen\r\n", Spelers());
     EXPECT_EQ("1,A,O1,Bos-Jansen,50,0,x\r\n2,A,N5,100237 - 100001,50,0,x\r\n",
               schijf.Inhoud("C:\\Zit\\Di\\PercZit.txt"));
 }
 
 TEST_F(Koppelen, DeRegelUitHetPercentagebestandKoppeltOokInBeide)
 {
-    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
-    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,Jansen-100001,50,0,x\r\n");
+    ZetDinsdag("N05 Jansen - 100001\r\n", "1,A,N5,Jansen-100001,50,0,x\r\n");
     const auto lijst = ZoekZitting().zwevenden;
     ASSERT_EQ("N5", lijst[1].code);
     const auto uitslag = Koppel(schijf, MaakKoppelopdracht(lijst, 1, "100237"));
     EXPECT_EQ(Meldingen(uitslag), (Teksten{"N5 spelers", "N5 percentages"}));
-    EXPECT_EQ("N05 100237 - 100001\r\n", schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+    EXPECT_EQ("N05 100237 - 100001\r\n", Spelers());
 }
 
 TEST_F(Koppelen, AlleenWatVeranderdeWordtGeschrevenEnGenoemd)
 {
-    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
-    schijf.Zet("C:\\Zit\\Di\\PercZit.txt", "1,A,N5,100002-100001,50,0,x\r\n");
+    ZetDinsdag("N05 Jansen - 100001\r\n", "1,A,N5,100002-100001,50,0,x\r\n");
     const auto voor = schijf.NeemStempel("C:\\Zit\\Di\\PercZit.txt").value();
     const auto uitslag = Koppel(schijf, MaakKoppelopdracht(ZoekZitting().zwevenden, 0, "100237"));
     EXPECT_EQ(Meldingen(uitslag), Teksten{"N05 spelers"});
@@ -188,19 +191,18 @@ TEST_F(Koppelen, AlleenWatVeranderdeWordtGeschrevenEnGenoemd)
 
 TEST_F(Koppelen, WatEenAnderProgrammaIntussenSchreefBlijft)
 {
-    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N05 Jansen - 100001\r\n");
+    ZetDinsdag("N05 Jansen - 100001\r\n");
     const auto lijst = ZoekZitting().zwevenden;
-    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "N04 Nieuw - 100009\r\nN05 Jansen - 100008\r\n");
+    ZetDinsdag("N04 Nieuw - 100009\r\nN05 Jansen - 100008\r\n");
     (void)Koppel(schijf, MaakKoppelopdracht(lijst, 0, "100237"));
-    EXPECT_EQ("N04 Nieuw - 100009\r\nN05 100237 - 100008\r\n",
-              schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+    EXPECT_EQ("N04 Nieuw - 100009\r\nN05 100237 - 100008\r\n", Spelers());
 
     const auto weer = ZoekZitting().zwevenden;
-    schijf.Zet("C:\\Zit\\Di\\Spelers.txt", "heel iets anders");
+    ZetDinsdag("heel iets anders");
     const auto uitslag = Koppel(schijf, MaakKoppelopdracht(weer, 0, "100237"));
     EXPECT_TRUE(uitslag.aangepast.empty());
     EXPECT_FALSE(uitslag.fout);
-    EXPECT_EQ("heel iets anders", schijf.Inhoud("C:\\Zit\\Di\\Spelers.txt"));
+    EXPECT_EQ("heel iets anders", Spelers());
 }
 
 // ---------------------------------------------------------------- a competition
@@ -208,10 +210,7 @@ TEST_F(Koppelen, WatEenAnderProgrammaIntussenSchreefBlijft)
 TEST_F(Koppelen, InEenCompetitieOveralWaarDeNaamStaat)
 {
     ZetCompetitie();
-    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
-    const auto uitslag = Koppel(
-        schijf, MaakKoppelopdracht(gevonden.zwevenden,
-                                   Plaats(gevonden, "In R10 - Z3 als O7    Jansen"), "100237"));
+    const auto uitslag = Koppel(schijf, Opdracht("In R10 - Z3 als O7    Jansen"));
     EXPECT_EQ(Meldingen(uitslag), (Teksten{"N05 spelers", "N05 percentages", "O01 spelers",
                                            "O01 percentages", "O07 spelers", "O07 percentages"}));
     EXPECT_EQ(4U, uitslag.gewijzigd.size());
@@ -227,9 +226,7 @@ TEST_F(Koppelen, InEenCompetitieOveralWaarDeNaamStaat)
 TEST_F(Koppelen, HetAantalIsDatVanDeRegels)
 {
     ZetCompetitie();
-    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
-    const auto opdracht = MaakKoppelopdracht(
-        gevonden.zwevenden, Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
+    const auto opdracht = Opdracht("In R2 - Z1 als N05    Jansen");
     EXPECT_EQ("Jansen", opdracht.naam);
     EXPECT_EQ(8U, opdracht.regels.size());
 }
@@ -238,8 +235,7 @@ TEST_F(Koppelen, HetAantalIsDatVanDeRegels)
 TEST_F(Koppelen, DeNaamMagInDeHeleRegelStaan)
 {
     ZetZitting(1, 1, "N05 als - 100001\r\nO01 Bos - 100002\r\n");
-    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
-    const auto opdracht = MaakKoppelopdracht(gevonden.zwevenden, 0, "100237");
+    const auto opdracht = Opdracht("In R1 - Z1 als N05    als");
     EXPECT_EQ(2U, opdracht.regels.size());
     (void)Koppel(schijf, opdracht);
     EXPECT_EQ("N05 100237 - 100001\r\nO01 Bos - 100002\r\n",
@@ -251,11 +247,7 @@ TEST_F(Koppelen, NaElkeMislukkingIsVanElkBestandBekendHoeHetErVoorStaat)
     ZetCompetitie();
     const auto oud = AlleInhoud();
     FalendeSchijf telling(schijf);
-    const auto opdracht = [&] {
-        const Zoekuitslag gevonden = ZoekCompetitie(schijf);
-        return MaakKoppelopdracht(gevonden.zwevenden,
-                                  Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
-    }();
+    const auto opdracht = Opdracht("In R2 - Z1 als N05    Jansen");
     ASSERT_FALSE(Koppel(telling, opdracht).fout);
     const int stappen = telling.Aantal();
     const auto nieuw = AlleInhoud();
@@ -299,10 +291,8 @@ TEST_F(Koppelen, NaElkeMislukkingIsVanElkBestandBekendHoeHetErVoorStaat)
 TEST_F(Koppelen, DeVoortgangTeltZittingen)
 {
     ZetCompetitie();
-    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
     std::vector<std::size_t> gezien;
-    const auto opdracht = MaakKoppelopdracht(
-        gevonden.zwevenden, Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
+    const auto opdracht = Opdracht("In R2 - Z1 als N05    Jansen");
     (void)Koppel(schijf, opdracht, [&](std::size_t gedaan, std::size_t geheel) {
         EXPECT_EQ(3U, geheel);
         gezien.push_back(gedaan);
@@ -315,10 +305,8 @@ TEST_F(Koppelen, DeVoortgangTeltZittingen)
 TEST_F(Koppelen, EenBestandAlleenOmTeLezenBlijftZoals)
 {
     ZetCompetitie();
-    const Zoekuitslag gevonden = ZoekCompetitie(schijf);
+    const auto opdracht = Opdracht("In R2 - Z1 als N05    Jansen");
     schijf.ZetAlleenLezen(Lijstpad(2, 1, Lijstsoort::Percentages));
-    const auto opdracht = MaakKoppelopdracht(
-        gevonden.zwevenden, Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237");
     const auto uitslag = Koppel(schijf, opdracht);
     ASSERT_TRUE(uitslag.fout);
     EXPECT_EQ(Meldingen(uitslag), (Teksten{"N05 spelers", "O01 spelers"}));
@@ -328,6 +316,21 @@ TEST_F(Koppelen, EenBestandAlleenOmTeLezenBlijftZoals)
               (std::vector<std::string>{schijf.Toonpad(Lijstpad(2, 1, Lijstsoort::Percentages)),
                                         schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Spelers)),
                                         schijf.Toonpad(Lijstpad(10, 3, Lijstsoort::Percentages))}));
+}
+
+TEST_F(Koppelen, WatGekoppeldIsGaatUitDeLijst)
+{
+    ZetDinsdag("N05 Jansen - 100001\r\nO01 Bos - Jansen\r\nN05 Bos - 1\r\n",
+               "2,A,N5,Jansen-100001,50,0,x\r\n");
+    Zoekuitslag los = ZoekZitting();
+    HaalGekoppeldenUit(los.zwevenden, MaakKoppelopdracht(los.zwevenden, 0, "100237"));
+    EXPECT_EQ(Regels(los), (Teksten{"als O01    Bos", "als O01    Jansen", "als N05    Bos"}));
+    ZetCompetitie();
+    Zoekuitslag competitie = ZoekCompetitie(schijf);
+    HaalGekoppeldenUit(competitie.zwevenden, Opdracht("In R2 - Z1 als N05    Jansen"));
+    EXPECT_EQ(Regels(competitie),
+              (Teksten{"In R1 - Z1 als N01    Jansens", "In R1 - Z1 als N1    Jansens",
+                       "In R2 - Z1 als O01    Bos", "In R2 - Z1 als O1    Bos"}));
 }
 
 // ---------------------------------------------------------------- the register's side
@@ -347,6 +350,16 @@ TEST(Koppelspeler, AlleenDeImportgroepMetEenKeyVanZesCijfersOpAchternaam)
     EXPECT_EQ("100003  An Cock      7       ", Koppelregel(spelers[1], 11));
     EXPECT_EQ("100002  Bea de Cock  2         DI", Koppelregel(spelers[2], 11));
     EXPECT_EQ("100002  Bea de Cock  2         DI", Koppelregel(spelers[2], 2));
+    EXPECT_EQ(11U, Naambreedte(spelers));
+    EXPECT_EQ(2, Naamgenoot(spelers, "BEA de cock"));
+    EXPECT_EQ(-1, Naamgenoot(spelers, "Bea Cock"));
+}
+
+TEST(Koppelspeler, DeNamenKrijgenEenBreedteTussenGrenzen)
+{
+    EXPECT_EQ(4U, Naambreedte({}));
+    EXPECT_EQ(4U, Naambreedte({{"100001", "Bos", "", ""}}));
+    EXPECT_EQ(40U, Naambreedte({{"100001", Tekst(41, 'x'), "", ""}}));
 }
 
 // ---- Size --------------------------------------------------------------------------------------
@@ -354,15 +367,13 @@ TEST(Koppelspeler, AlleenDeImportgroepMetEenKeyVanZesCijfersOpAchternaam)
 TEST_F(Koppelen, EenLijstDieTeGrootIsWordtGeweigerdBijZoekenEnBijKoppelen)
 {
     ZetCompetitie();
-    const auto gevonden = ZoekCompetitie(schijf);
+    const auto opdracht = Opdracht("In R2 - Z1 als N05    Jansen");
     const Pad groot = Lijstpad(2, 1, Lijstsoort::Percentages);
     schijf.Zet(groot, Tekst((std::size_t{64} << 20U) + 1, ','));
     const auto zoeken = ZoekCompetitie(schijf);
     ASSERT_EQ(1U, zoeken.fouten.size());
     EXPECT_EQ("het bestand is te groot: meer dan 64 MB", zoeken.fouten.front().systeem);
-    const auto uitslag = Koppel(
-        schijf, MaakKoppelopdracht(gevonden.zwevenden,
-                                   Plaats(gevonden, "In R2 - Z1 als N05    Jansen"), "100237"));
+    const auto uitslag = Koppel(schijf, opdracht);
     ASSERT_TRUE(uitslag.fout);
     EXPECT_EQ("het bestand is te groot: meer dan 64 MB", uitslag.fout->systeem);
     EXPECT_EQ(groot, uitslag.nietGewijzigd.front());

@@ -114,21 +114,22 @@ TEST_F(Sessiemappen, RondesEnZittingenInVolgordeVanHunNummers)
               Zittingen("Ladder"));
 }
 
-TEST_F(Sessiemappen, EenVerdwenenCompetitieIsEenFout)
+TEST_F(Sessiemappen, EenLosseZittingIsDeMapZelf)
 {
-    const auto zittingen = ZittingenVan(schijf, mappen, "weg");
-    ASSERT_FALSE(zittingen);
-    EXPECT_EQ(Foutsoort::Ontbreekt, zittingen.error().soort);
+    schijf.ZetMap("C:\\Zit\\Dinsdag");
+    const auto zittingen = ZittingVan(schijf, mappen, "Dinsdag").value();
+    ASSERT_EQ(1U, zittingen.size());
+    EXPECT_EQ("C:\\Zit\\Dinsdag", zittingen.front().map);
+    EXPECT_FALSE(zittingen.front().inCompetitie);
 }
 
-TEST_F(Sessiemappen, EenMapMetDeNaamVanEenBestandIsGeenBestand)
+TEST_F(Sessiemappen, WatVerdweenIsEenFout)
 {
-    schijf.ZetMap("C:\\Zit\\a\\Spelers.txt");
-    EXPECT_EQ(std::nullopt, LeesAlsErIs(schijf, "C:\\Zit\\a\\Spelers.txt").value());
-    EXPECT_EQ(std::nullopt, LeesAlsErIs(schijf, "C:\\Zit\\a\\PercZit.txt").value());
-    schijf.Zet("C:\\Zit\\a\\PercZit.txt", "x");
-    EXPECT_EQ("x", LeesAlsErIs(schijf, "C:\\Zit\\a\\PercZit.txt").value());
+    EXPECT_EQ(Foutsoort::Ontbreekt, ZittingenVan(schijf, mappen, "weg").error().soort);
+    EXPECT_EQ(Foutsoort::Ontbreekt, ZittingVan(schijf, mappen, "weg").error().soort);
+    schijf.Zet("C:\\Zit\\bestand", "");
+    EXPECT_EQ(Foutsoort::Ontbreekt, ZittingVan(schijf, mappen, "bestand").error().soort);
     FalendeSchijf falend(schijf);
     falend.FaalBij(1);
-    EXPECT_FALSE(LeesAlsErIs(falend, "C:\\Zit\\a\\PercZit.txt"));
+    EXPECT_EQ(Foutsoort::Geweigerd, ZittingVan(falend, mappen, "bestand").error().soort);
 }
