@@ -46,16 +46,18 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
     void Open(Tekstblik groep = "Gr03-Clubleden") { Toon(administratie, groep); }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
 
+    /// A warning of which the file and the words of the system may follow.
+    void VerwachtBegin(const QString& tekst)
+    {
+        wachter.Verwacht({.tekst = tekst, .icoon = QMessageBox::Warning, .alleenBegin = true});
+    }
     void VerwachtNietVast(const Pad& bestand)
     {
-        wachter.Verwacht(
-            {.tekst =
-                 u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf. Het "
-                 "systeem kon alleen niet bevestigen dat dit na een stroomstoring nog zo is. Kijk "
-                 "of de schijf in orde is en sla later nog eens op.\n\nBestand: "_s +
-                 QString::fromStdString(geheugen.Toonpad(bestand)),
-             .icoon = QMessageBox::Warning,
-             .alleenBegin = true});
+        VerwachtBegin(
+            u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf. Het "
+            "systeem kon alleen niet bevestigen dat dit na een stroomstoring nog zo is. Kijk "
+            "of de schijf in orde is en sla later nog eens op.\n\nBestand: "_s +
+            QString::fromStdString(geheugen.Toonpad(bestand)));
     }
 
     [[nodiscard]] Regellijst* Lijst(const char* naam) const { return Deel<Regellijst>(naam); }
@@ -68,25 +70,17 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
         cmb->setCurrentIndex(plaats);
         emit cmb->activated(plaats);
     }
-    [[nodiscard]] Teksten Regels(const char* lijst) const
+    [[nodiscard]] Teksten Regels(const char* lijst) const { return Lijstregels(*venster, lijst); }
+    void KlikRegel(const char* lijst, int regel) const
     {
-        Teksten regels;
-        const auto* model = Lijst(lijst)->model();
-        for (int rij = 0; rij < model->rowCount(); ++rij)
-            regels.push_back(model->index(rij, 0).data().toString().toStdString());
-        return regels;
+        plexoran::KlikRegel(*venster, lijst, regel);
     }
-    void KlikRegel(const char* lijst, int plaats) const
+    void DubbelklikRegel(const char* lijst, int regel) const
     {
         Regellijst* l = Lijst(lijst);
-        Klik(l->viewport(), l->visualRect(l->model()->index(plaats, 0)).center());
-    }
-    void DubbelklikRegel(const char* lijst, int plaats) const
-    {
-        Regellijst* l = Lijst(lijst);
-        const QPoint plek = l->visualRect(l->model()->index(plaats, 0)).center();
-        Klik(l->viewport(), plek);
-        QTest::mouseDClick(l->viewport(), Qt::LeftButton, {}, plek);
+        KlikRegel(lijst, regel);
+        QTest::mouseDClick(l->viewport(), Qt::LeftButton, {},
+                           l->visualRect(l->currentIndex()).center());
         QApplication::processEvents();
     }
     void MaakPaar(int links, int rechts) const
@@ -188,13 +182,10 @@ TEST_F(frmParenOnderhoudTest, EenAndereGroepEnEenGroepZonderSpelers)
 TEST_F(frmParenOnderhoudTest, EenMapDieNietGemaaktKanWorden)
 {
     administratie.mappen.SPEMAP = "C:\\club\\Anders";
-    wachter.Verwacht(
-        {.tekst =
-             u"De map voor de parenbestanden (Parenmap) kon niet worden gemaakt, dus paren kunnen "
-             "nu niet worden opgeslagen. De gegevens van de spelers zijn niet veranderd. Kijk of "
-             "u in de map van de spelers mag schrijven.\n\n"_s,
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    VerwachtBegin(
+        u"De map voor de parenbestanden (Parenmap) kon niet worden gemaakt, dus paren kunnen "
+        "nu niet worden opgeslagen. De gegevens van de spelers zijn niet veranderd. Kijk of "
+        "u in de map van de spelers mag schrijven.\n\n"_s);
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Klaar();
     Kies("Gr03-Dinsdag");
@@ -244,6 +235,9 @@ TEST_F(frmParenOnderhoudTest, LosseSpelersWordenGemeld)
                  "100004 Eik Dirk          +100005 Ärp Éls"}),
         Regels("L3"));
     EXPECT_EQ("Aantal paren: 3", Label("Label8"));
+    // Saved as they are shown: the pair that misses a player is kept.
+    Klik(Knop("cmdEinde"));
+    EXPECT_EQ("100098-100097#100001-100099#100004-100005#\r\n", geheugen.Inhoud(dinsdag));
 }
 
 /// Too long for a box: in a window in which it scrolls.
@@ -270,13 +264,10 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietGelezenKanWorden)
 {
     geheugen.Zet(dinsdag, "100004-100005#\r\n");
     schijf.FaalVanaf(1);
-    wachter.Verwacht(
-        {.tekst =
-             u"Het parenbestand 'Gr03-Dinsdag' kan niet worden gelezen; u ziet daarom geen paren. "
-             "Voordat het wordt vervangen, komt er een kopie van in de map Reservekopie. Sluit "
-             "met Annuleren als u eerst de oorzaak wilt verhelpen.\n\n"_s,
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    VerwachtBegin(
+        u"Het parenbestand 'Gr03-Dinsdag' kan niet worden gelezen; u ziet daarom geen paren. "
+        "Voordat het wordt vervangen, komt er een kopie van in de map Reservekopie. Sluit "
+        "met Annuleren als u eerst de oorzaak wilt verhelpen.\n\n"_s);
     Kies("Gr03-Dinsdag");
     wachter.Klaar();
     schijf.FaalNiet();
@@ -498,7 +489,7 @@ TEST_F(GroteGroep, HetNieuwePaarIsGekozenEnInBeeld)
     Lijst("L3")->verticalScrollBar()->setValue(60);
     for (const char* lijst : {"L1", "L2"})
         Lijst(lijst)->verticalScrollBar()->setValue(50);
-    MaakPaar(97, 98); // the last in the list
+    MaakPaar(60, 61); // the last in the list of pairs
     ASSERT_EQ(151U, Regels("L3").size());
     EXPECT_EQ(150, Gekozen("L3"));
     EXPECT_EQ(150, Lijst("L3")->currentIndex().row());
@@ -666,11 +657,8 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
     Kies("Gr03-Dinsdag");
     geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
     wachter.Verwacht({.tekst = u"U gaat Parenbestand Gr03-Dinsdag"_s, .alleenBegin = true});
-    wachter.Verwacht(
-        {.tekst = u"Het parenbestand kon niet worden verwijderd; het is gebleven zoals het was. "
-                  "Verhelp de oorzaak en probeer het opnieuw.\n\n"_s,
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    VerwachtBegin(u"Het parenbestand kon niet worden verwijderd; het is gebleven zoals het was. "
+                  "Verhelp de oorzaak en probeer het opnieuw.\n\n"_s);
     Klik(Knop("cmdVerwParenbest"));
     wachter.Klaar();
     EXPECT_EQ(1U, Regels("L3").size());
@@ -729,13 +717,10 @@ TEST_F(frmParenOnderhoudTest, EenCSVDieErStaatMaarNietVastIsOpgeslagen)
 TEST_F(frmParenOnderhoudTest, EenCSVDieNietLukt)
 {
     geheugen.ZetAlleenLezen("C:\\club");
-    wachter.Verwacht(
-        {.tekst =
-             u"Het parenbestand 'RVDparenCSV1.csv' is niet opgeslagen. De paren in dit venster "
-             "zijn niet veranderd. Sluit het bestand als het nog open is in een ander programma, "
-             "en probeer het opnieuw.\n\n"_s,
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    VerwachtBegin(
+        u"Het parenbestand 'RVDparenCSV1.csv' is niet opgeslagen. De paren in dit venster "
+        "zijn niet veranderd. Sluit het bestand als het nog open is in een ander programma, "
+        "en probeer het opnieuw.\n\n"_s);
     Klik(Knop("cmdPrintVast"));
     administratie.mappen.RVDMAP.clear();
     wachter.Waarschuwing(

@@ -51,13 +51,6 @@ TEST_F(ParenTest, DeGroepSubgroepenInTabelvolgorde)
     EXPECT_EQ(Teksten(), VulGroepSubgroepen(tabel, "Gr09-"));
 }
 
-TEST_F(ParenTest, EenGroepZonderSubgroepen)
-{
-    tabel = MaakTabel({{"100001", "Gr03-", "An", "", "Bos", "", ""},
-                       {"100002", "Gr03-", "Bea", "de", "Cock", "", ""}});
-    EXPECT_EQ(Teksten{"Gr03-"}, VulGroepSubgroepen(tabel, "Gr03-"));
-}
-
 // ---- Available players -------------------------------------------------------------------------
 
 TEST_F(ParenTest, DeBeschikbareSpelersOpVolgordeVanNaam)
@@ -222,17 +215,6 @@ TEST_F(ParenTest, EenOnvolledigPaarOntbinden)
               Keuzes());
 }
 
-TEST_F(ParenTest, GemaaktOntbondenEnWeerGemaakt)
-{
-    (void)Laad({});
-    (void)paren.MaakPaar(0, 3);
-    const Teksten eens = paren.L3();
-    paren.Ontbind(0);
-    (void)paren.MaakPaar(0, 3);
-    EXPECT_EQ(eens, paren.L3());
-    EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Keuzes());
-}
-
 TEST_F(ParenTest, AlleParenWissenBrengtDeSpelersNietTerug)
 {
     (void)Laad({"100001-100004"});
@@ -345,35 +327,5 @@ TEST_F(ParenTest, GelijkAanHetGewoneOpDuizendenKleineGroepen)
         std::sort(ongesorteerd.begin(), ongesorteerd.end());
         std::sort(l3.begin(), l3.end());
         ASSERT_EQ(l3, ongesorteerd);
-    }
-}
-
-/// Forming puts a pair where sorting anew would.
-TEST_F(ParenTest, GemaakteParenStaanOpVolgorde)
-{
-    std::mt19937 toeval(62);
-    for (int keer = 0; keer < 500; ++keer) {
-        std::vector<Proefspeler> spelers;
-        for (int i = 0; i < 24; ++i)
-            spelers.push_back(
-                {.key = std::to_string(100000 + i),
-                 .groep = "Gr03-",
-                 .voornaam = Trek(toeval, {"", "An", "an", "\xC0n"}),
-                 .achternaam = Trek(toeval, {"Bos", "bos", "B\xF3s", "Aap", "Zon 1"})});
-        tabel = MaakTabel(spelers);
-        (void)Laad({"100001-100000", "100099-100002", "100099-100003"}, "Gr03-");
-        while (paren.Lalle().size() > 1) {
-            const auto spelersOver = paren.Lalle().size();
-            const int links = static_cast<int>(Gooi(toeval, spelersOver));
-            const int rechts = (links + 1) % static_cast<int>(spelersOver);
-            const Tekst regel = Paarregel(paren.Keuze(links), paren.Keuze(rechts));
-            const int plaats = paren.MaakPaar(links, rechts);
-            ASSERT_EQ(regel, paren.L3()[static_cast<std::size_t>(plaats)]);
-            const Teksten eens = paren.L3();
-            paren.Sorteer();
-            ASSERT_EQ(eens, paren.L3());
-            if (Gooi(toeval, 3) == 0)
-                paren.Ontbind(static_cast<int>(Gooi(toeval, paren.L3().size())));
-        }
     }
 }
