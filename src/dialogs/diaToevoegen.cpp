@@ -220,8 +220,8 @@ void diaToevoegen::reject()
 void diaToevoegen::MeldLeesfout(const QString& wat, const Fout& fout)
 {
     MeldFout(this, QMessageBox::Warning,
-             wat + u" De spelers en de zitting zijn niet veranderd. Verhelp de oorzaak en kies de "
-                   "zitting opnieuw."_s,
+             wat + u" De spelers en de zitting zijn niet veranderd. Verhelp de oorzaak en open dit "
+                   "venster opnieuw."_s,
              fout);
 }
 

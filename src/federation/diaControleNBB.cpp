@@ -241,7 +241,8 @@ void diaControleNBB::MeldOpmerkingen(const QStringList& opmerkingen)
     if (!opmerkingen.isEmpty())
         MeldLijst(
             parentWidget(), QMessageBox::Information,
-            u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"_s +
+            u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het "
+            "zo nodig en open dit overzicht opnieuw.\r\n\r\n"_s +
                 opmerkingen.join(u"\r\n"_s));
 }
 

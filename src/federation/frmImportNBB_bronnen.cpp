@@ -167,7 +167,8 @@ void frmImportNBB::KiesDatabase()
         Meld(this, QMessageBox::Warning,
              u"Fout bij het lezen van de ledenbestanden!\r\nBij de start van Plexoran was niet "
              "bekend waar de database van het rekenprogramma staat; er is niets geïmporteerd. "
-             "Start Plexoran opnieuw en kies dan het rekenprogramma."_s);
+             "Start Plexoran opnieuw en kies dan het rekenprogramma, of kies een geëxporteerd "
+             "ledenbestand."_s);
         return;
     }
     const Wachtcursor wacht;
@@ -203,7 +204,8 @@ void frmImportNBB::KiesExportMap()
     if (aangewezen.contains(u'\\')) { // Qt writes "/" between folders, on Windows too
         Meld(this, QMessageBox::Warning,
              u"Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map mag geen '\\' "
-             "staan. Er is niets gewijzigd. Geef het een andere naam.\n\nBestand: "_s +
+             "staan. Er is niets gewijzigd. Geef het bestand of de map een andere "
+             "naam.\n\nBestand: "_s +
                  aangewezen);
         return;
     }

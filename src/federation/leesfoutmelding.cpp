@@ -27,12 +27,19 @@ QString Oorzaak(const Fout& fout)
     case Foutsoort::Ontbreekt:
         return u"Het bestand is er niet (meer)"_s;
     case Foutsoort::Beschadigd:
-        return fout.bestand.empty() // its name is to blame
-                   ? u"Het ledenbestand kan niet worden gelezen"_s
-                   : u"De inhoud is niet die van een ledenbestand"_s;
+        return u"Het ledenbestand kan niet worden gelezen"_s;
     default:
         return u"Het bestand hieronder kan niet worden gelezen of geschreven"_s;
     }
+}
+
+QString Raad(Ledenbron bron, Foutsoort soort)
+{
+    if (bron == Ledenbron::Database)
+        return u"Kies zo nodig een geëxporteerd ledenbestand."_s;
+    return soort == Foutsoort::Ontbreekt || soort == Foutsoort::Beschadigd
+               ? u"Exporteer het opnieuw of kies een ander ledenbestand."_s
+               : u"Verhelp de oorzaak of kies een ander ledenbestand."_s;
 }
 
 } // namespace
@@ -43,8 +50,7 @@ QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout, Leesdoel
         Aanhef(bron, naam) + u"\r\n"_s + Oorzaak(fout) +
         (doel == Leesdoel::Import ? u"; er is niets uit geïmporteerd. "_s
                                   : u"; de leden ervan staan niet in het overzicht. "_s) +
-        (bron == Ledenbron::Database ? u"Kies zo nodig een geëxporteerd ledenbestand."_s
-                                     : u"Exporteer het opnieuw of kies een ander ledenbestand."_s);
+        Raad(bron, fout.soort);
     Fout plaats = fout;
     if (fout.soort == Foutsoort::Ontbreekt)
         plaats.systeem.clear(); // would say the same again, perhaps in another language

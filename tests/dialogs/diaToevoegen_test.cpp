@@ -235,8 +235,8 @@ TEST_F(diaToevoegenTest, EenKopieDieMislukt)
     schijf.FaalBij(1);
     wachter.Verwacht(
         {.tekst = u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de "
-                  "zitting zijn niet veranderd. Verhelp de oorzaak en kies de zitting opnieuw.\n\n"
-                  "Bestand: "_s,
+                  "zitting zijn niet veranderd. Verhelp de oorzaak en open dit venster "
+                  "opnieuw.\n\nBestand: "_s,
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});
     ASSERT_NO_FATAL_FAILURE(Open());
@@ -316,7 +316,7 @@ TEST_F(diaToevoegenTest, EenClubnaamMetEenStreepWordtEenKeerGemeld)
     suite.Zet("Puntenboek/Rev_Clubnaam.txt", "Noord/Zuid\r\n");
     wachter.Waarschuwing(
         u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de zitting "
-        "zijn niet veranderd. Verhelp de oorzaak en kies de zitting opnieuw.\n\nBestand: "_s +
+        "zijn niet veranderd. Verhelp de oorzaak en open dit venster opnieuw.\n\nBestand: "_s +
         QString::fromStdString(suite.Toonpad("Puntenboek/Rev_Clubnaam.txt")) +
         u"\nOorzaak: 'Noord/Zuid' kan niet de naam van een bestand of map zijn: daarin mogen geen "
         "'/', '\\', 'C:' of '..' staan"_s);

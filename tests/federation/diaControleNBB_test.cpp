@@ -169,10 +169,10 @@ TEST_F(diaControleNBBTest, EenFoutInEenNbb3Bestand)
     opdracht.bron = Ledenbron::XmlNbb3;
     map.Zet("Stuk.xml", "<lijst><lid>");
     wachter.Waarschuwing(
-        u"Fout bij het lezen van 'Stuk.xml' NBB3-XML-bestand\r\nDe inhoud is niet die van een "
-        "ledenbestand; de leden ervan staan niet in het overzicht. Exporteer het opnieuw of kies "
-        "een ander ledenbestand.\r\n\r\nBestand: %1\nRegel: 1\nOorzaak: een eindtag ontbreekt of "
-        "hoort niet bij de begintag (teken 12 van die regel)"_s.arg(
+        u"Fout bij het lezen van 'Stuk.xml' NBB3-XML-bestand\r\nHet ledenbestand kan niet worden "
+        "gelezen; de leden ervan staan niet in het overzicht. Exporteer het opnieuw of kies een "
+        "ander ledenbestand.\r\n\r\nBestand: %1\nRegel: 1\nOorzaak: een eindtag ontbreekt of hoort "
+        "niet bij de begintag (teken 12 van die regel)"_s.arg(
             QString::fromStdString((map.Weg() / "Stuk.xml").string())));
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml"}));
     EXPECT_FALSE(Knop("cmdPrint")->isEnabled());
@@ -183,8 +183,9 @@ TEST_F(diaControleNBBTest, EenTeKorteRegelWordtGemeldMetWatErVoorStond)
     map.Zet("Kort.csv",
             Csv("1", "V", "An", "", "Bos") + "2;V;Bea\r\n" + Csv("3", "V", "Cor", "", "Dam"));
     wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"
-        "'Kort.csv': gelezen tot regel 2, want die regel heeft te weinig kolommen."_s);
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
+        "nodig en open dit overzicht opnieuw.\r\n\r\n'Kort.csv': gelezen tot regel 2, want die "
+        "regel heeft te weinig kolommen."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Kort.csv"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 1 V Kort Bos, An", Geschilderd());
 }
@@ -194,9 +195,10 @@ TEST_F(diaControleNBBTest, WatErNietInStaatWordtGemeld)
     map.Zet("Kop.csv", "VERSIE=2.8\r\n" + Csv("1", "V", "An", "", "Bos") +
                            Csv("2", "V", "Bea", "", "D=m") + Csv("3", "V", "Zo\xC3\xAB", "", "Ek"));
     wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"
-        "'Kop.csv': opgeslagen in UTF-8, dus letters met een accent komen verkeerd over.\r\n"
-        "'Kop.csv': 2 regels overgeslagen, omdat er een '=' in staat, zoals in een kopregel."_s);
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
+        "nodig en open dit overzicht opnieuw.\r\n\r\n'Kop.csv': opgeslagen in UTF-8, dus letters "
+        "met een accent komen verkeerd over.\r\n'Kop.csv': 2 regels overgeslagen, omdat er een '=' "
+        "in staat, zoals in een kopregel."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Kop.csv"}));
     EXPECT_EQ("Aantal leden: 2", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
 }
@@ -209,12 +211,12 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
                         "<Achternaam>Sz\xC5\x91</Achternaam></ReportableMember></Members>"
                         "</ReportableMembersList>");
     wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n"
-        "'Stuk.xml': geen leden, want het bestand kon niet als XML worden gelezen; regel 1: een "
-        "eindtag ontbreekt of hoort niet bij de begintag (teken 12 van die regel).\r\n'Weg.xml': "
-        "geen leden, want het bestand is er niet (meer).\r\n'Heel.xml': aantal tekens dat het "
-        "spelerbestand niet kent en dat is vervangen door een teken dat erop lijkt, of is "
-        "weggelaten: 1."_s);
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
+        "nodig en open dit overzicht opnieuw.\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
+        "niet als XML worden gelezen; regel 1: een eindtag ontbreekt of hoort niet bij de begintag "
+        "(teken 12 van die regel).\r\n'Weg.xml': geen leden, want het bestand is er niet "
+        "(meer).\r\n'Heel.xml': aantal tekens dat het spelerbestand niet kent en dat is vervangen "
+        "door een teken dat erop lijkt, of is weggelaten: 1."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml", "Weg.xml", "Heel.xml"}));
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 7 Heel Szo,", Geschilderd());
 }
@@ -225,10 +227,11 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
     opdracht.bron = Ledenbron::Database;
     opdracht.LedenDatabase = Samen(map.AlsPad(), "Members.mdb");
     wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\n'Jeugd "
-        "1012': dit zijn de leden van het ledenbestand met nummer 12, want van het nummer tellen "
-        "alleen de laatste drie tekens.\r\n'Jeugd 1012': aantal tekens dat het spelerbestand niet "
-        "kent en dat is vervangen door een teken dat erop lijkt, of is weggelaten: 1."_s);
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
+        "nodig en open dit overzicht opnieuw.\r\n\r\n'Jeugd 1012': dit zijn de leden van het "
+        "ledenbestand met nummer 12, want van het nummer tellen alleen de laatste drie "
+        "tekens.\r\n'Jeugd 1012': aantal tekens dat het spelerbestand niet kent en dat is "
+        "vervangen door een teken dat erop lijkt, of is weggelaten: 1."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Jeugd 1012"}));
     EXPECT_EQ("Aantal leden: 6", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
 }
@@ -238,8 +241,9 @@ TEST_F(diaControleNBBTest, StoppenLaatDeVolgendeBestandenWeg)
 {
     const Voortgangstopper stopper(1);
     wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd.\r\n\r\nHet "
-        "lezen is gestopt: de lijst is niet volledig."_s);
+        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
+        "nodig en open dit overzicht opnieuw.\r\n\r\nHet lezen is gestopt: de lijst is niet "
+        "volledig."_s);
     ASSERT_NO_FATAL_FAILURE(OpenBeide());
     EXPECT_EQ("Aantal leden: 3", Label("lblAantal"));
 }

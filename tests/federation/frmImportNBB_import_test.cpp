@@ -481,8 +481,8 @@ TEST_F(ImporterenTest, EenFoutInDeDatabaseBreektAfEnHetVensterBlijft)
     });
     wachter.Verwacht(
         {.tekst =
-             u"Fout bij het lezen van het ledenbestand (alle items)!\r\nDe inhoud is niet die van "
-             "een ledenbestand; er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
+             u"Fout bij het lezen van het ledenbestand (alle items)!\r\nHet ledenbestand kan niet "
+             "worden gelezen; er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
              "ledenbestand.\r\n\r\nBestand: "_s,
          .icoon = QMessageBox::Warning,
          .alleenBegin = true});

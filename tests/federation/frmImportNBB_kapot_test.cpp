@@ -167,7 +167,7 @@ class KapotTest : public Importproef {
     }
     static QString Inhoudsfout(const QString& plaats, const QString& oorzaak)
     {
-        return u"De inhoud is niet die van een ledenbestand"_s + Vervolg() + u"Bestand: <pad>\n"_s +
+        return u"Het ledenbestand kan niet worden gelezen"_s + Vervolg() + u"Bestand: <pad>\n"_s +
                plaats + u"Oorzaak: "_s + oorzaak;
     }
 
@@ -380,9 +380,11 @@ TEST_F(KapotTest, EenBestandZonderRechten)
     ZetExport("Dicht.csv", "1;V;An;;;Bos;;;;;;\r\n");
     schijf.Vooraf([](const Pad& pad) { return !pad.ends_with("Dicht.csv"); });
     EisFout("Option2", "Dicht.csv",
-            Fouttekst("Dicht.csv", "CSV",
-                      u"Het bestand hieronder kan niet worden gelezen of geschreven"_s + Vervolg() +
-                          u"Bestand: <pad>\nMelding van het systeem: geen toegang"_s));
+            Fouttekst(
+                "Dicht.csv", "CSV",
+                u"Het bestand hieronder kan niet worden gelezen of geschreven; er is niets uit "
+                "geïmporteerd. Verhelp de oorzaak of kies een ander ledenbestand.\r\n\r\nBestand: "
+                "<pad>\nMelding van het systeem: geen toegang"_s));
 }
 
 TEST_F(KapotTest, EenBestandDatVerdwijntTerwijlHetInDeLijstStaat)

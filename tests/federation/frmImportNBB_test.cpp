@@ -490,7 +490,7 @@ TEST_F(frmImportNBBTest, GeenKeusTussenBeideWordtUitgelegd)
     wachter.Waarschuwing(
         u"Fout bij het lezen van de ledenbestanden!\r\nBij de start van Plexoran was niet bekend "
         "waar de database van het rekenprogramma staat; er is niets geïmporteerd. Start Plexoran "
-        "opnieuw en kies dan het rekenprogramma."_s);
+        "opnieuw en kies dan het rekenprogramma, of kies een geëxporteerd ledenbestand."_s);
     Importeer();
 }
 
@@ -590,14 +590,15 @@ TEST_F(frmImportNBBTest, EenBestandMetEenNaamDieNaarEldersWijst)
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Waarschuwing(
-        u"Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een naam in "
+        u"Overgeslagen in de map hieronder: 1 naam, omdat er een teken in staat dat een naam in "
         "Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef wat u ervan nodig "
-        "hebt, een andere naam.\n\n..\\elders.csv"_s);
+        "hebt, een andere naam.\n\nMap: %1\n..\\elders.csv"_s.arg(
+            QString::fromStdString(suite.Toonpad("Bestanden/NBB4-Leden"))));
     const std::filesystem::path aangewezen = "Bestanden/NBB4-Leden/..\\elders.csv";
     VerwachtBestandskeuze(u"CSV-bestanden (*.csv)"_s, aangewezen);
     wachter.Waarschuwing(
         u"Dit bestand kan niet worden gelezen: in zijn naam of die van zijn map mag geen '\\' "
-        "staan. Er is niets gewijzigd. Geef het een andere naam.\n\nBestand: "_s +
+        "staan. Er is niets gewijzigd. Geef het bestand of de map een andere naam.\n\nBestand: "_s +
         QString::fromStdString((suite.Weg() / aangewezen).string()));
     Importeer();
 }

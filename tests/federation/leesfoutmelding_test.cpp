@@ -39,29 +39,27 @@ TEST(Leesfouttekst, NoemtWatErMisIsEnWaar)
               "Fout bij het lezen van het ledenbestand (alle items)!\r\nHet ledenbestand kan niet "
               "worden gelezen; er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
               "ledenbestand.\r\n\r\nOorzaak: 'A/B' kan niet");
-    EXPECT_EQ(
-        Melding(Ledenbron::XmlNbb3, {.soort = Foutsoort::Beschadigd,
-                                     .bestand = "/a/b.xml",
-                                     .regel = 3,
-                                     .systeem = "een eindtag ontbreekt (teken 1)"}),
-        "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand\r\nDe inhoud is niet die van een "
-        "ledenbestand; er is niets uit geïmporteerd. Exporteer het opnieuw of kies een ander "
-        "ledenbestand.\r\n\r\nBestand: /a/b.xml\nRegel: 3\nOorzaak: een eindtag ontbreekt (teken "
-        "1)");
+    EXPECT_EQ(Melding(Ledenbron::XmlNbb3, {.soort = Foutsoort::Beschadigd,
+                                           .bestand = "/a/b.xml",
+                                           .regel = 3,
+                                           .systeem = "een eindtag ontbreekt (teken 1)"}),
+              "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand\r\nHet ledenbestand kan niet "
+              "worden gelezen; er is niets uit geïmporteerd. Exporteer het opnieuw of kies een "
+              "ander ledenbestand.\r\n\r\nBestand: /a/b.xml\nRegel: 3\nOorzaak: een eindtag "
+              "ontbreekt (teken 1)");
 }
 
 /// It may be the intermediate file that the system refused, so the member file is not blamed.
 TEST(Leesfouttekst, WatHetSysteemWeigert)
 {
-    EXPECT_EQ(
-        Melding(Ledenbron::XmlNbb4, {.soort = Foutsoort::Geweigerd,
-                                     .bestand = "/p/Club Temp-NBBXMLtoCSV.csv",
-                                     .regel = 0,
-                                     .systeem = "No space left on device"}),
-        "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand\r\nHet bestand hieronder kan niet "
-        "worden gelezen of geschreven; er is niets uit geïmporteerd. Exporteer het opnieuw of kies "
-        "een ander ledenbestand.\r\n\r\nBestand: /p/Club Temp-NBBXMLtoCSV.csv\nMelding van het "
-        "systeem: No space left on device");
+    EXPECT_EQ(Melding(Ledenbron::XmlNbb4, {.soort = Foutsoort::Geweigerd,
+                                           .bestand = "/p/Club Temp-NBBXMLtoCSV.csv",
+                                           .regel = 0,
+                                           .systeem = "No space left on device"}),
+              "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand\r\nHet bestand hieronder kan "
+              "niet worden gelezen of geschreven; er is niets uit geïmporteerd. Verhelp de oorzaak "
+              "of kies een ander ledenbestand.\r\n\r\nBestand: /p/Club "
+              "Temp-NBBXMLtoCSV.csv\nMelding van het systeem: No space left on device");
 }
 
 /// The number check imports nothing, so it must not say that it did not.

@@ -609,10 +609,11 @@ TEST_F(frmAfdrukkenTest, StoppenNaHetBladDatWordtGetekend)
     ASSERT_NO_FATAL_FAILURE(OpenRijen(500)); // ten pages
     for (const auto& [na, melding] :
          {std::pair<int, QString>(
-              1, u"Het printen is gestopt na 1 van de 9 bladen. De overige bladen kunt u later "
-                 "printen."_s),
-          {4, u"Het printen is gestopt na 4 van de 9 bladen. De overige bladen kunt u later "
-              "printen."_s}}) {
+              1,
+              u"Het printen is gestopt na 1 van de 9 bladen. De gegevens van de spelers zijn niet "
+              "veranderd. De overige bladen kunt u later printen."_s),
+          {4, u"Het printen is gestopt na 4 van de 9 bladen. De gegevens van de spelers zijn niet "
+              "veranderd. De overige bladen kunt u later printen."_s}}) {
         std::filesystem::remove(map.Weg() / "lijst.pdf"); // else the dialog asks first
         const Voortgangstopper stopper(na);
         VerwachtPdf(wachter, map.Weg() / "lijst.pdf",

@@ -237,7 +237,8 @@ TEST_F(WachtrijProef, EenReeksDieWordtGestopt)
     const Voortgangstopper stopper(2);
     const auto venster = OpenLijst(300, [](QDialog& dialoog) { KiesReeks(dialoog, 2, 5); });
     wachter.Informatie(
-        u"Het printen is gestopt na 2 van de 4 bladen. De overige bladen kunt u later printen."_s);
+        u"Het printen is gestopt na 2 van de 4 bladen. De gegevens van de spelers zijn niet "
+        "veranderd. De overige bladen kunt u later printen."_s);
     Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
     wachter.Klaar();
     EXPECT_EQ((std::vector<std::string>{"2", "3"}), Bladnummers());

@@ -534,9 +534,10 @@ TEST_F(Koppelvenster, EenMapDieNaarEldersWijstWordtEenKeerGemeld)
     suite.Zet(elders + "/Zitdata.txt", "");
     suite.Zet("Competities/Zitdata.txt", "");
     wachter.Waarschuwing(
-        u"Overgeslagen van deze map: 1 naam, omdat er een teken in staat dat een naam in "
+        u"Overgeslagen in de map hieronder: 1 naam, omdat er een teken in staat dat een naam in "
         "Ravendeck niet kan hebben, zoals '\\'. Er is niets gewijzigd. Geef wat u ervan nodig "
-        "hebt, een andere naam.\n\n..\\Competities"_s);
+        "hebt, een andere naam.\n\nMap: %1\n..\\Competities"_s.arg(
+            QString::fromStdString(suite.Toonpad("Zittingen"))));
     ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Klaar();
     for (const std::string& sessie : Sessies())

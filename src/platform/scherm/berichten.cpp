@@ -272,11 +272,11 @@ void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map)
         return;
     MeldLijst(
         ouder, QMessageBox::Warning,
-        u"Overgeslagen van deze map: "_s +
+        u"Overgeslagen in de map hieronder: "_s +
             Aantal(static_cast<std::size_t>(namen.size()), u"naam"_s, u"namen"_s) +
             u", omdat er een teken in staat dat een naam in Ravendeck niet kan hebben, zoals "
-            "'\\'. Er is niets gewijzigd. Geef wat u ervan nodig hebt, een andere naam.\n\n"_s +
-            namen.join(u'\n'));
+            "'\\'. Er is niets gewijzigd. Geef wat u ervan nodig hebt, een andere naam.\n\nMap: "_s +
+            QString::fromStdString(schijf.Toonpad(map)) + u'\n' + namen.join(u'\n'));
 }
 
 frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap& icoon,

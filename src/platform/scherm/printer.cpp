@@ -281,8 +281,8 @@ bool PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teke
         MeldPrintfout(ouder, geprint.error());
     else if (gedaan < bladen.size())
         Meld(ouder, QMessageBox::Information,
-             u"Het printen is gestopt na %1 van de %2 bladen. De overige bladen kunt u later "
-             "printen."_s.arg(gedaan)
+             u"Het printen is gestopt na %1 van de %2 bladen. De gegevens van de spelers zijn niet "
+             "veranderd. De overige bladen kunt u later printen."_s.arg(gedaan)
                  .arg(bladen.size()));
     return true;
 }
