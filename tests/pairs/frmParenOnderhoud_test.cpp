@@ -70,6 +70,12 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
         cmb->setCurrentIndex(plaats);
         emit cmb->activated(plaats);
     }
+    /// The group-subgroup of most tests, with these pairs in its file.
+    void KiesDinsdag(const Tekst& paren)
+    {
+        geheugen.Zet(dinsdag, paren);
+        Kies("Gr03-Dinsdag");
+    }
     [[nodiscard]] Teksten Regels(const char* lijst) const { return Lijstregels(*venster, lijst); }
     void KlikRegel(const char* lijst, int regel) const
     {
@@ -194,7 +200,7 @@ TEST_F(frmParenOnderhoudTest, EenMapDieNietGemaaktKanWorden)
 
 // ---- Choosing a group-subgroup -----------------------------------------------------------------
 
-TEST_F(frmParenOnderhoudTest, ZonderParenbestand)
+TEST_F(frmParenOnderhoudTest, ZonderEnMetParen)
 {
     Kies("Gr03-Dinsdag");
     EXPECT_EQ(vier, Regels("L1"));
@@ -202,12 +208,8 @@ TEST_F(frmParenOnderhoudTest, ZonderParenbestand)
     EXPECT_EQ(Teksten(), Regels("L3"));
     EXPECT_EQ("Aantal spelers: 4", Label("Label7"));
     EXPECT_EQ("", Label("Label8"));
-}
 
-TEST_F(frmParenOnderhoudTest, MetParen)
-{
-    geheugen.Zet(dinsdag, "100004-100005#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#\r\n");
     EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Regels("L1"));
     EXPECT_EQ(Teksten{"100004 Eik Dirk          +100005 Ärp Éls"}, Regels("L3"));
     EXPECT_EQ("Aantal spelers: 2", Label("Label7"));
@@ -314,8 +316,7 @@ TEST_F(frmParenOnderhoudTest, OKEVraagtTweeVerschillendeSpelers)
 
 TEST_F(frmParenOnderhoudTest, EenKeuzeInDeParenLaatDeSpelersLosEnAndersom)
 {
-    geheugen.Zet(dinsdag, "100004-100005#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#\r\n");
     KlikRegel("L1", 0);
     KlikRegel("L2", 1);
     const QColor uit = Knop("cmdOntbindt")->palette().color(QPalette::Button);
@@ -393,8 +394,7 @@ TEST_F(frmParenOnderhoudTest, EenPaarMetEnter)
 
 TEST_F(frmParenOnderhoudTest, OntbindenMetDeKnopEnMetDelete)
 {
-    geheugen.Zet(dinsdag, "100004-100005#100002-100001#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#100002-100001#\r\n");
     KlikRegel("L3", 1);
     Klik(Knop("cmdOntbindt"));
     EXPECT_EQ((Teksten{"100005 Ärp Éls", "100004 Eik Dirk"}), Regels("L1"));
@@ -415,8 +415,7 @@ TEST_F(frmParenOnderhoudTest, OntbindenMetDeKnopEnMetDelete)
 
 TEST_F(frmParenOnderhoudTest, Sorteren)
 {
-    geheugen.Zet(dinsdag, "100004-100005#100002-100001#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#100002-100001#\r\n");
     const Teksten gesorteerd{"100002 Cock Bea de          +100001 Bos An",
                              "100004 Eik Dirk          +100005 Ärp Éls"};
     EXPECT_EQ(gesorteerd, Regels("L3"));
@@ -522,8 +521,7 @@ TEST_F(frmParenOnderhoudTest, OpslaanEnEinde)
 /// Meant: only the delete command empties a file.
 TEST_F(frmParenOnderhoudTest, ZonderParenBlijftHetOudeBestand)
 {
-    geheugen.Zet(dinsdag, "100004-100005#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#\r\n");
     KlikRegel("L3", 0);
     Klik(Knop("cmdOntbindt"));
     Klik(Knop("cmdEinde"));
@@ -550,8 +548,7 @@ TEST_F(frmParenOnderhoudTest, AnnulerenEscapeEnHetSluitvakBewarenNiets)
 
 TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
 {
-    geheugen.Zet(dinsdag, "100004-100005#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#\r\n");
     MaakPaar(0, 1);
     geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
     wachter.Waarschuwing(
@@ -626,8 +623,7 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatErNietIs)
 
 TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
 {
-    geheugen.Zet(dinsdag, "100004-100005#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#\r\n");
     const auto vraag = [](const QString& antwoord) {
         return Bericht{
             .tekst =
@@ -653,8 +649,7 @@ TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
 
 TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
 {
-    geheugen.Zet(dinsdag, "100004-100005#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#\r\n");
     geheugen.ZetAlleenLezen("C:\\club\\Spelers\\Parenmap");
     wachter.Verwacht({.tekst = u"U gaat Parenbestand Gr03-Dinsdag"_s, .alleenBegin = true});
     VerwachtBegin(u"Het parenbestand kon niet worden verwijderd; het is gebleven zoals het was. "
@@ -669,8 +664,7 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
 
 TEST_F(frmParenOnderhoudTest, DeCSVBestanden)
 {
-    geheugen.Zet(dinsdag, "100004-100005#100002-100001#\r\n");
-    Kies("Gr03-Dinsdag");
+    KiesDinsdag("100004-100005#100002-100001#\r\n");
     const QString map = QString::fromStdString(schijf.Toonpad("C:\\club\\DiverseUitvoer"));
     const auto opgeslagen = [&](const char* naam) {
         wachter.Informatie(u"Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n%2"_s.arg(

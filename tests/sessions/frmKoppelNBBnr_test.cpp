@@ -1,7 +1,7 @@
 #include "sessions/frmKoppelNBBnr.h"
 
 #include <chrono>
-#include <thread>
+#include <functional>
 
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
@@ -473,28 +473,46 @@ TEST_F(Koppelvenster, MetHetToetsenbord)
     EXPECT_FALSE(venster->isVisible());
 }
 
+namespace {
+
+/// Does something once with the progress window, as soon as that is in sight.
+class Voortgangkijker {
+  public:
+    explicit Voortgangkijker(std::function<void(frmVoortgang&)> doe)
+    {
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, doe = std::move(doe)] {
+            auto* voortgang = qobject_cast<frmVoortgang*>(QApplication::activeModalWidget());
+            if (voortgang == nullptr)
+                return;
+            gezien = Vind<QLabel>(*voortgang, "lblTekst")->text().toStdString();
+            timer_.stop();
+            doe(*voortgang);
+        });
+        timer_.start(0);
+    }
+
+    std::string gezien; ///< its text
+
+  private:
+    const Voortgangstopper meteenInBeeld_{0};
+    QTimer timer_;
+};
+
+} // namespace
+
 /// Files are not searched twice at a time, nor without the window.
 TEST_F(Koppelvenster, ZoekenToontVoortgangEnIsTeStoppen)
 {
-    const Voortgangstopper meteenInBeeld(0);
     KiesCompetities();
-    int keren = 0;
-    QTimer kijker;
-    QObject::connect(&kijker, &QTimer::timeout, &kijker, [&] {
-        auto* voortgang = qobject_cast<frmVoortgang*>(QApplication::activeModalWidget());
-        if (voortgang == nullptr || ++keren > 1)
-            return;
-        EXPECT_EQ("De zwevende spelers worden gezocht ...",
-                  Vind<QLabel>(*voortgang, "lblTekst")->text());
+    const Voortgangkijker kijker([this](frmVoortgang& voortgang) {
         QTest::mouseClick(
             venster->windowHandle(), Qt::LeftButton, {},
             Knop("cmdEinde")->mapTo(venster.get(), Knop("cmdEinde")->rect().center()));
         EXPECT_TRUE(venster->isVisible());
-        Klik(Vind<QPushButton>(*voortgang, "cmdStop"));
+        Klik(Vind<QPushButton>(voortgang, "cmdStop"));
     });
-    kijker.start(0);
     ASSERT_NO_FATAL_FAILURE(Zoek(Najaar));
-    EXPECT_GE(keren, 1);
+    EXPECT_EQ("De zwevende spelers worden gezocht ...", kijker.gezien);
     EXPECT_EQ("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.", Label("lblResultaat"));
     EXPECT_EQ(nullptr, QApplication::activeModalWidget());
     EXPECT_TRUE(Knop("cmdZoekNamen")->isEnabled());
@@ -507,21 +525,13 @@ TEST_F(Koppelvenster, KoppelenToontVoortgangMaarStoptNiet)
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
     KiesZwevende("als O02    J");
     KiesSpeler("100084");
-    const Voortgangstopper meteenInBeeld(0);
-    int keren = 0;
-    QTimer kijker;
-    QObject::connect(&kijker, &QTimer::timeout, &kijker, [&] {
-        auto* voortgang = qobject_cast<frmVoortgang*>(QApplication::activeModalWidget());
-        if (voortgang == nullptr || ++keren > 1)
-            return;
-        EXPECT_EQ("De speler wordt gekoppeld ...", Vind<QLabel>(*voortgang, "lblTekst")->text());
-        EXPECT_EQ(nullptr, voortgang->findChild<QPushButton*>());
-        voortgang->close();
-        EXPECT_TRUE(voortgang->isVisible());
+    const Voortgangkijker kijker([](frmVoortgang& voortgang) {
+        EXPECT_EQ(nullptr, voortgang.findChild<QPushButton*>());
+        voortgang.close();
+        EXPECT_TRUE(voortgang.isVisible());
     });
-    kijker.start(0);
     Koppel(u"Speler Jørgen Sørensgaard is gekoppeld."_s);
-    EXPECT_EQ(1, keren);
+    EXPECT_EQ("De speler wordt gekoppeld ...", kijker.gezien);
 }
 
 #ifndef _WIN32

@@ -288,6 +288,33 @@ TEST_F(Koppelen, NaElkeMislukkingIsVanElkBestandBekendHoeHetErVoorStaat)
     EXPECT_GT(mislukt, 20);
 }
 
+/// Killed, a link can tidy up nothing any more; the next one does.
+TEST_F(Koppelen, OokNaEenKillIsElkBestandHeelEnMaaktNogEensKoppelenHetAf)
+{
+    ZetCompetitie();
+    const auto oud = AlleInhoud();
+    const auto opdracht = Opdracht("In R2 - Z1 als N05    Jansen");
+    ASSERT_FALSE(Koppel(schijf, opdracht).fout);
+    const auto nieuw = AlleInhoud();
+    std::size_t resten = 0;
+    for (int stap = 1;; ++stap) {
+        for (const auto& [pad, inhoud] : oud)
+            schijf.Zet(pad, inhoud);
+        FalendeSchijf gedood(schijf);
+        gedood.FaalVanaf(stap);
+        if (!Koppel(gedood, opdracht).fout)
+            break;
+        for (const auto& [pad, inhoud] : oud) {
+            const Tekst nu = schijf.Inhoud(pad).value();
+            EXPECT_TRUE(nu == inhoud || nu == nieuw.at(pad)) << pad << stap;
+        }
+        resten += schijf.AlleBestanden().size() - oud.size();
+        EXPECT_FALSE(Koppel(schijf, opdracht).fout);
+        EXPECT_EQ(nieuw, AlleInhoud()) << stap;
+    }
+    EXPECT_GT(resten, 0U);
+}
+
 TEST_F(Koppelen, DeVoortgangTeltZittingen)
 {
     ZetCompetitie();
