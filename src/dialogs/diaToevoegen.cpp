@@ -29,90 +29,68 @@ bool ZetTerugOfMeld(Koppelverslag& verslag, QWidget* ouder)
 diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
 {
-    Bouw();
-    Verbind();
-}
-
-void diaToevoegen::MaakDelen(QGroupBox* Frame1)
-{
-    Label1 = MaakLabel(u"Label1"_s, u"Kies een zitting:"_s, Frame1);
-    Combo1 = MaakKeus(u"Combo1"_s, Label1, Frame1);
-    lstN2 = new QListWidget(Frame1);
-    Noem(lstN2, u"lstN2"_s, u"Gevonden spelers"_s);
-    lstN2->setUniformItemSizes(true);
-    Label4 = MaakLabel(u"Label4"_s, u"..."_s, Frame1);
-    cmdLeesSpelers =
-        MaakKnop(u"cmdLeesSpelers"_s, u"Spelers ophalen uit deze zitting"_s, u'S', Frame1);
-    cmdStart =
-        MaakKnop(u"cmdStart"_s, u"Deze spelers toevoegen aan het ledenbestand"_s, u'D', Frame1);
-    OKButton = MaakKnop(u"OKButton"_s, u"Klaar en opslaan"_s, u'K', this);
-    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    for (QPushButton* later : {cmdLeesSpelers, cmdStart, OKButton})
-        later->setEnabled(false);
-}
-
-void diaToevoegen::Bouw()
-{
     setObjectName(u"diaToevoegen"_s);
     setWindowTitle(u"Spelers toevoegen (speciaal)"_s);
-    auto* Frame1 = new QGroupBox(this);
-    Noem(Frame1, u"Frame1"_s);
-    MaakDelen(Frame1);
-    const auto label = [](const QString& naam, const QString& tekst, QWidget* ouder) {
-        return MaakLabel(naam, tekst, ouder);
-    };
-    auto* vakken = new QGridLayout(Frame1);
-    vakken->addWidget(Label1, 0, 0);
-    vakken->addWidget(Combo1, 0, 1);
-    vakken->addWidget(label(u"Label3"_s, u"(eindigend op '_Rev')"_s, Frame1), 0, 2);
-    vakken->addWidget(cmdLeesSpelers, 1, 1);
-    vakken->addWidget(lstN2, 2, 0, 1, 3);
-    vakken->addWidget(Label4, 3, 0, 1, 3);
-    vakken->addWidget(
-        label(u"Label6"_s, u"Spelers worden toegevoegd aan spelergroep 'Gr08-'"_s, Frame1), 4, 0, 1,
-        3);
-    vakken->addWidget(label(u"Label7"_s, u"U kunt ze daar later weer uit verwijderen."_s, Frame1),
-                      5, 0, 1, 3);
-    vakken->addWidget(cmdStart, 6, 0, 1, 3);
-    vakken->setColumnStretch(1, 1);
-    vakken->setRowStretch(2, 1);
-
     auto* lagen = new QVBoxLayout(this);
     for (auto* waarschuwing :
-         {label(u"Label2"_s, u"Alleen gebruiken door deskundigen van de materie."_s, this),
-          label(u"Label5"_s, u"(u riskeert een corrupt ledenbestand)"_s, this)}) {
+         {MaakLabel(u"Label2"_s, u"Alleen gebruiken door deskundigen van de materie."_s, this),
+          MaakLabel(u"Label5"_s, u"(u riskeert een corrupt ledenbestand)"_s, this)}) {
         QFont vet = waarschuwing->font();
         vet.setBold(true);
         waarschuwing->setFont(vet);
         lagen->addWidget(waarschuwing);
     }
+    auto* Frame1 = new QGroupBox(this);
+    Noem(Frame1, u"Frame1"_s);
+    BouwKader(Frame1);
     lagen->addWidget(Frame1, 1);
+    OKButton = MaakKnop(u"OKButton"_s, u"Klaar en opslaan"_s, u'K', this);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
+    connect(OKButton, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, OKButton}));
+    for (QPushButton* later : {cmdLeesSpelers, cmdStart, OKButton})
+        later->setEnabled(false);
     const Maten maten;
     ZetOpSchuifblad(this);
     PasInScherm(this, {maten.Twips(7500), maten.Twips(7800)});
     ZetTabvolgorde({Combo1, cmdLeesSpelers, lstN2, cmdStart, cmdAnnuleren, OKButton});
+    // The first session is read when the window is there, so that its messages stand before it.
+    QTimer::singleShot(0, this, &diaToevoegen::VulZittingen);
 }
 
-void diaToevoegen::Verbind()
+void diaToevoegen::BouwKader(QGroupBox* Frame1)
 {
+    auto* Label1 = MaakLabel(u"Label1"_s, u"Kies een zitting:"_s, Frame1);
+    auto* Label3 = MaakLabel(u"Label3"_s, u"(eindigend op '_Rev')"_s, Frame1);
+    Label4 = MaakLabel(u"Label4"_s, u"..."_s, Frame1);
+    auto* Label6 =
+        MaakLabel(u"Label6"_s, u"Spelers worden toegevoegd aan spelergroep 'Gr08-'"_s, Frame1);
+    auto* Label7 = MaakLabel(u"Label7"_s, u"U kunt ze daar later weer uit verwijderen."_s, Frame1);
+    Combo1 = MaakKeus(u"Combo1"_s, Label1, Frame1);
+    lstN2 = new QListWidget(Frame1);
+    Noem(lstN2, u"lstN2"_s, u"Gevonden spelers"_s);
+    lstN2->setUniformItemSizes(true);
+    cmdLeesSpelers =
+        MaakKnop(u"cmdLeesSpelers"_s, u"Spelers ophalen uit deze zitting"_s, u'S', Frame1);
+    cmdStart =
+        MaakKnop(u"cmdStart"_s, u"Deze spelers toevoegen aan het ledenbestand"_s, u'D', Frame1);
     connect(Combo1, &QComboBox::currentIndexChanged, this, &diaToevoegen::KiesZitting);
     // The list in the session's folder may be changed meanwhile, and be read again.
     connect(Combo1, &QComboBox::activated, this, [this] { cmdLeesSpelers->setEnabled(true); });
     connect(cmdLeesSpelers, &QPushButton::clicked, this, &diaToevoegen::LeesNamen);
     connect(cmdStart, &QPushButton::clicked, this, &diaToevoegen::VoegToe);
-    connect(OKButton, &QPushButton::clicked, this, &diaToevoegen::Bewaar);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
-}
 
-/// The first session is read when the window is there, so that its messages stand before it.
-void diaToevoegen::showEvent(QShowEvent* gebeurtenis)
-{
-    QDialog::showEvent(gebeurtenis);
-    if (geladen_)
-        return;
-    geladen_ = true;
-    QTimer::singleShot(0, this, &diaToevoegen::VulZittingen);
+    auto* vakken = new QGridLayout(Frame1);
+    vakken->addWidget(Label1, 0, 0);
+    vakken->addWidget(Combo1, 0, 1);
+    vakken->addWidget(Label3, 0, 2);
+    vakken->addWidget(cmdLeesSpelers, 1, 1);
+    int rij = 2;
+    for (QWidget* deel : std::initializer_list<QWidget*>{lstN2, Label4, Label6, Label7, cmdStart})
+        vakken->addWidget(deel, rij++, 0, 1, 3);
+    vakken->setColumnStretch(1, 1);
+    vakken->setRowStretch(2, 1);
 }
 
 void diaToevoegen::VulZittingen()
@@ -197,12 +175,6 @@ void diaToevoegen::VoegToe()
     OKButton->setEnabled(true);
     OKButton->setDefault(true);
     OKButton->setFocus();
-}
-
-void diaToevoegen::Bewaar()
-{
-    bewaard_ = true;
-    accept();
 }
 
 void diaToevoegen::reject()

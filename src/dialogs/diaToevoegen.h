@@ -26,25 +26,19 @@ class diaToevoegen : public QDialog {
     diaToevoegen(Administratie& administratie, QWidget* ouder);
 
     /// Whether players were added and kept, so that there is something to save.
-    [[nodiscard]] bool ToegevoegdEnBewaard() const { return bewaard_; }
+    [[nodiscard]] bool ToegevoegdEnBewaard() const { return result() == Accepted; }
     /// The link file that goes with them. Their save decides whether it stands.
     [[nodiscard]] Koppelverslag NeemVerslag() { return std::move(vorige_.value().verslag); }
 
     /// "Annuleren", Escape and the close box: table, `HKEY` and link file become what they were.
     void reject() override;
 
-  protected:
-    void showEvent(QShowEvent* gebeurtenis) override;
-
   private:
-    void MaakDelen(QGroupBox* Frame1);
-    void Bouw();
-    void Verbind();
+    void BouwKader(QGroupBox* Frame1);
     void VulZittingen();
     void KiesZitting();
     void LeesNamen();
     void VoegToe();
-    void Bewaar();
     void MeldLeesfout(const QString& wat, const Fout& fout);
     [[nodiscard]] Tekst Zitting() const;
 
@@ -59,17 +53,13 @@ class diaToevoegen : public QDialog {
     std::vector<Sessiespeler> namen_;
     std::optional<Vorige> vorige_;
     std::string gemeld_; ///< the file of the last message about fetching a player list
-    bool geladen_ = false;
-    bool bewaard_ = false;
 
-    QLabel* Label1 = nullptr;
-    QComboBox* Combo1 = nullptr;
-    QPushButton* cmdLeesSpelers = nullptr;
-    QListWidget* lstN2 = nullptr;
-    QLabel* Label4 = nullptr;
-    QPushButton* cmdStart = nullptr;
-    QPushButton* OKButton = nullptr;
-    QPushButton* cmdAnnuleren = nullptr;
+    QComboBox* Combo1;
+    QPushButton* cmdLeesSpelers;
+    QListWidget* lstN2;
+    QLabel* Label4;
+    QPushButton* cmdStart;
+    QPushButton* OKButton;
 };
 
 } // namespace plexoran

@@ -15,6 +15,7 @@ namespace {
 constexpr Tekstblik Achtervoegsel = "_Rev";
 constexpr Tekstblik Spelersnaam = "Spelers.txt";
 constexpr Tekstblik Verslagnaam = "Koppelverslag.txt";
+constexpr std::size_t LengteKey = 6;
 
 Pad Zittingmap(const Mappen& mappen, Tekstblik zitting)
 {
@@ -38,42 +39,30 @@ bool IsRev(Tekstblik naam)
 
 bool IsSleutelwoord(Tekstblik woord)
 {
-    constexpr std::size_t lengte = 6;
-    return woord.size() == lengte && AlsGetal(woord, 1);
+    return woord.size() == LengteKey && ZijnCijfers(woord);
 }
 
 /// Without the words of six digits at its ends.
 Tekstblik ZonderKeys(Tekstblik naam)
 {
     naam = ZonderSpaties(naam);
-    for (;;) {
-        const auto eerste = naam.substr(0, naam.find(' '));
-        if (IsSleutelwoord(eerste)) {
-            naam = ZonderSpaties(naam.substr(eerste.size()));
-            continue;
-        }
-        const auto laatste = naam.substr(naam.rfind(' ') + 1);
-        if (!IsSleutelwoord(laatste))
-            return naam;
-        naam = ZonderSpaties(naam.substr(0, naam.size() - laatste.size()));
-    }
+    while (IsSleutelwoord(naam.substr(0, naam.find(' '))))
+        naam = ZonderSpaties(naam.substr(LengteKey));
+    while (IsSleutelwoord(naam.substr(naam.rfind(' ') + 1)))
+        naam = ZonderSpaties(naam.substr(0, naam.size() - LengteKey));
+    return naam;
 }
 
+/// What stands between the first and the last word is the particle; a single word is a surname.
 Sessiespeler Ontleed(Tekstblik naam, Tekstblik paar)
 {
-    Sessiespeler uit;
-    uit.paar = paar;
     const auto eerste = naam.find(' ');
-    if (eerste == Tekstblik::npos) {
-        uit.achternaam = naam;
-        return uit;
-    }
+    if (eerste == Tekstblik::npos)
+        return {{}, {}, Tekst(naam), Tekst(paar)};
     const auto laatste = naam.rfind(' ');
-    uit.voornaam = naam.substr(0, eerste);
-    uit.achternaam = naam.substr(laatste + 1);
-    if (laatste > eerste)
-        uit.tusv = ZonderSpaties(naam.substr(eerste, laatste - eerste));
-    return uit;
+    return {Tekst(naam.substr(0, eerste)),
+            Tekst(ZonderSpaties(naam.substr(eerste, laatste - eerste))),
+            Tekst(naam.substr(laatste + 1)), Tekst(paar)};
 }
 
 /// An item without "-" holds one name; the second player is nobody then.
@@ -85,18 +74,6 @@ Helften NamenVan(const Lijstpaar& paar, Tekstblik item)
     return SplitsHelften(paar.spelers).value_or(Helften{paar.spelers, {}});
 }
 
-Rijvelden NieuweRij(const Sessiespeler& speler, int nummer, std::int32_t key)
-{
-    Rijvelden rij;
-    rij[Plaats(Kolom::Nr)] = std::to_string(nummer);
-    rij[Plaats(Kolom::Key)] = std::to_string(key);
-    rij[Plaats(Kolom::Groep)] = Toevoeggroep;
-    rij[Plaats(Kolom::Voornaam)] = ZonderSpaties(speler.voornaam);
-    rij[Plaats(Kolom::Tusv)] = ZonderSpaties(speler.tusv);
-    rij[Plaats(Kolom::Achternaam)] = ZonderSpaties(speler.achternaam);
-    return rij;
-}
-
 /// Of a link file; lines of another form tell nothing.
 std::int32_t HoogsteKeyIn(Tekstblik verslag)
 {
@@ -105,7 +82,7 @@ std::int32_t HoogsteKeyIn(Tekstblik verslag)
         const auto paar = PaarUit(regel);
         const auto keys = paar ? SplitsHelften(paar->spelers) : std::nullopt;
         for (const Tekstblik key : {keys ? keys->eerste : "", keys ? keys->tweede : ""}) {
-            if (AlsGetal(key, 1))
+            if (ZijnCijfers(key))
                 hoogste = std::max(hoogste, Geheel32(key).value_or(0));
         }
     }
@@ -140,14 +117,11 @@ Uitkomst<std::vector<Tekst>> RevZittingen(Schijf& schijf, const Mappen& mappen)
 
 Uitkomst<Tekst> LeesClubnaam(Schijf& schijf, const Mappen& mappen)
 {
-    const auto inhoud = LeesAlsErIs(schijf, Clubnaampad(mappen));
-    if (!inhoud)
-        return tl::unexpected(inhoud.error());
-    if (!*inhoud)
-        return Tekst();
-    const auto regels = Regels(**inhoud);
-    const auto eerste = regels.begin();
-    return eerste == regels.end() ? Tekst() : Tekst(ZonderSpaties(*eerste));
+    return LeesAlsErIs(schijf, Clubnaampad(mappen)).map([](const std::optional<Tekst>& inhoud) {
+        const auto regels = Regels(inhoud ? Tekstblik(*inhoud) : Tekstblik());
+        const auto eerste = regels.begin();
+        return eerste == regels.end() ? Tekst() : Tekst(ZonderSpaties(*eerste));
+    });
 }
 
 Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
@@ -177,12 +151,8 @@ Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik 
 
 Tekst Toevoegregel(const Sessiespeler& speler)
 {
-    Tekst uit;
-    for (const Tekst& veld : {speler.voornaam, speler.tusv, speler.achternaam}) {
-        uit += AlsVeld(veld);
-        uit += ',';
-    }
-    return uit + AlsVeld(speler.paar);
+    return AlsVeld(speler.voornaam) + ',' + AlsVeld(speler.tusv) + ',' +
+           AlsVeld(speler.achternaam) + ',' + AlsVeld(speler.paar);
 }
 
 Sessiespelers SessiespelersUit(Tekstblik inhoud)
@@ -224,11 +194,9 @@ Uitkomst<Sessiespelers> LeesSessieSpelers(Schijf& schijf, const Mappen& mappen, 
 
 bool IsNiemand(const Sessiespeler& speler)
 {
-    const Tekstblik voornaam = ZonderSpaties(speler.voornaam);
-    const Tekstblik achternaam = ZonderSpaties(speler.achternaam);
-    if (voornaam.empty() && (achternaam.empty() || IsAfwezig(achternaam)))
+    if (speler.voornaam.empty() && (speler.achternaam.empty() || IsAfwezig(speler.achternaam)))
         return true;
-    return IsAfwezig(voornaam) || (voornaam == "STIL" && achternaam == "ZIT");
+    return IsAfwezig(speler.voornaam) || (speler.voornaam == "STIL" && speler.achternaam == "ZIT");
 }
 
 std::optional<Tekst> VoegSpelersToe(Register& spelers, const std::vector<Sessiespeler>& namen)
@@ -246,9 +214,10 @@ std::optional<Tekst> VoegSpelersToe(Register& spelers, const std::vector<Sessies
     for (std::size_t i = 0; i < namen.size(); ++i) {
         Tekst key = "0";
         if (!IsNiemand(namen[i])) {
-            const std::int32_t nieuw = NieuweSleutel(spelers).value();
-            spelers.tabel.VoegToe(NieuweRij(namen[i], spelers.tabel.Rijen() + 1, nieuw));
-            key = std::to_string(nieuw);
+            key = std::to_string(NieuweSleutel(spelers).value());
+            spelers.tabel.VoegToe({std::to_string(spelers.tabel.Rijen() + 1), key,
+                                   Tekst(Toevoeggroep), namen[i].voornaam, namen[i].tusv,
+                                   namen[i].achternaam});
         }
         if (i % 2 == 0)
             verslag.append(namen[i].paar).append(" ").append(key);
