@@ -28,15 +28,8 @@ using Sorteerranden = std::array<float, AantalSorteervelden + 1>;
 /// The field, from 1, that is printed bold: the one that the list is sorted by.
 [[nodiscard]] constexpr int VetVeld(Sorteersoort soort)
 {
-    switch (soort) {
-    case Sorteersoort::Key:
-        return 1;
-    case Sorteersoort::NBBnr:
-        return 6;
-    case Sorteersoort::NBBgroep:
-        break;
-    }
-    return 5;
+    constexpr std::array velden{1, 6, 5}; // by kind
+    return velden[static_cast<std::size_t>(soort) - 1];
 }
 
 } // namespace plexoran
