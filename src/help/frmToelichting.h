@@ -1,9 +1,8 @@
-// Explains the register as a whole, and prints the explanation.
+// The windows that explain.
 #pragma once
 
 #include <QDialog>
 #include <QPlainTextEdit>
-#include <QPushButton>
 
 #include <functional>
 
@@ -11,6 +10,7 @@
 
 namespace plexoran {
 
+/// Explains the register as a whole, and prints the explanation.
 class frmToelichting : public QDialog {
     Q_OBJECT
 
@@ -21,14 +21,18 @@ class frmToelichting : public QDialog {
     explicit frmToelichting(QWidget* hoofdvenster, Printerkeus printer = StandaardPrinter);
 
   private:
-    void Bouw();
-    void Print();
-    [[nodiscard]] Uitkomst<void> PrintTekst() const;
+    [[nodiscard]] Uitkomst<void> Print() const;
 
     Printerkeus printer_;
-    QPlainTextEdit* Text1 = nullptr;
-    QPushButton* cmdPrintToel = nullptr;
-    QPushButton* cmdEinde = nullptr;
+    QPlainTextEdit* Text1;
+};
+
+/// Explains pairs, groups and subgroups.
+class frmUitleg : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmUitleg(QWidget* ouder);
 };
 
 } // namespace plexoran

@@ -4,7 +4,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
-#include "help/frmUitleg.h"
+#include "help/frmToelichting.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 

@@ -18,7 +18,6 @@
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
 #include "help/frmToelichting.h"
-#include "help/frmUitleg.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/lijsten.h"
 #include "pairs/frmParenOnderhoud.h"

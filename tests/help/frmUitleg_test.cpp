@@ -1,4 +1,4 @@
-#include "help/frmUitleg.h"
+#include "help/frmToelichting.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
