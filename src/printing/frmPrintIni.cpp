@@ -46,9 +46,10 @@ void frmPrintIni::MaakDelen()
     };
     Label1 = label(u"Label1"_s, u"Te printen Rubrieken (kolommen)"_s);
     Label2 = label(u"Label2"_s, u"Gekozen Groep:"_s);
-    Label3 = label(u"Label3"_s, NaarQString(groeptekst_));
-    // A long name must not make the window wider than the screen.
-    Label3->setWordWrap(true);
+    Label3 = new Kortlabel(NaarQString(groeptekst_), this);
+    Noem(Label3, u"Label3"_s);
+    Label3->setTextFormat(Qt::PlainText);
+    // A long name must not push the window's other parts away.
     Label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     ZetWenk(Label3, Label3->text());
     Label4 = label(u"Label4"_s, u"Printuitvoer verkleinen of vergroten:"_s);

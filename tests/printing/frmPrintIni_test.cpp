@@ -10,6 +10,7 @@
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
+#include "hulp/tekstvanger.h"
 #include "printing/printproef.h"
 
 using namespace plexoran;
@@ -100,18 +101,28 @@ TEST_F(frmPrintIniTest, DeSchaalIsTeLezen)
     EXPECT_GE(vak.width(), cmbSchaal->fontMetrics().horizontalAdvance(u"0,7 "_s));
 }
 
-TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietBreder)
+TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
 {
     ASSERT_NO_FATAL_FAILURE(Open("Gr01-"));
-    const int breed = venster->width();
-    for (const Tekst& naam : {"Gr01-" + Tekst(300, 'x'), Tekst("Gr01-een naam van veel woorden ") +
-                                                             "die op een enkele regel van het "
-                                                             "venster niet allemaal passen"}) {
+    const QSize maat = venster->size();
+    const QSize lijst = Lijst("lstKeus")->size();
+    Tekst woorden = "Gr01-";
+    for (int i = 0; i < 200; ++i)
+        woorden += "een naam van veel ";
+    for (const Tekst& naam : {"Gr01-" + Tekst(3000, 'x'), woorden}) {
         ASSERT_NO_FATAL_FAILURE(Open(naam));
-        EXPECT_EQ(breed, venster->width());
-        const auto* label = Vind<QLabel>(*venster, "Label3");
+        EXPECT_EQ(maat, venster->size());
+        EXPECT_EQ(lijst, Lijst("lstKeus")->size());
+        auto* label = Vind<QLabel>(*venster, "Label3");
+        EXPECT_EQ(naam, label->text().toStdString());
         EXPECT_EQ(naam, label->toolTip().toStdString());
-        EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+        Tekstvanger vanger(label->size());
+        label->render(&vanger, {}, {}, QWidget::RenderFlags());
+        ASSERT_EQ(1U, vanger.Teksten().size());
+        const Getekend getekend = vanger.Teksten().front();
+        EXPECT_TRUE(getekend.tekst.starts_with("Gr01-") && getekend.tekst.ends_with("..."))
+            << getekend.tekst;
+        EXPECT_LE(getekend.breed, label->width());
     }
 }
 

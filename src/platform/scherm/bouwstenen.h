@@ -78,6 +78,20 @@ class Kortknop : public Knop {
     }
 };
 
+/// Shows the beginning of a text that does not fit on its one line.
+class Kortlabel : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void paintEvent(QPaintEvent* /*gebeurtenis*/) override
+    {
+        QStylePainter schilder(this);
+        schilder.drawItemText(rect(), static_cast<int>(alignment()), palette(), isEnabled(),
+                              Ingekort(fontMetrics(), text(), width()), foregroundRole());
+    }
+};
+
 [[nodiscard]] inline QPushButton* MaakKnop(const QString& naam, const QString& tekst,
                                            char16_t letter, QWidget* ouder)
 {
