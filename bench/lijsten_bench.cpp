@@ -37,13 +37,13 @@ Tekst Proeftekst(int spelers, Verdeling verdeling)
     uit.tabel = SpelersUit(MaakRegister(spelers, verdeling)).tabel.value_or(Spelertabel());
     for (int rij = 1; rij <= uit.tabel.Rijen(); ++rij) {
         Rijvelden velden = uit.tabel.Velden(rij);
-        velden[Plaats(Kolom::Achternaam)] += Toevoegsel(rij);
+        velden[Index(Kolom::Achternaam)] += Toevoegsel(rij);
         if (rij % ElkeDubbele == 0) {
             for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam})
-                velden[Plaats(kolom)] = uit.tabel.Cel(rij / 2, kolom);
+                velden[Index(kolom)] = uit.tabel.Cel(rij / 2, kolom);
         }
         if (rij % 2 == 0)
-            velden[Plaats(Kolom::NBBgr)] = Subgroep;
+            velden[Index(Kolom::NBBgr)] = Subgroep;
         uit.tabel.ZetRij(rij, velden);
     }
     return SpelersTekst(uit);

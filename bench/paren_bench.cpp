@@ -28,10 +28,10 @@ Tekst Proeftekst()
         SpelersUit(MaakRegister(Spelers, Verdeling::EenGroep)).tabel.value_or(Spelertabel());
     for (int rij = 1; rij <= uit.tabel.Rijen(); ++rij) {
         Rijvelden velden = uit.tabel.Velden(rij);
-        velden[Plaats(Kolom::Achternaam)] += static_cast<char>('a' + rij % 26);
-        velden[Plaats(Kolom::Voornaam)] += static_cast<char>('a' + rij / 26 % 26);
-        velden[Plaats(Kolom::NBBgr)].clear();
-        velden[Plaats(Kolom::Status)].clear();
+        velden[Index(Kolom::Achternaam)] += static_cast<char>('a' + rij % 26);
+        velden[Index(Kolom::Voornaam)] += static_cast<char>('a' + rij / 26 % 26);
+        velden[Index(Kolom::NBBgr)].clear();
+        velden[Index(Kolom::Status)].clear();
         uit.tabel.ZetRij(rij, velden);
     }
     return SpelersTekst(uit);

@@ -6,7 +6,7 @@
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/greep.h"
+#include "platform/schijf/systeempad.h"
 #include "register/spelerbestand.h"
 
 #ifdef __linux__
@@ -94,8 +94,10 @@ std::filesystem::path Verwijderd(const std::filesystem::path& pad)
 
 bool SchrijfEnSync(const std::filesystem::path& pad, Tekstblik bytes)
 {
-    systeem::Greep greep;
-    return !greep.MaakNieuw(pad) && !greep.Schrijf(bytes) && !greep.Sync() && !greep.Sluit();
+    EchteSchijf schijf;
+    const auto schrijver = schijf.MaakNieuw(PadVan(pad));
+    return schrijver && (*schrijver)->Schrijf(bytes) && (*schrijver)->Sync() &&
+           (*schrijver)->Sluit();
 }
 
 void SchrijvenGrens(benchmark::State& meting)

@@ -7,7 +7,6 @@
 
 #include "hulp/meten.h"
 #include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/greep.h"
 #include "platform/schijf/systeempad.h"
 #include "sessions/koppelen.h"
 
@@ -190,9 +189,9 @@ void KoppelenOveralGrens(benchmark::State& meting)
     };
     Meet(meting, ruimOp, [&](int) {
         for (std::size_t i = 0; i < bestanden.size(); ++i) {
-            systeem::Greep greep;
-            Eis(meting, !greep.MaakNieuw(nieuw(bestanden[i])) && !greep.Schrijf(inhouden[i]) &&
-                            !greep.Sync() && !greep.Sluit());
+            const auto schrijver = competitie.schijf.MaakNieuw(PadVan(nieuw(bestanden[i])));
+            Eis(meting, schrijver && (*schrijver)->Schrijf(inhouden[i]) && (*schrijver)->Sync() &&
+                            (*schrijver)->Sluit());
         }
     });
     ruimOp();

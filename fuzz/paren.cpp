@@ -46,10 +46,10 @@ Spelertabel TabelUit(const Tekst& inhoud)
     Spelertabel tabel;
     for (std::size_t i = 0; i + 12 <= inhoud.size() && tabel.Rijen() < 40; i += 12) {
         Rijvelden velden;
-        velden[Plaats(Kolom::Key)] = inhoud.substr(i, 6);
-        velden[Plaats(Kolom::Groep)] = "Gr01-";
-        velden[Plaats(Kolom::Achternaam)] = inhoud.substr(i + 6, 5);
-        velden[Plaats(Kolom::Voornaam)] = inhoud.substr(i / 2, 7);
+        velden[Index(Kolom::Key)] = inhoud.substr(i, 6);
+        velden[Index(Kolom::Groep)] = "Gr01-";
+        velden[Index(Kolom::Achternaam)] = inhoud.substr(i + 6, 5);
+        velden[Index(Kolom::Voornaam)] = inhoud.substr(i / 2, 7);
         tabel.VoegToe(velden);
     }
     return tabel;

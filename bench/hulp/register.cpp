@@ -71,9 +71,9 @@ Tekst Kleingeschreven(Tekstblik naam)
 
 Tekst Postadres(const Rijvelden& velden, Tekstblik bus)
 {
-    Tekst uit = Kleingeschreven(velden[Plaats(Kolom::Voornaam)]);
+    Tekst uit = Kleingeschreven(velden[Index(Kolom::Voornaam)]);
     uit += '.';
-    uit += Kleingeschreven(velden[Plaats(Kolom::Achternaam)]);
+    uit += Kleingeschreven(velden[Index(Kolom::Achternaam)]);
     uit += '@';
     uit += bus;
     return uit;
@@ -85,7 +85,7 @@ Rijvelden MaakSpeler(Dobbelsteen& dobbelsteen, int nummer, Verdeling verdeling)
         return std::to_string(vanaf + dobbelsteen.Gooi(zijden));
     };
     Rijvelden velden;
-    const auto veld = [&](Kolom kolom) -> Tekst& { return velden[Plaats(kolom)]; };
+    const auto veld = [&](Kolom kolom) -> Tekst& { return velden[Index(kolom)]; };
     const int groep = 1 + static_cast<int>(dobbelsteen.Gooi(AantalGroepen));
     veld(Kolom::Nr) = std::to_string(nummer);
     veld(Kolom::Key) = std::to_string(Sleutelbasis + nummer);

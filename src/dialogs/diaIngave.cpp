@@ -115,7 +115,7 @@ QWidget* diaIngave::BouwVelden()
 void diaIngave::BouwVeld(int veld, QGridLayout* rooster)
 {
     const auto kolom = static_cast<Kolom>(veld);
-    const QString naam = NaarQString(Kolomnamen[Plaats(kolom)]);
+    const QString naam = NaarQString(Kolomnamen[Index(kolom)]);
     QWidget* velden = rooster->parentWidget();
 
     auto* label = MaakLabel(u"lbl1_%1"_s.arg(veld), Opschrift(kolom), velden);
@@ -123,7 +123,7 @@ void diaIngave::BouwVeld(int veld, QGridLayout* rooster)
     rooster->addWidget(label, veld, 0, Qt::AlignRight);
     auto* vak = new Tekstvak(velden);
     Noem(vak, u"txt1_%1"_s.arg(veld), naam);
-    vak->ZetTekst(Begintekst(kolom, ingave_.IngaveVelden[Plaats(kolom)]));
+    vak->ZetTekst(Begintekst(kolom, ingave_.IngaveVelden[Index(kolom)]));
     label->setBuddy(vak);
     vak->ZetToetsregel(
         [kolom](char teken, std::size_t lengte) { return TypTeken(kolom, teken, lengte); });
@@ -173,7 +173,7 @@ QString diaIngave::Opschrift(Kolom kolom) const
         return u"Subgroep"_s;
     if (kolom == Kolom::NBBnr && !ingave_.importgroep)
         return u"-----"_s;
-    return NaarQString(Kolomnamen[Plaats(kolom)]) + u':';
+    return NaarQString(Kolomnamen[Index(kolom)]) + u':';
 }
 
 QWidget* diaIngave::BouwGeslacht(QWidget* velden)

@@ -1,6 +1,6 @@
 #include "dialogs/groepswerk.h"
 
-#include "register/sleutelwijzer.h"
+#include "register/spelertabel.h"
 #include "register/waardenlijst.h"
 
 namespace plexoran {

@@ -1,6 +1,6 @@
 #include "dialogs/ingave.h"
 
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "platform/schijf/heelschrijven.h"
-#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
+#include "platform/tekst/tekst.h"
 #include "platform/tekst/tekstorde.h"
 #include "sessions/sessiemappen.h"
 

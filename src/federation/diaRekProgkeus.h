@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "register/rekenprogramma.h"
+#include "register/administratie.h"
 
 namespace plexoran {
 

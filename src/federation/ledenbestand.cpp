@@ -3,7 +3,7 @@
 #include "federation/ledendatabase.h"
 #include "federation/ledenxml.h"
 #include "platform/tekst/codepagina.h"
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

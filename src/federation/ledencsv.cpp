@@ -111,8 +111,6 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
     constexpr int elkeZoveel = 4096;
     const Herkomsten herkomsten = HerkomstenVan(keuzes);
     Ledenlezing uit;
-    uit.lstN1.Reserveer(static_cast<std::size_t>(std::count(tekst.begin(), tekst.end(), '\n')) + 1,
-                        tekst.size());
     Tekst importregel;
     int nummer = 0;
     for (const Tekstblik regel : Regels(tekst)) {
@@ -121,9 +119,9 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
         if (IsBlanco(regel))
             continue;
         if (regel.find('=') != Tekstblik::npos) {
-            uit.metIsTeken.VoegToe(regel);
+            uit.metIsTeken.emplace_back(regel);
         } else if (MaakImportregel(importregel, regel, herkomsten)) {
-            uit.lstN1.VoegToe(importregel);
+            uit.lstN1.emplace_back(importregel);
         } else {
             uit.teKorteRegel = nummer;
             break;

@@ -12,9 +12,9 @@
 #include <optional>
 
 #include "federation/importregel.h"
+#include "platform/schijf/fout.h"
 #include "platform/schijf/schijf.h"
-#include "platform/schijf/voortgang.h"
-#include "platform/tekst/tekstlijst.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 
@@ -60,10 +60,10 @@ void VoegLidToe(Tekst& regels, const Lidrij& lid);
 
 /// What was read of a member file.
 struct Ledenlezing {
-    Tekstlijst lstN1;      ///< import lines in the order of the file
-    Tekstlijst metIsTeken; ///< lines left out because of a "="
-    int teKorteRegel = 0;  ///< line, from 1, at which reading ended for want of columns; 0: none
-    bool inUtf8 = false;   ///< an exported CSV that was saved as UTF-8, and read byte by byte
+    std::vector<Tekst> lstN1;      ///< import lines in the order of the file
+    std::vector<Tekst> metIsTeken; ///< lines left out because of a "="
+    int teKorteRegel = 0; ///< line, from 1, at which reading ended for want of columns; 0: none
+    bool inUtf8 = false;  ///< an exported CSV that was saved as UTF-8, and read byte by byte
     std::size_t vervangenTekens = 0; ///< characters that the code page lacks
     std::optional<Fout> nietGeladen; ///< an NBBR-4 file that could not be loaded has no members
     /// Database: the number of the member file that was read, when it is not that of the entry.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "federation/ledencsv.h"
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {

@@ -7,8 +7,8 @@
 
 #include <optional>
 
+#include "platform/schijf/fout.h"
 #include "platform/schijf/schijf.h"
-#include "platform/schijf/voortgang.h"
 
 namespace plexoran {
 

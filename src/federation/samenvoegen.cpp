@@ -1,6 +1,6 @@
 #include "federation/samenvoegen.h"
 
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {
@@ -81,7 +81,7 @@ class Samenvoeger {
         std::size_t over = 0;
         for (const std::size_t i : lstN2_) {
             if (NBBnrIndex_.Bevat(i)) {
-                uitkomst.overgeslagen.VoegToe(opdracht_.lstN1[i]);
+                uitkomst.overgeslagen.push_back(opdracht_.lstN1[i]);
             } else {
                 NBBnrIndex_.Voeg(nummers_[i]);
                 lstN2_[over++] = i;
@@ -132,13 +132,13 @@ class Samenvoeger {
         const Tekst nr = std::to_string(spelers_.tabel.Rijen() + 1);
         const Tekst key = std::to_string(NieuweSleutel(spelers_).value());
         Rijblikken cellen;
-        cellen[Plaats(Kolom::Nr)] = nr;
-        cellen[Plaats(Kolom::Key)] = key;
-        cellen[Plaats(Kolom::Groep)] = opdracht_.importgroep;
+        cellen[Index(Kolom::Nr)] = nr;
+        cellen[Index(Kolom::Key)] = key;
+        cellen[Index(Kolom::Groep)] = opdracht_.importgroep;
         for (const auto& [kolom, veld] : Herkomst)
-            cellen[Plaats(kolom)] = ZonderSpaties(velden[veld]);
-        cellen[Plaats(Kolom::NBBgr)] = NBBgr_;
-        cellen[Plaats(Kolom::NBBnr)] = Nummer(velden);
+            cellen[Index(kolom)] = ZonderSpaties(velden[veld]);
+        cellen[Index(Kolom::NBBgr)] = NBBgr_;
+        cellen[Index(Kolom::NBBnr)] = Nummer(velden);
         spelers_.tabel.VoegRijToe(cellen);
     }
 

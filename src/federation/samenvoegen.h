@@ -11,16 +11,16 @@
 #include <tl/expected.hpp>
 
 #include "federation/importregel.h"
-#include "platform/schijf/voortgang.h"
-#include "platform/tekst/tekstlijst.h"
+#include "platform/schijf/fout.h"
+#include "platform/tekst/tekst.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {
 
 struct Samenvoegopdracht {
-    Tekst importgroep; ///< code of the group
-    Tekst subgroep;    ///< name of the member file; becomes the member group in capitals
-    Tekstlijst lstN1;  ///< import lines in the order of the file
+    Tekst importgroep;        ///< code of the group
+    Tekst subgroep;           ///< name of the member file; becomes the member group in capitals
+    std::vector<Tekst> lstN1; ///< import lines in the order of the file
 };
 
 /// What became of the lines of one member file.
@@ -30,7 +30,7 @@ struct Samenvoeging {
     Tekst ZonderNBBnr;                 ///< lines without a federation number, each with CR LF
     /// Lines that did neither: their number occurs in the index, but no row bears just that text,
     /// or an earlier line of the file brought it.
-    Tekstlijst overgeslagen;
+    std::vector<Tekst> overgeslagen;
 };
 
 enum class Samenvoegfout {

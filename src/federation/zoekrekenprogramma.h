@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "platform/bronnen/instellingenwinkel.h"
-#include "register/rekenprogramma.h"
+#include "register/administratie.h"
 
 namespace plexoran {
 

@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {

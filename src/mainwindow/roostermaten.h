@@ -4,7 +4,7 @@
 
 #include <span>
 
-#include "platform/tekst/tekstmeter.h"
+#include "platform/tekst/tekenvlak.h"
 #include "register/spelertabel.h"
 
 namespace plexoran {

@@ -20,8 +20,8 @@ Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)
     Groepsbeeld beeld;
     beeld.importgroep = groepscode == mappen.DFIMPG;
     if (!beeld.importgroep) {
-        beeld.kolomnamen[Plaats(Kolom::NBBgr)] = "Subgr";
-        beeld.kolomnamen[Plaats(Kolom::NBBnr)] = "";
+        beeld.kolomnamen[Index(Kolom::NBBgr)] = "Subgr";
+        beeld.kolomnamen[Index(Kolom::NBBnr)] = "";
     }
     if (heeftWoord("ODNBB4SP"))
         beeld.cmdHaalNBBnamen = Zichtbaarheid::Verbergen;

@@ -4,7 +4,7 @@
 
 #include "pairs/paarregel.h"
 #include "platform/schijf/heelschrijven.h"
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

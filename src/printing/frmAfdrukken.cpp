@@ -9,7 +9,7 @@
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/printer.h"
 #include "platform/schijf/klok.h"
-#include "register/groepscode.h"
+#include "register/groepen.h"
 
 namespace plexoran {
 namespace {

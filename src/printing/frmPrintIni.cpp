@@ -7,7 +7,7 @@
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
 #include "printing/frmAfdrukken.h"
-#include "register/groepscode.h"
+#include "register/groepen.h"
 
 namespace plexoran {
 namespace {
@@ -139,7 +139,7 @@ void frmPrintIni::Vul()
 {
     lstKeus->Vul(AantalPrintkolommen, [this](int plaats) {
         const Kolom kolom = PrintkolomOp(plaats);
-        const Tekstblik naam = kolomnamen_[Plaats(kolom)];
+        const Tekstblik naam = kolomnamen_[Index(kolom)];
         // Outside the import group the last column has no name.
         return naam.empty() ? "(kolom " + std::to_string(static_cast<int>(kolom)) + ")"
                             : Tekst(naam);

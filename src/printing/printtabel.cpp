@@ -98,7 +98,7 @@ Printtabel MaakPrinttabel(const Spelertabel& tabel, const Printopdracht& opdrach
     std::vector<int> rijen = RijenVan(tabel, opdracht);
     std::vector<Tekst> titels;
     for (const Kolom kolom : opdracht.kolommen)
-        titels.emplace_back(opdracht.kolomnamen[Plaats(kolom)]);
+        titels.emplace_back(opdracht.kolomnamen[Index(kolom)]);
     const auto naam = std::find_if(titels.begin(), titels.end(), [](const Tekst& titel) {
         return Hoofdletters(titel) == SorteerkolomInHoofdletters;
     });

@@ -1,15 +1,27 @@
-// What more than one window uses. `main` owns it, windows receive it by reference.
+// What more than one window uses.
 #pragma once
 
 #include "platform/bronnen/instellingenwinkel.h"
 #include "platform/schijf/programma.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
-#include "register/rekenprogramma.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {
 
+enum class Programma { Geen = 0, NBBR = 1, BridgeIt = 2 };
+
+/// Which of the two scoring programs with a member database is installed, and where its data lie.
+struct Rekenprogramma {
+    bool NBBRaanwezig = false;
+    bool BRITaanwezig = false;
+    Programma GekozenProgramma = Programma::Geen;
+    Tekst DataRoot;      ///< the chosen program's data folder; empty without one
+    Tekst ProgrammaCode; ///< "NBBR" or "BRIT"
+    Tekst ProgrammaNaam; ///< for captions
+};
+
+/// `main` owns it, windows receive it by reference.
 struct Administratie {
     Schijf& schijf;
     Instellingenwinkel& winkel;        ///< what other programs left for this user

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {
@@ -24,7 +24,7 @@ bool HeeftGroepscode(Tekstblik item)
 
 void Groepen::ZetNaam(int nummer, Tekstblik naam)
 {
-    namen_.at(Plaats(nummer)) = AlsVeld(naam);
+    namen_.at(Index(nummer)) = AlsVeld(naam);
 }
 
 std::vector<Tekst> Groepen::Toonteksten() const

@@ -6,22 +6,37 @@
 //
 // A name is known by its place: the n-th item that begins with "Gr" is the n-th group, whatever
 // number stands in it. An item ends at a comma or a line end; other items are passed over.
+// "Gr", two digits and "-" are the code of a group.
 #pragma once
 
 #include <array>
 #include <optional>
 #include <vector>
 
-#include "register/groepscode.h"
 #include "register/mappen.h"
 #include "register/reservekopie.h"
 
 namespace plexoran {
 
+inline constexpr int AantalGroepen = 50;
+inline constexpr std::size_t LengteGroepscode = 5;
+
+/// "Gr01-" to "Gr50-"; `nummer` counts from 1.
+[[nodiscard]] inline Tekst Groepscode(int nummer)
+{
+    return "Gr" + MetNullen(nummer, 2) + "-";
+}
+
+/// The group code of a text that begins with one, such as a drop-down's: its first five characters.
+[[nodiscard]] inline Tekstblik CodeUit(Tekstblik tekst)
+{
+    return tekst.substr(0, LengteGroepscode);
+}
+
 class Groepen {
   public:
     /// `nummer` counts from 1.
-    [[nodiscard]] const Tekst& Naam(int nummer) const { return namen_.at(Plaats(nummer)); }
+    [[nodiscard]] const Tekst& Naam(int nummer) const { return namen_.at(Index(nummer)); }
     /// A comma cannot stand in the file; it is kept out by the windows and, last, here: it becomes
     /// an underscore, a line end a space.
     void ZetNaam(int nummer, Tekstblik naam);
@@ -35,7 +50,7 @@ class Groepen {
     [[nodiscard]] std::vector<Tekst> Toonteksten() const;
 
   private:
-    static std::size_t Plaats(int nummer) { return static_cast<std::size_t>(nummer - 1); }
+    static std::size_t Index(int nummer) { return static_cast<std::size_t>(nummer - 1); }
 
     std::array<Tekst, AantalGroepen> namen_;
 };

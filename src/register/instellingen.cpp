@@ -1,7 +1,7 @@
 #include "register/instellingen.h"
 
-#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
+#include "platform/tekst/tekst.h"
 #include "register/reservekopie.h"
 
 namespace plexoran {
@@ -63,8 +63,7 @@ Uitkomst<void> SchrijfInstellingen(Schijf& schijf, const Mappen& mappen,
                                    const Instellingen& instellingen)
 {
     if (mappen.ADMMAP.empty())
-        return tl::unexpected(
-            Fout{.soort = Foutsoort::Ontbreekt, .bestand = "Plexo.ini", .regel = 0, .systeem = {}});
+        return Mislukt({.soort = Foutsoort::Ontbreekt, .bestand = "Plexo.ini"});
     return VervangMetKopie(schijf, mappen.SPEMAP, mappen.Instellingenbestand(),
                            InstellingenTekst(instellingen), IsInstellingenbestand);
 }

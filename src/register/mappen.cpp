@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {
@@ -84,10 +84,9 @@ Uitkomst<Mappen> LeesMappenIni(Schijf& schijf, const Pad& pad)
     return schijf.LeesBestand(pad).and_then([&](const Tekst& inhoud) -> Uitkomst<Mappen> {
         Mappen mappen = MappenUit(inhoud);
         if (mappen.SPEMAP.empty())
-            return tl::unexpected(Fout{.soort = Foutsoort::Beschadigd,
-                                       .bestand = schijf.Toonpad(pad),
-                                       .regel = 0,
-                                       .systeem = mappen.bezwaar});
+            return Mislukt({.soort = Foutsoort::Beschadigd,
+                            .bestand = schijf.Toonpad(pad),
+                            .systeem = mappen.bezwaar});
         return mappen;
     });
 }

@@ -26,7 +26,7 @@ Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
     for (int volgnummer = 2;; ++volgnummer) {
         const auto wat = schijf.Soort(pad);
         if (!wat)
-            return tl::unexpected(wat.error());
+            return Mislukt(wat);
         if (*wat == Padsoort::Niets)
             return pad;
         pad = basis + "-" + std::to_string(volgnummer) + soort;
@@ -46,7 +46,7 @@ Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad&
         .and_then([&](const Pad& kopie) -> Uitkomst<Pad> {
             const auto inhoud = schijf.LeesBestand(bestand);
             if (!inhoud)
-                return tl::unexpected(inhoud.error());
+                return Mislukt(inhoud);
             return SchrijfHeel(schijf, kopie, *inhoud).map([&] { return kopie; });
         })
         .map_error([](Fout fout) {
@@ -58,32 +58,33 @@ Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad&
 Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
                                Tekstblik nieuw, const std::function<bool(Tekstblik)>& magWeg)
 {
-    const auto oud = schijf.LeesBestand(bestand);
-    if (!oud && oud.error().soort != Foutsoort::Ontbreekt)
-        return tl::unexpected(oud.error());
-    if (oud && *oud == nieuw)
+    const auto oud = AlsErIs(schijf.LeesBestand(bestand));
+    if (!oud)
+        return Mislukt(oud);
+    if (*oud == nieuw)
         return {};
-    if (oud && !IsLeeg(*oud) && !magWeg(*oud)) {
+    if (*oud && !IsLeeg(**oud) && !magWeg(**oud)) {
         const auto kopie = MaakReservekopie(schijf, spelersmap, bestand);
         if (!kopie)
-            return tl::unexpected(kopie.error());
+            return Mislukt(kopie);
     }
     return SchrijfHeel(schijf, bestand, nieuw);
 }
 
 Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand, Tekst nieuw)
 {
-    const auto oud = schijf.LeesBestand(bestand);
-    if (!oud && oud.error().soort != Foutsoort::Ontbreekt)
-        return {.gemaakt = tl::unexpected(oud.error())};
-    if (oud && !IsBlanco(EersteItem(*oud)))
+    const auto gelezen = AlsErIs(schijf.LeesBestand(bestand));
+    if (!gelezen)
+        return {.gemaakt = Mislukt(gelezen)};
+    const Tekst oud = gelezen->value_or(Tekst());
+    if (!IsBlanco(EersteItem(oud)))
         return {};
     Aanmaak uit{.nieuw = std::move(nieuw)};
-    if (oud && !IsLeeg(*oud)) {
-        uit.inhoud = *oud;
+    if (!IsLeeg(oud)) {
+        uit.inhoud = oud;
         const auto kopie = MaakReservekopie(schijf, spelersmap, bestand);
         if (!kopie) {
-            uit.gemaakt = tl::unexpected(kopie.error());
+            uit.gemaakt = Mislukt(kopie);
             return uit;
         }
         uit.kopie = *kopie;

@@ -4,53 +4,14 @@
 #include <limits>
 
 #include "platform/schijf/heelschrijven.h"
-#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
+#include "platform/tekst/tekst.h"
 #include "register/groepen.h"
 
 namespace plexoran {
 namespace {
 
-constexpr std::size_t eersteIngaveveld = Plaats(Kolom::Voornaam);
-
-/// The stamp of the file; none when it is missing.
-Uitkomst<std::optional<Stempel>> StempelVan(Schijf& schijf, const Pad& pad)
-{
-    const auto stempel = schijf.NeemStempel(pad);
-    if (stempel)
-        return *stempel;
-    if (stempel.error().soort == Foutsoort::Ontbreekt)
-        return std::nullopt;
-    return tl::unexpected(stempel.error());
-}
-
-void VoegRijToe(Tekst& tekst, const Spelertabel& tabel, int rij)
-{
-    if (tabel.Cel(rij, Kolom::Key).empty())
-        return;
-    tekst += std::to_string(rij);
-    tekst += ',';
-    tabel.VoegCellenAan(tekst, rij);
-    tekst += "\r\n";
-}
-
-/// Hands out the text of the file in pieces, the first of which begins with the key line.
-template <class Neem> Uitkomst<void> InStukken(const Register& spelers, Neem neem)
-{
-    constexpr std::size_t stukgrootte = 262144;
-    Tekst stuk;
-    stuk.reserve(stukgrootte + stukgrootte / 8);
-    stuk += "HKEY=" + std::to_string(spelers.HKEY) + "\r\n";
-    for (int rij = 1; rij <= spelers.tabel.Rijen(); ++rij) {
-        VoegRijToe(stuk, spelers.tabel, rij);
-        if (stuk.size() < stukgrootte)
-            continue;
-        if (auto genomen = neem(stuk); !genomen)
-            return genomen;
-        stuk.clear();
-    }
-    return neem(stuk);
-}
+constexpr std::size_t eersteIngaveveld = Index(Kolom::Voornaam);
 
 /// Whether the first line that holds anything is a player whose row number alone is blank. Without
 /// that field the line would be too short; a number there is only its place.
@@ -70,9 +31,7 @@ Tekst SpelersZonderBlancoBegin(Tekstblik oud)
 
 Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers)
 {
-    auto uitkomst = SchrijfHeel(schijf, pad, [&](Schrijver& schrijver) {
-        return InStukken(spelers, [&](Tekstblik stuk) { return schrijver.Schrijf(stuk); });
-    });
+    auto uitkomst = SchrijfHeel(schijf, pad, SpelersTekst(spelers));
     if (!StaatOpSchijf(uitkomst))
         return uitkomst;
     spelers.kopieNodig = false;
@@ -100,40 +59,41 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 {
     const Pad pad = mappen.Spelerbestand();
     Leesverslag verslag;
-    const auto stempel = StempelVan(schijf, pad);
+    const auto stempel = AlsErIs(schijf.NeemStempel(pad));
     auto inhoud = schijf.LeesBestand(pad);
     if (!inhoud || !stempel) {
         verslag.fout = inhoud ? stempel.error() : inhoud.error();
         return verslag;
     }
     Spelerlezing lezing = SpelersUit(std::move(*inhoud));
+    static_cast<Leesbevinding&>(verslag) = lezing;
     verslag.tabelVervangen = lezing.tabel.has_value();
-    verslag.zonderSleutelregel = lezing.zonderSleutelregel;
-    verslag.sleutelZonderGetal = lezing.sleutelZonderGetal;
-    verslag.hoogsteWeggelaten = lezing.hoogsteWeggelaten;
     if (lezing.tabel)
         spelers.tabel = std::move(*lezing.tabel);
     spelers.HKEY = lezing.HKEY.value_or(spelers.HKEY);
     spelers.gelezen = *stempel;
     spelers.kopieNodig = lezing.verliest;
-    verslag.zonderAchternaam = std::move(lezing.zonderAchternaam);
     if (lezing.fout) {
         verslag.velden = lezing.fout->velden;
-        verslag.fout = Fout{.soort = Foutsoort::Beschadigd,
-                            .bestand = schijf.Toonpad(pad),
-                            .regel = lezing.fout->regel,
-                            .systeem = {}};
+        verslag.fout = {.soort = Foutsoort::Beschadigd,
+                        .bestand = schijf.Toonpad(pad),
+                        .regel = lezing.fout->regel};
     }
     return verslag;
 }
 
 Tekst SpelersTekst(const Register& spelers)
 {
-    Tekst tekst;
-    (void)InStukken(spelers, [&](Tekstblik stuk) -> Uitkomst<void> {
-        tekst += stuk;
-        return {};
-    });
+    const Spelertabel& tabel = spelers.tabel;
+    Tekst tekst = "HKEY=" + std::to_string(spelers.HKEY) + "\r\n";
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Key).empty())
+            continue;
+        tekst += std::to_string(rij);
+        tekst += ',';
+        tabel.VoegCellenAan(tekst, rij);
+        tekst += "\r\n";
+    }
     return tekst;
 }
 
@@ -146,21 +106,18 @@ Uitkomst<void> SchrijfSpelers(Schijf& schijf, const Mappen& mappen, Register& sp
         spelers.HKEY = Sleutelbasis;
 
     const Pad pad = mappen.Spelerbestand();
-    const auto stempel = StempelVan(schijf, pad);
+    const auto stempel = AlsErIs(schijf.NeemStempel(pad));
     if (!stempel)
-        return tl::unexpected(stempel.error());
+        return Mislukt(stempel);
     const bool bestaat = stempel->has_value();
     const bool gewijzigd = bestaat && spelers.gelezen != *stempel;
     if (gewijzigd && overschrijven == Overschrijven::AlleenEigen)
-        return tl::unexpected(Fout{.soort = Foutsoort::Gewijzigd,
-                                   .bestand = schijf.Toonpad(pad),
-                                   .regel = 0,
-                                   .systeem = {}});
+        return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf.Toonpad(pad)});
     const bool alGekopieerd = spelers.gekopieerd == *stempel; // before a save that failed
     if (bestaat && (gewijzigd || spelers.kopieNodig) && !alGekopieerd) {
         const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad);
         if (!kopie)
-            return tl::unexpected(kopie.error());
+            return Mislukt(kopie);
         spelers.gekopieerd = *stempel;
     }
     return SchrijfRegister(schijf, pad, spelers);
@@ -178,7 +135,7 @@ std::optional<std::int32_t> NieuweSleutel(Register& spelers)
 Fout PlaatsVanHKEY(Schijf& schijf, const Mappen& mappen)
 {
     const Pad pad = mappen.Spelerbestand();
-    Fout plaats{.soort = {}, .bestand = schijf.Toonpad(pad), .regel = 0, .systeem = {}};
+    Fout plaats{.bestand = schijf.Toonpad(pad)};
     const Tekst inhoud = schijf.LeesBestand(pad).value_or(Tekst());
     int nummer = 0;
     for (const Tekstblik regel : Regels(inhoud)) {
@@ -210,9 +167,9 @@ bool VoegSpelerToe(Register& spelers, Tekstblik groeptekst, const Rijvelden& vel
     if (!sleutel)
         return false;
     Rijvelden rij;
-    rij[Plaats(Kolom::Nr)] = std::to_string(spelers.tabel.Rijen() + 1);
-    rij[Plaats(Kolom::Key)] = std::to_string(*sleutel);
-    rij[Plaats(Kolom::Groep)] = CodeUit(groeptekst);
+    rij[Index(Kolom::Nr)] = std::to_string(spelers.tabel.Rijen() + 1);
+    rij[Index(Kolom::Key)] = std::to_string(*sleutel);
+    rij[Index(Kolom::Groep)] = CodeUit(groeptekst);
     for (std::size_t i = eersteIngaveveld; i < rij.size(); ++i)
         rij[i] = ZonderSpaties(velden[i]);
     spelers.tabel.VoegToe(rij);
@@ -222,7 +179,7 @@ bool VoegSpelerToe(Register& spelers, Tekstblik groeptekst, const Rijvelden& vel
 void WijzigSpeler(Register& spelers, int rij, const Rijvelden& velden)
 {
     Rijvelden nieuw = spelers.tabel.Velden(rij);
-    nieuw[Plaats(Kolom::Groep)] = CodeUit(velden[Plaats(Kolom::Groep)]);
+    nieuw[Index(Kolom::Groep)] = CodeUit(velden[Index(Kolom::Groep)]);
     for (std::size_t i = eersteIngaveveld; i < nieuw.size(); ++i)
         nieuw[i] = velden[i];
     spelers.tabel.ZetRij(rij, nieuw);

@@ -25,18 +25,22 @@ struct Regelfout {
     int velden = 0; ///< fields on that line; 0 for a key line with a number that does not fit
 };
 
-/// The outcome of reading a text. The lines are first counted and then filled in: a line that
-/// cannot be counted (fewer than 6 fields, or an impossible key) leaves no table at all, one that
-/// cannot be filled in (fewer than 18 fields) ends the table before it.
-struct Spelerlezing {
-    std::optional<Spelertabel> tabel;
-    std::optional<std::int32_t> HKEY; ///< of the last key line read; none without one
-    std::optional<Regelfout> fout;
+/// What the reading of a text left out or missed.
+struct Leesbevinding {
     std::vector<int> zonderAchternaam;  ///< line numbers that were left out
     bool zonderSleutelregel = false;    ///< there are players, but no key line
     int sleutelZonderGetal = 0;         ///< line of the last key line, when it names no number
     std::int32_t hoogsteWeggelaten = 0; ///< the highest key on the lines that were left out
-    bool verliest = false;              ///< writing the table would lose something of the text
+};
+
+/// The outcome of reading a text. The lines are first counted and then filled in: a line that
+/// cannot be counted (fewer than 6 fields, or an impossible key) leaves no table at all, one that
+/// cannot be filled in (fewer than 18 fields) ends the table before it.
+struct Spelerlezing : Leesbevinding {
+    std::optional<Spelertabel> tabel;
+    std::optional<std::int32_t> HKEY; ///< of the last key line read; none without one
+    std::optional<Regelfout> fout;
+    bool verliest = false; ///< writing the table would lose something of the text
 };
 
 [[nodiscard]] Spelerlezing SpelersUit(Tekst inhoud);
@@ -50,15 +54,11 @@ struct Register {
     std::optional<Stempel> gekopieerd; ///< the state of the file of which a copy was made
 };
 
-/// What a read left out or missed, for the user.
-struct Leesverslag {
-    std::optional<Fout> fout; ///< the reading ended here; the lines before it are in the table
-    int velden = 0;           ///< fields on the line to blame, where one is
-    std::vector<int> zonderAchternaam;
-    bool zonderSleutelregel = false;
-    int sleutelZonderGetal = 0;         ///< as above
-    std::int32_t hoogsteWeggelaten = 0; ///< as above
-    bool tabelVervangen = false;        ///< the table is the file's now
+/// What a read found, for the user.
+struct Leesverslag : Leesbevinding {
+    std::optional<Fout> fout;    ///< the reading ended here; the lines before it are in the table
+    int velden = 0;              ///< fields on the line to blame, where one is
+    bool tabelVervangen = false; ///< the table is the file's now
 
     /// The disk did not give the file at all; the register is as it was.
     [[nodiscard]] bool NietGeopend() const { return fout && fout->soort != Foutsoort::Beschadigd; }

@@ -3,7 +3,7 @@
 #include <bit>
 #include <cstring>
 
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 #include "register/groepen.h"
 #include "register/spelerbestand.h"
 
@@ -178,15 +178,15 @@ class Lezer {
     /// Of a line that is left out: its key was issued all the same.
     void OnthoudSleutel(const Spelertabel::Celgrenzen& grenzen)
     {
-        const auto begin = grenzen[Plaats(Kolom::Key)];
-        const auto lengte = grenzen[Plaats(Kolom::Key) + 1] - begin - 1;
+        const auto begin = grenzen[Index(Kolom::Key)];
+        const auto lengte = grenzen[Index(Kolom::Key) + 1] - begin - 1;
         const auto key = Geheel32(Tekstblik(inhoud_).substr(begin, lengte));
         uit_.hoogsteWeggelaten = std::max(uit_.hoogsteWeggelaten, key.value_or(0));
     }
 
     [[nodiscard]] std::size_t Lengte(Kolom kolom) const
     {
-        const auto plaats = Plaats(kolom);
+        const auto plaats = Index(kolom);
         return grenzen_[plaats + 1] - grenzen_[plaats] - 1;
     }
 

@@ -14,7 +14,7 @@
 #include <utility>
 #include <vector>
 
-#include "register/groepscode.h"
+#include "register/groepen.h"
 
 namespace plexoran {
 
@@ -54,10 +54,10 @@ struct Celtekst {
 
 /// The 18 texts of a row; element 0 is column 1.
 using Rijvelden = std::array<Tekst, AantalKolommen>;
-/// The same, kept elsewhere.
+/// The same, kept elsewhere, be it in the table itself.
 using Rijblikken = std::array<Tekstblik, AantalKolommen>;
 
-[[nodiscard]] constexpr std::size_t Plaats(Kolom kolom)
+[[nodiscard]] constexpr std::size_t Index(Kolom kolom)
 {
     return static_cast<std::size_t>(kolom) - 1;
 }
@@ -68,8 +68,8 @@ class Spelertabel {
     /// the one byte between two cells (the comma) belongs to neither.
     using Celgrenzen = std::array<std::uint32_t, AantalKolommen + 1>;
 
-    /// The longest text that the bounds can address.
-    static constexpr std::size_t GrootsteTekst = 0xFFFF0000;
+    /// Half of what the bounds can address: the rest is for what changes add until the next read.
+    static constexpr std::size_t GrootsteTekst = 0x7FFF0000;
 
     Spelertabel() = default;
     /// Takes a text of at most `GrootsteTekst` bytes and the bounds of its rows.
@@ -81,7 +81,7 @@ class Spelertabel {
     [[nodiscard]] Tekstblik Cel(int rij, Kolom kolom) const
     {
         const Celgrenzen& grenzen = Grenzen(rij);
-        const auto plaats = Plaats(kolom);
+        const auto plaats = Index(kolom);
         const Tekstblik cel = Bytes(grenzen[plaats], grenzen[plaats + 1]);
         // The file may carry the group's name behind its code; only the code is the cell.
         return kolom == Kolom::Groep ? CodeUit(cel) : cel;
@@ -93,13 +93,10 @@ class Spelertabel {
     /// becomes an underscore, a line end a space.
     void ZetRij(int rij, const Rijvelden& velden);
     void ZetCel(int rij, Kolom kolom, Tekstblik tekst);
-    /// Changes several cells of a row at once, by rising column and none twice.
     void ZetCellen(int rij, std::span<const Celtekst> anders);
     void VoegToe(const Rijvelden& velden);
-    /// The views may not be of this table.
     void VoegRijToe(const Rijblikken& velden);
-    /// Adds a row that is another one with some of its cells changed: those in `anders`, by rising
-    /// column and none twice.
+    /// Adds a row that is another one with some of its cells changed.
     void VoegKopieToe(int rij, std::span<const Celtekst> anders);
 
     /// Takes these rows out and gives every row that stays its new position as `Nr`. Rows may come
@@ -123,11 +120,9 @@ class Spelertabel {
     {
         return {tekst_.data() + van, tot - van - std::size_t{1}};
     }
+    [[nodiscard]] Rijblikken Blikken(int rij, std::span<const Celtekst> anders) const;
     /// Behind the text; the row's own bounds are not touched.
-    template <class Rij> Celgrenzen SchrijfVelden(const Rij& velden);
-    Celgrenzen SchrijfKopie(int rij, std::span<const Celtekst> anders);
-    void ZetNr(int rij);
-    void MaakRuimte(std::size_t bytes);
+    template <class Rij> Celgrenzen Schrijf(const Rij& velden);
 
     Tekst tekst_; ///< the file and what was written since
     std::vector<Celgrenzen> rijen_;
@@ -135,5 +130,23 @@ class Spelertabel {
 
 /// First name, particle and last name, as far as they are there.
 [[nodiscard]] Tekst VolleNaam(const Spelertabel& tabel, int rij);
+
+/// Finds players by their register key.
+/// The first row with each key, as a search from the top of the table finds it. Keys are read in
+/// the table, which must outlive the index; meanwhile rows may be added to it, which are not found,
+/// and other cells may change.
+class Sleutelwijzer {
+  public:
+    explicit Sleutelwijzer(const Spelertabel& tabel);
+
+    /// 0 when no row has it.
+    [[nodiscard]] int Rij(Tekstblik key) const;
+
+  private:
+    [[nodiscard]] Tekstblik Key(int rij) const { return tabel_.Cel(rij, Kolom::Key); }
+
+    const Spelertabel& tabel_;
+    std::vector<int> rijen_; ///< by key, and of equal keys in table order
+};
 
 } // namespace plexoran

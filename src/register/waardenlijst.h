@@ -1,7 +1,7 @@
 // The distinct values of a column, as the windows offer them to choose from.
 #pragma once
 
-#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "platform/tekst/tekst.h"
@@ -10,18 +10,15 @@ namespace plexoran {
 
 /// A running text in which each value stands between two "#" marks of its own. It holds whatever
 /// stands between two marks in it; so a value with a "#" in it answers for its parts too. That is
-/// kept to the letter, with an index instead of a search.
+/// kept to the letter.
 class Hekjestekst {
   public:
     void Voeg(Tekstblik waarde);
-    [[nodiscard]] bool Bevat(Tekstblik waarde) const;
+    [[nodiscard]] bool Bevat(const Tekst& waarde) const;
 
   private:
-    void VoegDeelToe(const Tekst& deel);
-    [[nodiscard]] bool StaatOp(const std::vector<Tekst>& delen, std::size_t begin) const;
-
-    std::vector<Tekst> delen_{Tekst()}; ///< the running text, cut at its marks
-    std::unordered_map<Tekst, std::vector<std::size_t>> plaatsen_;
+    Tekst tekst_;
+    std::unordered_set<Tekst> delen_; ///< all that stands between two marks that follow each other
 };
 
 /// Distinct values in order of first appearance: those that the running text of the values so far

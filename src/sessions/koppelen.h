@@ -5,7 +5,7 @@
 // which something is replaced are touched. Linking again after a failure finishes the rest.
 #pragma once
 
-#include "platform/schijf/voortgang.h"
+#include "platform/schijf/fout.h"
 #include "register/spelertabel.h"
 #include "sessions/sessiemappen.h"
 

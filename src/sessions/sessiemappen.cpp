@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <unordered_map>
 
-#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

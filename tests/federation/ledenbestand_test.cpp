@@ -17,7 +17,7 @@
 namespace plexoran {
 namespace {
 
-using Lijst = Tekstlijst;
+using Lijst = std::vector<Tekst>;
 using Namen = std::vector<Tekst>;
 
 Ledenopdracht Opdracht(Ledenbron bron)

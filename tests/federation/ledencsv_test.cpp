@@ -7,7 +7,7 @@
 namespace plexoran {
 namespace {
 
-using Lijst = Tekstlijst;
+using Lijst = std::vector<Tekst>;
 
 // ---- The import line ---------------------------------------------------------------------------
 

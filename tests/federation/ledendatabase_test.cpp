@@ -143,7 +143,7 @@ TEST_F(HaalLedenProef, WordenImportregelsLangsHetTussenbestand)
     EXPECT_EQ(schijf_.Inhoud("P\\Jeugd Temp-NBBXMLtoCSV.csv"), jeugd);
     EXPECT_EQ(
         lezing->lstN1,
-        (Tekstlijst{
+        (std::vector<Tekst>{
             " Kees , van , Spatie , Kerkweg 5 , 4444SA , Rijndorp , 010 0000001 , "
             "kees@post.example ,,, 2345695 ",
             "Oda,ter,Beek,Havenkade 12,7777 SD,Wierdum,06-00000010,oda@club.example,,V,2345703",

@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {
 
-using Teksten = Tekstlijst;
+using Teksten = std::vector<Tekst>;
 
 constexpr auto Kop = "HKEY=100042\r\n";
 
@@ -154,9 +154,9 @@ TEST(VoegLedenSamen, DeRijDieLetterlijkGelijkIsOokAchterEenAndersGeschrevene)
 TEST(VoegLedenSamen, WatTeLangIsOmNummersTeZijnVerandertNiets)
 {
     Register spelers = DrieSpelers();
-    Tekstlijst regels{"An,,Bos,,,,,,,,12345"};
+    std::vector<Tekst> regels{"An,,Bos,,,,,,,,12345"};
     for (int i = 0; i < 17; ++i)
-        regels.VoegToe("Bo,,Ek,,,,,,,," + Tekst(std::size_t{1} << 20U, 'x'));
+        regels.push_back("Bo,,Ek,,,,,,,," + Tekst(std::size_t{1} << 20U, 'x'));
     const auto uitkomst = VoegLedenSamen(spelers, {"Gr05-", "Club", regels});
     ASSERT_FALSE(uitkomst);
     EXPECT_EQ(Samenvoegfout::TeGroot, uitkomst.error());
@@ -271,7 +271,7 @@ TEST(VoegLedenSamen, StoppenOpElkMomentVerandertNiets)
 {
     Teksten regels;
     for (int i = 0; i < 5000; ++i)
-        regels.VoegToe("V" + std::to_string(i) + ",,A,,,,,,,," + std::to_string(12345 + i));
+        regels.push_back("V" + std::to_string(i) + ",,A,,,,,,,," + std::to_string(12345 + i));
     int meldingen = 0;
     Register heel = DrieSpelers();
     const auto uitkomst = VoegLedenSamen(heel, {"Gr05-", "Club", regels},
@@ -361,7 +361,7 @@ void VoegPlatSamen(Platte& spelers, std::vector<Tekst> lstN1, const Tekst& groep
         const auto veld = Gesplitst(regel);
         const Tekst nummer(ZonderSpaties(veld[10]));
         if (index.find(Formaat(nummer)) != Tekst::npos) {
-            spelers.uitkomst.overgeslagen.VoegToe(regel);
+            spelers.uitkomst.overgeslagen.push_back(regel);
             continue;
         }
         Rijvelden rij;
@@ -414,10 +414,10 @@ TEST(VoegLedenSamen, DoetHetzelfdeAlsDePlatteStappen)
         Platte plat{.rijen = AlleRijen(spelers.tabel), .HKEY = 100042};
         Teksten regels;
         for (std::size_t over = Gooi(toeval, 12); over > 0; --over)
-            regels.VoegToe(Trek(toeval, {"a", " b "}) + "," +
-                           Trek(toeval, {"", "de", gewoon ? "van" : "x,y"}) + ",Nieuw," +
-                           Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
-                           ToevalligNummer(toeval, gewoon));
+            regels.push_back(Trek(toeval, {"a", " b "}) + "," +
+                             Trek(toeval, {"", "de", gewoon ? "van" : "x,y"}) + ",Nieuw," +
+                             Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
+                             ToevalligNummer(toeval, gewoon));
         const Samenvoeging uitkomst = Voeg(spelers, regels);
         VoegPlatSamen(plat, {regels.begin(), regels.end()}, "Gr05-", "Club");
         ASSERT_EQ(plat.rijen, AlleRijen(spelers.tabel));

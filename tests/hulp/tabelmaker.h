@@ -24,15 +24,15 @@ inline Spelertabel MaakTabel(const std::vector<Proefspeler>& spelers)
     Spelertabel tabel;
     for (const Proefspeler& speler : spelers) {
         Rijvelden velden;
-        velden[Plaats(Kolom::Nr)] = std::to_string(tabel.Rijen() + 1);
-        velden[Plaats(Kolom::Key)] = speler.key;
-        velden[Plaats(Kolom::Groep)] = speler.groep;
-        velden[Plaats(Kolom::Voornaam)] = speler.voornaam;
-        velden[Plaats(Kolom::Tusv)] = speler.tusv;
-        velden[Plaats(Kolom::Achternaam)] = speler.achternaam;
-        velden[Plaats(Kolom::Plaats)] = "Ede " + speler.key;
-        velden[Plaats(Kolom::NBBgr)] = speler.nbbgr;
-        velden[Plaats(Kolom::NBBnr)] = speler.nbbnr;
+        velden[Index(Kolom::Nr)] = std::to_string(tabel.Rijen() + 1);
+        velden[Index(Kolom::Key)] = speler.key;
+        velden[Index(Kolom::Groep)] = speler.groep;
+        velden[Index(Kolom::Voornaam)] = speler.voornaam;
+        velden[Index(Kolom::Tusv)] = speler.tusv;
+        velden[Index(Kolom::Achternaam)] = speler.achternaam;
+        velden[Index(Kolom::Plaats)] = "Ede " + speler.key;
+        velden[Index(Kolom::NBBgr)] = speler.nbbgr;
+        velden[Index(Kolom::NBBnr)] = speler.nbbnr;
         tabel.VoegToe(velden);
     }
     return tabel;

@@ -150,13 +150,13 @@ TEST(DubbeleNamen, VeelVerschillendeNamenMetEenDubbele)
     constexpr int aantal = 250'000;
     Spelertabel tabel;
     Rijvelden velden;
-    velden[Plaats(Kolom::Groep)] = "Gr01-";
+    velden[Index(Kolom::Groep)] = "Gr01-";
     for (int i = 0; i < aantal; ++i) {
-        velden[Plaats(Kolom::Achternaam)] = std::to_string(i);
+        velden[Index(Kolom::Achternaam)] = std::to_string(i);
         tabel.VoegToe(velden);
     }
-    velden[Plaats(Kolom::Achternaam)] = "8";
-    velden[Plaats(Kolom::Voornaam)] = "100";
+    velden[Index(Kolom::Achternaam)] = "8";
+    velden[Index(Kolom::Voornaam)] = "100";
     tabel.VoegToe(velden);
     EXPECT_EQ(Paren({{1009, aantal + 1}}), Zoek(tabel));
 }

@@ -23,13 +23,13 @@ Tekstmeter Proefmeter()
 Rijvelden Rij(const Tekst& achternaam, const Tekst& plaats = {})
 {
     Rijvelden velden;
-    velden[Plaats(Kolom::Achternaam)] = achternaam;
-    velden[Plaats(Kolom::Plaats)] = plaats;
+    velden[Index(Kolom::Achternaam)] = achternaam;
+    velden[Index(Kolom::Plaats)] = plaats;
     return velden;
 }
 
-constexpr std::size_t achternaam = Plaats(Kolom::Achternaam);
-constexpr std::size_t woonplaats = Plaats(Kolom::Plaats);
+constexpr std::size_t achternaam = Index(Kolom::Achternaam);
+constexpr std::size_t woonplaats = Index(Kolom::Plaats);
 
 } // namespace
 
@@ -57,7 +57,7 @@ TEST(MeetCellen, NeemtPerKolomDeBreedsteVanDeGetoondeRijen)
     const Kolommaten maten = MeetCellen(tabel, std::vector{1, 2}, Proefmeter());
     EXPECT_EQ(6000, maten[achternaam]); // "Jansen"; "Wit" is 3000 + 500 + 1000
     EXPECT_EQ(5000, maten[woonplaats]);
-    EXPECT_EQ(0, maten[Plaats(Kolom::Telef)]);
+    EXPECT_EQ(0, maten[Index(Kolom::Telef)]);
     EXPECT_EQ(0, MeetCellen(tabel, {}, Proefmeter())[achternaam]);
 }
 

@@ -19,7 +19,7 @@ Spelertabel Tabel(std::initializer_list<Tekst> groepen)
     Spelertabel tabel;
     for (const Tekst& groep : groepen) {
         Rijvelden velden;
-        velden[Plaats(Kolom::Groep)] = groep;
+        velden[Index(Kolom::Groep)] = groep;
         tabel.VoegToe(velden);
     }
     return tabel;

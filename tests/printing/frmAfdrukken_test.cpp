@@ -241,7 +241,7 @@ TEST_F(frmAfdrukkenTest, EenTeBredeLijstWaarschuwtEnNoemtWatOntbreekt)
 TEST_F(frmAfdrukkenTest, DeLaatsteKolomZonderNaam)
 {
     auto namen = Kolomnamen;
-    namen[Plaats(Kolom::NBBnr)] = "";
+    namen[Index(Kolom::NBBnr)] = "";
     Spelertabel spelers = MaakPrintspelers(1);
     spelers.ZetCel(1, Kolom::NBBnr, "12345");
     ASSERT_NO_FATAL_FAILURE(Open(spelers, {Kolom::Achternaam, Kolom::NBBnr}, 1, namen));

@@ -27,8 +27,8 @@ class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
                        {"100002", "Gr05-", "Bea", "de", "Cock", "DINSDAG", "2"},
                        {"100003", "Gr01-", "Cor", "", "Bos", "", "3"},
                        {"100004", "Gr01-", "Dirk", "", "Aap", "B-lijn", "4"}});
-        namen[Plaats(Kolom::NBBgr)] = "Subgr";
-        namen[Plaats(Kolom::NBBnr)] = "";
+        namen[Index(Kolom::NBBgr)] = "Subgr";
+        namen[Index(Kolom::NBBnr)] = "";
     }
 
     void Open(const Tekst& groep = "Gr01-Clubleden & co",

@@ -76,8 +76,8 @@ TEST(Printtabel, DeGekozenKolommenInHunVolgordeMetHunNamen)
 {
     const Spelertabel tabel = Voorbeeld();
     auto namen = Kolomnamen;
-    namen[Plaats(Kolom::NBBgr)] = "Subgr";
-    namen[Plaats(Kolom::NBBnr)] = "";
+    namen[Index(Kolom::NBBgr)] = "Subgr";
+    namen[Index(Kolom::NBBnr)] = "";
     const Printtabel print =
         MaakPrinttabel(tabel, {.groepscode = "Gr05-",
                                .subgroepen = {},

@@ -270,21 +270,6 @@ TEST(Opslagfout, ElkeStapVanElkBestandOpDeEchteSchijf)
     ElkBestand(schijf, Proefmappen(map.AlsPad()));
 }
 
-TEST(Opslagfout, ElkeStapVanEenRegisterInVeelStukken)
-{
-    Tekst groot = "HKEY=109000\r\n";
-    for (int nr = 1; nr <= 9000; ++nr)
-        groot += std::to_string(nr) + "," + std::to_string(100000 + nr) +
-                 ",Gr01-,Voornaam,van der,Achternaam,,,Burgemeesterspad 108 driehoog,,,,,,,,,\r\n";
-    GeheugenSchijf schijf;
-    Register spelers;
-    const Proef proef = Spelersproef(schijf, Proefmappen(), spelers, groot);
-    FalendeSchijf telt(schijf, FalendeSchijf::Telt::AlleenSchrijven);
-    ASSERT_TRUE(proef.bewaar(telt));
-    ASSERT_GT(telt.Aantal(), 8); // more than one write, or this is the test above
-    FaalBijElkeStap(schijf, Proefmappen(), proef);
-}
-
 TEST(Opslagfout, StroomuitvalBijElkeStap)
 {
     const Mappen mappen = Proefmappen();

@@ -1,4 +1,4 @@
-#include "register/sleutelwijzer.h"
+#include "register/spelertabel.h"
 
 #include <algorithm>
 #include <functional>

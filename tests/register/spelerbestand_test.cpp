@@ -436,9 +436,9 @@ TEST(VoegSpelerToe, VeldenZonderBuitensteSpaties)
 {
     Register spelers;
     Rijvelden velden = Ingave();
-    velden[Plaats(Kolom::Voornaam)] = "  An Marie ";
-    velden[Plaats(Kolom::Tusv)] = "   ";
-    velden[Plaats(Kolom::Adres)] = " \tPad 1, boven";
+    velden[Index(Kolom::Voornaam)] = "  An Marie ";
+    velden[Index(Kolom::Tusv)] = "   ";
+    velden[Index(Kolom::Adres)] = " \tPad 1, boven";
     ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", velden));
     EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Voornaam), "An Marie");
     EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Tusv), "");
@@ -462,8 +462,8 @@ TEST(WijzigSpeler, AllesBehalveNummerEnSleutel)
     GeheugenSchijf schijf;
     Register spelers = Gelezen(schijf, vijfSpelers);
     Rijvelden velden = Ingave();
-    velden[Plaats(Kolom::Voornaam)] = "  An "; // stored as handed over
-    velden[Plaats(Kolom::Land)] = "";
+    velden[Index(Kolom::Voornaam)] = "  An "; // stored as handed over
+    velden[Index(Kolom::Land)] = "";
     WijzigSpeler(spelers, 4, velden);
     Tekst verwacht = vijfSpelers;
     const Tekst oud = "4,100004,Gr05-,Dirk,,Eik,,,,,,,M,,,,NBB1,12345678";

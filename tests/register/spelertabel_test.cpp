@@ -126,7 +126,7 @@ TEST(Spelertabel, ZetCelInElkeKolomEnElkeLengte)
             for (const std::size_t rij : {std::size_t{4}, std::size_t{0}, std::size_t{2}}) {
                 moet[rij][kolom] = tekst;
                 // Of the group five characters count.
-                if (kolom == Plaats(Kolom::Groep))
+                if (kolom == Index(Kolom::Groep))
                     moet[rij][kolom] = moet[rij][kolom].substr(0, LengteGroepscode);
                 tabel.ZetCel(static_cast<int>(rij) + 1, static_cast<Kolom>(kolom + 1), tekst);
                 for (std::size_t i = 0; i < moet.size(); ++i)
@@ -194,8 +194,8 @@ TEST(Spelertabel, ZetCellenVerandertAlleenDieCellen)
     Spelertabel tabel = VijfRijen();
     const Rijvelden vierde = tabel.Velden(4);
     Rijvelden moet = tabel.Velden(5);
-    moet[Plaats(Kolom::Voornaam)] = "a_b c";
-    moet[Plaats(Kolom::NBBgr)] = "CLUB";
+    moet[Index(Kolom::Voornaam)] = "a_b c";
+    moet[Index(Kolom::NBBgr)] = "CLUB";
     for (int keer = 0; keer < 100; ++keer)
         tabel.ZetCellen(5,
                         std::vector<Celtekst>{{Kolom::Voornaam, "a,b\nc"}, {Kolom::NBBgr, "CLUB"}});
@@ -214,9 +214,9 @@ TEST(Spelertabel, VoegKopieToeMetBlikkenOpDeTabelZelf)
                                                  {Kolom::Email, tabel.Cel(5, Kolom::Email)},
                                                  {Kolom::NBBnr, tabel.Cel(laatste, Kolom::Nr)}});
         Rijvelden moet = tabel.Velden(laatste);
-        moet[Plaats(Kolom::Key)] = "100001";
-        moet[Plaats(Kolom::Email)] = "e@f.example";
-        moet[Plaats(Kolom::NBBnr)] = "5";
+        moet[Index(Kolom::Key)] = "100001";
+        moet[Index(Kolom::Email)] = "e@f.example";
+        moet[Index(Kolom::NBBnr)] = "5";
         ASSERT_EQ(moet, tabel.Velden(laatste + 1));
     }
 }

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "platform/bronnen/accesskind.h"
+#include "platform/schijf/fout.h"
 #include "platform/schijf/schijf.h"
-#include "platform/schijf/voortgang.h"
 
 namespace plexoran {
 

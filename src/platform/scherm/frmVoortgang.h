@@ -5,7 +5,7 @@
 #include <QElapsedTimer>
 #include <QProgressDialog>
 
-#include "platform/schijf/voortgang.h"
+#include "platform/schijf/fout.h"
 
 namespace plexoran {
 

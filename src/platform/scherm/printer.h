@@ -9,8 +9,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/schijf/fout.h"
 #include "platform/schijf/schijf.h"
-#include "platform/schijf/voortgang.h"
 #include "platform/tekst/tekenvlak.h"
 
 class QPrinter;

@@ -10,7 +10,6 @@
 #include <memory>
 
 #include "platform/tekst/tekenvlak.h"
-#include "platform/tekst/tekstmeter.h"
 
 namespace plexoran {
 

@@ -1,8 +1,11 @@
 #include "platform/schijf/echteSchijf.h"
 
+#include <cstdio>
+#include <new>
+#include <stdexcept>
 #include <utility>
 
-#include "platform/schijf/greep.h"
+#include "platform/schijf/systeem.h"
 #include "platform/schijf/systeempad.h"
 
 namespace plexoran {
@@ -15,8 +18,9 @@ tl::unexpected<Fout> Mislukt(const fs::path& waar, const std::error_code& code)
 {
     const bool ontbreekt =
         code == std::errc::no_such_file_or_directory || code == std::errc::not_a_directory;
-    return tl::unexpected(Fout{ontbreekt ? Foutsoort::Ontbreekt : Foutsoort::Geweigerd,
-                               Leesbaar(waar), 0, Systeemmelding(code)});
+    return plexoran::Mislukt({.soort = ontbreekt ? Foutsoort::Ontbreekt : Foutsoort::Geweigerd,
+                              .bestand = Leesbaar(waar),
+                              .systeem = Systeemmelding(code)});
 }
 
 Uitkomst<void> Uitslag(const fs::path& waar, const std::error_code& code)
@@ -49,17 +53,46 @@ Uitkomst<std::vector<Tekst>> Namen(const Pad& map, std::set<fs::path>& overgesla
     return namen;
 }
 
+std::error_code LeesAlles(const fs::path& waar, Tekst& naar)
+try {
+    systeem::Greep greep;
+    if (const auto fout = systeem::OpenLezen(waar, greep))
+        return fout;
+    // One byte more, so that the end shows without growing; the size is a guess, for the file may
+    // change and some systems do not tell it.
+    std::error_code onbekend;
+    const auto grootte = fs::file_size(waar, onbekend);
+    naar.resize(onbekend ? 1 : grootte + 1);
+    std::size_t gelezen = 0;
+    for (;;) {
+        gelezen += std::fread(naar.data() + gelezen, 1, naar.size() - gelezen, greep.get());
+        if (gelezen < naar.size())
+            break;
+        naar.resize(2 * naar.size());
+    }
+    naar.resize(gelezen);
+    return systeem::Uitslag(std::ferror(greep.get()));
+} catch (const std::bad_alloc&) {
+    return std::make_error_code(std::errc::not_enough_memory);
+} catch (const std::length_error&) {
+    return std::make_error_code(std::errc::file_too_large);
+}
+
 class EchteSchrijver : public Schrijver {
   public:
-    explicit EchteSchrijver(fs::path pad) : pad_(std::move(pad)) {}
-
-    std::error_code Open() { return greep_.MaakNieuw(pad_); }
+    EchteSchrijver(fs::path pad, systeem::Greep greep)
+        : pad_(std::move(pad)), greep_(std::move(greep))
+    {}
     Uitkomst<void> Schrijf(Tekstblik bytes) override
     {
-        return Uitslag(pad_, greep_.Schrijf(bytes));
+        const bool heel = std::fwrite(bytes.data(), 1, bytes.size(), greep_.get()) == bytes.size();
+        return Uitslag(pad_, systeem::Uitslag(heel ? 0 : -1));
     }
-    Uitkomst<void> Sync() override { return Uitslag(pad_, greep_.Sync()); }
-    Uitkomst<void> Sluit() override { return Uitslag(pad_, greep_.Sluit()); }
+    Uitkomst<void> Sync() override { return Uitslag(pad_, systeem::Sync(greep_)); }
+    Uitkomst<void> Sluit() override
+    {
+        return Uitslag(pad_, systeem::Uitslag(std::fclose(greep_.release())));
+    }
 
   private:
     fs::path pad_;
@@ -83,12 +116,8 @@ Uitkomst<Padsoort> EchteSchijf::Soort(const Pad& pad)
 Uitkomst<Tekst> EchteSchijf::LeesBestand(const Pad& pad)
 {
     const fs::path waar = Systeempad(pad);
-    systeem::Greep greep;
     Tekst inhoud;
-    std::error_code fout = greep.OpenLezen(waar);
-    if (!fout)
-        fout = greep.LeesAlles(inhoud);
-    if (fout)
+    if (const auto fout = LeesAlles(waar, inhoud))
         return Mislukt(waar, fout);
     return inhoud;
 }
@@ -165,10 +194,10 @@ Uitkomst<Pad> EchteSchijf::Doel(const Pad& pad)
 Uitkomst<std::unique_ptr<Schrijver>> EchteSchijf::MaakNieuw(const Pad& pad)
 {
     const fs::path waar = Systeempad(pad);
-    auto schrijver = std::make_unique<EchteSchrijver>(waar);
-    if (const auto fout = schrijver->Open())
+    systeem::Greep greep;
+    if (const auto fout = systeem::MaakNieuw(waar, greep))
         return Mislukt(waar, fout);
-    return schrijver;
+    return std::make_unique<EchteSchrijver>(waar, std::move(greep));
 }
 
 Uitkomst<void> EchteSchijf::NeemRechtenOver(const Pad& van, const Pad& naar)
@@ -186,7 +215,12 @@ Uitkomst<void> EchteSchijf::Hernoem(const Pad& van, const Pad& naar)
 Uitkomst<void> EchteSchijf::Verwijder(const Pad& pad)
 {
     const fs::path waar = Systeempad(pad);
-    return Uitslag(waar, systeem::Verwijder(waar));
+    std::error_code fout;
+    if (fs::is_directory(fs::symlink_status(waar, fout))) // which would go, when it is empty
+        fout = std::make_error_code(std::errc::is_a_directory);
+    else if (!fout)
+        fs::remove(waar, fout);
+    return Uitslag(waar, fout);
 }
 
 Uitkomst<void> EchteSchijf::SyncMapVan(const Pad& pad)

@@ -1,9 +1,13 @@
 // The one kind of error of the house. Rules return it and never word a message; the window that
-// started the action puts it into Dutch.
+// started the action puts it into Dutch. And how work tells on its way how far it is.
 #pragma once
 
+#include <cstddef>
+#include <functional>
+#include <optional>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include <tl/expected.hpp>
 
@@ -20,9 +24,9 @@ enum class Foutsoort {
 
 struct [[nodiscard]] Fout {
     Foutsoort soort = Foutsoort::Geweigerd;
-    std::string bestand; ///< as the system names it, UTF-8, for the eye only
-    int regel = 0;       ///< line of the file from 1; 0 where no line is to blame
-    std::string systeem; ///< the system's own words, or what a reader found; UTF-8; may be empty
+    std::string bestand{}; ///< as the system names it, UTF-8, for the eye only
+    int regel = 0;         ///< line of the file from 1; 0 where no line is to blame
+    std::string systeem{}; ///< the system's own words, or what a reader found; UTF-8; may be empty
 };
 
 /// The words of the system for what went wrong: in Dutch for the errors that disks give, else its
@@ -31,10 +35,37 @@ struct [[nodiscard]] Fout {
 
 template <class T> using Uitkomst = tl::expected<T, Fout>;
 
+/// What a routine returns that fails: `return Mislukt({.soort = Foutsoort::Ontbreekt});`, or
+/// `return Mislukt(uitkomst);` with the error of another outcome.
+[[nodiscard]] inline tl::unexpected<Fout> Mislukt(Fout fout)
+{
+    return tl::unexpected(std::move(fout));
+}
+template <class T> [[nodiscard]] tl::unexpected<Fout> Mislukt(const Uitkomst<T>& uitkomst)
+{
+    return tl::unexpected(uitkomst.error());
+}
+
+/// Of what was looked for: nothing where it is missing, which is then no error.
+template <class T> [[nodiscard]] Uitkomst<std::optional<T>> AlsErIs(Uitkomst<T> uitkomst)
+{
+    if (uitkomst)
+        return std::optional<T>(std::move(*uitkomst));
+    if (uitkomst.error().soort == Foutsoort::Ontbreekt)
+        return std::nullopt;
+    return Mislukt(uitkomst);
+}
+
 /// Whether a save put the new file in place, be it without surviving a loss of power.
 [[nodiscard]] inline bool StaatOpSchijf(const Uitkomst<void>& opslag)
 {
     return opslag || opslag.error().soort == Foutsoort::NietVast;
 }
+
+/// How work that can take longer than a moment tells how far it is.
+/// Called now and then with what is done of the whole (0 where the whole is not known). The answer
+/// is false when the user wants to stop; work that cannot stop safely goes on. An empty one is
+/// never called.
+using Voortgang = std::function<bool(std::size_t gedaan, std::size_t geheel)>;
 
 } // namespace plexoran

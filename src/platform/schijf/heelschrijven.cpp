@@ -44,53 +44,49 @@ Uitkomst<Tijdelijk> MaakTijdelijk(Schijf& schijf, const Pad& doel)
         const auto soort = schijf.Soort(pad);
         const bool bezet = soort && *soort != Padsoort::Niets;
         if (!bezet || poging == pogingen)
-            return tl::unexpected(schrijver.error());
+            return Mislukt(schrijver);
     }
 }
 
 /// Whether the new file must survive a loss of power as soon as it is written.
 enum class Houdbaarheid { Vluchtig, Blijvend };
 
-/// Ends with the writer closed, also on a failure: an open file cannot be removed everywhere.
-Uitkomst<void> VulEnSluit(std::unique_ptr<Schrijver> schrijver, const Vuller& vul,
-                          Houdbaarheid houdbaarheid)
-{
-    const auto sync = [&] {
-        return houdbaarheid == Houdbaarheid::Blijvend ? schrijver->Sync() : Uitkomst<void>();
-    };
-    return vul(*schrijver).and_then(sync).and_then([&] { return schrijver->Sluit(); });
-}
-
 /// The old file's rights come before the contents, so that what few may read is never readable to
-/// many, and so that they are synced along.
-Uitkomst<void> VulEnRuil(Schijf& schijf, Tijdelijk& tijdelijk, const Pad& doel, bool vervangt,
-                         const Vuller& vul, Houdbaarheid houdbaarheid)
+/// many, and so that they are synced along. Ends with the writer closed, also on a failure: an open
+/// file cannot be removed everywhere.
+Uitkomst<void> Vul(Schijf& schijf, Tijdelijk tijdelijk, const std::optional<Pad>& rechtenVan,
+                   Tekstblik inhoud, Houdbaarheid houdbaarheid)
 {
-    std::unique_ptr<Schrijver> schrijver = std::move(tijdelijk.schrijver);
-    Uitkomst<void> rechten;
-    if (vervangt)
-        rechten = schijf.NeemRechtenOver(doel, tijdelijk.pad);
-    return rechten.and_then([&] { return VulEnSluit(std::move(schrijver), vul, houdbaarheid); })
-        .and_then([&] { return schijf.Hernoem(tijdelijk.pad, doel); });
+    Schrijver& schrijver = *tijdelijk.schrijver;
+    const auto rechten =
+        rechtenVan ? schijf.NeemRechtenOver(*rechtenVan, tijdelijk.pad) : Uitkomst<void>();
+    return rechten.and_then([&] { return schrijver.Schrijf(inhoud); })
+        .and_then([&] {
+            return houdbaarheid == Houdbaarheid::Blijvend ? schrijver.Sync() : Uitkomst<void>();
+        })
+        .and_then([&] { return schrijver.Sluit(); });
 }
 
-Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, const Vuller& vul, Houdbaarheid houdbaarheid)
+Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, Tekstblik inhoud, Houdbaarheid houdbaarheid)
 {
     const auto doel = schijf.Doel(pad);
     if (!doel)
-        return tl::unexpected(doel.error());
+        return Mislukt(doel);
     const auto soort = schijf.Soort(*doel);
     if (!soort)
-        return tl::unexpected(soort.error());
+        return Mislukt(soort);
     auto tijdelijk = MaakTijdelijk(schijf, *doel);
     if (!tijdelijk)
-        return tl::unexpected(tijdelijk.error());
+        return Mislukt(tijdelijk);
 
-    const bool vervangt = *soort != Padsoort::Niets;
-    auto geruild = VulEnRuil(schijf, *tijdelijk, *doel, vervangt, vul, houdbaarheid);
+    const Pad nieuw = tijdelijk->pad;
+    const auto oud = *soort == Padsoort::Niets ? std::nullopt : std::optional(*doel);
+    auto geruild = Vul(schijf, std::move(*tijdelijk), oud, inhoud, houdbaarheid).and_then([&] {
+        return schijf.Hernoem(nieuw, *doel);
+    });
     if (!geruild) {
         // When this fails too, RuimTijdelijkeOp comes later; the first failure is the one to tell.
-        static_cast<void>(schijf.Verwijder(tijdelijk->pad));
+        static_cast<void>(schijf.Verwijder(nieuw));
         return geruild;
     }
     if (houdbaarheid == Houdbaarheid::Vluchtig)
@@ -102,10 +98,10 @@ Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, const Vuller& vul, Houdba
 }
 
 /// What failed may be a temporary file; the user knows the file by its own name.
-Uitkomst<void> VervangOfMeld(Schijf& schijf, const Pad& pad, const Vuller& vul,
+Uitkomst<void> VervangOfMeld(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
                              Houdbaarheid houdbaarheid)
 {
-    return Vervang(schijf, pad, vul, houdbaarheid).map_error([&](Fout fout) {
+    return Vervang(schijf, pad, inhoud, houdbaarheid).map_error([&](Fout fout) {
         fout.bestand = schijf.Toonpad(pad);
         return fout;
     });
@@ -115,20 +111,12 @@ Uitkomst<void> VervangOfMeld(Schijf& schijf, const Pad& pad, const Vuller& vul,
 
 Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
 {
-    return SchrijfHeel(schijf, pad,
-                       [inhoud](Schrijver& schrijver) { return schrijver.Schrijf(inhoud); });
-}
-
-Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul)
-{
-    return VervangOfMeld(schijf, pad, vul, Houdbaarheid::Blijvend);
+    return VervangOfMeld(schijf, pad, inhoud, Houdbaarheid::Blijvend);
 }
 
 Uitkomst<void> SchrijfVluchtig(Schijf& schijf, const Pad& pad, Tekstblik inhoud)
 {
-    return VervangOfMeld(
-        schijf, pad, [inhoud](Schrijver& schrijver) { return schrijver.Schrijf(inhoud); },
-        Houdbaarheid::Vluchtig);
+    return VervangOfMeld(schijf, pad, inhoud, Houdbaarheid::Vluchtig);
 }
 
 void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu)

@@ -1,8 +1,6 @@
 // Writing a file whole, so that at every moment the disk holds either the old file or the new one.
 #pragma once
 
-#include <functional>
-
 #include "platform/schijf/klok.h"
 #include "platform/schijf/schijf.h"
 
@@ -13,12 +11,6 @@ namespace plexoran {
 /// is the one that is replaced. On any failure before the rename the temporary file is removed and
 /// the old file untouched. A failing folder sync, the last step, is reported as `NietVast`.
 [[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud);
-
-/// Writes the contents piece by piece; its errors are handed on.
-using Vuller = std::function<Uitkomst<void>(Schrijver&)>;
-
-/// The same for contents that need not stand in memory as a whole.
-[[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, const Vuller& vul);
 
 /// The same for a file that is needed only until the program ends: nothing is synced, so that a
 /// loss of power may leave neither the old contents nor the new. For whoever reads it while the

@@ -97,22 +97,21 @@ Uitkomst<void> StartProgramma(Schijf& schijf, const Pad& pad)
 {
     const auto soort = schijf.Soort(pad);
     if (!soort)
-        return tl::unexpected(soort.error());
-    Fout fout{
-        .soort = Foutsoort::Ontbreekt, .bestand = schijf.Toonpad(pad), .regel = 0, .systeem = {}};
+        return Mislukt(soort);
     if (*soort != Padsoort::Bestand)
-        return tl::unexpected(fout);
+        return Mislukt({.soort = Foutsoort::Ontbreekt, .bestand = schijf.Toonpad(pad)});
     const auto programma = Systeempad(pad);
     QProcess proces;
     proces.setProgram(NaarNaam(programma));
     proces.setWorkingDirectory(NaarNaam(programma.parent_path()));
     if (proces.startDetached())
         return {};
-    fout.soort = Foutsoort::Geweigerd;
-    fout.systeem = QFileInfo(proces.program()).isExecutable()
-                       ? proces.errorString().toStdString()
-                       : Systeemmelding(std::make_error_code(std::errc::permission_denied));
-    return tl::unexpected(fout);
+    return Mislukt(
+        {.soort = Foutsoort::Geweigerd,
+         .bestand = schijf.Toonpad(pad),
+         .systeem = QFileInfo(proces.program()).isExecutable()
+                        ? proces.errorString().toStdString()
+                        : Systeemmelding(std::make_error_code(std::errc::permission_denied))});
 }
 
 std::filesystem::path Slotbestand()

@@ -4,51 +4,48 @@
 
 namespace plexoran {
 
-Stukken::Iterator::Iterator(Tekstblik rest, bool opKomma) : rest_(rest), opKomma_(opKomma)
+namespace {
+
+std::vector<Tekstblik> Stukken(Tekstblik inhoud, bool opKomma)
 {
-    Volgend();
+    std::vector<Tekstblik> stukken;
+    while (!inhoud.empty()) {
+        // Not find_first_of: that calls a function for every character.
+        const auto waar = std::find_if(inhoud.begin(), inhoud.end(), [opKomma](char teken) {
+            return teken == '\n' || teken == '\r' || (opKomma && teken == ',');
+        });
+        const auto eind = static_cast<std::size_t>(waar - inhoud.begin());
+        stukken.push_back(inhoud.substr(0, eind));
+        const bool paar = inhoud.substr(eind, 2) == "\r\n";
+        inhoud.remove_prefix(std::min(eind + (paar ? 2 : 1), inhoud.size()));
+    }
+    return stukken;
 }
 
-Stukken::Iterator& Stukken::Iterator::operator++()
+} // namespace
+
+std::vector<Tekstblik> Regels(Tekstblik inhoud)
 {
-    Volgend();
-    return *this;
+    return Stukken(inhoud, false);
 }
 
-void Stukken::Iterator::Volgend()
+std::vector<Tekstblik> Items(Tekstblik inhoud)
 {
-    if (rest_.empty()) {
-        klaar_ = true;
-        return;
-    }
-    // Not find_first_of: that calls a function for every character.
-    const auto waar = std::find_if(rest_.begin(), rest_.end(), [this](char teken) {
-        return teken == '\n' || teken == '\r' || (opKomma_ && teken == ',');
-    });
-    const auto eind = static_cast<std::size_t>(waar - rest_.begin());
-    stuk_ = rest_.substr(0, eind);
-    if (eind == rest_.size()) {
-        rest_ = {};
-        return;
-    }
-    const bool paar = rest_.substr(eind, 2) == "\r\n";
-    rest_.remove_prefix(eind + (paar ? 2 : 1));
+    return Stukken(inhoud, true);
 }
 
 Tekstblik EersteItem(Tekstblik inhoud)
 {
-    const auto items = Items(inhoud);
-    const auto eerste = items.begin();
-    return eerste == items.end() ? Tekstblik() : *eerste;
+    return inhoud.substr(0, inhoud.find_first_of(",\r\n"));
 }
 
 Tekstblik ZonderBlancoBegin(Tekstblik inhoud)
 {
-    for (const Tekstblik item : Items(inhoud)) {
-        if (!IsBlanco(item))
-            return inhoud.substr(static_cast<std::size_t>(item.data() - inhoud.data()));
-    }
-    return {};
+    const auto eerste = inhoud.find_first_not_of(" ,\r\n");
+    if (eerste == Tekstblik::npos)
+        return {};
+    const auto ervoor = inhoud.find_last_of(",\r\n", eerste);
+    return inhoud.substr(ervoor == Tekstblik::npos ? 0 : ervoor + 1);
 }
 
 bool IsLeeg(Tekstblik inhoud)

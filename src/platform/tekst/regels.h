@@ -2,7 +2,6 @@
 // end of its line. A text that does not close with a line end has one more, last line.
 #pragma once
 
-#include <iterator>
 #include <optional>
 #include <vector>
 
@@ -10,47 +9,10 @@
 
 namespace plexoran {
 
-/// Walks the pieces of a text, each a view into it, without its line end or comma.
-/// `for (Tekstblik regel : Regels(inhoud))`, `for (Tekstblik item : Items(inhoud))`.
-class Stukken {
-  public:
-    class Iterator {
-      public:
-        using value_type = Tekstblik;
-        using difference_type = std::ptrdiff_t;
-
-        Iterator(Tekstblik rest, bool opKomma);
-        Tekstblik operator*() const { return stuk_; }
-        Iterator& operator++();
-        bool operator==(std::default_sentinel_t) const { return klaar_; }
-
-      private:
-        void Volgend();
-
-        Tekstblik rest_;
-        Tekstblik stuk_;
-        bool opKomma_;
-        bool klaar_ = false;
-    };
-
-    Stukken(Tekstblik inhoud, bool opKomma) : inhoud_(inhoud), opKomma_(opKomma) {}
-    [[nodiscard]] Iterator begin() const { return {inhoud_, opKomma_}; }
-    [[nodiscard]] static std::default_sentinel_t end() { return {}; }
-
-  private:
-    Tekstblik inhoud_;
-    bool opKomma_;
-};
-
-[[nodiscard]] inline Stukken Regels(Tekstblik inhoud)
-{
-    return {inhoud, false};
-}
-
-[[nodiscard]] inline Stukken Items(Tekstblik inhoud)
-{
-    return {inhoud, true};
-}
+/// The lines, each a view into the text without its line end.
+[[nodiscard]] std::vector<Tekstblik> Regels(Tekstblik inhoud);
+/// The items of all lines, each a view into the text without its comma or line end.
+[[nodiscard]] std::vector<Tekstblik> Items(Tekstblik inhoud);
 
 /// The first item of a file; empty for an empty file.
 [[nodiscard]] Tekstblik EersteItem(Tekstblik inhoud);

@@ -5,6 +5,7 @@
 // the size of the letter, without kerning and without rounding to the dots of a device.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "platform/tekst/tekst.h"
@@ -30,6 +31,20 @@ struct Kleur {
 };
 
 enum class Papierstand { Staand = 1, Liggend = 2 };
+
+/// The width of texts in a font without kerning: a sum over a table of 256 advances.
+struct Tekstmeter {
+    std::array<std::int32_t, 256> opschuiving{}; ///< of each character, in the unit of its maker
+
+    /// In the same unit.
+    [[nodiscard]] std::int64_t Breedte(Tekstblik tekst) const
+    {
+        std::int64_t som = 0;
+        for (const char teken : tekst)
+            som += opschuiving[static_cast<unsigned char>(teken)];
+        return som;
+    }
+};
 
 /// The widths of texts before anything is drawn.
 class Lettermeter {

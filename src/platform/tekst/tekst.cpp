@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace plexoran {
 namespace {
@@ -89,6 +90,93 @@ Tekst MetNullen(std::int64_t getal, int breedte)
     if (cijfers.size() < doel)
         cijfers.insert(0, doel - cijfers.size(), '0');
     return getal < 0 ? "-" + cijfers : cijfers;
+}
+
+namespace {
+
+/// How the digits after the point round the whole part: below, exactly or above a half.
+enum class Breuk { Onder, Half, Boven };
+
+Breuk LeesBreuk(Tekstblik rest)
+{
+    if (rest.size() < 2 || rest.front() != '.' || !IsCijfer(rest[1]) || rest[1] < '5')
+        return Breuk::Onder;
+    if (rest[1] > '5')
+        return Breuk::Boven;
+    for (const char teken : rest.substr(2)) {
+        if (!IsCijfer(teken))
+            break;
+        if (teken != '0')
+            return Breuk::Boven;
+    }
+    return Breuk::Half;
+}
+
+/// The rounded value; nothing as soon as it is larger than any caller accepts.
+std::optional<std::int64_t> GeheelAanBegin(Tekstblik tekst)
+{
+    constexpr std::int64_t ruimBuitenBereik = 1'000'000'000'000;
+    const auto begin = tekst.find_first_not_of(' ');
+    if (begin == Tekstblik::npos)
+        return 0;
+    tekst.remove_prefix(begin);
+    const bool negatief = tekst.front() == '-';
+    if (negatief || tekst.front() == '+')
+        tekst.remove_prefix(1);
+
+    std::int64_t waarde = 0;
+    while (!tekst.empty() && IsCijfer(tekst.front())) {
+        waarde = waarde * 10 + (tekst.front() - '0');
+        if (waarde > ruimBuitenBereik)
+            return std::nullopt;
+        tekst.remove_prefix(1);
+    }
+    const Breuk breuk = LeesBreuk(tekst);
+    if (breuk == Breuk::Boven || (breuk == Breuk::Half && waarde % 2 != 0))
+        ++waarde;
+    return negatief ? -waarde : waarde;
+}
+
+template <class Int> std::optional<Int> Passend(Tekstblik tekst)
+{
+    const auto waarde = GeheelAanBegin(tekst);
+    if (!waarde || *waarde < std::numeric_limits<Int>::min() ||
+        *waarde > std::numeric_limits<Int>::max())
+        return std::nullopt;
+    return static_cast<Int>(*waarde);
+}
+
+} // namespace
+
+std::optional<std::int16_t> Geheel16(Tekstblik tekst)
+{
+    return Passend<std::int16_t>(tekst);
+}
+
+std::optional<std::int32_t> Geheel32(Tekstblik tekst)
+{
+    return Passend<std::int32_t>(tekst);
+}
+
+bool BegintMetGetal(Tekstblik tekst)
+{
+    tekst = ZonderSpaties(tekst);
+    for (const Tekstblik ervoor : {"+-", "."}) {
+        if (!tekst.empty() && ervoor.find(tekst.front()) != Tekstblik::npos)
+            tekst.remove_prefix(1);
+    }
+    return !tekst.empty() && IsCijfer(tekst.front());
+}
+
+std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte)
+{
+    Tekstblik cijfers = ZonderSpaties(tekst);
+    if (cijfers.empty() || !std::all_of(cijfers.begin(), cijfers.end(), IsCijfer))
+        return std::nullopt;
+    cijfers.remove_prefix(std::min(cijfers.find_first_not_of('0'), cijfers.size() - 1));
+    Tekst uit(breedte - std::min(breedte, cijfers.size()), '0');
+    uit += cijfers;
+    return uit;
 }
 
 } // namespace plexoran

@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

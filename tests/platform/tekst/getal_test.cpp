@@ -1,4 +1,4 @@
-#include "platform/tekst/getal.h"
+#include "platform/tekst/tekst.h"
 
 #include <limits>
 

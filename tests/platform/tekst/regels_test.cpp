@@ -75,10 +75,9 @@ TEST(Regels, KommaAanHetEindVanHetBestand)
 TEST(Regels, StukkenZijnBlikkenInDeTekst)
 {
     const Tekst inhoud = "een\r\ntwee";
-    auto plaats = Regels(inhoud).begin();
-    EXPECT_EQ((*plaats).data(), inhoud.data());
-    ++plaats;
-    EXPECT_EQ((*plaats).data(), inhoud.data() + 5);
+    const auto regels = Regels(inhoud);
+    EXPECT_EQ(regels.at(0).data(), inhoud.data());
+    EXPECT_EQ(regels.at(1).data(), inhoud.data() + 5);
 }
 
 TEST(Regels, EersteItem)
