@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "eis.h"
+#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
 #include "sessions/zittinglijsten.h"
 
@@ -74,7 +75,7 @@ void Proef(const Tekst& inhoud, Lijstsoort soort)
     const auto zwevend = AlleHelften(inhoud, soort);
     Eis(lezing.zwevend.size() <= zwevend.size(), "niet meer zwevenden dan helften");
     for (const Tafelnaam& wie : lezing.zwevend)
-        Eis(IsZwevend(wie.naam), "een zwevende is geen getal en niet leeg");
+        Eis(!wie.naam.empty() && !AlsGetal(wie.naam, 1), "een zwevende is geen getal en niet leeg");
     constexpr std::size_t hoogstens = 8;
     for (std::size_t i = 0; i < std::min(lezing.zwevend.size(), hoogstens); ++i)
         EisEenVervangen(inhoud, soort, lezing.zwevend[i]);

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/schijf/heelschrijven.h"
+#include "platform/tekst/getal.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
@@ -177,7 +178,7 @@ std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel, Tekstblik impo
         const auto cel = [&](Kolom kolom) { return Tekst(tabel.Cel(rij, kolom)); };
         const Tekst key = cel(Kolom::Key);
         if (tabel.Cel(rij, Kolom::Groep) != importgroep || key.size() != lengteKey ||
-            !ZijnCijfers(key))
+            AlsGetal(key, lengteKey) != key)
             continue;
         Tekst naam;
         for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam}) {

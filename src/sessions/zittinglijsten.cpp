@@ -27,7 +27,7 @@ void VoegZwevendenToe(std::vector<Tafelnaam>& uit, Tekstblik code, Tekstblik spe
     if (!helften)
         return;
     for (const Tekstblik helft : {helften->eerste, helften->tweede}) {
-        if (IsZwevend(helft))
+        if (!helft.empty() && !AlsGetal(helft, 1))
             uit.push_back({Tekst(ZonderSpaties(code)), Tekst(helft)});
     }
 }
@@ -58,10 +58,13 @@ class Vervanger {
         const auto helften = SplitsHelften(spelers);
         if (gezocht == codes_.end() || !helften)
             return std::nullopt;
-        auto nieuw = MetKey(*helften, vervanging_.naam, vervanging_.key);
-        if (nieuw)
-            vervangen_.insert(gezocht->second);
-        return nieuw;
+        const bool eerste = helften->eerste == vervanging_.naam;
+        const bool tweede = helften->tweede == vervanging_.naam;
+        if (!eerste && !tweede)
+            return std::nullopt;
+        vervangen_.insert(gezocht->second);
+        Tekst nieuw(eerste ? vervanging_.key : helften->eerste);
+        return nieuw.append(" - ").append(tweede ? vervanging_.key : helften->tweede);
     }
 
     [[nodiscard]] const std::set<Tekst>& Vervangen() const { return vervangen_; }
@@ -115,11 +118,6 @@ std::optional<Tekst> NieuweRecordregel(Tekstblik regel, Vervanger& vervanger)
 
 } // namespace
 
-bool ZijnCijfers(Tekstblik tekst)
-{
-    return !tekst.empty() && std::all_of(tekst.begin(), tekst.end(), IsCijfer);
-}
-
 std::optional<Helften> SplitsHelften(Tekstblik spelers)
 {
     const auto streep = spelers.find('-');
@@ -127,19 +125,6 @@ std::optional<Helften> SplitsHelften(Tekstblik spelers)
         return std::nullopt;
     return Helften{ZonderSpaties(spelers.substr(0, streep)),
                    ZonderSpaties(spelers.substr(streep + 1))};
-}
-
-bool IsZwevend(Tekstblik helft)
-{
-    return !helft.empty() && !ZijnCijfers(helft);
-}
-
-std::optional<Tekst> MetKey(const Helften& helften, Tekstblik naam, Tekstblik key)
-{
-    if (helften.eerste != naam && helften.tweede != naam)
-        return std::nullopt;
-    Tekst uit(helften.eerste == naam ? key : helften.eerste);
-    return uit.append(" - ").append(helften.tweede == naam ? key : helften.tweede);
 }
 
 std::optional<Lijstpaar> PaarUit(Tekstblik item)
@@ -154,11 +139,10 @@ std::optional<Lijstpaar> PaarUit(Tekstblik item)
 Tekst Tafelsleutel(Tekstblik code)
 {
     const Tekstblik tekst = ZonderSpaties(code);
-    if (tekst.size() < 2 || IsCijfer(tekst.front()) || !ZijnCijfers(tekst.substr(1)))
+    if (tekst.empty() || IsCijfer(tekst.front()) || tekst.substr(1).starts_with(' '))
         return Tekst(tekst);
-    Tekstblik nummer = tekst.substr(1);
-    nummer.remove_prefix(std::min(nummer.find_first_not_of('0'), nummer.size() - 1));
-    return Tekst(tekst.substr(0, 1)).append(nummer);
+    const auto nummer = AlsGetal(tekst.substr(1), 1);
+    return nummer ? tekst.front() + *nummer : Tekst(tekst);
 }
 
 Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort)

@@ -27,25 +27,17 @@ namespace plexoran {
 struct Helften {
     Tekstblik eerste;
     Tekstblik tweede;
+    bool operator==(const Helften&) const = default;
 };
 
 /// The halves, each without outer spaces; nothing for a text without "-".
 [[nodiscard]] std::optional<Helften> SplitsHelften(Tekstblik spelers);
 
-/// Whether a text is made of digits only, and of one at least: a key, or another number.
-[[nodiscard]] bool ZijnCijfers(Tekstblik tekst);
-
-/// A half is floating when it is neither empty nor made of digits only.
-[[nodiscard]] bool IsZwevend(Tekstblik helft);
-
-/// The halves joined by " - ", in each of which the name has become the key. Nothing when neither
-/// is the name.
-[[nodiscard]] std::optional<Tekst> MetKey(const Helften& helften, Tekstblik naam, Tekstblik key);
-
 /// An item of a player list: characters 1 to 3 are the position code, the rest the players.
 struct Lijstpaar {
     Tekstblik code;
     Tekstblik spelers; ///< from character 4, without outer spaces
+    bool operator==(const Lijstpaar&) const = default;
 };
 
 /// Outer spaces of the item do not count; nothing for an empty one.
@@ -57,7 +49,8 @@ struct Lijstpaar {
 
 enum class Lijstsoort { Spelers, Percentages };
 
-/// A floating player as a file has him; the code as it is written there, without outer spaces.
+/// A floating player as a file has him, a half of a pair that is neither empty nor made of digits
+/// only; the code as it is written there, without outer spaces.
 struct Tafelnaam {
     Tekst code;
     Tekst naam;

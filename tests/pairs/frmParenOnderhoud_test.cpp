@@ -348,13 +348,6 @@ TEST_F(frmParenOnderhoudTest, EenPaarMetDeKnop)
     EXPECT_EQ("Aantal paren: 1", Label("Label8"));
     EXPECT_EQ(-1, Gekozen("L1"));
     EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
-    MaakPaar(0, 1);
-    EXPECT_EQ((Teksten{"100005 Ärp Éls          +100002 Cock Bea de",
-                       "100004 Eik Dirk          +100001 Bos An"}),
-              Regels("L3"));
-    EXPECT_EQ(Teksten(), Regels("L1"));
-    EXPECT_EQ("Aantal spelers: 0", Label("Label7"));
-    EXPECT_EQ("Aantal paren: 2", Label("Label8"));
 }
 
 TEST_F(frmParenOnderhoudTest, EenPaarMetEenDubbelklikRechts)
@@ -566,25 +559,16 @@ TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
 /// Only syncing the folder, the last step, fails: the pairs are in their file.
 TEST_F(frmParenOnderhoudTest, ParenDieErStaanMaarNietVastGaanNietNaarHetKlembord)
 {
-    int stappen = 0;
-    for (const bool faalt : {false, true}) {
-        geheugen.Zet(dinsdag, "100004-100005#\r\n");
-        ASSERT_NO_FATAL_FAILURE(Open());
-        Kies("Gr03-Dinsdag");
-        MaakPaar(0, 1);
-        QGuiApplication::clipboard()->setText(u"van mij"_s);
-        schijf.FaalNiet();
-        if (faalt) {
-            schijf.FaalBij(stappen);
-            VerwachtNietVast("C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt");
-        }
-        Klik(Knop("cmdEinde"));
-        wachter.Klaar();
-        stappen = schijf.Aantal();
-        EXPECT_FALSE(venster->isVisible());
-        EXPECT_EQ("van mij", QGuiApplication::clipboard()->text().toStdString());
-        EXPECT_EQ("100001-100002#100004-100005#\r\n", geheugen.Inhoud(dinsdag));
-    }
+    KiesDinsdag("100004-100005#\r\n");
+    MaakPaar(0, 1);
+    QGuiApplication::clipboard()->setText(u"van mij"_s);
+    schijf.FaalBij(10);
+    VerwachtNietVast(dinsdag);
+    Klik(Knop("cmdEinde"));
+    wachter.Klaar();
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ("van mij", QGuiApplication::clipboard()->text().toStdString());
+    EXPECT_EQ("100001-100002#100004-100005#\r\n", geheugen.Inhoud(dinsdag));
 }
 
 TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
@@ -689,23 +673,15 @@ TEST_F(frmParenOnderhoudTest, EenCSVDieErStaatMaarNietVastIsOpgeslagen)
 {
     Kies("Gr03-Dinsdag");
     MaakPaar(0, 1);
-    int stappen = 0;
-    for (const bool faalt : {false, true}) {
-        schijf.FaalNiet();
-        if (faalt) {
-            ASSERT_TRUE(geheugen.Verwijder("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
-            schijf.FaalBij(stappen);
-            VerwachtNietVast("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv");
-        }
-        wachter.Verwacht(
-            {.tekst = u"Het parenbestand 'RVDparenCSV2.csv' is opgeslagen in de map: \r\n\r\n"_s,
-             .alleenBegin = true});
-        Klik(Knop("cmdPrintLos"));
-        wachter.Klaar();
-        stappen = schijf.Aantal();
-        EXPECT_EQ("1;\xC9ls \xC4rp;An Bos\r\n",
-                  geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
-    }
+    schijf.FaalBij(9);
+    VerwachtNietVast("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv");
+    wachter.Verwacht(
+        {.tekst = u"Het parenbestand 'RVDparenCSV2.csv' is opgeslagen in de map: \r\n\r\n"_s,
+         .alleenBegin = true});
+    Klik(Knop("cmdPrintLos"));
+    wachter.Klaar();
+    EXPECT_EQ("1;\xC9ls \xC4rp;An Bos\r\n",
+              geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
 }
 
 TEST_F(frmParenOnderhoudTest, EenCSVDieNietLukt)

@@ -74,13 +74,6 @@ TEST_F(ParenCSVTest, HetBestandInDeMapDieErNogNietIs)
               schijf.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
 }
 
-TEST_F(ParenCSVTest, ZonderParenEenLeegBestand)
-{
-    ASSERT_TRUE(SchrijfParenCSV(schijf, mappen, tweeParen, tabel, ParenCSV::EenKolom));
-    ASSERT_TRUE(SchrijfParenCSV(schijf, mappen, {}, tabel, ParenCSV::EenKolom));
-    EXPECT_EQ("", schijf.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV1.csv"));
-}
-
 TEST_F(ParenCSVTest, WatMisgaatIsEenFout)
 {
     FalendeSchijf stuk(schijf);
