@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <algorithm>
@@ -43,6 +44,12 @@ inline void Klik(QWidget* deel, QPoint plek = {})
 {
     QTest::mouseClick(deel, Qt::LeftButton, {}, plek);
     QApplication::processEvents();
+}
+
+/// Presses a button of a window.
+inline void Druk(const QWidget& in, const char* knop)
+{
+    Klik(Vind<QPushButton>(in, knop));
 }
 
 /// Picks an entry of a drop-down from its list, which may be the entry that is shown.

@@ -23,18 +23,17 @@ class PrintenTest : public Hoofdvensterproef {
     {
         wachter.Bedien([&](QDialog& keuze) {
             keuzes(keuze);
-            Klik(Vind<QPushButton>(keuze, "cmdOK"));
-            Klik(Vind<QPushButton>(keuze, "cmdAnnuleren"));
+            Druk(keuze, "cmdOK");
+            Druk(keuze, "cmdAnnuleren");
         });
         wachter.Bedien([&](QDialog& blad) {
             voorbeeld(blad);
-            Klik(Vind<QPushButton>(blad, "cmdAnnuleren"));
+            Druk(blad, "cmdAnnuleren");
         });
         VerwachtPdf(wachter, Bestand(), [](QDialog& dialoog) {
             Vind<QRadioButton>(dialoog, "printAll")->setChecked(true);
         });
-        Klik(Knop("cmdPrint"));
-        wachter.Klaar();
+        Opdracht("cmdPrint");
     }
     [[nodiscard]] std::filesystem::path Bestand() const { return suite.Weg() / "lijst.pdf"; }
 };
@@ -54,7 +53,7 @@ TEST_F(PrintenTest, EenLijstVanDeGetoondeGroep)
             EXPECT_EQ("(kolom 18)", Vind<Regellijst>(keuze, "lstKeus")->Regel(14));
             Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
         },
-        [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
+        [](QDialog& blad) { Druk(blad, "cmdPrinten"); });
     EXPECT_EQ(Keus("cmbGr")->currentText().toStdString(), groep);
     const auto bladen = LeesPdf(Bestand());
     ASSERT_FALSE(bladen.empty());
@@ -76,7 +75,7 @@ TEST_F(PrintenTest, AlleenDeGekozenSubgroep)
             ASSERT_EQ("B-LIJN", subgroepen->Regel(1));
             subgroepen->Kies({1});
         },
-        [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
+        [](QDialog& blad) { Druk(blad, "cmdPrinten"); });
     const auto bladen = LeesPdf(Bestand());
     ASSERT_EQ(1U, bladen.size());
     EXPECT_NE(std::string::npos, bladen[0].Tekst().find("Subgroep(en): B-LIJN RegNr"));
@@ -95,10 +94,10 @@ TEST_F(PrintenTest, MeerSubgroepenStaanInDeKopZoalsInDeLijst)
             auto* subgroepen = Vind<Regellijst>(keuze, "lstNBBgr");
             for (const int plaats : {2, 0})
                 subgroepen->Kies({plaats});
-            Klik(Vind<QPushButton>(keuze, "cmdSelNone"));
+            Druk(keuze, "cmdSelNone");
             Vind<Regellijst>(keuze, "lstKeus")->Kies({2});
         },
-        [](QDialog& blad) { Klik(Vind<QPushButton>(blad, "cmdPrinten")); });
+        [](QDialog& blad) { Druk(blad, "cmdPrinten"); });
     const auto bladen = LeesPdf(Bestand());
     ASSERT_FALSE(bladen.empty());
     const std::string tekst = bladen[0].Tekst();
@@ -118,7 +117,7 @@ TEST_F(PrintenTest, InDeImportgroepMetNummer)
         [&](QDialog& keuze) {
             auto* kolommen = Vind<Regellijst>(keuze, "lstKeus");
             EXPECT_EQ("NBBnr", kolommen->Regel(14));
-            Klik(Vind<QPushButton>(keuze, "cmdSelNone"));
+            Druk(keuze, "cmdSelNone");
             kolommen->Kies({2});
             kolommen->Kies({14});
             Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
@@ -126,7 +125,7 @@ TEST_F(PrintenTest, InDeImportgroepMetNummer)
         [](QDialog& blad) {
             EXPECT_EQ("Printformaat: A4-staand",
                       Vind<QLabel>(blad, "Label2")->text().toStdString());
-            Klik(Vind<QPushButton>(blad, "cmdPrinten"));
+            Druk(blad, "cmdPrinten");
         });
     const auto bladen = LeesPdf(Bestand());
     ASSERT_EQ(1U, bladen.size());
@@ -143,5 +142,5 @@ TEST_F(PrintenTest, EenLegeGroepHeeftNietsTePrinten)
         EXPECT_FALSE(Vind<QPushButton>(keuze, "cmdOK")->isEnabled());
         keuze.reject();
     });
-    Klik(Knop("cmdPrint"));
+    Opdracht("cmdPrint");
 }

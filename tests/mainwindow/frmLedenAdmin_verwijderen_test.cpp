@@ -56,8 +56,6 @@ class VerwijderTest : public Hoofdvensterproef {
         }
         return uit;
     }
-
-    [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
 };
 
 } // namespace
@@ -70,8 +68,7 @@ TEST_F(VerwijderTest, VerwijdertDeGetoondeRegelNietDeTabelrij)
     const std::string sleutel = GekozenSleutel();
     wachter.Verwacht(Verwijdervraag(regel3, OK, u"1 speler:\nGerda Verstegh-Holl"_s));
     wachter.Informatie(u"De regel is verwijderd."_s);
-    Klik(Knop("cmdVerwijder"));
-    wachter.Klaar();
+    Opdracht("cmdVerwijder");
     EXPECT_NE("100003", sleutel);
     EXPECT_EQ(ZonderSleutels(oud, {sleutel}), suite.Spelers());
     EXPECT_EQ("Aantal regels: 24", Aantal());
@@ -96,8 +93,7 @@ TEST_F(VerwijderTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
     KiesRegel(3);
     for (const QString& antwoord : {Annuleren, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
         wachter.Verwacht(Verwijdervraag(regel3, antwoord, johan));
-        Klik(Knop("cmdVerwijder"));
-        wachter.Klaar();
+        Opdracht("cmdVerwijder");
         EXPECT_EQ(3, GekozenRegel());
     }
     EXPECT_EQ(oud, suite.Spelers());
@@ -108,7 +104,7 @@ TEST_F(VerwijderTest, ZonderGekozenRegelIsErNietsTeVerwijderen)
 {
     const std::string oud = suite.Spelers();
     wachter.Waarschuwing(geenRegel);
-    Klik(Knop("cmdVerwijder"));
+    Opdracht("cmdVerwijder");
     wachter.Waarschuwing(geenRegel);
     Toets(Qt::Key_Delete);
     wachter.Klaar();
@@ -130,8 +126,7 @@ TEST_F(VerwijderTest, VerwijdertVanTotEnMet)
         Verwijdervraag(u"Weet u zeker dat u regel 4 t/m regel 6 wilt verwijderen?"_s, OK,
                        u"3 spelers:\nChloë Blokzijlder\nJesse Nijboersma\nIlse ten Broekhoven"_s));
     wachter.Informatie(u"De regels zijn verwijderd."_s);
-    Klik(Knop("cmdVerwijderVT"));
-    wachter.Klaar();
+    Opdracht("cmdVerwijderVT");
     EXPECT_EQ(ZonderSleutels(oud, sleutels), suite.Spelers());
     EXPECT_EQ("Aantal regels: 6", Aantal());
     EXPECT_EQ(3, GetoondeGroep());
@@ -147,8 +142,7 @@ TEST_F(VerwijderTest, EenHeleGroepVerwijderenLaatDeGroepLeegStaan)
         u"9 spelers:\nSem Kloosterziel\nNoor van Dorremolen\nDaan Leliveldt\nChloë Blokzijlder\n"
         "Jesse Nijboersma\nIlse ten Broekhoven\nMees de Drieskens\nAïcha el Amranouï\nThijs O"_s));
     wachter.Informatie(u"De regels zijn verwijderd."_s);
-    Klik(Knop("cmdVerwijderVT"));
-    wachter.Klaar();
+    Opdracht("cmdVerwijderVT");
     EXPECT_EQ("Aantal regels: 0", Aantal());
     EXPECT_EQ(3, GetoondeGroep());
     EXPECT_EQ(139U + 1, RegelsVan(suite.Spelers()).size());
@@ -162,8 +156,7 @@ TEST_F(VerwijderTest, AnnulerenVanVanTotVerwijdertNiets)
     Keus("cmbVerwTot")->setCurrentIndex(1);
     wachter.Verwacht(Verwijdervraag(u"Weet u zeker dat u regel 2 t/m regel 2 wilt verwijderen?"_s,
                                     Annuleren, u"1 speler:\nNoor van Dorremolen"_s));
-    Klik(Knop("cmdVerwijderVT"));
-    wachter.Klaar();
+    Opdracht("cmdVerwijderVT");
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ("Aantal regels: 9", Aantal());
 }
@@ -177,8 +170,7 @@ TEST_F(VerwijderTest, VanNaTotWordtGeweigerd)
     wachter.Waarschuwing(
         u"Er is niets verwijderd: regel 5 komt na regel 3. Kies bij 'Van regel' de eerste en bij "
         "'T/m regel' de laatste regel."_s);
-    Klik(Knop("cmdVerwijderVT"));
-    wachter.Klaar();
+    Opdracht("cmdVerwijderVT");
     EXPECT_EQ(oud, suite.Spelers());
 }
 
@@ -194,8 +186,7 @@ TEST_F(VerwijderTest, DeEersteTienSpelersStaanErMetNaamEnHetAantal)
         wachter.Verwacht(
             Verwijdervraag(u"Weet u zeker dat u regel 2 t/m regel %1 wilt verwijderen?"_s.arg(tot),
                            Annuleren, namen));
-        Klik(Knop("cmdVerwijderVT"));
-        wachter.Klaar();
+        Opdracht("cmdVerwijderVT");
     };
     vraagTot(12);
     Keus("cmbVerwTot")->setCurrentIndex(12);
@@ -218,7 +209,7 @@ TEST_F(VerwijderTest, EenNaamIsNooitOpmaakEnMaaktHetVensterNietBreed)
         EXPECT_LT(vraag.width(), 800);
         return Annuleren;
     });
-    Klik(Knop("cmdVerwijder"));
+    Opdracht("cmdVerwijder");
 }
 
 /// Meant: a register without players is never written, so the last players come back.
@@ -235,8 +226,7 @@ TEST_F(VerwijderTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
     wachter.Informatie(
         u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste inhoud, "
         "en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
-    Klik(Knop("cmdVerwijderVT"));
-    wachter.Klaar();
+    Opdracht("cmdVerwijderVT");
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ("Aantal regels: 2", Aantal());
 }
@@ -249,12 +239,7 @@ TEST_F(VerwijderTest, DeSleutelVanEenVerwijderdeSpelerKomtNooitTerug)
                                     u"1 speler:\nTjitske Eÿckenduÿn"_s));
     wachter.Informatie(u"De regel is verwijderd."_s);
     Toets(Qt::Key_Delete);
-    wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_6", u"Nieuw"_s);
-        Klik(Vind<QPushButton>(ingave, "cmdOK"));
-    });
-    Klik(Knop("cmdAanm"));
-    wachter.Klaar();
+    VoegToe(u"Nieuw"_s);
     const auto regels = RegelsVan(suite.Spelers());
     EXPECT_EQ("HKEY=100172", regels.front());
     EXPECT_EQ("148,100172,Gr10-,,,Nieuw,,,,,,,M,,,,,", regels.back());

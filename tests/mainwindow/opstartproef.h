@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "mainwindow/frmLedenAdmin_opslag.h"
+#include "mainwindow/frmLedenAdmin_opstart.h"
 #include "mainwindow/vensterproef.h"
 #include "schijven/geheugenSchijf.h"
 
@@ -117,6 +119,7 @@ class Opstartproef : public Vensterproef {
   protected:
     Opstartproef()
     {
+        hoofd.setWindowTitle(u"[*]"_s);
         geheugen.ZetMap("C:\\RVD\\Admin");
         geheugen.ZetMap("C:\\RVD\\Spelers");
         geheugen.ZetMap("C:\\RVD\\Bestanden");
@@ -124,6 +127,13 @@ class Opstartproef : public Vensterproef {
     }
     ~Opstartproef() override { venster.reset(); }
 
+    /// The start-up alone, without a window.
+    void Lees(Startafloop moet = Startafloop::Gelezen)
+    {
+        EXPECT_EQ(moet, Opstart(administratie, &hoofd).Lees("C:\\RVD\\Mappen.ini"));
+        wachter.Klaar();
+    }
+    /// With the window that shows what was read.
     std::optional<int> Laad(bool eersteExemplaar = true)
     {
         venster = std::make_unique<frmLedenAdmin>(administratie);
@@ -216,13 +226,24 @@ class Opstartproef : public Vensterproef {
              .knoppen = {u"Verhogen"_s, u"Niet verhogen"_s}});
     }
 
-    void VoegToe(const QString& achternaam)
+    /// Forgets the players that were read and the copies.
+    void BeginOpnieuw()
     {
-        wachter.Bedien([achternaam](QDialog& dialoog) {
-            Schrijf(dialoog, "txt1_6", achternaam);
-            Klik(Vind<QPushButton>(dialoog, "cmdOK"));
-        });
-        Klik(Knop("cmdAanm"));
+        administratie.spelers = {};
+        for (const Pad& pad : geheugen.AlleBestanden()) {
+            if (pad.find("Reservekopie") != Pad::npos) {
+                ASSERT_TRUE(geheugen.Verwijder(pad));
+            }
+        }
+    }
+
+    /// A player of the first group, saved.
+    void VoegToe(const Tekst& achternaam)
+    {
+        Rijvelden velden;
+        velden[Plaats(Kolom::Achternaam)] = achternaam;
+        ASSERT_TRUE(VoegSpelerToe(administratie.spelers, "Gr01-", velden));
+        afloop = Spelersopslag(administratie, &hoofd, [] {}).SlaOp();
         wachter.Klaar();
     }
 
@@ -230,6 +251,8 @@ class Opstartproef : public Vensterproef {
     Logschijf schijf{geheugen};
     Logwinkel winkel{schijf};
     Administratie administratie{.schijf = schijf, .winkel = winkel};
+    QWidget hoofd;
+    Opslag afloop = Opslag::Gelukt;
 };
 
 } // namespace plexoran

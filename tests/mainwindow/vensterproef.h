@@ -50,6 +50,27 @@ class Vensterproef : public testing::Test {
         return Knop(("cmd_" + std::to_string(nummer)).c_str());
     }
 
+    /// Presses a button; all that was expected must have come.
+    void Opdracht(const char* naam)
+    {
+        Klik(Knop(naam));
+        wachter.Klaar();
+    }
+    /// The entry window is filled with a surname.
+    void VerwachtIngave(const QString& achternaam)
+    {
+        wachter.Bedien([achternaam](QDialog& ingave) {
+            Schrijf(ingave, "txt1_6", achternaam);
+            Druk(ingave, "cmdOK");
+        });
+    }
+    void VoegToe(const QString& achternaam)
+    {
+        VerwachtIngave(achternaam);
+        Opdracht("cmdAanm");
+    }
+    [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
+
     void KiesGroep(int nummer) const { Keus("cmbGr")->setCurrentIndex(nummer - 1); }
     [[nodiscard]] int GetoondeGroep() const { return Keus("cmbGr")->currentIndex() + 1; }
 
