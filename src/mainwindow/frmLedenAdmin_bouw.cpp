@@ -7,6 +7,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
@@ -21,12 +23,14 @@ constexpr int KeuzeLinks = 7000;
 constexpr int Label1Boven = 200;
 constexpr int GroepBoven = 500;
 constexpr int GroepBreed = 3500;
+constexpr int GroepSmaller = 1000; // at most, where the screen lacks the room
 constexpr int NamenBoven = 400;
 constexpr int NamenTussen = 200;
 constexpr int KolBrBoven = 60;
 
 constexpr double Toelichtingletter = 8; // points
 constexpr int Tussenruimte = 8;         // pixels between the columns of commands
+constexpr int Knopruimte = 16;          // pixels beside the caption of a button, both sides
 
 QComboBox* MaakNummerkeus(const QString& naam, const QString& gesproken, Nummerlijst* nummers,
                           QLabel* label, QWidget* ouder)
@@ -136,12 +140,9 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     cmbGr = MaakKeus(u"cmbGr"_s, Label1, boven);
     cmbGr->setAccessibleName(u"Spelergroep"_s);
     cmbGr->setMaxVisibleItems(25);
-    cmbGr->setGeometry(maten_.Twips(KeuzeLinks), maten_.Twips(GroepBoven), maten_.Twips(GroepBreed),
-                       cmbGr->sizeHint().height());
     connect(cmbGr, &QComboBox::currentIndexChanged, this, &frmLedenAdmin::ToonGroep);
     // Picking the group that is shown displays it anew.
     connect(cmbGr, &QComboBox::activated, this, &frmLedenAdmin::ToonGroep);
-    const int naast = cmbGr->geometry().right() + 1 + maten_.Twips(NamenTussen);
     auto* chkKolBr = MaakVink(u"chkKolBr"_s, u"Kolombreedte volgens header"_s, u'd', boven);
     chkKolBr->setChecked(true);
     connect(chkKolBr, &QCheckBox::toggled, this, [this](bool aan) {
@@ -153,8 +154,16 @@ QWidget* frmLedenAdmin::BouwBovenkant()
         u"Voor de duidelijkheid kunt u tekst toevoegen. Bijv: Gro2-Clubleden"_s);
     cmdMaakGrNamen->setParent(boven);
     cmdMaakGrNamen->adjustSize();
-    cmdMaakGrNamen->move(naast, maten_.Twips(NamenBoven));
     chkKolBr->adjustSize();
+    const int breed =
+        maten_.Twips(KeuzeLinks + GroepBreed + NamenTussen + RoosterLinks) + chkKolBr->width();
+    const int teBreed = breed - (screen()->availableSize() - Kader).width();
+    cmbGr->setGeometry(maten_.Twips(KeuzeLinks), maten_.Twips(GroepBoven),
+                       maten_.Twips(GroepBreed) -
+                           std::clamp(teBreed, 0, maten_.Twips(GroepSmaller)),
+                       cmbGr->sizeHint().height());
+    const int naast = cmbGr->geometry().right() + 1 + maten_.Twips(NamenTussen);
+    cmdMaakGrNamen->move(naast, maten_.Twips(NamenBoven));
     chkKolBr->move(naast, cmdMaakGrNamen->y() - chkKolBr->height() - maten_.Twips(KolBrBoven) / 2);
     boven->setMinimumWidth(chkKolBr->geometry().right() + maten_.Twips(RoosterLinks));
     return boven;
@@ -222,6 +231,10 @@ QLayout* frmLedenAdmin::BouwLijstkolom()
     const auto sorteerknop = [this](const char16_t* naam, const char16_t* tekst, char16_t letter,
                                     Sorteersoort soort) {
         auto* knop = Opdracht(naam, tekst, letter, nullptr);
+        // They share the width that there is; the standard one is too much for a small screen.
+        knop->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        knop->setMinimumWidth(knop->fontMetrics().horizontalAdvance(QString::fromUtf16(tekst)) +
+                              Knopruimte);
         connect(knop, &QPushButton::clicked, this, [this, soort] { ToonSorteerlijst(soort); });
         return knop;
     };

@@ -76,7 +76,9 @@ void VerwachtBereikbaar(QWidget& deel)
     const bool eigenMaat = deel.sizePolicy().horizontalPolicy() != QSizePolicy::Ignored &&
                            deel.objectName() != "cmdH_1"_L1; // stands in its row
     if (knop != nullptr && eigenMaat) {
-        EXPECT_GE(deel.width(), deel.minimumSizeHint().width()) << deel.objectName().toStdString();
+        const int minst = deel.minimumWidth(); // where the standard one would be too much
+        EXPECT_GE(deel.width(), minst > 0 ? minst : deel.minimumSizeHint().width())
+            << deel.objectName().toStdString();
     }
 }
 
@@ -90,6 +92,11 @@ TEST_P(SchermmaatTest, ElkVensterStaatErHelemaalOp)
         const QRect kader = venster.frameGeometry();
         EXPECT_TRUE(Scherm()->availableGeometry().contains(kader))
             << kader.x() << ',' << kader.y() << ' ' << kader.width() << 'x' << kader.height();
+        const bool hoofd = venster.objectName() == "frmLedenAdmin"_L1;
+        if (const auto* blad = venster.findChild<QScrollArea*>(u"schuifblad"_s);
+            blad != nullptr && hoofd && GetParam().punten == 9) {
+            EXPECT_EQ(0, blad->horizontalScrollBar()->maximum());
+        }
         for (QWidget* deel : venster.findChildren<QWidget*>()) {
             const bool bediening = qobject_cast<QAbstractButton*>(deel) != nullptr ||
                                    qobject_cast<QComboBox*>(deel) != nullptr ||
