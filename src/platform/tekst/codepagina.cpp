@@ -20,65 +20,27 @@ constexpr char16_t Teken(unsigned char byte)
     return byte >= 0x80 && byte <= 0x9F ? middenstuk[byte - 0x80U] : char16_t{byte};
 }
 
-struct Paar {
-    char16_t teken;
-    char byte;
-};
-
-constexpr auto MaakTerugtabel()
-{
-    std::array<Paar, 32> tabel{};
-    for (std::size_t i = 0; i < tabel.size(); ++i)
-        tabel[i] = {middenstuk[i], static_cast<char>(0x80 + i)};
-    std::sort(tabel.begin(), tabel.end(), [](Paar a, Paar b) { return a.teken < b.teken; });
-    return tabel;
-}
-
-constexpr auto terugtabel = MaakTerugtabel();
-
 std::optional<char> Byte(char32_t teken)
 {
     if (teken < 0x80 || (teken >= 0xA0 && teken <= 0xFF))
         return static_cast<char>(teken);
-    const auto plaats =
-        std::lower_bound(terugtabel.begin(), terugtabel.end(), teken,
-                         [](Paar paar, char32_t gezocht) { return paar.teken < gezocht; });
-    if (plaats == terugtabel.end() || plaats->teken != teken)
+    const auto plek = std::find(middenstuk.begin(), middenstuk.end(), teken);
+    if (plek == middenstuk.end())
         return std::nullopt;
-    return plaats->byte;
+    return static_cast<char>(0x80 + (plek - middenstuk.begin()));
 }
 
-struct Gelijkenis {
-    std::u16string_view tekens; ///< each of these has the likeness
-    const char* door;
-};
+// The letters of Europe that do not decompose into their likeness, and below them the likenesses.
+constexpr std::u16string_view letters = u"ĐƉđƏəǤǥĦħıĸŁłŊŋŦŧƷʒ";
+constexpr Tekstblik gelijkeLetters = "DDdEeGgHhikLlNnTtZz";
 
-// The letters of Europe that do not decompose into their likeness, and signs that keyboards and
+// Those that become two letters, of which the second keeps its caron, and signs that keyboards and
 // other programs put in the place of a plain one; these as escapes, since many look alike.
-constexpr Gelijkenis gelijkenissen[] = {
-    {u"ĐƉ", "D"},
-    {u"đ", "d"},
-    {u"Ǆ", "D\x8E"}, // their second letter keeps its
-                     // caron
+constexpr std::pair<std::u16string_view, Tekstblik> gelijkenissen[] = {
+    {u"Ǆ", "D\x8E"},
     {u"ǅ", "D\x9E"},
     {u"ǆ", "d\x9E"},
-    {u"Ə", "E"},
-    {u"ə", "e"},
-    {u"Ǥ", "G"},
-    {u"ǥ", "g"},
-    {u"Ħ", "H"},
-    {u"ħ", "h"},
-    {u"ı", "i"},
-    {u"ĸ", "k"},
-    {u"Ł", "L"},
-    {u"ł", "l"},
-    {u"Ŋ", "N"},
-    {u"ŋ", "n"},
     {u"ẞ", "SS"},
-    {u"Ŧ", "T"},
-    {u"ŧ", "t"},
-    {u"Ʒ", "Z"},
-    {u"ʒ", "z"},
     {u"\u02B9\u02C8\u2032", "'"},
     {u"\u02BC", "\x92"},
     {u"\u201B", "\x91"},
@@ -90,22 +52,29 @@ constexpr Gelijkenis gelijkenissen[] = {
     {u"\u2044\u2215", "/"},
 };
 
-const char* Gelijkend(char32_t teken)
+/// Empty when nothing is like it.
+Tekstblik Gelijkend(char32_t teken)
 {
+    if (teken > 0xFFFF)
+        return {};
+    const auto eenheid = static_cast<char16_t>(teken);
+    const auto plek = letters.find(eenheid);
+    if (plek != letters.npos)
+        return gelijkeLetters.substr(plek, 1);
     for (const auto& [tekens, door] : gelijkenissen) {
-        if (teken <= 0xFFFF && tekens.find(static_cast<char16_t>(teken)) != tekens.npos)
+        if (tekens.find(eenheid) != tekens.npos)
             return door;
     }
-    return nullptr;
+    return {};
 }
 
-/// The units of the character at `plaats`: two for a surrogate pair, otherwise one; a lone
+/// The units of the character at `plek`: two for a surrogate pair, otherwise one; a lone
 /// surrogate is a character by itself.
-std::u16string_view TekenOp(std::u16string_view tekst, std::size_t plaats)
+std::u16string_view TekenOp(std::u16string_view tekst, std::size_t plek)
 {
-    const bool paar = plaats + 1 < tekst.size() && QChar::isHighSurrogate(tekst[plaats]) &&
-                      QChar::isLowSurrogate(tekst[plaats + 1]);
-    return tekst.substr(plaats, paar ? 2 : 1);
+    const bool paar = plek + 1 < tekst.size() && QChar::isHighSurrogate(tekst[plek]) &&
+                      QChar::isLowSurrogate(tekst[plek + 1]);
+    return tekst.substr(plek, paar ? 2 : 1);
 }
 
 char32_t Nummer(std::u16string_view teken)
@@ -127,10 +96,10 @@ std::u16string Genormaliseerd(std::u16string_view tekst, QString::NormalizationF
 /// would be read as another.
 Tekst Naaste(std::u16string_view teken)
 {
-    if (const char* door = Gelijkend(Nummer(teken)))
-        return door;
+    Tekst uit(Gelijkend(Nummer(teken)));
+    if (!uit.empty())
+        return uit;
     const std::u16string delen = Genormaliseerd(teken, QString::NormalizationForm_KD);
-    Tekst uit;
     for (std::size_t i = 0; i < delen.size();) {
         const auto deel = TekenOp(delen, i);
         i += deel.size();
@@ -139,7 +108,7 @@ Tekst Naaste(std::u16string_view teken)
             continue;
         if (const auto byte = Byte(nummer))
             uit += *byte;
-        else if (const char* door = Gelijkend(nummer))
+        else if (const Tekstblik door = Gelijkend(nummer); !door.empty())
             uit += door;
         else
             return {};

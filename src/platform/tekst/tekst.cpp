@@ -94,45 +94,37 @@ Tekst MetNullen(std::int64_t getal, int breedte)
 
 namespace {
 
-/// How the digits after the point round the whole part: below, exactly or above a half.
-enum class Breuk { Onder, Half, Boven };
-
-Breuk LeesBreuk(Tekstblik rest)
+/// Takes the digits at the beginning off the text.
+Tekstblik NeemCijfers(Tekstblik& tekst)
 {
-    if (rest.size() < 2 || rest.front() != '.' || !IsCijfer(rest[1]) || rest[1] < '5')
-        return Breuk::Onder;
-    if (rest[1] > '5')
-        return Breuk::Boven;
-    for (const char teken : rest.substr(2)) {
-        if (!IsCijfer(teken))
-            break;
-        if (teken != '0')
-            return Breuk::Boven;
-    }
-    return Breuk::Half;
+    const auto eind = std::find_if_not(tekst.begin(), tekst.end(), IsCijfer);
+    const Tekstblik cijfers(tekst.begin(), eind);
+    tekst.remove_prefix(cijfers.size());
+    return cijfers;
 }
 
 /// The rounded value; nothing as soon as it is larger than any caller accepts.
 std::optional<std::int64_t> GeheelAanBegin(Tekstblik tekst)
 {
     constexpr std::int64_t ruimBuitenBereik = 1'000'000'000'000;
-    const auto begin = tekst.find_first_not_of(' ');
-    if (begin == Tekstblik::npos)
-        return 0;
-    tekst.remove_prefix(begin);
-    const bool negatief = tekst.front() == '-';
-    if (negatief || tekst.front() == '+')
+    tekst.remove_prefix(std::min(tekst.find_first_not_of(' '), tekst.size()));
+    const bool negatief = tekst.starts_with('-');
+    if (negatief || tekst.starts_with('+'))
         tekst.remove_prefix(1);
 
     std::int64_t waarde = 0;
-    while (!tekst.empty() && IsCijfer(tekst.front())) {
-        waarde = waarde * 10 + (tekst.front() - '0');
+    for (const char cijfer : NeemCijfers(tekst)) {
+        waarde = waarde * 10 + (cijfer - '0');
         if (waarde > ruimBuitenBereik)
             return std::nullopt;
-        tekst.remove_prefix(1);
     }
-    const Breuk breuk = LeesBreuk(tekst);
-    if (breuk == Breuk::Boven || (breuk == Breuk::Half && waarde % 2 != 0))
+    Tekstblik breuk;
+    if (tekst.starts_with('.')) {
+        tekst.remove_prefix(1);
+        breuk = NeemCijfers(tekst);
+        breuk = breuk.substr(0, breuk.find_last_not_of('0') + 1);
+    }
+    if (breuk > "5" || (breuk == "5" && waarde % 2 != 0))
         ++waarde;
     return negatief ? -waarde : waarde;
 }

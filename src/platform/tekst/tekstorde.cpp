@@ -15,69 +15,41 @@ struct Gewicht {
     unsigned char tweede = 0;
 };
 
-/// The plain capitals that the accented capitals 0xC0 to 0xDE count as; a blank where the place is
-/// not a letter, a digit where it stands for two letters, below.
-constexpr Tekstblik kaleHoofdletters = "AAAAAA1CEEEEIIIIDNOOOOO OUUUUY2";
-
-/// The letters a capital or lower-case letter counts as; empty for other characters.
-constexpr Tekstblik Letters(unsigned char teken)
+/// The letters that a character counts as; empty for what is none.
+Tekstblik Letters(char teken)
 {
+    /// The plain capitals that 0xC0 to 0xDD count as; a blank where they are none, or two.
+    constexpr Tekstblik kaleHoofdletters = "AAAAAA CEEEEIIIIDNOOOOO OUUUUY";
     constexpr Tekstblik alfabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-    const auto een = [&](char letter) {
-        return alfabet.substr(static_cast<std::size_t>(letter - 'A'), 1);
-    };
-    if (teken >= 'A' && teken <= 'Z')
-        return een(static_cast<char>(teken));
-    if (teken >= 'a' && teken <= 'z')
-        return een(static_cast<char>(teken - 0x20));
-    switch (teken) {
-    case 0xC6:
-    case 0xE6:
-        return "AE";
-    case 0x8C:
-    case 0x9C:
-        return "OE";
-    case 0xDF:
-        return "SS";
-    case 0xDE:
-    case 0xFE:
-        return "TH";
-    case 0x8A:
-    case 0x9A:
-        return "S";
-    case 0x8E:
-    case 0x9E:
-        return "Z";
-    case 0x9F:
-    case 0xFF:
-        return "Y";
-    case 0xD7:
-    case 0xF7: // the signs for times and divided by
-        return {};
-    default:
-        break;
+    constexpr std::pair<char, Tekstblik> andere[] = {{'\xC6', "AE"}, {'\x8C', "OE"}, {'\xDF', "SS"},
+                                                     {'\xDE', "TH"}, {'\x8A', "S"},  {'\x8E', "Z"},
+                                                     {'\x9F', "Y"}};
+
+    const char hoofdletter = Hoofdletter(teken);
+    for (const auto& [ander, letters] : andere) {
+        if (hoofdletter == ander)
+            return letters;
     }
-    if (teken < 0xC0)
-        return {};
-    const auto plaats = static_cast<std::size_t>(teken >= 0xE0 ? teken - 0xE0 : teken - 0xC0);
-    return een(kaleHoofdletters[plaats]);
+    const auto na = static_cast<std::size_t>(static_cast<unsigned char>(hoofdletter)) - 0xC0U;
+    const char letter = na < kaleHoofdletters.size() ? kaleHoofdletters[na] : hoofdletter;
+    const auto plek = alfabet.find(letter);
+    return plek == Tekstblik::npos ? Tekstblik() : alfabet.substr(plek, 1);
 }
 
 /// Weight 0 is kept for the end of a text, so that it comes before every longer one.
-constexpr std::array<Gewicht, 256> MaakGewichten()
+std::array<Gewicht, 256> MaakGewichten()
 {
     std::array<Gewicht, 256> gewichten{};
     unsigned char volgende = 1;
     gewichten[' '].eerste = volgende++;
     for (std::size_t i = 0; i < gewichten.size(); ++i) {
-        if (i != ' ' && !IsCijfer(static_cast<char>(i)) &&
-            Letters(static_cast<unsigned char>(i)).empty())
+        if (i != ' ' && !IsCijfer(static_cast<char>(i)) && Letters(static_cast<char>(i)).empty())
             gewichten[i].eerste = volgende++;
     }
     for (std::size_t i = '0'; i <= '9'; ++i)
         gewichten[i].eerste = volgende++;
     for (std::size_t i = 0; i < gewichten.size(); ++i) {
-        const Tekstblik letters = Letters(static_cast<unsigned char>(i));
+        const Tekstblik letters = Letters(static_cast<char>(i));
         if (letters.empty())
             continue;
         gewichten[i].eerste = static_cast<unsigned char>(volgende + letters[0] - 'A');
@@ -87,7 +59,7 @@ constexpr std::array<Gewicht, 256> MaakGewichten()
     return gewichten;
 }
 
-constexpr auto gewichten = MaakGewichten();
+const auto gewichten = MaakGewichten();
 
 /// Hands out the weights of a text one by one, and zeros behind its end.
 class Weger {
