@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "eis.h"
-#include "platform/tekst/getal.h"
 #include "platform/tekst/regels.h"
+#include "platform/tekst/tekst.h"
 #include "sessions/zittinglijsten.h"
 
 using namespace plexoran;

@@ -39,7 +39,7 @@ bool IsRev(Tekstblik naam)
 
 bool IsSleutelwoord(Tekstblik woord)
 {
-    return woord.size() == LengteKey && ZijnCijfers(woord);
+    return woord.size() == LengteKey && std::all_of(woord.begin(), woord.end(), IsCijfer);
 }
 
 /// Without the words of six digits at its ends.
@@ -82,7 +82,7 @@ std::int32_t HoogsteKeyIn(Tekstblik verslag)
         const auto paar = PaarUit(regel);
         const auto keys = paar ? SplitsHelften(paar->spelers) : std::nullopt;
         for (const Tekstblik key : {keys ? keys->eerste : "", keys ? keys->tweede : ""}) {
-            if (ZijnCijfers(key))
+            if (std::all_of(key.begin(), key.end(), IsCijfer))
                 hoogste = std::max(hoogste, Geheel32(key).value_or(0));
         }
     }
