@@ -1,9 +1,6 @@
 // The special add: the names in the player list of a scored session, whose folder's name ends in
 // "_Rev", become new players of the register, and a link file tells which pair got which keys.
-//
-//     RVDMAP\Zittingen\<name>_Rev\Spelers.txt, Koppelverslag.txt
-//     RVDMAP\Puntenboek\Rev_Clubnaam.txt                   first line: the club's name
-//     RVDMAP\Puntenboek\<club>_<name>_Rev\Spelers.txt      of the sibling program
+// Where these files stand is in docs/bestanden.md.
 #pragma once
 
 #include <optional>

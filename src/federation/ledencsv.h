@@ -1,12 +1,5 @@
 // The member CSV, in which all sources end: exported as such, or the intermediate file that the
-// other sources write.
-//
-// Layout: one member per line, columns apart by ";" without quoting: federation number, sex, first
-// name, initials, particle, surname, street address, postcode, town, telephone, e-mail, a further
-// address column; what follows is not used. A line that holds "=" anywhere is a heading.
-//
-// The lines of the intermediate file have 16 fields, each followed by ";", and end with CR LF; one
-// more CR LF closes the block. A ";" inside a text splits it.
+// other sources write (docs/bestanden.md).
 #pragma once
 
 #include <optional>

@@ -1,8 +1,5 @@
-// The member files that NBBR-3 and NBBR-4 export as XML, turned into the intermediate file.
-//
-// Members are the elements ReportableMember in ReportableMembersList/Members. NBBR-4 tells the data
-// of a member by the names of its child elements, NBBR-3 by their position among the child nodes:
-// texts and comments take a position too, but only an element fills a field.
+// The member files that NBBR-3 and NBBR-4 export as XML (docs/bestanden.md), turned into the
+// intermediate file.
 #pragma once
 
 #include <optional>

@@ -1,11 +1,5 @@
-// Pair files, "Parenmap\<group code><subgroup>.txt" in the players folder, and the suite-wide
-// "RVDparen.txt" in the players folder itself:
-//
-//     100234-100417#100301-100222# CR LF
-//
-// One line of pair tokens, each followed by "#". A token is thirteen characters: a key, "-" and a
-// key, in the order in which the pair was formed. Of several lines only the last one counts; what
-// is not thirteen characters long is passed over; the seventh character is not looked at.
+// Pair files, one per group-subgroup, and the suite-wide "RVDparen.txt" (docs/bestanden.md). A
+// token is a pair in them: thirteen characters, a key, "-" and a key.
 #pragma once
 
 #include <optional>

@@ -1,8 +1,4 @@
-// The pairs as a file for a spreadsheet, "RVDparenCSV1.csv" or "RVDparenCSV2.csv" in the folder
-// "DiverseUitvoer" of the suite, one line a pair:
-//
-//     <place in the list, from 1>;<first name> - <second name> CR LF       one column
-//     <place in the list, from 1>;<first name>;<second name> CR LF         two columns
+// The pairs as a file for a spreadsheet, in one column or in two (docs/bestanden.md).
 #pragma once
 
 #include <span>

@@ -1,11 +1,4 @@
-// Where the suite keeps its sessions and competitions:
-//
-//     ZITMAP\<session>\Zitdata.txt, Spelers.txt, PercZit.txt
-//     COMMAP\<competition>\Compdata.txt
-//     COMMAP\<competition>\Ronde-<r>\Zitting-<z>\Spelers.txt, PercZit-<z>.txt
-//
-// Numbers are in plain decimal. Of "Zitdata.txt" and "Compdata.txt" only the presence and the date
-// of change are looked at.
+// Where the suite keeps its sessions and competitions (docs/bestanden.md).
 #pragma once
 
 #include <vector>

@@ -1,18 +1,6 @@
-// The two files of a session that name players, as texts: finding the floating ones, and putting a
-// register key in the place of one of them. Each line names a pair: a position code and two
-// players, each a register key or, as long as he is floating, a name.
-//
-// "Spelers.txt", the player list: items, one a line, each a pair:
-//
-//     N05 Jan Bos - 100234 CR LF
-//
-// "PercZit.txt", the result list: records of 7 fields, one a line; the third is the position code,
-// the fourth the pair; texts stand between double quotes:
-//
-//     1,"x","N5","Jan Bos-100234",52.08,0,"" CR LF
-//
-// Rewriting keeps the text and changes it only where the name was replaced; docs/bestanden.md says
-// which bytes these are.
+// The two files of a session that name players, "Spelers.txt" and "PercZit.txt", as texts: finding
+// the floating ones, and putting a register key in the place of one of them. What they look like,
+// and which bytes a rewriting keeps, stands in docs/bestanden.md.
 #pragma once
 
 #include <optional>

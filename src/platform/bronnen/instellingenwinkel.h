@@ -1,11 +1,6 @@
 // The per-user settings that other programs leave: on Windows the registry below
-// "HKEY_CURRENT_USER\Software\VB and VBA Program Settings", elsewhere a text file:
-//
-//     [<application>\<section>]
-//     <key>=<value>
-//
-// Applications, sections and keys are found without regard to case. A value is all that follows the
-// first "=", without outer spaces.
+// "HKEY_CURRENT_USER\Software\VB and VBA Program Settings", elsewhere "rekenprogrammas.ini"
+// (docs/bestanden.md).
 #pragma once
 
 #include <memory>
