@@ -37,11 +37,6 @@ bool IsRev(Tekstblik naam)
     return Hoofdletters(naam).ends_with(Hoofdletters(Achtervoegsel));
 }
 
-bool ZijnCijfers(Tekstblik tekst)
-{
-    return !tekst.empty() && std::all_of(tekst.begin(), tekst.end(), IsCijfer);
-}
-
 bool IsSleutelwoord(Tekstblik woord)
 {
     return woord.size() == LengteKey && std::all_of(woord.begin(), woord.end(), IsCijfer);
