@@ -90,7 +90,7 @@ class OpslagTest : public testing::Test, protected Suitestand {
     void VoegToe(const Tekst& achternaam = "Nieuweling")
     {
         Rijvelden velden;
-        velden[Plaats(Kolom::Achternaam)] = achternaam;
+        velden[Index(Kolom::Achternaam)] = achternaam;
         ASSERT_TRUE(VoegSpelerToe(administratie.spelers, "Gr01-", velden));
         afloop = opslag.SlaOp();
         wachter.Klaar();

@@ -241,7 +241,7 @@ class Opstartproef : public Vensterproef {
     void VoegToe(const Tekst& achternaam)
     {
         Rijvelden velden;
-        velden[Plaats(Kolom::Achternaam)] = achternaam;
+        velden[Index(Kolom::Achternaam)] = achternaam;
         ASSERT_TRUE(VoegSpelerToe(administratie.spelers, "Gr01-", velden));
         afloop = Spelersopslag(administratie, &hoofd, [] {}).SlaOp();
         wachter.Klaar();

@@ -6,39 +6,21 @@
 
 using namespace plexoran;
 
-TEST(MappenIniPad, NaastHetProgramma)
+TEST(MappenIniPad, NaastHetProgrammaOfMetAdminEenMapHoger)
 {
     EXPECT_EQ(MappenIniPad("C:\\RVD\\Plexoran"), "C:\\RVD\\Plexoran\\Mappen.ini");
-}
-
-TEST(MappenIniPad, MetAdminEenMapHoger)
-{
     EXPECT_EQ(MappenIniPad("C:\\RVD\\Admin"), "C:\\RVD\\Mappen.ini");
     EXPECT_EQ(MappenIniPad("C:\\RVD\\LedenAdmin2"), "C:\\RVD\\Mappen.ini");
-}
-
-TEST(MappenIniPad, AndereHoofdlettersZijnGeenAdmin)
-{
+    EXPECT_EQ(MappenIniPad("Admin"), "Mappen.ini");
+    // Other capitals are no "Admin".
     EXPECT_EQ(MappenIniPad("C:\\RVD\\admin"), "C:\\RVD\\admin\\Mappen.ini");
     EXPECT_EQ(MappenIniPad("C:\\RVD\\ADMIN"), "C:\\RVD\\ADMIN\\Mappen.ini");
-}
-
-TEST(MappenIniPad, AdminErgensInHetPadTelt)
-{
     // One folder up from the program, not from the folder with the word: that is meant.
     EXPECT_EQ(MappenIniPad("C:\\Administratie\\RVD\\Plexoran"),
               "C:\\Administratie\\RVD\\Mappen.ini");
-}
-
-TEST(MappenIniPad, MetDeSchuineStreepVanAndereSystemen)
-{
+    // With the separator of other systems.
     EXPECT_EQ(MappenIniPad("/opt/rvd/Admin"), "/opt/rvd/Mappen.ini");
     EXPECT_EQ(MappenIniPad("/opt/rvd/plexoran"), "/opt/rvd/plexoran\\Mappen.ini");
-}
-
-TEST(MappenIniPad, ZonderMapErboven)
-{
-    EXPECT_EQ(MappenIniPad("Admin"), "Mappen.ini");
 }
 
 TEST(MappenUit, ElkeSleutel)

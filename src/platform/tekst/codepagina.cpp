@@ -33,6 +33,7 @@ std::optional<char> Byte(char32_t teken)
 // The letters of Europe that do not decompose into their likeness, and below them the likenesses.
 constexpr std::u16string_view letters = u"ĐƉđƏəǤǥĦħıĸŁłŊŋŦŧƷʒ";
 constexpr Tekstblik gelijkeLetters = "DDdEeGgHhikLlNnTtZz";
+static_assert(letters.size() == gelijkeLetters.size());
 
 // Those that become two letters, of which the second keeps its caron, and signs that keyboards and
 // other programs put in the place of a plain one; these as escapes, since many look alike.

@@ -136,8 +136,9 @@ TEST(Tekstorde, GelijkAanDeGewoneVergelijking)
     for (int i = 0; i < 100'000; ++i) {
         const Tekst een = tekst();
         const Tekst ander = tekst();
-        ASSERT_EQ(GewoneSleutel(een) < GewoneSleutel(ander), KomtVoor(een, ander)) << een << "\n"
-                                                                                   << ander;
+        const bool eerder = GewoneSleutel(een) < GewoneSleutel(ander);
+        ASSERT_EQ(eerder, KomtVoor(een, ander)) << een << "\n" << ander;
+        ASSERT_EQ(eerder, Sorteersleutel(een) < Sorteersleutel(ander)) << een << "\n" << ander;
     }
 }
 
@@ -154,44 +155,4 @@ TEST(Tekstorde, SorteertEnHoudtDubbeleTeksten)
     Sorteer(eigen);
     EXPECT_EQ((std::vector<Tekst>{"A 10", "a 2", "b", "\xC9\xE9n"}), eigen);
     EXPECT_TRUE(geen.empty());
-}
-
-/// Beginnings in common of every length, characters that count as two letters astride every place,
-/// texts that are equal but for case or accent, and more of each than are compared one by one; now
-/// and then so many that they are not compared at all.
-TEST(Tekstorde, SorteertZoalsDeSleutelsOokLangeGelijkeTeksten)
-{
-    std::mt19937 toeval(21);
-    const auto stuk = [&] {
-        return Tekst(toeval() % 20, "aAbBe,9 \xC6\xE6\xDF\xFE"[toeval() % 12]);
-    };
-    for (int keer = 0; keer < 300; ++keer) {
-        std::vector<Tekst> stukken;
-        for (int i = 0; i < 4; ++i)
-            stukken.push_back(stuk());
-        std::vector<Tekst> teksten(toeval() % (keer % 50 == 1 ? 20'000 : 200));
-        for (Tekst& tekst : teksten) {
-            const auto delen = toeval() % (keer % 10 == 0 ? 40 : 6);
-            for (std::size_t i = 0; i < delen; ++i)
-                tekst += stukken[toeval() % 8 == 0 ? toeval() % 4 : i % 4];
-        }
-        std::vector<Tekst> moet = teksten;
-        std::sort(moet.begin(), moet.end(), [](const Tekst& een, const Tekst& ander) {
-            return GewoneSleutel(een) < GewoneSleutel(ander);
-        });
-        Sorteer(teksten);
-        ASSERT_EQ(moet, teksten);
-    }
-}
-
-TEST(Tekstorde, SorteertVeelHeelLangeGelijkeTeksten)
-{
-    const Tekst lang(1'000'000, 'a');
-    const std::vector<Tekst> bron{lang + "b", lang, lang + "B", lang.substr(1) + "A", lang,
-                                  lang + "c", lang, lang + "a", lang + "9",           "a"};
-    std::vector<Tekst> teksten = bron;
-    Sorteer(teksten);
-    const std::vector<Tekst> gesorteerd{bron[9], bron[3], bron[1], bron[4], bron[6],
-                                        bron[8], bron[7], bron[2], bron[0], bron[5]};
-    EXPECT_EQ(gesorteerd, teksten);
 }
