@@ -9,7 +9,7 @@
 #include "hulp/register.h"
 #include "platform/scherm/schildervlak.h"
 #include "platform/tekst/tekstorde.h"
-#include "printing/bladtekenen.h"
+#include "printing/printblad.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {

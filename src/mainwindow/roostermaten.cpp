@@ -7,7 +7,6 @@ namespace plexoran {
 namespace {
 
 constexpr double PerMillimeter = 1000.0; // micrometres
-constexpr Tekstblik puntjes = "...";
 
 } // namespace
 
@@ -60,21 +59,7 @@ Tekst PasTekst(Tekstblik tekst, double kolombreedte, const Tekstmeter& meter)
 {
     const double ruimte = kolombreedte - 2 * rooster::Celmarge - rooster::Speling;
     const auto beschikbaar = static_cast<std::int64_t>(std::floor(ruimte * PerMillimeter));
-    const auto breedte = [&](char teken) { return meter.Breedte(Tekstblik(&teken, 1)); };
-
-    // Cutting a character a round and measuring again would be quadratic; the characters that stay
-    // are those whose widths, summed from the left, leave room for the dots.
-    const std::int64_t vrij = beschikbaar - meter.Breedte(puntjes);
-    std::int64_t som = 0;
-    std::size_t metPuntjes = 0;
-    for (std::size_t i = 0; i < tekst.size(); ++i) {
-        som += breedte(tekst[i]);
-        if (som <= vrij)
-            metPuntjes = i + 1;
-        if (som > beschikbaar)
-            return Tekst(tekst.substr(0, metPuntjes)).append(puntjes);
-    }
-    return Tekst(tekst);
+    return Ingekort(tekst, beschikbaar, [&](Tekstblik deel) { return meter.Breedte(deel); });
 }
 
 } // namespace plexoran

@@ -82,7 +82,7 @@ void frmParenOnderhoud::LaadSubgroep()
         MeldVerslag(
             this,
             u"De volgende spelers zijn losse spelers: \r\n\r\n%1\r\n"_s.arg(NaarQString(losse)),
-            QString::fromLatin1(Programmatitel), QMessageBox::Warning);
+            Programmatitel, QMessageBox::Warning);
 }
 
 void frmParenOnderhoud::VulSpelerslijsten(Regellijst::Plek plek)

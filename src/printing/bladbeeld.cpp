@@ -81,9 +81,8 @@ void Bladvlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 
 // ---------------------------------------------------------------- its frame
 
-Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, const Maten& maten,
-                     QWidget* ouder)
-    : Schuifkader(u"picP0"_s, maten, ouder), lijst_(lijst), pixelsPerMm_(SchermPixelsPerMm(*this)),
+Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder)
+    : Schuifkader(u"picP0"_s, Maten(), ouder), pixelsPerMm_(SchermPixelsPerMm(*this)),
       P9(new QWidget(this)), picP1(new Bladvlak(lijst, kast, P9))
 {
     QAccessible::installFactory(MaakSpreker); // which Qt does once

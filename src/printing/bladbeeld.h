@@ -5,7 +5,7 @@
 #include "platform/scherm/maten.h"
 #include "platform/scherm/schildervlak.h"
 #include "platform/scherm/schuifblad.h"
-#include "printing/bladtekenen.h"
+#include "printing/printblad.h"
 
 namespace plexoran {
 
@@ -32,7 +32,7 @@ class Bladbeeld : public Schuifkader {
 
   public:
     /// Borrows the list and the case of letters.
-    Bladbeeld(const Printlijst& lijst, const Letterkast& kast, const Maten& maten, QWidget* ouder);
+    Bladbeeld(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder);
 
     void Toon(int blad);
     void ZetZoom(int procent);
@@ -51,7 +51,6 @@ class Bladbeeld : public Schuifkader {
     void StelBalken();
     void PlaatsBlad();
 
-    const Printlijst& lijst_;
     double pixelsPerMm_; ///< at 100 %
     int zoom_ = 100;
     int draai_ = 0; ///< of the wheel with Ctrl, not yet a step

@@ -16,14 +16,6 @@ namespace {
 
 constexpr int VensterBreed = 12700; // twips
 
-QLineEdit* MaakVak(const QString& naam, const QString& gesproken, int breed, QWidget* ouder)
-{
-    auto* vak = new QLineEdit(ouder);
-    Noem(vak, naam, gesproken);
-    vak->setFixedWidth(breed);
-    return vak;
-}
-
 /// Qt's own bar goes back at the right arrow.
 class Bladbalk : public QScrollBar {
   public:
@@ -41,8 +33,8 @@ class Bladbalk : public QScrollBar {
 /// number of the page in view.
 class Bladnummers : public QIntValidator {
   public:
-    explicit Bladnummers(const QScrollBar* bladen)
-        : QIntValidator(bladen->minimum(), bladen->maximum(), nullptr), bladen_(bladen)
+    Bladnummers(const QScrollBar* bladen, QObject* ouder)
+        : QIntValidator(bladen->minimum(), bladen->maximum(), ouder), bladen_(bladen)
     {}
     void fixup(QString& tekst) const override { tekst = QString::number(bladen_->value()); }
 
@@ -66,10 +58,9 @@ Printlijst MaakLijst(const Administratie& administratie, Afdruk afdruk, const Le
 frmAfdrukken::frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie),
       lijst_(MaakLijst(administratie, std::move(afdruk), kast_)),
-      picP0(new Bladbeeld(lijst_, kast_, maten_, this))
+      picP0(new Bladbeeld(lijst_, kast_, this))
 {
     Bouw();
-    Verbind();
     WaarschuwVooraf();
     ToonBlad(1);
     picP0->setFocus();
@@ -82,102 +73,94 @@ frmAfdrukken::~frmAfdrukken()
     txtBlad->disconnect(this);
 }
 
+/// Controls are made in the order in which the Tab key goes through them.
 void frmAfdrukken::Bouw()
 {
+    const Maten maten;
     setObjectName(u"frmAfdrukken"_s);
     setWindowTitle(u"Toon/print ...."_s);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    Label2 = MaakLabel(u"Label2"_s, QString(), this);
-    lblReden = MaakLabel(u"lblReden"_s, QString(), this);
-    lblReden->setWordWrap(true);
-    lblZoom = MaakLabel(u"lblZoom"_s, u"100 %"_s, this);
+    picP0->setMinimumSize(maten.Twips(3000), maten.Twips(3000));
+    QLabel* lblZoom = MaakLabel(u"lblZoom"_s, u"100 %"_s, this);
     lblZoom->setToolTip(u"Groter of kleiner: Ctrl met het muiswiel, of met + en -"_s);
-    cmdPrinten = MaakKnop(u"cmdPrinten"_s, u"Printen..."_s, u'P', this);
-    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
-    cmdPrinten->setDefault(true);
+    connect(picP0, &Bladbeeld::zoomVeranderd, lblZoom,
+            [lblZoom](int procent) { lblZoom->setText(u"%1 %"_s.arg(procent)); });
 
+    const bool staand = lijst_.indeling.papier.stand == Papierstand::Staand;
     auto* boven = new QHBoxLayout;
-    boven->addWidget(Label2);
+    boven->addWidget(MaakLabel(
+        u"Label2"_s, staand ? u"Printformaat: A4-staand"_s : u"Printformaat: A4-liggend"_s, this));
     boven->addStretch();
     boven->addWidget(lblZoom);
+    QLabel* lblReden = MaakLabel(u"lblReden"_s, Reden(), this);
+    lblReden->setWordWrap(true);
+    lblReden->setVisible(!staand);
     auto* onder = new QHBoxLayout;
-    onder->addLayout(BouwBladkeuze());
-    onder->addSpacing(maten_.Twips(300));
+    onder->addLayout(BouwBladkeuze(maten));
+    onder->addSpacing(maten.Twips(300));
+    auto* cmdPrinten = MaakKnop(u"cmdPrinten"_s, u"Printen..."_s, u'P', this);
+    cmdPrinten->setDefault(true);
+    connect(cmdPrinten, &QPushButton::clicked, this, &frmAfdrukken::Print);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
     onder->addLayout(Knoppenrij({cmdPrinten, cmdAnnuleren}));
     auto* lagen = new QVBoxLayout(this);
     lagen->addLayout(boven);
     lagen->addWidget(lblReden);
     lagen->addWidget(picP0, 1);
     lagen->addLayout(onder);
-    picP0->setMinimumSize(maten_.Twips(3000), maten_.Twips(3000));
-    PasInScherm(this, {maten_.Twips(VensterBreed), screen()->availableSize().height()});
-    ZetTabvolgorde({picP0, Bladscroll, txtBlad, cmdPrinten, cmdAnnuleren});
-    ToonPapier();
+    PasInScherm(this, {maten.Twips(VensterBreed), screen()->availableSize().height()});
 }
 
-QLayout* frmAfdrukken::BouwBladkeuze()
+QLayout* frmAfdrukken::BouwBladkeuze(const Maten& maten)
 {
-    const int bladen = lijst_.indeling.ToonbareBladen();
     Label1 = MaakLabel(u"Label1"_s, QString(), this);
     Bladscroll = new Bladbalk(Qt::Horizontal, this);
     Noem(Bladscroll, u"Bladscroll"_s, u"Blad kiezen"_s);
     Bladscroll->setFocusPolicy(Qt::StrongFocus);
-    Bladscroll->setMinimumWidth(maten_.Twips(1800));
-    Bladscroll->setRange(1, bladen);
-    Bladscroll->setSingleStep(1);
+    Bladscroll->setMinimumWidth(maten.Twips(1800));
+    Bladscroll->setRange(1, lijst_.indeling.ToonbareBladen());
     Bladscroll->setPageStep(1);
-    txtBlad = MaakVak(u"txtBlad"_s, u"Bladnummer"_s, maten_.Twips(600), this);
-    Label1->setBuddy(txtBlad);
-    auto* nummers = new Bladnummers(Bladscroll);
-    nummers->setParent(txtBlad);
-    txtBlad->setValidator(nummers);
+    connect(Bladscroll, &QScrollBar::valueChanged, this, &frmAfdrukken::ToonBlad);
+    txtBlad = new QLineEdit(this);
+    Noem(txtBlad, u"txtBlad"_s, u"Bladnummer"_s);
+    txtBlad->setFixedWidth(maten.Twips(600));
+    txtBlad->setValidator(new Bladnummers(Bladscroll, txtBlad));
     txtBlad->setAlignment(Qt::AlignRight);
-    txtAantPages = MaakVak(u"txtAantPages"_s, u"Aantal bladen"_s, maten_.Twips(1700), this);
+    connect(txtBlad, &QLineEdit::editingFinished, this,
+            [this] { Bladscroll->setValue(txtBlad->text().toInt()); });
+    Label1->setBuddy(txtBlad);
+    auto* txtAantPages = new QLineEdit(u"(Totaal %1)"_s.arg(lijst_.indeling.bladen), this);
+    Noem(txtAantPages, u"txtAantPages"_s, u"Aantal bladen"_s);
+    txtAantPages->setFixedWidth(maten.Twips(1700));
     txtAantPages->setReadOnly(true);
     txtAantPages->setFocusPolicy(Qt::ClickFocus); // no tab stop
     txtAantPages->setFrame(false);
     QPalette palet = txtAantPages->palette();
     palet.setColor(QPalette::Base, Qt::transparent);
     txtAantPages->setPalette(palet);
-    txtAantPages->setText(u"(Totaal %1)"_s.arg(lijst_.indeling.bladen));
 
     auto* rij = new QHBoxLayout;
-    rij->addWidget(Label1);
-    rij->addWidget(Bladscroll);
-    rij->addWidget(txtBlad);
-    rij->addWidget(txtAantPages);
+    for (QWidget* deel : std::initializer_list<QWidget*>{Label1, Bladscroll, txtBlad, txtAantPages})
+        rij->addWidget(deel);
     return rij;
 }
 
-void frmAfdrukken::Verbind()
-{
-    connect(Bladscroll, &QScrollBar::valueChanged, this, &frmAfdrukken::ToonBlad);
-    connect(txtBlad, &QLineEdit::editingFinished, this,
-            [this] { Bladscroll->setValue(txtBlad->text().toInt()); });
-    connect(picP0, &Bladbeeld::zoomVeranderd, this,
-            [this](int procent) { lblZoom->setText(u"%1 %"_s.arg(procent)); });
-    connect(cmdPrinten, &QPushButton::clicked, this, &frmAfdrukken::Print);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
-}
-
-void frmAfdrukken::ToonPapier()
+/// Why the sheet lies on its side, and what does not come out.
+QString frmAfdrukken::Reden() const
 {
     const Bladindeling& indeling = lijst_.indeling;
-    const bool staand = indeling.papier.stand == Papierstand::Staand;
-    Label2->setText(staand ? u"Printformaat: A4-staand"_s : u"Printformaat: A4-liggend"_s);
+    if (!indeling.TeBreed())
+        return u"Liggend omdat de kolommen samen %1 mm breed zijn; staand is er 210 mm."_s.arg(
+            indeling.Millimeters());
     QStringList ontbreken;
     for (int kolom = indeling.kolommen; kolom <= lijst_.tabel.Kolommen(); ++kolom) {
         const QString titel = NaarQString(lijst_.tabel.Titel(kolom));
         ontbreken << (titel.isEmpty() ? u"(kolom %1)"_s.arg(AantalKolommen) : titel);
     }
-    const QString breed = QString::number(indeling.Millimeters());
-    lblReden->setVisible(!staand);
-    lblReden->setText(
-        indeling.TeBreed()
-            ? u"De kolommen zijn samen %1 mm breed; liggend is er 297 mm. Niet op het blad: %2"_s
-                  .arg(breed, ontbreken.join(u", "_s))
-            : u"Liggend omdat de kolommen samen %1 mm breed zijn; staand is er 210 mm."_s.arg(
-                  breed));
+    return u"De kolommen zijn samen %1 mm breed; liggend is er 297 mm. Niet op het blad: %2"_s
+        .arg(indeling.Millimeters())
+        .arg(ontbreken.join(u", "_s));
 }
 
 void frmAfdrukken::WaarschuwVooraf()

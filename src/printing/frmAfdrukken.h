@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "platform/scherm/maten.h"
 #include "printing/bladbeeld.h"
@@ -39,29 +38,21 @@ class frmAfdrukken : public QDialog {
 
   private:
     void Bouw();
-    [[nodiscard]] QLayout* BouwBladkeuze();
-    void Verbind();
-    void ToonPapier();
+    [[nodiscard]] QLayout* BouwBladkeuze(const Maten& maten);
+    [[nodiscard]] QString Reden() const;
     void WaarschuwVooraf();
     void ToonBlad(int blad);
     [[nodiscard]] bool Verwerk(const QKeyEvent& toets);
     void Print();
 
     Administratie& administratie_;
-    Maten maten_;
     Letterkast kast_;
     Printlijst lijst_;
 
     Bladbeeld* picP0;
     QScrollBar* Bladscroll = nullptr;
     QLineEdit* txtBlad = nullptr;
-    QLineEdit* txtAantPages = nullptr;
     QLabel* Label1 = nullptr;
-    QLabel* Label2 = nullptr;
-    QLabel* lblReden = nullptr;
-    QLabel* lblZoom = nullptr;
-    QPushButton* cmdPrinten = nullptr;
-    QPushButton* cmdAnnuleren = nullptr;
 };
 
 } // namespace plexoran

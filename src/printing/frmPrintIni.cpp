@@ -22,6 +22,13 @@ Kolom PrintkolomOp(int plaats)
     return static_cast<Kolom>(static_cast<int>(EerstePrintkolom) + plaats);
 }
 
+void MaakVet(QLabel* label)
+{
+    QFont vet = label->font();
+    vet.setBold(true);
+    label->setFont(vet);
+}
+
 } // namespace
 
 frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
@@ -31,53 +38,78 @@ frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
       kolomnamen_(kolomnamen), getallen_(getallen),
       subgroepen_(Printsubgroepen(administratie.spelers.tabel, CodeUit(groeptekst_)))
 {
-    MaakDelen();
     Bouw();
-    Vul();
-    Verbind();
+    connect(lstKeus, &Regellijst::keuzeVeranderd, this, &frmPrintIni::PasAan);
+    connect(lstNBBgr, &Regellijst::keuzeVeranderd, this, &frmPrintIni::ToonBreedte);
+    connect(cmbSchaal, &QComboBox::currentIndexChanged, this, &frmPrintIni::ToonBreedte);
+    connect(cmdOK, &QPushButton::clicked, this, &frmPrintIni::Print);
     PasAan();
     lstKeus->setFocus();
 }
 
-void frmPrintIni::MaakDelen()
+/// Controls are made in the order in which the Tab key goes through them.
+void frmPrintIni::Bouw()
 {
-    const auto label = [this](const QString& naam, const QString& tekst) {
-        return MaakLabel(naam, tekst, this);
-    };
-    Label1 = label(u"Label1"_s, u"Te printen Rubrieken (kolommen)"_s);
-    Label2 = label(u"Label2"_s, u"Gekozen Groep:"_s);
-    Label3 = new Kortlabel(NaarQString(groeptekst_), this);
+    setObjectName(u"frmPrintIni"_s);
+    setWindowTitle(u"Printen van ledenlijsten per groep"_s);
+    auto* Label3 = new Kortlabel(NaarQString(groeptekst_), this);
     Noem(Label3, u"Label3"_s);
     Label3->setTextFormat(Qt::PlainText);
+    MaakVet(Label3);
     // A long name must not push the window's other parts away.
     Label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     ZetWenk(Label3, Label3->text());
-    Label4 = label(u"Label4"_s, u"Printuitvoer verkleinen of vergroten:"_s);
-    Label5 = label(u"Label5"_s, u"Kies de schaal:"_s);
-    Label6 = label(u"Label6"_s, u"Print alleen deze Subgroep(en):"_s);
-    Label7 = label(u"Label7"_s, u"Deze groep is leeg"_s);
-    lstKeus = new Regellijst(QListView::MultiSelection, this);
-    Noem(lstKeus, u"lstKeus"_s, Label1->text());
-    Label1->setBuddy(lstKeus);
-    lstNBBgr = new Regellijst(QListView::MultiSelection, this);
-    Noem(lstNBBgr, u"lstNBBgr"_s, Label6->text());
-    Label6->setBuddy(lstNBBgr);
-    cmbSchaal = MaakKeus(u"cmbSchaal"_s, Label5, this);
-    cmbSchaal->setMinimumContentsLength(4);
-    lblBreedte = label(u"lblBreedte"_s, QString());
-    lblBreedte->setWordWrap(true);
-    cmdPassend = MaakKnop(u"cmdPassend"_s, QString(), 0, this);
-    cmdSelAll = MaakKnop(u"cmdSelAll"_s, u"Selecteer alles"_s, u'a', this);
-    cmdSelNone = MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this);
+
+    auto* groep = new QHBoxLayout;
+    groep->addWidget(MaakLabel(u"Label2"_s, u"Gekozen Groep:"_s, this));
+    groep->addWidget(Label3, 1);
+    auto* midden = new QHBoxLayout;
+    midden->addWidget(BouwKolommen(), 1);
+    midden->addSpacing(maten_.Twips(200));
+    midden->addLayout(BouwRechts(), 1);
     cmdOK = MaakKnop(u"cmdOK"_s, u"Printen..."_s, u'P', this);
-    cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
     cmdOK->setDefault(true);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addLayout(groep);
+    lagen->addSpacing(maten_.Twips(100));
+    lagen->addLayout(midden, 1);
+    lagen->addSpacing(maten_.Twips(100));
+    lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
+    ZetOpSchuifblad(this);
+    PasInScherm(this, {maten_.Twips(9600), maten_.Twips(7200)});
+}
+
+Regellijst* frmPrintIni::MaakLijst(const QString& naam, QLabel* label)
+{
+    auto* lijst = new Regellijst(QListView::MultiSelection, this);
+    Noem(lijst, naam, label->text());
+    label->setBuddy(lijst);
+    return lijst;
 }
 
 QGroupBox* frmPrintIni::BouwKolommen()
 {
     auto* Frame1 = new QGroupBox(u"Welke kolommen te printen"_s, this);
     Noem(Frame1, u"Frame1"_s);
+    QLabel* Label1 = MaakLabel(u"Label1"_s, u"Te printen Rubrieken (kolommen)"_s, this);
+    lstKeus = MaakLijst(u"lstKeus"_s, Label1);
+    lstKeus->Vul(AantalPrintkolommen, [this](int plaats) {
+        const Kolom kolom = PrintkolomOp(plaats);
+        const Tekstblik naam = kolomnamen_[Index(kolom)];
+        // Outside the import group the last column has no name.
+        return naam.empty() ? "(kolom " + std::to_string(static_cast<int>(kolom)) + ")"
+                            : Tekst(naam);
+    });
+    lstKeus->Kies({0, 1, 2, 3, 4, 5, 6, 7}); // `Voornaam` to `Plaats`
+    auto* cmdSelAll = MaakKnop(u"cmdSelAll"_s, u"Selecteer alles"_s, u'a', this);
+    connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);
+    auto* cmdSelNone = MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this);
+    connect(cmdSelNone, &QPushButton::clicked, lstKeus, &Regellijst::clearSelection);
+    lblBreedte = MaakLabel(u"lblBreedte"_s, QString(), this);
+    lblBreedte->setWordWrap(true);
+
     auto* knoppen = new QHBoxLayout;
     knoppen->addWidget(cmdSelAll);
     knoppen->addWidget(cmdSelNone);
@@ -91,6 +123,24 @@ QGroupBox* frmPrintIni::BouwKolommen()
 
 QLayout* frmPrintIni::BouwRechts()
 {
+    QLabel* Label6 = MaakLabel(u"Label6"_s, u"Print alleen deze Subgroep(en):"_s, this);
+    lstNBBgr = MaakLijst(u"lstNBBgr"_s, Label6);
+    lstNBBgr->Vul(static_cast<int>(subgroepen_.size()),
+                  [this](int plaats) { return subgroepen_[static_cast<std::size_t>(plaats)]; });
+    lstNBBgr->setEnabled(!subgroepen_.empty());
+    QLabel* Label7 = MaakLabel(u"Label7"_s, u"Deze groep is leeg"_s, this);
+    MaakVet(Label7);
+    Label7->setVisible(subgroepen_.empty());
+    QLabel* Label5 = MaakLabel(u"Label5"_s, u"Kies de schaal:"_s, this);
+    cmbSchaal = MaakKeus(u"cmbSchaal"_s, Label5, this);
+    cmbSchaal->setMinimumContentsLength(4);
+    for (int tiende = KleinsteSchaal; tiende <= GrootsteSchaal; ++tiende)
+        cmbSchaal->addItem(getallen_.toString(tiende / 10.0));
+    cmbSchaal->setCurrentIndex(GewoneSchaal);
+    cmdPassend = MaakKnop(u"cmdPassend"_s, QString(), 0, this);
+    connect(cmdPassend, &QPushButton::clicked, this,
+            [this] { cmbSchaal->setCurrentIndex(passend_); });
+
     auto* schaal = new QHBoxLayout;
     schaal->addWidget(Label5);
     schaal->addWidget(cmbSchaal);
@@ -101,70 +151,9 @@ QLayout* frmPrintIni::BouwRechts()
     kolom->addWidget(lstNBBgr, 1);
     kolom->addWidget(Label7);
     kolom->addSpacing(maten_.Twips(200));
-    kolom->addWidget(Label4);
+    kolom->addWidget(MaakLabel(u"Label4"_s, u"Printuitvoer verkleinen of vergroten:"_s, this));
     kolom->addLayout(schaal);
     return kolom;
-}
-
-void frmPrintIni::Bouw()
-{
-    setObjectName(u"frmPrintIni"_s);
-    setWindowTitle(u"Printen van ledenlijsten per groep"_s);
-    for (QLabel* label : {Label3, Label7}) {
-        QFont vet = label->font();
-        vet.setBold(true);
-        label->setFont(vet);
-    }
-
-    auto* groep = new QHBoxLayout;
-    groep->addWidget(Label2);
-    groep->addWidget(Label3, 1);
-    auto* midden = new QHBoxLayout;
-    midden->addWidget(BouwKolommen(), 1);
-    midden->addSpacing(maten_.Twips(200));
-    midden->addLayout(BouwRechts(), 1);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addLayout(groep);
-    lagen->addSpacing(maten_.Twips(100));
-    lagen->addLayout(midden, 1);
-    lagen->addSpacing(maten_.Twips(100));
-    lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
-    ZetOpSchuifblad(this);
-    PasInScherm(this, {maten_.Twips(9600), maten_.Twips(7200)});
-    ZetTabvolgorde(
-        {lstKeus, cmdSelAll, cmdSelNone, lstNBBgr, cmbSchaal, cmdPassend, cmdOK, cmdAnnuleren});
-}
-
-void frmPrintIni::Vul()
-{
-    lstKeus->Vul(AantalPrintkolommen, [this](int plaats) {
-        const Kolom kolom = PrintkolomOp(plaats);
-        const Tekstblik naam = kolomnamen_[Index(kolom)];
-        // Outside the import group the last column has no name.
-        return naam.empty() ? "(kolom " + std::to_string(static_cast<int>(kolom)) + ")"
-                            : Tekst(naam);
-    });
-    lstKeus->Kies({0, 1, 2, 3, 4, 5, 6, 7}); // `Voornaam` to `Plaats`
-    for (int tiende = KleinsteSchaal; tiende <= GrootsteSchaal; ++tiende)
-        cmbSchaal->addItem(getallen_.toString(tiende / 10.0));
-    cmbSchaal->setCurrentIndex(GewoneSchaal);
-    lstNBBgr->Vul(static_cast<int>(subgroepen_.size()),
-                  [this](int plaats) { return subgroepen_[static_cast<std::size_t>(plaats)]; });
-    lstNBBgr->setEnabled(!subgroepen_.empty());
-    Label7->setVisible(subgroepen_.empty());
-}
-
-void frmPrintIni::Verbind()
-{
-    connect(lstKeus, &Regellijst::keuzeVeranderd, this, &frmPrintIni::PasAan);
-    connect(lstNBBgr, &Regellijst::keuzeVeranderd, this, &frmPrintIni::ToonBreedte);
-    connect(cmbSchaal, &QComboBox::currentIndexChanged, this, &frmPrintIni::ToonBreedte);
-    connect(cmdPassend, &QPushButton::clicked, this,
-            [this] { cmbSchaal->setCurrentIndex(passend_); });
-    connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);
-    connect(cmdSelNone, &QPushButton::clicked, lstKeus, &Regellijst::clearSelection);
-    connect(cmdOK, &QPushButton::clicked, this, &frmPrintIni::Print);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmPrintIni::PasAan()

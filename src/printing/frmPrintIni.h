@@ -29,12 +29,10 @@ class frmPrintIni : public QDialog {
                 const QLocale& getallen = Getalnotatie());
 
   private:
-    void MaakDelen();
     void Bouw();
+    [[nodiscard]] Regellijst* MaakLijst(const QString& naam, QLabel* label);
     [[nodiscard]] QGroupBox* BouwKolommen();
     [[nodiscard]] QLayout* BouwRechts();
-    void Vul();
-    void Verbind();
     void PasAan();
     void ToonBreedte();
     void Print();
@@ -50,22 +48,12 @@ class frmPrintIni : public QDialog {
     int passend_ = -1; ///< the largest scale at which all columns come out, its place in the list
     std::vector<Tekst> subgroepen_; ///< as listed; none: the group is empty
 
-    QLabel* Label1 = nullptr;
-    QLabel* Label2 = nullptr;
-    QLabel* Label3 = nullptr;
-    QLabel* Label4 = nullptr;
-    QLabel* Label5 = nullptr;
-    QLabel* Label6 = nullptr;
-    QLabel* Label7 = nullptr;
     Regellijst* lstKeus = nullptr;
     Regellijst* lstNBBgr = nullptr;
     QLabel* lblBreedte = nullptr;
     QComboBox* cmbSchaal = nullptr;
     QPushButton* cmdPassend = nullptr;
-    QPushButton* cmdSelAll = nullptr;
-    QPushButton* cmdSelNone = nullptr;
     QPushButton* cmdOK = nullptr;
-    QPushButton* cmdAnnuleren = nullptr;
 };
 
 } // namespace plexoran

@@ -1,4 +1,4 @@
-#include "printing/bladindeling.h"
+#include "printing/printblad.h"
 
 #include <cmath>
 

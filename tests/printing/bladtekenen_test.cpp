@@ -1,4 +1,4 @@
-#include "printing/bladtekenen.h"
+#include "printing/printblad.h"
 
 #include <algorithm>
 #include <optional>

@@ -18,21 +18,6 @@
 namespace plexoran {
 namespace {
 
-QString Titel(const QString& titel)
-{
-    return titel.isEmpty() ? QString::fromLatin1(Programmatitel) : titel;
-}
-
-/// Texts carry names from files: never let one be taken for markup.
-void Vul(QMessageBox& venster, const QString& tekst, const QString& toelichting = QString())
-{
-    venster.setTextFormat(Qt::PlainText);
-    venster.setText(tekst);
-    venster.setInformativeText(toelichting);
-    if (auto* label = venster.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
-        label->setTextFormat(Qt::PlainText); // which the box itself forgets
-}
-
 /// The box waits for the user, not the other way round: whatever work goes on behind it, the busy
 /// cursor is put off until there is an answer.
 int LaatAntwoorden(QDialog& venster)
@@ -47,28 +32,45 @@ int LaatAntwoorden(QDialog& venster)
     return antwoord;
 }
 
-/// A box of which a small screen lacks the room for the text scrolls it: its buttons stay in sight.
+/// A message box with Dutch buttons that can be kept as it is laid out.
 class Berichtvenster : public QMessageBox {
   public:
-    using QMessageBox::QMessageBox;
+    /// Texts carry names from files: never let one be taken for markup.
+    Berichtvenster(Icon icoon, const QString& tekst, const QString& titel, StandardButtons knoppen,
+                   QWidget* ouder, const QString& toelichting = QString())
+        : QMessageBox(icoon, titel, QString(), knoppen, ouder)
+    {
+        setTextFormat(Qt::PlainText);
+        setText(tekst);
+        setInformativeText(toelichting);
+        if (auto* label = findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
+            label->setTextFormat(Qt::PlainText); // which the box itself forgets
+        if (knoppen.testFlag(Ok))
+            button(Ok)->setText(u"OK"_s);
+        if (knoppen.testFlag(Cancel))
+            button(Cancel)->setText(u"Annuleren"_s);
+    }
 
   protected:
     bool event(QEvent* gebeurtenis) override
     {
-        // A message box answers this by making itself as high as its text again.
+        // A message box answers this by breaking its lines, and making itself as high as its text,
+        // again.
         // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        return geschoven_ && gebeurtenis->type() == QEvent::LayoutRequest
+        return blijft_ && gebeurtenis->type() == QEvent::LayoutRequest
                    ? QDialog::event(gebeurtenis)
                    : QMessageBox::event(gebeurtenis);
     }
 
+    /// A box of which a small screen lacks the room for the text scrolls it: its buttons stay in
+    /// sight.
     void showEvent(QShowEvent* gebeurtenis) override
     {
         QMessageBox::showEvent(gebeurtenis);
         const QSize ruimte = screen()->availableSize() - Kader;
-        if (height() <= ruimte.height() || geschoven_)
+        if (height() <= ruimte.height() || blijft_)
             return;
-        geschoven_ = true;
+        blijft_ = true;
         auto* inhoud = new QWidget(this);
         auto* blad = new Schuifblad(inhoud, this);
         auto* teksten = new QVBoxLayout(inhoud);
@@ -90,9 +92,47 @@ class Berichtvenster : public QMessageBox {
         adjustPosition(parentWidget());
     }
 
-  private:
-    bool geschoven_ = false;
+    bool blijft_ = false;
 };
+
+/// A box whose lines are never broken: in a table a broken line would read as one more.
+class Verslagbericht : public Berichtvenster {
+  public:
+    Verslagbericht(Icon icoon, const QString& tekst, const QString& titel, QWidget* ouder)
+        : Berichtvenster(icoon, tekst, titel, Ok, ouder)
+    {
+        blijft_ = true;
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    }
+
+    [[nodiscard]] bool PastOpScherm()
+    {
+        ensurePolished();
+        BreekNietAf();
+        const QSize ruimte = screen()->availableSize() - Kader;
+        const QSize nodig = layout()->totalSizeHint();
+        return nodig.width() <= ruimte.width() && nodig.height() <= ruimte.height();
+    }
+
+  protected:
+    void showEvent(QShowEvent* gebeurtenis) override
+    {
+        Berichtvenster::showEvent(gebeurtenis);
+        BreekNietAf();
+        setFixedSize(layout()->totalSizeHint());
+        adjustPosition(parentWidget()); // it was placed at the size of broken lines
+    }
+
+  private:
+    void BreekNietAf()
+    {
+        for (QLabel* label : findChildren<QLabel*>())
+            label->setWordWrap(false);
+        layout()->activate();
+    }
+};
+
+constexpr int RegelsInBericht = 25;
 
 /// Whether a message box with this text, which breaks its lines at blanks, is no larger than the
 /// screen.
@@ -112,61 +152,18 @@ void ToonLang(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, con
     LaatAntwoorden(venster);
 }
 
-/// A box whose lines are never broken: in a table a broken line would read as one more.
-class Verslagbericht : public QMessageBox {
-  public:
-    using QMessageBox::QMessageBox;
-
-    [[nodiscard]] bool PastOpScherm()
-    {
-        ensurePolished();
-        BreekNietAf();
-        const QSize ruimte = screen()->availableSize() - Kader;
-        const QSize nodig = layout()->totalSizeHint();
-        return nodig.width() <= ruimte.width() && nodig.height() <= ruimte.height();
-    }
-
-  protected:
-    bool event(QEvent* gebeurtenis) override
-    {
-        // A message box answers this by breaking its lines again.
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        return gebeurtenis->type() == QEvent::LayoutRequest ? QDialog::event(gebeurtenis)
-                                                            : QMessageBox::event(gebeurtenis);
-    }
-
-    void showEvent(QShowEvent* gebeurtenis) override
-    {
-        QMessageBox::showEvent(gebeurtenis);
-        BreekNietAf();
-        setFixedSize(layout()->totalSizeHint());
-        adjustPosition(parentWidget()); // it was placed at the size of broken lines
-    }
-
-  private:
-    void BreekNietAf()
-    {
-        for (QLabel* label : findChildren<QLabel*>())
-            label->setWordWrap(false);
-        layout()->activate();
-    }
-};
-
 } // namespace
 
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
 {
-    Berichtvenster venster(icoon, Titel(titel), QString(), QMessageBox::Ok, ouder);
-    Vul(venster, tekst);
-    venster.button(QMessageBox::Ok)->setText(u"OK"_s);
+    Berichtvenster venster(icoon, tekst, titel, QMessageBox::Ok, ouder);
     LaatAntwoorden(venster);
 }
 
 void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
 {
-    constexpr int regelsInBericht = 25;
-    if (tekst.count(u'\n') > regelsInBericht || !PastInBericht(*ouder, tekst))
-        ToonLang(ouder, icoon, tekst, Titel({}));
+    if (tekst.count(u'\n') > RegelsInBericht || !PastInBericht(*ouder, tekst))
+        ToonLang(ouder, icoon, tekst, Programmatitel);
     else
         Meld(ouder, icoon, tekst);
 }
@@ -174,37 +171,25 @@ void MeldLijst(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst)
 void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
                  QMessageBox::Icon icoon)
 {
-    constexpr int regelsInBericht = 25;
-    if (tekst.count(u'\n') > regelsInBericht) {
+    Verslagbericht venster(icoon, tekst, titel, ouder);
+    if (tekst.count(u'\n') > RegelsInBericht || !venster.PastOpScherm())
         ToonLang(ouder, icoon, tekst, titel);
-        return;
-    }
-    Verslagbericht venster(icoon, titel, QString(), QMessageBox::Ok, ouder);
-    Vul(venster, tekst);
-    venster.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    venster.button(QMessageBox::Ok)->setText(u"OK"_s);
-    if (venster.PastOpScherm())
-        LaatAntwoorden(venster);
     else
-        ToonLang(ouder, icoon, tekst, titel);
+        LaatAntwoorden(venster);
 }
 
 bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel,
            const QString& toelichting)
 {
-    Berichtvenster venster(icoon, Titel(titel), QString(), QMessageBox::Ok | QMessageBox::Cancel,
-                           ouder);
-    Vul(venster, tekst, toelichting);
-    venster.button(QMessageBox::Ok)->setText(u"OK"_s);
-    venster.button(QMessageBox::Cancel)->setText(u"Annuleren"_s);
+    Berichtvenster venster(icoon, tekst, titel, QMessageBox::Ok | QMessageBox::Cancel, ouder,
+                           toelichting);
     return LaatAntwoorden(venster) == QMessageBox::Ok;
 }
 
 int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
          const QStringList& antwoorden, int voorkeur)
 {
-    Berichtvenster venster(icoon, Titel(QString()), QString(), QMessageBox::NoButton, ouder);
-    Vul(venster, tekst);
+    Berichtvenster venster(icoon, tekst, Programmatitel, QMessageBox::NoButton, ouder);
     QList<QAbstractButton*> knoppen;
     for (const QString& antwoord : antwoorden)
         knoppen << venster.addButton(antwoord, QMessageBox::ActionRole);

@@ -4,15 +4,16 @@
 
 #include <QMessageBox>
 
+#include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/schijf.h"
 
 namespace plexoran {
 
-inline constexpr auto Programmatitel = "Plexoran";
+inline const QString Programmatitel = u"Plexoran"_s;
 
-/// Shows a text with an OK button; an empty title is the program's name.
+/// Shows a text with an OK button.
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
-          const QString& titel = QString());
+          const QString& titel = Programmatitel);
 
 /// Shows a text that may grow with what it tells of: one that is too long for a box of this screen
 /// scrolls in a window of its own, `frmBericht`.
@@ -26,7 +27,8 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
 /// OK and Annuleren; true for OK. Escape and the close box count as Annuleren. `toelichting` stands
 /// below the text.
 [[nodiscard]] bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
-                         const QString& titel = QString(), const QString& toelichting = QString());
+                         const QString& titel = Programmatitel,
+                         const QString& toelichting = QString());
 
 /// Answers worded by the caller; returns the place of the one that was picked. The last one is the
 /// harmless one: Escape and the close box pick it. Enter picks that at `voorkeur`.

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -197,28 +198,17 @@ inline void ZetTabvolgorde(const QList<QWidget*>& volgorde)
 /// that is disabled would hand it back for ever.
 inline bool Verschuif(QScrollBar& balk, int toets)
 {
-    switch (toets) {
-    case Qt::Key_Up:
-        balk.triggerAction(QScrollBar::SliderSingleStepSub);
-        return true;
-    case Qt::Key_Down:
-        balk.triggerAction(QScrollBar::SliderSingleStepAdd);
-        return true;
-    case Qt::Key_PageUp:
-        balk.triggerAction(QScrollBar::SliderPageStepSub);
-        return true;
-    case Qt::Key_PageDown:
-        balk.triggerAction(QScrollBar::SliderPageStepAdd);
-        return true;
-    case Qt::Key_Home:
-        balk.triggerAction(QScrollBar::SliderToMinimum);
-        return true;
-    case Qt::Key_End:
-        balk.triggerAction(QScrollBar::SliderToMaximum);
-        return true;
-    default:
+    static const QHash<int, QScrollBar::SliderAction> acties{
+        {Qt::Key_Up, QScrollBar::SliderSingleStepSub},
+        {Qt::Key_Down, QScrollBar::SliderSingleStepAdd},
+        {Qt::Key_PageUp, QScrollBar::SliderPageStepSub},
+        {Qt::Key_PageDown, QScrollBar::SliderPageStepAdd},
+        {Qt::Key_Home, QScrollBar::SliderToMinimum},
+        {Qt::Key_End, QScrollBar::SliderToMaximum}};
+    if (!acties.contains(toets))
         return false;
-    }
+    balk.triggerAction(acties.value(toets));
+    return true;
 }
 
 /// The same for the keys that scroll sideways.

@@ -46,6 +46,21 @@ struct Tekstmeter {
     }
 };
 
+/// The text, or its beginning closed by three dots where it is wider than `ruimte`. By `breedte` a
+/// text is as wide as its characters are together, so that they need to be measured only once.
+template <class Ruimte, class Meter>
+[[nodiscard]] Tekst Ingekort(Tekstblik tekst, Ruimte ruimte, const Meter& breedte)
+{
+    constexpr Tekstblik puntjes = "...";
+    if (breedte(tekst) <= ruimte)
+        return Tekst(tekst);
+    Ruimte som = breedte(puntjes);
+    std::size_t past = 0;
+    while (past < tekst.size() && (som += breedte(tekst.substr(past, 1))) <= ruimte)
+        ++past;
+    return Tekst(tekst.substr(0, past)).append(puntjes);
+}
+
 /// The widths of texts before anything is drawn.
 class Lettermeter {
   public:

@@ -1,7 +1,8 @@
-// The layout of a printed list on A4, reckoned in single precision; millimetres unless said
-// otherwise. Nothing here draws.
+// A printed list on A4: its layout, reckoned in single precision, and a page of it, drawn the same
+// way on screen, printer and PDF. Millimetres unless said otherwise.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -11,6 +12,8 @@
 namespace plexoran {
 
 inline constexpr int Bladgrens = 30; ///< more pages are neither shown nor printed
+inline constexpr float A4Kort = 210;
+inline constexpr float A4Lang = 297;
 
 /// What the scale alone decides.
 struct Schaalmaten {
@@ -56,14 +59,34 @@ struct Bladindeling {
     /// Whole millimetres, never fewer than there are.
     [[nodiscard]] int Millimeters() const { return static_cast<int>(std::ceil(Printbreedte())); }
     /// Wider than A4 on its side.
-    [[nodiscard]] bool TeBreed() const;
-    [[nodiscard]] int ToonbareBladen() const;
+    [[nodiscard]] bool TeBreed() const { return Printbreedte() > A4Lang; }
+    [[nodiscard]] int ToonbareBladen() const { return std::min(bladen, Bladgrens); }
     /// First row of a page, from 1, and the last one that exists; last < first on an empty page.
     [[nodiscard]] int EersteRij(int blad) const { return (blad - 1) * rijenPerBlad + 1; }
-    [[nodiscard]] int LaatsteRij(int blad, int rijen) const;
+    [[nodiscard]] int LaatsteRij(int blad, int rijen) const
+    {
+        return std::min(EersteRij(blad) + rijenPerBlad - 1, rijen);
+    }
 };
 
 [[nodiscard]] Bladindeling BerekenKolommen(const Printtabel& tabel, float schaal,
                                            const Lettermeter& meter);
+
+/// The grid of the list.
+inline constexpr Kleur Lijnkleur{100, 100, 100};
+
+/// All that the pages show.
+struct Printlijst {
+    Printtabel tabel;
+    Bladindeling indeling;
+    Tekst groeptekst;  ///< code and name of the group
+    Tekst subgroepkop; ///< empty: none was chosen
+    Tekst datum;       ///< at the foot
+    Tekst programma;   ///< name of the suite's main application, at the foot
+};
+
+/// Draws page `blad`, from 1: the block at the head, the titles of the columns, the rows and the
+/// foot. The surface is the whole sheet.
+void TekenBlad(Tekenvlak& vlak, const Printlijst& lijst, int blad);
 
 } // namespace plexoran
