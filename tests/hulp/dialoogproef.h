@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -25,16 +26,25 @@ template <class Venster, class Stand> class Dialoogproef : public testing::Test,
     /// stands.
     template <class... Delen> void Toon(Delen&&... delen)
     {
-        Maak(std::forward<Delen>(delen)...);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-        EXPECT_EQ(std::vector<std::string>(), ZonderLabel(*venster));
+        venster.reset();
+        venster = std::make_unique<Venster>(std::forward<Delen>(delen)..., &hoofd);
+        ToonHet();
     }
     /// The same for a window that reads when it is there: after a box of its own it need not be the
     /// active one.
     template <class... Delen> void ToonEnLees(Delen&&... delen)
     {
-        Maak(std::forward<Delen>(delen)...);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(venster.get()));
+        venster.reset();
+        venster = std::make_unique<Venster>(std::forward<Delen>(delen)..., &hoofd);
+        ToonHet(false);
+    }
+    /// Shows a window that the test has made.
+    void ToonHet(bool actief = true)
+    {
+        venster->show();
+        if (!(actief ? QTest::qWaitForWindowActive(venster.get())
+                     : QTest::qWaitForWindowExposed(venster.get())))
+            throw std::runtime_error("het venster komt niet");
         QApplication::processEvents();
         EXPECT_EQ(std::vector<std::string>(), ZonderLabel(*venster));
     }
@@ -52,14 +62,6 @@ template <class Venster, class Stand> class Dialoogproef : public testing::Test,
     Berichtwachter wachter;
     QWidget hoofd;
     std::unique_ptr<Venster> venster;
-
-  private:
-    template <class... Delen> void Maak(Delen&&... delen)
-    {
-        venster.reset();
-        venster = std::make_unique<Venster>(std::forward<Delen>(delen)..., &hoofd);
-        venster->show();
-    }
 };
 
 } // namespace plexoran

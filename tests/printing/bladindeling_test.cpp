@@ -34,61 +34,41 @@ Bladindeling Indeling(const Spelertabel& tabel, std::vector<Kolom> kolommen, flo
         schaal, meter);
 }
 
-/// One column, wide enough for this print width: "RegNr" takes 6.25 and both slots 1.6 of padding.
-Bladindeling MetPrintbreedte(double breedte)
+/// One column, wide enough for this print width: "RegNr" and the surname, five and ten characters,
+/// and 0.8 of padding on either side of both.
+Bladindeling MetPrintbreedte(double breedte, float schaal = 1)
 {
     const Spelertabel tabel = MaakPrintspelers(1, Tekst(10, 'x'));
-    const double teken = (breedte - 3.2) / 15; // five characters of "RegNr", ten of "Achternaam"
-    return BerekenKolommen(AlleenNaam(tabel), 1, Proefmeter(teken));
-}
-
-int RijenBij(double breedte, float schaal)
-{
-    const Spelertabel tabel = MaakPrintspelers(1, Tekst(10, 'x'));
-    const double s = static_cast<double>(schaal);
-    return BerekenKolommen(AlleenNaam(tabel), schaal, Proefmeter((breedte / s - 3.2) / 15))
-        .rijenPerBlad;
-}
-
-int BladenBij(int rijen)
-{
-    return Indeling(MaakPrintspelers(rijen), {Kolom::Achternaam}).bladen;
+    const double teken = (breedte / static_cast<double>(schaal) - 3.2) / 15;
+    return BerekenKolommen(AlleenNaam(tabel), schaal, Proefmeter(teken));
 }
 
 } // namespace
 
 TEST(Schaalmaten, AllesGroeitMetDeSchaal)
 {
-    const Schaalmaten een(1);
-    EXPECT_EQ(1, een.schaal);
-    EXPECT_EQ(10, een.punten);
-    EXPECT_EQ(14, een.titelpunten);
-    EXPECT_EQ(0.8F, een.celmarge);
-    EXPECT_EQ(15, een.kophoogte);
-    EXPECT_EQ(4.5F, een.titelhoogte);
-    EXPECT_EQ(4.5F, een.rijhoogte);
-    const Schaalmaten klein(0.8F);
-    EXPECT_EQ(0.8F, klein.schaal);
-    EXPECT_EQ(0.8F * 10, klein.punten);
-    EXPECT_EQ(0.8F * 14, klein.titelpunten);
-    EXPECT_EQ(0.8F * 0.8F, klein.celmarge);
-    EXPECT_EQ(0.8F * 15, klein.kophoogte);
-    EXPECT_EQ(0.8F * 4.5F, klein.titelhoogte);
-    EXPECT_EQ(0.8F * 4.5F, klein.rijhoogte);
+    for (const float schaal : {1.0F, 0.8F}) {
+        const Schaalmaten maten(schaal);
+        EXPECT_EQ(schaal, maten.schaal);
+        EXPECT_EQ(schaal * 10, maten.punten);
+        EXPECT_EQ(schaal * 14, maten.titelpunten);
+        EXPECT_EQ(schaal * 0.8F, maten.celmarge);
+        EXPECT_EQ(schaal * 15, maten.kophoogte);
+        EXPECT_EQ(schaal * 4.5F, maten.titelhoogte);
+        EXPECT_EQ(schaal * 4.5F, maten.rijhoogte);
+    }
 }
 
 TEST(Papier, MatenEnMargesPerStand)
 {
-    const Papier staand(Papierstand::Staand);
-    EXPECT_EQ(210, staand.breed);
-    EXPECT_EQ(297, staand.hoog);
-    EXPECT_EQ(15, staand.zijmarge);
-    EXPECT_EQ(15, staand.bovenmarge);
-    const Papier liggend(Papierstand::Liggend);
-    EXPECT_EQ(297, liggend.breed);
-    EXPECT_EQ(210, liggend.hoog);
-    EXPECT_EQ(15, liggend.zijmarge);
-    EXPECT_EQ(10, liggend.bovenmarge);
+    for (const auto& [stand, breed, hoog, bovenmarge] :
+         {std::tuple(Papierstand::Staand, 210, 297, 15), {Papierstand::Liggend, 297, 210, 10}}) {
+        const Papier papier(stand);
+        EXPECT_EQ(breed, papier.breed);
+        EXPECT_EQ(hoog, papier.hoog);
+        EXPECT_EQ(15, papier.zijmarge);
+        EXPECT_EQ(bovenmarge, papier.bovenmarge);
+    }
 }
 
 TEST(Bladindeling, EenKolomIsZoBreedAlsZijnBreedsteTekst)
@@ -152,36 +132,34 @@ TEST(Bladindeling, PreciesZoBreedAlsHetVelPast)
 
 TEST(Bladindeling, RijenPerBlad)
 {
-    EXPECT_EQ(55, RijenBij(100, 1)); // (267 - 15 - 4.5) / 4.5
-    EXPECT_EQ(37, RijenBij(250, 1)); // (190 - 19.5) / 4.5
-    EXPECT_EQ(80, RijenBij(100, 0.7F));
-    EXPECT_EQ(69, RijenBij(100, 0.8F));
-    EXPECT_EQ(61, RijenBij(100, 0.9F));
-    EXPECT_EQ(49, RijenBij(100, 1.1F));
-    EXPECT_EQ(45, RijenBij(100, 1.2F));
-    EXPECT_EQ(41, RijenBij(100, 1.3F));
-    EXPECT_EQ(55, RijenBij(250, 0.7F));
-    EXPECT_EQ(28, RijenBij(250, 1.3F));
+    for (const auto& [breedte, schaal, rijen] : {std::tuple(100, 1.0F, 55), // 247.5 / 4.5
+                                                 {250, 1.0F, 37},           // (190 - 19.5) / 4.5
+                                                 {100, 0.7F, 80},
+                                                 {100, 0.8F, 69},
+                                                 {100, 0.9F, 61},
+                                                 {100, 1.1F, 49},
+                                                 {100, 1.2F, 45},
+                                                 {100, 1.3F, 41},
+                                                 {250, 0.7F, 55},
+                                                 {250, 1.3F, 28}})
+        EXPECT_EQ(rijen, MetPrintbreedte(breedte, schaal).rijenPerBlad) << breedte << " " << schaal;
 }
 
-/// An exact multiple adds an empty page all the same. That is meant.
+/// An exact multiple adds an empty page all the same. That is meant. Thirty pages are shown at
+/// most; the total stays true.
 TEST(Bladindeling, EenVolBladKrijgtErNogEen)
 {
-    EXPECT_EQ(1, BladenBij(0));
-    EXPECT_EQ(1, BladenBij(1));
-    EXPECT_EQ(1, BladenBij(54));
-    EXPECT_EQ(2, BladenBij(55));
-    EXPECT_EQ(2, BladenBij(56));
-    EXPECT_EQ(3, BladenBij(110));
-    EXPECT_EQ(37, BladenBij(2000));
-}
-
-TEST(Bladindeling, DertigBladenZijnTeTonenHetTotaalBlijftWaar)
-{
-    const auto indeling = Indeling(MaakPrintspelers(2000), {Kolom::Achternaam});
-    EXPECT_EQ(37, indeling.bladen);
-    EXPECT_EQ(30, indeling.ToonbareBladen());
-    EXPECT_EQ(2, Indeling(MaakPrintspelers(55), {Kolom::Achternaam}).ToonbareBladen());
+    for (const auto& [rijen, bladen, toonbaar] : {std::tuple(0, 1, 1),
+                                                  {1, 1, 1},
+                                                  {54, 1, 1},
+                                                  {55, 2, 2},
+                                                  {56, 2, 2},
+                                                  {110, 3, 3},
+                                                  {2000, 37, 30}}) {
+        const auto indeling = Indeling(MaakPrintspelers(rijen), {Kolom::Achternaam});
+        EXPECT_EQ(bladen, indeling.bladen) << rijen;
+        EXPECT_EQ(toonbaar, indeling.ToonbareBladen()) << rijen;
+    }
 }
 
 TEST(Bladindeling, DeRijenVanEenBlad)
@@ -227,17 +205,15 @@ TEST(Bladindeling, EenReuzenkolomBlijftWeg)
 
 TEST(Bladindeling, WatNaastDeLinkerMargeInDeRechterRandZouKomenStaatInHetMidden)
 {
-    const auto links = [](double breedte) {
-        return static_cast<double>(MetPrintbreedte(breedte).links);
-    };
-    EXPECT_EQ(15, links(100));
-    EXPECT_EQ(15, links(189.9));
-    EXPECT_NEAR(9.9, links(190.2), 0.01);
-    EXPECT_NEAR(7.4, links(195.2), 0.01);
-    EXPECT_NEAR(5, links(200), 0.01);
-    EXPECT_NEAR(2.5, links(205), 0.01);
-    EXPECT_NEAR(0.05, links(209.9), 0.01);
-    EXPECT_EQ(15, links(276.9)); // landscape
-    EXPECT_NEAR(9.9, links(277.2), 0.01);
-    EXPECT_NEAR(3.5, links(290), 0.01);
+    for (const auto& [breedte, links] : {std::pair(100.0, 15.0),
+                                         {189.9, 15.0},
+                                         {190.2, 9.9},
+                                         {195.2, 7.4},
+                                         {200.0, 5.0},
+                                         {205.0, 2.5},
+                                         {209.9, 0.05},
+                                         {276.9, 15.0}, // landscape
+                                         {277.2, 9.9},
+                                         {290.0, 3.5}})
+        EXPECT_NEAR(links, static_cast<double>(MetPrintbreedte(breedte).links), 0.01) << breedte;
 }

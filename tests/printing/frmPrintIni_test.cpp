@@ -29,14 +29,13 @@ class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
                        {"100004", "Gr01-", "Dirk", "", "Aap", "B-lijn", "4"}});
         namen[Index(Kolom::NBBgr)] = "Subgr";
         namen[Index(Kolom::NBBnr)] = "";
+        Open("Gr01-Clubleden & co");
     }
 
-    void Open(const Tekst& groep = "Gr01-Clubleden & co",
-              const QLocale& getallen = {QLocale::Dutch, QLocale::Netherlands})
+    void Open(const Tekst& groep, const QLocale& getallen = {QLocale::Dutch, QLocale::Netherlands})
     {
         venster = std::make_unique<frmPrintIni>(administratie, groep, namen, &hoofd, getallen);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        ToonHet();
     }
     [[nodiscard]] Regellijst* Lijst(const char* naam) const
     {
@@ -53,6 +52,10 @@ class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
     {
         Klik(Lijst(lijst)->viewport(),
              Lijst(lijst)->visualRect(Lijst(lijst)->model()->index(plaats, 0)).center());
+    }
+    [[nodiscard]] std::string Schaal() const
+    {
+        return Deel<QComboBox>("cmbSchaal")->currentText().toStdString();
     }
     [[nodiscard]] std::vector<std::string> Schalen() const
     {
@@ -72,27 +75,38 @@ const std::vector<int> eersteAcht{0, 1, 2, 3, 4, 5, 6, 7};
 
 TEST_F(frmPrintIniTest, DeOpschriften)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ("Printen van ledenlijsten per groep", venster->windowTitle().toStdString());
-    EXPECT_EQ("Gekozen Groep:", Label("Label2"));
-    EXPECT_EQ("Gr01-Clubleden & co", Label("Label3"));
-    EXPECT_EQ("Welke kolommen te printen",
-              Vind<QGroupBox>(*venster, "Frame1")->title().toStdString());
-    EXPECT_EQ("Te printen Rubrieken (kolommen)", Label("Label1"));
-    EXPECT_EQ("Selecteer alles", Opschrift(Knop("cmdSelAll")));
-    EXPECT_EQ("Selecteer niets", Opschrift(Knop("cmdSelNone")));
-    EXPECT_EQ("Print alleen deze Subgroep(en):", Label("Label6"));
-    EXPECT_EQ("Deze groep is leeg", Label("Label7"));
-    EXPECT_EQ("Printuitvoer verkleinen of vergroten:", Label("Label4"));
-    EXPECT_EQ("Kies de schaal:", Label("Label5"));
-    EXPECT_EQ("Printen...", Opschrift(Knop("cmdOK")));
-    EXPECT_EQ("Terug", Opschrift(Knop("cmdAnnuleren")));
+    EXPECT_EQ("Welke kolommen te printen", Deel<QGroupBox>("Frame1")->title().toStdString());
+    for (const auto& [naam, tekst] : {std::pair("Label1", "Te printen Rubrieken (kolommen)"),
+                                      {"Label2", "Gekozen Groep:"},
+                                      {"Label3", "Gr01-Clubleden & co"},
+                                      {"Label4", "Printuitvoer verkleinen of vergroten:"},
+                                      {"Label5", "Kies de schaal:"},
+                                      {"Label6", "Print alleen deze Subgroep(en):"},
+                                      {"Label7", "Deze groep is leeg"}})
+        EXPECT_EQ(tekst, Label(naam)) << naam;
+    for (const auto& [naam, tekst] : {std::pair("cmdSelAll", "Selecteer alles"),
+                                      {"cmdSelNone", "Selecteer niets"},
+                                      {"cmdOK", "Printen..."},
+                                      {"cmdAnnuleren", "Terug"}})
+        EXPECT_EQ(tekst, Opschrift(Knop(naam))) << naam;
+}
+
+TEST_F(frmPrintIniTest, DeTabtoetsVolgtHetOog)
+{
+    std::string volgorde;
+    Lijst("lstNBBgr")->setFocus();
+    for (int keer = 0; keer < 8; ++keer) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        volgorde += QApplication::focusWidget()->objectName().toStdString() + " ";
+    }
+    EXPECT_EQ("cmbSchaal cmdPassend cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone lstNBBgr ",
+              volgorde);
 }
 
 /// However long the name of the group is; all of it can be read.
 TEST_F(frmPrintIniTest, DeSchaalIsTeLezen)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     const auto* cmbSchaal = Deel<QComboBox>("cmbSchaal");
     QStyleOptionComboBox optie;
     optie.initFrom(cmbSchaal);
@@ -103,17 +117,17 @@ TEST_F(frmPrintIniTest, DeSchaalIsTeLezen)
 
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
 {
-    ASSERT_NO_FATAL_FAILURE(Open("Gr01-"));
+    Open("Gr01-");
     const QSize maat = venster->size();
     const QSize lijst = Lijst("lstKeus")->size();
     Tekst woorden = "Gr01-";
     for (int i = 0; i < 200; ++i)
         woorden += "een naam van veel ";
     for (const Tekst& naam : {"Gr01-" + Tekst(3000, 'x'), woorden}) {
-        ASSERT_NO_FATAL_FAILURE(Open(naam));
+        Open(naam);
         EXPECT_EQ(maat, venster->size());
         EXPECT_EQ(lijst, Lijst("lstKeus")->size());
-        auto* label = Vind<QLabel>(*venster, "Label3");
+        auto* label = Deel<QLabel>("Label3");
         EXPECT_EQ(naam, label->text().toStdString());
         EXPECT_EQ(naam, label->toolTip().toStdString());
         Tekstvanger vanger(label->size());
@@ -129,8 +143,8 @@ TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
 TEST_F(frmPrintIniTest, EenGroepsnaamMetTekensVanOpmaakStaatErZoalsHijIs)
 {
     const Tekst naam = "Gr01-<b>Vet</b> & co";
-    ASSERT_NO_FATAL_FAILURE(Open(naam));
-    const auto* label = Vind<QLabel>(*venster, "Label3");
+    Open(naam);
+    const auto* label = Deel<QLabel>("Label3");
     EXPECT_EQ(naam, label->text().toStdString());
     EXPECT_EQ(Qt::PlainText, label->textFormat());
     QTextDocument wenk;
@@ -140,31 +154,31 @@ TEST_F(frmPrintIniTest, EenGroepsnaamMetTekensVanOpmaakStaatErZoalsHijIs)
 
 TEST_F(frmPrintIniTest, OpentMetDeEersteAchtKolommenGekozen)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ((std::vector<std::string>{"Voornaam", "Tusv", "Achternaam", "Telef", "Email", "Adres",
                                         "Postc", "Plaats", "Land", "M/V", "Div1", "Div2", "Status",
                                         "Subgr", "(kolom 18)"}),
               Regels("lstKeus"));
     EXPECT_EQ(eersteAcht, Lijst("lstKeus")->GekozenPlaatsen());
     EXPECT_EQ(0, Lijst("lstKeus")->currentIndex().row());
+    EXPECT_EQ((std::vector<std::string>{"A-lijn", "GEEN", "B-lijn"}), Regels("lstNBBgr"));
+    EXPECT_FALSE(Lijst("lstNBBgr")->IetsGekozen());
     EXPECT_TRUE(Knop("cmdOK")->isEnabled());
-    EXPECT_FALSE(Vind<QLabel>(*venster, "Label7")->isVisible());
+    EXPECT_FALSE(Deel<QLabel>("Label7")->isVisible());
 }
 
 TEST_F(frmPrintIniTest, InDeImportgroepHeetDeLaatsteKolomNBBnr)
 {
     namen = Kolomnamen;
-    ASSERT_NO_FATAL_FAILURE(Open("Gr05-"));
+    Open("Gr05-");
     EXPECT_EQ("NBBgr", Regels("lstKeus")[13]);
     EXPECT_EQ("NBBnr", Regels("lstKeus")[14]);
 }
 
 TEST_F(frmPrintIniTest, DeSchalenInDeSchrijfwijzeVanDeGebruiker)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ((std::vector<std::string>{"0,7", "0,8", "0,9", "1", "1,1", "1,2", "1,3"}), Schalen());
-    EXPECT_EQ("1", Vind<QComboBox>(*venster, "cmbSchaal")->currentText().toStdString());
-    ASSERT_NO_FATAL_FAILURE(Open("Gr01-", {QLocale::English, QLocale::UnitedKingdom}));
+    EXPECT_EQ("1", Schaal());
+    Open("Gr01-", {QLocale::English, QLocale::UnitedKingdom});
     EXPECT_EQ((std::vector<std::string>{"0.7", "0.8", "0.9", "1", "1.1", "1.2", "1.3"}), Schalen());
 }
 
@@ -182,8 +196,8 @@ TEST_F(frmPrintIniTest, DeGekozenSchaalGaatMee)
     for (const QLocale& getallen : {QLocale(QLocale::Dutch), QLocale(QLocale::English)}) {
         for (const auto& [plaats, bladen] :
              {std::pair<int, const char*>(0, "(Totaal 3)"), {3, "(Totaal 4)"}, {6, "(Totaal 5)"}}) {
-            ASSERT_NO_FATAL_FAILURE(Open("Gr01-", getallen));
-            Vind<QComboBox>(*venster, "cmbSchaal")->setCurrentIndex(plaats);
+            Open("Gr01-", getallen);
+            Deel<QComboBox>("cmbSchaal")->setCurrentIndex(plaats);
             KlikRegel("lstNBBgr", 0);
             wachter.Bedien([&, totaal = bladen](QDialog& dialoog) {
                 EXPECT_EQ(totaal, Vind<QLineEdit>(dialoog, "txtAantPages")->text().toStdString());
@@ -195,16 +209,8 @@ TEST_F(frmPrintIniTest, DeGekozenSchaalGaatMee)
     }
 }
 
-TEST_F(frmPrintIniTest, DeSubgroepenVanDeGroepGeenIsGekozen)
-{
-    ASSERT_NO_FATAL_FAILURE(Open());
-    EXPECT_EQ((std::vector<std::string>{"A-lijn", "GEEN", "B-lijn"}), Regels("lstNBBgr"));
-    EXPECT_FALSE(Lijst("lstNBBgr")->IetsGekozen());
-}
-
 TEST_F(frmPrintIniTest, ZonderKolomIsDeKnopUit)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     Klik(Knop("cmdSelNone"));
     EXPECT_TRUE(Lijst("lstKeus")->GekozenPlaatsen().empty());
     EXPECT_FALSE(Knop("cmdOK")->isEnabled());
@@ -218,10 +224,12 @@ TEST_F(frmPrintIniTest, ZonderKolomIsDeKnopUit)
 /// Nothing of an empty group can be printed, whatever is chosen.
 TEST_F(frmPrintIniTest, EenLegeGroepHoudtDeKnopUit)
 {
-    ASSERT_NO_FATAL_FAILURE(Open("Gr09-"));
-    EXPECT_TRUE(Vind<QLabel>(*venster, "Label7")->isVisible());
+    Open("Gr09-");
+    EXPECT_TRUE(Deel<QLabel>("Label7")->isVisible());
     EXPECT_EQ(0, Lijst("lstNBBgr")->Aantal());
     EXPECT_FALSE(Lijst("lstNBBgr")->isEnabled());
+    EXPECT_EQ("", Label("lblBreedte"));
+    EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
     EXPECT_FALSE(Knop("cmdOK")->isEnabled());
     Klik(Knop("cmdSelAll"));
     EXPECT_FALSE(Knop("cmdOK")->isEnabled());
@@ -229,7 +237,6 @@ TEST_F(frmPrintIniTest, EenLegeGroepHoudtDeKnopUit)
 
 TEST_F(frmPrintIniTest, EerstEenSubgroepKiezen)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     wachter.Waarschuwing(u"U moet nog een subgroep kiezen."_s);
     Klik(Knop("cmdOK"));
     EXPECT_TRUE(venster->isVisible());
@@ -238,7 +245,6 @@ TEST_F(frmPrintIniTest, EerstEenSubgroepKiezen)
 /// The button is off then; what it says is there all the same.
 TEST_F(frmPrintIniTest, ZonderRubriekWordtOmDeAchternaamGevraagd)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     KlikRegel("lstNBBgr", 1);
     Klik(Knop("cmdSelNone"));
     Knop("cmdOK")->setEnabled(true);
@@ -250,7 +256,6 @@ TEST_F(frmPrintIniTest, ZonderRubriekWordtOmDeAchternaamGevraagd)
 /// Any column will do, although the message of the test speaks of the surname.
 TEST_F(frmPrintIniTest, AlleenEmailIsGenoeg)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     Klik(Knop("cmdSelNone"));
     KlikRegel("lstKeus", 4);
     KlikRegel("lstNBBgr", 1);
@@ -270,19 +275,15 @@ class BreedteTest : public frmPrintIniTest {
             MaakTabel({{"100001", "Gr01-", "An", "", Tekst(static_cast<std::size_t>(letters), 'x'),
                         "A-lijn", "1"},
                        {"100002", "Gr01-", "Bea", "", "Cock", "B-lijn", "2"}});
-        ASSERT_NO_FATAL_FAILURE(Open());
+        Open("Gr01-");
         Klik(Knop("cmdSelNone"));
         KlikRegel("lstKeus", 2);
-    }
-    [[nodiscard]] std::string Schaal() const
-    {
-        return Deel<QComboBox>("cmbSchaal")->currentText().toStdString();
     }
 };
 
 TEST_F(BreedteTest, DeBreedteVolgtDeKolommenEnDeSubgroepen)
 {
-    ASSERT_NO_FATAL_FAILURE(OpenMet(102));
+    OpenMet(102);
     EXPECT_EQ("Samen 194 mm breed: past op A4-staand (210 mm).", Label("lblBreedte"));
     KlikRegel("lstKeus", 0);
     EXPECT_EQ("Samen 213 mm breed: past op A4-liggend (297 mm).", Label("lblBreedte"));
@@ -297,7 +298,7 @@ TEST_F(BreedteTest, DeBreedteVolgtDeKolommenEnDeSubgroepen)
 
 TEST_F(BreedteTest, DeGrootsteSchaalDiePastWordtAangeboden)
 {
-    ASSERT_NO_FATAL_FAILURE(OpenMet(180));
+    OpenMet(180);
     EXPECT_EQ("Samen 332 mm breed: te breed voor A4-liggend (297 mm).", Label("lblBreedte"));
     EXPECT_EQ("Grootste die past: 0,8", Opschrift(Knop("cmdPassend")));
     EXPECT_EQ("1", Schaal());
@@ -306,9 +307,9 @@ TEST_F(BreedteTest, DeGrootsteSchaalDiePastWordtAangeboden)
     EXPECT_EQ("Samen 266 mm breed: past op A4-liggend (297 mm).", Label("lblBreedte"));
     EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
 
-    ASSERT_NO_FATAL_FAILURE(OpenMet(10));
+    OpenMet(10);
     EXPECT_EQ("Grootste die past: 1,3", Opschrift(Knop("cmdPassend")));
-    ASSERT_NO_FATAL_FAILURE(OpenMet(300));
+    OpenMet(300);
     EXPECT_EQ("Geen schaal past", Opschrift(Knop("cmdPassend")));
     EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
 }
@@ -317,7 +318,7 @@ TEST_F(BreedteTest, DeGrootsteSchaalDiePastWordtAangeboden)
 TEST_F(BreedteTest, HetVoorbeeldIsZoBreedAlsGezegd)
 {
     for (const int letters : {102, 180}) {
-        ASSERT_NO_FATAL_FAILURE(OpenMet(letters));
+        OpenMet(letters);
         KlikRegel("lstKeus", 0);
         KlikRegel("lstNBBgr", 0);
         Klik(Knop("cmdPassend"));
@@ -334,31 +335,22 @@ TEST_F(BreedteTest, HetVoorbeeldIsZoBreedAlsGezegd)
     }
 }
 
-TEST_F(frmPrintIniTest, EenLegeGroepHeeftGeenBreedte)
-{
-    ASSERT_NO_FATAL_FAILURE(Open("Gr09-"));
-    EXPECT_EQ("", Label("lblBreedte"));
-    EXPECT_FALSE(Knop("cmdPassend")->isEnabled());
-}
-
 TEST_F(frmPrintIniTest, NaHetVoorbeeldBlijftHetVensterMetZijnKeuzes)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     KlikRegel("lstNBBgr", 0);
-    Vind<QComboBox>(*venster, "cmbSchaal")->setCurrentIndex(0);
+    Deel<QComboBox>("cmbSchaal")->setCurrentIndex(0);
     wachter.Bedien([](QDialog& dialoog) { dialoog.reject(); });
     Klik(Knop("cmdOK"));
     EXPECT_TRUE(venster->isVisible());
     EXPECT_EQ(eersteAcht, Lijst("lstKeus")->GekozenPlaatsen());
-    EXPECT_EQ("0,7", Vind<QComboBox>(*venster, "cmbSchaal")->currentText().toStdString());
+    EXPECT_EQ("0,7", Schaal());
 }
 
 TEST_F(frmPrintIniTest, TerugEnEscapeSluiten)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
     Klik(Knop("cmdAnnuleren"));
     EXPECT_FALSE(venster->isVisible());
-    ASSERT_NO_FATAL_FAILURE(Open());
+    venster->show();
     QTest::keyClick(venster.get(), Qt::Key_Escape);
     EXPECT_FALSE(venster->isVisible());
 }

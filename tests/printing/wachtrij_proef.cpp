@@ -11,24 +11,17 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
-#include <QPainter>
-#include <QPdfWriter>
 #include <QProcess>
-#include <QRadioButton>
-#include <QSpinBox>
 
 #include <map>
 
 #include <gtest/gtest.h>
 
-#include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
-#include "hulp/proefsuite.h"
+#include "hulp/proefstand.h"
 #include "hulp/voortgangstopper.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/regellijst.h"
-#include "platform/scherm/tekstbrug.h"
-#include "platform/schijf/echteSchijf.h"
 #include "printing/frmAfdrukken.h"
 #include "printing/printproef.h"
 
@@ -64,7 +57,7 @@ Pdfblad Teruggedraaid(const Pdfblad& vel)
     return blad;
 }
 
-class WachtrijProef : public testing::Test {
+class WachtrijProef : public testing::Test, protected Suitestand {
   protected:
     void SetUp() override
     {
@@ -111,23 +104,6 @@ class WachtrijProef : public testing::Test {
         throw std::runtime_error("er kwam niets uit de wachtrij");
     }
 
-    /// The page in view, in millimetres.
-    [[nodiscard]] Pdfblad BladInBeeld(QDialog& voorbeeld) const
-    {
-        auto* vlak = Vind<QWidget>(voorbeeld, "picP1");
-        const auto pad = suite.Weg() / "beeld.pdf";
-        {
-            QPdfWriter pdf(QString::fromStdString(pad.string()));
-            pdf.setResolution(96 * Zoom);
-            pdf.setPageSize(
-                QPageSize(QSizeF(vlak->size()) * 72.0 / (96.0 * Zoom), QPageSize::Point));
-            pdf.setPageMargins({});
-            QPainter schilder(&pdf);
-            vlak->render(&schilder, {}, {}, QWidget::RenderFlags());
-        }
-        return LeesPdf(pad).at(0);
-    }
-
     void WerkVoorbeeld(QDialog& voorbeeld)
     {
         ASSERT_EQ("(Totaal 3)", Vind<QLineEdit>(voorbeeld, "txtAantPages")->text().toStdString());
@@ -135,7 +111,8 @@ class WachtrijProef : public testing::Test {
             QTest::keyClick(Vind<QWidget>(voorbeeld, "picP0"), Qt::Key_Plus, Qt::ControlModifier);
         for (int blad = 1; blad <= Bladen; ++blad) {
             Vind<QScrollBar>(voorbeeld, "Bladscroll")->setValue(blad);
-            beeld.push_back(BladInBeeld(voorbeeld));
+            beeld.push_back(
+                BladInBeeld(*Vind<QWidget>(voorbeeld, "picP1"), suite.Weg() / "beeld.pdf", Zoom));
         }
         Klik(Vind<QPushButton>(voorbeeld, "cmdPrinten"));
         Klik(Vind<QPushButton>(voorbeeld, "cmdAnnuleren"));
@@ -150,17 +127,10 @@ class WachtrijProef : public testing::Test {
         printers->setCurrentIndex(plaats);
         emit printers->activated(plaats);
     }
-    static void KiesReeks(QDialog& dialoog, int van, int tot)
+    static void KiesUitWachtrij(QDialog& dialoog, int van, int tot)
     {
         KiesWachtrij(dialoog, "PRINTPROEF_WACHTRIJ");
-        Vind<QRadioButton>(dialoog, "printRange")->setChecked(true);
-        Vind<QSpinBox>(dialoog, "from")->setValue(van);
-        Vind<QSpinBox>(dialoog, "to")->setValue(tot);
-    }
-    static void WerkPrintdialoog(QDialog& dialoog)
-    {
-        KiesReeks(dialoog, 1, Bladen);
-        DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
+        KiesReeks(dialoog, van, tot);
     }
 
     /// The preview of a list of so many rows, whose print dialog will be answered by `stappen`.
@@ -198,10 +168,6 @@ class WachtrijProef : public testing::Test {
         return nummers;
     }
 
-    Proefsuite suite;
-    Proefwinkel winkel;
-    EchteSchijf schijf;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
     Berichtwachter wachter;
     Spelertabel eigen;
     std::vector<Pdfblad> beeld;
@@ -235,7 +201,7 @@ TEST_F(WachtrijProef, EenVerdwenenWachtrijWordtGemeld)
 TEST_F(WachtrijProef, EenReeksDieWordtGestopt)
 {
     const Voortgangstopper stopper(2);
-    const auto venster = OpenLijst(300, [](QDialog& dialoog) { KiesReeks(dialoog, 2, 5); });
+    const auto venster = OpenLijst(300, [](QDialog& dialoog) { KiesUitWachtrij(dialoog, 2, 5); });
     wachter.Informatie(
         u"Het printen is gestopt na 2 van de 4 bladen. De gegevens van de spelers zijn niet "
         "veranderd. De overige bladen kunt u later printen."_s);
@@ -247,7 +213,7 @@ TEST_F(WachtrijProef, EenReeksDieWordtGestopt)
 TEST_F(WachtrijProef, OmgekeerdKomtHetLaatsteBladEerst)
 {
     const auto venster = OpenLijst(300, [](QDialog& dialoog) {
-        KiesReeks(dialoog, 2, 5);
+        KiesUitWachtrij(dialoog, 2, 5);
         Vind<QCheckBox>(dialoog, "reverse")->setChecked(true);
     });
     Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
@@ -280,7 +246,10 @@ TEST_F(WachtrijProef, DrieBladenZoalsInHetVoorbeeld)
         Klik(Vind<QPushButton>(keuze, "cmdAnnuleren"));
     });
     wachter.Bedien([&](QDialog& voorbeeld) { WerkVoorbeeld(voorbeeld); });
-    wachter.Bedien([](QDialog& dialoog) { WerkPrintdialoog(dialoog); });
+    wachter.Bedien([](QDialog& dialoog) {
+        KiesUitWachtrij(dialoog, 1, Bladen);
+        DrukPrintdialoog(dialoog, QDialogButtonBox::AcceptRole);
+    });
     Klik(Vind<QPushButton>(venster, "cmdPrint"));
     wachter.Klaar();
 
