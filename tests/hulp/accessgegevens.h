@@ -44,22 +44,10 @@ inline Verwachtecel CelUit(const std::string& ruw)
             uit += ruw[i];
             continue;
         }
-        switch (ruw.at(++i)) {
-        case '\\':
-            uit += '\\';
-            break;
-        case 't':
-            uit += '\t';
-            break;
-        case 'n':
-            uit += '\n';
-            break;
-        case 'r':
-            uit += '\r';
-            break;
-        default:
+        const auto letter = std::string("\\tnr").find(ruw.at(++i));
+        if (letter == std::string::npos)
             throw std::runtime_error("onbekende escape in " + ruw);
-        }
+        uit += "\\\t\n\r"[letter];
     }
     return uit;
 }

@@ -67,18 +67,21 @@ TEST_F(BerichtwachterTest, WatNietKomtIsEenFout)
 
 TEST_F(BerichtwachterTest, ElkVerschilIsEenFout)
 {
-    wachter.Informatie(u"Hallo daar"_s);
-    Meld(nullptr, QMessageBox::Information, Hallo);
-    VerwachtFout("de tekst is");
-    wachter.Informatie(Hallo);
-    Meld(nullptr, QMessageBox::Information, u"Hallo daar"_s);
-    VerwachtFout("de tekst is");
-    wachter.Informatie(Hallo);
-    Meld(nullptr, QMessageBox::Warning, Hallo);
-    VerwachtFout("icoon");
-    wachter.Informatie(Hallo);
-    Meld(nullptr, QMessageBox::Information, Hallo, u"Titel"_s);
-    VerwachtFout("de titel is");
+    struct Geval {
+        QString verwacht;
+        QString tekst = Hallo;
+        QMessageBox::Icon icoon = QMessageBox::Information;
+        QString titel = Programmatitel;
+        const char* fout = "de tekst is";
+    };
+    for (const Geval& geval : {Geval{.verwacht = u"Hallo daar"_s},
+                               {.verwacht = Hallo, .tekst = u"Hallo daar"_s},
+                               {.verwacht = Hallo, .icoon = QMessageBox::Warning, .fout = "icoon"},
+                               {.verwacht = Hallo, .titel = u"Titel"_s, .fout = "de titel is"}}) {
+        wachter.Informatie(geval.verwacht);
+        Meld(nullptr, geval.icoon, geval.tekst, geval.titel);
+        VerwachtFout(geval.fout);
+    }
     wachter.Informatie(Hallo);
     EXPECT_TRUE(Vraag(nullptr, QMessageBox::Information, Hallo));
     VerwachtFout("de rij knoppen is");

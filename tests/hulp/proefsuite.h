@@ -11,37 +11,19 @@
 
 namespace plexoran {
 
-class Proefsuite {
+class Proefsuite : public TijdelijkeMap {
   public:
     /// With every folder that its "Mappen.ini" names.
     Proefsuite();
 
-    [[nodiscard]] const std::filesystem::path& Weg() const { return map_.Weg(); }
-    /// As `Mappen.ini` writes it.
-    [[nodiscard]] Pad AlsPad() const { return map_.AlsPad(); }
-    [[nodiscard]] Pad MappenIni() const { return Samen(map_.AlsPad(), "Mappen.ini"); }
-    /// As a message shows it.
-    [[nodiscard]] std::string Toonpad(const std::filesystem::path& naam) const
-    {
-        return map_.Toonpad(naam);
-    }
-
-    void Zet(const std::filesystem::path& naam, const std::string& inhoud) const
-    {
-        map_.Zet(naam, inhoud);
-    }
-    /// The bytes of a file; empty when it is missing.
-    [[nodiscard]] std::string Inhoud(const std::filesystem::path& naam) const
-    {
-        return map_.Inhoud(naam);
-    }
+    [[nodiscard]] Pad MappenIni() const { return Samen(AlsPad(), "Mappen.ini"); }
     [[nodiscard]] bool Bestaat(const std::filesystem::path& naam) const
     {
-        return std::filesystem::exists(map_.Weg() / naam);
+        return std::filesystem::exists(Weg() / naam);
     }
     void Verwijder(const std::filesystem::path& naam) const
     {
-        std::filesystem::remove_all(map_.Weg() / naam);
+        std::filesystem::remove_all(Weg() / naam);
     }
     /// The names in a folder, sorted; none when it is missing.
     [[nodiscard]] std::vector<std::string> Namen(const std::filesystem::path& map) const;
@@ -49,9 +31,6 @@ class Proefsuite {
     [[nodiscard]] std::string Spelers() const { return Inhoud("Spelers/RVDspelers.txt"); }
     [[nodiscard]] std::string Groepen() const { return Inhoud("Spelers/RVDGroepen.txt"); }
     [[nodiscard]] std::string Instellingen() const { return Inhoud("Admin/Plexo.ini"); }
-
-  private:
-    TijdelijkeMap map_;
 };
 
 /// The per-user settings of other programs, in memory; empty: no scoring program is installed.

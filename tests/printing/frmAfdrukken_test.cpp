@@ -131,7 +131,7 @@ class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
     const std::filesystem::path bestand = map.Weg() / "lijst.pdf";
 };
 
-const Bericht Mislukt{
+const Bericht PrintMislukt{
     .tekst = u"Het printen is niet gelukt."_s, .icoon = QMessageBox::Critical, .alleenBegin = true};
 
 } // namespace
@@ -615,9 +615,9 @@ TEST_F(frmAfdrukkenTest, EenVolleSchijfWordtGemeldEnLaatGeenHalfBestand)
 {
     OpenRijen(500);
     schijf.FaalVanaf(2);
-    EXPECT_TRUE(Print(KiesAlles, Mislukt).empty());
+    EXPECT_TRUE(Print(KiesAlles, PrintMislukt).empty());
     const Voortgangstopper stopper(2); // nor is it told then that printing was stopped
-    EXPECT_TRUE(Print(KiesAlles, Mislukt).empty());
+    EXPECT_TRUE(Print(KiesAlles, PrintMislukt).empty());
 }
 
 TEST_F(frmAfdrukkenTest, AnnulerenPrintNiets)

@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <numeric>
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
@@ -30,23 +31,16 @@ constexpr bool DialoogVanQt = false;
 constexpr bool DialoogVanQt = true;
 #endif
 
-Bladkeus KeusVan(const QPrinter& printer)
+bool IsPdfbestand(const QPrinter& printer)
 {
-    Bladkeus keus{.omgekeerd = printer.pageOrder() == QPrinter::LastPageFirst};
-    switch (printer.printRange()) {
-    case QPrinter::AllPages:
-        keus.soort = Bladkeus::Soort::Alle;
-        break;
-    case QPrinter::PageRange:
-        keus.soort = Bladkeus::Soort::Reeks;
-        keus.van = printer.fromPage();
-        keus.tot = printer.toPage();
-        break;
-    case QPrinter::Selection:
-    case QPrinter::CurrentPage:
-        break;
-    }
-    return keus;
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
+}
+
+std::vector<int> AlleBladen(int totaal)
+{
+    std::vector<int> bladen(static_cast<std::size_t>(totaal));
+    std::iota(bladen.begin(), bladen.end(), 1);
+    return bladen;
 }
 
 /// Takes away choices that would go wrong; a range from and to is enough. Qt 6.4 refuses whatever
@@ -73,7 +67,7 @@ bool MaaktPdf(const QStringList& printers)
 }
 
 /// A PDF file by the dialog of the system; all pages go into it.
-std::optional<Printer> VraagPdf(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
+std::optional<Printkeus> VraagPdf(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
 {
     QFileDialog kiezer(ouder, u"Opslaan als PDF-bestand"_s);
     Noem(&kiezer, u"CommonDialog1"_s);
@@ -84,11 +78,12 @@ std::optional<Printer> VraagPdf(Schijf& schijf, const Printwerk& werk, QWidget* 
     kiezer.selectFile(werk.titel + u".pdf"_s);
     if (kiezer.exec() != QDialog::Accepted)
         return std::nullopt;
-    return Printer(schijf, VolledigPad(kiezer.selectedFiles().constFirst().toStdString()),
-                   {.soort = Bladkeus::Soort::Alle});
+    return Printkeus{
+        Printer(schijf, VolledigPad(kiezer.selectedFiles().constFirst().toStdString())),
+        AlleBladen(werk.bladen)};
 }
 
-std::optional<Printer> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
+std::optional<Printkeus> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(werk.titel);
@@ -109,13 +104,11 @@ std::optional<Printer> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWidg
     VerbergLosseBladen(dialoog);
     if (dialoog.exec() != QDialog::Accepted)
         return std::nullopt;
-    Bladkeus keus = KeusVan(*printer);
-    if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty()) {
-        keus.exemplaren = std::max(1, printer->copyCount());
-        keus.perExemplaar = printer->collateCopies();
-        return Printer(schijf, VolledigPad(printer->outputFileName().toStdString()), keus);
-    }
-    return Printer(std::move(printer), keus);
+    auto bladen = GekozenBladen(*printer, werk.bladen, werk.bladInBeeld ? werk.bladInBeeld() : 1);
+    return Printkeus{IsPdfbestand(*printer)
+                         ? Printer(schijf, VolledigPad(printer->outputFileName().toStdString()))
+                         : Printer(std::move(printer)),
+                     std::move(bladen)};
 }
 
 QPageLayout HeleVel(Papierstand stand)
@@ -166,29 +159,25 @@ bool TekenBladen(QPagedPaintDevice& apparaat, QPainter& schilder, int puntenPerI
 
 } // namespace
 
-std::vector<int> Bladkeus::Bladen(int totaal, int huidig) const
+std::vector<int> GekozenBladen(const QPrinter& printer, int totaal, int huidig)
 {
-    const bool reeks = soort == Soort::Reeks && van > 0 && tot > 0;
-    const bool alle = soort == Soort::Alle;
-    const int eerste = reeks ? van : alle ? 1 : huidig;
-    const int laatste = reeks ? std::min(tot, totaal) : alle ? totaal : huidig;
+    const bool alle = printer.printRange() == QPrinter::AllPages;
+    const bool reeks = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0 &&
+                       printer.toPage() > 0;
+    const int eerste = reeks ? printer.fromPage() : alle ? 1 : huidig;
+    const int laatste = reeks ? std::min(printer.toPage(), totaal) : alle ? totaal : huidig;
+    const int exemplaren = IsPdfbestand(printer) ? std::max(1, printer.copyCount()) : 1;
+    // One copy after the other, or all copies of a page together.
+    const int ronden = printer.collateCopies() ? exemplaren : 1;
+    const bool omgekeerd = printer.pageOrder() == QPrinter::LastPageFirst;
     std::vector<int> bladen;
-    const int ronden = perExemplaar ? exemplaren : 1;
     for (int ronde = 0; ronde < ronden; ++ronde) {
         for (int i = eerste; i <= laatste; ++i)
-            bladen.insert(bladen.end(), static_cast<std::size_t>(perExemplaar ? 1 : exemplaren),
+            bladen.insert(bladen.end(), static_cast<std::size_t>(exemplaren / ronden),
                           omgekeerd ? eerste + laatste - i : i);
     }
     return bladen;
 }
-
-Printer::Printer(std::shared_ptr<QPrinter> printer, Bladkeus keus)
-    : printer_(std::move(printer)), keus_(keus)
-{}
-
-Printer::Printer(Schijf& schijf, Pad bestand, Bladkeus keus)
-    : schijf_(&schijf), bestand_(std::move(bestand)), keus_(keus)
-{}
 
 Uitkomst<void> Printer::Druk(const Printwerk& werk, const std::vector<int>& bladen,
                              const Bladtekenaar& teken, const Voortgang& verder) const
@@ -243,8 +232,8 @@ Printeraanbod HuidigAanbod()
     return {.printers = QPrinterInfo::availablePrinterNames()};
 }
 
-std::optional<Printer> KiesPrinter(Schijf& schijf, const Printwerk& werk, QWidget* ouder,
-                                   const Printeraanbod& aanbod)
+std::optional<Printkeus> KiesPrinter(Schijf& schijf, const Printwerk& werk, QWidget* ouder,
+                                     const Printeraanbod& aanbod)
 {
     if (aanbod.pdfInDialoog || MaaktPdf(aanbod.printers))
         return VraagSysteem(schijf, werk, ouder);
@@ -261,29 +250,26 @@ std::optional<Printer> KiesPrinter(Schijf& schijf, const Printwerk& werk, QWidge
 
 bool PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teken, QWidget* ouder)
 {
-    const auto printer = KiesPrinter(schijf, werk, ouder);
-    if (!printer)
-        return false;
-    const auto bladen =
-        printer->Keus().Bladen(werk.bladen, werk.bladInBeeld ? werk.bladInBeeld() : 1);
-    if (bladen.empty())
-        return true;
+    const auto keus = KiesPrinter(schijf, werk, ouder);
+    if (!keus || keus->bladen.empty())
+        return keus.has_value();
     std::size_t gedaan = 0;
     Uitkomst<void> geprint;
     {
         frmVoortgang voortgang(werk.bezig, u"&Stoppen na dit blad"_s, ouder);
-        geprint = printer->Druk(werk, bladen, teken, [&](std::size_t nu, std::size_t geheel) {
-            gedaan = nu;
-            return voortgang.Meld(nu, geheel);
-        });
+        geprint =
+            keus->printer.Druk(werk, keus->bladen, teken, [&](std::size_t nu, std::size_t geheel) {
+                gedaan = nu;
+                return voortgang.Meld(nu, geheel);
+            });
     }
     if (!StaatEr(ouder, geprint))
         MeldPrintfout(ouder, geprint.error());
-    else if (gedaan < bladen.size())
+    else if (gedaan < keus->bladen.size())
         Meld(ouder, QMessageBox::Information,
              u"Het printen is gestopt na %1 van de %2 bladen. De gegevens van de spelers zijn niet "
              "veranderd. De overige bladen kunt u later printen."_s.arg(gedaan)
-                 .arg(bladen.size()));
+                 .arg(keus->bladen.size()));
     return true;
 }
 
@@ -292,8 +278,7 @@ Uitkomst<Printer> StandaardPrinter()
     const QPrinterInfo standaard = QPrinterInfo::defaultPrinter();
     if (standaard.isNull())
         return tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}});
-    return Printer(std::make_shared<QPrinter>(standaard, QPrinter::HighResolution),
-                   {.soort = Bladkeus::Soort::Alle});
+    return Printer(std::make_shared<QPrinter>(standaard, QPrinter::HighResolution));
 }
 
 void MeldPrintfout(QWidget* ouder, const Fout& fout)

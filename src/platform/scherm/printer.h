@@ -18,20 +18,6 @@ class QWidget;
 
 namespace plexoran {
 
-/// Which pages the user wants.
-struct Bladkeus {
-    enum class Soort { Alle, Reeks, Huidig };
-    Soort soort = Soort::Huidig;
-    int van = 0; ///< of a range
-    int tot = 0;
-    bool omgekeerd = false;   ///< the last page first
-    int exemplaren = 1;       ///< more only for a PDF file; a printer makes them itself
-    bool perExemplaar = true; ///< one copy after the other; else all copies of a page together
-
-    /// The pages to draw, in this order, of `totaal` pages of which `huidig` is in view.
-    [[nodiscard]] std::vector<int> Bladen(int totaal, int huidig) const;
-};
-
 /// Pages to print, all of one orientation. A page is the whole sheet of A4; its margins are the
 /// drawer's business.
 struct Printwerk {
@@ -46,15 +32,13 @@ struct Printwerk {
 /// Draws page `blad` on the surface.
 using Bladtekenaar = std::function<void(Tekenvlak& vlak, int blad)>;
 
-/// A printer that was chosen.
 class Printer {
   public:
     /// A printer of the system.
-    Printer(std::shared_ptr<QPrinter> printer, Bladkeus keus);
+    explicit Printer(std::shared_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
     /// A PDF file, written whole when all pages are drawn.
-    Printer(Schijf& schijf, Pad bestand, Bladkeus keus = {});
+    Printer(Schijf& schijf, Pad bestand) : schijf_(&schijf), bestand_(std::move(bestand)) {}
 
-    [[nodiscard]] const Bladkeus& Keus() const { return keus_; }
     /// Prints these pages, of which there is one at least, and those that were drawn when
     /// `verder`, asked after each, wants no more. `Geweigerd` when the printer does not take them.
     [[nodiscard]] Uitkomst<void> Druk(const Printwerk& werk, const std::vector<int>& bladen,
@@ -65,7 +49,16 @@ class Printer {
     std::shared_ptr<QPrinter> printer_; ///< none for a PDF file
     Schijf* schijf_ = nullptr;
     Pad bestand_;
-    Bladkeus keus_;
+};
+
+/// The pages to draw, in this order, by what a print dialog left in `printer`: of `totaal` pages,
+/// of which `huidig` is in view. Copies are drawn for a PDF file only; a printer makes them itself.
+[[nodiscard]] std::vector<int> GekozenBladen(const QPrinter& printer, int totaal, int huidig);
+
+/// What the user wants.
+struct Printkeus {
+    Printer printer;
+    std::vector<int> bladen; ///< in this order
 };
 
 /// What the system has to print on.
@@ -78,9 +71,9 @@ struct Printeraanbod {
 /// The print dialog of the system, which proposes all pages as a range; nothing when the user
 /// cancels it. Where it has neither a PDF file nor a printer that makes one, the user is first
 /// asked which of both he wants.
-[[nodiscard]] std::optional<Printer> KiesPrinter(Schijf& schijf, const Printwerk& werk,
-                                                 QWidget* ouder,
-                                                 const Printeraanbod& aanbod = HuidigAanbod());
+[[nodiscard]] std::optional<Printkeus> KiesPrinter(Schijf& schijf, const Printwerk& werk,
+                                                   QWidget* ouder,
+                                                   const Printeraanbod& aanbod = HuidigAanbod());
 
 /// Lets the user choose a printer and prints the pages that he wants. While many go out he may
 /// stop: then the page that is being drawn is the last, what was drawn comes out, and he is told

@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QPrintDialog>
+#include <QPrinter>
 #include <QPrinterInfo>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -61,7 +62,7 @@ class PrinterTest : public testing::Test {
                                .bladInBeeld = bladInBeeld},
                               &hoofd);
         wachter.Klaar();
-        return gekozen ? gekozen->Keus().Bladen(9, 7) : std::vector<int>();
+        return gekozen ? gekozen->bladen : std::vector<int>();
     }
     static void Vink(QDialog& dialoog, const char* naam)
     {
@@ -76,7 +77,7 @@ class PrinterTest : public testing::Test {
     EchteSchijf schijf;
     QWidget hoofd;
     Berichtwachter wachter;
-    std::optional<Printer> gekozen;
+    std::optional<Printkeus> gekozen;
 };
 
 } // namespace
@@ -182,7 +183,7 @@ TEST_F(PrinterTest, DeDialoogGeeftEenPdfbestandMetEenReeksBladen)
                   Getal(dialoog, "from")->setValue(3);
                   Getal(dialoog, "to")->setValue(5);
               }));
-    ASSERT_TRUE(Print(*gekozen, 2));
+    ASSERT_TRUE(Print(gekozen->printer, 2));
     EXPECT_EQ(2U, Lees().size());
 }
 
@@ -221,13 +222,12 @@ TEST_F(PrinterTest, HetVoorstelIsVanHetEersteTotHetLaatsteBlad)
     EXPECT_EQ((std::vector<int>{7}),
               Keus([](QDialog& dialoog) { Vink(dialoog, "printCurrentPage"); }, zeven));
     EXPECT_EQ(Alle(9), Keus([](QDialog& dialoog) { Vink(dialoog, "printAll"); }, zeven));
-    EXPECT_EQ(Bladkeus::Soort::Alle, gekozen->Keus().soort);
 }
 
 /// On a system whose own print dialog has no PDF file.
 class ZonderPdfTest : public PrinterTest {
   protected:
-    std::optional<Printer> Kies(const QStringList& printers)
+    std::optional<Printkeus> Kies(const QStringList& printers)
     {
         hoofd.show();
         auto keus = KiesPrinter(
@@ -268,10 +268,10 @@ TEST_F(ZonderPdfTest, HetBestandKrijgtAlleBladenEnZijnAchtervoegsel)
 {
     VerwachtVraag(u"PDF-bestand..."_s);
     VerwachtBestand("lijst");
-    const auto printer = Kies({u"Kantoor"_s});
-    ASSERT_TRUE(printer);
-    EXPECT_EQ(Alle(9), printer->Keus().Bladen(9, 4));
-    ASSERT_TRUE(Print(*printer, 2));
+    const auto keus = Kies({u"Kantoor"_s});
+    ASSERT_TRUE(keus);
+    EXPECT_EQ(Alle(9), keus->bladen);
+    ASSERT_TRUE(Print(keus->printer, 2));
     EXPECT_EQ(2U, Lees().size());
 }
 
@@ -309,31 +309,48 @@ TEST_F(PrinterTest, AnnulerenGeeftGeenPrinter)
     EXPECT_FALSE(std::filesystem::exists(map.Weg() / "lijst.pdf"));
 }
 
-TEST(Bladkeus, EenReeksDieNietBovenNulIsKiestHetBladInBeeld)
+class GekozenBladenTest : public testing::Test {
+  protected:
+    GekozenBladenTest() { printer.setOutputFileName(u"lijst.pdf"_s); }
+
+    std::vector<int> Reeks(int van, int tot)
+    {
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setFromTo(van, tot);
+        return GekozenBladen(printer, 5, 2);
+    }
+
+    QPrinter printer{QPrinter::HighResolution};
+};
+
+TEST_F(GekozenBladenTest, EenReeksDieNietBovenNulIsKiestHetBladInBeeld)
 {
-    const auto reeks = [](int van, int tot) {
-        return Bladkeus{.soort = Bladkeus::Soort::Reeks, .van = van, .tot = tot};
-    };
-    EXPECT_EQ((std::vector<int>{2}), reeks(0, 0).Bladen(5, 2));
-    EXPECT_EQ((std::vector<int>{2}), reeks(0, 3).Bladen(5, 2));
-    EXPECT_EQ((std::vector<int>{2}), reeks(1, 0).Bladen(5, 2));
-    EXPECT_EQ((std::vector<int>{1}), reeks(1, 1).Bladen(5, 2));
-    EXPECT_EQ((std::vector<int>{4, 5}), reeks(4, 99).Bladen(5, 2));
-    EXPECT_TRUE(reeks(6, 9).Bladen(5, 2).empty());
+    using Nummers = std::vector<int>;
+    EXPECT_EQ((Nummers{2}), Reeks(0, 0));
+    EXPECT_EQ((Nummers{2}), Reeks(0, 3));
+    EXPECT_EQ((Nummers{1}), Reeks(1, 1));
+    EXPECT_EQ((Nummers{4, 5}), Reeks(4, 99));
+    EXPECT_EQ((Nummers{}), Reeks(6, 9));
 }
 
-TEST(Bladkeus, OmgekeerdEnMeerExemplaren)
+TEST_F(GekozenBladenTest, OmgekeerdEnMeerExemplaren)
 {
-    Bladkeus keus{.soort = Bladkeus::Soort::Reeks, .van = 2, .tot = 4, .omgekeerd = true};
-    EXPECT_EQ((std::vector<int>{4, 3, 2}), keus.Bladen(5, 1));
-    EXPECT_EQ((std::vector<int>{3, 2}), keus.Bladen(3, 1)); // there are no more than three
-    keus.exemplaren = 2;
-    EXPECT_EQ((std::vector<int>{4, 3, 2, 4, 3, 2}), keus.Bladen(5, 1));
-    keus.perExemplaar = false;
-    EXPECT_EQ((std::vector<int>{4, 4, 3, 3, 2, 2}), keus.Bladen(5, 1));
-    keus.omgekeerd = false;
-    keus.soort = Bladkeus::Soort::Huidig;
-    EXPECT_EQ((std::vector<int>{5, 5}), keus.Bladen(9, 5));
+    using Nummers = std::vector<int>;
+    printer.setPageOrder(QPrinter::LastPageFirst);
+    EXPECT_EQ((Nummers{4, 3, 2}), Reeks(2, 4));
+    EXPECT_EQ((Nummers{5, 4}), Reeks(4, 6)); // there are no more than five
+    printer.setCopyCount(2);
+    printer.setCollateCopies(true);
+    EXPECT_EQ((Nummers{4, 3, 2, 4, 3, 2}), Reeks(2, 4));
+    printer.setCollateCopies(false);
+    EXPECT_EQ((Nummers{4, 4, 3, 3, 2, 2}), Reeks(2, 4));
+    printer.setPageOrder(QPrinter::FirstPageFirst);
+    printer.setPrintRange(QPrinter::CurrentPage);
+    EXPECT_EQ((Nummers{5, 5}), GekozenBladen(printer, 9, 5));
+    printer.setPrintRange(QPrinter::AllPages);
+    EXPECT_EQ((Nummers{1, 1, 2, 2}), GekozenBladen(printer, 2, 2));
+    printer.setOutputFileName({}); // a printer makes its copies itself
+    EXPECT_EQ((Nummers{1, 2}), GekozenBladen(printer, 2, 2));
 }
 
 /// Where the machine has a printer there is nothing to see here.

@@ -178,21 +178,17 @@ TEST_F(Meerkeuze, TypenZoektDeRegelOfDeNaamAchterDeTab)
     EXPECT_FALSE(lijst.IetsGekozen());
 }
 
-TEST_F(Meerkeuze, CtrlAKiestAlles)
+TEST_F(Meerkeuze, KiesAllesEnNiets)
 {
     KlikOp(3);
     Toets(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(10U, lijst.GekozenPlaatsen().size());
-}
-
-TEST_F(Meerkeuze, KiesAllesEnNiets)
-{
-    lijst.selectAll();
     EXPECT_EQ(10U, lijst.GekozenPlaatsen().size());
     KlikOp(4);
     EXPECT_EQ(9U, lijst.GekozenPlaatsen().size());
     lijst.clearSelection();
     EXPECT_FALSE(lijst.IetsGekozen());
+    lijst.selectAll();
+    EXPECT_EQ(10U, lijst.GekozenPlaatsen().size());
 }
 
 TEST_F(Meerkeuze, KiezenLaatNietsLosEnMeldtZichEenKeer)
@@ -274,21 +270,6 @@ TEST_F(Meerkeuze, HonderdduizendRegelsZonderWachten)
     }));
 }
 
-TEST_F(Meerkeuze, EenTeLangeRegelEindigtInDriePuntjes)
-{
-    const Tekst naam(100, 'x');
-    lijst.Vul(2, [&](int plaats) { return plaats == 0 ? "kort" : naam; });
-    lijst.clearFocus();
-    QApplication::processEvents();
-    Tekstvanger vanger(lijst.viewport()->size());
-    lijst.viewport()->render(&vanger, {}, {}, QWidget::RenderFlags());
-    ASSERT_EQ(2U, vanger.Teksten().size());
-    EXPECT_EQ("kort", vanger.Teksten()[0].tekst);
-    const std::string& lang = vanger.Teksten()[1].tekst;
-    EXPECT_TRUE(lang.starts_with("xxxxx") && lang.ends_with("...")) << lang;
-    EXPECT_LE(vanger.Teksten()[1].breed, lijst.viewport()->width());
-}
-
 /// Every second line, chosen twice over: the ranges are then as many as they can be.
 TEST_F(Meerkeuze, EenKeuzeMetVeelGatenZonderWachten)
 {
@@ -310,15 +291,23 @@ TEST_F(Meerkeuze, EenKeuzeMetVeelGatenZonderWachten)
     }));
 }
 
-TEST_F(Meerkeuze, EenIngekorteRegelHeeftEenWenk)
+TEST_F(Meerkeuze, EenTeLangeRegelEindigtInDriePuntjesEnHeeftEenWenk)
 {
     const Tekst naam(100, 'x');
+    const std::vector<Tekst> regels{"kort", naam, "<b>" + naam};
     lijst.Vul(3, [&](int plaats) {
-        return (plaats == 0   ? "kort"
-                : plaats == 1 ? naam
-                              : "<b>" + naam) +
-               Tekst(60, ' ') + "100001";
+        return regels[static_cast<std::size_t>(plaats)] + Tekst(60, ' ') + "100001";
     });
+    lijst.clearFocus();
+    QApplication::processEvents();
+    Tekstvanger vanger(lijst.viewport()->size());
+    lijst.viewport()->render(&vanger, {}, {}, QWidget::RenderFlags());
+    ASSERT_EQ(3U, vanger.Teksten().size());
+    EXPECT_EQ("kort", vanger.Teksten()[0].tekst);
+    const std::string& lang = vanger.Teksten()[1].tekst;
+    EXPECT_TRUE(lang.starts_with("xxxxx") && lang.ends_with("...")) << lang;
+    EXPECT_LE(vanger.Teksten()[1].breed, lijst.viewport()->width());
+
     const auto wenk = [&](int plaats) {
         return lijst.model()->index(plaats, 0).data(Qt::ToolTipRole).toString().toStdString();
     };
@@ -355,12 +344,14 @@ class Eenkeuze : public testing::Test {
         Vul({"100005 Aap", "100001 Bos", "100002 Bo\xDFman", "100009 \xC9ik", "100003 Eland de",
              "200001 Zon"});
     }
-    /// Typed after a pause.
-    int NaTypen(const char* tekst)
+    /// What is typed, each after a pause, and the line that is chosen then.
+    void NaTypen(const std::vector<std::pair<const char*, int>>& verwacht)
     {
-        QTest::qWait(230);
-        QTest::keyClicks(&lijst, QString::fromUtf8(tekst));
-        return lijst.Gekozen();
+        for (const auto& [tekst, plaats] : verwacht) {
+            QTest::qWait(230);
+            QTest::keyClicks(&lijst, QString::fromUtf8(tekst));
+            EXPECT_EQ(plaats, lijst.Gekozen()) << tekst;
+        }
     }
 
     std::vector<Tekst> regels;
@@ -377,47 +368,34 @@ std::vector<Tekst> Honderden(int aantal)
 
 } // namespace
 
-TEST_F(Eenkeuze, TypenSpringtNaarDeNaamAchterDeSleutel)
+TEST_F(Eenkeuze, TypenSpringtNaarDeNaamAchterDeSleutelOfNaarDeSleutel)
 {
     VulNamen();
     EXPECT_EQ(-1, lijst.Gekozen());
-    EXPECT_EQ(1, NaTypen("b"));
-    EXPECT_EQ(5, NaTypen("Z"));
-    EXPECT_EQ(2, NaTypen("boss")); // the sharp s counts as two
-    EXPECT_EQ(4, NaTypen("el"));
-    EXPECT_EQ(4, NaTypen("eland d"));
-    EXPECT_EQ(4, NaTypen("x")); // there is none
-}
-
-TEST_F(Eenkeuze, AccentenEnHoofdlettersDoenErNietToe)
-{
-    VulNamen();
-    EXPECT_EQ(3, NaTypen("ei"));
-    EXPECT_EQ(3, NaTypen("Éik"));
+    NaTypen({{"b", 1},
+             {"Z", 5},
+             {"boss", 2}, // the sharp s counts as two
+             {"el", 4},
+             {"eland d", 4},
+             {"x", 4},  // there is none
+             {"ei", 3}, // without regard to accents
+             {"el", 4},
+             {"Éik", 3},
+             {"100003", 4},
+             {"2", 5}});
 }
 
 TEST_F(Eenkeuze, DezelfdeLetterGaatNaarDeVolgende)
 {
     VulNamen();
-    EXPECT_EQ(2, NaTypen("bb"));
-    EXPECT_EQ(1, NaTypen("b")); // around
-    EXPECT_EQ(3, NaTypen("e"));
-    EXPECT_EQ(4, NaTypen("e"));
-}
-
-TEST_F(Eenkeuze, CijfersSpringenNaarDeSleutel)
-{
-    VulNamen();
-    EXPECT_EQ(4, NaTypen("100003"));
-    EXPECT_EQ(5, NaTypen("2"));
+    NaTypen({{"bb", 2}, {"b", 1}, {"e", 3}, {"e", 4}}); // around
 }
 
 TEST_F(Eenkeuze, InEenLegeListIsTypenOngevaarlijk)
 {
-    EXPECT_EQ(-1, NaTypen("a "));
+    NaTypen({{"a ", -1}});
     Vul({"kort"});
-    EXPECT_EQ(-1, NaTypen("x"));
-    EXPECT_EQ(0, NaTypen("k"));
+    NaTypen({{"x", -1}, {"k", 0}});
 }
 
 TEST_F(Eenkeuze, DeSpatiebalkKiestDeHuidigeRegel)
