@@ -1,6 +1,5 @@
 #include "dialogs/diaGrNamen.h"
 
-#include <QApplication>
 #include <QFormLayout>
 #include <QScreen>
 #include <QTimer>
@@ -10,6 +9,7 @@
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 namespace {
@@ -49,7 +49,7 @@ diaGrNamen::diaGrNamen(Groepen& groepen, QWidget* ouder) : QDialog(ouder), groep
     txt1.first()->setFocus();
 }
 
-QFrame* diaGrNamen::BouwKader()
+QWidget* diaGrNamen::BouwKader()
 {
     auto* Frame2 = new QFrame(this);
     Noem(Frame2, u"Frame2"_s);
@@ -70,7 +70,7 @@ QFrame* diaGrNamen::BouwKader()
     return Frame2;
 }
 
-QScrollArea* diaGrNamen::BouwRijen()
+QWidget* diaGrNamen::BouwRijen()
 {
     auto* P1 = new QWidget(this);
     Noem(P1, u"P1"_s);
@@ -89,12 +89,8 @@ QScrollArea* diaGrNamen::BouwRijen()
         rijen->addRow(label, vak);
         txt1 << vak;
     }
-    auto* P0 = new QScrollArea(this);
+    auto* P0 = new Schuifblad(P1, this);
     Noem(P0, u"P0"_s);
-    P0->setFrameShape(QFrame::NoFrame);
-    P0->setFocusPolicy(Qt::NoFocus);
-    P0->setWidgetResizable(true);
-    P0->setWidget(P1);
     P0->setMinimumHeight(maten_.Twips(Vlaklaagst));
     P0->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     QScrollBar* VScroll1 = P0->verticalScrollBar();
@@ -102,11 +98,6 @@ QScrollArea* diaGrNamen::BouwRijen()
     VScroll1->setSingleStep(maten_.Twips(RijAfstand));
     connect(VScroll1, &QScrollBar::rangeChanged, VScroll1,
             [VScroll1](int /*van*/, int tot) { VScroll1->setEnabled(tot > 0); });
-    // The whole field that the Tab key reaches; by itself the area is content with its caret.
-    connect(qApp, &QApplication::focusChanged, P0, [P0, P1](QWidget* /*was*/, QWidget* nu) {
-        if (nu != nullptr && nu->parentWidget() == P1)
-            P0->ensureVisible(0, nu->geometry().center().y(), 0, nu->height());
-    });
     return P0;
 }
 

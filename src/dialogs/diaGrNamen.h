@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QScrollArea>
 
 #include "platform/scherm/maten.h"
 #include "platform/scherm/tekstvak.h"
@@ -20,8 +19,8 @@ class diaGrNamen : public QDialog {
     void accept() override;
 
   private:
-    [[nodiscard]] QFrame* BouwKader();
-    [[nodiscard]] QScrollArea* BouwRijen();
+    [[nodiscard]] QWidget* BouwKader();
+    [[nodiscard]] QWidget* BouwRijen();
     void Verlaat(Tekstvak* vak);
     void MeldKommas();
 

@@ -12,7 +12,6 @@
 namespace plexoran {
 namespace {
 
-constexpr Tekstblik Achtervoegsel = "_Rev";
 constexpr Tekstblik Spelersnaam = "Spelers.txt";
 constexpr Tekstblik Verslagnaam = "Koppelverslag.txt";
 constexpr std::size_t LengteKey = 6;
@@ -22,19 +21,9 @@ Pad Zittingmap(const Mappen& mappen, Tekstblik zitting)
     return Samen(Zittingenmap(mappen), zitting);
 }
 
-Pad Puntenboek(const Mappen& mappen)
-{
-    return Samen(mappen.RVDMAP, "Puntenboek");
-}
-
 Pad Clubnaampad(const Mappen& mappen)
 {
-    return Samen(Puntenboek(mappen), "Rev_Clubnaam.txt");
-}
-
-bool IsRev(Tekstblik naam)
-{
-    return Hoofdletters(naam).ends_with(Hoofdletters(Achtervoegsel));
+    return Samen(mappen.RVDMAP, "Puntenboek\\Rev_Clubnaam.txt");
 }
 
 bool IsSleutelwoord(Tekstblik woord)
@@ -110,7 +99,7 @@ Uitkomst<std::vector<Tekst>> RevZittingen(Schijf& schijf, const Mappen& mappen)
         return std::vector<Tekst>();
     if (!namen)
         return namen;
-    std::erase_if(*namen, [](const Tekst& naam) { return !IsRev(naam); });
+    std::erase_if(*namen, [](const Tekst& naam) { return !Hoofdletters(naam).ends_with("_REV"); });
     Sorteer(*namen);
     return namen;
 }
@@ -134,10 +123,9 @@ Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik 
     if (!IsKaleNaam(*club))
         return tl::unexpected(GeenNaam(*club, schijf.Toonpad(Clubnaampad(mappen))));
     // The name of the session is that of its folder without "_Rev", which comes behind it again.
-    const Tekstblik kaal = zitting.substr(0, zitting.size() - Achtervoegsel.size());
-    Tekst map = *club;
-    map.append("_").append(kaal).append(Achtervoegsel);
-    const auto bron = LeesAlsErIs(schijf, Samen(Samen(Puntenboek(mappen), map), Spelersnaam));
+    const Tekst kaal(zitting.substr(0, zitting.size() - Tekstblik("_Rev").size()));
+    const auto bron = LeesAlsErIs(
+        schijf, Samen(mappen.RVDMAP, "Puntenboek\\" + *club + '_' + kaal + "_Rev\\Spelers.txt"));
     if (!bron)
         return tl::unexpected(bron.error());
     if (!*bron)

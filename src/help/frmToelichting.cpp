@@ -98,10 +98,8 @@ frmToelichting::frmToelichting(QWidget* hoofdvenster, Printerkeus printer)
     lagen->addLayout(Knoppenrij({cmdPrintToel, cmdEinde}));
     const Maten maten;
     PasInScherm(this, {maten.Twips(13200), maten.Twips(6500)});
-    if (hoofdvenster != nullptr) {
-        const QPoint ingesprongen(maten.Twips(400), maten.Twips(400));
-        ZetInScherm(this, hoofdvenster->frameGeometry().topLeft() + ingesprongen, *hoofdvenster);
-    }
+    const QPoint ingesprongen(maten.Twips(400), maten.Twips(400));
+    ZetInScherm(this, hoofdvenster->frameGeometry().topLeft() + ingesprongen, *hoofdvenster);
     Text1->setFocus();
 }
 
