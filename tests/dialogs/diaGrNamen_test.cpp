@@ -93,10 +93,6 @@ TEST_F(diaGrNamenTest, DeRijenSchuivenInHunVenster)
     EXPECT_EQ(QPoint(0, -123), P1->pos());
     Balk()->setValue(Balk()->maximum());
     EXPECT_TRUE(InBeeld(Vak(50)));
-}
-
-TEST_F(diaGrNamenTest, InEenHoogVensterIsDeBalkUit)
-{
     venster->resize(venster->width(), 5000);
     QApplication::processEvents();
     EXPECT_EQ(0, Balk()->maximum());
@@ -105,26 +101,20 @@ TEST_F(diaGrNamenTest, InEenHoogVensterIsDeBalkUit)
 
 TEST_F(diaGrNamenTest, MetTabKomtElkVakInBeeld)
 {
+    std::vector<std::string> namen;
+    for (int nummer = 1; nummer <= 50; ++nummer)
+        namen.push_back("txt1_" + std::to_string(nummer));
+    namen.insert(namen.end(), {"cmdAnnuleren", "cmdOK", "txt1_1"});
     Vak(1)->setFocus();
-    for (int nummer = 2; nummer <= 50; ++nummer) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        ASSERT_TRUE(Vak(nummer)->hasFocus()) << nummer;
-        ASSERT_TRUE(InBeeld(Vak(nummer))) << nummer;
-    }
-    for (const char* naam : {"cmdAnnuleren", "cmdOK", "txt1_1"}) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    const auto ga = [&](Qt::Key toets, const std::string& naam) {
+        QTest::keyClick(QApplication::focusWidget(), toets);
         ASSERT_TRUE(Deel<QWidget>(naam)->hasFocus()) << naam;
-    }
-    ASSERT_TRUE(InBeeld(Vak(1)));
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-    ASSERT_TRUE(Vak(50)->hasFocus());
-    ASSERT_TRUE(InBeeld(Vak(50)));
-    for (int nummer = 49; nummer >= 1; --nummer) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-        ASSERT_TRUE(Vak(nummer)->hasFocus()) << nummer;
-        ASSERT_TRUE(InBeeld(Vak(nummer))) << nummer;
-    }
+        ASSERT_TRUE(!naam.starts_with("txt1") || InBeeld(Deel<QWidget>(naam))) << naam;
+    };
+    for (std::size_t i = 1; i < namen.size(); ++i)
+        ASSERT_NO_FATAL_FAILURE(ga(Qt::Key_Tab, namen[i]));
+    for (std::size_t i = namen.size() - 1; i-- > 0;)
+        ASSERT_NO_FATAL_FAILURE(ga(Qt::Key_Backtab, namen[i]));
 }
 
 TEST_F(diaGrNamenTest, HetWielSchuiftEnDoetAanHetEindNiets)
@@ -156,14 +146,6 @@ TEST_F(diaGrNamenTest, OKBewaartDeTekstenZonderSpatiesEromheen)
     EXPECT_EQ("", groepen.Naam(3));
     EXPECT_EQ("Introduc\xE9s", groepen.Naam(8));
     EXPECT_EQ("laatste", groepen.Naam(50));
-}
-
-TEST_F(diaGrNamenTest, EnterIsOK)
-{
-    TypIn(2, u"Avond"_s);
-    QTest::keyClick(Vak(2), Qt::Key_Return);
-    EXPECT_FALSE(venster->isVisible());
-    EXPECT_EQ("Avond", groepen.Naam(2));
 }
 
 TEST_F(diaGrNamenTest, AnnulerenEscapeEnHetSluitvakLatenDeNamenStaan)
@@ -209,16 +191,6 @@ TEST_F(diaGrNamenTest, EenKommaKomtOokMetEnterOfOKNietInDeNaam)
         EXPECT_EQ("a_b", groepen.Naam(2));
         groepen.ZetNaam(2, "");
     }
-}
-
-TEST_F(diaGrNamenTest, EenTekenDatNietKanWordtGemeld)
-{
-    wachter.Waarschuwing(
-        u"Dit teken kan niet worden opgeslagen.\n\nIn plaats van 'ő' staat er nu 'o'.\n\nKijk na "
-        "of de tekst zo goed is."_s);
-    TypIn(2, u"Erdő"_s);
-    wachter.Klaar();
-    EXPECT_EQ("Erdo", Vak(2)->text().toStdString());
 }
 
 TEST_F(diaGrNamenTest, OngedefinieerdeBytesBlijven)

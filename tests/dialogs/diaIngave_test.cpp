@@ -33,6 +33,9 @@ TEST_F(diaIngaveTest, HetVensterZelf)
     EXPECT_EQ("Rood = verplichte ingave", Deel<QLabel>("Label2")->text().toStdString());
     EXPECT_EQ("OK", Deel<QPushButton>("cmdOK")->text().remove(u'&').toStdString());
     EXPECT_EQ("Annuleren", Deel<QPushButton>("cmdAnnuleren")->text().remove(u'&').toStdString());
+    EXPECT_EQ("Regelnummer 37", Deel<QLabel>("Label1")->text().toStdString());
+    Open("Gr05-", true, "Aanmaken");
+    EXPECT_EQ("Aanmaken nieuwe regel", Deel<QLabel>("Label1")->text().toStdString());
 }
 
 TEST_F(diaIngaveTest, StaatRechtsInHetHoofdvensterEnInHetMiddenVanHetScherm)
@@ -42,24 +45,6 @@ TEST_F(diaIngaveTest, StaatRechtsInHetHoofdvensterEnInHetMiddenVanHetScherm)
     const QRect kader = hoofd.frameGeometry();
     EXPECT_EQ(kader.x() + kader.width() - Tw(5500) - Tw(100), venster->x());
     EXPECT_NEAR((scherm - Tw(7650)) / 2, venster->y(), 1);
-}
-
-TEST_F(diaIngaveTest, OpentBinnenHetScherm)
-{
-    const QRect vrij = hoofd.screen()->availableGeometry();
-    for (const int links : {vrij.left() - 1200, vrij.right()}) {
-        hoofd.move(links, vrij.top());
-        Open();
-        EXPECT_TRUE(vrij.contains(QRect(venster->pos(), venster->size()))) << links;
-    }
-}
-
-TEST_F(diaIngaveTest, DeKopNoemtHetRegelnummerOfDatHetEenNieuweIs)
-{
-    Open();
-    EXPECT_EQ("Regelnummer 37", Deel<QLabel>("Label1")->text().toStdString());
-    Open("Gr05-", true, "Aanmaken");
-    EXPECT_EQ("Aanmaken nieuwe regel", Deel<QLabel>("Label1")->text().toStdString());
 }
 
 TEST_F(diaIngaveTest, DePlaatsenVanDeVelden)
@@ -83,11 +68,13 @@ TEST_F(diaIngaveTest, DePlaatsenVanDeVelden)
             EXPECT_EQ(Tw(1500) + Tw(2500) + Tw(100), Keus(veld)->x());
             EXPECT_EQ(boven, Keus(veld)->y());
             EXPECT_TRUE(Keus(veld)->isVisible());
+            EXPECT_EQ("Kies hier het terugkeerveld tbv snelle ingave",
+                      Keus(veld)->toolTip().toStdString());
         }
     }
 }
 
-TEST_F(diaIngaveTest, DePlaatsenOnderaan)
+TEST_F(diaIngaveTest, DePlaatsenOnderaanEnNaastDeVelden)
 {
     Open();
     const auto* ok = Deel<QPushButton>("cmdOK");
@@ -99,11 +86,7 @@ TEST_F(diaIngaveTest, DePlaatsenOnderaan)
               ok->pos());
     EXPECT_EQ(QPoint(ok->x() - annuleren->width() - Tw(300), ok->y()), annuleren->pos());
     EXPECT_EQ(QPoint(Tw(100), ok->y() - Tw(250)), Deel<QLabel>("Label2")->pos());
-}
-
-TEST_F(diaIngaveTest, HetGeslachtEnDeHulpStaanNaastHunVeld)
-{
-    Open();
+    // The sex and the help stand beside their fields.
     const auto* kader = Deel<QWidget>("Frame1");
     EXPECT_EQ(Vak(13)->y(), kader->y());
     EXPECT_GT(kader->x(), Vak(13)->geometry().right());
@@ -128,15 +111,14 @@ TEST_F(diaIngaveTest, DeOpschriftenInDeImportgroep)
 
 TEST_F(diaIngaveTest, BuitenDeImportgroepEenSubgroepEnGeenNummer)
 {
-    OpenGewoneGroep();
-    EXPECT_EQ("Subgroep", Label(17)->text().toStdString());
-    EXPECT_EQ("-----", Label(18)->text().toStdString());
-    for (const QWidget* deel : std::initializer_list<QWidget*>{Label(18), Vak(18), Keus(18)})
-        EXPECT_FALSE(deel->isVisible()) << deel->objectName().toStdString();
-    EXPECT_TRUE(Vak(17)->isVisible());
-    Open();
-    for (const QWidget* deel : std::initializer_list<QWidget*>{Label(18), Vak(18), Keus(18)})
-        EXPECT_TRUE(deel->isVisible()) << deel->objectName().toStdString();
+    for (const bool importgroep : {false, true}) {
+        Open("Gr02-Avond", importgroep);
+        EXPECT_EQ(importgroep ? "NBBgr:" : "Subgroep", Label(17)->text().toStdString());
+        EXPECT_EQ(importgroep ? "NBBnr:" : "-----", Label(18)->text().toStdString());
+        EXPECT_TRUE(Vak(17)->isVisible());
+        for (const QWidget* deel : std::initializer_list<QWidget*>{Label(18), Vak(18), Keus(18)})
+            EXPECT_EQ(importgroep, deel->isVisible()) << deel->objectName().toStdString();
+    }
 }
 
 TEST_F(diaIngaveTest, AlleenDeAchternaamIsRoodEnVet)
@@ -171,11 +153,6 @@ TEST_F(diaIngaveTest, DeGroepStaatVetRoodOpGeelInHetMidden)
     EXPECT_EQ(QColor(255, 0, 0), Kleur(Vak(3), QPalette::Text));
     EXPECT_EQ(QColor(255, 255, 0), Kleur(Vak(3), QPalette::Base));
     EXPECT_TRUE(Vak(3)->alignment() & Qt::AlignHCenter);
-}
-
-TEST_F(diaIngaveTest, DeGroepIsOokZoGetekend)
-{
-    Open();
     const QImage beeld = Vak(3)->grab().toImage();
     EXPECT_EQ(QColor(255, 255, 0), beeld.pixelColor(4, beeld.height() / 2));
     int rood = 0;
@@ -187,46 +164,28 @@ TEST_F(diaIngaveTest, DeGroepIsOokZoGetekend)
 
 TEST_F(diaIngaveTest, ElkVeldToontZijnTekst)
 {
-    Open();
-    EXPECT_EQ("veld1", Tekst_(1));
-    EXPECT_EQ("veld2", Tekst_(2));
-    EXPECT_EQ("Gr05-Bondsleden", Tekst_(3));
-    for (int veld = 4; veld <= 16; ++veld) {
-        if (veld != 13) {
-            EXPECT_EQ("veld" + std::to_string(veld), Tekst_(veld));
-        }
-    }
-    EXPECT_EQ("A-LIJN", Tekst_(17));
-    EXPECT_EQ("1234567", Tekst_(18));
-}
-
-TEST_F(diaIngaveTest, DeSubgroepStaatInHoofdletters)
-{
     velden[16] = "b-lijn \xE9";
     Open();
+    EXPECT_EQ("Gr05-Bondsleden", Tekst_(3));
+    for (const int veld : {1, 2, 4, 5, 6, 7, 8, 9, 10, 11, 12, 14, 15, 16})
+        EXPECT_EQ("veld" + std::to_string(veld), Tekst_(veld));
     EXPECT_EQ("B-LIJN É", Tekst_(17));
+    EXPECT_EQ("1234567", Tekst_(18));
 }
 
 TEST_F(diaIngaveTest, HetGeslachtBijHetOpenen)
 {
-    const auto* man = "optMan";
-    const auto* vrouw = "optVrouw";
-    struct Geval {
-        const char* tekst;
-        const char* wordt;
-        bool isMan;
-        bool isVrouw;
-    };
-    for (const Geval& geval :
-         {Geval{"M", "M", true, false}, Geval{"V", "V", false, true}, Geval{"", "M", true, false},
-          Geval{"X", "X", false, false}, Geval{"m", "m", false, false}}) {
-        velden[12] = geval.tekst;
+    for (const auto& [tekst, wordt, man, vrouw] :
+         {std::tuple("M", "M", true, false), std::tuple("V", "V", false, true),
+          std::tuple("", "M", true, false), std::tuple("X", "X", false, false),
+          std::tuple("m", "m", false, false)}) {
+        velden[12] = tekst;
         Open();
-        EXPECT_EQ(geval.wordt, Tekst_(13));
-        EXPECT_EQ(geval.isMan, Deel<QRadioButton>(man)->isChecked()) << geval.tekst;
-        EXPECT_EQ(geval.isVrouw, Deel<QRadioButton>(vrouw)->isChecked()) << geval.tekst;
+        EXPECT_EQ(wordt, Tekst_(13));
+        EXPECT_EQ(man, Deel<QRadioButton>("optMan")->isChecked()) << tekst;
+        EXPECT_EQ(vrouw, Deel<QRadioButton>("optVrouw")->isChecked()) << tekst;
         KlikOK();
-        EXPECT_EQ(geval.wordt, ingave.IngaveVelden[12]);
+        EXPECT_EQ(wordt, ingave.IngaveVelden[12]);
     }
 }
 
@@ -260,14 +219,6 @@ TEST_F(diaIngaveTest, DeHulpVoorStatus)
 
 // ---- The return field -------------------------------------------------------------------------
 
-TEST_F(diaIngaveTest, DeWenkVanDeKeuzenVanHetTerugkeerveld)
-{
-    Open();
-    for (int veld = 4; veld <= 18; ++veld)
-        EXPECT_EQ("Kies hier het terugkeerveld tbv snelle ingave",
-                  Keus(veld)->toolTip().toStdString());
-}
-
 TEST_F(diaIngaveTest, HetTerugkeerveldHeeftDeFocusMetDeCursorAchterDeTekst)
 {
     for (const int veld : {4, 6, 12, 14, 18}) {
@@ -279,11 +230,7 @@ TEST_F(diaIngaveTest, HetTerugkeerveldHeeftDeFocusMetDeCursorAchterDeTekst)
         EXPECT_FALSE(Vak(veld)->hasSelectedText());
     }
     EXPECT_EQ(0, bewaard) << "openen kiest niet";
-}
-
-/// Meant: the caret goes to position 50, which is behind a text only as long as that is shorter.
-TEST_F(diaIngaveTest, InEenLangeTekstStaatDeCursorOpVijftig)
-{
+    // Meant: the caret goes to position 50, which is behind a text only as long as that is shorter.
     velden[3] = Tekst(60, 'x');
     terugkeer = 4;
     Open();
@@ -326,18 +273,14 @@ TEST_F(diaIngaveTest, HetKiezenVanEenTerugkeerveldBewaartMeteenEnGaatErheen)
     EXPECT_EQ(2, bewaard);
     EXPECT_FALSE(Keus(8)->isChecked());
     EXPECT_TRUE(Deel<QRadioButton>("optMan")->isChecked()) << "een andere groep van knoppen";
-    Klik(Deel<QPushButton>("cmdAnnuleren"));
-    EXPECT_EQ(11, terugkeer) << "ook na annuleren";
-}
-
-TEST_F(diaIngaveTest, HetGeslachtAlsTerugkeerveldWordtBewaardMaarVerplaatstDeFocusNiet)
-{
-    Open();
-    Vak(9)->setFocus();
+    // The sex too is remembered, but does not get the focus.
     Klik(Keus(13));
     EXPECT_EQ(13, terugkeer);
-    EXPECT_EQ(1, bewaard);
+    EXPECT_EQ(3, bewaard);
     EXPECT_FALSE(Vak(13)->hasFocus());
+    Klik(Keus(11));
+    Klik(Deel<QPushButton>("cmdAnnuleren"));
+    EXPECT_EQ(11, terugkeer) << "ook na annuleren";
 }
 
 TEST_F(diaIngaveTest, TabGaatVanBovenNaarBeneden)
@@ -351,12 +294,10 @@ TEST_F(diaIngaveTest, TabGaatVanBovenNaarBeneden)
     Tab();
     EXPECT_TRUE(Deel<QRadioButton>("optMan")->hasFocus());
     Vak(16)->setFocus();
-    Tab();
-    EXPECT_TRUE(Deel<QPushButton>("cmdH_1")->hasFocus());
-    Tab();
-    EXPECT_TRUE(Vak(17)->hasFocus());
-    Tab();
-    EXPECT_TRUE(Vak(18)->hasFocus());
+    for (const char* naam : {"cmdH_1", "txt1_17", "txt1_18", "opt1_4"}) {
+        Tab();
+        EXPECT_STREQ(naam, venster->focusWidget()->objectName().toUtf8().constData());
+    }
 }
 
 TEST_F(diaIngaveTest, NietsIsAfgekniptOokMetGrotereLetters)

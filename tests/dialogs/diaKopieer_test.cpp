@@ -11,9 +11,10 @@ using namespace plexoran;
 
 namespace {
 
-const std::string spaties60(60, ' ');
 using Plaatsen = std::vector<int>;
-using Teksten_t = std::vector<std::string>;
+
+const QString ClubNaam = u"Gr01-Clubleden & co"_s;
+const QString OK = u"OK"_s;
 
 class diaKopieerTest : public Groepsproef<diaKopieer> {
   protected:
@@ -30,10 +31,15 @@ class diaKopieerTest : public Groepsproef<diaKopieer> {
                 .antwoord = antwoord,
                 .knoppen = {u"OK"_s, u"Annuleren"_s}};
     }
+    void KopieerNaar(int nummer, int aantal, const QString& bron = ClubNaam)
+    {
+        Keus("cmbGrnamen")->setCurrentIndex(nummer - 1);
+        wachter.Verwacht(Kopieervraag(bron, Keus("cmbGrnamen")->currentText(), OK));
+        wachter.Informatie(u"Er zijn %1 spelers gekopieerd."_s.arg(aantal));
+        Klik(Knop("cmdOK"));
+        wachter.Klaar();
+    }
 };
-
-const QString ClubNaam = u"Gr01-Clubleden & co"_s;
-const QString OK = u"OK"_s;
 
 } // namespace
 
@@ -41,19 +47,15 @@ TEST_F(diaKopieerTest, DeTeksten)
 {
     EXPECT_EQ("Kopieer speler(s) naar een andere groep", venster->windowTitle().toStdString());
     EXPECT_EQ("Spelers kopiëren", Deel<QGroupBox>("Frame1")->title().toStdString());
-    EXPECT_EQ("Uit spelergroep:", Label("Label4"));
-    EXPECT_EQ("Selecteer de spelers(s) ", Label("Label1"));
-    EXPECT_EQ("Kopieer hen naar groep:", Label("Label2"));
-    EXPECT_EQ("Selecteer alles", Opschrift(Knop("cmdSelAll")));
-    EXPECT_EQ("Selecteer niets", Opschrift(Knop("cmdSelNone")));
-    EXPECT_EQ("Kopieer", Opschrift(Knop("cmdOK")));
-    EXPECT_EQ("Annuleren", Opschrift(Knop("cmdAnnuleren")));
+    VerwachtTeksten({{"Label1", "Selecteer de spelers(s) "},
+                     {"Label2", "Kopieer hen naar groep:"},
+                     {"Label4", "Uit spelergroep:"}},
+                    {{"cmdSelAll", "Selecteer alles"},
+                     {"cmdSelNone", "Selecteer niets"},
+                     {"cmdOK", "Kopieer"},
+                     {"cmdAnnuleren", "Annuleren"}});
     VerwachtAlleGroepen("cmbGrnamen");
     VerwachtAlleGroepen("cmbUitGroep");
-}
-
-TEST_F(diaKopieerTest, LangeNamenMakenHetVensterNietBreder)
-{
     VerwachtDezelfdeBreedteBijLangeNamen({"cmbGrnamen", "cmbUitGroep", "cmbNBBgr"});
 }
 
@@ -95,13 +97,8 @@ TEST_F(diaKopieerTest, DeEersteRegelIsGekozenEnDeRestNiet)
               Regels());
     EXPECT_EQ((Teksten_t{"DINSDAG", "MAANDAG"}), Teksten("cmbNBBgr"));
     EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
-}
-
-TEST_F(diaKopieerTest, DezelfdeGroepNogEensKiezenBegintOpnieuw)
-{
     Klik(Knop("cmdSelAll"));
-    ASSERT_EQ(3U, Lijst()->GekozenPlaatsen().size());
-    KiesBron(1); // the group that is shown already
+    KiesBron(5); // the group that is shown already begins anew
     EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
 }
 
@@ -120,17 +117,16 @@ TEST_F(diaKopieerTest, EenLegeGroepHeeftNietsTeKopieren)
 /// Meant: values are not trimmed here, but one of blanks counts as "geen".
 TEST_F(diaKopieerTest, WaardenMetSpaties)
 {
-    administratie.spelers.tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", " x", ""},
-                                             {"100002", "Gr01-", "Bo", "", "Cos", "  ", ""},
-                                             {"100003", "Gr01-", "Cy", "", "Dos", "x", ""},
-                                             {"100004", "Gr01-", "Di", "", "Eos", "", ""}});
-    Open();
+    OpenMet({{"100001", "Gr01-", "An", "", "Bos", " x", ""},
+             {"100002", "Gr01-", "Bo", "", "Cos", "  ", ""},
+             {"100003", "Gr01-", "Cy", "", "Dos", "x", ""},
+             {"100004", "Gr01-", "Di", "", "Eos", "", ""}});
     EXPECT_EQ((Teksten_t{" x", "geen", "x"}), Teksten("cmbNBBgr"));
 }
 
 TEST_F(diaKopieerTest, EenWaardeKiezenVoegtToeEnLaatNietsLos)
 {
-    KiesWaarde(1);
+    QTest::keyClick(Keus("cmbNBBgr"), Qt::Key_Down);
     EXPECT_EQ(Plaatsen({0, 1}), Lijst()->GekozenPlaatsen());
     Klik(Knop("cmdSelNone"));
     KiesWaarde(1); // the value that is shown already
@@ -141,22 +137,13 @@ TEST_F(diaKopieerTest, EenWaardeKiezenVoegtToeEnLaatNietsLos)
     EXPECT_EQ(0, Lijst()->currentIndex().row());
 }
 
-TEST_F(diaKopieerTest, MetDePijltoetsenKiestHetOok)
-{
-    Keus("cmbNBBgr")->setFocus();
-    QTest::keyClick(Keus("cmbNBBgr"), Qt::Key_Down);
-    EXPECT_EQ(Plaatsen({0, 1}), Lijst()->GekozenPlaatsen());
-}
-
 /// Meant: the value is looked for in the whole line, names included, without regard to case.
 TEST_F(diaKopieerTest, DeWaardeWordtInDeHeleRegelGezocht)
 {
-    administratie.spelers.tabel =
-        MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "", ""},
-                   {"100002", "Gr01-", "Bo", "", "van Geenen", "CAF\xC9", ""},
-                   {"100003", "Gr01-", "Cy", "", "caf\xE9houder", "x", ""},
-                   {"100004", "Gr01-", "Di", "", "Eos", "CAFE", ""}});
-    Open();
+    OpenMet({{"100001", "Gr01-", "An", "", "Bos", "", ""},
+             {"100002", "Gr01-", "Bo", "", "van Geenen", "CAF\xC9", ""},
+             {"100003", "Gr01-", "Cy", "", "caf\xE9houder", "x", ""},
+             {"100004", "Gr01-", "Di", "", "Eos", "CAFE", ""}});
     EXPECT_EQ((Teksten_t{"geen", "CAFÉ", "x", "CAFE"}), Teksten("cmbNBBgr"));
     Klik(Knop("cmdSelNone"));
     KiesWaarde(0);
@@ -190,11 +177,7 @@ TEST_F(diaKopieerTest, KopieertNaDeVraagEnMeldtHetAantal)
         moet.back()[17] = "";
     }
     KlikRegel(2);
-    Keus("cmbGrnamen")->setCurrentIndex(7);
-    wachter.Verwacht(Kopieervraag(ClubNaam, u"Gr08-Introducés"_s, OK));
-    wachter.Informatie(u"Er zijn 2 spelers gekopieerd."_s);
-    Klik(Knop("cmdOK"));
-    wachter.Klaar();
+    KopieerNaar(8, 2);
     EXPECT_FALSE(venster->isVisible());
     EXPECT_FALSE(venster->IngaveGeannuleerd());
     EXPECT_EQ(moet, AlleRijen(administratie.spelers.tabel));
@@ -204,10 +187,9 @@ TEST_F(diaKopieerTest, KopieertNaDeVraagEnMeldtHetAantal)
 /// Meant: a line whose key no player has gives an empty row, and counts as a player.
 TEST_F(diaKopieerTest, EenRegelZonderSpelerTeltMee)
 {
-    administratie.spelers.tabel = MaakTabel({{"100001", "Gr01-", "An", "", "Bos", "A-lijn", "1"},
-                                             {"12", "Gr01-", "Bo", "", "Cos", "A-lijn", "2"},
-                                             {"", "Gr01-", "Cy", "", "Dos", "A-lijn", "3"}});
-    Open();
+    OpenMet({{"100001", "Gr01-", "An", "", "Bos", "A-lijn", "1"},
+             {"12", "Gr01-", "Bo", "", "Cos", "A-lijn", "2"},
+             {"", "Gr01-", "Cy", "", "Dos", "A-lijn", "3"}});
     Klik(Knop("cmdSelAll"));
     auto moet = AlleRijen(administratie.spelers.tabel);
     moet.push_back(moet[0]);
@@ -217,39 +199,27 @@ TEST_F(diaKopieerTest, EenRegelZonderSpelerTeltMee)
         moet[rij][2] = "Gr08-";
         moet[rij][17] = "";
     }
-    Keus("cmbGrnamen")->setCurrentIndex(7);
-    wachter.Verwacht(Kopieervraag(ClubNaam, u"Gr08-Introducés"_s, OK));
-    wachter.Informatie(u"Er zijn 3 spelers gekopieerd."_s);
-    Klik(Knop("cmdOK"));
-    wachter.Klaar();
+    KopieerNaar(8, 3);
     EXPECT_EQ(moet, AlleRijen(administratie.spelers.tabel));
     EXPECT_EQ(100'045, administratie.spelers.HKEY);
 }
 
-TEST_F(diaKopieerTest, ZonderSubgroeptekst)
+/// Meant: the number does not go along, not even out of the import group, where the box for it is
+/// shown.
+TEST_F(diaKopieerTest, MetOfZonderSubgroeptekstEnNooitHetNummer)
 {
     Vink("chkNBBgrOok")->click();
-    wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, OK));
-    wachter.Informatie(u"Er zijn 1 spelers gekopieerd."_s);
-    Klik(Knop("cmdOK"));
-    wachter.Klaar();
+    KopieerNaar(1, 1);
     EXPECT_EQ("Gr01-", Cel(7, Kolom::Groep));
     EXPECT_EQ("Bos", Cel(7, Kolom::Achternaam));
     EXPECT_EQ("", Cel(7, Kolom::NBBgr));
     EXPECT_EQ("A-lijn", Cel(1, Kolom::NBBgr));
-}
-
-/// Meant: not even out of the import group, where the box for it is shown.
-TEST_F(diaKopieerTest, HetNummerGaatNooitMee)
-{
+    Open();
     KiesBron(5);
-    wachter.Verwacht(Kopieervraag(u"Gr05-Bondsleden"_s, ClubNaam, OK));
-    wachter.Informatie(u"Er zijn 1 spelers gekopieerd."_s);
     Vink("chkNBBnrOok")->click();
-    Klik(Knop("cmdOK"));
-    wachter.Klaar();
-    EXPECT_EQ("DINSDAG", Cel(7, Kolom::NBBgr));
-    EXPECT_EQ("", Cel(7, Kolom::NBBnr));
+    KopieerNaar(1, 1, u"Gr05-Bondsleden"_s);
+    EXPECT_EQ("DINSDAG", Cel(8, Kolom::NBBgr));
+    EXPECT_EQ("", Cel(8, Kolom::NBBnr));
 }
 
 TEST_F(diaKopieerTest, AnnulerenVanDeVraagLaatHetVensterOpen)
@@ -269,12 +239,7 @@ TEST_F(diaKopieerTest, AnnulerenVanDeVraagLaatHetVensterOpen)
 
 TEST_F(diaKopieerTest, AnnulerenEscapeEnHetSluitvakVeranderenNiets)
 {
-    const auto oud = AlleRijen(administratie.spelers.tabel);
-    for (int weg = 0; weg < 3; ++weg) {
-        ASSERT_NO_FATAL_FAILURE(Open());
-        SluitZonder(weg);
-    }
-    EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
+    VerwachtDatSluitenNietsVerandert([this] { Klik(Knop("cmdSelAll")); });
 }
 
 TEST_F(diaKopieerTest, AlsDeSleutelsOpZijnBlijftHetVensterOpen)
@@ -299,8 +264,7 @@ TEST_F(diaKopieerTest, HonderdduizendSpelersZonderWachten)
             {"100001", "Gr01-", "An", "van der", "Boskamp", "A-lijn", "12345678"});
         for (std::size_t i = 0; i < spelers.size(); i += 2)
             spelers[i].nbbgr = "B-lijn";
-        administratie.spelers.tabel = MaakTabel(spelers);
-        Open();
+        OpenMet(spelers);
         EXPECT_EQ(aantal, Lijst()->Aantal());
         EXPECT_EQ((Teksten_t{"B-lijn", "A-lijn"}), Teksten("cmbNBBgr"));
         KiesWaarde(1);

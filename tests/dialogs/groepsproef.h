@@ -1,12 +1,18 @@
 // What the tests of the dialogs over groups share: a small register and its groups.
 #pragma once
 
+#include <functional>
+#include <map>
+
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
 #include "platform/scherm/regellijst.h"
 
 namespace plexoran {
+
+inline const std::string spaties60(60, ' ');
+using Teksten_t = std::vector<std::string>;
 
 template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheugenstand> {
     using Basis = Dialoogproef<Dialoog, Geheugenstand>;
@@ -32,6 +38,11 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
     }
 
     void Open() { this->Toon(administratie); }
+    void OpenMet(const std::vector<Proefspeler>& spelers)
+    {
+        administratie.spelers.tabel = MaakTabel(spelers);
+        Open();
+    }
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
 
     [[nodiscard]] QComboBox* Keus(const char* naam) const
@@ -40,9 +51,9 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
     }
     void Kies(const char* naam, int plaats) const { KiesUit(Keus(naam), plaats); }
     [[nodiscard]] Regellijst* Lijst() const { return Vind<Regellijst>(*venster, "lstKeus"); }
-    [[nodiscard]] std::vector<std::string> Regels() const
+    [[nodiscard]] Teksten_t Regels() const
     {
-        std::vector<std::string> regels;
+        Teksten_t regels;
         for (int plaats = 0; plaats < Lijst()->Aantal(); ++plaats)
             regels.push_back(Lijst()->Regel(plaats));
         return regels;
@@ -52,24 +63,40 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
         QTest::mouseClick(Lijst()->viewport(), Qt::LeftButton, {},
                           Lijst()->visualRect(Lijst()->model()->index(plaats, 0)).center());
     }
-    /// Closes the window without its command: 0 by its button, 1 by Escape, 2 by the close box.
-    void SluitZonder(int weg)
+    /// Opens the window three times, does `keuze` and closes it without its command: by its button,
+    /// by Escape and by the close box. The register stays as it was.
+    void VerwachtDatSluitenNietsVerandert(const std::function<void()>& keuze)
     {
-        if (weg == 0)
-            Klik(this->Knop("cmdAnnuleren"));
-        else if (weg == 1)
-            QTest::keyClick(Lijst(), Qt::Key_Escape);
-        else
-            venster->close();
-        EXPECT_FALSE(venster->isVisible());
-        EXPECT_TRUE(venster->IngaveGeannuleerd());
+        const auto oud = AlleRijen(administratie.spelers.tabel);
+        for (int weg = 0; weg < 3; ++weg) {
+            Open();
+            keuze();
+            if (weg == 0)
+                Klik(this->Knop("cmdAnnuleren"));
+            else if (weg == 1)
+                QTest::keyClick(Lijst(), Qt::Key_Escape);
+            else
+                venster->close();
+            EXPECT_FALSE(venster->isVisible());
+            EXPECT_TRUE(venster->IngaveGeannuleerd());
+            EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
+        }
     }
-    [[nodiscard]] std::vector<std::string> Teksten(const char* keus) const
+    [[nodiscard]] Teksten_t Teksten(const char* keus) const
     {
-        std::vector<std::string> teksten;
+        Teksten_t teksten;
         for (int i = 0; i < Keus(keus)->count(); ++i)
             teksten.push_back(Keus(keus)->itemText(i).toStdString());
         return teksten;
+    }
+    /// Labels and buttons by their names.
+    void VerwachtTeksten(const std::map<const char*, const char*>& labels,
+                         const std::map<const char*, const char*>& knoppen) const
+    {
+        for (const auto& [naam, tekst] : labels)
+            EXPECT_EQ(tekst, this->Label(naam));
+        for (const auto& [naam, tekst] : knoppen)
+            EXPECT_EQ(tekst, Opschrift(this->Knop(naam)));
     }
     /// The 50 groups as every drop-down shows them.
     void VerwachtAlleGroepen(const char* keus) const

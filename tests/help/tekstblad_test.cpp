@@ -53,31 +53,23 @@ Bladen Verdeel(Tekstblik tekst)
 
 } // namespace
 
-TEST(Tekstblad, RegelsZoalsZeStaan)
+TEST(Tekstblad, RegelsZoalsZeStaanOfGebroken)
 {
-    EXPECT_EQ((Bladen{{"een", "", " - twee"}}), Verdeel("een\r\n\r\n - twee"));
-    EXPECT_EQ((Bladen{{"een", "twee"}}), Verdeel("een\ntwee\n"));
-    EXPECT_EQ((Bladen{{}}), Verdeel(""));
-}
-
-TEST(Tekstblad, EenTabIsAchtBlanco)
-{
-    EXPECT_EQ((Bladen{{"        Titel", "a       b"}}), Verdeel("\tTitel\r\na\tb"));
-}
-
-TEST(Tekstblad, EenTeLangeRegelBreektOpEenBlanco)
-{
-    const Tekst lang = " - " + Tekst(50, 'a') + " " + Tekst(36, 'b');
-    EXPECT_EQ((Bladen{{lang}}), Verdeel(lang));
-    EXPECT_EQ((Bladen{{" - " + Tekst(50, 'a'), " " + Tekst(37, 'b') + " c"}}),
-              Verdeel(" - " + Tekst(50, 'a') + " " + Tekst(37, 'b') + " c"));
-}
-
-TEST(Tekstblad, ZonderBlancoBreektHijWaarHijVolIs)
-{
-    EXPECT_EQ((Bladen{{Tekst(90, 'a'), Tekst(10, 'a')}}), Verdeel(Tekst(100, 'a')));
-    EXPECT_EQ((Bladen{{"    " + Tekst(86, 'a'), "    " + Tekst(14, 'a')}}),
-              Verdeel("    " + Tekst(100, 'a')));
+    const Tekst a50 = " - " + Tekst(50, 'a');
+    const Tekst vol = a50 + " " + Tekst(36, 'b');
+    const Tekst b37 = " " + Tekst(37, 'b') + " c";
+    for (const auto& [tekst, regels] : std::vector<std::pair<Tekst, std::vector<Tekst>>>{
+             {"een\r\n\r\n - twee", {"een", "", " - twee"}},
+             {"een\ntwee\n", {"een", "twee"}},
+             {"", {}},
+             // A tab is eight blanks.
+             {"\tTitel\r\na\tb", {"        Titel", "a       b"}},
+             // A line that is too long breaks at a blank, or where it is full.
+             {vol, {vol}},
+             {a50 + b37, {a50, b37}},
+             {Tekst(100, 'a'), {Tekst(90, 'a'), Tekst(10, 'a')}},
+             {"    " + Tekst(100, 'a'), {"    " + Tekst(86, 'a'), "    " + Tekst(14, 'a')}}})
+        EXPECT_EQ(Bladen{regels}, Verdeel(tekst));
 }
 
 /// However deep a line begins, all of it comes out.
