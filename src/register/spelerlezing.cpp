@@ -13,7 +13,8 @@ namespace {
 constexpr int VeldenVoorTelling = 6; // up to and including the surname
 constexpr Tekstblik sleutelkop = "HKEY=";
 
-/// Finds commas, CRs and LFs, eight bytes at a time.
+/// Finds commas, CRs and LFs, eight bytes at a time: one by one, loading takes more than four times
+/// what reading the file does.
 class Scheidingen {
   public:
     explicit Scheidingen(Tekstblik tekst) : tekst_(tekst) { Laad(); }
@@ -69,7 +70,8 @@ class Lezer {
 
     Spelerlezing Lees()
     {
-        rijen_.reserve(GeschatAantalRegels());
+        constexpr std::size_t gewoneRegel = 100; // a wrong guess costs a little time or memory only
+        rijen_.reserve(inhoud_.size() / gewoneRegel);
         while (begin_ < inhoud_.size())
             LeesRegel();
         if (geteld_)
@@ -84,17 +86,6 @@ class Lezer {
     }
 
   private:
-    /// From the first part of the text, and never more than lines of 18 fields can fit in it. A
-    /// wrong guess costs a little time or memory only.
-    [[nodiscard]] std::size_t GeschatAantalRegels() const
-    {
-        constexpr std::size_t proef = 65536;
-        const Tekstblik begin = Tekstblik(inhoud_).substr(0, proef);
-        const auto regels =
-            static_cast<std::size_t>(std::count(begin.begin(), begin.end(), '\n')) + 1;
-        return std::min(regels * (inhoud_.size() / proef + 1), inhoud_.size() / AantalKolommen);
-    }
-
     void LeesRegel()
     {
         ++regel_;

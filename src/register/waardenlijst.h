@@ -13,8 +13,25 @@ namespace plexoran {
 /// kept to the letter.
 class Hekjestekst {
   public:
-    void Voeg(Tekstblik waarde);
-    [[nodiscard]] bool Bevat(const Tekst& waarde) const;
+    void Voeg(Tekstblik waarde)
+    {
+        if (!tekst_.empty())
+            delen_.emplace(); // between the closing mark of one value and the opening of the next
+        tekst_.append("#").append(waarde) += '#';
+        for (;;) {
+            const auto hekje = waarde.find('#');
+            delen_.emplace(waarde.substr(0, hekje));
+            if (hekje == Tekstblik::npos)
+                return;
+            waarde.remove_prefix(hekje + 1);
+        }
+    }
+    [[nodiscard]] bool Bevat(const Tekst& waarde) const
+    {
+        // Looked up where that will do, so that many values cost no search each.
+        return waarde.find('#') == Tekst::npos ? delen_.contains(waarde)
+                                               : tekst_.find("#" + waarde + "#") != Tekst::npos;
+    }
 
   private:
     Tekst tekst_;
@@ -25,7 +42,13 @@ class Hekjestekst {
 /// did not hold.
 class Waardenlijst {
   public:
-    void Voeg(const Tekst& waarde);
+    void Voeg(const Tekst& waarde)
+    {
+        if (gezien_.Bevat(waarde))
+            return;
+        gezien_.Voeg(waarde);
+        waarden_.push_back(waarde);
+    }
     [[nodiscard]] const std::vector<Tekst>& Waarden() const { return waarden_; }
 
   private:

@@ -49,8 +49,9 @@ tl::unexpected<Fout> Mislukt(const Pad& pad, std::errc oorzaak)
 {
     const auto soort = oorzaak == std::errc::no_such_file_or_directory ? Foutsoort::Ontbreekt
                                                                        : Foutsoort::Geweigerd;
-    return tl::unexpected(
-        Fout{soort, NaarUtf8(pad), 0, Systeemmelding(std::make_error_code(oorzaak))});
+    return plexoran::Mislukt({.soort = soort,
+                              .bestand = NaarUtf8(pad),
+                              .systeem = Systeemmelding(std::make_error_code(oorzaak))});
 }
 
 /// Of what stands in this folder, as it was written.

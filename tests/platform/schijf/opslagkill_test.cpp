@@ -1,13 +1,12 @@
 // A real program that is killed while it saves, again and again: the file must be whole each time.
 #ifndef _WIN32
 
-#include <csignal>
 #include <limits>
 #include <random>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
+#include "hulp/kill.h"
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/tijdelijkeMap.h"
@@ -36,16 +35,6 @@ Tekst Versie(char letter, std::size_t lengte)
     }
 }
 
-/// Whether the child was still saving when it was killed.
-bool KillNa(pid_t kind, useconds_t wachten)
-{
-    ::usleep(wachten);
-    ::kill(kind, SIGKILL);
-    int status = 0;
-    return ::waitpid(kind, &status, 0) == kind && WIFSIGNALED(status) &&
-           WTERMSIG(status) == SIGKILL;
-}
-
 } // namespace
 
 TEST(OpslagKill, BestandIsAltijdHeel)
@@ -63,10 +52,8 @@ TEST(OpslagKill, BestandIsAltijdHeel)
     int eenGezien = 0;
     int tweeGezien = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        const pid_t kind = ::fork();
+        const pid_t kind = Kind([&] { BewaarSteeds(pad, twee, een); });
         ASSERT_NE(kind, -1);
-        if (kind == 0)
-            BewaarSteeds(pad, twee, een);
         ASSERT_TRUE(KillNa(kind, wachten(toeval))) << "het opslaan zelf mislukte";
         const auto inhoud = schijf.LeesBestand(pad);
         ASSERT_TRUE(inhoud) << inhoud.error().systeem;
