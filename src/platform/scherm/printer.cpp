@@ -182,10 +182,6 @@ std::vector<int> GekozenBladen(const QPrinter& printer, int totaal, int huidig)
 Uitkomst<void> Printer::Druk(const Printwerk& werk, const std::vector<int>& bladen,
                              const Bladtekenaar& teken, const Voortgang& verder) const
 {
-    const auto weigering = [](const std::string& waar, const std::string& systeem = {}) {
-        return tl::unexpected(
-            Fout{.soort = Foutsoort::Geweigerd, .bestand = waar, .regel = 0, .systeem = systeem});
-    };
     const auto richtIn = [&](auto& apparaat) {
         apparaat.setPageLayout(HeleVel(werk.stand));
         apparaat.setCreator(u"Plexoran"_s);
@@ -200,7 +196,7 @@ Uitkomst<void> Printer::Druk(const Printwerk& werk, const std::vector<int>& blad
             schrijver.setTitle(werk.titel);
             richtIn(schrijver);
             if (!TekenBladen(schrijver, schilder, schrijver.resolution(), bladen, teken, verder))
-                return weigering(schijf_->Toonpad(bestand_));
+                return Mislukt({.bestand = schijf_->Toonpad(bestand_)});
         }
         const auto streep = bestand_.find_last_of("\\/");
         RuimTijdelijkeOp(*schijf_, bestand_.substr(0, streep), bestand_.substr(streep + 1));
@@ -214,13 +210,13 @@ Uitkomst<void> Printer::Druk(const Printwerk& werk, const std::vector<int>& blad
     if (!TekenBladen(*printer_, schilder, printer_->resolution(), bladen, teken, verder)) {
         if (schilder.isActive())
             printer_->abort();
-        return weigering(naam);
+        return Mislukt({.bestand = naam});
     }
     if (printer_->printerState() == QPrinter::Error)
-        return weigering(naam);
+        return Mislukt({.bestand = naam});
     if (printer_->outputFormat() == QPrinter::NativeFormat) {
         if (const auto fout = Serverfout())
-            return weigering(naam, *fout);
+            return Mislukt({.bestand = naam, .systeem = *fout});
     }
     return {};
 }
@@ -277,7 +273,7 @@ Uitkomst<Printer> StandaardPrinter()
 {
     const QPrinterInfo standaard = QPrinterInfo::defaultPrinter();
     if (standaard.isNull())
-        return tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}});
+        return Mislukt({.soort = Foutsoort::Ontbreekt});
     return Printer(std::make_shared<QPrinter>(standaard, QPrinter::HighResolution));
 }
 

@@ -23,21 +23,24 @@ bool WerkTotInBeeld(frmVoortgang& voortgang)
     return voortgang.isVisible();
 }
 
+class frmVoortgangTest : public testing::Test {
+  protected:
+    frmVoortgang voortgang{u"bezig"_s, QString(), nullptr};
+    QProgressBar* balk = Vind<QProgressBar>(voortgang, "balk");
+};
+
 } // namespace
 
-TEST(frmVoortgangTest, KortWerkToontNiets)
+TEST_F(frmVoortgangTest, KortWerkToontNiets)
 {
-    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     for (std::size_t i = 0; i < 1000; ++i)
         EXPECT_TRUE(voortgang.Meld(i, 1000));
     EXPECT_FALSE(voortgang.isVisible());
 }
 
-TEST(frmVoortgangTest, LangWerkToontHoeVerHetIs)
+TEST_F(frmVoortgangTest, LangWerkToontHoeVerHetIs)
 {
-    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
-    auto* balk = Vind<QProgressBar>(voortgang, "balk");
     EXPECT_EQ(balk->maximum() / 4, balk->value());
     EXPECT_EQ("Voortgang", balk->accessibleName());
     EXPECT_EQ("Plexoran", voortgang.windowTitle());
@@ -48,31 +51,30 @@ TEST(frmVoortgangTest, LangWerkToontHoeVerHetIs)
     EXPECT_TRUE(voortgang.isVisible()); // what comes after it may take long too
 }
 
-TEST(frmVoortgangTest, EenNaamMetOpmaakStaatErZoalsHijIs)
+TEST_F(frmVoortgangTest, EenNaamMetOpmaakStaatErZoalsHijIs)
 {
-    frmVoortgang voortgang(u"<b>A</b>.csv"_s, QString(), nullptr);
-    EXPECT_EQ(Qt::PlainText, Vind<QLabel>(voortgang, "lblTekst")->textFormat());
-    voortgang.setLabelText(u"<b>B</b>.csv"_s);
-    EXPECT_EQ("<b>B</b>.csv", Vind<QLabel>(voortgang, "lblTekst")->text());
+    frmVoortgang venster(u"<b>A</b>.csv"_s, QString(), nullptr);
+    EXPECT_EQ(Qt::PlainText, Vind<QLabel>(venster, "lblTekst")->textFormat());
+    venster.setLabelText(u"<b>B</b>.csv"_s);
+    EXPECT_EQ("<b>B</b>.csv", Vind<QLabel>(venster, "lblTekst")->text());
 }
 
-TEST(frmVoortgangTest, EenLangeNaamBlijftInBeeld)
+TEST_F(frmVoortgangTest, EenLangeNaamBlijftInBeeld)
 {
     for (const QString& naam : {u"lange naam "_s.repeated(20), QString(250, u'x')}) {
-        frmVoortgang voortgang(QString(), u"&Stoppen"_s, nullptr);
-        voortgang.setLabelText(naam);
-        ASSERT_TRUE(WerkTotInBeeld(voortgang));
-        EXPECT_LE(voortgang.width(), 700);
-        const auto* tekst = Vind<QLabel>(voortgang, "lblTekst");
+        frmVoortgang venster(QString(), u"&Stoppen"_s, nullptr);
+        venster.setLabelText(naam);
+        ASSERT_TRUE(WerkTotInBeeld(venster));
+        EXPECT_LE(venster.width(), 700);
+        const auto* tekst = Vind<QLabel>(venster, "lblTekst");
         EXPECT_GE(tekst->height(), tekst->heightForWidth(tekst->width()));
-        EXPECT_TRUE(voortgang.rect().contains(Vind<QPushButton>(voortgang, "cmdStop")->geometry()));
+        EXPECT_TRUE(venster.rect().contains(Vind<QPushButton>(venster, "cmdStop")->geometry()));
     }
 }
 
 /// A box that is shown during the work is waited for without the window.
-TEST(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
+TEST_F(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
 {
-    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     voortgang.Meld(0, 4);
     QTest::qWait(frmVoortgang::totInBeeld + 100);
     EXPECT_FALSE(voortgang.isVisible());
@@ -86,22 +88,19 @@ TEST(frmVoortgangTest, ZonderMeldingKomtHetVensterNiet)
     EXPECT_TRUE(voortgang.isVisible());
 }
 
-TEST(frmVoortgangTest, MeerDanEenBalkKanTellen)
+TEST_F(frmVoortgangTest, MeerDanEenBalkKanTellen)
 {
     constexpr std::size_t groot = 400'000'000'000;
-    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
     voortgang.Meld(groot / 4, groot);
-    auto* balk = Vind<QProgressBar>(voortgang, "balk");
     EXPECT_NEAR(balk->maximum() / 4.0, balk->value(), 1);
     voortgang.Meld(groot, groot);
     EXPECT_EQ(balk->maximum(), balk->value());
 }
 
 /// Otherwise the windows behind it would take commands in the middle of the work.
-TEST(frmVoortgangTest, ZonderStopknopBlijftHetVensterStaan)
+TEST_F(frmVoortgangTest, ZonderStopknopBlijftHetVensterStaan)
 {
-    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     ASSERT_TRUE(WerkTotInBeeld(voortgang));
     voortgang.close();
     QTest::keyClick(&voortgang, Qt::Key_Escape);
@@ -110,31 +109,29 @@ TEST(frmVoortgangTest, ZonderStopknopBlijftHetVensterStaan)
     EXPECT_TRUE(voortgang.Meld(2, 4));
 }
 
-TEST(frmVoortgangTest, StoppenMetKnopEscapeOfSluitvak)
+TEST_F(frmVoortgangTest, StoppenMetKnopEscapeOfSluitvak)
 {
     for (int weg = 0; weg < 3; ++weg) {
-        frmVoortgang voortgang(u"bezig"_s, u"&Stoppen"_s, nullptr);
-        ASSERT_TRUE(WerkTotInBeeld(voortgang));
+        frmVoortgang venster(u"bezig"_s, u"&Stoppen"_s, nullptr);
+        ASSERT_TRUE(WerkTotInBeeld(venster));
         if (weg == 0)
-            Klik(Vind<QPushButton>(voortgang, "cmdStop"));
+            Klik(Vind<QPushButton>(venster, "cmdStop"));
         else if (weg == 1)
-            QTest::keyClick(&voortgang, Qt::Key_Escape);
+            QTest::keyClick(&venster, Qt::Key_Escape);
         else
-            voortgang.close();
-        EXPECT_TRUE(voortgang.Gestopt()) << weg;
-        EXPECT_FALSE(voortgang.AlsVoortgang()(2, 4)) << weg;
-        EXPECT_TRUE(voortgang.isVisible()) << weg; // until the work has ended
-        EXPECT_FALSE(Vind<QPushButton>(voortgang, "cmdStop")->isEnabled()) << weg;
+            venster.close();
+        EXPECT_TRUE(venster.Gestopt()) << weg;
+        EXPECT_FALSE(venster.AlsVoortgang()(2, 4)) << weg;
+        EXPECT_TRUE(venster.isVisible()) << weg; // until the work has ended
+        EXPECT_FALSE(Vind<QPushButton>(venster, "cmdStop")->isEnabled()) << weg;
     }
 }
 
-TEST(frmVoortgangTest, ZonderBekendGeheelBeweegtDeBalkAlleen)
+TEST_F(frmVoortgangTest, ZonderBekendGeheelBeweegtDeBalkAlleen)
 {
-    frmVoortgang voortgang(u"bezig"_s, QString(), nullptr);
     QTest::qWait(frmVoortgang::totInBeeld);
     voortgang.Meld(0, 0);
     EXPECT_TRUE(voortgang.isVisible());
-    auto* balk = Vind<QProgressBar>(voortgang, "balk");
     EXPECT_EQ(0, balk->maximum());
     voortgang.Meld(3, 4);
     EXPECT_EQ(balk->maximum() / 4 * 3, balk->value());
