@@ -31,24 +31,16 @@ QString NietsGevonden(Sorteersoort soort)
     return u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'."_s;
 }
 
-void VoegRegelToe(Tekst& verslag, const Spelertabel& tabel, int rij)
-{
-    constexpr std::array kolommen{Kolom::Key,        Kolom::Voornaam, Kolom::Tusv,
-                                  Kolom::Achternaam, Kolom::NBBgr,    Kolom::NBBnr};
-    for (const Kolom kolom : kolommen) {
-        verslag += tabel.Cel(rij, kolom);
-        verslag += kolom == kolommen.back() ? "\r\n" : "\t";
-    }
-}
-
 Tekst Verslag(const Spelertabel& tabel, const std::vector<Dubbel>& dubbelen)
 {
     if (dubbelen.empty())
         return "G\xE9\xE9n dubbele namen gevonden!\r\n";
     Tekst verslag = "RVDkey\tNaam\t\t\tNBBgr\tNBBnr\r\n" + Tekst(71, '-') + "\r\n";
     for (const Dubbel& dubbel : dubbelen) {
-        VoegRegelToe(verslag, tabel, dubbel.rij);
-        VoegRegelToe(verslag, tabel, dubbel.latere);
+        for (const int rij : {dubbel.rij, dubbel.latere}) {
+            VoegVeldenToe(verslag, tabel, rij, '\t');
+            verslag += "\r\n";
+        }
     }
     return verslag + "\r\nGa na welke regel nog actueel is.\r\n"
                      "Verwijder 1 van beide, deze zal dan niet meer worden getoond in de "
@@ -81,7 +73,7 @@ std::optional<int> frmLedenAdmin::Laad(const Startgegevens& start)
     if (administratie_.mappen.NBB28UIT == 1)
         cmdToonGatenlijst->hide();
     cmdKoppel->hide();
-    picP0->Toetsenvlak()->setFocus();
+    picP0->Vlak()->setFocus();
     return std::nullopt;
 }
 
@@ -115,7 +107,7 @@ void frmLedenAdmin::ToonGroep()
     const Groepsbeeld beeld = BeeldVan(administratie_.mappen, code);
     const Spelertabel& tabel = administratie_.spelers.tabel;
     picP0->Toon(tabel, BouwWeergave(tabel, code), beeld.kolomnamen);
-    const int regels = picP0->Regels();
+    const int regels = picP0->Vlak()->Regels();
     Label3->setText(u"Aantal regels: %1"_s.arg(regels));
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdWijzig, cmdVerwijder, cmdVerwijderVT,
                                                          cmbVerwVan, cmbVerwTot})

@@ -107,8 +107,8 @@ void frmLedenAdmin::Bouw()
     lagen->setSpacing(0);
     lagen->addWidget(BouwBovenkant());
     picP0 = new Rooster(maten_, this);
-    connect(picP0, &Rooster::wijzigGevraagd, this, &frmLedenAdmin::Wijzig);
-    connect(picP0, &Rooster::verwijderGevraagd, this, &frmLedenAdmin::VerwijderGekozen);
+    connect(picP0->Vlak(), &Roostervlak::wijzigGevraagd, this, &frmLedenAdmin::Wijzig);
+    connect(picP0->Vlak(), &Roostervlak::verwijderGevraagd, this, &frmLedenAdmin::VerwijderGekozen);
     auto* roosterrij = new QHBoxLayout;
     roosterrij->setContentsMargins(maten_.Twips(RoosterLinks), 0, maten_.Twips(RoosterLinks), 0);
     roosterrij->addWidget(picP0);
@@ -294,7 +294,7 @@ void frmLedenAdmin::VerbindToetsen()
         connect(new QShortcut(QKeySequence(toets), this), &QShortcut::activated, this, doe);
     };
     bij(u"Ctrl+G"_s, [this] { cmbGr->setFocus(Qt::ShortcutFocusReason); });
-    bij(u"F6"_s, [this] { picP0->Toetsenvlak()->setFocus(Qt::ShortcutFocusReason); });
+    bij(u"F6"_s, [this] { picP0->Vlak()->setFocus(Qt::ShortcutFocusReason); });
     bij(u"Ctrl+N"_s, &frmLedenAdmin::VoegToe);
     bij(u"F1"_s, &frmLedenAdmin::ToonToelichting);
 }

@@ -32,7 +32,7 @@ void frmLedenAdmin::SlaOpEnToon(const QString& klaar)
 
 bool frmLedenAdmin::IsRegelGekozen()
 {
-    if (picP0->Regel() > 0)
+    if (picP0->Vlak()->Regel() > 0)
         return true;
     Meld(this, QMessageBox::Warning, u"Er is geen regel geselecteerd!"_s);
     return false;
@@ -61,16 +61,16 @@ void frmLedenAdmin::VoegToe()
         return;
     }
     SlaOpEnToon();
-    picP0->BrengInBeeld(picP0->Regels());
+    picP0->Vlak()->BrengInBeeld(picP0->Vlak()->Regels());
 }
 
 void frmLedenAdmin::Wijzig()
 {
     if (!IsRegelGekozen())
         return;
-    const int regel = picP0->Regel();
+    const int regel = picP0->Vlak()->Regel();
     Ingave ingave;
-    ingave.rij = picP0->GetoondeRijen()[static_cast<std::size_t>(regel - 1)];
+    ingave.rij = picP0->Vlak()->Rijen()[static_cast<std::size_t>(regel - 1)];
     ingave.IngaveVelden = administratie_.spelers.tabel.Velden(ingave.rij);
     if (!ToonIngave(ingave))
         return;
@@ -82,7 +82,7 @@ void frmLedenAdmin::VerwijderGekozen()
 {
     if (!IsRegelGekozen())
         return;
-    const int regel = picP0->Regel();
+    const int regel = picP0->Vlak()->Regel();
     Verwijder(regel, regel, u"regel %1"_s.arg(regel), u"De regel is verwijderd."_s);
 }
 
@@ -118,7 +118,7 @@ void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QSt
         QString(),
     };
     Spelertabel& tabel = administratie_.spelers.tabel;
-    const auto eerste = picP0->GetoondeRijen().begin();
+    const auto eerste = picP0->Vlak()->Rijen().begin();
     const std::vector<int> rijen(eerste + van - 1, eerste + tot);
     if (!Vraag(this, QMessageBox::Information, waarschuwing.join(u"\r\n"_s), u"Verwijderen"_s,
                NoemSpelers(tabel, rijen, *this)))

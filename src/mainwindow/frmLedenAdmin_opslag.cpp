@@ -62,27 +62,23 @@ QString WaarHetLezenStopte(const Spelertabel& tabel, const Leesverslag& verslag)
         rijen == 1 ? u"staat"_s : u"staan"_s, Aantal(rijen, u"speler"_s, u"spelers"_s), reden);
 }
 
-void MeldNietGeopend(QWidget* ouder, const Fout& fout, Leesmoment moment)
+QString WatNietOpenGing(Leesmoment moment)
 {
-    QString wat;
     switch (moment) {
     case Leesmoment::Start:
-        wat = u"Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets aan "
-              "veranderd. Voeg nu geen spelers toe, maar verhelp de oorzaak en start het programma "
-              "opnieuw."_s;
-        break;
+        return u"Het spelerbestand kan niet worden geopend; er is niets uit gelezen en niets aan "
+               "veranderd. Voeg nu geen spelers toe, maar verhelp de oorzaak en start het "
+               "programma opnieuw."_s;
     case Leesmoment::NaOpslag:
-        wat = u"Uw wijziging is opgeslagen, maar het spelerbestand kan daarna niet worden geopend. "
-              "In dit programma staan dezelfde spelers als in dat bestand. Verhelp de oorzaak "
-              "voordat u verder gaat."_s;
-        break;
+        return u"Uw wijziging is opgeslagen, maar het spelerbestand kan daarna niet worden "
+               "geopend. In dit programma staan dezelfde spelers als in dat bestand. Verhelp de "
+               "oorzaak voordat u verder gaat."_s;
     case Leesmoment::Opnieuw:
-        wat = u"Het spelerbestand kan niet worden geopend; er is niets aan veranderd. In dit "
-              "programma staan de spelers van zonet, met uw laatste wijziging. Verhelp de oorzaak "
-              "voordat u verder gaat."_s;
         break;
     }
-    MeldFout(ouder, QMessageBox::Information, wat, fout);
+    return u"Het spelerbestand kan niet worden geopend; er is niets aan veranderd. In dit "
+           "programma staan de spelers van zonet, met uw laatste wijziging. Verhelp de oorzaak "
+           "voordat u verder gaat."_s;
 }
 
 /// What the user wants after a save that failed.
@@ -134,7 +130,7 @@ void MeldLezing(QWidget* ouder, const Spelertabel& tabel, const Leesverslag& ver
         Meld(ouder, QMessageBox::Warning,
              u"Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"_s);
     if (verslag.NietGeopend()) {
-        MeldNietGeopend(ouder, *verslag.fout, moment);
+        MeldFout(ouder, QMessageBox::Information, WatNietOpenGing(moment), *verslag.fout);
         return;
     }
     const QString gevolg =

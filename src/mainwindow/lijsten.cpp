@@ -16,9 +16,6 @@ constexpr std::size_t BreedteNBBnr = 8;
 constexpr std::size_t BreedteGroepveld = 12;
 constexpr std::size_t BreedteNaamveld = 30;
 
-constexpr std::array velden{Kolom::Key,        Kolom::Voornaam, Kolom::Tusv,
-                            Kolom::Achternaam, Kolom::NBBgr,    Kolom::NBBnr};
-
 void VoegVasteBreedteToe(Tekst& regel, Tekstblik veld, std::size_t breedte)
 {
     regel += veld.substr(0, breedte);
@@ -32,16 +29,6 @@ void VoegGroepEnNaamToe(Tekst& regel, const Spelertabel& tabel, int rij)
     regel += groep;
     VoegVasteBreedteToe(regel, tabel.Cel(rij, Kolom::NBBgr), BreedteGroepveld - groep.size());
     VoegVasteBreedteToe(regel, tabel.Cel(rij, Kolom::Achternaam), BreedteNaamveld);
-}
-
-/// The six fields behind the prefix.
-void VoegVeldenToe(Tekst& regel, const Spelertabel& tabel, int rij)
-{
-    for (const Kolom veld : velden) {
-        regel += tabel.Cel(rij, veld);
-        if (veld != velden.back())
-            regel += ',';
-    }
 }
 
 /// Per row the next one with the same name; 0 for the last of its name.
@@ -60,6 +47,17 @@ std::vector<int> VolgendeNaamgenoten(const Spelertabel& tabel)
 }
 
 } // namespace
+
+void VoegVeldenToe(Tekst& regel, const Spelertabel& tabel, int rij, char scheiding)
+{
+    constexpr std::array velden{Kolom::Key,        Kolom::Voornaam, Kolom::Tusv,
+                                Kolom::Achternaam, Kolom::NBBgr,    Kolom::NBBnr};
+    for (const Kolom veld : velden) {
+        regel += tabel.Cel(rij, veld);
+        if (veld != velden.back())
+            regel += scheiding;
+    }
+}
 
 tl::expected<Sorteerlijst, GeenGetal> VulSorteerlijst(const Spelertabel& tabel, Sorteersoort soort,
                                                       std::optional<Tekst> groepscode)
@@ -85,7 +83,7 @@ tl::expected<Sorteerlijst, GeenGetal> VulSorteerlijst(const Spelertabel& tabel, 
             regel += *cijfers;
             regel += ',';
         }
-        VoegVeldenToe(regel, tabel, rij);
+        VoegVeldenToe(regel, tabel, rij, ',');
         lijst.push_back(std::move(regel));
     }
     Sorteer(lijst);

@@ -15,6 +15,9 @@ namespace plexoran {
 /// of digits, kind 3 has none behind its 42 characters.
 using Sorteerlijst = std::vector<Tekst>;
 
+/// Appends the six fields, joined by `scheiding`.
+void VoegVeldenToe(Tekst& regel, const Spelertabel& tabel, int rij, char scheiding);
+
 /// A key or federation number that is no number.
 struct GeenGetal {
     int rij = 0;

@@ -49,8 +49,6 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
     setMinimumHeight(qRound(OnderkantVan(KleinsteAantalRegels) * pixelsPerMm_) +
                      Liggend().height());
     connect(&Liggend(), &QScrollBar::valueChanged, P2, [this](int links) { P2->move(-links, 0); });
-    connect(P1, &Roostervlak::wijzigGevraagd, this, &Rooster::wijzigGevraagd);
-    connect(P1, &Roostervlak::verwijderGevraagd, this, &Rooster::verwijderGevraagd);
 }
 
 void Rooster::BouwHeader(const QFont& letter)
@@ -77,13 +75,13 @@ void Rooster::Toon(const Spelertabel& tabel, Weergave weergave,
                    [this](Tekstblik naam) { return inhoud_.meter.Breedte(naam); });
     P1->KiesRegel(0);
     const bool eersteKeer = inhoud_.randen.back() == 0;
-    if (inhoud_.Regels() > 0 || eersteKeer) { // an empty group leaves the widths alone
+    if (P1->Regels() > 0 || eersteKeer) { // an empty group leaves the widths alone
         celmaten_ = MeetCellen(tabel, inhoud_.weergave, inhoud_.meter);
         for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
             if (kolomnamen[i].empty())
                 celmaten_[i] = 0;
         }
-        BerekenKolommen();
+        inhoud_.randen = MaakKolommen(celmaten_, headermaten_, breedteregel_);
     }
     PlaatsKolommen();
     P1->MeldAndereRegels();
@@ -92,13 +90,8 @@ void Rooster::Toon(const Spelertabel& tabel, Weergave weergave,
 void Rooster::ZetBreedteregel(Breedteregel regel)
 {
     breedteregel_ = regel;
-    BerekenKolommen();
-    PlaatsKolommen();
-}
-
-void Rooster::BerekenKolommen()
-{
     inhoud_.randen = MaakKolommen(celmaten_, headermaten_, breedteregel_);
+    PlaatsKolommen();
 }
 
 void Rooster::PlaatsKolommen()

@@ -21,8 +21,6 @@ struct Roosterinhoud {
     Kolomranden randen{};
     Tekstmeter meter;
 
-    [[nodiscard]] int Regels() const { return static_cast<int>(weergave.size()); }
-
     /// The text of a cell as the grid shows it, by its line: a column without a name shows nothing.
     [[nodiscard]] Tekstblik Cel(int regel, std::size_t kolom) const
     {
@@ -42,7 +40,9 @@ class Roostervlak : public Tabelvlak {
     Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, const Schuifkader& kader,
                 QWidget* ouder);
 
-    [[nodiscard]] int Regels() const override { return inhoud_.Regels(); }
+    [[nodiscard]] int Regels() const override { return static_cast<int>(inhoud_.weergave.size()); }
+    /// The table row on each line.
+    [[nodiscard]] const Weergave& Rijen() const { return inhoud_.weergave; }
     [[nodiscard]] int Kolommen() const override { return AantalKolommen; }
     [[nodiscard]] QString Celtekst(int regel, int kolom) const override;
     [[nodiscard]] double Boven(int regel) const override { return Y(BovenkantVan(regel)); }
@@ -97,24 +97,14 @@ class Rooster : public Schuifkader {
               const std::array<Tekstblik, AantalKolommen>& kolomnamen);
     void ZetBreedteregel(Breedteregel regel);
     void NaarBoven() { Staand().setValue(0); }
-    void BrengInBeeld(int regel) { P1->BrengInBeeld(regel); }
-
-    [[nodiscard]] int Regel() const { return P1->Regel(); }
-    [[nodiscard]] int Regels() const { return inhoud_.Regels(); }
-    [[nodiscard]] const Weergave& GetoondeRijen() const { return inhoud_.weergave; }
-    /// The widget that has the keys of the grid.
-    [[nodiscard]] QWidget* Toetsenvlak() const { return P1; }
-
-  signals:
-    void wijzigGevraagd();
-    void verwijderGevraagd();
+    /// Has the keys of the grid.
+    [[nodiscard]] Roostervlak* Vlak() const { return P1; }
 
   protected:
     void resizeEvent(QResizeEvent* gebeurtenis) override;
 
   private:
     void BouwHeader(const QFont& letter);
-    void BerekenKolommen();
     void PlaatsKolommen();
     void StelSchuifbalkenIn();
 

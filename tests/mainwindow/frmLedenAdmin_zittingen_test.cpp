@@ -14,18 +14,6 @@ class ZittingenTest : public Hoofdvensterproef {
 
 } // namespace
 
-TEST_F(ZittingenTest, DeKnoppenWerken)
-{
-    EXPECT_TRUE(Knop("cmdSpToevoegen")->isVisible());
-    EXPECT_TRUE(Knop("cmdSpToevoegen")->isEnabled());
-    EXPECT_TRUE(Knop("cmdKoppel")->isEnabled());
-    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
-    KiesGroep(5);
-    EXPECT_TRUE(Knop("cmdKoppel")->isVisible());
-    KiesGroep(8);
-    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
-}
-
 TEST_F(ZittingenTest, KoppelenVerandertAlleenDeZitting)
 {
     KiesGroep(5);

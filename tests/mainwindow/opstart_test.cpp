@@ -418,15 +418,6 @@ TEST_F(Opstartproef, EenGetalInDeMappenToontOfVerbergtEenKnop)
     }
 }
 
-TEST_F(Opstartproef, ODNBB4SPVerbergtHetImporterenOokInDeImportgroep)
-{
-    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "ODKEYS=x,ODNBB4SP,ODNBB28\r\n");
-    ASSERT_NO_FATAL_FAILURE(Start());
-    KiesGroep(5);
-    EXPECT_FALSE(Knop("cmdHaalNBBnamen")->isVisible());
-    EXPECT_TRUE(Knop("cmdToonGatenlijst")->isVisible());
-}
-
 /// Meant: with this word no display of a group touches the import button, so it stays as it began.
 TEST_F(Opstartproef, ODNBB28VerbergtDeGatenlijstEnLaatHetImporterenStaan)
 {
@@ -468,18 +459,6 @@ TEST_F(Opstartproef, DeVasteTekstenEnVinkjes)
     EXPECT_EQ("Kies spelergroep:", Label("Label1")->text().toStdString());
     EXPECT_TRUE(Vink("chkKolBr")->isChecked());
     EXPECT_FALSE(Vink("chkToonAlle")->isChecked());
-}
-
-TEST_F(Opstartproef, DeImportgroepStaatInDeMappen)
-{
-    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "dfimpg=Gr02-\r\n");
-    ASSERT_NO_FATAL_FAILURE(Start());
-    EXPECT_EQ("Subgr", Header(17)->text().toStdString());
-    KiesGroep(2);
-    EXPECT_EQ("NBBgr", Header(17)->text().toStdString());
-    EXPECT_EQ("NBBnr", Header(18)->text().toStdString());
-    KiesGroep(5);
-    EXPECT_EQ("Subgr", Header(17)->text().toStdString());
 }
 
 // ---- The scoring program ----------------------------------------------------------------------

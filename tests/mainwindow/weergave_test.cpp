@@ -84,43 +84,29 @@ TEST(BeeldVan, WelkeGroepDeImportgroepIsStaatInDeMappen)
     EXPECT_FALSE(BeeldVan(mappen, "Gr05-").importgroep);
 }
 
-TEST(BeeldVan, ZonderWoordenToontDeImportgroepHetImporteren)
+/// Meant: with ODNBB28 the import button stays as the group before left it, and ODNBB4SP counts
+/// alone where both stand. A word counts as part of a text too, and not in small letters.
+TEST(BeeldVan, DeWoordenTonenOfVerbergenTweeKnoppen)
 {
-    EXPECT_EQ(Tonen, BeeldVan(MetWoorden(""), "Gr05-").cmdHaalNBBnamen);
-    EXPECT_EQ(Verbergen, BeeldVan(MetWoorden(""), "Gr01-").cmdHaalNBBnamen);
-    EXPECT_EQ(Ongemoeid, BeeldVan(MetWoorden(""), "Gr05-").cmdToonGatenlijst);
-    EXPECT_EQ(Ongemoeid, BeeldVan(MetWoorden("ANDERS"), "Gr01-").cmdToonGatenlijst);
-}
-
-TEST(BeeldVan, ODNBB4SPVerbergtHetImporterenOokInDeImportgroep)
-{
-    for (const char* groep : {"Gr05-", "Gr01-"}) {
-        const Groepsbeeld beeld = BeeldVan(MetWoorden("ODNBB4SP"), groep);
-        EXPECT_EQ(Verbergen, beeld.cmdHaalNBBnamen);
-        EXPECT_EQ(Ongemoeid, beeld.cmdToonGatenlijst);
+    struct Geval {
+        const char* woorden;
+        const char* groep;
+        Zichtbaarheid importeren;
+        Zichtbaarheid gatenlijst;
+    };
+    for (const Geval& geval :
+         {Geval{"", "Gr05-", Tonen, Ongemoeid}, Geval{"ANDERS", "Gr01-", Verbergen, Ongemoeid},
+          Geval{"ODNBB4SP", "Gr05-", Verbergen, Ongemoeid},
+          Geval{"ODNBB4SP", "Gr01-", Verbergen, Ongemoeid},
+          Geval{"ODNBB28", "Gr05-", Ongemoeid, Verbergen},
+          Geval{"ODNBB28", "Gr01-", Ongemoeid, Verbergen},
+          Geval{"ODNBB28,ODNBB4SP", "Gr05-", Verbergen, Ongemoeid},
+          Geval{"xODNBB28y", "Gr01-", Ongemoeid, Verbergen},
+          Geval{"odnbb28", "Gr01-", Verbergen, Ongemoeid},
+          Geval{"odnbb4sp", "Gr05-", Tonen, Ongemoeid}}) {
+        SCOPED_TRACE(std::string(geval.woorden) + " in " + geval.groep);
+        const Groepsbeeld beeld = BeeldVan(MetWoorden(geval.woorden), geval.groep);
+        EXPECT_EQ(geval.importeren, beeld.cmdHaalNBBnamen);
+        EXPECT_EQ(geval.gatenlijst, beeld.cmdToonGatenlijst);
     }
-}
-
-/// Meant: with this word the import button stays as the group before left it.
-TEST(BeeldVan, ODNBB28VerbergtDeGatenlijstEnLaatHetImporterenOngemoeid)
-{
-    for (const char* groep : {"Gr05-", "Gr01-"}) {
-        const Groepsbeeld beeld = BeeldVan(MetWoorden("ODNBB28"), groep);
-        EXPECT_EQ(Ongemoeid, beeld.cmdHaalNBBnamen);
-        EXPECT_EQ(Verbergen, beeld.cmdToonGatenlijst);
-    }
-}
-
-TEST(BeeldVan, MetBeideWoordenTeltAlleenODNBB4SP)
-{
-    const Groepsbeeld beeld = BeeldVan(MetWoorden("ODNBB28,ODNBB4SP"), "Gr05-");
-    EXPECT_EQ(Verbergen, beeld.cmdHaalNBBnamen);
-    EXPECT_EQ(Ongemoeid, beeld.cmdToonGatenlijst);
-}
-
-TEST(BeeldVan, EenWoordTeltOokAlsDeelVanDeTekstMaarNietInKleineLetters)
-{
-    EXPECT_EQ(Verbergen, BeeldVan(MetWoorden("xODNBB28y"), "Gr01-").cmdToonGatenlijst);
-    EXPECT_EQ(Ongemoeid, BeeldVan(MetWoorden("odnbb28"), "Gr01-").cmdToonGatenlijst);
-    EXPECT_EQ(Tonen, BeeldVan(MetWoorden("odnbb4sp"), "Gr05-").cmdHaalNBBnamen);
 }
