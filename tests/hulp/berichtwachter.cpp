@@ -3,35 +3,28 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QPushButton>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
 #include <utility>
 
-#include "platform/scherm/tekstbrug.h"
+#include "hulp/venstergrepen.h"
 
 namespace plexoran {
 namespace {
-
-/// As it reads on the screen, without the mark of its mnemonic.
-QString Opschrift(const QAbstractButton& knop)
-{
-    return knop.text().remove(u'&');
-}
 
 QStringList Opschriften(const QMessageBox& venster)
 {
     QStringList opschriften;
     for (const QAbstractButton* knop : venster.buttons())
-        opschriften << Opschrift(*knop);
+        opschriften << QString::fromStdString(Opschrift(knop));
     return opschriften;
 }
 
 QAbstractButton* Knop(const QMessageBox& venster, const QString& opschrift)
 {
     for (QAbstractButton* knop : venster.buttons()) {
-        if (Opschrift(*knop) == opschrift)
+        if (Opschrift(knop) == opschrift.toStdString())
             return knop;
     }
     return nullptr;
