@@ -125,7 +125,7 @@ void diaKopieer::accept()
                                    .metNBBnr = chkNBBnrOok->isChecked()};
     if (!KopieerSpelers(administratie_.spelers, opdracht)) {
         MeldSleutelsOp(this, u"Er is niets gekopieerd"_s,
-                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
+                       RegelVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
     Meld(this, QMessageBox::Information,

@@ -151,7 +151,7 @@ void diaToevoegen::VoegToe()
     auto tekst = VoegSpelersToe(administratie_.spelers, namen_);
     if (!tekst) {
         MeldSleutelsOp(this, u"Er is niets toegevoegd"_s,
-                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
+                       RegelVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
     Koppelverslag verslag(administratie_.schijf, administratie_.mappen, Zitting(),

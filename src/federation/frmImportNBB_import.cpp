@@ -195,7 +195,7 @@ void frmImportNBB::MeldAfgebroken(const Tekst& naam, Samenvoegfout fout)
              "opnieuw."_s.arg(NaarQString(naam)));
     else
         MeldSleutelsOp(this, u"Uit '%1' is niets geïmporteerd"_s.arg(NaarQString(naam)),
-                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
+                       RegelVanHKEY(administratie_.schijf, administratie_.mappen));
 }
 
 } // namespace plexoran

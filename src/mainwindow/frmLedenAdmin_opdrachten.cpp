@@ -57,7 +57,7 @@ void frmLedenAdmin::VoegToe()
         return;
     if (!VoegSpelerToe(administratie_.spelers, Groeptekst(), ingave.IngaveVelden)) {
         MeldSleutelsOp(this, u"De speler is niet toegevoegd"_s,
-                       PlaatsVanHKEY(administratie_.schijf, administratie_.mappen));
+                       RegelVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
     SlaOpEnToon();

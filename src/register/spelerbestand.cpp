@@ -132,18 +132,18 @@ std::optional<std::int32_t> NieuweSleutel(Register& spelers)
     return ++spelers.HKEY;
 }
 
-Fout PlaatsVanHKEY(Schijf& schijf, const Mappen& mappen)
+Fout RegelVanHKEY(Schijf& schijf, const Mappen& mappen)
 {
     const Pad pad = mappen.Spelerbestand();
-    Fout plaats{.bestand = schijf.Toonpad(pad)};
+    Fout plek{.bestand = schijf.Toonpad(pad)};
     const Tekst inhoud = schijf.LeesBestand(pad).value_or(Tekst());
     int nummer = 0;
     for (const Tekstblik regel : Regels(inhoud)) {
         ++nummer;
         if (regel.starts_with("HKEY="))
-            plaats.regel = nummer;
+            plek.regel = nummer;
     }
-    return plaats;
+    return plek;
 }
 
 std::int32_t HoogsteSleutel(const Spelertabel& tabel)

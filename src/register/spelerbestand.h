@@ -98,7 +98,7 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 [[nodiscard]] std::optional<std::int32_t> NieuweSleutel(Register& spelers);
 
 /// Where the highest key stands, for a message: the player file and its last key line.
-[[nodiscard]] Fout PlaatsVanHKEY(Schijf& schijf, const Mappen& mappen);
+[[nodiscard]] Fout RegelVanHKEY(Schijf& schijf, const Mappen& mappen);
 
 /// The highest key in the rows; 0 when none reaches the base, below which no key is issued.
 [[nodiscard]] std::int32_t HoogsteSleutel(const Spelertabel& tabel);

@@ -28,9 +28,9 @@ class Scheidingen {
                 return tekst_.size();
             Laad();
         }
-        const auto plaats = begin_ + EersteByte(treffers_);
+        const auto plek = begin_ + EersteByte(treffers_);
         treffers_ &= treffers_ - 1;
-        return plaats;
+        return plek;
     }
 
   private:
@@ -106,21 +106,15 @@ class Lezer {
     {
         velden_ = 0;
         grenzen_[0] = static_cast<std::uint32_t>(begin_);
-        for (;;) {
-            const auto plaats = scheidingen_.Volgende();
+        do {
+            eind_ = scheidingen_.Volgende();
             if (++velden_ <= AantalKolommen)
-                grenzen_[static_cast<std::size_t>(velden_)] =
-                    static_cast<std::uint32_t>(plaats + 1);
-            if (plaats < inhoud_.size() && inhoud_[plaats] == ',')
-                continue;
-            eind_ = plaats;
-            volgende_ = plaats + 1;
-            if (plaats + 1 < inhoud_.size() && inhoud_[plaats] == '\r' &&
-                inhoud_[plaats + 1] == '\n') {
-                scheidingen_.Volgende();
-                ++volgende_;
-            }
-            return;
+                grenzen_[static_cast<std::size_t>(velden_)] = static_cast<std::uint32_t>(eind_ + 1);
+        } while (eind_ < inhoud_.size() && inhoud_[eind_] == ',');
+        volgende_ = eind_ + 1;
+        if (Tekstblik(inhoud_).substr(eind_, 2) == "\r\n") {
+            scheidingen_.Volgende();
+            ++volgende_;
         }
     }
 
@@ -177,8 +171,8 @@ class Lezer {
 
     [[nodiscard]] std::size_t Lengte(Kolom kolom) const
     {
-        const auto plaats = Index(kolom);
-        return grenzen_[plaats + 1] - grenzen_[plaats] - 1;
+        const auto plek = Index(kolom);
+        return grenzen_[plek + 1] - grenzen_[plek] - 1;
     }
 
     void BreekAf(int velden)

@@ -81,8 +81,8 @@ class Spelertabel {
     [[nodiscard]] Tekstblik Cel(int rij, Kolom kolom) const
     {
         const Celgrenzen& grenzen = Grenzen(rij);
-        const auto plaats = Index(kolom);
-        const Tekstblik cel = Bytes(grenzen[plaats], grenzen[plaats + 1]);
+        const auto plek = Index(kolom);
+        const Tekstblik cel = Bytes(grenzen[plek], grenzen[plek + 1]);
         // The file may carry the group's name behind its code; only the code is the cell.
         return kolom == Kolom::Groep ? CodeUit(cel) : cel;
     }

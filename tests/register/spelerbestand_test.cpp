@@ -387,15 +387,15 @@ TEST(NieuweSleutel, Op)
     EXPECT_EQ(spelers.HKEY, hoogste);
 }
 
-TEST(PlaatsVanHKEY, IsDeLaatsteSleutelregel)
+TEST(RegelVanHKEY, IsDeLaatsteSleutelregel)
 {
     GeheugenSchijf schijf;
     Mappen mappen;
     mappen.SPEMAP = "C:\\club";
-    EXPECT_EQ(PlaatsVanHKEY(schijf, mappen).regel, 0);
+    EXPECT_EQ(RegelVanHKEY(schijf, mappen).regel, 0);
     schijf.Zet("C:\\club\\RVDspelers.txt", "HKEY=1\r\n\r\nHKEY=2\r\nhkey=3\r\n");
-    EXPECT_EQ(PlaatsVanHKEY(schijf, mappen).regel, 3);
-    EXPECT_EQ(PlaatsVanHKEY(schijf, mappen).bestand, "C:\\club\\RVDspelers.txt");
+    EXPECT_EQ(RegelVanHKEY(schijf, mappen).regel, 3);
+    EXPECT_EQ(RegelVanHKEY(schijf, mappen).bestand, "C:\\club\\RVDspelers.txt");
 }
 
 TEST(ZijnErSleutels, TotDeHoogste)

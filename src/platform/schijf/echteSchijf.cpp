@@ -30,23 +30,24 @@ Uitkomst<void> Uitslag(const fs::path& waar, const std::error_code& code)
     return {};
 }
 
-/// The names in a folder of what `hoort`; what no path of the suite can say is put with the others.
-template <class Hoort>
-Uitkomst<std::vector<Tekst>> Namen(const Pad& map, std::set<fs::path>& overgeslagen, Hoort hoort)
+/// The names in a folder of what is of this kind, or a link to it; what no path of the suite can
+/// say is put with the others.
+Uitkomst<std::vector<Tekst>> Namen(const Pad& map, fs::file_type soort,
+                                   std::set<fs::path>& overgeslagen)
 {
     const fs::path waar = Systeempad(map);
     std::vector<Tekst> namen;
     std::error_code fout;
-    for (fs::directory_iterator plaats(waar, fout); !fout && plaats != fs::directory_iterator();
-         plaats.increment(fout)) {
+    for (fs::directory_iterator plek(waar, fout); !fout && plek != fs::directory_iterator();
+         plek.increment(fout)) {
         std::error_code nietTeZien; // as a link that leads nowhere
-        if (!hoort(*plaats, nietTeZien))
+        if (plek->status(nietTeZien).type() != soort)
             continue;
-        auto naam = NaamVan(plaats->path().filename());
+        auto naam = NaamVan(plek->path().filename());
         if (naam && IsKaleNaam(*naam))
             namen.push_back(std::move(*naam));
         else
-            overgeslagen.insert(plaats->path());
+            overgeslagen.insert(plek->path());
     }
     if (fout)
         return Mislukt(waar, fout);
@@ -133,16 +134,12 @@ Uitkomst<Stempel> EchteSchijf::NeemStempel(const Pad& pad)
 
 Uitkomst<std::vector<Tekst>> EchteSchijf::Bestanden(const Pad& map)
 {
-    return Namen(map, overgeslagen_, [](const fs::directory_entry& deel, std::error_code& fout) {
-        return deel.is_regular_file(fout);
-    });
+    return Namen(map, fs::file_type::regular, overgeslagen_);
 }
 
 Uitkomst<std::vector<Tekst>> EchteSchijf::Mappen(const Pad& map)
 {
-    return Namen(map, overgeslagen_, [](const fs::directory_entry& deel, std::error_code& fout) {
-        return deel.is_directory(fout);
-    });
+    return Namen(map, fs::file_type::directory, overgeslagen_);
 }
 
 std::vector<std::string> EchteSchijf::NeemOvergeslagen(const Pad& map)

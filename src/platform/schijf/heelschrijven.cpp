@@ -13,9 +13,9 @@ constexpr Tekstblik kenmerk = ".~plexoran";
 
 bool IsTijdelijk(Tekstblik naam)
 {
-    const auto plaats = naam.rfind(kenmerk);
-    return plaats != Tekstblik::npos && plaats + kenmerk.size() < naam.size() &&
-           naam.find_first_not_of("0123456789", plaats + kenmerk.size()) == Tekstblik::npos;
+    const auto plek = naam.rfind(kenmerk);
+    return plek != Tekstblik::npos && plek + kenmerk.size() < naam.size() &&
+           naam.find_first_not_of("0123456789", plek + kenmerk.size()) == Tekstblik::npos;
 }
 
 /// Digits that no other save uses at this moment; those of a killed program may come back.

@@ -77,9 +77,9 @@ std::optional<std::string> GelijkOpKastNa(const fs::path& map, const Tekst& naam
     const Tekst gezocht = Hoofdletters(naam);
     std::optional<std::string> beste;
     std::error_code fout;
-    fs::directory_iterator plaats(map.empty() ? fs::path(".") : map, fout);
-    for (; !fout && plaats != fs::directory_iterator(); plaats.increment(fout)) {
-        std::string kandidaat = plaats->path().filename().string();
+    fs::directory_iterator plek(map.empty() ? fs::path(".") : map, fout);
+    for (; !fout && plek != fs::directory_iterator(); plek.increment(fout)) {
+        std::string kandidaat = plek->path().filename().string();
         if (Hoofdletters(NaarTekst(kandidaat)) == gezocht && (!beste || kandidaat < *beste))
             beste = std::move(kandidaat);
     }
