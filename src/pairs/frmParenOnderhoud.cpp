@@ -34,14 +34,6 @@ frmParenOnderhoud::frmParenOnderhoud(Administratie& administratie, Tekstblik gro
       keuzes_(VulGroepSubgroepen(administratie.spelers.tabel, code_))
 {
     Bouw();
-    MaakParenmap();
-    VulKeus(*cmbNBBledengr, keuzes_);
-    cmbNBBledengr->setCurrentIndex(-1);
-    ZetKnoppen();
-}
-
-void frmParenOnderhoud::MaakParenmap()
-{
     const auto map = administratie_.schijf.MaakMap(Parenmap(administratie_.mappen));
     if (!map)
         MeldFout(
@@ -50,6 +42,9 @@ void frmParenOnderhoud::MaakParenmap()
             "nu niet worden opgeslagen. De gegevens van de spelers zijn niet veranderd. Kijk of u "
             "in de map van de spelers mag schrijven."_s,
             map.error());
+    VulKeus(*cmbNBBledengr, keuzes_);
+    cmbNBBledengr->setCurrentIndex(-1);
+    ZetKnoppen();
 }
 
 // ---- Showing a group-subgroup ------------------------------------------------------------------
@@ -223,21 +218,16 @@ void frmParenOnderhoud::Einde()
     }
     const auto bewaard =
         BewaarParen(administratie_.schijf, administratie_.mappen, keuze_, paren_.L3(), gelezen_);
-    if (!StaatEr(this, bewaard))
-        MeldOpslagfout(bewaard.error());
+    if (!StaatEr(this, bewaard)) {
+        // The window closes all the same, so the pairs go where the user can still get them.
+        const QString tekst = NaarQString(ParenTekst(paren_.L3()).value_or(Tekst()));
+        QGuiApplication::clipboard()->setText(tekst.section(u'\r', 0, 0));
+        Meld(this, QMessageBox::Warning,
+             u"Fout bij het opslaan van Paren\nDe paren zijn niet verloren: ze staan nu op het "
+             "klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla dat op onder de "
+             "naam hieronder.\n\n%1"_s.arg(Bijzonderheden(bewaard.error())));
+    }
     accept();
-}
-
-/// The window closes all the same, so the pairs go where the user can still get them.
-void frmParenOnderhoud::MeldOpslagfout(const Fout& fout)
-{
-    const Tekst tekst = ParenTekst(paren_.L3()).value_or(Tekst());
-    QGuiApplication::clipboard()->setText(
-        NaarQString(Tekstblik(tekst).substr(0, tekst.find('\r'))));
-    Meld(this, QMessageBox::Warning,
-         u"Fout bij het opslaan van Paren\nDe paren zijn niet verloren: ze staan nu op het "
-         "klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla dat op onder de naam "
-         "hieronder.\n\n%1"_s.arg(Bijzonderheden(fout)));
 }
 
 void frmParenOnderhoud::ToonUitleg()

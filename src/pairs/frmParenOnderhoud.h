@@ -36,7 +36,6 @@ class frmParenOnderhoud : public QDialog {
                       const Opdracht& opdracht);
     Regellijst* Lijst(const QString& naam, const QString& gesproken);
 
-    void MaakParenmap();
     void LaadSubgroep();
     void VulSpelerslijsten(Regellijst::Plek plek);
     void VulParenlijst(Regellijst::Plek plek);
@@ -51,7 +50,6 @@ class frmParenOnderhoud : public QDialog {
     void VerwijderBestand();
     void SchrijfCSV(ParenCSV soort);
     void Einde();
-    void MeldOpslagfout(const Fout& fout);
     void ToonUitleg();
 
     Administratie& administratie_;

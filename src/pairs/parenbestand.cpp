@@ -112,8 +112,7 @@ Uitkomst<void> BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze
     const auto tekst = ParenTekst(regels);
     const auto pad = Parenbestand(mappen, keuze);
     if (!tekst || !pad)
-        return tl::unexpected(
-            Fout{tekst ? Foutsoort::Geweigerd : Foutsoort::Beschadigd, {}, 0, {}});
+        return Mislukt({.soort = tekst ? Foutsoort::Geweigerd : Foutsoort::Beschadigd});
     const auto magWeg = [&](Tekstblik oud) { return gelezen == oud && IsParenbestand(oud); };
     return VervangMetKopie(schijf, mappen.SPEMAP, *pad, *tekst, magWeg);
 }
@@ -123,7 +122,7 @@ Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen, Tek
 {
     const auto inhoud = LeesAlsErIs(schijf, Samen(mappen.SPEMAP, "RVDparen.txt"));
     if (!inhoud)
-        return tl::unexpected(inhoud.error());
+        return Mislukt(inhoud);
     const Tekst gezocht = Hoofdletters(subgroep);
     std::unordered_set<Tekstblik> aanwezig;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {

@@ -53,7 +53,7 @@ Uitkomst<void> SchrijfParenCSV(Schijf& schijf, const Mappen& mappen, std::span<c
 {
     const Pad map = ParenCSVMap(mappen);
     if (mappen.RVDMAP.empty())
-        return tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}});
+        return Mislukt({.soort = Foutsoort::Ontbreekt});
     return schijf.MaakMap(map).and_then([&] {
         return SchrijfHeel(schijf, Samen(map, ParenCSVNaam(soort)),
                            ParenCSVTekst(regels, tabel, soort));

@@ -48,13 +48,10 @@ void frmKoppelNBBnr::showEvent(QShowEvent* gebeurtenis)
     if (geladen_)
         return;
     geladen_ = true;
-    QTimer::singleShot(0, this, &frmKoppelNBBnr::Laad);
-}
-
-void frmKoppelNBBnr::Laad()
-{
-    LeesRegister();
-    KiesSoort();
+    QTimer::singleShot(0, this, [this] {
+        LeesRegister();
+        KiesSoort();
+    });
 }
 
 void frmKoppelNBBnr::KiesSoort()

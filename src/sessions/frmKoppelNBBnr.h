@@ -37,7 +37,6 @@ class frmKoppelNBBnr : public QDialog {
     QWidget* BouwResultaat();
 
     // Choosing
-    void Laad();
     void KiesSoort();
     void VergeetGevonden();
     void LeesRegister();

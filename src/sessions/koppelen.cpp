@@ -4,7 +4,6 @@
 #include <array>
 
 #include "platform/schijf/heelschrijven.h"
-#include "platform/tekst/tekst.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {

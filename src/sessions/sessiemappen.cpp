@@ -13,13 +13,13 @@ Uitkomst<std::vector<Sessiemap>> LeesMappenMet(Schijf& schijf, const Pad& wortel
     std::vector<Sessiemap> uit;
     if (wortel.empty())
         return uit;
-    auto namen = schijf.Mappen(wortel);
-    if (!namen && namen.error().soort == Foutsoort::Ontbreekt)
-        return uit;
+    auto namen = AlsErIs(schijf.Mappen(wortel));
     if (!namen)
-        return tl::unexpected(namen.error());
-    Sorteer(*namen);
-    for (Tekst& naam : *namen) {
+        return Mislukt(namen);
+    if (!*namen)
+        return uit;
+    Sorteer(**namen);
+    for (Tekst& naam : **namen) {
         const auto stempel = schijf.NeemStempel(Samen(Samen(wortel, naam), kenmerk));
         if (stempel)
             uit.push_back({std::move(naam), stempel->tijd});
@@ -33,7 +33,7 @@ Uitkomst<std::set<int>> Nummers(Schijf& schijf, const Pad& map, Tekstblik voorvo
 {
     const auto namen = schijf.Mappen(map);
     if (!namen)
-        return tl::unexpected(namen.error());
+        return Mislukt(namen);
     std::set<int> nummers;
     for (const Tekst& naam : *namen) {
         const auto streep = naam.find('-');
@@ -86,9 +86,9 @@ Uitkomst<std::vector<Zitting>> ZittingVan(Schijf& schijf, const Mappen& mappen, 
     std::vector<Zitting> uit{LosseZitting(mappen, zitting)};
     const auto soort = schijf.Soort(uit.front().map);
     if (!soort)
-        return tl::unexpected(soort.error());
+        return Mislukt(soort);
     if (*soort != Padsoort::Map)
-        return tl::unexpected(Fout{Foutsoort::Ontbreekt, schijf.Toonpad(uit.front().map), 0, {}});
+        return Mislukt({.soort = Foutsoort::Ontbreekt, .bestand = schijf.Toonpad(uit.front().map)});
     return uit;
 }
 
@@ -97,7 +97,7 @@ Uitkomst<std::vector<Zitting>> ZittingenVan(Schijf& schijf, const Mappen& mappen
 {
     const auto rondes = Nummers(schijf, Samen(mappen.COMMAP, competitie), "Ronde-");
     if (!rondes)
-        return tl::unexpected(rondes.error());
+        return Mislukt(rondes);
     std::vector<Zitting> uit;
     for (const int ronde : *rondes) {
         const auto zittingen = Nummers(schijf, Rondemap(mappen, competitie, ronde), "Zitting-");
@@ -105,7 +105,7 @@ Uitkomst<std::vector<Zitting>> ZittingenVan(Schijf& schijf, const Mappen& mappen
         if (!zittingen && zittingen.error().soort == Foutsoort::Ontbreekt)
             continue;
         if (!zittingen)
-            return tl::unexpected(zittingen.error());
+            return Mislukt(zittingen);
         for (const int zitting : *zittingen)
             uit.push_back(Competitiezitting(mappen, competitie, ronde, zitting));
     }
