@@ -35,8 +35,6 @@ constexpr double Groepletter = 10.0;
 constexpr double KleinsteGroepletter = 7.0;
 constexpr int AchterDeTekst = 50; // caret position on returning to a field
 
-constexpr int EersteIngaveveld = static_cast<int>(Kolom::Voornaam);
-
 void Kleur(QWidget* widget, QPalette::ColorRole rol, const QColor& kleur)
 {
     QPalette palet = widget->palette();

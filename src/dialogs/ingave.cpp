@@ -5,7 +5,6 @@
 namespace plexoran {
 namespace {
 
-constexpr int EersteIngaveveld = static_cast<int>(Kolom::Voornaam);
 constexpr std::size_t LangsteNBBnr = 8;
 
 } // namespace

@@ -18,6 +18,9 @@ struct Ingave {
     Rijvelden IngaveVelden;
 };
 
+/// The fields before it are shown only.
+inline constexpr int EersteIngaveveld = static_cast<int>(Kolom::Voornaam);
+
 /// A field number as a return field of fast entry: 4 to 18, the sex field excepted.
 [[nodiscard]] bool KanTerugkeerveld(int veld);
 

@@ -1,5 +1,6 @@
 #include "dialogs/diaToevoegen.h"
 
+#include <functional>
 #include <limits>
 
 #include "hulp/dialoogproef.h"
@@ -128,41 +129,34 @@ TEST_F(diaToevoegenTest, ToevoegenEnOpslaan)
     EXPECT_EQ(bestand, suite.Spelers()); // saving is the main window's
 }
 
-TEST_F(diaToevoegenTest, AnnulerenEnHetSluitvakZonderIets)
-{
-    for (const bool sluitvak : {false, true}) {
-        ASSERT_NO_FATAL_FAILURE(Open());
-        VerwachtAfscheid();
-        if (sluitvak)
-            venster->close();
-        else
-            Klik(Knop("cmdAnnuleren"));
-        wachter.Klaar();
-        EXPECT_FALSE(venster->isVisible());
-        EXPECT_FALSE(venster->ToegevoegdEnBewaard());
-    }
-}
-
-TEST_F(diaToevoegenTest, AnnulerenNaHetToevoegenMaaktAllesOngedaan)
+TEST_F(diaToevoegenTest, AnnulerenEscapeEnHetSluitvakMakenAllesOngedaan)
 {
     const auto rijen = AlleRijen(Tabel());
+    const auto knop = [this] { Klik(Knop("cmdAnnuleren")); };
+    const auto escape = [this] { QTest::keyClick(venster.get(), Qt::Key_Escape); };
+    const auto sluitvak = [this] { venster->close(); };
     for (const bool vroeger : {false, true}) {
         if (vroeger)
             suite.Zet(Zomer + "/Koppelverslag.txt", "van vroeger");
-        ASSERT_NO_FATAL_FAILURE(Open());
-        VoegToe();
-        EXPECT_EQ(Verslag, Koppeltekst());
-        VerwachtAfscheid();
-        if (vroeger)
-            QTest::keyClick(venster.get(), Qt::Key_Escape);
-        else
-            Klik(Knop("cmdAnnuleren"));
-        wachter.Klaar();
-        EXPECT_FALSE(venster->ToegevoegdEnBewaard());
-        EXPECT_EQ(rijen, AlleRijen(Tabel()));
-        EXPECT_EQ(100171, administratie.spelers.HKEY);
-        EXPECT_EQ(vroeger, suite.Bestaat(Zomer + "/Koppelverslag.txt"));
-        EXPECT_EQ(vroeger ? "van vroeger" : "", Koppeltekst());
+        for (const std::function<void()>& weg :
+             std::initializer_list<std::function<void()>>{knop, escape, sluitvak}) {
+            for (const bool toegevoegd : {false, true}) {
+                ASSERT_NO_FATAL_FAILURE(Open());
+                if (toegevoegd) {
+                    VoegToe();
+                    EXPECT_EQ(Verslag, Koppeltekst());
+                }
+                VerwachtAfscheid();
+                weg();
+                wachter.Klaar();
+                EXPECT_FALSE(venster->isVisible());
+                EXPECT_FALSE(venster->ToegevoegdEnBewaard());
+                EXPECT_EQ(rijen, AlleRijen(Tabel()));
+                EXPECT_EQ(100171, administratie.spelers.HKEY);
+                EXPECT_EQ(vroeger, suite.Bestaat(Zomer + "/Koppelverslag.txt"));
+                EXPECT_EQ(vroeger ? "van vroeger" : "", Koppeltekst());
+            }
+        }
     }
 }
 
@@ -221,12 +215,9 @@ TEST_F(diaToevoegenTest, ZonderClubnaamDeEigenLijstEnZonderRevMapNiets)
 TEST_F(diaToevoegenTest, EenKopieDieMisluktOfNietVastStaat)
 {
     schijf.FaalBij(1);
-    wachter.Verwacht(
-        {.tekst = u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de "
-                  "zitting zijn niet veranderd. Verhelp de oorzaak en open dit venster "
-                  "opnieuw.\n\nBestand: "_s,
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    VerwachtFout(u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de "
+                 "zitting zijn niet veranderd. Verhelp de oorzaak en open dit venster "
+                 "opnieuw.\n\nBestand: "_s);
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
     // When only syncing the folder fails, the copy is there and is read.

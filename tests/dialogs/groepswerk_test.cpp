@@ -51,6 +51,12 @@ class Kopieren : public testing::Test {
         moet.back()[17] = "";
     }
 
+    /// To the group, with the columns 17 and 18 as by default.
+    [[nodiscard]] bool Kopieer(const Teksten& keys, const Tekst& groep = "Gr01-")
+    {
+        return KopieerSpelers(spelers, {.keys = keys, .naarGroep = groep});
+    }
+
     Register spelers;
     std::vector<Rijvelden> moet;
 };
@@ -170,9 +176,12 @@ TEST_F(Kopieren, DeKopieKomtAchteraanMetEenNieuweKeyZonderNummer)
     VerwachtKopie(1, "100044", "Gr09-");
     // Column 1 is copied as it stands; saving numbers anew.
     EXPECT_EQ("3", moet[3][0]);
-    EXPECT_TRUE(KopieerSpelers(spelers, {.keys = {"100003", "100001"}, .naarGroep = "Gr09-"}));
+    // Meant: copying into the group itself makes doubles.
+    VerwachtKopie(2, "100045", "Gr01-");
+    EXPECT_TRUE(Kopieer({"100003", "100001"}, "Gr09-"));
+    EXPECT_TRUE(Kopieer({"100007"}));
     EXPECT_EQ(moet, AlleRijen(spelers.tabel));
-    EXPECT_EQ(100044, spelers.HKEY);
+    EXPECT_EQ(100045, spelers.HKEY);
 }
 
 TEST_F(Kopieren, KolomZeventienEnAchttienAlleenAlsHetGevraagdIs)
@@ -191,22 +200,14 @@ TEST_F(Kopieren, KolomZeventienEnAchttienAlleenAlsHetGevraagdIs)
     EXPECT_EQ(moet[0], spelers.tabel.Velden(1));
 }
 
-/// Meant: copying into the group itself makes doubles.
-TEST_F(Kopieren, InDeEigenGroepMaaktDubbelen)
-{
-    VerwachtKopie(2, "100043", "Gr01-");
-    EXPECT_TRUE(KopieerSpelers(spelers, {.keys = {"100007"}, .naarGroep = "Gr01-"}));
-    EXPECT_EQ(moet, AlleRijen(spelers.tabel));
-}
-
 /// Meant: keys follow the highest one issued, not the highest one in the table.
 TEST_F(Kopieren, DeKeysVolgenOpDeHoogsteDieOoitIsUitgegeven)
 {
     spelers.HKEY = 200000;
-    EXPECT_TRUE(KopieerSpelers(spelers, {.keys = {"100007"}, .naarGroep = "Gr01-"}));
+    EXPECT_TRUE(Kopieer({"100007"}));
     EXPECT_EQ("200001", spelers.tabel.Cel(4, Kolom::Key));
     spelers.HKEY = 100002;
-    EXPECT_TRUE(KopieerSpelers(spelers, {.keys = {"100007"}, .naarGroep = "Gr01-"}));
+    EXPECT_TRUE(Kopieer({"100007"}));
     EXPECT_EQ("100003", spelers.tabel.Cel(5, Kolom::Key));
 }
 
@@ -215,14 +216,14 @@ TEST_F(Kopieren, EenOnbekendeKeyGeeftEenLegeRij)
 {
     moet.push_back({"", "100043", "Gr02-"});
     VerwachtKopie(3, "100044", "Gr02-");
-    EXPECT_TRUE(KopieerSpelers(spelers, {.keys = {"    12", "100003"}, .naarGroep = "Gr02-"}));
+    EXPECT_TRUE(Kopieer({"    12", "100003"}, "Gr02-"));
     EXPECT_EQ(moet, AlleRijen(spelers.tabel));
 }
 
 TEST_F(Kopieren, VanTweeRijenMetDezelfdeKeyTweeKeerDeEerste)
 {
     spelers.tabel.ZetCel(2, Kolom::Key, "100001");
-    EXPECT_TRUE(KopieerSpelers(spelers, {.keys = {"100001", "100001"}, .naarGroep = "Gr02-"}));
+    EXPECT_TRUE(Kopieer({"100001", "100001"}, "Gr02-"));
     EXPECT_EQ("An", spelers.tabel.Cel(4, Kolom::Voornaam));
     EXPECT_EQ("An", spelers.tabel.Cel(5, Kolom::Voornaam));
     EXPECT_EQ("100044", spelers.tabel.Cel(5, Kolom::Key));
@@ -231,10 +232,10 @@ TEST_F(Kopieren, VanTweeRijenMetDezelfdeKeyTweeKeerDeEerste)
 TEST_F(Kopieren, AlsDeSleutelsOpZijnVerandertErNiets)
 {
     spelers.HKEY = hoogste - 1;
-    EXPECT_FALSE(KopieerSpelers(spelers, {.keys = {"100001", "100007"}, .naarGroep = "Gr01-"}));
+    EXPECT_FALSE(Kopieer({"100001", "100007"}));
     EXPECT_EQ(moet, AlleRijen(spelers.tabel));
     EXPECT_EQ(hoogste - 1, spelers.HKEY);
-    EXPECT_TRUE(KopieerSpelers(spelers, {.keys = {"100001"}, .naarGroep = "Gr01-"}));
+    EXPECT_TRUE(Kopieer({"100001"}));
     EXPECT_EQ("2147483647", spelers.tabel.Cel(4, Kolom::Key));
 }
 
