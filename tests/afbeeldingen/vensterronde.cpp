@@ -47,38 +47,32 @@ Ingave Voorbeeldingave(const Administratie& administratie)
     return ingave;
 }
 
-/// Hands every window to `bezoek`, the ones that live for it alone too.
-class Rondgang {
-  public:
-    explicit Rondgang(const std::function<void(QWidget&)>& bezoek) : bezoek_(bezoek) {}
+using Bezoek = std::function<void(QWidget&)>;
 
-    void Neem(QWidget& venster) const { bezoek_(venster); }
-    void Neem(QWidget&& venster) const { bezoek_(venster); }
+/// A window that lives for the visit alone.
+void Neem(const Bezoek& bezoek, QWidget&& venster)
+{
+    bezoek(venster);
+}
 
-  private:
-    const std::function<void(QWidget&)>& bezoek_;
-};
-
-void NeemSorteerlijst(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
-                      const Spelertabel& tabel)
+void NeemSorteerlijst(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, const Spelertabel& tabel)
 {
     const auto lijst = VulSorteerlijst(tabel, Sorteersoort::NBBgroep, std::nullopt);
     if (!lijst)
         return;
-    rondgang.Neem(diaSortlijst({.soort = Sorteersoort::NBBgroep,
-                                .importgroep = false,
-                                .regels = static_cast<int>(lijst->size()),
-                                .regel =
-                                    [&](int regel) {
-                                        return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
-                                                         Sorteersoort::NBBgroep);
-                                    }},
-                               &hoofdvenster));
+    Neem(bezoek, diaSortlijst({.soort = Sorteersoort::NBBgroep,
+                               .importgroep = false,
+                               .regels = static_cast<int>(lijst->size()),
+                               .regel =
+                                   [&](int regel) {
+                                       return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
+                                                        Sorteersoort::NBBgroep);
+                                   }},
+                              &hoofdvenster));
 }
 
 /// The sample exports, where the suite has them.
-void NeemControle(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
-                  Administratie& administratie)
+void NeemControle(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, Administratie& administratie)
 {
     Ledenopdracht opdracht;
     opdracht.map = administratie.mappen.Ledenmap();
@@ -93,15 +87,15 @@ void NeemControle(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
     if (namen.empty())
         return;
     diaControleNBB venster(administratie, opdracht, namen, &hoofdvenster);
-    rondgang.Neem(venster);
+    bezoek(venster);
 }
 
 /// With the floating players of the competition, and the first of them chosen.
-void NeemKoppelvenster(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
+void NeemKoppelvenster(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster,
                        Administratie& administratie)
 {
     frmKoppelNBBnr venster(administratie, &hoofdvenster);
-    rondgang.Neem(venster); // fills it
+    bezoek(venster); // fills it
     if (auto* competities = venster.findChild<QRadioButton*>(u"Option2"_s))
         competities->setChecked(true);
     if (auto* cmbC = venster.findChild<QComboBox*>(u"cmbC"_s))
@@ -112,11 +106,11 @@ void NeemKoppelvenster(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
         if (auto* deel = venster.findChild<QPushButton*>(QString::fromLatin1(knop)))
             deel->click();
     }
-    rondgang.Neem(venster);
+    bezoek(venster);
 }
 
 /// With the pairs of one of the sample club's groups, and two players chosen.
-void NeemParen(const Rondgang& rondgang, Administratie& administratie, QWidget& hoofdvenster)
+void NeemParen(const Bezoek& bezoek, Administratie& administratie, QWidget& hoofdvenster)
 {
     frmParenOnderhoud venster(administratie, "Gr05-", &hoofdvenster);
     const Maten maten;
@@ -132,18 +126,17 @@ void NeemParen(const Rondgang& rondgang, Administratie& administratie, QWidget& 
         if (lijst != nullptr && lijst->model()->rowCount() > plaats)
             lijst->setCurrentIndex(lijst->model()->index(plaats++, 0));
     }
-    rondgang.Neem(venster);
+    bezoek(venster);
 }
 
 /// The set-up and the first page of the shown group.
-void NeemPrinten(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
-                 Administratie& administratie)
+void NeemPrinten(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, Administratie& administratie)
 {
     const Maten maten;
     const Tekst groep = administratie.groepen.Toontekst(administratie.instellingen.LOSTGR + 1);
     frmPrintIni keuze(administratie, groep,
                       BeeldVan(administratie.mappen, CodeUit(groep)).kolomnamen, &hoofdvenster);
-    rondgang.Neem(keuze);
+    bezoek(keuze);
     const Printopdracht opdracht{
         .groepscode = Tekst(CodeUit(groep)),
         .subgroepen = {},
@@ -155,7 +148,7 @@ void NeemPrinten(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
                       &hoofdvenster);
     // It is as high as the screen lets it be.
     blad.setProperty(Standaardmaat, QSize(maten.Twips(12700), maten.Twips(10500)));
-    rondgang.Neem(blad);
+    bezoek(blad);
 }
 
 } // namespace
@@ -163,7 +156,6 @@ void NeemPrinten(const Rondgang& rondgang, frmLedenAdmin& hoofdvenster,
 void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                       const std::function<void(QWidget&)>& bezoek)
 {
-    const Rondgang rondgang(bezoek);
     // A box that a window shows before it opens has nobody to answer it here.
     QTimer antwoord;
     QObject::connect(&antwoord, &QTimer::timeout, [] {
@@ -171,14 +163,14 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
             dialoog->reject();
     });
     antwoord.start(std::chrono::milliseconds(50));
-    rondgang.Neem(hoofdvenster);
+    bezoek(hoofdvenster);
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;
-    rondgang.Neem(diaIngave(
-        ingave, terugkeerveld, [] {}, &hoofdvenster));
+    Neem(bezoek, diaIngave(
+                     ingave, terugkeerveld, [] {}, &hoofdvenster));
     Groepen groepen = administratie.groepen;
-    rondgang.Neem(diaGrNamen(groepen, &hoofdvenster));
-    rondgang.Neem(diaRekProgkeus(&hoofdvenster));
+    Neem(bezoek, diaGrNamen(groepen, &hoofdvenster));
+    Neem(bezoek, diaRekProgkeus(&hoofdvenster));
     // With a scoring program installed the window shows all four sources.
     Administratie metProgramma = administratie;
     metProgramma.rekenprogramma = {.NBBRaanwezig = true,
@@ -187,18 +179,18 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
                                    .ProgrammaCode = "NBBR",
                                    .ProgrammaNaam = "NBB-R"};
     Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
-    rondgang.Neem(frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
-    rondgang.Neem(diaVerplaats(administratie, &hoofdvenster));
-    rondgang.Neem(diaKopieer(administratie, &hoofdvenster));
-    rondgang.Neem(frmVerwSubgroep(administratie, &hoofdvenster));
-    NeemPrinten(rondgang, hoofdvenster, administratie);
-    NeemControle(rondgang, hoofdvenster, administratie);
-    rondgang.Neem(diaToevoegen(administratie, &hoofdvenster));
-    NeemKoppelvenster(rondgang, hoofdvenster, administratie);
-    rondgang.Neem(frmToelichting(&hoofdvenster));
-    rondgang.Neem(frmUitleg(&hoofdvenster));
-    NeemParen(rondgang, administratie, hoofdvenster);
-    NeemSorteerlijst(rondgang, hoofdvenster, administratie.spelers.tabel);
+    Neem(bezoek, frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
+    Neem(bezoek, diaVerplaats(administratie, &hoofdvenster));
+    Neem(bezoek, diaKopieer(administratie, &hoofdvenster));
+    Neem(bezoek, frmVerwSubgroep(administratie, &hoofdvenster));
+    NeemPrinten(bezoek, hoofdvenster, administratie);
+    NeemControle(bezoek, hoofdvenster, administratie);
+    Neem(bezoek, diaToevoegen(administratie, &hoofdvenster));
+    NeemKoppelvenster(bezoek, hoofdvenster, administratie);
+    Neem(bezoek, frmToelichting(&hoofdvenster));
+    Neem(bezoek, frmUitleg(&hoofdvenster));
+    NeemParen(bezoek, administratie, hoofdvenster);
+    NeemSorteerlijst(bezoek, hoofdvenster, administratie.spelers.tabel);
 }
 
 } // namespace plexoran
