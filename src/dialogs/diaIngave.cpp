@@ -203,7 +203,13 @@ void diaIngave::BouwHulp(QGridLayout* rooster, int rij)
     cmdH->setToolTip(u"Hulp voor Status"_s);
     cmdH->setFocusPolicy(Qt::TabFocus);
     cmdH->setFixedSize(maten_.Twips(RijHoog), maten_.Twips(RijHoog));
-    connect(cmdH, &QPushButton::clicked, this, &diaIngave::ToonHulp);
+    connect(cmdH, &QPushButton::clicked, this, [this] {
+        Meld(this, QMessageBox::Information,
+             u"Status: type 'overl' of 'overleden'. (is overleden)\r\n\r\nDeze speler wordt niet "
+             "meer getoond bij 'Zittingindelen'.\r\n\r\n\r\nTekst mag in hoofdletters of kleine "
+             "letters."_s,
+             u"Hulp voor Status"_s);
+    });
     auto* naastKeus = new QHBoxLayout;
     naastKeus->addSpacing(maten_.Twips(Inspringing));
     naastKeus->addWidget(cmdH);
@@ -286,14 +292,6 @@ void diaIngave::KiesTerugkeerveld(int veld)
     bewaar_();
     if (KanTerugkeerveld(veld))
         GaNaar(veld);
-}
-
-void diaIngave::ToonHulp()
-{
-    Meld(this, QMessageBox::Information,
-         u"Status: type 'overl' of 'overleden'. (is overleden)\r\n\r\nDeze speler wordt niet meer "
-         "getoond bij 'Zittingindelen'.\r\n\r\n\r\nTekst mag in hoofdletters of kleine letters."_s,
-         u"Hulp voor Status"_s);
 }
 
 /// The text is mended at once; the messages follow when what took the focus away is done.

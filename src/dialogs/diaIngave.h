@@ -41,7 +41,6 @@ class diaIngave : public QDialog {
     void MeldReparaties();
     void KiesTerugkeerveld(int veld);
     void GaNaar(int veld);
-    void ToonHulp();
     /// True when everything was handed back; false, which it told, when there is no surname.
     [[nodiscard]] bool GeefTerug();
 
