@@ -85,7 +85,9 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 Tekst SpelersTekst(const Register& spelers)
 {
     const Spelertabel& tabel = spelers.tabel;
-    Tekst tekst = "HKEY=" + std::to_string(spelers.HKEY) + "\r\n";
+    Tekst tekst;
+    tekst.reserve(tabel.AantalBytes() + tabel.AantalBytes() / 8);
+    tekst += "HKEY=" + std::to_string(spelers.HKEY) + "\r\n";
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         if (tabel.Cel(rij, Kolom::Key).empty())
             continue;

@@ -76,6 +76,8 @@ class Spelertabel {
     Spelertabel(Tekst tekst, std::vector<Celgrenzen> rijen);
 
     [[nodiscard]] int Rijen() const { return static_cast<int>(rijen_.size()); }
+    /// About as many as its file has.
+    [[nodiscard]] std::size_t AantalBytes() const { return tekst_.size(); }
 
     /// The view holds until the table is changed.
     [[nodiscard]] Tekstblik Cel(int rij, Kolom kolom) const
