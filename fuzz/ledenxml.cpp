@@ -4,8 +4,8 @@
 
 #include "eis.h"
 #include "federation/ledenbestand.h"
+#include "federation/ledenbronnen.h"
 #include "federation/ledencsv.h"
-#include "federation/ledenxml.h"
 #include "schijven/geheugenSchijf.h"
 
 using namespace plexoran;

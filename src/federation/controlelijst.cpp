@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 #include "platform/tekst/tekstorde.h"
 
@@ -11,13 +10,6 @@ namespace {
 
 constexpr std::size_t GroepBreed = 10;
 constexpr std::array<std::size_t, AantalControlekolommen> Breedten{10, 5, GroepBreed, 20};
-constexpr Tekstblik Scheiding = "  ";
-
-void Voeg(Tekst& regel, Tekstblik tekst, std::size_t breedte)
-{
-    regel += tekst;
-    regel.append(breedte - std::min(breedte, tekst.size()), ' ');
-}
 
 /// The surname of a partner without a name of his own is one word in every source.
 Tekst Achternaam(Tekstblik achternaam)
@@ -38,12 +30,6 @@ Tekst Naamkolom(const Importvelden& velden)
     return naam;
 }
 
-/// Without the blanks that only fill a column.
-Tekstblik ZonderSlot(Tekstblik tekst)
-{
-    return tekst.substr(0, tekst.find_last_not_of(' ') + 1);
-}
-
 } // namespace
 
 Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep)
@@ -54,43 +40,28 @@ Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep)
     const std::array<Tekstblik, AantalControlekolommen> teksten{
         velden[Importveld::NBBnr], velden[Importveld::MV], ledengroep.substr(0, GroepBreed), naam};
     for (std::size_t i = 0; i < teksten.size(); ++i) {
-        if (i > 0)
-            uit.regel += Scheiding;
+        uit.regel += i == 0 ? "" : "  ";
         uit.begin[i] = uit.regel.size();
-        Voeg(uit.regel, teksten[i], Breedten[i]);
+        uit.regel += teksten[i];
+        uit.regel.append(Breedten[i] - std::min(Breedten[i], teksten[i].size()), ' ');
     }
     return uit;
 }
 
-std::vector<std::size_t> VolgordeOpNaam(const std::vector<Controleregel>& lstN9)
+std::vector<Controleregel> OpNaam(std::vector<Controleregel> lstN9)
 {
-    std::vector<Tekst> sleutels;
-    sleutels.reserve(lstN9.size());
-    for (const Controleregel& regel : lstN9)
-        sleutels.push_back(Sorteersleutel(regel.Naam()));
-    std::vector<std::size_t> volgorde(lstN9.size());
-    std::iota(volgorde.begin(), volgorde.end(), std::size_t{0});
-    std::stable_sort(volgorde.begin(), volgorde.end(), [&](std::size_t een, std::size_t ander) {
-        return sleutels[een] < sleutels[ander];
-    });
-    return volgorde;
+    std::stable_sort(lstN9.begin(), lstN9.end(),
+                     [](const Controleregel& een, const Controleregel& ander) {
+                         return KomtVoor(een.Naam(), ander.Naam());
+                     });
+    return lstN9;
 }
 
-Controlerijen::Controlerijen(const std::vector<Controleregel>& lstN9,
-                             std::vector<std::size_t> volgorde, std::size_t breedte)
-    : lstN9_(lstN9), volgorde_(std::move(volgorde)), breedte_(std::max<std::size_t>(1, breedte)),
-      aantal_(lstN9.size())
+Controlerijen::Controlerijen(const std::vector<Controleregel>& regels, std::size_t breedte)
+    : breedte_(std::max<std::size_t>(1, breedte))
 {
-    const bool past = std::all_of(lstN9.begin(), lstN9.end(), [this](const Controleregel& regel) {
-        return ZonderSlot(regel.regel).size() <= breedte_;
-    });
-    if (!past)
-        Splits();
-}
-
-const Controleregel& Controlerijen::Regel(std::size_t plaats) const
-{
-    return lstN9_[volgorde_.empty() ? plaats : volgorde_[plaats]];
+    for (const Controleregel& regel : regels)
+        Splits(regel);
 }
 
 /// Of the rows that go on: under the name, where that leaves some room.
@@ -100,49 +71,41 @@ std::size_t Controlerijen::Inspringing(const Controleregel& regel) const
     return regel.begin.back() + ruimte <= breedte_ ? regel.begin.back() : 0;
 }
 
-/// Between two words of the name where that can be.
-void Controlerijen::Splits()
+/// Between two words of the name where that can be. The blanks that only fill up the last column
+/// need no row.
+void Controlerijen::Splits(const Controleregel& regel)
 {
-    for (std::size_t plaats = 0; plaats < lstN9_.size(); ++plaats) {
-        const Controleregel& regel = Regel(plaats);
-        const Tekstblik tekst = ZonderSlot(regel.regel);
-        std::size_t ruimte = breedte_;
-        std::size_t vanaf =
-            std::min(regel.begin.back() + 1, tekst.size()); // no break before the name
-        std::size_t begin = 0;
-        while (tekst.size() - begin > ruimte) {
-            // Only looked for in this row: a word may be as long as the file.
-            const auto blanco = tekst.substr(begin, ruimte + 1).rfind(' ');
-            const bool past = blanco != Tekstblik::npos && blanco > 0 && begin + blanco >= vanaf;
-            const std::size_t eind = begin + (past ? blanco : ruimte);
-            delen_.push_back({plaats, begin, eind});
-            begin = tekst.substr(eind).starts_with(' ') ? eind + 1 : eind;
-            ruimte = breedte_ - Inspringing(regel);
-            vanaf = 0;
-        }
-        delen_.push_back({plaats, begin, tekst.size()});
+    const Tekstblik tekst = Tekstblik(regel.regel).substr(0, regel.regel.find_last_not_of(' ') + 1);
+    std::size_t ruimte = breedte_;
+    std::size_t vanaf = std::min(regel.begin.back() + 1, tekst.size()); // no break before the name
+    std::size_t begin = 0;
+    while (tekst.size() - begin > ruimte) {
+        // Only looked for in this row: a word may be as long as the file.
+        const auto blanco = tekst.substr(begin, ruimte + 1).rfind(' ');
+        const bool past = blanco != Tekstblik::npos && blanco > 0 && begin + blanco >= vanaf;
+        const std::size_t eind = begin + (past ? blanco : ruimte);
+        delen_.push_back({&regel, begin, eind});
+        begin = tekst.substr(eind).starts_with(' ') ? eind + 1 : eind;
+        ruimte = breedte_ - Inspringing(regel);
+        vanaf = 0;
     }
-    aantal_ = delen_.size();
+    delen_.push_back({&regel, begin, begin == 0 ? regel.regel.size() : tekst.size()});
 }
 
 Tekst Controlerijen::Rij(std::size_t nummer) const
 {
-    if (delen_.empty())
-        return Regel(nummer).regel;
-    const Deel& deel = delen_[nummer];
-    const Controleregel& regel = Regel(deel.plaats);
-    const Tekst tekst = regel.regel.substr(deel.begin, deel.eind - deel.begin);
-    return deel.begin == 0 ? tekst : Tekst(Inspringing(regel), ' ') + tekst;
+    const auto& [regel, begin, eind] = delen_[nummer];
+    return Tekst(begin == 0 ? 0 : Inspringing(*regel), ' ') +
+           regel->regel.substr(begin, eind - begin);
 }
 
 Tekstblik Controlerijen::Cel(std::size_t nummer, std::size_t kolom) const
 {
-    const Deel deel = delen_.empty() ? Deel{nummer, 0, Tekst::npos} : delen_[nummer];
-    const Controleregel& regel = Regel(deel.plaats);
-    const std::size_t van = std::max(deel.begin, regel.begin[kolom]);
-    const std::size_t tot = std::min(
-        deel.eind, kolom + 1 < regel.begin.size() ? regel.begin[kolom + 1] : regel.regel.size());
-    return van < tot ? ZonderSpaties(Tekstblik(regel.regel).substr(van, tot - van)) : Tekstblik();
+    const auto& [regel, begin, eind] = delen_[nummer];
+    const std::size_t van = std::max(begin, regel->begin[kolom]);
+    const std::size_t tot =
+        kolom + 1 < AantalControlekolommen ? std::min(eind, regel->begin[kolom + 1]) : eind;
+    return van < tot ? ZonderSpaties(Tekstblik(regel->regel).substr(van, tot - van)) : Tekstblik();
 }
 
 std::size_t TekensNaastElkaar(const Lettermeter& meter, double breed)
@@ -155,11 +118,10 @@ void TekenControlelijst(Tekenvlak& vlak, double links, double boven, Tekstblik k
                         const Controlerijen& rijen, std::size_t eerste, std::size_t aantal)
 {
     vlak.Schrijf(links, boven, controle::Schrift, kop);
-    const std::size_t over = rijen.Aantal() - std::min(rijen.Aantal(), eerste);
-    for (std::size_t i = 0; i < std::min(aantal, over); ++i) {
-        const double y =
-            boven + controle::Kophoogte + static_cast<double>(i) * controle::Regelhoogte;
-        vlak.Schrijf(links, y, controle::Schrift, rijen.Rij(eerste + i));
+    double y = boven + controle::Kophoogte;
+    for (std::size_t i = eerste; i < std::min(eerste + aantal, rijen.Aantal()); ++i) {
+        vlak.Schrijf(links, y, controle::Schrift, rijen.Rij(i));
+        y += controle::Regelhoogte;
     }
 }
 

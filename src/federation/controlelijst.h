@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-#include "federation/importregel.h"
+#include "federation/ledencsv.h"
 #include "platform/tekst/tekenvlak.h"
 
 namespace plexoran {
@@ -27,37 +27,33 @@ struct Controleregel {
 /// their column stand there whole and push the others along.
 [[nodiscard]] Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep);
 
-/// The order of the lines by name, in the one text order; lines with the same name keep theirs.
-[[nodiscard]] std::vector<std::size_t> VolgordeOpNaam(const std::vector<Controleregel>& lstN9);
+/// The lines by name, in the one text order; lines with the same name keep theirs.
+[[nodiscard]] std::vector<Controleregel> OpNaam(std::vector<Controleregel> lstN9);
 
 /// The listing in rows of at most so many characters: a longer line goes on in rows below it,
 /// under its name.
 class Controlerijen {
   public:
-    /// Borrows the lines. `volgorde` is empty for the order of the files.
-    Controlerijen(const std::vector<Controleregel>& lstN9, std::vector<std::size_t> volgorde,
-                  std::size_t breedte);
+    Controlerijen() = default;
+    /// Borrows the lines.
+    Controlerijen(const std::vector<Controleregel>& regels, std::size_t breedte);
 
-    [[nodiscard]] std::size_t Aantal() const { return aantal_; }
+    [[nodiscard]] std::size_t Aantal() const { return delen_.size(); }
     [[nodiscard]] Tekst Rij(std::size_t nummer) const;
     /// What of a column stands in a row, without the blanks around it.
     [[nodiscard]] Tekstblik Cel(std::size_t nummer, std::size_t kolom) const;
 
   private:
     struct Deel {
-        std::size_t plaats; ///< in the order
-        std::size_t begin;  ///< in the line
+        const Controleregel* regel;
+        std::size_t begin; ///< in the line
         std::size_t eind;
     };
-    [[nodiscard]] const Controleregel& Regel(std::size_t plaats) const;
     [[nodiscard]] std::size_t Inspringing(const Controleregel& regel) const;
-    void Splits();
+    void Splits(const Controleregel& regel);
 
-    const std::vector<Controleregel>& lstN9_;
-    std::vector<std::size_t> volgorde_;
-    std::size_t breedte_;
-    std::size_t aantal_;
-    std::vector<Deel> delen_; ///< empty when every line fits
+    std::size_t breedte_ = 1;
+    std::vector<Deel> delen_;
 };
 
 namespace controle {

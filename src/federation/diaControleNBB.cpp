@@ -34,9 +34,9 @@ Controlevlak::Controlevlak(const Letterkast& kast, const Maten& maten, const Sch
 QString Controlevlak::Celtekst(int regel, int kolom) const
 {
     const std::array koppen{u"NBBnr"_s, u"M/V"_s, u"NBBgroep"_s, u"Naam"_s};
-    const auto plaats = static_cast<std::size_t>(kolom);
-    return regel == 0 ? koppen[plaats]
-                      : NaarQString(rijen_->Cel(static_cast<std::size_t>(regel - 1), plaats));
+    const auto index = static_cast<std::size_t>(kolom);
+    return regel == 0 ? koppen[index]
+                      : NaarQString(rijen_.Cel(static_cast<std::size_t>(regel - 1), index));
 }
 
 double Controlevlak::Boven(int regel) const
@@ -55,13 +55,13 @@ double Controlevlak::Links(int kolom) const
     constexpr double wit = 1; // millimetres before the text
     if (kolom == Kolommen())
         return width() - wit * pixelsPerMm_;
-    const auto plaats = MaakControleregel({}, {}).begin[static_cast<std::size_t>(kolom)];
-    return (Rand - wit + kast_.Breedte(controle::Schrift, Tekst(plaats, ' '))) * pixelsPerMm_;
+    const auto begin = MaakControleregel({}, {}).begin[static_cast<std::size_t>(kolom)];
+    return (Rand - wit + kast_.Breedte(controle::Schrift, Tekst(begin, ' '))) * pixelsPerMm_;
 }
 
-void Controlevlak::Toon(const Controlerijen* rijen)
+void Controlevlak::Toon(Controlerijen rijen)
 {
-    rijen_ = rijen;
+    rijen_ = std::move(rijen);
     const int zichtbaar = ZichtbareRijen();
     Schuifkader::Stel(Kader().Staand(), Regels(), zichtbaar, zichtbaar - 1, 1);
     if (Regel() == 0 || Regel() > Regels())
@@ -97,12 +97,10 @@ void Controlevlak::resizeEvent(QResizeEvent* gebeurtenis)
 
 void Controlevlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 {
-    if (rijen_ == nullptr)
-        return;
     QPainter schilder(this);
     Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm, {},
                       palette().color(QPalette::Text));
-    TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, *rijen_,
+    TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, rijen_,
                        static_cast<std::size_t>(Kader().Staand().value()),
                        static_cast<std::size_t>(ZichtbareRijen()) + 1);
     TekenKeus(schilder, 0);
@@ -116,7 +114,6 @@ diaControleNBB::diaControleNBB(Administratie& administratie, const Ledenopdracht
     : QDialog(ouder), administratie_(administratie)
 {
     Bouw();
-    Verbind();
     Lees(opdracht, namen);
     Teken();
     P1->setFocus();
@@ -127,7 +124,7 @@ void diaControleNBB::Bouw()
     setObjectName(u"diaControleNBB"_s);
     setWindowTitle(u"Controle NBB-spelers op ontbrekende NBBnrs en M/V"_s);
     setSizeGripEnabled(true);
-    Frame2 = new Schuifkader(u"Frame2"_s, maten_, this);
+    auto* Frame2 = new Schuifkader(u"Frame2"_s, maten_, this);
     P1 = new Controlevlak(kast_, maten_, *Frame2, Frame2);
     Frame2->Bevat(P1);
     Frame2->Liggend().hide(); // what is too wide goes on below
@@ -135,7 +132,7 @@ void diaControleNBB::Bouw()
     chkSort = new QCheckBox(MetSneltoets(u"Sorteer op naam"_s, u'S'), this);
     Noem(chkSort, u"chkSort"_s);
     cmdPrint = MaakKnop(u"cmdPrint"_s, u"Print"_s, u'P', this);
-    cmdTerug = MaakKnop(u"cmdTerug"_s, u"Terug"_s, u'T', this);
+    auto* cmdTerug = MaakKnop(u"cmdTerug"_s, u"Terug"_s, u'T', this);
     cmdTerug->setDefault(true);
 
     auto* onder = new QHBoxLayout;
@@ -155,12 +152,9 @@ void diaControleNBB::Bouw()
                            cmdPrint->sizeHint().height()});
     Frame2->setMinimumSize(balk + maten_.Twips(1500), maten_.Twips(1500));
     ZetTabvolgorde({P1, chkSort, cmdPrint, cmdTerug});
-}
 
-void diaControleNBB::Verbind()
-{
     connect(P1, &Controlevlak::geschaald, this, &diaControleNBB::Teken);
-    connect(chkSort, &QCheckBox::clicked, this, [this] {
+    connect(chkSort, &QCheckBox::clicked, this, [this, Frame2] {
         Frame2->Staand().setValue(0);
         Teken();
         P1->KiesRegel(std::min(1, P1->Regels()));
@@ -201,43 +195,6 @@ void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst
         if (voortgang.Gestopt() && gelezen < namen.size())
             opmerkingen << u"Het lezen is gestopt: de lijst is niet volledig."_s;
     }
-    MeldOpmerkingen(opmerkingen);
-}
-
-void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList& opmerkingen)
-{
-    const Tekst groep(ZonderSpaties(SubgroepUitNaam(naam)));
-    for (const Tekstblik regel : lezing.lstN1)
-        lstN9.push_back(MaakControleregel(regel, groep));
-    const QString bestand = NaarQString(naam);
-    if (lezing.nietGeladen)
-        opmerkingen << u"'%1': geen leden, want %2."_s.arg(bestand,
-                                                           Leesfoutreden(*lezing.nietGeladen));
-    if (lezing.anderNummer)
-        opmerkingen
-            << u"'%1': dit zijn de leden van het ledenbestand met nummer %2, want van het nummer "
-               "tellen alleen de laatste drie tekens."_s.arg(bestand)
-                   .arg(*lezing.anderNummer);
-    if (lezing.inUtf8)
-        opmerkingen
-            << u"'%1': opgeslagen in UTF-8, dus letters met een accent komen verkeerd over."_s.arg(
-                   bestand);
-    if (lezing.teKorteRegel > 0)
-        opmerkingen << u"'%1': gelezen tot regel %2, want die regel heeft te weinig kolommen."_s
-                           .arg(bestand)
-                           .arg(lezing.teKorteRegel);
-    if (!lezing.metIsTeken.empty())
-        opmerkingen << u"'%1': %2 overgeslagen, omdat er een '=' in staat, zoals in een kopregel."_s
-                           .arg(bestand, Aantal(lezing.metIsTeken.size(), u"regel"_s, u"regels"_s));
-    if (lezing.vervangenTekens > 0)
-        opmerkingen
-            << u"'%1': aantal tekens dat het spelerbestand niet kent en dat is vervangen door een "
-               "teken dat erop lijkt, of is weggelaten: %2."_s.arg(bestand)
-                   .arg(lezing.vervangenTekens);
-}
-
-void diaControleNBB::MeldOpmerkingen(const QStringList& opmerkingen)
-{
     if (!opmerkingen.isEmpty())
         MeldLijst(
             parentWidget(), QMessageBox::Information,
@@ -246,19 +203,44 @@ void diaControleNBB::MeldOpmerkingen(const QStringList& opmerkingen)
                 opmerkingen.join(u"\r\n"_s));
 }
 
+void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList& opmerkingen)
+{
+    const Tekst groep(ZonderSpaties(SubgroepUitNaam(naam)));
+    for (const Tekstblik regel : lezing.lstN1)
+        lstN9.push_back(MaakControleregel(regel, groep));
+    const auto noem = [&](const QString& wat) {
+        opmerkingen << u"'%1': "_s.arg(NaarQString(naam)) + wat;
+    };
+    if (lezing.nietGeladen)
+        noem(u"geen leden, want %1."_s.arg(Leesfoutreden(*lezing.nietGeladen)));
+    if (lezing.anderNummer)
+        noem(u"dit zijn de leden van het ledenbestand met nummer %1, want van het nummer tellen "
+             "alleen de laatste drie tekens."_s.arg(*lezing.anderNummer));
+    if (lezing.inUtf8)
+        noem(u"opgeslagen in UTF-8, dus letters met een accent komen verkeerd over."_s);
+    if (lezing.teKorteRegel > 0)
+        noem(u"gelezen tot regel %1, want die regel heeft te weinig kolommen."_s.arg(
+            lezing.teKorteRegel));
+    if (!lezing.metIsTeken.empty())
+        noem(u"%1 overgeslagen, omdat er een '=' in staat, zoals in een kopregel."_s.arg(
+            Aantal(lezing.metIsTeken.size(), u"regel"_s, u"regels"_s)));
+    if (lezing.vervangenTekens > 0)
+        noem(u"aantal tekens dat het spelerbestand niet kent en dat is vervangen door een teken "
+             "dat erop lijkt, of is weggelaten: %1."_s.arg(lezing.vervangenTekens));
+}
+
 // ---------------------------------------------------------------- showing
 
 Controlerijen diaControleNBB::Rijen(std::size_t breedte) const
 {
-    return {lstN9, chkSort->isChecked() ? opNaam_ : std::vector<std::size_t>(), breedte};
+    return {chkSort->isChecked() ? opNaam_ : lstN9, breedte};
 }
 
 void diaControleNBB::Teken()
 {
     if (chkSort->isChecked() && opNaam_.size() != lstN9.size())
-        opNaam_ = VolgordeOpNaam(lstN9);
-    rijen_ = std::make_unique<Controlerijen>(Rijen(P1->Breedte()));
-    P1->Toon(rijen_.get());
+        opNaam_ = OpNaam(lstN9);
+    P1->Toon(Rijen(P1->Breedte()));
     lblAantal->setText(u"Aantal leden: %1"_s.arg(lstN9.size()));
     cmdPrint->setEnabled(!lstN9.empty());
 }

@@ -25,18 +25,14 @@ class Controlevlak : public Tabelvlak {
     Controlevlak(const Letterkast& kast, const Maten& maten, const Schuifkader& kader,
                  QWidget* ouder);
 
-    [[nodiscard]] int Regels() const override
-    {
-        return rijen_ == nullptr ? 0 : static_cast<int>(rijen_->Aantal());
-    }
+    [[nodiscard]] int Regels() const override { return static_cast<int>(rijen_.Aantal()); }
     [[nodiscard]] int Kolommen() const override { return AantalControlekolommen; }
     [[nodiscard]] QString Celtekst(int regel, int kolom) const override;
     [[nodiscard]] double Boven(int regel) const override;
     [[nodiscard]] double Links(int kolom) const override;
     [[nodiscard]] double Koponder() const override;
 
-    /// Borrows the rows, until others come.
-    void Toon(const Controlerijen* rijen);
+    void Toon(Controlerijen rijen);
     /// How many characters are seen beside each other.
     [[nodiscard]] std::size_t Breedte() const;
     /// The size at which so many characters and rows are seen.
@@ -56,7 +52,7 @@ class Controlevlak : public Tabelvlak {
 
     const Letterkast& kast_;
     double pixelsPerMm_;
-    const Controlerijen* rijen_ = nullptr;
+    Controlerijen rijen_;
 };
 
 class diaControleNBB : public QDialog {
@@ -72,10 +68,8 @@ class diaControleNBB : public QDialog {
 
   private:
     void Bouw();
-    void Verbind();
     void Lees(const Ledenopdracht& opdracht, const std::vector<Tekst>& namen);
     void Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList& opmerkingen);
-    void MeldOpmerkingen(const QStringList& opmerkingen);
     [[nodiscard]] Controlerijen Rijen(std::size_t breedte) const;
     void Teken();
     void Print();
@@ -83,16 +77,13 @@ class diaControleNBB : public QDialog {
     Administratie& administratie_;
     Maten maten_;
     Letterkast kast_;
-    std::vector<Controleregel> lstN9; ///< the listing lines in the order of the files
-    std::vector<std::size_t> opNaam_; ///< made when it is first asked for
-    std::unique_ptr<Controlerijen> rijen_;
+    std::vector<Controleregel> lstN9;   ///< the listing lines in the order of the files
+    std::vector<Controleregel> opNaam_; ///< the same by name, when that was first asked for
 
-    Schuifkader* Frame2 = nullptr;
     QLabel* lblAantal = nullptr;
     QCheckBox* chkSort = nullptr;
     Controlevlak* P1 = nullptr;
     QPushButton* cmdPrint = nullptr;
-    QPushButton* cmdTerug = nullptr;
 };
 
 } // namespace plexoran

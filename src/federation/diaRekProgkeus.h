@@ -2,8 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QPushButton>
-#include <QRadioButton>
 
 #include "register/administratie.h"
 
@@ -19,12 +17,7 @@ class diaRekProgkeus : public QDialog {
     [[nodiscard]] Programma Antwoord() const { return antwoord_; }
 
   private:
-    void Kies(Programma programma);
-
     Programma antwoord_ = Programma::Geen;
-    QRadioButton* Option1;
-    QRadioButton* Option2;
-    QPushButton* cmdOK;
 };
 
 } // namespace plexoran

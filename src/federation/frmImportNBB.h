@@ -1,29 +1,18 @@
 // The import of federation members: where they come from, which data travel along, and the run over
-// the chosen member files. The window changes the table in memory; saving is the main window's.
+// the chosen member files.
 #pragma once
 
 #include <QCheckBox>
 #include <QDialog>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
-#include <map>
-#include <optional>
-
-#include "federation/ledenbestand.h"
-#include "federation/samenvoegen.h"
+#include "federation/ledenimport.h"
 #include "platform/scherm/regellijst.h"
-#include "register/administratie.h"
 
 namespace plexoran {
-
-/// What was chosen last, for as long as the program runs.
-struct Importgeheugen {
-    std::map<Ledenbron, Pad> mappen; ///< the folder per kind of source
-    std::optional<Ledenbron> bron;
-};
 
 class frmImportNBB : public QDialog {
     Q_OBJECT
@@ -31,93 +20,54 @@ class frmImportNBB : public QDialog {
   public:
     frmImportNBB(Administratie& administratie, Importgeheugen& geheugen, QWidget* ouder);
 
-    /// Whether a player was refreshed or added, so that there is something to save.
-    [[nodiscard]] bool IetsGewijzigd() const { return ietsGewijzigd_; }
-
-    /// Of reading the database; asked for when a source is chosen.
-    void ZetGrenzen(const Accessgrenzen& grenzen) { grenzen_ = grenzen; }
+    [[nodiscard]] bool IetsGewijzigd() const { return import_.IetsGewijzigd(); }
+    void ZetGrenzen(const Accessgrenzen& grenzen) { import_.ZetGrenzen(grenzen); }
 
     /// Not while an import runs.
     void reject() override;
 
   private:
-    /// Whether the next member file may follow.
-    enum class Verloop { Verder, Afgebroken };
-
-    // Building (frmImportNBB_bouw.cpp)
-    void MaakDelen();
-    void MaakHulpknoppen();
+    // Building and help (frmImportNBB_bouw.cpp)
     void Bouw();
-    QGroupBox* BouwBronnen();
-    QGroupBox* BouwGegevens();
-    QWidget* BouwKeuze();
-    QWidget* BouwHulp();
-    void StelTabvolgordeIn();
-    void Verbind();
+    QWidget* BouwBronnen();
+    QWidget* BouwGegevens();
+    QLayout* BouwKeuze();
+    QLayout* BouwHulp();
 
-    // Help (frmImportNBB_hulp.cpp)
-    void VerbindHulp();
-
-    // Where the members come from (frmImportNBB_bronnen.cpp)
-    void ToonAanbod();
+    // Where the members come from (frmImportNBB.cpp)
     void KiesBron(Ledenbron bron);
     void KiesDatabase();
     void KiesExportMap();
-    bool ToonMap(const Pad& map, Tekstblik gekozen);
-    bool ZoekBestanden(std::vector<Tekst> namen);
-    void KiesInLijst(Tekstblik gekozen);
-    void MeldNietVanSoort(const Tekst& gekozen);
-    void ToonLijsttekst(const QString& tekst);
-    void VulLijst(std::vector<Tekst> namen);
+    bool ToonMap(const Pad& map, Tekstblik aangewezen);
+    void MeldNietVanSoort(const Tekst& aangewezen);
+    void ToonLijst(const QString& aantal = {});
     void MaakBruikbaar(bool bruikbaar);
-    [[nodiscard]] Pad Beginmap() const;
-    [[nodiscard]] std::vector<Tekst> GekozenBestanden() const;
+    [[nodiscard]] std::vector<Tekst> GekozenBestanden();
     [[nodiscard]] Ledenopdracht Opdracht() const;
     void ControleerNBBnrs();
 
     // The run (frmImportNBB_import.cpp)
     void ImporteerLedenbestanden();
-    [[nodiscard]] Verloop LeesEnImporteer(const Ledenopdracht& opdracht, const Tekst& naam);
-    [[nodiscard]] Verloop ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing);
-    void RuimTussenbestandOp(const Ledenopdracht& opdracht, const Tekst& naam);
+    [[nodiscard]] bool LeesEnImporteer(const Ledenopdracht& opdracht, const Tekst& naam);
+    [[nodiscard]] bool ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing);
     void MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezing& lezing);
     void MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing, const Samenvoeging& uitkomst);
     void MeldAfgebroken(const Tekst& naam, Samenvoegfout fout);
 
     Administratie& administratie_;
-    Importgeheugen& geheugen_;
-    std::optional<Ledenbron> bron_;
-    Pad map_; ///< the chosen folder of exports; empty without one
-    Pad LedenDatabase_;
-    Accessgrenzen grenzen_;
-    std::vector<Tekst> namen_; ///< the entries of lstNBBbest
-    bool ietsGewijzigd_ = false;
+    Ledenimport import_;
     bool bezig_ = false; ///< an import runs
 
-    QLabel* lblOpening = nullptr;
-    QRadioButton* Option1 = nullptr;
-    QRadioButton* Option2 = nullptr;
-    QRadioButton* Option3 = nullptr;
-    QRadioButton* Option4 = nullptr;
+    std::array<QRadioButton*, 4> opties_{}; ///< in the order of the sources
     QPushButton* cmdKiesExportMap = nullptr;
     QLabel* lblExportMap = nullptr;
     QLabel* Label3 = nullptr;
     Regellijst* lstNBBbest = nullptr;
-    QCheckBox* chkVoornaam = nullptr;
-    QCheckBox* chkTus = nullptr;
-    QCheckBox* chkAchternaam = nullptr;
-    QCheckBox* chkNBBnr = nullptr;
     QCheckBox* chkNAW = nullptr;
     QCheckBox* chkTel = nullptr;
     QCheckBox* chkEmail = nullptr;
     QCheckBox* chkMV = nullptr;
     QPushButton* cmdControleNBBnrs = nullptr;
-    QPushButton* cmdHint = nullptr;
-    QPushButton* cmdHelpImport28 = nullptr;
-    QPushButton* cmdHelpImport31 = nullptr;
-    QPushButton* cmdHelpImport4 = nullptr;
-    QPushButton* cmbHelpCSV = nullptr;
-    QPushButton* cmdAnnuleren = nullptr;
     QPushButton* cmdImporteer = nullptr;
 };
 

@@ -1,8 +1,9 @@
-// Building the import window: its controls, their captions and places.
+// Building the import window, and its help: how members leave the scoring programs.
 #include <QGridLayout>
-#include <QVBoxLayout>
+#include <QGroupBox>
 
 #include "federation/frmImportNBB.h"
+#include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
 
@@ -29,7 +30,55 @@ QString Openingstekst(const Tekst& importgroep)
                .arg(NaarQString(importgroep));
 }
 
-QVBoxLayout* Onderelkaar(std::initializer_list<QWidget*> delen)
+const QString Hint =
+    u"Als u fictieve 'NBB-nrs' moet toekennen aan spelers die nog geen nummer hebben, bijv "
+    "gasten, dan begint u gewoon te nummeren bij bijv 100.\r\n"
+    "Blijf altijd onder 9999 om niet in conflict te komen met de echte NBB-nummers.\r\n"
+    "Op een gegeven moment weet u niet meer welke nummers al geweest zijn.\r\n"
+    "Om snel te weten wat het laatst toegekende nummer was kunt u het volgende doen:\r\n"
+    " - Druk (rechtsonder) op de knop 'Sorteerlijst op' >> 'NBB-nr'.\r\n"
+    " - Of: In het NBB-programma: klik in de ledenlijst op de titel 'Bondsnummer', er "
+    "verschijnt dan een 'warrige' sorteerlijst."_s;
+
+/// How an export is made: what all programs ask, and from the fourth step on what differs.
+QString Stappenplan(const QString& programma, const QString& soort, const QString& wat,
+                    const QString& vervolg)
+{
+    return u"Zo exporteert u een %1 uit %2:\r\n\r\n"
+           "1. Start %2 en open de ledenlijst.\r\n"
+           "2. Kies het ledenbestand dat u wilt exporteren, bijvoorbeeld 'Club'.\r\n"
+           "3. Kies voor exporteren, en als soort een %3-bestand.\r\n"
+           "%4\r\n\r\n"
+           "Let op: Als u de naam van een ledenbestand zou willen wijzigen moet u de "
+           "ledenbestandsnaam voorop laten staan gevolgd door een spatie.\r\n"
+           "Voorbeeld: 'Club 20170125' mag u wijzigen in 'Club Nijmegen'."_s.arg(wat, programma,
+                                                                                 soort, vervolg);
+}
+
+const QString VervolgNBBR28 =
+    u"4. Sla het bestand op in een map die u kunt terugvinden en onthoud die map. De naam die "
+    "NBBR voorstelt, is goed.\r\n"
+    "5. Herhaal dit voor elk ledenbestand dat u nodig hebt.\r\n"
+    "6. Kies hier 'uit een geexporteerd CSV-ledenbestand', druk op de knop om een map te kiezen "
+    "en kies in die map het bestand.\r\n\r\n"
+    "Staat NBBR-2.8 op deze computer en is 'direct uit NBBR 2.8' te kiezen, dan hoeft u niets te "
+    "exporteren."_s;
+const QString VervolgNBBR31 =
+    u"4. Sla het bestand op in een map die u kunt terugvinden, bijvoorbeeld "
+    "'...Documenten\\NBB4-Leden', en onthoud die map.\r\n"
+    "5. Kies hier 'uit een geexporteerd XML-ledenbestand' met '(uit NBBR-3)' erbij, druk op de "
+    "knop om een map te kiezen en kies in die map het bestand."_s;
+const QString MapNBBR4 =
+    u"4. Sla het bestand op in de map '...Documenten\\NBB4-Leden'. Daar wordt hier het eerst "
+    "gekeken.\r\n"_s;
+const QString VervolgXml4 =
+    u"5. Kies hier onder 'Uit NBB-4:' de optie 'uit een geexporteerd XML-ledenbestand', druk "
+    "zo nodig op de knop om een andere map te kiezen en klik het bestand aan in de lijst."_s;
+const QString VervolgCsv4 =
+    u"5. Kies hier 'uit een geexporteerd CSV-ledenbestand', druk zo nodig op de knop om een "
+    "andere map te kiezen en klik het bestand aan in de lijst."_s;
+
+QVBoxLayout* Onderelkaar(const QList<QWidget*>& delen)
 {
     auto* lagen = new QVBoxLayout;
     for (QWidget* deel : delen)
@@ -37,140 +86,107 @@ QVBoxLayout* Onderelkaar(std::initializer_list<QWidget*> delen)
     return lagen;
 }
 
-/// A label that says more of the control above it, a little to the right.
-QHBoxLayout* Ingesprongen(QLabel* label)
+QCheckBox* MaakVink(const QString& naam, const QString& tekst, char16_t letter, QWidget* ouder)
 {
-    auto* rij = new QHBoxLayout;
-    rij->setContentsMargins(24, 0, 0, 4);
-    rij->addWidget(label);
-    return rij;
+    auto* vakje = new QCheckBox(MetSneltoets(tekst, letter), ouder);
+    Noem(vakje, naam);
+    vakje->setChecked(true);
+    vakje->setEnabled(letter != 0); // the others always travel along
+    vakje->setToolTip(
+        letter == 0
+            ? u"Wordt altijd geïmporteerd"_s
+            : u"Zonder vinkje wordt dit gegeven ook leeggemaakt bij spelers die er al staan"_s);
+    return vakje;
 }
 
 } // namespace
 
-void frmImportNBB::MaakDelen()
-{
-    const auto keus = [this](const QString& naam, const QString& tekst, char16_t letter,
-                             const QString& gesproken) {
-        auto* optie = new QRadioButton(MetSneltoets(tekst, letter), this);
-        Noem(optie, naam, gesproken);
-        return optie;
-    };
-    // Two options bear the same caption: only their labels, and their spoken names, differ.
-    const QString xml = u"uit een geexporteerd XML-ledenbestand"_s;
-    Option1 = keus(u"Option1"_s,
-                   administratie_.rekenprogramma.ProgrammaCode == "BRIT" ? u"direct uit Bridge-It"_s
-                                                                         : u"direct uit NBBR 2.8"_s,
-                   u'd', {});
-    Option2 = keus(u"Option2"_s, u"uit een geexporteerd CSV-ledenbestand"_s, u'C', {});
-    Option3 = keus(u"Option3"_s, xml, u'X', xml + u" uit NBBR-3"_s);
-    Option4 = keus(u"Option4"_s, xml, u'L', xml + u" uit NBB-4"_s);
-
-    const auto vink = [this](const QString& naam, const QString& tekst, char16_t letter) {
-        auto* vakje = new QCheckBox(MetSneltoets(tekst, letter), this);
-        Noem(vakje, naam);
-        vakje->setChecked(true);
-        return vakje;
-    };
-    chkVoornaam = vink(u"chkVoornaam"_s, u"Voornaam"_s, 0);
-    chkTus = vink(u"chkTus"_s, u"Tussenvoegsel"_s, 0);
-    chkAchternaam = vink(u"chkAchternaam"_s, u"Achternaam"_s, 0);
-    chkNBBnr = vink(u"chkNBBnr"_s, u"NBBnummer"_s, 0);
-    for (QCheckBox* altijd : {chkVoornaam, chkTus, chkAchternaam, chkNBBnr}) {
-        altijd->setEnabled(false);
-        altijd->setToolTip(u"Wordt altijd geïmporteerd"_s);
-    }
-    chkNAW = vink(u"chkNAW"_s, u"NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"_s, u'N');
-    chkTel = vink(u"chkTel"_s, u"Telefoonnr"_s, u'f');
-    chkEmail = vink(u"chkEmail"_s, u"Emailadres"_s, u'E');
-    chkMV = vink(u"chkMV"_s, u"M/V"_s, u'M');
-    for (QCheckBox* naarKeus : {chkNAW, chkTel, chkEmail, chkMV})
-        naarKeus->setToolTip(
-            u"Zonder vinkje wordt dit gegeven ook leeggemaakt bij spelers die er al staan"_s);
-    MaakHulpknoppen();
-}
-
-void frmImportNBB::MaakHulpknoppen()
-{
-    const auto knop = [this](const char16_t* naam, const char16_t* tekst, char16_t letter) {
-        return MaakKnop(QString::fromUtf16(naam), QString::fromUtf16(tekst), letter, this);
-    };
-    cmdKiesExportMap = knop(u"cmdKiesExportMap", u"Kies een map", u'K');
-    cmdControleNBBnrs =
-        knop(u"cmdControleNBBnrs", u"Overzicht NBBnrs van geselecteerde groepen", u'O');
-    cmdHint = knop(u"cmdHint", u"Hint voor toekennen van fictieve NBB-nummers", u'H');
-    cmdHelpImport28 =
-        knop(u"cmdHelpImport28", u"Hoe exporteer je een ledenbestand uit NBBR-2.8?", u'2');
-    cmdHelpImport31 =
-        knop(u"cmdHelpImport31", u"Hoe exporteer je een ledenbestand uit  NBBR-3.1?", u'3');
-    cmdHelpImport4 =
-        knop(u"cmdHelpImport4", u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?", u'4');
-    cmbHelpCSV = knop(u"cmbHelpCSV", u"Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?", u'V');
-    cmdAnnuleren = knop(u"cmdAnnuleren", u"Terug", u'T');
-    cmdImporteer = knop(u"cmdImporteer", u"Importeer", u'I');
-    cmdImporteer->setDefault(true);
-}
-
+/// The controls are made in the order in which Tab goes through them.
 void frmImportNBB::Bouw()
 {
     setObjectName(u"frmImportNBB"_s);
     setWindowTitle(u"Importeer een NBB-ledenbestand"_s);
-    MaakDelen();
-    auto* inhoud = new QWidget(this);
-    lblOpening =
-        MaakLopendeTekst(u"lblOpening"_s, Openingstekst(administratie_.mappen.DFIMPG), inhoud);
-
     auto* links = new QVBoxLayout;
     links->addWidget(BouwBronnen());
     links->addWidget(BouwGegevens());
     links->addStretch();
     auto* kolommen = new QHBoxLayout;
     kolommen->addLayout(links);
-    kolommen->addWidget(BouwKeuze(), 1);
+    kolommen->addLayout(BouwKeuze(), 1);
 
-    auto* lagen = new QVBoxLayout(inhoud);
-    lagen->setContentsMargins(0, 0, 0, 0);
-    lagen->addWidget(lblOpening);
+    auto* lagen = new QVBoxLayout(this);
+    lagen->addWidget(
+        MaakLopendeTekst(u"lblOpening"_s, Openingstekst(administratie_.mappen.DFIMPG), this));
     lagen->addLayout(kolommen, 1);
-    lagen->addWidget(BouwHulp());
-    auto* geheel = new QVBoxLayout(this);
-    geheel->addWidget(new Schuifblad(inhoud, this), 1);
-    geheel->addLayout(Knoppenrij({cmdAnnuleren, cmdImporteer}));
-    StelTabvolgordeIn();
+    lagen->addLayout(BouwHulp());
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
+    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::close);
+    cmdImporteer = MaakKnop(u"cmdImporteer"_s, u"Importeer"_s, u'I', this);
+    cmdImporteer->setDefault(true);
+    connect(cmdImporteer, &QPushButton::clicked, this, &frmImportNBB::ImporteerLedenbestanden);
+    lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdImporteer}));
+    ZetOpSchuifblad(this);
     const Maten maten;
     PasInScherm(this, {maten.Twips(12600), maten.Twips(9900)});
 }
 
-QGroupBox* frmImportNBB::BouwBronnen()
+QWidget* frmImportNBB::BouwBronnen()
 {
     auto* Frame3 = new QGroupBox(u"Haal de spelers op:"_s, this);
     Noem(Frame3, u"Frame3"_s);
-    const auto label = [&](const QString& naam, const QString& tekst) {
-        return MaakLabel(naam, tekst, Frame3);
-    };
     auto* lagen = new QVBoxLayout(Frame3);
     lagen->setSpacing(2);
-    lagen->addWidget(Option1);
-    lagen->addWidget(Option2);
-    lagen->addLayout(
-        Ingesprongen(label(u"Label10"_s, u"(dit is mogelijk met NBBR-2.8 en NBBR-3)"_s)));
-    lagen->addWidget(Option3);
-    lagen->addLayout(Ingesprongen(label(u"Label13"_s, u"(uit NBBR-3)"_s)));
-    lagen->addWidget(label(u"Label9"_s, u"Uit NBB-4:"_s));
-    lagen->addWidget(Option4);
-    lagen->addLayout(
-        Ingesprongen(label(u"Label2"_s, u"Kies eventueel 'CSV-ledenbestand' i.p.v. 'XML'"_s)));
+    const auto keus = [&](Ledenbron bron, const QString& naam, const QString& tekst,
+                          char16_t letter) {
+        QRadioButton* optie = MaakOptie(naam, tekst, letter, Frame3);
+        connect(optie, &QRadioButton::clicked, this, [this, bron] { KiesBron(bron); });
+        lagen->addWidget(optie);
+        return optie;
+    };
+    // A label that says more of the option above it, a little to the right.
+    const auto toelichting = [&](const QString& naam, const QString& tekst) {
+        QLabel* label = MaakLabel(naam, tekst, Frame3);
+        label->setContentsMargins(24, 0, 0, 4);
+        lagen->addWidget(label);
+    };
+    // Two options bear the same caption: only their labels, and their spoken names, differ.
+    const QString xml = u"uit een geexporteerd XML-ledenbestand"_s;
+    const Rekenprogramma& gevonden = administratie_.rekenprogramma;
+    auto* Option1 = keus(Ledenbron::Database, u"Option1"_s,
+                         gevonden.ProgrammaCode == "BRIT" ? u"direct uit Bridge-It"_s
+                                                          : u"direct uit NBBR 2.8"_s,
+                         u'd');
+    Option1->setVisible(gevonden.NBBRaanwezig || gevonden.BRITaanwezig);
+    auto* Option2 =
+        keus(Ledenbron::Csv, u"Option2"_s, u"uit een geexporteerd CSV-ledenbestand"_s, u'C');
+    toelichting(u"Label10"_s, u"(dit is mogelijk met NBBR-2.8 en NBBR-3)"_s);
+    auto* Option3 = keus(Ledenbron::XmlNbb3, u"Option3"_s, xml, u'X');
+    Option3->setAccessibleName(xml + u" uit NBBR-3"_s);
+    toelichting(u"Label13"_s, u"(uit NBBR-3)"_s);
+    lagen->addWidget(MaakLabel(u"Label9"_s, u"Uit NBB-4:"_s, Frame3));
+    auto* Option4 = keus(Ledenbron::XmlNbb4, u"Option4"_s, xml, u'L');
+    Option4->setAccessibleName(xml + u" uit NBB-4"_s);
+    toelichting(u"Label2"_s, u"Kies eventueel 'CSV-ledenbestand' i.p.v. 'XML'"_s);
+    opties_ = {Option1, Option2, Option3, Option4};
     return Frame3;
 }
 
-QGroupBox* frmImportNBB::BouwGegevens()
+QWidget* frmImportNBB::BouwGegevens()
 {
     auto* Frame1 = new QGroupBox(u"Spelergegevens importeren"_s, this);
     Noem(Frame1, u"Frame1"_s);
     auto* Frame2 = new QGroupBox(u"Naar keus inclusief:"_s, Frame1);
     Noem(Frame2, u"Frame2"_s);
+    chkNAW = MaakVink(u"chkNAW"_s, u"NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"_s, u'N',
+                      Frame2);
+    chkTel = MaakVink(u"chkTel"_s, u"Telefoonnr"_s, u'f', Frame2);
+    chkEmail = MaakVink(u"chkEmail"_s, u"Emailadres"_s, u'E', Frame2);
+    chkMV = MaakVink(u"chkMV"_s, u"M/V"_s, u'M', Frame2);
     Frame2->setLayout(Onderelkaar({chkNAW, chkTel, chkEmail, chkMV}));
-    auto* vast = Onderelkaar({chkVoornaam, chkTus, chkAchternaam, chkNBBnr});
+    auto* vast = Onderelkaar({MaakVink(u"chkVoornaam"_s, u"Voornaam"_s, 0, Frame1),
+                              MaakVink(u"chkTus"_s, u"Tussenvoegsel"_s, 0, Frame1),
+                              MaakVink(u"chkAchternaam"_s, u"Achternaam"_s, 0, Frame1),
+                              MaakVink(u"chkNBBnr"_s, u"NBBnummer"_s, 0, Frame1)});
     vast->addStretch();
     auto* delen = new QHBoxLayout(Frame1);
     delen->addLayout(vast);
@@ -178,65 +194,67 @@ QGroupBox* frmImportNBB::BouwGegevens()
     return Frame1;
 }
 
-QWidget* frmImportNBB::BouwKeuze()
+QLayout* frmImportNBB::BouwKeuze()
 {
-    auto* keuze = new QWidget(this);
-    lblExportMap = MaakLopendeTekst(u"lblExportMap"_s, QString(), keuze);
-    lstNBBbest = new Regellijst(QListView::MultiSelection, keuze);
-    Label3 = MaakLabel(u"Label3"_s, QString(), keuze);
-    Label3->setBuddy(lstNBBbest);
-    ToonLijsttekst(u"Ledenbestanden:"_s);
+    cmdKiesExportMap = MaakKnop(u"cmdKiesExportMap"_s, u"Kies een map"_s, u'K', this);
+    cmdKiesExportMap->setEnabled(false);
+    connect(cmdKiesExportMap, &QPushButton::clicked, this, &frmImportNBB::KiesExportMap);
+    lblExportMap = MaakLopendeTekst(u"lblExportMap"_s,
+                                    u"Kies links eerst waar de spelers vandaan komen."_s, this);
+    lstNBBbest = new Regellijst(QListView::MultiSelection, this);
     Noem(lstNBBbest, u"lstNBBbest"_s, u"Ledenbestanden"_s);
     lstNBBbest->setToolTip(
         u"Een klik of de spatiebalk kiest een ledenbestand of laat het los; Ctrl+A kiest alle"_s);
+    Label3 = MaakLabel(u"Label3"_s, MetSneltoets(u"Ledenbestanden:"_s, u'b'), this);
+    Label3->setBuddy(lstNBBbest);
+    cmdControleNBBnrs = MaakKnop(u"cmdControleNBBnrs"_s,
+                                 u"Overzicht NBBnrs van geselecteerde groepen"_s, u'O', this);
+    connect(cmdControleNBBnrs, &QPushButton::clicked, this, &frmImportNBB::ControleerNBBnrs);
     auto* Label7 = MaakLopendeTekst(
         u"Label7"_s,
         u"Let op: alleen spelers met een ingevuld (eventueel fictief) NBB-nummer worden "
         "geimporteerd."_s,
-        keuze);
+        this);
     auto* Label6 = MaakLopendeTekst(
         u"Label6"_s,
         u"Bestaande spelers worden overschreven (ververst) nieuwe spelers worden toegevoegd. "_s,
-        keuze);
+        this);
     auto* lagen = Onderelkaar(
         {cmdKiesExportMap, lblExportMap, Label3, lstNBBbest, cmdControleNBBnrs, Label7, Label6});
-    lagen->setContentsMargins(0, 0, 0, 0);
     lagen->setStretch(3, 1);
-    keuze->setLayout(lagen);
-    return keuze;
+    return lagen;
 }
 
-QWidget* frmImportNBB::BouwHulp()
+QLayout* frmImportNBB::BouwHulp()
 {
-    auto* hulp = new QWidget(this);
-    auto* vakken = new QGridLayout(hulp);
-    vakken->setContentsMargins(0, 0, 0, 0);
-    vakken->addWidget(cmdHelpImport28, 0, 0);
-    vakken->addWidget(cmdHelpImport31, 0, 1);
-    vakken->addWidget(cmbHelpCSV, 1, 0);
-    vakken->addWidget(cmdHelpImport4, 1, 1);
-    vakken->addWidget(cmdHint, 2, 0, 1, 2);
-    return hulp;
-}
-
-void frmImportNBB::StelTabvolgordeIn()
-{
-    ZetTabvolgorde({Option1, Option2, Option3, Option4, chkNAW, chkTel, chkEmail, chkMV,
-                    cmdKiesExportMap, lstNBBbest, cmdControleNBBnrs, cmdHelpImport28,
-                    cmdHelpImport31, cmbHelpCSV, cmdHelpImport4, cmdHint, cmdAnnuleren,
-                    cmdImporteer});
-}
-
-void frmImportNBB::Verbind()
-{
-    for (const auto& [optie, bron] :
-         {std::pair{Option1, Ledenbron::Database}, std::pair{Option2, Ledenbron::Csv},
-          std::pair{Option3, Ledenbron::XmlNbb3}, std::pair{Option4, Ledenbron::XmlNbb4}})
-        connect(optie, &QRadioButton::clicked, this, [this, bron = bron] { KiesBron(bron); });
-    connect(cmdKiesExportMap, &QPushButton::clicked, this, &frmImportNBB::KiesExportMap);
-    connect(cmdControleNBBnrs, &QPushButton::clicked, this, &frmImportNBB::ControleerNBBnrs);
-    connect(cmdImporteer, &QPushButton::clicked, this, &frmImportNBB::ImporteerLedenbestanden);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::close);
+    auto* vakken = new QGridLayout;
+    const auto knop = [&](const QString& naam, const QString& opschrift, char16_t letter,
+                          const QString& uitleg, const QString& titel = {}) {
+        auto* hulp = MaakKnop(naam, opschrift, letter, this);
+        connect(hulp, &QPushButton::clicked, this,
+                [this, uitleg, titel] { Meld(this, QMessageBox::Information, uitleg, titel); });
+        return hulp;
+    };
+    vakken->addWidget(knop(u"cmdHelpImport28"_s,
+                           u"Hoe exporteer je een ledenbestand uit NBBR-2.8?"_s, u'2',
+                           Stappenplan(u"NBBR-2.8"_s, u"CSV"_s, u"ledenbestand"_s, VervolgNBBR28)),
+                      0, 0);
+    vakken->addWidget(knop(u"cmdHelpImport31"_s,
+                           u"Hoe exporteer je een ledenbestand uit  NBBR-3.1?"_s, u'3',
+                           Stappenplan(u"NBBR-3.1"_s, u"XML"_s, u"ledenbestand"_s, VervolgNBBR31)),
+                      0, 1);
+    vakken->addWidget(
+        knop(u"cmbHelpCSV"_s, u"Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?"_s, u'V',
+             Stappenplan(u"NBBR-4"_s, u"CSV"_s, u"CSV-ledenbestand"_s, MapNBBR4 + VervolgCsv4)),
+        1, 0);
+    vakken->addWidget(
+        knop(u"cmdHelpImport4"_s, u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?"_s, u'4',
+             Stappenplan(u"NBBR-4"_s, u"XML"_s, u"XML-ledenbestand"_s, MapNBBR4 + VervolgXml4)),
+        1, 1);
+    vakken->addWidget(knop(u"cmdHint"_s, u"Hint voor toekennen van fictieve NBB-nummers"_s, u'H',
+                           Hint, u"Hint"_s),
+                      2, 0, 1, 2);
+    return vakken;
 }
 
 } // namespace plexoran

@@ -37,60 +37,45 @@ template <class Reeks> QString Toonbaar(const Reeks& regels)
 void frmImportNBB::ImporteerLedenbestanden()
 {
     const auto gekozen = GekozenBestanden();
-    if (gekozen.empty()) {
-        Meld(this, QMessageBox::Warning, u"U moet nog ledenbestand(en) selecteren!"_s);
+    if (gekozen.empty())
         return;
-    }
     const Ledenopdracht opdracht = Opdracht();
-    auto verloop = Verloop::Verder;
     bezig_ = true;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    for (const Tekst& naam : gekozen) {
-        verloop = LeesEnImporteer(opdracht, naam);
-        if (verloop == Verloop::Afgebroken)
-            break;
-    }
+    const bool heel = std::all_of(gekozen.begin(), gekozen.end(), [&](const Tekst& naam) {
+        return LeesEnImporteer(opdracht, naam);
+    });
     QGuiApplication::restoreOverrideCursor();
     bezig_ = false;
-    if (verloop == Verloop::Verder)
+    if (heel)
         accept();
 }
 
-frmImportNBB::Verloop frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdracht,
-                                                    const Tekst& naam)
+/// False when the import ends here, as below.
+bool frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdracht, const Tekst& naam)
 {
     frmVoortgang voortgang(u"'%1' wordt gelezen ..."_s.arg(NaarQString(naam)), u"&Stoppen"_s, this);
     connect(&voortgang, &frmVoortgang::canceled, &voortgang,
             [&] { voortgang.setLabelText(u"Het importeren wordt gestopt ..."_s); });
     auto lezing = LeesLedenbestand(administratie_.schijf, opdracht, naam, voortgang.AlsVoortgang());
     voortgang.hide();
-    RuimTussenbestandOp(opdracht, naam);
-    if (voortgang.Gestopt()) {
-        MeldAfgebroken(naam, Samenvoegfout::Gestopt);
-        return Verloop::Afgebroken;
-    }
-    if (!lezing) {
-        Meld(this, QMessageBox::Warning,
-             Leesfouttekst(opdracht.bron, naam, lezing.error(), Leesdoel::Import));
-        return Verloop::Afgebroken;
-    }
-    MeldVooraf(opdracht.bron, naam, *lezing);
-    return ImporteerEenBestand(naam, std::move(*lezing));
-}
-
-/// It holds what members gave the club, so it must not stay behind unnoticed.
-void frmImportNBB::RuimTussenbestandOp(const Ledenopdracht& opdracht, const Tekst& naam)
-{
-    if (opdracht.bron != Ledenbron::XmlNbb3 && opdracht.bron != Ledenbron::XmlNbb4)
-        return;
-    const auto weg = administratie_.schijf.Verwijder(
-        Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam)));
-    if (!weg && weg.error().soort != Foutsoort::Ontbreekt)
+    if (const auto weg = RuimTussenbestandOp(administratie_.schijf, opdracht, naam); !weg)
         MeldFout(
             this, QMessageBox::Information,
             u"Een tussenbestand met gegevens van leden kon niet worden verwijderd. Het importeren "
             "gaat gewoon door. Verwijder het bestand zelf."_s,
             weg.error());
+    if (voortgang.Gestopt()) {
+        MeldAfgebroken(naam, Samenvoegfout::Gestopt);
+        return false;
+    }
+    if (!lezing) {
+        Meld(this, QMessageBox::Warning,
+             Leesfouttekst(opdracht.bron, naam, lezing.error(), Leesdoel::Import));
+        return false;
+    }
+    MeldVooraf(opdracht.bron, naam, *lezing);
+    return ImporteerEenBestand(naam, std::move(*lezing));
 }
 
 /// What the user must know to answer the question that follows.
@@ -121,28 +106,23 @@ void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezi
                  .arg(NaarQString(naam), Aantal(lezing.lstN1.size(), u"speler"_s, u"spelers"_s)));
 }
 
-frmImportNBB::Verloop frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
+bool frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
 {
-    const Tekst& importgroep = administratie_.mappen.DFIMPG;
-    const Tekst subgroep = SubgroepUitNaam(naam);
     const QString vraag = u"U gaat van '%1' %2 spelers importeren naar groep '%3'."_s.arg(
-        NaarQString(subgroep), QString::number(lezing.lstN1.size()), NaarQString(importgroep));
+        NaarQString(SubgroepUitNaam(naam)), QString::number(lezing.lstN1.size()),
+        NaarQString(administratie_.mappen.DFIMPG));
     if (!Vraag(this, QMessageBox::Information, vraag))
-        return Verloop::Verder;
-    const Samenvoegopdracht opdracht{
-        .importgroep = importgroep, .subgroep = subgroep, .lstN1 = std::move(lezing.lstN1)};
-    const auto uitkomst = VoegLedenSamen(
-        administratie_.spelers, opdracht,
+        return true;
+    const auto uitkomst = import_.Importeer(
+        naam, std::move(lezing.lstN1),
         frmVoortgang(u"'%1' wordt geïmporteerd ..."_s.arg(NaarQString(naam)), u"&Stoppen"_s, this)
             .AlsVoortgang());
     if (!uitkomst) {
         MeldAfgebroken(naam, uitkomst.error());
-        return Verloop::Afgebroken;
+        return false;
     }
-    if (uitkomst->AantalVerververst + uitkomst->AantalNieuw > 0)
-        ietsGewijzigd_ = true;
     MeldUitkomst(naam, lezing, *uitkomst);
-    return Verloop::Verder;
+    return true;
 }
 
 /// The two boxes of every import, then one for all that nobody would see otherwise.

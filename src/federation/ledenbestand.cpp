@@ -1,7 +1,6 @@
 #include "federation/ledenbestand.h"
 
-#include "federation/ledendatabase.h"
-#include "federation/ledenxml.h"
+#include "federation/ledenbronnen.h"
 #include "platform/tekst/codepagina.h"
 #include "platform/tekst/tekst.h"
 
@@ -124,6 +123,16 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
             lezing->anderNummer = Databasenummer(naam);
     }
     return lezing;
+}
+
+Uitkomst<void> RuimTussenbestandOp(Schijf& schijf, const Ledenopdracht& opdracht, Tekstblik naam)
+{
+    if (opdracht.bron != Ledenbron::XmlNbb3 && opdracht.bron != Ledenbron::XmlNbb4)
+        return {};
+    auto weg = schijf.Verwijder(Tussenbestand(opdracht.programmamap, SubgroepUitNaam(naam)));
+    if (!weg && weg.error().soort == Foutsoort::Ontbreekt)
+        return {};
+    return weg;
 }
 
 std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map, const std::vector<Tekst>& namen,

@@ -41,6 +41,11 @@ struct Ledenopdracht {
                                                      Tekstblik naam,
                                                      const Voortgang& voortgang = {});
 
+/// Removes the intermediate file of an XML file that was read: it holds what members gave the club,
+/// so it must not stay behind unnoticed.
+[[nodiscard]] Uitkomst<void> RuimTussenbestandOp(Schijf& schijf, const Ledenopdracht& opdracht,
+                                                 Tekstblik naam);
+
 /// The names of those files of `namen` in `map` that are of the source's XML kind, in their order.
 /// Member files hold "<ReportableMember>", those of NBBR-4 also "<LeagueId>"; a file that cannot be
 /// read is of no kind, one that is too large of both. `voortgang` hears of every file, and may stop

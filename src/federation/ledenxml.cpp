@@ -1,9 +1,7 @@
-#include "federation/ledenxml.h"
+#include "federation/ledenbronnen.h"
 
 #include <algorithm>
 #include <utility>
-
-#include <pugixml.hpp>
 
 #include "federation/ledencsv.h"
 #include "platform/bronnen/xml.h"
@@ -70,7 +68,7 @@ class Ledenomzetter {
     {
         Lidrij lid;
         Tekst telefoon2;
-        std::size_t positie = *member.value() == '\0' ? 0 : 1; // a text at the front
+        std::size_t positie = 0;
         for (const pugi::xml_node& kind : member.children()) {
             if (IsWit(kind, bron_))
                 continue;
@@ -111,59 +109,27 @@ class Ledenomzetter {
     std::string_view bron_;
 };
 
-/// A document and the text in which its nodes have their places.
-struct Ledendocument {
-    pugi::xml_document document;
-    std::string bron;
-};
-
-/// Calls `werk` for every member, in the order of the document.
-template <class Werk> void VoorElkLid(const pugi::xml_document& document, const Werk& werk)
+Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Xmldocument& in)
 {
-    for (const pugi::xml_node& leden :
-         document.child("ReportableMembersList").children("Members")) {
-        for (const pugi::xml_node& lid : leden.children("ReportableMember"))
-            werk(lid);
-    }
-}
-
-/// Whether the text of some field stands in pieces, which no export does.
-bool HeeftStukken(const pugi::xml_document& document)
-{
-    bool gevonden = false;
-    VoorElkLid(document, [&](const pugi::xml_node& lid) {
-        for (const pugi::xml_node& kind : lid.children())
-            gevonden = gevonden || kind.first_child();
+    return LeesBegrensd(schijf, bestand).and_then([&](Tekst bytes) {
+        return LeesXml(std::move(bytes), schijf.Toonpad(bestand), in);
     });
-    return gevonden;
 }
 
-Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Ledendocument& in)
-{
-    const std::string pad = schijf.Toonpad(bestand);
-    auto bron = LeesBegrensd(schijf, bestand).and_then([&](Tekst bytes) {
-        return LeesXml(std::move(bytes), pad);
-    });
-    if (!bron)
-        return tl::unexpected(std::move(bron.error()));
-    in.bron = std::move(*bron);
-    auto ontleed = OntleedXml(in.bron, pad, in.document, Xmlwit::Weg);
-    return ontleed && HeeftStukken(in.document)
-               ? OntleedXml(in.bron, pad, in.document, Xmlwit::Blijft)
-               : ontleed;
-}
-
-Uitkomst<Xmlomzetting> Converteer(const Ledendocument& van, Nbbversie versie, Schijf& schijf,
+Uitkomst<Xmlomzetting> Converteer(const Xmldocument& van, Nbbversie versie, Schijf& schijf,
                                   const Pad& tussenbestand, const Voortgang& voortgang)
 {
     constexpr std::size_t elkeZoveel = 4096;
     Ledenomzetter omzetter(versie, van.bron);
     std::size_t gedaan = 0;
-    VoorElkLid(van.document, [&](const pugi::xml_node& lid) {
-        omzetter.VoegToe(lid);
-        if (++gedaan % elkeZoveel == 0 && voortgang)
-            voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
-    });
+    for (const pugi::xml_node& leden :
+         van.document.child("ReportableMembersList").children("Members")) {
+        for (const pugi::xml_node& lid : leden.children("ReportableMember")) {
+            omzetter.VoegToe(lid);
+            if (++gedaan % elkeZoveel == 0 && voortgang)
+                voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
+        }
+    }
     return SchrijfTussenregels(schijf, tussenbestand, std::move(omzetter.regels)).map([&] {
         return Xmlomzetting{omzetter.vervangen, std::nullopt};
     });
@@ -174,7 +140,7 @@ Uitkomst<Xmlomzetting> Converteer(const Ledendocument& van, Nbbversie versie, Sc
 Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
                                          const Pad& tussenbestand, const Voortgang& voortgang)
 {
-    Ledendocument document;
+    Xmldocument document;
     return Laad(schijf, bestand, document).and_then([&] {
         return Converteer(document, Nbbversie::Drie, schijf, tussenbestand, voortgang);
     });
@@ -183,7 +149,7 @@ Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
 Uitkomst<Xmlomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
                                          const Pad& tussenbestand, const Voortgang& voortgang)
 {
-    Ledendocument document;
+    Xmldocument document;
     const auto geladen = Laad(schijf, bestand, document);
     if (geladen)
         return Converteer(document, Nbbversie::Vier, schijf, tussenbestand, voortgang);

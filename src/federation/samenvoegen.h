@@ -10,9 +10,7 @@
 
 #include <tl/expected.hpp>
 
-#include "federation/importregel.h"
-#include "platform/schijf/fout.h"
-#include "platform/tekst/tekst.h"
+#include "federation/ledencsv.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {

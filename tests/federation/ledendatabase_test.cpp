@@ -1,4 +1,4 @@
-#include "federation/ledendatabase.h"
+#include "federation/ledenbronnen.h"
 
 #include <gtest/gtest.h>
 

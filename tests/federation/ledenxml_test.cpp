@@ -1,4 +1,4 @@
-#include "federation/ledenxml.h"
+#include "federation/ledenbronnen.h"
 
 #include <gtest/gtest.h>
 

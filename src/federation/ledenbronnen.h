@@ -1,0 +1,46 @@
+// The sources of members that are turned into the intermediate file: the exports of NBBR-3 and
+// NBBR-4 as XML, and the database of a scoring program.
+//
+// In an export, members are the elements ReportableMember in ReportableMembersList/Members. NBBR-4
+// tells the data of a member by the names of its child elements, NBBR-3 by their position among the
+// child nodes: texts and comments take a position too, but only an element fills a field.
+//
+// The database is read through a child process (platform/bronnen/access.h).
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "platform/bronnen/access.h"
+
+namespace plexoran {
+
+struct Xmlomzetting {
+    std::size_t vervangenTekens = 0; ///< characters that the code page lacks
+    std::optional<Fout> nietGeladen; ///< NBBR-4 only: why there are no members
+};
+
+/// A file that cannot be read, or is no XML, is an error and leaves `tussenbestand` as it was.
+[[nodiscard]] Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
+                                                       const Pad& tussenbestand,
+                                                       const Voortgang& voortgang = {});
+
+/// A file that cannot be read, or is no XML, gives an intermediate file without members.
+[[nodiscard]] Uitkomst<Xmlomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
+                                                       const Pad& tussenbestand,
+                                                       const Voortgang& voortgang = {});
+
+/// One entry per member file, in the order of the database: its name, a blank and its number in
+/// three digits.
+[[nodiscard]] Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database,
+                                                              const Voortgang& voortgang = {},
+                                                              const Accessgrenzen& grenzen = {});
+
+/// Reads the members of the member file with number `id` and writes them to `tussenbestand`.
+/// Returns how many characters the code page lacks.
+[[nodiscard]] Uitkomst<std::size_t> HaalLeden(Schijf& schijf, const Pad& database, int id,
+                                              const Pad& tussenbestand,
+                                              const Voortgang& voortgang = {},
+                                              const Accessgrenzen& grenzen = {});
+
+} // namespace plexoran
