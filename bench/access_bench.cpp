@@ -13,7 +13,7 @@
 #include "federation/ledenbestand.h"
 #include "hulp/ledenmaker.h"
 #include "hulp/meten.h"
-#include "platform/bronnen/accesskind.h"
+#include "platform/bronnen/access.h"
 #include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
@@ -131,8 +131,7 @@ BENCHMARK(LedenHalen)->Apply(Databasegroottes);
 
 int main(int argc, char** argv)
 {
-    if (const auto eindstatus = plexoran::AlsAccesskind(argc, argv))
-        return *eindstatus;
+    plexoran::WerkAlsAccesskind(argc, argv);
     if (argc == 3 && std::strcmp(argv[1], plexoran::Wandelwoord) == 0)
         return plexoran::Wandel(argv[2]);
     return plexoran::VoerMetingenUit(argc, argv, [] {});

@@ -3,7 +3,7 @@
 
 #include "mainwindow/frmLedenAdmin.h"
 #include "opdrachtregel.h"
-#include "platform/bronnen/accesskind.h"
+#include "platform/bronnen/access.h"
 #include "platform/scherm/inrichting.h"
 #include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/echteSchijf.h"
@@ -13,8 +13,7 @@ using namespace plexoran;
 
 int main(int argc, char** argv)
 {
-    if (const auto eindstatus = AlsAccesskind(argc, argv))
-        return *eindstatus;
+    WerkAlsAccesskind(argc, argv);
     const Opdrachten opdrachten = LeesOpdrachtregel(argc, argv);
     if (opdrachten.eindstatus)
         return *opdrachten.eindstatus;

@@ -32,8 +32,8 @@ bool IsHeelNummer(Tekstblik naam)
     return nummer.size() == Nummerlengte && std::all_of(nummer.begin(), nummer.end(), IsCijfer);
 }
 
-Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Tekstblik naam,
-                             const Pad& tussenbestand, const Voortgang& voortgang)
+Uitkomst<Ledenomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Tekstblik naam,
+                               const Pad& tussenbestand, const Voortgang& voortgang)
 {
     const Pad bestand = Samen(opdracht.map, naam);
     switch (opdracht.bron) {
@@ -43,10 +43,7 @@ Uitkomst<Xmlomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Teks
         return ConverteerNBB4XML(schijf, bestand, tussenbestand, voortgang);
     default:
         return HaalLeden(schijf, opdracht.LedenDatabase, Databasenummer(naam), tussenbestand,
-                         voortgang, opdracht.grenzen)
-            .map([](std::size_t vervangen) {
-                return Xmlomzetting{vervangen, std::nullopt};
-            });
+                         voortgang, opdracht.grenzen);
     }
 }
 
@@ -55,7 +52,7 @@ Uitkomst<Ledenlezing> LeesBestand(Schijf& schijf, const Pad& bestand, const Lede
 {
     auto inhoud = LeesBegrensd(schijf, bestand);
     if (!inhoud)
-        return tl::unexpected(std::move(inhoud.error()));
+        return Mislukt(inhoud);
     auto lezing = LeesLedencsv(*inhoud, opdracht.keuzes, voortgang);
     if (!lezing)
         lezing.error().bestand = schijf.Toonpad(bestand);
@@ -114,7 +111,7 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
     const Pad tussenbestand = Tussenbestand(opdracht.programmamap, subgroep);
     auto omgezet = ZetOm(schijf, opdracht, naam, tussenbestand, Helft(voortgang, 0));
     if (!omgezet)
-        return tl::unexpected(std::move(omgezet.error()));
+        return Mislukt(omgezet);
     auto lezing = LeesBestand(schijf, tussenbestand, opdracht, Helft(voortgang, 1));
     if (lezing) {
         lezing->vervangenTekens = omgezet->vervangenTekens;

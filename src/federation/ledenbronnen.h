@@ -15,20 +15,20 @@
 
 namespace plexoran {
 
-struct Xmlomzetting {
+struct Ledenomzetting {
     std::size_t vervangenTekens = 0; ///< characters that the code page lacks
     std::optional<Fout> nietGeladen; ///< NBBR-4 only: why there are no members
 };
 
 /// A file that cannot be read, or is no XML, is an error and leaves `tussenbestand` as it was.
-[[nodiscard]] Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
-                                                       const Pad& tussenbestand,
-                                                       const Voortgang& voortgang = {});
+[[nodiscard]] Uitkomst<Ledenomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
+                                                         const Pad& tussenbestand,
+                                                         const Voortgang& voortgang = {});
 
 /// A file that cannot be read, or is no XML, gives an intermediate file without members.
-[[nodiscard]] Uitkomst<Xmlomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
-                                                       const Pad& tussenbestand,
-                                                       const Voortgang& voortgang = {});
+[[nodiscard]] Uitkomst<Ledenomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
+                                                         const Pad& tussenbestand,
+                                                         const Voortgang& voortgang = {});
 
 /// One entry per member file, in the order of the database: its name, a blank and its number in
 /// three digits.
@@ -37,10 +37,9 @@ struct Xmlomzetting {
                                                               const Accessgrenzen& grenzen = {});
 
 /// Reads the members of the member file with number `id` and writes them to `tussenbestand`.
-/// Returns how many characters the code page lacks.
-[[nodiscard]] Uitkomst<std::size_t> HaalLeden(Schijf& schijf, const Pad& database, int id,
-                                              const Pad& tussenbestand,
-                                              const Voortgang& voortgang = {},
-                                              const Accessgrenzen& grenzen = {});
+[[nodiscard]] Uitkomst<Ledenomzetting> HaalLeden(Schijf& schijf, const Pad& database, int id,
+                                                 const Pad& tussenbestand,
+                                                 const Voortgang& voortgang = {},
+                                                 const Accessgrenzen& grenzen = {});
 
 } // namespace plexoran

@@ -107,7 +107,7 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
                                    const Voortgang& voortgang)
 {
     if (tekst.find('\0') != Tekstblik::npos)
-        return tl::unexpected(Fout{Foutsoort::Beschadigd, {}, 0, "dit is geen tekstbestand"});
+        return Mislukt({.soort = Foutsoort::Beschadigd, .systeem = "dit is geen tekstbestand"});
     constexpr int elkeZoveel = 4096;
     const Herkomsten herkomsten = HerkomstenVan(keuzes);
     Ledenlezing uit;

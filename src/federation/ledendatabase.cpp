@@ -98,7 +98,7 @@ Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database, const Voort
         database, "ledenbestanden",
         {{"id", Accesssoort::Geheel}, {"bestandsnaam", Accesssoort::Letters}}, voortgang, grenzen);
     if (!rijen)
-        return tl::unexpected(rijen.error());
+        return Mislukt(rijen);
     std::vector<Tekst> lijst;
     for (const Accessrij& rij : *rijen) {
         Tekst& regel = lijst.emplace_back(rij[1] ? rij[1]->tekst : Tekst());
@@ -109,20 +109,18 @@ Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database, const Voort
     return lijst;
 }
 
-Uitkomst<std::size_t> HaalLeden(Schijf& schijf, const Pad& database, int id,
-                                const Pad& tussenbestand, const Voortgang& voortgang,
-                                const Accessgrenzen& grenzen)
+Uitkomst<Ledenomzetting> HaalLeden(Schijf& schijf, const Pad& database, int id,
+                                   const Pad& tussenbestand, const Voortgang& voortgang,
+                                   const Accessgrenzen& grenzen)
 {
     auto rijen = LeesAccess(database, "leden", Ledenkolommen(), voortgang, grenzen);
     if (!rijen)
-        return tl::unexpected(std::move(rijen.error()));
+        return Mislukt(rijen);
     Tekst regels;
-    std::size_t vervangen = 0;
+    Ledenomzetting uit;
     for (const Accessrij& rij : Gekozen(std::move(*rijen), std::to_string(id)))
-        VoegLidToe(regels, AlsLid(rij, vervangen));
-    return SchrijfTussenregels(schijf, tussenbestand, std::move(regels)).map([&] {
-        return vervangen;
-    });
+        VoegLidToe(regels, AlsLid(rij, uit.vervangenTekens));
+    return SchrijfTussenregels(schijf, tussenbestand, std::move(regels)).map([&] { return uit; });
 }
 
 } // namespace plexoran

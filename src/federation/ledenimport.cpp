@@ -44,7 +44,7 @@ Uitkomst<void> Ledenimport::KiesMap(const Pad& map)
 {
     auto bestanden = administratie_.schijf.Bestanden(map);
     if (!bestanden)
-        return tl::unexpected(std::move(bestanden.error()));
+        return Mislukt(bestanden);
     const Tekstblik einde = bron_ == Ledenbron::Csv ? ".CSV" : ".XML";
     std::erase_if(*bestanden,
                   [&](const Tekst& naam) { return !Hoofdletters(naam).ends_with(einde); });
@@ -82,8 +82,8 @@ Ledenopdracht Ledenimport::Opdracht(const Importkeuzes& keuzes) const
             .grenzen = grenzen_};
 }
 
-tl::expected<Samenvoeging, Samenvoegfout> Ledenimport::Importeer(Tekstblik naam, Tekstlijst lstN1,
-                                                                 const Voortgang& voortgang)
+tl::expected<Samenvoeging, Samenvoegfout>
+Ledenimport::Importeer(Tekstblik naam, std::vector<Tekst> lstN1, const Voortgang& voortgang)
 {
     auto uitkomst = VoegLedenSamen(administratie_.spelers,
                                    {.importgroep = administratie_.mappen.DFIMPG,

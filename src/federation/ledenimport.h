@@ -49,7 +49,7 @@ class Ledenimport {
 
     /// Merges what was read of a member file into the import group.
     [[nodiscard]] tl::expected<Samenvoeging, Samenvoegfout>
-    Importeer(Tekstblik naam, Tekstlijst lstN1, const Voortgang& voortgang);
+    Importeer(Tekstblik naam, std::vector<Tekst> lstN1, const Voortgang& voortgang);
     /// Whether a player was refreshed or added, so that there is something to save.
     [[nodiscard]] bool IetsGewijzigd() const { return ietsGewijzigd_; }
 

@@ -116,8 +116,8 @@ Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Xmldocument& in)
     });
 }
 
-Uitkomst<Xmlomzetting> Converteer(const Xmldocument& van, Nbbversie versie, Schijf& schijf,
-                                  const Pad& tussenbestand, const Voortgang& voortgang)
+Uitkomst<Ledenomzetting> Converteer(const Xmldocument& van, Nbbversie versie, Schijf& schijf,
+                                    const Pad& tussenbestand, const Voortgang& voortgang)
 {
     constexpr std::size_t elkeZoveel = 4096;
     Ledenomzetter omzetter(versie, van.bron);
@@ -131,14 +131,14 @@ Uitkomst<Xmlomzetting> Converteer(const Xmldocument& van, Nbbversie versie, Schi
         }
     }
     return SchrijfTussenregels(schijf, tussenbestand, std::move(omzetter.regels)).map([&] {
-        return Xmlomzetting{omzetter.vervangen, std::nullopt};
+        return Ledenomzetting{omzetter.vervangen, std::nullopt};
     });
 }
 
 } // namespace
 
-Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
-                                         const Pad& tussenbestand, const Voortgang& voortgang)
+Uitkomst<Ledenomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
+                                           const Pad& tussenbestand, const Voortgang& voortgang)
 {
     Xmldocument document;
     return Laad(schijf, bestand, document).and_then([&] {
@@ -146,15 +146,15 @@ Uitkomst<Xmlomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
     });
 }
 
-Uitkomst<Xmlomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
-                                         const Pad& tussenbestand, const Voortgang& voortgang)
+Uitkomst<Ledenomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
+                                           const Pad& tussenbestand, const Voortgang& voortgang)
 {
     Xmldocument document;
     const auto geladen = Laad(schijf, bestand, document);
     if (geladen)
         return Converteer(document, Nbbversie::Vier, schijf, tussenbestand, voortgang);
     return SchrijfTussenregels(schijf, tussenbestand, {}).map([&] {
-        return Xmlomzetting{0, geladen.error()};
+        return Ledenomzetting{0, geladen.error()};
     });
 }
 

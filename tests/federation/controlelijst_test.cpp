@@ -62,33 +62,25 @@ TEST(Controlerijen, DeCellenVanElkeRij)
 
 TEST(Controleregel, VasteKolommenMetTweeSpatiesErtussen)
 {
+    const auto regel = [](const Tekst& lid, const Tekst& groep = "Club") {
+        return MaakControleregel(lid, groep).regel;
+    };
     EXPECT_EQ("12345678    M      Club        Bos, An             ",
-              MaakControleregel(Lid("An", "", "Bos", "M", "12345678"), "Club").regel);
+              regel(Lid("An", "", "Bos", "M", "12345678")));
     EXPECT_EQ("12345678    V      Club        Dam, Cor van der    ",
-              MaakControleregel(Lid("Cor", "van der", "Dam", "V", "12345678"), "Club").regel);
-}
-
-/// Such a member is listed all the same; the import will skip the one without a number.
-TEST(Controleregel, ZonderNummerOfGeslachtBlijftDeKolomLeeg)
-{
+              regel(Lid("Cor", "van der", "Dam", "V", "12345678")));
+    // Without a number or a sex such a member is listed all the same.
     EXPECT_EQ("                   Club        Bos, An             ",
-              MaakControleregel(Lid("An", "", "Bos", "", ""), "Club").regel);
-}
-
-TEST(Controleregel, DeLedengroepIsHoogstensTienTekens)
-{
+              regel(Lid("An", "", "Bos", "", "")));
+    // Of the member group ten characters at most, of all else everything.
     EXPECT_EQ("1           M      Dinsdagavo  Bos, An             ",
-              MaakControleregel(Lid("An", "", "Bos", "M", "1"), "Dinsdagavond").regel);
+              regel(Lid("An", "", "Bos", "M", "1"), "Dinsdagavond"));
     EXPECT_EQ("1           M      Dinsdagavo  Bos, An             ",
-              MaakControleregel(Lid("An", "", "Bos", "M", "1"), "Dinsdagavo").regel);
-}
-
-TEST(Controleregel, EenNaamVanTwintigOfMeerStaatErHeel)
-{
+              regel(Lid("An", "", "Bos", "M", "1"), "Dinsdagavo"));
     EXPECT_EQ("1           M      Club        Aaaaaaaaaaaaaaaa, Bbb",
-              MaakControleregel(Lid("Bbb", "", "Aaaaaaaaaaaaaaaa", "M", "1"), "Club").regel);
+              regel(Lid("Bbb", "", "Aaaaaaaaaaaaaaaa", "M", "1")));
     EXPECT_EQ("1           M      Club        Aaaaaaaaaaaaaaaaaaaa, Bbb de",
-              MaakControleregel(Lid("Bbb", "de", "Aaaaaaaaaaaaaaaaaaaa", "M", "1"), "Club").regel);
+              regel(Lid("Bbb", "de", "Aaaaaaaaaaaaaaaaaaaa", "M", "1")));
 }
 
 TEST(Controleregel, EenPartnerKrijgtStreepjes)

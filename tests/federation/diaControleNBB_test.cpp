@@ -50,6 +50,7 @@ class diaControleNBBTest : public Dialoogproef<diaControleNBB, Mapstand> {
         Open({"Veel.csv"});
     }
 
+    [[nodiscard]] QCheckBox* chkSort() const { return Deel<QCheckBox>("chkSort"); }
     [[nodiscard]] QWidget* P1() const { return Vind<QWidget>(*venster, "P1"); }
     [[nodiscard]] QScrollBar* Balk() const { return Vind<QScrollBar>(*venster, "VScroll1"); }
     /// What the surface shows, drawn on a page and read back.
@@ -65,6 +66,13 @@ class diaControleNBBTest : public Dialoogproef<diaControleNBB, Mapstand> {
             P1()->render(&schilder, {}, {}, QWidget::RenderFlags());
         }
         return LeesPdf(pad).at(0).Tekst();
+    }
+    void VerwachtOpmerkingen(const QString& opmerkingen)
+    {
+        wachter.Informatie(
+            u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het "
+            "zo nodig en open dit overzicht opnieuw.\r\n\r\n"_s +
+            opmerkingen);
     }
     void PrintNaarPdf()
     {
@@ -86,10 +94,10 @@ TEST_F(diaControleNBBTest, DeOpschriften)
     ASSERT_NO_FATAL_FAILURE(OpenBeide());
     EXPECT_EQ("Controle NBB-spelers op ontbrekende NBBnrs en M/V",
               venster->windowTitle().toStdString());
-    EXPECT_EQ("Sorteer op naam", Opschrift(Vind<QCheckBox>(*venster, "chkSort")));
+    EXPECT_EQ("Sorteer op naam", Opschrift(chkSort()));
     EXPECT_EQ("Print", Opschrift(Knop("cmdPrint")));
     EXPECT_EQ("Terug", Opschrift(Knop("cmdTerug")));
-    EXPECT_FALSE(Vind<QCheckBox>(*venster, "chkSort")->isChecked());
+    EXPECT_FALSE(chkSort()->isChecked());
     EXPECT_NE(nullptr, Vind<QFrame>(*venster, "Frame2"));
 }
 
@@ -99,7 +107,7 @@ TEST_F(diaControleNBBTest, ElkLidVanElkBestandInHunVolgorde)
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 101 V Club Zee, Zus van Club Bos, An 103 M Club Dam, Cor "
               "104 V Dinsdagavo Aap, Bea de",
               Geschilderd());
-    EXPECT_EQ("Aantal leden: 4", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
+    EXPECT_EQ("Aantal leden: 4", Label("lblAantal"));
 }
 
 TEST_F(diaControleNBBTest, IsEenTabelVoorWieNietKijkt)
@@ -127,7 +135,7 @@ TEST_F(diaControleNBBTest, IsEenTabelVoorWieNietKijkt)
     // The second line, in the column of the names
     const QRect naam = tabel->cellAt(1, 3)->rect();
     EXPECT_EQ(tabel->cellAt(1, 3), vlak->childAt(naam.center().x(), naam.center().y()));
-    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    Klik(chkSort(), {8, 8});
     EXPECT_EQ("104|V|Dinsdagavo|Aap, Bea de", rij(0));
     EXPECT_EQ(QList<int>{0}, tabel->selectedRows());
 }
@@ -136,11 +144,11 @@ TEST_F(diaControleNBBTest, GesorteerdOpNaamEnWeerTerug)
 {
     ASSERT_NO_FATAL_FAILURE(OpenBeide());
     const std::string eerst = Geschilderd();
-    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    Klik(chkSort(), {8, 8});
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 104 V Dinsdagavo Aap, Bea de Club Bos, An 103 M Club Dam, "
               "Cor 101 V Club Zee, Zus van",
               Geschilderd());
-    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    Klik(chkSort(), {8, 8});
     EXPECT_EQ(eerst, Geschilderd());
 }
 
@@ -164,43 +172,19 @@ TEST_F(diaControleNBBTest, NaEenBestandDatNietGelezenWerdGaatDeLijstVerder)
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 104 V Dinsdagavo Aap, Bea de", Geschilderd());
 }
 
-TEST_F(diaControleNBBTest, EenFoutInEenNbb3Bestand)
-{
-    opdracht.bron = Ledenbron::XmlNbb3;
-    map.Zet("Stuk.xml", "<lijst><lid>");
-    wachter.Waarschuwing(
-        u"Fout bij het lezen van 'Stuk.xml' NBB3-XML-bestand\r\nHet ledenbestand kan niet worden "
-        "gelezen; de leden ervan staan niet in het overzicht. Exporteer het opnieuw of kies een "
-        "ander ledenbestand.\r\n\r\nBestand: %1\nRegel: 1\nOorzaak: een eindtag ontbreekt of hoort "
-        "niet bij de begintag (teken 12 van die regel)"_s.arg(
-            QString::fromStdString((map.Weg() / "Stuk.xml").string())));
-    ASSERT_NO_FATAL_FAILURE(Open({"Stuk.xml"}));
-    EXPECT_FALSE(Knop("cmdPrint")->isEnabled());
-}
-
-TEST_F(diaControleNBBTest, EenTeKorteRegelWordtGemeldMetWatErVoorStond)
-{
-    map.Zet("Kort.csv",
-            Csv("1", "V", "An", "", "Bos") + "2;V;Bea\r\n" + Csv("3", "V", "Cor", "", "Dam"));
-    wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
-        "nodig en open dit overzicht opnieuw.\r\n\r\n'Kort.csv': gelezen tot regel 2, want die "
-        "regel heeft te weinig kolommen."_s);
-    ASSERT_NO_FATAL_FAILURE(Open({"Kort.csv"}));
-    EXPECT_EQ("NBBnr M/V NBBgroep Naam 1 V Kort Bos, An", Geschilderd());
-}
-
 TEST_F(diaControleNBBTest, WatErNietInStaatWordtGemeld)
 {
     map.Zet("Kop.csv", "VERSIE=2.8\r\n" + Csv("1", "V", "An", "", "Bos") +
                            Csv("2", "V", "Bea", "", "D=m") + Csv("3", "V", "Zo\xC3\xAB", "", "Ek"));
-    wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
-        "nodig en open dit overzicht opnieuw.\r\n\r\n'Kop.csv': opgeslagen in UTF-8, dus letters "
-        "met een accent komen verkeerd over.\r\n'Kop.csv': 2 regels overgeslagen, omdat er een '=' "
-        "in staat, zoals in een kopregel."_s);
-    ASSERT_NO_FATAL_FAILURE(Open({"Kop.csv"}));
-    EXPECT_EQ("Aantal leden: 2", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
+    map.Zet("Kort.csv",
+            Csv("1", "V", "An", "", "Bos") + "2;V;Bea\r\n" + Csv("3", "V", "Cor", "", "Dam"));
+    VerwachtOpmerkingen(
+        u"'Kop.csv': opgeslagen in UTF-8, dus letters met een accent komen verkeerd over.\r\n"
+        "'Kop.csv': 2 regels overgeslagen, omdat er een '=' in staat, zoals in een kopregel.\r\n"
+        "'Kort.csv': gelezen tot regel 2, want die regel heeft te weinig kolommen."_s);
+    ASSERT_NO_FATAL_FAILURE(Open({"Kop.csv", "Kort.csv"}));
+    EXPECT_EQ("Aantal leden: 3", Label("lblAantal"));
+    EXPECT_TRUE(Geschilderd().ends_with(" 1 V Kort Bos, An"));
 }
 
 TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLetters)
@@ -210,9 +194,8 @@ TEST_F(diaControleNBBTest, EenNbb4BestandDatNietKonWordenGeladenEnVervangenLette
     map.Zet("Heel.xml", "<ReportableMembersList><Members><ReportableMember><LeagueId>7</LeagueId>"
                         "<Achternaam>Sz\xC5\x91</Achternaam></ReportableMember></Members>"
                         "</ReportableMembersList>");
-    wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
-        "nodig en open dit overzicht opnieuw.\r\n\r\n'Stuk.xml': geen leden, want het bestand kon "
+    VerwachtOpmerkingen(
+        u"'Stuk.xml': geen leden, want het bestand kon "
         "niet als XML worden gelezen; regel 1: een eindtag ontbreekt of hoort niet bij de begintag "
         "(teken 12 van die regel).\r\n'Weg.xml': geen leden, want het bestand is er niet "
         "(meer).\r\n'Heel.xml': aantal tekens dat het spelerbestand niet kent en dat is vervangen "
@@ -226,24 +209,21 @@ TEST_F(diaControleNBBTest, VanEenNummerVanVierCijfersWordtGezegdWelkeLedenHetZij
     map.Zet("Members.mdb", DatabaseMetJeugdnummer(1012));
     opdracht.bron = Ledenbron::Database;
     opdracht.LedenDatabase = Samen(map.AlsPad(), "Members.mdb");
-    wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
-        "nodig en open dit overzicht opnieuw.\r\n\r\n'Jeugd 1012': dit zijn de leden van het "
+    VerwachtOpmerkingen(
+        u"'Jeugd 1012': dit zijn de leden van het "
         "ledenbestand met nummer 12, want van het nummer tellen alleen de laatste drie "
         "tekens.\r\n'Jeugd 1012': aantal tekens dat het spelerbestand niet kent en dat is "
         "vervangen door een teken dat erop lijkt, of is weggelaten: 1."_s);
     ASSERT_NO_FATAL_FAILURE(Open({"Jeugd 1012"}));
-    EXPECT_EQ("Aantal leden: 6", Vind<QLabel>(*venster, "lblAantal")->text().toStdString());
+    EXPECT_EQ("Aantal leden: 6", Label("lblAantal"));
 }
 
 /// The file that is being read is read to its end; those after it are not.
 TEST_F(diaControleNBBTest, StoppenLaatDeVolgendeBestandenWeg)
 {
     const Voortgangstopper stopper(1);
-    wachter.Informatie(
-        u"Bij het lezen van de ledenbestanden viel dit op; er is niets veranderd. Verhelp het zo "
-        "nodig en open dit overzicht opnieuw.\r\n\r\nHet lezen is gestopt: de lijst is niet "
-        "volledig."_s);
+    VerwachtOpmerkingen(u"Het lezen is gestopt: de lijst is niet "
+                        "volledig."_s);
     ASSERT_NO_FATAL_FAILURE(OpenBeide());
     EXPECT_EQ("Aantal leden: 3", Label("lblAantal"));
 }
@@ -341,7 +321,7 @@ TEST_F(diaControleNBBTest, HonderdduizendRegelsZijnErSnel)
 {
     EXPECT_TRUE(GroeitMee(100'000, [this](int aantal) {
         ASSERT_NO_FATAL_FAILURE(OpenVeel(aantal));
-        Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+        Klik(chkSort(), {8, 8});
         for (int stap = 0; stap <= 20; ++stap) {
             Balk()->setValue(Balk()->maximum() / 20 * stap);
             P1()->repaint();
@@ -378,7 +358,7 @@ TEST_F(diaControleNBBTest, OpPapierKopEnNummerOpElkBlad)
 TEST_F(diaControleNBBTest, OpPapierInDeGekozenVolgorde)
 {
     ASSERT_NO_FATAL_FAILURE(OpenBeide());
-    Klik(Vind<QCheckBox>(*venster, "chkSort"), {8, 8});
+    Klik(chkSort(), {8, 8});
     PrintNaarPdf();
     const auto bladen = LeesPdf(map.Weg() / "lijst.pdf");
     ASSERT_EQ(1U, bladen.size());

@@ -65,20 +65,6 @@ class ImporterenTest : public Importproef {
         });
     }
 
-    /// Members without a number, in a list that scrolls in a window of its own.
-    void ImporteerZonderNummers(const std::string& inhoud, int spelers)
-    {
-        ZetExport("Club.csv", inhoud);
-        Verwacht(Voer("Option2", {0}));
-        VerwachtVraag(u"Club"_s, spelers);
-        wachter.Bedien([](QDialog& bericht) {
-            EXPECT_EQ("frmBericht", bericht.objectName());
-            Druk(bericht, "cmdOK");
-        });
-        VerwachtAantallen(0, 0);
-        Importeer();
-    }
-
     void VerwachtLos(const QString& naam, const QString& rest)
     {
         wachter.Informatie(
@@ -368,16 +354,6 @@ TEST_F(ImporterenTest, EenCsvInUtf8WordtVoorDeVraagGemeld)
     EXPECT_EQ(oud, suite.Spelers());
 }
 
-/// A list that would not fit the screen scrolls in a window of its own.
-TEST_F(ImporterenTest, EenLangeLijstZonderNummers)
-{
-    std::string inhoud;
-    for (int i = 0; i < 60; ++i)
-        inhoud += ";V;Eva;;;Nummerloos" + std::to_string(i) + ";;;;;;\r\n";
-    ImporteerZonderNummers(inhoud, 60);
-    EXPECT_EQ(oud, suite.Spelers());
-}
-
 /// Few lines can still be too much for a box, which breaks them at blanks and nowhere else.
 TEST_F(ImporterenTest, LangeRegelsZonderNummers)
 {
@@ -388,7 +364,15 @@ TEST_F(ImporterenTest, LangeRegelsZonderNummers)
         std::string inhoud;
         for (int i = 0; i < 20; ++i)
             inhoud += ";V;Eva;;;" + naam + ";;;;;;\r\n";
-        ImporteerZonderNummers(inhoud, 20);
+        ZetExport("Club.csv", inhoud);
+        Verwacht(Voer("Option2", {0}));
+        VerwachtVraag(u"Club"_s, 20);
+        wachter.Bedien([](QDialog& bericht) {
+            EXPECT_EQ("frmBericht", bericht.objectName());
+            Druk(bericht, "cmdOK");
+        });
+        VerwachtAantallen(0, 0);
+        Importeer();
     }
 }
 

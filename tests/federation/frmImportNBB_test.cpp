@@ -110,6 +110,24 @@ TEST_F(frmImportNBBTest, DeVinkjesEnKnoppenBijHetOpenen)
     EXPECT_EQ(oud, suite.Spelers());
 }
 
+TEST_F(frmImportNBBTest, TabGaatVanBovenNaarBenedenEnLinksVoor)
+{
+    Verwacht([](QDialog& dia) {
+        QStringList volgorde;
+        for (QWidget* deel = dia.nextInFocusChain(); deel != &dia; deel = deel->nextInFocusChain())
+            if ((deel->focusPolicy() & Qt::ClickFocus) != 0 &&
+                !deel->objectName().startsWith(u"qt_"_s))
+                volgorde << deel->objectName();
+        EXPECT_EQ("Option1 Option2 Option3 Option4 chkNAW chkTel chkEmail chkMV chkVoornaam chkTus "
+                  "chkAchternaam chkNBBnr cmdKiesExportMap lstNBBbest cmdControleNBBnrs "
+                  "cmdHelpImport28 cmdHelpImport31 cmbHelpCSV cmdHelpImport4 cmdHint cmdAnnuleren "
+                  "cmdImporteer",
+                  volgorde.join(u' ').toStdString());
+        Druk(dia, "cmdAnnuleren");
+    });
+    Importeer();
+}
+
 TEST_F(frmImportNBBTest, ElkeBronHaaltZijnEigenBestandenUitDeMapVanDeBond)
 {
     KopieerExports();
@@ -120,7 +138,8 @@ TEST_F(frmImportNBBTest, ElkeBronHaaltZijnEigenBestandenUitDeMapVanDeBond)
         KiesOptie(dia, "Option2");
         EXPECT_EQ("Kies een map en selecteer een 'CSV'-bestand",
                   Opschrift(Vind<QPushButton>(dia, "cmdKiesExportMap")));
-        EXPECT_EQ("CSV-Ledenbestanden: 3", Labeltekst(dia, "Label3"));
+        EXPECT_EQ("CSV-Leden&bestanden: 3", Vind<QLabel>(dia, "Label3")->text().toStdString());
+        EXPECT_EQ(Lijst(dia), Vind<QLabel>(dia, "Label3")->buddy());
         EXPECT_EQ(map, Labeltekst(dia, "lblExportMap"));
         EXPECT_EQ((Namen{"AVOND.CSV", "Dinsdag 20260901.csv", "Maandag 20260901.csv"}),
                   Bestanden(dia));
@@ -144,10 +163,9 @@ TEST_F(frmImportNBBTest, ElkeBronHaaltZijnEigenBestandenUitDeMapVanDeBond)
     Importeer();
 }
 
-TEST_F(frmImportNBBTest, DeMapWordtPerBronOnthoudenZolangHetProgrammaLoopt)
+/// The folder is remembered per source for as long as the program runs.
+TEST_F(frmImportNBBTest, DeBestandskeuzeEnWatDaarvanOnthoudenWordt)
 {
-    const QString csv = u"CSV-bestanden (*.csv)"_s;
-    suite.Zet("Spelers/Los.csv", "");
     Verwacht([](QDialog& dia) {
         KiesOptie(dia, "Option2");
         EXPECT_EQ("CSV-Ledenbestanden: geen", Labeltekst(dia, "Label3"));
@@ -157,41 +175,26 @@ TEST_F(frmImportNBBTest, DeMapWordtPerBronOnthoudenZolangHetProgrammaLoopt)
         EXPECT_EQ((std::vector<int>{1}), Lijst(dia)->GekozenPlaatsen());
         KiesOptie(dia, "Option4");
         EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: geen", Labeltekst(dia, "Label3"));
-        KiesOptie(dia, "Option2");
-        EXPECT_EQ("CSV-Ledenbestanden: 2", Labeltekst(dia, "Label3"));
-        Druk(dia, "cmdAnnuleren");
-    });
-    VerwachtBestandskeuze(csv, "Ledenbestanden/Maandag 20260901.csv");
-    Importeer();
-    Verwacht([](QDialog& dia) {
-        EXPECT_TRUE(Vind<QRadioButton>(dia, "Option2")->isChecked());
-        EXPECT_EQ("CSV-Ledenbestanden: 2", Labeltekst(dia, "Label3"));
-        KiesOptie(dia, "Option4");
-        Druk(dia, "cmdAnnuleren");
-    });
-    Importeer();
-    Verwacht([](QDialog& dia) {
-        EXPECT_TRUE(Vind<QRadioButton>(dia, "Option4")->isChecked());
-        EXPECT_EQ("Option4", dia.focusWidget()->objectName().toStdString());
-        Druk(dia, "cmdAnnuleren");
-    });
-    Importeer();
-}
-
-TEST_F(frmImportNBBTest, DeBestandskeuzeVanXmlEnAnnulerenDaarvan)
-{
-    Verwacht([](QDialog& dia) {
-        KiesOptie(dia, "Option4");
         Druk(dia, "cmdKiesExportMap");
         EXPECT_EQ((std::vector<int>{1}), Lijst(dia)->GekozenPlaatsen());
         Druk(dia, "cmdKiesExportMap");
         EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: 2", Labeltekst(dia, "Label3"));
         Druk(dia, "cmdAnnuleren");
     });
+    VerwachtBestandskeuze(u"CSV-bestanden (*.csv)"_s, "Ledenbestanden/Maandag 20260901.csv");
     VerwachtBestandskeuze(u"XML-bestanden (*.xml)"_s, "Ledenbestanden/Zomer 20260901.xml");
     wachter.Bedien([](QDialog& keuze) {
         EXPECT_EQ("Map", QFileIconProvider().type(QFileInfo(QDir::tempPath())));
         keuze.reject();
+    });
+    Importeer();
+    Verwacht([](QDialog& dia) {
+        EXPECT_TRUE(Vind<QRadioButton>(dia, "Option4")->isChecked());
+        EXPECT_EQ("Option4", dia.focusWidget()->objectName().toStdString());
+        EXPECT_EQ("XML-Ledenbestanden uit NBBR-4: 2", Labeltekst(dia, "Label3"));
+        KiesOptie(dia, "Option2");
+        EXPECT_EQ("CSV-Ledenbestanden: 2", Labeltekst(dia, "Label3"));
+        Druk(dia, "cmdAnnuleren");
     });
     Importeer();
 }
@@ -340,32 +343,6 @@ TEST_F(frmImportNBBTest, OpEenLaagSchermBlijvenDeKnoppenInBeeld)
     Importeer();
 }
 
-TEST_F(frmImportNBBTest, DeLijstHeeftEenSneltoets)
-{
-    KopieerExports();
-    Verwacht([](QDialog& dia) {
-        KiesOptie(dia, "Option2");
-        EXPECT_EQ("CSV-Leden&bestanden: 2", Vind<QLabel>(dia, "Label3")->text().toStdString());
-        EXPECT_EQ(Lijst(dia), Vind<QLabel>(dia, "Label3")->buddy());
-        Druk(dia, "cmdAnnuleren");
-    });
-    Importeer();
-}
-
-TEST_F(frmImportNBBTest, ZonderKeusVanEenBestandWordtErNietsGedaan)
-{
-    KopieerExports();
-    Verwacht([](QDialog& dia) {
-        KiesOptie(dia, "Option2");
-        Druk(dia, "cmdImporteer");
-        EXPECT_TRUE(dia.isVisible());
-        Druk(dia, "cmdAnnuleren");
-    });
-    wachter.Waarschuwing(u"U moet nog ledenbestand(en) selecteren!"_s);
-    Importeer();
-    EXPECT_EQ(oud, suite.Spelers());
-}
-
 /// The number check looks at the chosen member files and changes nothing.
 TEST_F(frmImportNBBTest, HetOverzichtVanDeNummers)
 {
@@ -375,13 +352,16 @@ TEST_F(frmImportNBBTest, HetOverzichtVanDeNummers)
         Druk(dia, "cmdControleNBBnrs");
         Lijst(dia)->clearSelection();
         Druk(dia, "cmdControleNBBnrs");
+        Druk(dia, "cmdImporteer");
+        EXPECT_TRUE(dia.isVisible());
         Druk(dia, "cmdAnnuleren");
     });
     wachter.Bedien([](QDialog& overzicht) {
         EXPECT_EQ("diaControleNBB", overzicht.objectName());
         Druk(overzicht, "cmdTerug");
     });
-    wachter.Waarschuwing(u"U moet nog ledenbestand(en) selecteren!"_s);
+    for (int i = 0; i < 2; ++i)
+        wachter.Waarschuwing(u"U moet nog ledenbestand(en) selecteren!"_s);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }

@@ -34,45 +34,55 @@ Tekst Xml(const Tekst& leden)
     return "<ReportableMembersList><Members>" + leden + "</Members></ReportableMembersList>";
 }
 
+/// One member file on a disk.
+class LeesLedenbestandTest : public testing::Test {
+  protected:
+    LeesLedenbestandTest() { schijf.ZetMap("C:\\P"); }
+
+    void Zet(const Tekst& naam, const Tekst& inhoud) { schijf.Zet("C:\\Export\\" + naam, inhoud); }
+    auto Lees(Ledenbron bron, Tekstblik naam)
+    {
+        return LeesLedenbestand(schijf, Opdracht(bron), naam);
+    }
+
+    GeheugenSchijf schijf;
+};
+
 TEST(SubgroepUitNaam, TotDeEersteSpatieOfAndersDeEerstePunt)
 {
-    EXPECT_EQ(SubgroepUitNaam("Club.csv"), "Club");
-    EXPECT_EQ(SubgroepUitNaam("Club 30.csv"), "Club");
-    EXPECT_EQ(SubgroepUitNaam("Club 20170125.csv"), "Club");
-    EXPECT_EQ(SubgroepUitNaam("Club Nijmegen.xml"), "Club");
-    EXPECT_EQ(SubgroepUitNaam("Club 007"), "Club");
-    EXPECT_EQ(SubgroepUitNaam("B.C. Club.csv"), "B.C.") << "de spatie gaat voor";
-    EXPECT_EQ(SubgroepUitNaam("B.C.csv"), "B");
-    EXPECT_EQ(SubgroepUitNaam("Club"), "Club");
-    EXPECT_EQ(SubgroepUitNaam(" Club.csv"), "");
-    EXPECT_EQ(SubgroepUitNaam(""), "");
-}
-
-TEST(Tussenbestandnaam, StaatInDeMapVanHetProgramma)
-{
+    for (const auto& [naam, subgroep] : {std::pair{"Club.csv", "Club"},
+                                         {"Club 30.csv", "Club"},
+                                         {"Club 20170125.csv", "Club"},
+                                         {"Club Nijmegen.xml", "Club"},
+                                         {"Club 007", "Club"},
+                                         {"B.C. Club.csv", "B.C."}, // the blank comes first
+                                         {"B.C.csv", "B"},
+                                         {"Club", "Club"},
+                                         {" Club.csv", ""},
+                                         {"", ""}})
+        EXPECT_EQ(SubgroepUitNaam(naam), subgroep) << naam;
     EXPECT_EQ(Tussenbestand("F", "Club"), "F\\Club Temp-NBBXMLtoCSV.csv");
 }
 
-TEST(LeesLedenbestand, LeestEenCsvRechtstreeksUitDeMap)
+TEST_F(LeesLedenbestandTest, EenCsvRechtstreeksUitDeMap)
 {
-    GeheugenSchijf schijf;
-    schijf.Zet("C:\\Export\\Club 30.csv", "1;V;Ans;A.;;Ek;;;;;;\r\n");
-    const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club 30.csv");
+    Zet("Club 30.csv", "a=b\r\n1;V;Ans;A.;;Ek;;;;;;\r\n2;;C\r\n");
+    const auto lezing = Lees(Ledenbron::Csv, "Club 30.csv");
     ASSERT_TRUE(lezing.has_value());
     EXPECT_EQ(lezing->lstN1, Lijst{"Ans,,Ek,,,,,,,V,1"});
+    EXPECT_EQ(lezing->teKorteRegel, 3);
+    EXPECT_EQ(lezing->metIsTeken, Lijst{"a=b"});
     EXPECT_EQ(schijf.AlleBestanden().size(), 1U) << "zonder tussenbestand";
 }
 
-TEST(LeesLedenbestand, LeestXmlLangsHetTussenbestandDatBlijftStaan)
+TEST_F(LeesLedenbestandTest, XmlLangsHetTussenbestandDatBlijftStaan)
 {
-    GeheugenSchijf schijf;
-    schijf.ZetMap("C:\\P");
-    schijf.Zet("C:\\Export\\Club 30.xml",
-               Xml("<ReportableMember><LeagueId>1</LeagueId><Achternaam>Partner van "
-                   "\xC5\x90s</Achternaam></ReportableMember>"
-                   "<ReportableMember><LeagueId>2</LeagueId><Email>a=b</Email></ReportableMember>"
-                   "<ReportableMember/>"));
-    const auto vier = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club 30.xml");
+    Zet("Club 30.xml",
+        Xml("<ReportableMember><LeagueId>1</LeagueId><Achternaam>Partner van "
+            "\xC5\x90s</Achternaam></ReportableMember>"
+            "<ReportableMember><LeagueId>2</LeagueId><Email>a=b</Email></ReportableMember>"
+            "<ReportableMember/>"));
+    const auto vier = Lees(Ledenbron::XmlNbb4, "Club 30.xml");
     ASSERT_TRUE(vier.has_value());
     EXPECT_EQ(vier->lstN1, (Lijst{",,Partner_van_Os,,,,,,,,1", ",,,,,,,,,,"}));
     EXPECT_EQ(vier->metIsTeken, Lijst{"2;;;;;;;;;;a=b;;;;;;"});
@@ -81,46 +91,41 @@ TEST(LeesLedenbestand, LeestXmlLangsHetTussenbestandDatBlijftStaan)
     EXPECT_EQ(
         schijf.Inhoud("C:\\P\\Club Temp-NBBXMLtoCSV.csv"),
         "1;;;;;Partner_van_Os;;;;;;;;;;;\r\n2;;;;;;;;;;a=b;;;;;;\r\n;;;;;;;;;;;;;;;;\r\n\r\n");
-    const auto drie = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb3), "Club 30.xml");
+    const auto drie = Lees(Ledenbron::XmlNbb3, "Club 30.xml");
     ASSERT_TRUE(drie.has_value());
     EXPECT_EQ(drie->lstN1, (Lijst{",,1,Partner van Os,,,,,,,", ",,,,,,,,,,"}));
 }
 
-TEST(LeesLedenbestand, DeVakjesGeldenOokVoorXml)
+TEST_F(LeesLedenbestandTest, DeVakjesGeldenOokVoorXml)
 {
-    GeheugenSchijf schijf;
-    schijf.ZetMap("C:\\P");
-    schijf.Zet("C:\\Export\\Club.xml",
-               Xml("<ReportableMember><LeagueId>1</LeagueId><Geslacht>Man</Geslacht>"
-                   "<Adres>Brink 1</Adres><Telefoon1>06</Telefoon1><Email>e</Email>"
-                   "<Achternaam>Ek</Achternaam></ReportableMember>"));
+    Zet("Club.xml", Xml("<ReportableMember><LeagueId>1</LeagueId><Geslacht>Man</Geslacht>"
+                        "<Adres>Brink 1</Adres><Telefoon1>06</Telefoon1><Email>e</Email>"
+                        "<Achternaam>Ek</Achternaam></ReportableMember>"));
     auto opdracht = Opdracht(Ledenbron::XmlNbb4);
     opdracht.keuzes = {.naw = false, .tel = true, .email = false, .mv = true};
     EXPECT_EQ(LeesLedenbestand(schijf, opdracht, "Club.xml")->lstN1, Lijst{",,Ek,,,,06,,,M,1"});
 }
 
-TEST(LeesLedenbestand, EenFoutLaatNietsLezen)
+TEST_F(LeesLedenbestandTest, EenFoutLaatNietsLezen)
 {
-    GeheugenSchijf schijf;
     // Left by an earlier reading: must not be taken for this file's members.
     schijf.Zet("C:\\P\\Club Temp-NBBXMLtoCSV.csv", "9;;;;;Oud;;;;;;;;;;;\r\n\r\n");
-    schijf.Zet("C:\\Export\\Club.xml", "geen xml");
-    const auto drie = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb3), "Club.xml");
-    ASSERT_FALSE(drie.has_value());
-    EXPECT_EQ(drie.error().soort, Foutsoort::Beschadigd);
-    EXPECT_EQ(drie.error().bestand, "C:\\Export\\Club.xml");
-    const auto vier = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club.xml");
+    Zet("Club.xml", "geen xml");
+    Zet("nul.csv", Tekst("1;;A;;;B\0;;;;;;", 15));
+    const auto fout = [&](Ledenbron bron, const char* naam) {
+        const auto lezing = Lees(bron, naam);
+        return lezing ? Fout{} : lezing.error();
+    };
+    EXPECT_EQ(fout(Ledenbron::XmlNbb3, "Club.xml").soort, Foutsoort::Beschadigd);
+    EXPECT_EQ(fout(Ledenbron::XmlNbb3, "Club.xml").bestand, "C:\\Export\\Club.xml");
+    EXPECT_EQ(fout(Ledenbron::Csv, "weg.csv").soort, Foutsoort::Ontbreekt);
+    EXPECT_EQ(fout(Ledenbron::Csv, "weg.csv").bestand, "C:\\Export\\weg.csv");
+    EXPECT_EQ(fout(Ledenbron::Csv, "nul.csv").bestand, "C:\\Export\\nul.csv");
+    EXPECT_FALSE(Lees(Ledenbron::Database, "Club 007").has_value());
+    const auto vier = Lees(Ledenbron::XmlNbb4, "Club.xml");
     ASSERT_TRUE(vier.has_value());
     EXPECT_TRUE(vier->lstN1.empty());
     EXPECT_TRUE(vier->nietGeladen.has_value());
-    const auto csv = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "weg.csv");
-    ASSERT_FALSE(csv.has_value());
-    EXPECT_EQ(csv.error().soort, Foutsoort::Ontbreekt);
-    EXPECT_EQ(csv.error().bestand, "C:\\Export\\weg.csv");
-    schijf.Zet("C:\\Export\\nul.csv", Tekst("1;;A;;;B\0;;;;;;", 15));
-    const auto nul = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "nul.csv");
-    ASSERT_FALSE(nul.has_value());
-    EXPECT_EQ(nul.error().bestand, "C:\\Export\\nul.csv");
 }
 
 /// A disk whose files say that they are huge.
@@ -157,46 +162,28 @@ TEST(LeesLedenbestand, EenReusachtigBestandWordtNietGelezen)
             << "om te kunnen zeggen dat het te groot is";
 }
 
-TEST(LeesLedenbestand, MeldtEenTeKorteRegel)
-{
-    GeheugenSchijf schijf;
-    schijf.Zet("C:\\Export\\Club.csv", "a=b\r\n1;;A;;;B;;;;;;\r\n2;;C\r\n");
-    const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club.csv");
-    EXPECT_EQ(lezing->teKorteRegel, 3);
-    EXPECT_EQ(lezing->lstN1.size(), 1U);
-    EXPECT_EQ(lezing->metIsTeken.size(), 1U);
-}
-
 /// Meant: the bytes are read as they stand, mark and all; the user only hears of it.
-TEST(LeesLedenbestand, EenCsvInUtf8WordtByteVoorByteGelezenEnDatWordtGezegd)
+TEST_F(LeesLedenbestandTest, EenCsvInUtf8WordtByteVoorByteGelezenEnDatWordtGezegd)
 {
-    GeheugenSchijf schijf;
-    schijf.Zet("C:\\Export\\Club.csv", "\xEF\xBB\xBF"
-                                       "1;;Zo\xC3\xAB;;;Ek;;;;;;\r\n");
-    const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club.csv");
-    EXPECT_EQ(lezing->lstN1, Lijst{"Zo\xC3\xAB,,Ek,,,,,,,,\xEF\xBB\xBF"
-                                   "1"});
+    Zet("Club.csv", "\xEF\xBB\xBF\x31;;Zo\xC3\xAB;;;Ek;;;;;;\r\n");
+    const auto lezing = Lees(Ledenbron::Csv, "Club.csv");
+    EXPECT_EQ(lezing->lstN1, Lijst{"Zo\xC3\xAB,,Ek,,,,,,,,\xEF\xBB\xBF\x31"});
     EXPECT_TRUE(lezing->inUtf8);
-    schijf.Zet("C:\\Export\\Club.csv", "\xFF\xFE"
-                                       "1;;Zo\xEB;;;Ek;;;;;;\r\n");
-    EXPECT_FALSE(LeesLedenbestand(schijf, Opdracht(Ledenbron::Csv), "Club.csv")->inUtf8);
+    Zet("Club.csv", "\xFF\xFE\x31;;Zo\xEB;;;Ek;;;;;;\r\n");
+    EXPECT_FALSE(Lees(Ledenbron::Csv, "Club.csv")->inUtf8);
     // The way by the intermediate file is not asked: that is always of the code page.
-    schijf.ZetMap("C:\\P");
-    schijf.Zet("C:\\Export\\Club.xml",
-               Xml("<ReportableMember><Plaats>\xC3\x83\xC2\xAB</Plaats></ReportableMember>"));
-    const auto xml = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club.xml");
+    Zet("Club.xml", Xml("<ReportableMember><Plaats>\xC3\x83\xC2\xAB</Plaats></ReportableMember>"));
+    const auto xml = Lees(Ledenbron::XmlNbb4, "Club.xml");
     EXPECT_EQ(xml->lstN1, Lijst{",,,,,\xC3\xAB,,,,,"});
     EXPECT_FALSE(xml->inUtf8);
 }
 
-TEST(LeesLedenbestand, TeltOverBeideStappenDoor)
+TEST_F(LeesLedenbestandTest, TeltOverBeideStappenDoor)
 {
-    GeheugenSchijf schijf;
-    schijf.ZetMap("C:\\P");
     Tekst leden;
     for (int i = 0; i < 10'000; ++i)
         leden += "<ReportableMember/>";
-    schijf.Zet("C:\\Export\\Club.xml", Xml(leden));
+    Zet("Club.xml", Xml(leden));
     std::vector<double> standen;
     const auto lezing = LeesLedenbestand(schijf, Opdracht(Ledenbron::XmlNbb4), "Club.xml",
                                          [&](std::size_t gedaan, std::size_t geheel) {
@@ -212,12 +199,10 @@ TEST(LeesLedenbestand, TeltOverBeideStappenDoor)
     EXPECT_LE(standen.back(), 1.0);
 }
 
-TEST(BepaalXMLsoort, HoudtAlleenDeBestandenVanDeGekozenSoort)
+using BepaalXMLsoortTest = LeesLedenbestandTest;
+
+TEST_F(BepaalXMLsoortTest, HoudtAlleenDeBestandenVanDeGekozenSoort)
 {
-    GeheugenSchijf schijf;
-    const auto zet = [&](const char* naam, const Tekst& inhoud) {
-        schijf.Zet(Samen("C:\\Export", naam), inhoud);
-    };
     const auto utf16 = [](const Tekst& tekst) {
         Tekst uit = "\xFF\xFE";
         for (const char teken : tekst) {
@@ -228,16 +213,16 @@ TEST(BepaalXMLsoort, HoudtAlleenDeBestandenVanDeGekozenSoort)
     };
     const Tekst drie = Xml("<ReportableMember><Naam>x</Naam></ReportableMember>");
     const Tekst vier = Xml("<ReportableMember><LeagueId>1</LeagueId></ReportableMember>");
-    zet("d.xml", drie);
-    zet("v.xml", vier);
-    zet("a.xml", vier);
-    zet("c.xml", drie);
-    zet("anders.xml", "<LeagueId>1</LeagueId>");
-    zet("hoofd.xml", "<REPORTABLEMEMBER><LeagueId>");
-    zet("leeg.xml", "");
-    zet("v16.xml", utf16(vier));
-    zet("d16.xml", utf16(drie));
-    zet("kapot.xml", "<ReportableMember>\xFF");
+    Zet("d.xml", drie);
+    Zet("v.xml", vier);
+    Zet("a.xml", vier);
+    Zet("c.xml", drie);
+    Zet("anders.xml", "<LeagueId>1</LeagueId>");
+    Zet("hoofd.xml", "<REPORTABLEMEMBER><LeagueId>");
+    Zet("leeg.xml", "");
+    Zet("v16.xml", utf16(vier));
+    Zet("d16.xml", utf16(drie));
+    Zet("kapot.xml", "<ReportableMember>\xFF");
     const Namen namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",  "hoofd.xml",
                          "a.xml", "v16.xml", "c.xml",   "leeg.xml",   "kapot.xml"};
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb3),
@@ -246,14 +231,11 @@ TEST(BepaalXMLsoort, HoudtAlleenDeBestandenVanDeGekozenSoort)
               (Namen{"v.xml", "a.xml", "v16.xml"}));
 }
 
-TEST(BepaalXMLsoort, MeldtElkBestandEnHoudtOpAlsHetMoet)
+TEST_F(BepaalXMLsoortTest, MeldtElkBestandEnHoudtOpAlsHetMoet)
 {
-    GeheugenSchijf schijf;
-    Namen namen;
-    for (const char* naam : {"a.xml", "b.xml", "c.xml"}) {
-        schijf.Zet(Samen("C:\\Export", naam), Xml("<ReportableMember>x</ReportableMember>"));
-        namen.emplace_back(naam);
-    }
+    const Namen namen{"a.xml", "b.xml", "c.xml"};
+    for (const Tekst& naam : namen)
+        Zet(naam, Xml("<ReportableMember>x</ReportableMember>"));
     std::vector<std::size_t> standen;
     const auto tot = [&](std::size_t hoeveel) {
         return BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb3,
@@ -270,63 +252,54 @@ TEST(BepaalXMLsoort, MeldtElkBestandEnHoudtOpAlsHetMoet)
 }
 
 /// The sample exports as they stand in the repository.
-class Voorbeelden : public ::testing::Test {
+class Voorbeelden : public LeesLedenbestandTest {
   protected:
     void SetUp() override
     {
         namespace fs = std::filesystem;
-        schijf_.ZetMap("C:\\P");
         for (const auto& item :
              fs::directory_iterator(fs::path(VOORBEELD) / "Bestanden/NBB4-Leden")) {
             std::ifstream bestand(item.path(), std::ios::binary);
             const Tekst inhoud(std::istreambuf_iterator<char>(bestand), {});
             namen_.push_back(item.path().filename().string());
-            schijf_.Zet(Samen("C:\\Export", namen_.back()), inhoud);
+            Zet(namen_.back(), inhoud);
         }
         std::sort(namen_.begin(), namen_.end());
     }
 
-    Ledenlezing Lees(Ledenbron bron, Tekstblik naam)
-    {
-        const auto lezing = LeesLedenbestand(schijf_, Opdracht(bron), naam);
-        EXPECT_TRUE(lezing.has_value());
-        return lezing.value_or(Ledenlezing());
-    }
-
-    GeheugenSchijf schijf_;
     Namen namen_;
 };
 
 TEST_F(Voorbeelden, ZijnElkVanHunSoort)
 {
-    EXPECT_EQ(BepaalXMLsoort(schijf_, "C:\\Export", namen_, Ledenbron::XmlNbb3),
+    EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen_, Ledenbron::XmlNbb3),
               Namen{"Donderdag 20260901.xml"});
-    EXPECT_EQ(BepaalXMLsoort(schijf_, "C:\\Export", namen_, Ledenbron::XmlNbb4),
+    EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen_, Ledenbron::XmlNbb4),
               (Namen{"Cursus 20260901.xml", "Zomer 20260901.xml"}));
 }
 
 TEST_F(Voorbeelden, DeCsvBestandenGevenHunLeden)
 {
-    const auto maandag = Lees(Ledenbron::Csv, "Maandag 20260901.csv");
+    const auto maandag = Lees(Ledenbron::Csv, "Maandag 20260901.csv").value();
     ASSERT_EQ(maandag.lstN1.size(), 8U);
     EXPECT_EQ(maandag.metIsTeken, Lijst{"LEDENBESTAND=Maandag;VERSIE=2.8"});
     EXPECT_EQ(maandag.lstN1[1], "Rob,van,Beukering,Graanstraat 23,0437 BC,Oud-Merwolde,010-0000298,"
                                 "r.vanbeukering@thuispost.example,Nederland,M,91892044");
     EXPECT_EQ(maandag.lstN1[7],
               "Gonnie,,Gastvrouw,Brink 2,0411 JK,Wielerdam,06-00000607,,Nederland,V,");
-    const auto dinsdag = Lees(Ledenbron::Csv, "Dinsdag 20260901.csv");
+    const auto dinsdag = Lees(Ledenbron::Csv, "Dinsdag 20260901.csv").value();
     ASSERT_EQ(dinsdag.lstN1.size(), 6U);
     EXPECT_TRUE(dinsdag.lstN1[0].ends_with(",91959164")) << "zonder de bytes van het merk";
 }
 
 TEST_F(Voorbeelden, DeXmlBestandenGevenHunLeden)
 {
-    const auto donderdag = Lees(Ledenbron::XmlNbb3, "Donderdag 20260901.xml");
+    const auto donderdag = Lees(Ledenbron::XmlNbb3, "Donderdag 20260901.xml").value();
     ASSERT_EQ(donderdag.lstN1.size(), 6U);
     EXPECT_EQ(donderdag.lstN1[4], "Jol\xE8ne,,Bru\xFFnzeele,Dorpsstraat 5,0423 DW,Elzenmade,"
                                   "06-00000622,j.bruynzeele@thuispost.example,,V,96608153");
     EXPECT_EQ(donderdag.lstN1[5], "Partner,,Partner van Otto,,,,,,,M,");
-    const auto zomer = Lees(Ledenbron::XmlNbb4, "Zomer 20260901.xml");
+    const auto zomer = Lees(Ledenbron::XmlNbb4, "Zomer 20260901.xml").value();
     ASSERT_EQ(zomer.lstN1.size(), 7U);
     EXPECT_EQ(zomer.vervangenTekens, 2U);
     EXPECT_EQ(zomer.lstN1[3], "Gyongyi,,Dvor\xE1kova,Wilgenhof 3,0411 HK,Wielerdam,06-00000631,"
@@ -334,7 +307,7 @@ TEST_F(Voorbeelden, DeXmlBestandenGevenHunLeden)
     EXPECT_EQ(zomer.lstN1[4], "Bob,van,Eeckhof & Zoon,Bloemkwartier 9,0411 ZH,Wielerdam,"
                               "010-0000634,,,M,98025517");
     EXPECT_EQ(zomer.lstN1[5], "Partner,,Partner_van_Bob,,,,,,,,9901");
-    const auto cursus = Lees(Ledenbron::XmlNbb4, "Cursus 20260901.xml");
+    const auto cursus = Lees(Ledenbron::XmlNbb4, "Cursus 20260901.xml").value();
     ASSERT_EQ(cursus.lstN1.size(), 3U);
     EXPECT_TRUE(cursus.lstN1[1].starts_with("Ma\xEBlle,,Kraaijenest,"));
 }
@@ -346,11 +319,11 @@ class Beschadigd : public Voorbeelden {
     void LeesAlsAlles(const Tekst& inhoud, const std::string& hoe)
     {
         for (const Ledenbron bron : {Ledenbron::Csv, Ledenbron::XmlNbb3, Ledenbron::XmlNbb4}) {
-            schijf_.Zet("C:\\Export\\Kapot.x", inhoud);
-            schijf_.Zet(tussen, "oud");
-            const auto lezing = LeesLedenbestand(schijf_, Opdracht(bron), "Kapot.x");
+            Zet("Kapot.x", inhoud);
+            schijf.Zet(tussen, "oud");
+            const auto lezing = Lees(bron, "Kapot.x");
             ++(lezing && !lezing->nietGeladen ? goed_ : fout_);
-            const Tekst over = schijf_.Inhoud(tussen).value_or("(weg)");
+            const Tekst over = schijf.Inhoud(tussen).value_or("(weg)");
             const bool geschreven = lezing && bron != Ledenbron::Csv;
             const bool heel = over == "\r\n" || over.ends_with(";\r\n\r\n");
             ASSERT_TRUE(geschreven ? heel : over == "oud") << hoe;
@@ -367,7 +340,7 @@ class Beschadigd : public Voorbeelden {
 TEST_F(Beschadigd, AfgekaptOpElkePlaats)
 {
     for (const Tekst& naam : namen_) {
-        const Tekst heel = schijf_.Inhoud(Samen("C:\\Export", naam)).value();
+        const Tekst heel = schijf.Inhoud(Samen("C:\\Export", naam)).value();
         for (std::size_t lengte = 0; lengte < heel.size(); ++lengte)
             ASSERT_NO_FATAL_FAILURE(
                 LeesAlsAlles(heel.substr(0, lengte), naam + " tot " + std::to_string(lengte)));
@@ -380,7 +353,7 @@ TEST_F(Beschadigd, MetBytesDieErNietHoren)
 {
     std::mt19937 toeval(4);
     for (const Tekst& naam : namen_) {
-        const Tekst heel = schijf_.Inhoud(Samen("C:\\Export", naam)).value();
+        const Tekst heel = schijf.Inhoud(Samen("C:\\Export", naam)).value();
         for (int keer = 0; keer < 300; ++keer) {
             Tekst inhoud = heel;
             for (int i = keer % 5; i >= 0; --i)
@@ -425,24 +398,11 @@ TEST(LeesLedenbestand, ZestigMegabyteDuurtNietLang)
     EXPECT_EQ(heel->lstN1[0].size(), groot + 10);
 }
 
-TEST(LeesLedenbestand, ZonderDatabaseIsHetEenFout)
-{
-    GeheugenSchijf schijf;
-    schijf.Zet("C:\\P\\Club Temp-NBBXMLtoCSV.csv", "9;;;;;Oud;;;;;;;;;;;\r\n\r\n");
-    EXPECT_FALSE(LeesLedenbestand(schijf, Opdracht(Ledenbron::Database), "Club 007").has_value());
-}
-
 /// The name of the intermediate file comes from the database.
-TEST(LeesLedenbestand, EenNaamUitDeDatabaseDieGeenBestandKanZijnWordtNietGelezen)
+TEST_F(LeesLedenbestandTest, EenNaamUitDeDatabaseDieGeenBestandKanZijnWordtNietGelezen)
 {
     for (const char* naam : {"Noord/Zuid 007", "..\\..\\Elders 007", "C:Club 007"}) {
-        GeheugenSchijf schijf;
-        const Ledenopdracht opdracht{.bron = Ledenbron::Database,
-                                     .map = {},
-                                     .programmamap = "C:\\P",
-                                     .LedenDatabase = "weg.mdb",
-                                     .keuzes = {}};
-        const auto lezing = LeesLedenbestand(schijf, opdracht, naam);
+        const auto lezing = Lees(Ledenbron::Database, naam);
         ASSERT_FALSE(lezing) << naam;
         EXPECT_EQ(Foutsoort::Beschadigd, lezing.error().soort) << naam;
         EXPECT_EQ(0U, lezing.error().systeem.find("'" + SubgroepUitNaam(naam) + "' kan niet"))

@@ -23,9 +23,9 @@ class HaalLedenProef : public testing::Test {
 
     Tekst Haal(int id)
     {
-        const auto vervangen = HaalLeden(schijf_, database, id, doel);
-        EXPECT_TRUE(vervangen) << vervangen.error().systeem;
-        vervangen_ = vervangen.value_or(0);
+        const auto gehaald = HaalLeden(schijf_, database, id, doel);
+        EXPECT_TRUE(gehaald) << gehaald.error().systeem;
+        vervangen_ = gehaald->vervangenTekens;
         return schijf_.Inhoud(doel).value_or("");
     }
 

@@ -32,18 +32,21 @@ Register DrieSpelers()
                 "3,100003,Gr05-,Cor,,Dam,,,,,,,,,,,OUD,222\r\n");
 }
 
-Samenvoeging Voeg(Register& spelers, Teksten regels, const Tekst& subgroep = "Club")
-{
-    auto uitkomst = VoegLedenSamen(spelers, {"Gr05-", subgroep, std::move(regels)});
-    EXPECT_TRUE(uitkomst.has_value());
-    return uitkomst.value_or(Samenvoeging());
-}
+class Samenvoegen : public testing::Test {
+  protected:
+    Samenvoeging Voeg(Teksten regels, const Tekst& subgroep = "Club")
+    {
+        auto uitkomst = VoegLedenSamen(spelers, {"Gr05-", subgroep, std::move(regels)});
+        EXPECT_TRUE(uitkomst.has_value());
+        return uitkomst.value_or(Samenvoeging());
+    }
 
-TEST(VoegLedenSamen, VerverstDeRijMetHetNummerEnHoudtDeRest)
-{
     Register spelers = DrieSpelers();
-    const Samenvoeging uitkomst =
-        Voeg(spelers, {"Anna,van,Bosch,Laan 2,0202BB,Rhenen,011,x@y,hs,M,12345"});
+};
+
+TEST_F(Samenvoegen, VerverstDeRijMetHetNummerEnHoudtDeRest)
+{
+    const Samenvoeging uitkomst = Voeg({"Anna,van,Bosch,Laan 2,0202BB,Rhenen,011,x@y,hs,M,12345"});
     EXPECT_EQ(1U, uitkomst.AantalVerververst);
     EXPECT_EQ(0U, uitkomst.AantalNieuw);
     EXPECT_EQ("", uitkomst.ZonderNBBnr);
@@ -56,11 +59,9 @@ TEST(VoegLedenSamen, VerverstDeRijMetHetNummerEnHoudtDeRest)
               SpelersTekst(spelers));
 }
 
-TEST(VoegLedenSamen, VoegtEenNieuwLidAchteraanToe)
+TEST_F(Samenvoegen, VoegtEenNieuwLidAchteraanToe)
 {
-    Register spelers = DrieSpelers();
-    const Samenvoeging uitkomst =
-        Voeg(spelers, {"Eva,,Fuik,Pad 3,0303CC,Ede,022,e@f,bg,V,77"}, "Caf\xE9");
+    const Samenvoeging uitkomst = Voeg({"Eva,,Fuik,Pad 3,0303CC,Ede,022,e@f,bg,V,77"}, "Caf\xE9");
     EXPECT_EQ(0U, uitkomst.AantalVerververst);
     EXPECT_EQ(1U, uitkomst.AantalNieuw);
     EXPECT_EQ(100043, spelers.HKEY);
@@ -70,39 +71,20 @@ TEST(VoegLedenSamen, VoegtEenNieuwLidAchteraanToe)
               spelers.tabel.Velden(4));
 }
 
-TEST(VoegLedenSamen, DeEersteSleutelVanEenLegeTabelKomtVanDeBasis)
-{
-    Register spelers;
-    EXPECT_EQ(1U, Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}).AantalNieuw);
-    EXPECT_EQ("100001", spelers.tabel.Cel(1, Kolom::Key));
-    EXPECT_EQ(100001, spelers.HKEY);
-}
-
-TEST(VoegLedenSamen, EenLeegLedenbestandDoetNiets)
-{
-    Register spelers = DrieSpelers();
-    const auto oud = AlleRijen(spelers.tabel);
-    const Samenvoeging uitkomst = Voeg(spelers, {});
-    EXPECT_EQ(0U, uitkomst.AantalVerververst + uitkomst.AantalNieuw);
-    EXPECT_EQ(oud, AlleRijen(spelers.tabel));
-}
-
 /// Meant: the refresh replaces, it does not fill gaps.
-TEST(VoegLedenSamen, EenLeegVeldMaaktDeCelLeeg)
+TEST_F(Samenvoegen, EenLeegVeldMaaktDeCelLeeg)
 {
-    Register spelers = DrieSpelers();
-    (void)Voeg(spelers, {"An,,Bos,,,,,,,,12345"});
+    (void)Voeg({"An,,Bos,,,,,,,,12345"});
     EXPECT_EQ((Rijvelden{"1", "100001", "Gr05-", "An", "", "Bos", "", "", "", "", "", "", "", "d1",
                          "d2", "overl", "CLUB", "12345"}),
               spelers.tabel.Velden(1));
 }
 
 /// Meant: refreshed fields are stored as they stand, those of a new player are trimmed.
-TEST(VoegLedenSamen, VerversenHoudtSpatiesToevoegenNiet)
+TEST_F(Samenvoegen, VerversenHoudtSpatiesToevoegenNiet)
 {
-    Register spelers = DrieSpelers();
-    (void)Voeg(spelers, {" An , de , Bos , W , P , S , T , E , L , V , 12345 ",
-                         " Eva , de , Fuik , W , P , S , T , E , L , V , 77 "});
+    (void)Voeg({" An , de , Bos , W , P , S , T , E , L , V , 12345 ",
+                " Eva , de , Fuik , W , P , S , T , E , L , V , 77 "});
     EXPECT_EQ((Rijvelden{"1", "100001", "Gr05-", " An ", " de ", " Bos ", " T ", " E ", " W ",
                          " P ", " S ", " L ", " V ", "d1", "d2", "overl", "CLUB", "12345"}),
               spelers.tabel.Velden(1));
@@ -111,50 +93,60 @@ TEST(VoegLedenSamen, VerversenHoudtSpatiesToevoegenNiet)
               spelers.tabel.Velden(4));
 }
 
-TEST(VoegLedenSamen, ZonderNummerWordtHetLidGenoemdEnNietIngevoerd)
+TEST_F(Samenvoegen, ZonderNummerWordtHetLidGenoemdEnNietIngevoerd)
 {
-    Register spelers = DrieSpelers();
     const Samenvoeging uitkomst =
-        Voeg(spelers, {"Eva,,Fuik,,,,,,,V,", "Bo,,Ek,,,,,,,,  ", "An,,Bos,,,,,,,,12345"});
+        Voeg({"Eva,,Fuik,,,,,,,V,", "Bo,,Ek,,,,,,,,  ", "An,,Bos,,,,,,,,12345"});
     EXPECT_EQ("Eva,,Fuik,,,,,,,V,\r\nBo,,Ek,,,,,,,,  \r\n", uitkomst.ZonderNBBnr);
     EXPECT_EQ(1U, uitkomst.AantalVerververst);
     EXPECT_EQ(3, spelers.tabel.Rijen());
 }
 
 /// Meant: players of other groups are never looked at, so a member can stand in two groups.
-TEST(VoegLedenSamen, EenNummerInEenAndereGroepTeltNiet)
+TEST_F(Samenvoegen, EenNummerInEenAndereGroepTeltNiet)
 {
-    Register spelers = DrieSpelers();
-    EXPECT_EQ(1U, Voeg(spelers, {"An,de,Bos,,,,,,,,67890"}).AantalNieuw);
+    const Tekst oud = SpelersTekst(spelers);
+    EXPECT_EQ(0U, Voeg({}).AantalNieuw);
+    EXPECT_EQ(oud, SpelersTekst(spelers));
+    EXPECT_EQ(1U, Voeg({"An,de,Bos,,,,,,,,67890"}).AantalNieuw);
     EXPECT_EQ("A-LIJN", spelers.tabel.Cel(2, Kolom::NBBgr));
     EXPECT_EQ("Gr05-", spelers.tabel.Cel(4, Kolom::Groep));
 }
 
-/// Meant: a number that equals only after formatting is neither refreshed nor added.
-TEST(VoegLedenSamen, EenAndersGeschrevenNummerValtErtussenuit)
+TEST_F(Samenvoegen, InEenLegeTabel)
 {
-    Register spelers = DrieSpelers();
+    spelers = {};
+    // A comma in the name of the member file does not break the row.
+    EXPECT_EQ(1U, Voeg({"Eva,,Fuik,,,,,,,,77"}, "a,b").AantalNieuw);
+    EXPECT_EQ("100001", spelers.tabel.Cel(1, Kolom::Key));
+    EXPECT_EQ(100001, spelers.HKEY);
+    EXPECT_EQ("A_B", spelers.tabel.Cel(1, Kolom::NBBgr));
+    EXPECT_EQ("77", spelers.tabel.Cel(1, Kolom::NBBnr));
+}
+
+/// Meant: a number that equals only after formatting is neither refreshed nor added.
+TEST_F(Samenvoegen, EenAndersGeschrevenNummerValtErtussenuit)
+{
     const auto oud = AlleRijen(spelers.tabel);
-    const Samenvoeging uitkomst = Voeg(spelers, {"An,,Bos,,,,,,,,012345"});
+    const Samenvoeging uitkomst = Voeg({"An,,Bos,,,,,,,,012345"});
     EXPECT_EQ(0U, uitkomst.AantalVerververst + uitkomst.AantalNieuw);
     EXPECT_EQ((Teksten{"An,,Bos,,,,,,,,012345"}), uitkomst.overgeslagen);
     EXPECT_EQ(oud, AlleRijen(spelers.tabel));
 }
 
-TEST(VoegLedenSamen, DeRijDieLetterlijkGelijkIsOokAchterEenAndersGeschrevene)
+TEST_F(Samenvoegen, DeRijDieLetterlijkGelijkIsOokAchterEenAndersGeschrevene)
 {
-    Register spelers;
+    spelers = {};
     spelers.tabel = MaakTabel({{.groep = "Gr05-", .achternaam = "Een", .nbbnr = "005"},
                                {.groep = "Gr05-", .achternaam = "Twee", .nbbnr = "5"}});
-    EXPECT_EQ(1U, Voeg(spelers, {"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
+    EXPECT_EQ(1U, Voeg({"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
     EXPECT_EQ("Een", spelers.tabel.Cel(1, Kolom::Achternaam));
     EXPECT_EQ("Nieuw", spelers.tabel.Cel(2, Kolom::Achternaam));
 }
 
-TEST(VoegLedenSamen, WatTeLangIsOmNummersTeZijnVerandertNiets)
+TEST_F(Samenvoegen, WatTeLangIsOmNummersTeZijnVerandertNiets)
 {
-    Register spelers = DrieSpelers();
-    std::vector<Tekst> regels{"An,,Bos,,,,,,,,12345"};
+    Teksten regels{"An,,Bos,,,,,,,,12345"};
     for (int i = 0; i < 17; ++i)
         regels.push_back("Bo,,Ek,,,,,,,," + Tekst(std::size_t{1} << 20U, 'x'));
     const auto uitkomst = VoegLedenSamen(spelers, {"Gr05-", "Club", regels});
@@ -164,97 +156,77 @@ TEST(VoegLedenSamen, WatTeLangIsOmNummersTeZijnVerandertNiets)
 }
 
 /// Meant: a number of nine or more digits hides the numbers within its digits.
-TEST(VoegLedenSamen, EenLangNummerVerbergtEenAnder)
+TEST_F(Samenvoegen, EenLangNummerVerbergtEenAnder)
 {
-    Register spelers = DrieSpelers();
-    EXPECT_EQ(1U, Voeg(spelers, {"Een,,Lang,,,,,,,,9123456780"}).AantalNieuw);
+    EXPECT_EQ(1U, Voeg({"Een,,Lang,,,,,,,,9123456780"}).AantalNieuw);
     EXPECT_EQ((Teksten{"Een,,Kort,,,,,,,,12345678"}),
-              Voeg(spelers, {"Een,,Kort,,,,,,,,12345678"}).overgeslagen);
+              Voeg({"Een,,Kort,,,,,,,,12345678"}).overgeslagen);
 }
 
-TEST(VoegLedenSamen, TweemaalHetzelfdeNieuweNummerAlleenHetEerste)
+TEST_F(Samenvoegen, TweemaalHetzelfdeNieuweNummerAlleenHetEerste)
 {
-    Register spelers = DrieSpelers();
-    const Samenvoeging uitkomst = Voeg(spelers, {"Eva,,Een,,,,,,,,77", "Eva,,Twee,,,,,,,,77"});
+    const Samenvoeging uitkomst = Voeg({"Eva,,Een,,,,,,,,77", "Eva,,Twee,,,,,,,,77"});
     EXPECT_EQ(1U, uitkomst.AantalNieuw);
     EXPECT_EQ((Teksten{"Eva,,Twee,,,,,,,,77"}), uitkomst.overgeslagen);
     EXPECT_EQ(4, spelers.tabel.Rijen());
     EXPECT_EQ("Een", spelers.tabel.Cel(4, Kolom::Achternaam));
     EXPECT_EQ(100043, spelers.HKEY); // no key was spent on the second
-}
-
-TEST(VoegLedenSamen, TweemaalEenBekendNummerVerverstTweemaalDeLaatsteBlijft)
-{
-    Register spelers = DrieSpelers();
-    const Samenvoeging uitkomst =
-        Voeg(spelers, {"Eva,,Een,,,,,,,,12345", "Eva,,Twee,,,,,,,,12345"});
-    EXPECT_EQ(2U, uitkomst.AantalVerververst);
+    // A known number is refreshed twice: the last one stays.
+    EXPECT_EQ(2U, Voeg({"Eva,,Een,,,,,,,,12345", "Eva,,Twee,,,,,,,,12345"}).AantalVerververst);
     EXPECT_EQ("Twee", spelers.tabel.Cel(1, Kolom::Achternaam));
 }
 
-TEST(VoegLedenSamen, VanDubbeleRijenDeEerste)
+TEST_F(Samenvoegen, VanDubbeleRijenDeEerste)
 {
-    Register spelers = Lees(Tekst(Kop) + "1,100001,Gr01-,,,X,,,,,,,,,,,,5\r\n"
-                                         "2,100002,Gr05-,,,Een,,,,,,,,,,,,5\r\n"
-                                         "3,100003,Gr05-,,,Twee,,,,,,,,,,,,5\r\n");
-    EXPECT_EQ(1U, Voeg(spelers, {"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
+    spelers = Lees(Tekst(Kop) + "1,100001,Gr01-,,,X,,,,,,,,,,,,5\r\n"
+                                "2,100002,Gr05-,,,Een,,,,,,,,,,,,5\r\n"
+                                "3,100003,Gr05-,,,Twee,,,,,,,,,,,,5\r\n");
+    EXPECT_EQ(1U, Voeg({"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
     EXPECT_EQ("X", spelers.tabel.Cel(1, Kolom::Achternaam));
     EXPECT_EQ("Nieuw", spelers.tabel.Cel(2, Kolom::Achternaam));
     EXPECT_EQ("Twee", spelers.tabel.Cel(3, Kolom::Achternaam));
 }
 
-TEST(VoegLedenSamen, TweemaalHetzelfdeBestandVerverstDeTweedeKeerIedereen)
+TEST_F(Samenvoegen, TweemaalHetzelfdeBestandVerverstDeTweedeKeerIedereen)
 {
-    Register spelers = DrieSpelers();
     const Teksten regels{"Eva,,Fuik,,,,,,,,77", "An,,Bos,,,,,,,,12345", "Bo,,Ek,,,,,,,,gast"};
-    EXPECT_EQ(2U, Voeg(spelers, regels).AantalNieuw);
-    const Samenvoeging tweede = Voeg(spelers, regels);
+    EXPECT_EQ(2U, Voeg(regels).AantalNieuw);
+    const Samenvoeging tweede = Voeg(regels);
     EXPECT_EQ(3U, tweede.AantalVerververst);
     EXPECT_EQ(0U, tweede.AantalNieuw);
     EXPECT_EQ(5, spelers.tabel.Rijen());
 }
 
-TEST(VoegLedenSamen, NaarEenAnderLedenbestandHoudtDeSleutel)
+TEST_F(Samenvoegen, NaarEenAnderLedenbestandHoudtDeSleutel)
 {
-    Register spelers = DrieSpelers();
-    (void)Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}, "Club");
-    (void)Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}, "Cursus");
+    (void)Voeg({"Eva,,Fuik,,,,,,,,77"}, "Club");
+    (void)Voeg({"Eva,,Fuik,,,,,,,,77"}, "Cursus");
     EXPECT_EQ("100043", spelers.tabel.Cel(4, Kolom::Key));
     EXPECT_EQ("CURSUS", spelers.tabel.Cel(4, Kolom::NBBgr));
     EXPECT_EQ(4, spelers.tabel.Rijen());
 }
 
 /// Meant: a comma inside a field of the source shifts the fields behind it.
-TEST(VoegLedenSamen, EenKommaInEenVeldSchuiftDeVeldenOp)
+TEST_F(Samenvoegen, EenKommaInEenVeldSchuiftDeVeldenOp)
 {
-    Register spelers = DrieSpelers();
     // The street is "Weg 1, bis": the sex comes where the number was.
-    (void)Voeg(spelers, {"Eva,,Fuik,Weg 1, bis,0303CC,Ede,022,e@f,bg,V,77"});
+    (void)Voeg({"Eva,,Fuik,Weg 1, bis,0303CC,Ede,022,e@f,bg,V,77"});
     ASSERT_EQ(4, spelers.tabel.Rijen());
     EXPECT_EQ((Rijvelden{"4", "100043", "Gr05-", "Eva", "", "Fuik", "Ede", "022", "Weg 1", "bis",
                          "0303CC", "e@f", "bg", "", "", "", "CLUB", "V"}),
               spelers.tabel.Velden(4));
 }
 
-TEST(VoegLedenSamen, EenKommaInHetLedenbestandNaamBreektDeTabelNiet)
-{
-    Register spelers;
-    (void)Voeg(spelers, {"Eva,,Fuik,,,,,,,,77"}, "a,b");
-    EXPECT_EQ("A_B", spelers.tabel.Cel(1, Kolom::NBBgr));
-    EXPECT_EQ("77", spelers.tabel.Cel(1, Kolom::NBBnr));
-}
-
 /// Meant: a row without a number adds a lone "-" to the index, and is never the one refreshed.
-TEST(VoegLedenSamen, EenRijZonderNummer)
+TEST_F(Samenvoegen, EenRijZonderNummer)
 {
-    Register spelers = Lees(Tekst(Kop) + "1,100001,Gr05-,,,X,,,,,,,,,,,,\r\n");
-    EXPECT_EQ((Teksten{"Bo,,Ek,,,,,,,,-"}), Voeg(spelers, {"Bo,,Ek,,,,,,,,-"}).overgeslagen);
+    spelers = Lees(Tekst(Kop) + "1,100001,Gr05-,,,X,,,,,,,,,,,,\r\n");
+    EXPECT_EQ((Teksten{"Bo,,Ek,,,,,,,,-"}), Voeg({"Bo,,Ek,,,,,,,,-"}).overgeslagen);
     EXPECT_EQ("X", spelers.tabel.Cel(1, Kolom::Achternaam));
 }
 
-TEST(VoegLedenSamen, ZonderSleutelsGenoegVerandertErNiets)
+TEST_F(Samenvoegen, ZonderSleutelsGenoegVerandertErNiets)
 {
-    Register spelers = DrieSpelers();
     spelers.HKEY = std::numeric_limits<std::int32_t>::max() - 1;
     const Tekst oud = SpelersTekst(spelers);
     const Samenvoegopdracht opdracht{
@@ -264,10 +236,10 @@ TEST(VoegLedenSamen, ZonderSleutelsGenoegVerandertErNiets)
     EXPECT_EQ(Samenvoegfout::GeenSleutels, uitkomst.error());
     EXPECT_EQ(oud, SpelersTekst(spelers));
     // One key is enough for one: a line that is left out needs none.
-    EXPECT_EQ(1U, Voeg(spelers, {"Bo,,Een,,,,,,,,71", "Bo,,Twee,,,,,,,,71"}).AantalNieuw);
+    EXPECT_EQ(1U, Voeg({"Bo,,Een,,,,,,,,71", "Bo,,Twee,,,,,,,,71"}).AantalNieuw);
 }
 
-TEST(VoegLedenSamen, StoppenOpElkMomentVerandertNiets)
+TEST_F(Samenvoegen, StoppenOpElkMomentVerandertNiets)
 {
     Teksten regels;
     for (int i = 0; i < 5000; ++i)
@@ -285,7 +257,6 @@ TEST(VoegLedenSamen, StoppenOpElkMomentVerandertNiets)
     EXPECT_EQ(5000U, uitkomst->AantalVerververst + uitkomst->AantalNieuw);
     ASSERT_GE(meldingen, 3);
     for (int stop = 1; stop <= meldingen; ++stop) {
-        Register spelers = DrieSpelers();
         int teller = 0;
         const auto gestopt =
             VoegLedenSamen(spelers, {"Gr05-", "Club", regels},
@@ -394,7 +365,7 @@ Tekst ToevalligNummer(std::mt19937& toeval, bool gewoon)
     return nummer;
 }
 
-TEST(VoegLedenSamen, DoetHetzelfdeAlsDePlatteStappen)
+TEST_F(Samenvoegen, DoetHetzelfdeAlsDePlatteStappen)
 {
     std::mt19937 toeval(5);
     std::size_t ververst = 0;
@@ -408,7 +379,6 @@ TEST(VoegLedenSamen, DoetHetzelfdeAlsDePlatteStappen)
                       .groep = Trek(toeval, {"Gr05-", "Gr05-", "Gr01-"}),
                       .achternaam = "Oud",
                       .nbbnr = ToevalligNummer(toeval, gewoon)};
-        Register spelers;
         spelers.HKEY = 100042;
         spelers.tabel = MaakTabel(begin);
         Platte plat{.rijen = AlleRijen(spelers.tabel), .HKEY = 100042};
@@ -418,7 +388,7 @@ TEST(VoegLedenSamen, DoetHetzelfdeAlsDePlatteStappen)
                              Trek(toeval, {"", "de", gewoon ? "van" : "x,y"}) + ",Nieuw," +
                              Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
                              ToevalligNummer(toeval, gewoon));
-        const Samenvoeging uitkomst = Voeg(spelers, regels);
+        const Samenvoeging uitkomst = Voeg(regels);
         VoegPlatSamen(plat, {regels.begin(), regels.end()}, "Gr05-", "Club");
         ASSERT_EQ(plat.rijen, AlleRijen(spelers.tabel));
         ASSERT_EQ(plat.HKEY, spelers.HKEY);

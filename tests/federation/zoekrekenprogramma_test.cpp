@@ -30,69 +30,38 @@ constexpr auto beide = "[NBB-Rekenprogramma\\Options]\r\n"
                        "[Bridge-IT\\Options]\r\n"
                        "Dataroot=D:\\Bridge It\r\n";
 
-TEST(Instellingenwinkel, VindtZonderOpHoofdlettersTeLetten)
+TEST(Instellingenwinkel, WaardenUitDeTekst)
 {
-    EXPECT_EQ(WaardeUit("[bridge-it\\OPTIONS]\n dataROOT = C:\\B = 1 \n", "Bridge-It", "Options",
-                        "DataRoot"),
-              "C:\\B = 1");
-}
-
-TEST(Instellingenwinkel, KijktAlleenInDeSectie)
-{
+    const auto dataRoot = [](Tekstblik inhoud, Tekstblik toepassing) {
+        return WaardeUit(inhoud, toepassing, "Options", "DataRoot");
+    };
+    EXPECT_EQ(dataRoot("[bridge-it\\OPTIONS]\n dataROOT = C:\\B = 1 \n", "Bridge-It"), "C:\\B = 1");
     const auto inhoud = "DataRoot=voor\n[Bridge-It\\Anders]\nDataRoot=anders\n"
                         "[NBB-Rekenprogramma\\Options]\nDataRoot=nbbr\n";
-    EXPECT_EQ(WaardeUit(inhoud, "Bridge-It", "Options", "DataRoot"), std::nullopt);
-    EXPECT_EQ(WaardeUit(inhoud, "NBB-Rekenprogramma", "Options", "DataRoot"), "nbbr");
-}
-
-TEST(Instellingenwinkel, LaatsteWaardeGeldtEnLeegIsOokEenWaarde)
-{
-    EXPECT_EQ(WaardeUit("[A\\B]\nS=1\nS=2\n", "A", "B", "S"), "2");
+    EXPECT_EQ(dataRoot(inhoud, "Bridge-It"), std::nullopt);
+    EXPECT_EQ(dataRoot(inhoud, "NBB-Rekenprogramma"), "nbbr");
+    EXPECT_EQ(WaardeUit("[A\\B]\nS=1\nS=2\n", "A", "B", "S"), "2"); // the last one holds
     EXPECT_EQ(WaardeUit("[A\\B]\nS=\n", "A", "B", "S"), "");
     EXPECT_EQ(WaardeUit("", "A", "B", "S"), std::nullopt);
 }
 
-TEST(ZoekRekenprogramma, GeenVanBeide)
+TEST(ZoekRekenprogramma, HoogstensEenVraagtNiets)
 {
-    Tekstwinkel winkel("");
-    const Rekenprogramma gevonden = ZoekRekenprogramma(winkel, NietGevraagd);
-    EXPECT_FALSE(gevonden.NBBRaanwezig);
-    EXPECT_FALSE(gevonden.BRITaanwezig);
-    EXPECT_EQ(gevonden.GekozenProgramma, Programma::Geen);
-    EXPECT_EQ(gevonden.DataRoot, "");
-    EXPECT_EQ(gevonden.ProgrammaNaam, "");
-}
-
-TEST(ZoekRekenprogramma, AlleenBridgeItVraagtNiets)
-{
-    Tekstwinkel winkel("[Bridge-It\\Options]\nDataRoot=D:\\Bridge It\n");
-    const Rekenprogramma gevonden = ZoekRekenprogramma(winkel, NietGevraagd);
-    EXPECT_FALSE(gevonden.NBBRaanwezig);
-    EXPECT_TRUE(gevonden.BRITaanwezig);
-    EXPECT_EQ(gevonden.GekozenProgramma, Programma::BridgeIt);
-    EXPECT_EQ(gevonden.DataRoot, "D:\\Bridge It");
-    EXPECT_EQ(gevonden.ProgrammaCode, "BRIT");
-    EXPECT_EQ(gevonden.ProgrammaNaam, "Bridge-It");
-}
-
-TEST(ZoekRekenprogramma, AlleenNbbrVraagtNiets)
-{
-    Tekstwinkel winkel("[NBB-Rekenprogramma\\Options]\nDataRoot=C:\\NBBR\n");
-    const Rekenprogramma gevonden = ZoekRekenprogramma(winkel, NietGevraagd);
-    EXPECT_EQ(gevonden.GekozenProgramma, Programma::NBBR);
-    EXPECT_EQ(gevonden.DataRoot, "C:\\NBBR");
-    EXPECT_EQ(gevonden.ProgrammaCode, "NBBR");
-    EXPECT_EQ(gevonden.ProgrammaNaam, "NBB-R");
-}
-
-TEST(ZoekRekenprogramma, EenLegeDataRootTeltAlsGevonden)
-{
-    Tekstwinkel winkel("[Bridge-It\\Options]\nDataRoot=\n[NBB-Rekenprogramma\\Options]\nX=1\n");
-    EXPECT_TRUE(RegistersleutelBestaat(winkel, "Bridge-It"));
-    EXPECT_FALSE(RegistersleutelBestaat(winkel, "NBB-Rekenprogramma"));
-    const Rekenprogramma gevonden = ZoekRekenprogramma(winkel, NietGevraagd);
-    EXPECT_EQ(gevonden.GekozenProgramma, Programma::BridgeIt);
-    EXPECT_EQ(gevonden.DataRoot, "");
+    const auto zoek = [](const Tekst& inhoud) {
+        Tekstwinkel winkel(inhoud);
+        const Rekenprogramma gevonden = ZoekRekenprogramma(winkel, NietGevraagd);
+        return Tekst(gevonden.NBBRaanwezig ? "N" : "-") + (gevonden.BRITaanwezig ? "B" : "-") +
+               std::to_string(static_cast<int>(gevonden.GekozenProgramma)) + "," +
+               gevonden.DataRoot + "," + gevonden.ProgrammaCode + "," + gevonden.ProgrammaNaam;
+    };
+    EXPECT_EQ(zoek(""), "--0,,,");
+    EXPECT_EQ(zoek("[Bridge-It\\Options]\nDataRoot=D:\\Bridge It\n"),
+              "-B2,D:\\Bridge It,BRIT,Bridge-It");
+    EXPECT_EQ(zoek("[NBB-Rekenprogramma\\Options]\nDataRoot=C:\\NBBR\n"),
+              "N-1,C:\\NBBR,NBBR,NBB-R");
+    // Empty is a folder too; other settings are none.
+    EXPECT_EQ(zoek("[Bridge-It\\Options]\nDataRoot=\n[NBB-Rekenprogramma\\Options]\nX=1\n"),
+              "-B2,,BRIT,Bridge-It");
 }
 
 TEST(ZoekRekenprogramma, BeideVolgtHetAntwoord)

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/bronnen/accesskind.h"
+#include "platform/bronnen/access.h"
 #include "platform/scherm/inrichting.h"
 
 using namespace Qt::StringLiterals;
@@ -35,8 +35,8 @@ void Vang(QtMsgType soort, const QMessageLogContext&, const QString& tekst)
 
 int main(int argc, char** argv)
 {
-    if (const auto eindstatus = plexoran::AlsAccesskind(argc, argv))
-        return *eindstatus; // the running program is its own child, as in production
+    plexoran::WerkAlsAccesskind(argc,
+                                argv); // the running program is its own child, as in production
     ZetAlsLeeg("QT_QPA_PLATFORM", "offscreen");
     ZetAlsLeeg("QT_FONT_DPI", "96");
     testing::InitGoogleTest(&argc, argv);

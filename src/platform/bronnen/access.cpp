@@ -11,7 +11,6 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/bronnen/accesskind.h"
 #include "platform/schijf/systeempad.h"
 #include "platform/tekst/codepagina.h"
 
@@ -84,11 +83,18 @@ QStringList Argumenten(const Accessvraag& vraag)
     return uit;
 }
 
+/// `LeesAccess` names the file.
 tl::unexpected<Fout> Mis(Foutsoort soort, std::string reden)
 {
-    return tl::unexpected(
-        Fout{.soort = soort, .bestand = {}, .regel = 0, .systeem = std::move(reden)});
+    return Mislukt({.soort = soort, .systeem = std::move(reden)});
 }
+
+tl::unexpected<Fout> Beschadigd(std::string reden)
+{
+    return Mis(Foutsoort::Beschadigd, std::move(reden));
+}
+
+constexpr auto TeVeel = "de database geeft te veel gegevens";
 
 /// What a child wrote that ended with this status.
 Uitkomst<std::vector<Accessrij>> LeesAntwoord(const QByteArray& bytes, bool goed,
@@ -101,7 +107,7 @@ Uitkomst<std::vector<Accessrij>> LeesAntwoord(const QByteArray& bytes, bool goed
     for (antwoord >> nogEen; nogEen == 1 && antwoord.status() == QDataStream::Ok;
          antwoord >> nogEen) {
         if (rijen.size() == meesteRijen)
-            return Mis(Foutsoort::Beschadigd, "de database geeft te veel gegevens");
+            return Beschadigd(TeVeel);
         Accessrij& rij = rijen.emplace_back();
         for (std::size_t kolom = 0; kolom < kolommen; ++kolom) {
             QByteArray cel;
@@ -114,90 +120,54 @@ Uitkomst<std::vector<Accessrij>> LeesAntwoord(const QByteArray& bytes, bool goed
     antwoord >> aantal >> reden;
     const bool heel = nogEen == 0 && antwoord.status() == QDataStream::Ok && antwoord.atEnd();
     if (heel && !reden.isEmpty())
-        return Mis(Foutsoort::Beschadigd, reden.toStdString());
+        return Beschadigd(reden.toStdString());
     if (!heel || !goed || aantal != rijen.size())
-        return Mis(Foutsoort::Beschadigd, "de database is beschadigd: het lezen brak af");
+        return Beschadigd("de database is beschadigd: het lezen brak af");
     return rijen;
 }
 
-/// One child, from its question to its end. Whatever goes wrong, it is gone afterwards.
-class Lezing {
-  public:
-    explicit Lezing(const Accessgrenzen& grenzen) : grenzen_(grenzen) {}
-    Lezing(const Lezing&) = delete;
-    Lezing& operator=(const Lezing&) = delete;
-    ~Lezing()
-    {
-        if (kind_.state() == QProcess::NotRunning)
-            return;
-        kind_.kill();
-        kind_.waitForFinished();
-    }
+bool Start(QProcess& kind, const Accessvraag& vraag, const Accessgrenzen& grenzen)
+{
+    kind.setProgram(grenzen.programma.empty() ? EigenProgramma()
+                                              : QString::fromStdString(grenzen.programma));
+    kind.setArguments(Argumenten(vraag));
+    kind.setProcessEnvironment(Kindomgeving());
+    kind.setStandardInputFile(QProcess::nullDevice());
+    kind.setStandardErrorFile(QProcess::nullDevice());
+    kind.start(QIODevice::ReadOnly);
+    return kind.waitForStarted(static_cast<int>(grenzen.zonderVoortgang.count()));
+}
 
-    /// Everything that the child has to say, or what is wrong. `grootte` is that of the database,
-    /// beside which progress is measured.
-    Uitkomst<std::vector<Accessrij>> Doe(const Accessvraag& vraag, std::size_t grootte,
-                                         const Voortgang& voortgang)
-    {
-        constexpr int wachttijd = 50; // ms, so that `voortgang` is called often enough
-        if (!Start(vraag))
-            return Mis(Foutsoort::Geweigerd, kind_.errorString().toStdString());
-        std::size_t gegeven = 0;
-        for (auto laatste = Klok::now(); kind_.state() != QProcess::NotRunning;) {
-            kind_.waitForReadyRead(wachttijd);
-            const auto nu = static_cast<std::size_t>(kind_.bytesAvailable());
-            if (nu > grenzen_.uitvoer)
-                return Mis(Foutsoort::Beschadigd, "de database geeft te veel gegevens");
-            if (std::exchange(gegeven, nu) != nu)
-                laatste = Klok::now();
-            if (Klok::now() - laatste > grenzen_.zonderVoortgang)
-                return Mis(Foutsoort::Beschadigd,
-                           "de database is beschadigd: het lezen schoot niet meer op");
-            if (voortgang)
-                voortgang(std::min(gegeven, grootte), grootte);
-        }
-        const bool goed = kind_.exitStatus() == QProcess::NormalExit && kind_.exitCode() == 0;
-        const QByteArray antwoord = kind_.readAllStandardOutput();
-        if (static_cast<std::size_t>(antwoord.size()) > grenzen_.uitvoer)
-            return Mis(Foutsoort::Beschadigd, "de database geeft te veel gegevens");
-        return LeesAntwoord(antwoord, goed, vraag.kolommen.size(), grenzen_.rijen);
+/// Everything that the child has to say, or what is wrong. `grootte` is that of the database,
+/// beside which progress is measured.
+Uitkomst<std::vector<Accessrij>> VraagKind(QProcess& kind, const Accessvraag& vraag,
+                                           std::size_t grootte, const Voortgang& voortgang,
+                                           const Accessgrenzen& grenzen)
+{
+    constexpr int wachttijd = 50; // ms, so that `voortgang` is called often enough
+    if (!Start(kind, vraag, grenzen))
+        return Mis(Foutsoort::Geweigerd, kind.errorString().toStdString());
+    std::size_t gegeven = 0;
+    for (auto laatste = Klok::now(); kind.state() != QProcess::NotRunning;) {
+        kind.waitForReadyRead(wachttijd);
+        const auto nu = static_cast<std::size_t>(kind.bytesAvailable());
+        if (nu > grenzen.uitvoer)
+            return Beschadigd(TeVeel);
+        if (std::exchange(gegeven, nu) != nu)
+            laatste = Klok::now();
+        if (Klok::now() - laatste > grenzen.zonderVoortgang)
+            return Beschadigd("de database is beschadigd: het lezen schoot niet meer op");
+        if (voortgang)
+            voortgang(std::min(gegeven, grootte), grootte);
     }
-
-  private:
-    bool Start(const Accessvraag& vraag)
-    {
-        kind_.setProgram(grenzen_.programma.empty() ? EigenProgramma()
-                                                    : QString::fromStdString(grenzen_.programma));
-        kind_.setArguments(Argumenten(vraag));
-        kind_.setProcessEnvironment(Kindomgeving());
-        kind_.setStandardInputFile(QProcess::nullDevice());
-        kind_.setStandardErrorFile(QProcess::nullDevice());
-        kind_.start(QIODevice::ReadOnly);
-        return kind_.waitForStarted(static_cast<int>(grenzen_.zonderVoortgang.count()));
-    }
-
-    QProcess kind_;
-    const Accessgrenzen& grenzen_;
-};
+    const bool goed = kind.exitStatus() == QProcess::NormalExit && kind.exitCode() == 0;
+    const QByteArray antwoord = kind.readAllStandardOutput();
+    if (static_cast<std::size_t>(antwoord.size()) > grenzen.uitvoer)
+        return Beschadigd(TeVeel);
+    return LeesAntwoord(antwoord, goed, vraag.kolommen.size(), grenzen.rijen);
+}
 
 constexpr std::size_t koplengte = 21;
-
-tl::unexpected<Fout> Mis(const fs::path& bestand, Foutsoort soort, std::string reden)
-{
-    return tl::unexpected(Fout{
-        .soort = soort, .bestand = Leesbaar(bestand), .regel = 0, .systeem = std::move(reden)});
-}
-
-std::string_view ReedsVerkeerd(const std::array<char, koplengte>& kop, std::uintmax_t grootte)
-{
-    const std::string_view soort(kop.data() + 4, 16);
-    if (soort != "Standard Jet DB\0"sv && soort != "Standard ACE DB\0"sv)
-        return "het is geen Access-database";
-    const std::uintmax_t blad = kop[koplengte - 1] == 0 ? 2048 : 4096;
-    if (grootte % blad != 0)
-        return "de grootte is geen geheel aantal bladen: het bestand is afgekapt";
-    return {};
-}
 
 /// Looked at before libmdb sees the file: whole pages with such a head.
 ///
@@ -206,27 +176,27 @@ std::string_view ReedsVerkeerd(const std::array<char, koplengte>& kop, std::uint
 Uitkomst<void> KeurAccesskop(const fs::path& bestand)
 {
     std::error_code fout;
-    const fs::file_type soort = fs::status(bestand, fout).type();
-    if (soort == fs::file_type::not_found)
-        return Mis(bestand, Foutsoort::Ontbreekt, {});
-    if (soort == fs::file_type::none)
-        return Mis(bestand, Foutsoort::Geweigerd, Systeemmelding(fout));
-    if (soort != fs::file_type::regular)
-        return Mis(bestand, Foutsoort::Geweigerd, "het is geen gewoon bestand");
-    const std::uintmax_t grootte = fs::file_size(bestand, fout);
+    const fs::file_type type = fs::status(bestand, fout).type();
+    if (type == fs::file_type::not_found)
+        return Mis(Foutsoort::Ontbreekt, {});
+    if (type != fs::file_type::none && type != fs::file_type::regular)
+        return Mis(Foutsoort::Geweigerd, "het is geen gewoon bestand");
+    const std::uintmax_t grootte = fout ? 0 : fs::file_size(bestand, fout);
     if (fout)
-        return Mis(bestand, Foutsoort::Geweigerd, Systeemmelding(fout));
+        return Mis(Foutsoort::Geweigerd, Systeemmelding(fout));
     if (grootte == 0)
-        return Mis(bestand, Foutsoort::Beschadigd, "het bestand is leeg");
+        return Beschadigd("het bestand is leeg");
     errno = 0;
     std::ifstream stroom(bestand, std::ios::binary);
     if (!stroom)
-        return Mis(bestand, Foutsoort::Geweigerd, Systeemmelding({errno, std::generic_category()}));
+        return Mis(Foutsoort::Geweigerd, Systeemmelding({errno, std::generic_category()}));
     std::array<char, koplengte> kop{};
-    if (!stroom.read(kop.data(), koplengte))
-        return Mis(bestand, Foutsoort::Beschadigd, "het is geen Access-database");
-    if (const auto reden = ReedsVerkeerd(kop, grootte); !reden.empty())
-        return Mis(bestand, Foutsoort::Beschadigd, std::string(reden));
+    stroom.read(kop.data(), koplengte);
+    const std::string_view soort(kop.data() + 4, 16);
+    if (!stroom || (soort != "Standard Jet DB\0"sv && soort != "Standard ACE DB\0"sv))
+        return Beschadigd("het is geen Access-database");
+    if (const std::uintmax_t blad = kop.back() == 0 ? 2048 : 4096; grootte % blad != 0)
+        return Beschadigd("de grootte is geen geheel aantal bladen: het bestand is afgekapt");
     return {};
 }
 
@@ -238,13 +208,17 @@ Uitkomst<std::vector<Accessrij>> LeesAccess(const Pad& database, const Tekst& ta
                                             const Accessgrenzen& grenzen)
 {
     const fs::path bestand = Systeempad(database);
-    if (auto kop = KeurAccesskop(bestand); !kop)
-        return tl::unexpected(std::move(kop.error()));
-    std::error_code fout;
-    const fs::path heel = fs::absolute(bestand, fout);
-    const auto grootte = fs::file_size(bestand, fout);
-    auto rijen = Lezing(grenzen).Doe({.pad = Padbytes(heel), .tabel = tabel, .kolommen = kolommen},
-                                     grootte, voortgang);
+    QProcess kind;
+    auto rijen = KeurAccesskop(bestand).and_then([&] {
+        std::error_code fout;
+        const fs::path heel = fs::absolute(bestand, fout);
+        return VraagKind(kind, {.pad = Padbytes(heel), .tabel = tabel, .kolommen = kolommen},
+                         fs::file_size(bestand, fout), voortgang, grenzen);
+    });
+    if (kind.state() != QProcess::NotRunning) { // whatever went wrong, it is gone afterwards
+        kind.kill();
+        kind.waitForFinished();
+    }
     if (!rijen)
         rijen.error().bestand = Leesbaar(bestand);
     return rijen;

@@ -1,4 +1,4 @@
-#include "platform/bronnen/accesskind.h"
+#include "platform/bronnen/access.h"
 
 #include <QDataStream>
 #include <QFile>
@@ -24,7 +24,6 @@ namespace plexoran {
 namespace {
 
 constexpr std::size_t geheugen = std::size_t{512} << 20; // bytes
-constexpr int Mislukt = 1;
 
 #ifdef _WIN32
 
@@ -95,12 +94,12 @@ int NeemPijp()
 
 Accessvraag VraagUit(int argc, char** argv)
 {
-    const auto woord = [&](int plaats) {
-        return QByteArray::fromPercentEncoding(argv[plaats]).toStdString();
+    const auto woord = [&](int nummer) {
+        return QByteArray::fromPercentEncoding(argv[nummer]).toStdString();
     };
     Accessvraag vraag{.pad = woord(2), .tabel = woord(3), .kolommen = {}};
-    for (int plaats = 4; plaats < argc; ++plaats) {
-        const std::string kolom = woord(plaats);
+    for (int nummer = 4; nummer < argc; ++nummer) {
+        const std::string kolom = woord(nummer);
         vraag.kolommen.push_back(
             {kolom.substr(1), kolom.front() == '1' ? Accesssoort::Geheel : Accesssoort::Letters});
     }
@@ -111,23 +110,22 @@ int Werk(const Accessvraag& vraag)
 {
     QFile pijp;
     if (!Begrens() || !pijp.open(NeemPijp(), QIODevice::WriteOnly))
-        return Mislukt;
+        return 1;
     QDataStream uit(&pijp);
     uit.setVersion(QDataStream::Qt_6_0);
     const auto rijen = LeesMetLibmdb(vraag, uit);
     uit << quint8{0} << quint32{rijen.value_or(0)}
         << (rijen ? QByteArray() : QByteArray::fromStdString(rijen.error().systeem));
-    return pijp.flush() && rijen ? 0 : Mislukt;
+    return pijp.flush() && rijen ? 0 : 1;
 }
 
 } // namespace
 
-std::optional<int> AlsAccesskind(int argc, char** argv)
+void WerkAlsAccesskind(int argc, char** argv)
 {
-    if (argc < 4 || std::strcmp(argv[1], Kindwoord) != 0)
-        return std::nullopt;
-    // At once: what libmdb left in memory is not worth tidying up, and may be broken.
-    std::_Exit(Werk(VraagUit(argc, argv)));
+    // Ends at once: what libmdb left in memory is not worth tidying up, and may be broken.
+    if (argc >= 4 && std::strcmp(argv[1], Kindwoord) == 0)
+        std::_Exit(Werk(VraagUit(argc, argv)));
 }
 
 } // namespace plexoran

@@ -1,6 +1,6 @@
 // The only file that knows libmdb. It runs in the child process alone; nothing that libmdb gives is
 // taken on trust.
-#include "platform/bronnen/accesskind.h"
+#include "platform/bronnen/access.h"
 
 #include <QByteArray>
 #include <QDataStream>
@@ -27,19 +27,13 @@ struct Sluiter {
 
 tl::unexpected<Fout> Beschadigd(std::string reden)
 {
-    return tl::unexpected(Fout{
-        .soort = Foutsoort::Beschadigd, .bestand = {}, .regel = 0, .systeem = std::move(reden)});
-}
-
-std::string Tussen(const std::string& naam)
-{
-    return "\"" + naam + "\"";
+    return Mislukt({.soort = Foutsoort::Beschadigd, .systeem = std::move(reden)});
 }
 
 /// A column that was asked, and where it stands in the table.
 struct Zoekkolom {
     MdbColumn* kolom = nullptr;
-    std::size_t plaats = 0;
+    std::size_t index = 0;
 };
 
 bool IsSoort(int type, Accesssoort soort)
@@ -65,10 +59,8 @@ class Tabellezing {
     Uitkomst<void> Open()
     {
         database_.reset(mdb_open(vraag_.pad.c_str(), MDB_NOFLAGS));
-        if (!database_ || !database_->f || !database_->fmt)
-            return Beschadigd("de database kan niet worden geopend");
-        const auto blad = database_->fmt->pg_size;
-        if (blad != 2048 && blad != MDB_PGSIZE)
+        if (!database_ || !database_->f || !database_->fmt ||
+            (database_->fmt->pg_size != 2048 && database_->fmt->pg_size != MDB_PGSIZE))
             return Beschadigd("de database kan niet worden geopend");
         mdb_set_bind_size(database_.get(), bindgrootte);
 #if MDBTOOLS_H_HAVE_ICONV_H
@@ -95,12 +87,11 @@ class Tabellezing {
                 gevonden = kandidaat;
         }
         if (!gevonden)
-            return Beschadigd("de tabel " + Tussen(vraag_.tabel) + " ontbreekt");
+            return Beschadigd(DeTabel() + " ontbreekt");
         tabel_.reset(mdb_read_table(gevonden));
-        if (!tabel_ || !mdb_read_columns(tabel_.get()) || !tabel_->columns)
-            return Beschadigd("de tabel " + Tussen(vraag_.tabel) + " is onleesbaar");
-        if (tabel_->num_cols > hoogsteKolommen || tabel_->columns->len != tabel_->num_cols)
-            return Beschadigd("de tabel " + Tussen(vraag_.tabel) + " is onleesbaar");
+        if (!tabel_ || !mdb_read_columns(tabel_.get()) || !tabel_->columns ||
+            tabel_->num_cols > hoogsteKolommen || tabel_->columns->len != tabel_->num_cols)
+            return Beschadigd(DeTabel() + " is onleesbaar");
         return {};
     }
 
@@ -113,8 +104,7 @@ class Tabellezing {
                 if (kolom && g_ascii_strcasecmp(kolom->name, gevraagd.naam.c_str()) == 0)
                     gevonden = {kolom, i};
             }
-            const std::string waar =
-                "de kolom " + Tussen(gevraagd.naam) + " van de tabel " + Tussen(vraag_.tabel);
+            const std::string waar = "de kolom \"" + gevraagd.naam + "\" van " + DeTabel();
             if (!gevonden.kolom)
                 return Beschadigd(waar + " ontbreekt");
             if (!IsSoort(gevonden.kolom->col_type, gevraagd.soort))
@@ -130,39 +120,34 @@ class Tabellezing {
     {
         const std::uint32_t geheel = tabel_->num_rows;
         if (geheel > HoogstensRijen())
-            return Beschadigd("de tabel " + Tussen(vraag_.tabel) +
-                              " zegt onmogelijk veel rijen te hebben");
+            return Beschadigd(DeTabel() + " zegt onmogelijk veel rijen te hebben");
         std::uint32_t gelezen = 0;
         mdb_rewind_table(tabel_.get());
         while (geheel > 0 && mdb_fetch_row(tabel_.get())) {
             if (++gelezen > geheel)
                 break;
             if (auto gelukt = SchrijfRij(); !gelukt)
-                return tl::unexpected(std::move(gelukt.error()));
+                return Mislukt(gelukt);
         }
         if (gelezen != geheel)
-            return Beschadigd("in de tabel " + Tussen(vraag_.tabel) +
+            return Beschadigd("in " + DeTabel() +
                               (gelezen < geheel ? " ontbreken rijen" : " staan te veel rijen") +
                               " (verwacht: " + std::to_string(geheel) +
                               ", gelezen: " + std::to_string(gelezen) + ")");
         return gelezen;
     }
 
-    [[nodiscard]] std::filesystem::path Padnaam() const
-    {
-#ifdef _WIN32
-        return std::u8string(vraag_.pad.begin(), vraag_.pad.end());
-#else
-        return vraag_.pad;
-#endif
-    }
-
     /// A row is known by its page and one byte.
     [[nodiscard]] std::uintmax_t HoogstensRijen() const
     {
         constexpr std::uintmax_t perBlad = 256;
+#ifdef _WIN32
+        const std::filesystem::path pad = std::u8string(vraag_.pad.begin(), vraag_.pad.end());
+#else
+        const std::filesystem::path pad = vraag_.pad;
+#endif
         std::error_code fout;
-        const std::uintmax_t grootte = std::filesystem::file_size(Padnaam(), fout);
+        const std::uintmax_t grootte = std::filesystem::file_size(pad, fout);
         return fout ? 0 : grootte / static_cast<std::uintmax_t>(database_->fmt->pg_size) * perBlad;
     }
 
@@ -183,8 +168,8 @@ class Tabellezing {
             return KapotteRij();
         uit_ << quint8{1};
         for (const Zoekkolom& kolom : kolommen_) {
-            const MdbField& veld = velden[kolom.plaats];
-            if (veld.colnum != static_cast<int>(kolom.plaats))
+            const MdbField& veld = velden[kolom.index];
+            if (veld.colnum != static_cast<int>(kolom.index))
                 return KapotteRij();
             if (veld.is_null) {
                 uit_ << QByteArray();
@@ -193,22 +178,16 @@ class Tabellezing {
             if (veld.siz < 0 || veld.start < begin || (veld.siz > 0 && !veld.value) ||
                 static_cast<std::size_t>(veld.start) + static_cast<std::size_t>(veld.siz) > eind_)
                 return KapotteRij();
-            auto waarde = LeesWaarde(*kolom.kolom, veld);
+            const int type = kolom.kolom->col_type;
+            auto waarde = type == MDB_TEXT   ? LeesTekst(veld)
+                          : type == MDB_MEMO ? LeesLangeTekst(veld)
+                                             : LeesGetal(type, veld);
             if (!waarde)
-                return tl::unexpected(std::move(waarde.error()));
+                return Mislukt(waarde);
             // Not null, though it may be empty.
             uit_ << QByteArray(waarde->data(), static_cast<qsizetype>(waarde->size()));
         }
         return {};
-    }
-
-    Uitkomst<std::string> LeesWaarde(const MdbColumn& kolom, const MdbField& veld)
-    {
-        if (kolom.col_type == MDB_TEXT)
-            return LeesTekst(veld);
-        if (kolom.col_type == MDB_MEMO)
-            return LeesLangeTekst(veld);
-        return LeesGetal(kolom, veld);
     }
 
     Uitkomst<std::string> LeesTekst(const MdbField& veld)
@@ -242,13 +221,13 @@ class Tabellezing {
         std::string uit = tekst.get();
         constexpr std::size_t langsteTeken = 4;
         if (uit.size() + langsteTeken >= bindgrootte)
-            return Beschadigd("een tekst in de tabel " + Tussen(vraag_.tabel) + " is te lang");
+            return Beschadigd("een tekst in " + DeTabel() + " is te lang");
         if (uit.empty() && lengte > 0)
             return KapotteRij();
         return uit;
     }
 
-    Uitkomst<std::string> LeesGetal(const MdbColumn& kolom, const MdbField& veld)
+    Uitkomst<std::string> LeesGetal(int type, const MdbField& veld)
     {
         const auto lees = [&](auto getal) -> Uitkomst<std::string> {
             if (veld.siz != static_cast<int>(sizeof getal))
@@ -256,19 +235,19 @@ class Tabellezing {
             std::memcpy(&getal, database_->pg_buf + veld.start, sizeof getal);
             return std::to_string(getal);
         };
-        switch (kolom.col_type) {
-        case MDB_BYTE:
-            return lees(std::uint8_t{});
-        case MDB_INT:
-            return lees(std::int16_t{});
-        default:
-            return lees(std::int32_t{});
-        }
+        return type == MDB_BYTE  ? lees(std::uint8_t{})
+               : type == MDB_INT ? lees(std::int16_t{})
+                                 : lees(std::int32_t{});
     }
 
     [[nodiscard]] tl::unexpected<Fout> KapotteRij() const
     {
-        return Beschadigd("een rij van de tabel " + Tussen(vraag_.tabel) + " is beschadigd");
+        return Beschadigd("een rij van " + DeTabel() + " is beschadigd");
+    }
+
+    [[nodiscard]] std::string DeTabel() const
+    {
+        return "de tabel \"" + vraag_.tabel + "\"";
     }
 
     const Accessvraag& vraag_;
@@ -284,8 +263,7 @@ class Tabellezing {
 Uitkomst<std::uint32_t> LeesMetLibmdb(const Accessvraag& vraag, QDataStream& uit)
 {
     // Never torn down: the child ends right after, and a broken structure may not survive it.
-    auto* lezing = new Tabellezing(vraag, uit);
-    return lezing->Doe();
+    return (new Tabellezing(vraag, uit))->Doe();
 }
 
 } // namespace plexoran

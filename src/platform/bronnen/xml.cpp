@@ -37,11 +37,11 @@ tl::unexpected<Fout> Leesfout(std::string_view bron, const std::string& bestand,
     const auto tekens = std::count_if(regel.begin(), regel.end(), [](char byte) {
         return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; // not one that goes on
     });
-    return tl::unexpected(
-        Fout{.soort = Foutsoort::Beschadigd,
-             .bestand = bestand,
-             .regel = static_cast<int>(std::count(tot.begin(), tot.end(), '\n')) + 1,
-             .systeem = fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)"});
+    return Mislukt(
+        {.soort = Foutsoort::Beschadigd,
+         .bestand = bestand,
+         .regel = static_cast<int>(std::count(tot.begin(), tot.end(), '\n')) + 1,
+         .systeem = fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)"});
 }
 
 // ---- Characters --------------------------------------------------------------------------------
@@ -242,7 +242,7 @@ Uitkomst<void> LeesXml(Tekst bytes, const std::string& bestand, Xmldocument& in)
 {
     auto utf8 = Utf8Van(std::move(bytes), bestand);
     if (!utf8)
-        return tl::unexpected(std::move(utf8.error()));
+        return Mislukt(utf8);
     in.bron = std::move(*utf8);
     const auto ontleed =
         in.document.load_buffer(in.bron.data(), in.bron.size(), Ontleedwijze, pugi::encoding_utf8);

@@ -2,12 +2,11 @@
 // production.
 #include <gtest/gtest.h>
 
-#include "platform/bronnen/accesskind.h"
+#include "platform/bronnen/access.h"
 
 int main(int argc, char** argv)
 {
-    if (const auto eindstatus = plexoran::AlsAccesskind(argc, argv))
-        return *eindstatus;
+    plexoran::WerkAlsAccesskind(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
