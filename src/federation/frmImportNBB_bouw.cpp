@@ -229,7 +229,7 @@ QLayout* frmImportNBB::BouwHulp()
 {
     auto* vakken = new QGridLayout;
     const auto knop = [&](const QString& naam, const QString& opschrift, char16_t letter,
-                          const QString& uitleg, const QString& titel = {}) {
+                          const QString& uitleg, const QString& titel = Programmatitel) {
         auto* hulp = MaakKnop(naam, opschrift, letter, this);
         connect(hulp, &QPushButton::clicked, this,
                 [this, uitleg, titel] { Meld(this, QMessageBox::Information, uitleg, titel); });

@@ -1,11 +1,6 @@
 // The sources of members that are turned into the intermediate file: the exports of NBBR-3 and
-// NBBR-4 as XML, and the database of a scoring program.
-//
-// In an export, members are the elements ReportableMember in ReportableMembersList/Members. NBBR-4
-// tells the data of a member by the names of its child elements, NBBR-3 by their position among the
-// child nodes: texts and comments take a position too, but only an element fills a field.
-//
-// The database is read through a child process (platform/bronnen/access.h).
+// NBBR-4 as XML (docs/bestanden.md), and the database of a scoring program, which is read through a
+// child process (platform/bronnen/access.h).
 #pragma once
 
 #include <optional>

@@ -111,6 +111,7 @@ Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,
     constexpr int elkeZoveel = 4096;
     const Herkomsten herkomsten = HerkomstenVan(keuzes);
     Ledenlezing uit;
+    uit.lstN1.reserve(static_cast<std::size_t>(std::count(tekst.begin(), tekst.end(), '\n')) + 1);
     Tekst importregel;
     int nummer = 0;
     for (const Tekstblik regel : Regels(tekst)) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <pugixml.hpp>
+
 #include "federation/ledencsv.h"
 #include "platform/bronnen/xml.h"
 
@@ -68,7 +70,7 @@ class Ledenomzetter {
     {
         Lidrij lid;
         Tekst telefoon2;
-        std::size_t positie = 0;
+        std::size_t positie = *member.value() == '\0' ? 0 : 1; // a text at the front
         for (const pugi::xml_node& kind : member.children()) {
             if (IsWit(kind, bron_))
                 continue;
@@ -109,27 +111,59 @@ class Ledenomzetter {
     std::string_view bron_;
 };
 
-Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Xmldocument& in)
+/// A document and the text in which its nodes have their places.
+struct Ledendocument {
+    pugi::xml_document document;
+    std::string bron;
+};
+
+/// Calls `werk` for every member, in the order of the document.
+template <class Werk> void VoorElkLid(const pugi::xml_document& document, const Werk& werk)
 {
-    return LeesBegrensd(schijf, bestand).and_then([&](Tekst bytes) {
-        return LeesXml(std::move(bytes), schijf.Toonpad(bestand), in);
-    });
+    for (const pugi::xml_node& leden :
+         document.child("ReportableMembersList").children("Members")) {
+        for (const pugi::xml_node& lid : leden.children("ReportableMember"))
+            werk(lid);
+    }
 }
 
-Uitkomst<Ledenomzetting> Converteer(const Xmldocument& van, Nbbversie versie, Schijf& schijf,
+/// Whether the text of some field stands in pieces, which no export does.
+bool HeeftStukken(const pugi::xml_document& document)
+{
+    bool gevonden = false;
+    VoorElkLid(document, [&](const pugi::xml_node& lid) {
+        for (const pugi::xml_node& kind : lid.children())
+            gevonden = gevonden || kind.first_child();
+    });
+    return gevonden;
+}
+
+Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Ledendocument& in)
+{
+    const std::string pad = schijf.Toonpad(bestand);
+    auto bron = LeesBegrensd(schijf, bestand).and_then([&](Tekst bytes) {
+        return LeesXml(std::move(bytes), pad);
+    });
+    if (!bron)
+        return tl::unexpected(std::move(bron.error()));
+    in.bron = std::move(*bron);
+    auto ontleed = OntleedXml(in.bron, pad, in.document, Xmlwit::Weg);
+    return ontleed && HeeftStukken(in.document)
+               ? OntleedXml(in.bron, pad, in.document, Xmlwit::Blijft)
+               : ontleed;
+}
+
+Uitkomst<Ledenomzetting> Converteer(const Ledendocument& van, Nbbversie versie, Schijf& schijf,
                                     const Pad& tussenbestand, const Voortgang& voortgang)
 {
     constexpr std::size_t elkeZoveel = 4096;
     Ledenomzetter omzetter(versie, van.bron);
     std::size_t gedaan = 0;
-    for (const pugi::xml_node& leden :
-         van.document.child("ReportableMembersList").children("Members")) {
-        for (const pugi::xml_node& lid : leden.children("ReportableMember")) {
-            omzetter.VoegToe(lid);
-            if (++gedaan % elkeZoveel == 0 && voortgang)
-                voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
-        }
-    }
+    VoorElkLid(van.document, [&](const pugi::xml_node& lid) {
+        omzetter.VoegToe(lid);
+        if (++gedaan % elkeZoveel == 0 && voortgang)
+            voortgang(static_cast<std::size_t>(lid.offset_debug()), van.bron.size());
+    });
     return SchrijfTussenregels(schijf, tussenbestand, std::move(omzetter.regels)).map([&] {
         return Ledenomzetting{omzetter.vervangen, std::nullopt};
     });
@@ -140,7 +174,7 @@ Uitkomst<Ledenomzetting> Converteer(const Xmldocument& van, Nbbversie versie, Sc
 Uitkomst<Ledenomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
                                            const Pad& tussenbestand, const Voortgang& voortgang)
 {
-    Xmldocument document;
+    Ledendocument document;
     return Laad(schijf, bestand, document).and_then([&] {
         return Converteer(document, Nbbversie::Drie, schijf, tussenbestand, voortgang);
     });
@@ -149,7 +183,7 @@ Uitkomst<Ledenomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
 Uitkomst<Ledenomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
                                            const Pad& tussenbestand, const Voortgang& voortgang)
 {
-    Xmldocument document;
+    Ledendocument document;
     const auto geladen = Laad(schijf, bestand, document);
     if (geladen)
         return Converteer(document, Nbbversie::Vier, schijf, tussenbestand, voortgang);

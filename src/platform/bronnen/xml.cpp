@@ -10,6 +10,8 @@
 #include <optional>
 #include <utility>
 
+#include <pugixml.hpp>
+
 #include "platform/tekst/codepagina.h"
 
 namespace plexoran {
@@ -21,27 +23,25 @@ constexpr auto nergens = std::string_view::npos;
 /// beside the outermost element so that they can be refused.
 constexpr unsigned Ontleedwijze = pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol |
                                   pugi::parse_comments | pugi::parse_pi | pugi::parse_doctype |
-                                  pugi::parse_fragment | pugi::parse_ws_pcdata;
+                                  pugi::parse_fragment;
 
 /// What is wrong with a document, and at which byte of its text.
 struct Xmlfout {
-    std::size_t begin = 0;
+    std::size_t plaats = 0;
     std::string wat;
 };
 
-tl::unexpected<Fout> Leesfout(std::string_view bron, const std::string& bestand,
-                              const Xmlfout& fout)
+Fout Leesfout(std::string_view bron, const std::string& bestand, const Xmlfout& fout)
 {
-    const std::string_view tot = bron.substr(0, fout.begin);
+    const std::string_view tot = bron.substr(0, fout.plaats);
     const std::string_view regel = tot.substr(tot.rfind('\n') + 1);
     const auto tekens = std::count_if(regel.begin(), regel.end(), [](char byte) {
         return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; // not one that goes on
     });
-    return Mislukt(
-        {.soort = Foutsoort::Beschadigd,
-         .bestand = bestand,
-         .regel = static_cast<int>(std::count(tot.begin(), tot.end(), '\n')) + 1,
-         .systeem = fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)"});
+    return {.soort = Foutsoort::Beschadigd,
+            .bestand = bestand,
+            .regel = static_cast<int>(std::count(tot.begin(), tot.end(), '\n')) + 1,
+            .systeem = fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)"};
 }
 
 // ---- Characters --------------------------------------------------------------------------------
@@ -56,10 +56,10 @@ Tekst Gedeclareerd(Tekstblik bytes)
     if (!bytes.starts_with("<?xml") || bytes.find_first_of(wit) != 5)
         return {};
     bytes = bytes.substr(0, bytes.find("?>"));
-    const auto woord = bytes.find(sleutel);
-    const auto quote = woord == nergens ? nergens : bytes.find_first_of("\"'", woord);
+    const auto plaats = bytes.find(sleutel);
+    const auto quote = plaats == nergens ? nergens : bytes.find_first_of("\"'", plaats);
     if (quote == nergens ||
-        bytes.find_first_not_of(Tekst(wit) + "=", woord + sleutel.size()) != quote)
+        bytes.find_first_not_of(Tekst(wit) + "=", plaats + sleutel.size()) != quote)
         return {};
     return Hoofdletters(bytes.substr(quote + 1, bytes.find(bytes[quote], quote + 1) - quote - 1));
 }
@@ -76,10 +76,10 @@ std::size_t EersteVerkeerde(std::string_view utf8)
         return static_cast<unsigned char>(teken) < ' ' && teken != '\t' && teken != '\n' &&
                teken != '\r';
     });
-    const auto tot = static_cast<std::size_t>(stuurteken - utf8.begin());
-    const auto voor = utf8.substr(0, tot); // and two that are characters of no kind
+    const auto plaats = static_cast<std::size_t>(stuurteken - utf8.begin());
+    const auto voor = utf8.substr(0, plaats); // and two that are characters of no kind
     const auto geen = std::min(voor.find("\xEF\xBF\xBE"), voor.find("\xEF\xBF\xBF"));
-    return geen != nergens ? geen : tot == utf8.size() ? nergens : tot;
+    return geen != nergens ? geen : plaats == utf8.size() ? nergens : plaats;
 }
 
 // ---- References --------------------------------------------------------------------------------
@@ -120,17 +120,18 @@ std::optional<Xmlfout> OnbekendeVerwijzing(std::string_view bron)
         eerste = bron.find('&', eerste + 1);
     if (eerste == nergens) // as good as always, and quickly seen
         return std::nullopt;
-    for (std::size_t i = 0; i < bron.size(); ++i) {
-        if (bron[i] == '&' && !IsBekend(bron.substr(i + 1))) {
-            const std::string_view naam = bron.substr(i, 32);
-            return Xmlfout{i, "de verwijzing is onbekend: " +
-                                  std::string(naam.substr(0, naam.find_first_of("; \t\r\n<", 1)))};
+    for (std::size_t plaats = 0; plaats < bron.size(); ++plaats) {
+        if (bron[plaats] == '&' && !IsBekend(bron.substr(plaats + 1))) {
+            const std::string_view naam = bron.substr(plaats, 32);
+            return Xmlfout{plaats,
+                           "de verwijzing is onbekend: " +
+                               std::string(naam.substr(0, naam.find_first_of("; \t\r\n<", 1)))};
         }
-        if (bron[i] != '<')
+        if (bron[plaats] != '<')
             continue;
         for (const auto& [begin, eind] : secties) {
-            if (bron.substr(i).starts_with(begin))
-                i = std::min(bron.find(eind, i + begin.size()), bron.size());
+            if (bron.substr(plaats).starts_with(begin))
+                plaats = std::min(bron.find(eind, plaats + begin.size()), bron.size());
         }
     }
     return std::nullopt;
@@ -171,15 +172,15 @@ std::optional<Xmlfout> KeurBuitenste(const pugi::xml_document& document, std::st
 {
     int elementen = 0;
     for (const pugi::xml_node& knoop : document.children()) {
-        const auto begin =
+        const auto plaats =
             static_cast<std::size_t>(std::max<std::ptrdiff_t>(knoop.offset_debug(), 0));
         const auto soort = knoop.type();
         if (soort == pugi::node_doctype)
-            return Xmlfout{begin, "een documenttype (DOCTYPE) hoort niet in een ledenbestand"};
+            return Xmlfout{plaats, "een documenttype (DOCTYPE) hoort niet in een ledenbestand"};
         if (soort == pugi::node_cdata || (soort == pugi::node_pcdata && !IsWit(knoop, bron)))
-            return Xmlfout{begin, "er staat tekst buiten het buitenste element"};
+            return Xmlfout{plaats, "er staat tekst buiten het buitenste element"};
         if (soort == pugi::node_element && ++elementen > 1)
-            return Xmlfout{begin, "er is meer dan één buitenste element"};
+            return Xmlfout{plaats, "er is meer dan één buitenste element"};
     }
     return elementen == 1 ? std::nullopt
                           : std::optional(Xmlfout{0, "er staat geen enkel element in"});
@@ -202,7 +203,9 @@ struct Tekstvanger : pugi::xml_tree_walker {
     bool alleenWit = true;
 };
 
-Uitkomst<std::string> Utf8Van(Tekst bytes, const std::string& bestand)
+} // namespace
+
+Uitkomst<std::string> LeesXml(Tekst bytes, const std::string& bestand)
 {
     const QByteArrayView alles(bytes.data(), static_cast<qsizetype>(bytes.size()));
     const auto herkend = QStringConverter::encodingForData(alles, u'<');
@@ -215,8 +218,8 @@ Uitkomst<std::string> Utf8Van(Tekst bytes, const std::string& bestand)
                         "ISO-8859-1", "ISO8859-1", "LATIN1"})) {
         tekst = NaarUtf8(bytes);
     } else if (utf32 || !IsEenVan(naam, {"", "UTF-8", "UTF8", "UTF-16"})) {
-        return Leesfout({}, bestand,
-                        {0, "de codering is onbekend: " + (utf32 ? "UTF-32" : NaarUtf8(naam))});
+        return tl::unexpected(Leesfout(
+            {}, bestand, {0, "de codering is onbekend: " + (utf32 ? "UTF-32" : NaarUtf8(naam))}));
     } else if (codering == QStringConverter::Utf8 && QUtf8StringView(alles).isValidUtf8()) {
         tekst = std::move(bytes);
         tekst.erase(0, herkend ? 3 : 0); // it is recognised by its mark only
@@ -233,28 +236,25 @@ Uitkomst<std::string> Utf8Van(Tekst bytes, const std::string& bestand)
     verkeerd = std::min(verkeerd, EersteVerkeerde(tekst));
     if (verkeerd == nergens)
         return tekst;
-    return Leesfout(tekst, bestand, {verkeerd, "hier staat geen teken dat in XML mag"});
+    return tl::unexpected(
+        Leesfout(tekst, bestand, {verkeerd, "hier staat geen teken dat in XML mag"}));
 }
 
-} // namespace
-
-Uitkomst<void> LeesXml(Tekst bytes, const std::string& bestand, Xmldocument& in)
+Uitkomst<void> OntleedXml(std::string_view bron, const std::string& bestand,
+                          pugi::xml_document& document, Xmlwit wit)
 {
-    auto utf8 = Utf8Van(std::move(bytes), bestand);
-    if (!utf8)
-        return Mislukt(utf8);
-    in.bron = std::move(*utf8);
-    const auto ontleed =
-        in.document.load_buffer(in.bron.data(), in.bron.size(), Ontleedwijze, pugi::encoding_utf8);
+    const unsigned hoe =
+        Ontleedwijze | (wit == Xmlwit::Weg ? pugi::parse_embed_pcdata : pugi::parse_ws_pcdata);
+    const auto ontleed = document.load_buffer(bron.data(), bron.size(), hoe, pugi::encoding_utf8);
     std::optional<Xmlfout> fout;
     if (!ontleed)
         fout = {static_cast<std::size_t>(ontleed.offset), Oorzaak(ontleed.status)};
     if (!fout)
-        fout = KeurBuitenste(in.document, in.bron);
+        fout = KeurBuitenste(document, bron);
     if (!fout)
-        fout = OnbekendeVerwijzing(in.bron);
+        fout = OnbekendeVerwijzing(bron);
     if (fout)
-        return Leesfout(in.bron, bestand, *fout);
+        return tl::unexpected(Leesfout(bron, bestand, *fout));
     return {};
 }
 
@@ -269,11 +269,15 @@ bool IsWit(const pugi::xml_node& knoop, std::string_view bron)
 
 std::size_t LeesTekst(const pugi::xml_node& element, std::string_view bron, Tekst& uit)
 {
-    Tekstvanger vanger(bron);
-    pugi::xml_node(element).traverse(vanger);
     Omzetting omgezet;
-    if (!vanger.alleenWit)
-        omgezet = Utf8NaarCodepagina(vanger.utf8);
+    if (element.first_child()) {
+        Tekstvanger vanger(bron);
+        pugi::xml_node(element).traverse(vanger);
+        if (!vanger.alleenWit)
+            omgezet = Utf8NaarCodepagina(vanger.utf8);
+    } else {
+        omgezet = Utf8NaarCodepagina(element.value());
+    }
     uit = std::move(omgezet.tekst);
     return omgezet.vervangen.size();
 }

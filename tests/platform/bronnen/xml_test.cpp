@@ -1,6 +1,7 @@
 #include "platform/bronnen/xml.h"
 
 #include <gtest/gtest.h>
+#include <pugixml.hpp>
 
 namespace plexoran {
 namespace {
@@ -14,13 +15,17 @@ struct Gelezen {
     Fout fout;
 };
 
-Gelezen Lees(Tekstblik bytes)
+Gelezen Lees(Tekstblik bytes, Xmlwit wit = Xmlwit::Blijft)
 {
-    Xmldocument in;
-    if (const auto gelezen = LeesXml(Tekst(bytes), "C:\\x.xml", in); !gelezen)
-        return {"(fout)", 0, gelezen.error()};
+    const auto bron = LeesXml(Tekst(bytes), "C:\\x.xml");
+    if (!bron)
+        return {"(fout)", 0, bron.error()};
+    pugi::xml_document document;
+    const auto ontleed = OntleedXml(*bron, "C:\\x.xml", document, wit);
+    if (!ontleed)
+        return {"(fout)", 0, ontleed.error()};
     Gelezen uit;
-    uit.vervangen = LeesTekst(in.document.document_element(), in.bron, uit.tekst);
+    uit.vervangen = LeesTekst(document.document_element(), *bron, uit.tekst);
     return uit;
 }
 
@@ -52,6 +57,13 @@ TEST(Xml, HoudtWitRondTekstMaarWitAlleenIsGeenTekst)
     EXPECT_EQ(Lees("<a>b\r\nc\rd\ne&#13;&#10;f</a>").tekst, "b\nc\nd\ne\r\nf");
 }
 
+TEST(Xml, EenTekstUitEenStukIsHetzelfdeZonderKnopenVoorWit)
+{
+    for (const char* tekst : {"<a>  b\t</a>", "<a> \r\n\t </a>", "<a></a>", "<a/>", "<a>&#32;</a>",
+                              "<a><![CDATA[ ]]></a>", "<a>b\r\nc\rd</a>", "<a>Zo\xC3\xAB</a>"})
+        EXPECT_EQ(Lees(tekst, Xmlwit::Weg).tekst, Lees(tekst).tekst) << tekst;
+}
+
 TEST(Xml, WitNaastCdataCommentaarEnElementenBlijft)
 {
     EXPECT_EQ(Lees("<a>Jan <![CDATA[van]]> <b>Dam</b></a>").tekst, "Jan van Dam");
@@ -63,11 +75,12 @@ TEST(Xml, WitNaastCdataCommentaarEnElementenBlijft)
 
 TEST(Xml, WitIsWatAlsWitIsGeschreven)
 {
-    Xmldocument in;
-    ASSERT_TRUE(LeesXml("<a> \r\n\t<b/>&#32;<c/> x <d/><![CDATA[ ]]></a>", "x", in));
+    const std::string bron = "<a> \r\n\t<b/>&#32;<c/> x <d/><![CDATA[ ]]></a>";
+    pugi::xml_document document;
+    ASSERT_TRUE(OntleedXml(bron, "x", document, Xmlwit::Blijft));
     std::string wit;
-    for (const pugi::xml_node& kind : in.document.document_element().children())
-        wit += IsWit(kind, in.bron) ? 'w' : '-';
+    for (const pugi::xml_node& kind : document.document_element().children())
+        wit += IsWit(kind, bron) ? 'w' : '-';
     EXPECT_EQ(wit, "w------");
 }
 
