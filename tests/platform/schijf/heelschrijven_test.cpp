@@ -41,30 +41,18 @@ void FaalBijElkeStap(Schijf& binnen, const Pad& pad, const Tekst& oud, Bereid be
 
 } // namespace
 
-TEST(HeelSchrijven, NieuwBestand)
+TEST(HeelSchrijven, NieuwEnOverHetOude)
 {
     GeheugenSchijf schijf;
+    const auto zonderMap = SchrijfHeel(schijf, bestand, "nieuw");
+    ASSERT_FALSE(zonderMap);
+    EXPECT_EQ(zonderMap.error().soort, Foutsoort::Ontbreekt);
     schijf.ZetMap("C:\\club");
-    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "inhoud"));
-    EXPECT_EQ(schijf.Inhoud(bestand), "inhoud");
-    EXPECT_EQ(schijf.AlleBestanden(), Namen{bestand});
-}
-
-TEST(HeelSchrijven, VervangtHetOude)
-{
-    GeheugenSchijf schijf;
-    schijf.Zet(bestand, "veel langere oude inhoud");
-    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "nieuw"));
-    EXPECT_EQ(schijf.Inhoud(bestand), "nieuw");
-    EXPECT_EQ(schijf.AlleBestanden(), Namen{bestand});
-}
-
-TEST(HeelSchrijven, MapOntbreekt)
-{
-    GeheugenSchijf schijf;
-    const auto uitkomst = SchrijfHeel(schijf, bestand, "nieuw");
-    ASSERT_FALSE(uitkomst);
-    EXPECT_EQ(uitkomst.error().soort, Foutsoort::Ontbreekt);
+    for (const char* inhoud : {"de langste inhoud", "nieuw"}) {
+        ASSERT_TRUE(SchrijfHeel(schijf, bestand, inhoud));
+        EXPECT_EQ(schijf.Inhoud(bestand), inhoud);
+        EXPECT_EQ(schijf.AlleBestanden(), Namen{bestand});
+    }
 }
 
 TEST(HeelSchrijven, FaaltBijElkeStapInGeheugen)
@@ -159,6 +147,13 @@ constexpr std::int64_t seconde = 1'000'000'000;
 constexpr std::int64_t uur = 3600 * seconde;
 constexpr std::int64_t nu = 500'000 * uur;
 
+/// A file in the folder of the club, of this time.
+void Zet(GeheugenSchijf& schijf, Tekstblik naam, std::int64_t tijd)
+{
+    schijf.Zet(Samen("C:\\club", naam), "x");
+    schijf.ZetTijd(Samen("C:\\club", naam), tijd);
+}
+
 } // namespace
 
 TEST(RuimTijdelijkeOp, AlleenOudeVanDitProgrammaInDezeMap)
@@ -172,23 +167,16 @@ TEST(RuimTijdelijkeOp, AlleenOudeVanDitProgrammaInDezeMap)
                            "spelers.txt.~plexoran9.txt",
                            "spelers.txt~plexoran9",
                            "map\\spelers.txt.~plexoran1"};
-    for (const Tekst& naam : blijven) {
-        schijf.Zet(Samen("C:\\club", naam), "x");
-        schijf.ZetTijd(Samen("C:\\club", naam), nu - 1000 * uur);
-    }
-    for (const char* naam : {"spelers.txt.~plexoran1230001", "Club lijst.pdf.~plexoran7"}) {
-        schijf.Zet(Samen("C:\\club", naam), "x");
-        schijf.ZetTijd(Samen("C:\\club", naam), nu - uur - 1);
-    }
+    for (const Tekst& naam : blijven)
+        Zet(schijf, naam, nu - 1000 * uur);
+    for (const char* naam : {"spelers.txt.~plexoran1230001", "Club lijst.pdf.~plexoran7"})
+        Zet(schijf, naam, nu - uur - 1);
     RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
     EXPECT_EQ(schijf.AlleBestanden().size(), blijven.size());
     for (const Tekst& naam : blijven)
         EXPECT_TRUE(schijf.Inhoud(Samen("C:\\club", naam))) << naam;
-}
 
-TEST(RuimTijdelijkeOp, EenMapDieNietGenoemdIsBlijftMetRust)
-{
-    GeheugenSchijf schijf;
+    // A folder that is not named is left in peace.
     schijf.Zet("\\spelers.txt.~plexoran1", "x");
     RuimTijdelijkeOp(schijf, "", "spelers.txt", nu);
     EXPECT_TRUE(schijf.Inhoud("\\spelers.txt.~plexoran1"));
@@ -198,8 +186,7 @@ TEST(RuimTijdelijkeOp, JongeBlijven)
 {
     GeheugenSchijf schijf;
     for (const std::int64_t tijd : {nu - uur, nu - seconde, nu + 5 * uur}) {
-        schijf.Zet("C:\\club\\spelers.txt.~plexoran1", "x");
-        schijf.ZetTijd("C:\\club\\spelers.txt.~plexoran1", tijd);
+        Zet(schijf, "spelers.txt.~plexoran1", tijd);
         RuimTijdelijkeOp(schijf, "C:\\club", "spelers.txt", nu);
         EXPECT_TRUE(schijf.Inhoud("C:\\club\\spelers.txt.~plexoran1")) << tijd;
     }

@@ -15,37 +15,17 @@ using namespace plexoran;
 
 namespace {
 
-// ---- What holds for every disk ---------------------------------------------------------------
-
-template <class Soort> struct Opstelling;
-
-template <> struct Opstelling<EchteSchijf> {
-    TijdelijkeMap tijdelijk;
-    EchteSchijf schijf;
-    Pad map = tijdelijk.AlsPad();
-};
-
-template <> struct Opstelling<GeheugenSchijf> {
-    Opstelling() { schijf.ZetMap(map); }
-    GeheugenSchijf schijf;
-    Pad map = "C:\\club";
-};
-
-template <class Soort> class SchijfTest : public testing::Test {
+class EchteSchijfTest : public testing::Test {
   protected:
-    [[nodiscard]] Pad In(Tekstblik naam) const { return Samen(opstelling_.map, naam); }
+    [[nodiscard]] Pad In(Tekstblik naam) const { return Samen(map_.AlsPad(), naam); }
 
-    void Schrijf(const Pad& pad, Tekstblik inhoud)
+    void ZetLink(const std::filesystem::path& doel, const char* naam) const
     {
-        auto schrijver = schijf_.MaakNieuw(pad);
-        ASSERT_TRUE(schrijver) << schrijver.error().systeem;
-        ASSERT_TRUE((*schrijver)->Schrijf(inhoud));
-        ASSERT_TRUE((*schrijver)->Sync());
-        ASSERT_TRUE((*schrijver)->Sluit());
+        std::filesystem::create_symlink(doel, map_.Weg() / naam);
     }
 
-    Opstelling<Soort> opstelling_;
-    Schijf& schijf_ = opstelling_.schijf;
+    TijdelijkeMap map_;
+    EchteSchijf schijf_;
 };
 
 template <class T> Foutsoort SoortVan(const Uitkomst<T>& uitkomst)
@@ -69,220 +49,232 @@ std::vector<Tekst> Gesorteerd(Uitkomst<std::vector<Tekst>> namen)
 
 using Namen = std::vector<Tekst>;
 
+// ---- What holds for every disk ---------------------------------------------------------------
+
+class SchijfTest : public testing::TestWithParam<bool> {
+  protected:
+    SchijfTest() { geheugen_.ZetMap(map_); }
+
+    [[nodiscard]] Pad In(Tekstblik naam) const { return Samen(map_, naam); }
+
+    void Schrijf(const Pad& pad, Tekstblik inhoud)
+    {
+        auto schrijver = schijf_.MaakNieuw(pad);
+        ASSERT_TRUE(schrijver) << schrijver.error().systeem;
+        ASSERT_TRUE((*schrijver)->Schrijf(inhoud));
+        ASSERT_TRUE((*schrijver)->Sync());
+        ASSERT_TRUE((*schrijver)->Sluit());
+    }
+
+  private:
+    TijdelijkeMap tijdelijk_;
+    EchteSchijf echt_;
+    GeheugenSchijf geheugen_;
+
+  protected:
+    Schijf& schijf_ = GetParam() ? static_cast<Schijf&>(echt_) : geheugen_;
+    Pad map_ = GetParam() ? tijdelijk_.AlsPad() : "C:\\club";
+};
+
+INSTANTIATE_TEST_SUITE_P(, SchijfTest, testing::Bool(),
+                         [](const auto& echt) { return echt.param ? "Echt" : "Geheugen"; });
+
 } // namespace
 
-using AlleSchijven = testing::Types<EchteSchijf, GeheugenSchijf>;
-TYPED_TEST_SUITE(SchijfTest, AlleSchijven);
-
-TYPED_TEST(SchijfTest, GeschrevenKomtTerug)
+TEST_P(SchijfTest, GeschrevenKomtTerug)
 {
     Tekst inhoud;
     for (int i = 0; i < 300'000; ++i)
         inhoud += static_cast<char>(i * 7 % 256);
-    this->Schrijf(this->In("spelers.txt"), inhoud);
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("spelers.txt")), inhoud);
-    this->Schrijf(this->In("leeg.txt"), "");
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("leeg.txt")), "");
-}
+    Schrijf(In("spelers.txt"), inhoud);
+    EXPECT_EQ(schijf_.LeesBestand(In("spelers.txt")), inhoud);
+    Schrijf(In("leeg.txt"), "");
+    EXPECT_EQ(schijf_.LeesBestand(In("leeg.txt")), "");
 
-TYPED_TEST(SchijfTest, SchrijvenGaatVerderWaarHetWas)
-{
-    auto schrijver = this->schijf_.MaakNieuw(this->In("a.txt"));
+    // Writing goes on where it was.
+    auto schrijver = schijf_.MaakNieuw(In("a.txt"));
     ASSERT_TRUE(schrijver);
     ASSERT_TRUE((*schrijver)->Schrijf("een\r\n"));
     ASSERT_TRUE((*schrijver)->Schrijf("twee\n"));
     ASSERT_TRUE((*schrijver)->Sluit());
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("a.txt")), "een\r\ntwee\n");
+    EXPECT_EQ(schijf_.LeesBestand(In("a.txt")), "een\r\ntwee\n");
 }
 
-TYPED_TEST(SchijfTest, SoortPerPad)
+TEST_P(SchijfTest, SoortPerPad)
 {
-    this->Schrijf(this->In("a.txt"), "x");
-    EXPECT_EQ(this->schijf_.Soort(this->In("a.txt")), Padsoort::Bestand);
-    EXPECT_EQ(this->schijf_.Soort(this->opstelling_.map), Padsoort::Map);
-    EXPECT_EQ(this->schijf_.Soort(this->In("b.txt")), Padsoort::Niets);
-    EXPECT_EQ(this->schijf_.Soort(this->In("weg\\b.txt")), Padsoort::Niets);
-    EXPECT_EQ(this->schijf_.Soort(this->In("a.txt\\b.txt")), Padsoort::Niets);
+    Schrijf(In("a.txt"), "x");
+    EXPECT_EQ(schijf_.Soort(In("a.txt")), Padsoort::Bestand);
+    EXPECT_EQ(schijf_.Soort(map_), Padsoort::Map);
+    EXPECT_EQ(schijf_.Soort(In("b.txt")), Padsoort::Niets);
+    EXPECT_EQ(schijf_.Soort(In("weg\\b.txt")), Padsoort::Niets);
+    EXPECT_EQ(schijf_.Soort(In("a.txt\\b.txt")), Padsoort::Niets);
 }
 
-TYPED_TEST(SchijfTest, WatErNietIsOntbreekt)
+TEST_P(SchijfTest, WatErNietIsOntbreekt)
 {
-    const Pad weg = this->In("weg.txt");
-    EXPECT_EQ(SoortVan(this->schijf_.LeesBestand(weg)), Foutsoort::Ontbreekt);
-    EXPECT_EQ(SoortVan(this->schijf_.NeemStempel(weg)), Foutsoort::Ontbreekt);
-    EXPECT_EQ(SoortVan(this->schijf_.Bestanden(weg)), Foutsoort::Ontbreekt);
-    EXPECT_EQ(SoortVan(this->schijf_.Verwijder(weg)), Foutsoort::Ontbreekt);
-    EXPECT_EQ(SoortVan(this->schijf_.Hernoem(weg, this->In("b"))), Foutsoort::Ontbreekt);
-    EXPECT_EQ(SoortVan(this->schijf_.NeemRechtenOver(weg, this->In("b"))), Foutsoort::Ontbreekt);
-    EXPECT_EQ(SoortVan(this->schijf_.MaakNieuw(this->In("weg\\a"))), Foutsoort::Ontbreekt);
+    const Pad weg = In("weg.txt");
+    EXPECT_EQ(SoortVan(schijf_.LeesBestand(weg)), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(schijf_.NeemStempel(weg)), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(schijf_.Bestanden(weg)), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(schijf_.Verwijder(weg)), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(schijf_.Hernoem(weg, In("b"))), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(schijf_.NeemRechtenOver(weg, In("b"))), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(schijf_.MaakNieuw(In("weg\\a"))), Foutsoort::Ontbreekt);
 }
 
-TYPED_TEST(SchijfTest, MapInPlaatsVanBestand)
+TEST_P(SchijfTest, MapInPlaatsVanBestand)
 {
-    const Pad map = this->In("spelers.txt");
-    ASSERT_TRUE(this->schijf_.MaakMap(map));
-    this->Schrijf(this->In("a.txt"), "x");
-    EXPECT_EQ(SoortVan(this->schijf_.LeesBestand(map)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(this->schijf_.NeemStempel(map)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(this->schijf_.MaakNieuw(map)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(this->schijf_.Verwijder(map)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(this->schijf_.Hernoem(this->In("a.txt"), map)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(this->schijf_.NeemRechtenOver(map, this->In("a.txt"))),
-              Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(SchrijfHeel(this->schijf_, map, "x")), Foutsoort::Geweigerd);
-    EXPECT_EQ(Gesorteerd(this->schijf_.Bestanden(this->opstelling_.map)), Namen{"a.txt"});
+    const Pad map = In("spelers.txt");
+    ASSERT_TRUE(schijf_.MaakMap(map));
+    Schrijf(In("a.txt"), "x");
+    EXPECT_EQ(SoortVan(schijf_.LeesBestand(map)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.NeemStempel(map)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.MaakNieuw(map)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.Verwijder(map)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.Hernoem(In("a.txt"), map)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.NeemRechtenOver(map, In("a.txt"))), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(SchrijfHeel(schijf_, map, "x")), Foutsoort::Geweigerd);
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_)), Namen{"a.txt"});
 }
 
-TYPED_TEST(SchijfTest, MaakNieuwVervangtNiets)
+TEST_P(SchijfTest, MaakNieuwVervangtNiets)
 {
-    this->Schrijf(this->In("a.txt"), "oud");
-    EXPECT_EQ(SoortVan(this->schijf_.MaakNieuw(this->In("a.txt"))), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(this->schijf_.MaakNieuw(this->In("A.TXT"))), Foutsoort::Geweigerd);
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("a.txt")), "oud");
+    Schrijf(In("a.txt"), "oud");
+    EXPECT_EQ(SoortVan(schijf_.MaakNieuw(In("a.txt"))), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.MaakNieuw(In("A.TXT"))), Foutsoort::Geweigerd);
+    EXPECT_EQ(schijf_.LeesBestand(In("a.txt")), "oud");
 }
 
-TYPED_TEST(SchijfTest, HernoemVervangt)
+TEST_P(SchijfTest, HernoemVervangt)
 {
-    this->Schrijf(this->In("a.txt"), "oud");
-    this->Schrijf(this->In("b.txt"), "nieuw");
-    ASSERT_TRUE(this->schijf_.Hernoem(this->In("b.txt"), this->In("a.txt")));
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("a.txt")), "nieuw");
-    EXPECT_EQ(this->schijf_.Soort(this->In("b.txt")), Padsoort::Niets);
+    Schrijf(In("a.txt"), "oud");
+    Schrijf(In("b.txt"), "nieuw");
+    ASSERT_TRUE(schijf_.Hernoem(In("b.txt"), In("a.txt")));
+    EXPECT_EQ(schijf_.LeesBestand(In("a.txt")), "nieuw");
+    EXPECT_EQ(schijf_.Soort(In("b.txt")), Padsoort::Niets);
+    // So it does a name in another case.
+    Schrijf(In("b.txt"), "nieuwer");
+    ASSERT_TRUE(schijf_.Hernoem(In("b.txt"), In("A.TXT")));
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_)).size(), 1U);
+    EXPECT_EQ(schijf_.LeesBestand(In("a.txt")), "nieuwer");
 }
 
-TYPED_TEST(SchijfTest, HernoemVindtDeNaamInAndereKast)
+TEST_P(SchijfTest, KastMaaktNietUit)
 {
-    this->Schrijf(this->In("SPELERS.TXT"), "oud");
-    this->Schrijf(this->In("b.txt"), "nieuw");
-    ASSERT_TRUE(this->schijf_.Hernoem(this->In("b.txt"), this->In("spelers.txt")));
-    EXPECT_EQ(Gesorteerd(this->schijf_.Bestanden(this->opstelling_.map)).size(), 1U);
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("SPELERS.TXT")), "nieuw");
+    ASSERT_TRUE(schijf_.MaakMap(In("Caf\xE9")));
+    Schrijf(In("Caf\xE9\\Spelers.txt"), "x");
+    EXPECT_EQ(schijf_.LeesBestand(In("CAF\xC9\\SPELERS.TXT")), "x");
+    EXPECT_EQ(schijf_.LeesBestand(In("caf\xE9/spelers.txt")), "x");
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(In("CAF\xC9\\"))), Namen{"Spelers.txt"});
 }
 
-TYPED_TEST(SchijfTest, KastMaaktNietUit)
+TEST_P(SchijfTest, NamenUitEenMap)
 {
-    ASSERT_TRUE(this->schijf_.MaakMap(this->In("Caf\xE9")));
-    this->Schrijf(this->In("Caf\xE9\\Spelers.txt"), "x");
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("CAF\xC9\\SPELERS.TXT")), "x");
-    EXPECT_EQ(this->schijf_.LeesBestand(this->In("caf\xE9/spelers.txt")), "x");
-    EXPECT_EQ(Gesorteerd(this->schijf_.Bestanden(this->In("CAF\xC9\\"))), Namen{"Spelers.txt"});
+    Schrijf(In("b.txt"), "");
+    Schrijf(In("Ren\xE9 \x80.txt"), "x");
+    ASSERT_TRUE(schijf_.MaakMap(In("map")));
+    ASSERT_TRUE(schijf_.MaakMap(In("map\\dieper")));
+    Schrijf(In("map\\c.txt"), "");
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_)), (Namen{"Ren\xE9 \x80.txt", "b.txt"}));
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(In("map"))), Namen{"c.txt"});
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(In("map\\dieper"))), Namen{});
+    EXPECT_EQ(SoortVan(schijf_.Bestanden(In("b.txt"))), Foutsoort::Ontbreekt);
 }
 
-TYPED_TEST(SchijfTest, NamenUitEenMap)
+TEST_P(SchijfTest, MappenInEenMap)
 {
-    this->Schrijf(this->In("b.txt"), "");
-    this->Schrijf(this->In("Ren\xE9 \x80.txt"), "x");
-    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map")));
-    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map\\dieper")));
-    this->Schrijf(this->In("map\\c.txt"), "");
-    EXPECT_EQ(Gesorteerd(this->schijf_.Bestanden(this->opstelling_.map)),
-              (Namen{"Ren\xE9 \x80.txt", "b.txt"}));
-    EXPECT_EQ(Gesorteerd(this->schijf_.Bestanden(this->In("map"))), Namen{"c.txt"});
-    EXPECT_EQ(Gesorteerd(this->schijf_.Bestanden(this->In("map\\dieper"))), Namen{});
-    EXPECT_EQ(SoortVan(this->schijf_.Bestanden(this->In("b.txt"))), Foutsoort::Ontbreekt);
+    Schrijf(In("b.txt"), "");
+    ASSERT_TRUE(schijf_.MaakMap(In("map")));
+    ASSERT_TRUE(schijf_.MaakMap(In("Ren\xE9 \x80")));
+    ASSERT_TRUE(schijf_.MaakMap(In("map\\dieper")));
+    ASSERT_TRUE(schijf_.MaakMap(In("map\\dieper\\nog")));
+    Schrijf(In("map\\c.txt"), "");
+    EXPECT_EQ(Gesorteerd(schijf_.Mappen(map_)), (Namen{"Ren\xE9 \x80", "map"}));
+    EXPECT_EQ(Gesorteerd(schijf_.Mappen(In("MAP"))), Namen{"dieper"});
+    EXPECT_EQ(Gesorteerd(schijf_.Mappen(In("map\\dieper\\nog"))), Namen{});
+    EXPECT_EQ(SoortVan(schijf_.Mappen(In("b.txt"))), Foutsoort::Ontbreekt);
+    EXPECT_EQ(SoortVan(schijf_.Mappen(In("weg"))), Foutsoort::Ontbreekt);
 }
 
-TYPED_TEST(SchijfTest, MappenInEenMap)
+TEST_P(SchijfTest, MaakMap)
 {
-    this->Schrijf(this->In("b.txt"), "");
-    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map")));
-    ASSERT_TRUE(this->schijf_.MaakMap(this->In("Ren\xE9 \x80")));
-    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map\\dieper")));
-    ASSERT_TRUE(this->schijf_.MaakMap(this->In("map\\dieper\\nog")));
-    this->Schrijf(this->In("map\\c.txt"), "");
-    EXPECT_EQ(Gesorteerd(this->schijf_.Mappen(this->opstelling_.map)),
-              (Namen{"Ren\xE9 \x80", "map"}));
-    EXPECT_EQ(Gesorteerd(this->schijf_.Mappen(this->In("MAP"))), Namen{"dieper"});
-    EXPECT_EQ(Gesorteerd(this->schijf_.Mappen(this->In("map\\dieper\\nog"))), Namen{});
-    EXPECT_EQ(SoortVan(this->schijf_.Mappen(this->In("b.txt"))), Foutsoort::Ontbreekt);
-    EXPECT_EQ(SoortVan(this->schijf_.Mappen(this->In("weg"))), Foutsoort::Ontbreekt);
+    EXPECT_TRUE(schijf_.MaakMap(In("een")));
+    EXPECT_TRUE(schijf_.MaakMap(In("een\\twee")));
+    EXPECT_EQ(schijf_.Soort(In("een\\twee")), Padsoort::Map);
+    EXPECT_TRUE(schijf_.MaakMap(In("EEN\\twee"))); // is there already
+    EXPECT_EQ(schijf_.Soort(In("een\\twee")), Padsoort::Map);
+    Schrijf(In("a.txt"), "x");
+    EXPECT_EQ(SoortVan(schijf_.MaakMap(In("a.txt"))), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.MaakMap(In("a.txt\\b"))), Foutsoort::Geweigerd);
+    // The folders above it are not made.
+    EXPECT_EQ(SoortVan(schijf_.MaakMap(In("weg\\twee"))), Foutsoort::Ontbreekt);
+    EXPECT_EQ(schijf_.Soort(In("weg")), Padsoort::Niets);
 }
 
-TYPED_TEST(SchijfTest, MaakMap)
+TEST_P(SchijfTest, StempelVerandertMetHetBestand)
 {
-    EXPECT_TRUE(this->schijf_.MaakMap(this->In("een")));
-    EXPECT_TRUE(this->schijf_.MaakMap(this->In("een\\twee")));
-    EXPECT_EQ(this->schijf_.Soort(this->In("een\\twee")), Padsoort::Map);
-    EXPECT_TRUE(this->schijf_.MaakMap(this->In("EEN\\twee"))); // is there already
-    EXPECT_EQ(this->schijf_.Soort(this->In("een\\twee")), Padsoort::Map);
-    this->Schrijf(this->In("a.txt"), "x");
-    EXPECT_EQ(SoortVan(this->schijf_.MaakMap(this->In("a.txt"))), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(this->schijf_.MaakMap(this->In("a.txt\\b"))), Foutsoort::Geweigerd);
-}
-
-TYPED_TEST(SchijfTest, MaakMapMaaktDeMappenErbovenNiet)
-{
-    EXPECT_EQ(SoortVan(this->schijf_.MaakMap(this->In("weg\\twee"))), Foutsoort::Ontbreekt);
-    EXPECT_EQ(this->schijf_.Soort(this->In("weg")), Padsoort::Niets);
-}
-
-TYPED_TEST(SchijfTest, StempelVerandertMetHetBestand)
-{
-    const Pad pad = this->In("a.txt");
-    this->Schrijf(pad, "12345");
-    const auto eerste = this->schijf_.NeemStempel(pad);
+    const Pad pad = In("a.txt");
+    Schrijf(pad, "12345");
+    const auto eerste = schijf_.NeemStempel(pad);
     ASSERT_TRUE(eerste);
     EXPECT_EQ(eerste->grootte, 5U);
-    EXPECT_EQ(this->schijf_.NeemStempel(pad), *eerste);
-    ASSERT_TRUE(SchrijfHeel(this->schijf_, pad, "54321"));
-    const auto tweede = this->schijf_.NeemStempel(pad);
+    EXPECT_EQ(schijf_.NeemStempel(pad), *eerste);
+    ASSERT_TRUE(SchrijfHeel(schijf_, pad, "54321"));
+    const auto tweede = schijf_.NeemStempel(pad);
     ASSERT_TRUE(tweede);
     EXPECT_NE(*tweede, *eerste);
     EXPECT_GE(tweede->tijd, eerste->tijd);
 }
 
-TYPED_TEST(SchijfTest, VerwijderEnSync)
+TEST_P(SchijfTest, VerwijderEnSync)
 {
-    this->Schrijf(this->In("a.txt"), "x");
-    EXPECT_TRUE(this->schijf_.SyncMapVan(this->In("a.txt")));
-    EXPECT_TRUE(this->schijf_.Verwijder(this->In("A.txt")));
-    EXPECT_EQ(this->schijf_.Soort(this->In("a.txt")), Padsoort::Niets);
-    EXPECT_TRUE(this->schijf_.SyncMapVan(this->In("a.txt")));
+    Schrijf(In("a.txt"), "x");
+    EXPECT_TRUE(schijf_.SyncMapVan(In("a.txt")));
+    EXPECT_TRUE(schijf_.Verwijder(In("A.txt")));
+    EXPECT_EQ(schijf_.Soort(In("a.txt")), Padsoort::Niets);
+    EXPECT_TRUE(schijf_.SyncMapVan(In("a.txt")));
 }
 
-TYPED_TEST(SchijfTest, DoelVanEenGewoonBestandIsHetZelf)
+TEST_P(SchijfTest, DoelVanEenGewoonBestandIsHetZelf)
 {
-    this->Schrijf(this->In("a.txt"), "x");
-    EXPECT_EQ(this->schijf_.Doel(this->In("a.txt")), this->In("a.txt"));
-    EXPECT_EQ(this->schijf_.Doel(this->In("weg.txt")), this->In("weg.txt"));
+    Schrijf(In("a.txt"), "x");
+    for (const char* naam : {"a.txt", "weg.txt"})
+        EXPECT_EQ(schijf_.Doel(In(naam)), In(naam));
 }
 
 // ---- The real disk ---------------------------------------------------------------------------
 
-TEST(EchteSchijfTest, TeLangeNaamGeweigerd)
+TEST_F(EchteSchijfTest, TeLangeNaamGeweigerd)
 {
-    const TijdelijkeMap map;
-    EchteSchijf schijf;
-    const Pad lang = Samen(map.AlsPad(), Tekst(300, 'a'));
+    const Pad lang = In(Tekst(300, 'a'));
 #ifdef _WIN32 // which says that there is no such file, and no more
-    EXPECT_FALSE(schijf.LeesBestand(lang));
-    EXPECT_FALSE(SchrijfHeel(schijf, lang, "x"));
+    EXPECT_FALSE(schijf_.LeesBestand(lang));
+    EXPECT_FALSE(SchrijfHeel(schijf_, lang, "x"));
 #else
-    EXPECT_EQ(SoortVan(schijf.Soort(lang)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(schijf.LeesBestand(lang)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(SchrijfHeel(schijf, lang, "x")), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.Soort(lang)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.LeesBestand(lang)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(SchrijfHeel(schijf_, lang, "x")), Foutsoort::Geweigerd);
 #endif
-    const Pad kanNet = Samen(map.AlsPad(), Tekst(200, 'a'));
-    EXPECT_TRUE(SchrijfHeel(schijf, kanNet, "x"));
-    EXPECT_EQ(schijf.LeesBestand(kanNet), "x");
+    const Pad kanNet = In(Tekst(200, 'a'));
+    EXPECT_TRUE(SchrijfHeel(schijf_, kanNet, "x"));
+    EXPECT_EQ(schijf_.LeesBestand(kanNet), "x");
 }
 
-TEST(EchteSchijfTest, NulbyteVindtNiets)
+TEST_F(EchteSchijfTest, NulbyteVindtNiets)
 {
-    const TijdelijkeMap map;
-    map.Zet("a", "x");
-    EchteSchijf schijf;
-    const Pad pad = Samen(map.AlsPad(), Tekst("a\0b", 3));
-    EXPECT_FALSE(schijf.LeesBestand(pad));
-    EXPECT_FALSE(schijf.MaakNieuw(pad));
-    EXPECT_FALSE(schijf.Verwijder(pad));
-    EXPECT_EQ(map.Inhoud("a"), "x");
+    map_.Zet("a", "x");
+    const Pad pad = In(Tekst("a\0b", 3));
+    EXPECT_FALSE(schijf_.LeesBestand(pad));
+    EXPECT_FALSE(schijf_.MaakNieuw(pad));
+    EXPECT_FALSE(schijf_.Verwijder(pad));
+    EXPECT_EQ(map_.Inhoud("a"), "x");
 }
 
 TEST(Systeemmelding, DeGewoneFoutenInHetNederlands)
 {
     const auto melding = [](std::errc fout) { return Systeemmelding(std::make_error_code(fout)); };
-    EXPECT_EQ("het bestand of de map bestaat niet", melding(std::errc::no_such_file_or_directory));
+    const char* weg = "het bestand of de map bestaat niet";
+    EXPECT_EQ(weg, melding(std::errc::no_such_file_or_directory));
     EXPECT_EQ("u hebt daar geen rechten voor", melding(std::errc::permission_denied));
     EXPECT_EQ("de schijf is vol", melding(std::errc::no_space_on_device));
     EXPECT_EQ("op deze schijf kan alleen worden gelezen",
@@ -296,163 +288,131 @@ TEST(Systeemmelding, DeGewoneFoutenInHetNederlands)
           std::errc::too_many_files_open, std::errc::too_many_files_open_in_system,
           std::errc::not_enough_memory, std::errc::no_such_device, std::errc::timed_out})
         EXPECT_NE(std::make_error_code(fout).message(), melding(fout));
-}
 
-TEST(Systeemmelding, DeRestInDeWoordenVanHetSysteem)
-{
+    // The rest in the words of the system, and what it says of its own disk in the same words.
     const auto zeldzaam = std::make_error_code(std::errc::owner_dead);
     EXPECT_EQ(zeldzaam.message(), Systeemmelding(zeldzaam));
-}
-
-/// What the system says of its own disk comes out in the same words.
-TEST(Systeemmelding, OokVanHetSysteemZelf)
-{
-    EXPECT_EQ("het bestand of de map bestaat niet",
-              Systeemmelding({ENOENT, std::generic_category()}));
+    EXPECT_EQ(weg, Systeemmelding({ENOENT, std::generic_category()}));
     std::error_code fout;
     (void)std::filesystem::file_size("/bestaat/niet", fout);
-    EXPECT_EQ("het bestand of de map bestaat niet", Systeemmelding(fout));
+    EXPECT_EQ(weg, Systeemmelding(fout));
 }
 
-TEST(EchteSchijfTest, FoutNoemtBestandEnReden)
+TEST_F(EchteSchijfTest, FoutNoemtBestandEnReden)
 {
-    EchteSchijf schijf;
-    const TijdelijkeMap map;
-    const auto gelezen = schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9"));
+    const auto gelezen = schijf_.LeesBestand(In("Ren\xE9"));
     ASSERT_FALSE(gelezen);
-    EXPECT_EQ(gelezen.error().bestand, map.Toonpad(u8"René"));
+    EXPECT_EQ(gelezen.error().bestand, map_.Toonpad(u8"René"));
     EXPECT_EQ("het bestand of de map bestaat niet", gelezen.error().systeem);
-    EXPECT_EQ(schijf.Toonpad(Samen(map.AlsPad(), "Ren\xE9")), gelezen.error().bestand);
+    EXPECT_EQ(schijf_.Toonpad(In("Ren\xE9")), gelezen.error().bestand);
 }
 
 #ifndef _WIN32
 
-TEST(EchteSchijfTest, ExacteNaamGaatVoorAndereKast)
+TEST_F(EchteSchijfTest, ExacteNaamGaatVoorAndereKast)
 {
-    const TijdelijkeMap map;
-    map.Zet("Spelers.txt", "groot");
-    map.Zet("spelers.txt", "klein");
-    EchteSchijf schijf;
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "spelers.txt")), "klein");
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "Spelers.txt")), "groot");
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "SPELERS.TXT")), "groot");
+    map_.Zet("Spelers.txt", "groot");
+    map_.Zet("spelers.txt", "klein");
+    EXPECT_EQ(schijf_.LeesBestand(In("spelers.txt")), "klein");
+    EXPECT_EQ(schijf_.LeesBestand(In("Spelers.txt")), "groot");
+    EXPECT_EQ(schijf_.LeesBestand(In("SPELERS.TXT")), "groot");
 }
 
-TEST(EchteSchijfTest, AccentenInMapEnNaam)
+TEST_F(EchteSchijfTest, AccentenInMapEnNaam)
 {
-    const TijdelijkeMap map;
-    std::filesystem::create_directory(map.Weg() / "Caf\xC3\xA9");
-    map.Zet("Caf\xC3\xA9/Ren\xC3\xA9.txt", "utf8");
-    EchteSchijf schijf;
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "CAF\xC9\\ren\xE9.TXT")), "utf8");
-    ASSERT_TRUE(SchrijfHeel(schijf, Samen(map.AlsPad(), "caf\xE9\\\x9Ckraine"), "nieuw"));
-    EXPECT_EQ(map.Inhoud("Caf\xC3\xA9/\xC5\x93kraine"), "nieuw");
+    std::filesystem::create_directory(map_.Weg() / "Caf\xC3\xA9");
+    map_.Zet("Caf\xC3\xA9/Ren\xC3\xA9.txt", "utf8");
+    EXPECT_EQ(schijf_.LeesBestand(In("CAF\xC9\\ren\xE9.TXT")), "utf8");
+    ASSERT_TRUE(SchrijfHeel(schijf_, In("caf\xE9\\\x9Ckraine"), "nieuw"));
+    EXPECT_EQ(map_.Inhoud("Caf\xC3\xA9/\xC5\x93kraine"), "nieuw");
 }
 
-TEST(EchteSchijfTest, RuweBytesWordenGevonden)
+TEST_F(EchteSchijfTest, RuweBytesWordenGevonden)
 {
-    const TijdelijkeMap map;
-    map.Zet("Ren\xE9.txt", "ruw");
-    EchteSchijf schijf;
-    EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), Namen{"Ren\xE9.txt"});
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9.txt")), "ruw");
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "REN\xC9.txt")), "ruw");
-    map.Zet("REN\xE9.txt", "andere kast"); // no reason to take another than the exact name
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9.txt")), "ruw");
-    map.Zet("Ren\xC3\xA9.txt", "utf8"); // comes first as soon as it is there
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9.txt")), "utf8");
+    map_.Zet("Ren\xE9.txt", "ruw");
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_.AlsPad())), Namen{"Ren\xE9.txt"});
+    EXPECT_EQ(schijf_.LeesBestand(In("Ren\xE9.txt")), "ruw");
+    EXPECT_EQ(schijf_.LeesBestand(In("REN\xC9.txt")), "ruw");
+    map_.Zet("REN\xE9.txt", "andere kast"); // no reason to take another than the exact name
+    EXPECT_EQ(schijf_.LeesBestand(In("Ren\xE9.txt")), "ruw");
+    map_.Zet("Ren\xC3\xA9.txt", "utf8"); // comes first as soon as it is there
+    EXPECT_EQ(schijf_.LeesBestand(In("Ren\xE9.txt")), "utf8");
 }
 
-TEST(EchteSchijfTest, NamenBuitenDeCodepagina)
+TEST_F(EchteSchijfTest, NamenBuitenDeCodepagina)
 {
-    const TijdelijkeMap map;
     const Namen namen = {"Dvo\xC5\x99\xC3\xA1k", "\xC5\x81\xC3"};
-    EchteSchijf schijf;
     for (const Tekst& naam : namen) {
-        map.Zet(naam, naam);
-        EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), naam)), naam);
+        map_.Zet(naam, naam);
+        EXPECT_EQ(schijf_.LeesBestand(In(naam)), naam);
     }
-    EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), namen);
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_.AlsPad())), namen);
 }
 
-TEST(EchteSchijfTest, LosGeschrevenAccenten)
+TEST_F(EchteSchijfTest, LosGeschrevenAccenten)
 {
-    const TijdelijkeMap map;
-    map.Zet("Rene\xCC\x81", "los");
-    EchteSchijf schijf;
-    EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), Namen{"Ren\xE9"});
-    EXPECT_EQ(schijf.LeesBestand(Samen(map.AlsPad(), "Ren\xE9")), "los");
+    map_.Zet("Rene\xCC\x81", "los");
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_.AlsPad())), Namen{"Ren\xE9"});
+    EXPECT_EQ(schijf_.LeesBestand(In("Ren\xE9")), "los");
 }
 
-TEST(EchteSchijfTest, MappenOokAchterEenLink)
+TEST_F(EchteSchijfTest, MappenOokAchterEenLink)
 {
-    const TijdelijkeMap map;
-    std::filesystem::create_directory(map.Weg() / "a");
-    std::filesystem::create_symlink("a", map.Weg() / "b");
-    std::filesystem::create_symlink("weg", map.Weg() / "c");
-    ASSERT_EQ(::mkfifo((map.Weg() / "pijp").c_str(), 0600), 0);
-    EchteSchijf schijf;
-    EXPECT_EQ(Gesorteerd(schijf.Mappen(map.AlsPad())), (Namen{"a", "b"}));
+    std::filesystem::create_directory(map_.Weg() / "a");
+    ZetLink("a", "b");
+    ZetLink("weg", "c");
+    ASSERT_EQ(::mkfifo((map_.Weg() / "pijp").c_str(), 0600), 0);
+    EXPECT_EQ(Gesorteerd(schijf_.Mappen(map_.AlsPad())), (Namen{"a", "b"}));
 }
 
-TEST(EchteSchijfTest, GeenGewoonBestand)
+TEST_F(EchteSchijfTest, GeenGewoonBestand)
 {
-    const TijdelijkeMap map;
-    ASSERT_EQ(::mkfifo((map.Weg() / "pijp").c_str(), 0600), 0);
-    EchteSchijf schijf;
-    const Pad pijp = Samen(map.AlsPad(), "pijp");
-    EXPECT_EQ(SoortVan(schijf.LeesBestand(pijp)), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(schijf.LeesBestand("\\dev\\zero")), Foutsoort::Geweigerd);
-    EXPECT_EQ(SoortVan(SchrijfHeel(schijf, pijp, "x")), Foutsoort::Geweigerd);
-    EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), Namen{});
-    EXPECT_TRUE(std::filesystem::is_fifo(map.Weg() / "pijp"));
+    ASSERT_EQ(::mkfifo((map_.Weg() / "pijp").c_str(), 0600), 0);
+    const Pad pijp = In("pijp");
+    EXPECT_EQ(SoortVan(schijf_.LeesBestand(pijp)), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(schijf_.LeesBestand("\\dev\\zero")), Foutsoort::Geweigerd);
+    EXPECT_EQ(SoortVan(SchrijfHeel(schijf_, pijp, "x")), Foutsoort::Geweigerd);
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_.AlsPad())), Namen{});
+    EXPECT_TRUE(std::filesystem::is_fifo(map_.Weg() / "pijp"));
 }
 
-TEST(EchteSchijfTest, BestandDatZijnGrootteNietZegt)
+TEST_F(EchteSchijfTest, BestandDatZijnGrootteNietZegt)
 {
-    EchteSchijf schijf;
-    const auto gelezen = schijf.LeesBestand("/proc/self/status"); // size 0 by its own account
+    const auto gelezen = schijf_.LeesBestand("/proc/self/status"); // size 0 by its own account
     ASSERT_TRUE(gelezen) << gelezen.error().systeem;
     EXPECT_GT(gelezen->size(), 100U);
 }
 
-TEST(EchteSchijfTest, LinkBlijftEnDoelWordtVervangen)
+TEST_F(EchteSchijfTest, LinkBlijftEnDoelWordtVervangen)
 {
-    const TijdelijkeMap map;
-    std::filesystem::create_directory(map.Weg() / "ver");
-    map.Zet("ver/echt.txt", "oud");
-    std::filesystem::create_symlink("ver/echt.txt", map.Weg() / "tussen.txt");
-    std::filesystem::create_symlink(map.Weg() / "tussen.txt", map.Weg() / "link.txt");
-    EchteSchijf schijf;
-    ASSERT_TRUE(SchrijfHeel(schijf, Samen(map.AlsPad(), "LINK.TXT"), "nieuw"));
-    EXPECT_TRUE(std::filesystem::is_symlink(map.Weg() / "link.txt"));
-    EXPECT_TRUE(std::filesystem::is_symlink(map.Weg() / "tussen.txt"));
-    EXPECT_FALSE(std::filesystem::is_symlink(map.Weg() / "ver/echt.txt"));
-    EXPECT_EQ(map.Inhoud("ver/echt.txt"), "nieuw");
+    std::filesystem::create_directory(map_.Weg() / "ver");
+    map_.Zet("ver/echt.txt", "oud");
+    ZetLink("ver/echt.txt", "tussen.txt");
+    ZetLink(map_.Weg() / "tussen.txt", "link.txt");
+    ASSERT_TRUE(SchrijfHeel(schijf_, In("LINK.TXT"), "nieuw"));
+    EXPECT_TRUE(std::filesystem::is_symlink(map_.Weg() / "link.txt"));
+    EXPECT_TRUE(std::filesystem::is_symlink(map_.Weg() / "tussen.txt"));
+    EXPECT_FALSE(std::filesystem::is_symlink(map_.Weg() / "ver/echt.txt"));
+    EXPECT_EQ(map_.Inhoud("ver/echt.txt"), "nieuw");
 }
 
-TEST(EchteSchijfTest, LinkNaarWatErNogNietIs)
+TEST_F(EchteSchijfTest, LinkNaarWatErNogNietIs)
 {
-    const TijdelijkeMap map;
     const std::string buitenDeCodepagina = "Dvo\xC5\x99\xC3\xA1k.txt";
-    std::filesystem::create_symlink("Ren\xC3\xA9.txt", map.Weg() / "een.txt");
-    std::filesystem::create_symlink(buitenDeCodepagina, map.Weg() / "twee.txt");
-    EchteSchijf schijf;
-    EXPECT_EQ(schijf.Doel(Samen(map.AlsPad(), "een.txt")),
-              Vervang(map.AlsPad(), '/', '\\') + "\\Ren\xE9.txt");
-    ASSERT_TRUE(SchrijfHeel(schijf, Samen(map.AlsPad(), "een.txt"), "1"));
-    ASSERT_TRUE(SchrijfHeel(schijf, Samen(map.AlsPad(), "twee.txt"), "2"));
-    EXPECT_EQ(map.Inhoud("Ren\xC3\xA9.txt"), "1");
-    EXPECT_EQ(map.Inhoud(buitenDeCodepagina), "2");
+    ZetLink("Ren\xC3\xA9.txt", "een.txt");
+    ZetLink(buitenDeCodepagina, "twee.txt");
+    EXPECT_EQ(schijf_.Doel(In("een.txt")), Vervang(map_.AlsPad(), '/', '\\') + "\\Ren\xE9.txt");
+    ASSERT_TRUE(SchrijfHeel(schijf_, In("een.txt"), "1"));
+    ASSERT_TRUE(SchrijfHeel(schijf_, In("twee.txt"), "2"));
+    EXPECT_EQ(map_.Inhoud("Ren\xC3\xA9.txt"), "1");
+    EXPECT_EQ(map_.Inhoud(buitenDeCodepagina), "2");
 }
 
-TEST(EchteSchijfTest, LinkInEenKring)
+TEST_F(EchteSchijfTest, LinkInEenKring)
 {
-    const TijdelijkeMap map;
-    std::filesystem::create_symlink("b", map.Weg() / "a");
-    std::filesystem::create_symlink("a", map.Weg() / "b");
-    EchteSchijf schijf;
-    EXPECT_EQ(SoortVan(SchrijfHeel(schijf, Samen(map.AlsPad(), "a"), "x")), Foutsoort::Geweigerd);
+    ZetLink("b", "a");
+    ZetLink("a", "b");
+    EXPECT_EQ(SoortVan(SchrijfHeel(schijf_, In("a"), "x")), Foutsoort::Geweigerd);
 }
 
 mode_t RechtenVan(const std::filesystem::path& pad)
@@ -462,30 +422,26 @@ mode_t RechtenVan(const std::filesystem::path& pad)
     return toestand.st_mode & 07777;
 }
 
-TEST(EchteSchijfTest, RechtenBlijven)
+TEST_F(EchteSchijfTest, RechtenBlijven)
 {
-    const TijdelijkeMap map;
-    EchteSchijf schijf;
     for (const mode_t rechten : {0600U, 0640U, 0666U, 0755U}) {
-        map.Zet("a.txt", "oud");
-        ASSERT_EQ(::chmod((map.Weg() / "a.txt").c_str(), rechten), 0);
-        ASSERT_TRUE(SchrijfHeel(schijf, Samen(map.AlsPad(), "a.txt"), "nieuw"));
-        EXPECT_EQ(RechtenVan(map.Weg() / "a.txt"), rechten);
-        EXPECT_EQ(map.Inhoud("a.txt"), "nieuw");
+        map_.Zet("a.txt", "oud");
+        ASSERT_EQ(::chmod((map_.Weg() / "a.txt").c_str(), rechten), 0);
+        ASSERT_TRUE(SchrijfHeel(schijf_, In("a.txt"), "nieuw"));
+        EXPECT_EQ(RechtenVan(map_.Weg() / "a.txt"), rechten);
+        EXPECT_EQ(map_.Inhoud("a.txt"), "nieuw");
     }
 }
 
-TEST(EchteSchijfTest, EigenaarBlijft)
+TEST_F(EchteSchijfTest, EigenaarBlijft)
 {
     if (::geteuid() != 0)
         GTEST_SKIP() << "alleen root mag een bestand weggeven";
-    const TijdelijkeMap map;
-    map.Zet("a.txt", "oud");
-    ASSERT_EQ(::chown((map.Weg() / "a.txt").c_str(), 12345, 23456), 0);
-    EchteSchijf schijf;
-    ASSERT_TRUE(SchrijfHeel(schijf, Samen(map.AlsPad(), "a.txt"), "nieuw"));
+    map_.Zet("a.txt", "oud");
+    ASSERT_EQ(::chown((map_.Weg() / "a.txt").c_str(), 12345, 23456), 0);
+    ASSERT_TRUE(SchrijfHeel(schijf_, In("a.txt"), "nieuw"));
     struct stat toestand {};
-    ASSERT_EQ(::stat((map.Weg() / "a.txt").c_str(), &toestand), 0);
+    ASSERT_EQ(::stat((map_.Weg() / "a.txt").c_str(), &toestand), 0);
     EXPECT_EQ(toestand.st_uid, 12345U);
     EXPECT_EQ(toestand.st_gid, 23456U);
 }
@@ -512,40 +468,53 @@ class GewoneGebruiker {
     bool root_;
 };
 
-TEST(EchteSchijfTest, SchrijfbeveiligdBestandGeweigerd)
+TEST_F(EchteSchijfTest, SchrijfbeveiligdBestandGeweigerd)
 {
-    const TijdelijkeMap map;
-    map.Zet("a.txt", "oud");
-    ASSERT_EQ(::chmod(map.Weg().c_str(), 0777), 0); // so that only the file itself can refuse
-    ASSERT_EQ(::chmod((map.Weg() / "a.txt").c_str(), 0444), 0);
-    EchteSchijf schijf;
+    map_.Zet("a.txt", "oud");
+    ASSERT_EQ(::chmod(map_.Weg().c_str(), 0777), 0); // so that only the file itself can refuse
+    ASSERT_EQ(::chmod((map_.Weg() / "a.txt").c_str(), 0444), 0);
     {
         const GewoneGebruiker gebruiker;
-        EXPECT_EQ(SoortVan(SchrijfHeel(schijf, Samen(map.AlsPad(), "a.txt"), "nieuw")),
-                  Foutsoort::Geweigerd);
-        EXPECT_TRUE(SchrijfHeel(schijf, Samen(map.AlsPad(), "b.txt"), "kan wel"));
+        EXPECT_EQ(SoortVan(SchrijfHeel(schijf_, In("a.txt"), "nieuw")), Foutsoort::Geweigerd);
+        EXPECT_TRUE(SchrijfHeel(schijf_, In("b.txt"), "kan wel"));
     }
-    EXPECT_EQ(map.Inhoud("a.txt"), "oud");
-    EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), (Namen{"a.txt", "b.txt"}));
+    EXPECT_EQ(map_.Inhoud("a.txt"), "oud");
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_.AlsPad())), (Namen{"a.txt", "b.txt"}));
 }
 
-TEST(EchteSchijfTest, OntoegankelijkeMapIsEenFout)
+TEST_F(EchteSchijfTest, OntoegankelijkeMapIsEenFout)
 {
-    const TijdelijkeMap map;
-    std::filesystem::create_directory(map.Weg() / "dicht");
-    map.Zet("dicht/a.txt", "x");
-    ASSERT_EQ(::chmod((map.Weg() / "dicht").c_str(), 0), 0);
-    EchteSchijf schijf;
+    std::filesystem::create_directory(map_.Weg() / "dicht");
+    map_.Zet("dicht/a.txt", "x");
+    ASSERT_EQ(::chmod((map_.Weg() / "dicht").c_str(), 0), 0);
     {
         const GewoneGebruiker gebruiker;
-        const Pad pad = Samen(map.AlsPad(), "dicht\\a.txt");
-        EXPECT_EQ(SoortVan(schijf.Soort(pad)), Foutsoort::Geweigerd); // and not Niets
-        EXPECT_EQ(SoortVan(schijf.LeesBestand(pad)), Foutsoort::Geweigerd);
-        EXPECT_EQ(SoortVan(schijf.Bestanden(Samen(map.AlsPad(), "dicht"))), Foutsoort::Geweigerd);
-        EXPECT_EQ(SoortVan(SchrijfHeel(schijf, pad, "y")), Foutsoort::Geweigerd);
+        const Pad pad = In("dicht\\a.txt");
+        EXPECT_EQ(SoortVan(schijf_.Soort(pad)), Foutsoort::Geweigerd); // and not Niets
+        EXPECT_EQ(SoortVan(schijf_.LeesBestand(pad)), Foutsoort::Geweigerd);
+        EXPECT_EQ(SoortVan(schijf_.Bestanden(In("dicht"))), Foutsoort::Geweigerd);
+        EXPECT_EQ(SoortVan(SchrijfHeel(schijf_, pad, "y")), Foutsoort::Geweigerd);
     }
-    ASSERT_EQ(::chmod((map.Weg() / "dicht").c_str(), 0700), 0);
-    EXPECT_EQ(map.Inhoud("dicht/a.txt"), "x");
+    ASSERT_EQ(::chmod((map_.Weg() / "dicht").c_str(), 0700), 0);
+    EXPECT_EQ(map_.Inhoud("dicht/a.txt"), "x");
+}
+
+/// Elsewhere than on Windows a name may hold what separates the folders of a path of the suite.
+TEST_F(EchteSchijfTest, NamenDieBuitenDeMapWijzenStaanNietInDeLijst)
+{
+    namespace fs = std::filesystem;
+    for (const char* naam : {"goed", "..\\goed", "a\\b", "C:\\x"})
+        fs::create_directory(map_.Weg() / naam);
+    map_.Zet("lijst.csv", "");
+    map_.Zet("..\\lijst.csv", "");
+    EXPECT_EQ(Gesorteerd(schijf_.Mappen(map_.AlsPad())), Namen{"goed"});
+    EXPECT_EQ(Gesorteerd(schijf_.Mappen(map_.AlsPad())), Namen{"goed"});
+    EXPECT_EQ(schijf_.NeemOvergeslagen(In("goed")), std::vector<std::string>{});
+    EXPECT_EQ(schijf_.NeemOvergeslagen(map_.AlsPad()),
+              (std::vector<std::string>{"..\\goed", "C:\\x", "a\\b"}));
+    EXPECT_EQ(Gesorteerd(schijf_.Bestanden(map_.AlsPad())), Namen{"lijst.csv"});
+    EXPECT_EQ(schijf_.NeemOvergeslagen(map_.AlsPad()), std::vector<std::string>{"..\\lijst.csv"})
+        << "de mappen zijn al genoemd";
 }
 
 #endif
@@ -568,8 +537,6 @@ TEST(GeheugenSchijfTest, AlleenLezen)
     EXPECT_EQ(schijf.AlleBestanden(), (Namen{"C:\\a\\x.txt", "C:\\b\\y.txt"}));
     schijf.ZetAlleenLezen("C:\\b\\y.txt", false);
     EXPECT_TRUE(SchrijfHeel(schijf, "C:\\b\\y.txt", "nieuw"));
-    EXPECT_EQ(schijf.Inhoud("C:\\b\\y.txt"), "nieuw");
-    EXPECT_EQ(schijf.Inhoud("C:\\b\\z.txt"), std::nullopt);
 }
 
 TEST(GeheugenSchijfTest, StroomuitvalVerliestWatNietGesynctIs)
@@ -593,14 +560,6 @@ TEST(GeheugenSchijfTest, StroomuitvalVerliestWatNietGesynctIs)
     EXPECT_EQ(schijf.Inhoud("m\\a"), "nieuwer");
 }
 
-TEST(GeheugenSchijfTest, TijdInDeStempel)
-{
-    GeheugenSchijf schijf;
-    schijf.Zet("a", "x");
-    schijf.ZetTijd("A", 42);
-    EXPECT_EQ(schijf.NeemStempel("a")->tijd, 42);
-}
-
 TEST(FalendeSchijfTest, FaaltOpBestelling)
 {
     GeheugenSchijf binnen;
@@ -616,21 +575,12 @@ TEST(FalendeSchijfTest, FaaltOpBestelling)
     schijf.FaalVanaf(2);
     EXPECT_TRUE(schijf.Soort("a"));
     EXPECT_FALSE(schijf.Soort("a"));
+    EXPECT_FALSE(schijf.Mappen(""));
     EXPECT_FALSE(schijf.Verwijder("a"));
     EXPECT_EQ(binnen.Inhoud("a"), "x");
     schijf.FaalNiet();
     EXPECT_TRUE(schijf.Verwijder("a"));
     EXPECT_EQ(schijf.Aantal(), 1);
-}
-
-TEST(FalendeSchijfTest, WeigertOokDeMappen)
-{
-    GeheugenSchijf binnen;
-    binnen.ZetMap("C:\\Club\\Zitting");
-    FalendeSchijf schijf(binnen);
-    EXPECT_EQ(Gesorteerd(schijf.Mappen("C:\\Club")), Namen{"Zitting"});
-    schijf.FaalBij(1);
-    EXPECT_EQ(SoortVan(schijf.Mappen("C:\\Club")), Foutsoort::Geweigerd);
 }
 
 TEST(FalendeSchijfTest, TeltDeSchrijverMee)
@@ -660,44 +610,21 @@ TEST(Schijfnamen, EenKaleNaamBlijftInZijnMap)
     }
 }
 
-TEST(Schijflezen, EenBestandBovenDe64MBWordtGeweigerdVoorHetInHetGeheugenStaat)
+TEST_F(EchteSchijfTest, EenBestandBovenDe64MBWordtGeweigerdVoorHetInHetGeheugenStaat)
 {
-    const TijdelijkeMap map;
-    EchteSchijf schijf;
-    map.Zet("a", "x");
-    const Pad pad = Samen(map.AlsPad(), "a");
-    EXPECT_EQ(LeesBegrensd(schijf, pad).value(), "x");
-    std::filesystem::resize_file(map.Weg() / "a", std::uintmax_t{64} << 20U);
-    EXPECT_EQ(LeesBegrensd(schijf, pad)->size(), std::size_t{64} << 20U);
-    std::filesystem::resize_file(map.Weg() / "a", (std::uintmax_t{64} << 20U) + 1);
-    for (const Fout& fout : {LeesBegrensd(schijf, pad).error(), LeesAlsErIs(schijf, pad).error()}) {
+    map_.Zet("a", "x");
+    const auto maak = [&](std::uintmax_t grootte) {
+        std::filesystem::resize_file(map_.Weg() / "a", grootte);
+    };
+    EXPECT_EQ(LeesBegrensd(schijf_, In("a")).value(), "x");
+    maak(std::uintmax_t{64} << 20U);
+    EXPECT_EQ(LeesBegrensd(schijf_, In("a"))->size(), std::size_t{64} << 20U);
+    maak((std::uintmax_t{64} << 20U) + 1);
+    for (const Fout& fout :
+         {LeesBegrensd(schijf_, In("a")).error(), LeesAlsErIs(schijf_, In("a")).error()}) {
         EXPECT_EQ(fout.soort, Foutsoort::Beschadigd);
         EXPECT_EQ(fout.systeem, "het bestand is te groot: meer dan 64 MB");
-        EXPECT_EQ(fout.bestand, map.Toonpad("a"));
+        EXPECT_EQ(fout.bestand, map_.Toonpad("a"));
     }
-    EXPECT_EQ(LeesAlsErIs(schijf, Samen(map.AlsPad(), "b")).value(), std::nullopt);
+    EXPECT_EQ(LeesAlsErIs(schijf_, In("b")).value(), std::nullopt);
 }
-
-#ifndef _WIN32
-
-/// Elsewhere than on Windows a name may hold what separates the folders of a path of the suite.
-TEST(EchteSchijfTest, NamenDieBuitenDeMapWijzenStaanNietInDeLijst)
-{
-    const TijdelijkeMap map;
-    namespace fs = std::filesystem;
-    for (const char* naam : {"goed", "..\\goed", "a\\b", "C:\\x"})
-        fs::create_directory(map.Weg() / naam);
-    map.Zet("lijst.csv", "");
-    map.Zet("..\\lijst.csv", "");
-    EchteSchijf schijf;
-    EXPECT_EQ(Gesorteerd(schijf.Mappen(map.AlsPad())), Namen{"goed"});
-    EXPECT_EQ(Gesorteerd(schijf.Mappen(map.AlsPad())), Namen{"goed"});
-    EXPECT_EQ(schijf.NeemOvergeslagen(Samen(map.AlsPad(), "goed")), std::vector<std::string>{});
-    EXPECT_EQ(schijf.NeemOvergeslagen(map.AlsPad()),
-              (std::vector<std::string>{"..\\goed", "C:\\x", "a\\b"}));
-    EXPECT_EQ(Gesorteerd(schijf.Bestanden(map.AlsPad())), Namen{"lijst.csv"});
-    EXPECT_EQ(schijf.NeemOvergeslagen(map.AlsPad()), std::vector<std::string>{"..\\lijst.csv"})
-        << "de mappen zijn al genoemd";
-}
-
-#endif

@@ -6,56 +6,46 @@
 
 using namespace plexoran;
 
-TEST(Getal, GeheleGetallen)
+TEST(Getal, HetBeginVanDeTekst)
 {
-    EXPECT_EQ(Geheel32("0"), 0);
-    EXPECT_EQ(Geheel32("123"), 123);
-    EXPECT_EQ(Geheel32("-45"), -45);
-    EXPECT_EQ(Geheel32("+7"), 7);
-    EXPECT_EQ(Geheel32("007"), 7);
-    EXPECT_EQ(Geheel32("   12"), 12);
-}
-
-TEST(Getal, ZonderCijfersNul)
-{
-    EXPECT_EQ(Geheel32(""), 0);
-    EXPECT_EQ(Geheel32("   "), 0);
-    EXPECT_EQ(Geheel32("abc"), 0);
-    EXPECT_EQ(Geheel32("-"), 0);
-    EXPECT_EQ(Geheel32("."), 0);
-    EXPECT_EQ(Geheel32("--5"), 0);
-    EXPECT_EQ(Geheel32("x5"), 0);
-}
-
-TEST(Getal, WatVolgtTeltNiet)
-{
-    EXPECT_EQ(Geheel32("12abc"), 12);
-    EXPECT_EQ(Geheel32("12,5"), 12);
-    EXPECT_EQ(Geheel32("12-3"), 12);
-    EXPECT_EQ(Geheel32("3."), 3);
-    EXPECT_EQ(Geheel32("3.x9"), 3);
-    EXPECT_EQ(Geheel32("1.4.9"), 1);
-}
-
-TEST(Getal, BreukRondtAf)
-{
-    EXPECT_EQ(Geheel32("2.4"), 2);
-    EXPECT_EQ(Geheel32("2.6"), 3);
-    EXPECT_EQ(Geheel32("2.49999"), 2);
-    EXPECT_EQ(Geheel32("-2.6"), -3);
-    EXPECT_EQ(Geheel32(".7"), 1);
-}
-
-TEST(Getal, HalfNaarEven)
-{
-    EXPECT_EQ(Geheel32("0.5"), 0);
-    EXPECT_EQ(Geheel32("1.5"), 2);
-    EXPECT_EQ(Geheel32("2.5"), 2);
-    EXPECT_EQ(Geheel32("2.500"), 2);
-    EXPECT_EQ(Geheel32("2.501"), 3);
-    EXPECT_EQ(Geheel32("2.5x1"), 2);
-    EXPECT_EQ(Geheel32("-1.5"), -2);
-    EXPECT_EQ(Geheel32("-2.5"), -2);
+    const std::pair<const char*, int> gevallen[] = {{"0", 0},
+                                                    {"123", 123},
+                                                    {"-45", -45},
+                                                    {"+7", 7},
+                                                    {"007", 7},
+                                                    {"   12", 12},
+                                                    // without digits
+                                                    {"", 0},
+                                                    {"   ", 0},
+                                                    {"abc", 0},
+                                                    {"-", 0},
+                                                    {".", 0},
+                                                    {"--5", 0},
+                                                    {"x5", 0},
+                                                    // what follows does not count
+                                                    {"12abc", 12},
+                                                    {"12,5", 12},
+                                                    {"12-3", 12},
+                                                    {"3.", 3},
+                                                    {"3.x9", 3},
+                                                    {"1.4.9", 1},
+                                                    // a fraction rounds
+                                                    {"2.4", 2},
+                                                    {"2.6", 3},
+                                                    {"2.49999", 2},
+                                                    {"-2.6", -3},
+                                                    {".7", 1},
+                                                    // a half to the even number
+                                                    {"0.5", 0},
+                                                    {"1.5", 2},
+                                                    {"2.5", 2},
+                                                    {"2.500", 2},
+                                                    {"2.501", 3},
+                                                    {"2.5x1", 2},
+                                                    {"-1.5", -2},
+                                                    {"-2.5", -2}};
+    for (const auto& [tekst, getal] : gevallen)
+        EXPECT_EQ(Geheel32(tekst), getal) << tekst;
 }
 
 TEST(Getal, Grenzen)
@@ -70,10 +60,6 @@ TEST(Getal, Grenzen)
     EXPECT_EQ(Geheel32("2147483648"), std::nullopt);
     EXPECT_EQ(Geheel32("-2147483648"), std::numeric_limits<std::int32_t>::min());
     EXPECT_EQ(Geheel32("-2147483649"), std::nullopt);
-}
-
-TEST(Getal, HeelLangeCijferreeks)
-{
     EXPECT_EQ(Geheel32("99999999999999999999999999999999999999"), std::nullopt);
     EXPECT_EQ(Geheel32("00000000000000000000000000000000000012"), 12);
 }
@@ -85,17 +71,11 @@ TEST(Getal, AlsGetalVultAanMetNullen)
     EXPECT_EQ(AlsGetal("0", 6), "000000");
     EXPECT_EQ(AlsGetal("000", 2), "00");
     EXPECT_EQ(AlsGetal("7", 0), "7");
-}
-
-TEST(Getal, AlsGetalKortNietAf)
-{
+    // It is not cut short.
     EXPECT_EQ(AlsGetal("123456789", 6), "123456789");
     EXPECT_EQ(AlsGetal("0000000123456789", 6), "123456789");
     EXPECT_EQ(AlsGetal("99999999999999999999999999", 8), "99999999999999999999999999");
-}
-
-TEST(Getal, AlsGetalLeestOverSpatiesEromheen)
-{
+    // Spaces around it do not count.
     EXPECT_EQ(AlsGetal("  12 ", 4), "0012");
     EXPECT_EQ(AlsGetal("1 2", 4), std::nullopt);
 }

@@ -28,33 +28,17 @@ Lijst AlleItems(Tekstblik inhoud)
 
 } // namespace
 
-TEST(Regels, DrieSoortenRegeleinden)
+TEST(Regels, EindigenOpElkRegeleinde)
 {
     EXPECT_EQ(AlleRegels("een\r\ntwee\ndrie\rvier"), (Lijst{"een", "twee", "drie", "vier"}));
-}
-
-TEST(Regels, LaatsteRegeleindeGeeftGeenLegeRegel)
-{
-    EXPECT_EQ(AlleRegels("een\r\n"), (Lijst{"een"}));
-    EXPECT_EQ(AlleRegels("een\r"), (Lijst{"een"}));
-    EXPECT_EQ(AlleRegels("een"), (Lijst{"een"}));
-}
-
-TEST(Regels, LegeRegelsBlijven)
-{
+    // The last line end gives no empty line; others do.
+    for (const Tekst inhoud : {"een\r\n", "een\r", "een"})
+        EXPECT_EQ(AlleRegels(inhoud), Lijst{"een"});
     EXPECT_EQ(AlleRegels(""), Lijst{});
     EXPECT_EQ(AlleRegels("\r\n"), (Lijst{""}));
     EXPECT_EQ(AlleRegels("\n\r"), (Lijst{"", ""}));
     EXPECT_EQ(AlleRegels("a\n\nb\r\r\n"), (Lijst{"a", "", "b", ""}));
-}
-
-TEST(Regels, KommaSplitstGeenRegel)
-{
-    EXPECT_EQ(AlleRegels("a,b\nc"), (Lijst{"a,b", "c"}));
-}
-
-TEST(Regels, NulbyteIsEenGewoonTeken)
-{
+    EXPECT_EQ(AlleRegels("a,b\nc"), (Lijst{"a,b", "c"})) << "een komma is er geen";
     EXPECT_EQ(AlleRegels(Tekstblik("a\0b\nc", 5)), (Lijst{Tekst("a\0b", 3), "c"}));
 }
 
@@ -65,10 +49,6 @@ TEST(Regels, ItemsEindigenOpKommaOfRegeleinde)
     EXPECT_EQ(AlleItems(",a"), (Lijst{"", "a"}));
     EXPECT_EQ(AlleItems("a,\r\nb"), (Lijst{"a", "", "b"}));
     EXPECT_EQ(AlleItems(" a , b "), (Lijst{" a ", " b "}));
-}
-
-TEST(Regels, KommaAanHetEindVanHetBestand)
-{
     EXPECT_EQ(AlleItems("a,"), (Lijst{"a"}));
 }
 
