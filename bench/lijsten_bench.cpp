@@ -219,7 +219,7 @@ void SubgroepVerwijderen(benchmark::State& meting)
     Meet(
         meting, [&] { return proef.Opnieuw(); },
         [&](Register& spelers) {
-            spelers.tabel.Verwijder(RijenVanSubgroep(spelers.tabel, "Gr01-", Subgroep));
+            spelers.tabel.VerwijderRijen(RijenVanSubgroep(spelers.tabel, "Gr01-", Subgroep));
             Eis(meting, spelers.tabel.Rijen() == Grootte(meting) / 2);
         });
 }

@@ -151,7 +151,7 @@ void HelftVerwijderen(benchmark::State& meting)
     Meet(
         meting, [&] { return gelezen.tabel; },
         [&](Spelertabel& tabel) {
-            tabel.Verwijder(weg);
+            tabel.VerwijderRijen(weg);
             Eis(meting, tabel.Rijen() == Grootte(meting) / 2);
         });
 }

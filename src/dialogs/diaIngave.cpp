@@ -317,7 +317,7 @@ void diaIngave::MeldReparaties()
                  : u"Bij dummy-speler 'Partner...' worden spaties veranderd in Underscores"_s);
 }
 
-bool diaIngave::GeefTerug()
+bool diaIngave::IngaveControle()
 {
     for (int veld = EersteIngaveveld; veld <= AantalKolommen; ++veld)
         Verlaat(veld);
@@ -334,7 +334,7 @@ bool diaIngave::GeefTerug()
 /// The close box counts as OK; this asymmetry with Escape is intended.
 void diaIngave::closeEvent(QCloseEvent* gebeurtenis)
 {
-    gebeurtenis->setAccepted(GeefTerug());
+    gebeurtenis->setAccepted(IngaveControle());
     if (gebeurtenis->isAccepted())
         done(Accepted);
 }

@@ -42,7 +42,7 @@ class diaIngave : public QDialog {
     void KiesTerugkeerveld(int veld);
     void GaNaar(int veld);
     /// True when everything was handed back; false, which it told, when there is no surname.
-    [[nodiscard]] bool GeefTerug();
+    [[nodiscard]] bool IngaveControle();
 
     [[nodiscard]] Tekstvak* Vak(int veld) const { return txt1[veld - 1]; }
     [[nodiscard]] Tekstvak* Vak(Kolom veld) const { return Vak(static_cast<int>(veld)); }

@@ -83,7 +83,7 @@ void diaKopieer::KiesBron()
         waarden.Voeg(IsBlanco(waarde) ? "geen" : Tekst(waarde));
     }
     VulKeus(*cmbNBBgr, waarden.Waarden());
-    keus_->Vul(std::move(rijen), Kopieerregel);
+    keus_->VulKeuslijst(std::move(rijen), Kopieerregel);
     if (keus_->lstKeus->Aantal() > 0)
         keus_->lstKeus->Kies({0});
 

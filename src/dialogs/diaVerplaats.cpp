@@ -24,7 +24,7 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
     cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, Frame1);
     VulKeus(*cmbGrnamen, administratie.groepen.Toonteksten());
     keus_ = new Spelerkeus(tabel_, cmdOK, Frame1);
-    keus_->Vul(VerplaatsbareRijen(tabel_, administratie.mappen.DFIMPG), Verplaatsregel);
+    keus_->VulKeuslijst(VerplaatsbareRijen(tabel_, administratie.mappen.DFIMPG), Verplaatsregel);
 
     auto* binnen = new QVBoxLayout(Frame1);
     binnen->addWidget(keus_, 1);

@@ -48,7 +48,7 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this);
     // Also when what is shown is picked again.
     connect(cmbRVDgr, &QComboBox::activated, this, &frmVerwSubgroep::KiesGroep);
-    connect(cmdVerwijder, &QPushButton::clicked, this, &frmVerwSubgroep::Verwijder);
+    connect(cmdVerwijder, &QPushButton::clicked, this, &frmVerwSubgroep::VerwijderSubgroep);
     connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
 
     auto* vakken = new QGridLayout(frame1);
@@ -80,7 +80,7 @@ void frmVerwSubgroep::KiesGroep()
     cmdVerwijder->setEnabled(!subgroepen_.empty());
 }
 
-void frmVerwSubgroep::Verwijder()
+void frmVerwSubgroep::VerwijderSubgroep()
 {
     const Tekst subgroep = subgroepen_.at(static_cast<std::size_t>(cmbSubGr->currentIndex()));
     const QString vraag =
@@ -91,7 +91,7 @@ void frmVerwSubgroep::Verwijder()
     if (!Vraag(this, QMessageBox::Information, vraag, u"Verwijderen?"_s,
                NoemSpelers(tabel, weg, *this)))
         return;
-    tabel.Verwijder(weg);
+    tabel.VerwijderRijen(weg);
     ietsVerwijderd_ = ietsVerwijderd_ || !weg.empty();
     emit rijenVerwijderd();
     Meld(this, QMessageBox::Information,

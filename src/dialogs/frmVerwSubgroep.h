@@ -30,7 +30,7 @@ class frmVerwSubgroep : public QDialog {
 
   private:
     void KiesGroep();
-    void Verwijder();
+    void VerwijderSubgroep();
     [[nodiscard]] Tekst Code() const { return Groepscode(cmbRVDgr->currentIndex() + 1); }
 
     Administratie& administratie_;

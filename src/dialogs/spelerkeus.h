@@ -37,7 +37,7 @@ class Spelerkeus : public QWidget {
     }
 
     /// Fills the list anew; `regel` gives the line of a row.
-    void Vul(std::vector<int> rijen, Tekst (*regel)(const Spelertabel&, int rij))
+    void VulKeuslijst(std::vector<int> rijen, Tekst (*regel)(const Spelertabel&, int rij))
     {
         rijen_ = std::move(rijen);
         lstKeus->Vul(static_cast<int>(rijen_.size()),

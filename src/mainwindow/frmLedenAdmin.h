@@ -98,7 +98,7 @@ class frmLedenAdmin : public QMainWindow {
     void VoegToe();
     void Wijzig();
     bool ToonIngave(Ingave& ingave);
-    void VerwijderGekozen();
+    void VerwijderRij();
     void VerwijderVanTot();
     void Verwijder(int van, int tot, const QString& regels, const QString& klaar);
     void WijzigGroepsnamen();

@@ -108,7 +108,7 @@ void frmLedenAdmin::Bouw()
     lagen->addWidget(BouwBovenkant());
     picP0 = new Rooster(maten_, this);
     connect(picP0->Vlak(), &Roostervlak::wijzigGevraagd, this, &frmLedenAdmin::Wijzig);
-    connect(picP0->Vlak(), &Roostervlak::verwijderGevraagd, this, &frmLedenAdmin::VerwijderGekozen);
+    connect(picP0->Vlak(), &Roostervlak::verwijderGevraagd, this, &frmLedenAdmin::VerwijderRij);
     auto* roosterrij = new QHBoxLayout;
     roosterrij->setContentsMargins(maten_.Twips(RoosterLinks), 0, maten_.Twips(RoosterLinks), 0);
     roosterrij->addWidget(picP0);
@@ -203,7 +203,7 @@ QLayout* frmLedenAdmin::BouwSpelerkolom()
 QLayout* frmLedenAdmin::BouwVerwijderkolom()
 {
     cmdVerwijder = Opdracht(u"cmdVerwijder", u"Geselecteerde regel verwijderen...", u'G',
-                            &frmLedenAdmin::VerwijderGekozen);
+                            &frmLedenAdmin::VerwijderRij);
     cmdVerwijder->setToolTip(u"Selecteer een regel"_s);
     auto* vakken = MaakVakken(u"Frame2"_s, u"Verwijder regels van/tot"_s, this);
     QWidget* Frame2 = vakken->parentWidget();

@@ -78,7 +78,7 @@ void frmLedenAdmin::Wijzig()
     SlaOpEnToon();
 }
 
-void frmLedenAdmin::VerwijderGekozen()
+void frmLedenAdmin::VerwijderRij()
 {
     if (!IsRegelGekozen())
         return;
@@ -123,7 +123,7 @@ void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QSt
     if (!Vraag(this, QMessageBox::Information, waarschuwing.join(u"\r\n"_s), u"Verwijderen"_s,
                NoemSpelers(tabel, rijen, *this)))
         return;
-    tabel.Verwijder(rijen);
+    tabel.VerwijderRijen(rijen);
     SlaOpEnToon(klaar);
 }
 

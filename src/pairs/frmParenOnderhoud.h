@@ -42,6 +42,8 @@ class frmParenOnderhoud : public QDialog {
     void ToonAantalParen();
 
     void KeuzeIn(const Regellijst* lijst);
+    void ZetKnopOKE(bool aan);
+    void ZetKnopOntbindt(bool aan);
     void ZetKnoppen();
 
     void MaakPaar();

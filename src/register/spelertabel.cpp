@@ -85,7 +85,7 @@ Rijblikken Spelertabel::Blikken(int rij, std::span<const Celtekst> anders) const
     return velden;
 }
 
-void Spelertabel::Verwijder(std::span<const int> rijen)
+void Spelertabel::VerwijderRijen(std::span<const int> rijen)
 {
     std::vector<bool> weg(rijen_.size(), false);
     for (const int rij : rijen) {

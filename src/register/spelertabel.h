@@ -103,7 +103,7 @@ class Spelertabel {
 
     /// Takes these rows out and gives every row that stays its new position as `Nr`. Rows may come
     /// in any order and more than once.
-    void Verwijder(std::span<const int> rijen);
+    void VerwijderRijen(std::span<const int> rijen);
 
     [[nodiscard]] Rijvelden Velden(int rij) const;
 

@@ -115,7 +115,7 @@ TEST(Reservekopie, GewijzigdDoorEenAnder)
 {
     GeheugenSchijf schijf;
     Register spelers = Gelezen(schijf, vijfSpelers);
-    spelers.tabel.Verwijder(std::vector<int>{1});
+    spelers.tabel.VerwijderRijen(std::vector<int>{1});
     const Tekst ander = vijfSpelers + "6,100043,Gr01-,Fie,,Gans,,,,,,,,,,,,\r\n";
     schijf.Zet(spelerbestand, ander);
 

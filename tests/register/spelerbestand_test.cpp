@@ -313,7 +313,7 @@ TEST(SchrijfSpelers, TweeEnDrieVanVijfVerwijderd)
 {
     GeheugenSchijf schijf;
     Register spelers = Gelezen(schijf, vijfSpelers);
-    spelers.tabel.Verwijder(std::vector<int>{2, 3});
+    spelers.tabel.VerwijderRijen(std::vector<int>{2, 3});
     EXPECT_EQ(BewaarEnLees(schijf, spelers),
               "HKEY=100042\r\n"
               "1,100001,Gr01-,An,,Bos,,,,,,,V,,,,,\r\n"
@@ -326,7 +326,7 @@ TEST(SchrijfSpelers, LegeTabelLaatHetBestand)
     // Meant: a register is never written without players.
     GeheugenSchijf schijf;
     Register spelers = Gelezen(schijf, vijfSpelers);
-    spelers.tabel.Verwijder(std::vector<int>{1, 2, 3, 4, 5});
+    spelers.tabel.VerwijderRijen(std::vector<int>{1, 2, 3, 4, 5});
     const auto voor = schijf.NeemStempel(spelerbestand);
     EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
     EXPECT_EQ(schijf.Inhoud(spelerbestand), vijfSpelers);
@@ -451,7 +451,7 @@ TEST(VoegSpelerToe, SleutelKomtNietTerugNaVerwijderen)
     Register spelers = Gelezen(schijf, vijfSpelers);
     ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
     BewaarEnLees(schijf, spelers);
-    spelers.tabel.Verwijder(std::vector<int>{6});
+    spelers.tabel.VerwijderRijen(std::vector<int>{6});
     BewaarEnLees(schijf, spelers);
     ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
     EXPECT_EQ(spelers.tabel.Cel(6, Kolom::Key), "100044");

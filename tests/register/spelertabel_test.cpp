@@ -268,7 +268,7 @@ TEST(Spelertabel, EenLegeLaatsteCelZonderRegeleinde)
     EXPECT_EQ(tabel.Velden(2), Genummerd('x'));
     tabel.ZetCel(1, Kolom::NBBnr, "x");
     EXPECT_EQ(Cellen(tabel, 1), "100001,Gr01-,An,,Bos,,,,,,,,,,,A,x");
-    tabel.Verwijder(std::vector<int>{2});
+    tabel.VerwijderRijen(std::vector<int>{2});
     EXPECT_EQ(Cellen(tabel, 2), "100001,Gr01-,An,,Bos,,,,,,,,,,,BB,");
 }
 
@@ -284,7 +284,7 @@ TEST(Spelertabel, VeldenGeeftDeRij)
 TEST(Spelertabel, VerwijderTweeEnDrieVanVijf)
 {
     Spelertabel tabel = VijfRijen();
-    tabel.Verwijder(std::vector<int>{2, 3});
+    tabel.VerwijderRijen(std::vector<int>{2, 3});
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;3;");
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100001;100004;100042;");
     EXPECT_EQ(Cellen(tabel, 3), "100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,"
@@ -294,7 +294,7 @@ TEST(Spelertabel, VerwijderTweeEnDrieVanVijf)
 TEST(Spelertabel, VerwijderInElkeVolgordeEnDubbel)
 {
     Spelertabel tabel = VijfRijen();
-    tabel.Verwijder(std::vector<int>{5, 1, 5, 3});
+    tabel.VerwijderRijen(std::vector<int>{5, 1, 5, 3});
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;");
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100005;100004;");
 }
@@ -302,9 +302,9 @@ TEST(Spelertabel, VerwijderInElkeVolgordeEnDubbel)
 TEST(Spelertabel, VerwijderNietsOfAlles)
 {
     Spelertabel tabel = VijfRijen();
-    tabel.Verwijder(std::vector<int>{});
+    tabel.VerwijderRijen(std::vector<int>{});
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;3;4;5;");
-    tabel.Verwijder(std::vector<int>{1, 2, 3, 4, 5});
+    tabel.VerwijderRijen(std::vector<int>{1, 2, 3, 4, 5});
     EXPECT_EQ(tabel.Rijen(), 0);
     tabel.VoegToe(Genummerd('x'));
     EXPECT_EQ(tabel.Velden(1), Genummerd('x'));
@@ -315,7 +315,7 @@ TEST(Spelertabel, VerwijderLaatEenRijMetLeegNummerStaan)
     Spelertabel tabel = Tabel(",100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
                               "2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
                               ",100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
-    tabel.Verwijder(std::vector<int>{2});
+    tabel.VerwijderRijen(std::vector<int>{2});
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;");
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100001;100003;");
 }
@@ -330,7 +330,7 @@ TEST(Spelertabel, VerwijderMaaktOokPlaatsVoorEenLangerNummer)
         velden[1] = std::to_string(rij);
         tabel.VoegToe(velden);
     }
-    tabel.Verwijder(std::vector<int>{1, 60, 120});
+    tabel.VerwijderRijen(std::vector<int>{1, 60, 120});
     ASSERT_EQ(tabel.Rijen(), 117);
     for (int rij = 1; rij <= 117; ++rij) {
         Rijvelden moet = Genummerd('x');
@@ -345,7 +345,7 @@ TEST(Spelertabel, VerwijderNaWijzigen)
     Spelertabel tabel = VijfRijen();
     tabel.ZetCel(4, Kolom::Voornaam, "Dirkje");
     tabel.ZetCel(1, Kolom::Voornaam, "Anna");
-    tabel.Verwijder(std::vector<int>{3});
+    tabel.VerwijderRijen(std::vector<int>{3});
     EXPECT_EQ(Kolomtekst(tabel, Kolom::Voornaam), "Anna;Bea;Dirkje;Els;");
 }
 
@@ -382,7 +382,7 @@ TEST(Spelertabel, DoetAlsEenGewoneLijst)
             tabel.ZetCel(rij, static_cast<Kolom>(kolom + 1), tekst);
             lijst[plaats][kolom] = tekst;
         } else {
-            tabel.Verwijder(std::vector<int>{rij});
+            tabel.VerwijderRijen(std::vector<int>{rij});
             lijst.erase(lijst.begin() + rij - 1);
             for (std::size_t i = 0; i < lijst.size(); ++i)
                 lijst[i][0] = std::to_string(i + 1);
