@@ -45,20 +45,12 @@ class Samenvoeger {
         : spelers_(spelers), opdracht_(opdracht), voortgang_(voortgang),
           nummers_(std::move(nummers)), NBBnrIndex_(nummers_)
     {
-        const Spelertabel& tabel = spelers_.tabel;
-        eersteRij_.reserve(static_cast<std::size_t>(tabel.Rijen()));
-        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-            if (tabel.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
-                continue;
-            const Tekstblik nummer = tabel.Cel(rij, Kolom::NBBnr);
-            NBBnrIndex_.Voeg(nummer);
-            eersteRij_.try_emplace(nummer, rij);
-        }
+        BouwNBBnrIndex();
     }
 
-    /// What has a row of its own number is refreshed; the rest that has a number is left for
+    /// What has a row of its own number is to be refreshed; the rest that has a number is left for
     /// adding. False when the user stops it, here and below.
-    [[nodiscard]] bool KiesVerversingen()
+    [[nodiscard]] bool VerversBestaande()
     {
         for (std::size_t i = 0; i < nummers_.size(); ++i) {
             if (nummers_[i].empty()) {
@@ -76,7 +68,7 @@ class Samenvoeger {
     }
 
     /// Of what is left, all whose number does not occur yet; every one of them makes it occur.
-    [[nodiscard]] bool KiesNieuwe()
+    [[nodiscard]] bool VoegNieuweToe()
     {
         std::size_t over = 0;
         for (const std::size_t i : lstN2_) {
@@ -93,11 +85,10 @@ class Samenvoeger {
         return true;
     }
 
-    [[nodiscard]] bool ZijnErSleutels() const
-    {
-        return plexoran::ZijnErSleutels(spelers_, lstN2_.size());
-    }
+    /// How many keys that takes.
+    [[nodiscard]] std::size_t AantalNieuw() const { return lstN2_.size(); }
 
+    /// Changes the register as the steps above decided.
     void Voer()
     {
         for (const auto& [regel, rij] : verversingen_)
@@ -111,6 +102,20 @@ class Samenvoeger {
     Samenvoeging uitkomst;
 
   private:
+    /// The numbers of the import group, and where each stands first.
+    void BouwNBBnrIndex()
+    {
+        const Spelertabel& tabel = spelers_.tabel;
+        eersteRij_.reserve(static_cast<std::size_t>(tabel.Rijen()));
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+            if (tabel.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
+                continue;
+            const Tekstblik nummer = tabel.Cel(rij, Kolom::NBBnr);
+            NBBnrIndex_.Voeg(nummer);
+            eersteRij_.try_emplace(nummer, rij);
+        }
+    }
+
     [[nodiscard]] bool GaVerder()
     {
         return ++gedaan_ % MeldElke != 0 || !voortgang_ ||
@@ -166,9 +171,9 @@ VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht, const Voort
     if (ZijnTeGroot(nummers))
         return tl::unexpected(Samenvoegfout::TeGroot);
     Samenvoeger samenvoeger(spelers, opdracht, voortgang, std::move(nummers));
-    if (!samenvoeger.KiesVerversingen() || !samenvoeger.KiesNieuwe())
+    if (!samenvoeger.VerversBestaande() || !samenvoeger.VoegNieuweToe())
         return tl::unexpected(Samenvoegfout::Gestopt);
-    if (!samenvoeger.ZijnErSleutels())
+    if (!ZijnErSleutels(spelers, samenvoeger.AantalNieuw()))
         return tl::unexpected(Samenvoegfout::GeenSleutels);
     samenvoeger.Voer();
     return std::move(samenvoeger.uitkomst);

@@ -27,12 +27,38 @@ class Importproef : public Hoofdvensterproef {
         oud = suite.Spelers();
     }
 
-    /// Opens the import window; boxes and dialogs that come while it is open are announced after.
-    void Verwacht(Stappen stappen) { wachter.Bedien(std::move(stappen)); }
+    /// What is done in the import window, which is left afterwards if it is still open; boxes and
+    /// dialogs that come while it is open are announced after.
+    void Verwacht(Stappen stappen)
+    {
+        wachter.Bedien([stappen = std::move(stappen)](QDialog& dia) {
+            stappen(dia);
+            if (dia.isVisible())
+                Druk(dia, "cmdAnnuleren");
+        });
+    }
     void Importeer()
     {
         Klik(Knop("cmdHaalNBBnamen"));
         wachter.Klaar();
+    }
+    /// Without any box.
+    void InVenster(Stappen stappen)
+    {
+        Verwacht(std::move(stappen));
+        Importeer();
+    }
+    /// The database of the sample suite stands in "Rekenprogramma".
+    void StartMetDatabase(const char* toepassing = "NBB-Rekenprogramma",
+                          const char* map = "Rekenprogramma")
+    {
+        winkel.Zet(toepassing, "DataRoot", (suite.Weg() / map).string());
+        Herstart();
+    }
+    /// A warning of which only the beginning is looked at.
+    void VerwachtBegin(const QString& begin)
+    {
+        wachter.Verwacht({.tekst = begin, .icoon = QMessageBox::Warning, .alleenBegin = true});
     }
     void VerwachtVraag(const QString& subgroep, int spelers, const QString& antwoord = u"OK"_s)
     {

@@ -223,10 +223,13 @@ TEST_F(BepaalXMLsoortTest, HoudtAlleenDeBestandenVanDeGekozenSoort)
     Zet("v16.xml", utf16(vier));
     Zet("d16.xml", utf16(drie));
     Zet("kapot.xml", "<ReportableMember>\xFF");
-    const Namen namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",  "hoofd.xml",
-                         "a.xml", "v16.xml", "c.xml",   "leeg.xml",   "kapot.xml"};
+    // The mark of NBBR-4 is the opening tag: without one its members are read by position, and so
+    // have no number.
+    Zet("leegid.xml", Xml("<ReportableMember><LeagueId/></ReportableMember>"));
+    const Namen namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",   "hoofd.xml",
+                         "a.xml", "v16.xml", "c.xml",   "leeg.xml",   "kapot.xml", "leegid.xml"};
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb3),
-              (Namen{"d.xml", "d16.xml", "c.xml", "kapot.xml"}));
+              (Namen{"d.xml", "d16.xml", "c.xml", "kapot.xml", "leegid.xml"}));
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb4),
               (Namen{"v.xml", "a.xml", "v16.xml"}));
 }

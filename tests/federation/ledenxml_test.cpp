@@ -90,6 +90,15 @@ TEST(Nbb4Xml, NamenMoetenToOpDeLetterKloppenEnHetLaatsteVanTweeTelt)
               "1;;;;;;b;;p;;e;;;;;;");
 }
 
+/// Such a member is named in the import, and those around it come in.
+TEST(Nbb4Xml, EenLeegNummerIsLeegHoeHetOokGeschrevenIs)
+{
+    for (const char* nummer :
+         {"<LeagueId></LeagueId>", "<LeagueId> </LeagueId>", "<LeagueId/>", ""})
+        EXPECT_EQ(Lid4(nummer + Tekst("<Voornaam>Eva</Voornaam>")), ";;Eva;;;;;;;;;;;;;;")
+            << nummer;
+}
+
 TEST(Nbb4Xml, HetTweedeTelefoonnummerGaatVoorWaarHetOokStaat)
 {
     for (const auto& [elementen, nummer] :
