@@ -10,14 +10,13 @@
 #include <numeric>
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/scherm/schildervlak.h"
+#include "platform/tekst/tekenvlak.h"
 #include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {
 
 constexpr int Marge = 4; // pixels around a line
-constexpr double MicrometerPerMm = 1000.0;
 
 /// The lines of a list, asked for when they are painted.
 class Regelmodel : public QAbstractListModel {
@@ -137,11 +136,16 @@ void Regellijst::Vul(int aantal, std::function<Tekst(int)> regel, Plek plek)
 /// In pixels, of all lines.
 int Regellijst::Breedste() const
 {
-    const Tekstmeter meter = Roostermeter(font().pixelSize(), 1);
+    constexpr int fijn = 1000; // parts of a pixel in which is counted
+    Tekstmeter meter;
+    const QFontMetricsF maten(font());
+    for (std::size_t teken = 0; teken < meter.opschuiving.size(); ++teken)
+        meter.opschuiving[teken] =
+            qRound(fijn * maten.horizontalAdvance(NaarQString(Tekst(1, static_cast<char>(teken)))));
     std::int64_t breedste = 0;
     for (int plaats = 0; plaats < Aantal(); ++plaats)
         breedste = std::max(breedste, meter.Breedte(regel_(plaats)));
-    return 2 * Marge + static_cast<int>(static_cast<double>(breedste) / MicrometerPerMm);
+    return 2 * Marge + static_cast<int>(breedste / fijn) + 1;
 }
 
 int Regellijst::Gekozen() const

@@ -1,6 +1,7 @@
 #include "platform/scherm/regellijst.h"
 
 #include <QAccessible>
+#include <QFontDatabase>
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -430,4 +431,16 @@ TEST_F(Eenkeuze, EenLangeRegelSchuiftOpzij)
     EXPECT_GT(lijst.horizontalScrollBar()->maximum(), 0);
     Vul({"100001 Bos"});
     EXPECT_EQ(0, lijst.horizontalScrollBar()->maximum());
+}
+
+/// In a font whose letters are all as wide too, where an "i" takes more than in that of the grid.
+TEST_F(Eenkeuze, DeBreedteIsDieVanDeEigenLetter)
+{
+    QFont vast = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    vast.setPixelSize(12);
+    lijst.setFont(vast);
+    const Tekst regel(60, 'i');
+    Vul({regel});
+    const int breed = lijst.fontMetrics().horizontalAdvance(NaarQString(regel));
+    EXPECT_GE(lijst.horizontalScrollBar()->maximum(), breed - lijst.viewport()->width());
 }
