@@ -122,6 +122,7 @@ class frmLedenAdmin : public QMainWindow {
     Importgeheugen importgeheugen_;
     std::function<bool()> eersteExemplaar_;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
+    bool netGetoond_ = false;             ///< by the pick that is under way
 
     Rooster* picP0;
     QLabel* Label3;

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QListView>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -140,9 +141,16 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     cmbGr = MaakKeus(u"cmbGr"_s, Label1, boven);
     cmbGr->setAccessibleName(u"Spelergroep"_s);
     cmbGr->setMaxVisibleItems(25);
-    connect(cmbGr, &QComboBox::currentIndexChanged, this, &frmLedenAdmin::ToonGroep);
+    connect(cmbGr, &QComboBox::currentIndexChanged, this, [this] {
+        ToonGroep();
+        netGetoond_ = true; // until the pick that changed it is over
+        QTimer::singleShot(0, this, [this] { netGetoond_ = false; });
+    });
     // Picking the group that is shown displays it anew.
-    connect(cmbGr, &QComboBox::activated, this, &frmLedenAdmin::ToonGroep);
+    connect(cmbGr, &QComboBox::activated, this, [this] {
+        if (!netGetoond_)
+            ToonGroep();
+    });
     auto* chkKolBr = MaakVink(u"chkKolBr"_s, u"Kolombreedte volgens header"_s, u'd', boven);
     chkKolBr->setChecked(true);
     connect(chkKolBr, &QCheckBox::toggled, this, [this](bool aan) {

@@ -37,13 +37,9 @@ QFrame* MaakLijn(const QString& naam, QWidget* ouder)
 
 Rooster::Rooster(const Maten& maten, QWidget* ouder)
     : Schuifkader(u"picP0"_s, maten, ouder), pixelsPerMm_(maten.PixelsPerMm()),
-      P1(new Roostervlak(inhoud_, pixelsPerMm_, *this, this)), P9(new QWidget(this)),
-      P2(new QWidget(P9))
+      P1(new Roostervlak(maten, *this, this)), P9(new QWidget(this)), P2(new QWidget(P9))
 {
-    const QFont letter = Roosterletter(maten.Letter(Letterpunten).pixelSize());
-    inhoud_.meter = Roostermeter(letter.pixelSize(), pixelsPerMm_);
-    P1->setFont(letter);
-    BouwHeader(letter);
+    BouwHeader();
     const int naast = maten.Twips(VrijNaastVlakTwips) - 2 * frameWidth();
     Bevat(P1, naast / 2, naast - naast / 2);
     setMinimumHeight(qRound(OnderkantVan(KleinsteAantalRegels) * pixelsPerMm_) +
@@ -51,7 +47,7 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
     connect(&Liggend(), &QScrollBar::valueChanged, P2, [this](int links) { P2->move(-links, 0); });
 }
 
-void Rooster::BouwHeader(const QFont& letter)
+void Rooster::BouwHeader()
 {
     Noem(P9, u"P9"_s);
     Noem(P2, u"P2"_s);
@@ -59,38 +55,22 @@ void Rooster::BouwHeader(const QFont& letter)
     for (std::size_t i = 0; i < cmd.size(); ++i) {
         cmd[i] = new Kortknop(P2);
         Noem(cmd[i], u"cmd_%1"_s.arg(i + 1));
-        cmd[i]->setFont(letter);
+        cmd[i]->setFont(P1->font());
         cmd[i]->setFocusPolicy(Qt::NoFocus);
         connect(cmd[i], &QPushButton::clicked, P1, &Roostervlak::VerbergLijnen);
     }
 }
 
-void Rooster::Toon(const Spelertabel& tabel, Weergave weergave,
-                   const std::array<Tekstblik, AantalKolommen>& kolomnamen)
+void Rooster::Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& kolomnamen)
 {
-    inhoud_.tabel = &tabel;
-    inhoud_.weergave = std::move(weergave);
-    inhoud_.kolomnamen = kolomnamen;
-    std::transform(kolomnamen.begin(), kolomnamen.end(), headermaten_.begin(),
-                   [this](Tekstblik naam) { return inhoud_.meter.Breedte(naam); });
-    P1->KiesRegel(0);
-    const bool eersteKeer = inhoud_.randen.back() == 0;
-    if (P1->Regels() > 0 || eersteKeer) { // an empty group leaves the widths alone
-        celmaten_ = MeetCellen(tabel, inhoud_.weergave, inhoud_.meter);
-        for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
-            if (kolomnamen[i].empty())
-                celmaten_[i] = 0;
-        }
-        inhoud_.randen = MaakKolommen(celmaten_, headermaten_, breedteregel_);
-    }
+    P1->Toon(tabel, std::move(weergave), kolomnamen);
     PlaatsKolommen();
     P1->MeldAndereRegels();
 }
 
 void Rooster::ZetBreedteregel(Breedteregel regel)
 {
-    breedteregel_ = regel;
-    inhoud_.randen = MaakKolommen(celmaten_, headermaten_, breedteregel_);
+    P1->ZetBreedteregel(regel);
     PlaatsKolommen();
 }
 
@@ -98,9 +78,9 @@ void Rooster::PlaatsKolommen()
 {
     const int hoogte = P9->height();
     for (std::size_t i = 0; i < cmd.size(); ++i) {
-        const QString naam = NaarQString(inhoud_.kolomnamen[i]);
-        const int links = qRound(inhoud_.randen[i] * pixelsPerMm_);
-        const int rechts = qRound(inhoud_.randen[i + 1] * pixelsPerMm_);
+        const QString naam = P1->Celtekst(0, static_cast<int>(i));
+        const int links = qRound(P1->Randen()[i] * pixelsPerMm_);
+        const int rechts = qRound(P1->Randen()[i + 1] * pixelsPerMm_);
         cmd[i]->setText(naam);
         cmd[i]->setToolTip(naam);
         cmd[i]->setAccessibleName(naam.isEmpty() ? u"Kolom %1"_s.arg(i + 1) : naam);
@@ -129,20 +109,52 @@ void Rooster::StelSchuifbalkenIn()
          qRound(rooster::Regelhoogte * pixelsPerMm_));
 }
 
-Roostervlak::Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, const Schuifkader& kader,
-                         QWidget* ouder)
-    : Tabelvlak(kader, u"Spelers van de groep"_s, ouder), inhoud_(inhoud),
-      pixelsPerMm_(pixelsPerMm), Line1(MaakLijn(u"Line1"_s, this)),
-      Line2(MaakLijn(u"Line2"_s, this))
+Roostervlak::Roostervlak(const Maten& maten, const Schuifkader& kader, QWidget* ouder)
+    : Tabelvlak(kader, u"Spelers van de groep"_s, ouder), pixelsPerMm_(maten.PixelsPerMm()),
+      Line1(MaakLijn(u"Line1"_s, this)), Line2(MaakLijn(u"Line2"_s, this))
 {
+    setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));
+    meter_ = Roostermeter(font().pixelSize(), pixelsPerMm_);
     for (const QScrollBar* balk : {&kader.Staand(), &kader.Liggend()})
         connect(balk, &QScrollBar::valueChanged, this, &Roostervlak::PlaatsLijnen);
+}
+
+void Roostervlak::Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& kolomnamen)
+{
+    tabel_ = &tabel;
+    weergave_ = std::move(weergave);
+    kolomnamen_ = kolomnamen;
+    KiesRegel(0);
+    std::transform(kolomnamen.begin(), kolomnamen.end(), headermaten_.begin(),
+                   [this](Tekstblik naam) { return meter_.Breedte(naam); });
+    if (Regels() == 0 && randen_.back() > 0)
+        return; // an empty group leaves the widths alone
+    celmaten_ = MeetCellen(tabel, weergave_, meter_);
+    for (std::size_t i = 0; i < kolomnamen.size(); ++i) {
+        if (kolomnamen[i].empty())
+            celmaten_[i] = 0;
+    }
+    ZetBreedteregel(breedteregel_);
+}
+
+void Roostervlak::ZetBreedteregel(Breedteregel regel)
+{
+    breedteregel_ = regel;
+    randen_ = MaakKolommen(celmaten_, headermaten_, regel);
+}
+
+Tekstblik Roostervlak::Cel(int regel, std::size_t kolom) const
+{
+    const int rij = weergave_[static_cast<std::size_t>(regel - 1)];
+    return rij > tabel_->Rijen() || kolomnamen_[kolom].empty()
+               ? Tekstblik()
+               : tabel_->Cel(rij, static_cast<Kolom>(kolom + 1));
 }
 
 QString Roostervlak::Celtekst(int regel, int kolom) const
 {
     const auto plaats = static_cast<std::size_t>(kolom);
-    return NaarQString(regel == 0 ? inhoud_.kolomnamen[plaats] : inhoud_.Cel(regel, plaats));
+    return NaarQString(regel == 0 ? kolomnamen_[plaats] : Cel(regel, plaats));
 }
 
 void Roostervlak::KiesRegel(int regel)
@@ -160,7 +172,7 @@ void Roostervlak::VerbergLijnen()
 
 QSize Roostervlak::Vlakmaat() const
 {
-    return {static_cast<int>(std::ceil(inhoud_.randen.back() * pixelsPerMm_)) + 1,
+    return {static_cast<int>(std::ceil(randen_.back() * pixelsPerMm_)) + 1,
             static_cast<int>(std::ceil(Vlakhoogte(Regels()) * pixelsPerMm_)) + 1};
 }
 
@@ -182,15 +194,14 @@ void Roostervlak::TekenRasters(QPainter& schilder, int eerste, int laatste) cons
 {
     const double boven = Y(BovenkantVan(eerste));
     const double onder = Y(OnderkantVan(laatste));
-    const Kolomranden& randen = inhoud_.randen;
-    schilder.fillRect(QRectF(QPointF(X(0), boven), QPointF(X(randen[KolommenInBand]), onder)),
+    schilder.fillRect(QRectF(QPointF(X(0), boven), QPointF(X(randen_[KolommenInBand]), onder)),
                       bandkleur);
     schilder.setPen(lijnkleur);
-    for (const double rand : randen)
+    for (const double rand : randen_)
         schilder.drawLine(QLineF(qRound(X(rand)), boven, qRound(X(rand)), onder));
     for (int regel = eerste; regel <= laatste + 1; ++regel) {
         const int y = qRound(Y(BovenkantVan(regel)));
-        schilder.drawLine(QLineF(X(0), y, X(randen.back()), y));
+        schilder.drawLine(QLineF(X(0), y, X(randen_.back()), y));
     }
 }
 
@@ -200,16 +211,16 @@ void Roostervlak::TekenTeksten(QPainter& schilder, int regel, double links, doub
     const double midden = (Y(BovenkantVan(regel)) + Y(OnderkantVan(regel))) / 2;
     const double basislijn = midden + (letter.ascent() - letter.descent()) / 2;
     for (std::size_t i = 0; i < AantalKolommen; ++i) {
-        const double begin = inhoud_.randen[i];
-        const double eind = inhoud_.randen[i + 1];
+        const double begin = randen_[i];
+        const double eind = randen_[i + 1];
         if (X(eind) < links || X(begin) > rechts)
             continue;
-        const Tekstblik cel = inhoud_.Cel(regel, i);
+        const Tekstblik cel = Cel(regel, i);
         // The band is light in dark themes too.
         schilder.setPen(i < KolommenInBand ? Qt::black : palette().color(QPalette::Text));
         if (!cel.empty())
             schilder.drawText(QPointF(X(begin + rooster::Celmarge), qRound(basislijn)),
-                              NaarQString(PasTekst(cel, eind - begin, inhoud_.meter)));
+                              NaarQString(PasTekst(cel, eind - begin, meter_)));
     }
 }
 
@@ -234,7 +245,7 @@ void Roostervlak::PlaatsLijnen()
 {
     const bool tonen = lijnenZichtbaar_ && Regel() > 0;
     if (tonen) {
-        const int breedte = qRound(inhoud_.randen.back() * pixelsPerMm_);
+        const int breedte = qRound(randen_.back() * pixelsPerMm_);
         const auto plaats = [&](QFrame* lijn, double y) {
             lijn->setGeometry(qRound(X(0)), qRound(Y(y)) - Lijndikte / 2, breedte, Lijndikte);
         };

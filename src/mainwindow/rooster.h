@@ -5,7 +5,6 @@
 #include <QFrame>
 #include <QPushButton>
 
-#include "mainwindow/roostermaten.h"
 #include "mainwindow/weergave.h"
 #include "platform/scherm/tabelvlak.h"
 
@@ -13,42 +12,28 @@ namespace plexoran {
 
 class Maten;
 
-/// What the grid shows. `tabel` is borrowed; a line whose row it no longer has is drawn empty.
-struct Roosterinhoud {
-    const Spelertabel* tabel = nullptr;
-    Weergave weergave;
-    std::array<Tekstblik, AantalKolommen> kolomnamen = Kolomnamen;
-    Kolomranden randen{};
-    Tekstmeter meter;
-
-    /// The text of a cell as the grid shows it, by its line: a column without a name shows nothing.
-    [[nodiscard]] Tekstblik Cel(int regel, std::size_t kolom) const
-    {
-        const int rij = weergave[static_cast<std::size_t>(regel - 1)];
-        return rij > tabel->Rijen() || kolomnamen[kolom].empty()
-                   ? Tekstblik()
-                   : tabel->Cel(rij, static_cast<Kolom>(kolom + 1));
-    }
-};
-
 /// Paints the lines and columns that are exposed, shows the selected line between two guide lines,
 /// and turns mouse and keys into line numbers.
 class Roostervlak : public Tabelvlak {
     Q_OBJECT
 
   public:
-    Roostervlak(const Roosterinhoud& inhoud, double pixelsPerMm, const Schuifkader& kader,
-                QWidget* ouder);
+    Roostervlak(const Maten& maten, const Schuifkader& kader, QWidget* ouder);
 
-    [[nodiscard]] int Regels() const override { return static_cast<int>(inhoud_.weergave.size()); }
+    /// Shows these rows of the table, which must outlive their display; clears the selection.
+    void Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& kolomnamen);
+    void ZetBreedteregel(Breedteregel regel);
+
+    [[nodiscard]] int Regels() const override { return static_cast<int>(weergave_.size()); }
     /// The table row on each line.
-    [[nodiscard]] const Weergave& Rijen() const { return inhoud_.weergave; }
+    [[nodiscard]] const Weergave& Rijen() const { return weergave_; }
+    [[nodiscard]] const Kolomranden& Randen() const { return randen_; }
     [[nodiscard]] int Kolommen() const override { return AantalKolommen; }
     [[nodiscard]] QString Celtekst(int regel, int kolom) const override;
     [[nodiscard]] double Boven(int regel) const override { return Y(BovenkantVan(regel)); }
     [[nodiscard]] double Links(int kolom) const override
     {
-        return X(inhoud_.randen[static_cast<std::size_t>(kolom)]);
+        return X(randen_[static_cast<std::size_t>(kolom)]);
     }
     [[nodiscard]] double Koponder() const override { return rooster::Bovenmarge * pixelsPerMm_; }
     void KiesRegel(int regel) override;
@@ -75,11 +60,21 @@ class Roostervlak : public Tabelvlak {
         return mm * pixelsPerMm_ - Kader().Liggend().value();
     }
     [[nodiscard]] double Y(double mm) const { return mm * pixelsPerMm_ - Kader().Staand().value(); }
+    /// The text of a cell as the grid shows it: a row that the table no longer has and a column
+    /// without a name show nothing.
+    [[nodiscard]] Tekstblik Cel(int regel, std::size_t kolom) const;
     void TekenRasters(QPainter& schilder, int eerste, int laatste) const;
     void TekenTeksten(QPainter& schilder, int regel, double links, double rechts) const;
 
-    const Roosterinhoud& inhoud_;
     double pixelsPerMm_;
+    Tekstmeter meter_;
+    const Spelertabel* tabel_ = nullptr;
+    Weergave weergave_;
+    Namenrij kolomnamen_ = Kolomnamen;
+    Breedteregel breedteregel_ = Breedteregel::VolgensHeader;
+    Kolommaten celmaten_{};
+    Kolommaten headermaten_{};
+    Kolomranden randen_{};
     bool lijnenZichtbaar_ = false;
     QFrame* Line1;
     QFrame* Line2;
@@ -91,10 +86,8 @@ class Rooster : public Schuifkader {
   public:
     Rooster(const Maten& maten, QWidget* ouder);
 
-    /// Shows these rows of the table, which must outlive their display; clears the selection. The
-    /// scroll bars keep their place as far as the rows reach.
-    void Toon(const Spelertabel& tabel, Weergave weergave,
-              const std::array<Tekstblik, AantalKolommen>& kolomnamen);
+    /// The scroll bars keep their place as far as the rows reach.
+    void Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& kolomnamen);
     void ZetBreedteregel(Breedteregel regel);
     void NaarBoven() { Staand().setValue(0); }
     /// Has the keys of the grid.
@@ -104,15 +97,11 @@ class Rooster : public Schuifkader {
     void resizeEvent(QResizeEvent* gebeurtenis) override;
 
   private:
-    void BouwHeader(const QFont& letter);
+    void BouwHeader();
     void PlaatsKolommen();
     void StelSchuifbalkenIn();
 
     double pixelsPerMm_;
-    Breedteregel breedteregel_ = Breedteregel::VolgensHeader;
-    Kolommaten celmaten_{};
-    Kolommaten headermaten_{};
-    Roosterinhoud inhoud_;
     Roostervlak* P1;
     QWidget* P9; ///< clips the header
     QWidget* P2; ///< carries the header buttons

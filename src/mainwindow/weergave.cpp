@@ -1,6 +1,14 @@
 #include "mainwindow/weergave.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace plexoran {
+namespace {
+
+constexpr double PerMillimeter = 1000.0; // micrometres
+
+} // namespace
 
 Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode)
 {
@@ -30,6 +38,58 @@ Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)
     else
         beeld.cmdHaalNBBnamen = beeld.importgroep ? Zichtbaarheid::Tonen : Zichtbaarheid::Verbergen;
     return beeld;
+}
+
+double BovenkantVan(int regel)
+{
+    return (regel - 1) * rooster::Regelhoogte + rooster::Bovenmarge;
+}
+
+double OnderkantVan(int regel)
+{
+    return regel * rooster::Regelhoogte + rooster::Bovenmarge;
+}
+
+double Vlakhoogte(int regels)
+{
+    return OnderkantVan(regels);
+}
+
+Kolommaten MeetCellen(const Spelertabel& tabel, std::span<const int> rijen, const Tekstmeter& meter)
+{
+    const std::int64_t breedste =
+        *std::max_element(meter.opschuiving.begin(), meter.opschuiving.end());
+    Kolommaten maten{};
+    for (const int rij : rijen) {
+        for (std::size_t i = 0; i < maten.size(); ++i) {
+            const Tekstblik cel = tabel.Cel(rij, static_cast<Kolom>(i + 1));
+            // A text that could not be wider than the widest so far, even of the widest characters,
+            // need not be looked at: in a large group that is most of them.
+            if (static_cast<std::int64_t>(cel.size()) * breedste > maten[i])
+                maten[i] = std::max(maten[i], meter.Breedte(cel));
+        }
+    }
+    return maten;
+}
+
+Kolomranden MaakKolommen(const Kolommaten& cellen, const Kolommaten& headers, Breedteregel regel)
+{
+    const bool volgensHeader = regel == Breedteregel::VolgensHeader;
+    const Kolommaten& maten = volgensHeader ? headers : cellen;
+    const double marge = (volgensHeader ? 2 : 4) * rooster::Celmarge;
+    Kolomranden randen{};
+    for (std::size_t i = 0; i < maten.size(); ++i) {
+        const double breedte = static_cast<double>(maten[i]) / PerMillimeter + marge;
+        randen[i + 1] = randen[i] + std::max(breedte, rooster::SmalsteKolom);
+    }
+    return randen;
+}
+
+Tekst PasTekst(Tekstblik tekst, double kolombreedte, const Tekstmeter& meter)
+{
+    const double ruimte = kolombreedte - 2 * rooster::Celmarge - rooster::Speling;
+    const auto beschikbaar = static_cast<std::int64_t>(std::floor(ruimte * PerMillimeter));
+    return Ingekort(tekst, beschikbaar, [&](Tekstblik deel) { return meter.Breedte(deel); });
 }
 
 } // namespace plexoran

@@ -448,6 +448,24 @@ TEST_F(Opstartproef, HetKoppelenIsNaDeStartVerborgenOokInDeImportgroep)
     EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
 }
 
+TEST_F(Opstartproef, EenGroepKiezenToontHaarEenKeer)
+{
+    ASSERT_NO_FATAL_FAILURE(Start());
+    // A display reads the settings before it writes them.
+    const auto getoond = [this](const std::function<void()>& kies) {
+        schijf.log.clear();
+        kies();
+        return std::count(schijf.log.begin(), schijf.log.end(), "lees C:\\RVD\\Admin\\Plexo.ini");
+    };
+    QComboBox* cmbGr = Keus("cmbGr");
+    EXPECT_EQ(1, getoond([&] { KiesUit(cmbGr, 3); }));
+    EXPECT_EQ(1, getoond([&] { KiesUit(cmbGr, 3); })) << "nog eens";
+    EXPECT_EQ(1, getoond([&] { QTest::keyClick(cmbGr, Qt::Key_Down); }));
+    QApplication::processEvents();
+    EXPECT_EQ(1, getoond([&] { KiesUit(cmbGr, 4); }));
+    EXPECT_EQ(5, GetoondeGroep());
+}
+
 TEST_F(Opstartproef, DeVasteTekstenEnVinkjes)
 {
     ASSERT_EQ(std::nullopt, Laad());
