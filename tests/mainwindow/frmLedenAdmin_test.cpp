@@ -1,11 +1,17 @@
 // The groups and the commands of the main window on the sample suite.
+#include <QRadioButton>
+
 #include <map>
 
 #ifndef _WIN32
 #include <sys/stat.h>
 #endif
 
+#include "hulp/pdfteksten.h"
+#include "hulp/printdialoog.h"
 #include "mainwindow/vensterproef.h"
+#include "platform/scherm/regellijst.h"
+#include "platform/schijf/klok.h"
 
 using namespace plexoran;
 
@@ -395,6 +401,104 @@ TEST_F(HoofdvensterTest, HetAnnulerenVanDeGroepsnamenLaatAllesStaan)
     EXPECT_EQ("", administratie.groepen.Naam(11));
 }
 
+// ---- The other windows -------------------------------------------------------------------------
+
+/// With Enter on its button. Closed without an answer it changes, saves and tells nothing.
+TEST_F(HoofdvensterTest, ElkeOpdrachtOpentZijnVenster)
+{
+    KiesGroep(5); // shows every button
+    schijf.FaalNiet();
+    for (const auto& [knop, naam] :
+         {std::pair("cmdVerplaats", "diaVerplaats"), std::pair("cmdKopieer", "diaKopieer"),
+          std::pair("cmdVerwGroep", "frmVerwSubgroep"), std::pair("cmdSortlijst1", "diaSortlijst"),
+          std::pair("cmdKoppel", "frmKoppelNBBnr"), std::pair("cmdMaakGrNamen", "diaGrNamen"),
+          std::pair("cmdPrint", "frmPrintIni"), std::pair("cmdToelichting", "frmToelichting")}) {
+        for (const bool sluitvak : {false, true}) {
+            std::string geopend;
+            wachter.Bedien([&](QDialog& dialoog) {
+                geopend = dialoog.objectName().toStdString();
+                if (sluitvak)
+                    dialoog.close();
+                else
+                    QTest::keyClick(&dialoog, Qt::Key_Escape);
+            });
+            Knop(knop)->setFocus();
+            QTest::keyClick(Knop(knop), Qt::Key_Return);
+            wachter.Klaar();
+            EXPECT_EQ(naam, geopend);
+        }
+    }
+    EXPECT_EQ(0, schijf.Aantal());
+    EXPECT_FALSE(venster->isWindowModified());
+}
+
+TEST_F(HoofdvensterTest, DeGetoondeGroepPrinten)
+{
+    const std::string spelers = suite.Spelers();
+    const auto bestand = suite.Weg() / "lijst.pdf";
+    const Tekst vandaag = Dagtekening();
+    wachter.Bedien([](QDialog& keuze) {
+        auto* kolommen = Vind<Regellijst>(keuze, "lstKeus");
+        EXPECT_EQ("(kolom 18)", kolommen->Regel(14));
+        Druk(keuze, "cmdSelNone");
+        kolommen->Kies({2, 3});
+        auto* subgroepen = Vind<Regellijst>(keuze, "lstNBBgr");
+        for (const int plaats : {2, 0})
+            subgroepen->Kies({plaats});
+        Druk(keuze, "cmdOK");
+        Druk(keuze, "cmdAnnuleren");
+    });
+    wachter.Bedien([](QDialog& blad) {
+        Druk(blad, "cmdPrinten");
+        Druk(blad, "cmdAnnuleren");
+    });
+    VerwachtPdf(wachter, bestand, [](QDialog& dialoog) {
+        Vind<QRadioButton>(dialoog, "printAll")->setChecked(true);
+    });
+    Opdracht("cmdPrint");
+    const auto bladen = LeesPdf(bestand);
+    ASSERT_FALSE(bladen.empty());
+    const std::string tekst = bladen[0].Tekst();
+    for (const std::string& deel :
+         {"Spelerinformatie Groep: " + Keus("cmbGr")->currentText().toStdString(),
+          std::string("Subgroep(en): A-LIJN + C-LIJN RegNr Achternaam Telef"),
+          std::string("Wolthuizen"), std::string("Eikelenboom"), std::string("Ravendeck.exe")})
+        EXPECT_NE(std::string::npos, tekst.find(deel)) << deel;
+    EXPECT_EQ(std::string::npos, tekst.find("Stoffelsen")); // of B-LIJN
+    EXPECT_TRUE(tekst.find(vandaag) != std::string::npos ||
+                tekst.find(Dagtekening()) != std::string::npos);
+    EXPECT_EQ(spelers, suite.Spelers());
+}
+
+TEST_F(HoofdvensterTest, SessiespelersToevoegenSlaatOpEnToontZe)
+{
+    KiesGroep(8);
+    for (const bool annuleer : {true, false}) {
+        EXPECT_EQ("Aantal regels: 10", Aantal());
+        EXPECT_EQ(100171, administratie.spelers.HKEY);
+        schijf.FaalNiet();
+        wachter.Bedien([=](QDialog& dialoog) {
+            EXPECT_EQ("diaToevoegen", dialoog.objectName().toStdString());
+            QApplication::processEvents();
+            Druk(dialoog, "cmdStart");
+            Druk(dialoog, annuleer ? "cmdAnnuleren" : "OKButton");
+        });
+        wachter.Informatie(u"De spelers zijn toegevoegd."_s);
+        if (annuleer)
+            wachter.Informatie(u"Er worden geen spelers toegevoegd."_s);
+        const std::string oud = suite.Spelers();
+        Opdracht("cmdSpToevoegen");
+        EXPECT_EQ(annuleer, oud == suite.Spelers());
+        EXPECT_NE(annuleer, suite.Bestaat("Zittingen/Zomerdrive 2024_Rev/Koppelverslag.txt"));
+    }
+    EXPECT_EQ("Aantal regels: 19", Aantal());
+    const auto regels = RegelsVan(suite.Spelers());
+    EXPECT_EQ("HKEY=100180", regels.front());
+    EXPECT_EQ("157,100180,Gr08-,Edsel,,Marchena\xF1"
+              "ez,,,,,,,,,,,,",
+              regels.back());
+}
+
 // ---- The end ----------------------------------------------------------------------------------
 
 TEST_F(HoofdvensterTest, HetEindeZetDeWerkmapOpDeSuite)
@@ -415,22 +519,14 @@ TEST_F(HoofdvensterTest, HetSluitenSchrijftNiets)
 
 // ---- The explanation --------------------------------------------------------------------------
 
-TEST_F(HoofdvensterTest, DeToelichtingMetDeKnopEnMetF1)
+TEST_F(HoofdvensterTest, F1OpentDeToelichting)
 {
-    EXPECT_TRUE(Knop("cmdToelichting")->isEnabled());
-    for (const bool metKnop : {true, false}) {
-        wachter.Bedien([](QDialog& dialoog) {
-            EXPECT_EQ("frmToelichting", dialoog.objectName().toStdString());
-            EXPECT_TRUE(dialoog.isModal());
-            Druk(dialoog, "cmdEinde");
-        });
-        venster->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-        if (metKnop)
-            Opdracht("cmdToelichting");
-        else
-            Toets(Qt::Key_F1);
-        wachter.Klaar();
-    }
+    wachter.Bedien([](QDialog& dialoog) {
+        EXPECT_EQ("frmToelichting", dialoog.objectName().toStdString());
+        EXPECT_TRUE(dialoog.isModal());
+        Druk(dialoog, "cmdEinde");
+    });
+    Toets(Qt::Key_F1);
+    wachter.Klaar();
     EXPECT_TRUE(venster->isVisible());
 }

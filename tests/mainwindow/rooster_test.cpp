@@ -94,50 +94,37 @@ int Donkere(const QImage& beeld, QRect deel)
 
 // ---- Selecting by mouse -----------------------------------------------------------------------
 
-TEST_F(RoosterTest, OpZevenDeEersteOpTienDeTweedeEnErbovenGeen)
-{
-    KlikOpHoogte(7);
-    EXPECT_EQ(1, GekozenRegel());
-    VerwachtLijnenOm(1);
-    KlikOpHoogte(10);
-    EXPECT_EQ(2, GekozenRegel());
-    VerwachtLijnenOm(2);
-    KlikOpHoogte(4);
-    EXPECT_EQ(0, GekozenRegel());
-    KlikOpHoogte(0.7); // nearly a whole line above the first
-    EXPECT_EQ(0, GekozenRegel());
-    EXPECT_FALSE(Deel("Line1")->isVisible());
-    EXPECT_FALSE(Deel("Line2")->isVisible());
-}
-
-TEST_F(RoosterTest, OnderDeLaatsteRegelIsGeenKeus)
+TEST_F(RoosterTest, EenKlikKiestDeRegelOpDieHoogte)
 {
     KiesGroep(3); // nine lines
-    KlikOpHoogte(5 + 9 * 4.4 - 1);
-    EXPECT_EQ(9, GekozenRegel());
-    KlikOpHoogte(5 + 9 * 4.4 + 1);
-    EXPECT_EQ(0, GekozenRegel());
-}
-
-TEST_F(RoosterTest, DeRechterknopKiestNiets)
-{
+    for (const auto& [mm, regel] : {std::pair(7.0, 1),
+                                    {10.0, 2},
+                                    {5 + 9 * 4.4 - 1, 9},
+                                    {5 + 9 * 4.4 + 1, 0},
+                                    {9.0, 1},
+                                    {4.0, 0},
+                                    {0.7, 0}}) { // the last is nearly a whole line above the first
+        SCOPED_TRACE(mm);
+        KlikOpHoogte(mm);
+        EXPECT_EQ(regel, GekozenRegel());
+        EXPECT_EQ(regel > 0, Deel("Line1")->isVisible());
+        EXPECT_EQ(regel > 0, Deel("Line2")->isVisible());
+        if (regel > 0)
+            VerwachtLijnenOm(regel);
+    }
     KiesRegel(2);
     QTest::mouseClick(Vlak(), Qt::RightButton, {}, OpRegel(5));
     EXPECT_EQ(2, GekozenRegel());
 }
 
-TEST_F(RoosterTest, NaSchuivenKiestEenKlikDeRegelDieErStaat)
+TEST_F(RoosterTest, NaSchuivenKiestEenKlikDeRegelDieErStaatEnDeLijnenSchuivenMee)
 {
     Balk("VScroll1")->setValue(100);
     KiesRegel(9);
     EXPECT_EQ(9, GekozenRegel());
     VerwachtLijnenOm(9);
-}
-
-TEST_F(RoosterTest, DeLijnenSchuivenMee)
-{
-    KiesRegel(9);
     Vink("chkKolBr")->click(); // columns as wide as their texts
+    EXPECT_EQ(9, GekozenRegel());
     Balk("VScroll1")->setValue(57);
     Balk("HScroll1")->setValue(31);
     ASSERT_EQ(31, Balk("HScroll1")->value());
@@ -168,37 +155,40 @@ TEST_F(RoosterTest, DeHeaderNeemtDeFocusNiet)
 
 // ---- Keys -------------------------------------------------------------------------------------
 
-TEST_F(RoosterTest, PijlenHomeEnEnd)
+TEST_F(RoosterTest, DeToetsenKiezenEenRegel)
 {
-    Toets(Qt::Key_Down);
-    EXPECT_EQ(1, GekozenRegel());
-    Toets(Qt::Key_Down);
-    EXPECT_EQ(2, GekozenRegel());
-    Toets(Qt::Key_Up);
-    Toets(Qt::Key_Up);
-    EXPECT_EQ(1, GekozenRegel()) << "niet boven de eerste";
-    Toets(Qt::Key_End);
-    EXPECT_EQ(50, GekozenRegel());
-    EXPECT_TRUE(InBeeld(50));
-    Toets(Qt::Key_Down);
-    EXPECT_EQ(50, GekozenRegel()) << "niet onder de laatste";
-    Toets(Qt::Key_Home);
-    EXPECT_EQ(1, GekozenRegel());
+    for (const auto& [toets, regel] : {std::pair(Qt::Key_Down, 1),
+                                       {Qt::Key_Down, 2},
+                                       {Qt::Key_Up, 1},
+                                       {Qt::Key_Up, 1},
+                                       {Qt::Key_End, 50},
+                                       {Qt::Key_Down, 50},
+                                       {Qt::Key_Home, 1}}) {
+        Toets(toets);
+        EXPECT_EQ(regel, GekozenRegel());
+        EXPECT_TRUE(InBeeld(regel));
+    }
     EXPECT_EQ(0, Balk("VScroll1")->value());
     VerwachtLijnenOm(1);
+    KiesGroep(4); // empty
+    for (const Qt::Key toets :
+         {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown, Qt::Key_PageUp})
+        Toets(toets);
+    EXPECT_EQ(0, GekozenRegel());
+    Klik(Vlak(), {40, 60});
+    EXPECT_EQ(0, GekozenRegel());
 }
 
 TEST_F(RoosterTest, ElkeStapOmlaagBlijftInBeeldEnOmhoogOok)
 {
-    for (int regel = 1; regel <= 50; ++regel) {
-        Toets(Qt::Key_Down);
-        ASSERT_EQ(regel, GekozenRegel());
-        ASSERT_TRUE(InBeeld(regel)) << regel;
-    }
-    for (int regel = 49; regel >= 1; --regel) {
-        Toets(Qt::Key_Up);
-        ASSERT_EQ(regel, GekozenRegel());
-        ASSERT_TRUE(InBeeld(regel)) << regel;
+    for (const int stap : {1, -1}) {
+        for (int i = 1; i < 50; ++i) {
+            Toets(stap > 0 ? Qt::Key_Down : Qt::Key_Up);
+            const int regel = stap > 0 ? i : 50 - i;
+            ASSERT_EQ(regel, GekozenRegel());
+            ASSERT_TRUE(InBeeld(regel)) << regel;
+        }
+        Toets(Qt::Key_End);
     }
 }
 
@@ -221,17 +211,6 @@ TEST_F(RoosterTest, PageDownEnPageUpGaanEenSchermVerder)
         Toets(Qt::Key_PageUp);
     EXPECT_EQ(1, GekozenRegel());
     EXPECT_TRUE(InBeeld(1));
-}
-
-TEST_F(RoosterTest, InEenLegeGroepDoenDeToetsenNiets)
-{
-    KiesGroep(4);
-    for (const Qt::Key toets :
-         {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown, Qt::Key_PageUp})
-        Toets(toets);
-    EXPECT_EQ(0, GekozenRegel());
-    Klik(Vlak(), {40, 60});
-    EXPECT_EQ(0, GekozenRegel());
 }
 
 TEST_F(RoosterTest, HetRoosterSpreektZijnRegel)
@@ -467,14 +446,6 @@ TEST_F(RoosterTest, EenNaamDieNietOpZijnHeaderPastWordtIngekort)
     EXPECT_EQ("Achternaam", Header(6)->text().toStdString());
     EXPECT_EQ("Achternaam", Header(6)->toolTip().toStdString());
     EXPECT_EQ("Achternaam", Header(6)->accessibleName().toStdString());
-}
-
-TEST_F(RoosterTest, HetVinkjeLaatDeGekozenRegelStaan)
-{
-    KiesRegel(5);
-    Vink("chkKolBr")->click();
-    EXPECT_EQ(5, GekozenRegel());
-    VerwachtLijnenOm(5);
 }
 
 // ---- What is drawn ----------------------------------------------------------------------------
