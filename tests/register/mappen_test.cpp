@@ -60,23 +60,15 @@ TEST(MappenUit, AfwezigeSleutelsZijnLeegOfNul)
     EXPECT_EQ(mappen.NBB28UIT, 0);
 }
 
-TEST(MappenUit, SleutelInKleineLettersWaardeBlijft)
+TEST(MappenUit, DeWaardeIsAllesAchterHetEersteIsTeken)
 {
-    const Mappen mappen = MappenUit("spemap=C:\\Club\\spelers\r\nNewPaGr=1\r\nnbb28uit=1\r\n");
-    EXPECT_EQ(mappen.SPEMAP, "C:\\Club\\spelers");
-    EXPECT_EQ(mappen.NEWPAGR, 1);
-    EXPECT_EQ(mappen.NBB28UIT, 1);
-}
-
-TEST(MappenUit, WaardeMetIsTekens)
-{
-    EXPECT_EQ(MappenUit("SPEMAP=C:\\a=b=\r\n").SPEMAP, "C:\\a=b=");
-    EXPECT_EQ(MappenUit("SPEMAP==x\r\n").SPEMAP, "=x");
-}
-
-TEST(MappenUit, WaardeWordtNietBijgesneden)
-{
-    EXPECT_EQ(MappenUit("SPEMAP=  C:\\x , y \t\r\n").SPEMAP, "  C:\\x , y \t");
+    const Tekst lang(65536, 'x');
+    const Tekst bytes("C:\\\x81\x8D\0\xE9", 7);
+    for (const Tekst& waarde :
+         {Tekst("C:\\a=b="), Tekst("=x"), Tekst("  C:\\x , y \t"), lang, bytes}) {
+        EXPECT_EQ(MappenUit("SPEMAP=" + waarde + "\r\nADMMAP=b\r\n").SPEMAP, waarde);
+        EXPECT_EQ(MappenUit("spemap=" + waarde).SPEMAP, waarde) << "ook achter kleine letters";
+    }
 }
 
 TEST(MappenUit, LaatsteRegelWint)
@@ -95,24 +87,24 @@ TEST(MappenUit, AlleenHetBeginVanDeRegelTelt)
     EXPECT_EQ(mappen.SPEMAP, "");
 }
 
-TEST(MappenUit, GetalMetTekstErachter)
+TEST(MappenUit, GetalMetTekstErachterEnNulAlsHetNietPast)
 {
-    EXPECT_EQ(MappenUit("NEWPAGR=1 ja\r\n").NEWPAGR, 1);
-    EXPECT_EQ(MappenUit("NEWPAGR=  12\r\n").NEWPAGR, 12);
-    EXPECT_EQ(MappenUit("NEWPAGR=-3\r\n").NEWPAGR, -3);
-    EXPECT_EQ(MappenUit("NEWPAGR=ja1\r\n").NEWPAGR, 0);
-    EXPECT_EQ(MappenUit("NEWPAGR=\r\n").NEWPAGR, 0);
-}
-
-TEST(MappenUit, GetalDatNietPastIsNul)
-{
-    EXPECT_EQ(MappenUit("NEWPAGR=32767\r\n").NEWPAGR, 32767);
-    EXPECT_EQ(MappenUit("NEWPAGR=32768\r\n").NEWPAGR, 0);
-    EXPECT_EQ(MappenUit("NBB28UIT=-32768\r\n").NBB28UIT, -32768);
-    EXPECT_EQ(MappenUit("NBB28UIT=-32769\r\n").NBB28UIT, 0);
     // 65537 would be 1 in 16 bits.
-    EXPECT_EQ(MappenUit("NEWPAGR=65537\r\n").NEWPAGR, 0);
-    EXPECT_EQ(MappenUit("NEWPAGR=99999999999999999999999999\r\n").NEWPAGR, 0);
+    const std::pair<Tekst, int> gevallen[] = {{"1 ja", 1},
+                                              {"  12", 12},
+                                              {"-3", -3},
+                                              {"ja1", 0},
+                                              {"", 0},
+                                              {"32767", 32767},
+                                              {"32768", 0},
+                                              {"-32768", -32768},
+                                              {"-32769", 0},
+                                              {"65537", 0},
+                                              {"99999999999999999999999999", 0}};
+    for (const auto& [tekst, getal] : gevallen) {
+        EXPECT_EQ(MappenUit("NEWPAGR=" + tekst + "\r\n").NEWPAGR, getal) << tekst;
+        EXPECT_EQ(MappenUit("nbb28uit=" + tekst + "\r\n").NBB28UIT, getal) << tekst;
+    }
     // The last line wins, also when it does not fit; the lines after it are read.
     const Mappen mappen = MappenUit("NEWPAGR=1\r\nNEWPAGR=40000\r\nSPEMAP=x\r\n");
     EXPECT_EQ(mappen.NEWPAGR, 0);
@@ -128,18 +120,6 @@ TEST(MappenUit, ElkRegeleinde)
     EXPECT_EQ(mappen.COMMAP, "d");
 }
 
-TEST(MappenUit, OngedefinieerdeBytesEnNullen)
-{
-    using namespace std::string_literals;
-    EXPECT_EQ(MappenUit("SPEMAP=C:\\\x81\x8D\0\xE9\r\n"s).SPEMAP, "C:\\\x81\x8D\0\xE9"s);
-}
-
-TEST(MappenUit, LangeRegel)
-{
-    const Tekst lang(65536, 'x');
-    EXPECT_EQ(MappenUit("SPEMAP=" + lang + "\r\nADMMAP=b\r\n").SPEMAP, lang);
-}
-
 TEST(Mappen, AfgeleidePaden)
 {
     const Mappen mappen = MappenUit("SPEMAP=C:\\S\r\nADMMAP=C:\\A\r\nWINMAP=C:\\W\r\n");
@@ -149,29 +129,22 @@ TEST(Mappen, AfgeleidePaden)
     EXPECT_EQ(mappen.Ledenmap(), "C:\\W\\NBB4-Leden");
 }
 
-TEST(LeesMappenIni, VanDeSchijf)
+TEST(LeesMappenIni, VanDeSchijfOntbrekendEnOnleesbaar)
 {
-    GeheugenSchijf schijf;
-    schijf.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\S\r\n");
-    const auto mappen = LeesMappenIni(schijf, "C:\\RVD\\Mappen.ini");
-    ASSERT_TRUE(mappen);
-    EXPECT_EQ(mappen->SPEMAP, "C:\\S");
-}
-
-TEST(LeesMappenIni, OntbreektOfOnleesbaar)
-{
+    const Pad pad = "C:\\RVD\\Mappen.ini";
     GeheugenSchijf binnen;
-    const auto weg = LeesMappenIni(binnen, "C:\\RVD\\Mappen.ini");
+    FalendeSchijf schijf(binnen);
+    const auto weg = LeesMappenIni(schijf, pad);
     ASSERT_FALSE(weg);
     EXPECT_EQ(weg.error().soort, Foutsoort::Ontbreekt);
 
-    binnen.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\S\r\n");
-    FalendeSchijf schijf(binnen);
+    binnen.Zet(pad, "SPEMAP=C:\\S\r\n");
+    EXPECT_EQ(LeesMappenIni(schijf, pad).value().SPEMAP, "C:\\S");
     schijf.FaalBij(1);
-    const auto geweigerd = LeesMappenIni(schijf, "C:\\RVD\\Mappen.ini");
+    const auto geweigerd = LeesMappenIni(schijf, pad);
     ASSERT_FALSE(geweigerd);
     EXPECT_EQ(geweigerd.error().soort, Foutsoort::Geweigerd);
-    EXPECT_EQ(geweigerd.error().bestand, "C:\\RVD\\Mappen.ini");
+    EXPECT_EQ(geweigerd.error().bestand, pad);
 }
 
 TEST(LeesMappenIni, EenBezwaarTegenDeTekstWordtBewaard)

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "platform/schijf/echteSchijf.h"
+#include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/tijdelijkeMap.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
@@ -14,22 +15,34 @@ using namespace plexoran;
 
 namespace {
 
+const Tekst metVeldTeVeel = "HKEY=100007\r\n1,100001,Gr01-,An,,Bos,,,,,,,,,,,,,te veel\r\n";
+
 /// A save that is tried on a failing disk.
 struct Proef {
     Pad bestand;
     Tekst oud;
-    Tekst nieuw;
     bool metKopie = false;
-    std::function<void()> bereid; ///< puts the old file there, past the failing disk
-    std::function<Uitkomst<void>(Schijf&)> bewaar;
-    std::function<void()> naAfloop = [] {}; ///< what must hold after each attempt
-};
+    std::function<void(Schijf&)> lees; ///< what is saved, read from the disk and changed
+    std::function<Uitkomst<void>(Schijf& schijf, Schijf& binnen)> bewaar;
+    std::function<Tekst()> tekst; ///< of what is saved; the same after every attempt
+    Tekst nieuw{};
 
-/// The names of the files in the folder of the file under test.
-std::vector<Tekst> Buren(Schijf& schijf, const Proef& proef)
-{
-    return schijf.Bestanden(proef.bestand.substr(0, proef.bestand.find_last_of('\\'))).value();
-}
+    /// Puts the old file there, alone and on the device, past the failing disk.
+    void Bereid(Schijf& binnen, const Mappen& mappen)
+    {
+        const Pad wortel = mappen.SPEMAP.substr(0, mappen.SPEMAP.rfind('\\'));
+        for (const Pad& map :
+             {wortel, mappen.SPEMAP, mappen.ADMMAP, Samen(mappen.SPEMAP, "Reservekopie")}) {
+            ASSERT_TRUE(binnen.MaakMap(map));
+            const auto namen = binnen.Bestanden(map).value();
+            for (const Tekst& naam : namen)
+                ASSERT_TRUE(binnen.Verwijder(Samen(map, naam)));
+        }
+        ASSERT_TRUE(SchrijfHeel(binnen, bestand, oud));
+        lees(binnen);
+        nieuw = tekst();
+    }
+};
 
 /// The file is one of the two versions, and the new one only after its copy.
 void BekijkBestand(Schijf& binnen, const Mappen& mappen, const Proef& proef, bool gemeld)
@@ -48,7 +61,7 @@ void BekijkBestand(Schijf& binnen, const Mappen& mappen, const Proef& proef, boo
 
 void EenStap(Schijf& binnen, const Mappen& mappen, const Proef& proef, FalendeSchijf& schijf)
 {
-    const auto eerste = proef.bewaar(schijf);
+    const auto eerste = proef.bewaar(schijf, binnen);
     BekijkBestand(binnen, mappen, proef, !eerste);
     if (!eerste) {
         const bool kopieMislukt = eerste.error().soort == Foutsoort::GeenReservekopie;
@@ -62,38 +75,38 @@ void EenStap(Schijf& binnen, const Mappen& mappen, const Proef& proef, FalendeSc
             EXPECT_EQ(binnen.LeesBestand(proef.bestand), proef.oud);
         }
     }
-    proef.naAfloop();
+    EXPECT_EQ(proef.tekst(), proef.nieuw);
     schijf.FaalNiet();
-    ASSERT_TRUE(proef.bewaar(schijf)) << "de tweede poging";
+    ASSERT_TRUE(proef.bewaar(schijf, binnen)) << "de tweede poging";
     EXPECT_EQ(binnen.LeesBestand(proef.bestand), proef.nieuw);
-    proef.naAfloop();
+    EXPECT_EQ(proef.tekst(), proef.nieuw);
 }
 
 /// One operation refused, each in turn: told, both versions whole, nothing left lying about, and
 /// the second attempt succeeds.
-void FaalBijElkeStap(Schijf& binnen, const Mappen& mappen, const Proef& proef)
+void FaalBijElkeStap(Schijf& binnen, const Mappen& mappen, Proef& proef)
 {
     FalendeSchijf schijf(binnen);
-    proef.bereid();
-    schijf.FaalNiet();
-    ASSERT_TRUE(proef.bewaar(schijf));
+    proef.Bereid(binnen, mappen);
+    ASSERT_TRUE(proef.bewaar(schijf, binnen));
     const int stappen = schijf.Aantal();
     ASSERT_GE(stappen, proef.metKopie ? 18 : 9);
     int mislukt = 0;
     for (int stap = 1; stap <= stappen; ++stap) {
         SCOPED_TRACE("stap " + std::to_string(stap));
-        proef.bereid();
+        proef.Bereid(binnen, mappen);
         schijf.FaalBij(stap);
         EenStap(binnen, mappen, proef, schijf);
-        const auto buren = Buren(binnen, proef);
+        const Pad map = proef.bestand.substr(0, proef.bestand.find_last_of('\\'));
+        const auto buren = binnen.Bestanden(map).value();
         EXPECT_EQ(buren.size(), 1U) << buren.back();
 
         // A disk that stays broken from there on; its temporary file may be left.
-        proef.bereid();
+        proef.Bereid(binnen, mappen);
         schijf.FaalVanaf(stap);
-        const auto uitkomst = proef.bewaar(schijf);
+        const auto uitkomst = proef.bewaar(schijf, binnen);
         BekijkBestand(binnen, mappen, proef, !uitkomst);
-        proef.naAfloop();
+        EXPECT_EQ(proef.tekst(), proef.nieuw);
         mislukt += uitkomst ? 0 : 1;
     }
     // At most the stamp after the save, by which nothing is lost.
@@ -101,7 +114,7 @@ void FaalBijElkeStap(Schijf& binnen, const Mappen& mappen, const Proef& proef)
 }
 
 /// The same, with the power cut there: what the device then holds.
-void StroomuitvalBijElkeStap(const std::function<void(GeheugenSchijf&)>& bereid, const Proef& proef)
+void StroomuitvalBijElkeStap(const Mappen& mappen, Proef& proef)
 {
     for (const auto namen : {GeheugenSchijf::Namen::Gesynct, GeheugenSchijf::Namen::Alle}) {
         std::set<Tekst> gezien;
@@ -109,10 +122,10 @@ void StroomuitvalBijElkeStap(const std::function<void(GeheugenSchijf&)>& bereid,
         for (int stap = 1; !klaar; ++stap) {
             ASSERT_LT(stap, 60) << "het opslaan lukt nooit";
             GeheugenSchijf binnen;
-            bereid(binnen);
+            proef.Bereid(binnen, mappen);
             FalendeSchijf schijf(binnen);
             schijf.FaalVanaf(stap);
-            klaar = proef.bewaar(schijf).has_value();
+            klaar = proef.bewaar(schijf, binnen).has_value();
             const auto over = binnen.NaStroomuitval(namen);
             ASSERT_TRUE(over.contains(proef.bestand)) << "stap " << stap;
             const Tekst& inhoud = over.at(proef.bestand);
@@ -128,130 +141,99 @@ void StroomuitvalBijElkeStap(const std::function<void(GeheugenSchijf&)>& bereid,
     }
 }
 
-const Tekst metVeldTeVeel = "HKEY=100007\r\n1,100001,Gr01-,An,,Bos,,,,,,,,,,,,,te veel\r\n";
+/// What is saved.
+struct Stand {
+    Register spelers;
+    Groepen groepen;
+};
 
-void LeegMap(Schijf& schijf, const Pad& map)
+Proef Spelersproef(const Mappen& mappen, Stand& stand, const Tekst& oud)
 {
-    const auto namen = schijf.Bestanden(map);
-    if (!namen)
-        return;
-    for (const Tekst& naam : *namen)
-        ASSERT_TRUE(schijf.Verwijder(Samen(map, naam)));
+    return {.bestand = mappen.Spelerbestand(),
+            .oud = oud,
+            .metKopie = oud == metVeldTeVeel,
+            .lees =
+                [=, &stand](Schijf& binnen) {
+                    stand.spelers = Register();
+                    LeesSpelers(binnen, mappen, stand.spelers);
+                    const Rijvelden fie{"", "", "", "Fie", "", "Gans"};
+                    ASSERT_TRUE(VoegSpelerToe(stand.spelers, "Gr02-", fie));
+                },
+            .bewaar =
+                [=, &stand](Schijf& schijf, Schijf& binnen) {
+                    auto uitkomst =
+                        SchrijfSpelers(schijf, mappen, stand.spelers, Overschrijven::AlleenEigen);
+                    if (uitkomst) // every save is followed by this; it is not what fails here
+                        LeesSpelers(binnen, mappen, stand.spelers);
+                    return uitkomst;
+                },
+            .tekst = [&stand] { return SpelersTekst(stand.spelers); }};
 }
 
-void ZetBestand(Schijf& schijf, const Mappen& mappen, const Pad& pad, const Tekst& inhoud)
+Proef Groepenproef(const Mappen& mappen, Stand& stand, const Tekst& oud)
 {
-    const Pad wortel = mappen.SPEMAP.substr(0, mappen.SPEMAP.rfind('\\'));
-    for (const Pad& map :
-         {wortel, mappen.SPEMAP, mappen.ADMMAP, Samen(mappen.SPEMAP, "Reservekopie")}) {
-        ASSERT_TRUE(schijf.MaakMap(map));
-        LeegMap(schijf, map);
-    }
-    auto schrijver = schijf.MaakNieuw(pad);
-    ASSERT_TRUE(schrijver && (*schrijver)->Schrijf(inhoud) && (*schrijver)->Sluit());
+    return {.bestand = mappen.Groepenbestand(),
+            .oud = oud,
+            .metKopie = !IsGroepenbestand(oud),
+            .lees =
+                [=, &stand](Schijf& binnen) {
+                    stand.groepen = LeesGroepen(binnen, mappen);
+                    stand.groepen.ZetNaam(1, "Clubleden");
+                },
+            .bewaar =
+                [=, &stand](Schijf& schijf, Schijf& /*binnen*/) {
+                    return SchrijfGroepen(schijf, mappen, stand.groepen);
+                },
+            .tekst = [&stand] { return GroepenTekst(stand.groepen); }};
 }
 
-/// The register in `spelers` was read from `oud` and got a player; the table must stay as it is
-/// through all failures.
-Proef Spelersproef(Schijf& binnen, const Mappen& mappen, Register& spelers, const Tekst& oud)
+Proef Instellingenproef(const Mappen& mappen, const Tekst& oud)
 {
-    Proef proef;
-    proef.bestand = mappen.Spelerbestand();
-    proef.oud = oud;
-    proef.metKopie = oud == metVeldTeVeel;
-    proef.bereid = [&binnen, &spelers, mappen, oud] {
-        ZetBestand(binnen, mappen, mappen.Spelerbestand(), oud);
-        spelers = Register();
-        LeesSpelers(binnen, mappen, spelers);
-        ASSERT_TRUE(VoegSpelerToe(spelers, "Gr02-", {"", "", "", "Fie", "", "Gans"}));
-    };
-    proef.bereid();
-    proef.nieuw = SpelersTekst(spelers);
-    proef.bewaar = [&binnen, &spelers, mappen](Schijf& schijf) {
-        auto uitkomst = SchrijfSpelers(schijf, mappen, spelers, Overschrijven::AlleenEigen);
-        if (uitkomst) // every save is followed by this; it is not what fails here
-            LeesSpelers(binnen, mappen, spelers);
-        return uitkomst;
-    };
-    proef.naAfloop = [&spelers, nieuw = proef.nieuw] { EXPECT_EQ(SpelersTekst(spelers), nieuw); };
-    return proef;
-}
-
-Proef Groepenproef(Schijf& binnen, const Mappen& mappen, Groepen& groepen, const Tekst& oud)
-{
-    Proef proef;
-    proef.bestand = mappen.Groepenbestand();
-    proef.oud = oud;
-    proef.metKopie = !IsGroepenbestand(oud);
-    proef.bereid = [&binnen, &groepen, mappen, oud] {
-        ZetBestand(binnen, mappen, mappen.Groepenbestand(), oud);
-        groepen = LeesGroepen(binnen, mappen);
-        groepen.ZetNaam(1, "Clubleden");
-    };
-    proef.bereid();
-    proef.nieuw = GroepenTekst(groepen);
-    proef.bewaar = [&groepen, mappen](Schijf& schijf) {
-        return SchrijfGroepen(schijf, mappen, groepen);
-    };
-    proef.naAfloop = [&groepen, nieuw = proef.nieuw] { EXPECT_EQ(GroepenTekst(groepen), nieuw); };
-    return proef;
-}
-
-Proef Instellingenproef(Schijf& binnen, const Mappen& mappen, const Tekst& oud)
-{
-    Proef proef;
-    proef.bestand = mappen.Instellingenbestand();
-    proef.oud = oud;
-    proef.nieuw = "OPTIND=4\r\nLOSTGR=12\r\n";
-    proef.metKopie = !IsInstellingenbestand(oud);
-    proef.bereid = [&binnen, mappen, oud] {
-        ZetBestand(binnen, mappen, mappen.Instellingenbestand(), oud);
-    };
-    proef.bewaar = [mappen](Schijf& schijf) {
-        return SchrijfInstellingen(schijf, mappen, {.OPTIND = 4, .LOSTGR = 12});
-    };
-    return proef;
+    return {.bestand = mappen.Instellingenbestand(),
+            .oud = oud,
+            .metKopie = !IsInstellingenbestand(oud),
+            .lees = [](Schijf&) {},
+            .bewaar =
+                [=](Schijf& schijf, Schijf& /*binnen*/) {
+                    return SchrijfInstellingen(schijf, mappen, {.OPTIND = 4, .LOSTGR = 12});
+                },
+            .tekst = [] { return Tekst("OPTIND=4\r\nLOSTGR=12\r\n"); }};
 }
 
 /// A start that finds a player file or a group file whose first item is blank.
-Proef Startproef(Schijf& binnen, const Mappen& mappen, bool spelerbestandIsHet)
+Proef Startproef(const Mappen& mappen, bool spelers)
 {
-    const Pad pad = spelerbestandIsHet ? mappen.Spelerbestand() : mappen.Groepenbestand();
-    Proef proef;
-    proef.bestand = pad;
-    proef.oud = "\r\nGr01-toch nog iets\r\n";
-    proef.nieuw = spelerbestandIsHet ? "HKEY=100000\r\n" : GroepenTekst(Groepen());
-    proef.metKopie = true;
-    proef.bereid = [&binnen, mappen, pad, oud = proef.oud] {
-        ZetBestand(binnen, mappen, pad, oud);
-    };
-    proef.bewaar = [mappen, spelerbestandIsHet](Schijf& schijf) {
-        Register spelers;
-        return spelerbestandIsHet ? MaakSpelerbestand(schijf, mappen, spelers).gemaakt
-                                  : MaakGroepenbestand(schijf, mappen).gemaakt;
-    };
-    return proef;
+    return {.bestand = spelers ? mappen.Spelerbestand() : mappen.Groepenbestand(),
+            .oud = "\r\nGr01-toch nog iets\r\n",
+            .metKopie = true,
+            .lees = [](Schijf&) {},
+            .bewaar =
+                [=](Schijf& schijf, Schijf& /*binnen*/) {
+                    Register leeg;
+                    return spelers ? MaakSpelerbestand(schijf, mappen, leeg).gemaakt
+                                   : MaakGroepenbestand(schijf, mappen).gemaakt;
+                },
+            .tekst = [=] { return spelers ? "HKEY=100000\r\n" : GroepenTekst(Groepen()); }};
+}
+
+std::vector<Proef> Proeven(const Mappen& mappen, Stand& stand)
+{
+    return {Spelersproef(mappen, stand, vijfSpelers),
+            Spelersproef(mappen, stand, metVeldTeVeel),
+            Groepenproef(mappen, stand, "Gr01-Oud\r\n"),
+            Groepenproef(mappen, stand, "Gr01-Oud, en nog iets\r\n"),
+            Instellingenproef(mappen, "OPTIND=4\r\nLOSTGR=3\r\n"),
+            Instellingenproef(mappen, "onzin\r\n"),
+            Startproef(mappen, true),
+            Startproef(mappen, false)};
 }
 
 void ElkBestand(Schijf& binnen, const Mappen& mappen)
 {
-    Register spelers;
-    Groepen groepen;
-    for (const Tekst& oud : {vijfSpelers, metVeldTeVeel}) {
-        SCOPED_TRACE("spelers");
-        FaalBijElkeStap(binnen, mappen, Spelersproef(binnen, mappen, spelers, oud));
-    }
-    for (const Tekst oud : {"Gr01-Oud\r\n", "Gr01-Oud, en nog iets\r\n"}) {
-        SCOPED_TRACE("groepen");
-        FaalBijElkeStap(binnen, mappen, Groepenproef(binnen, mappen, groepen, oud));
-    }
-    for (const Tekst oud : {"OPTIND=4\r\nLOSTGR=3\r\n", "onzin\r\n"}) {
-        SCOPED_TRACE("instellingen");
-        FaalBijElkeStap(binnen, mappen, Instellingenproef(binnen, mappen, oud));
-    }
-    for (const bool spelerbestandIsHet : {true, false}) {
-        SCOPED_TRACE("start");
-        FaalBijElkeStap(binnen, mappen, Startproef(binnen, mappen, spelerbestandIsHet));
+    Stand stand;
+    for (Proef& proef : Proeven(mappen, stand)) {
+        SCOPED_TRACE(proef.bestand + ": " + proef.oud);
+        FaalBijElkeStap(binnen, mappen, proef);
     }
 }
 
@@ -272,33 +254,10 @@ TEST(Opslagfout, ElkeStapVanElkBestandOpDeEchteSchijf)
 
 TEST(Opslagfout, StroomuitvalBijElkeStap)
 {
-    const Mappen mappen = Proefmappen();
-    const auto zet = [](const Pad& pad, const Tekst& inhoud) {
-        return [pad, inhoud](GeheugenSchijf& schijf) { schijf.Zet(pad, inhoud); };
-    };
-    GeheugenSchijf los;
-    Groepen groepen;
-    for (const Tekst oud : {"Gr01-Oud\r\n", "Gr01-Oud, en nog iets\r\n"}) {
-        const Proef proef = Groepenproef(los, mappen, groepen, oud);
-        const auto bereid = [&](GeheugenSchijf& schijf) {
-            schijf.Zet(groepenbestand, oud);
-            groepen = LeesGroepen(schijf, mappen);
-            groepen.ZetNaam(1, "Clubleden");
-        };
-        StroomuitvalBijElkeStap(bereid, proef);
-    }
-    for (const bool spelerbestandIsHet : {true, false}) {
-        const Proef proef = Startproef(los, mappen, spelerbestandIsHet);
-        StroomuitvalBijElkeStap(zet(proef.bestand, proef.oud), proef);
-    }
-    Register spelers;
-    for (const Tekst& oud : {vijfSpelers, metVeldTeVeel}) {
-        const Proef proef = Spelersproef(los, mappen, spelers, oud);
-        const auto bereid = [&](GeheugenSchijf& schijf) {
-            spelers = Gelezen(schijf, oud);
-            ASSERT_TRUE(VoegSpelerToe(spelers, "Gr02-", {"", "", "", "Fie", "", "Gans"}));
-        };
-        StroomuitvalBijElkeStap(bereid, proef);
+    Stand stand;
+    for (Proef& proef : Proeven(Proefmappen(), stand)) {
+        SCOPED_TRACE(proef.bestand + ": " + proef.oud);
+        StroomuitvalBijElkeStap(Proefmappen(), proef);
     }
 }
 
@@ -309,12 +268,10 @@ TEST(Opslagfout, NaEenMislukteSyncVanDeMapIsHetBestandNietVanEenAnder)
     spelers.tabel.ZetCel(1, Kolom::Voornaam, "Anna");
     FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
     schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
-    const auto eerste = SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::AlleenEigen);
-    ASSERT_FALSE(eerste);
-    EXPECT_EQ(eerste.error().soort, Foutsoort::NietVast);
+    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::NietVast);
     EXPECT_EQ(binnen.Inhoud(spelerbestand), SpelersTekst(spelers));
     spelers.tabel.ZetCel(1, Kolom::Voornaam, "Annie");
-    EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::AlleenEigen));
+    EXPECT_TRUE(Bewaar(schijf, spelers));
 }
 
 TEST(Opslagfout, NaEenMislukteSyncVanDeMapKomtErGeenKopieVanDeEigenGroepsnamen)
@@ -325,9 +282,7 @@ TEST(Opslagfout, NaEenMislukteSyncVanDeMapKomtErGeenKopieVanDeEigenGroepsnamen)
     groepen.ZetNaam(1, "Clubleden");
     FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
     schijf.FaalBij(7);
-    const auto eerste = SchrijfGroepen(schijf, Proefmappen(), groepen);
-    ASSERT_FALSE(eerste);
-    EXPECT_EQ(eerste.error().soort, Foutsoort::NietVast);
+    EXPECT_EQ(SoortVan(SchrijfGroepen(schijf, Proefmappen(), groepen)), Foutsoort::NietVast);
     EXPECT_EQ(binnen.Inhoud(groepenbestand), GroepenTekst(groepen));
     groepen.ZetNaam(1, "Avond");
     EXPECT_TRUE(SchrijfGroepen(schijf, Proefmappen(), groepen));
@@ -342,15 +297,12 @@ TEST(Opslagfout, AlleenLezenMapOfBestand)
         spelers.tabel.ZetCel(1, Kolom::Voornaam, "Anna");
         const Tekst nieuw = SpelersTekst(spelers);
         schijf.ZetAlleenLezen(vast);
-        const auto uitkomst =
-            SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::AlleenEigen);
-        ASSERT_FALSE(uitkomst);
-        EXPECT_EQ(uitkomst.error().soort, Foutsoort::Geweigerd);
+        EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::Geweigerd);
         EXPECT_EQ(schijf.Inhoud(spelerbestand), vijfSpelers);
         EXPECT_EQ(SpelersTekst(spelers), nieuw);
         EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{spelerbestand});
         schijf.ZetAlleenLezen(vast, false);
-        EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::AlleenEigen));
+        EXPECT_TRUE(Bewaar(schijf, spelers));
         EXPECT_EQ(schijf.Inhoud(spelerbestand), nieuw);
     }
 }

@@ -51,12 +51,30 @@ inline std::vector<Tekst> Kopieen(Schijf& schijf, const Mappen& mappen = Proefma
     return uit;
 }
 
+/// On the disk of the club.
+inline Leesverslag Lees(Schijf& schijf, Register& spelers)
+{
+    return LeesSpelers(schijf, Proefmappen(), spelers);
+}
+
+inline Uitkomst<void> Bewaar(Schijf& schijf, Register& spelers,
+                             Overschrijven overschrijven = Overschrijven::AlleenEigen)
+{
+    return SchrijfSpelers(schijf, Proefmappen(), spelers, overschrijven);
+}
+
+/// None where it went well.
+template <class T> std::optional<Foutsoort> SoortVan(const Uitkomst<T>& uitkomst)
+{
+    return uitkomst ? std::nullopt : std::optional(uitkomst.error().soort);
+}
+
 /// A register that was read from a disk with this player file.
 inline Register Gelezen(GeheugenSchijf& schijf, Tekstblik inhoud)
 {
     schijf.Zet(spelerbestand, inhoud);
     Register spelers;
-    LeesSpelers(schijf, Proefmappen(), spelers);
+    Lees(schijf, spelers);
     return spelers;
 }
 

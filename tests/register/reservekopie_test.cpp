@@ -11,9 +11,10 @@ using namespace plexoran;
 
 namespace {
 
-constexpr auto eigen = Overschrijven::AlleenEigen;
 constexpr const char* kopiemap = "C:\\club\\Spelers\\Reservekopie";
 const Tekst goedeRegel = "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n";
+const Tekst metGroepsnaam = "HKEY=100002\r\n2,100002,Gr01-Leden,Bea,,Cock,,,,,,,,,,,,\r\n";
+const Rijvelden nieuweSpeler{"9", "100009", "Gr01-", "", "", "Nieuw"};
 
 /// The path with every digit as a 9.
 Pad Cijferloos(Pad pad)
@@ -28,86 +29,55 @@ void VerwachtKopie(const Tekst& inhoud)
 {
     GeheugenSchijf schijf;
     Register spelers = Gelezen(schijf, inhoud);
-    spelers.tabel.VoegToe({"9", "100009", "Gr01-", "", "", "Nieuw"});
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    spelers.tabel.VoegToe(nieuweSpeler);
+    ASSERT_TRUE(Bewaar(schijf, spelers));
     EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{inhoud});
     EXPECT_EQ(schijf.Inhoud(spelerbestand), SpelersTekst(spelers));
     // What was lost is lost; the next save has nothing to add, read again or not.
     spelers.tabel.ZetCel(1, Kolom::Voornaam, "An");
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    ASSERT_TRUE(Bewaar(schijf, spelers));
     EXPECT_EQ(Kopieen(schijf).size(), 1U);
-    LeesSpelers(schijf, Proefmappen(), spelers);
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    Lees(schijf, spelers);
+    ASSERT_TRUE(Bewaar(schijf, spelers));
     EXPECT_EQ(Kopieen(schijf).size(), 1U);
-}
-
-void VerwachtGeenKopie(const Tekst& inhoud)
-{
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, inhoud);
-    spelers.tabel.VoegToe({"9", "100009", "Gr01-", "", "", "Nieuw"});
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
-    EXPECT_TRUE(Kopieen(schijf).empty()) << inhoud;
-    EXPECT_EQ(schijf.Soort(kopiemap), Padsoort::Niets);
 }
 
 } // namespace
 
-TEST(Reservekopie, FoutInDeEersteGang)
+TEST(Reservekopie, VanWatHetOpslaanVerliest)
 {
-    VerwachtKopie(goedeRegel + "1,2,3\r\n");
-    VerwachtKopie("onzin");
-    VerwachtKopie("HKEY=99999999999\r\n" + goedeRegel);
-}
-
-TEST(Reservekopie, FoutInDeTweedeGang)
-{
-    VerwachtKopie("HKEY=100002\r\n" + goedeRegel + "2,100002,Gr01-,,,Cock,\r\n" + goedeRegel);
-}
-
-TEST(Reservekopie, WeggelatenRegels)
-{
-    VerwachtKopie("HKEY=100002\r\n" + goedeRegel + "2,100002,Gr01-,Bea,,,,,,,,,,,,,,\r\n");
-}
-
-TEST(Reservekopie, VeldenTeVeel)
-{
-    VerwachtKopie("HKEY=100002\r\n2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,,negentien\r\n");
-}
-
-TEST(Reservekopie, TekstAchterDeGroepscode)
-{
-    VerwachtKopie("HKEY=100002\r\n2,100002,Gr01-Leden,Bea,,Cock,,,,,,,,,,,,\r\n");
-}
-
-TEST(Reservekopie, LegeSleutel)
-{
-    VerwachtKopie("HKEY=100002\r\n" + goedeRegel + "2,,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n");
-}
-
-TEST(Reservekopie, GeenOfGeenKaleSleutelregel)
-{
-    VerwachtKopie(goedeRegel);
-    VerwachtKopie("HKEY=100900\r\nHKEY=100001\r\n" + goedeRegel);
-    VerwachtKopie("HKEY=100001 zie schrift\r\n" + goedeRegel);
+    const Tekst sleutel = "HKEY=100002\r\n";
+    for (const Tekst& inhoud :
+         {goedeRegel + "1,2,3\r\n", Tekst("onzin"), "HKEY=99999999999\r\n" + goedeRegel,
+          sleutel + goedeRegel + "2,100002,Gr01-,,,Cock,\r\n" + goedeRegel,
+          sleutel + goedeRegel + "2,100002,Gr01-,Bea,,,,,,,,,,,,,,\r\n",
+          sleutel + "2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,,negentien\r\n", metGroepsnaam,
+          sleutel + goedeRegel + "2,,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n", goedeRegel,
+          "HKEY=100900\r\nHKEY=100001\r\n" + goedeRegel,
+          "HKEY=100001 zie schrift\r\n" + goedeRegel}) {
+        SCOPED_TRACE(inhoud);
+        VerwachtKopie(inhoud);
+    }
 }
 
 TEST(Reservekopie, NietAlsErNietsVerlorenGaat)
 {
-    VerwachtGeenKopie(vijfSpelers);
-    VerwachtGeenKopie("HKEY=100000\r\n");
-    VerwachtGeenKopie("");
-    VerwachtGeenKopie("\n\n  \n" + goedeRegel + "HKEY=5\r\n\r\n");
-    VerwachtGeenKopie("HKEY=100001\r1,100001,Gr01-,An,,Bos,,,,,,,,,,,,");
-    VerwachtGeenKopie("HKEY=100001\r\n,x,G,\x81,, ,,,,,,,,,,,,\r\n");
-}
-
-TEST(Reservekopie, NietAlsErNietsGeschrevenWordt)
-{
+    for (const Tekst& inhoud : {vijfSpelers, Tekst("HKEY=100000\r\n"), Tekst(),
+                                "\n\n  \n" + goedeRegel + "HKEY=5\r\n\r\n",
+                                Tekst("HKEY=100001\r1,100001,Gr01-,An,,Bos,,,,,,,,,,,,"),
+                                Tekst("HKEY=100001\r\n,x,G,\x81,, ,,,,,,,,,,,,\r\n")}) {
+        GeheugenSchijf schijf;
+        Register spelers = Gelezen(schijf, inhoud);
+        spelers.tabel.VoegToe(nieuweSpeler);
+        ASSERT_TRUE(Bewaar(schijf, spelers));
+        EXPECT_TRUE(Kopieen(schijf).empty()) << inhoud;
+        EXPECT_EQ(schijf.Soort(kopiemap), Padsoort::Niets);
+    }
+    // Nor where nothing is written.
     GeheugenSchijf schijf;
     Register spelers = Gelezen(schijf, "onzin");
     ASSERT_TRUE(spelers.kopieNodig);
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    ASSERT_TRUE(Bewaar(schijf, spelers));
     EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{spelerbestand});
 }
 
@@ -119,7 +89,7 @@ TEST(Reservekopie, GewijzigdDoorEenAnder)
     const Tekst ander = vijfSpelers + "6,100043,Gr01-,Fie,,Gans,,,,,,,,,,,,\r\n";
     schijf.Zet(spelerbestand, ander);
 
-    const auto geweigerd = SchrijfSpelers(schijf, Proefmappen(), spelers, eigen);
+    const auto geweigerd = Bewaar(schijf, spelers);
     ASSERT_FALSE(geweigerd);
     EXPECT_EQ(geweigerd.error().soort, Foutsoort::Gewijzigd);
     EXPECT_EQ(geweigerd.error().bestand, "C:\\club\\Spelers\\RVDspelers.txt");
@@ -127,21 +97,13 @@ TEST(Reservekopie, GewijzigdDoorEenAnder)
     EXPECT_TRUE(Kopieen(schijf).empty());
     EXPECT_EQ(spelers.tabel.Rijen(), 4);
 
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::OokGewijzigd));
+    ASSERT_TRUE(Bewaar(schijf, spelers, Overschrijven::OokGewijzigd));
     EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{ander});
     EXPECT_EQ(schijf.Inhoud(spelerbestand), SpelersTekst(spelers));
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
+    ASSERT_TRUE(Bewaar(schijf, spelers));
     EXPECT_EQ(Kopieen(schijf).size(), 1U);
-}
-
-TEST(Reservekopie, DezelfdeInhoudMaarLaterGeschrevenIsOokGewijzigd)
-{
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    schijf.ZetTijd(spelerbestand, 1);
-    const auto uitkomst = SchrijfSpelers(schijf, Proefmappen(), spelers, eigen);
-    ASSERT_FALSE(uitkomst);
-    EXPECT_EQ(uitkomst.error().soort, Foutsoort::Gewijzigd);
+    schijf.ZetTijd(spelerbestand, 1); // the same contents, but written at another time
+    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::Gewijzigd);
 }
 
 TEST(Reservekopie, OnleesbaarGeweestWordtNooitStilVervangen)
@@ -152,43 +114,34 @@ TEST(Reservekopie, OnleesbaarGeweestWordtNooitStilVervangen)
     for (int stap = 1; stap <= 2; ++stap) {
         schijf.FaalBij(stap);
         Register spelers;
-        ASSERT_TRUE(LeesSpelers(schijf, Proefmappen(), spelers).fout);
-        spelers.tabel.VoegToe({"1", "100009", "Gr01-", "", "", "Nieuw"});
-        const auto uitkomst = SchrijfSpelers(schijf, Proefmappen(), spelers, eigen);
-        ASSERT_FALSE(uitkomst);
-        EXPECT_EQ(uitkomst.error().soort, Foutsoort::Gewijzigd);
+        ASSERT_TRUE(Lees(schijf, spelers).fout);
+        spelers.tabel.VoegToe(nieuweSpeler);
+        EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::Gewijzigd);
         EXPECT_EQ(binnen.Inhoud(spelerbestand), vijfSpelers);
     }
 }
 
-TEST(Reservekopie, EenTweedePogingMaaktGeenTweedeKopie)
+TEST(Reservekopie, EenTweedePogingMaaktGeenTweedeKopieVanHetzelfdeBestand)
 {
-    const Tekst inhoud = "HKEY=100002\r\n2,100002,Gr01-Leden,Bea,,Cock,,,,,,,,,,,,\r\n";
-    GeheugenSchijf binnen;
-    Register spelers = Gelezen(binnen, inhoud);
-    binnen.ZetAlleenLezen(spelerbestand);
-    for (int poging = 1; poging <= 3; ++poging) {
-        EXPECT_FALSE(SchrijfSpelers(binnen, Proefmappen(), spelers, eigen));
-        EXPECT_EQ(Kopieen(binnen), std::vector<Tekst>{inhoud});
+    const Tekst ander = "HKEY=100002\r\n2,100002,Gr01-Jeugd,Bea,,Cock,,,,,,,,,,,,\r\n";
+    for (const bool gewijzigd : {false, true}) {
+        GeheugenSchijf schijf;
+        Register spelers = Gelezen(schijf, metGroepsnaam);
+        schijf.ZetAlleenLezen(spelerbestand);
+        for (int poging = 1; poging <= 3; ++poging) {
+            EXPECT_FALSE(Bewaar(schijf, spelers));
+            EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{metGroepsnaam});
+        }
+        schijf.ZetAlleenLezen(spelerbestand, false);
+        if (gewijzigd)
+            schijf.Zet(spelerbestand, ander);
+        EXPECT_TRUE(Bewaar(schijf, spelers,
+                           gewijzigd ? Overschrijven::OokGewijzigd : Overschrijven::AlleenEigen));
+        auto kopieen = Kopieen(schijf);
+        std::sort(kopieen.begin(), kopieen.end());
+        EXPECT_EQ(kopieen, gewijzigd ? std::vector<Tekst>({ander, metGroepsnaam})
+                                     : std::vector<Tekst>{metGroepsnaam});
     }
-    binnen.ZetAlleenLezen(spelerbestand, false);
-    EXPECT_TRUE(SchrijfSpelers(binnen, Proefmappen(), spelers, eigen));
-    EXPECT_EQ(Kopieen(binnen), std::vector<Tekst>{inhoud});
-}
-
-TEST(Reservekopie, EenAnderBestandSindsDeKopieVraagtEenNieuwe)
-{
-    const Tekst een = "HKEY=100002\r\n2,100002,Gr01-Leden,Bea,,Cock,,,,,,,,,,,,\r\n";
-    const Tekst twee = "HKEY=100002\r\n2,100002,Gr01-Jeugd,Bea,,Cock,,,,,,,,,,,,\r\n";
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, een);
-    schijf.ZetAlleenLezen(spelerbestand);
-    EXPECT_FALSE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
-    schijf.Zet(spelerbestand, twee);
-    EXPECT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, Overschrijven::OokGewijzigd));
-    auto kopieen = Kopieen(schijf);
-    std::sort(kopieen.begin(), kopieen.end());
-    EXPECT_EQ(kopieen, (std::vector<Tekst>{twee, een}));
 }
 
 TEST(Reservekopie, NaamMetDatumEnTijd)
@@ -203,15 +156,9 @@ TEST(Reservekopie, NaamMetDatumEnTijd)
     EXPECT_TRUE(maand >= "01" && maand <= "12") << *kopie;
     EXPECT_EQ(schijf.Inhoud(*kopie), "oud");
     EXPECT_EQ(schijf.Inhoud(spelerbestand), "oud");
-}
-
-TEST(Reservekopie, NaamZonderSoort)
-{
-    GeheugenSchijf schijf;
-    schijf.Zet("C:\\a.b\\bestand", "oud");
-    const auto kopie = MaakReservekopie(schijf, "C:\\a.b", "C:\\a.b\\bestand");
-    ASSERT_TRUE(kopie);
-    EXPECT_EQ(Cijferloos(*kopie), "C:\\a.b\\Reservekopie\\bestand 9999-99-99 999999");
+    schijf.Zet("C:\\a.b\\bestand", "oud"); // of no kind
+    EXPECT_EQ(Cijferloos(MaakReservekopie(schijf, "C:\\a.b", "C:\\a.b\\bestand").value()),
+              "C:\\a.b\\Reservekopie\\bestand 9999-99-99 999999");
 }
 
 TEST(Reservekopie, VervangtNooitEenAndere)
@@ -235,43 +182,36 @@ TEST(Reservekopie, VervangtNooitEenAndere)
 TEST(Reservekopie, ZonderKopieGeenOpslag)
 {
     // A file with the name of the folder stands in the way.
-    const Tekst inhoud = "HKEY=100002\r\n2,100002,Gr01-Leden,Bea,,Cock,,,,,,,,,,,,\r\n";
     GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, inhoud);
+    Register spelers = Gelezen(schijf, metGroepsnaam);
     schijf.Zet(kopiemap, "in de weg");
-    const auto uitkomst = SchrijfSpelers(schijf, Proefmappen(), spelers, eigen);
-    ASSERT_FALSE(uitkomst);
-    EXPECT_EQ(uitkomst.error().soort, Foutsoort::GeenReservekopie);
-    EXPECT_EQ(schijf.Inhoud(spelerbestand), inhoud);
+    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::GeenReservekopie);
+    EXPECT_EQ(schijf.Inhoud(spelerbestand), metGroepsnaam);
     EXPECT_TRUE(spelers.kopieNodig);
 
     schijf.Zet(groepenbestand, "onzin");
     Groepen zonderNamen;
-    const auto groepen = SchrijfGroepen(schijf, Proefmappen(), zonderNamen);
-    ASSERT_FALSE(groepen);
-    EXPECT_EQ(groepen.error().soort, Foutsoort::GeenReservekopie);
+    EXPECT_EQ(SoortVan(SchrijfGroepen(schijf, Proefmappen(), zonderNamen)),
+              Foutsoort::GeenReservekopie);
     EXPECT_EQ(schijf.Inhoud(groepenbestand), "onzin");
 
     schijf.Zet(instellingenbestand, "onzin");
-    const auto instellingen = SchrijfInstellingen(schijf, Proefmappen(), {});
-    ASSERT_FALSE(instellingen);
-    EXPECT_EQ(instellingen.error().soort, Foutsoort::GeenReservekopie);
+    EXPECT_EQ(SoortVan(SchrijfInstellingen(schijf, Proefmappen(), {})),
+              Foutsoort::GeenReservekopie);
     EXPECT_EQ(schijf.Inhoud(instellingenbestand), "onzin");
 
     ASSERT_TRUE(schijf.Verwijder(kopiemap));
-    ASSERT_TRUE(SchrijfSpelers(schijf, Proefmappen(), spelers, eigen));
-    EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{inhoud});
+    ASSERT_TRUE(Bewaar(schijf, spelers));
+    EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{metGroepsnaam});
 }
 
 TEST(Reservekopie, AlleenLezenMapSlaatNietOp)
 {
     GeheugenSchijf schijf;
     Register spelers = Gelezen(schijf, "onzin");
-    spelers.tabel.VoegToe({"1", "100009", "Gr01-", "", "", "Nieuw"});
+    spelers.tabel.VoegToe(nieuweSpeler);
     schijf.ZetAlleenLezen(spelersmap);
-    const auto uitkomst = SchrijfSpelers(schijf, Proefmappen(), spelers, eigen);
-    ASSERT_FALSE(uitkomst);
-    EXPECT_EQ(uitkomst.error().soort, Foutsoort::GeenReservekopie);
+    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::GeenReservekopie);
     EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{spelerbestand});
     EXPECT_EQ(schijf.Inhoud(spelerbestand), "onzin");
 }
@@ -286,13 +226,86 @@ TEST(Reservekopie, OpDeEchteSchijf)
     Register spelers;
     ASSERT_TRUE(LeesSpelers(schijf, mappen, spelers).fout);
     spelers.tabel.VoegToe({"1", "100001", "Gr01-", "", "", "Nieuw"});
-    ASSERT_TRUE(SchrijfSpelers(schijf, mappen, spelers, eigen));
+    ASSERT_TRUE(SchrijfSpelers(schijf, mappen, spelers, Overschrijven::AlleenEigen));
     EXPECT_EQ(Kopieen(schijf, mappen), std::vector<Tekst>{"\x81,onzin\r\n"});
     EXPECT_EQ(map.Inhoud("Spelers/RVDspelers.txt"), "HKEY=100000\r\n"
                                                     "1,100001,Gr01-,,,Nieuw,,,,,,,,,,,,\r\n");
 
     map.Zet("Spelers/RVDspelers.txt", vijfSpelers + "6,100043,Gr01-,Fie,,Gans,,,,,,,,,,,,\r\n");
-    const auto gewijzigd = SchrijfSpelers(schijf, mappen, spelers, eigen);
-    ASSERT_FALSE(gewijzigd);
-    EXPECT_EQ(gewijzigd.error().soort, Foutsoort::Gewijzigd);
+    EXPECT_EQ(SoortVan(SchrijfSpelers(schijf, mappen, spelers, Overschrijven::AlleenEigen)),
+              Foutsoort::Gewijzigd);
+}
+
+// ---- The files that the start makes anew
+
+namespace {
+
+/// The player file or the group file.
+class AanmaakTest : public testing::TestWithParam<bool> {
+  protected:
+    Aanmaak Maak()
+    {
+        return GetParam() ? MaakSpelerbestand(schijf_, Proefmappen(), spelers_)
+                          : MaakGroepenbestand(schijf_, Proefmappen());
+    }
+
+    GeheugenSchijf schijf_;
+    Register spelers_;
+    Pad bestand_ = GetParam() ? spelerbestand : groepenbestand;
+    Tekst nieuw_ = GetParam() ? "HKEY=100000\r\n" : GroepenTekst(Groepen());
+};
+
+INSTANTIATE_TEST_SUITE_P(, AanmaakTest, testing::Bool(),
+                         [](const auto& soort) { return soort.param ? "Spelers" : "Groepen"; });
+
+} // namespace
+
+TEST_P(AanmaakTest, OntbrekendWordtGemaakt)
+{
+    schijf_.ZetMap(spelersmap);
+    ASSERT_TRUE(Maak().gemaakt);
+    EXPECT_EQ(schijf_.Inhoud(bestand_), nieuw_);
+    EXPECT_EQ(schijf_.AlleBestanden(), std::vector<Pad>{bestand_});
+    EXPECT_EQ(spelers_.HKEY, GetParam() ? 100000 : 0);
+}
+
+TEST_P(AanmaakTest, LeegWordtOpnieuwGemaaktZonderKopie)
+{
+    for (const Tekst leeg : {"", "\r\n", "    ", " \n \r\r\n"}) {
+        schijf_.Zet(bestand_, leeg);
+        ASSERT_TRUE(Maak().gemaakt);
+        EXPECT_EQ(schijf_.Inhoud(bestand_), nieuw_);
+        EXPECT_TRUE(Kopieen(schijf_).empty());
+    }
+}
+
+/// Meant: a blank first item makes the file anew whatever follows; the copy keeps it.
+TEST_P(AanmaakTest, EersteItemBlancoWordtOpnieuwGemaaktMetKopie)
+{
+    std::size_t kopieen = 0;
+    for (const Tekst& half : {"\r\n" + vijfSpelers, "  \n" + vijfSpelers, Tekst(",\r\n"),
+                              Tekst("  ,Gr01-a\r\n"), Tekst(" \nx"), "," + goedeRegel}) {
+        schijf_.Zet(bestand_, half);
+        spelers_.HKEY = 0;
+        const Aanmaak aanmaak = Maak();
+        ASSERT_TRUE(aanmaak.gemaakt);
+        EXPECT_EQ(schijf_.Inhoud(bestand_), nieuw_);
+        EXPECT_EQ(spelers_.HKEY, GetParam() ? 100000 : 0);
+        EXPECT_EQ(schijf_.Inhoud(aanmaak.kopie), half);
+        EXPECT_EQ(Kopieen(schijf_).size(), ++kopieen);
+    }
+}
+
+TEST_P(AanmaakTest, AndersBlijftHetZoalsHetIs)
+{
+    for (const Tekst& inhoud : {vijfSpelers, Tekst("onzin\r\n\r\n"), Tekst("\t\r\n"), Tekst("x"),
+                                Tekst("Gr01-a\r\n"), Tekst("HKEY=\r\n"), Tekst("\0", 1)}) {
+        schijf_.Zet(bestand_, inhoud);
+        const auto voor = schijf_.NeemStempel(bestand_);
+        ASSERT_TRUE(Maak().gemaakt);
+        EXPECT_EQ(schijf_.Inhoud(bestand_), inhoud);
+        EXPECT_EQ(schijf_.NeemStempel(bestand_), *voor);
+        EXPECT_EQ(spelers_.HKEY, 0);
+        EXPECT_TRUE(Kopieen(schijf_).empty());
+    }
 }

@@ -47,27 +47,20 @@ Rijvelden Genummerd(char letter)
 
 } // namespace
 
-TEST(Kolomnamen, InHunVolgorde)
+TEST(Kolom, NamenEnNummersInHunVolgorde)
 {
     Tekst namen;
     for (const Tekstblik naam : Kolomnamen)
         namen += Tekst(naam) + " ";
     EXPECT_EQ(namen, "Nr Key Groep Voornaam Tusv Achternaam Telef Email Adres Postc Plaats Land "
                      "M/V Div1 Div2 Status NBBgr NBBnr ");
-}
-
-TEST(Kolom, NummersVanDeVelden)
-{
-    EXPECT_EQ(static_cast<int>(Kolom::Nr), 1);
-    EXPECT_EQ(static_cast<int>(Kolom::Groep), 3);
-    EXPECT_EQ(static_cast<int>(Kolom::Achternaam), 6);
-    EXPECT_EQ(static_cast<int>(Kolom::NBBgr), 17);
-    EXPECT_EQ(static_cast<int>(Kolom::NBBnr), 18);
-}
-
-TEST(Spelertabel, LeegBijHetBegin)
-{
-    EXPECT_EQ(Spelertabel().Rijen(), 0);
+    const std::pair<Kolom, int> nummers[] = {{Kolom::Nr, 1},
+                                             {Kolom::Groep, 3},
+                                             {Kolom::Achternaam, 6},
+                                             {Kolom::NBBgr, 17},
+                                             {Kolom::NBBnr, 18}};
+    for (const auto& [kolom, nummer] : nummers)
+        EXPECT_EQ(static_cast<int>(kolom), nummer);
 }
 
 TEST(Spelertabel, ElkeCelVanEenRij)
@@ -224,7 +217,7 @@ TEST(Spelertabel, VoegKopieToeMetBlikkenOpDeTabelZelf)
 }
 
 /// The last cell of the file has no separator behind it, the group's name stands behind its code.
-TEST(Spelertabel, VoegKopieToeVanEenLaatsteRegelZonderEinde)
+TEST(Spelertabel, VoegToeAchterEenLaatsteRegelZonderEinde)
 {
     Spelertabel tabel = Tabel("1,100001,Gr01-Leden,An,,Bos,,,,,,,,,,,,12");
     tabel.VoegKopieToe(1, {});
@@ -232,6 +225,9 @@ TEST(Spelertabel, VoegKopieToeVanEenLaatsteRegelZonderEinde)
     EXPECT_EQ(tabel.Velden(2), tabel.Velden(1));
     EXPECT_EQ(Cellen(tabel, 2), "100001,Gr01-,An,,Bos,,,,,,,,,,,,12");
     EXPECT_EQ(Cellen(tabel, 3), "100001,Gr02-,An,,Bos,,,,,,,,,,,x,12");
+    tabel.VoegToe(Genummerd('x'));
+    EXPECT_EQ(tabel.Velden(4), Genummerd('x'));
+    EXPECT_EQ(tabel.Cel(1, Kolom::NBBnr), "12");
 }
 
 TEST(Spelertabel, VanDeGroepTellenVijfTekens)
@@ -243,16 +239,6 @@ TEST(Spelertabel, VanDeGroepTellenVijfTekens)
     EXPECT_EQ(Cellen(tabel, 1), "100001,Gr02-,An,,Bos,,,,,,,,,,,,x");
     tabel.ZetCel(1, Kolom::Groep, "Gr");
     EXPECT_EQ(Cellen(tabel, 1), "100001,Gr,An,,Bos,,,,,,,,,,,,x");
-}
-
-TEST(Spelertabel, VoegToeAchterEenLaatsteRegelZonderEinde)
-{
-    Spelertabel tabel = Tabel("1,100001,Gr01-,An,,Bos,,,,,,,,,,,,12");
-    tabel.VoegToe(Genummerd('x'));
-    ASSERT_EQ(tabel.Rijen(), 2);
-    EXPECT_EQ(tabel.Cel(1, Kolom::NBBnr), "12");
-    EXPECT_EQ(tabel.Cel(2, Kolom::Nr), "x1");
-    EXPECT_EQ(tabel.Cel(2, Kolom::NBBnr), "x18");
 }
 
 /// The empty cell begins where the file ends.
@@ -272,31 +258,18 @@ TEST(Spelertabel, EenLegeLaatsteCelZonderRegeleinde)
     EXPECT_EQ(Cellen(tabel, 2), "100001,Gr01-,An,,Bos,,,,,,,,,,,BB,");
 }
 
-TEST(Spelertabel, VeldenGeeftDeRij)
-{
-    Spelertabel tabel;
-    tabel.VoegToe(Genummerd('x'));
-    tabel.VoegToe(Genummerd('y'));
-    EXPECT_EQ(tabel.Velden(1), Genummerd('x'));
-    EXPECT_EQ(tabel.Velden(2), Genummerd('y'));
-}
-
-TEST(Spelertabel, VerwijderTweeEnDrieVanVijf)
-{
-    Spelertabel tabel = VijfRijen();
-    tabel.VerwijderRijen(std::vector<int>{2, 3});
-    EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;3;");
-    EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100001;100004;100042;");
-    EXPECT_EQ(Cellen(tabel, 3), "100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,"
-                                "een,twee,,,");
-}
-
 TEST(Spelertabel, VerwijderInElkeVolgordeEnDubbel)
 {
-    Spelertabel tabel = VijfRijen();
-    tabel.VerwijderRijen(std::vector<int>{5, 1, 5, 3});
-    EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;");
-    EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100005;100004;");
+    const std::pair<std::vector<int>, Tekst> gevallen[] = {{{2, 3}, "100001;100004;100042;"},
+                                                           {{5, 1, 5, 3}, "100005;100004;"}};
+    for (const auto& [weg, keys] : gevallen) {
+        Spelertabel tabel = VijfRijen();
+        tabel.ZetCel(4, Kolom::Voornaam, "Dirkje"); // also what was changed before
+        tabel.VerwijderRijen(weg);
+        EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), tabel.Rijen() == 3 ? "1;2;3;" : "1;2;");
+        EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), keys);
+        EXPECT_EQ(tabel.Cel(2, Kolom::Voornaam), "Dirkje");
+    }
 }
 
 TEST(Spelertabel, VerwijderNietsOfAlles)
@@ -308,16 +281,6 @@ TEST(Spelertabel, VerwijderNietsOfAlles)
     EXPECT_EQ(tabel.Rijen(), 0);
     tabel.VoegToe(Genummerd('x'));
     EXPECT_EQ(tabel.Velden(1), Genummerd('x'));
-}
-
-TEST(Spelertabel, VerwijderLaatEenRijMetLeegNummerStaan)
-{
-    Spelertabel tabel = Tabel(",100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
-                              "2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
-                              ",100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
-    tabel.VerwijderRijen(std::vector<int>{2});
-    EXPECT_EQ(Kolomtekst(tabel, Kolom::Nr), "1;2;");
-    EXPECT_EQ(Kolomtekst(tabel, Kolom::Key), "100001;100003;");
 }
 
 /// A number that does not fit where the old one stands.
@@ -338,15 +301,6 @@ TEST(Spelertabel, VerwijderMaaktOokPlaatsVoorEenLangerNummer)
         moet[1] = std::to_string(rij < 59 ? rij : rij + 1);
         ASSERT_EQ(tabel.Velden(rij), moet);
     }
-}
-
-TEST(Spelertabel, VerwijderNaWijzigen)
-{
-    Spelertabel tabel = VijfRijen();
-    tabel.ZetCel(4, Kolom::Voornaam, "Dirkje");
-    tabel.ZetCel(1, Kolom::Voornaam, "Anna");
-    tabel.VerwijderRijen(std::vector<int>{3});
-    EXPECT_EQ(Kolomtekst(tabel, Kolom::Voornaam), "Anna;Bea;Dirkje;Els;");
 }
 
 TEST(Spelertabel, DoetAlsEenGewoneLijst)
@@ -408,13 +362,8 @@ TEST(Sleutelwijzer, DeEersteRijMetDeSleutel)
     EXPECT_EQ(0, wijzer.Rij("100003"));
     EXPECT_EQ(0, wijzer.Rij("10000"));
     EXPECT_EQ(0, wijzer.Rij("1000011"));
-}
-
-TEST(Sleutelwijzer, EenTabelZonderRijen)
-{
-    const Spelertabel tabel;
-    EXPECT_EQ(0, Sleutelwijzer(tabel).Rij("100001"));
-    EXPECT_EQ(0, Sleutelwijzer(tabel).Rij(""));
+    const Spelertabel leeg;
+    EXPECT_EQ(0, Sleutelwijzer(leeg).Rij(""));
 }
 
 /// Rows may be added, which are not found, and other cells changed while the index is used.

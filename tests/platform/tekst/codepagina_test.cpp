@@ -95,40 +95,15 @@ TEST(Codepagina, NaasteLetters)
     const std::u16string_view letters = u"ĐƉđƏəǤǥĦħıĸŁłŊŋŦŧƷʒ";
     for (std::size_t i = 0; i < letters.size(); ++i)
         EXPECT_EQ(NaastVan(letters.substr(i, 1)), Tekst(1, "DDdEeGgHhikLlNnTtZz"[i])) << i;
-    const std::pair<std::u16string_view, Tekst> andere[] = {// letters that decompose
-                                                            {u"ő", "o"},
-                                                            {u"ấ", "a"},
-                                                            {u"Ș", "S"},
-                                                            {u"ǽ", "\xE6"},
-                                                            {u"ĳ", "ij"},
-                                                            {u"ﬃ", "ffi"},
-                                                            {u"①", "1"},
-                                                            {u"Ａ", "A"},
-                                                            {u"№", "No"},
-                                                            {u"⅓", "1/3"},
-                                                            {u"ŉ", "\x92n"},
-                                                            // and that do not
-                                                            {u"ẞ", "SS"},
-                                                            {u"Ǆ", "D\x8E"},
-                                                            {u"ǅ", "D\x9E"},
-                                                            {u"ǆ", "d\x9E"},
-                                                            {u"ǯ", "z"},
-                                                            {u"\u2010", "-"},
-                                                            {u"\u2011", "-"},
-                                                            {u"\u2212", "-"},
-                                                            {u"\u2012", "\x96"},
-                                                            {u"\u2015", "\x97"},
-                                                            {u"\u2009", " "},
-                                                            {u"\u202F", " "},
-                                                            {u"\u02BC", "\x92"},
-                                                            {u"\u201B", "\x91"},
-                                                            {u"\u2032", "'"},
-                                                            {u"\u02B9", "'"},
-                                                            {u"\u02C8", "'"},
-                                                            {u"\u2033", "\""},
-                                                            {u"\u03BC", "\xB5"},
-                                                            {u"\u2044", "/"},
-                                                            {u"\u2215", "/"}};
+    const std::pair<std::u16string_view, Tekst> andere[] = {
+        {u"ő", "o"},         {u"ấ", "a"},         {u"Ș", "S"},      {u"ǽ", "\xE6"},
+        {u"ĳ", "ij"},        {u"ﬃ", "ffi"},       {u"①", "1"},      {u"Ａ", "A"},
+        {u"№", "No"},        {u"⅓", "1/3"},       {u"ŉ", "\x92n"},  {u"ẞ", "SS"},
+        {u"Ǆ", "D\x8E"},     {u"ǅ", "D\x9E"},     {u"ǆ", "d\x9E"},  {u"ǯ", "z"},
+        {u"\u2010", "-"},    {u"\u2011", "-"},    {u"\u2212", "-"}, {u"\u2012", "\x96"},
+        {u"\u2015", "\x97"}, {u"\u2009", " "},    {u"\u202F", " "}, {u"\u02BC", "\x92"},
+        {u"\u201B", "\x91"}, {u"\u2032", "'"},    {u"\u02B9", "'"}, {u"\u02C8", "'"},
+        {u"\u2033", "\""},   {u"\u03BC", "\xB5"}, {u"\u2044", "/"}, {u"\u2215", "/"}};
     for (const auto& [teken, door] : andere)
         EXPECT_EQ(NaastVan(teken), door);
 }

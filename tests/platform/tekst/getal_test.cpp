@@ -6,44 +6,17 @@
 
 using namespace plexoran;
 
+/// Without digits it is 0; what follows does not count; a fraction rounds, a half to the even
+/// number.
 TEST(Getal, HetBeginVanDeTekst)
 {
-    const std::pair<const char*, int> gevallen[] = {{"0", 0},
-                                                    {"123", 123},
-                                                    {"-45", -45},
-                                                    {"+7", 7},
-                                                    {"007", 7},
-                                                    {"   12", 12},
-                                                    // without digits
-                                                    {"", 0},
-                                                    {"   ", 0},
-                                                    {"abc", 0},
-                                                    {"-", 0},
-                                                    {".", 0},
-                                                    {"--5", 0},
-                                                    {"x5", 0},
-                                                    // what follows does not count
-                                                    {"12abc", 12},
-                                                    {"12,5", 12},
-                                                    {"12-3", 12},
-                                                    {"3.", 3},
-                                                    {"3.x9", 3},
-                                                    {"1.4.9", 1},
-                                                    // a fraction rounds
-                                                    {"2.4", 2},
-                                                    {"2.6", 3},
-                                                    {"2.49999", 2},
-                                                    {"-2.6", -3},
-                                                    {".7", 1},
-                                                    // a half to the even number
-                                                    {"0.5", 0},
-                                                    {"1.5", 2},
-                                                    {"2.5", 2},
-                                                    {"2.500", 2},
-                                                    {"2.501", 3},
-                                                    {"2.5x1", 2},
-                                                    {"-1.5", -2},
-                                                    {"-2.5", -2}};
+    const std::pair<const char*, int> gevallen[] = {
+        {"0", 0},     {"123", 123},  {"-45", -45}, {"+7", 7},      {"007", 7},   {"   12", 12},
+        {"", 0},      {"   ", 0},    {"abc", 0},   {"-", 0},       {".", 0},     {"--5", 0},
+        {"x5", 0},    {"12abc", 12}, {"12,5", 12}, {"12-3", 12},   {"3.", 3},    {"3.x9", 3},
+        {"1.4.9", 1}, {"2.4", 2},    {"2.6", 3},   {"2.49999", 2}, {"-2.6", -3}, {".7", 1},
+        {"0.5", 0},   {"1.5", 2},    {"2.5", 2},   {"2.500", 2},   {"2.501", 3}, {"2.5x1", 2},
+        {"-1.5", -2}, {"-2.5", -2}};
     for (const auto& [tekst, getal] : gevallen)
         EXPECT_EQ(Geheel32(tekst), getal) << tekst;
 }
