@@ -5,7 +5,6 @@
 
 #include <memory>
 
-#include "hulp/legewinkel.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "pairs/frmParenOnderhoud.h"
@@ -48,7 +47,7 @@ Tekst Parentekst()
 }
 
 struct Proef {
-    Proef() : suite(Proeftekst()), administratie{.schijf = schijf, .winkel = winkel}
+    Proef() : suite(Proeftekst()), administratie{.schijf = schijf, .winkel = {}}
     {
         administratie.mappen = suite.Instellingen();
         LeesSpelers(schijf, administratie.mappen, administratie.spelers);
@@ -64,7 +63,6 @@ struct Proef {
     }
 
     EchteSchijf schijf;
-    LegeWinkel winkel;
     Proefsuite suite;
     Administratie administratie;
     bool goed = false;

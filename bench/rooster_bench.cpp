@@ -6,7 +6,6 @@
 
 #include <memory>
 
-#include "hulp/legewinkel.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "mainwindow/frmLedenAdmin.h"
@@ -21,8 +20,8 @@ constexpr int Basis = 100; ///< players of the register with which painting is c
 /// The main window on a register of one size, everybody in the shown group.
 struct Proef {
     explicit Proef(int spelers)
-        : suite(MaakRegister(spelers, Verdeling::EenGroep)), administratie{.schijf = schijf,
-                                                                           .winkel = winkel},
+        : suite(MaakRegister(spelers, Verdeling::EenGroep)),
+          administratie{.schijf = schijf, .winkel = [](auto...) { return std::nullopt; }},
           venster(administratie)
     {
         const auto status =
@@ -36,7 +35,6 @@ struct Proef {
     QScrollBar& VScroll1() const { return *venster.findChild<QScrollBar*>(u"VScroll1"_s); }
 
     EchteSchijf schijf;
-    LegeWinkel winkel;
     Proefsuite suite;
     Administratie administratie;
     frmLedenAdmin venster;

@@ -25,8 +25,7 @@ int main(int argc, char** argv)
 
     EchteSchijf schijf;
     Exemplaarslot slot(opdrachten.slot.empty() ? Slotbestand() : opdrachten.slot);
-    const auto winkel = MaakInstellingenwinkel(schijf);
-    Administratie administratie{.schijf = schijf, .winkel = *winkel};
+    Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
     frmLedenAdmin venster(administratie);
     const Startgegevens start{.mappenIni = opdrachten.mappenIni.empty()
                                                ? MappenIniPad(Programmamap())

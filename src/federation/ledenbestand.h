@@ -14,10 +14,10 @@ enum class Ledenbron { Database = 1, Csv, XmlNbb3, XmlNbb4 };
 /// What a reading needs to know beside the name of the member file.
 struct Ledenopdracht {
     Ledenbron bron = Ledenbron::Csv;
-    Pad map;           ///< chosen folder of the files; not used for the database
-    Pad programmamap;  ///< where the intermediate file comes
-    Pad LedenDatabase; ///< used for the database only
-    Importkeuzes keuzes;
+    Pad map{};           ///< chosen folder of the files; not used for the database
+    Pad programmamap{};  ///< where the intermediate file comes
+    Pad LedenDatabase{}; ///< used for the database only
+    Importkeuzes keuzes{};
     Accessgrenzen grenzen{}; ///< of reading the database
 };
 

@@ -2,11 +2,11 @@
 
 namespace plexoran {
 
-Rekenprogramma ZoekRekenprogramma(Instellingenwinkel& winkel,
+Rekenprogramma ZoekRekenprogramma(const Instellingenwinkel& winkel,
                                   const std::function<Programma()>& kies)
 {
-    const auto nbbr = winkel.Waarde("NBB-Rekenprogramma", "Options", "DataRoot");
-    const auto bridgeIt = winkel.Waarde("Bridge-It", "Options", "DataRoot");
+    const auto nbbr = winkel("NBB-Rekenprogramma", "Options", "DataRoot");
+    const auto bridgeIt = winkel("Bridge-It", "Options", "DataRoot");
     Rekenprogramma gevonden;
     gevonden.NBBRaanwezig = nbbr.has_value();
     gevonden.BRITaanwezig = bridgeIt.has_value();

@@ -24,7 +24,7 @@ struct Rekenprogramma {
 /// `main` owns it, windows receive it by reference.
 struct Administratie {
     Schijf& schijf;
-    Instellingenwinkel& winkel;        ///< what other programs left for this user
+    Instellingenwinkel winkel;         ///< what other programs left for this user
     Pad programmamap = Programmamap(); ///< where the running program stands
     Mappen mappen{};
     Instellingen instellingen{};

@@ -51,8 +51,7 @@ int main(int argc, char** argv)
     RichtIn(programma);
 
     EchteSchijf schijf;
-    const auto winkel = MaakInstellingenwinkel(schijf);
-    Administratie administratie{.schijf = schijf, .winkel = *winkel};
+    Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
     frmLedenAdmin hoofdvenster(administratie);
     if (const auto eindstatus =
             hoofdvenster.Laad({.mappenIni = VolledigPad(woorden[1].toStdString()),

@@ -25,8 +25,7 @@ Ledenopdracht Opdracht(Ledenbron bron)
     return {.bron = bron,
             .map = "C:\\Export",
             .programmamap = "C:\\P",
-            .LedenDatabase = "C:\\Data\\Members.mdb",
-            .keuzes = {}};
+            .LedenDatabase = "C:\\Data\\Members.mdb"};
 }
 
 Tekst Xml(const Tekst& leden)

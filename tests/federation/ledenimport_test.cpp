@@ -9,10 +9,6 @@ namespace {
 
 using Namen = std::vector<Tekst>;
 
-class GeenWinkel : public Instellingenwinkel {
-    std::optional<Tekst> Waarde(Tekstblik, Tekstblik, Tekstblik) override { return std::nullopt; }
-};
-
 class LedenimportTest : public testing::Test {
   protected:
     LedenimportTest()
@@ -25,8 +21,7 @@ class LedenimportTest : public testing::Test {
     }
 
     GeheugenSchijf schijf;
-    GeenWinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel, .programmamap = "C:\\P"};
+    Administratie administratie{.schijf = schijf, .winkel = {}, .programmamap = "C:\\P"};
     Importgeheugen geheugen;
     Ledenimport import{administratie, geheugen};
 };

@@ -1,5 +1,8 @@
 #include "federation/ledenbronnen.h"
 
+#include <functional>
+#include <map>
+
 #include <gtest/gtest.h>
 
 #include "schijven/falendeSchijf.h"
@@ -42,15 +45,8 @@ Tekst Lid(Omzetter omzetter, const Tekst& kinderen)
     return uit.ends_with("\r\n\r\n") ? uit.substr(0, uit.size() - 4) : uit;
 }
 
-Tekst Lid4(const Tekst& elementen)
-{
-    return Lid(ConverteerNBB4XML, elementen);
-}
-
-Tekst Lid3(const Tekst& kinderen)
-{
-    return Lid(ConverteerNBB3XML, kinderen);
-}
+const auto Lid3 = std::bind_front(Lid, ConverteerNBB3XML);
+const auto Lid4 = std::bind_front(Lid, ConverteerNBB4XML);
 
 TEST(Nbb4Xml, VultDeVeldenOpNaam)
 {
@@ -210,48 +206,40 @@ TEST(Nbb4Xml, EenBestandDatNietTeLadenIsGeeftEenLeegTussenbestandEnDeReden)
     EXPECT_FALSE(ConverteerNBB4XML(schijf, bestand, tussenbestand)->nietGeladen.has_value());
 }
 
-/// Fifteen children, each with its position as its text, apart from the exceptions.
-Tekst Posities(const Tekst& eerste, const std::vector<std::pair<int, Tekst>>& uitzonderingen = {})
+/// Seventeen children, each with its position as its text, apart from the exceptions.
+Tekst Posities(const std::map<int, Tekst>& uitzonderingen = {})
 {
-    Tekst uit = eerste;
+    Tekst uit;
     for (int positie = 1; positie <= 17; ++positie) {
-        Tekst tekst = std::to_string(positie);
-        for (const auto& [waar, anders] : uitzonderingen) {
-            if (waar == positie)
-                tekst = anders;
-        }
-        uit += "\r\n      <Veld>" + tekst + "</Veld>";
+        const auto anders = uitzonderingen.find(positie);
+        uit += "\r\n      <Veld>" +
+               (anders == uitzonderingen.end() ? std::to_string(positie) : anders->second) +
+               "</Veld>";
     }
     return uit;
 }
 
 TEST(Nbb3Xml, VultDeVeldenOpPlaats)
 {
-    EXPECT_EQ(Lid3(Posities("")), "4;;15;14;13;1;2;10;9;12;5;;;;;;");
-    EXPECT_EQ(Lid3(Posities("", {{7, "vrouw"}, {12, ""}})), "4;V;15;14;13;1;2;10;9;11;5;;;;;;");
-    EXPECT_EQ(Lid3(Posities("", {{7, "MALE"}, {11, ""}})), "4;M;15;14;13;1;2;10;9;12;5;;;;;;");
+    EXPECT_EQ(Lid3(Posities()), "4;;15;14;13;1;2;10;9;12;5;;;;;;");
+    EXPECT_EQ(Lid3(Posities({{7, "vrouw"}, {12, ""}})), "4;V;15;14;13;1;2;10;9;11;5;;;;;;");
+    EXPECT_EQ(Lid3(Posities({{7, "MALE"}, {11, ""}})), "4;M;15;14;13;1;2;10;9;12;5;;;;;;");
 }
 
-TEST(Nbb3Xml, NamenDoenErNietToe)
+TEST(Nbb3Xml, NamenDoenErNietToeEnEenPartnerBlijftZoalsHijStaat)
 {
     EXPECT_EQ(Lid3("<LeagueId>Ek</LeagueId><Voornaam>Brink 1</Voornaam>"),
               ";;;;;Ek;Brink 1;;;;;;;;;;");
+    EXPECT_EQ(Lid3("<A>Partner van X</A>"), ";;;;;Partner van X;;;;;;;;;;;");
 }
 
 TEST(Nbb3Xml, ElkeKnoopNeemtEenPlaatsMaarAlleenEenElementVult)
 {
-    EXPECT_EQ(Lid3("<!--c-->" + Posities("")), "3;;14;13;12;;1;9;8;11;4;;;;;;");
-    EXPECT_EQ(Lid3("<?p i?>" + Posities("")), "3;;14;13;12;;1;9;8;11;4;;;;;;");
-    EXPECT_EQ(Lid3("tekst" + Posities("")), "3;;14;13;12;;1;9;8;11;4;;;;;;");
-    EXPECT_EQ(Lid3("tekst<!--c-->" + Posities("")), "2;;13;12;11;;;8;7;10;3;;;;;;");
-    EXPECT_EQ(Lid3("<![CDATA[x]]>" + Posities("")), "3;;14;13;12;;1;9;8;11;4;;;;;;");
-    EXPECT_EQ(Lid3(" \r\n\t " + Posities("")), "4;;15;14;13;1;2;10;9;12;5;;;;;;")
+    for (const char* knoop : {"<!--c-->", "<?p i?>", "tekst", "<![CDATA[x]]>"})
+        EXPECT_EQ(Lid3(knoop + Posities()), "3;;14;13;12;;1;9;8;11;4;;;;;;") << knoop;
+    EXPECT_EQ(Lid3("tekst<!--c-->" + Posities()), "2;;13;12;11;;;8;7;10;3;;;;;;");
+    EXPECT_EQ(Lid3(" \r\n\t " + Posities()), "4;;15;14;13;1;2;10;9;12;5;;;;;;")
         << "wit tussen de elementen telt niet";
-}
-
-TEST(Nbb3Xml, EenPartnerBlijftZoalsHijStaat)
-{
-    EXPECT_EQ(Lid3("<A>Partner van X</A>"), ";;;;;Partner van X;;;;;;;;;;;");
 }
 
 TEST(Nbb3Xml, WatGeenXmlIsIsEenFoutEnLaatHetTussenbestandStaan)
@@ -313,13 +301,10 @@ TEST(LedenXml, LeestElkeCodering)
         groot += '\0';
         groot += teken;
     }
-    EXPECT_EQ(Geeft(ConverteerNBB4XML, klein), verwacht);
-    EXPECT_EQ(Geeft(ConverteerNBB4XML, groot), verwacht);
-    EXPECT_EQ(Geeft(ConverteerNBB4XML, klein.substr(2)), verwacht);
-    EXPECT_EQ(Geeft(ConverteerNBB4XML, "<?xml version='1.0' encoding='Windows-1252'?>" + hol),
-              verwacht);
-    EXPECT_EQ(Geeft(ConverteerNBB4XML, "<?xml version='1.0' encoding='iso-8859-1'?>" + hol),
-              verwacht);
+    for (const Tekst& inhoud :
+         {klein, groot, klein.substr(2), "<?xml version='1.0' encoding='Windows-1252'?>" + hol,
+          "<?xml version='1.0' encoding='iso-8859-1'?>" + hol})
+        EXPECT_EQ(Geeft(ConverteerNBB4XML, inhoud), verwacht);
 }
 
 TEST(LedenXml, MeldtHoeVerHetIsEnGaatDoor)

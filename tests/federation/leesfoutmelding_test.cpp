@@ -12,19 +12,15 @@ std::string Melding(Ledenbron bron, const Fout& fout, Leesdoel doel = Leesdoel::
 
 TEST(Leesfouttekst, BegintNaarDeBron)
 {
-    const Fout fout{.soort = Foutsoort::Ontbreekt,
-                    .bestand = "/a/b",
-                    .regel = 0,
-                    .systeem = "No such file or directory"};
+    const Fout fout{
+        .soort = Foutsoort::Ontbreekt, .bestand = "/a/b", .systeem = "No such file or directory"};
     const std::string rest = "\r\nHet bestand is er niet (meer); er is niets uit geïmporteerd. ";
-    const std::string vervolg =
-        "Exporteer het opnieuw of kies een ander ledenbestand.\r\n\r\nBestand: /a/b";
-    EXPECT_EQ(Melding(Ledenbron::XmlNbb3, fout),
-              "Fout bij het lezen van 'Café 30.x' NBB3-XML-bestand" + rest + vervolg);
-    EXPECT_EQ(Melding(Ledenbron::XmlNbb4, fout),
-              "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand" + rest + vervolg);
-    EXPECT_EQ(Melding(Ledenbron::Csv, fout),
-              "Fout bij het lezen van 'Café 30.x' CSV-bestand" + rest + vervolg);
+    for (const auto& [bron, soort] : {std::pair{Ledenbron::XmlNbb3, "NBB3-XML"},
+                                      {Ledenbron::XmlNbb4, "NBB4-XML"},
+                                      {Ledenbron::Csv, "CSV"}})
+        EXPECT_EQ(Melding(bron, fout),
+                  Tekst("Fout bij het lezen van 'Café 30.x' ") + soort + "-bestand" + rest +
+                      "Exporteer het opnieuw of kies een ander ledenbestand.\r\n\r\nBestand: /a/b");
     EXPECT_EQ(Melding(Ledenbron::Database, fout),
               "Fout bij het lezen van het ledenbestand (alle items)!" + rest +
                   "Kies zo nodig een geëxporteerd ledenbestand.\r\n\r\nBestand: /a/b");
@@ -32,13 +28,11 @@ TEST(Leesfouttekst, BegintNaarDeBron)
 
 TEST(Leesfouttekst, NoemtWatErMisIsEnWaar)
 {
-    EXPECT_EQ(Melding(Ledenbron::Database, {.soort = Foutsoort::Beschadigd,
-                                            .bestand = {},
-                                            .regel = 0,
-                                            .systeem = "'A/B' kan niet"}),
-              "Fout bij het lezen van het ledenbestand (alle items)!\r\nHet ledenbestand kan niet "
-              "worden gelezen; er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
-              "ledenbestand.\r\n\r\nOorzaak: 'A/B' kan niet");
+    EXPECT_EQ(
+        Melding(Ledenbron::Database, {.soort = Foutsoort::Beschadigd, .systeem = "'A/B' kan niet"}),
+        "Fout bij het lezen van het ledenbestand (alle items)!\r\nHet ledenbestand kan niet "
+        "worden gelezen; er is niets uit geïmporteerd. Kies zo nodig een geëxporteerd "
+        "ledenbestand.\r\n\r\nOorzaak: 'A/B' kan niet");
     EXPECT_EQ(Melding(Ledenbron::XmlNbb3, {.soort = Foutsoort::Beschadigd,
                                            .bestand = "/a/b.xml",
                                            .regel = 3,
@@ -54,7 +48,6 @@ TEST(Leesfouttekst, WatHetSysteemWeigert)
 {
     EXPECT_EQ(Melding(Ledenbron::XmlNbb4, {.soort = Foutsoort::Geweigerd,
                                            .bestand = "/p/Club Temp-NBBXMLtoCSV.csv",
-                                           .regel = 0,
                                            .systeem = "No space left on device"}),
               "Fout bij het lezen van 'Café 30.x' NBB4-XML-bestand\r\nHet bestand hieronder kan "
               "niet worden gelezen of geschreven; er is niets uit geïmporteerd. Verhelp de oorzaak "
@@ -65,8 +58,7 @@ TEST(Leesfouttekst, WatHetSysteemWeigert)
 /// The number check imports nothing, so it must not say that it did not.
 TEST(Leesfouttekst, EindigtNaarHetDoel)
 {
-    EXPECT_EQ(Melding(Ledenbron::Csv,
-                      {.soort = Foutsoort::Ontbreekt, .bestand = "/a/b", .regel = 0, .systeem = {}},
+    EXPECT_EQ(Melding(Ledenbron::Csv, {.soort = Foutsoort::Ontbreekt, .bestand = "/a/b"},
                       Leesdoel::Overzicht),
               "Fout bij het lezen van 'Café 30.x' CSV-bestand\r\nHet bestand is er niet (meer); "
               "de leden ervan staan niet in het overzicht. Exporteer het opnieuw of kies een ander "
@@ -76,13 +68,12 @@ TEST(Leesfouttekst, EindigtNaarHetDoel)
 TEST(Leesfoutreden, ZegtHetInEenRegel)
 {
     const auto reden = [](const Fout& fout) { return Leesfoutreden(fout).toStdString(); };
-    EXPECT_EQ(reden({.soort = Foutsoort::Ontbreekt, .bestand = "/a", .regel = 0, .systeem = "No"}),
+    EXPECT_EQ(reden({.soort = Foutsoort::Ontbreekt, .bestand = "/a", .systeem = "No"}),
               "het bestand is er niet (meer)");
     EXPECT_EQ(reden({.soort = Foutsoort::Beschadigd, .bestand = "/a", .regel = 3, .systeem = "x"}),
               "het bestand kon niet als XML worden gelezen; regel 3: x");
-    EXPECT_EQ(
-        reden({.soort = Foutsoort::Geweigerd, .bestand = "/a", .regel = 0, .systeem = "denied"}),
-        "het systeem stond het lezen niet toe: denied");
+    EXPECT_EQ(reden({.soort = Foutsoort::Geweigerd, .bestand = "/a", .systeem = "denied"}),
+              "het systeem stond het lezen niet toe: denied");
 }
 
 } // namespace

@@ -5,18 +5,10 @@
 namespace plexoran {
 namespace {
 
-class Tekstwinkel : public Instellingenwinkel {
-  public:
-    explicit Tekstwinkel(Tekst inhoud) : inhoud_(std::move(inhoud)) {}
-
-    std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
-    {
-        return WaardeUit(inhoud_, toepassing, sectie, sleutel);
-    }
-
-  private:
-    Tekst inhoud_;
-};
+Instellingenwinkel Tekstwinkel(const Tekst& inhoud)
+{
+    return [inhoud](auto... waar) { return WaardeUit(inhoud, waar...); };
+}
 
 Programma NietGevraagd()
 {
@@ -48,8 +40,7 @@ TEST(Instellingenwinkel, WaardenUitDeTekst)
 TEST(ZoekRekenprogramma, HoogstensEenVraagtNiets)
 {
     const auto zoek = [](const Tekst& inhoud) {
-        Tekstwinkel winkel(inhoud);
-        const Rekenprogramma gevonden = ZoekRekenprogramma(winkel, NietGevraagd);
+        const Rekenprogramma gevonden = ZoekRekenprogramma(Tekstwinkel(inhoud), NietGevraagd);
         return Tekst(gevonden.NBBRaanwezig ? "N" : "-") + (gevonden.BRITaanwezig ? "B" : "-") +
                std::to_string(static_cast<int>(gevonden.GekozenProgramma)) + "," +
                gevonden.DataRoot + "," + gevonden.ProgrammaCode + "," + gevonden.ProgrammaNaam;
@@ -66,9 +57,8 @@ TEST(ZoekRekenprogramma, HoogstensEenVraagtNiets)
 
 TEST(ZoekRekenprogramma, BeideVolgtHetAntwoord)
 {
-    Tekstwinkel winkel(beide);
-    const auto kies = [&](Programma antwoord) {
-        return ZoekRekenprogramma(winkel, [antwoord] { return antwoord; });
+    const auto kies = [](Programma antwoord) {
+        return ZoekRekenprogramma(Tekstwinkel(beide), [antwoord] { return antwoord; });
     };
     EXPECT_EQ(kies(Programma::NBBR).DataRoot, "C:\\NBBR");
     EXPECT_EQ(kies(Programma::BridgeIt).DataRoot, "D:\\Bridge It");

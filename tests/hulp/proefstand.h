@@ -17,7 +17,7 @@ struct Suitestand {
     Proefwinkel winkel;
     EchteSchijf echteSchijf;
     FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Administratie administratie{.schijf = schijf, .winkel = std::ref(winkel)};
 
     /// The folders and the players, as the program reads them at its start.
     void LeesRegister()
@@ -33,7 +33,7 @@ struct Mapstand {
     EchteSchijf echteSchijf;
     FalendeSchijf schijf{echteSchijf, FalendeSchijf::Telt::AlleenSchrijven};
     Proefwinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Administratie administratie{.schijf = schijf, .winkel = std::ref(winkel)};
 };
 
 /// An empty register, and files in memory.
@@ -41,7 +41,7 @@ struct Geheugenstand {
     GeheugenSchijf geheugen;
     FalendeSchijf schijf{geheugen};
     Proefwinkel winkel;
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Administratie administratie{.schijf = schijf, .winkel = std::ref(winkel)};
 };
 
 } // namespace plexoran

@@ -29,7 +29,8 @@ std::vector<std::string> Proefsuite::Namen(const fs::path& map) const
     return namen;
 }
 
-std::optional<Tekst> Proefwinkel::Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel)
+std::optional<Tekst> Proefwinkel::operator()(Tekstblik toepassing, Tekstblik sectie,
+                                             Tekstblik sleutel) const
 {
     const auto gevonden = waarden_.find(Samen(Samen(toepassing, sectie), sleutel));
     return gevonden == waarden_.end() ? std::nullopt : std::optional(gevonden->second);

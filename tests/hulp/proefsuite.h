@@ -34,14 +34,14 @@ class Proefsuite : public TijdelijkeMap {
 };
 
 /// The per-user settings of other programs, in memory; empty: no scoring program is installed.
-class Proefwinkel : public Instellingenwinkel {
+class Proefwinkel {
   public:
     void Zet(const Tekst& toepassing, const Tekst& sleutel, const Tekst& waarde)
     {
         waarden_[toepassing + "\\Options\\" + sleutel] = waarde;
     }
-    [[nodiscard]] std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie,
-                                              Tekstblik sleutel) override;
+    std::optional<Tekst> operator()(Tekstblik toepassing, Tekstblik sectie,
+                                    Tekstblik sleutel) const;
 
   private:
     std::map<Tekst, Tekst> waarden_;

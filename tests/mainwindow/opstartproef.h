@@ -102,19 +102,6 @@ class Logschijf : public Schijf {
     Schijf& binnen_;
 };
 
-class Logwinkel : public Proefwinkel {
-  public:
-    explicit Logwinkel(Logschijf& schijf) : schijf_(schijf) {}
-    std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
-    {
-        schijf_.log.emplace_back("rekenprogramma");
-        return Proefwinkel::Waarde(toepassing, sectie, sleutel);
-    }
-
-  private:
-    Logschijf& schijf_;
-};
-
 class Opstartproef : public Vensterproef {
   protected:
     Opstartproef()
@@ -249,8 +236,11 @@ class Opstartproef : public Vensterproef {
 
     GeheugenSchijf geheugen;
     Logschijf schijf{geheugen};
-    Logwinkel winkel{schijf};
-    Administratie administratie{.schijf = schijf, .winkel = winkel};
+    Proefwinkel winkel;
+    Administratie administratie{.schijf = schijf, .winkel = [this](auto... waar) {
+                                    schijf.log.emplace_back("rekenprogramma");
+                                    return winkel(waar...);
+                                }};
     QWidget hoofd;
     Opslag afloop = Opslag::Gelukt;
 };

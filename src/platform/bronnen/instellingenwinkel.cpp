@@ -14,20 +14,6 @@ namespace {
 
 constexpr auto registerpad = "HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings";
 
-class Registerwinkel : public Instellingenwinkel {
-  public:
-    std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
-    {
-        const QSettings tak(QString::fromLatin1(registerpad) + u'\\' +
-                                QString::fromStdU16String(NaarUtf16(Samen(toepassing, sectie))),
-                            QSettings::NativeFormat);
-        const QVariant waarde = tak.value(QString::fromStdU16String(NaarUtf16(sleutel)));
-        if (!waarde.isValid())
-            return std::nullopt;
-        return NaarCodepagina(waarde.toString().toStdU16String()).tekst;
-    }
-};
-
 #else
 
 std::filesystem::path Winkelbestand()
@@ -35,20 +21,6 @@ std::filesystem::path Winkelbestand()
     const QString map = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return std::filesystem::path(map.toStdU16String()) / "plexoran" / "rekenprogrammas.ini";
 }
-
-class Bestandswinkel : public Instellingenwinkel {
-  public:
-    explicit Bestandswinkel(Schijf& schijf) : schijf_(schijf) {}
-
-    std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) override
-    {
-        const auto inhoud = schijf_.LeesBestand(PadVan(Winkelbestand()));
-        return inhoud ? WaardeUit(*inhoud, toepassing, sectie, sleutel) : std::nullopt;
-    }
-
-  private:
-    Schijf& schijf_;
-};
 
 #endif
 
@@ -75,12 +47,23 @@ std::optional<Tekst> WaardeUit(Tekstblik inhoud, Tekstblik toepassing, Tekstblik
     return waarde;
 }
 
-std::unique_ptr<Instellingenwinkel> MaakInstellingenwinkel([[maybe_unused]] Schijf& schijf)
+Instellingenwinkel MaakInstellingenwinkel([[maybe_unused]] Schijf& schijf)
 {
 #ifdef _WIN32
-    return std::make_unique<Registerwinkel>();
+    return [](Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) -> std::optional<Tekst> {
+        const QSettings tak(QString::fromLatin1(registerpad) + u'\\' +
+                                QString::fromStdU16String(NaarUtf16(Samen(toepassing, sectie))),
+                            QSettings::NativeFormat);
+        const QVariant waarde = tak.value(QString::fromStdU16String(NaarUtf16(sleutel)));
+        if (!waarde.isValid())
+            return std::nullopt;
+        return NaarCodepagina(waarde.toString().toStdU16String()).tekst;
+    };
 #else
-    return std::make_unique<Bestandswinkel>(schijf);
+    return [&schijf](Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel) {
+        const auto inhoud = schijf.LeesBestand(PadVan(Winkelbestand()));
+        return inhoud ? WaardeUit(*inhoud, toepassing, sectie, sleutel) : std::nullopt;
+    };
 #endif
 }
 

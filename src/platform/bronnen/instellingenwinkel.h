@@ -3,28 +3,23 @@
 // (docs/bestanden.md).
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <optional>
 
 #include "platform/schijf/schijf.h"
 
 namespace plexoran {
 
-class Instellingenwinkel {
-  public:
-    virtual ~Instellingenwinkel() = default;
-
-    /// Nothing when it is not there or cannot be read.
-    [[nodiscard]] virtual std::optional<Tekst> Waarde(Tekstblik toepassing, Tekstblik sectie,
-                                                      Tekstblik sleutel) = 0;
-};
+/// Gives a value, or nothing when it is not there or cannot be read.
+using Instellingenwinkel =
+    std::function<std::optional<Tekst>(Tekstblik toepassing, Tekstblik sectie, Tekstblik sleutel)>;
 
 /// A value in the text of such a file; the last one holds when it occurs twice.
 [[nodiscard]] std::optional<Tekst> WaardeUit(Tekstblik inhoud, Tekstblik toepassing,
                                              Tekstblik sectie, Tekstblik sleutel);
 
 /// The store of this system, which must not outlive `schijf`.
-[[nodiscard]] std::unique_ptr<Instellingenwinkel> MaakInstellingenwinkel(Schijf& schijf);
+[[nodiscard]] Instellingenwinkel MaakInstellingenwinkel(Schijf& schijf);
 
 /// Where the store of this system is, UTF-8, for the eye.
 [[nodiscard]] std::string Winkelplaats();
