@@ -13,17 +13,13 @@ afbreken() {
 bestaande() {
     local pad
     for pad in "$@"; do
-        if [[ -e $pad ]]; then
-            printf '%s\n' "$pad"
-        fi
+        [[ ! -e $pad ]] || printf '%s\n' "$pad"
     done
 }
 
 # A character set of UTF-8 keeps names with accents whole, also on a machine without any locale.
 zorg_voor_utf8() {
-    if [[ $(locale charmap 2>/dev/null) != UTF-8 ]]; then
-        export LC_ALL=C.UTF-8
-    fi
+    [[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
 }
 
 # Configures the preset $1; further arguments go to cmake.

@@ -1,6 +1,6 @@
 #include "register/mappen.h"
 
-#include <array>
+#include <utility>
 
 #include "platform/tekst/regels.h"
 #include "platform/tekst/tekst.h"
@@ -8,33 +8,18 @@
 namespace plexoran {
 namespace {
 
-struct Tekstsleutel {
-    Tekstblik sleutel;
-    Tekst Mappen::*veld;
-};
+constexpr std::pair<Tekstblik, Tekst Mappen::*> tekstsleutels[] = {
+    {"RVDMAP=", &Mappen::RVDMAP}, {"APPEXE=", &Mappen::APPEXE}, {"ZITMAP=", &Mappen::ZITMAP},
+    {"ADMMAP=", &Mappen::ADMMAP}, {"INDMAP=", &Mappen::INDMAP}, {"SPEMAP=", &Mappen::SPEMAP},
+    {"COMMAP=", &Mappen::COMMAP}, {"DFIMPG=", &Mappen::DFIMPG}, {"WINMAP=", &Mappen::WINMAP},
+    {"ODKEYS=", &Mappen::ODKEYS}};
 
-struct Getalsleutel {
-    Tekstblik sleutel;
-    std::int16_t Mappen::*veld;
-};
-
-constexpr std::array tekstsleutels{
-    Tekstsleutel{"RVDMAP=", &Mappen::RVDMAP}, Tekstsleutel{"APPEXE=", &Mappen::APPEXE},
-    Tekstsleutel{"ZITMAP=", &Mappen::ZITMAP}, Tekstsleutel{"ADMMAP=", &Mappen::ADMMAP},
-    Tekstsleutel{"INDMAP=", &Mappen::INDMAP}, Tekstsleutel{"SPEMAP=", &Mappen::SPEMAP},
-    Tekstsleutel{"COMMAP=", &Mappen::COMMAP}, Tekstsleutel{"DFIMPG=", &Mappen::DFIMPG},
-    Tekstsleutel{"WINMAP=", &Mappen::WINMAP}, Tekstsleutel{"ODKEYS=", &Mappen::ODKEYS},
-};
-
-constexpr std::array getalsleutels{
-    Getalsleutel{"NEWPAGR=", &Mappen::NEWPAGR},
-    Getalsleutel{"NBB28UIT=", &Mappen::NBB28UIT},
-};
+constexpr std::pair<Tekstblik, std::int16_t Mappen::*> getalsleutels[] = {
+    {"NEWPAGR=", &Mappen::NEWPAGR}, {"NBB28UIT=", &Mappen::NBB28UIT}};
 
 bool BegintMet(Tekstblik regel, Tekstblik sleutel)
 {
-    return regel.size() >= sleutel.size() &&
-           Hoofdletters(regel.substr(0, sleutel.size())) == sleutel;
+    return Hoofdletters(regel.substr(0, sleutel.size())) == sleutel;
 }
 
 std::string Bezwaar(Tekstblik inhoud)
@@ -44,18 +29,6 @@ std::string Bezwaar(Tekstblik inhoud)
     if (inhoud.find('\0') != Tekstblik::npos)
         return "er staan NUL-tekens in";
     return {};
-}
-
-void NeemRegel(Mappen& mappen, Tekstblik regel)
-{
-    for (const auto& [sleutel, veld] : tekstsleutels) {
-        if (BegintMet(regel, sleutel))
-            mappen.*veld = regel.substr(sleutel.size());
-    }
-    for (const auto& [sleutel, veld] : getalsleutels) {
-        if (BegintMet(regel, sleutel))
-            mappen.*veld = Geheel16(regel.substr(sleutel.size())).value_or(0);
-    }
 }
 
 } // namespace
@@ -73,8 +46,16 @@ Pad MappenIniPad(const Pad& programmamap)
 Mappen MappenUit(Tekstblik inhoud)
 {
     Mappen mappen;
-    for (const Tekstblik regel : Regels(inhoud))
-        NeemRegel(mappen, regel);
+    for (const Tekstblik regel : Regels(inhoud)) {
+        for (const auto& [sleutel, veld] : tekstsleutels) {
+            if (BegintMet(regel, sleutel))
+                mappen.*veld = regel.substr(sleutel.size());
+        }
+        for (const auto& [sleutel, veld] : getalsleutels) {
+            if (BegintMet(regel, sleutel))
+                mappen.*veld = Geheel16(regel.substr(sleutel.size())).value_or(0);
+        }
+    }
     mappen.bezwaar = Bezwaar(inhoud);
     return mappen;
 }

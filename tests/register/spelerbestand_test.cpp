@@ -20,12 +20,25 @@ Rijvelden Ingave()
     return velden;
 }
 
-Tekst BewaarEnLees(GeheugenSchijf& schijf, Register& spelers)
-{
-    EXPECT_TRUE(Bewaar(schijf, spelers));
-    EXPECT_FALSE(Lees(schijf, spelers).fout);
-    return schijf.Inhoud(spelerbestand).value_or("weg");
-}
+/// The register of five players, read from the disk.
+class Spelersproef : public testing::Test {
+  protected:
+    /// What the file holds then.
+    Tekst BewaarEnLees()
+    {
+        EXPECT_TRUE(Bewaar(schijf_, spelers_));
+        EXPECT_FALSE(Lees(schijf_, spelers_).fout);
+        return schijf_.Inhoud(spelerbestand).value_or("weg");
+    }
+
+    GeheugenSchijf schijf_;
+    Register spelers_ = Gelezen(schijf_, vijfSpelers);
+};
+
+using LeesSpelersTest = Spelersproef;
+using SchrijfSpelersTest = Spelersproef;
+using VoegSpelerToeTest = Spelersproef;
+using WijzigSpelerTest = Spelersproef;
 
 } // namespace
 
@@ -91,30 +104,28 @@ TEST(MaakSpelerbestand, OnleesbaarBlijftStaan)
     EXPECT_EQ(binnen.Inhoud(spelerbestand), vijfSpelers);
 }
 
-TEST(LeesSpelers, VijfSpelers)
+TEST_F(LeesSpelersTest, VijfSpelers)
 {
-    GeheugenSchijf schijf;
-    const Register spelers = Gelezen(schijf, vijfSpelers);
-    EXPECT_EQ(spelers.tabel.Rijen(), 5);
-    EXPECT_EQ(spelers.HKEY, 100042);
-    EXPECT_EQ(spelers.gelezen, *schijf.NeemStempel(spelerbestand));
-    EXPECT_FALSE(spelers.kopieNodig);
+    EXPECT_EQ(spelers_.tabel.Rijen(), 5);
+    EXPECT_EQ(spelers_.HKEY, 100042);
+    EXPECT_EQ(spelers_.gelezen, *schijf_.NeemStempel(spelerbestand));
+    EXPECT_FALSE(spelers_.kopieNodig);
+    EXPECT_EQ(SpelersTekst(spelers_), vijfSpelers);
 }
 
-TEST(LeesSpelers, ZonderSleutelregelBlijftDeSleutel)
+TEST_F(LeesSpelersTest, ZonderSleutelregelBlijftDeSleutel)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, an);
-    EXPECT_EQ(spelers.HKEY, 0);
-    spelers.HKEY = 100777;
-    const auto zonder = Lees(schijf, spelers);
-    EXPECT_EQ(spelers.HKEY, 100777);
+    spelers_ = Gelezen(schijf_, an);
+    EXPECT_EQ(spelers_.HKEY, 0);
+    spelers_.HKEY = 100777;
+    const auto zonder = Lees(schijf_, spelers_);
+    EXPECT_EQ(spelers_.HKEY, 100777);
     EXPECT_TRUE(zonder.zonderSleutelregel);
     EXPECT_TRUE(zonder.tabelVervangen);
     EXPECT_FALSE(zonder.AllesGelezen());
     const auto lees = [&](Tekstblik inhoud) {
-        schijf.Zet(spelerbestand, inhoud);
-        return Lees(schijf, spelers);
+        schijf_.Zet(spelerbestand, inhoud);
+        return Lees(schijf_, spelers_);
     };
     EXPECT_TRUE(lees("").AllesGelezen());
     EXPECT_TRUE(lees(vijfSpelers).AllesGelezen());
@@ -124,169 +135,143 @@ TEST(LeesSpelers, ZonderSleutelregelBlijftDeSleutel)
     EXPECT_EQ(zonderNaam.zonderAchternaam, std::vector<int>{2});
 }
 
-TEST(LeesSpelers, FoutInDeEersteGangLaatDeTabelZoalsHijWas)
+TEST_F(LeesSpelersTest, FoutInDeEersteGangLaatDeTabelZoalsHijWas)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    schijf.Zet(spelerbestand, "HKEY=100050\r\n1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n1,2,3\r\n");
-    const auto verslag = Lees(schijf, spelers);
+    schijf_.Zet(spelerbestand, "HKEY=100050\r\n1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n1,2,3\r\n");
+    const auto verslag = Lees(schijf_, spelers_);
     ASSERT_TRUE(verslag.fout);
     EXPECT_EQ(verslag.fout->soort, Foutsoort::Beschadigd);
     EXPECT_EQ(verslag.fout->bestand, "C:\\club\\Spelers\\RVDspelers.txt");
     EXPECT_EQ(verslag.fout->regel, 3);
     EXPECT_EQ(verslag.velden, 3);
-    EXPECT_EQ(spelers.tabel.Rijen(), 5);
-    EXPECT_EQ(spelers.HKEY, 100050);
-    EXPECT_TRUE(spelers.kopieNodig);
+    EXPECT_EQ(spelers_.tabel.Rijen(), 5);
+    EXPECT_EQ(spelers_.HKEY, 100050);
+    EXPECT_TRUE(spelers_.kopieNodig);
 
     Register nieuw;
-    EXPECT_TRUE(Lees(schijf, nieuw).fout);
+    EXPECT_TRUE(Lees(schijf_, nieuw).fout);
     EXPECT_EQ(nieuw.tabel.Rijen(), 0);
 }
 
-TEST(LeesSpelers, FoutInDeTweedeGangHoudtDeRijenErvoor)
+TEST_F(LeesSpelersTest, FoutInDeTweedeGangHoudtDeRijenErvoor)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    schijf.Zet(spelerbestand, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n2,100002,Gr01-,B,,C,,\r\n");
-    const auto verslag = Lees(schijf, spelers);
+    schijf_.Zet(spelerbestand, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n2,100002,Gr01-,B,,C,,\r\n");
+    const auto verslag = Lees(schijf_, spelers_);
     ASSERT_TRUE(verslag.fout);
     EXPECT_EQ(verslag.fout->regel, 2);
     EXPECT_EQ(verslag.velden, 8);
-    EXPECT_EQ(spelers.tabel.Rijen(), 1);
-    EXPECT_TRUE(spelers.kopieNodig);
+    EXPECT_EQ(spelers_.tabel.Rijen(), 1);
+    EXPECT_TRUE(spelers_.kopieNodig);
 }
 
-TEST(LeesSpelers, OntbrekendOfOnleesbaarLaatDeTabelZoalsHijWas)
+TEST_F(LeesSpelersTest, OntbrekendOfOnleesbaarLaatDeTabelZoalsHijWas)
 {
-    GeheugenSchijf binnen;
-    Register spelers = Gelezen(binnen, vijfSpelers);
-    FalendeSchijf schijf(binnen);
+    FalendeSchijf schijf(schijf_);
     for (int stap = 1; stap <= 2; ++stap) { // the stamp, the reading
         schijf.FaalBij(stap);
-        const auto verslag = Lees(schijf, spelers);
+        const auto verslag = Lees(schijf, spelers_);
         ASSERT_TRUE(verslag.fout);
         EXPECT_EQ(verslag.fout->soort, Foutsoort::Geweigerd);
-        EXPECT_EQ(spelers.tabel.Rijen(), 5);
-        EXPECT_EQ(spelers.HKEY, 100042);
+        EXPECT_EQ(spelers_.tabel.Rijen(), 5);
+        EXPECT_EQ(spelers_.HKEY, 100042);
         EXPECT_TRUE(verslag.NietGeopend());
         // What is known of the file stays too: when it is still the same, it may be replaced.
-        EXPECT_FALSE(spelers.kopieNodig);
-        EXPECT_EQ(spelers.gelezen, *binnen.NeemStempel(spelerbestand));
+        EXPECT_FALSE(spelers_.kopieNodig);
+        EXPECT_EQ(spelers_.gelezen, *schijf_.NeemStempel(spelerbestand));
     }
-    ASSERT_TRUE(binnen.Verwijder(spelerbestand));
-    const auto weg = Lees(binnen, spelers);
+    ASSERT_TRUE(schijf_.Verwijder(spelerbestand));
+    const auto weg = Lees(schijf_, spelers_);
     ASSERT_TRUE(weg.fout);
     EXPECT_EQ(weg.fout->soort, Foutsoort::Ontbreekt);
-    EXPECT_EQ(spelers.tabel.Rijen(), 5);
+    EXPECT_EQ(spelers_.tabel.Rijen(), 5);
 }
 
-TEST(SpelersTekst, PreciesHetBestand)
-{
-    GeheugenSchijf schijf;
-    EXPECT_EQ(SpelersTekst(Gelezen(schijf, vijfSpelers)), vijfSpelers);
-    Register leeg;
-    leeg.HKEY = 100000;
-    EXPECT_EQ(SpelersTekst(leeg), "HKEY=100000\r\n");
-}
-
-TEST(SchrijfSpelers, OnbewerkteVeldenKomenOpDeByteTerug)
+TEST_F(SchrijfSpelersTest, OnbewerkteVeldenKomenOpDeByteTerug)
 {
     const Tekst vreemd = "HKEY=100003\r\n"
                          "1, 100001 ,Gr01-, An\x81\x8D,\x8F\x90\x9D,\xC9\tx , , ,,,,,,,,,, \r\n"
                          "2,abc,XYZ,,,\x1A,,,,,,,,,,,,\x7F\r\n";
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vreemd);
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), vreemd);
-    EXPECT_TRUE(Kopieen(schijf).empty());
+    spelers_ = Gelezen(schijf_, vreemd);
+    EXPECT_EQ(BewaarEnLees(), vreemd);
+    EXPECT_TRUE(Kopieen(schijf_).empty());
 }
 
-TEST(SchrijfSpelers, GrootRegisterKomtOpDeByteTerug)
+TEST_F(SchrijfSpelersTest, GrootRegisterKomtOpDeByteTerug)
 {
     Tekst groot = "HKEY=130000\r\n";
     for (int nr = 1; nr <= 30'000; ++nr)
         groot += std::to_string(nr) + "," + std::to_string(100000 + nr) + ",Gr01-,,," +
                  Tekst(static_cast<std::size_t>(nr % 90 + 1), 'x') + ",,,,,,,,,,,,\r\n";
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, groot);
-    ASSERT_EQ(spelers.tabel.Rijen(), 30'000);
-    EXPECT_TRUE(SpelersTekst(spelers) == groot);
-    EXPECT_TRUE(BewaarEnLees(schijf, spelers) == groot);
+    spelers_ = Gelezen(schijf_, groot);
+    ASSERT_EQ(spelers_.tabel.Rijen(), 30'000);
+    EXPECT_TRUE(SpelersTekst(spelers_) == groot);
+    EXPECT_TRUE(BewaarEnLees() == groot);
 }
 
-TEST(SchrijfSpelers, NummersWordenDePlaatsen)
+TEST_F(SchrijfSpelersTest, NummersWordenDePlaatsen)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, "HKEY=100003\r\n"
-                                       "7,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
-                                       ",100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
-                                       "x,100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), "HKEY=100003\r\n"
-                                             "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
-                                             "2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
-                                             "3,100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
+    spelers_ = Gelezen(schijf_, "HKEY=100003\r\n"
+                                "7,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
+                                ",100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
+                                "x,100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
+    EXPECT_EQ(BewaarEnLees(), "HKEY=100003\r\n"
+                              "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\r\n"
+                              "2,100002,Gr01-,Bea,,Cock,,,,,,,,,,,,\r\n"
+                              "3,100003,Gr01-,Cor,,Dam,,,,,,,,,,,,\r\n");
 }
 
-TEST(SchrijfSpelers, OvergeslagenRijenLatenEenGatInDeNummers)
+TEST_F(SchrijfSpelersTest, OvergeslagenRijenLatenEenGatInDeNummers)
 {
     // Meant: the numbers close up only at the next save.
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    spelers.tabel.ZetCel(2, Kolom::Key, "");
-    spelers.tabel.ZetCel(3, Kolom::Key, "");
+    spelers_.tabel.ZetCel(2, Kolom::Key, "");
+    spelers_.tabel.ZetCel(3, Kolom::Key, "");
     const Tekst metGat = "HKEY=100042\r\n"
                          "1,100001,Gr01-,An,,Bos,,,,,,,V,,,,,\r\n"
                          "4,100004,Gr05-,Dirk,,Eik,,,,,,,M,,,,NBB1,12345678\r\n"
                          "5,100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,"
                          "een,twee,,,\r\n";
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), metGat);
-    EXPECT_EQ(spelers.tabel.Rijen(), 3);
-    EXPECT_EQ(spelers.tabel.Cel(2, Kolom::Nr), "4");
-    const Tekst dicht = BewaarEnLees(schijf, spelers);
+    EXPECT_EQ(BewaarEnLees(), metGat);
+    EXPECT_EQ(spelers_.tabel.Rijen(), 3);
+    EXPECT_EQ(spelers_.tabel.Cel(2, Kolom::Nr), "4");
+    const Tekst dicht = BewaarEnLees();
     EXPECT_NE(dicht.find("\r\n2,100004,"), Tekst::npos);
     EXPECT_NE(dicht.find("\r\n3,100042,"), Tekst::npos);
 }
 
-TEST(SchrijfSpelers, TweeEnDrieVanVijfVerwijderd)
+TEST_F(SchrijfSpelersTest, TweeEnDrieVanVijfVerwijderd)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    spelers.tabel.VerwijderRijen(std::vector<int>{2, 3});
-    EXPECT_EQ(BewaarEnLees(schijf, spelers),
+    spelers_.tabel.VerwijderRijen(std::vector<int>{2, 3});
+    EXPECT_EQ(BewaarEnLees(),
               "HKEY=100042\r\n"
               "1,100001,Gr01-,An,,Bos,,,,,,,V,,,,,\r\n"
               "2,100004,Gr05-,Dirk,,Eik,,,,,,,M,,,,NBB1,12345678\r\n"
               "3,100042,Gr50-,Els,,Fuik,06-1,e@f.example,Pad 1,1234 AB,Ede,NL,V,een,twee,,,\r\n");
 }
 
-TEST(SchrijfSpelers, LegeTabelLaatHetBestand)
+TEST_F(SchrijfSpelersTest, LegeTabelLaatHetBestand)
 {
     // Meant: a register is never written without players.
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    spelers.tabel.VerwijderRijen(std::vector<int>{1, 2, 3, 4, 5});
-    const auto voor = schijf.NeemStempel(spelerbestand);
-    EXPECT_TRUE(Bewaar(schijf, spelers));
-    EXPECT_EQ(schijf.Inhoud(spelerbestand), vijfSpelers);
-    EXPECT_EQ(schijf.NeemStempel(spelerbestand), *voor);
+    spelers_.tabel.VerwijderRijen(std::vector<int>{1, 2, 3, 4, 5});
+    const auto voor = schijf_.NeemStempel(spelerbestand);
+    EXPECT_TRUE(Bewaar(schijf_, spelers_));
+    EXPECT_EQ(schijf_.Inhoud(spelerbestand), vijfSpelers);
+    EXPECT_EQ(schijf_.NeemStempel(spelerbestand), *voor);
 }
 
-TEST(SchrijfSpelers, SleutelOnderDeBasisWordtDeBasis)
+TEST_F(SchrijfSpelersTest, SleutelOnderDeBasisWordtDeBasis)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, an);
-    ASSERT_EQ(spelers.HKEY, 0);
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), "HKEY=100000\r\n" + an);
-    EXPECT_EQ(spelers.HKEY, 100000);
+    spelers_ = Gelezen(schijf_, an);
+    ASSERT_EQ(spelers_.HKEY, 0);
+    EXPECT_EQ(BewaarEnLees(), "HKEY=100000\r\n" + an);
+    EXPECT_EQ(spelers_.HKEY, 100000);
 }
 
-TEST(SchrijfSpelers, AnderRegeleindeWordtCrLf)
+TEST_F(SchrijfSpelersTest, AnderRegeleindeWordtCrLf)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\n\nHKEY=100001");
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), "HKEY=100001\r\n" + an);
-    ASSERT_TRUE(schijf.Verwijder(spelerbestand)); // a file that disappeared comes back
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), "HKEY=100001\r\n" + an);
+    spelers_ = Gelezen(schijf_, "1,100001,Gr01-,An,,Bos,,,,,,,,,,,,\n\nHKEY=100001");
+    EXPECT_EQ(BewaarEnLees(), "HKEY=100001\r\n" + an);
+    ASSERT_TRUE(schijf_.Verwijder(spelerbestand)); // a file that disappeared comes back
+    EXPECT_EQ(BewaarEnLees(), "HKEY=100001\r\n" + an);
 }
 
 TEST(NieuweSleutel, VanafDeBasisOfNaDeHoogste)
@@ -336,59 +321,52 @@ TEST(ZijnErSleutels, TotDeHoogste)
     EXPECT_FALSE(ZijnErSleutels(spelers, static_cast<std::size_t>(hoogste - 99999)));
 }
 
-TEST(VoegSpelerToe, AchteraanMetNieuweSleutel)
+TEST_F(VoegSpelerToeTest, AchteraanMetNieuweSleutel)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr02-Clubleden", Ingave()));
+    ASSERT_TRUE(VoegSpelerToe(spelers_, "Gr02-Clubleden", Ingave()));
     const Tekst rij = "6,100043,Gr02-,v4,v5,v6,v7,v8,v9,v10,v11,v12,v13,v14,v15,v16,v17,v18\r\n";
     Tekst verwacht = vijfSpelers + rij;
     verwacht.replace(0, 13, "HKEY=100043\r\n");
-    EXPECT_EQ(SpelersTekst(spelers), verwacht);
-    EXPECT_EQ(spelers.tabel.Cel(6, Kolom::Nr), "6");
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), verwacht);
-    spelers = Gelezen(schijf, "HKEY=99\r\n"); // below the base
-    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
-    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Key), "100001");
+    EXPECT_EQ(SpelersTekst(spelers_), verwacht);
+    EXPECT_EQ(spelers_.tabel.Cel(6, Kolom::Nr), "6");
+    EXPECT_EQ(BewaarEnLees(), verwacht);
+    spelers_ = Gelezen(schijf_, "HKEY=99\r\n"); // below the base
+    ASSERT_TRUE(VoegSpelerToe(spelers_, "Gr01-", Ingave()));
+    EXPECT_EQ(spelers_.tabel.Cel(1, Kolom::Key), "100001");
 }
 
-TEST(VoegSpelerToe, VeldenZonderBuitensteSpaties)
+TEST_F(VoegSpelerToeTest, VeldenZonderBuitensteSpaties)
 {
-    Register spelers;
     Rijvelden velden = Ingave();
     velden[Index(Kolom::Voornaam)] = "  An Marie ";
     velden[Index(Kolom::Tusv)] = "   ";
     velden[Index(Kolom::Adres)] = " \tPad 1, boven";
-    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", velden));
-    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Voornaam), "An Marie");
-    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Tusv), "");
-    EXPECT_EQ(spelers.tabel.Cel(1, Kolom::Adres), "\tPad 1_ boven");
+    ASSERT_TRUE(VoegSpelerToe(spelers_, "Gr01-", velden));
+    EXPECT_EQ(spelers_.tabel.Cel(6, Kolom::Voornaam), "An Marie");
+    EXPECT_EQ(spelers_.tabel.Cel(6, Kolom::Tusv), "");
+    EXPECT_EQ(spelers_.tabel.Cel(6, Kolom::Adres), "\tPad 1_ boven");
 }
 
-TEST(VoegSpelerToe, SleutelKomtNietTerugNaVerwijderen)
+TEST_F(VoegSpelerToeTest, SleutelKomtNietTerugNaVerwijderen)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
-    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
-    BewaarEnLees(schijf, spelers);
-    spelers.tabel.VerwijderRijen(std::vector<int>{6});
-    BewaarEnLees(schijf, spelers);
-    ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", Ingave()));
-    EXPECT_EQ(spelers.tabel.Cel(6, Kolom::Key), "100044");
+    ASSERT_TRUE(VoegSpelerToe(spelers_, "Gr01-", Ingave()));
+    BewaarEnLees();
+    spelers_.tabel.VerwijderRijen(std::vector<int>{6});
+    BewaarEnLees();
+    ASSERT_TRUE(VoegSpelerToe(spelers_, "Gr01-", Ingave()));
+    EXPECT_EQ(spelers_.tabel.Cel(6, Kolom::Key), "100044");
 }
 
-TEST(WijzigSpeler, AllesBehalveNummerEnSleutel)
+TEST_F(WijzigSpelerTest, AllesBehalveNummerEnSleutel)
 {
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, vijfSpelers);
     Rijvelden velden = Ingave();
     velden[Index(Kolom::Voornaam)] = "  An "; // stored as handed over
     velden[Index(Kolom::Land)] = "";
-    WijzigSpeler(spelers, 4, velden);
+    WijzigSpeler(spelers_, 4, velden);
     Tekst verwacht = vijfSpelers;
     const Tekst oud = "4,100004,Gr05-,Dirk,,Eik,,,,,,,M,,,,NBB1,12345678";
     verwacht.replace(verwacht.find(oud), oud.size(),
                      "4,100004,Gr49-,  An ,v5,v6,v7,v8,v9,v10,v11,,v13,v14,v15,v16,v17,v18");
-    EXPECT_EQ(BewaarEnLees(schijf, spelers), verwacht);
-    EXPECT_EQ(spelers.HKEY, 100042);
+    EXPECT_EQ(BewaarEnLees(), verwacht);
+    EXPECT_EQ(spelers_.HKEY, 100042);
 }

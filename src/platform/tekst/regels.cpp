@@ -3,7 +3,6 @@
 #include <algorithm>
 
 namespace plexoran {
-
 namespace {
 
 std::vector<Tekstblik> Stukken(Tekstblik inhoud, bool opKomma)
@@ -20,6 +19,12 @@ std::vector<Tekstblik> Stukken(Tekstblik inhoud, bool opKomma)
         inhoud.remove_prefix(std::min(eind + (paar ? 2 : 1), inhoud.size()));
     }
     return stukken;
+}
+
+bool LeestTerug(Tekstblik geschreven, Tekstblik tekst)
+{
+    const auto items = ItemsVan(geschreven, 2);
+    return items.size() == 1 && items.front().tekst == tekst;
 }
 
 } // namespace
@@ -52,16 +57,6 @@ bool IsLeeg(Tekstblik inhoud)
 {
     return inhoud.find_first_not_of(" \r\n") == Tekstblik::npos;
 }
-
-namespace {
-
-bool LeestTerug(Tekstblik geschreven, Tekstblik tekst)
-{
-    const auto items = ItemsVan(geschreven, 2);
-    return items.size() == 1 && items.front().tekst == tekst;
-}
-
-} // namespace
 
 struct Itemlezer::Slot {
     std::size_t quote = Tekstblik::npos;

@@ -27,6 +27,50 @@ constexpr std::array<unsigned char, 256> MaakHoofdlettertabel()
 
 constexpr auto hoofdlettertabel = MaakHoofdlettertabel();
 
+/// Takes the digits at the beginning off the text.
+Tekstblik NeemCijfers(Tekstblik& tekst)
+{
+    const auto eind = std::find_if_not(tekst.begin(), tekst.end(), IsCijfer);
+    const Tekstblik cijfers(tekst.begin(), eind);
+    tekst.remove_prefix(cijfers.size());
+    return cijfers;
+}
+
+/// The rounded value; nothing as soon as it is larger than any caller accepts.
+std::optional<std::int64_t> GeheelAanBegin(Tekstblik tekst)
+{
+    constexpr std::int64_t ruimBuitenBereik = 1'000'000'000'000;
+    tekst.remove_prefix(std::min(tekst.find_first_not_of(' '), tekst.size()));
+    const bool negatief = tekst.starts_with('-');
+    if (negatief || tekst.starts_with('+'))
+        tekst.remove_prefix(1);
+
+    std::int64_t waarde = 0;
+    for (const char cijfer : NeemCijfers(tekst)) {
+        waarde = waarde * 10 + (cijfer - '0');
+        if (waarde > ruimBuitenBereik)
+            return std::nullopt;
+    }
+    Tekstblik breuk;
+    if (tekst.starts_with('.')) {
+        tekst.remove_prefix(1);
+        breuk = NeemCijfers(tekst);
+        breuk = breuk.substr(0, breuk.find_last_not_of('0') + 1);
+    }
+    if (breuk > "5" || (breuk == "5" && waarde % 2 != 0))
+        ++waarde;
+    return negatief ? -waarde : waarde;
+}
+
+template <class Int> std::optional<Int> Passend(Tekstblik tekst)
+{
+    const auto waarde = GeheelAanBegin(tekst);
+    if (!waarde || *waarde < std::numeric_limits<Int>::min() ||
+        *waarde > std::numeric_limits<Int>::max())
+        return std::nullopt;
+    return static_cast<Int>(*waarde);
+}
+
 } // namespace
 
 char Hoofdletter(char teken)
@@ -91,54 +135,6 @@ Tekst MetNullen(std::int64_t getal, int breedte)
         cijfers.insert(0, doel - cijfers.size(), '0');
     return getal < 0 ? "-" + cijfers : cijfers;
 }
-
-namespace {
-
-/// Takes the digits at the beginning off the text.
-Tekstblik NeemCijfers(Tekstblik& tekst)
-{
-    const auto eind = std::find_if_not(tekst.begin(), tekst.end(), IsCijfer);
-    const Tekstblik cijfers(tekst.begin(), eind);
-    tekst.remove_prefix(cijfers.size());
-    return cijfers;
-}
-
-/// The rounded value; nothing as soon as it is larger than any caller accepts.
-std::optional<std::int64_t> GeheelAanBegin(Tekstblik tekst)
-{
-    constexpr std::int64_t ruimBuitenBereik = 1'000'000'000'000;
-    tekst.remove_prefix(std::min(tekst.find_first_not_of(' '), tekst.size()));
-    const bool negatief = tekst.starts_with('-');
-    if (negatief || tekst.starts_with('+'))
-        tekst.remove_prefix(1);
-
-    std::int64_t waarde = 0;
-    for (const char cijfer : NeemCijfers(tekst)) {
-        waarde = waarde * 10 + (cijfer - '0');
-        if (waarde > ruimBuitenBereik)
-            return std::nullopt;
-    }
-    Tekstblik breuk;
-    if (tekst.starts_with('.')) {
-        tekst.remove_prefix(1);
-        breuk = NeemCijfers(tekst);
-        breuk = breuk.substr(0, breuk.find_last_not_of('0') + 1);
-    }
-    if (breuk > "5" || (breuk == "5" && waarde % 2 != 0))
-        ++waarde;
-    return negatief ? -waarde : waarde;
-}
-
-template <class Int> std::optional<Int> Passend(Tekstblik tekst)
-{
-    const auto waarde = GeheelAanBegin(tekst);
-    if (!waarde || *waarde < std::numeric_limits<Int>::min() ||
-        *waarde > std::numeric_limits<Int>::max())
-        return std::nullopt;
-    return static_cast<Int>(*waarde);
-}
-
-} // namespace
 
 std::optional<std::int16_t> Geheel16(Tekstblik tekst)
 {

@@ -214,32 +214,33 @@ TEST(Slotbestand, HangtNietVanDeOmgevingAf)
 
 #endif
 
-TEST(StartProgramma, OntbrekendProgramma)
+class StartProgrammaTest : public testing::Test {
+  protected:
+    [[nodiscard]] Uitkomst<void> Start()
+    {
+        EchteSchijf schijf;
+        return StartProgramma(schijf, Samen(map_.AlsPad(), "Gatenlijst.exe"));
+    }
+
+    TijdelijkeMap map_;
+};
+
+TEST_F(StartProgrammaTest, OntbrekendOfEenMapMetDieNaam)
 {
-    EchteSchijf schijf;
-    const TijdelijkeMap map;
-    const auto uitkomst = StartProgramma(schijf, Samen(map.AlsPad(), "Gatenlijst.exe"));
-    ASSERT_FALSE(uitkomst);
-    EXPECT_EQ(uitkomst.error().soort, Foutsoort::Ontbreekt);
-    EXPECT_EQ(uitkomst.error().bestand, (map.Weg() / "Gatenlijst.exe").string());
+    for (const bool map : {false, true}) {
+        if (map)
+            std::filesystem::create_directory(map_.Weg() / "Gatenlijst.exe");
+        const auto uitkomst = Start();
+        ASSERT_FALSE(uitkomst);
+        EXPECT_EQ(uitkomst.error().soort, Foutsoort::Ontbreekt);
+        EXPECT_EQ(uitkomst.error().bestand, (map_.Weg() / "Gatenlijst.exe").string());
+    }
 }
 
-TEST(StartProgramma, MapMetDieNaamIsGeenProgramma)
+TEST_F(StartProgrammaTest, BestandDatNietKanStarten)
 {
-    EchteSchijf schijf;
-    const TijdelijkeMap map;
-    std::filesystem::create_directory(map.Weg() / "Gatenlijst.exe");
-    const auto uitkomst = StartProgramma(schijf, Samen(map.AlsPad(), "Gatenlijst.exe"));
-    ASSERT_FALSE(uitkomst);
-    EXPECT_EQ(uitkomst.error().soort, Foutsoort::Ontbreekt);
-}
-
-TEST(StartProgramma, BestandDatNietKanStarten)
-{
-    EchteSchijf schijf;
-    const TijdelijkeMap map;
-    map.Zet("Gatenlijst.exe", "geen programma");
-    const auto uitkomst = StartProgramma(schijf, Samen(map.AlsPad(), "Gatenlijst.exe"));
+    map_.Zet("Gatenlijst.exe", "geen programma");
+    const auto uitkomst = Start();
     ASSERT_FALSE(uitkomst);
     EXPECT_EQ(uitkomst.error().soort, Foutsoort::Geweigerd);
 #ifndef _WIN32
@@ -248,40 +249,41 @@ TEST(StartProgramma, BestandDatNietKanStarten)
 }
 
 #ifndef _WIN32
-TEST(StartProgramma, StartInZijnEigenMap)
+TEST_F(StartProgrammaTest, StartInZijnEigenMap)
 {
-    EchteSchijf schijf;
-    const TijdelijkeMap map;
-    map.Zet("Gatenlijst.exe", "#!/bin/sh\npwd > plaats.nieuw && mv plaats.nieuw plaats\n");
-    chmod((map.Weg() / "Gatenlijst.exe").c_str(), S_IRWXU);
-    ASSERT_TRUE(StartProgramma(schijf, Samen(map.AlsPad(), "Gatenlijst.exe")));
-    for (int i = 0; i < 500 && !std::filesystem::exists(map.Weg() / "plaats"); ++i)
+    map_.Zet("Gatenlijst.exe", "#!/bin/sh\npwd > plaats.nieuw && mv plaats.nieuw plaats\n");
+    chmod((map_.Weg() / "Gatenlijst.exe").c_str(), S_IRWXU);
+    ASSERT_TRUE(Start());
+    for (int i = 0; i < 500 && !std::filesystem::exists(map_.Weg() / "plaats"); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    EXPECT_EQ(map.Inhoud("plaats"), std::filesystem::canonical(map.Weg()).string() + "\n");
+    EXPECT_EQ(map_.Inhoud("plaats"), std::filesystem::canonical(map_.Weg()).string() + "\n");
 }
 #endif
 
-TEST(ZetWerkmap, BestaandeMap)
+/// The working folder is put back afterwards.
+class WerkmapTest : public testing::Test {
+  protected:
+    ~WerkmapTest() override { std::filesystem::current_path(vooraf_); }
+
+    TijdelijkeMap map_;
+    std::filesystem::path vooraf_ = std::filesystem::current_path();
+};
+
+TEST_F(WerkmapTest, EenMapDieOntbreektVerandertNiets)
 {
-    const auto vooraf = std::filesystem::current_path();
-    const TijdelijkeMap map;
-    ZetWerkmap(map.AlsPad());
-    EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(map.Weg()));
-    ZetWerkmap(Samen(map.AlsPad(), "bestaat niet"));
-    EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(map.Weg()));
-    std::filesystem::current_path(vooraf);
+    for (const Pad& map : {map_.AlsPad(), Samen(map_.AlsPad(), "bestaat niet")}) {
+        ZetWerkmap(map);
+        EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(map_.Weg()));
+    }
 }
 
-TEST(VolledigPad, HangtNietVanDeWerkmapAf)
+TEST_F(WerkmapTest, VolledigPadHangtErNietVanAf)
 {
-    EchteSchijf schijf;
-    const auto vooraf = std::filesystem::current_path();
-    const TijdelijkeMap map;
-    map.Zet("Mappen.ini", "SPEMAP=x");
-    std::filesystem::current_path(map.Weg());
+    map_.Zet("Mappen.ini", "SPEMAP=x");
+    std::filesystem::current_path(map_.Weg());
     const Pad pad = VolledigPad("Mappen.ini");
-    std::filesystem::current_path(vooraf);
-    EXPECT_EQ(schijf.LeesBestand(pad), Tekst("SPEMAP=x"));
+    std::filesystem::current_path(vooraf_);
+    EXPECT_EQ(EchteSchijf().LeesBestand(pad), Tekst("SPEMAP=x"));
 }
 
 } // namespace
