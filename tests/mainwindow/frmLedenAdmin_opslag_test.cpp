@@ -242,13 +242,6 @@ TEST_F(OpslagTest, VanBuitenGewijzigdLaterBeslissenHoudtBeide)
     EXPECT_EQ(vreemd, suite.Spelers());
 }
 
-TEST_F(OpslagTest, VanBuitenVerwijderdWordtWeerGeschreven)
-{
-    suite.Verwijder("Spelers/RVDspelers.txt");
-    VoegToe();
-    EXPECT_EQ(nieuw, suite.Spelers());
-}
-
 TEST_F(OpslagTest, DezelfdeInhoudVanBuitenGeldtNietAlsHetEigenBestand)
 {
     suite.Verwijder("Spelers/RVDspelers.txt");

@@ -17,8 +17,6 @@ using namespace plexoran;
 
 namespace {
 
-const QString geenRegel = u"Er is geen regel geselecteerd!"_s;
-
 class HoofdvensterTest : public Hoofdvensterproef {
   protected:
     void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
@@ -28,40 +26,31 @@ class HoofdvensterTest : public Hoofdvensterproef {
 
 // ---- Groups -----------------------------------------------------------------------------------
 
-TEST_F(HoofdvensterTest, EenGewoneGroep)
+TEST_F(HoofdvensterTest, EenGroepHeeftHaarEigenTekstenEnKnoppen)
 {
-    KiesGroep(2);
-    EXPECT_EQ("Aantal regels: 25", Aantal());
-    EXPECT_EQ("Print deze groep: Gr02-Donderdagmiddag ...", Opschrift(Knop("cmdPrint")));
-    EXPECT_EQ("Subgr", Header(17)->text().toStdString());
-    EXPECT_EQ("", Header(18)->text().toStdString());
-    EXPECT_EQ("Subgroep", Opschrift(Knop("cmdSortlijst3")));
-    EXPECT_FALSE(Knop("cmdSortlijst2")->isVisible());
-    EXPECT_FALSE(Knop("cmdHaalNBBnamen")->isVisible());
-    EXPECT_FALSE(Knop("cmdKoppel")->isVisible());
-    EXPECT_EQ("OPTIND=4\r\nLOSTGR=1\r\n", suite.Instellingen());
-}
-
-TEST_F(HoofdvensterTest, DeImportgroep)
-{
-    KiesGroep(5);
-    EXPECT_EQ("Aantal regels: 36", Aantal());
-    EXPECT_EQ("Print deze groep: Gr05-Bondsleden ...", Opschrift(Knop("cmdPrint")));
-    EXPECT_EQ("NBBgr", Header(17)->text().toStdString());
-    EXPECT_EQ("NBBnr", Header(18)->text().toStdString());
-    EXPECT_EQ("NBBgroep", Opschrift(Knop("cmdSortlijst3")));
-    EXPECT_EQ(" NBB-nr", Opschrift(Knop("cmdSortlijst2")));
-    EXPECT_TRUE(Knop("cmdSortlijst2")->isVisible());
-    EXPECT_TRUE(Knop("cmdHaalNBBnamen")->isVisible());
-    EXPECT_TRUE(Knop("cmdKoppel")->isVisible());
-    EXPECT_EQ("OPTIND=4\r\nLOSTGR=4\r\n", suite.Instellingen());
-}
-
-TEST_F(HoofdvensterTest, EenGroepsnaamMetAccentenEnTekensStaatHeelOpDeKnop)
-{
-    KiesGroep(9);
-    EXPECT_EQ("Print deze groep: Gr09-Wintercompetitie Café 't Anker ...",
-              Opschrift(Knop("cmdPrint")));
+    struct Geval {
+        int nummer;
+        const char *regels, *naam, *kolom17, *kolom18, *sorteerknop;
+        bool importgroep;
+    };
+    for (const Geval& geval :
+         {Geval{2, "25", "Gr02-Donderdagmiddag", "Subgr", "", "Subgroep", false},
+          Geval{5, "36", "Gr05-Bondsleden", "NBBgr", "NBBnr", "NBBgroep", true},
+          Geval{9, "0", "Gr09-Wintercompetitie Café 't Anker", "Subgr", "", "Subgroep", false}}) {
+        SCOPED_TRACE(geval.naam);
+        KiesGroep(geval.nummer);
+        EXPECT_EQ(std::string("Aantal regels: ") + geval.regels, Aantal());
+        EXPECT_EQ(std::string("Print deze groep: ") + geval.naam + " ...",
+                  Opschrift(Knop("cmdPrint")));
+        EXPECT_EQ(geval.kolom17, Header(17)->text().toStdString());
+        EXPECT_EQ(geval.kolom18, Header(18)->text().toStdString());
+        EXPECT_EQ(geval.sorteerknop, Opschrift(Knop("cmdSortlijst3")));
+        EXPECT_EQ(" NBB-nr", Opschrift(Knop("cmdSortlijst2")));
+        for (const char* knop : {"cmdSortlijst2", "cmdHaalNBBnamen", "cmdKoppel"})
+            EXPECT_EQ(geval.importgroep, Knop(knop)->isVisible()) << knop;
+        EXPECT_EQ("OPTIND=4\r\nLOSTGR=" + std::to_string(geval.nummer - 1) + "\r\n",
+                  suite.Instellingen());
+    }
 }
 
 TEST_F(HoofdvensterTest, EenLegeGroepTekentNiets)
@@ -81,18 +70,12 @@ TEST_F(HoofdvensterTest, EenLegeGroepTekentNiets)
             ASSERT_EQ(QColor(Qt::white), beeld.pixelColor(x, y)) << x << "," << y;
 }
 
-TEST_F(HoofdvensterTest, NaEenLegeGroepKomenDeKnoppenTerug)
+TEST_F(HoofdvensterTest, NaEenLegeGroepKomenDeKnoppenEnDeRegelnummersTerug)
 {
-    KiesGroep(4);
+    KiesGroep(4); // empty
     KiesGroep(3);
     for (const char* knop : {"cmdWijzig", "cmdVerwijder", "cmdVerwijderVT"})
         EXPECT_TRUE(Knop(knop)->isEnabled()) << knop;
-    EXPECT_EQ("Aantal regels: 9", Aantal());
-}
-
-TEST_F(HoofdvensterTest, DeRegellijstenHebbenEenTotHetAantal)
-{
-    KiesGroep(3);
     for (const char* naam : {"cmbVerwVan", "cmbVerwTot"}) {
         const QComboBox* keus = Keus(naam);
         ASSERT_EQ(9, keus->count());
@@ -272,32 +255,20 @@ TEST_F(HoofdvensterTest, OpenenEnAccepterenLaatHetBestandZoalsHetIs)
     EXPECT_EQ(oud, suite.Spelers());
 }
 
-TEST_F(HoofdvensterTest, OngedefinieerdeBytesVanEenGewijzigdeSpelerBlijven)
+TEST_F(HoofdvensterTest, ZonderGekozenRegelIsErNietsTeWijzigenOfTeVerwijderen)
 {
-    const std::string regel =
-        "1,100001,Gr01-,\x81\x8D,\x8F,Bos\x90\x9D,\t\x01,,,,,,X,,,,\xE9,12a\r\n";
-    suite.Zet("Spelers/RVDspelers.txt", "HKEY=100171\r\n" + regel);
-    ASSERT_NO_FATAL_FAILURE(Herstart());
-    KiesRegel(1);
-    wachter.Bedien([](QDialog& ingave) {
-        Schrijf(ingave, "txt1_8", u"x@y.example"_s);
-        Druk(ingave, "cmdOK");
-    });
-    Opdracht("cmdWijzig");
-    EXPECT_EQ("HKEY=100171\r\n1,100001,Gr01-,\x81\x8D,\x8F,Bos\x90\x9D,\t\x01,x@y.example,,,,,X,,,,"
-              "\xC9,12a\r\n",
-              suite.Spelers());
-}
-
-TEST_F(HoofdvensterTest, ZonderGekozenRegelIsErNietsTeWijzigen)
-{
-    wachter.Waarschuwing(geenRegel);
-    Opdracht("cmdWijzig");
-    wachter.Waarschuwing(geenRegel);
-    Toets(Qt::Key_F2);
-    wachter.Waarschuwing(geenRegel);
-    QTest::mouseDClick(Vlak(), Qt::LeftButton, {}, {40, static_cast<int>(Y(4))});
-    wachter.Klaar();
+    schijf.FaalNiet();
+    for (const std::function<void()>& weg : std::initializer_list<std::function<void()>>{
+             [this] { Klik(Knop("cmdWijzig")); }, [this] { Klik(Knop("cmdVerwijder")); },
+             [this] { Toets(Qt::Key_F2); }, [this] { Toets(Qt::Key_Delete); },
+             [this] {
+                 QTest::mouseDClick(Vlak(), Qt::LeftButton, {}, {40, static_cast<int>(Y(4))});
+             }}) {
+        wachter.Waarschuwing(u"Er is geen regel geselecteerd!"_s);
+        weg();
+        wachter.Klaar();
+    }
+    EXPECT_EQ(0, schijf.Aantal());
 }
 
 TEST_F(HoofdvensterTest, ToetsenEnDubbelklikOpenenDeIngave)
@@ -501,20 +472,13 @@ TEST_F(HoofdvensterTest, SessiespelersToevoegenSlaatOpEnToontZe)
 
 // ---- The end ----------------------------------------------------------------------------------
 
-TEST_F(HoofdvensterTest, HetEindeZetDeWerkmapOpDeSuite)
+TEST_F(HoofdvensterTest, HetEindeSchrijftNietsEnZetDeWerkmapOpDeSuite)
 {
+    schijf.FaalNiet();
     Opdracht("cmdEinde");
     EXPECT_FALSE(venster->isVisible());
-    EXPECT_EQ(std::filesystem::canonical(suite.Weg()), std::filesystem::current_path());
-}
-
-TEST_F(HoofdvensterTest, HetSluitenSchrijftNiets)
-{
-    const std::string spelers = suite.Spelers();
-    schijf.FaalNiet();
-    ASSERT_TRUE(venster->close());
     EXPECT_EQ(0, schijf.Aantal());
-    EXPECT_EQ(spelers, suite.Spelers());
+    EXPECT_EQ(std::filesystem::canonical(suite.Weg()), std::filesystem::current_path());
 }
 
 // ---- The explanation --------------------------------------------------------------------------

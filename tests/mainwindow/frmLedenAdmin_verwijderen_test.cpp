@@ -32,7 +32,6 @@ const QString OK = u"OK"_s;
 const QString Annuleren = u"Annuleren"_s;
 const QString regel3 = u"Weet u zeker dat u regel 3 wilt verwijderen?"_s;
 const QString johan = u"1 speler:\nJohan Kuipersma"_s;
-const QString geenRegel = u"Er is geen regel geselecteerd!"_s;
 
 class VerwijderTest : public Hoofdvensterproef {
   protected:
@@ -95,17 +94,6 @@ TEST_F(VerwijderTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
     }
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ("Aantal regels: 50", Aantal());
-}
-
-TEST_F(VerwijderTest, ZonderGekozenRegelIsErNietsTeVerwijderen)
-{
-    const std::string oud = suite.Spelers();
-    wachter.Waarschuwing(geenRegel);
-    Opdracht("cmdVerwijder");
-    wachter.Waarschuwing(geenRegel);
-    Toets(Qt::Key_Delete);
-    wachter.Klaar();
-    EXPECT_EQ(oud, suite.Spelers());
 }
 
 TEST_F(VerwijderTest, VerwijdertVanTotEnMet)

@@ -71,32 +71,15 @@ TEST(BouwWeergave, VergelijktDeCodeLetterVoorLetter)
     EXPECT_EQ(Weergave{}, BouwWeergave(tabel, "Gr02-"));
 }
 
-TEST(BeeldVan, DeImportgroepHeeftNBBkolommen)
+TEST(BeeldVan, AlleenDeLaatsteTweeKolommenHetenInDeImportgroepAnders)
 {
-    const Groepsbeeld beeld = BeeldVan(MetWoorden(""), "Gr05-");
-    EXPECT_TRUE(beeld.importgroep);
-    EXPECT_EQ("NBBgr", beeld.kolomnamen[16]);
-    EXPECT_EQ("NBBnr", beeld.kolomnamen[17]);
-}
-
-TEST(BeeldVan, EenAndereGroepHeeftEenSubgroepEnGeenNummer)
-{
-    const Groepsbeeld beeld = BeeldVan(MetWoorden(""), "Gr04-");
-    EXPECT_FALSE(beeld.importgroep);
-    EXPECT_EQ("Subgr", beeld.kolomnamen[16]);
-    EXPECT_EQ("", beeld.kolomnamen[17]);
-}
-
-TEST(BeeldVan, DeEersteZestienKolommenHetenInElkeGroepHetzelfde)
-{
-    const std::array<Tekstblik, 16> namen{
-        "Nr",    "Key",   "Groep",  "Voornaam", "Tusv", "Achternaam", "Telef", "Email",
-        "Adres", "Postc", "Plaats", "Land",     "M/V",  "Div1",       "Div2",  "Status"};
-    for (const char* groep : {"Gr05-", "Gr06-"}) {
-        const Groepsbeeld beeld = BeeldVan(MetWoorden(""), groep);
-        for (std::size_t i = 0; i < namen.size(); ++i)
-            EXPECT_EQ(namen[i], beeld.kolomnamen[i]);
-    }
+    Namenrij namen{"Nr",    "Key",   "Groep", "Voornaam", "Tusv",   "Achternaam",
+                   "Telef", "Email", "Adres", "Postc",    "Plaats", "Land",
+                   "M/V",   "Div1",  "Div2",  "Status",   "NBBgr",  "NBBnr"};
+    EXPECT_EQ(namen, BeeldVan(MetWoorden(""), "Gr05-").kolomnamen);
+    namen[16] = "Subgr";
+    namen[17] = "";
+    EXPECT_EQ(namen, BeeldVan(MetWoorden(""), "Gr06-").kolomnamen);
 }
 
 TEST(BeeldVan, WelkeGroepDeImportgroepIsStaatInDeMappen)
