@@ -27,23 +27,11 @@ struct Lezing {
 inline std::vector<std::string> Regels(const std::string& inhoud)
 {
     std::vector<std::string> regels;
-    std::string regel;
-    bool open = false;
-    for (std::size_t i = 0; i < inhoud.size(); ++i) {
-        const char teken = inhoud[i];
-        if (teken == '\r' || teken == '\n') {
-            if (teken == '\r' && i + 1 < inhoud.size() && inhoud[i + 1] == '\n')
-                ++i;
-            regels.push_back(regel);
-            regel.clear();
-            open = false;
-        } else {
-            regel += teken;
-            open = true;
-        }
+    for (std::size_t begin = 0; begin < inhoud.size();) {
+        const auto eind = std::min(inhoud.find_first_of("\r\n", begin), inhoud.size());
+        regels.push_back(inhoud.substr(begin, eind - begin));
+        begin = eind + (inhoud.substr(eind, 2) == "\r\n" ? 2 : 1);
     }
-    if (open)
-        regels.push_back(regel);
     return regels;
 }
 
@@ -61,16 +49,12 @@ inline Velden Splits(const std::string& regel)
 
 inline bool IsLeeg(const std::string& regel)
 {
-    for (const char teken : regel) {
-        if (teken != ' ')
-            return false;
-    }
-    return true;
+    return regel.find_first_not_of(' ') == std::string::npos;
 }
 
 inline bool IsSleutelregel(const std::string& regel)
 {
-    return regel.compare(0, 5, "HKEY=") == 0;
+    return regel.starts_with("HKEY=");
 }
 
 inline std::string Cijfers(const std::string& tekst, std::size_t& plaats)

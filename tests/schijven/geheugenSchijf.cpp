@@ -54,17 +54,6 @@ tl::unexpected<Fout> Mislukt(const Pad& pad, std::errc oorzaak)
                               .systeem = Systeemmelding(std::make_error_code(oorzaak))});
 }
 
-/// Of what stands in this folder, as it was written.
-template <class Lijst> std::vector<Tekst> NamenUit(const Lijst& lijst, const Tekst& map)
-{
-    std::vector<Tekst> uit;
-    for (const auto& [sleutel, wat] : lijst) {
-        if (MapVan(sleutel) == map)
-            uit.push_back(NaamIn(wat.pad));
-    }
-    return uit;
-}
-
 } // namespace
 
 class GeheugenSchijf::GeheugenSchrijver : public Schrijver {
@@ -97,6 +86,20 @@ std::shared_ptr<GeheugenSchijf::Knoop> GeheugenSchijf::NieuweKnoop()
     knoop->stempel.nummer = ++laatsteNummer_;
     knoop->stempel.tijd = Tik();
     return knoop;
+}
+
+template <class Lijst>
+Uitkomst<std::vector<Tekst>> GeheugenSchijf::NamenUit(const Lijst& lijst, const Pad& map) const
+{
+    const Tekst gezocht = Sleutel(map);
+    if (!IsMap(gezocht))
+        return Mislukt(map, std::errc::no_such_file_or_directory);
+    std::vector<Tekst> uit;
+    for (const auto& [sleutel, wat] : lijst) {
+        if (MapVan(sleutel) == gezocht)
+            uit.push_back(NaamIn(wat.pad));
+    }
+    return uit;
 }
 
 bool GeheugenSchijf::IsMap(const Tekst& sleutel) const
@@ -202,18 +205,12 @@ Uitkomst<Stempel> GeheugenSchijf::NeemStempel(const Pad& pad)
 
 Uitkomst<std::vector<Tekst>> GeheugenSchijf::Bestanden(const Pad& map)
 {
-    const Tekst gezocht = Sleutel(map);
-    if (!IsMap(gezocht))
-        return Mislukt(map, std::errc::no_such_file_or_directory);
-    return NamenUit(namen_, gezocht);
+    return NamenUit(namen_, map);
 }
 
 Uitkomst<std::vector<Tekst>> GeheugenSchijf::Mappen(const Pad& map)
 {
-    const Tekst gezocht = Sleutel(map);
-    if (!IsMap(gezocht))
-        return Mislukt(map, std::errc::no_such_file_or_directory);
-    return NamenUit(mappen_, gezocht);
+    return NamenUit(mappen_, map);
 }
 
 Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)

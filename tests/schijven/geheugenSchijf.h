@@ -72,6 +72,9 @@ class GeheugenSchijf : public Schijf {
     using Namenlijst = std::map<Tekst, Naam>; ///< by the path in capitals
 
     [[nodiscard]] bool IsMap(const Tekst& sleutel) const;
+    /// Of what stands in this folder, as it was written.
+    template <class Lijst>
+    [[nodiscard]] Uitkomst<std::vector<Tekst>> NamenUit(const Lijst& lijst, const Pad& map) const;
     /// Whether names in the folder of this key may change.
     [[nodiscard]] Uitkomst<void> MagInMapVan(const Tekst& sleutel, const Pad& pad) const;
     [[nodiscard]] Uitkomst<Knoop*> Vind(const Pad& pad) const;

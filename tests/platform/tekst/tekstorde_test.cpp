@@ -57,13 +57,10 @@ std::pair<std::vector<int>, Tekst> GewoneSleutel(const Tekst& tekst)
         const Tekst letters = LettersVan(teken);
         for (const char letter : letters)
             gewichten.push_back(3000 + letter);
-        if (!letters.empty())
-            continue;
         const int code = static_cast<unsigned char>(teken);
-        if (teken == ' ')
-            gewichten.push_back(0);
-        else
-            gewichten.push_back((teken >= '0' && teken <= '9' ? 2000 : 1000) + code);
+        const int soort = teken == ' ' ? 0 : teken >= '0' && teken <= '9' ? 2000 : 1000;
+        if (letters.empty())
+            gewichten.push_back(soort + code);
     }
     return {gewichten, tekst};
 }
@@ -84,11 +81,7 @@ TEST(Tekstorde, EenKortereTekstKomtVoorEenLangere)
 TEST(Tekstorde, HoofdletterEnAccentTellenPasAlsVerderAllesGelijkIs)
 {
     VerwachtOplopend({"Anna", "anna", "\xC0nna", "\xE0nna", "anne", "B"});
-    VerwachtOplopend({"ZO\xCB"
-                      "A",
-                      "zoeb",
-                      "Zo\xEB"
-                      "C"});
+    VerwachtOplopend({"ZO\xCBK", "zoel", "Zo\xEBM"});
     VerwachtOplopend({"C", "\xC7", "\xE7", "D", "\xD0", "\xF0", "E"});
     VerwachtOplopend({"N", "n", "\xD1", "\xF1", "O"});
     VerwachtOplopend({"R", "S", "s", "\x8A", "\x9A", "T"});
@@ -101,14 +94,8 @@ TEST(Tekstorde, TekensDieVoorTweeLettersStaan)
     VerwachtOplopend({"Od", "OE", "oe", "\x8C", "\x9C", "Of"});
     VerwachtOplopend({"Sr", "SS", "ss", "\xDF", "St"});
     VerwachtOplopend({"Tg", "TH", "th", "\xDE", "\xFE", "Ti"});
-    VerwachtOplopend({"Gro\xDF"
-                      "a",
-                      "Grossb",
-                      "Gro\xDF"
-                      "c"});
-    VerwachtOplopend({"Nz", "O", "o", "\xD6", "\xD8", "\xF6", "\xF8", "Oa",
-                      "\xD8"
-                      "b"});
+    VerwachtOplopend({"Gro\xDFk", "Grossl", "Gro\xDFm"});
+    VerwachtOplopend({"Nz", "O", "o", "\xD6", "\xD8", "\xF6", "\xF8", "Oa", "\xD8k"});
 }
 
 TEST(Tekstorde, AlleenGelijkeTekstenHebbenEenGelijkeSleutel)
@@ -149,10 +136,7 @@ TEST(Tekstorde, SorteertEnHoudtDubbeleTeksten)
     const std::vector<Tekst> gesorteerd{"",    "'t Hof", "9",   "\xC5s", "Bos",
                                         "bos", "bos",    "Zoa", "Zo\xEB"};
     EXPECT_EQ(gesorteerd, teksten);
-    std::vector<Tekst> geen;
-    Sorteer(geen);
     std::vector<Tekst> eigen{"b", "a 2", "\xC9\xE9n", "A 10"};
     Sorteer(eigen);
     EXPECT_EQ((std::vector<Tekst>{"A 10", "a 2", "b", "\xC9\xE9n"}), eigen);
-    EXPECT_TRUE(geen.empty());
 }
