@@ -56,7 +56,7 @@ class Samenvoeger {
             if (nummers_[i].empty()) {
                 uitkomst.ZonderNBBnr.append(opdracht_.lstN1[i]).append("\r\n");
             } else if (const auto gevonden = eersteRij_.find(nummers_[i]);
-                       gevonden != eersteRij_.end() && NBBnrIndex_.Bevat(i)) {
+                       gevonden != eersteRij_.end()) { // so it is in the index too
                 verversingen_.emplace_back(i, gevonden->second);
             } else {
                 lstN2_.push_back(i);

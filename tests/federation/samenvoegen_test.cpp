@@ -134,16 +134,6 @@ TEST_F(Samenvoegen, EenAndersGeschrevenNummerValtErtussenuit)
     EXPECT_EQ(oud, AlleRijen(spelers.tabel));
 }
 
-TEST_F(Samenvoegen, DeRijDieLetterlijkGelijkIsOokAchterEenAndersGeschrevene)
-{
-    spelers = {};
-    spelers.tabel = MaakTabel({{.groep = "Gr05-", .achternaam = "Een", .nbbnr = "005"},
-                               {.groep = "Gr05-", .achternaam = "Twee", .nbbnr = "5"}});
-    EXPECT_EQ(1U, Voeg({"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
-    EXPECT_EQ("Een", spelers.tabel.Cel(1, Kolom::Achternaam));
-    EXPECT_EQ("Nieuw", spelers.tabel.Cel(2, Kolom::Achternaam));
-}
-
 TEST_F(Samenvoegen, WatTeLangIsOmNummersTeZijnVerandertNiets)
 {
     Teksten regels{"An,,Bos,,,,,,,,12345"};
@@ -176,15 +166,17 @@ TEST_F(Samenvoegen, TweemaalHetzelfdeNieuweNummerAlleenHetEerste)
     EXPECT_EQ("Twee", spelers.tabel.Cel(1, Kolom::Achternaam));
 }
 
-TEST_F(Samenvoegen, VanDubbeleRijenDeEerste)
+TEST_F(Samenvoegen, DeEersteRijVanDeGroepDieLetterlijkGelijkIs)
 {
-    spelers = Lees(Tekst(Kop) + "1,100001,Gr01-,,,X,,,,,,,,,,,,5\r\n"
-                                "2,100002,Gr05-,,,Een,,,,,,,,,,,,5\r\n"
-                                "3,100003,Gr05-,,,Twee,,,,,,,,,,,,5\r\n");
+    spelers = {};
+    spelers.tabel = MaakTabel({{.groep = "Gr01-", .achternaam = "Ander", .nbbnr = "5"},
+                               {.groep = "Gr05-", .achternaam = "Nul", .nbbnr = "005"},
+                               {.groep = "Gr05-", .achternaam = "Een", .nbbnr = "5"},
+                               {.groep = "Gr05-", .achternaam = "Twee", .nbbnr = "5"}});
     EXPECT_EQ(1U, Voeg({"Bo,,Nieuw,,,,,,,,5"}).AantalVerververst);
-    EXPECT_EQ("X", spelers.tabel.Cel(1, Kolom::Achternaam));
-    EXPECT_EQ("Nieuw", spelers.tabel.Cel(2, Kolom::Achternaam));
-    EXPECT_EQ("Twee", spelers.tabel.Cel(3, Kolom::Achternaam));
+    int rij = 0;
+    for (const char* naam : {"Ander", "Nul", "Nieuw", "Twee"})
+        EXPECT_EQ(naam, spelers.tabel.Cel(++rij, Kolom::Achternaam));
 }
 
 TEST_F(Samenvoegen, TweemaalHetzelfdeBestandVerverstDeTweedeKeerIedereen)
@@ -194,16 +186,11 @@ TEST_F(Samenvoegen, TweemaalHetzelfdeBestandVerverstDeTweedeKeerIedereen)
     const Samenvoeging tweede = Voeg(regels);
     EXPECT_EQ(3U, tweede.AantalVerververst);
     EXPECT_EQ(0U, tweede.AantalNieuw);
-    EXPECT_EQ(5, spelers.tabel.Rijen());
-}
-
-TEST_F(Samenvoegen, NaarEenAnderLedenbestandHoudtDeSleutel)
-{
-    (void)Voeg({"Eva,,Fuik,,,,,,,,77"}, "Club");
-    (void)Voeg({"Eva,,Fuik,,,,,,,,77"}, "Cursus");
+    // From another member file a player keeps the key.
+    EXPECT_EQ(3U, Voeg(regels, "Cursus").AantalVerververst);
     EXPECT_EQ("100043", spelers.tabel.Cel(4, Kolom::Key));
     EXPECT_EQ("CURSUS", spelers.tabel.Cel(4, Kolom::NBBgr));
-    EXPECT_EQ(4, spelers.tabel.Rijen());
+    EXPECT_EQ(5, spelers.tabel.Rijen());
 }
 
 /// Meant: a comma inside a field of the source shifts the fields behind it.
@@ -269,84 +256,54 @@ TEST_F(Samenvoegen, StoppenOpElkMomentVerandertNiets)
 
 // ---------------------------------------------------------------- the plain way
 
-struct Platte {
-    std::vector<Rijvelden> rijen; ///< element 0 is row 1
-    std::int32_t HKEY = 0;
-    Samenvoeging uitkomst{};
-};
-
-Tekst Formaat(Tekstblik nummer)
-{
-    return AlsGetal(nummer, 8).value_or(Tekst(nummer));
-}
-
-std::vector<Tekst> Gesplitst(const Tekst& regel)
-{
-    std::vector<Tekst> delen{""};
-    for (const char teken : regel) {
-        if (teken == ',')
-            delen.emplace_back();
-        else
-            delen.back() += teken;
-    }
-    delen.resize(std::max<std::size_t>(delen.size(), 11));
-    return delen;
-}
-
 constexpr std::array<std::pair<std::size_t, std::size_t>, 10> kolomEnVeld{
     {{3, 0}, {4, 1}, {5, 2}, {6, 6}, {7, 7}, {8, 3}, {9, 4}, {10, 5}, {11, 8}, {12, 9}}};
 
-/// Step by step with nested loops and one concatenated text.
-void VoegPlatSamen(Platte& spelers, std::vector<Tekst> lstN1, const Tekst& groep,
-                   const Tekst& subgroep)
+/// Step by step, with one concatenated text.
+Samenvoeging VoegPlatSamen(std::vector<Rijvelden>& rijen, std::int32_t& HKEY, const Teksten& lstN1)
 {
+    Samenvoeging uit;
     Tekst index;
-    for (const Rijvelden& rij : spelers.rijen) {
-        if (rij[2] == groep)
-            index += "-" + Formaat(rij[17]);
-    }
-    for (Tekst& regel : lstN1) {
-        const auto veld = Gesplitst(regel);
-        const Tekst nummer(ZonderSpaties(veld[10]));
-        if (nummer.empty()) {
-            spelers.uitkomst.ZonderNBBnr += regel + "\r\n";
-            regel.clear();
-            continue;
-        }
-        if (index.find(Formaat(nummer)) == Tekst::npos)
-            continue;
-        for (Rijvelden& rij : spelers.rijen) {
-            if (rij[2] != groep || rij[17].empty() || rij[17] != nummer)
-                continue;
-            for (const auto& [kolom, plaats] : kolomEnVeld)
-                rij[kolom] = veld[plaats];
-            rij[16] = Hoofdletters(subgroep);
-            ++spelers.uitkomst.AantalVerververst;
-            regel.clear();
-            break;
-        }
-    }
+    for (const Rijvelden& rij : rijen)
+        index += rij[2] == "Gr05-" ? "-" + OpgemaaktNBBnr(rij[17]) : "";
+    const auto bevat = [&](const Tekst& nummer) {
+        return index.find(OpgemaaktNBBnr(nummer)) != Tekst::npos;
+    };
+    Teksten lstN2;
     for (const Tekst& regel : lstN1) {
-        if (IsBlanco(regel))
-            continue;
-        const auto veld = Gesplitst(regel);
+        const Importvelden veld = SplitsImportregel(regel);
         const Tekst nummer(ZonderSpaties(veld[10]));
-        if (index.find(Formaat(nummer)) != Tekst::npos) {
-            spelers.uitkomst.overgeslagen.push_back(regel);
+        const auto rij = std::find_if(rijen.begin(), rijen.end(), [&](const Rijvelden& een) {
+            return een[2] == "Gr05-" && een[17] == nummer;
+        });
+        if (nummer.empty()) {
+            uit.ZonderNBBnr += regel + "\r\n";
+        } else if (!bevat(nummer) || rij == rijen.end()) {
+            lstN2.push_back(regel);
+        } else {
+            for (const auto& [kolom, plek] : kolomEnVeld)
+                (*rij)[kolom] = veld[plek];
+            (*rij)[16] = "CLUB";
+            ++uit.AantalVerververst;
+        }
+    }
+    for (const Tekst& regel : lstN2) {
+        const Importvelden veld = SplitsImportregel(regel);
+        const Tekst nummer(ZonderSpaties(veld[10]));
+        if (bevat(nummer)) {
+            uit.overgeslagen.push_back(regel);
             continue;
         }
-        Rijvelden rij;
-        rij[0] = std::to_string(spelers.rijen.size() + 1);
-        rij[1] = std::to_string(++spelers.HKEY);
-        rij[2] = groep;
-        for (const auto& [kolom, plaats] : kolomEnVeld)
-            rij[kolom] = ZonderSpaties(veld[plaats]);
-        rij[16] = Hoofdletters(subgroep);
+        Rijvelden rij{std::to_string(rijen.size() + 1), std::to_string(++HKEY), "Gr05-"};
+        for (const auto& [kolom, plek] : kolomEnVeld)
+            rij[kolom] = ZonderSpaties(veld[plek]);
+        rij[16] = "CLUB";
         rij[17] = nummer;
-        spelers.rijen.push_back(rij);
-        ++spelers.uitkomst.AantalNieuw;
-        index += "-" + Formaat(nummer);
+        rijen.push_back(rij);
+        ++uit.AantalNieuw;
+        index += "-" + OpgemaaktNBBnr(nummer);
     }
+    return uit;
 }
 
 /// Of few digits, which are equal as numbers sooner than as texts, or of anything.
@@ -381,7 +338,8 @@ TEST_F(Samenvoegen, DoetHetzelfdeAlsDePlatteStappen)
                       .nbbnr = ToevalligNummer(toeval, gewoon)};
         spelers.HKEY = 100042;
         spelers.tabel = MaakTabel(begin);
-        Platte plat{.rijen = AlleRijen(spelers.tabel), .HKEY = 100042};
+        auto rijen = AlleRijen(spelers.tabel);
+        std::int32_t HKEY = 100042;
         Teksten regels;
         for (std::size_t over = Gooi(toeval, 12); over > 0; --over)
             regels.push_back(Trek(toeval, {"a", " b "}) + "," +
@@ -389,13 +347,13 @@ TEST_F(Samenvoegen, DoetHetzelfdeAlsDePlatteStappen)
                              Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
                              ToevalligNummer(toeval, gewoon));
         const Samenvoeging uitkomst = Voeg(regels);
-        VoegPlatSamen(plat, {regels.begin(), regels.end()}, "Gr05-", "Club");
-        ASSERT_EQ(plat.rijen, AlleRijen(spelers.tabel));
-        ASSERT_EQ(plat.HKEY, spelers.HKEY);
-        ASSERT_EQ(plat.uitkomst.AantalVerververst, uitkomst.AantalVerververst);
-        ASSERT_EQ(plat.uitkomst.AantalNieuw, uitkomst.AantalNieuw);
-        ASSERT_EQ(plat.uitkomst.ZonderNBBnr, uitkomst.ZonderNBBnr);
-        ASSERT_EQ(plat.uitkomst.overgeslagen, uitkomst.overgeslagen);
+        const Samenvoeging plat = VoegPlatSamen(rijen, HKEY, regels);
+        ASSERT_EQ(rijen, AlleRijen(spelers.tabel));
+        ASSERT_EQ(HKEY, spelers.HKEY);
+        ASSERT_EQ(plat.AantalVerververst, uitkomst.AantalVerververst);
+        ASSERT_EQ(plat.AantalNieuw, uitkomst.AantalNieuw);
+        ASSERT_EQ(plat.ZonderNBBnr, uitkomst.ZonderNBBnr);
+        ASSERT_EQ(plat.overgeslagen, uitkomst.overgeslagen);
         ververst += uitkomst.AantalVerververst;
         nieuw += uitkomst.AantalNieuw;
         overgeslagen += uitkomst.overgeslagen.size();
