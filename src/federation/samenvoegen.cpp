@@ -53,14 +53,13 @@ class Samenvoeger {
     [[nodiscard]] bool VerversBestaande()
     {
         for (std::size_t i = 0; i < nummers_.size(); ++i) {
-            if (nummers_[i].empty()) {
+            const auto gelijke = eersteRij_.find(nummers_[i]);
+            if (nummers_[i].empty())
                 uitkomst.ZonderNBBnr.append(opdracht_.lstN1[i]).append("\r\n");
-            } else if (const auto gevonden = eersteRij_.find(nummers_[i]);
-                       gevonden != eersteRij_.end()) { // so it is in the index too
-                verversingen_.emplace_back(i, gevonden->second);
-            } else {
+            else if (gelijke != eersteRij_.end()) // whose number is in the index as well
+                verversingen_.emplace_back(i, gelijke->second);
+            else
                 lstN2_.push_back(i);
-            }
             if (!GaVerder())
                 return false;
         }

@@ -11,7 +11,6 @@ using namespace plexoran;
 
 namespace {
 
-const QString OK = u"OK"_s;
 const QString Annuleren = u"Annuleren"_s;
 
 const std::string Een = "771;V;Eva;;;Een;;;;;;\r\n";
@@ -67,6 +66,12 @@ class ImporterenTest : public Importproef {
         });
     }
 
+    void VerwachtGestopt()
+    {
+        wachter.Informatie(
+            u"Het importeren is gestopt. Uit 'B.csv' is niets geïmporteerd; wat eerder is "
+            "geïmporteerd, blijft. Importeer 'B.csv' opnieuw als u die leden nog nodig hebt."_s);
+    }
     void VerwachtLos(const QString& naam, const QString& rest)
     {
         wachter.Informatie(
@@ -172,9 +177,8 @@ TEST_F(ImporterenTest, UitDeDatabase)
 /// under this name.
 TEST_F(ImporterenTest, EenNummerVanVierCijfersWordtVoorDeVraagGemeld)
 {
-    winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / "Rekenprogramma").string());
     suite.Zet("Rekenprogramma/data/Members.mdb", DatabaseMetJeugdnummer(1007));
-    Herstart();
+    StartMetDatabase();
     Verwacht(Voer("Option1", {2}));
     wachter.Waarschuwing(
         u"Van het nummer achter de naam 'Jeugd 1007' tellen alleen de laatste drie tekens: dit "
@@ -346,7 +350,7 @@ TEST_F(ImporterenTest, TijdensDeVraagWachtHetProgramma)
     ZetExport("Club.csv", LangeExport());
     const Voortgangstopper teller(0);
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(u"Club"_s, LangeExportLeden, u"Annuleren"_s);
+    VerwachtVraag(u"Club"_s, LangeExportLeden, Annuleren);
     Importeer();
     EXPECT_GT(teller.Stappen(), 0);
     EXPECT_EQ(1, kijker.keren);
@@ -465,9 +469,7 @@ TEST_F(ImporterenTest, StoppenTijdensHetLezen)
     });
     VerwachtVraag(u"A"_s, 1);
     VerwachtAantallen(0, 1);
-    wachter.Informatie(
-        u"Het importeren is gestopt. Uit 'B.csv' is niets geïmporteerd; wat eerder is "
-        "geïmporteerd, blijft. Importeer 'B.csv' opnieuw als u die leden nog nodig hebt."_s);
+    VerwachtGestopt();
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Een,,,,,,,V,,,,A,771", Speler("100172"));
     EXPECT_EQ("HKEY=100172", Sleutelregel());
@@ -485,9 +487,7 @@ TEST_F(ImporterenTest, StoppenTijdensHetSamenvoegen)
         EXPECT_TRUE(dia.isVisible());
     });
     VerwachtVraag(u"B"_s, LangeExportLeden);
-    wachter.Informatie(
-        u"Het importeren is gestopt. Uit 'B.csv' is niets geïmporteerd; wat eerder is "
-        "geïmporteerd, blijft. Importeer 'B.csv' opnieuw als u die leden nog nodig hebt."_s);
+    VerwachtGestopt();
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }

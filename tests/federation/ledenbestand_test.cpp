@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "hulp/fouten.h"
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"
 #include "schijven/geheugenSchijf.h"
@@ -111,15 +112,14 @@ TEST_F(LeesLedenbestandTest, EenFoutLaatNietsLezen)
     schijf.Zet("C:\\P\\Club Temp-NBBXMLtoCSV.csv", "9;;;;;Oud;;;;;;;;;;;\r\n\r\n");
     Zet("Club.xml", "geen xml");
     Zet("nul.csv", Tekst("1;;A;;;B\0;;;;;;", 15));
-    const auto fout = [&](Ledenbron bron, const char* naam) {
-        const auto lezing = Lees(bron, naam);
-        return lezing ? Fout{} : lezing.error();
-    };
-    EXPECT_EQ(fout(Ledenbron::XmlNbb3, "Club.xml").soort, Foutsoort::Beschadigd);
-    EXPECT_EQ(fout(Ledenbron::XmlNbb3, "Club.xml").bestand, "C:\\Export\\Club.xml");
-    EXPECT_EQ(fout(Ledenbron::Csv, "weg.csv").soort, Foutsoort::Ontbreekt);
-    EXPECT_EQ(fout(Ledenbron::Csv, "weg.csv").bestand, "C:\\Export\\weg.csv");
-    EXPECT_EQ(fout(Ledenbron::Csv, "nul.csv").bestand, "C:\\Export\\nul.csv");
+    for (const auto& [bron, naam, soort] :
+         {std::tuple{Ledenbron::XmlNbb3, "Club.xml", Foutsoort::Beschadigd},
+          {Ledenbron::Csv, "weg.csv", Foutsoort::Ontbreekt},
+          {Ledenbron::Csv, "nul.csv", Foutsoort::Beschadigd}}) {
+        const Fout fout = FoutVan(Lees(bron, naam));
+        EXPECT_EQ(fout.soort, soort) << naam;
+        EXPECT_EQ(fout.bestand, Samen("C:\\Export", naam));
+    }
     EXPECT_FALSE(Lees(Ledenbron::Database, "Club 007").has_value());
     const auto vier = Lees(Ledenbron::XmlNbb4, "Club.xml");
     ASSERT_TRUE(vier.has_value());
@@ -151,10 +151,9 @@ TEST(LeesLedenbestand, EenReusachtigBestandWordtNietGelezen)
     schijf.Zet("C:\\Export\\Club.xml", Xml("<ReportableMember></ReportableMember>"));
     for (const auto& [bron, naam] :
          {std::pair{Ledenbron::Csv, "Club.csv"}, std::pair{Ledenbron::XmlNbb3, "Club.xml"}}) {
-        const auto lezing = LeesLedenbestand(schijf, Opdracht(bron), naam);
-        ASSERT_FALSE(lezing.has_value());
-        EXPECT_EQ(lezing.error().soort, Foutsoort::Beschadigd);
-        EXPECT_NE(lezing.error().systeem, "");
+        const Fout fout = FoutVan(LeesLedenbestand(schijf, Opdracht(bron), naam));
+        EXPECT_EQ(fout.soort, Foutsoort::Beschadigd);
+        EXPECT_NE(fout.systeem, "");
     }
     for (const Ledenbron bron : {Ledenbron::XmlNbb3, Ledenbron::XmlNbb4})
         EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", {"Club.xml"}, bron).size(), 1U)
@@ -376,15 +375,13 @@ TEST(LeesLedenbestand, ZestigMegabyteDuurtNietLang)
 {
     constexpr std::size_t groot = std::size_t{60} << 20U;
     const Tekst lid = "1;V;Ans;A.;;Ek;;;;;;;\r\n";
-    const auto nullen = LeesGroot(Ledenbron::Csv, lid + Tekst(groot, '\0'));
-    ASSERT_FALSE(nullen);
-    EXPECT_EQ(nullen.error().soort, Foutsoort::Beschadigd);
+    EXPECT_EQ(FoutVan(LeesGroot(Ledenbron::Csv, lid + Tekst(groot, '\0'))).soort,
+              Foutsoort::Beschadigd);
     const auto regel = LeesGroot(Ledenbron::Csv, lid + Tekst(groot, 'x'));
     EXPECT_EQ(regel->lstN1.size(), 1U);
     EXPECT_EQ(regel->teKorteRegel, 2);
-    const auto open = LeesGroot(Ledenbron::XmlNbb3, "<a>" + Tekst(groot, '<'));
-    ASSERT_FALSE(open);
-    EXPECT_EQ(open.error().soort, Foutsoort::Beschadigd);
+    EXPECT_EQ(FoutVan(LeesGroot(Ledenbron::XmlNbb3, "<a>" + Tekst(groot, '<'))).soort,
+              Foutsoort::Beschadigd);
     const auto heel =
         LeesGroot(Ledenbron::XmlNbb4, Xml("<ReportableMember><Adres>" + Tekst(groot, 'x') +
                                           "</Adres></ReportableMember>"));
@@ -395,12 +392,11 @@ TEST(LeesLedenbestand, ZestigMegabyteDuurtNietLang)
 TEST_F(LeesLedenbestandTest, EenNaamUitDeDatabaseDieGeenBestandKanZijnWordtNietGelezen)
 {
     for (const char* naam : {"Noord/Zuid 007", "..\\..\\Elders 007", "C:Club 007"}) {
-        const auto lezing = Lees(Ledenbron::Database, naam);
-        ASSERT_FALSE(lezing) << naam;
-        EXPECT_EQ(Foutsoort::Beschadigd, lezing.error().soort) << naam;
-        EXPECT_EQ(0U, lezing.error().systeem.find("'" + SubgroepUitNaam(naam) + "' kan niet"))
-            << lezing.error().systeem;
-        EXPECT_EQ("", lezing.error().bestand);
+        const Fout fout = FoutVan(Lees(Ledenbron::Database, naam));
+        EXPECT_EQ(Foutsoort::Beschadigd, fout.soort) << naam;
+        EXPECT_EQ(0U, fout.systeem.find("'" + SubgroepUitNaam(naam) + "' kan niet"))
+            << fout.systeem;
+        EXPECT_EQ("", fout.bestand);
     }
 }
 

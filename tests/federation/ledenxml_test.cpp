@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "hulp/fouten.h"
 #include "schijven/falendeSchijf.h"
 #include "schijven/geheugenSchijf.h"
 
@@ -247,16 +248,14 @@ TEST(Nbb3Xml, WatGeenXmlIsIsEenFoutEnLaatHetTussenbestandStaan)
     GeheugenSchijf schijf;
     schijf.Zet(tussenbestand, "oud");
     schijf.Zet(bestand, "<a>\r\n<b>\r\n</a>\r\n");
-    const auto uit = ConverteerNBB3XML(schijf, bestand, tussenbestand);
-    ASSERT_FALSE(uit.has_value());
-    EXPECT_EQ(uit.error().soort, Foutsoort::Beschadigd);
-    EXPECT_EQ(uit.error().bestand, bestand);
-    EXPECT_EQ(uit.error().regel, 3);
-    EXPECT_NE(uit.error().systeem, "");
+    const Fout fout = FoutVan(ConverteerNBB3XML(schijf, bestand, tussenbestand));
+    EXPECT_EQ(fout.soort, Foutsoort::Beschadigd);
+    EXPECT_EQ(fout.bestand, bestand);
+    EXPECT_EQ(fout.regel, 3);
+    EXPECT_NE(fout.systeem, "");
     EXPECT_EQ(schijf.Inhoud(tussenbestand), "oud");
-    const auto weg = ConverteerNBB3XML(schijf, "C:\\Export\\weg.xml", tussenbestand);
-    ASSERT_FALSE(weg.has_value());
-    EXPECT_EQ(weg.error().soort, Foutsoort::Ontbreekt);
+    EXPECT_EQ(FoutVan(ConverteerNBB3XML(schijf, "C:\\Export\\weg.xml", tussenbestand)).soort,
+              Foutsoort::Ontbreekt);
 }
 
 TEST(Nbb3Xml, ZonderLedenIsDeLijstLeeg)

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "hulp/fouten.h"
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -170,13 +172,10 @@ TEST(Access, ElkSlechtBestandGeeftEenFoutOfGoedeRijen)
 TEST(Access, WatGeenBestandIsWordtNietGelezen)
 {
     const TijdelijkeMap map;
-    const auto ontbreekt = LeesLeden(Samen(map.AlsPad(), "Members.mdb"));
-    ASSERT_FALSE(ontbreekt);
-    EXPECT_EQ(ontbreekt.error().soort, Foutsoort::Ontbreekt);
-    const auto eenMap = LeesLeden(map.AlsPad());
-    ASSERT_FALSE(eenMap);
-    EXPECT_EQ(eenMap.error().soort, Foutsoort::Geweigerd);
-    EXPECT_EQ(eenMap.error().systeem, "het is geen gewoon bestand");
+    EXPECT_EQ(FoutVan(LeesLeden(Samen(map.AlsPad(), "Members.mdb"))).soort, Foutsoort::Ontbreekt);
+    const Fout eenMap = FoutVan(LeesLeden(map.AlsPad()));
+    EXPECT_EQ(eenMap.soort, Foutsoort::Geweigerd);
+    EXPECT_EQ(eenMap.systeem, "het is geen gewoon bestand");
 }
 
 /// The members of these bytes instead of the good ones.
@@ -204,9 +203,7 @@ TEST(Access, WatHetBestandVanZijnEigenGrootteZegtMoetKloppen)
               "in de tabel \"leden\" ontbreken rijen (verwacht: 41, gelezen: 40)"},
              {metRijen("\xFF\xFF\xFF\x7F"),
               "de tabel \"leden\" zegt onmogelijk veel rijen te hebben"}}) {
-        const auto rijen = LeesBytes(bytes);
-        ASSERT_FALSE(rijen);
-        EXPECT_EQ(rijen.error().systeem, reden);
+        EXPECT_EQ(FoutVan(LeesBytes(bytes)).systeem, reden);
     }
 }
 
@@ -284,9 +281,9 @@ TEST(Access, TeVeelGeheugenBeeindigtHetKind)
 {
     Accessgrenzen grenzen;
     grenzen.zonderVoortgang = std::chrono::minutes(1); // not what ends it here
-    const auto rijen = LeesLeden(Accessbestand("bad/repro-memory-prop-reclen0.mdb"), grenzen);
-    ASSERT_FALSE(rijen);
-    EXPECT_EQ(rijen.error().systeem, "de database is beschadigd: het lezen brak af");
+    EXPECT_EQ(
+        FoutVan(LeesLeden(Accessbestand("bad/repro-memory-prop-reclen0.mdb"), grenzen)).systeem,
+        "de database is beschadigd: het lezen brak af");
 }
 
 #endif
@@ -295,9 +292,7 @@ TEST(Access, OpEenPijpWordtNietGewacht)
 {
     const TijdelijkeMap map;
     ASSERT_EQ(::mkfifo((map.Weg() / "Members.mdb").c_str(), 0600), 0);
-    const auto rijen = LeesLeden(Samen(map.AlsPad(), "Members.mdb"));
-    ASSERT_FALSE(rijen);
-    EXPECT_EQ(rijen.error().soort, Foutsoort::Geweigerd);
+    EXPECT_EQ(FoutVan(LeesLeden(Samen(map.AlsPad(), "Members.mdb"))).soort, Foutsoort::Geweigerd);
 }
 
 #endif
