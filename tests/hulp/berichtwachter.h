@@ -43,6 +43,11 @@ class Berichtwachter : public QObject {
     void Verwacht(Bericht bericht);
     void Informatie(const QString& tekst);
     void Waarschuwing(const QString& tekst);
+    /// A box of which the file and the words of the system may follow.
+    void Begin(const QString& tekst, QMessageBox::Icon icoon = QMessageBox::Warning)
+    {
+        Verwacht({.tekst = tekst, .icoon = icoon, .alleenBegin = true});
+    }
     /// `wat` did not happen, because no key is left after that on the first line of the file.
     void SleutelsOp(const QString& wat, const std::string& spelerbestand);
 

@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -60,6 +62,36 @@ inline void KiesUit(QComboBox* keus, int plaats)
     keus->view()->setCurrentIndex(keus->model()->index(plaats, 0));
     QTest::keyClick(keus->view(), Qt::Key_Return);
     QApplication::processEvents();
+}
+
+/// The entries of a drop-down.
+inline std::vector<std::string> Keuzes(const QComboBox* keus)
+{
+    std::vector<std::string> keuzes;
+    for (int i = 0; i < keus->count(); ++i)
+        keuzes.push_back(keus->itemText(i).toStdString());
+    return keuzes;
+}
+
+/// Turns the wheel over a part; only as an event of the system it goes on to what is around it.
+inline void DraaiWiel(QWidget* boven, QPoint hoek, Qt::KeyboardModifiers bij = {})
+{
+    const QPointF plek(20, 20);
+    QWheelEvent wiel(plek, boven->mapToGlobal(plek), {}, hoek, Qt::NoButton, bij, Qt::NoScrollPhase,
+                     false);
+    QSpontaneKeyEvent::setSpontaneous(&wiel);
+    qApp->notify(boven, &wiel);
+}
+
+/// The names of the parts that get the focus by so many presses of the Tab key, one after another.
+inline std::string MetTab(int keer)
+{
+    std::string namen;
+    while (keer-- > 0) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        namen += QApplication::focusWidget()->objectName().toStdString() + " ";
+    }
+    return namen;
 }
 
 /// The lines of a list as they read on the screen.

@@ -33,25 +33,9 @@ class ParenSuiteTest : public Hoofdvensterproef {
         ASSERT_GE(cmb->currentIndex(), 0) << keuze;
         emit cmb->activated(cmb->currentIndex());
     }
-    static void Druk(const QDialog& dialoog, const char* knop)
-    {
-        Klik(Vind<QPushButton>(dialoog, knop));
-    }
 };
 
 } // namespace
-
-TEST_F(ParenSuiteTest, DeKnopIsErEnWerkt)
-{
-    EXPECT_TRUE(Knop("cmdParenOnderhoud")->isVisible());
-    EXPECT_TRUE(Knop("cmdParenOnderhoud")->isEnabled());
-    KiesGroep(6);
-    MetParen([&](QDialog& dialoog) {
-        EXPECT_EQ("Gr06-", Vind<QLabel>(dialoog, "lblRVDledengr")->text().toStdString());
-        Druk(dialoog, "cmdAnnu");
-    });
-    EXPECT_TRUE(venster->isVisible());
-}
 
 TEST_F(ParenSuiteTest, AlleenMetNEWPAGREen)
 {
@@ -107,7 +91,11 @@ TEST_F(ParenSuiteTest, EenTweedeExemplaarEindigtHetProgramma)
     ASSERT_EQ(std::nullopt, venster->Laad({.mappenIni = suite.MappenIni(),
                                            .eersteExemplaar = [&eerste] { return eerste; }}));
     ASSERT_NO_FATAL_FAILURE(Toon());
-    MetParen([](QDialog& dialoog) { Druk(dialoog, "cmdAnnu"); });
+    KiesGroep(6);
+    MetParen([](QDialog& dialoog) {
+        EXPECT_EQ("Gr06-", Vind<QLabel>(dialoog, "lblRVDledengr")->text().toStdString());
+        Druk(dialoog, "cmdAnnu");
+    });
     EXPECT_TRUE(venster->isVisible());
     eerste = false;
     wachter.Informatie(u"Het programma is al gestart!..."_s);
