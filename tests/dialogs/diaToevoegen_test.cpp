@@ -1,6 +1,5 @@
 #include "dialogs/diaToevoegen.h"
 
-#include <functional>
 #include <limits>
 
 #include "hulp/dialoogproef.h"
@@ -26,14 +25,7 @@ class diaToevoegenTest : public Dialoogproef<diaToevoegen, Suitestand> {
     void Open() { ToonEnLees(administratie); }
 
     [[nodiscard]] QComboBox* Keus() const { return Vind<QComboBox>(*venster, "Combo1"); }
-    [[nodiscard]] Teksten Namen() const
-    {
-        Teksten uit;
-        const auto* lijst = Vind<QListWidget>(*venster, "lstN2");
-        for (int i = 0; i < lijst->count(); ++i)
-            uit.push_back(lijst->item(i)->text().toStdString());
-        return uit;
-    }
+    [[nodiscard]] Teksten Namen() const { return Regels("lstN2"); }
     [[nodiscard]] const Spelertabel& Tabel() const { return administratie.spelers.tabel; }
     void VoegToe()
     {
@@ -52,15 +44,10 @@ class diaToevoegenTest : public Dialoogproef<diaToevoegen, Suitestand> {
     {
         return suite.Inhoud(Zomer + "/Koppelverslag.txt");
     }
-    /// A box of which the rest is the disk's own words.
-    void VerwachtFout(const QString& begin)
-    {
-        wachter.Verwacht({.tekst = begin, .icoon = QMessageBox::Warning, .alleenBegin = true});
-    }
     void VerwachtNietVast()
     {
         schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
-        VerwachtFout(u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf."_s);
+        wachter.Begin(u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf."_s);
     }
     void VerwachtAfscheid() { wachter.Informatie(u"Er worden geen spelers toegevoegd."_s); }
 };
@@ -73,28 +60,23 @@ const std::string Verslag = "N01 100172 - 100173\r\nN02 100174 - 100175\r\nN03 1
 TEST_F(diaToevoegenTest, DeTeksten)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
-    EXPECT_EQ("Spelers toevoegen (speciaal)", venster->windowTitle().toStdString());
-    for (const auto& [naam, tekst] :
-         {std::pair("Label1", "Kies een zitting:"),
-          std::pair("Label2", "Alleen gebruiken door deskundigen van de materie."),
-          std::pair("Label3", "(eindigend op '_Rev')"),
-          std::pair("Label5", "(u riskeert een corrupt ledenbestand)"),
-          std::pair("Label6", "Spelers worden toegevoegd aan spelergroep 'Gr08-'"),
-          std::pair("Label7", "U kunt ze daar later weer uit verwijderen.")})
-        EXPECT_EQ(tekst, Label(naam));
-    for (const auto& [naam, tekst] :
-         {std::pair("cmdLeesSpelers", "Spelers ophalen uit deze zitting"),
-          std::pair("cmdStart", "Deze spelers toevoegen aan het ledenbestand"),
-          std::pair("OKButton", "Klaar en opslaan"), std::pair("cmdAnnuleren", "Annuleren")})
-        EXPECT_EQ(tekst, Opschrift(Knop(naam)));
+    VerwachtTeksten("Spelers toevoegen (speciaal)",
+                    {{"Label1", "Kies een zitting:"},
+                     {"Label2", "Alleen gebruiken door deskundigen van de materie."},
+                     {"Label3", "(eindigend op '_Rev')"},
+                     {"Label5", "(u riskeert een corrupt ledenbestand)"},
+                     {"Label6", "Spelers worden toegevoegd aan spelergroep 'Gr08-'"},
+                     {"Label7", "U kunt ze daar later weer uit verwijderen."}},
+                    {{"cmdLeesSpelers", "Spelers ophalen uit deze zitting"},
+                     {"cmdStart", "Deze spelers toevoegen aan het ledenbestand"},
+                     {"OKButton", "Klaar en opslaan"},
+                     {"cmdAnnuleren", "Annuleren"}});
 }
 
 TEST_F(diaToevoegenTest, DeEersteZittingMetDeLijstUitDeZustermap)
 {
     ASSERT_NO_FATAL_FAILURE(Open());
-    ASSERT_EQ(2, Keus()->count());
-    EXPECT_EQ("Zomerdrive 2024_Rev", Keus()->itemText(0).toStdString());
-    EXPECT_EQ("Zondagdrive 2024_Rev", Keus()->itemText(1).toStdString());
+    EXPECT_EQ((Teksten{"Zomerdrive 2024_Rev", "Zondagdrive 2024_Rev"}), Keuzes(Keus()));
     EXPECT_EQ(0, Keus()->currentIndex());
     EXPECT_EQ(suite.Inhoud("Puntenboek/De Ruitenzeven_Zomerdrive 2024_Rev/Spelers.txt"),
               suite.Inhoud(Zomer + "/Spelers.txt"));
@@ -132,14 +114,10 @@ TEST_F(diaToevoegenTest, ToevoegenEnOpslaan)
 TEST_F(diaToevoegenTest, AnnulerenEscapeEnHetSluitvakMakenAllesOngedaan)
 {
     const auto rijen = AlleRijen(Tabel());
-    const auto knop = [this] { Klik(Knop("cmdAnnuleren")); };
-    const auto escape = [this] { QTest::keyClick(venster.get(), Qt::Key_Escape); };
-    const auto sluitvak = [this] { venster->close(); };
     for (const bool vroeger : {false, true}) {
         if (vroeger)
             suite.Zet(Zomer + "/Koppelverslag.txt", "van vroeger");
-        for (const std::function<void()>& weg :
-             std::initializer_list<std::function<void()>>{knop, escape, sluitvak}) {
+        for (int weg = 0; weg < Sluitwegen; ++weg) {
             for (const bool toegevoegd : {false, true}) {
                 ASSERT_NO_FATAL_FAILURE(Open());
                 if (toegevoegd) {
@@ -147,9 +125,8 @@ TEST_F(diaToevoegenTest, AnnulerenEscapeEnHetSluitvakMakenAllesOngedaan)
                     EXPECT_EQ(Verslag, Koppeltekst());
                 }
                 VerwachtAfscheid();
-                weg();
+                Sluit(weg, "cmdAnnuleren");
                 wachter.Klaar();
-                EXPECT_FALSE(venster->isVisible());
                 EXPECT_FALSE(venster->ToegevoegdEnBewaard());
                 EXPECT_EQ(rijen, AlleRijen(Tabel()));
                 EXPECT_EQ(100171, administratie.spelers.HKEY);
@@ -215,9 +192,9 @@ TEST_F(diaToevoegenTest, ZonderClubnaamDeEigenLijstEnZonderRevMapNiets)
 TEST_F(diaToevoegenTest, EenKopieDieMisluktOfNietVastStaat)
 {
     schijf.FaalBij(1);
-    VerwachtFout(u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de "
-                 "zitting zijn niet veranderd. Verhelp de oorzaak en open dit venster "
-                 "opnieuw.\n\nBestand: "_s);
+    wachter.Begin(u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de "
+                  "zitting zijn niet veranderd. Verhelp de oorzaak en open dit venster "
+                  "opnieuw.\n\nBestand: "_s);
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
     // When only syncing the folder fails, the copy is there and is read.
@@ -233,9 +210,10 @@ TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
     // The last step, syncing the folder, fails when the new file is in place already.
     for (const int stap : {1, 2, 3, 4, 5, 6}) {
         schijf.FaalBij(stap);
-        VerwachtFout(u"Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets toegevoegd: "
-                     "zonder dat bestand zijn de nieuwe spelers niet aan deze zitting te koppelen. "
-                     "Verhelp de oorzaak en probeer het opnieuw.\n\nBestand: "_s);
+        wachter.Begin(
+            u"Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets toegevoegd: "
+            "zonder dat bestand zijn de nieuwe spelers niet aan deze zitting te koppelen. "
+            "Verhelp de oorzaak en probeer het opnieuw.\n\nBestand: "_s);
         Klik(Knop("cmdStart"));
         wachter.Klaar();
         EXPECT_EQ(rijen, AlleRijen(Tabel()));
@@ -265,10 +243,7 @@ TEST_F(diaToevoegenTest, MetHetToetsenbord)
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
     Keus()->setFocus();
-    for (const char* naam : {"Combo1", "lstN2", "cmdStart", "cmdAnnuleren"}) {
-        EXPECT_STREQ(naam, venster->focusWidget()->objectName().toUtf8().constData());
-        QTest::keyClick(venster->focusWidget(), Qt::Key_Tab);
-    }
+    EXPECT_EQ("lstN2 cmdStart cmdAnnuleren ", MetTab(3));
     wachter.Informatie(u"De spelers zijn toegevoegd."_s);
     QTest::keyClick(venster.get(), Qt::Key_D, Qt::AltModifier);
     ASSERT_TRUE(QTest::qWaitFor([this] { return Knop("OKButton")->isEnabled(); }));

@@ -12,8 +12,8 @@ class diaVerplaatsTest : public Groepsproef<diaVerplaats> {};
 
 TEST_F(diaVerplaatsTest, DeTeksten)
 {
-    EXPECT_EQ("Verplaats speler(s) naar een andere groep", venster->windowTitle().toStdString());
-    VerwachtTeksten({{"Label1", "Selecteer de spelers(s) "},
+    VerwachtTeksten("Verplaats speler(s) naar een andere groep",
+                    {{"Label1", "Selecteer de spelers(s) "},
                      {"Label2", "Verplaats hen naar de volgende groep:"},
                      {"Label3", "Spelers van 'Gr05-' kunnen niet worden verplaatst. "},
                      {"Label4", "Spelers mogen wel naar groep 'Gr05-' worden verplaatst."}},

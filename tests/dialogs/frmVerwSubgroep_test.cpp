@@ -43,8 +43,8 @@ const QString ALijn = u"2 spelers:\nAn Bos\nEls Fuik"_s;
 
 TEST_F(frmVerwSubgroepTest, DeTeksten)
 {
-    EXPECT_EQ("Verwijderen van een subgroep", venster->windowTitle().toStdString());
     VerwachtTeksten(
+        "Verwijderen van een subgroep",
         {{"Label1", "Verwijder ALLE spelers "},
          {"Label2", "Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep."},
          {"Label4", "uit deze Spelergroep:"}},

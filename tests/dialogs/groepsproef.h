@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <map>
 
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
@@ -58,46 +57,21 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
             regels.push_back(Lijst()->Regel(plaats));
         return regels;
     }
-    void KlikRegel(int plaats) const
-    {
-        QTest::mouseClick(Lijst()->viewport(), Qt::LeftButton, {},
-                          Lijst()->visualRect(Lijst()->model()->index(plaats, 0)).center());
-    }
+    void KlikRegel(int plaats) const { plexoran::KlikRegel(*venster, "lstKeus", plaats); }
     /// Opens the window three times, does `keuze` and closes it without its command: by its button,
     /// by Escape and by the close box. The register stays as it was.
     void VerwachtDatSluitenNietsVerandert(const std::function<void()>& keuze)
     {
         const auto oud = AlleRijen(administratie.spelers.tabel);
-        for (int weg = 0; weg < 3; ++weg) {
+        for (int weg = 0; weg < Basis::Sluitwegen; ++weg) {
             Open();
             keuze();
-            if (weg == 0)
-                Klik(this->Knop("cmdAnnuleren"));
-            else if (weg == 1)
-                QTest::keyClick(Lijst(), Qt::Key_Escape);
-            else
-                venster->close();
-            EXPECT_FALSE(venster->isVisible());
+            this->Sluit(weg, "cmdAnnuleren");
             EXPECT_TRUE(venster->IngaveGeannuleerd());
             EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
         }
     }
-    [[nodiscard]] Teksten_t Teksten(const char* keus) const
-    {
-        Teksten_t teksten;
-        for (int i = 0; i < Keus(keus)->count(); ++i)
-            teksten.push_back(Keus(keus)->itemText(i).toStdString());
-        return teksten;
-    }
-    /// Labels and buttons by their names.
-    void VerwachtTeksten(const std::map<const char*, const char*>& labels,
-                         const std::map<const char*, const char*>& knoppen) const
-    {
-        for (const auto& [naam, tekst] : labels)
-            EXPECT_EQ(tekst, this->Label(naam));
-        for (const auto& [naam, tekst] : knoppen)
-            EXPECT_EQ(tekst, Opschrift(this->Knop(naam)));
-    }
+    [[nodiscard]] Teksten_t Teksten(const char* keus) const { return Keuzes(Keus(keus)); }
     /// The 50 groups as every drop-down shows them.
     void VerwachtAlleGroepen(const char* keus) const
     {

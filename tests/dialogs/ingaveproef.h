@@ -5,18 +5,19 @@
 #include <QClipboard>
 #include <QPainter>
 
-#include <memory>
-
-#include <gtest/gtest.h>
-
 #include "dialogs/diaIngave.h"
-#include "hulp/berichtwachter.h"
-#include "hulp/venstergrepen.h"
-#include "platform/scherm/tekstbrug.h"
+#include "hulp/dialoogproef.h"
 
 namespace plexoran {
 
-class Ingaveproef : public testing::Test {
+struct Ingavestand {
+    Rijvelden velden;
+    Ingave ingave;
+    std::int16_t terugkeer = 0;
+    int bewaard = 0;
+};
+
+class Ingaveproef : public Dialoogproef<diaIngave, Ingavestand> {
   protected:
     Ingaveproef()
     {
@@ -26,12 +27,6 @@ class Ingaveproef : public testing::Test {
         velden[16] = "A-LIJN";
         velden[17] = "1234567";
         hoofd.setGeometry(50, 60, 600, 500);
-        hoofd.show();
-    }
-    ~Ingaveproef() override
-    {
-        wachter.Klaar();
-        venster.reset();
     }
 
     void Open(const Tekst& groeptekst = "Gr05-Bondsleden", bool importgroep = true,
@@ -52,10 +47,6 @@ class Ingaveproef : public testing::Test {
     }
     void OpenGewoneGroep() { Open("Gr02-Avond", false); }
 
-    template <class T> [[nodiscard]] T* Deel(const std::string& naam) const
-    {
-        return Vind<T>(*venster, naam.c_str());
-    }
     [[nodiscard]] Tekstvak* Vak(int veld) const
     {
         return Deel<Tekstvak>("txt1_" + std::to_string(veld));
@@ -117,14 +108,6 @@ class Ingaveproef : public testing::Test {
     {
         return !IsOpen() && venster->result() == QDialog::Accepted;
     }
-
-    Rijvelden velden;
-    Ingave ingave;
-    std::int16_t terugkeer = 0;
-    int bewaard = 0;
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<diaIngave> venster;
 };
 
 } // namespace plexoran
