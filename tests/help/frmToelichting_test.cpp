@@ -6,49 +6,30 @@
 #include <QScreen>
 #include <QScrollBar>
 
-#include <gtest/gtest.h>
-
-#include "hulp/berichtwachter.h"
+#include "hulp/dialoogproef.h"
 #include "hulp/pdfteksten.h"
-#include "hulp/venstergrepen.h"
+#include "hulp/proefstand.h"
 #include "platform/scherm/maten.h"
-#include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/tijdelijkeMap.h"
-#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 
 namespace {
 
-class frmToelichtingTest : public testing::Test {
+class frmToelichtingTest : public Dialoogproef<frmToelichting, Mapstand> {
   protected:
     frmToelichtingTest() { hoofd.setGeometry(20, 30, 900, 700); }
-    ~frmToelichtingTest() override { wachter.Klaar(); }
 
     void Open(frmToelichting::Printerkeus printer)
     {
-        hoofd.show();
         venster = std::make_unique<frmToelichting>(&hoofd, std::move(printer));
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        ToonHet();
     }
     void SetUp() override
     {
         ASSERT_NO_FATAL_FAILURE(Open([this] { return Uitkomst<Printer>(Printer(schijf, Pdf())); }));
     }
     [[nodiscard]] Pad Pdf() const { return Samen(map.AlsPad(), "toelichting.pdf"); }
-    [[nodiscard]] QPlainTextEdit* Tekst() const { return Vind<QPlainTextEdit>(*venster, "Text1"); }
-    [[nodiscard]] QPushButton* Knop(const char* naam) const
-    {
-        return Vind<QPushButton>(*venster, naam);
-    }
-
-    TijdelijkeMap map;
-    EchteSchijf echteSchijf;
-    FalendeSchijf schijf{echteSchijf};
-    Berichtwachter wachter;
-    QWidget hoofd;
-    std::unique_ptr<frmToelichting> venster;
+    [[nodiscard]] QPlainTextEdit* Tekst() const { return Deel<QPlainTextEdit>("Text1"); }
 };
 
 const std::string toelichting =
@@ -87,9 +68,7 @@ const std::string toelichting =
 
 TEST_F(frmToelichtingTest, DeTekst)
 {
-    EXPECT_EQ("Toelichting", venster->windowTitle().toStdString());
-    EXPECT_EQ("Print", Opschrift(Knop("cmdPrintToel")));
-    EXPECT_EQ("Terug", Opschrift(Knop("cmdEinde")));
+    VerwachtTeksten("Toelichting", {}, {{"cmdPrintToel", "Print"}, {"cmdEinde", "Terug"}});
     EXPECT_EQ(toelichting, Tekst()->toPlainText().toStdString());
     EXPECT_TRUE(Tekst()->isReadOnly());
     EXPECT_EQ("Arial", Tekst()->font().family().toStdString());
@@ -135,11 +114,10 @@ TEST_F(frmToelichtingTest, SchuivenKopierenEnSluiten)
     QTest::keyClick(Tekst(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(Tekst(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(Tekst()->toPlainText(), QGuiApplication::clipboard()->text());
-    Klik(Knop("cmdEinde"));
-    EXPECT_FALSE(venster->isVisible());
-    venster->show();
-    QTest::keyClick(venster.get(), Qt::Key_Escape);
-    EXPECT_FALSE(venster->isVisible());
+    for (int weg = 0; weg < Sluitwegen; ++weg) {
+        venster->show();
+        Sluit(weg, "cmdEinde");
+    }
 }
 
 TEST_F(frmToelichtingTest, HetBladHeeftAlleWoorden)
@@ -190,9 +168,8 @@ TEST_F(frmToelichtingTest, UitZichzelfVraagtHijDeStandaardprinter)
         GTEST_SKIP() << "hier zou echt worden geprint";
     venster = std::make_unique<frmToelichting>(&hoofd);
     venster->show();
-    wachter.Verwacht({.tekst = u"Er is niets geprint: op deze computer is geen printer"_s,
-                      .icoon = QMessageBox::Critical,
-                      .alleenBegin = true});
+    wachter.Begin(u"Er is niets geprint: op deze computer is geen printer"_s,
+                  QMessageBox::Critical);
     Klik(Knop("cmdPrintToel"));
     wachter.Klaar();
     EXPECT_TRUE(venster->isVisible());

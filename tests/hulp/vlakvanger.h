@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "platform/tekst/tekenvlak.h"
 
 namespace plexoran {
@@ -37,7 +39,14 @@ class Vlakvanger : public Tekenvlak {
         double dikte = 0;
     };
 
-    [[nodiscard]] const Lettermeter& Meter() const override { return meter_; }
+    Vlakvanger() = default;
+    /// With letters as wide as another meter says.
+    explicit Vlakvanger(const Lettermeter& meter) : meter_(&meter) {}
+
+    [[nodiscard]] const Lettermeter& Meter() const override
+    {
+        return meter_ == nullptr ? vast_ : *meter_;
+    }
     void Schrijf(double x, double y, const Letter& letter, Tekstblik tekst) override
     {
         teksten.push_back({x, y, letter, Tekst(tekst)});
@@ -59,12 +68,24 @@ class Vlakvanger : public Tekenvlak {
         return uit;
     }
 
+    /// The first text that reads so.
+    [[nodiscard]] Geschreven Deel(const Tekst& tekst) const
+    {
+        for (const Geschreven& deel : teksten) {
+            if (deel.tekst == tekst)
+                return deel;
+        }
+        ADD_FAILURE() << "niet getekend: " << tekst;
+        return {};
+    }
+
     std::vector<Geschreven> teksten;
     std::vector<Getrokken> lijnen;
     int vlakken = 0;
 
   private:
-    Vastemeter meter_;
+    Vastemeter vast_;
+    const Lettermeter* meter_ = nullptr;
 };
 
 } // namespace plexoran

@@ -37,15 +37,7 @@ class BladtekenenTest : public testing::Test {
         TekenBlad(vlak, *lijst, blad);
         return vlak;
     }
-    [[nodiscard]] Vlakvanger::Geschreven Deel(const Tekst& tekst) const
-    {
-        for (const auto& deel : vlak.teksten) {
-            if (deel.tekst == tekst)
-                return deel;
-        }
-        ADD_FAILURE() << "niet getekend: " << tekst;
-        return {};
-    }
+    [[nodiscard]] Vlakvanger::Geschreven Deel(const Tekst& tekst) const { return vlak.Deel(tekst); }
 
     Vastemeter meter;
     Spelertabel tabel;

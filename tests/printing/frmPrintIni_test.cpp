@@ -1,7 +1,6 @@
 #include "printing/frmPrintIni.h"
 
 #include <QComboBox>
-#include <QGroupBox>
 #include <QStyleOptionComboBox>
 #include <QTextDocument>
 
@@ -37,34 +36,9 @@ class frmPrintIniTest : public Dialoogproef<frmPrintIni, Geheugenstand> {
         venster = std::make_unique<frmPrintIni>(administratie, groep, namen, &hoofd, getallen);
         ToonHet();
     }
-    [[nodiscard]] Regellijst* Lijst(const char* naam) const
-    {
-        return Vind<Regellijst>(*venster, naam);
-    }
-    [[nodiscard]] std::vector<std::string> Regels(const char* naam) const
-    {
-        std::vector<std::string> regels;
-        for (int plaats = 0; plaats < Lijst(naam)->Aantal(); ++plaats)
-            regels.push_back(Lijst(naam)->Regel(plaats));
-        return regels;
-    }
-    void KlikRegel(const char* lijst, int plaats) const
-    {
-        Klik(Lijst(lijst)->viewport(),
-             Lijst(lijst)->visualRect(Lijst(lijst)->model()->index(plaats, 0)).center());
-    }
-    [[nodiscard]] std::string Schaal() const
-    {
-        return Deel<QComboBox>("cmbSchaal")->currentText().toStdString();
-    }
-    [[nodiscard]] std::vector<std::string> Schalen() const
-    {
-        const auto* keus = Deel<QComboBox>("cmbSchaal");
-        std::vector<std::string> schalen;
-        for (int i = 0; i < keus->count(); ++i)
-            schalen.push_back(keus->itemText(i).toStdString());
-        return schalen;
-    }
+    [[nodiscard]] Regellijst* Lijst(const char* naam) const { return Deel<Regellijst>(naam); }
+    [[nodiscard]] QComboBox* cmbSchaal() const { return Deel<QComboBox>("cmbSchaal"); }
+    [[nodiscard]] std::string Schaal() const { return cmbSchaal()->currentText().toStdString(); }
 
     std::array<Tekstblik, AantalKolommen> namen = Kolomnamen;
 };
@@ -75,44 +49,36 @@ const std::vector<int> eersteAcht{0, 1, 2, 3, 4, 5, 6, 7};
 
 TEST_F(frmPrintIniTest, DeOpschriften)
 {
-    EXPECT_EQ("Printen van ledenlijsten per groep", venster->windowTitle().toStdString());
-    EXPECT_EQ("Welke kolommen te printen", Deel<QGroupBox>("Frame1")->title().toStdString());
-    for (const auto& [naam, tekst] : {std::pair("Label1", "Te printen Rubrieken (kolommen)"),
-                                      {"Label2", "Gekozen Groep:"},
-                                      {"Label3", "Gr01-Clubleden & co"},
-                                      {"Label4", "Printuitvoer verkleinen of vergroten:"},
-                                      {"Label5", "Kies de schaal:"},
-                                      {"Label6", "Print alleen deze Subgroep(en):"},
-                                      {"Label7", "Deze groep is leeg"}})
-        EXPECT_EQ(tekst, Label(naam)) << naam;
-    for (const auto& [naam, tekst] : {std::pair("cmdSelAll", "Selecteer alles"),
-                                      {"cmdSelNone", "Selecteer niets"},
-                                      {"cmdOK", "Printen..."},
-                                      {"cmdAnnuleren", "Terug"}})
-        EXPECT_EQ(tekst, Opschrift(Knop(naam))) << naam;
+    VerwachtTeksten("Printen van ledenlijsten per groep",
+                    {{"Label1", "Te printen Rubrieken (kolommen)"},
+                     {"Label2", "Gekozen Groep:"},
+                     {"Label3", "Gr01-Clubleden & co"},
+                     {"Label4", "Printuitvoer verkleinen of vergroten:"},
+                     {"Label5", "Kies de schaal:"},
+                     {"Label6", "Print alleen deze Subgroep(en):"},
+                     {"Label7", "Deze groep is leeg"}},
+                    {{"cmdSelAll", "Selecteer alles"},
+                     {"cmdSelNone", "Selecteer niets"},
+                     {"cmdOK", "Printen..."},
+                     {"cmdAnnuleren", "Terug"}},
+                    {{"Frame1", "Welke kolommen te printen"}});
 }
 
 TEST_F(frmPrintIniTest, DeTabtoetsVolgtHetOog)
 {
-    std::string volgorde;
     Lijst("lstNBBgr")->setFocus();
-    for (int keer = 0; keer < 8; ++keer) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        volgorde += QApplication::focusWidget()->objectName().toStdString() + " ";
-    }
     EXPECT_EQ("cmbSchaal cmdPassend cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone lstNBBgr ",
-              volgorde);
+              MetTab(8));
 }
 
 /// However long the name of the group is; all of it can be read.
 TEST_F(frmPrintIniTest, DeSchaalIsTeLezen)
 {
-    const auto* cmbSchaal = Deel<QComboBox>("cmbSchaal");
     QStyleOptionComboBox optie;
-    optie.initFrom(cmbSchaal);
-    const QRect vak = cmbSchaal->style()->subControlRect(QStyle::CC_ComboBox, &optie,
-                                                         QStyle::SC_ComboBoxEditField, cmbSchaal);
-    EXPECT_GE(vak.width(), cmbSchaal->fontMetrics().horizontalAdvance(u"0,7 "_s));
+    optie.initFrom(cmbSchaal());
+    const QRect vak = cmbSchaal()->style()->subControlRect(
+        QStyle::CC_ComboBox, &optie, QStyle::SC_ComboBoxEditField, cmbSchaal());
+    EXPECT_GE(vak.width(), cmbSchaal()->fontMetrics().horizontalAdvance(u"0,7 "_s));
 }
 
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
@@ -176,10 +142,12 @@ TEST_F(frmPrintIniTest, InDeImportgroepHeetDeLaatsteKolomNBBnr)
 
 TEST_F(frmPrintIniTest, DeSchalenInDeSchrijfwijzeVanDeGebruiker)
 {
-    EXPECT_EQ((std::vector<std::string>{"0,7", "0,8", "0,9", "1", "1,1", "1,2", "1,3"}), Schalen());
+    EXPECT_EQ((std::vector<std::string>{"0,7", "0,8", "0,9", "1", "1,1", "1,2", "1,3"}),
+              Keuzes(cmbSchaal()));
     EXPECT_EQ("1", Schaal());
     Open("Gr01-", {QLocale::English, QLocale::UnitedKingdom});
-    EXPECT_EQ((std::vector<std::string>{"0.7", "0.8", "0.9", "1", "1.1", "1.2", "1.3"}), Schalen());
+    EXPECT_EQ((std::vector<std::string>{"0.7", "0.8", "0.9", "1", "1.1", "1.2", "1.3"}),
+              Keuzes(cmbSchaal()));
 }
 
 TEST(GetalnotatieTest, DieVanHetSysteemOfDeNederlandse)
@@ -197,7 +165,7 @@ TEST_F(frmPrintIniTest, DeGekozenSchaalGaatMee)
         for (const auto& [plaats, bladen] :
              {std::pair<int, const char*>(0, "(Totaal 3)"), {3, "(Totaal 4)"}, {6, "(Totaal 5)"}}) {
             Open("Gr01-", getallen);
-            Deel<QComboBox>("cmbSchaal")->setCurrentIndex(plaats);
+            cmbSchaal()->setCurrentIndex(plaats);
             KlikRegel("lstNBBgr", 0);
             wachter.Bedien([&, totaal = bladen](QDialog& dialoog) {
                 EXPECT_EQ(totaal, Vind<QLineEdit>(dialoog, "txtAantPages")->text().toStdString());
@@ -338,7 +306,7 @@ TEST_F(BreedteTest, HetVoorbeeldIsZoBreedAlsGezegd)
 TEST_F(frmPrintIniTest, NaHetVoorbeeldBlijftHetVensterMetZijnKeuzes)
 {
     KlikRegel("lstNBBgr", 0);
-    Deel<QComboBox>("cmbSchaal")->setCurrentIndex(0);
+    cmbSchaal()->setCurrentIndex(0);
     wachter.Bedien([](QDialog& dialoog) { dialoog.reject(); });
     Klik(Knop("cmdOK"));
     EXPECT_TRUE(venster->isVisible());
