@@ -1,5 +1,7 @@
 #include "register/reservekopie.h"
 
+#include <algorithm>
+
 #include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/klok.h"
 #include "platform/tekst/regels.h"
@@ -7,21 +9,12 @@
 namespace plexoran {
 namespace {
 
-/// "RVDspelers" and ".txt" of a path to "RVDspelers.txt".
-std::pair<Tekst, Tekst> NaamEnSoort(const Pad& bestand)
-{
-    const auto map = bestand.find_last_of('\\');
-    const Tekst naam = map == Pad::npos ? bestand : bestand.substr(map + 1);
-    const auto punt = naam.find_last_of('.');
-    if (punt == Tekst::npos)
-        return {naam, {}};
-    return {naam.substr(0, punt), naam.substr(punt)};
-}
-
 Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
 {
-    const auto [naam, soort] = NaamEnSoort(bestand);
-    const Pad basis = Samen(kopiemap, naam + " " + Tijdstempel());
+    const Tekst naam = bestand.substr(bestand.rfind('\\') + 1);
+    const auto punt = std::min(naam.rfind('.'), naam.size());
+    const Pad basis = Samen(kopiemap, naam.substr(0, punt) + " " + Tijdstempel());
+    const Tekst soort = naam.substr(punt);
     Pad pad = basis + soort;
     for (int volgnummer = 2;; ++volgnummer) {
         const auto wat = schijf.Soort(pad);

@@ -171,6 +171,8 @@ TEST(Reservekopie, VervangtNooitEenAndere)
         schijf.Zet(spelerbestand, verwacht.back());
         paden.push_back(MaakReservekopie(schijf, spelersmap, spelerbestand).value());
     }
+    const auto tweede = [](const Pad& pad) { return pad.ends_with("-2.txt"); };
+    EXPECT_TRUE(std::any_of(paden.begin(), paden.end(), tweede));
     std::sort(paden.begin(), paden.end());
     EXPECT_EQ(std::unique(paden.begin(), paden.end()), paden.end());
     auto kopieen = Kopieen(schijf);
