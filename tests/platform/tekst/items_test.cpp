@@ -8,19 +8,11 @@ namespace {
 
 using Teksten = std::vector<Tekst>;
 
-Teksten TekstenVan(Tekstblik regel)
+Teksten TekstenVan(Tekstblik regel, Tekstblik Item::*deel = &Item::tekst)
 {
     Teksten uit;
     for (const Item& item : ItemsVan(regel))
-        uit.emplace_back(item.tekst);
-    return uit;
-}
-
-Teksten RauwVan(Tekstblik regel)
-{
-    Teksten uit;
-    for (const Item& item : ItemsVan(regel))
-        uit.emplace_back(item.rauw);
+        uit.emplace_back(item.*deel);
     return uit;
 }
 
@@ -38,10 +30,10 @@ TEST(Items, EenKommaScheidt)
 TEST(Items, AanhalingstekensVallenWegEnHoudenDeKommaBijeen)
 {
     EXPECT_EQ((Teksten{"Bos, Jan", "2"}), TekstenVan(R"("Bos, Jan",2)"));
-    EXPECT_EQ((Teksten{R"("Bos, Jan")", "2"}), RauwVan(R"("Bos, Jan",2)"));
+    EXPECT_EQ((Teksten{R"("Bos, Jan")", "2"}), TekstenVan(R"("Bos, Jan",2)", &Item::rauw));
     EXPECT_EQ((Teksten{"", "x"}), TekstenVan(R"("","x")"));
     EXPECT_EQ((Teksten{"a ", "b"}), TekstenVan(R"( "a " , "b")"));
-    EXPECT_EQ((Teksten{R"( "a " )", R"( "b")"}), RauwVan(R"( "a " , "b")"));
+    EXPECT_EQ((Teksten{R"( "a " )", R"( "b")"}), TekstenVan(R"( "a " , "b")", &Item::rauw));
     EXPECT_TRUE(ItemsVan(R"("a")").front().IsAangehaald());
     EXPECT_TRUE(ItemsVan(R"("")").front().IsAangehaald());
     EXPECT_FALSE(ItemsVan("a").front().IsAangehaald());

@@ -12,18 +12,14 @@ using Lijst = std::vector<Tekst>;
 
 Lijst AlleRegels(Tekstblik inhoud)
 {
-    Lijst uit;
-    for (const Tekstblik regel : Regels(inhoud))
-        uit.emplace_back(regel);
-    return uit;
+    const auto regels = Regels(inhoud);
+    return {regels.begin(), regels.end()};
 }
 
 Lijst AlleItems(Tekstblik inhoud)
 {
-    Lijst uit;
-    for (const Tekstblik item : Items(inhoud))
-        uit.emplace_back(item);
-    return uit;
+    const auto items = Items(inhoud);
+    return {items.begin(), items.end()};
 }
 
 } // namespace
