@@ -6,9 +6,11 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
-#include "platform/scherm/tekstbrug.h"
+#include "hulp/venstergrepen.h"
 
 namespace plexoran {
 namespace {
@@ -23,28 +25,34 @@ TEST(Aantal, EenIsGeenMeervoud)
     EXPECT_EQ("2 spelers", spelers(2));
 }
 
-TEST(MeldVerslag, BreektGeenRegelAf)
+/// Looks at the window that comes, and closes it.
+void MetVenster(const std::function<void()>& toon, const std::function<void(QWidget&)>& kijk)
 {
-    const QString regel =
-        u"100079\tMieke\t\tOudewortel-Quist-van-Wielerdam\t"_s + u"DONDERDAGMIDDAG\t97202990\r\n"_s;
     bool gezien = false;
-    QTimer straks;
-    straks.setSingleShot(true);
-    QObject::connect(&straks, &QTimer::timeout, qApp, [&] {
+    QTimer::singleShot(0, qApp, [&] {
         QApplication::processEvents();
-        auto* venster = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QWidget* venster = QApplication::activeModalWidget();
         ASSERT_NE(nullptr, venster);
-        const auto* label = venster->findChild<QLabel*>(u"qt_msgbox_label"_s);
-        ASSERT_NE(nullptr, label);
-        EXPECT_EQ(regel + regel, label->text());
-        EXPECT_FALSE(label->wordWrap());
-        EXPECT_GE(label->width(), label->sizeHint().width());
+        kijk(*venster);
         gezien = true;
         venster->close();
     });
-    straks.start(0);
-    MeldVerslag(nullptr, regel + regel, u"DUBBELE NAMEN"_s);
+    toon();
     EXPECT_TRUE(gezien);
+}
+
+TEST(MeldVerslag, BreektGeenRegelAf)
+{
+    const QString tekst =
+        u"100079\tMieke\t\tOudewortel-Quist-van-Wielerdam\tDONDERDAGMIDDAG\t97202990\r\n"_s
+            .repeated(2);
+    MetVenster([&] { MeldVerslag(nullptr, tekst, u"DUBBELE NAMEN"_s); },
+               [&](QWidget& venster) {
+                   const auto* label = Vind<QLabel>(venster, "qt_msgbox_label");
+                   EXPECT_EQ(tekst, label->text());
+                   EXPECT_FALSE(label->wordWrap());
+                   EXPECT_GE(label->width(), label->sizeHint().width());
+               });
 }
 
 /// Its place follows from the size that its unbroken lines give it, not from the one before.
@@ -56,20 +64,14 @@ TEST(MeldVerslag, StaatMiddenVoorZijnOuderEnHeelOpHetScherm)
         const QRect scherm = ouder.screen()->availableGeometry();
         ouder.setGeometry(scherm.adjusted(100, 100, -100, -100));
         ouder.show();
-        bool gezien = false;
-        QTimer::singleShot(0, qApp, [&] {
-            QApplication::processEvents();
-            auto* venster = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(nullptr, venster);
-            EXPECT_TRUE(scherm.contains(venster->frameGeometry()));
-            const QPoint midden = venster->geometry().center() - ouder.geometry().center();
-            EXPECT_LE(std::abs(midden.x()), 40) << venster->width();
-            EXPECT_LE(std::abs(midden.y()), 40) << venster->height();
-            gezien = true;
-            venster->close();
-        });
-        MeldVerslag(&ouder, tekst, u"DUBBELE NAMEN"_s);
-        EXPECT_TRUE(gezien);
+        MetVenster([&] { MeldVerslag(&ouder, tekst, u"DUBBELE NAMEN"_s); },
+                   [&](QWidget& venster) {
+                       EXPECT_NE(nullptr, qobject_cast<QMessageBox*>(&venster));
+                       EXPECT_TRUE(scherm.contains(venster.frameGeometry()));
+                       const QPoint uit = venster.geometry().center() - ouder.geometry().center();
+                       EXPECT_LE(std::abs(uit.x()), 40) << venster.width();
+                       EXPECT_LE(std::abs(uit.y()), 40) << venster.height();
+                   });
     }
 }
 
@@ -78,48 +80,36 @@ TEST(MeldVerslag, SchuiftAlsEenRegelBrederIsDanHetScherm)
 {
     for (const int lengte : {40, 400}) {
         const QString tekst = u"100079\t"_s + QString(lengte, u'x');
-        QString venster;
-        QTimer straks;
-        straks.setSingleShot(true);
-        QObject::connect(&straks, &QTimer::timeout, qApp, [&] {
-            QApplication::processEvents();
-            QWidget* dialoog = QApplication::activeModalWidget();
-            ASSERT_NE(nullptr, dialoog);
-            venster = dialoog->objectName();
-            EXPECT_TRUE(dialoog->screen()->availableGeometry().contains(
-                QRect(QPoint(0, 0), dialoog->size())));
-            if (const auto* vak = dialoog->findChild<QPlainTextEdit*>()) {
-                EXPECT_EQ(tekst, vak->toPlainText());
-            }
-            dialoog->close();
-        });
-        straks.start(0);
-        MeldVerslag(nullptr, tekst, u"DUBBELE NAMEN"_s);
-        EXPECT_EQ(lengte == 40 ? "" : "frmBericht", venster.toStdString());
+        MetVenster(
+            [&] { MeldVerslag(nullptr, tekst, u"DUBBELE NAMEN"_s); },
+            [&](QWidget& venster) {
+                EXPECT_EQ(lengte == 40 ? "" : "frmBericht", venster.objectName().toStdString());
+                EXPECT_TRUE(venster.screen()->availableGeometry().contains(
+                    QRect(QPoint(0, 0), venster.size())));
+                if (lengte == 400) {
+                    EXPECT_EQ(tekst, Vind<QPlainTextEdit>(venster, "txtBericht")->toPlainText());
+                }
+            });
     }
 }
 
 /// What is too long for a box keeps the icon that the box would have.
 TEST(MeldLijst, EenLangeTekstHoudtZijnIcoon)
 {
+    const auto plaatje = [](QMessageBox::Icon icoon) {
+        return QMessageBox(icoon, {}, {}).iconPixmap().toImage();
+    };
     for (const auto icoon : {QMessageBox::Warning, QMessageBox::Information}) {
-        QImage verwacht = QMessageBox(icoon, {}, {}).iconPixmap().toImage();
-        bool gezien = false;
-        QTimer::singleShot(0, qApp, [&] {
-            QWidget* dialoog = QApplication::activeModalWidget();
-            ASSERT_NE(nullptr, dialoog);
-            EXPECT_EQ("frmBericht", dialoog->objectName());
-            const auto* label = dialoog->findChild<QLabel*>(u"lblIcoon"_s);
-            gezien =
-                label != nullptr && label->isVisible() && label->pixmap().toImage() == verwacht;
-            dialoog->close();
-        });
         QWidget ouder;
-        MeldLijst(&ouder, icoon, u"regel\n"_s.repeated(40));
-        EXPECT_TRUE(gezien) << icoon;
+        MetVenster([&] { MeldLijst(&ouder, icoon, u"regel\n"_s.repeated(40)); },
+                   [&](QWidget& venster) {
+                       EXPECT_EQ("frmBericht", venster.objectName());
+                       const auto* label = Vind<QLabel>(venster, "lblIcoon");
+                       EXPECT_TRUE(label->isVisible());
+                       EXPECT_EQ(plaatje(icoon), label->pixmap().toImage());
+                   });
     }
-    EXPECT_NE(QMessageBox(QMessageBox::Warning, {}, {}).iconPixmap().toImage(),
-              QMessageBox(QMessageBox::Information, {}, {}).iconPixmap().toImage());
+    EXPECT_NE(plaatje(QMessageBox::Warning), plaatje(QMessageBox::Information));
 }
 
 } // namespace
