@@ -61,7 +61,7 @@ std::optional<int> frmLedenAdmin::Laad(const Startgegevens& start)
     eersteExemplaar_ = start.eersteExemplaar;
     if (!IsEersteExemplaar())
         return 0;
-    const Startafloop afloop = Opstart(administratie_, this).Lees(start.mappenIni);
+    const Startafloop afloop = LeesBijStart(administratie_, this, start.mappenIni);
     if (afloop == Startafloop::Mislukt)
         return 1;
     cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);

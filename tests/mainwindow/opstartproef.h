@@ -93,7 +93,7 @@ class Opstartproef : public Vensterproef {
     /// The start-up alone, without a window.
     void Lees(Startafloop moet = Startafloop::Gelezen)
     {
-        EXPECT_EQ(moet, Opstart(administratie, &hoofd).Lees("C:\\RVD\\Mappen.ini"));
+        EXPECT_EQ(moet, LeesBijStart(administratie, &hoofd, "C:\\RVD\\Mappen.ini"));
         wachter.Klaar();
     }
     /// With the window that shows what was read.
