@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
 #include "platform/scherm/regellijst.h"
 

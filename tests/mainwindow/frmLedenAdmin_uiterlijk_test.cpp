@@ -4,8 +4,6 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-#include "hulp/labels.h"
-#include "hulp/tekstvanger.h"
 #include "mainwindow/vensterproef.h"
 
 using namespace plexoran;
@@ -165,21 +163,10 @@ TEST_F(UiterlijkTest, VanEenHeelLangeGroepsnaamStaatHetBeginErEnHetVensterWordtN
     EXPECT_EQ(1024, venster->width());
     EXPECT_LE(venster->minimumSizeHint().width(), 1024);
 
-    const auto getekend = [](QWidget* deel) {
-        Tekstvanger vanger(deel->size());
-        deel->render(&vanger, {}, {}, QWidget::RenderFlags());
-        std::string tekst;
-        for (const Getekend& stuk : vanger.Teksten()) {
-            EXPECT_GE(stuk.x, 0);
-            EXPECT_LE(stuk.x + stuk.breed, deel->width());
-            tekst += stuk.tekst;
-        }
-        return tekst;
-    };
-    const std::string opKnop = getekend(Knop("cmdPrint"));
+    const std::string opKnop = GetekendOp(Knop("cmdPrint"));
     EXPECT_TRUE(opKnop.starts_with("Print deze groep: Gr01-xxx")) << opKnop;
     EXPECT_EQ("Print deze groep: " + naam + " ...", Opschrift(Knop("cmdPrint")));
-    const std::string opKeus = getekend(Keus("cmbGr"));
+    const std::string opKeus = GetekendOp(Keus("cmbGr"));
     EXPECT_TRUE(opKeus.starts_with("Gr01-xxx")) << opKeus;
     EXPECT_TRUE(opKeus.ends_with("x...")) << opKeus;
     EXPECT_EQ(naam, Keus("cmbGr")->toolTip().toStdString());
@@ -192,51 +179,15 @@ TEST_F(UiterlijkTest, TabGaatLangsElkeOpdrachtZoalsHetOogLeest)
     KiesGroep(5); // shows every button
     QApplication::processEvents();
     Keus("cmbGr")->setFocus();
-    std::vector<std::string> bereikt;
+    QStringList bereikt;
     do {
-        bereikt.push_back(QApplication::focusWidget()->objectName().toStdString());
+        bereikt << QApplication::focusWidget()->objectName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     } while (!Keus("cmbGr")->hasFocus() && bereikt.size() < 60);
-    EXPECT_EQ((std::vector<std::string>{"cmbGr",
-                                        "chkKolBr",
-                                        "cmdMaakGrNamen",
-                                        "P1",
-                                        "cmdAanm",
-                                        "cmdWijzig",
-                                        "cmdVerplaats",
-                                        "cmdKopieer",
-                                        "cmdVerwijder",
-                                        "cmbVerwVan",
-                                        "cmbVerwTot",
-                                        "cmdVerwijderVT",
-                                        "cmdVerwGroep",
-                                        "cmdSortlijst1",
-                                        "cmdSortlijst2",
-                                        "cmdSortlijst3",
-                                        "chkToonAlle",
-                                        "cmdZoekDubbeleNamen",
-                                        "cmdHaalNBBnamen",
-                                        "cmdKoppel",
-                                        "cmdToonGatenlijst",
-                                        "cmdSpToevoegen",
-                                        "cmdParenOnderhoud",
-                                        "cmdPrint",
-                                        "cmdToelichting",
-                                        "cmdMaakScripts",
-                                        "cmdEinde"}),
-              bereikt);
-}
-
-TEST_F(UiterlijkTest, ElkDeelHeeftEenNaamVoorWieNietKijkt)
-{
-    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
-    for (const QWidget* deel : Zichtbaar<QWidget>()) {
-        const auto* knop = qobject_cast<const QAbstractButton*>(deel);
-        const bool stom = qobject_cast<const QComboBox*>(deel) != nullptr ||
-                          qobject_cast<const QScrollBar*>(deel) != nullptr;
-        if (stom || (knop != nullptr && knop->text().isEmpty() && !IsHeader(deel))) {
-            EXPECT_FALSE(deel->accessibleName().isEmpty()) << deel->objectName().toStdString();
-        }
-    }
-    EXPECT_EQ(std::vector<std::string>(), ZonderLabel(*venster));
+    EXPECT_EQ("cmbGr chkKolBr cmdMaakGrNamen P1 cmdAanm cmdWijzig cmdVerplaats cmdKopieer "
+              "cmdVerwijder cmbVerwVan cmbVerwTot cmdVerwijderVT cmdVerwGroep cmdSortlijst1 "
+              "cmdSortlijst2 cmdSortlijst3 chkToonAlle cmdZoekDubbeleNamen cmdHaalNBBnamen "
+              "cmdKoppel cmdToonGatenlijst cmdSpToevoegen cmdParenOnderhoud cmdPrint "
+              "cmdToelichting cmdMaakScripts cmdEinde",
+              bereikt.join(u' ').toStdString());
 }

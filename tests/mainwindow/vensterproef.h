@@ -10,6 +10,7 @@
 
 #include "hulp/berichtwachter.h"
 #include "hulp/proefstand.h"
+#include "hulp/tekstvanger.h"
 #include "hulp/venstergrepen.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/tekstbrug.h"
@@ -103,6 +104,20 @@ class Vensterproef : public testing::Test {
     {
         const QString tekst = Vlak()->accessibleDescription();
         return tekst.section(u"Key "_s, 1).left(6).toStdString();
+    }
+
+    /// What is painted on a part, which must lie on it.
+    static std::string GetekendOp(QWidget* deel)
+    {
+        Tekstvanger vanger(deel->size());
+        deel->render(&vanger, {}, {}, QWidget::RenderFlags());
+        std::string tekst;
+        for (const Getekend& stuk : vanger.Teksten()) {
+            EXPECT_GE(stuk.x, 0);
+            EXPECT_LE(stuk.x + stuk.breed, deel->width());
+            tekst += stuk.tekst;
+        }
+        return tekst;
     }
 
     Berichtwachter wachter;
