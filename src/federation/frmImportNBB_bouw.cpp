@@ -72,9 +72,11 @@ const QString MapNBBR4 =
     u"4. Sla het bestand op in de map '...Documenten\\NBB4-Leden'. Daar wordt hier het eerst "
     "gekeken.\r\n"_s;
 const QString VervolgXml4 =
+    MapNBBR4 +
     u"5. Kies hier onder 'Uit NBB-4:' de optie 'uit een geexporteerd XML-ledenbestand', druk "
     "zo nodig op de knop om een andere map te kiezen en klik het bestand aan in de lijst."_s;
 const QString VervolgCsv4 =
+    MapNBBR4 +
     u"5. Kies hier 'uit een geexporteerd CSV-ledenbestand', druk zo nodig op de knop om een "
     "andere map te kiezen en klik het bestand aan in de lijst."_s;
 
@@ -228,32 +230,24 @@ QLayout* frmImportNBB::BouwKeuze()
 QLayout* frmImportNBB::BouwHulp()
 {
     auto* vakken = new QGridLayout;
-    const auto knop = [&](const QString& naam, const QString& opschrift, char16_t letter,
-                          const QString& uitleg, const QString& titel = Programmatitel) {
-        auto* hulp = MaakKnop(naam, opschrift, letter, this);
-        connect(hulp, &QPushButton::clicked, this,
+    const auto zetKnop = [&](int rij, int kolom, const QString& naam, const QString& opschrift,
+                             char16_t letter, const QString& uitleg,
+                             const QString& titel = Programmatitel) {
+        auto* knop = MaakKnop(naam, opschrift, letter, this);
+        connect(knop, &QPushButton::clicked, this,
                 [this, uitleg, titel] { Meld(this, QMessageBox::Information, uitleg, titel); });
-        return hulp;
+        vakken->addWidget(knop, rij, kolom, 1, rij == 2 ? 2 : 1); // the last one stands alone
     };
-    vakken->addWidget(knop(u"cmdHelpImport28"_s,
-                           u"Hoe exporteer je een ledenbestand uit NBBR-2.8?"_s, u'2',
-                           Stappenplan(u"NBBR-2.8"_s, u"CSV"_s, u"ledenbestand"_s, VervolgNBBR28)),
-                      0, 0);
-    vakken->addWidget(knop(u"cmdHelpImport31"_s,
-                           u"Hoe exporteer je een ledenbestand uit  NBBR-3.1?"_s, u'3',
-                           Stappenplan(u"NBBR-3.1"_s, u"XML"_s, u"ledenbestand"_s, VervolgNBBR31)),
-                      0, 1);
-    vakken->addWidget(
-        knop(u"cmbHelpCSV"_s, u"Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?"_s, u'V',
-             Stappenplan(u"NBBR-4"_s, u"CSV"_s, u"CSV-ledenbestand"_s, MapNBBR4 + VervolgCsv4)),
-        1, 0);
-    vakken->addWidget(
-        knop(u"cmdHelpImport4"_s, u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?"_s, u'4',
-             Stappenplan(u"NBBR-4"_s, u"XML"_s, u"XML-ledenbestand"_s, MapNBBR4 + VervolgXml4)),
-        1, 1);
-    vakken->addWidget(knop(u"cmdHint"_s, u"Hint voor toekennen van fictieve NBB-nummers"_s, u'H',
-                           Hint, u"Hint"_s),
-                      2, 0, 1, 2);
+    zetKnop(0, 0, u"cmdHelpImport28"_s, u"Hoe exporteer je een ledenbestand uit NBBR-2.8?"_s, u'2',
+            Stappenplan(u"NBBR-2.8"_s, u"CSV"_s, u"ledenbestand"_s, VervolgNBBR28));
+    zetKnop(0, 1, u"cmdHelpImport31"_s, u"Hoe exporteer je een ledenbestand uit  NBBR-3.1?"_s, u'3',
+            Stappenplan(u"NBBR-3.1"_s, u"XML"_s, u"ledenbestand"_s, VervolgNBBR31));
+    zetKnop(1, 0, u"cmbHelpCSV"_s, u"Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?"_s, u'V',
+            Stappenplan(u"NBBR-4"_s, u"CSV"_s, u"CSV-ledenbestand"_s, VervolgCsv4));
+    zetKnop(1, 1, u"cmdHelpImport4"_s, u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?"_s,
+            u'4', Stappenplan(u"NBBR-4"_s, u"XML"_s, u"XML-ledenbestand"_s, VervolgXml4));
+    zetKnop(2, 0, u"cmdHint"_s, u"Hint voor toekennen van fictieve NBB-nummers"_s, u'H', Hint,
+            u"Hint"_s);
     return vakken;
 }
 

@@ -107,7 +107,7 @@ Uitkomst<Ledenlezing> LeesLedenbestand(Schijf& schijf, const Ledenopdracht& opdr
     // The name of a member file of the database is no name of a file until here.
     const Tekst subgroep = SubgroepUitNaam(naam);
     if (!IsKaleNaam(subgroep))
-        return tl::unexpected(GeenNaam(subgroep));
+        return Mislukt(GeenNaam(subgroep));
     const Pad tussenbestand = Tussenbestand(opdracht.programmamap, subgroep);
     auto omgezet = ZetOm(schijf, opdracht, naam, tussenbestand, Helft(voortgang, 0));
     if (!omgezet)

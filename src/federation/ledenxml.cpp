@@ -145,7 +145,7 @@ Uitkomst<void> Laad(Schijf& schijf, const Pad& bestand, Ledendocument& in)
         return LeesXml(std::move(bytes), pad);
     });
     if (!bron)
-        return tl::unexpected(std::move(bron.error()));
+        return Mislukt(bron);
     in.bron = std::move(*bron);
     auto ontleed = OntleedXml(in.bron, pad, in.document, Xmlwit::Weg);
     return ontleed && HeeftStukken(in.document)

@@ -65,22 +65,30 @@ TEST(Controleregel, VasteKolommenMetTweeSpatiesErtussen)
     const auto regel = [](const Tekst& lid, const Tekst& groep = "Club") {
         return MaakControleregel(lid, groep).regel;
     };
-    EXPECT_EQ("12345678    M      Club        Bos, An             ",
-              regel(Lid("An", "", "Bos", "M", "12345678")));
-    EXPECT_EQ("12345678    V      Club        Dam, Cor van der    ",
-              regel(Lid("Cor", "van der", "Dam", "V", "12345678")));
-    // Without a number or a sex such a member is listed all the same.
-    EXPECT_EQ("                   Club        Bos, An             ",
-              regel(Lid("An", "", "Bos", "", "")));
-    // Of the member group ten characters at most, of all else everything.
-    EXPECT_EQ("1           M      Dinsdagavo  Bos, An             ",
-              regel(Lid("An", "", "Bos", "M", "1"), "Dinsdagavond"));
-    EXPECT_EQ("1           M      Dinsdagavo  Bos, An             ",
-              regel(Lid("An", "", "Bos", "M", "1"), "Dinsdagavo"));
-    EXPECT_EQ("1           M      Club        Aaaaaaaaaaaaaaaa, Bbb",
-              regel(Lid("Bbb", "", "Aaaaaaaaaaaaaaaa", "M", "1")));
-    EXPECT_EQ("1           M      Club        Aaaaaaaaaaaaaaaaaaaa, Bbb de",
-              regel(Lid("Bbb", "de", "Aaaaaaaaaaaaaaaaaaaa", "M", "1")));
+    for (const auto& [verwacht, lid] : std::vector<std::pair<Tekst, Tekst>>{
+             {"12345678    M      Club        Bos, An             ",
+              Lid("An", "", "Bos", "M", "12345678")},
+             {"12345678    V      Club        Dam, Cor van der    ",
+              Lid("Cor", "van der", "Dam", "V", "12345678")},
+             // Without a number or a sex such a member is listed all the same.
+             {"                   Club        Bos, An             ", Lid("An", "", "Bos", "", "")},
+             // What is longer than its column pushes the rest along.
+             {"123456789012  M      Club        Bos, An             ",
+              Lid("An", "", "Bos", "M", "123456789012")},
+             {"1           M      Club        Aaaaaaaaaaaaaaaa, Bbb",
+              Lid("Bbb", "", "Aaaaaaaaaaaaaaaa", "M", "1")},
+             {"1           M      Club        Aaaaaaaaaaaaaaaaaaaa, Bbb de",
+              Lid("Bbb", "de", "Aaaaaaaaaaaaaaaaaaaa", "M", "1")},
+             // The surname was "Bos, de": its second half is taken for the street.
+             {"V           NL     Club        Bos, An             ",
+              "An,,Bos, de,Dorp 1,1234 AB,Ede,06-1,,NL,V,123"}})
+        EXPECT_EQ(verwacht, regel(lid));
+    const auto lang = MaakControleregel(Lid("An", "", "Bos", "M", "123456789012"), "Club");
+    EXPECT_EQ("Bos, An             ", lang.Naam());
+    // Of the member group ten characters at most.
+    for (const char* groep : {"Dinsdagavond", "Dinsdagavo"})
+        EXPECT_EQ("1           M      Dinsdagavo  Bos, An             ",
+                  regel(Lid("An", "", "Bos", "M", "1"), groep));
 }
 
 TEST(Controleregel, EenPartnerKrijgtStreepjes)
@@ -95,21 +103,6 @@ TEST(Controleregel, EenPartnerKrijgtStreepjes)
     EXPECT_EQ("Part ner x, An", naam("Part ner x"));
     // The first seven characters, then trimmed: here they are " Partne".
     EXPECT_EQ("Partner van Bos, An", naam(" Partner van Bos"));
-}
-
-TEST(Controleregel, EenNummerLangerDanDeKolomSchuiftDeRestOp)
-{
-    const Controleregel regel =
-        MaakControleregel(Lid("An", "", "Bos", "M", "123456789012"), "Club");
-    EXPECT_EQ("123456789012  M      Club        Bos, An             ", regel.regel);
-    EXPECT_EQ("Bos, An             ", regel.Naam());
-}
-
-TEST(Controleregel, EenKommaInEenVeldSplitstHet)
-{
-    // The surname was "Bos, de": its second half is taken for the street and all else moves along.
-    EXPECT_EQ("V           NL     Club        Bos, An             ",
-              MaakControleregel("An,,Bos, de,Dorp 1,1234 AB,Ede,06-1,,NL,V,123", "Club").regel);
 }
 
 TEST(ControlelijstTest, DeTweeKoppenVerschillenEenSpatie)
@@ -188,32 +181,29 @@ TEST(ControlelijstTest, TekentKopEnRijenVanafEenRij)
     const auto lijst = Lijst(
         {Lid("An", "", "A", "", "1"), Lid("An", "", "B", "", "2"), Lid("An", "", "C", "", "3")});
     const Controlerijen rijen(lijst, 85);
-    Vlakvanger vlak;
-    TekenControlelijst(vlak, 15, 20, ControlekopScherm, rijen, 1, 1);
+    const auto getekend = [&](std::size_t eerste, std::size_t aantal) {
+        Vlakvanger vlak;
+        TekenControlelijst(vlak, 15, 20, ControlekopScherm, rijen, eerste, aantal);
+        return vlak;
+    };
+    const Vlakvanger vlak = getekend(1, 1);
     ASSERT_EQ((std::vector<Tekst>{Tekst(ControlekopScherm), lijst[1].regel}), vlak.Teksten());
-    EXPECT_EQ(15, vlak.teksten[0].x);
+    for (const auto& tekst : vlak.teksten) {
+        EXPECT_EQ(15, tekst.x);
+        EXPECT_EQ(Lettertype::CourierNew, tekst.letter.type);
+    }
     EXPECT_EQ(20, vlak.teksten[0].y);
-    EXPECT_EQ(15, vlak.teksten[1].x);
     EXPECT_EQ(26, vlak.teksten[1].y);
-    EXPECT_EQ(Lettertype::CourierNew, vlak.teksten[0].letter.type);
-    EXPECT_EQ(Lettertype::CourierNew, vlak.teksten[1].letter.type);
-
-    Vlakvanger rest;
-    TekenControlelijst(rest, 15, 20, ControlekopScherm, rijen, 2, 10);
-    EXPECT_EQ((std::vector<Tekst>{Tekst(ControlekopScherm), lijst[2].regel}), rest.Teksten());
-    Vlakvanger leeg;
-    TekenControlelijst(leeg, 15, 20, ControlekopScherm, rijen, 9, 10);
-    EXPECT_EQ(1U, leeg.teksten.size());
+    EXPECT_EQ((std::vector<Tekst>{Tekst(ControlekopScherm), lijst[2].regel}),
+              getekend(2, 10).Teksten());
+    EXPECT_EQ(1U, getekend(9, 10).teksten.size());
 }
 
 TEST(Controlebladen, ZoveelBladenAlsErNodigZijn)
 {
     EXPECT_EQ(59U, controleblad::Rijen); // (297 - 30 - 6) / 4.4
-    EXPECT_EQ(1, ControlebladenVoor(0));
-    EXPECT_EQ(1, ControlebladenVoor(1));
-    EXPECT_EQ(1, ControlebladenVoor(59));
-    EXPECT_EQ(2, ControlebladenVoor(60));
-    EXPECT_EQ(1695, ControlebladenVoor(100'000));
+    for (const auto& [rijen, bladen] : {std::pair{0, 1}, {1, 1}, {59, 1}, {60, 2}, {100'000, 1695}})
+        EXPECT_EQ(bladen, ControlebladenVoor(static_cast<std::size_t>(rijen))) << rijen;
 }
 
 TEST(Controlebladen, ElkBladHeeftDeKopEnZijnNummer)

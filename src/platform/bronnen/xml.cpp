@@ -31,17 +31,19 @@ struct Xmlfout {
     std::string wat;
 };
 
-Fout Leesfout(std::string_view bron, const std::string& bestand, const Xmlfout& fout)
+tl::unexpected<Fout> Leesfout(std::string_view bron, const std::string& bestand,
+                              const Xmlfout& fout)
 {
     const std::string_view tot = bron.substr(0, fout.plaats);
     const std::string_view regel = tot.substr(tot.rfind('\n') + 1);
     const auto tekens = std::count_if(regel.begin(), regel.end(), [](char byte) {
         return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; // not one that goes on
     });
-    return {.soort = Foutsoort::Beschadigd,
-            .bestand = bestand,
-            .regel = static_cast<int>(std::count(tot.begin(), tot.end(), '\n')) + 1,
-            .systeem = fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)"};
+    return Mislukt(
+        {.soort = Foutsoort::Beschadigd,
+         .bestand = bestand,
+         .regel = static_cast<int>(std::count(tot.begin(), tot.end(), '\n')) + 1,
+         .systeem = fout.wat + " (teken " + std::to_string(tekens + 1) + " van die regel)"});
 }
 
 // ---- Characters --------------------------------------------------------------------------------
@@ -218,8 +220,8 @@ Uitkomst<std::string> LeesXml(Tekst bytes, const std::string& bestand)
                         "ISO-8859-1", "ISO8859-1", "LATIN1"})) {
         tekst = NaarUtf8(bytes);
     } else if (utf32 || !IsEenVan(naam, {"", "UTF-8", "UTF8", "UTF-16"})) {
-        return tl::unexpected(Leesfout(
-            {}, bestand, {0, "de codering is onbekend: " + (utf32 ? "UTF-32" : NaarUtf8(naam))}));
+        return Leesfout({}, bestand,
+                        {0, "de codering is onbekend: " + (utf32 ? "UTF-32" : NaarUtf8(naam))});
     } else if (codering == QStringConverter::Utf8 && QUtf8StringView(alles).isValidUtf8()) {
         tekst = std::move(bytes);
         tekst.erase(0, herkend ? 3 : 0); // it is recognised by its mark only
@@ -236,8 +238,7 @@ Uitkomst<std::string> LeesXml(Tekst bytes, const std::string& bestand)
     verkeerd = std::min(verkeerd, EersteVerkeerde(tekst));
     if (verkeerd == nergens)
         return tekst;
-    return tl::unexpected(
-        Leesfout(tekst, bestand, {verkeerd, "hier staat geen teken dat in XML mag"}));
+    return Leesfout(tekst, bestand, {verkeerd, "hier staat geen teken dat in XML mag"});
 }
 
 Uitkomst<void> OntleedXml(std::string_view bron, const std::string& bestand,
@@ -254,7 +255,7 @@ Uitkomst<void> OntleedXml(std::string_view bron, const std::string& bestand,
     if (!fout)
         fout = OnbekendeVerwijzing(bron);
     if (fout)
-        return tl::unexpected(Leesfout(bron, bestand, *fout));
+        return Leesfout(bron, bestand, *fout);
     return {};
 }
 
