@@ -19,6 +19,11 @@ namespace {
 const std::string database = Accessbestand("Members.mdb");
 constexpr auto doel = "P\\Club Temp-NBBXMLtoCSV.csv";
 
+Ledenopdracht Opdracht(const Pad& bestand)
+{
+    return {.bron = Ledenbron::Database, .programmamap = "P", .LedenDatabase = bestand};
+}
+
 class HaalLedenProef : public testing::Test {
   protected:
     HaalLedenProef() { schijf_.ZetMap("P"); }
@@ -132,9 +137,7 @@ TEST_F(HaalLedenProef, FiltertZoalsDeDatabase)
 /// The number of the file is the end of its entry, the name of the intermediate file its beginning.
 TEST_F(HaalLedenProef, WordenImportregelsLangsHetTussenbestand)
 {
-    const Ledenopdracht opdracht{
-        .bron = Ledenbron::Database, .programmamap = "P", .LedenDatabase = database};
-    const auto lezing = LeesLedenbestand(schijf_, opdracht, "Jeugd 105");
+    const auto lezing = LeesLedenbestand(schijf_, Opdracht(database), "Jeugd 105");
     ASSERT_TRUE(lezing) << lezing.error().systeem;
     EXPECT_EQ(schijf_.Inhoud("P\\Jeugd Temp-NBBXMLtoCSV.csv"), jeugd);
     ASSERT_EQ(lezing->lstN1.size(), 8U);
@@ -213,8 +216,7 @@ TEST(HaalLedenbestanden, VanEenNummerVanVierCijfersTellenDeLaatsteDrie)
     EXPECT_EQ(*lijst, (std::vector<Tekst>{"Club 007", "Cursus 012", "Jeugd 1007"}));
     GeheugenSchijf schijf;
     schijf.ZetMap("P");
-    const Ledenopdracht opdracht{
-        .bron = Ledenbron::Database, .programmamap = "P", .LedenDatabase = vierCijfers};
+    const Ledenopdracht opdracht = Opdracht(vierCijfers);
     const auto jeugdig = LeesLedenbestand(schijf, opdracht, "Jeugd 1007");
     ASSERT_TRUE(jeugdig) << jeugdig.error().systeem;
     EXPECT_EQ(schijf.Inhoud("P\\Jeugd Temp-NBBXMLtoCSV.csv"), club);

@@ -36,47 +36,34 @@ std::vector<bool> Antwoorden(const std::vector<Tekst>& nummers, const std::vecto
     return antwoorden;
 }
 
-using Rij = std::vector<bool>;
-
-TEST(NBBnrIndex, VindtEenNummerDatErStaat)
+TEST(NBBnrIndex, VindtWatErgensInDeTekstStaat)
 {
-    EXPECT_EQ(
-        (Rij{true, true, false, false}),
-        Antwoorden({"00012345", "00067890"}, {"00012345", "00067890", "00012346", "12345000"}));
-    EXPECT_EQ((Rij{false}), Antwoorden({}, {"00012345"}));
-}
-
-/// Meant: a number of nine or more digits hides every number within its digits.
-TEST(NBBnrIndex, EenLangNummerVerbergtWatErinStaat)
-{
-    EXPECT_EQ(
-        (Rij{true, true, true, true, false}),
-        Antwoorden({"1234567890"}, {"12345678", "23456789", "34567890", "123456789", "45678900"}));
-}
-
-TEST(NBBnrIndex, ZoektDwarsDoorHetStreepjeAlsDeVraagDatHeeft)
-{
-    EXPECT_EQ((Rij{true, true, true, false, true}),
-              Antwoorden({"00012345", "00067890", "7-8"},
-                         {"5-0", "12345-00067890-7", "0-7-8", "0-8", "-00012345"}));
-}
-
-TEST(NBBnrIndex, KorteEnVreemdeTekstenEnTweemaalDezelfdeVraag)
-{
-    EXPECT_EQ((Rij{true, true, true, false, true, true}),
-              Antwoorden({"gast12", "00012345"},
-                         {"gast", "st1", "gast12", "12g", "00012345", "00012345"}));
-    EXPECT_EQ((Rij{true, false}), Antwoorden({"", ""}, {"--", "---"}));
-    EXPECT_EQ((Rij{true, true}), Antwoorden({Tekst(9, '\0')}, {Tekst(8, '\0'), Tekst(9, '\0')}));
-    EXPECT_EQ((Rij{true}), Antwoorden({}, {""}));
-}
-
-/// Longer than any number is.
-TEST(NBBnrIndex, HeelLangeTeksten)
-{
-    const Tekst lang(65, '7');
-    EXPECT_EQ((Rij{true, false, true, true}),
-              Antwoorden({lang + "8"}, {lang, lang + "9", lang + "8", Tekst(64, '7')}));
+    using Rij = std::vector<bool>;
+    const Tekst lang(65, '7'); // longer than any number is
+    for (const auto& [nummers, vragen, antwoorden] :
+         std::vector<std::tuple<std::vector<Tekst>, std::vector<Tekst>, Rij>>{
+             {{"00012345", "00067890"},
+              {"00012345", "00067890", "00012346", "12345000"},
+              {true, true, false, false}},
+             {{}, {"00012345", ""}, {false, true}},
+             // Meant: a number of nine or more digits hides every number within its digits.
+             {{"1234567890"},
+              {"12345678", "23456789", "34567890", "123456789", "45678900"},
+              {true, true, true, true, false}},
+             // Across the "-", if the question has one.
+             {{"00012345", "00067890", "7-8"},
+              {"5-0", "12345-00067890-7", "0-7-8", "0-8", "-00012345"},
+              {true, true, true, false, true}},
+             // Short and strange texts, and the same question twice.
+             {{"gast12", "00012345"},
+              {"gast", "st1", "gast12", "12g", "00012345", "00012345"},
+              {true, true, true, false, true, true}},
+             {{"", ""}, {"--", "---"}, {true, false}},
+             {{Tekst(9, '\0')}, {Tekst(8, '\0'), Tekst(9, '\0')}, {true, true}},
+             {{lang + "8"},
+              {lang, lang + "9", lang + "8", Tekst(64, '7')},
+              {true, false, true, true}}})
+        EXPECT_EQ(antwoorden, Antwoorden(nummers, vragen)) << testing::PrintToString(nummers);
 }
 
 /// The index in the plain way: one text, searched from its beginning every time.
