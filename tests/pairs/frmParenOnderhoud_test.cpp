@@ -7,14 +7,9 @@
 #include <QScreen>
 #include <QScrollBar>
 
-#include <memory>
-
-#include <gtest/gtest.h>
-
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
-#include "platform/scherm/tekstbrug.h"
 
 using namespace plexoran;
 

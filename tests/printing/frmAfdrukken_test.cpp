@@ -3,8 +3,6 @@
 #include <QCheckBox>
 #include <QScreen>
 
-#include <gtest/gtest.h>
-
 #include "hulp/dialoogproef.h"
 #include "hulp/printdialoog.h"
 #include "hulp/proefstand.h"

@@ -4,8 +4,6 @@
 #include <QStyleOptionComboBox>
 #include <QTextDocument>
 
-#include <gtest/gtest.h>
-
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"
