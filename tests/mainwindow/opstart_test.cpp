@@ -14,7 +14,7 @@ using namespace std::string_literals;
 
 TEST_F(Opstartproef, TweedeExemplaarMeldtZichEnLeestOfSchrijftNiets)
 {
-    wachter.Informatie(isAlGestart);
+    wachter.Informatie(u"Het programma is al gestart!..."_s);
     EXPECT_EQ(0, Laad(false));
     EXPECT_EQ(std::vector<std::string>{}, geheugen.log);
     EXPECT_EQ(std::vector<Pad>{"C:\\RVD\\Mappen.ini"}, geheugen.AlleBestanden());

@@ -10,7 +10,6 @@
 
 namespace plexoran {
 
-inline const QString isAlGestart = u"Het programma is al gestart!..."_s;
 inline const QString isNogLeeg =
     u"Het spelerbestand is nog leeg, u moet als eerste leden toevoegen!"_s;
 inline const QString mappenvraag =

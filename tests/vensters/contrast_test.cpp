@@ -1,12 +1,7 @@
 // Every text can be read in light themes and in dark ones: its ink stands out from its ground at
 // least 4.5 to 1.
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScreen>
 
 #include <cmath>
@@ -62,17 +57,12 @@ QColor Ondergrond(const QWidget* deel)
 std::optional<std::pair<QColor, QColor>> Kleuren(const QWidget* deel)
 {
     const QPalette& palet = deel->palette();
-    if (qobject_cast<const QLabel*>(deel) != nullptr ||
-        qobject_cast<const QGroupBox*>(deel) != nullptr)
-        return std::pair{palet.color(QPalette::WindowText), Ondergrond(deel)};
-    if (qobject_cast<const QPushButton*>(deel) != nullptr ||
-        qobject_cast<const QComboBox*>(deel) != nullptr)
+    const auto is = [deel](auto... soorten) { return (deel->inherits(soorten) || ...); };
+    if (is("QPushButton", "QComboBox"))
         return std::pair{palet.color(QPalette::ButtonText), palet.color(QPalette::Button)};
-    if (qobject_cast<const QAbstractButton*>(deel) != nullptr)
+    if (is("QLabel", "QGroupBox", "QAbstractButton"))
         return std::pair{palet.color(QPalette::WindowText), Ondergrond(deel)};
-    if (qobject_cast<const QLineEdit*>(deel) != nullptr ||
-        qobject_cast<const QAbstractItemView*>(deel) != nullptr ||
-        qobject_cast<const QPlainTextEdit*>(deel) != nullptr) {
+    if (is("QLineEdit", "QAbstractItemView", "QPlainTextEdit")) {
         const QColor papier = palet.color(QPalette::Base);
         return std::pair{palet.color(QPalette::Text),
                          papier.alpha() == 0 ? Ondergrond(deel) : papier};
