@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -37,15 +38,6 @@ Brontekst TekstVan(Ledenbron bron)
         return {{}, u"Ledenbestanden:"_s, {}};
     }
 }
-
-/// The busy cursor for as long as this lives.
-class Wachtcursor {
-  public:
-    Wachtcursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    Wachtcursor(const Wachtcursor&) = delete;
-    Wachtcursor& operator=(const Wachtcursor&) = delete;
-    ~Wachtcursor() { QGuiApplication::restoreOverrideCursor(); }
-};
 
 } // namespace
 
@@ -116,7 +108,8 @@ void frmImportNBB::KiesDatabase()
              "ledenbestand."_s);
         return;
     }
-    const Wachtcursor wacht;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto herstel = qScopeGuard(QGuiApplication::restoreOverrideCursor);
     const auto gelezen = import_.KiesDatabase(
         // It is over within seconds, and cannot be stopped.
         frmVoortgang(u"De ledenbestanden worden opgehaald ..."_s, {}, this).AlsVoortgang());
@@ -181,7 +174,8 @@ void frmImportNBB::MeldNietVanSoort(const Tekst& aangewezen)
 /// every file in it was looked at.
 bool frmImportNBB::ToonMap(const Pad& map, Tekstblik aangewezen)
 {
-    const Wachtcursor wacht;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto herstel = qScopeGuard(QGuiApplication::restoreOverrideCursor);
     if (const auto gekozen = import_.KiesMap(map); !gekozen) {
         MeldFout(this, QMessageBox::Warning,
                  u"De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets "
