@@ -97,11 +97,6 @@ Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, QWidget* o
     picP1->ZetSchaal(pixelsPerMm_);
 }
 
-void Bladbeeld::Toon(int blad)
-{
-    picP1->Toon(blad);
-}
-
 void Bladbeeld::ZetZoom(int procent)
 {
     const double staand = Midden(Staand());

@@ -34,7 +34,7 @@ class Bladbeeld : public Schuifkader {
     /// Borrows the list and the case of letters.
     Bladbeeld(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder);
 
-    void Toon(int blad);
+    void Toon(int blad) { picP1->Toon(blad); }
     void ZetZoom(int procent);
     /// So many steps nearer or, below 0, farther.
     void Zoom(int stappen);

@@ -36,13 +36,6 @@ bool IsPdfbestand(const QPrinter& printer)
     return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
 }
 
-std::vector<int> AlleBladen(int totaal)
-{
-    std::vector<int> bladen(static_cast<std::size_t>(totaal));
-    std::iota(bladen.begin(), bladen.end(), 1);
-    return bladen;
-}
-
 /// Takes away choices that would go wrong; a range from and to is enough. Qt 6.4 refuses whatever
 /// is typed as single pages. Odd and even pages the print server picks by their place in the job:
 /// the wrong ones when the program prints the last page first. As the dialog shows its parts again
@@ -78,9 +71,11 @@ std::optional<Printkeus> VraagPdf(Schijf& schijf, const Printwerk& werk, QWidget
     kiezer.selectFile(werk.titel + u".pdf"_s);
     if (kiezer.exec() != QDialog::Accepted)
         return std::nullopt;
+    std::vector<int> alle(static_cast<std::size_t>(werk.bladen));
+    std::iota(alle.begin(), alle.end(), 1);
     return Printkeus{
         Printer(schijf, VolledigPad(kiezer.selectedFiles().constFirst().toStdString())),
-        AlleBladen(werk.bladen)};
+        std::move(alle)};
 }
 
 std::optional<Printkeus> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
@@ -207,12 +202,11 @@ Uitkomst<void> Printer::Druk(const Printwerk& werk, const std::vector<int>& blad
     printer_->setDocName(werk.titel);
     richtIn(*printer_);
     QPainter schilder;
-    if (!TekenBladen(*printer_, schilder, printer_->resolution(), bladen, teken, verder)) {
-        if (schilder.isActive())
-            printer_->abort();
-        return Mislukt({.bestand = naam});
-    }
-    if (printer_->printerState() == QPrinter::Error)
+    const bool getekend =
+        TekenBladen(*printer_, schilder, printer_->resolution(), bladen, teken, verder);
+    if (!getekend && schilder.isActive())
+        printer_->abort();
+    if (!getekend || printer_->printerState() == QPrinter::Error)
         return Mislukt({.bestand = naam});
     if (printer_->outputFormat() == QPrinter::NativeFormat) {
         if (const auto fout = Serverfout())
