@@ -13,8 +13,8 @@ using Namen = std::vector<std::string>;
 
 class frmImportNBBTest : public Importproef {
   protected:
-    /// Starts with both programs installed, of which the one with this folder has the database;
-    /// the choice is asked.
+    /// Starts with both programs installed, each with its data folder, and this answer to the
+    /// question which of them is meant.
     void StartMetBeide(const char* nbbr, const char* bridgeIt, const char* keus)
     {
         winkel.Zet("NBB-Rekenprogramma", "DataRoot", (suite.Weg() / nbbr).string());
