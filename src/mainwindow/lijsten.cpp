@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <unordered_map>
 #include <utility>
 
 #include "platform/tekst/tekst.h"
@@ -34,14 +33,19 @@ void VoegGroepEnNaamToe(Tekst& regel, const Spelertabel& tabel, int rij)
 /// Per row the next one with the same name; 0 for the last of its name.
 std::vector<int> VolgendeNaamgenoten(const Spelertabel& tabel)
 {
-    std::vector<int> volgende(static_cast<std::size_t>(tabel.Rijen()) + 1, 0);
-    std::unordered_map<Tekst, int> eerste; // of the rows below
-    eerste.reserve(volgende.size());
-    for (int rij = tabel.Rijen(); rij >= 1; --rij) {
+    std::vector<std::pair<Tekst, int>> namen;
+    namen.reserve(static_cast<std::size_t>(tabel.Rijen()));
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         Tekst naam(tabel.Cel(rij, Kolom::Voornaam));
         naam += tabel.Cel(rij, Kolom::Tusv);
         naam += tabel.Cel(rij, Kolom::Achternaam);
-        volgende[static_cast<std::size_t>(rij)] = std::exchange(eerste[std::move(naam)], rij);
+        namen.emplace_back(std::move(naam), rij);
+    }
+    std::sort(namen.begin(), namen.end());
+    std::vector<int> volgende(namen.size() + 1, 0);
+    for (std::size_t i = 1; i < namen.size(); ++i) {
+        if (namen[i].first == namen[i - 1].first)
+            volgende[static_cast<std::size_t>(namen[i - 1].second)] = namen[i].second;
     }
     return volgende;
 }

@@ -37,6 +37,37 @@ template <class Rij> Spelertabel::Celgrenzen Spelertabel::Schrijf(const Rij& vel
     return grenzen;
 }
 
+/// What stands unchanged between two changed cells is taken over in one piece.
+Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celtekst> anders)
+{
+    const Celgrenzen& bron = Grenzen(rij);
+    Tekst kopie; // on its own first, since the texts may be views into this table
+    Celgrenzen grenzen{};
+    std::size_t cel = 0;
+    const auto neemOver = [&](std::size_t tot) {
+        if (cel == tot)
+            return;
+        const auto verschil = static_cast<std::uint32_t>(kopie.size()) - bron[cel];
+        kopie += Bytes(bron[cel], bron[tot]);
+        kopie += ',';
+        for (; cel < tot; ++cel)
+            grenzen[cel] = bron[cel] + verschil;
+    };
+    for (const auto& [kolom, tekst] : anders) {
+        assert(Index(kolom) >= cel);
+        neemOver(Index(kolom));
+        grenzen[cel++] = static_cast<std::uint32_t>(kopie.size());
+        VoegVeldToe(kopie, tekst);
+        kopie += ',';
+    }
+    neemOver(AantalKolommen);
+    grenzen[AantalKolommen] = static_cast<std::uint32_t>(kopie.size());
+    for (auto& grens : grenzen)
+        grens += static_cast<std::uint32_t>(tekst_.size());
+    tekst_ += kopie;
+    return grenzen;
+}
+
 void Spelertabel::ZetRij(int rij, const Rijvelden& velden)
 {
     Grenzen(rij) = Schrijf(velden);
@@ -56,7 +87,7 @@ void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
 
 void Spelertabel::ZetCellen(int rij, std::span<const Celtekst> anders)
 {
-    Grenzen(rij) = Schrijf(Blikken(rij, anders));
+    Grenzen(rij) = SchrijfKopie(rij, anders);
 }
 
 void Spelertabel::VoegToe(const Rijvelden& velden)
@@ -71,18 +102,7 @@ void Spelertabel::VoegRijToe(const Rijblikken& velden)
 
 void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)
 {
-    rijen_.push_back(Schrijf(Blikken(rij, anders)));
-}
-
-/// The cells of the row, some of them replaced.
-Rijblikken Spelertabel::Blikken(int rij, std::span<const Celtekst> anders) const
-{
-    Rijblikken velden;
-    for (std::size_t i = 0; i < velden.size(); ++i)
-        velden[i] = Cel(rij, static_cast<Kolom>(i + 1));
-    for (const auto& [kolom, tekst] : anders)
-        velden[Index(kolom)] = tekst;
-    return velden;
+    rijen_.push_back(SchrijfKopie(rij, anders));
 }
 
 void Spelertabel::VerwijderRijen(std::span<const int> rijen)
@@ -97,17 +117,24 @@ void Spelertabel::VerwijderRijen(std::span<const int> rijen)
     for (std::size_t i = 0; i < rijen_.size(); ++i) {
         if (weg[i])
             continue;
-        rijen_[over++] = rijen_[i];
-        ZetCel(static_cast<int>(over), Kolom::Nr, std::to_string(over));
+        Celgrenzen& rij = rijen_[over++] = rijen_[i];
+        const Tekst nr = std::to_string(over);
+        if (rij[1] - rij[0] - 1 < nr.size()) {
+            ZetCel(static_cast<int>(over), Kolom::Nr, nr);
+            continue;
+        }
+        // At the end of the old number's bytes: a table that is numbered anew does not grow.
+        rij[0] = rij[1] - 1 - static_cast<std::uint32_t>(nr.size());
+        std::copy(nr.begin(), nr.end(), tekst_.begin() + rij[0]);
     }
     rijen_.resize(over);
 }
 
 Rijvelden Spelertabel::Velden(int rij) const
 {
-    const Rijblikken blikken = Blikken(rij, {});
     Rijvelden velden;
-    std::copy(blikken.begin(), blikken.end(), velden.begin());
+    for (std::size_t i = 0; i < velden.size(); ++i)
+        velden[i] = Cel(rij, static_cast<Kolom>(i + 1));
     return velden;
 }
 

@@ -122,9 +122,10 @@ class Spelertabel {
     {
         return {tekst_.data() + van, tot - van - std::size_t{1}};
     }
-    [[nodiscard]] Rijblikken Blikken(int rij, std::span<const Celtekst> anders) const;
     /// Behind the text; the row's own bounds are not touched.
     template <class Rij> Celgrenzen Schrijf(const Rij& velden);
+    /// The same of a row with some cells changed, these in column order.
+    Celgrenzen SchrijfKopie(int rij, std::span<const Celtekst> anders);
 
     Tekst tekst_; ///< the file and what was written since
     std::vector<Celgrenzen> rijen_;
