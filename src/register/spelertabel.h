@@ -134,10 +134,9 @@ class Spelertabel {
 /// First name, particle and last name, as far as they are there.
 [[nodiscard]] Tekst VolleNaam(const Spelertabel& tabel, int rij);
 
-/// Finds players by their register key.
-/// The first row with each key, as a search from the top of the table finds it. Keys are read in
-/// the table, which must outlive the index; meanwhile rows may be added to it, which are not found,
-/// and other cells may change.
+/// Finds players by their register key: the first row with each key, as a search from the top of
+/// the table finds it. Keys are read in the table, which must outlive the index; meanwhile rows may
+/// be added to it, which are not found, and other cells may change.
 class Sleutelwijzer {
   public:
     explicit Sleutelwijzer(const Spelertabel& tabel);
