@@ -24,8 +24,7 @@ struct Proef {
           administratie{.schijf = schijf, .winkel = [](auto...) { return std::nullopt; }},
           venster(administratie)
     {
-        const auto status =
-            venster.Laad({.mappenIni = suite.MappenIni(), .eersteExemplaar = [] { return true; }});
+        const auto status = venster.Laad(suite.MappenIni(), [] { return true; });
         goed = !status && administratie.spelers.tabel.Rijen() == spelers;
         venster.show();
         QApplication::processEvents();

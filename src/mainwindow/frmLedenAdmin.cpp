@@ -56,12 +56,12 @@ frmLedenAdmin::frmLedenAdmin(Administratie& administratie, QWidget* ouder)
     Bouw();
 }
 
-std::optional<int> frmLedenAdmin::Laad(const Startgegevens& start)
+std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool()> eersteExemplaar)
 {
-    eersteExemplaar_ = start.eersteExemplaar;
+    eersteExemplaar_ = std::move(eersteExemplaar);
     if (!IsEersteExemplaar())
         return 0;
-    const Startafloop afloop = LeesBijStart(administratie_, this, start.mappenIni);
+    const Startafloop afloop = LeesBijStart(administratie_, this, mappenIni);
     if (afloop == Startafloop::Mislukt)
         return 1;
     cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);
@@ -112,7 +112,10 @@ void frmLedenAdmin::ToonGroep()
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdWijzig, cmdVerwijder, cmdVerwijderVT,
                                                          cmbVerwVan, cmbVerwTot})
         deel->setEnabled(regels > 0);
-    regelnummers_->ZetAantal(regels);
+    QStringList nummers;
+    for (int regel = 1; regel <= regels; ++regel)
+        nummers << QString::number(regel);
+    regelnummers_->setStringList(nummers);
     cmbVerwVan->setCurrentIndex(regels > 0 ? 0 : -1);
     cmbVerwTot->setCurrentIndex(regels > 0 ? 0 : -1);
     PasKnoppenAan(beeld);

@@ -1,13 +1,13 @@
 // The main window: one group of the register in a grid, and every command of the program.
 #pragma once
 
-#include <QAbstractListModel>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QStringListModel>
 
 #include <functional>
 #include <optional>
@@ -23,38 +23,6 @@ class QLayout;
 
 namespace plexoran {
 
-/// The numbers 1 to n as the content of drop-downs, without an entry in memory for each.
-class Nummerlijst : public QAbstractListModel {
-  public:
-    using QAbstractListModel::QAbstractListModel;
-
-    void ZetAantal(int aantal)
-    {
-        beginResetModel();
-        aantal_ = aantal;
-        endResetModel();
-    }
-    [[nodiscard]] int rowCount(const QModelIndex& ouder = QModelIndex()) const override
-    {
-        return ouder.isValid() ? 0 : aantal_;
-    }
-    [[nodiscard]] QVariant data(const QModelIndex& plaats, int rol) const override
-    {
-        return plaats.isValid() && rol == Qt::DisplayRole ? QString::number(plaats.row() + 1)
-                                                          : QVariant();
-    }
-
-  private:
-    int aantal_ = 0;
-};
-
-/// What the start needs from outside.
-struct Startgegevens {
-    Pad mappenIni;
-    /// Whether no other instance of the program runs.
-    std::function<bool()> eersteExemplaar;
-};
-
 class frmLedenAdmin : public QMainWindow {
     Q_OBJECT
 
@@ -62,8 +30,10 @@ class frmLedenAdmin : public QMainWindow {
     explicit frmLedenAdmin(Administratie& administratie, QWidget* ouder = nullptr);
 
     /// Starts up and shows the group of last time. Nothing when the program can go on, else the
-    /// exit status with which it ends at once.
-    [[nodiscard]] std::optional<int> Laad(const Startgegevens& start);
+    /// exit status with which it ends at once. `eersteExemplaar` tells whether no other instance of
+    /// the program runs.
+    [[nodiscard]] std::optional<int> Laad(const Pad& mappenIni,
+                                          std::function<bool()> eersteExemplaar);
 
     /// Shows the selected group anew, after a choice or a change.
     void ToonGroep();
@@ -130,7 +100,7 @@ class frmLedenAdmin : public QMainWindow {
     QCheckBox* chkToonAlle;
     QComboBox* cmbVerwVan;
     QComboBox* cmbVerwTot;
-    Nummerlijst* regelnummers_;
+    QStringListModel* regelnummers_; ///< 1 to as many as the grid has lines
     QPushButton* cmdWijzig;
     QPushButton* cmdVerwijder;
     QPushButton* cmdVerwijderVT;

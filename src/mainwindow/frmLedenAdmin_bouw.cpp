@@ -33,7 +33,7 @@ constexpr double Toelichtingletter = 8; // points
 constexpr int Tussenruimte = 8;         // pixels between the columns of commands
 constexpr int Knopruimte = 16;          // pixels beside the caption of a button, both sides
 
-QComboBox* MaakNummerkeus(const QString& naam, const QString& gesproken, Nummerlijst* nummers,
+QComboBox* MaakNummerkeus(const QString& naam, const QString& gesproken, QStringListModel* nummers,
                           QLabel* label, QWidget* ouder)
 {
     auto* keus = new QComboBox(ouder);
@@ -217,7 +217,7 @@ QLayout* frmLedenAdmin::BouwVerwijderkolom()
     QWidget* Frame2 = vakken->parentWidget();
     auto* lblVan = MaakLabel(u"lblVan"_s, u"Van regel:"_s, Frame2);
     auto* lblTot = MaakLabel(u"lblTot"_s, u"T/m regel:"_s, Frame2);
-    regelnummers_ = new Nummerlijst(this);
+    regelnummers_ = new QStringListModel(this);
     cmbVerwVan = MaakNummerkeus(u"cmbVerwVan"_s, u"Van regel"_s, regelnummers_, lblVan, Frame2);
     cmbVerwTot =
         MaakNummerkeus(u"cmbVerwTot"_s, u"Tot en met regel"_s, regelnummers_, lblTot, Frame2);

@@ -54,8 +54,7 @@ int main(int argc, char** argv)
     Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
     frmLedenAdmin hoofdvenster(administratie);
     if (const auto eindstatus =
-            hoofdvenster.Laad({.mappenIni = VolledigPad(woorden[1].toStdString()),
-                               .eersteExemplaar = [] { return true; }}))
+            hoofdvenster.Laad(VolledigPad(woorden[1].toStdString()), [] { return true; }))
         return *eindstatus;
     hoofdvenster.show();
     const QDir doel(woorden[2]);

@@ -100,8 +100,7 @@ class Opstartproef : public Vensterproef {
     {
         venster = std::make_unique<frmLedenAdmin>(administratie);
         const auto status =
-            venster->Laad({.mappenIni = "C:\\RVD\\Mappen.ini",
-                           .eersteExemplaar = [eersteExemplaar] { return eersteExemplaar; }});
+            venster->Laad("C:\\RVD\\Mappen.ini", [eersteExemplaar] { return eersteExemplaar; });
         wachter.Klaar();
         return status;
     }

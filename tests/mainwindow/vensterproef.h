@@ -153,8 +153,7 @@ class Hoofdvensterproef : public Vensterproef, protected Suitestand {
     void Start(int breed = 1024, int hoog = 700)
     {
         venster = std::make_unique<frmLedenAdmin>(administratie);
-        ASSERT_EQ(std::nullopt, venster->Laad({.mappenIni = suite.MappenIni(),
-                                               .eersteExemplaar = [] { return true; }}));
+        ASSERT_EQ(std::nullopt, venster->Laad(suite.MappenIni(), [] { return true; }));
         ASSERT_NO_FATAL_FAILURE(Toon(breed, hoog));
     }
 

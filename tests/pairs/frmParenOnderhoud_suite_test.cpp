@@ -88,8 +88,7 @@ TEST_F(ParenSuiteTest, EenTweedeExemplaarEindigtHetProgramma)
 {
     venster = std::make_unique<frmLedenAdmin>(administratie);
     bool eerste = true;
-    ASSERT_EQ(std::nullopt, venster->Laad({.mappenIni = suite.MappenIni(),
-                                           .eersteExemplaar = [&eerste] { return eerste; }}));
+    ASSERT_EQ(std::nullopt, venster->Laad(suite.MappenIni(), [&eerste] { return eerste; }));
     ASSERT_NO_FATAL_FAILURE(Toon());
     KiesGroep(6);
     MetParen([](QDialog& dialoog) {

@@ -224,8 +224,7 @@ TEST_F(WachtrijProef, OmgekeerdKomtHetLaatsteBladEerst)
 TEST_F(WachtrijProef, DrieBladenZoalsInHetVoorbeeld)
 {
     frmLedenAdmin venster(administratie);
-    ASSERT_EQ(std::nullopt, venster.Laad({.mappenIni = suite.MappenIni(),
-                                          .eersteExemplaar = [] { return true; }}));
+    ASSERT_EQ(std::nullopt, venster.Laad(suite.MappenIni(), [] { return true; }));
     venster.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&venster));
     // Gr01- has fifty players; with those of Gr02- they fill three pages.

@@ -32,8 +32,7 @@ class Rondgangproef : public testing::Test, protected Suitestand {
         ouder.show();
         frmLedenAdmin hoofdvenster(administratie, &ouder);
         hoofdvenster.move(ouder.pos());
-        ASSERT_EQ(std::nullopt, hoofdvenster.Laad({.mappenIni = suite.MappenIni(),
-                                                   .eersteExemplaar = [] { return true; }}));
+        ASSERT_EQ(std::nullopt, hoofdvenster.Laad(suite.MappenIni(), [] { return true; }));
         const auto bezoek = [&](QWidget& venster) {
             SCOPED_TRACE(venster.objectName().toStdString());
             venster.show();
