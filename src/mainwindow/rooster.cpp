@@ -42,7 +42,7 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
     BouwHeader();
     const int naast = maten.Twips(VrijNaastVlakTwips) - 2 * frameWidth();
     Bevat(P1, naast / 2, naast - naast / 2);
-    setMinimumHeight(qRound(OnderkantVan(KleinsteAantalRegels) * pixelsPerMm_) +
+    setMinimumHeight(qRound(BovenkantVan(KleinsteAantalRegels + 1) * pixelsPerMm_) +
                      Liggend().height());
     connect(&Liggend(), &QScrollBar::valueChanged, P2, [this](int links) { P2->move(-links, 0); });
 }
@@ -86,8 +86,12 @@ void Rooster::PlaatsKolommen()
         cmd[i]->setAccessibleName(naam.isEmpty() ? u"Kolom %1"_s.arg(i + 1) : naam);
         cmd[i]->setGeometry(links, 0, rechts - links, hoogte);
     }
-    P2->resize(P1->Vlakmaat().width(), hoogte);
-    StelSchuifbalkenIn();
+    const QSize vlak = P1->Vlakmaat();
+    P2->resize(vlak.width(), hoogte);
+    Stel(Liggend(), vlak.width(), P1->width(), P1->width(),
+         qRound(rooster::SmalsteKolom * pixelsPerMm_));
+    Stel(Staand(), vlak.height(), P1->height(), P1->height() - hoogte,
+         qRound(rooster::Regelhoogte * pixelsPerMm_));
     P1->PlaatsLijnen();
     P1->update();
 }
@@ -98,15 +102,6 @@ void Rooster::resizeEvent(QResizeEvent* gebeurtenis)
     P9->setGeometry(P1->x(), P1->y(), P1->width(), qRound(rooster::Bovenmarge * pixelsPerMm_));
     P9->raise();
     PlaatsKolommen();
-}
-
-void Rooster::StelSchuifbalkenIn()
-{
-    const QSize vlak = P1->Vlakmaat();
-    Stel(Liggend(), vlak.width(), P1->width(), P1->width(),
-         qRound(rooster::SmalsteKolom * pixelsPerMm_));
-    Stel(Staand(), vlak.height(), P1->height(), P1->height() - P9->height(),
-         qRound(rooster::Regelhoogte * pixelsPerMm_));
 }
 
 Roostervlak::Roostervlak(const Maten& maten, const Schuifkader& kader, QWidget* ouder)
@@ -173,7 +168,7 @@ void Roostervlak::VerbergLijnen()
 QSize Roostervlak::Vlakmaat() const
 {
     return {static_cast<int>(std::ceil(randen_.back() * pixelsPerMm_)) + 1,
-            static_cast<int>(std::ceil(Vlakhoogte(Regels()) * pixelsPerMm_)) + 1};
+            static_cast<int>(std::ceil(BovenkantVan(Regels() + 1) * pixelsPerMm_)) + 1};
 }
 
 void Roostervlak::paintEvent(QPaintEvent* gebeurtenis)
@@ -193,7 +188,7 @@ void Roostervlak::paintEvent(QPaintEvent* gebeurtenis)
 void Roostervlak::TekenRasters(QPainter& schilder, int eerste, int laatste) const
 {
     const double boven = Y(BovenkantVan(eerste));
-    const double onder = Y(OnderkantVan(laatste));
+    const double onder = Y(BovenkantVan(laatste + 1));
     schilder.fillRect(QRectF(QPointF(X(0), boven), QPointF(X(randen_[KolommenInBand]), onder)),
                       bandkleur);
     schilder.setPen(lijnkleur);
@@ -208,7 +203,7 @@ void Roostervlak::TekenRasters(QPainter& schilder, int eerste, int laatste) cons
 void Roostervlak::TekenTeksten(QPainter& schilder, int regel, double links, double rechts) const
 {
     const QFontMetricsF letter(font());
-    const double midden = (Y(BovenkantVan(regel)) + Y(OnderkantVan(regel))) / 2;
+    const double midden = (Y(BovenkantVan(regel)) + Y(BovenkantVan(regel + 1))) / 2;
     const double basislijn = midden + (letter.ascent() - letter.descent()) / 2;
     for (std::size_t i = 0; i < AantalKolommen; ++i) {
         const double begin = randen_[i];
@@ -250,7 +245,7 @@ void Roostervlak::PlaatsLijnen()
             lijn->setGeometry(qRound(X(0)), qRound(Y(y)) - Lijndikte / 2, breedte, Lijndikte);
         };
         plaats(Line1, BovenkantVan(Regel()));
-        plaats(Line2, OnderkantVan(Regel()));
+        plaats(Line2, BovenkantVan(Regel() + 1));
     }
     Line1->setVisible(tonen);
     Line2->setVisible(tonen);

@@ -99,7 +99,6 @@ class Rooster : public Schuifkader {
   private:
     void BouwHeader();
     void PlaatsKolommen();
-    void StelSchuifbalkenIn();
 
     double pixelsPerMm_;
     Roostervlak* P1;

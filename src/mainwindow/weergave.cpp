@@ -40,34 +40,12 @@ Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)
     return beeld;
 }
 
-double BovenkantVan(int regel)
-{
-    return (regel - 1) * rooster::Regelhoogte + rooster::Bovenmarge;
-}
-
-double OnderkantVan(int regel)
-{
-    return regel * rooster::Regelhoogte + rooster::Bovenmarge;
-}
-
-double Vlakhoogte(int regels)
-{
-    return OnderkantVan(regels);
-}
-
 Kolommaten MeetCellen(const Spelertabel& tabel, std::span<const int> rijen, const Tekstmeter& meter)
 {
-    const std::int64_t breedste =
-        *std::max_element(meter.opschuiving.begin(), meter.opschuiving.end());
     Kolommaten maten{};
     for (const int rij : rijen) {
-        for (std::size_t i = 0; i < maten.size(); ++i) {
-            const Tekstblik cel = tabel.Cel(rij, static_cast<Kolom>(i + 1));
-            // A text that could not be wider than the widest so far, even of the widest characters,
-            // need not be looked at: in a large group that is most of them.
-            if (static_cast<std::int64_t>(cel.size()) * breedste > maten[i])
-                maten[i] = std::max(maten[i], meter.Breedte(cel));
-        }
+        for (std::size_t i = 0; i < maten.size(); ++i)
+            maten[i] = std::max(maten[i], meter.Breedte(tabel.Cel(rij, static_cast<Kolom>(i + 1))));
     }
     return maten;
 }

@@ -41,10 +41,11 @@ inline constexpr double Speling = 0.6;    ///< kept free in a cell besides its p
 inline constexpr double SmalsteKolom = 10.0;
 } // namespace rooster
 
-[[nodiscard]] double BovenkantVan(int regel);
-[[nodiscard]] double OnderkantVan(int regel);
-/// Height of the surface that holds `regels` lines.
-[[nodiscard]] double Vlakhoogte(int regels);
+/// A line ends where the next one begins, the surface below its last line.
+[[nodiscard]] constexpr double BovenkantVan(int regel)
+{
+    return (regel - 1) * rooster::Regelhoogte + rooster::Bovenmarge;
+}
 
 /// Widest text of each column over the rows shown, in micrometres; element 0 is column 1.
 using Kolommaten = std::array<std::int64_t, AantalKolommen>;
