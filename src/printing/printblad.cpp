@@ -8,44 +8,18 @@ float Tekstbreedte(const Lettermeter& meter, const Letter& letter, Tekstblik tek
     return static_cast<float>(meter.Breedte(letter, tekst));
 }
 
-double BreedsteTeken(const Lettermeter& meter, const Letter& letter)
-{
-    double breedste = 0;
-    for (int code = 0; code < 256; ++code) {
-        const char teken = static_cast<char>(code);
-        breedste = std::max(breedste, meter.Breedte(letter, Tekstblik(&teken, 1)));
-    }
-    return breedste;
-}
-
-/// The text widths of all columns. A text that could not be wider than the widest so far, even of
-/// the widest characters, need not be measured: in a long list that is most of them. Row by row,
-/// since the cells of a player stand together in memory and sorted players do not.
-std::vector<float> Tekstbreedten(const Printtabel& tabel, const Schaalmaten& maten,
-                                 const Lettermeter& meter)
-{
-    std::vector<float> breedsten;
-    for (int kolom = 0; kolom <= tabel.Kolommen(); ++kolom)
-        breedsten.push_back(Tekstbreedte(meter, maten.Vet(), tabel.Titel(kolom)));
-    const Letter letter = maten.Gewoon();
-    const double breedsteTeken = BreedsteTeken(meter, letter);
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        for (int kolom = 1; kolom <= tabel.Kolommen(); ++kolom) {
-            const Tekstblik cel = tabel.Cel(rij, kolom);
-            float& breedste = breedsten[static_cast<std::size_t>(kolom)];
-            if (static_cast<double>(cel.size()) * breedsteTeken > static_cast<double>(breedste))
-                breedste = std::max(breedste, Tekstbreedte(meter, letter, cel));
-        }
-    }
-    return breedsten;
-}
-
+/// A column is as wide as its widest text, its title in bold among them.
 std::vector<float> Kolombegin(const Printtabel& tabel, const Schaalmaten& maten,
                               const Lettermeter& meter)
 {
     std::vector<float> begin{0};
-    for (const float breedte : Tekstbreedten(tabel, maten, meter))
-        begin.push_back(begin.back() + (maten.celmarge + maten.celmarge + breedte));
+    for (int kolom = 0; kolom <= tabel.Kolommen(); ++kolom) {
+        float breedste = Tekstbreedte(meter, maten.Vet(), tabel.Titel(kolom));
+        for (int rij = 1; kolom > 0 && rij <= tabel.Rijen(); ++rij)
+            breedste =
+                std::max(breedste, Tekstbreedte(meter, maten.Gewoon(), tabel.Cel(rij, kolom)));
+        begin.push_back(begin.back() + (maten.celmarge + maten.celmarge + breedste));
+    }
     return begin;
 }
 
@@ -71,24 +45,13 @@ float Linkerkant(const Papier& papier, float breed)
 
 } // namespace
 
-Schaalmaten::Schaalmaten(float welke)
-    : schaal(welke), punten(schaal * 10), titelpunten(schaal * 14), celmarge(schaal * 0.8F),
-      kophoogte(schaal * 15), titelhoogte(schaal * 4.5F), rijhoogte(schaal * 4.5F)
-{}
-
-Papier::Papier(Papierstand welke)
-    : stand(welke), breed(welke == Papierstand::Staand ? A4Kort : A4Lang),
-      hoog(welke == Papierstand::Staand ? A4Lang : A4Kort), zijmarge(15),
-      bovenmarge(welke == Papierstand::Staand ? 15.0F : 10.0F)
-{}
-
 /// The orientation is decided by the whole sheet, as the margins do not count yet at that point. So
 /// a list may be wider than what lies between them.
 Bladindeling BerekenKolommen(const Printtabel& tabel, float schaal, const Lettermeter& meter)
 {
-    const Schaalmaten maten(schaal);
+    const Schaalmaten maten{schaal};
     std::vector<float> begin = Kolombegin(tabel, maten, meter);
-    const Papier papier(begin.back() <= A4Kort ? Papierstand::Staand : Papierstand::Liggend);
+    const Papier papier{begin.back() <= A4Kort ? Papierstand::Staand : Papierstand::Liggend};
     const int kolommen = PassendeKolommen(begin, papier.breed);
     const float getekend = begin[static_cast<std::size_t>(kolommen)];
     const float links = Linkerkant(papier, getekend);

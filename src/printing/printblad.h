@@ -17,15 +17,13 @@ inline constexpr float A4Lang = 297;
 
 /// What the scale alone decides.
 struct Schaalmaten {
-    explicit Schaalmaten(float welke);
-
     float schaal;
-    float punten;      ///< size of the letters
-    float titelpunten; ///< of the title of the list
-    float celmarge;    ///< white on either side of a text in its column
-    float kophoogte;   ///< H, of the block above the titles of the columns
-    float titelhoogte; ///< T, of the row with those titles
-    float rijhoogte;   ///< h
+    float punten = schaal * 10;        ///< size of the letters
+    float titelpunten = schaal * 14;   ///< of the title of the list
+    float celmarge = schaal * 0.8F;    ///< white on either side of a text in its column
+    float kophoogte = schaal * 15;     ///< H, of the block above the titles of the columns
+    float titelhoogte = schaal * 4.5F; ///< T, of the row with those titles
+    float rijhoogte = schaal * 4.5F;   ///< h
 
     [[nodiscard]] Letter Gewoon() const { return {.punten = static_cast<double>(punten)}; }
     [[nodiscard]] Letter Vet() const
@@ -36,13 +34,11 @@ struct Schaalmaten {
 
 /// Sheet and margins of an orientation.
 struct Papier {
-    explicit Papier(Papierstand stand);
-
     Papierstand stand;
-    float breed;
-    float hoog;
-    float zijmarge;
-    float bovenmarge; ///< and at the bottom
+    float breed = stand == Papierstand::Staand ? A4Kort : A4Lang;
+    float hoog = stand == Papierstand::Staand ? A4Lang : A4Kort;
+    float zijmarge = 15;
+    float bovenmarge = stand == Papierstand::Staand ? 15.0F : 10.0F; ///< and at the bottom
 };
 
 struct Bladindeling {

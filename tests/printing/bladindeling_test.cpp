@@ -48,7 +48,7 @@ Bladindeling MetPrintbreedte(double breedte, float schaal = 1)
 TEST(Schaalmaten, AllesGroeitMetDeSchaal)
 {
     for (const float schaal : {1.0F, 0.8F}) {
-        const Schaalmaten maten(schaal);
+        const Schaalmaten maten{schaal};
         EXPECT_EQ(schaal, maten.schaal);
         EXPECT_EQ(schaal * 10, maten.punten);
         EXPECT_EQ(schaal * 14, maten.titelpunten);
@@ -63,7 +63,7 @@ TEST(Papier, MatenEnMargesPerStand)
 {
     for (const auto& [stand, breed, hoog, bovenmarge] :
          {std::tuple(Papierstand::Staand, 210, 297, 15), {Papierstand::Liggend, 297, 210, 10}}) {
-        const Papier papier(stand);
+        const Papier papier{stand};
         EXPECT_EQ(breed, papier.breed);
         EXPECT_EQ(hoog, papier.hoog);
         EXPECT_EQ(15, papier.zijmarge);
