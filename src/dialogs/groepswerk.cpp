@@ -85,7 +85,7 @@ bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
         const Tekst nieuweKey = std::to_string(NieuweSleutel(spelers).value());
         anders.front().tekst = nieuweKey;
         if (bron == 0)
-            spelers.tabel.VoegRijToe({"", nieuweKey, opdracht.naarGroep});
+            spelers.tabel.VoegToe({"", nieuweKey, opdracht.naarGroep});
         else
             spelers.tabel.VoegKopieToe(bron, anders);
     }

@@ -143,7 +143,7 @@ class Samenvoeger {
             cellen[Index(kolom)] = ZonderSpaties(velden[veld]);
         cellen[Index(Kolom::NBBgr)] = NBBgr_;
         cellen[Index(Kolom::NBBnr)] = Nummer(velden);
-        spelers_.tabel.VoegRijToe(cellen);
+        spelers_.tabel.VoegToe(cellen);
     }
 
     Register& spelers_;

@@ -1,11 +1,4 @@
-// The 50 fixed groups and the names that the user gave them, "RVDGroepen.txt":
-//
-//     Gr01-<name> CR LF
-//     ...
-//     Gr50-<name> CR LF
-//
-// A name is known by its place: the n-th item that begins with "Gr" is the n-th group, whatever
-// number stands in it. An item ends at a comma or a line end; other items are passed over.
+// The 50 fixed groups and the names that the user gave them, "RVDGroepen.txt" (docs/bestanden.md).
 // "Gr", two digits and "-" are the code of a group.
 #pragma once
 

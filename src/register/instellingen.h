@@ -1,9 +1,4 @@
-// The program's own settings, "Plexo.ini":
-//
-//     OPTIND=<number> CR LF
-//     LOSTGR=<number> CR LF
-//
-// It is read item by item (an item ends at a comma or a line end) and always written whole.
+// The program's own settings, "Plexo.ini" (docs/bestanden.md).
 #pragma once
 
 #include "register/mappen.h"

@@ -1,8 +1,5 @@
-// The suite's folder configuration, "Mappen.ini": read once at start, never written.
-//
-// One setting a line, key and value joined by "=": `SPEMAP=C:\RVD\Spelers`. A key is known by the
-// start of its line, in capitals or not; the value is all that follows the first "=", as it stands.
-// Lines of another kind are passed over; when a key occurs twice, the last line holds.
+// The suite's folder configuration, "Mappen.ini" (docs/bestanden.md): read once at start, never
+// written.
 #pragma once
 
 #include "platform/schijf/schijf.h"

@@ -1,7 +1,5 @@
-// Copies of files that a save is about to replace although not everything in them was understood.
-//
-// They stand in the folder "Reservekopie" in the players folder, named after the file with date and
-// time: "RVDspelers 2026-03-01 142355.txt". A copy never replaces another.
+// Copies of files that a save is about to replace although not everything in them was understood,
+// in the folder "Reservekopie" (docs/bestanden.md). A copy never replaces another.
 #pragma once
 
 #include <functional>

@@ -1,11 +1,5 @@
-// The player file, "RVDspelers.txt", the register that all programs of the suite share:
-//
-//     HKEY=<highest key ever issued> CR LF
-//     <Nr>,<Key>,<Groep>,<Voornaam>,...,<NBBgr>,<NBBnr> CR LF        one line a player, 18 fields
-//
-// Single bytes in Windows-1252, no quoting, so no field can hold a comma. It is always written
-// whole. Reading skips blank lines, takes the key line wherever it stands, and leaves out players
-// without a surname.
+// The player file, "RVDspelers.txt" (docs/bestanden.md): the register that all programs of the
+// suite share.
 #pragma once
 
 #include <optional>

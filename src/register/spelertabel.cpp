@@ -21,22 +21,6 @@ void Spelertabel::VoegCellenAan(Tekst& uit, int rij) const
     uit += Bytes(grenzen[3], grenzen[AantalKolommen]);
 }
 
-template <class Rij> Spelertabel::Celgrenzen Spelertabel::Schrijf(const Rij& velden)
-{
-    constexpr std::size_t gewoonlijk = 256;
-    Tekst regel; // on its own first, since the texts may be views into this table
-    regel.reserve(gewoonlijk);
-    Celgrenzen grenzen{};
-    for (std::size_t i = 0; i < velden.size(); ++i) {
-        grenzen[i] = static_cast<std::uint32_t>(tekst_.size() + regel.size());
-        VoegVeldToe(regel, velden[i]);
-        regel += ',';
-    }
-    tekst_ += regel;
-    grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());
-    return grenzen;
-}
-
 /// What stands unchanged between two changed cells is taken over in one piece.
 Spelertabel::Celgrenzen Spelertabel::SchrijfKopie(int rij, std::span<const Celtekst> anders)
 {
@@ -88,16 +72,6 @@ void Spelertabel::ZetCel(int rij, Kolom kolom, Tekstblik tekst)
 void Spelertabel::ZetCellen(int rij, std::span<const Celtekst> anders)
 {
     Grenzen(rij) = SchrijfKopie(rij, anders);
-}
-
-void Spelertabel::VoegToe(const Rijvelden& velden)
-{
-    rijen_.push_back(Schrijf(velden));
-}
-
-void Spelertabel::VoegRijToe(const Rijblikken& velden)
-{
-    rijen_.push_back(Schrijf(velden));
 }
 
 void Spelertabel::VoegKopieToe(int rij, std::span<const Celtekst> anders)

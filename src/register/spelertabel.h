@@ -54,7 +54,6 @@ struct Celtekst {
 
 /// The 18 texts of a row; element 0 is column 1.
 using Rijvelden = std::array<Tekst, AantalKolommen>;
-/// The same, kept elsewhere, be it in the table itself.
 using Rijblikken = std::array<Tekstblik, AantalKolommen>;
 
 [[nodiscard]] constexpr std::size_t Index(Kolom kolom)
@@ -96,8 +95,11 @@ class Spelertabel {
     void ZetRij(int rij, const Rijvelden& velden);
     void ZetCel(int rij, Kolom kolom, Tekstblik tekst);
     void ZetCellen(int rij, std::span<const Celtekst> anders);
-    void VoegToe(const Rijvelden& velden);
-    void VoegRijToe(const Rijblikken& velden);
+    /// Of texts that are its own or, as `Rijblikken`, kept elsewhere, be it in the table itself.
+    template <class Rij = Rijvelden> void VoegToe(const Rij& velden)
+    {
+        rijen_.push_back(Schrijf(velden));
+    }
     /// Adds a row that is another one with some of its cells changed.
     void VoegKopieToe(int rij, std::span<const Celtekst> anders);
 
@@ -123,7 +125,21 @@ class Spelertabel {
         return {tekst_.data() + van, tot - van - std::size_t{1}};
     }
     /// Behind the text; the row's own bounds are not touched.
-    template <class Rij> Celgrenzen Schrijf(const Rij& velden);
+    template <class Rij> Celgrenzen Schrijf(const Rij& velden)
+    {
+        constexpr std::size_t gewoonlijk = 256;
+        Tekst regel; // on its own first, since the texts may be views into this table
+        regel.reserve(gewoonlijk);
+        Celgrenzen grenzen{};
+        for (std::size_t i = 0; i < velden.size(); ++i) {
+            grenzen[i] = static_cast<std::uint32_t>(tekst_.size() + regel.size());
+            VoegVeldToe(regel, velden[i]);
+            regel += ',';
+        }
+        tekst_ += regel;
+        grenzen[AantalKolommen] = static_cast<std::uint32_t>(tekst_.size());
+        return grenzen;
+    }
     /// The same of a row with some cells changed, these in column order.
     Celgrenzen SchrijfKopie(int rij, std::span<const Celtekst> anders);
 
