@@ -59,7 +59,8 @@ struct Proef {
     [[nodiscard]] const Spelertabel& Tabel() const { return administratie.spelers.tabel; }
     [[nodiscard]] Paartekens Lees()
     {
-        return LeesParenbestand(schijf, administratie.mappen, Groep).value_or(Parenlezing()).paren;
+        return PaartekensUit(
+            LeesParenbestand(schijf, administratie.mappen, Groep).value().value_or(Tekst()));
     }
 
     EchteSchijf schijf;

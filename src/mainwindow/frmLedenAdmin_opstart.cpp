@@ -7,7 +7,6 @@
 #include "federation/zoekrekenprogramma.h"
 #include "mainwindow/frmLedenAdmin_opslag.h"
 #include "pairs/parenbestand.h"
-#include "pairs/parencsv.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
 #include "platform/schijf/heelschrijven.h"

@@ -57,13 +57,12 @@ void frmParenOnderhoud::LaadSubgroep()
         return;
     keuze_ = keuzes_[static_cast<std::size_t>(keuze)];
     const auto lezing = LeesParenbestand(administratie_.schijf, administratie_.mappen, keuze_);
-    const Parenlezing gelezen = lezing.value_or(Parenlezing());
-    gelezen_ = gelezen.bestandstekst;
-    const Tekst losse =
-        paren_.LaadSubgroep(administratie_.spelers.tabel, code_, keuze_, gelezen.paren);
+    gelezen_ = lezing.value_or(std::nullopt);
+    const Paartekens paren = PaartekensUit(gelezen_.value_or(Tekst()));
+    const Tekst losse = paren_.LaadSubgroep(administratie_.spelers.tabel, code_, keuze_, paren);
     VulParenlijst(Regellijst::Plek::Begin);
     Label8->clear();
-    if (!gelezen.paren.empty())
+    if (!paren.empty())
         ToonAantalParen();
     VulSpelerslijsten(Regellijst::Plek::Begin);
     if (!lezing)

@@ -9,7 +9,6 @@
 #include <QPushButton>
 
 #include "pairs/paren.h"
-#include "pairs/parencsv.h"
 #include "platform/scherm/maten.h"
 #include "platform/scherm/regellijst.h"
 #include "register/administratie.h"

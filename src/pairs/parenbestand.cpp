@@ -1,9 +1,11 @@
 #include "pairs/parenbestand.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "pairs/paarregel.h"
+#include "platform/schijf/heelschrijven.h"
 #include "platform/tekst/regels.h"
 #include "register/reservekopie.h"
 
@@ -13,19 +15,18 @@ namespace {
 constexpr std::size_t Tekenlengte = 13;
 constexpr std::size_t Streep = 6; // where it stands in a token
 
-/// Calls `stuk` with every piece between the "#" of the last line.
-template <class Stuk> void LoopDoorStukken(Tekstblik inhoud, const Stuk& stuk)
+/// The pieces between the "#" of the last line.
+std::vector<Tekstblik> Stukken(Tekstblik inhoud)
 {
-    Tekstblik laatste;
-    for (const Tekstblik regel : Regels(inhoud))
-        laatste = regel;
-    for (;;) {
-        const auto hekje = laatste.find('#');
-        stuk(laatste.substr(0, hekje));
-        if (hekje == Tekstblik::npos)
-            return;
-        laatste.remove_prefix(hekje + 1);
+    const auto regels = Regels(inhoud);
+    Tekstblik rest = regels.empty() ? Tekstblik() : regels.back();
+    std::vector<Tekstblik> stukken;
+    for (auto hekje = rest.find('#'); hekje != Tekstblik::npos; hekje = rest.find('#')) {
+        stukken.push_back(rest.substr(0, hekje));
+        rest.remove_prefix(hekje + 1);
     }
+    stukken.push_back(rest);
+    return stukken;
 }
 
 Tekst Paarteken(Tekstblik key1, Tekstblik key2)
@@ -63,34 +64,27 @@ std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze)
 Paartekens PaartekensUit(Tekstblik inhoud)
 {
     Paartekens paren;
-    LoopDoorStukken(inhoud, [&](Tekstblik stuk) {
+    for (const Tekstblik stuk : Stukken(inhoud)) {
         if (stuk.size() == Tekenlengte)
             paren.emplace_back(stuk);
-    });
+    }
     return paren;
 }
 
 bool IsParenbestand(Tekstblik inhoud)
 {
-    const auto regels = Regels(inhoud);
-    auto tweede = regels.begin();
-    bool alleenParen = tweede == regels.end() || ++tweede == regels.end();
-    LoopDoorStukken(inhoud, [&](Tekstblik stuk) {
-        const bool paar = stuk.size() == Tekenlengte && stuk[Streep] == '-';
-        alleenParen = alleenParen && (stuk.empty() || paar);
-    });
-    return alleenParen;
+    const auto stukken = Stukken(inhoud);
+    return Regels(inhoud).size() <= 1 &&
+           std::all_of(stukken.begin(), stukken.end(), [](Tekstblik stuk) {
+               return stuk.empty() || (stuk.size() == Tekenlengte && stuk[Streep] == '-');
+           });
 }
 
-Uitkomst<Parenlezing> LeesParenbestand(Schijf& schijf, const Mappen& mappen, Tekstblik keuze)
+Uitkomst<std::optional<Tekst>> LeesParenbestand(Schijf& schijf, const Mappen& mappen,
+                                                Tekstblik keuze)
 {
     const auto pad = Parenbestand(mappen, keuze);
-    if (!pad)
-        return Parenlezing();
-    return LeesAlsErIs(schijf, *pad).map([](std::optional<Tekst> inhoud) {
-        Paartekens paren = inhoud ? PaartekensUit(*inhoud) : Paartekens();
-        return Parenlezing{std::move(paren), std::move(inhoud)};
-    });
+    return pad ? LeesAlsErIs(schijf, *pad) : std::nullopt;
 }
 
 std::optional<Tekst> ParenTekst(std::span<const Tekst> regels)
@@ -136,6 +130,58 @@ Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen, Tek
             paren.push_back(Paarteken(Eerste6(paar), Laatste6(paar)));
     }
     return paren;
+}
+
+Tekst ParenCSVTekst(std::span<const Tekst> regels, const Spelertabel& tabel, ParenCSV soort)
+{
+    std::unordered_map<std::int32_t, int> rijen; // by the number of the key
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (const auto getal = Geheel32(tabel.Cel(rij, Kolom::Key)))
+            rijen.try_emplace(*getal, rij);
+    }
+    const auto naam = [&](Tekstblik key) {
+        const auto getal = AlsGetal(key, 1) ? Geheel32(key) : std::nullopt;
+        const auto rij = getal ? rijen.find(*getal) : rijen.end();
+        if (rij == rijen.end())
+            return Tekst(key);
+        Tekst uit(tabel.Cel(rij->second, Kolom::Voornaam));
+        if (!tabel.Cel(rij->second, Kolom::Tusv).empty())
+            uit.append(" ").append(tabel.Cel(rij->second, Kolom::Tusv));
+        return uit.append(" ").append(tabel.Cel(rij->second, Kolom::Achternaam));
+    };
+    Tekst tekst;
+    for (std::size_t i = 0; i < regels.size(); ++i) {
+        const Tekstblik regel = regels[i];
+        const auto plus = Plusplek(regel);
+        if (plus == Tekstblik::npos)
+            continue;
+        tekst += std::to_string(i + 1) + ";" + naam(ZonderSpaties(Eerste6(regel)));
+        tekst += soort == ParenCSV::EenKolom ? " - " : ";";
+        tekst += naam(ZonderSpaties(Eerste6(regel.substr(plus + 1)))) + "\r\n";
+    }
+    return tekst;
+}
+
+Tekst ParenCSVNaam(ParenCSV soort)
+{
+    return soort == ParenCSV::EenKolom ? "RVDparenCSV1.csv" : "RVDparenCSV2.csv";
+}
+
+Pad ParenCSVMap(const Mappen& mappen)
+{
+    return Samen(mappen.RVDMAP, "DiverseUitvoer");
+}
+
+Uitkomst<void> SchrijfParenCSV(Schijf& schijf, const Mappen& mappen, std::span<const Tekst> regels,
+                               const Spelertabel& tabel, ParenCSV soort)
+{
+    const Pad map = ParenCSVMap(mappen);
+    if (mappen.RVDMAP.empty())
+        return Mislukt({.soort = Foutsoort::Ontbreekt});
+    return schijf.MaakMap(map).and_then([&] {
+        return SchrijfHeel(schijf, Samen(map, ParenCSVNaam(soort)),
+                           ParenCSVTekst(regels, tabel, soort));
+    });
 }
 
 } // namespace plexoran

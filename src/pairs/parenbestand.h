@@ -1,5 +1,6 @@
-// Pair files, one per group-subgroup, and the suite-wide "RVDparen.txt" (docs/bestanden.md). A
-// token is a pair in them: thirteen characters, a key, "-" and a key.
+// The files with pairs (docs/bestanden.md): one per group-subgroup, the suite-wide "RVDparen.txt",
+// and those for a spreadsheet. A token is a pair in the former: thirteen characters, a key, "-" and
+// a key.
 #pragma once
 
 #include <optional>
@@ -26,14 +27,9 @@ using Paartekens = std::vector<Tekst>;
 /// nothing.
 [[nodiscard]] bool IsParenbestand(Tekstblik inhoud);
 
-struct Parenlezing {
-    Paartekens paren;
-    std::optional<Tekst> bestandstekst; ///< none when there is no file
-};
-
-/// A missing file gives no pairs, and is no error.
-[[nodiscard]] Uitkomst<Parenlezing> LeesParenbestand(Schijf& schijf, const Mappen& mappen,
-                                                     Tekstblik keuze);
+/// The text of the pair file; nothing when there is none, which is no error.
+[[nodiscard]] Uitkomst<std::optional<Tekst>> LeesParenbestand(Schijf& schijf, const Mappen& mappen,
+                                                              Tekstblik keuze);
 
 /// The content of a pair file, from the lines of the pairs list. Nothing when a line has no "+".
 [[nodiscard]] std::optional<Tekst> ParenTekst(std::span<const Tekst> regels);
@@ -50,5 +46,21 @@ struct Parenlezing {
 [[nodiscard]] Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen,
                                                      Tekstblik groepscode, Tekstblik subgroep,
                                                      const Spelertabel& tabel);
+
+enum class ParenCSV { EenKolom = 1, TweeKolommen = 2 };
+
+/// The content. A line without a "+" is left out, and its number with it. Players are found by the
+/// number that their key is, the first row wins; one who is not found is written as the key.
+[[nodiscard]] Tekst ParenCSVTekst(std::span<const Tekst> regels, const Spelertabel& tabel,
+                                  ParenCSV soort);
+
+[[nodiscard]] Tekst ParenCSVNaam(ParenCSV soort);
+/// The folder, which is made when it is missing. An error when the suite has no root folder.
+[[nodiscard]] Pad ParenCSVMap(const Mappen& mappen);
+
+/// Writes the file whole.
+[[nodiscard]] Uitkomst<void> SchrijfParenCSV(Schijf& schijf, const Mappen& mappen,
+                                             std::span<const Tekst> regels,
+                                             const Spelertabel& tabel, ParenCSV soort);
 
 } // namespace plexoran

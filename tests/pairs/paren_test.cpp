@@ -40,6 +40,47 @@ struct ParenTest : testing::Test {
 
 } // namespace
 
+// ---- Lines -------------------------------------------------------------------------------------
+
+TEST(Paarregel, DeRegelsVanEenSpeler)
+{
+    const auto tabel = MaakTabel({{"100003", "Gr03-", "Cor", "van der", "Dam", "", ""},
+                                  {"100001", "Gr03-", "An", "", "Bos", "", ""},
+                                  {"100001", "Gr03-", "", "", "Bos", "", ""}});
+    const Teksten regels{"Dam Cor van der   100003", "Bos An    100001", "Bos     100001"};
+    const Teksten keuzes{"100003 Dam Cor van der", "100001 Bos An", "100001 Bos"};
+    for (std::size_t i = 0; i < regels.size(); ++i) {
+        EXPECT_EQ(regels[i], Spelerregel(tabel, static_cast<int>(i) + 1));
+        EXPECT_EQ(keuzes[i], Keuzeregel(regels[i]));
+    }
+}
+
+/// Blanks around the parts do not count, and a "+" in a name does not tear the pair apart.
+TEST(Paarregel, DeSpelersVanEenPaar)
+{
+    EXPECT_EQ("100234 Faiskuza Bo de          +100417 Beiglim",
+              Paarregel("100234 Faiskuza Bo de", "100417 Beiglim"));
+    const std::vector<std::pair<Tekst, Teksten>> paren{
+        {"100234 Faiskuza Bo de          +100417 Beiglim",
+         {"100234", "Faiskuza Bo de", "100417", "Beiglim"}},
+        {"  100234   Faiskuza + 100417 Beiglim  ", {"100234", "Faiskuza", "100417", "Beiglim"}},
+        {Paarregel("100234 Bos+Co An", "100417 Dam+Zn"),
+         {"100234", "Bos+Co An", "100417", "Dam+Zn"}},
+        {"100234 F+100417 B+c", {"100234", "F", "100417", "B+c"}},
+        {"100234 F+", {"100234", "F", "", ""}},
+        {"+", {"", "", "", ""}}};
+    for (const auto& [regel, delen] : paren) {
+        const Paarspeler links = LinkerSpeler(regel);
+        const Paarspeler rechts = RechterSpeler(regel);
+        EXPECT_EQ(delen, (Teksten{Tekst(links.key), Tekst(links.naam), Tekst(rechts.key),
+                                  Tekst(rechts.naam)}))
+            << regel;
+    }
+    EXPECT_EQ("Faiskuza Bo de   100234", LinkerSpeler(paren.front().first).AlsSpelerregel());
+    EXPECT_EQ(8U, Plusplek("100234 F+100417 B+c"));
+    EXPECT_EQ(Tekst::npos, Plusplek("100234 F - 100417 B"));
+}
+
 // ---- Group-subgroups ---------------------------------------------------------------------------
 
 /// Told apart by their characters, capitals included, in table order.

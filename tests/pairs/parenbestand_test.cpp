@@ -13,19 +13,21 @@ namespace {
 const Pad gr03 = "C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt";
 const Pad rvdparen = "C:\\club\\Spelers\\RVDparen.txt";
 
-Mappen Proefmappen()
-{
-    Mappen mappen;
-    mappen.SPEMAP = "C:\\club\\Spelers";
-    return mappen;
-}
-
 struct ParenbestandTest : testing::Test {
-    ParenbestandTest() { schijf.ZetMap("C:\\club\\Spelers\\Parenmap"); }
+    ParenbestandTest()
+    {
+        schijf.ZetMap("C:\\club\\Spelers\\Parenmap");
+        mappen.RVDMAP = "C:\\club";
+        mappen.SPEMAP = "C:\\club\\Spelers";
+    }
 
-    [[nodiscard]] Parenlezing Lees(Tekstblik keuze = "Gr03-Dinsdag")
+    [[nodiscard]] std::optional<Tekst> Lees(Tekstblik keuze = "Gr03-Dinsdag")
     {
         return LeesParenbestand(schijf, mappen, keuze).value();
+    }
+    [[nodiscard]] Paartekens Tekens(Tekstblik keuze = "Gr03-Dinsdag")
+    {
+        return PaartekensUit(Lees(keuze).value());
     }
     [[nodiscard]] Uitkomst<void> Bewaar(const std::vector<Tekst>& regels,
                                         const std::optional<Tekst>& gelezen = std::nullopt)
@@ -43,7 +45,7 @@ struct ParenbestandTest : testing::Test {
     }
 
     GeheugenSchijf schijf;
-    Mappen mappen = Proefmappen();
+    Mappen mappen;
 };
 
 const Tekst eenPaar = "100234 Faiskuza          +100417 Beiglim";
@@ -66,25 +68,24 @@ TEST_F(ParenbestandTest, DePaartekensVanDeLaatsteRegel)
          {"100234-100417", "100301-100222"}}};
     for (const auto& [inhoud, paren] : bestanden) {
         schijf.Zet(gr03, inhoud);
-        EXPECT_EQ(paren, Lees().paren) << inhoud;
+        EXPECT_EQ(paren, Tekens()) << inhoud;
     }
 }
 
 TEST_F(ParenbestandTest, EenOntbrekendOfLeegBestandHeeftGeenParen)
 {
-    EXPECT_EQ(Paartekens(), Lees().paren);
-    EXPECT_EQ(std::nullopt, Lees().bestandstekst);
+    EXPECT_EQ(std::nullopt, Lees());
     schijf.Zet(gr03, "");
-    EXPECT_EQ(Paartekens(), Lees().paren);
-    EXPECT_EQ(Tekst(), Lees().bestandstekst);
+    EXPECT_EQ("", Lees());
+    EXPECT_EQ(Paartekens(), Tekens());
 }
 
 TEST_F(ParenbestandTest, DeGroepZonderSubgroepHeeftEenBestandMetAlleenDeCode)
 {
     schijf.Zet("C:\\club\\Spelers\\Parenmap\\Gr07-.txt", "100234-100417#\r\n");
-    EXPECT_EQ(Paartekens{"100234-100417"}, Lees("Gr07-").paren);
+    EXPECT_EQ(Paartekens{"100234-100417"}, Tekens("Gr07-"));
     ASSERT_TRUE(BewaarParen(schijf, mappen, "Gr07-", std::vector<Tekst>{eenPaar, eenPaar},
-                            Lees("Gr07-").bestandstekst));
+                            Lees("Gr07-")));
     EXPECT_EQ("100234-100417#100234-100417#\r\n",
               schijf.Inhoud("C:\\club\\Spelers\\Parenmap\\Gr07-.txt"));
 }
@@ -114,7 +115,7 @@ TEST_F(ParenbestandTest, ZoNaamHeeftGeenParenEnWordtNietBewaard)
 {
     schijf.ZetMap("C:\\club\\Spelers\\Parenmap\\Gr03-A");
     schijf.Zet("C:\\club\\Spelers\\Parenmap\\Gr03-A\\B.txt", "100234-100417#\r\n");
-    EXPECT_EQ(Paartekens(), Lees("Gr03-A\\B").paren);
+    EXPECT_EQ(std::nullopt, Lees("Gr03-A\\B"));
     const auto bewaard =
         BewaarParen(schijf, mappen, "Gr03-A\\B", std::vector<Tekst>{eenPaar}, std::nullopt);
     ASSERT_FALSE(bewaard);
@@ -155,14 +156,14 @@ TEST_F(ParenbestandTest, WatBewaardIsKomtTerug)
 {
     schijf.Zet(gr03, "1002341004170#100301-100222#\r\n");
     ASSERT_TRUE(Bewaar({"100234 A          +004170 B", "100301 C          +100222 D"},
-                       Lees().bestandstekst));
-    EXPECT_EQ((Paartekens{"100234-004170", "100301-100222"}), Lees().paren);
+                       Lees()));
+    EXPECT_EQ((Paartekens{"100234-004170", "100301-100222"}), Tekens());
 }
 
 TEST_F(ParenbestandTest, EenGewoonBestandWordtZonderKopieVervangen)
 {
     schijf.Zet(gr03, "100301-100222#100234-100417#\r\n");
-    ASSERT_TRUE(Bewaar({eenPaar}, Lees().bestandstekst));
+    ASSERT_TRUE(Bewaar({eenPaar}, Lees()));
     EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(gr03));
     EXPECT_EQ(std::vector<Tekst>(), Kopieen());
 }
@@ -171,22 +172,18 @@ TEST_F(ParenbestandTest, WatNietGelezenIsKomtInEenKopie)
 {
     for (const char* oud : {"100301-100222#\r\n100234-100417#\r\n", "100301-100222#kapot#\r\n",
                             "1003011002220#\r\n", "iets anders"}) {
+        const auto voor = Kopieen().size();
         schijf.Zet(gr03, oud);
-        ASSERT_TRUE(Bewaar({eenPaar}, Lees().bestandstekst));
-        ASSERT_FALSE(Kopieen().empty()) << oud;
-        EXPECT_EQ(oud, Kopieen().back());
-        for (const Pad& pad : schijf.AlleBestanden()) {
-            if (pad.find("Reservekopie") != Pad::npos) {
-                ASSERT_TRUE(schijf.Verwijder(pad));
-            }
-        }
+        ASSERT_TRUE(Bewaar({eenPaar}, Lees()));
+        ASSERT_EQ(voor + 1, Kopieen().size()) << oud;
+        EXPECT_EQ(1, std::ranges::count(Kopieen(), oud)) << oud;
     }
 }
 
 TEST_F(ParenbestandTest, EenBestandDatIntussenVeranderdeKomtInEenKopie)
 {
     schijf.Zet(gr03, "100301-100222#\r\n");
-    const auto gelezen = Lees().bestandstekst;
+    const auto gelezen = Lees();
     schijf.Zet(gr03, "100500-100501#\r\n");
     ASSERT_TRUE(Bewaar({eenPaar}, gelezen));
     EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(gr03));
@@ -244,24 +241,16 @@ TEST_F(RVDparenTest, DeParenVanEenGroepEnSubgroep)
     EXPECT_EQ(Paartekens(), Importeer("Woensdag"));
 }
 
-TEST_F(RVDparenTest, DeVolgordeBlijftEnHetMiddenteken)
-{
-    schijf.Zet(rvdparen, "100417x100234#100417-100301#\r\n");
-    EXPECT_EQ((Paartekens{"100417-100234", "100417-100301"}), Importeer("Dinsdag"));
-}
-
-/// The key must be the whole text of the column.
-TEST_F(RVDparenTest, DeSleutelMoetPreciesKloppen)
-{
-    schijf.Zet(rvdparen, "010023-100417#100234-100234#\r\n");
-    EXPECT_EQ(Paartekens{"100234-100234"}, Importeer("Dinsdag"));
-}
-
-TEST_F(RVDparenTest, EenOverledenSpelerTeltMee)
+/// The order stays; a key must be the whole text of the column, whatever its player's status.
+TEST_F(RVDparenTest, WelkeTekensParenVanDinsdagZijn)
 {
     tabel.ZetCel(1, Kolom::Status, "overleden");
-    schijf.Zet(rvdparen, "100234-100417#\r\n");
-    EXPECT_EQ(Paartekens{"100234-100417"}, Importeer("Dinsdag"));
+    for (const auto& [inhoud, paren] : std::vector<std::pair<Tekst, Paartekens>>{
+             {"100417x100234#100417-100301#\r\n", {"100417-100234", "100417-100301"}},
+             {"010023-100417#100234-100234#\r\n", {"100234-100234"}}}) {
+        schijf.Zet(rvdparen, inhoud);
+        EXPECT_EQ(paren, Importeer("Dinsdag")) << inhoud;
+    }
 }
 
 TEST_F(RVDparenTest, ZonderBestandGeenParen)
@@ -271,4 +260,63 @@ TEST_F(RVDparenTest, ZonderBestandGeenParen)
     FalendeSchijf stuk(schijf);
     stuk.FaalVanaf(1);
     EXPECT_FALSE(ImporteerRVDparen(stuk, mappen, "Gr03-", "Dinsdag", tabel));
+}
+
+// ---- CSV ---------------------------------------------------------------------------------------
+
+namespace {
+
+struct ParenCSVTest : ParenbestandTest {
+    [[nodiscard]] Uitkomst<void> SchrijfNaar(Schijf& op, ParenCSV soort)
+    {
+        return SchrijfParenCSV(op, mappen,
+                               std::vector<Tekst>{"100001 Bos An          +100002 C\xF4te Fran\xE7ois",
+                                                  "100003 Partner_2          +100001 Bos An"},
+                               tabel, soort);
+    }
+
+    Spelertabel tabel = MaakTabel({{"100001", "Gr03-", "An", "", "Bos", "", ""},
+                                   {"100002", "Gr02-", "Fran\xE7ois", "van de", "C\xF4te", "", ""},
+                                   {"100003", "Gr03-", "", "", "Partner_2", "", ""},
+                                   {"100001", "Gr03-", "Dubbel", "", "Dubbel", "", ""},
+                                   {"x", "Gr03-", "Geen", "", "Getal", "", ""},
+                                   {" 0100007", "Gr03-", "Nul", "", "Nullen", "", ""}});
+};
+
+} // namespace
+
+/// A key that is not in the register stands there itself; else the numbers count, not the texts. A
+/// line that is passed over leaves a gap in the numbers.
+TEST_F(ParenCSVTest, DeRegels)
+{
+    const Tekst anAn = "100001 Bos An          +100001 Bos An";
+    for (const auto& [regels, moet] : std::vector<std::pair<std::vector<Tekst>, Tekst>>{
+             {{"100099 ??????          +100001 Bos An"}, "1;100099;An Bos\r\n"},
+             {{"100001 Bos An          +rommel ??????"}, "1;An Bos;rommel\r\n"},
+             {{"100007 ??????          +100001 Bos An"}, "1;Nul Nullen;An Bos\r\n"},
+             {{"7      ??????          +100001 Bos An"}, "1;7;An Bos\r\n"},
+             {{anAn, "100001 Bos An", anAn}, "1;An Bos;An Bos\r\n3;An Bos;An Bos\r\n"}})
+        EXPECT_EQ(moet, ParenCSVTekst(regels, tabel, ParenCSV::TweeKolommen));
+}
+
+TEST_F(ParenCSVTest, HetBestandInDeMapDieErNogNietIs)
+{
+    ASSERT_TRUE(SchrijfNaar(schijf, ParenCSV::EenKolom));
+    ASSERT_TRUE(SchrijfNaar(schijf, ParenCSV::TweeKolommen));
+    EXPECT_EQ("1;An Bos - Fran\xE7ois van de C\xF4te\r\n2; Partner_2 - An Bos\r\n",
+              schijf.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV1.csv"));
+    EXPECT_EQ("1;An Bos;Fran\xE7ois van de C\xF4te\r\n2; Partner_2;An Bos\r\n",
+              schijf.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+}
+
+TEST_F(ParenCSVTest, WatMisgaatIsEenFout)
+{
+    FalendeSchijf stuk(schijf);
+    stuk.FaalVanaf(1);
+    EXPECT_FALSE(SchrijfNaar(stuk, ParenCSV::EenKolom));
+    mappen.RVDMAP.clear();
+    const auto zonder = SchrijfNaar(schijf, ParenCSV::EenKolom);
+    ASSERT_FALSE(zonder);
+    EXPECT_EQ(Foutsoort::Ontbreekt, zonder.error().soort);
+    EXPECT_EQ(std::vector<Pad>(), schijf.AlleBestanden());
 }
