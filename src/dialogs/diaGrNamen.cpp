@@ -35,13 +35,12 @@ diaGrNamen::diaGrNamen(Groepen& groepen, QWidget* ouder) : QDialog(ouder), groep
     lagen->setSpacing(rand / 2);
     lagen->addWidget(BouwKader());
     lagen->addWidget(BouwRijen(), 1);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
+    auto* cmdAnnuleren =
+        MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &diaGrNamen::reject);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this, &diaGrNamen::accept);
     cmdOK->setDefault(true);
     for (QPushButton* knop : {cmdAnnuleren, cmdOK})
         knop->setFocusPolicy(Qt::TabFocus);
-    connect(cmdOK, &QPushButton::clicked, this, &diaGrNamen::accept);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &diaGrNamen::reject);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
     PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
     setMinimumWidth(

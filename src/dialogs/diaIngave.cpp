@@ -140,9 +140,7 @@ void diaIngave::BouwVeld(int veld, QGridLayout* rooster)
         Kleur(vak, QPalette::Text, palette().color(QPalette::ButtonText));
     }
     if (kolom == Kolom::Achternaam) {
-        QFont vet = label->font();
-        vet.setBold(true);
-        label->setFont(vet);
+        MaakVet(label);
         Kleur(label, QPalette::WindowText, QColor(255, 0, 0));
         // Red is hard to read on the grey of dark themes.
         Kleur(label, QPalette::Window, Qt::black);
@@ -238,11 +236,10 @@ QLayout* diaIngave::BouwVoet()
     auto* Label2 = MaakLabel(u"Label2"_s, u"Rood = verplichte ingave"_s, this);
     Label2->setFixedHeight(maten_.Twips(VoetHoog));
     Label2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
+    auto* cmdAnnuleren =
+        MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &diaIngave::reject);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this, &diaIngave::close);
     cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this, &diaIngave::close);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &diaIngave::reject);
     // A click on a button leaves no field: OK looks at all of them itself.
     for (QPushButton* knop : {cmdAnnuleren, cmdOK})
         knop->setFocusPolicy(Qt::TabFocus);

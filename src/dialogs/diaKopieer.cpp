@@ -16,10 +16,8 @@ diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
     setWindowTitle(u"Kopieer speler(s) naar een andere groep"_s);
     auto* Frame1 = new QGroupBox(u"Spelers kopiëren"_s, this);
     Noem(Frame1, u"Frame1"_s);
-    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Kopieer"_s, u'K', this);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Kopieer"_s, u'K', this, &QDialog::accept);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &QDialog::reject);
     keus_ = new Spelerkeus(administratie_.spelers.tabel, cmdOK, Frame1);
     for (QPushButton* knop : {keus_->cmdSelAll, keus_->cmdSelNone})
         connect(knop, &QPushButton::clicked, this, [this] { keus_->lstKeus->ZetHuidige(0); });

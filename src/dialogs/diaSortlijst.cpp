@@ -155,9 +155,8 @@ diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)
     binnen->setContentsMargins({});
     binnen->addWidget(P1);
     Frame2->Bevat(P0);
-    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Terug"_s, u'T', this);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Terug"_s, u'T', this, &QDialog::accept);
     cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* lagen = new QVBoxLayout(this);
     QMargins marges = lagen->contentsMargins();

@@ -35,19 +35,15 @@ diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
     for (auto* waarschuwing :
          {MaakLabel(u"Label2"_s, u"Alleen gebruiken door deskundigen van de materie."_s, this),
           MaakLabel(u"Label5"_s, u"(u riskeert een corrupt ledenbestand)"_s, this)}) {
-        QFont vet = waarschuwing->font();
-        vet.setBold(true);
-        waarschuwing->setFont(vet);
+        MaakVet(waarschuwing);
         lagen->addWidget(waarschuwing);
     }
     auto* Frame1 = new QGroupBox(this);
     Noem(Frame1, u"Frame1"_s);
     BouwKader(Frame1);
     lagen->addWidget(Frame1, 1);
-    OKButton = MaakKnop(u"OKButton"_s, u"Klaar en opslaan"_s, u'K', this);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    connect(OKButton, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    OKButton = MaakKnop(u"OKButton"_s, u"Klaar en opslaan"_s, u'K', this, &QDialog::accept);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &QDialog::reject);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, OKButton}));
     for (QPushButton* later : {cmdLeesSpelers, cmdStart, OKButton})
         later->setEnabled(false);
@@ -71,15 +67,13 @@ void diaToevoegen::BouwKader(QGroupBox* Frame1)
     lstN2 = new QListWidget(Frame1);
     Noem(lstN2, u"lstN2"_s, u"Gevonden spelers"_s);
     lstN2->setUniformItemSizes(true);
-    cmdLeesSpelers =
-        MaakKnop(u"cmdLeesSpelers"_s, u"Spelers ophalen uit deze zitting"_s, u'S', Frame1);
-    cmdStart =
-        MaakKnop(u"cmdStart"_s, u"Deze spelers toevoegen aan het ledenbestand"_s, u'D', Frame1);
+    cmdLeesSpelers = MaakKnop(u"cmdLeesSpelers"_s, u"Spelers ophalen uit deze zitting"_s, u'S',
+                              this, &diaToevoegen::LeesNamen);
+    cmdStart = MaakKnop(u"cmdStart"_s, u"Deze spelers toevoegen aan het ledenbestand"_s, u'D', this,
+                        &diaToevoegen::VoegToe);
     connect(Combo1, &QComboBox::currentIndexChanged, this, &diaToevoegen::KiesZitting);
     // The list in the session's folder may be changed meanwhile, and be read again.
     connect(Combo1, &QComboBox::activated, this, [this] { cmdLeesSpelers->setEnabled(true); });
-    connect(cmdLeesSpelers, &QPushButton::clicked, this, &diaToevoegen::LeesNamen);
-    connect(cmdStart, &QPushButton::clicked, this, &diaToevoegen::VoegToe);
 
     auto* vakken = new QGridLayout(Frame1);
     vakken->addWidget(Label1, 0, 0);

@@ -13,10 +13,8 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
     setWindowTitle(u"Verplaats speler(s) naar een andere groep"_s);
     auto* Frame1 = new QGroupBox(this);
     Noem(Frame1, u"Frame1"_s);
-    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Verplaats"_s, u'V', this);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Verplaats"_s, u'V', this, &QDialog::accept);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &QDialog::reject);
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, Frame1);
     };

@@ -44,12 +44,11 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     cmbRVDgr = MaakKeus(u"cmbRVDgr"_s, Label4, frame1);
     VulKeus(*cmbRVDgr, administratie_.groepen.Toonteksten());
     cmbSubGr = MaakKeus(u"cmbSubGr"_s, Label3, frame1);
-    cmdVerwijder = MaakKnop(u"cmdVerwijder"_s, u"Verwijderen ..."_s, u'V', this);
-    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this);
+    cmdVerwijder = MaakKnop(u"cmdVerwijder"_s, u"Verwijderen ..."_s, u'V', this,
+                            &frmVerwSubgroep::VerwijderSubgroep);
+    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this, &QDialog::close);
     // Also when what is shown is picked again.
     connect(cmbRVDgr, &QComboBox::activated, this, &frmVerwSubgroep::KiesGroep);
-    connect(cmdVerwijder, &QPushButton::clicked, this, &frmVerwSubgroep::VerwijderSubgroep);
-    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
 
     auto* vakken = new QGridLayout(frame1);
     vakken->addWidget(label(u"Label1"_s, u"Verwijder ALLE spelers "_s), 0, 0, 1, 2);

@@ -131,8 +131,8 @@ void diaControleNBB::Bouw()
     lblAantal = MaakLabel(u"lblAantal"_s, QString(), this);
     chkSort = new QCheckBox(MetSneltoets(u"Sorteer op naam"_s, u'S'), this);
     Noem(chkSort, u"chkSort"_s);
-    cmdPrint = MaakKnop(u"cmdPrint"_s, u"Print"_s, u'P', this);
-    auto* cmdTerug = MaakKnop(u"cmdTerug"_s, u"Terug"_s, u'T', this);
+    cmdPrint = MaakKnop(u"cmdPrint"_s, u"Print"_s, u'P', this, &diaControleNBB::Print);
+    auto* cmdTerug = MaakKnop(u"cmdTerug"_s, u"Terug"_s, u'T', this, &QDialog::accept);
     cmdTerug->setDefault(true);
 
     auto* onder = new QHBoxLayout;
@@ -159,8 +159,6 @@ void diaControleNBB::Bouw()
         Teken();
         P1->KiesRegel(std::min(1, P1->Regels()));
     });
-    connect(cmdPrint, &QPushButton::clicked, this, &diaControleNBB::Print);
-    connect(cmdTerug, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 // ---------------------------------------------------------------- reading

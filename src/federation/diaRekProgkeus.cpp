@@ -15,10 +15,9 @@ diaRekProgkeus::diaRekProgkeus(QWidget* ouder) : QDialog(ouder)
     Noem(Frame1, u"Frame1"_s, u"Rekenprogramma"_s);
     auto* Option1 = MaakOptie(u"Option1"_s, u"NBB-Rekenprogamma"_s, u'N', Frame1);
     auto* Option2 = MaakOptie(u"Option2"_s, u"Bridge-It"_s, u'B', Frame1);
-    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this, &QDialog::accept);
     cmdOK->setDefault(true);
     cmdOK->setEnabled(false);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* keuzes = new QVBoxLayout(Frame1);
     for (const auto& [optie, programma] :

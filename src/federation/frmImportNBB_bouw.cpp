@@ -121,11 +121,10 @@ void frmImportNBB::Bouw()
         MaakLopendeTekst(u"lblOpening"_s, Openingstekst(administratie_.mappen.DFIMPG), this));
     lagen->addLayout(kolommen, 1);
     lagen->addLayout(BouwHulp());
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::close);
-    cmdImporteer = MaakKnop(u"cmdImporteer"_s, u"Importeer"_s, u'I', this);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::close);
+    cmdImporteer = MaakKnop(u"cmdImporteer"_s, u"Importeer"_s, u'I', this,
+                            &frmImportNBB::ImporteerLedenbestanden);
     cmdImporteer->setDefault(true);
-    connect(cmdImporteer, &QPushButton::clicked, this, &frmImportNBB::ImporteerLedenbestanden);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdImporteer}));
     ZetOpSchuifblad(this);
     const Maten maten;
@@ -198,9 +197,9 @@ QWidget* frmImportNBB::BouwGegevens()
 
 QLayout* frmImportNBB::BouwKeuze()
 {
-    cmdKiesExportMap = MaakKnop(u"cmdKiesExportMap"_s, u"Kies een map"_s, u'K', this);
+    cmdKiesExportMap = MaakKnop(u"cmdKiesExportMap"_s, u"Kies een map"_s, u'K', this,
+                                &frmImportNBB::KiesExportMap);
     cmdKiesExportMap->setEnabled(false);
-    connect(cmdKiesExportMap, &QPushButton::clicked, this, &frmImportNBB::KiesExportMap);
     lblExportMap = MaakLopendeTekst(u"lblExportMap"_s,
                                     u"Kies links eerst waar de spelers vandaan komen."_s, this);
     lstNBBbest = new Regellijst(QListView::MultiSelection, this);
@@ -209,9 +208,9 @@ QLayout* frmImportNBB::BouwKeuze()
         u"Een klik of de spatiebalk kiest een ledenbestand of laat het los; Ctrl+A kiest alle"_s);
     Label3 = MaakLabel(u"Label3"_s, MetSneltoets(u"Ledenbestanden:"_s, u'b'), this);
     Label3->setBuddy(lstNBBbest);
-    cmdControleNBBnrs = MaakKnop(u"cmdControleNBBnrs"_s,
-                                 u"Overzicht NBBnrs van geselecteerde groepen"_s, u'O', this);
-    connect(cmdControleNBBnrs, &QPushButton::clicked, this, &frmImportNBB::ControleerNBBnrs);
+    cmdControleNBBnrs =
+        MaakKnop(u"cmdControleNBBnrs"_s, u"Overzicht NBBnrs van geselecteerde groepen"_s, u'O',
+                 this, &frmImportNBB::ControleerNBBnrs);
     auto* Label7 = MaakLopendeTekst(
         u"Label7"_s,
         u"Let op: alleen spelers met een ingevuld (eventueel fictief) NBB-nummer worden "

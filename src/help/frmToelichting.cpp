@@ -84,9 +84,8 @@ frmToelichting::frmToelichting(QWidget* hoofdvenster, Printerkeus printer)
     setWindowTitle(u"Toelichting"_s);
     Text1 = MaakText1(VulToelichting(), this);
     auto* cmdPrintToel = MaakKnop(u"cmdPrintToel"_s, u"Print"_s, u'P', this);
-    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this);
+    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this, &QDialog::accept);
     cmdEinde->setDefault(true);
-    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::accept);
     // Without a preview. A printer that is not there leaves the window open.
     connect(cmdPrintToel, &QPushButton::clicked, this, [this] {
         if (const auto geprint = Print(); !geprint)

@@ -30,9 +30,6 @@ class frmParenOnderhoud : public QDialog {
     QLayout* BouwMidden();
     QGroupBox* BouwCSVKader();
     QLayout* BouwOnderkant();
-    template <class Opdracht>
-    QPushButton* Knop(const QString& naam, const QString& tekst, char16_t letter,
-                      const Opdracht& opdracht);
     Regellijst* Lijst(const QString& naam, const QString& gesproken);
 
     void LaadSubgroep();

@@ -21,15 +21,6 @@ constexpr std::size_t NaamVanaf = 7; // in every line, behind the key and a blan
 
 } // namespace
 
-template <class Opdracht>
-QPushButton* frmParenOnderhoud::Knop(const QString& naam, const QString& tekst, char16_t letter,
-                                     const Opdracht& opdracht)
-{
-    QPushButton* knop = MaakKnop(naam, tekst, letter, this);
-    connect(knop, &QPushButton::clicked, this, opdracht);
-    return knop;
-}
-
 Regellijst* frmParenOnderhoud::Lijst(const QString& naam, const QString& gesproken)
 {
     auto* lijst = new Regellijst(QListView::SingleSelection, this);
@@ -65,9 +56,7 @@ QLayout* frmParenOnderhoud::BouwKeuze()
         return MaakLabel(naam, tekst, this);
     };
     auto* lblRVDledengr = label(u"lblRVDledengr"_s, NaarQString(code_));
-    QFont vet = lblRVDledengr->font();
-    vet.setBold(true);
-    lblRVDledengr->setFont(vet);
+    MaakVet(lblRVDledengr);
     auto* Label2 = label(u"Label2"_s, u"Groep-Subgroep:"_s);
     cmbNBBledengr = MaakKeus(u"cmbNBBledengr"_s, Label2, this);
     cmbNBBledengr->setMinimumContentsLength(8);
@@ -81,8 +70,8 @@ QLayout* frmParenOnderhoud::BouwKeuze()
     rij->addWidget(cmbNBBledengr, 1);
     rij->addSpacing(maten_.Twips(300));
     rij->addWidget(label(u"Label1"_s, u"Waarom paren samenstellen?"_s));
-    rij->addWidget(
-        Knop(u"cmdUitleg"_s, u"Klik hier voor uitleg"_s, u'u', &frmParenOnderhoud::ToonUitleg));
+    rij->addWidget(MaakKnop(u"cmdUitleg"_s, u"Klik hier voor uitleg"_s, u'u', this,
+                            &frmParenOnderhoud::ToonUitleg));
     return rij;
 }
 
@@ -123,11 +112,13 @@ QGroupBox* frmParenOnderhoud::BouwSamenstelling()
 
 QLayout* frmParenOnderhoud::BouwMidden()
 {
-    cmdOKE = Knop(u"cmdOKE"_s, u"OKE >>>"_s, u'O', &frmParenOnderhoud::MaakPaar);
+    cmdOKE = MaakKnop(u"cmdOKE"_s, u"OKE >>>"_s, u'O', this, &frmParenOnderhoud::MaakPaar);
     cmdOKE->setAccessibleName(u"Maak een paar"_s);
-    cmdOntbindt = Knop(u"cmdOntbindt"_s, u" OKE <<<"_s, u'K', &frmParenOnderhoud::Ontbind);
+    cmdOntbindt =
+        MaakKnop(u"cmdOntbindt"_s, u" OKE <<<"_s, u'K', this, &frmParenOnderhoud::Ontbind);
     cmdOntbindt->setAccessibleName(u"Ontbindt dit paar"_s);
-    auto* cmdSortL3 = Knop(u"cmdSortL3"_s, u"Sort  L9"_s, u'S', &frmParenOnderhoud::SorteerParen);
+    auto* cmdSortL3 =
+        MaakKnop(u"cmdSortL3"_s, u"Sort  L9"_s, u'S', this, &frmParenOnderhoud::SorteerParen);
     cmdSortL3->setToolTip(u"Zet de paren op volgorde van de eerste speler"_s);
     auto* midden = new QVBoxLayout;
     const auto label = [&](const QString& naam, const QString& tekst) {
@@ -154,12 +145,12 @@ QGroupBox* frmParenOnderhoud::BouwCSVKader()
     const auto label = [&](const QString& naam, const QString& tekst, int rij, int kolom) {
         vakken->addWidget(MaakLabel(naam, tekst, Frame2), rij, kolom);
     };
-    vakken->addWidget(Knop(u"cmdPrintVast"_s, u"Als paar in 1 kolom"_s, u'1',
-                           [this] { SchrijfCSV(ParenCSV::EenKolom); }),
+    vakken->addWidget(MaakKnop(u"cmdPrintVast"_s, u"Als paar in 1 kolom"_s, u'1', this,
+                               [this] { SchrijfCSV(ParenCSV::EenKolom); }),
                       0, 0);
     label(u"lblPrintVast"_s, u"Tuprufo - Leo Jansen "_s, 0, 1);
-    vakken->addWidget(Knop(u"cmdPrintLos"_s, u"Als paar in    2 kolommen"_s, u'2',
-                           [this] { SchrijfCSV(ParenCSV::TweeKolommen); }),
+    vakken->addWidget(MaakKnop(u"cmdPrintLos"_s, u"Als paar in    2 kolommen"_s, u'2', this,
+                               [this] { SchrijfCSV(ParenCSV::TweeKolommen); }),
                       1, 0);
     label(u"lblPrintLos"_s, u"Tuprufo        Leo Jansen  (aparte kolom)"_s, 1, 1);
     label(u"lblExcel"_s, u"Kan in Excel worden ingelezen. "_s, 0, 3);
@@ -170,11 +161,12 @@ QGroupBox* frmParenOnderhoud::BouwCSVKader()
 QLayout* frmParenOnderhoud::BouwOnderkant()
 {
     auto* onder = new QHBoxLayout;
-    onder->addWidget(Knop(u"cmdVerwParenbest"_s, u"Verwijder dit parenbestand"_s, u'V',
-                          &frmParenOnderhoud::VerwijderBestand));
+    onder->addWidget(MaakKnop(u"cmdVerwParenbest"_s, u"Verwijder dit parenbestand"_s, u'V', this,
+                              &frmParenOnderhoud::VerwijderBestand));
     onder->addStretch();
-    onder->addWidget(Knop(u"cmdEinde"_s, u"Opslaan en Einde"_s, u'E', &frmParenOnderhoud::Einde));
-    onder->addWidget(Knop(u"cmdAnnu"_s, u"Annuleren"_s, u'A', &QDialog::reject));
+    onder->addWidget(
+        MaakKnop(u"cmdEinde"_s, u"Opslaan en Einde"_s, u'E', this, &frmParenOnderhoud::Einde));
+    onder->addWidget(MaakKnop(u"cmdAnnu"_s, u"Annuleren"_s, u'A', this, &QDialog::reject));
     return onder;
 }
 

@@ -1,6 +1,7 @@
 #include "pairs/paren.h"
 
 #include <algorithm>
+#include <map>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -10,7 +11,7 @@ namespace plexoran {
 namespace {
 
 /// Stands for the name of a player who is not available.
-constexpr Tekstblik OnbekendeNaam = "??????";
+constexpr auto OnbekendeNaam = "??????";
 
 /// The lines of the available players, in text order.
 std::vector<Tekst> BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groepscode,
@@ -28,44 +29,26 @@ std::vector<Tekst> BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groeps
     return uit;
 }
 
-/// Which line is the first that contains a key, as a search from the top finds it: anywhere in the
-/// line, a player's name included. Only keys of the pairs it was made for can be asked, so that one
-/// walk through the lines finds where each of them stands.
-class Regelzoeker {
-  public:
-    Regelzoeker(const std::vector<Tekst>& regels, const Paartekens& paren) : weg_(regels.size())
-    {
-        for (const Tekst& paar : paren) {
-            regelsMet_[Eerste6(paar)];
-            regelsMet_[Laatste6(paar)];
-        }
-        for (std::size_t i = regels.size(); i-- > 0;) {
-            const Tekstblik regel = regels[i];
-            for (std::size_t begin = 0; begin < regel.size(); ++begin) {
-                const auto plek = regelsMet_.find(Eerste6(regel.substr(begin)));
-                if (plek != regelsMet_.end())
-                    plek->second.push_back(i);
-            }
+/// Of every key of these pairs the lines that contain it, the last one first: anywhere in the line,
+/// a player's name included. One walk through the lines finds where all of them stand.
+std::unordered_map<Tekstblik, std::vector<std::size_t>>
+RegelsMetKeys(const std::vector<Tekst>& regels, const Paartekens& paren)
+{
+    std::unordered_map<Tekstblik, std::vector<std::size_t>> regelsMet;
+    for (const Tekst& paar : paren) {
+        regelsMet[Eerste6(paar)];
+        regelsMet[Laatste6(paar)];
+    }
+    for (std::size_t i = regels.size(); i-- > 0;) {
+        const Tekstblik regel = regels[i];
+        for (std::size_t begin = 0; begin < regel.size(); ++begin) {
+            const auto plek = regelsMet.find(Eerste6(regel.substr(begin)));
+            if (plek != regelsMet.end())
+                plek->second.push_back(i);
         }
     }
-
-    /// The first line left that contains the key. That line is taken out.
-    std::optional<std::size_t> NeemEerste(Tekstblik key)
-    {
-        std::vector<std::size_t>& regels = regelsMet_.at(key);
-        while (!regels.empty() && weg_[regels.back()])
-            regels.pop_back();
-        if (regels.empty())
-            return std::nullopt;
-        weg_[regels.back()] = true;
-        return regels.back();
-    }
-    [[nodiscard]] bool IsWeg(std::size_t regel) const { return weg_[regel]; }
-
-  private:
-    std::unordered_map<Tekstblik, std::vector<std::size_t>> regelsMet_; ///< from the bottom up
-    std::vector<bool> weg_;
-};
+    return regelsMet;
+}
 
 } // namespace
 
@@ -104,14 +87,22 @@ Tekst Paren::LaadSubgroep(const Spelertabel& tabel, Tekstblik groepscode, Tekstb
 Tekst Paren::ToonParen(const Paartekens& paren)
 {
     Tekst losse;
-    Regelzoeker zoeker(lalle_, paren);
+    auto regelsMet = RegelsMetKeys(lalle_, paren);
+    std::vector<bool> weg(lalle_.size());
     for (const Tekst& paar : paren) {
         bool los = false;
+        // The first line left that contains the key; it serves no other pair.
         const auto speler = [&](Tekstblik key) {
-            const auto regel = zoeker.NeemEerste(key);
-            los = los || !regel;
-            return Tekst(key).append(" ").append(regel ? Spelernaam(lalle_[*regel])
-                                                       : OnbekendeNaam);
+            auto& regels = regelsMet.at(key);
+            while (!regels.empty() && weg[regels.back()])
+                regels.pop_back();
+            const auto wie = Tekst(key).append(" ");
+            if (regels.empty()) {
+                los = true;
+                return wie + OnbekendeNaam;
+            }
+            weg[regels.back()] = true;
+            return wie + Tekst(Spelernaam(lalle_[regels.back()]));
         };
         const Tekst links = speler(Eerste6(paar));
         const Tekst rechts = speler(Laatste6(paar));
@@ -120,7 +111,7 @@ Tekst Paren::ToonParen(const Paartekens& paren)
         l3_.push_back(Paarregel(links, rechts));
     }
     std::size_t regel = 0;
-    std::erase_if(lalle_, [&](const Tekst&) { return zoeker.IsWeg(regel++); });
+    std::erase_if(lalle_, [&](const Tekst&) { return weg[regel++]; });
     return losse;
 }
 
@@ -152,15 +143,14 @@ void Paren::Sorteer()
 {
     // Three digits as the suite has them, and more when there are more than a thousand pairs.
     const auto breedte = std::max<std::size_t>(3, std::to_string(l3_.size()).size());
-    std::vector<std::pair<Tekst, Tekst>> l9;
+    std::map<Tekst, Tekst> l9;
     for (Tekst& regel : l3_) {
         const Paarspeler speler = LinkerSpeler(regel);
         Tekst sleutel(speler.naam);
         sleutel.append(" ").append(speler.key).append(" ");
         sleutel += MetNullen(static_cast<std::int64_t>(l9.size()), static_cast<int>(breedte));
-        l9.emplace_back(Sorteersleutel(sleutel), std::move(regel));
+        l9.emplace(Sorteersleutel(sleutel), std::move(regel));
     }
-    std::sort(l9.begin(), l9.end());
     l3_.clear();
     for (auto& [sleutel, regel] : l9)
         l3_.push_back(std::move(regel));

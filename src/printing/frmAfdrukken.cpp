@@ -98,11 +98,9 @@ void frmAfdrukken::Bouw()
     auto* onder = new QHBoxLayout;
     onder->addLayout(BouwBladkeuze(maten));
     onder->addSpacing(maten.Twips(300));
-    auto* cmdPrinten = MaakKnop(u"cmdPrinten"_s, u"Printen..."_s, u'P', this);
+    auto* cmdPrinten = MaakKnop(u"cmdPrinten"_s, u"Printen..."_s, u'P', this, &frmAfdrukken::Print);
     cmdPrinten->setDefault(true);
-    connect(cmdPrinten, &QPushButton::clicked, this, &frmAfdrukken::Print);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::reject);
     onder->addLayout(Knoppenrij({cmdPrinten, cmdAnnuleren}));
     auto* lagen = new QVBoxLayout(this);
     lagen->addLayout(boven);

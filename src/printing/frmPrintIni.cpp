@@ -22,13 +22,6 @@ Kolom PrintkolomOp(int plaats)
     return static_cast<Kolom>(static_cast<int>(EerstePrintkolom) + plaats);
 }
 
-void MaakVet(QLabel* label)
-{
-    QFont vet = label->font();
-    vet.setBold(true);
-    label->setFont(vet);
-}
-
 } // namespace
 
 frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
@@ -42,7 +35,6 @@ frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
     connect(lstKeus, &Regellijst::keuzeVeranderd, this, &frmPrintIni::PasAan);
     connect(lstNBBgr, &Regellijst::keuzeVeranderd, this, &frmPrintIni::ToonBreedte);
     connect(cmbSchaal, &QComboBox::currentIndexChanged, this, &frmPrintIni::ToonBreedte);
-    connect(cmdOK, &QPushButton::clicked, this, &frmPrintIni::Print);
     PasAan();
     lstKeus->setFocus();
 }
@@ -67,10 +59,9 @@ void frmPrintIni::Bouw()
     midden->addWidget(BouwKolommen(), 1);
     midden->addSpacing(maten_.Twips(200));
     midden->addLayout(BouwRechts(), 1);
-    cmdOK = MaakKnop(u"cmdOK"_s, u"Printen..."_s, u'P', this);
+    cmdOK = MaakKnop(u"cmdOK"_s, u"Printen..."_s, u'P', this, &frmPrintIni::Print);
     cmdOK->setDefault(true);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this);
-    connect(cmdAnnuleren, &QPushButton::clicked, this, &QDialog::reject);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::reject);
     auto* lagen = new QVBoxLayout(this);
     lagen->addLayout(groep);
     lagen->addSpacing(maten_.Twips(100));

@@ -94,7 +94,8 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
     Option2 = MaakOptie(u"Option2"_s, u"In Competities"_s, u'C', Frame1);
     Label4 = MaakLabel(u"Label4"_s, QString(), Frame1);
     cmbC = MaakKeus(u"cmbC"_s, Label4, Frame1);
-    cmdZoekNamen = MaakKnop(u"cmdZoekNamen"_s, u"Zoek de zwevende spelers in RVD"_s, u'Z', Frame1);
+    cmdZoekNamen = MaakKnop(u"cmdZoekNamen"_s, u"Zoek de zwevende spelers in RVD"_s, u'Z', this,
+                            &frmKoppelNBBnr::ZoekNamen);
     for (QWidget* deel :
          std::initializer_list<QWidget*>{Option1, Option2, Label4, cmbC, cmdZoekNamen})
         lagen->addWidget(deel);
@@ -102,7 +103,6 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
     // Of the two that change together only one is listened to.
     connect(Option2, &QRadioButton::toggled, this, &frmKoppelNBBnr::KiesSoort);
     connect(cmbC, &QComboBox::currentIndexChanged, this, &frmKoppelNBBnr::VergeetGevonden);
-    connect(cmdZoekNamen, &QPushButton::clicked, this, &frmKoppelNBBnr::ZoekNamen);
     return Frame1;
 }
 
@@ -186,8 +186,8 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
         u"Label10"_s,
         u"Kies hier de RVD-speler (uit %1) wiens identiteit hetzelfde is als de linker speler."_s
             .arg(groep));
-    auto* cmdKiesRVDspeler =
-        MaakKnop(u"cmdKiesRVDspeler"_s, u"Kies speler uit RVD (Gr05)"_s, u'K', Frame4);
+    auto* cmdKiesRVDspeler = MaakKnop(u"cmdKiesRVDspeler"_s, u"Kies speler uit RVD (Gr05)"_s, u'K',
+                                      this, &frmKoppelNBBnr::KiesUitRegister);
     lagen->addWidget(cmdKiesRVDspeler);
     lagen->addWidget(BouwKolomkoppen());
     lstRVDsp = MaakLijst(u"lstRVDsp"_s, u"Spelers uit RVD"_s, Frame4);
@@ -199,7 +199,6 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
     txtRVDspeler = MaakToonvak(u"txtRVDspeler"_s, u"Gekozen speler uit RVD"_s, Frame4);
     Label10->setBuddy(txtRVDspeler);
     lagen->addWidget(txtRVDspeler);
-    connect(cmdKiesRVDspeler, &QPushButton::clicked, this, &frmKoppelNBBnr::KiesUitRegister);
     connect(lstRVDsp, &Regellijst::keuzeVeranderd, this, &frmKoppelNBBnr::ToonSpeler);
     connect(lstRVDsp, &Regellijst::activated, this, [this](const QModelIndex& regel) {
         lstRVDsp->setCurrentIndex(regel);
@@ -228,13 +227,11 @@ QLayout* frmKoppelNBBnr::BouwKnoppen()
     auto* knoppen = new QHBoxLayout;
     knoppen->addWidget(
         MaakTekst(u"Label13"_s, u"Elke speler moeten afzonderlijk verwerkt worden!"_s, this), 1);
-    cmdStartKoppelen =
-        MaakKnop(u"cmdStartKoppelen"_s, u"OK als dit identieke spelers zijn ..."_s, u'O', this);
+    cmdStartKoppelen = MaakKnop(u"cmdStartKoppelen"_s, u"OK als dit identieke spelers zijn ..."_s,
+                                u'O', this, &frmKoppelNBBnr::StartKoppelen);
     knoppen->addWidget(cmdStartKoppelen);
-    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this);
+    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &QDialog::close);
     knoppen->addWidget(cmdEinde);
-    connect(cmdStartKoppelen, &QPushButton::clicked, this, &frmKoppelNBBnr::StartKoppelen);
-    connect(cmdEinde, &QPushButton::clicked, this, &QDialog::close);
     return knoppen;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 #include "platform/schijf/heelschrijven.h"
 #include "platform/tekst/tekstorde.h"
@@ -172,7 +173,7 @@ void HaalGekoppeldenUit(std::vector<Zwevende>& lijst, const Koppelopdracht& opdr
 std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel, Tekstblik importgroep)
 {
     constexpr std::size_t lengteKey = 6;
-    std::vector<std::pair<Tekst, Koppelspeler>> gevonden;
+    std::multimap<Tekst, Koppelspeler> gevonden; // by what they are ordered by
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         const auto cel = [&](Kolom kolom) { return Tekst(tabel.Cel(rij, kolom)); };
         const Tekst key = cel(Kolom::Key);
@@ -186,12 +187,10 @@ std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel, Tekstblik impo
                 naam += ' ';
             naam += deel;
         }
-        gevonden.emplace_back(Sorteersleutel(cel(Kolom::Achternaam) + " " + cel(Kolom::Voornaam) +
-                                             " " + cel(Kolom::Tusv) + " " + key),
-                              Koppelspeler{key, naam, cel(Kolom::NBBnr), cel(Kolom::NBBgr)});
+        gevonden.emplace(Sorteersleutel(cel(Kolom::Achternaam) + " " + cel(Kolom::Voornaam) + " " +
+                                        cel(Kolom::Tusv) + " " + key),
+                         Koppelspeler{key, naam, cel(Kolom::NBBnr), cel(Kolom::NBBgr)});
     }
-    std::stable_sort(gevonden.begin(), gevonden.end(),
-                     [](const auto& een, const auto& ander) { return een.first < ander.first; });
     std::vector<Koppelspeler> uit;
     for (auto& [sleutel, speler] : gevonden)
         uit.push_back(std::move(speler));

@@ -1,10 +1,10 @@
 #include "sessions/zittinglijsten.h"
 
 #include <algorithm>
+#include <functional>
 #include <unordered_map>
 
 #include "platform/tekst/regels.h"
-#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {
@@ -42,42 +42,12 @@ Tekstblik Regeleinde(Tekstblik inhoud, Tekstblik regel)
     return rest.substr(0, 1);
 }
 
-/// Replaces the name at the positions where it is to be, and remembers these.
-class Vervanger {
-  public:
-    explicit Vervanger(const Naamvervanging& vervanging) : vervanging_(vervanging)
-    {
-        for (const Tekst& code : vervanging.codes)
-            codes_.try_emplace(Tafelsleutel(code), code);
-    }
-
-    /// The players with the key in the name's place; nothing where it is not to be replaced.
-    std::optional<Tekst> Vervang(Tekstblik code, Tekstblik spelers)
-    {
-        const auto gezocht = codes_.find(Tafelsleutel(code));
-        const auto helften = SplitsHelften(spelers);
-        if (gezocht == codes_.end() || !helften)
-            return std::nullopt;
-        const bool eerste = helften->eerste == vervanging_.naam;
-        const bool tweede = helften->tweede == vervanging_.naam;
-        if (!eerste && !tweede)
-            return std::nullopt;
-        vervangen_.insert(gezocht->second);
-        Tekst nieuw(eerste ? vervanging_.key : helften->eerste);
-        return nieuw.append(" - ").append(tweede ? vervanging_.key : helften->tweede);
-    }
-
-    [[nodiscard]] const std::set<Tekst>& Vervangen() const { return vervangen_; }
-
-  private:
-    const Naamvervanging& vervanging_;
-    std::unordered_map<Tekst, Tekst> codes_; ///< by their key
-    std::set<Tekst> vervangen_;
-};
+/// The players with the key in the name's place; nothing where it is not to be replaced.
+using Vervanger = std::function<std::optional<Tekst>(Tekstblik code, Tekstblik spelers)>;
 
 /// The line of a player list anew: its items on lines of their own, without quotes where they can
 /// do without. Nothing when no name on it was replaced.
-std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Vervanger& vervanger)
+std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, const Vervanger& vervang)
 {
     Tekst uit;
     bool veranderd = false;
@@ -88,7 +58,7 @@ std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Vervan
             uit += einde;
         eerste = false;
         const auto paar = PaarUit(item->tekst);
-        const auto nieuw = paar ? vervanger.Vervang(paar->code, paar->spelers) : std::nullopt;
+        const auto nieuw = paar ? vervang(paar->code, paar->spelers) : std::nullopt;
         if (nieuw) {
             veranderd = true;
             uit += AlsItem(Tekst(paar->code) + ' ' + *nieuw);
@@ -100,13 +70,13 @@ std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, Vervan
 }
 
 /// The record with the pair replaced and all else, quotes included, as it was.
-std::optional<Tekst> NieuweRecordregel(Tekstblik regel, Vervanger& vervanger)
+std::optional<Tekst> NieuweRecordregel(Tekstblik regel, const Vervanger& vervang)
 {
     const auto velden = RecordUit(regel);
     if (!velden)
         return std::nullopt;
     const Item& paar = (*velden)[Paarveld];
-    const auto nieuw = vervanger.Vervang((*velden)[Codeveld].tekst, paar.tekst);
+    const auto nieuw = vervang((*velden)[Codeveld].tekst, paar.tekst);
     if (!nieuw)
         return std::nullopt;
     const auto begin = static_cast<std::size_t>(paar.rauw.data() - regel.data());
@@ -171,14 +141,29 @@ Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort)
 Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort, const Naamvervanging& vervanging)
 {
     Herschrijving uit;
-    Vervanger vervanger(vervanging);
+    std::unordered_map<Tekst, Tekst> codes; // by their key
+    for (const Tekst& code : vervanging.codes)
+        codes.try_emplace(Tafelsleutel(code), code);
+    const Vervanger vervang = [&](Tekstblik code, Tekstblik spelers) -> std::optional<Tekst> {
+        const auto gezocht = codes.find(Tafelsleutel(code));
+        const auto helften = SplitsHelften(spelers);
+        if (gezocht == codes.end() || !helften)
+            return std::nullopt;
+        const bool eerste = helften->eerste == vervanging.naam;
+        const bool tweede = helften->tweede == vervanging.naam;
+        if (!eerste && !tweede)
+            return std::nullopt;
+        uit.vervangen.insert(gezocht->second);
+        Tekst nieuw(eerste ? vervanging.key : helften->eerste);
+        return nieuw.append(" - ").append(tweede ? vervanging.key : helften->tweede);
+    };
     std::size_t klaar = 0; // so much of the old text stands in the new one
     for (const Tekstblik regel : Regels(inhoud)) {
         if (regel.find(vervanging.naam) == Tekstblik::npos)
             continue;
         const auto nieuw = soort == Lijstsoort::Spelers
-                               ? NieuweSpelersregel(regel, Regeleinde(inhoud, regel), vervanger)
-                               : NieuweRecordregel(regel, vervanger);
+                               ? NieuweSpelersregel(regel, Regeleinde(inhoud, regel), vervang)
+                               : NieuweRecordregel(regel, vervang);
         if (!nieuw)
             continue;
         const auto begin = static_cast<std::size_t>(regel.data() - inhoud.data());
@@ -187,7 +172,6 @@ Herschrijving HerschrijfLijst(Tekstblik inhoud, Lijstsoort soort, const Naamverv
         klaar = begin + regel.size();
     }
     uit.inhoud += inhoud.substr(klaar);
-    uit.vervangen = vervanger.Vervangen();
     return uit;
 }
 

@@ -34,8 +34,7 @@ class diaKopieerTest : public Groepsproef<diaKopieer> {
         Keus("cmbGrnamen")->setCurrentIndex(nummer - 1);
         wachter.Verwacht(Kopieervraag(bron, Keus("cmbGrnamen")->currentText(), OK));
         wachter.Informatie(u"Er zijn %1 spelers gekopieerd."_s.arg(aantal));
-        Klik(Knop("cmdOK"));
-        wachter.Klaar();
+        Opdracht("cmdOK");
     }
 };
 
@@ -226,8 +225,7 @@ TEST_F(diaKopieerTest, AnnulerenVanDeVraagLaatHetVensterOpen)
     for (const QString& antwoord :
          {u"Annuleren"_s, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
         wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, antwoord));
-        Klik(Knop("cmdOK"));
-        wachter.Klaar();
+        Opdracht("cmdOK");
         EXPECT_TRUE(venster->isVisible());
         EXPECT_EQ(Plaatsen({0}), Lijst()->GekozenPlaatsen());
     }
@@ -247,8 +245,7 @@ TEST_F(diaKopieerTest, AlsDeSleutelsOpZijnBlijftHetVensterOpen)
     geheugen.Zet("C:\\club\\RVDspelers.txt", "HKEY=2147483647\r\n");
     wachter.Verwacht(Kopieervraag(ClubNaam, ClubNaam, OK));
     wachter.SleutelsOp(u"Er is niets gekopieerd"_s, "C:\\club\\RVDspelers.txt");
-    Klik(Knop("cmdOK"));
-    wachter.Klaar();
+    Opdracht("cmdOK");
     EXPECT_TRUE(venster->isVisible());
     EXPECT_TRUE(venster->IngaveGeannuleerd());
     EXPECT_EQ(6, administratie.spelers.tabel.Rijen());

@@ -30,8 +30,7 @@ class diaToevoegenTest : public Dialoogproef<diaToevoegen, Suitestand> {
     void VoegToe()
     {
         wachter.Informatie(u"De spelers zijn toegevoegd."_s);
-        Klik(Knop("cmdStart"));
-        wachter.Klaar();
+        Opdracht("cmdStart");
     }
     /// Which of the three can be pressed.
     void VerwachtKnoppen(bool lees, bool start, bool ok) const
@@ -145,8 +144,7 @@ TEST_F(diaToevoegenTest, EenVerslagDatTerugStaatMaarNietVastIsTeruggezet)
     VoegToe();
     VerwachtNietVast();
     VerwachtAfscheid();
-    Klik(Knop("cmdAnnuleren"));
-    wachter.Klaar();
+    Opdracht("cmdAnnuleren");
     EXPECT_EQ("van vroeger", Koppeltekst());
 }
 
@@ -214,8 +212,7 @@ TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
             u"Fout bij het schrijven van 'Koppelverslag.txt'. Er is niets toegevoegd: "
             "zonder dat bestand zijn de nieuwe spelers niet aan deze zitting te koppelen. "
             "Verhelp de oorzaak en probeer het opnieuw.\n\nBestand: "_s);
-        Klik(Knop("cmdStart"));
-        wachter.Klaar();
+        Opdracht("cmdStart");
         EXPECT_EQ(rijen, AlleRijen(Tabel()));
         EXPECT_EQ(100171, administratie.spelers.HKEY);
         EXPECT_FALSE(suite.Bestaat(Zomer + "/Koppelverslag.txt")) << stap;

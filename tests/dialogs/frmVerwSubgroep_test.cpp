@@ -31,8 +31,7 @@ class frmVerwSubgroepTest : public Groepsproef<frmVerwSubgroep> {
                    int aantal)
     {
         VerwachtVerwijderen(subgroep, groep, spelers, aantal);
-        Klik(Knop("cmdVerwijder"));
-        wachter.Klaar();
+        Opdracht("cmdVerwijder");
     }
 };
 
@@ -118,8 +117,7 @@ TEST_F(frmVerwSubgroepTest, AnnulerenEscapeEnHetSluitvakVerwijderenNiets)
     for (const QString& antwoord :
          {u"Annuleren"_s, Berichtwachter::Escape, Berichtwachter::Sluitvak}) {
         wachter.Verwacht(Vraag(u"A-lijn"_s, ClubNaam, antwoord, ALijn));
-        Klik(Knop("cmdVerwijder"));
-        wachter.Klaar();
+        Opdracht("cmdVerwijder");
     }
     EXPECT_EQ(oud, AlleRijen(administratie.spelers.tabel));
     EXPECT_FALSE(venster->IetsVerwijderd());

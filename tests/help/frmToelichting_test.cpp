@@ -154,8 +154,7 @@ TEST_F(frmToelichtingTest, EenPrinterDieWeigertOfErNietIsLaatHetVensterOpen)
         wachter.Verwacht({.tekst = weigert ? gelukt : geen,
                           .icoon = QMessageBox::Critical,
                           .alleenBegin = weigert});
-        Klik(Knop("cmdPrintToel"));
-        wachter.Klaar();
+        Opdracht("cmdPrintToel");
         EXPECT_TRUE(venster->isVisible());
         EXPECT_FALSE(std::filesystem::exists(map.Weg() / "toelichting.pdf"));
     }
@@ -170,8 +169,7 @@ TEST_F(frmToelichtingTest, UitZichzelfVraagtHijDeStandaardprinter)
     venster->show();
     wachter.Begin(u"Er is niets geprint: op deze computer is geen printer"_s,
                   QMessageBox::Critical);
-    Klik(Knop("cmdPrintToel"));
-    wachter.Klaar();
+    Opdracht("cmdPrintToel");
     EXPECT_TRUE(venster->isVisible());
 }
 

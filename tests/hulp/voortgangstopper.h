@@ -1,4 +1,4 @@
-// Stops long work as its user does: by a click on the button of the progress window.
+// Works the progress window while the work goes on, such as stopping it by a click on its button.
 #pragma once
 
 #include <QApplication>
@@ -7,16 +7,22 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <functional>
+
 #include "hulp/venstergrepen.h"
 #include "platform/scherm/frmVoortgang.h"
 
 namespace plexoran {
 
-/// As long as it lives the progress window comes at once and shows every step. It clicks when so
-/// many steps were shown; with 0 it only counts them.
+/// As long as it lives the progress window comes at once and shows every step. When so many steps
+/// were shown, it does something with the window once; with 0 it only counts them.
 class Voortgangstopper : public QObject {
   public:
-    explicit Voortgangstopper(int naStappen) : naStappen_(naStappen)
+    using Ingreep = std::function<void(frmVoortgang&)>;
+
+    explicit Voortgangstopper(
+        int naStappen, Ingreep doe = [](frmVoortgang& venster) { Druk(venster, "cmdStop"); })
+        : naStappen_(naStappen), doe_(std::move(doe))
     {
         frmVoortgang::totInBeeld = 0;
         qApp->installEventFilter(this);
@@ -43,14 +49,13 @@ class Voortgangstopper : public QObject {
   private:
     void Stap(frmVoortgang& venster)
     {
-        if (++stappen_ != naStappen_)
-            return;
-        auto* knop = Vind<QPushButton>(venster, "cmdStop");
-        QTimer::singleShot(0, knop, [knop] { QTest::mouseClick(knop, Qt::LeftButton); });
+        if (++stappen_ == naStappen_)
+            QTimer::singleShot(0, &venster, [this, &venster] { doe_(venster); });
     }
 
     int totInBeeld_ = frmVoortgang::totInBeeld;
     int naStappen_;
+    Ingreep doe_;
     int stappen_ = 0;
 };
 

@@ -505,8 +505,7 @@ TEST_F(frmParenOnderhoudTest, EenFoutBijHetOpslaanZetDeParenOpHetKlembord)
         "klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla dat op onder de naam "
         "hieronder.\n\nBestand: C:\\club\\Spelers\\Parenmap\\Gr03-Dinsdag.txt\nMelding van het "
         "systeem: u hebt daar geen rechten voor"_s);
-    Klik(Knop("cmdEinde"));
-    wachter.Klaar();
+    Opdracht("cmdEinde");
     EXPECT_FALSE(venster->isVisible());
     EXPECT_EQ("100001-100002#100004-100005#", QGuiApplication::clipboard()->text().toStdString());
     EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
@@ -520,8 +519,7 @@ TEST_F(frmParenOnderhoudTest, ParenDieErStaanMaarNietVastGaanNietNaarHetKlembord
     QGuiApplication::clipboard()->setText(u"van mij"_s);
     schijf.FaalBij(10);
     VerwachtNietVast(dinsdag);
-    Klik(Knop("cmdEinde"));
-    wachter.Klaar();
+    Opdracht("cmdEinde");
     EXPECT_FALSE(venster->isVisible());
     EXPECT_EQ("van mij", QGuiApplication::clipboard()->text().toStdString());
     EXPECT_EQ("100001-100002#100004-100005#\r\n", geheugen.Inhoud(dinsdag));
@@ -535,8 +533,7 @@ TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
         u"De paren van 'Gr03-A/B' kunnen niet worden opgeslagen, want / kan niet in de naam van "
         "een bestand staan. De paren staan nog op het scherm. Geef de spelers een andere "
         "subgroep, of kies Annuleren om niets op te slaan."_s);
-    Klik(Knop("cmdEinde"));
-    wachter.Klaar();
+    Opdracht("cmdEinde");
     EXPECT_TRUE(venster->isVisible());
     EXPECT_EQ(Teksten{"100007 Haan Gijs          +100008 Iep Han"}, Regels("L3"));
     EXPECT_EQ(std::vector<Pad>(), geheugen.AlleBestanden());
@@ -552,8 +549,7 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatErNietIs)
     Kies("Gr03-Dinsdag");
     MaakPaar(0, 1);
     wachter.Waarschuwing(u"Parenbestand 'Gr03-Dinsdag' bestaat nog niet!"_s);
-    Klik(Knop("cmdVerwParenbest"));
-    wachter.Klaar();
+    Opdracht("cmdVerwParenbest");
     EXPECT_EQ(1U, Regels("L3").size());
     Kies("Gr03-A/B");
     wachter.Waarschuwing(u"Parenbestand 'Gr03-A/B' bestaat nog niet!"_s);
@@ -575,8 +571,7 @@ TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
     EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
     EXPECT_EQ(1U, Regels("L3").size());
     wachter.Verwacht(vraag(u"OK"_s));
-    Klik(Knop("cmdVerwParenbest"));
-    wachter.Klaar();
+    Opdracht("cmdVerwParenbest");
     EXPECT_EQ(std::nullopt, geheugen.Inhoud(dinsdag));
     EXPECT_EQ(Teksten(), Regels("L3"));
     EXPECT_EQ("Aantal paren: 0", Label("Label8"));
@@ -593,8 +588,7 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
     wachter.Begin(u"U gaat Parenbestand Gr03-Dinsdag"_s, QMessageBox::Information);
     wachter.Begin(u"Het parenbestand kon niet worden verwijderd; het is gebleven zoals het was. "
                   "Verhelp de oorzaak en probeer het opnieuw.\n\n"_s);
-    Klik(Knop("cmdVerwParenbest"));
-    wachter.Klaar();
+    Opdracht("cmdVerwParenbest");
     EXPECT_EQ(1U, Regels("L3").size());
     EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
 }
@@ -612,8 +606,7 @@ TEST_F(frmParenOnderhoudTest, DeCSVBestanden)
     opgeslagen("RVDparenCSV1.csv");
     Klik(Knop("cmdPrintVast"));
     opgeslagen("RVDparenCSV2.csv");
-    Klik(Knop("cmdPrintLos"));
-    wachter.Klaar();
+    Opdracht("cmdPrintLos");
     EXPECT_EQ("1;Bea de Cock - An Bos\r\n2;Dirk Eik - \xC9ls \xC4rp\r\n",
               geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV1.csv"));
     EXPECT_EQ("1;Bea de Cock;An Bos\r\n2;Dirk Eik;\xC9ls \xC4rp\r\n",
@@ -632,8 +625,7 @@ TEST_F(frmParenOnderhoudTest, EenCSVDieErStaatMaarNietVastIsOpgeslagen)
     VerwachtNietVast("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv");
     wachter.Begin(u"Het parenbestand 'RVDparenCSV2.csv' is opgeslagen in de map: \r\n\r\n"_s,
                   QMessageBox::Information);
-    Klik(Knop("cmdPrintLos"));
-    wachter.Klaar();
+    Opdracht("cmdPrintLos");
     EXPECT_EQ("1;\xC9ls \xC4rp;An Bos\r\n",
               geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
 }

@@ -84,8 +84,8 @@ TEST_F(ParenbestandTest, DeGroepZonderSubgroepHeeftEenBestandMetAlleenDeCode)
 {
     schijf.Zet("C:\\club\\Spelers\\Parenmap\\Gr07-.txt", "100234-100417#\r\n");
     EXPECT_EQ(Paartekens{"100234-100417"}, Tekens("Gr07-"));
-    ASSERT_TRUE(BewaarParen(schijf, mappen, "Gr07-", std::vector<Tekst>{eenPaar, eenPaar},
-                            Lees("Gr07-")));
+    ASSERT_TRUE(
+        BewaarParen(schijf, mappen, "Gr07-", std::vector<Tekst>{eenPaar, eenPaar}, Lees("Gr07-")));
     EXPECT_EQ("100234-100417#100234-100417#\r\n",
               schijf.Inhoud("C:\\club\\Spelers\\Parenmap\\Gr07-.txt"));
 }
@@ -155,8 +155,7 @@ TEST_F(ParenbestandTest, EenRegelZonderPlusBewaartNiets)
 TEST_F(ParenbestandTest, WatBewaardIsKomtTerug)
 {
     schijf.Zet(gr03, "1002341004170#100301-100222#\r\n");
-    ASSERT_TRUE(Bewaar({"100234 A          +004170 B", "100301 C          +100222 D"},
-                       Lees()));
+    ASSERT_TRUE(Bewaar({"100234 A          +004170 B", "100301 C          +100222 D"}, Lees()));
     EXPECT_EQ((Paartekens{"100234-004170", "100301-100222"}), Tekens());
 }
 
@@ -269,10 +268,11 @@ namespace {
 struct ParenCSVTest : ParenbestandTest {
     [[nodiscard]] Uitkomst<void> SchrijfNaar(Schijf& op, ParenCSV soort)
     {
-        return SchrijfParenCSV(op, mappen,
-                               std::vector<Tekst>{"100001 Bos An          +100002 C\xF4te Fran\xE7ois",
-                                                  "100003 Partner_2          +100001 Bos An"},
-                               tabel, soort);
+        return SchrijfParenCSV(
+            op, mappen,
+            std::vector<Tekst>{"100001 Bos An          +100002 C\xF4te Fran\xE7ois",
+                               "100003 Partner_2          +100001 Bos An"},
+            tabel, soort);
     }
 
     Spelertabel tabel = MaakTabel({{"100001", "Gr03-", "An", "", "Bos", "", ""},

@@ -70,8 +70,7 @@ class frmAfdrukkenTest : public Dialoogproef<frmAfdrukken, Afdrukstand> {
         VerwachtPdf(wachter, bestand, stappen);
         if (melding)
             wachter.Verwacht(*melding);
-        Klik(Knop("cmdPrinten"));
-        wachter.Klaar();
+        Opdracht("cmdPrinten");
         EXPECT_TRUE(venster->isVisible());
         return std::filesystem::exists(bestand) ? LeesPdf(bestand) : std::vector<Pdfblad>();
     }
@@ -481,8 +480,7 @@ TEST_F(frmAfdrukkenTest, HetVoorstelIsDeHeleLijst)
         KiesPdf(dialoog, bestand);
         QTest::keyClick(&dialoog, Qt::Key_Return);
     });
-    Klik(Knop("cmdPrinten"));
-    wachter.Klaar();
+    Opdracht("cmdPrinten");
     const auto bladen = LeesPdf(bestand);
     ASSERT_EQ(4U, bladen.size());
     EXPECT_EQ("v1", bladen[0].Woord("v1").tekst);

@@ -169,8 +169,7 @@ TEST_F(frmPrintIniTest, DeGekozenSchaalGaatMee)
                 EXPECT_EQ(totaal, Vind<QLineEdit>(dialoog, "txtAantPages")->text().toStdString());
                 dialoog.reject();
             });
-            Klik(Knop("cmdOK"));
-            wachter.Klaar();
+            Opdracht("cmdOK");
         }
     }
 }
@@ -296,8 +295,7 @@ TEST_F(BreedteTest, HetVoorbeeldIsZoBreedAlsGezegd)
                 << breed;
             voorbeeld.reject();
         });
-        Klik(Knop("cmdOK"));
-        wachter.Klaar();
+        Opdracht("cmdOK");
     }
 }
 

@@ -1,7 +1,6 @@
 #include "sessions/frmKoppelNBBnr.h"
 
 #include <chrono>
-#include <functional>
 
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
@@ -54,8 +53,7 @@ class Koppelvenster : public Dialoogproef<frmKoppelNBBnr, Suitestand> {
     {
         VerwachtVraag();
         wachter.Informatie(melding);
-        Klik(Knop("cmdStartKoppelen"));
-        wachter.Klaar();
+        Opdracht("cmdStartKoppelen");
     }
     [[nodiscard]] static std::string Zit(const std::string& rest)
     {
@@ -221,8 +219,7 @@ TEST_F(Koppelvenster, KoppelenInEenZitting)
     EXPECT_EQ("100084    Jørgen Sørensgaard", Vak("txtRVDspeler"));
 
     VerwachtVraag(u"Annuleren"_s);
-    Klik(Knop("cmdStartKoppelen"));
-    wachter.Klaar();
+    Opdracht("cmdStartKoppelen");
     EXPECT_EQ(spelers, suite.Inhoud(Zit("Spelers.txt")));
     EXPECT_EQ("als O02    Jørgen Sørensgaard", Vak("txtSpeler"));
 
@@ -319,8 +316,7 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
             pad("Ronde-1/Zitting-1/Spelers.txt"), pad("Ronde-1/Zitting-1/PercZit-1.txt"),
             pad("Ronde-2/Zitting-3/Spelers.txt"), pad("Ronde-2/Zitting-3/PercZit-3.txt")),
         QMessageBox::Critical);
-    Klik(Knop("cmdStartKoppelen"));
-    wachter.Klaar();
+    Opdracht("cmdStartKoppelen");
     EXPECT_EQ(regels, Regels("lstSpelers").size());
     EXPECT_TRUE(
         Label("lblResultaat")
@@ -438,46 +434,21 @@ TEST_F(Koppelvenster, MetHetToetsenbord)
     EXPECT_FALSE(venster->isVisible());
 }
 
-namespace {
-
-/// Does something once with the progress window, as soon as that is in sight.
-class Voortgangkijker {
-  public:
-    explicit Voortgangkijker(std::function<void(frmVoortgang&)> doe)
-    {
-        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, doe = std::move(doe)] {
-            auto* voortgang = qobject_cast<frmVoortgang*>(QApplication::activeModalWidget());
-            if (voortgang == nullptr)
-                return;
-            gezien = Vind<QLabel>(*voortgang, "lblTekst")->text().toStdString();
-            timer_.stop();
-            doe(*voortgang);
-        });
-        timer_.start(0);
-    }
-
-    std::string gezien; ///< its text
-
-  private:
-    const Voortgangstopper meteenInBeeld_{0};
-    QTimer timer_;
-};
-
-} // namespace
-
 /// Files are not searched twice at a time, nor without the window.
 TEST_F(Koppelvenster, ZoekenToontVoortgangEnIsTeStoppen)
 {
     KiesCompetities();
-    const Voortgangkijker kijker([this](frmVoortgang& voortgang) {
+    std::string gezien;
+    const Voortgangstopper stopper(1, [&](frmVoortgang& voortgang) {
+        gezien = Vind<QLabel>(voortgang, "lblTekst")->text().toStdString();
         QTest::mouseClick(
             venster->windowHandle(), Qt::LeftButton, {},
             Knop("cmdEinde")->mapTo(venster.get(), Knop("cmdEinde")->rect().center()));
         EXPECT_TRUE(venster->isVisible());
-        Klik(Vind<QPushButton>(voortgang, "cmdStop"));
+        Druk(voortgang, "cmdStop");
     });
     ASSERT_NO_FATAL_FAILURE(Zoek(Najaar));
-    EXPECT_EQ("De zwevende spelers worden gezocht ...", kijker.gezien);
+    EXPECT_EQ("De zwevende spelers worden gezocht ...", gezien);
     EXPECT_EQ("Het zoeken is gestopt: niet alle zittingen zijn doorzocht.", Label("lblResultaat"));
     EXPECT_EQ(nullptr, QApplication::activeModalWidget());
     EXPECT_TRUE(Knop("cmdZoekNamen")->isEnabled());
@@ -490,13 +461,15 @@ TEST_F(Koppelvenster, KoppelenToontVoortgangMaarStoptNiet)
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
     KiesZwevende("als O02    J");
     KiesSpeler("100084");
-    const Voortgangkijker kijker([](frmVoortgang& voortgang) {
+    std::string gezien;
+    const Voortgangstopper kijker(1, [&](frmVoortgang& voortgang) {
+        gezien = Vind<QLabel>(voortgang, "lblTekst")->text().toStdString();
         EXPECT_EQ(nullptr, voortgang.findChild<QPushButton*>());
         voortgang.close();
         EXPECT_TRUE(voortgang.isVisible());
     });
     Koppel(u"Speler Jørgen Sørensgaard is gekoppeld."_s);
-    EXPECT_EQ("De speler wordt gekoppeld ...", kijker.gezien);
+    EXPECT_EQ("De speler wordt gekoppeld ...", gezien);
 }
 
 #ifndef _WIN32

@@ -65,7 +65,8 @@ bool HeeftOpschrift(QAccessibleInterface* deel)
 {
     const auto banden = deel->relations(QAccessible::Label);
     return std::any_of(banden.begin(), banden.end(), [](const auto& band) {
-        return qobject_cast<const QLabel*>(band.first->object()) != nullptr;
+        const auto* label = qobject_cast<const QLabel*>(band.first->object());
+        return label != nullptr && !label->text().isEmpty();
     });
 }
 

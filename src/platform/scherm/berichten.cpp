@@ -272,9 +272,8 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap
     setWindowTitle(titel);
     auto* txtBericht = MaakLeesvak(u"txtBericht"_s, titel, tekst, this);
     txtBericht->setLineWrapMode(QPlainTextEdit::NoWrap);
-    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this);
+    auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this, &QDialog::accept);
     cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     auto* lagen = new QVBoxLayout(this);
     auto* boven = new QHBoxLayout;
     if (!icoon.isNull()) {

@@ -101,6 +101,15 @@ class Kortlabel : public QLabel {
     knop->setAutoDefault(false);
     return knop;
 }
+/// One that makes its window do something.
+template <class Venster, class Opdracht>
+[[nodiscard]] QPushButton* MaakKnop(const QString& naam, const QString& tekst, char16_t letter,
+                                    Venster* venster, Opdracht opdracht)
+{
+    auto* knop = MaakKnop(naam, tekst, letter, venster);
+    QObject::connect(knop, &QPushButton::clicked, venster, opdracht);
+    return knop;
+}
 
 [[nodiscard]] inline QRadioButton* MaakOptie(const QString& naam, const QString& tekst,
                                              char16_t letter, QWidget* ouder)
@@ -116,6 +125,13 @@ class Kortlabel : public QLabel {
     Noem(label, naam);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+inline void MaakVet(QLabel* label)
+{
+    QFont vet = label->font();
+    vet.setBold(true);
+    label->setFont(vet);
 }
 
 /// A text to read: it scrolls, and can be selected and copied by mouse and keyboard.
