@@ -60,13 +60,15 @@ bool HeeftNaam(QAccessibleInterface* deel)
     return !naam.isEmpty() && (kader == nullptr || naam != kader->title());
 }
 
-/// Whether a label stands for it. Of a drop-down some assistive programs do not hear the name.
+/// Whether a label stands for it that says something, as all do but that of M/V, beside which the
+/// options do. Of a drop-down some assistive programs do not hear the name.
 bool HeeftOpschrift(QAccessibleInterface* deel)
 {
     const auto banden = deel->relations(QAccessible::Label);
-    return std::any_of(banden.begin(), banden.end(), [](const auto& band) {
+    return std::any_of(banden.begin(), banden.end(), [deel](const auto& band) {
         const auto* label = qobject_cast<const QLabel*>(band.first->object());
-        return label != nullptr && !label->text().isEmpty();
+        const bool geslacht = deel->object()->objectName() == "txt1_13"_L1;
+        return label != nullptr && (geslacht || !label->text().isEmpty());
     });
 }
 
