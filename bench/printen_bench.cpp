@@ -8,7 +8,7 @@
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "platform/scherm/schildervlak.h"
-#include "platform/tekst/tekstorde.h"
+#include "platform/tekst/tekst.h"
 #include "printing/printblad.h"
 #include "register/spelerbestand.h"
 

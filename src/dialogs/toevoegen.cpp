@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/schijf/heelschrijven.h"
+#include "platform/schijf/schijf.h"
 #include "platform/tekst/regels.h"
 #include "platform/tekst/tekst.h"
-#include "platform/tekst/tekstorde.h"
 #include "sessions/sessiemappen.h"
 
 namespace plexoran {

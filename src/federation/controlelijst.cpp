@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/tekst/tekstorde.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {
@@ -50,10 +50,8 @@ Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep)
 
 std::vector<Controleregel> OpNaam(std::vector<Controleregel> lstN9)
 {
-    std::stable_sort(lstN9.begin(), lstN9.end(),
-                     [](const Controleregel& een, const Controleregel& ander) {
-                         return KomtVoor(een.Naam(), ander.Naam());
-                     });
+    std::ranges::stable_sort(
+        lstN9, {}, [](const Controleregel& regel) { return Sorteersleutel(regel.Naam()); });
     return lstN9;
 }
 

@@ -1,6 +1,5 @@
 #include "federation/ledencsv.h"
 
-#include "platform/schijf/heelschrijven.h"
 #include "platform/tekst/regels.h"
 
 namespace plexoran {
@@ -100,7 +99,7 @@ void VoegLidToe(Tekst& regels, const Lidrij& lid)
 Uitkomst<void> SchrijfTussenregels(Schijf& schijf, const Pad& pad, Tekst regels)
 {
     regels += "\r\n";
-    return SchrijfVluchtig(schijf, pad, regels);
+    return SchrijfHeel(schijf, pad, regels, Houdbaarheid::Vluchtig);
 }
 
 Uitkomst<Ledenlezing> LeesLedencsv(Tekstblik tekst, const Importkeuzes& keuzes,

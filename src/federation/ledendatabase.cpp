@@ -4,7 +4,6 @@
 
 #include "federation/ledencsv.h"
 #include "platform/tekst/tekst.h"
-#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {
@@ -83,9 +82,8 @@ Lidrij AlsLid(const Accessrij& rij, std::size_t& vervangen)
 std::vector<Accessrij> Gekozen(std::vector<Accessrij> rijen, const Tekst& bestand)
 {
     std::erase_if(rijen, [&](const Accessrij& rij) { return !DoetMee(rij, bestand); });
-    std::stable_sort(rijen.begin(), rijen.end(), [](const Accessrij& een, const Accessrij& ander) {
-        return KomtVoor(een[Achternaam]->tekst, ander[Achternaam]->tekst);
-    });
+    std::ranges::stable_sort(
+        rijen, {}, [](const Accessrij& rij) { return Sorteersleutel(rij[Achternaam]->tekst); });
     return rijen;
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "federation/ledenbronnen.h"
-#include "platform/tekst/tekstorde.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 

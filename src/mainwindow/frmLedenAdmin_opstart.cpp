@@ -9,7 +9,6 @@
 #include "pairs/parenbestand.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
-#include "platform/schijf/heelschrijven.h"
 #include "register/reservekopie.h"
 
 namespace plexoran {

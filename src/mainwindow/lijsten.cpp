@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "platform/tekst/tekst.h"
-#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

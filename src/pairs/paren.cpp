@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "platform/tekst/tekstorde.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

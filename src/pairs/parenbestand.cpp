@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "pairs/paarregel.h"
-#include "platform/schijf/heelschrijven.h"
+#include "platform/schijf/schijf.h"
 #include "platform/tekst/regels.h"
 #include "register/reservekopie.h"
 

@@ -8,7 +8,6 @@
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/printer.h"
-#include "platform/schijf/klok.h"
 #include "register/groepen.h"
 
 namespace plexoran {
@@ -49,7 +48,7 @@ Printlijst MaakLijst(const Administratie& administratie, Afdruk afdruk, const Le
             .indeling = std::move(indeling),
             .groeptekst = std::move(afdruk.groeptekst),
             .subgroepkop = std::move(afdruk.subgroepkop),
-            .datum = Dagtekening(),
+            .datum = Tijdtekst("dd-MM-yyyy"),
             .programma = administratie.mappen.APPEXE};
 }
 

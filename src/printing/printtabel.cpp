@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/tekst/tekstorde.h"
+#include "platform/tekst/tekst.h"
 #include "register/waardenlijst.h"
 
 namespace plexoran {

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/schijf/heelschrijven.h"
-#include "platform/schijf/klok.h"
 #include "platform/tekst/regels.h"
 
 namespace plexoran {
@@ -13,7 +11,7 @@ Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
 {
     const Tekst naam = bestand.substr(bestand.rfind('\\') + 1);
     const auto punt = std::min(naam.rfind('.'), naam.size());
-    const Pad basis = Samen(kopiemap, naam.substr(0, punt) + " " + Tijdstempel());
+    const Pad basis = Samen(kopiemap, naam.substr(0, punt) + " " + Tijdtekst("yyyy-MM-dd HHmmss"));
     const Tekst soort = naam.substr(punt);
     Pad pad = basis + soort;
     for (int volgnummer = 2;; ++volgnummer) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/schijf/heelschrijven.h"
+#include "platform/schijf/schijf.h"
 #include "platform/tekst/regels.h"
 #include "platform/tekst/tekst.h"
 #include "register/groepen.h"

@@ -8,7 +8,6 @@
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/frmVoortgang.h"
-#include "platform/schijf/klok.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {
@@ -72,8 +71,9 @@ void frmKoppelNBBnr::KiesSoort()
         namen.push_back(sessie.naam);
     VulKeus(*cmbC, namen);
     for (int i = 0; i < cmbC->count(); ++i)
-        cmbC->setItemData(i, NaarQString(Datum(sessies_[static_cast<std::size_t>(i)].tijd)),
-                          Qt::ToolTipRole);
+        cmbC->setItemData(
+            i, NaarQString(Tijdtekst("yyyy-MM-dd", sessies_[static_cast<std::size_t>(i)].tijd)),
+            Qt::ToolTipRole);
     cmbC->setToolTip(cmbC->currentData(Qt::ToolTipRole).toString());
     VergeetGevonden();
     MeldOvergeslagen(this, administratie_.schijf, competities ? mappen.COMMAP : mappen.ZITMAP);

@@ -4,8 +4,8 @@
 #include <array>
 #include <map>
 
-#include "platform/schijf/heelschrijven.h"
-#include "platform/tekst/tekstorde.h"
+#include "platform/schijf/schijf.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

@@ -3,7 +3,6 @@
 #include <set>
 
 #include "platform/tekst/tekst.h"
-#include "platform/tekst/tekstorde.h"
 
 namespace plexoran {
 namespace {

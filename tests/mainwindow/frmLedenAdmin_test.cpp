@@ -11,7 +11,6 @@
 #include "hulp/printdialoog.h"
 #include "mainwindow/vensterproef.h"
 #include "platform/scherm/regellijst.h"
-#include "platform/schijf/klok.h"
 
 using namespace plexoran;
 
@@ -407,7 +406,7 @@ TEST_F(HoofdvensterTest, DeGetoondeGroepPrinten)
 {
     const std::string spelers = suite.Spelers();
     const auto bestand = suite.Weg() / "lijst.pdf";
-    const Tekst vandaag = Dagtekening();
+    const Tekst vandaag = Tijdtekst("dd-MM-yyyy");
     wachter.Bedien([](QDialog& keuze) {
         auto* kolommen = Vind<Regellijst>(keuze, "lstKeus");
         EXPECT_EQ("(kolom 18)", kolommen->Regel(14));
@@ -437,7 +436,7 @@ TEST_F(HoofdvensterTest, DeGetoondeGroepPrinten)
         EXPECT_NE(std::string::npos, tekst.find(deel)) << deel;
     EXPECT_EQ(std::string::npos, tekst.find("Stoffelsen")); // of B-LIJN
     EXPECT_TRUE(tekst.find(vandaag) != std::string::npos ||
-                tekst.find(Dagtekening()) != std::string::npos);
+                tekst.find(Tijdtekst("dd-MM-yyyy")) != std::string::npos);
     EXPECT_EQ(spelers, suite.Spelers());
 }
 

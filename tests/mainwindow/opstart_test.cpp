@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "mainwindow/opstartproef.h"
-#include "platform/schijf/heelschrijven.h"
 #include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
@@ -252,7 +251,7 @@ TEST_F(Opstartproef, WatEenAfgebrokenOpslagLietWordtNaEenUurOpgeruimd)
         geheugen.ZetMap(doel.substr(0, doel.rfind('\\')));
         FalendeSchijf gedood(geheugen);
         gedood.FaalVanaf(5);
-        ASSERT_FALSE(SchrijfVluchtig(gedood, doel, "06-00000000"));
+        ASSERT_FALSE(SchrijfHeel(gedood, doel, "06-00000000", Houdbaarheid::Vluchtig));
         const auto resten = [&] {
             auto namen = geheugen.AlleBestanden();
             std::erase_if(namen, [&](const Pad& pad) { return !pad.starts_with(doel + ".~"); });

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
-#include "platform/tekst/tekstorde.h"
+#include "platform/tekst/tekst.h"
 
 using namespace plexoran;
 

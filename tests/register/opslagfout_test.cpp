@@ -4,7 +4,6 @@
 #include <set>
 
 #include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/tijdelijkeMap.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"

@@ -5,7 +5,6 @@
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/voortgangstopper.h"
-#include "platform/schijf/klok.h"
 #include "register/spelerbestand.h"
 
 using namespace plexoran;
@@ -127,13 +126,14 @@ TEST_F(Koppelvenster, DeZittingenEnDeCompetitiesMetHunDatum)
     EXPECT_EQ("Kies een Competitie", Label("Label4"));
     EXPECT_EQ("Zoek de zwevende spelers in deze Competitie", Opschrift(Knop("cmdZoekNamen")));
     EXPECT_EQ((Teksten{"Laddercompetitie", "Najaarscompetitie 2024"}), Keuzes(Keus()));
-    EXPECT_EQ(Datum(Nu()), Keus()->itemData(0, Qt::ToolTipRole).toString().toStdString());
+    EXPECT_EQ(Tijdtekst("yyyy-MM-dd"),
+              Keus()->itemData(0, Qt::ToolTipRole).toString().toStdString());
     Deel<QRadioButton>("Option1")->click();
     constexpr std::int64_t dag = 86'400'000'000'000;
-    EXPECT_EQ(Datum(Nu() - 400 * dag),
+    EXPECT_EQ(Tijdtekst("yyyy-MM-dd", Nu() - 400 * dag),
               Keus()->itemData(3, Qt::ToolTipRole).toString().toStdString());
     Keus()->setCurrentIndex(3);
-    EXPECT_EQ(Datum(Nu() - 400 * dag), Keus()->toolTip().toStdString());
+    EXPECT_EQ(Tijdtekst("yyyy-MM-dd", Nu() - 400 * dag), Keus()->toolTip().toStdString());
 }
 
 TEST_F(Koppelvenster, ZonderZittingenEnCompetities)

@@ -17,7 +17,6 @@
 #include "platform/scherm/maten.h"
 #include "platform/scherm/schildervlak.h"
 #include "platform/scherm/tekstbrug.h"
-#include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/programma.h"
 
 namespace plexoran {

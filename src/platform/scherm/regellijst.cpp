@@ -11,7 +11,7 @@
 
 #include "platform/scherm/bouwstenen.h"
 #include "platform/tekst/tekenvlak.h"
-#include "platform/tekst/tekstorde.h"
+#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

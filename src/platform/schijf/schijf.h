@@ -1,6 +1,5 @@
 // The disk as the house sees it: whole files read at once, and the single steps of which a durable
-// save is made (platform/schijf/heelschrijven.h). Every step can fail and says so, so that a test
-// can make each of them fail.
+// save is made. Every step can fail and says so, so that a test can make each of them fail.
 #pragma once
 
 #include <cstdint>
@@ -97,5 +96,29 @@ class Schijf {
 
 /// The same, or nothing where there is no file of that name.
 [[nodiscard]] Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad);
+
+enum class Houdbaarheid {
+    Blijvend, ///< survives a loss of power as soon as it is written
+    Vluchtig, ///< needed only until the program ends: after a loss of power it may be neither
+};
+
+/// Writes a file whole, so that at every moment the disk holds either the old file or the new one.
+/// Makes a temporary file in the same folder with the old file's rights, writes and syncs it,
+/// renames it over the old file and syncs the folder; without the syncs where it is `Vluchtig`.
+/// Where `pad` is a link, the file it leads to is the one that is replaced. On any failure before
+/// the rename the temporary file is removed and the old file untouched. A failing folder sync, the
+/// last step, is reported as `NietVast`.
+[[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
+                                         Houdbaarheid houdbaarheid = Houdbaarheid::Blijvend);
+
+/// Nanoseconds since 1970, as files are stamped.
+[[nodiscard]] std::int64_t Nu();
+
+/// A stamp in local time, in a form of QDateTime such as "yyyy-MM-dd HHmmss".
+[[nodiscard]] Tekst Tijdtekst(const char* vorm, std::int64_t tijd = Nu());
+
+/// Removes what killed saves of any file left more than an hour ago in the folder in which a save
+/// of `naam` in `map` works; nothing when `map` is empty. Failures do no harm and are passed over.
+void RuimTijdelijkeOp(Schijf& schijf, const Pad& map, Tekstblik naam, std::int64_t nu = Nu());
 
 } // namespace plexoran

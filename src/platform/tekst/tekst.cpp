@@ -1,31 +1,11 @@
 #include "platform/tekst/tekst.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
+#include <utility>
 
 namespace plexoran {
 namespace {
-
-constexpr std::array<unsigned char, 256> MaakHoofdlettertabel()
-{
-    std::array<unsigned char, 256> tabel{};
-    for (unsigned i = 0; i < 256; ++i) {
-        unsigned hoofdletter = i;
-        const bool gewoon = i >= 'a' && i <= 'z';
-        const bool metTeken = i >= 0xE0 && i <= 0xFE && i != 0xF7; // 0xF7 is the division sign
-        if (gewoon || metTeken)
-            hoofdletter = i - 0x20;
-        else if (i == 0x9A || i == 0x9C || i == 0x9E) // s caron, oe, z caron
-            hoofdletter = i - 0x10;
-        else if (i == 0xFF) // y diaeresis
-            hoofdletter = 0x9F;
-        tabel[i] = static_cast<unsigned char>(hoofdletter);
-    }
-    return tabel;
-}
-
-constexpr auto hoofdlettertabel = MaakHoofdlettertabel();
 
 /// Takes the digits at the beginning off the text.
 Tekstblik NeemCijfers(Tekstblik& tekst)
@@ -71,11 +51,37 @@ template <class Int> std::optional<Int> Passend(Tekstblik tekst)
     return static_cast<Int>(*waarde);
 }
 
+/// The letters that a character counts as; empty for what is none.
+Tekst Letters(char teken)
+{
+    /// The plain capitals that 0xC0 to 0xDD count as; a blank where they are none, or two.
+    constexpr Tekstblik kaleHoofdletters = "AAAAAA CEEEEIIIIDNOOOOO OUUUUY";
+    constexpr std::pair<char, const char*> andere[] = {
+        {'\xC6', "AE"}, {'\x8C', "OE"}, {'\xDF', "SS"}, {'\xDE', "TH"},
+        {'\x8A', "S"},  {'\x8E', "Z"},  {'\x9F', "Y"}};
+
+    const char hoofdletter = Hoofdletter(teken);
+    for (const auto& [ander, letters] : andere) {
+        if (hoofdletter == ander)
+            return letters;
+    }
+    const auto na = static_cast<std::size_t>(static_cast<unsigned char>(hoofdletter)) - 0xC0U;
+    const char letter = na < kaleHoofdletters.size() ? kaleHoofdletters[na] : hoofdletter;
+    return letter >= 'A' && letter <= 'Z' ? Tekst(1, letter) : Tekst();
+}
+
 } // namespace
 
 char Hoofdletter(char teken)
 {
-    return static_cast<char>(hoofdlettertabel[static_cast<unsigned char>(teken)]);
+    const auto code = static_cast<unsigned char>(teken);
+    const bool gewoon = code >= 'a' && code <= 'z';
+    const bool metTeken = code >= 0xE0 && code <= 0xFE && code != 0xF7; // 0xF7: division sign
+    if (gewoon || metTeken)
+        return static_cast<char>(code - 0x20);
+    if (code == 0x9A || code == 0x9C || code == 0x9E) // s caron, oe, z caron
+        return static_cast<char>(code - 0x10);
+    return code == 0xFF ? '\x9F' : teken; // y diaeresis
 }
 
 Tekst Hoofdletters(Tekstblik tekst)
@@ -165,6 +171,31 @@ std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte)
     Tekst uit(breedte - std::min(breedte, cijfers.size()), '0');
     uit += cijfers;
     return uit;
+}
+
+void Sorteer(std::vector<Tekst>& teksten)
+{
+    std::ranges::transform(teksten, teksten.begin(), Sorteersleutel);
+    std::ranges::sort(teksten);
+    for (Tekst& sleutel : teksten)
+        sleutel.erase(0, sleutel.find('\0') + 1);
+}
+
+Tekst Sorteersleutel(Tekstblik tekst)
+{
+    // A sort before each weight, of which 0 is kept for the end: it comes before all that goes on.
+    enum : char { Einde, Blank, Leesteken, Cijfer, Letter };
+    Tekst sleutel;
+    for (const char teken : tekst) {
+        const Tekst letters = Letters(teken);
+        for (const char deel : letters)
+            (sleutel += Letter) += deel;
+        if (teken == ' ')
+            sleutel += Blank;
+        else if (letters.empty())
+            (sleutel += IsCijfer(teken) ? Cijfer : Leesteken) += static_cast<char>(teken + 1);
+    }
+    return (sleutel += Einde) += tekst;
 }
 
 } // namespace plexoran

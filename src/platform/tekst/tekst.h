@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace plexoran {
 
@@ -56,5 +57,16 @@ void VoegVeldToe(Tekst& uit, Tekstblik tekst);
 /// A text of digits, outer spaces apart, as a number of at least `breedte` digits with leading
 /// zeros. Nothing for any other text.
 [[nodiscard]] std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte);
+
+// The one text order of the house, the same on every system: character by character, blank before
+// other signs (by code) before digits before letters; letters without regard to case or accent (Æ
+// as AE, Œ as OE, ß as SS, Ø as O, Þ as TH). Texts that are equal so far are ordered by their
+// bytes, so that the order is total.
+
+void Sorteer(std::vector<Tekst>& teksten);
+
+/// A key that compares byte by byte as its text compares in the text order. Up to its first null
+/// byte it is equal for texts that differ in case or accent only.
+[[nodiscard]] Tekst Sorteersleutel(Tekstblik tekst);
 
 } // namespace plexoran

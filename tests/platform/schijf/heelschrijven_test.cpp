@@ -1,4 +1,4 @@
-#include "platform/schijf/heelschrijven.h"
+#include "platform/schijf/schijf.h"
 
 #include <limits>
 
@@ -95,14 +95,15 @@ TEST(VluchtigSchrijven, FaaltBijElkeStap)
     for (int stap = 1; stap <= duurzaam - 2; ++stap) {
         binnen.Zet(bestand, "oud");
         schijf.FaalBij(stap);
-        const auto uitkomst = SchrijfVluchtig(schijf, bestand, "nieuw");
+        const auto uitkomst = SchrijfHeel(schijf, bestand, "nieuw", Houdbaarheid::Vluchtig);
         ASSERT_FALSE(uitkomst) << "stap " << stap;
         EXPECT_EQ(uitkomst.error().bestand, bestand);
         EXPECT_EQ(binnen.Inhoud(bestand), "oud") << "stap " << stap;
         EXPECT_EQ(binnen.AlleBestanden(), Namen{bestand}) << "stap " << stap;
     }
     schijf.FaalBij(duurzaam - 1);
-    ASSERT_TRUE(SchrijfVluchtig(schijf, bestand, "nieuw")) << "twee stappen minder";
+    ASSERT_TRUE(SchrijfHeel(schijf, bestand, "nieuw", Houdbaarheid::Vluchtig))
+        << "twee stappen minder";
     EXPECT_EQ(binnen.Inhoud(bestand), "nieuw");
 }
 

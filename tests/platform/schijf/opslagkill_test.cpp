@@ -8,7 +8,6 @@
 
 #include "hulp/kill.h"
 #include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/tijdelijkeMap.h"
 
 using namespace plexoran;

@@ -1,7 +1,7 @@
 #include <algorithm>
+#include <chrono>
 
 #include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/heelschrijven.h"
 #include "platform/schijf/tijdelijkeMap.h"
 #include "schijven/falendeSchijf.h"
 #include "schijven/geheugenSchijf.h"
@@ -508,6 +508,18 @@ TEST_F(EchteSchijfTest, NamenDieBuitenDeMapWijzenStaanNietInDeLijst)
 }
 
 #endif
+
+// ---- Time --------------------------------------------------------------------------------------
+
+TEST(Tijdtekst, EenStempelInDezeVorm)
+{
+    // Noon, so that the date is the same in every time zone but the outermost.
+    EXPECT_EQ("2024-02-29", Tijdtekst("yyyy-MM-dd", 1'709'208'000'000'000'000));
+    EXPECT_EQ("31-12-1999", Tijdtekst("dd-MM-yyyy", 946'641'600'999'999'999));
+    const auto nu = std::chrono::system_clock::now().time_since_epoch();
+    EXPECT_NEAR(static_cast<double>(std::chrono::nanoseconds(nu).count()),
+                static_cast<double>(Nu()), 1e9);
+}
 
 // ---- The disks for tests ---------------------------------------------------------------------
 
