@@ -1,7 +1,6 @@
 #include "dialogs/diaKopieer.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/schuifblad.h"
@@ -14,8 +13,7 @@ diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
 {
     setObjectName(u"diaKopieer"_s);
     setWindowTitle(u"Kopieer speler(s) naar een andere groep"_s);
-    auto* Frame1 = new QGroupBox(u"Spelers kopiëren"_s, this);
-    Noem(Frame1, u"Frame1"_s);
+    auto* Frame1 = MaakKader(u"Frame1"_s, u"Spelers kopiëren"_s, this);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Kopieer"_s, u'K', this, &QDialog::accept);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &QDialog::reject);
     keus_ = new Spelerkeus(administratie_.spelers.tabel, cmdOK, Frame1);

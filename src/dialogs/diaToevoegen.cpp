@@ -1,7 +1,6 @@
 #include "dialogs/diaToevoegen.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -38,8 +37,7 @@ diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
         MaakVet(waarschuwing);
         lagen->addWidget(waarschuwing);
     }
-    auto* Frame1 = new QGroupBox(this);
-    Noem(Frame1, u"Frame1"_s);
+    auto* Frame1 = MaakKader(u"Frame1"_s, QString(), this);
     BouwKader(Frame1);
     lagen->addWidget(Frame1, 1);
     OKButton = MaakKnop(u"OKButton"_s, u"Klaar en opslaan"_s, u'K', this, &QDialog::accept);

@@ -1,7 +1,5 @@
 #include "dialogs/diaVerplaats.h"
 
-#include <QGroupBox>
-
 #include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
@@ -11,8 +9,7 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
 {
     setObjectName(u"diaVerplaats"_s);
     setWindowTitle(u"Verplaats speler(s) naar een andere groep"_s);
-    auto* Frame1 = new QGroupBox(this);
-    Noem(Frame1, u"Frame1"_s);
+    auto* Frame1 = MaakKader(u"Frame1"_s, QString(), this);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Verplaats"_s, u'V', this, &QDialog::accept);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &QDialog::reject);
     const auto label = [&](const QString& naam, const QString& tekst) {

@@ -1,7 +1,6 @@
 #include "dialogs/frmVerwSubgroep.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,8 +33,7 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
 {
     setObjectName(u"frmVerwSubgroep"_s);
     setWindowTitle(u"Verwijderen van een subgroep"_s);
-    auto* frame1 = new QGroupBox(this);
-    Noem(frame1, u"frame1"_s);
+    auto* frame1 = MaakKader(u"frame1"_s, QString(), this);
     const auto label = [&](const QString& naam, const QString& tekst) {
         return MaakLabel(naam, tekst, frame1);
     };

@@ -1,6 +1,5 @@
 #include "federation/diaRekProgkeus.h"
 
-#include <QGroupBox>
 #include <QVBoxLayout>
 
 #include "platform/scherm/bouwstenen.h"
@@ -11,8 +10,7 @@ diaRekProgkeus::diaRekProgkeus(QWidget* ouder) : QDialog(ouder)
 {
     setObjectName(u"diaRekProgkeus"_s);
     setWindowTitle(u"Maak een keus"_s);
-    auto* Frame1 = new QGroupBox(this);
-    Noem(Frame1, u"Frame1"_s, u"Rekenprogramma"_s);
+    auto* Frame1 = MaakKader(u"Frame1"_s, QString(), this, u"Rekenprogramma"_s);
     auto* Option1 = MaakOptie(u"Option1"_s, u"NBB-Rekenprogamma"_s, u'N', Frame1);
     auto* Option2 = MaakOptie(u"Option2"_s, u"Bridge-It"_s, u'B', Frame1);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this, &QDialog::accept);

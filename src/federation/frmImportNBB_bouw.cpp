@@ -1,6 +1,5 @@
 // Building the import window, and its help: how members leave the scoring programs.
 #include <QGridLayout>
-#include <QGroupBox>
 
 #include "federation/frmImportNBB.h"
 #include "platform/scherm/berichten.h"
@@ -133,8 +132,7 @@ void frmImportNBB::Bouw()
 
 QWidget* frmImportNBB::BouwBronnen()
 {
-    auto* Frame3 = new QGroupBox(u"Haal de spelers op:"_s, this);
-    Noem(Frame3, u"Frame3"_s);
+    auto* Frame3 = MaakKader(u"Frame3"_s, u"Haal de spelers op:"_s, this);
     auto* lagen = new QVBoxLayout(Frame3);
     lagen->setSpacing(2);
     const auto keus = [&](Ledenbron bron, const QString& naam, const QString& tekst,
@@ -174,10 +172,8 @@ QWidget* frmImportNBB::BouwBronnen()
 
 QWidget* frmImportNBB::BouwGegevens()
 {
-    auto* Frame1 = new QGroupBox(u"Spelergegevens importeren"_s, this);
-    Noem(Frame1, u"Frame1"_s);
-    auto* Frame2 = new QGroupBox(u"Naar keus inclusief:"_s, Frame1);
-    Noem(Frame2, u"Frame2"_s);
+    auto* Frame1 = MaakKader(u"Frame1"_s, u"Spelergegevens importeren"_s, this);
+    auto* Frame2 = MaakKader(u"Frame2"_s, u"Naar keus inclusief:"_s, Frame1);
     chkNAW = MaakVink(u"chkNAW"_s, u"NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"_s, u'N',
                       Frame2);
     chkTel = MaakVink(u"chkTel"_s, u"Telefoonnr"_s, u'f', Frame2);

@@ -71,8 +71,7 @@ QVBoxLayout* MaakKolom(std::initializer_list<QWidget*> delen)
 /// A frame named `naam` around what the grid in it holds.
 QGridLayout* MaakVakken(const QString& naam, const QString& opschrift, QWidget* ouder)
 {
-    auto* kader = new QGroupBox(opschrift, ouder);
-    Noem(kader, naam);
+    auto* kader = MaakKader(naam, opschrift, ouder);
     auto* vakken = new QGridLayout(kader);
     vakken->setContentsMargins(8, 4, 8, 6);
     vakken->setVerticalSpacing(3);

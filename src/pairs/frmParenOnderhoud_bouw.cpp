@@ -78,8 +78,7 @@ QLayout* frmParenOnderhoud::BouwKeuze()
 QGroupBox* frmParenOnderhoud::BouwSamenstelling()
 {
     auto* Frame1 =
-        new QGroupBox(u"Samenstelling of ontbinden van paren tbv RVD en Ranking"_s, this);
-    Noem(Frame1, u"Frame1"_s);
+        MaakKader(u"Frame1"_s, u"Samenstelling of ontbinden van paren tbv RVD en Ranking"_s, this);
     auto* vakken = new QGridLayout(Frame1);
     const auto label = [&](const QString& naam, const QString& tekst, int rij, int kolom,
                            int kolommen = 1) {
@@ -139,8 +138,7 @@ QLayout* frmParenOnderhoud::BouwMidden()
 
 QGroupBox* frmParenOnderhoud::BouwCSVKader()
 {
-    auto* Frame2 = new QGroupBox(u"Paren opslaan als CSV-bestand"_s, this);
-    Noem(Frame2, u"Frame2"_s);
+    auto* Frame2 = MaakKader(u"Frame2"_s, u"Paren opslaan als CSV-bestand"_s, this);
     auto* vakken = new QGridLayout(Frame2);
     const auto label = [&](const QString& naam, const QString& tekst, int rij, int kolom) {
         vakken->addWidget(MaakLabel(naam, tekst, Frame2), rij, kolom);

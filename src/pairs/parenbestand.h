@@ -1,6 +1,5 @@
-// The files with pairs (docs/bestanden.md): one per group-subgroup, the suite-wide "RVDparen.txt",
-// and those for a spreadsheet. A token is a pair in the former: thirteen characters, a key, "-" and
-// a key.
+// The files with pairs (docs/bestanden.md). A token is two keys, as all but those for a spreadsheet
+// have a pair.
 #pragma once
 
 #include <optional>

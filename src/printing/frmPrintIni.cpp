@@ -1,6 +1,5 @@
 #include "printing/frmPrintIni.h"
 
-#include <QGroupBox>
 #include <QVBoxLayout>
 
 #include "platform/scherm/berichten.h"
@@ -82,8 +81,7 @@ Regellijst* frmPrintIni::MaakLijst(const QString& naam, QLabel* label)
 
 QGroupBox* frmPrintIni::BouwKolommen()
 {
-    auto* Frame1 = new QGroupBox(u"Welke kolommen te printen"_s, this);
-    Noem(Frame1, u"Frame1"_s);
+    auto* Frame1 = MaakKader(u"Frame1"_s, u"Welke kolommen te printen"_s, this);
     QLabel* Label1 = MaakLabel(u"Label1"_s, u"Te printen Rubrieken (kolommen)"_s, this);
     lstKeus = MaakLijst(u"lstKeus"_s, Label1);
     lstKeus->Vul(AantalPrintkolommen, [this](int plaats) {

@@ -86,8 +86,7 @@ void frmKoppelNBBnr::Bouw()
 
 QGroupBox* frmKoppelNBBnr::BouwKeuze()
 {
-    auto* Frame1 = new QGroupBox(u"Wijziging van een NBBnr"_s, this);
-    Noem(Frame1, u"Frame1"_s);
+    auto* Frame1 = MaakKader(u"Frame1"_s, u"Wijziging van een NBBnr"_s, this);
     auto* lagen = new QVBoxLayout(Frame1);
     auto* Option1 = MaakOptie(u"Option1"_s, u"In losse Zittingen"_s, u't', Frame1);
     Option1->setChecked(true);
@@ -108,8 +107,7 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
 
 QGroupBox* frmKoppelNBBnr::BouwUitleg()
 {
-    auto* Frame3 = new QGroupBox(u"Waarom dit programmadeel?"_s, this);
-    Noem(Frame3, u"Frame3"_s);
+    auto* Frame3 = MaakKader(u"Frame3"_s, u"Waarom dit programmadeel?"_s, this);
     // A small screen scrolls the texts; it does not cut them.
     auto* vlak = new Tekstvlak(12, 6, Frame3);
     Noem(vlak, u"vlakUitleg"_s, u"Waarom dit programmadeel?"_s);
@@ -147,8 +145,7 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
 
 QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 {
-    auto* Frame2 = new QGroupBox(this);
-    Noem(Frame2, u"Frame2"_s, u"Zwevende spelers"_s);
+    auto* Frame2 = MaakKader(u"Frame2"_s, QString(), this, u"Zwevende spelers"_s);
     auto* lagen = new QVBoxLayout(Frame2);
     lagen->addWidget(Label11 = MaakLabel(u"Label11"_s, QString(), Frame2));
     lstSpelers = MaakLijst(u"lstSpelers"_s, u"Gevonden zwevende spelers"_s, Frame2);
@@ -169,8 +166,7 @@ QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 
 QGroupBox* frmKoppelNBBnr::BouwRegister()
 {
-    auto* Frame4 = new QGroupBox(this);
-    Noem(Frame4, u"Frame4"_s, u"Spelers uit RVD"_s);
+    auto* Frame4 = MaakKader(u"Frame4"_s, QString(), this, u"Spelers uit RVD"_s);
     auto* lagen = new QVBoxLayout(Frame4);
     const QString groep = NaarQString(administratie_.mappen.DFIMPG);
     const auto wenk = [&](const QString& naam, const QString& tekst) {

@@ -175,11 +175,12 @@ TEST_F(frmToelichtingTest, UitZichzelfVraagtHijDeStandaardprinter)
 
 // ---------------------------------------------------------------- the other explanation
 
+/// It fills the window and can be copied.
 TEST(frmUitleg, DeTekst)
 {
     frmUitleg venster(nullptr);
     EXPECT_EQ("Uitleg paren samenstellen", venster.windowTitle().toStdString());
-    const auto* Text1 = Vind<QPlainTextEdit>(venster, "Text1");
+    auto* Text1 = Vind<QPlainTextEdit>(venster, "Text1");
     EXPECT_EQ(
         "\tHet vormen van paren in RVD is nodig om de volgende redenen:\n"
         " 1. Bij het Ranking-voorstel voor zittingindeling op Ranking-punten moeten de paren "
@@ -203,14 +204,8 @@ TEST(frmUitleg, DeTekst)
         Text1->toPlainText().toStdString());
     EXPECT_TRUE(Text1->isReadOnly());
     EXPECT_EQ("Arial", Text1->font().family().toStdString());
-}
-
-TEST(frmUitleg, VultHetVensterEnIsTeKopieren)
-{
-    frmUitleg venster(nullptr);
     venster.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&venster));
-    auto* Text1 = Vind<QPlainTextEdit>(venster, "Text1");
     for (const QSize maat : {QSize(700, 300), QSize(500, 600)}) {
         venster.resize(maat);
         QApplication::processEvents();

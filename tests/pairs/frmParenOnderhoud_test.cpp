@@ -85,6 +85,14 @@ class frmParenOnderhoudTest : public Dialoogproef<frmParenOnderhoud, Geheugensta
         KlikRegel("L3", paar);
         Klik(Knop("cmdOntbindt"));
     }
+    /// Whether a button can be pressed; only then it has the colour that is its own.
+    [[nodiscard]] bool Kan(const char* knop) const
+    {
+        const QColor gewoon = QApplication::palette().color(QPalette::Button);
+        const bool kan = Knop(knop)->isEnabled();
+        EXPECT_EQ(kan, Knop(knop)->palette().color(QPalette::Button) != gewoon) << knop;
+        return kan;
+    }
     [[nodiscard]] int Gekozen(const char* lijst) const { return Lijst(lijst)->Gekozen(); }
 };
 
@@ -137,8 +145,8 @@ TEST_F(frmParenOnderhoudTest, HetBegin)
         EXPECT_EQ("Arial", Lijst(lijst)->font().family().toStdString());
         EXPECT_EQ(Maten().Letter(9).pixelSize(), Lijst(lijst)->font().pixelSize());
     }
-    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
-    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
+    EXPECT_FALSE(Kan("cmdOKE"));
+    EXPECT_FALSE(Kan("cmdOntbindt"));
     EXPECT_EQ(venster->screen()->size().height() - Maten().Twips(1000), venster->height());
 }
 
@@ -279,17 +287,11 @@ TEST_F(frmParenOnderhoudTest, OmschakelenVergeetWatNietIsOpgeslagen)
 TEST_F(frmParenOnderhoudTest, OKEVraagtTweeVerschillendeSpelers)
 {
     Kies("Gr03-Dinsdag");
-    KlikRegel("L1", 1);
-    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
-    KlikRegel("L2", 1);
-    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
-    const QColor uit = Knop("cmdOKE")->palette().color(QPalette::Button);
-    KlikRegel("L2", 2);
-    EXPECT_TRUE(Knop("cmdOKE")->isEnabled());
-    EXPECT_NE(uit, Knop("cmdOKE")->palette().color(QPalette::Button));
-    KlikRegel("L1", 2);
-    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
-    EXPECT_EQ(uit, Knop("cmdOKE")->palette().color(QPalette::Button));
+    for (const auto& [lijst, regel, kan] :
+         {std::tuple("L1", 1, false), {"L2", 1, false}, {"L2", 2, true}, {"L1", 2, false}}) {
+        KlikRegel(lijst, regel);
+        EXPECT_EQ(kan, Kan("cmdOKE")) << lijst << regel;
+    }
 }
 
 TEST_F(frmParenOnderhoudTest, EenKeuzeInDeParenLaatDeSpelersLosEnAndersom)
@@ -297,17 +299,15 @@ TEST_F(frmParenOnderhoudTest, EenKeuzeInDeParenLaatDeSpelersLosEnAndersom)
     KiesDinsdag("100004-100005#\r\n");
     KlikRegel("L1", 0);
     KlikRegel("L2", 1);
-    const QColor uit = Knop("cmdOntbindt")->palette().color(QPalette::Button);
+    EXPECT_FALSE(Kan("cmdOntbindt"));
     KlikRegel("L3", 0);
     EXPECT_EQ(-1, Gekozen("L1"));
     EXPECT_EQ(-1, Gekozen("L2"));
-    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
-    EXPECT_TRUE(Knop("cmdOntbindt")->isEnabled());
-    EXPECT_NE(uit, Knop("cmdOntbindt")->palette().color(QPalette::Button));
+    EXPECT_FALSE(Kan("cmdOKE"));
+    EXPECT_TRUE(Kan("cmdOntbindt"));
     KlikRegel("L2", 0);
     EXPECT_EQ(-1, Gekozen("L3"));
-    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
-    EXPECT_EQ(uit, Knop("cmdOntbindt")->palette().color(QPalette::Button));
+    EXPECT_FALSE(Kan("cmdOntbindt"));
     KlikRegel("L3", 0);
     KlikRegel("L1", 0);
     EXPECT_EQ(-1, Gekozen("L3"));
@@ -325,7 +325,7 @@ TEST_F(frmParenOnderhoudTest, EenPaarMetDeKnop)
     EXPECT_EQ("Aantal spelers: 2", Label("Label7"));
     EXPECT_EQ("Aantal paren: 1", Label("Label8"));
     EXPECT_EQ(-1, Gekozen("L1"));
-    EXPECT_FALSE(Knop("cmdOKE")->isEnabled());
+    EXPECT_FALSE(Kan("cmdOKE"));
 }
 
 TEST_F(frmParenOnderhoudTest, EenPaarMetEenDubbelklikRechts)
@@ -371,7 +371,7 @@ TEST_F(frmParenOnderhoudTest, OntbindenMetDeKnopEnMetDelete)
     EXPECT_EQ(Regels("L1"), Regels("L2"));
     EXPECT_EQ("Aantal spelers: 2", Label("Label7"));
     EXPECT_EQ("Aantal paren: 1", Label("Label8"));
-    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
+    EXPECT_FALSE(Kan("cmdOntbindt"));
     QTest::keyClick(Lijst("L3"), Qt::Key_Delete);
     EXPECT_EQ(1U, Regels("L3").size()); // nothing is selected any more
     KlikRegel("L3", 0);
@@ -393,7 +393,7 @@ TEST_F(frmParenOnderhoudTest, Sorteren)
     Klik(Knop("cmdSortL3"));
     EXPECT_EQ(gesorteerd, Regels("L3"));
     EXPECT_EQ(-1, Gekozen("L3")); // emptied and filled anew
-    EXPECT_FALSE(Knop("cmdOntbindt")->isEnabled());
+    EXPECT_FALSE(Kan("cmdOntbindt"));
     EXPECT_EQ("Aantal paren: 2", Label("Label8"));
 }
 
@@ -407,7 +407,7 @@ TEST_F(frmParenOnderhoudTest, TypenSpringtNaarDeNaam)
     EXPECT_EQ(2, Gekozen("L1"));
     QTest::keyClicks(Lijst("L2"), u"ar"_s); // Ärp
     EXPECT_EQ(0, Gekozen("L2"));
-    EXPECT_TRUE(Knop("cmdOKE")->isEnabled());
+    EXPECT_TRUE(Kan("cmdOKE"));
 }
 
 namespace {
@@ -463,7 +463,7 @@ TEST_F(GroteGroep, HetNieuwePaarIsGekozenEnInBeeld)
     EXPECT_EQ(150, Lijst("L3")->currentIndex().row());
     EXPECT_TRUE(Lijst("L3")->viewport()->rect().intersects(
         Lijst("L3")->visualRect(Lijst("L3")->currentIndex())));
-    EXPECT_TRUE(Knop("cmdOntbindt")->isEnabled());
+    EXPECT_TRUE(Kan("cmdOntbindt"));
     for (const char* lijst : {"L1", "L2"}) {
         EXPECT_EQ(50, Lijst(lijst)->verticalScrollBar()->value());
         EXPECT_EQ(-1, Gekozen(lijst));
@@ -546,32 +546,30 @@ TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
 
 TEST_F(frmParenOnderhoudTest, EenBestandDatErNietIs)
 {
-    Kies("Gr03-Dinsdag");
-    MaakPaar(0, 1);
-    wachter.Waarschuwing(u"Parenbestand 'Gr03-Dinsdag' bestaat nog niet!"_s);
-    Opdracht("cmdVerwParenbest");
-    EXPECT_EQ(1U, Regels("L3").size());
-    Kies("Gr03-A/B");
-    wachter.Waarschuwing(u"Parenbestand 'Gr03-A/B' bestaat nog niet!"_s);
-    Klik(Knop("cmdVerwParenbest"));
+    for (const char* keuze : {"Gr03-Dinsdag", "Gr03-A/B"}) {
+        Kies(keuze);
+        MaakPaar(0, 1);
+        wachter.Waarschuwing(u"Parenbestand '%1' bestaat nog niet!"_s.arg(QLatin1String(keuze)));
+        Opdracht("cmdVerwParenbest");
+        EXPECT_EQ(1U, Regels("L3").size());
+    }
 }
 
 TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
 {
     KiesDinsdag("100004-100005#\r\n");
-    const auto vraag = [](const QString& antwoord) {
-        return Bericht{
-            .tekst =
-                u"U gaat Parenbestand Gr03-Dinsdag volledig verwijderen!\r\nWeet u het zeker?"_s,
-            .antwoord = antwoord,
-            .knoppen = {u"OK"_s, u"Annuleren"_s}};
+    const auto verwijder = [&](const QString& antwoord) {
+        wachter.Verwacht(
+            {.tekst =
+                 u"U gaat Parenbestand Gr03-Dinsdag volledig verwijderen!\r\nWeet u het zeker?"_s,
+             .antwoord = antwoord,
+             .knoppen = {u"OK"_s, u"Annuleren"_s}});
+        Opdracht("cmdVerwParenbest");
     };
-    wachter.Verwacht(vraag(u"Annuleren"_s));
-    Klik(Knop("cmdVerwParenbest"));
+    verwijder(u"Annuleren"_s);
     EXPECT_EQ("100004-100005#\r\n", geheugen.Inhoud(dinsdag));
     EXPECT_EQ(1U, Regels("L3").size());
-    wachter.Verwacht(vraag(u"OK"_s));
-    Opdracht("cmdVerwParenbest");
+    verwijder(u"OK"_s);
     EXPECT_EQ(std::nullopt, geheugen.Inhoud(dinsdag));
     EXPECT_EQ(Teksten(), Regels("L3"));
     EXPECT_EQ("Aantal paren: 0", Label("Label8"));
@@ -598,23 +596,19 @@ TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)
 TEST_F(frmParenOnderhoudTest, DeCSVBestanden)
 {
     KiesDinsdag("100004-100005#100002-100001#\r\n");
-    const QString map = QString::fromStdString(schijf.Toonpad("C:\\club\\DiverseUitvoer"));
-    const auto opgeslagen = [&](const char* naam) {
+    const auto opslaan = [&](const char* knop, const Tekst& naam, const Tekst& inhoud) {
+        const Pad map = "C:\\club\\DiverseUitvoer";
         wachter.Informatie(u"Het parenbestand '%1' is opgeslagen in de map: \r\n\r\n%2"_s.arg(
-            QString::fromLatin1(naam), map));
+            NaarQString(naam), QString::fromStdString(schijf.Toonpad(map))));
+        Opdracht(knop);
+        EXPECT_EQ(inhoud, geheugen.Inhoud(Samen(map, naam)));
     };
-    opgeslagen("RVDparenCSV1.csv");
-    Klik(Knop("cmdPrintVast"));
-    opgeslagen("RVDparenCSV2.csv");
-    Opdracht("cmdPrintLos");
-    EXPECT_EQ("1;Bea de Cock - An Bos\r\n2;Dirk Eik - \xC9ls \xC4rp\r\n",
-              geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV1.csv"));
-    EXPECT_EQ("1;Bea de Cock;An Bos\r\n2;Dirk Eik;\xC9ls \xC4rp\r\n",
-              geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+    opslaan("cmdPrintVast", "RVDparenCSV1.csv",
+            "1;Bea de Cock - An Bos\r\n2;Dirk Eik - \xC9ls \xC4rp\r\n");
+    opslaan("cmdPrintLos", "RVDparenCSV2.csv",
+            "1;Bea de Cock;An Bos\r\n2;Dirk Eik;\xC9ls \xC4rp\r\n");
     Kies("Gr03-");
-    opgeslagen("RVDparenCSV2.csv");
-    Klik(Knop("cmdPrintLos"));
-    EXPECT_EQ("", geheugen.Inhoud("C:\\club\\DiverseUitvoer\\RVDparenCSV2.csv"));
+    opslaan("cmdPrintLos", "RVDparenCSV2.csv", "");
 }
 
 TEST_F(frmParenOnderhoudTest, EenCSVDieErStaatMaarNietVastIsOpgeslagen)

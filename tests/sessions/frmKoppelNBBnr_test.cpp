@@ -17,10 +17,6 @@ const QString Dinsdag = u"Dinsdagavond 2024-09-10"_s;
 const QString Maandag = u"Maandagmiddag 2024-10-07"_s;
 const QString Najaar = u"Najaarscompetitie 2024"_s;
 
-const QString Koppelvraag =
-    u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
-    "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s;
-
 /// The real window on a copy of the sample suite, with production saving.
 class Koppelvenster : public Dialoogproef<frmKoppelNBBnr, Suitestand> {
   protected:
@@ -43,10 +39,20 @@ class Koppelvenster : public Dialoogproef<frmKoppelNBBnr, Suitestand> {
     }
     void KiesZwevende(const char* begin) const { KlikRegel("lstSpelers", begin); }
     void KiesSpeler(const char* key) const { KlikRegel("lstRVDsp", key); }
+    /// A floating player of a session and the one of the register who he is.
+    void KiesPaar(const QString& sessie, const char* zwevende, const char* key) const
+    {
+        Zoek(sessie);
+        KiesZwevende(zwevende);
+        KiesSpeler(key);
+    }
+    [[nodiscard]] bool KanKoppelen() const { return Knop("cmdStartKoppelen")->isEnabled(); }
     void VerwachtVraag(const QString& antwoord = u"OK"_s)
     {
-        wachter.Verwacht(
-            {.tekst = Koppelvraag, .antwoord = antwoord, .knoppen = {u"OK"_s, u"Annuleren"_s}});
+        wachter.Verwacht({.tekst = u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de "
+                                   "betreffende zittingbestanden.\r\n\r\nKies OK of Annuleer."_s,
+                          .antwoord = antwoord,
+                          .knoppen = {u"OK"_s, u"Annuleren"_s}});
     }
     void Koppel(const QString& melding)
     {
@@ -211,10 +217,10 @@ TEST_F(Koppelvenster, KoppelenInEenZitting)
     const std::string percentages = suite.Inhoud(Zit("PercZit.txt"));
     const std::string register_ = suite.Spelers();
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
-    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    EXPECT_FALSE(KanKoppelen());
     KiesZwevende("als O02    J");
     EXPECT_EQ("als O02    Jørgen Sørensgaard", Vak("txtSpeler"));
-    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    EXPECT_FALSE(KanKoppelen());
     KiesSpeler("100084");
     EXPECT_EQ("100084    Jørgen Sørensgaard", Vak("txtRVDspeler"));
 
@@ -239,7 +245,7 @@ TEST_F(Koppelvenster, KoppelenInEenZitting)
     EXPECT_EQ(10U, Regels("lstSpelers").size());
     EXPECT_EQ("", Vak("txtSpeler"));
     EXPECT_EQ("", Vak("txtRVDspeler"));
-    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    EXPECT_FALSE(KanKoppelen());
 }
 
 /// Whoever stands first in the register is not the one who is meant.
@@ -250,11 +256,11 @@ TEST_F(Koppelvenster, WieNietInHetRegisterStaatKrijgtNiemandVoorgesteld)
     Klik(Knop("cmdKiesRVDspeler"));
     EXPECT_EQ("lstRVDsp", Focus());
     EXPECT_EQ("", Vak("txtRVDspeler"));
-    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    EXPECT_FALSE(KanKoppelen());
     // The first line can be chosen on purpose.
     QTest::keyClick(venster->focusWidget(), Qt::Key_Return);
     EXPECT_EQ("100086    Kees Aardappelaer", Vak("txtRVDspeler"));
-    EXPECT_TRUE(Knop("cmdStartKoppelen")->isEnabled());
+    EXPECT_TRUE(KanKoppelen());
 }
 
 TEST_F(Koppelvenster, DeFocusAlleenKiestNiemand)
@@ -273,7 +279,7 @@ TEST_F(Koppelvenster, DeFocusAlleenKiestNiemand)
     EXPECT_EQ("txtRVDspeler", Focus());
     EXPECT_EQ("", Vak("txtSpeler"));
     EXPECT_EQ("", Vak("txtRVDspeler"));
-    EXPECT_FALSE(Knop("cmdStartKoppelen")->isEnabled());
+    EXPECT_FALSE(KanKoppelen());
 }
 
 TEST_F(Koppelvenster, KoppelenInEenHeleCompetitie)
@@ -299,9 +305,7 @@ TEST_F(Koppelvenster, KoppelenInEenHeleCompetitie)
 TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
 {
     KiesCompetities();
-    ASSERT_NO_FATAL_FAILURE(Zoek(Najaar));
-    KiesZwevende("In R1 - Z1 als O01    Rosa");
-    KiesSpeler("100097");
+    KiesPaar(Najaar, "In R1 - Z1 als O01    Rosa", "100097");
     const std::size_t regels = Regels("lstSpelers").size();
     const auto pad = [&](const std::string& rest) {
         return QString::fromStdString(suite.Toonpad(Com(rest)));
@@ -333,9 +337,7 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
 
 TEST_F(Koppelvenster, WatIntussenVerdweenWordtNietGekoppeldGenoemd)
 {
-    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
-    KiesZwevende("als N02    Marleen");
-    KiesSpeler("100090");
+    KiesPaar(Dinsdag, "als N02    Marleen", "100090");
     suite.Verwijder(Zit("Spelers.txt"));
     suite.Zet(Zit("PercZit.txt"), "ruis\r\n");
     VerwachtVraag();
@@ -458,9 +460,7 @@ TEST_F(Koppelvenster, ZoekenToontVoortgangEnIsTeStoppen)
 
 TEST_F(Koppelvenster, KoppelenToontVoortgangMaarStoptNiet)
 {
-    ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
-    KiesZwevende("als O02    J");
-    KiesSpeler("100084");
+    KiesPaar(Dinsdag, "als O02    J", "100084");
     std::string gezien;
     const Voortgangstopper kijker(1, [&](frmVoortgang& voortgang) {
         gezien = Vind<QLabel>(voortgang, "lblTekst")->text().toStdString();

@@ -20,11 +20,9 @@ class Koppelen : public testing::Test {
         mappen.COMMAP = "C:\\Com";
     }
 
-    static Pad Lijstpad(int ronde, int zitting, Lijstsoort soort)
+    [[nodiscard]] Pad Lijstpad(int ronde, int zitting, Lijstsoort soort) const
     {
-        Mappen alleenCom;
-        alleenCom.COMMAP = "C:\\Com";
-        return Competitiezitting(alleenCom, "Ladder", ronde, zitting).Bestand(soort);
+        return Competitiezitting(mappen, "Ladder", ronde, zitting).Bestand(soort);
     }
     void ZetZitting(int ronde, int zitting, const Tekst& spelers, const Tekst& percentages = {})
     {

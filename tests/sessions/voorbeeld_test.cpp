@@ -1,11 +1,11 @@
 // What the sample sessions must be to serve as an example.
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <set>
 
 #include <gtest/gtest.h>
 
+#include "hulp/ledenmaker.h"
 #include "platform/tekst/regels.h"
 #include "register/spelerbestand.h"
 #include "sessions/zittinglijsten.h"
@@ -14,21 +14,10 @@ using namespace plexoran;
 
 namespace fs = std::filesystem;
 
-namespace {
-
-Tekst Inhoud(const fs::path& bestand)
-{
-    std::ifstream stroom(bestand, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stroom), {}};
-}
-
-} // namespace
-
 /// Once floating players are linked, a session with one player at two tables would be nonsense.
 TEST(Voorbeeld, InEenCompetitiezittingSpeeltNiemandTweeKeer)
 {
-    const auto tabel =
-        SpelersUit(Inhoud(fs::path(VOORBEELD) / "Spelers/RVDspelers.txt")).tabel.value();
+    const auto tabel = SpelersUit(LeesAlsBytes(VOORBEELD "/Spelers/RVDspelers.txt")).tabel.value();
     std::map<Tekst, Tekst> namen; // as a session has them of a floating player, by key
     for (int rij = 1; rij <= tabel.Rijen(); ++rij)
         namen[Tekst(tabel.Cel(rij, Kolom::Key))] = VolleNaam(tabel, rij);
@@ -38,7 +27,7 @@ TEST(Voorbeeld, InEenCompetitiezittingSpeeltNiemandTweeKeer)
             continue;
         ++zittingen;
         std::set<Tekst> gezien;
-        const Tekst inhoud = Inhoud(deel.path());
+        const Tekst inhoud = LeesAlsBytes(deel.path().string());
         for (const Tekstblik regel : Regels(inhoud)) {
             const auto paar = PaarUit(regel);
             const auto helften = paar ? SplitsHelften(paar->spelers) : std::nullopt;

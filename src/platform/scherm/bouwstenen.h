@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHash>
 #include <QKeyEvent>
@@ -125,6 +126,14 @@ template <class Venster, class Opdracht>
     Noem(label, naam);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+[[nodiscard]] inline QGroupBox* MaakKader(const QString& naam, const QString& tekst, QWidget* ouder,
+                                          const QString& gesproken = QString())
+{
+    auto* kader = new QGroupBox(tekst, ouder);
+    Noem(kader, naam, gesproken);
+    return kader;
 }
 
 inline void MaakVet(QLabel* label)
