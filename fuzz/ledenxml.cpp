@@ -4,7 +4,6 @@
 
 #include "eis.h"
 #include "federation/ledenbestand.h"
-#include "federation/ledenbronnen.h"
 #include "federation/ledencsv.h"
 #include "schijven/geheugenSchijf.h"
 

@@ -38,9 +38,7 @@ constexpr int AchterDeTekst = 50; // caret position on returning to a field
 void Kleur(QWidget* widget, QPalette::ColorRole rol, const QColor& kleur)
 {
     QPalette palet = widget->palette();
-    palet.setColor(QPalette::Active, rol, kleur);
-    palet.setColor(QPalette::Inactive, rol, kleur);
-    palet.setColor(QPalette::Disabled, rol, kleur);
+    palet.setColor(rol, kleur);
     widget->setPalette(palet);
 }
 

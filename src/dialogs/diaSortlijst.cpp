@@ -22,12 +22,13 @@ constexpr int NBBnrVeld = 6;
 
 /// Header and lines. The header scrolls along.
 class Sorteervlak : public Tabelvlak {
-    Q_OBJECT // else Qt keeps the accessible interface that the bare table got while it was made
+    // Without it Qt keeps the accessible interface that the bare table got while it was made.
+    Q_OBJECT
 
-        public : Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten,
-                             const Schuifkader& kader, QWidget* ouder)
-        : Tabelvlak(kader, u"Gesorteerde spelers"_s, ouder),
-          beeld_(beeld),
+  public:
+    Sorteervlak(const Sorteerbeeld& beeld, const Maten& maten, const Schuifkader& kader,
+                QWidget* ouder)
+        : Tabelvlak(kader, u"Gesorteerde spelers"_s, ouder), beeld_(beeld),
           randen_(ZetKolommen(beeld.soort))
     {
         setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));

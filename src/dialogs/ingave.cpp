@@ -3,11 +3,6 @@
 #include "platform/tekst/tekst.h"
 
 namespace plexoran {
-namespace {
-
-constexpr std::size_t LangsteNBBnr = 8;
-
-} // namespace
 
 bool KanTerugkeerveld(int veld)
 {
@@ -28,19 +23,18 @@ std::optional<char> TypTeken(Kolom veld, char teken, std::size_t lengte)
         return teken >= 'a' && teken <= 'z' ? Hoofdletter(teken) : teken;
     if (veld != Kolom::NBBnr)
         return teken;
-    return IsCijfer(teken) && lengte < LangsteNBBnr ? std::optional(teken) : std::nullopt;
+    constexpr std::size_t langste = 8;
+    return IsCijfer(teken) && lengte < langste ? std::optional(teken) : std::nullopt;
 }
 
 Veldverlaten VerlaatVeld(Kolom veld, Tekstblik tekst)
 {
-    constexpr Tekstblik partner = "PARTNER";
     Veldverlaten uit{Tekst(tekst), {}};
     if (tekst.find(',') != Tekstblik::npos) {
         uit.tekst = Vervang(uit.tekst, ',', '_');
         uit.reparaties.push_back(Reparatie::Komma);
     }
-    if (veld == Kolom::Achternaam && uit.tekst.find(' ') != Tekst::npos &&
-        Hoofdletters(tekst.substr(0, partner.size())) == partner) {
+    if (veld == Kolom::Achternaam && uit.tekst.find(' ') != Tekst::npos && IsPartner(tekst)) {
         uit.tekst = Vervang(uit.tekst, ' ', '_');
         uit.reparaties.push_back(Reparatie::Partner);
     }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/tekst/tekst.h"
+#include "register/spelertabel.h"
 
 namespace plexoran {
 namespace {
@@ -11,18 +12,11 @@ namespace {
 constexpr std::size_t GroepBreed = 10;
 constexpr std::array<std::size_t, AantalControlekolommen> Breedten{10, 5, GroepBreed, 20};
 
-/// The surname of a partner without a name of his own is one word in every source.
-Tekst Achternaam(Tekstblik achternaam)
-{
-    constexpr Tekstblik partner = "PARTNER";
-    if (Hoofdletters(ZonderSpaties(achternaam.substr(0, partner.size()))) == partner)
-        return Vervang(achternaam, ' ', '_');
-    return Tekst(achternaam);
-}
-
 Tekst Naamkolom(const Importvelden& velden)
 {
-    Tekst naam = Achternaam(velden[Importveld::Achternaam]);
+    Tekst naam(velden[Importveld::Achternaam]);
+    if (IsPartner(naam))
+        naam = Vervang(naam, ' ', '_');
     naam += ", ";
     naam += velden[Importveld::Voornaam];
     if (const Tekstblik tusv = velden[Importveld::Tusv]; !IsBlanco(tusv))

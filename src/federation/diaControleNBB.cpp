@@ -11,7 +11,7 @@
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/printer.h"
-#include "platform/scherm/schildervlak.h"
+#include "platform/scherm/tabelvlak.h"
 
 namespace plexoran {
 namespace {
@@ -22,90 +22,104 @@ constexpr double Rand = 2; // millimetres of white around the list
 
 } // namespace
 
-// ---------------------------------------------------------------- the surface
+/// The surface `P1`: the heading, and the rows from one on as far as they are seen. A unit of the
+/// standing bar is a row.
+class Controlevlak : public Tabelvlak {
+    Q_OBJECT
 
-Controlevlak::Controlevlak(const Letterkast& kast, const Maten& maten, const Schuifkader& kader,
-                           QWidget* ouder)
-    : Tabelvlak(kader, u"Leden van de gekozen ledenbestanden"_s, ouder,
-                controle::Regelhoogte * maten.PixelsPerMm()),
-      kast_(kast), pixelsPerMm_(maten.PixelsPerMm())
-{}
+  public:
+    Controlevlak(const Letterkast& kast, const Maten& maten, const Schuifkader& kader,
+                 QWidget* ouder)
+        : Tabelvlak(kader, u"Leden van de gekozen ledenbestanden"_s, ouder,
+                    controle::Regelhoogte * maten.PixelsPerMm()),
+          kast_(kast), pixelsPerMm_(maten.PixelsPerMm())
+    {}
 
-QString Controlevlak::Celtekst(int regel, int kolom) const
-{
-    const std::array koppen{u"NBBnr"_s, u"M/V"_s, u"NBBgroep"_s, u"Naam"_s};
-    const auto index = static_cast<std::size_t>(kolom);
-    return regel == 0 ? koppen[index]
-                      : NaarQString(rijen_.Cel(static_cast<std::size_t>(regel - 1), index));
-}
+    [[nodiscard]] int Regels() const override { return static_cast<int>(rijen_.Aantal()); }
+    [[nodiscard]] int Kolommen() const override { return AantalControlekolommen; }
+    [[nodiscard]] QString Celtekst(int regel, int kolom) const override
+    {
+        const std::array koppen{u"NBBnr"_s, u"M/V"_s, u"NBBgroep"_s, u"Naam"_s};
+        const auto index = static_cast<std::size_t>(kolom);
+        return regel == 0 ? koppen[index]
+                          : NaarQString(rijen_.Cel(static_cast<std::size_t>(regel - 1), index));
+    }
+    [[nodiscard]] double Boven(int regel) const override
+    {
+        return Koponder() +
+               (regel - 1 - Kader().Staand().value()) * controle::Regelhoogte * pixelsPerMm_;
+    }
+    [[nodiscard]] double Links(int kolom) const override
+    {
+        constexpr double wit = 1; // millimetres before the text
+        if (kolom == Kolommen())
+            return width() - wit * pixelsPerMm_;
+        const auto begin = MaakControleregel({}, {}).begin[static_cast<std::size_t>(kolom)];
+        return (Rand - wit + kast_.Breedte(controle::Schrift, Tekst(begin, ' '))) * pixelsPerMm_;
+    }
+    [[nodiscard]] double Koponder() const override
+    {
+        return (Rand + controle::Kophoogte) * pixelsPerMm_;
+    }
 
-double Controlevlak::Boven(int regel) const
-{
-    return Koponder() +
-           (regel - 1 - Kader().Staand().value()) * controle::Regelhoogte * pixelsPerMm_;
-}
+    void Toon(Controlerijen rijen)
+    {
+        rijen_ = std::move(rijen);
+        const int zichtbaar = ZichtbareRijen();
+        Schuifkader::Stel(Kader().Staand(), Regels(), zichtbaar, zichtbaar - 1, 1);
+        if (Regel() == 0 || Regel() > Regels())
+            KiesRegel(std::min(1, Regels()));
+        update();
+        MeldAndereRegels();
+    }
+    /// How many characters are seen beside each other.
+    [[nodiscard]] std::size_t Breedte() const
+    {
+        return TekensNaastElkaar(kast_, width() / pixelsPerMm_ - 2 * Rand);
+    }
+    /// The size at which so many characters and rows are seen.
+    [[nodiscard]] QSize Maat(int tekens, int rijen) const
+    {
+        const double breed = kast_.Breedte(controle::Schrift, "0") * (tekens + 0.5) + 2 * Rand;
+        const double hoog = Rand + controle::Kophoogte + rijen * controle::Regelhoogte;
+        return {static_cast<int>(std::ceil(breed * pixelsPerMm_)),
+                static_cast<int>(std::ceil(hoog * pixelsPerMm_))};
+    }
 
-double Controlevlak::Koponder() const
-{
-    return (Rand + controle::Kophoogte) * pixelsPerMm_;
-}
+  signals:
+    /// Other rows may fit.
+    void geschaald();
 
-double Controlevlak::Links(int kolom) const
-{
-    constexpr double wit = 1; // millimetres before the text
-    if (kolom == Kolommen())
-        return width() - wit * pixelsPerMm_;
-    const auto begin = MaakControleregel({}, {}).begin[static_cast<std::size_t>(kolom)];
-    return (Rand - wit + kast_.Breedte(controle::Schrift, Tekst(begin, ' '))) * pixelsPerMm_;
-}
+  protected:
+    void resizeEvent(QResizeEvent* gebeurtenis) override
+    {
+        Tabelvlak::resizeEvent(gebeurtenis);
+        emit geschaald();
+    }
+    void paintEvent(QPaintEvent* /*gebeurtenis*/) override
+    {
+        QPainter schilder(this);
+        Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm, {},
+                          palette().color(QPalette::Text));
+        TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, rijen_,
+                           static_cast<std::size_t>(Kader().Staand().value()),
+                           static_cast<std::size_t>(ZichtbareRijen()) + 1);
+        TekenKeus(schilder, 0);
+        TekenFocus(schilder);
+    }
 
-void Controlevlak::Toon(Controlerijen rijen)
-{
-    rijen_ = std::move(rijen);
-    const int zichtbaar = ZichtbareRijen();
-    Schuifkader::Stel(Kader().Staand(), Regels(), zichtbaar, zichtbaar - 1, 1);
-    if (Regel() == 0 || Regel() > Regels())
-        KiesRegel(std::min(1, Regels()));
-    update();
-    MeldAndereRegels();
-}
+  private:
+    /// How many rows are seen below each other whole.
+    [[nodiscard]] int ZichtbareRijen() const
+    {
+        const double ruimte = height() / pixelsPerMm_ - Rand - controle::Kophoogte;
+        return std::max(1, static_cast<int>(std::floor(ruimte / controle::Regelhoogte)));
+    }
 
-std::size_t Controlevlak::Breedte() const
-{
-    return TekensNaastElkaar(kast_, width() / pixelsPerMm_ - 2 * Rand);
-}
-
-int Controlevlak::ZichtbareRijen() const
-{
-    const double ruimte = height() / pixelsPerMm_ - Rand - controle::Kophoogte;
-    return std::max(1, static_cast<int>(std::floor(ruimte / controle::Regelhoogte)));
-}
-
-QSize Controlevlak::Maat(int tekens, int rijen) const
-{
-    const double breed = kast_.Breedte(controle::Schrift, "0") * (tekens + 0.5) + 2 * Rand;
-    const double hoog = Rand + controle::Kophoogte + rijen * controle::Regelhoogte;
-    return {static_cast<int>(std::ceil(breed * pixelsPerMm_)),
-            static_cast<int>(std::ceil(hoog * pixelsPerMm_))};
-}
-
-void Controlevlak::resizeEvent(QResizeEvent* gebeurtenis)
-{
-    Tabelvlak::resizeEvent(gebeurtenis);
-    emit geschaald();
-}
-
-void Controlevlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
-{
-    QPainter schilder(this);
-    Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm, {},
-                      palette().color(QPalette::Text));
-    TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, rijen_,
-                       static_cast<std::size_t>(Kader().Staand().value()),
-                       static_cast<std::size_t>(ZichtbareRijen()) + 1);
-    TekenKeus(schilder, 0);
-    TekenFocus(schilder);
-}
+    const Letterkast& kast_;
+    double pixelsPerMm_;
+    Controlerijen rijen_;
+};
 
 // ---------------------------------------------------------------- the dialog
 
@@ -270,3 +284,5 @@ void diaControleNBB::Print()
 }
 
 } // namespace plexoran
+
+#include "diaControleNBB.moc"

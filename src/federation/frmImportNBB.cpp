@@ -22,21 +22,17 @@ struct Brontekst {
     QString soort;
 };
 
-Brontekst TekstVan(Ledenbron bron)
+const Brontekst& TekstVan(Ledenbron bron)
 {
-    switch (bron) {
-    case Ledenbron::Csv:
-        return {u"Kies een map en selecteer een 'CSV'-bestand"_s, u"CSV-Ledenbestanden: "_s,
-                u"CSV-ledenbestand"_s};
-    case Ledenbron::XmlNbb3:
-        return {u"Kies een map en selecteer 'n 'XML'-bestand"_s,
-                u"XML-Ledenbestanden uit NBBR-3: "_s, u"XML-ledenbestand uit NBBR-3"_s};
-    case Ledenbron::XmlNbb4:
-        return {u"Kies een map en wijs een XML-bestand aan"_s, u"XML-Ledenbestanden uit NBBR-4: "_s,
-                u"XML-ledenbestand uit NBBR-4"_s};
-    default:
-        return {{}, u"Ledenbestanden:"_s, {}};
-    }
+    static const std::array<Brontekst, 4> teksten{
+        {{{}, u"Ledenbestanden:"_s, {}},
+         {u"Kies een map en selecteer een 'CSV'-bestand"_s, u"CSV-Ledenbestanden: "_s,
+          u"CSV-ledenbestand"_s},
+         {u"Kies een map en selecteer 'n 'XML'-bestand"_s, u"XML-Ledenbestanden uit NBBR-3: "_s,
+          u"XML-ledenbestand uit NBBR-3"_s},
+         {u"Kies een map en wijs een XML-bestand aan"_s, u"XML-Ledenbestanden uit NBBR-4: "_s,
+          u"XML-ledenbestand uit NBBR-4"_s}}};
+    return teksten[static_cast<std::size_t>(bron) - 1];
 }
 
 } // namespace
@@ -50,7 +46,7 @@ frmImportNBB::frmImportNBB(Administratie& administratie, Importgeheugen& geheuge
     // What was chosen last is chosen again, but for the database, which takes time to read.
     if (!vorige || *vorige == Ledenbron::Database)
         return;
-    QRadioButton* optie = opties_[static_cast<std::size_t>(*vorige) - 1];
+    QRadioButton* optie = opties_[static_cast<int>(*vorige) - 1];
     optie->setChecked(true);
     optie->setFocus();
     KiesBron(*vorige);
@@ -162,8 +158,7 @@ void frmImportNBB::KiesExportMap()
 /// Without a word another file would stand chosen than the one that was pointed at.
 void frmImportNBB::MeldNietVanSoort(const Tekst& aangewezen)
 {
-    const auto& namen = import_.Namen();
-    if (std::find(namen.begin(), namen.end(), aangewezen) == namen.end())
+    if (std::ranges::find(import_.Namen(), aangewezen) == import_.Namen().end())
         Meld(this, QMessageBox::Information,
              u"'%1' is geen %2 en staat dus niet in de lijst. Er is niets geïmporteerd. Kies een "
              "ander bestand, of kies eerst links waar dit bestand vandaan komt."_s.arg(

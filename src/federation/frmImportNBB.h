@@ -58,7 +58,7 @@ class frmImportNBB : public QDialog {
     Ledenimport import_;
     bool bezig_ = false; ///< an import runs
 
-    std::array<QRadioButton*, 4> opties_{}; ///< in the order of the sources
+    QList<QRadioButton*> opties_; ///< in the order of the sources
     QPushButton* cmdKiesExportMap = nullptr;
     QLabel* lblExportMap = nullptr;
     QLabel* Label3 = nullptr;

@@ -140,6 +140,7 @@ QWidget* frmImportNBB::BouwBronnen()
         QRadioButton* optie = MaakOptie(naam, tekst, letter, Frame3);
         connect(optie, &QRadioButton::clicked, this, [this, bron] { KiesBron(bron); });
         lagen->addWidget(optie);
+        opties_ << optie;
         return optie;
     };
     // A label that says more of the option above it, a little to the right.
@@ -156,17 +157,13 @@ QWidget* frmImportNBB::BouwBronnen()
                                                           : u"direct uit NBBR 2.8"_s,
                          u'd');
     Option1->setVisible(gevonden.NBBRaanwezig || gevonden.BRITaanwezig);
-    auto* Option2 =
-        keus(Ledenbron::Csv, u"Option2"_s, u"uit een geexporteerd CSV-ledenbestand"_s, u'C');
+    keus(Ledenbron::Csv, u"Option2"_s, u"uit een geexporteerd CSV-ledenbestand"_s, u'C');
     toelichting(u"Label10"_s, u"(dit is mogelijk met NBBR-2.8 en NBBR-3)"_s);
-    auto* Option3 = keus(Ledenbron::XmlNbb3, u"Option3"_s, xml, u'X');
-    Option3->setAccessibleName(xml + u" uit NBBR-3"_s);
+    keus(Ledenbron::XmlNbb3, u"Option3"_s, xml, u'X')->setAccessibleName(xml + u" uit NBBR-3"_s);
     toelichting(u"Label13"_s, u"(uit NBBR-3)"_s);
     lagen->addWidget(MaakLabel(u"Label9"_s, u"Uit NBB-4:"_s, Frame3));
-    auto* Option4 = keus(Ledenbron::XmlNbb4, u"Option4"_s, xml, u'L');
-    Option4->setAccessibleName(xml + u" uit NBB-4"_s);
+    keus(Ledenbron::XmlNbb4, u"Option4"_s, xml, u'L')->setAccessibleName(xml + u" uit NBB-4"_s);
     toelichting(u"Label2"_s, u"Kies eventueel 'CSV-ledenbestand' i.p.v. 'XML'"_s);
-    opties_ = {Option1, Option2, Option3, Option4};
     return Frame3;
 }
 

@@ -1,6 +1,5 @@
 #include "federation/ledenbestand.h"
 
-#include "federation/ledenbronnen.h"
 #include "platform/tekst/codepagina.h"
 #include "platform/tekst/tekst.h"
 

@@ -1,4 +1,6 @@
-// Reading one member file of the federation, whatever its source, into import lines.
+// Reading one member file of the federation, whatever its source, into import lines. The exports of
+// NBBR-3 and NBBR-4 as XML, and the database of a scoring program, are turned into the intermediate
+// file first (docs/bestanden.md).
 #pragma once
 
 #include <vector>
@@ -47,11 +49,37 @@ struct Ledenopdracht {
                                                  Tekstblik naam);
 
 /// The names of those files of `namen` in `map` that are of the source's XML kind, in their order.
-/// Member files hold "<ReportableMember>", those of NBBR-4 also "<LeagueId>"; a file that cannot be
-/// read is of no kind, one that is too large of both. `voortgang` hears of every file, and may stop
-/// it: then the files that were looked at count.
+/// A file that cannot be read is of no kind, one that is too large of both. `voortgang` hears of
+/// every file, and may stop it: then the files that were looked at count.
 [[nodiscard]] std::vector<Tekst> BepaalXMLsoort(Schijf& schijf, const Pad& map,
                                                 const std::vector<Tekst>& namen, Ledenbron bron,
                                                 const Voortgang& voortgang = {});
+
+struct Ledenomzetting {
+    std::size_t vervangenTekens = 0; ///< characters that the code page lacks
+    std::optional<Fout> nietGeladen; ///< NBBR-4 only: why there are no members
+};
+
+/// A file that cannot be read, or is no XML, is an error and leaves `tussenbestand` as it was.
+[[nodiscard]] Uitkomst<Ledenomzetting> ConverteerNBB3XML(Schijf& schijf, const Pad& bestand,
+                                                         const Pad& tussenbestand,
+                                                         const Voortgang& voortgang = {});
+
+/// A file that cannot be read, or is no XML, gives an intermediate file without members.
+[[nodiscard]] Uitkomst<Ledenomzetting> ConverteerNBB4XML(Schijf& schijf, const Pad& bestand,
+                                                         const Pad& tussenbestand,
+                                                         const Voortgang& voortgang = {});
+
+/// One entry per member file, in the order of the database: its name, a blank and its number in
+/// three digits.
+[[nodiscard]] Uitkomst<std::vector<Tekst>> HaalLedenbestanden(const Pad& database,
+                                                              const Voortgang& voortgang = {},
+                                                              const Accessgrenzen& grenzen = {});
+
+/// Reads the members of the member file with number `id` and writes them to `tussenbestand`.
+[[nodiscard]] Uitkomst<Ledenomzetting> HaalLeden(Schijf& schijf, const Pad& database, int id,
+                                                 const Pad& tussenbestand,
+                                                 const Voortgang& voortgang = {},
+                                                 const Accessgrenzen& grenzen = {});
 
 } // namespace plexoran

@@ -73,19 +73,17 @@ enum : std::size_t {
 
 using Lidrij = std::array<Tekst, Lidveld::Aantal>;
 
-/// "M" for "MAN" and "MALE", "V" for "VROUW" and "FEMALE", in capitals or not; empty for any other
-/// text, also for one with blanks around it.
+/// "M", "V" or empty.
 [[nodiscard]] Tekst GeslachtUit(Tekstblik tekst);
 
-/// Without the leading characters with a code above 240, which byte order marks leave; a number of
-/// blanks only is handed back as it is. The mark of UTF-8 begins with 239 and stays.
+/// Without the leading characters with a code above 240, which byte order marks leave.
 [[nodiscard]] Tekstblik ZonderVoorloop(Tekstblik nummer);
 
-/// Every line end replaced by a blank, a CR LF by one.
+/// Every line end replaced by a blank.
 [[nodiscard]] Tekst ZonderRegeleinden(Tekstblik tekst);
 
-/// Adds the line of a member to the text of the intermediate file. A line end inside a field
-/// becomes a blank, a CR LF one: lines are members.
+/// Adds the line of a member to the text of the intermediate file. Lines are members: a line end
+/// inside a field becomes a blank.
 void VoegLidToe(Tekst& regels, const Lidrij& lid);
 
 /// Replaces the intermediate file by the lines and the CR LF that closes them, or leaves it as it

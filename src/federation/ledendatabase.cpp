@@ -1,8 +1,7 @@
-#include "federation/ledenbronnen.h"
+#include "federation/ledenbestand.h"
 
 #include <algorithm>
 
-#include "federation/ledencsv.h"
 #include "platform/tekst/tekst.h"
 
 namespace plexoran {

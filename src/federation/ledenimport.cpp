@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "federation/ledenbronnen.h"
 #include "platform/tekst/tekst.h"
 
 namespace plexoran {
@@ -63,7 +62,7 @@ void Ledenimport::HoudVanSoort(const Voortgang& voortgang)
 
 int Ledenimport::EersteKeus(Tekstblik aangewezen) const
 {
-    const auto gevonden = std::find(namen_.begin(), namen_.end(), aangewezen);
+    const auto gevonden = std::ranges::find(namen_, aangewezen);
     if (gevonden != namen_.end())
         return static_cast<int>(gevonden - namen_.begin());
     return bron_ == Ledenbron::Csv || namen_.empty() ? -1 : 0;

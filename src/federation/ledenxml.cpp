@@ -1,65 +1,43 @@
-#include "federation/ledenbronnen.h"
+#include "federation/ledenbestand.h"
 
 #include <algorithm>
 #include <utility>
 
 #include <pugixml.hpp>
 
-#include "federation/ledencsv.h"
 #include "platform/bronnen/xml.h"
+#include "register/spelertabel.h"
 
 namespace plexoran {
 namespace {
 
+using namespace Lidveld;
+
 /// What an element of a member says, beside the fields: what is passed over, and the telephone
 /// number that wins.
 constexpr std::size_t Geen = Lidveld::Aantal;
-constexpr std::size_t Telefoon2 = Lidveld::Aantal + 1;
+constexpr std::size_t Telefoon2 = Geen + 1;
 
 constexpr std::array<std::pair<std::string_view, std::size_t>, 12> namenNbb4 = {
-    {{"LeagueId", Lidveld::NBBnr},
-     {"Geslacht", Lidveld::Geslacht},
-     {"Voornaam", Lidveld::Voornaam},
-     {"Voorletters", Lidveld::Voorletters},
-     {"Tussenvoegsel", Lidveld::Tussenvoegsel},
-     {"Achternaam", Lidveld::Achternaam},
-     {"Adres", Lidveld::Adres},
-     {"Postcode", Lidveld::Postcode},
-     {"Plaats", Lidveld::Plaats},
-     {"Telefoon1", Lidveld::Telefoon},
+    {{"LeagueId", NBBnr},
+     {"Geslacht", Geslacht},
+     {"Voornaam", Voornaam},
+     {"Voorletters", Voorletters},
+     {"Tussenvoegsel", Tussenvoegsel},
+     {"Achternaam", Achternaam},
+     {"Adres", Adres},
+     {"Postcode", Postcode},
+     {"Plaats", Plaats},
+     {"Telefoon1", Telefoon},
      {"Telefoon2", Telefoon2},
-     {"Email", Lidveld::Email}}};
+     {"Email", Email}}};
 
 /// Element 0 is position 1.
-constexpr std::array<std::size_t, 15> veldenNbb3 = {Lidveld::Achternaam,
-                                                    Lidveld::Adres,
-                                                    Geen,
-                                                    Lidveld::NBBnr,
-                                                    Lidveld::Email,
-                                                    Geen,
-                                                    Lidveld::Geslacht,
-                                                    Geen,
-                                                    Lidveld::Plaats,
-                                                    Lidveld::Postcode,
-                                                    Lidveld::Telefoon,
-                                                    Telefoon2,
-                                                    Lidveld::Tussenvoegsel,
-                                                    Lidveld::Voorletters,
-                                                    Lidveld::Voornaam};
+constexpr std::array<std::size_t, 15> veldenNbb3 = {
+    Achternaam, Adres,    Geen,     NBBnr,     Email,         Geen,        Geslacht, Geen,
+    Plaats,     Postcode, Telefoon, Telefoon2, Tussenvoegsel, Voorletters, Voornaam};
 
 enum class Nbbversie { Drie, Vier };
-
-/// A placeholder for someone's partner is one word.
-void PasAchternaamregelToe(Tekst& achternaam)
-{
-    constexpr Tekstblik partner = "PARTNER";
-    if (achternaam.empty() || Hoofdletter(achternaam.front()) != partner.front())
-        return; // the word takes all seven
-    achternaam = ZonderRegeleinden(achternaam);
-    const Tekstblik begin = ZonderSpaties(Tekstblik(achternaam).substr(0, partner.size()));
-    if (Hoofdletters(begin) == partner)
-        achternaam = Vervang(achternaam, ' ', '_');
-}
 
 /// Turns one member after the other into lines.
 class Ledenomzetter {
@@ -82,12 +60,13 @@ class Ledenomzetter {
             if (veld == Telefoon2 && !tekst.empty()) // wins, wherever it stands
                 telefoon2 = std::move(tekst);
             else if (veld != Telefoon2)
-                lid[veld] = veld == Lidveld::Geslacht ? GeslachtUit(tekst) : std::move(tekst);
+                lid[veld] = veld == Geslacht ? GeslachtUit(tekst) : std::move(tekst);
         }
         if (!telefoon2.empty())
-            lid[Lidveld::Telefoon] = std::move(telefoon2);
-        if (versie_ == Nbbversie::Vier)
-            PasAchternaamregelToe(lid[Lidveld::Achternaam]);
+            lid[Telefoon] = std::move(telefoon2);
+        Tekst& achternaam = lid[Achternaam];
+        if (versie_ == Nbbversie::Vier && IsPartner(achternaam))
+            achternaam = Vervang(ZonderRegeleinden(achternaam), ' ', '_');
         VoegLidToe(regels, lid);
     }
 
@@ -102,8 +81,8 @@ class Ledenomzetter {
         if (versie_ == Nbbversie::Drie)
             return positie < veldenNbb3.size() ? veldenNbb3[positie] : Geen;
         const auto* const gevonden =
-            std::find_if(namenNbb4.begin(), namenNbb4.end(),
-                         [&](const auto& een) { return een.first == kind.name(); });
+            std::ranges::find(namenNbb4, std::string_view(kind.name()),
+                              &std::pair<std::string_view, std::size_t>::first);
         return gevonden == namenNbb4.end() ? Geen : gevonden->second;
     }
 

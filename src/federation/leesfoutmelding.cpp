@@ -8,29 +8,21 @@ namespace {
 
 QString Aanhef(Ledenbron bron, Tekstblik naam)
 {
-    switch (bron) {
-    case Ledenbron::Database:
+    if (bron == Ledenbron::Database)
         return u"Fout bij het lezen van het ledenbestand (alle items)!"_s;
-    case Ledenbron::Csv:
-        return u"Fout bij het lezen van '%1' CSV-bestand"_s.arg(NaarQString(naam));
-    case Ledenbron::XmlNbb3:
-        return u"Fout bij het lezen van '%1' NBB3-XML-bestand"_s.arg(NaarQString(naam));
-    case Ledenbron::XmlNbb4:
-        break;
-    }
-    return u"Fout bij het lezen van '%1' NBB4-XML-bestand"_s.arg(NaarQString(naam));
+    return u"Fout bij het lezen van '%1' %2-bestand"_s.arg(
+        NaarQString(naam), bron == Ledenbron::Csv       ? u"CSV"_s
+                           : bron == Ledenbron::XmlNbb3 ? u"NBB3-XML"_s
+                                                        : u"NBB4-XML"_s);
 }
 
-QString Oorzaak(const Fout& fout)
+QString Oorzaak(Foutsoort soort)
 {
-    switch (fout.soort) {
-    case Foutsoort::Ontbreekt:
+    if (soort == Foutsoort::Ontbreekt)
         return u"Het bestand is er niet (meer)"_s;
-    case Foutsoort::Beschadigd:
-        return u"Het ledenbestand kan niet worden gelezen"_s;
-    default:
-        return u"Het bestand hieronder kan niet worden gelezen of geschreven"_s;
-    }
+    return soort == Foutsoort::Beschadigd
+               ? u"Het ledenbestand kan niet worden gelezen"_s
+               : u"Het bestand hieronder kan niet worden gelezen of geschreven"_s;
 }
 
 QString Raad(Ledenbron bron, Foutsoort soort)
@@ -47,7 +39,7 @@ QString Raad(Ledenbron bron, Foutsoort soort)
 QString Leesfouttekst(Ledenbron bron, Tekstblik naam, const Fout& fout, Leesdoel doel)
 {
     const QString tekst =
-        Aanhef(bron, naam) + u"\r\n"_s + Oorzaak(fout) +
+        Aanhef(bron, naam) + u"\r\n"_s + Oorzaak(fout.soort) +
         (doel == Leesdoel::Import ? u"; er is niets uit geïmporteerd. "_s
                                   : u"; de leden ervan staan niet in het overzicht. "_s) +
         Raad(bron, fout.soort);

@@ -124,6 +124,12 @@ Tekst VolleNaam(const Spelertabel& tabel, int rij)
     return naam;
 }
 
+bool IsPartner(Tekstblik achternaam)
+{
+    constexpr Tekstblik partner = "PARTNER";
+    return Hoofdletters(achternaam.substr(0, partner.size())) == partner;
+}
+
 Sleutelwijzer::Sleutelwijzer(const Spelertabel& tabel)
     : tabel_(tabel), rijen_(static_cast<std::size_t>(tabel.Rijen()))
 {

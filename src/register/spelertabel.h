@@ -150,6 +150,9 @@ class Spelertabel {
 /// First name, particle and last name, as far as they are there.
 [[nodiscard]] Tekst VolleNaam(const Spelertabel& tabel, int rij);
 
+/// Whether a surname is that of somebody's partner without a name of his own. It is one word then.
+[[nodiscard]] bool IsPartner(Tekstblik achternaam);
+
 /// Finds players by their register key: the first row with each key, as a search from the top of
 /// the table finds it. Keys are read in the table, which must outlive the index; meanwhile rows may
 /// be added to it, which are not found, and other cells may change.

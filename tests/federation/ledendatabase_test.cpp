@@ -1,14 +1,12 @@
-#include "federation/ledenbronnen.h"
-
-#include <gtest/gtest.h>
-
-#include "hulp/fouten.h"
+#include "federation/ledenbestand.h"
 
 #include <algorithm>
 #include <cstdlib>
 
-#include "federation/ledenbestand.h"
+#include <gtest/gtest.h>
+
 #include "hulp/accessgegevens.h"
+#include "hulp/fouten.h"
 #include "platform/schijf/tijdelijkeMap.h"
 #include "platform/tekst/regels.h"
 #include "schijven/geheugenSchijf.h"

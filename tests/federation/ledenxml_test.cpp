@@ -1,4 +1,4 @@
-#include "federation/ledenbronnen.h"
+#include "federation/ledenbestand.h"
 
 #include <functional>
 #include <map>
