@@ -58,7 +58,7 @@ const std::string Verslag = "N01 100172 - 100173\r\nN02 100174 - 100175\r\nN03 1
 
 TEST_F(diaToevoegenTest, DeTeksten)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     VerwachtTeksten("Spelers toevoegen (speciaal)",
                     {{"Label1", "Kies een zitting:"},
                      {"Label2", "Alleen gebruiken door deskundigen van de materie."},
@@ -74,7 +74,7 @@ TEST_F(diaToevoegenTest, DeTeksten)
 
 TEST_F(diaToevoegenTest, DeEersteZittingMetDeLijstUitDeZustermap)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     EXPECT_EQ((Teksten{"Zomerdrive 2024_Rev", "Zondagdrive 2024_Rev"}), Keuzes(Keus()));
     EXPECT_EQ(0, Keus()->currentIndex());
     EXPECT_EQ(suite.Inhoud("Puntenboek/De Ruitenzeven_Zomerdrive 2024_Rev/Spelers.txt"),
@@ -92,7 +92,7 @@ TEST_F(diaToevoegenTest, ToevoegenEnOpslaan)
 {
     const int oud = Tabel().Rijen();
     const std::string bestand = suite.Spelers();
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     VoegToe();
     ASSERT_EQ(oud + 9, Tabel().Rijen());
     EXPECT_EQ(100180, administratie.spelers.HKEY);
@@ -118,7 +118,7 @@ TEST_F(diaToevoegenTest, AnnulerenEscapeEnHetSluitvakMakenAllesOngedaan)
             suite.Zet(Zomer + "/Koppelverslag.txt", "van vroeger");
         for (int weg = 0; weg < Sluitwegen; ++weg) {
             for (const bool toegevoegd : {false, true}) {
-                ASSERT_NO_FATAL_FAILURE(Open());
+                Open();
                 if (toegevoegd) {
                     VoegToe();
                     EXPECT_EQ(Verslag, Koppeltekst());
@@ -140,7 +140,7 @@ TEST_F(diaToevoegenTest, AnnulerenEscapeEnHetSluitvakMakenAllesOngedaan)
 TEST_F(diaToevoegenTest, EenVerslagDatTerugStaatMaarNietVastIsTeruggezet)
 {
     suite.Zet(Zomer + "/Koppelverslag.txt", "van vroeger");
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     VoegToe();
     VerwachtNietVast();
     VerwachtAfscheid();
@@ -150,7 +150,7 @@ TEST_F(diaToevoegenTest, EenVerslagDatTerugStaatMaarNietVastIsTeruggezet)
 
 TEST_F(diaToevoegenTest, OudeKeysWordenGemeldEnVervallen)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     wachter.Informatie(OudeKeys);
     Keus()->setFocus();
     QTest::keyClick(Keus(), Qt::Key_Down);
@@ -177,11 +177,11 @@ TEST_F(diaToevoegenTest, OudeKeysWordenGemeldEnVervallen)
 TEST_F(diaToevoegenTest, ZonderClubnaamDeEigenLijstEnZonderRevMapNiets)
 {
     suite.Zet("Puntenboek/Rev_Clubnaam.txt", "  \r\n");
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
     EXPECT_EQ(",,AFW,N03", Namen().back());
     suite.Verwijder("Zittingen");
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     EXPECT_EQ(0, Keus()->count());
     EXPECT_EQ("...", Label("Label4"));
     VerwachtKnoppen(false, false, false);
@@ -193,17 +193,17 @@ TEST_F(diaToevoegenTest, EenKopieDieMisluktOfNietVastStaat)
     wachter.Begin(u"Fout bij het ophalen van 'Spelers.txt' uit de map Puntenboek. De spelers en de "
                   "zitting zijn niet veranderd. Verhelp de oorzaak en open dit venster "
                   "opnieuw.\n\nBestand: "_s);
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     EXPECT_EQ("Aantal toe te voegen spelers: 6", Label("Label4"));
     // When only syncing the folder fails, the copy is there and is read.
     VerwachtNietVast();
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     EXPECT_EQ("Aantal toe te voegen spelers: 12", Label("Label4")); // not the 6 of its own list
 }
 
 TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     const auto rijen = AlleRijen(Tabel());
     // The last step, syncing the folder, fails when the new file is in place already.
     for (const int stap : {1, 2, 3, 4, 5, 6}) {
@@ -227,7 +227,7 @@ TEST_F(diaToevoegenTest, EenVerslagDatNietTeSchrijvenIs)
 TEST_F(diaToevoegenTest, AlsDeSleutelsOpZijn)
 {
     administratie.spelers.HKEY = std::numeric_limits<std::int32_t>::max() - 3;
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     wachter.SleutelsOp(u"Er is niets toegevoegd"_s, suite.Toonpad("Spelers/RVDspelers.txt"));
     const int oud = Tabel().Rijen();
     Klik(Knop("cmdStart"));
@@ -237,7 +237,7 @@ TEST_F(diaToevoegenTest, AlsDeSleutelsOpZijn)
 
 TEST_F(diaToevoegenTest, MetHetToetsenbord)
 {
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
     Keus()->setFocus();
     EXPECT_EQ("lstN2 cmdStart cmdAnnuleren ", MetTab(3));
@@ -260,7 +260,7 @@ TEST_F(diaToevoegenTest, EenClubnaamMetEenStreepWordtEenKeerGemeld)
         QString::fromStdString(suite.Toonpad("Puntenboek/Rev_Clubnaam.txt")) +
         u"\nOorzaak: 'Noord/Zuid' kan niet de naam van een bestand of map zijn: daarin mogen geen "
         "'/', '\\', 'C:' of '..' staan"_s);
-    ASSERT_NO_FATAL_FAILURE(Open());
+    Open();
     wachter.Klaar();
     ASSERT_EQ(2, Keus()->count());
     wachter.Informatie(OudeKeys);

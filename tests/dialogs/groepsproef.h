@@ -42,7 +42,7 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
         administratie.spelers.tabel = MaakTabel(spelers);
         Open();
     }
-    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Open()); }
+    void SetUp() override { Open(); }
 
     [[nodiscard]] QComboBox* Keus(const char* naam) const
     {
@@ -50,13 +50,7 @@ template <class Dialoog> class Groepsproef : public Dialoogproef<Dialoog, Geheug
     }
     void Kies(const char* naam, int plaats) const { KiesUit(Keus(naam), plaats); }
     [[nodiscard]] Regellijst* Lijst() const { return Vind<Regellijst>(*venster, "lstKeus"); }
-    [[nodiscard]] Teksten_t Regels() const
-    {
-        Teksten_t regels;
-        for (int plaats = 0; plaats < Lijst()->Aantal(); ++plaats)
-            regels.push_back(Lijst()->Regel(plaats));
-        return regels;
-    }
+    [[nodiscard]] Teksten_t Regels() const { return Lijstregels(*venster, "lstKeus"); }
     void KlikRegel(int plaats) const { plexoran::KlikRegel(*venster, "lstKeus", plaats); }
     /// Opens the window three times, does `keuze` and closes it without its command: by its button,
     /// by Escape and by the close box. The register stays as it was.

@@ -41,9 +41,7 @@ class Ingaveproef : public Dialoogproef<diaIngave, Ingavestand> {
         ingave.IngaveVelden = velden;
         venster = std::make_unique<diaIngave>(
             ingave, terugkeer, [this] { ++bewaard; }, &hoofd);
-        venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-        QApplication::processEvents();
+        ToonHet();
     }
     void OpenGewoneGroep() { Open("Gr02-Avond", false); }
 

@@ -3,10 +3,6 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QWheelEvent>
-#include <QtTest/qtestspontaneevent.h>
-
-#include <memory>
 
 #include <gtest/gtest.h>
 
@@ -160,12 +156,9 @@ TEST_F(diaControleNBBTest, GeslachtAlleenAlsHetIsAangevinkt)
 
 TEST_F(diaControleNBBTest, NaEenBestandDatNietGelezenWerdGaatDeLijstVerder)
 {
-    wachter.Verwacht(
-        {.tekst =
-             u"Fout bij het lezen van 'Weg.csv' CSV-bestand\r\nHet bestand is er niet (meer); de "
-             "leden ervan staan niet in het overzicht. "_s,
-         .icoon = QMessageBox::Warning,
-         .alleenBegin = true});
+    wachter.Begin(
+        u"Fout bij het lezen van 'Weg.csv' CSV-bestand\r\nHet bestand is er niet (meer); de leden "
+        "ervan staan niet in het overzicht. "_s);
     Open({"Weg.csv", "Dinsdagavondclub.csv"});
     EXPECT_EQ("NBBnr M/V NBBgroep Naam 104 V Dinsdagavo Aap, Bea de", Geschilderd());
 }
@@ -235,9 +228,7 @@ TEST_F(diaControleNBBTest, EenLeesfoutWordtOokNaStoppenGemeld)
 {
     map.Zet("Nul.csv", std::string("a\0b", 3));
     const Voortgangstopper stopper(1);
-    wachter.Verwacht({.tekst = u"Fout bij het lezen van 'Nul.csv' CSV-bestand\r\n"_s,
-                      .icoon = QMessageBox::Warning,
-                      .alleenBegin = true});
+    wachter.Begin(u"Fout bij het lezen van 'Nul.csv' CSV-bestand\r\n"_s);
     Open({"Nul.csv"});
     EXPECT_EQ("Aantal leden: 0", Label("lblAantal"));
 }
@@ -267,10 +258,7 @@ TEST_F(diaControleNBBTest, SchuiftMetBalkToetsenEnWiel)
     EXPECT_EQ(0U, Geschilderd().find("NBBnr M/V")); // the heading stays in sight
     toets(Qt::Key_Home);
     EXPECT_EQ(0, Balk()->value());
-    QWheelEvent wiel({20, 20}, P1()->mapToGlobal(QPointF(20, 20)), {}, {0, -120}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&wiel);
-    qApp->notify(P1(), &wiel);
+    DraaiWiel(P1(), {0, -120});
     EXPECT_GT(Balk()->value(), 0);
 }
 
@@ -304,11 +292,8 @@ TEST_F(diaControleNBBTest, EenSmalVensterVerzwijgtNiets)
     Open({"Lang.csv"});
     venster->resize(500, 400);
     QApplication::processEvents();
-    std::string aaneen;
-    for (const char teken : Geschilderd()) {
-        if (teken != ' ')
-            aaneen += teken;
-    }
+    std::string aaneen = Geschilderd();
+    std::erase(aaneen, ' ');
     EXPECT_NE(std::string::npos, aaneen.find("Zeergrootenlangenaamendannogmeer,An"));
 }
 

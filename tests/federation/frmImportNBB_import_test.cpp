@@ -88,8 +88,7 @@ TEST_F(ImporterenTest, UitCsv)
 {
     KopieerExports();
     Verwacht(Voer("Option2", {0, 1}));
-    VerwachtVraag(u"Dinsdag"_s, 6);
-    VerwachtAantallen(4, 2);
+    VerwachtImport(u"Dinsdag"_s, 6, 4, 2);
     VerwachtVraag(u"Maandag"_s, 8);
     wachter.Waarschuwing(
         u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nGonnie,,Gastvrouw,Brink 2,0411 "
@@ -112,8 +111,7 @@ TEST_F(ImporterenTest, UitCsv)
 
     // The second time everybody is refreshed.
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(u"Dinsdag"_s, 6);
-    VerwachtAantallen(6, 0);
+    VerwachtImport(u"Dinsdag"_s, 6, 6, 0);
     Importeer();
 }
 
@@ -122,7 +120,7 @@ TEST_F(ImporterenTest, UitXmlVanNbbr3)
     KopieerExports();
     Verwacht(Voer("Option3", {0}));
     VerwachtVraag(u"Donderdag"_s, 6);
-    VerwachtBegin(u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s);
+    wachter.Begin(u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s);
     VerwachtAantallen(4, 1);
     Importeer();
     EXPECT_EQ("HKEY=100172", Sleutelregel());
@@ -134,10 +132,9 @@ TEST_F(ImporterenTest, UitXmlVanNbbr4MetVervangenLetters)
 {
     KopieerExports();
     Verwacht(Voer("Option4", {0, 1}));
-    VerwachtVraag(u"Cursus"_s, 3);
-    VerwachtAantallen(1, 2);
+    VerwachtImport(u"Cursus"_s, 3, 1, 2);
     VerwachtVraag(u"Zomer"_s, 7);
-    VerwachtBegin(u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s);
+    wachter.Begin(u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s);
     VerwachtAantallen(3, 3);
     VerwachtLos(
         u"Zomer 20260901.xml"_s,
@@ -204,8 +201,7 @@ TEST_F(ImporterenTest, ZonderWijzigingWordtErNietGeschreven)
     ZetExport("Leeg.csv", "");
     schijf.FaalVanaf(1);
     Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(u"Leeg"_s, 0);
-    VerwachtAantallen(0, 0);
+    VerwachtImport(u"Leeg"_s, 0, 0, 0);
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
 }
@@ -221,8 +217,7 @@ TEST_F(ImporterenTest, ZonderVinkjesWordenGegevensLeeggemaakt)
         Lijst(dia)->Kies({0});
         Druk(dia, "cmdImporteer");
     });
-    VerwachtVraag(u"Club"_s, 1);
-    VerwachtAantallen(1, 0);
+    VerwachtImport(u"Club"_s, 1, 1, 0);
     Importeer();
     EXPECT_EQ("Gr05-,Agnes,,Appelscha,,,,,,,,,,,CLUB,92076715", Speler("100070"));
 }
@@ -232,8 +227,7 @@ TEST_F(ImporterenTest, WieStilWordtOvergeslagenWordtGenoemd)
     VoerClub("771;V;Eva;;;Een;;;;;;\r\n"
              "771;V;Eva;;;Twee;;;;;;\r\n"
              "092076715;V;Agnes;;;Appelscha;;;;;;\r\n");
-    VerwachtVraag(u"Club"_s, 3);
-    VerwachtAantallen(0, 1);
+    VerwachtImport(u"Club"_s, 3, 0, 1);
     VerwachtLos(
         u"Club.csv"_s,
         u"2 leden overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit bestand, of "
@@ -250,8 +244,7 @@ TEST_F(ImporterenTest, EenRegelMetTeWeinigKolommen)
         u"Regel 2 van 'Club.csv' heeft minder kolommen dan nodig is voor de gegevens die u hebt "
         "aangevinkt. Er is nog niets geïmporteerd; dat kan alleen met wie ervoor staat (1 "
         "speler). Kies bij de volgende vraag Annuleren als u eerst het bestand wilt herstellen."_s);
-    VerwachtVraag(u"Club"_s, 1);
-    VerwachtAantallen(0, 1);
+    VerwachtImport(u"Club"_s, 1, 0, 1);
     Importeer();
 }
 
@@ -261,8 +254,7 @@ TEST_F(ImporterenTest, EenLijstZonderEindHoudtOpEnZegtDat)
     for (int i = 0; i < 100'002; ++i)
         inhoud += "a=b\r\n";
     VoerClub(inhoud);
-    VerwachtVraag(u"Club"_s, 0);
-    VerwachtAantallen(0, 0);
+    VerwachtImport(u"Club"_s, 0, 0, 0);
     wachter.Bedien([](QDialog& bericht) {
         EXPECT_TRUE(Vind<QPlainTextEdit>(bericht, "txtBericht")
                         ->toPlainText()
@@ -366,9 +358,8 @@ TEST_F(ImporterenTest, EenLeesfoutBreektAfEnHoudtWatErWas)
     ZetExport("B kapot.xml", "<ReportableMembersList><Members><ReportableMember><a>");
     ZetExport("C.xml", suite.Inhoud("Bestanden/NBB4-Leden/A.xml"));
     Verwacht(Voer("Option3", {0, 1, 2}, true));
-    VerwachtVraag(u"A"_s, 1);
-    VerwachtAantallen(0, 1);
-    VerwachtBegin(u"Fout bij het lezen van 'B kapot.xml' NBB3-XML-bestand\r\n"_s);
+    VerwachtImport(u"A"_s, 1, 0, 1);
+    wachter.Begin(u"Fout bij het lezen van 'B kapot.xml' NBB3-XML-bestand\r\n"_s);
     Importeer();
     EXPECT_EQ("HKEY=100172", Sleutelregel());
     EXPECT_EQ("Gr05-,,,Bos,,,,,,,M,,,,A,771", Speler("100172"));
@@ -389,9 +380,8 @@ TEST_F(ImporterenTest, NaEenLeesfoutKanHetMetEenAnderBestandOpnieuw)
         Lijst(dia)->Kies({1});
         Druk(dia, "cmdImporteer");
     });
-    VerwachtBegin(u"Fout bij het lezen van 'A.csv' CSV-bestand\r\n"_s);
-    VerwachtVraag(u"B"_s, 1);
-    VerwachtAantallen(0, 1);
+    wachter.Begin(u"Fout bij het lezen van 'A.csv' CSV-bestand\r\n"_s);
+    VerwachtImport(u"B"_s, 1, 0, 1);
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Twee,,,,,,,V,,,,B,772", Speler("100172"));
 }
@@ -410,11 +400,9 @@ TEST_F(ImporterenTest, ZonderSleutelsGebeurtErNiets)
 
 TEST_F(ImporterenTest, MislukteOpslagHoudtDeLedenInHetProgramma)
 {
-    ZetExport("Club.csv", Een);
     schijf.FaalVanaf(1);
-    Verwacht(Voer("Option2", {0}));
-    VerwachtVraag(u"Club"_s, 1);
-    VerwachtAantallen(0, 1);
+    VoerClub(Een);
+    VerwachtImport(u"Club"_s, 1, 0, 1);
     wachter.Verwacht({.tekst = u"De spelers konden niet worden opgeslagen."_s,
                       .antwoord = u"Doorgaan"_s,
                       .icoon = QMessageBox::Critical,
@@ -467,8 +455,7 @@ TEST_F(ImporterenTest, StoppenTijdensHetLezen)
         EXPECT_TRUE(dia.isVisible());
         EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
     });
-    VerwachtVraag(u"A"_s, 1);
-    VerwachtAantallen(0, 1);
+    VerwachtImport(u"A"_s, 1, 0, 1);
     VerwachtGestopt();
     Importeer();
     EXPECT_EQ("Gr05-,Eva,,Een,,,,,,,V,,,,A,771", Speler("100172"));

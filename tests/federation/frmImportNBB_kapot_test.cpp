@@ -61,8 +61,8 @@ class KapotTest : public Importproef {
                 QString::fromStdString(naam), soort, oorzaak,
                 QString::fromStdString(suite.Toonpad(fs::path(map) / naam)), waar, raad));
         if (vier) {
-            VerwachtVraag(QString::fromStdString(naam.substr(0, naam.find_first_of(" ."))), 0);
-            VerwachtAantallen(0, 0);
+            VerwachtImport(QString::fromStdString(naam.substr(0, naam.find_first_of(" ."))), 0, 0,
+                           0);
         }
         Importeer();
         AllesIsGebleven();
@@ -177,7 +177,7 @@ TEST_F(KapotTest, EenBeschadigdeDatabase)
             KiesOptie(dia, "Option1");
             EXPECT_EQ(0, Lijst(dia)->Aantal());
         });
-        VerwachtBegin(
+        wachter.Begin(
             u"Fout bij het lezen van de ledenbestanden!\r\nDe database met de ledenbestanden kan "
             "niet worden gelezen; er is niets geïmporteerd. Kies zo nodig een geëxporteerd "
             "ledenbestand.\n\nBestand: "_s);

@@ -268,7 +268,7 @@ TEST_F(frmImportNBBTest, EenGekozenMapZonderRechten)
         EXPECT_EQ((Namen{"Dinsdag 20260901.csv", "Maandag 20260901.csv"}), Bestanden(dia));
     });
     VerwachtBestandskeuze(u"CSV-bestanden (*.csv)"_s, "Ledenbestanden/Maandag 20260901.csv");
-    VerwachtBegin(u"De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets "
+    wachter.Begin(u"De bestanden in de gekozen map kunnen niet worden opgezocht. Er is niets "
                   "geïmporteerd. Kies een andere map.\n\nBestand: "_s);
     Importeer();
 }
@@ -401,7 +401,7 @@ TEST_F(frmImportNBBTest, EenOntbrekendeDatabaseNoemtDeGeprobeerdePlaats)
         EXPECT_TRUE(Vind<QPushButton>(dia, "cmdImporteer")->isEnabled());
         EXPECT_TRUE(Vind<QPushButton>(dia, "cmdControleNBBnrs")->isEnabled());
     });
-    VerwachtBegin(
+    wachter.Begin(
         u"Fout bij het lezen van de ledenbestanden!\r\nDe database met de ledenbestanden is "
         "niet gevonden; er is niets geïmporteerd. Kies zo nodig een geëxporteerd "
         "ledenbestand.\n\nBestand: "_s +

@@ -55,11 +55,6 @@ class Importproef : public Hoofdvensterproef {
         winkel.Zet(toepassing, "DataRoot", (suite.Weg() / map).string());
         Herstart();
     }
-    /// A warning of which only the beginning is looked at.
-    void VerwachtBegin(const QString& begin)
-    {
-        wachter.Verwacht({.tekst = begin, .icoon = QMessageBox::Warning, .alleenBegin = true});
-    }
     void VerwachtVraag(const QString& subgroep, int spelers, const QString& antwoord = u"OK"_s)
     {
         wachter.Verwacht(
@@ -76,6 +71,12 @@ class Importproef : public Hoofdvensterproef {
                 .arg(ververst)
                 .arg(nieuw));
     }
+    /// A member file that is taken in, with the question before it.
+    void VerwachtImport(const QString& subgroep, int spelers, int ververst, int nieuw)
+    {
+        VerwachtVraag(subgroep, spelers);
+        VerwachtAantallen(ververst, nieuw);
+    }
     /// The file dialog, in which a file of the suite is picked.
     void VerwachtBestandskeuze(const QString& filter, const std::filesystem::path& bestand)
     {
@@ -90,7 +91,6 @@ class Importproef : public Hoofdvensterproef {
         });
     }
 
-    static void Druk(QDialog& dia, const char* knop) { Klik(Vind<QPushButton>(dia, knop)); }
     static void KiesOptie(QDialog& dia, const char* optie)
     {
         Vind<QRadioButton>(dia, optie)->click();
@@ -99,11 +99,7 @@ class Importproef : public Hoofdvensterproef {
     static Regellijst* Lijst(const QDialog& dia) { return Vind<Regellijst>(dia, "lstNBBbest"); }
     static std::vector<std::string> Bestanden(const QDialog& dia)
     {
-        std::vector<std::string> namen;
-        namen.reserve(static_cast<std::size_t>(Lijst(dia)->Aantal()));
-        for (int i = 0; i < Lijst(dia)->Aantal(); ++i)
-            namen.push_back(Lijst(dia)->Regel(i));
-        return namen;
+        return Lijstregels(dia, "lstNBBbest");
     }
     /// The text as it reads, without the marks of the mnemonic and of where a long path may be
     /// broken.

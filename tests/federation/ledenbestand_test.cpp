@@ -19,7 +19,6 @@ namespace plexoran {
 namespace {
 
 using Lijst = std::vector<Tekst>;
-using Namen = std::vector<Tekst>;
 
 Ledenopdracht Opdracht(Ledenbron bron)
 {
@@ -224,17 +223,17 @@ TEST_F(BepaalXMLsoortTest, HoudtAlleenDeBestandenVanDeGekozenSoort)
     // The mark of NBBR-4 is the opening tag: without one its members are read by position, and so
     // have no number.
     Zet("leegid.xml", Xml("<ReportableMember><LeagueId/></ReportableMember>"));
-    const Namen namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",   "hoofd.xml",
+    const Lijst namen = {"v.xml", "d.xml",   "weg.xml", "anders.xml", "d16.xml",   "hoofd.xml",
                          "a.xml", "v16.xml", "c.xml",   "leeg.xml",   "kapot.xml", "leegid.xml"};
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb3),
-              (Namen{"d.xml", "d16.xml", "c.xml", "kapot.xml", "leegid.xml"}));
+              (Lijst{"d.xml", "d16.xml", "c.xml", "kapot.xml", "leegid.xml"}));
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen, Ledenbron::XmlNbb4),
-              (Namen{"v.xml", "a.xml", "v16.xml"}));
+              (Lijst{"v.xml", "a.xml", "v16.xml"}));
 }
 
 TEST_F(BepaalXMLsoortTest, MeldtElkBestandEnHoudtOpAlsHetMoet)
 {
-    const Namen namen{"a.xml", "b.xml", "c.xml"};
+    const Lijst namen{"a.xml", "b.xml", "c.xml"};
     for (const Tekst& naam : namen)
         Zet(naam, Xml("<ReportableMember>x</ReportableMember>"));
     std::vector<std::size_t> standen;
@@ -248,8 +247,8 @@ TEST_F(BepaalXMLsoortTest, MeldtElkBestandEnHoudtOpAlsHetMoet)
     };
     EXPECT_EQ(tot(3), namen);
     EXPECT_EQ(standen, (std::vector<std::size_t>{0, 1, 2}));
-    EXPECT_EQ(tot(2), (Namen{"a.xml", "b.xml"}));
-    EXPECT_EQ(tot(0), Namen());
+    EXPECT_EQ(tot(2), (Lijst{"a.xml", "b.xml"}));
+    EXPECT_EQ(tot(0), Lijst());
 }
 
 /// The sample exports as they stand in the repository.
@@ -268,15 +267,15 @@ class Voorbeelden : public LeesLedenbestandTest {
         std::sort(namen_.begin(), namen_.end());
     }
 
-    Namen namen_;
+    Lijst namen_;
 };
 
 TEST_F(Voorbeelden, ZijnElkVanHunSoort)
 {
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen_, Ledenbron::XmlNbb3),
-              Namen{"Donderdag 20260901.xml"});
+              Lijst{"Donderdag 20260901.xml"});
     EXPECT_EQ(BepaalXMLsoort(schijf, "C:\\Export", namen_, Ledenbron::XmlNbb4),
-              (Namen{"Cursus 20260901.xml", "Zomer 20260901.xml"}));
+              (Lijst{"Cursus 20260901.xml", "Zomer 20260901.xml"}));
 }
 
 TEST_F(Voorbeelden, DeCsvBestandenGevenHunLeden)

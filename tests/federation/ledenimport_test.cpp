@@ -23,19 +23,19 @@ class LedenimportTest : public testing::Test {
     GeheugenSchijf schijf;
     Administratie administratie{.schijf = schijf, .winkel = {}, .programmamap = "C:\\P"};
     Importgeheugen geheugen;
-    Ledenimport import{administratie, geheugen};
+    Ledenimport leden{administratie, geheugen};
 };
 
 TEST_F(LedenimportTest, DeMapIsDieVanDeBondOfDeLaatsteVanDezeBron)
 {
-    EXPECT_EQ("C:\\Win\\NBB4-Leden", import.Beginmap());
+    EXPECT_EQ("C:\\Win\\NBB4-Leden", leden.Beginmap());
     schijf.ZetMap("C:\\Elders");
-    import.KiesBron(Ledenbron::XmlNbb3);
-    ASSERT_TRUE(import.KiesMap("C:\\Elders"));
-    EXPECT_EQ("C:\\Elders", import.Beginmap());
-    import.KiesBron(Ledenbron::Csv);
-    EXPECT_EQ("", import.Map());
-    EXPECT_EQ("C:\\Win\\NBB4-Leden", import.Beginmap());
+    leden.KiesBron(Ledenbron::XmlNbb3);
+    ASSERT_TRUE(leden.KiesMap("C:\\Elders"));
+    EXPECT_EQ("C:\\Elders", leden.Beginmap());
+    leden.KiesBron(Ledenbron::Csv);
+    EXPECT_EQ("", leden.Map());
+    EXPECT_EQ("C:\\Win\\NBB4-Leden", leden.Beginmap());
     EXPECT_EQ(Ledenbron::Csv, geheugen.bron);
     Ledenimport later(administratie, geheugen);
     later.KiesBron(Ledenbron::XmlNbb3);
@@ -43,36 +43,35 @@ TEST_F(LedenimportTest, DeMapIsDieVanDeBondOfDeLaatsteVanDezeBron)
     geheugen.mappen[Ledenbron::XmlNbb3] = "C:\\Weg"; // no longer there: not asked for another
     EXPECT_EQ("", later.Beginmap());
     administratie.mappen.WINMAP.clear();
-    EXPECT_EQ("", import.Beginmap());
+    EXPECT_EQ("", leden.Beginmap());
 }
 
 TEST_F(LedenimportTest, DeNamenMetDeExtensieInTekstorde)
 {
-    ASSERT_TRUE(import.KiesMap("C:\\Win\\NBB4-Leden"));
-    EXPECT_EQ((Namen{"A.CSV", "b.csv"}), import.Namen());
-    import.HoudVanSoort([](std::size_t, std::size_t) { return false;
-});
-EXPECT_EQ(2U, import.Namen().size()) << "een CSV wordt niet gelezen";
-EXPECT_EQ(1, import.EersteKeus("b.csv"));
-EXPECT_EQ(-1, import.EersteKeus("d.xml"));
-import.KiesBron(Ledenbron::XmlNbb4);
-EXPECT_TRUE(import.Namen().empty());
-EXPECT_EQ(-1, import.EersteKeus(""));
-ASSERT_TRUE(import.KiesMap("C:\\Win\\NBB4-Leden"));
-EXPECT_EQ((Namen{"a.XML", "c.xml", "d.xml"}), import.Namen());
-EXPECT_EQ(0, import.EersteKeus("b.csv"));
-EXPECT_EQ(2, import.EersteKeus("d.xml"));
-schijf.Zet("C:\\Win\\NBB4-Leden\\c.xml", "iets anders");
-import.HoudVanSoort({});
-EXPECT_EQ((Namen{"a.XML", "d.xml"}), import.Namen());
-EXPECT_FALSE(import.KiesMap("C:\\Weg"));
-EXPECT_EQ("C:\\Win\\NBB4-Leden", import.Map());
-EXPECT_EQ((Namen{"a.XML", "d.xml"}), import.Namen());
-} // namespace
+    ASSERT_TRUE(leden.KiesMap("C:\\Win\\NBB4-Leden"));
+    EXPECT_EQ((Namen{"A.CSV", "b.csv"}), leden.Namen());
+    leden.HoudVanSoort([](std::size_t, std::size_t) { return false; });
+    EXPECT_EQ(2U, leden.Namen().size()) << "een CSV wordt niet gelezen";
+    EXPECT_EQ(1, leden.EersteKeus("b.csv"));
+    EXPECT_EQ(-1, leden.EersteKeus("d.xml"));
+    leden.KiesBron(Ledenbron::XmlNbb4);
+    EXPECT_TRUE(leden.Namen().empty());
+    EXPECT_EQ(-1, leden.EersteKeus(""));
+    ASSERT_TRUE(leden.KiesMap("C:\\Win\\NBB4-Leden"));
+    EXPECT_EQ((Namen{"a.XML", "c.xml", "d.xml"}), leden.Namen());
+    EXPECT_EQ(0, leden.EersteKeus("b.csv"));
+    EXPECT_EQ(2, leden.EersteKeus("d.xml"));
+    schijf.Zet("C:\\Win\\NBB4-Leden\\c.xml", "iets anders");
+    leden.HoudVanSoort({});
+    EXPECT_EQ((Namen{"a.XML", "d.xml"}), leden.Namen());
+    EXPECT_FALSE(leden.KiesMap("C:\\Weg"));
+    EXPECT_EQ("C:\\Win\\NBB4-Leden", leden.Map());
+    EXPECT_EQ((Namen{"a.XML", "d.xml"}), leden.Namen());
+}
 
 TEST_F(LedenimportTest, DeOpdrachtEnDeDatabase)
 {
-    EXPECT_FALSE(import.KentDatabase());
+    EXPECT_FALSE(leden.KentDatabase());
     administratie.DataMap = "C:\\Data";
     Ledenimport met(administratie, geheugen);
     EXPECT_TRUE(met.KentDatabase());
@@ -89,25 +88,25 @@ TEST_F(LedenimportTest, DeOpdrachtEnDeDatabase)
 /// Where nothing may be written beside the program, as when the system installed it.
 TEST_F(LedenimportTest, HetTussenbestandKomtWaarGeschrevenKanWorden)
 {
-    import.KiesBron(Ledenbron::XmlNbb4);
-    EXPECT_EQ("C:\\Admin", import.Opdracht({}).programmamap);
+    leden.KiesBron(Ledenbron::XmlNbb4);
+    EXPECT_EQ("C:\\Admin", leden.Opdracht({}).programmamap);
     const Pad proef = "C:\\P\\Temp-NBBXMLtoCSV.proef";
     schijf.Zet(proef, "van een programma dat hier werd afgebroken");
-    EXPECT_EQ("C:\\P", import.Opdracht({}).programmamap);
+    EXPECT_EQ("C:\\P", leden.Opdracht({}).programmamap);
     EXPECT_FALSE(schijf.Inhoud(proef));
     schijf.ZetAlleenLezen("C:\\P");
-    EXPECT_EQ("C:\\Admin", import.Opdracht({}).programmamap);
+    EXPECT_EQ("C:\\Admin", leden.Opdracht({}).programmamap);
     EXPECT_EQ("C:\\P", Tussenmap(schijf, "C:\\P", {}));
 }
 
 TEST_F(LedenimportTest, ImporteertInDeVerzamelgroepOnderDeNaamVanHetBestand)
 {
-    EXPECT_TRUE(import.Importeer("Club 30.csv", {"Eva,,Ek,,,,,,,V,"}, {}));
-    EXPECT_FALSE(import.IetsGewijzigd());
-    const auto nieuw = import.Importeer("Club 30.csv", {"Eva,,Ek,,,,,,,V,77"}, {});
+    EXPECT_TRUE(leden.Importeer("Club 30.csv", {"Eva,,Ek,,,,,,,V,"}, {}));
+    EXPECT_FALSE(leden.IetsGewijzigd());
+    const auto nieuw = leden.Importeer("Club 30.csv", {"Eva,,Ek,,,,,,,V,77"}, {});
     ASSERT_TRUE(nieuw);
     EXPECT_EQ(1U, nieuw->AantalNieuw);
-    EXPECT_TRUE(import.IetsGewijzigd());
+    EXPECT_TRUE(leden.IetsGewijzigd());
     EXPECT_EQ("Gr05-", administratie.spelers.tabel.Cel(1, Kolom::Groep));
     EXPECT_EQ("CLUB", administratie.spelers.tabel.Cel(1, Kolom::NBBgr));
     Ledenimport ander(administratie, geheugen);
@@ -145,5 +144,5 @@ TEST(RuimTussenbestandOp, AlleenNaXmlEnHetMagErNietZijn)
     EXPECT_EQ(Foutsoort::Geweigerd, ruimOp(Ledenbron::XmlNbb3).error().soort);
 }
 
-} // namespace plexoran
+} // namespace
 } // namespace plexoran

@@ -109,20 +109,6 @@ TEST(Nbb4Xml, HetTweedeTelefoonnummerGaatVoorWaarHetOokStaat)
         EXPECT_EQ(Lid4(elementen), Tekst(";;;;;;;;;") + nummer + ";;;;;;;") << elementen;
 }
 
-TEST(Nbb4Xml, GeslachtKomtUitZesTeksten)
-{
-    for (const auto& [tekst, geslacht] : {std::pair{"female", "V"},
-                                          {"Man", "M"},
-                                          {"Unknown", ""},
-                                          {"niet bekend", ""},
-                                          {"onzijdig", ""},
-                                          {"M", ""},
-                                          {" man", ""}})
-        EXPECT_EQ(Lid4("<Geslacht>" + Tekst(tekst) + "</Geslacht>"),
-                  ";" + Tekst(geslacht) + ";;;;;;;;;;;;;;;")
-            << tekst;
-}
-
 TEST(Nbb4Xml, EenPartnerWordtEenWoord)
 {
     for (const auto& [achternaam, woord] :

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
-#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {
@@ -148,9 +147,13 @@ TEST_F(Samenvoegen, WatTeLangIsOmNummersTeZijnVerandertNiets)
 /// Meant: a number of nine or more digits hides the numbers within its digits.
 TEST_F(Samenvoegen, EenLangNummerVerbergtEenAnder)
 {
-    EXPECT_EQ(1U, Voeg({"Een,,Lang,,,,,,,,9123456780"}).AantalNieuw);
-    EXPECT_EQ((Teksten{"Een,,Kort,,,,,,,,12345678"}),
-              Voeg({"Een,,Kort,,,,,,,,12345678"}).overgeslagen);
+    const Samenvoeging uitkomst =
+        Voeg({"Een,,Lang,,,,,,,,9123456780", "Een,,Kort,,,,,,,,12345678"});
+    EXPECT_EQ(1U, uitkomst.AantalNieuw);
+    EXPECT_EQ((Teksten{"Een,,Kort,,,,,,,,12345678"}), uitkomst.overgeslagen);
+    // The same when it came with an earlier file.
+    EXPECT_EQ((Teksten{"Een,,Kort,,,,,,,,23456780"}),
+              Voeg({"Een,,Kort,,,,,,,,23456780"}).overgeslagen);
 }
 
 TEST_F(Samenvoegen, TweemaalHetzelfdeNieuweNummerAlleenHetEerste)
@@ -254,113 +257,101 @@ TEST_F(Samenvoegen, StoppenOpElkMomentVerandertNiets)
     }
 }
 
-// ---------------------------------------------------------------- the plain way
+// ---------------------------------------------------------------- the index
 
-constexpr std::array<std::pair<std::size_t, std::size_t>, 10> kolomEnVeld{
-    {{3, 0}, {4, 1}, {5, 2}, {6, 6}, {7, 7}, {8, 3}, {9, 4}, {10, 5}, {11, 8}, {12, 9}}};
-
-/// Step by step, with one concatenated text.
-Samenvoeging VoegPlatSamen(std::vector<Rijvelden>& rijen, std::int32_t& HKEY, const Teksten& lstN1)
+TEST(OpgemaaktNBBnr, CijfersTotAchtAndereTekstZoalsZeIs)
 {
-    Samenvoeging uit;
-    Tekst index;
-    for (const Rijvelden& rij : rijen)
-        index += rij[2] == "Gr05-" ? "-" + OpgemaaktNBBnr(rij[17]) : "";
-    const auto bevat = [&](const Tekst& nummer) {
-        return index.find(OpgemaaktNBBnr(nummer)) != Tekst::npos;
-    };
-    Teksten lstN2;
-    for (const Tekst& regel : lstN1) {
-        const Importvelden veld = SplitsImportregel(regel);
-        const Tekst nummer(ZonderSpaties(veld[10]));
-        const auto rij = std::find_if(rijen.begin(), rijen.end(), [&](const Rijvelden& een) {
-            return een[2] == "Gr05-" && een[17] == nummer;
-        });
-        if (nummer.empty()) {
-            uit.ZonderNBBnr += regel + "\r\n";
-        } else if (!bevat(nummer) || rij == rijen.end()) {
-            lstN2.push_back(regel);
-        } else {
-            for (const auto& [kolom, plek] : kolomEnVeld)
-                (*rij)[kolom] = veld[plek];
-            (*rij)[16] = "CLUB";
-            ++uit.AantalVerververst;
-        }
-    }
-    for (const Tekst& regel : lstN2) {
-        const Importvelden veld = SplitsImportregel(regel);
-        const Tekst nummer(ZonderSpaties(veld[10]));
-        if (bevat(nummer)) {
-            uit.overgeslagen.push_back(regel);
-            continue;
-        }
-        Rijvelden rij{std::to_string(rijen.size() + 1), std::to_string(++HKEY), "Gr05-"};
-        for (const auto& [kolom, plek] : kolomEnVeld)
-            rij[kolom] = ZonderSpaties(veld[plek]);
-        rij[16] = "CLUB";
-        rij[17] = nummer;
-        rijen.push_back(rij);
-        ++uit.AantalNieuw;
-        index += "-" + OpgemaaktNBBnr(nummer);
-    }
-    return uit;
+    for (const auto& [nummer, opgemaakt] : std::vector<std::pair<Tekst, Tekst>>{
+             {"12345", "00012345"},
+             {"012345", "00012345"},
+             {"12345678", "12345678"},
+             {"123456789", "123456789"},
+             {" 12345 ", "00012345"},
+             {"0", "00000000"},
+             {"", ""},
+             {"12a45", "12a45"},
+             {"12-45", "12-45"},
+             {"-12345", "-12345"},
+         })
+        EXPECT_EQ(opgemaakt, OpgemaaktNBBnr(nummer));
 }
 
-/// Of few digits, which are equal as numbers sooner than as texts, or of anything.
-Tekst ToevalligNummer(std::mt19937& toeval, bool gewoon)
+/// Asks for each text after all numbers were put in.
+std::vector<bool> Antwoorden(const std::vector<Tekst>& nummers, const std::vector<Tekst>& vragen)
 {
-    static const Tekst alfabet = "1123-a 0";
-    if (gewoon) {
-        Tekst nummer(Gooi(toeval, 4), ' ');
-        for (char& teken : nummer)
-            teken = "01 "[Gooi(toeval, 3)];
-        return nummer;
-    }
-    Tekst nummer(Gooi(toeval, 3) == 0 ? Gooi(toeval, 13) : Gooi(toeval, 4), ' ');
-    for (char& teken : nummer)
-        teken = alfabet[Gooi(toeval, Gooi(toeval, 3) == 0 ? alfabet.size() : 3)];
-    return nummer;
+    NBBnrIndex index({vragen.begin(), vragen.end()});
+    for (const Tekst& nummer : nummers)
+        index.Voeg(nummer);
+    std::vector<bool> antwoorden;
+    for (std::size_t vraag = 0; vraag < vragen.size(); ++vraag)
+        antwoorden.push_back(index.Bevat(vraag));
+    return antwoorden;
 }
 
-TEST_F(Samenvoegen, DoetHetzelfdeAlsDePlatteStappen)
+TEST(NBBnrIndex, VindtWatErgensInDeTekstStaat)
 {
-    std::mt19937 toeval(5);
-    std::size_t ververst = 0;
-    std::size_t nieuw = 0;
-    std::size_t overgeslagen = 0;
+    using Rij = std::vector<bool>;
+    const Tekst lang(65, '7'); // longer than any number is
+    for (const auto& [nummers, vragen, antwoorden] :
+         std::vector<std::tuple<std::vector<Tekst>, std::vector<Tekst>, Rij>>{
+             {{"00012345", "00067890"},
+              {"00012345", "00067890", "00012346", "12345000"},
+              {true, true, false, false}},
+             {{}, {"00012345", ""}, {false, true}},
+             // Meant: a number of nine or more digits hides every number within its digits.
+             {{"1234567890"},
+              {"12345678", "23456789", "34567890", "123456789", "45678900"},
+              {true, true, true, true, false}},
+             // Across the "-", if the question has one.
+             {{"00012345", "00067890", "7-8"},
+              {"5-0", "12345-00067890-7", "0-7-8", "0-8", "-00012345"},
+              {true, true, true, false, true}},
+             // Short and strange texts, and the same question twice.
+             {{"gast12", "00012345"},
+              {"gast", "st1", "gast12", "12g", "00012345", "00012345"},
+              {true, true, true, false, true, true}},
+             {{"", ""}, {"--", "---"}, {true, false}},
+             {{Tekst(9, '\0')}, {Tekst(8, '\0'), Tekst(9, '\0')}, {true, true}},
+             {{lang + "8"},
+              {lang, lang + "9", lang + "8", Tekst(64, '7')},
+              {true, false, true, true}}})
+        EXPECT_EQ(antwoorden, Antwoorden(nummers, vragen)) << testing::PrintToString(nummers);
+}
+
+/// The index in the plain way: one text, searched from its beginning every time.
+TEST(NBBnrIndex, AntwoordtAlsDeAaneengeregenTekst)
+{
+    std::mt19937 toeval(20);
+    const std::vector<Tekst> alfabetten{"01", "0123456789", "01-", "1a-", "-", "0a\xE9"};
+    std::size_t gevonden = 0;
+    std::size_t gemist = 0;
     for (int keer = 0; keer < 6000; ++keer) {
-        const bool gewoon = keer % 2 == 0;
-        std::vector<Proefspeler> begin(Gooi(toeval, 9));
-        for (Proefspeler& speler : begin)
-            speler = {.key = "100001",
-                      .groep = Trek(toeval, {"Gr05-", "Gr05-", "Gr01-"}),
-                      .achternaam = "Oud",
-                      .nbbnr = ToevalligNummer(toeval, gewoon)};
-        spelers.HKEY = 100042;
-        spelers.tabel = MaakTabel(begin);
-        auto rijen = AlleRijen(spelers.tabel);
-        std::int32_t HKEY = 100042;
-        Teksten regels;
-        for (std::size_t over = Gooi(toeval, 12); over > 0; --over)
-            regels.push_back(Trek(toeval, {"a", " b "}) + "," +
-                             Trek(toeval, {"", "de", gewoon ? "van" : "x,y"}) + ",Nieuw," +
-                             Trek(toeval, {"", "weg"}) + ",pc,pl,t,e,l,m," +
-                             ToevalligNummer(toeval, gewoon));
-        const Samenvoeging uitkomst = Voeg(regels);
-        const Samenvoeging plat = VoegPlatSamen(rijen, HKEY, regels);
-        ASSERT_EQ(rijen, AlleRijen(spelers.tabel));
-        ASSERT_EQ(HKEY, spelers.HKEY);
-        ASSERT_EQ(plat.AantalVerververst, uitkomst.AantalVerververst);
-        ASSERT_EQ(plat.AantalNieuw, uitkomst.AantalNieuw);
-        ASSERT_EQ(plat.ZonderNBBnr, uitkomst.ZonderNBBnr);
-        ASSERT_EQ(plat.overgeslagen, uitkomst.overgeslagen);
-        ververst += uitkomst.AantalVerververst;
-        nieuw += uitkomst.AantalNieuw;
-        overgeslagen += uitkomst.overgeslagen.size();
+        const Tekst& alfabet = alfabetten[Gooi(toeval, alfabetten.size())];
+        const auto tekst = [&] {
+            // Half of them of the usual length, so that all ways of asking come up.
+            Tekst uit(Gooi(toeval, 2) == 0 ? 8 : Gooi(toeval, 13), ' ');
+            for (char& teken : uit)
+                teken = alfabet[Gooi(toeval, alfabet.size())];
+            return uit;
+        };
+        std::vector<Tekst> vragen(Gooi(toeval, 8));
+        for (Tekst& vraag : vragen)
+            vraag = tekst();
+        NBBnrIndex index({vragen.begin(), vragen.end()});
+        Tekst plat;
+        for (std::size_t stap = Gooi(toeval, 10); stap > 0; --stap) {
+            const Tekst nummer = tekst();
+            index.Voeg(nummer);
+            plat += "-" + OpgemaaktNBBnr(nummer);
+            for (std::size_t i = 0; i < vragen.size(); ++i) {
+                const bool staatEr = plat.find(OpgemaaktNBBnr(vragen[i])) != Tekst::npos;
+                ASSERT_EQ(staatEr, index.Bevat(i)) << plat << " ? " << vragen[i];
+                ++(staatEr ? gevonden : gemist);
+            }
+        }
     }
-    EXPECT_GT(ververst, 500U);
-    EXPECT_GT(nieuw, 1000U);
-    EXPECT_GT(overgeslagen, 1000U);
+    EXPECT_GT(gevonden, 10000U);
+    EXPECT_GT(gemist, 10000U);
 }
 
 } // namespace
