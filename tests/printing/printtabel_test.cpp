@@ -1,12 +1,8 @@
 #include "printing/printtabel.h"
 
-#include <algorithm>
-#include <random>
-
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
-#include "platform/tekst/tekst.h"
 
 using namespace plexoran;
 
@@ -123,60 +119,6 @@ TEST(Printtabel, AlleenDeGekozenSubgroepenHoofdlettersTellenNiet)
     EXPECT_EQ((Namen{"Cor", "Fred"}), Voornamen(Voorbeeld(), {"GEEN"}));
     EXPECT_EQ((Namen{"Cor", "Dirk", "Fred"}), Voornamen(Voorbeeld(), {"GEEN", "B-lijn"}));
     EXPECT_TRUE(Voornamen(Voorbeeld(), {"lijn"}).empty()); // a part is not enough
-}
-
-/// The marks are looked for in one text, as they stand.
-TEST(Printtabel, DeSubgroepenGelijkAanHetZoekenInDeTekst)
-{
-    std::mt19937 toeval(7);
-    const std::vector<Tekst> namen{"a",   "A",  "ab",   "b",  "#",    "a#",   "#b",
-                                   "a#b", "##", "\xE9", " a", "b##a", "geen", ""};
-    int raak = 0;
-    for (int proef = 0; proef < 2000; ++proef) {
-        std::vector<Tekst> gekozen(1 + Gooi(toeval, 3));
-        Tekst tekst;
-        for (Tekst& naam : gekozen) {
-            naam = Trek(toeval, namen);
-            if (naam.empty())
-                naam = "GEEN"; // as listed
-            tekst += "#" + Hoofdletters(naam) + "#";
-        }
-        const Tekst subgroep = Trek(toeval, namen);
-        const Tekst gezocht = subgroep.empty() ? "GEEN" : Hoofdletters(subgroep);
-        const bool hoort = tekst.find("#" + gezocht + "#") != Tekst::npos;
-        raak += hoort ? 1 : 0;
-        const auto tabel = MaakTabel({{"1", "Gr01-", "An", "", "Bos", subgroep, ""}});
-        EXPECT_EQ(hoort, Voornamen(tabel, gekozen).size() == 1) << tekst << " " << gezocht;
-    }
-    EXPECT_GT(raak, 300);
-    EXPECT_LT(raak, 1700);
-}
-
-/// The order is that of the lines "surname, two blanks, #, number", whatever stands in the surname.
-TEST(Printtabel, GelijkAanHetSorterenVanDeRegels)
-{
-    std::mt19937 toeval(11);
-    const std::vector<Tekst> namen{"Bos",        "bos",        "B\xF6s",  "Bos ",
-                                   "Bos  #0001", "Bo",         "Bos  #2", "Bos  #0003",
-                                   "Bos  #x",    "bos  #0002", "",        "#"};
-    for (int proef = 0; proef < 3000; ++proef) {
-        std::vector<Proefspeler> spelers(1 + Gooi(toeval, 8));
-        std::vector<Tekst> regels;
-        for (std::size_t i = 0; i < spelers.size(); ++i) {
-            spelers[i] = {.key = std::to_string(i),
-                          .groep = "Gr01-",
-                          .voornaam = std::to_string(i + 1),
-                          .achternaam = Trek(toeval, namen)};
-            regels.push_back(spelers[i].achternaam + "  #000" + spelers[i].voornaam);
-        }
-        std::sort(regels.begin(), regels.end(), [](const Tekst& een, const Tekst& ander) {
-            return Sorteersleutel(een) < Sorteersleutel(ander);
-        });
-        std::vector<Tekst> verwacht;
-        for (const Tekst& regel : regels)
-            verwacht.push_back(regel.substr(regel.size() - 1));
-        ASSERT_EQ(verwacht, Voornamen(MaakTabel(spelers))) << proef;
-    }
 }
 
 /// Four digits end at 9,999 rows; the order does not.

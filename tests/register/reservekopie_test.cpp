@@ -207,17 +207,6 @@ TEST(Reservekopie, ZonderKopieGeenOpslag)
     EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>{metGroepsnaam});
 }
 
-TEST(Reservekopie, AlleenLezenMapSlaatNietOp)
-{
-    GeheugenSchijf schijf;
-    Register spelers = Gelezen(schijf, "onzin");
-    spelers.tabel.VoegToe(nieuweSpeler);
-    schijf.ZetAlleenLezen(spelersmap);
-    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::GeenReservekopie);
-    EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{spelerbestand});
-    EXPECT_EQ(schijf.Inhoud(spelerbestand), "onzin");
-}
-
 TEST(Reservekopie, OpDeEchteSchijf)
 {
     const TijdelijkeMap map;
