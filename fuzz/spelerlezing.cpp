@@ -15,7 +15,7 @@ void EisGelijkAanGewoon(const Spelerlezing& lezing, const gewoon::Lezing& gewone
     Eis(lezing.fout.has_value() == (gewone.foutregel > 0), "een fout of geen");
     if (lezing.fout) {
         Eis(lezing.fout->regel == gewone.foutregel, "regel van de fout");
-        Eis(lezing.fout->velden == gewone.foutvelden, "velden van de fout");
+        Eis(lezing.velden == gewone.foutvelden, "velden van de fout");
         Eis(lezing.verliest, "een fout vraagt een kopie");
     }
     if (!lezing.tabel)

@@ -73,12 +73,8 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
     spelers.HKEY = lezing.HKEY.value_or(spelers.HKEY);
     spelers.gelezen = *stempel;
     spelers.kopieNodig = lezing.verliest;
-    if (lezing.fout) {
-        verslag.velden = lezing.fout->velden;
-        verslag.fout = {.soort = Foutsoort::Beschadigd,
-                        .bestand = schijf.Toonpad(pad),
-                        .regel = lezing.fout->regel};
-    }
+    if (verslag.fout)
+        verslag.fout->bestand = schijf.Toonpad(pad);
     return verslag;
 }
 

@@ -13,14 +13,10 @@ namespace plexoran {
 /// `HKEY` is never below it in the file, so that the first key issued is 100001.
 inline constexpr std::int32_t Sleutelbasis = 100000;
 
-/// Where and why the reading of the lines ended before the last one.
-struct Regelfout {
-    int regel = 0;  ///< line of the file, from 1
-    int velden = 0; ///< fields on that line; 0 for a key line with a number that does not fit
-};
-
 /// What the reading of a text left out or missed.
 struct Leesbevinding {
+    std::optional<Fout> fout; ///< the reading ended here; the lines before it are in the table
+    int velden = 0;           ///< on that line; 0 for a key line with a number that does not fit
     std::vector<int> zonderAchternaam;  ///< line numbers that were left out
     bool zonderSleutelregel = false;    ///< there are players, but no key line
     int sleutelZonderGetal = 0;         ///< line of the last key line, when it names no number
@@ -33,8 +29,7 @@ struct Leesbevinding {
 struct Spelerlezing : Leesbevinding {
     std::optional<Spelertabel> tabel;
     std::optional<std::int32_t> HKEY; ///< of the last key line read; none without one
-    std::optional<Regelfout> fout;
-    bool verliest = false; ///< writing the table would lose something of the text
+    bool verliest = false;            ///< writing the table would lose something of the text
 };
 
 [[nodiscard]] Spelerlezing SpelersUit(Tekst inhoud);
@@ -50,8 +45,6 @@ struct Register {
 
 /// What a read found, for the user.
 struct Leesverslag : Leesbevinding {
-    std::optional<Fout> fout;    ///< the reading ended here; the lines before it are in the table
-    int velden = 0;              ///< fields on the line to blame, where one is
     bool tabelVervangen = false; ///< the table is the file's now
 
     /// The disk did not give the file at all; the register is as it was.

@@ -151,7 +151,7 @@ class Lezer {
         }
         if (velden_ < AantalKolommen) {
             OnthoudSleutel(grenzen_);
-            uit_.fout = Regelfout{regel_, velden_};
+            MeldFout(velden_);
             return;
         }
         if (velden_ > AantalKolommen || Lengte(Kolom::Key) == 0 ||
@@ -175,9 +175,15 @@ class Lezer {
         return grenzen_[plek + 1] - grenzen_[plek] - 1;
     }
 
+    void MeldFout(int velden)
+    {
+        uit_.fout = Fout{.soort = Foutsoort::Beschadigd, .regel = regel_};
+        uit_.velden = velden;
+    }
+
     void BreekAf(int velden)
     {
-        uit_.fout = Regelfout{regel_, velden};
+        MeldFout(velden);
         geteld_ = false;
         for (const auto& rij : rijen_)
             OnthoudSleutel(rij);
@@ -202,7 +208,7 @@ Spelerlezing SpelersUit(Tekst inhoud)
 {
     if (inhoud.size() > Spelertabel::GrootsteTekst) {
         Spelerlezing uit;
-        uit.fout = Regelfout{};
+        uit.fout = Fout{.soort = Foutsoort::Beschadigd};
         uit.verliest = true;
         return uit;
     }
