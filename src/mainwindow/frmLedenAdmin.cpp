@@ -20,15 +20,9 @@ void PasToe(QPushButton* knop, Zichtbaarheid zichtbaarheid)
 
 QString NietsGevonden(Sorteersoort soort)
 {
-    switch (soort) {
-    case Sorteersoort::Key:
-        return u"Er zijn geen regels die voldoen aan het zoek-criterium."_s;
-    case Sorteersoort::NBBnr:
-        return u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-nummer'."_s;
-    case Sorteersoort::NBBgroep:
-        break;
-    }
-    return u"Er zijn geen regels die voldoen aan het zoek-criterium 'NBB-groep'."_s;
+    constexpr std::array criteria{u"", u" 'NBB-nummer'", u" 'NBB-groep'"}; // by kind
+    return u"Er zijn geen regels die voldoen aan het zoek-criterium%1."_s.arg(
+        QString::fromUtf16(criteria.at(static_cast<std::size_t>(soort) - 1)));
 }
 
 Tekst Verslag(const Spelertabel& tabel, const std::vector<Dubbel>& dubbelen)

@@ -3,7 +3,6 @@
 // from left to right.
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QListView>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -36,15 +35,10 @@ constexpr int Knopruimte = 16;          // pixels beside the caption of a button
 QComboBox* MaakNummerkeus(const QString& naam, const QString& gesproken, QStringListModel* nummers,
                           QLabel* label, QWidget* ouder)
 {
-    auto* keus = new QComboBox(ouder);
-    Noem(keus, naam, gesproken);
-    // Asking the width of every number would take as long as showing the group.
-    keus->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* keus = MaakKeus(naam, label, ouder);
+    keus->setAccessibleName(gesproken);
     keus->setMinimumContentsLength(6);
     keus->setModel(nummers);
-    label->setBuddy(keus);
-    if (auto* lijst = qobject_cast<QListView*>(keus->view()))
-        lijst->setUniformItemSizes(true);
     return keus;
 }
 

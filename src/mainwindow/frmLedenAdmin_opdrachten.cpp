@@ -163,18 +163,16 @@ void frmLedenAdmin::Verplaats()
 {
     diaVerplaats venster(administratie_, this);
     venster.exec();
-    if (venster.IngaveGeannuleerd())
-        return;
-    SlaOpEnToon(u"De spelers(s) zijn verplaatst."_s);
+    if (!venster.IngaveGeannuleerd())
+        SlaOpEnToon(u"De spelers(s) zijn verplaatst."_s);
 }
 
 void frmLedenAdmin::Kopieer()
 {
     diaKopieer venster(administratie_, this);
     venster.exec();
-    if (venster.IngaveGeannuleerd())
-        return;
-    SlaOpEnToon();
+    if (!venster.IngaveGeannuleerd())
+        SlaOpEnToon();
 }
 
 void frmLedenAdmin::VerwijderGroep()
@@ -183,9 +181,8 @@ void frmLedenAdmin::VerwijderGroep()
     // Behind the window, which stays open, the grid must not show other players in its old lines.
     connect(&venster, &frmVerwSubgroep::rijenVerwijderd, this, &frmLedenAdmin::ToonGroep);
     venster.exec();
-    if (!venster.IetsVerwijderd())
-        return;
-    SlaOpEnToon();
+    if (venster.IetsVerwijderd())
+        SlaOpEnToon();
 }
 
 /// Members in a group that is none of the fifty would never be seen again.
@@ -208,9 +205,8 @@ void frmLedenAdmin::HaalNBBnamen()
     // Its last box and the window itself go at once, and a window manager may then give the focus
     // to nobody.
     activateWindow();
-    if (!venster.IetsGewijzigd())
-        return;
-    SlaOpEnToon();
+    if (venster.IetsGewijzigd())
+        SlaOpEnToon();
 }
 
 void frmLedenAdmin::VoegSessiespelersToe()
@@ -235,14 +231,12 @@ void frmLedenAdmin::OnderhoudParen()
         close();
         return;
     }
-    frmParenOnderhoud venster(administratie_, Groeptekst(), this);
-    venster.exec();
+    frmParenOnderhoud(administratie_, Groeptekst(), this).exec();
 }
 
 void frmLedenAdmin::ToonToelichting()
 {
-    frmToelichting venster(this);
-    venster.exec();
+    frmToelichting(this).exec();
 }
 
 void frmLedenAdmin::Print()

@@ -68,8 +68,6 @@ tl::expected<Sorteerlijst, GeenGetal> VulSorteerlijst(const Spelertabel& tabel, 
     const bool opKey = soort == Sorteersoort::Key;
     const Kolom kolom = opKey ? Kolom::Key : Kolom::NBBnr;
     Sorteerlijst lijst;
-    if (!groepscode)
-        lijst.reserve(static_cast<std::size_t>(tabel.Rijen()));
     for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
         if (groepscode && tabel.Cel(rij, Kolom::Groep) != *groepscode)
             continue;

@@ -3,21 +3,18 @@
 namespace plexoran {
 namespace {
 
-float Tekstbreedte(const Lettermeter& meter, const Letter& letter, Tekstblik tekst)
-{
-    return static_cast<float>(meter.Breedte(letter, tekst));
-}
-
 /// A column is as wide as its widest text, its title in bold among them.
 std::vector<float> Kolombegin(const Printtabel& tabel, const Schaalmaten& maten,
                               const Lettermeter& meter)
 {
+    const auto breed = [&](const Letter& letter, Tekstblik tekst) {
+        return static_cast<float>(meter.Breedte(letter, tekst));
+    };
     std::vector<float> begin{0};
     for (int kolom = 0; kolom <= tabel.Kolommen(); ++kolom) {
-        float breedste = Tekstbreedte(meter, maten.Vet(), tabel.Titel(kolom));
+        float breedste = breed(maten.Vet(), tabel.Titel(kolom));
         for (int rij = 1; kolom > 0 && rij <= tabel.Rijen(); ++rij)
-            breedste =
-                std::max(breedste, Tekstbreedte(meter, maten.Gewoon(), tabel.Cel(rij, kolom)));
+            breedste = std::max(breedste, breed(maten.Gewoon(), tabel.Cel(rij, kolom)));
         begin.push_back(begin.back() + (maten.celmarge + maten.celmarge + breedste));
     }
     return begin;
