@@ -1,6 +1,6 @@
 #include "printing/printblad.h"
 
-#include <cmath>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -11,18 +11,19 @@ using namespace plexoran;
 
 namespace {
 
-/// Every character is so many millimetres wide at ten points, in both weights.
+/// Texts as wide as a test says.
 class Proefmeter : public Lettermeter {
   public:
-    explicit Proefmeter(double teken) : teken_(teken) {}
+    using Regel = std::function<double(const Letter&, Tekstblik)>;
+    explicit Proefmeter(Regel regel) : regel_(std::move(regel)) {}
     [[nodiscard]] double Breedte(const Letter& letter, Tekstblik tekst) const override
     {
-        return static_cast<double>(tekst.size()) * teken_ * letter.punten / 10;
+        return regel_(letter, tekst);
     }
     [[nodiscard]] double Hoogte(const Letter& /*letter*/) const override { return 4; }
 
   private:
-    double teken_;
+    Regel regel_;
 };
 
 Bladindeling Indeling(const Spelertabel& tabel, std::vector<Kolom> kolommen, float schaal = 1)
@@ -35,12 +36,15 @@ Bladindeling Indeling(const Spelertabel& tabel, std::vector<Kolom> kolommen, flo
 }
 
 /// One column, wide enough for this print width: "RegNr" and the surname, five and ten characters,
-/// and 0.8 of padding on either side of both.
+/// and 0.8 of padding on either side of both. Every character is as wide, in both weights.
 Bladindeling MetPrintbreedte(double breedte, float schaal = 1)
 {
     const Spelertabel tabel = MaakPrintspelers(1, Tekst(10, 'x'));
     const double teken = (breedte / static_cast<double>(schaal) - 3.2) / 15;
-    return BerekenKolommen(AlleenNaam(tabel), schaal, Proefmeter(teken));
+    return BerekenKolommen(
+        AlleenNaam(tabel), schaal, Proefmeter([&](const Letter& letter, Tekstblik tekst) {
+            return static_cast<double>(tekst.size()) * teken * letter.punten / 10;
+        }));
 }
 
 } // namespace
@@ -105,23 +109,14 @@ TEST(Bladindeling, TweehonderdtienBlijftStaandMeerGaatLiggen)
 /// The print width is compared in single precision with the whole sheet, which it may fill.
 TEST(Bladindeling, PreciesZoBreedAlsHetVelPast)
 {
-    class Precies : public Lettermeter {
-      public:
-        explicit Precies(float breed) : breed_(breed) {}
-        [[nodiscard]] double Breedte(const Letter& /*letter*/, Tekstblik tekst) const override
-        {
-            const float p = 0.8F;
-            return tekst == "RegNr" ? 0.0 : static_cast<double>(breed_ - (p + p) - (p + p));
-        }
-        [[nodiscard]] double Hoogte(const Letter& /*letter*/) const override { return 4; }
-
-      private:
-        float breed_;
-    };
     const Spelertabel tabel = MaakPrintspelers(1);
     for (const auto& [breed, stand] :
          {std::pair(210.0F, Papierstand::Staand), {297.0F, Papierstand::Liggend}}) {
-        const auto indeling = BerekenKolommen(AlleenNaam(tabel), 1, Precies(breed));
+        const Proefmeter meter([breed = breed](const Letter& /*letter*/, Tekstblik tekst) {
+            const float p = 0.8F;
+            return tekst == "RegNr" ? 0.0 : static_cast<double>(breed - (p + p) - (p + p));
+        });
+        const auto indeling = BerekenKolommen(AlleenNaam(tabel), 1, meter);
         ASSERT_EQ(breed, indeling.Printbreedte());
         EXPECT_EQ(stand, indeling.papier.stand);
         EXPECT_FALSE(indeling.TeBreed());

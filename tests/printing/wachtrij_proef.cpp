@@ -152,9 +152,7 @@ class WachtrijProef : public testing::Test, protected Suitestand {
     void MeldtFoutBij(const std::function<void(QDialog&)>& stappen)
     {
         const auto venster = OpenLijst(1, stappen);
-        wachter.Verwacht({.tekst = u"Het printen is niet gelukt."_s,
-                          .icoon = QMessageBox::Critical,
-                          .alleenBegin = true});
+        wachter.Begin(u"Het printen is niet gelukt."_s, QMessageBox::Critical);
         Klik(Vind<QPushButton>(*venster, "cmdPrinten"));
         wachter.Klaar();
         EXPECT_TRUE(venster->isVisible());
