@@ -44,9 +44,10 @@ class Berichtwachter : public QObject {
     void Informatie(const QString& tekst);
     void Waarschuwing(const QString& tekst);
     /// A box of which the file and the words of the system may follow.
-    void Begin(const QString& tekst, QMessageBox::Icon icoon = QMessageBox::Warning)
+    void Begin(const QString& tekst, QMessageBox::Icon icoon = QMessageBox::Warning,
+               const QString& antwoord = u"OK"_s)
     {
-        Verwacht({.tekst = tekst, .icoon = icoon, .alleenBegin = true});
+        Verwacht({.tekst = tekst, .antwoord = antwoord, .icoon = icoon, .alleenBegin = true});
     }
     /// `wat` did not happen, because no key is left after that on the first line of the file.
     void SleutelsOp(const QString& wat, const std::string& spelerbestand);

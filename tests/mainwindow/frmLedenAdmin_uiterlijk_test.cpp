@@ -105,7 +105,7 @@ class UiterlijkTest : public Hoofdvensterproef {
 
 TEST_F(UiterlijkTest, DePlaatsenBovenaan)
 {
-    ASSERT_NO_FATAL_FAILURE(Start());
+    Start();
     const Maten maten;
     ASSERT_EQ(100, maten.Twips(1500)) << "de letter van de tests is de standaard";
     EXPECT_EQ(QPoint(maten.Twips(7000), maten.Twips(200)), Plek(Label("Label1")).topLeft());
@@ -118,7 +118,7 @@ TEST_F(UiterlijkTest, DePlaatsenBovenaan)
 
 TEST_F(UiterlijkTest, NietsIsAfgekniptInHetKleinsteVensterEnInEenGroot)
 {
-    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    Start(1024, 700);
     EXPECT_EQ(QSize(1024, 700), venster->size());
     EXPECT_LE(venster->minimumSizeHint().width(), 1024);
     EXPECT_LE(venster->minimumSizeHint().height(), 700);
@@ -144,7 +144,7 @@ TEST_F(UiterlijkTest, NietsIsAfgekniptMetGrotereLetters)
         QFont groot = QApplication::font();
         groot.setPointSizeF(punten);
         QApplication::setFont(groot);
-        ASSERT_NO_FATAL_FAILURE(Start(1, 1));
+        Start(1, 1);
         KiesGroep(5);
         QApplication::processEvents();
         // As small as it may be without scrolling.
@@ -159,7 +159,7 @@ TEST_F(UiterlijkTest, VanEenHeelLangeGroepsnaamStaatHetBeginErEnHetVensterWordtN
 {
     const std::string naam = "Gr01-" + std::string(3000, 'x');
     suite.Zet("Spelers/RVDGroepen.txt", naam + "\r\n");
-    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    Start(1024, 700);
     EXPECT_EQ(1024, venster->width());
     EXPECT_LE(venster->minimumSizeHint().width(), 1024);
 
@@ -175,7 +175,7 @@ TEST_F(UiterlijkTest, VanEenHeelLangeGroepsnaamStaatHetBeginErEnHetVensterWordtN
 TEST_F(UiterlijkTest, TabGaatLangsElkeOpdrachtZoalsHetOogLeest)
 {
     suite.Zet("Mappen.ini", suite.Inhoud("Mappen.ini") + "NEWPAGR=1\r\n");
-    ASSERT_NO_FATAL_FAILURE(Start(1024, 700));
+    Start(1024, 700);
     KiesGroep(5); // shows every button
     QApplication::processEvents();
     Keus("cmbGr")->setFocus();

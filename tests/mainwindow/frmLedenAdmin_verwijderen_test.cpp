@@ -33,10 +33,8 @@ const QString Annuleren = u"Annuleren"_s;
 const QString regel3 = u"Weet u zeker dat u regel 3 wilt verwijderen?"_s;
 const QString johan = u"1 speler:\nJohan Kuipersma"_s;
 
-class VerwijderTest : public Hoofdvensterproef {
+class VerwijderTest : public HoofdvensterTest {
   protected:
-    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
-
     /// The lines of the player file without the one of this key, numbered anew.
     static std::string ZonderSleutels(const std::string& bestand,
                                       const std::vector<std::string>& sleutels)
@@ -169,9 +167,8 @@ TEST_F(VerwijderTest, DeEersteTienSpelersStaanErMetNaamEnHetAantal)
 /// The names come from the file: neither markup nor a length that no screen can show.
 TEST_F(VerwijderTest, EenNaamIsNooitOpmaakEnMaaktHetVensterNietBreed)
 {
-    suite.Zet("Spelers/RVDspelers.txt", "HKEY=100001\r\n1,100001,Gr01-,<b>Jan</b>,," +
-                                            std::string(500, 'x') + ",,,,,,,M,,,,,\r\n");
-    ASSERT_NO_FATAL_FAILURE(Herstart());
+    HerstartMet("HKEY=100001\r\n1,100001,Gr01-,<b>Jan</b>,," + std::string(500, 'x') +
+                ",,,,,,,M,,,,,\r\n");
     KiesRegel(1);
     wachter.LaatBeslissen([](const QMessageBox& vraag) {
         const auto* label = Vind<QLabel>(vraag, "qt_msgbox_informativelabel");
@@ -188,8 +185,7 @@ TEST_F(VerwijderTest, DeLaatsteSpelersVanHetRegisterBlijvenInHetBestand)
 {
     const std::string oud = "HKEY=100009\r\n1,100001,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n"
                             "2,100002,Gr01-,Piet,,Dam,,,,,,,M,,,,,\r\n";
-    suite.Zet("Spelers/RVDspelers.txt", oud);
-    ASSERT_NO_FATAL_FAILURE(Herstart());
+    HerstartMet(oud);
     Keus("cmbVerwTot")->setCurrentIndex(1);
     wachter.Verwacht(Verwijdervraag(u"Weet u zeker dat u regel 1 t/m regel 2 wilt verwijderen?"_s,
                                     OK, u"2 spelers:\nJan Bos\nPiet Dam"_s));

@@ -1,7 +1,5 @@
 // The grid at work: selecting by mouse and keys, scrolling, column widths, what is drawn.
 #include <QAccessible>
-#include <QWheelEvent>
-#include <QtTest/qtestspontaneevent.h>
 
 #include <cmath>
 
@@ -12,10 +10,8 @@ using namespace plexoran;
 
 namespace {
 
-class RoosterTest : public Hoofdvensterproef {
+class RoosterTest : public HoofdvensterTest {
   protected:
-    void SetUp() override { ASSERT_NO_FATAL_FAILURE(Start()); }
-
     void KlikOpHoogte(double mm) const { Klik(Vlak(), {40, static_cast<int>(std::ceil(Y(mm)))}); }
 
     /// The guide lines lie on the boundaries of a line, over the whole drawn width.
@@ -44,15 +40,7 @@ class RoosterTest : public Hoofdvensterproef {
         return boven >= Deel("P9")->height() - 1 && onder <= Vlak()->height() + 1;
     }
 
-    void Wiel(QPoint hoek, QWidget* boven = nullptr) const
-    {
-        QWidget* doel = boven == nullptr ? Vlak() : boven;
-        const QPointF plek(20, 40);
-        QWheelEvent gebeurtenis(plek, doel->mapToGlobal(plek), {}, hoek, Qt::NoButton,
-                                Qt::NoModifier, Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&gebeurtenis); // only then it goes on to the parents
-        qApp->notify(doel, &gebeurtenis);
-    }
+    void Wiel(QPoint hoek) const { DraaiWiel(Vlak(), hoek); }
 
     [[nodiscard]] QImage Beeld() const
     {
@@ -122,11 +110,10 @@ TEST_F(RoosterTest, EenKlikOpDeHeaderVerbergtDeLijnenEnLaatDeKeus)
     EXPECT_FALSE(Deel("Line1")->isVisible());
     EXPECT_FALSE(Deel("Line2")->isVisible());
     EXPECT_EQ(4, GekozenRegel());
-    wachter.Bedien([](QDialog& ingave) {
+    Opdracht("cmdWijzig", [](QDialog& ingave) {
         EXPECT_EQ("Regelnummer 4", Vind<QLabel>(ingave, "Label1")->text().toStdString());
         Druk(ingave, "cmdAnnuleren");
     });
-    Opdracht("cmdWijzig");
 }
 
 TEST_F(RoosterTest, DeHeaderNeemtDeFocusNiet)
@@ -324,8 +311,8 @@ TEST_F(RoosterTest, HetWielSchuiftDeRegelsEnDoetAanHetEindVanZijnBereikNiets)
     EXPECT_EQ(Balk("VScroll1")->maximum(), Balk("VScroll1")->value());
     for (int i = 0; i < 5; ++i) {
         Wiel({0, -120});
-        Wiel({0, -120}, Balk("VScroll1"));
-        Wiel({-120, 0}, Balk("HScroll1"));
+        DraaiWiel(Balk("VScroll1"), {0, -120});
+        DraaiWiel(Balk("HScroll1"), {-120, 0});
     }
     EXPECT_EQ(Balk("VScroll1")->maximum(), Balk("VScroll1")->value());
     KiesGroep(4); // nothing to scroll at all
@@ -406,8 +393,7 @@ TEST_F(RoosterTest, EenLegeGroepLaatDeBreedtenStaan)
 
 TEST_F(RoosterTest, EenNaamDieNietOpZijnHeaderPastWordtIngekort)
 {
-    suite.Zet("Spelers/RVDspelers.txt", "HKEY=100001\r\n1,100001,Gr01-,,,B,,,,,,,,,,,,\r\n");
-    ASSERT_NO_FATAL_FAILURE(Herstart());
+    HerstartMet("HKEY=100001\r\n1,100001,Gr01-,,,B,,,,,,,,,,,,\r\n");
     EXPECT_EQ("Achternaam", GetekendOp(Header(6)));
     Vink("chkKolBr")->click();
     const std::string kort = GetekendOp(Header(6));
@@ -438,9 +424,7 @@ TEST_F(RoosterTest, TekentBandLijnenEnTeksten)
 
 TEST_F(RoosterTest, EenTeLangeTekstBlijftInZijnCel)
 {
-    suite.Zet("Spelers/RVDspelers.txt",
-              "HKEY=100001\r\n1,100001,Gr01-,,,WWWWWWWWWWWWWWWWWWWWWWWWWW,,,,,,,,,,,,\r\n");
-    ASSERT_NO_FATAL_FAILURE(Herstart());
+    HerstartMet("HKEY=100001\r\n1,100001,Gr01-,,,WWWWWWWWWWWWWWWWWWWWWWWWWW,,,,,,,,,,,,\r\n");
     const QImage beeld = Beeld();
     const int y = qRound(Y(5)) + 2;
     const QPushButton* header = Header(6);

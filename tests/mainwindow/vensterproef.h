@@ -23,7 +23,8 @@ class Vensterproef : public testing::Test {
     {
         venster->resize(breed, hoog);
         venster->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        if (!QTest::qWaitForWindowActive(venster.get()))
+            throw std::runtime_error("het venster komt niet");
     }
 
     [[nodiscard]] QPushButton* Knop(const char* naam) const
@@ -56,6 +57,12 @@ class Vensterproef : public testing::Test {
     {
         Klik(Knop(naam));
         wachter.Klaar();
+    }
+    /// The same for one that opens a window, which `stappen` close.
+    void Opdracht(const char* naam, std::function<void(QDialog&)> stappen)
+    {
+        wachter.Bedien(std::move(stappen));
+        Opdracht(naam);
     }
     /// The entry window is filled with a surname.
     void VerwachtIngave(const QString& achternaam)
@@ -153,24 +160,36 @@ class Hoofdvensterproef : public Vensterproef, protected Suitestand {
     void Start(int breed = 1024, int hoog = 700)
     {
         venster = std::make_unique<frmLedenAdmin>(administratie);
-        ASSERT_EQ(std::nullopt, venster->Laad(suite.MappenIni(), [] { return true; }));
-        ASSERT_NO_FATAL_FAILURE(Toon(breed, hoog));
+        EXPECT_EQ(std::nullopt, venster->Laad(suite.MappenIni(), [] { return true; }));
+        Toon(breed, hoog);
     }
 
     /// Ends the program and starts it again on the same folders.
     void Herstart()
     {
-        ASSERT_TRUE(venster->close());
+        EXPECT_TRUE(venster->close());
         venster.reset();
         administratie.mappen = {};
         administratie.instellingen = {};
         administratie.groepen = {};
         administratie.spelers = {};
-        ASSERT_NO_FATAL_FAILURE(Start());
+        Start();
+    }
+    /// The same with other players.
+    void HerstartMet(const std::string& spelers)
+    {
+        suite.Zet("Spelers/RVDspelers.txt", spelers);
+        Herstart();
     }
 
   private:
     std::filesystem::path werkmap_ = std::filesystem::current_path();
+};
+
+/// The main window open on it.
+class HoofdvensterTest : public Hoofdvensterproef {
+  protected:
+    HoofdvensterTest() { Start(); }
 };
 
 } // namespace plexoran

@@ -144,44 +144,23 @@ TEST(MeetCellen, NeemtPerKolomDeBreedsteVanDeGetoondeRijen)
     EXPECT_EQ(0, MeetCellen(tabel, {}, Proefmeter())[achternaam]);
 }
 
-TEST(MaakKolommen, VolgensTekstenIsDeBreedsteTekstPlusVierMarges)
+TEST(MaakKolommen, TekstOfHeaderMetZijnMargesMaarNooitSmallerDanTien)
 {
-    Kolommaten cellen{};
-    Kolommaten headers{};
-    cellen[0] = 12'345;
-    cellen[1] = 20'000;
-    headers.fill(90'000);
-    const Kolomranden randen = MaakKolommen(cellen, headers, Breedteregel::VolgensTeksten);
-    EXPECT_DOUBLE_EQ(0, randen[0]);
-    EXPECT_NEAR(12.345 + 4 * rooster::Celmarge, randen[1], 1e-9);
-    EXPECT_NEAR(20 + 4 * rooster::Celmarge, randen[2] - randen[1], 1e-9);
-}
-
-TEST(MaakKolommen, VolgensHeaderIsDeHeaderPlusTweeMarges)
-{
-    Kolommaten cellen{};
-    Kolommaten headers{};
-    cellen.fill(90'000);
-    headers[0] = 12'345;
-    headers[17] = 20'000;
-    const Kolomranden randen = MaakKolommen(cellen, headers, Breedteregel::VolgensHeader);
-    EXPECT_NEAR(12.345 + 2 * rooster::Celmarge, randen[1], 1e-9);
-    EXPECT_NEAR(20 + 2 * rooster::Celmarge, randen[18] - randen[17], 1e-9);
-}
-
-TEST(MaakKolommen, NooitSmallerDanTien)
-{
-    Kolommaten cellen{};
-    Kolommaten headers{};
-    cellen[4] = 5'900;
-    cellen[5] = 6'100;
-    headers[4] = 7'900;
-    headers[5] = 8'100;
-    for (const auto regel : {Breedteregel::VolgensTeksten, Breedteregel::VolgensHeader}) {
-        const Kolomranden randen = MaakKolommen(cellen, headers, regel);
-        EXPECT_DOUBLE_EQ(40, randen[4]);
-        EXPECT_DOUBLE_EQ(50, randen[5]) << "9,9 wordt 10";
-        EXPECT_NEAR(60.1, randen[6], 1e-9) << "10,1 blijft 10,1";
+    Kolommaten andere;
+    andere.fill(90'000);
+    for (const auto& [regel, marges] :
+         {std::pair(Breedteregel::VolgensTeksten, 4), {Breedteregel::VolgensHeader, 2}}) {
+        Kolommaten maten{};
+        maten[0] = 12'345;
+        maten[4] = 9'900 - marges * 1000;
+        maten[17] = 10'100 - marges * 1000;
+        const Kolomranden randen = regel == Breedteregel::VolgensTeksten
+                                       ? MaakKolommen(maten, andere, regel)
+                                       : MaakKolommen(andere, maten, regel);
+        EXPECT_DOUBLE_EQ(0, randen[0]);
+        EXPECT_NEAR(12.345 + marges * rooster::Celmarge, randen[1], 1e-9);
+        EXPECT_NEAR(10, randen[5] - randen[4], 1e-9) << "9,9 wordt 10";
+        EXPECT_NEAR(10.1, randen[18] - randen[17], 1e-9) << "10,1 blijft 10,1";
     }
 }
 
@@ -207,34 +186,23 @@ Tekst PasTekstStapVoorStap(Tekst tekst, double kolombreedte, const Tekstmeter& m
 
 } // namespace
 
-TEST(PasTekst, WatPastBlijftHeel)
+TEST(PasTekst, WatTeBreedIsEindigtOpPuntjes)
 {
-    // 10 - 2 margins - 0.6 leaves 7.4 mm.
-    EXPECT_EQ("", PasTekst("", 10, Proefmeter()));
-    EXPECT_EQ("Jan", PasTekst("Jan", 10, Proefmeter()));
-    EXPECT_EQ("Jansens", PasTekst("Jansens", 10, Proefmeter()));
-}
-
-TEST(PasTekst, WatTeBreedIsWordtIngekortEnEindigtOpPuntjes)
-{
-    EXPECT_EQ("Janss...", PasTekst("Janssens", 10, Proefmeter()));
-    EXPECT_EQ("Jansen...", PasTekst("Jansen van der Meer", 10.2, Proefmeter()));
-    EXPECT_EQ("Jan...", PasTekst("JanWW", 10, Proefmeter()));
-}
-
-TEST(PasTekst, EenTekstDiePreciesZoBreedIsAlsDeRuimtePast)
-{
-    const Tekstmeter meter = Proefmeter();
-    const double ruimte = 8; // mm
-    const double breedte = ruimte + 2 * rooster::Celmarge + rooster::Speling;
-    EXPECT_EQ("Jansen B", PasTekst("Jansen B", breedte + 1e-6, meter));
-    EXPECT_EQ("Jansen...", PasTekst("Jansen B", breedte - 1e-3, meter));
-}
-
-TEST(PasTekst, NietsDanDePuntjesAlsErGeenLetterBijKan)
-{
-    EXPECT_EQ("...", PasTekst("WWWW", 5, Proefmeter()));
-    EXPECT_EQ("...", PasTekst("W", 4, Proefmeter())) << "ook als de puntjes zelf niet passen";
+    struct Geval {
+        const char* tekst;
+        double kolombreedte; // of which 2.6 mm stay free
+        const char* moet;
+    };
+    for (const Geval& geval :
+         {Geval{"", 10, ""}, Geval{"Jan", 10, "Jan"}, Geval{"Jansens", 10, "Jansens"},
+          Geval{"Janssens", 10, "Janss..."}, Geval{"Jansen van der Meer", 10.2, "Jansen..."},
+          Geval{"JanWW", 10, "Jan..."},
+          // as wide as the room, to a hair
+          Geval{"Jansen B", 10.6 + 1e-6, "Jansen B"}, Geval{"Jansen B", 10.6 - 1e-3, "Jansen..."},
+          // also where the dots themselves do not fit
+          Geval{"WWWW", 5, "..."}, Geval{"W", 4, "..."}})
+        EXPECT_EQ(geval.moet, PasTekst(geval.tekst, geval.kolombreedte, Proefmeter()))
+            << geval.tekst << " in " << geval.kolombreedte;
 }
 
 TEST(PasTekst, IsGelijkAanHetStapVoorStapInkorten)
