@@ -76,23 +76,6 @@ Tekst Subgroepkop(const std::vector<Tekst>& subgroepen)
     return kop;
 }
 
-Printtabel::Printtabel(const Spelertabel& tabel, std::vector<int> rijen,
-                       std::vector<Kolom> kolommen, std::vector<Tekst> titels)
-    : tabel_(tabel), rijen_(std::move(rijen)), kolommen_(std::move(kolommen)),
-      titels_(std::move(titels))
-{}
-
-Tekstblik Printtabel::Titel(int kolom) const
-{
-    return kolom == 0 ? Tekstblik("RegNr") : titels_[static_cast<std::size_t>(kolom - 1)];
-}
-
-Tekstblik Printtabel::Cel(int rij, int kolom) const
-{
-    return tabel_.Cel(rijen_[static_cast<std::size_t>(rij - 1)],
-                      kolommen_[static_cast<std::size_t>(kolom - 1)]);
-}
-
 Printtabel MaakPrinttabel(const Spelertabel& tabel, const Printopdracht& opdracht)
 {
     std::vector<int> rijen = RijenVan(tabel, opdracht);

@@ -23,24 +23,25 @@ inline constexpr Tekstblik GeenSubgroep = "GEEN";
 
 /// What is printed. Rows and columns are counted as on paper: row 1 is the first player, column 0
 /// the number of the row, columns 1 to `Kolommen()` are the chosen ones.
-class Printtabel {
-  public:
-    /// Borrows the table, which must not change meanwhile. `titels` are those of `kolommen`.
-    Printtabel(const Spelertabel& tabel, std::vector<int> rijen, std::vector<Kolom> kolommen,
-               std::vector<Tekst> titels);
+struct Printtabel {
+    const Spelertabel& tabel; ///< borrowed, and not to change meanwhile
+    std::vector<int> rijen;
+    std::vector<Kolom> kolommen;
+    std::vector<Tekst> titels; ///< of these columns
 
-    [[nodiscard]] int Rijen() const { return static_cast<int>(rijen_.size()); }
-    [[nodiscard]] int Kolommen() const { return static_cast<int>(kolommen_.size()); }
+    [[nodiscard]] int Rijen() const { return static_cast<int>(rijen.size()); }
+    [[nodiscard]] int Kolommen() const { return static_cast<int>(kolommen.size()); }
     /// "RegNr" for column 0.
-    [[nodiscard]] Tekstblik Titel(int kolom) const;
+    [[nodiscard]] Tekstblik Titel(int kolom) const
+    {
+        return kolom == 0 ? Tekstblik("RegNr") : titels[static_cast<std::size_t>(kolom - 1)];
+    }
     /// The text of a column but the first; it holds until the table is changed.
-    [[nodiscard]] Tekstblik Cel(int rij, int kolom) const;
-
-  private:
-    const Spelertabel& tabel_;
-    std::vector<int> rijen_;
-    std::vector<Kolom> kolommen_;
-    std::vector<Tekst> titels_;
+    [[nodiscard]] Tekstblik Cel(int rij, int kolom) const
+    {
+        return tabel.Cel(rijen[static_cast<std::size_t>(rij - 1)],
+                         kolommen[static_cast<std::size_t>(kolom - 1)]);
+    }
 };
 
 /// What the set-up asks for.

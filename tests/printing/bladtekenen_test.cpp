@@ -61,11 +61,7 @@ TEST_F(BladtekenenTest, ZonderSubgroepenGeenSubgroepregel)
 {
     Maak(MaakPrintspelers(1), {Kolom::Achternaam});
     lijst->subgroepkop.clear();
-    EXPECT_EQ((std::vector<Tekst>{"Spelerinformatie", "Groep:  Gr01-Clubleden", "RegNr"}), [this] {
-        auto teksten = Teken(1).Teksten();
-        teksten.resize(3);
-        return teksten;
-    }());
+    EXPECT_EQ("RegNr", Teken(1).Teksten().at(2));
 }
 
 TEST_F(BladtekenenTest, LettersEnPlaatsen)
@@ -218,16 +214,4 @@ TEST_F(BladtekenenTest, AllesOpSchaal)
     EXPECT_NEAR(8, Deel("v2").letter.punten, Naast);
     EXPECT_NEAR(15 + 0.8 * (0.8 + 7.85), Deel("v2").x, Naast);
     EXPECT_NEAR(15 + 0.8 * (15 + 4.5 + 4.5 + 0.25), Deel("v2").y, Naast);
-}
-
-/// The head stays above the titles of the columns.
-TEST_F(BladtekenenTest, DeKopregelsLopenNietInElkaar)
-{
-    Maak(MaakPrintspelers(1), {Kolom::Voornaam});
-    Teken(1);
-    for (std::size_t i = 0; i < 3; ++i) {
-        const auto& boven = vlak.teksten[i];
-        const auto& onder = vlak.teksten[i + 1];
-        EXPECT_LE(boven.y + meter.Hoogte(boven.letter) * 0.98, onder.y + 0.15) << boven.tekst;
-    }
 }

@@ -105,6 +105,15 @@ TEST(Printtabel, NaamgenotenDieInHoofdlettersVerschillenInTabelvolgorde)
     EXPECT_EQ((std::vector<Tekst>{"An", "Bea", "Cor"}), Voornamen(tabel));
 }
 
+/// Four digits, whatever stands in the surname.
+TEST(Printtabel, EenAchternaamDieOpEenGenummerdeLijkt)
+{
+    const auto tabel = MaakTabel({{"1", "Gr01-", "An", "", "Bos", "", ""},
+                                  {"2", "Gr01-", "Bea", "", "Bos  #0005", "", ""},
+                                  {"3", "Gr01-", "Cor", "", "Bos  #00005", "", ""}});
+    EXPECT_EQ((std::vector<Tekst>{"Cor", "An", "Bea"}), Voornamen(tabel));
+}
+
 TEST(Printtabel, ZonderAchternaamInTabelvolgorde)
 {
     EXPECT_EQ((std::vector<Tekst>{"An", "Cor", "Dirk", "Els", "Fred"}),
