@@ -22,8 +22,6 @@
 
 #include "platform/schijf/schijf.h"
 
-class QDataStream;
-
 namespace plexoran {
 
 enum class Accesssoort : unsigned char {
@@ -74,9 +72,5 @@ struct Accessvraag {
 /// To be called first of all in `main`: ends this process when it is such a child, and does nothing
 /// when it is the program itself.
 void WerkAlsAccesskind(int argc, char** argv);
-
-/// Walks the table with libmdb and writes the rows. Gives how many there were, or what is wrong.
-/// May crash, loop or use all memory on a damaged file.
-[[nodiscard]] Uitkomst<std::uint32_t> LeesMetLibmdb(const Accessvraag& vraag, QDataStream& uit);
 
 } // namespace plexoran

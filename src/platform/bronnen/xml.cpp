@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cstdint>
 #include <initializer_list>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -117,11 +118,6 @@ std::optional<Xmlfout> OnbekendeVerwijzing(std::string_view bron)
 {
     using Sectie = std::pair<std::string_view, std::string_view>;
     constexpr std::array<Sectie, 3> secties{{{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
-    std::size_t eerste = bron.find('&');
-    while (eerste != nergens && IsBekend(bron.substr(eerste + 1)))
-        eerste = bron.find('&', eerste + 1);
-    if (eerste == nergens) // as good as always, and quickly seen
-        return std::nullopt;
     for (std::size_t plaats = 0; plaats < bron.size(); ++plaats) {
         if (bron[plaats] == '&' && !IsBekend(bron.substr(plaats + 1))) {
             const std::string_view naam = bron.substr(plaats, 32);
@@ -143,30 +139,20 @@ std::optional<Xmlfout> OnbekendeVerwijzing(std::string_view bron)
 
 const char* Oorzaak(pugi::xml_parse_status status)
 {
-    switch (status) {
-    case pugi::status_out_of_memory:
-        return "het document is te groot voor het geheugen";
-    case pugi::status_unrecognized_tag:
-        return "achter een '<' staat geen geldige tag";
-    case pugi::status_bad_pi:
-        return "een instructie ('<?') is niet goed afgesloten";
-    case pugi::status_bad_comment:
-        return "een commentaar ('<!--') is niet goed afgesloten";
-    case pugi::status_bad_cdata:
-        return "een CDATA-blok is niet goed afgesloten";
-    case pugi::status_bad_doctype:
-        return "een declaratie ('<!') is niet goed afgesloten";
-    case pugi::status_bad_start_element:
-        return "een begintag is niet goed afgesloten";
-    case pugi::status_bad_attribute:
-        return "een kenmerk in een begintag is niet goed geschreven";
-    case pugi::status_bad_end_element:
-        return "een eindtag is niet goed afgesloten";
-    case pugi::status_end_element_mismatch:
-        return "een eindtag ontbreekt of hoort niet bij de begintag";
-    default:
-        return "het bestand is geen XML";
-    }
+    static const std::map<pugi::xml_parse_status, const char*> oorzaken{
+        {pugi::status_out_of_memory, "het document is te groot voor het geheugen"},
+        {pugi::status_unrecognized_tag, "achter een '<' staat geen geldige tag"},
+        {pugi::status_bad_pi, "een instructie ('<?') is niet goed afgesloten"},
+        {pugi::status_bad_comment, "een commentaar ('<!--') is niet goed afgesloten"},
+        {pugi::status_bad_cdata, "een CDATA-blok is niet goed afgesloten"},
+        {pugi::status_bad_doctype, "een declaratie ('<!') is niet goed afgesloten"},
+        {pugi::status_bad_start_element, "een begintag is niet goed afgesloten"},
+        {pugi::status_bad_attribute, "een kenmerk in een begintag is niet goed geschreven"},
+        {pugi::status_bad_end_element, "een eindtag is niet goed afgesloten"},
+        {pugi::status_end_element_mismatch, "een eindtag ontbreekt of hoort niet bij de begintag"},
+    };
+    const auto gevonden = oorzaken.find(status);
+    return gevonden == oorzaken.end() ? "het bestand is geen XML" : gevonden->second;
 }
 
 /// Exactly one element, no text beside it, and no document type.

@@ -1,9 +1,8 @@
 // XML documents read whole with pugixml, whose nodes the readers use themselves; texts come out in
 // Windows-1252.
 //
-// Known are UTF-8, UTF-16 and Windows-1252, as which ISO-8859-1 and US-ASCII are read too: a byte
-// order mark tells first, then the zero byte beside the first "<", then the declaration. A document
-// type is refused, and with it all entities but the five predefined ones.
+// docs/bestanden.md tells which encodings and entities are known. A byte order mark tells the
+// encoding first, then the zero byte beside the first "<", then the declaration.
 #pragma once
 
 #include <string_view>

@@ -10,7 +10,6 @@
 #include <numeric>
 
 #include "platform/scherm/bouwstenen.h"
-#include "platform/tekst/tekenvlak.h"
 #include "platform/tekst/tekst.h"
 
 namespace plexoran {
@@ -64,16 +63,13 @@ class Regeltekenaar : public QStyledItemDelegate {
     {
         return {breed_, optie.fontMetrics.height() + Marge};
     }
-    [[nodiscard]] QString displayText(const QVariant& regel, const QLocale& /*taal*/) const override
-    {
-        return Zichtbaar(regel.toString());
-    }
 
   protected:
     void initStyleOption(QStyleOptionViewItem* optie, const QModelIndex& plaats) const override
     {
         QStyledItemDelegate::initStyleOption(optie, plaats);
-        optie->text = Ingekort(optie->fontMetrics, optie->text, optie->rect.width() - 2 * Marge);
+        optie->text =
+            Ingekort(optie->fontMetrics, Zichtbaar(optie->text), optie->rect.width() - 2 * Marge);
     }
 
   private:
@@ -136,16 +132,10 @@ void Regellijst::Vul(int aantal, std::function<Tekst(int)> regel, Plek plek)
 /// In pixels, of all lines.
 int Regellijst::Breedste() const
 {
-    constexpr int fijn = 1000; // parts of a pixel in which is counted
-    Tekstmeter meter;
-    const QFontMetricsF maten(font());
-    for (std::size_t teken = 0; teken < meter.opschuiving.size(); ++teken)
-        meter.opschuiving[teken] =
-            qRound(fijn * maten.horizontalAdvance(NaarQString(Tekst(1, static_cast<char>(teken)))));
-    std::int64_t breedste = 0;
+    int breedste = 0;
     for (int plaats = 0; plaats < Aantal(); ++plaats)
-        breedste = std::max(breedste, meter.Breedte(regel_(plaats)));
-    return 2 * Marge + static_cast<int>(breedste / fijn) + 1;
+        breedste = std::max(breedste, fontMetrics().horizontalAdvance(NaarQString(regel_(plaats))));
+    return 2 * Marge + breedste + 1;
 }
 
 int Regellijst::Gekozen() const

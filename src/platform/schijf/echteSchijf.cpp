@@ -52,6 +52,7 @@ std::error_code Laatste()
     return {errno, std::generic_category()};
 }
 
+/// A new file must not exist yet.
 std::FILE* Open(const fs::path& pad, bool nieuw)
 {
 #ifdef _WIN32
@@ -65,23 +66,6 @@ std::FILE* Open(const fs::path& pad, bool nieuw)
 std::error_code Uitslag(int teruggave)
 {
     return teruggave == 0 ? std::error_code() : Laatste();
-}
-
-/// Refused for what is not a regular file or a link to one.
-std::error_code OpenLezen(const fs::path& pad, Greep& greep)
-{
-    // Asked first: the opening of a pipe would hold us until someone writes to it.
-    if (const auto fout = GewoonBestand(pad))
-        return fout;
-    greep.reset(Open(pad, false));
-    return greep ? std::error_code() : Laatste();
-}
-
-/// The file must not exist yet. What is written to it goes to the system at once.
-std::error_code MaakNieuw(const fs::path& pad, Greep& greep)
-{
-    greep.reset(Open(pad, true));
-    return greep ? Uitslag(std::setvbuf(greep.get(), nullptr, _IONBF, 0)) : Laatste();
 }
 
 // Then, once for each kind of system:
@@ -292,9 +276,12 @@ Uitkomst<std::vector<Tekst>> Namen(const Pad& map, fs::file_type soort,
 
 std::error_code LeesAlles(const fs::path& waar, Tekst& naar)
 try {
-    systeem::Greep greep;
-    if (const auto fout = systeem::OpenLezen(waar, greep))
+    // Asked first: the opening of a pipe would hold us until someone writes to it.
+    if (const auto fout = systeem::GewoonBestand(waar))
         return fout;
+    const systeem::Greep greep(systeem::Open(waar, false));
+    if (!greep)
+        return systeem::Laatste();
     // One byte more, so that the end shows without growing; the size is a guess, for the file may
     // change and some systems do not tell it.
     std::error_code onbekend;
@@ -427,9 +414,10 @@ Uitkomst<Pad> EchteSchijf::Doel(const Pad& pad)
 Uitkomst<std::unique_ptr<Schrijver>> EchteSchijf::MaakNieuw(const Pad& pad)
 {
     const fs::path waar = Systeempad(pad);
-    systeem::Greep greep;
-    if (const auto fout = systeem::MaakNieuw(waar, greep))
-        return Mislukt(waar, fout);
+    systeem::Greep greep(systeem::Open(waar, true));
+    // Without a buffer: what is written goes to the system at once.
+    if (!greep || std::setvbuf(greep.get(), nullptr, _IONBF, 0) != 0)
+        return Mislukt(waar, systeem::Laatste());
     return std::make_unique<EchteSchrijver>(waar, std::move(greep));
 }
 
