@@ -30,6 +30,11 @@ QAbstractButton* Knop(const QMessageBox& venster, const QString& opschrift)
     return nullptr;
 }
 
+void Faal(const QString& tekst)
+{
+    ADD_FAILURE() << tekst.toStdString();
+}
+
 } // namespace
 
 Berichtwachter::Berichtwachter()
@@ -42,14 +47,6 @@ Berichtwachter::Berichtwachter()
 Berichtwachter::~Berichtwachter()
 {
     Klaar();
-}
-
-void Berichtwachter::Faal(const QString& tekst) const
-{
-    if (fouten_ != nullptr)
-        *fouten_ << tekst;
-    else
-        ADD_FAILURE() << tekst.toStdString();
 }
 
 void Berichtwachter::Verwacht(Bericht bericht)
@@ -131,7 +128,7 @@ void Berichtwachter::Behandel(QMessageBox& venster)
 
 void Berichtwachter::Vergelijk(const QMessageBox& venster, const Bericht& bericht)
 {
-    const auto gelijk = [this](const QString& wat, const QString& is, const QString& moet) {
+    const auto gelijk = [](const QString& wat, const QString& is, const QString& moet) {
         if (is != moet)
             Faal(wat + u" is\n  \""_s + is + u"\"\nen niet\n  \""_s + moet + u"\""_s);
     };

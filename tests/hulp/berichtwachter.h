@@ -66,8 +66,7 @@ class Berichtwachter : public QObject {
     /// Fails when something expected did not come, and forgets it.
     void Klaar();
 
-    /// Only for the test of this class: failures go there instead of to the test.
-    void VangFouten(QStringList* fouten) { fouten_ = fouten; }
+    /// Only for the test of this class.
     void ZetGeduld(int milliseconden) { geduld_ = milliseconden; }
 
     bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
@@ -85,7 +84,6 @@ class Berichtwachter : public QObject {
     void Beantwoord(QMessageBox& venster, const QString& antwoord);
     void SluitOnschuldig(QMessageBox& venster);
     void Waak();
-    void Faal(const QString& tekst) const;
 
     std::deque<Verwachting> verwacht_;
     std::function<QString(const QMessageBox&)> beslis_;
@@ -93,7 +91,6 @@ class Berichtwachter : public QObject {
     QPointer<QWidget> bewaakt_; ///< the modal or popup widget that is open
     QElapsedTimer sinds_;
     int geduld_ = 5000; ///< milliseconds that one modal widget may stay open
-    QStringList* fouten_ = nullptr;
 };
 
 } // namespace plexoran

@@ -28,10 +28,7 @@ class Voortgangstopper : public QObject {
         qApp->installEventFilter(this);
     }
     ~Voortgangstopper() override { frmVoortgang::totInBeeld = totInBeeld_; }
-    Voortgangstopper(const Voortgangstopper&) = delete;
-    Voortgangstopper& operator=(const Voortgangstopper&) = delete;
-    Voortgangstopper(Voortgangstopper&&) = delete;
-    Voortgangstopper& operator=(Voortgangstopper&&) = delete;
+    Q_DISABLE_COPY_MOVE(Voortgangstopper)
 
     [[nodiscard]] int Stappen() const { return stappen_; }
 
