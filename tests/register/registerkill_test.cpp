@@ -1,6 +1,8 @@
 // A real program that is killed while it saves a register of which it has to keep a copy.
 #ifndef _WIN32
 
+#include <limits>
+
 #include <unistd.h>
 
 #include "hulp/kill.h"
@@ -54,6 +56,7 @@ TEST(RegisterKill, NieuwBestandNooitZonderDeKopieVanHetOude)
     Wachttijd wachttijd(20'240'609);
     int oudGezien = 0;
     int nieuwGezien = 0;
+    int restGezien = 0;
     for (int kill = 0; kill < kills; ++kill) {
         std::filesystem::remove_all(map.Weg() / "Spelers");
         std::filesystem::create_directory(map.Weg() / "Spelers");
@@ -70,9 +73,14 @@ TEST(RegisterKill, NieuwBestandNooitZonderDeKopieVanHetOude)
         if (*inhoud == nieuw) {
             EXPECT_EQ(std::count(kopieen.begin(), kopieen.end(), oud), 1) << "kill " << kill;
         }
+        restGezien += schijf.Bestanden(mappen.SPEMAP)->size() > 1 ? 1 : 0;
+        RuimTijdelijkeOp(schijf, mappen.SPEMAP, "RVDspelers.txt",
+                         std::numeric_limits<std::int64_t>::max());
+        EXPECT_EQ(schijf.Bestanden(mappen.SPEMAP), std::vector<Tekst>{"RVDspelers.txt"});
     }
     EXPECT_GT(oudGezien, 5);
     EXPECT_GT(nieuwGezien, 5);
+    EXPECT_GT(restGezien, 0);
 }
 
 #endif

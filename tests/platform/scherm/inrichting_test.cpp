@@ -43,10 +43,7 @@ class Luisteraar : public QTranslator {
         gehoord_.clear();
     }
     ~Luisteraar() override { QCoreApplication::removeTranslator(this); }
-    Luisteraar(const Luisteraar&) = delete;
-    Luisteraar& operator=(const Luisteraar&) = delete;
-    Luisteraar(Luisteraar&&) = delete;
-    Luisteraar& operator=(Luisteraar&&) = delete;
+    Q_DISABLE_COPY_MOVE(Luisteraar)
 
     [[nodiscard]] bool isEmpty() const override { return false; }
     QString translate(const char* waar, const char* bron, const char* /*toelichting*/,

@@ -42,18 +42,19 @@ TEST_F(ExemplaarslotTest, WieHetHeeftKrijgtHetWeer)
 
 TEST_F(ExemplaarslotTest, WieStoptGeeftHetTerug)
 {
-    {
-        Exemplaarslot eerste(Bestand());
-        EXPECT_TRUE(eerste.Neem());
-    }
-    EXPECT_TRUE(Exemplaarslot(Bestand()).Neem());
+    for (const int keer : {1, 2})
+        EXPECT_TRUE(Exemplaarslot(Bestand()).Neem()) << keer;
 }
 
 TEST_F(ExemplaarslotTest, EenMapOpZijnPlaatsHoudtNiemandTegen)
 {
     std::filesystem::create_directory(Bestand());
     map_.Zet("slot/iets", "");
-    EXPECT_TRUE(Exemplaarslot(Bestand()).Neem());
+    Exemplaarslot slot(Bestand());
+    EXPECT_TRUE(slot.Neem());
+#ifndef _WIN32
+    EXPECT_FALSE(Exemplaarslot(Bestand()).Neem()) << "een tweede wel";
+#endif
     EXPECT_TRUE(Exemplaarslot(map_.Weg() / "weg" / "slot").Neem());
 }
 
@@ -136,14 +137,6 @@ TEST_F(ExemplaarslotTest, WatErInStaatHoudtNiemandTegen)
         EXPECT_TRUE(slot.Neem()) << inhoud;
         EXPECT_FALSE(Exemplaarslot(Bestand()).Neem()) << inhoud;
     }
-}
-
-TEST_F(ExemplaarslotTest, EenMapHoudtAlleenEenTweedeTegen)
-{
-    std::filesystem::create_directory(Bestand());
-    Exemplaarslot slot(Bestand());
-    EXPECT_TRUE(slot.Neem());
-    EXPECT_FALSE(Exemplaarslot(Bestand()).Neem());
 }
 
 /// Killed before and after each call to the system that taking it makes.
