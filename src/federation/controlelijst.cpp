@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "platform/tekst/tekst.h"
 #include "register/spelertabel.h"
@@ -44,8 +45,12 @@ Controleregel MaakControleregel(Tekstblik importregel, Tekstblik ledengroep)
 
 std::vector<Controleregel> OpNaam(std::vector<Controleregel> lstN9)
 {
-    std::ranges::stable_sort(
-        lstN9, {}, [](const Controleregel& regel) { return Sorteersleutel(regel.Naam()); });
+    std::multimap<Tekst, Controleregel> opNaam;
+    for (Controleregel& regel : lstN9)
+        opNaam.emplace(Sorteersleutel(regel.Naam()), std::move(regel));
+    lstN9.clear();
+    for (auto& [naam, regel] : opNaam)
+        lstN9.push_back(std::move(regel));
     return lstN9;
 }
 

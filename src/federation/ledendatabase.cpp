@@ -1,6 +1,7 @@
 #include "federation/ledenbestand.h"
 
 #include <algorithm>
+#include <map>
 
 #include "platform/tekst/tekst.h"
 
@@ -80,9 +81,14 @@ Lidrij AlsLid(const Accessrij& rij, std::size_t& vervangen)
 /// The rows that take part, by surname in the text order and then as they were read.
 std::vector<Accessrij> Gekozen(std::vector<Accessrij> rijen, const Tekst& bestand)
 {
-    std::erase_if(rijen, [&](const Accessrij& rij) { return !DoetMee(rij, bestand); });
-    std::ranges::stable_sort(
-        rijen, {}, [](const Accessrij& rij) { return Sorteersleutel(rij[Achternaam]->tekst); });
+    std::multimap<Tekst, Accessrij> opNaam;
+    for (Accessrij& rij : rijen) {
+        if (DoetMee(rij, bestand))
+            opNaam.emplace(Sorteersleutel(rij[Achternaam]->tekst), std::move(rij));
+    }
+    rijen.clear();
+    for (auto& [naam, rij] : opNaam)
+        rijen.push_back(std::move(rij));
     return rijen;
 }
 

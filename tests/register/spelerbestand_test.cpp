@@ -307,6 +307,8 @@ TEST(ZijnErSleutels, TotDeHoogste)
     spelers.HKEY = 0; // the first key follows the base
     EXPECT_TRUE(ZijnErSleutels(spelers, static_cast<std::size_t>(hoogste - 100000)));
     EXPECT_FALSE(ZijnErSleutels(spelers, static_cast<std::size_t>(hoogste - 99999)));
+    spelers.HKEY = -5;
+    EXPECT_TRUE(ZijnErSleutels(spelers, 1));
 }
 
 TEST_F(VoegSpelerToeTest, AchteraanMetNieuweSleutel)

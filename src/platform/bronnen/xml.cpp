@@ -118,6 +118,11 @@ std::optional<Xmlfout> OnbekendeVerwijzing(std::string_view bron)
 {
     using Sectie = std::pair<std::string_view, std::string_view>;
     constexpr std::array<Sectie, 3> secties{{{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}}};
+    std::size_t eerste = bron.find('&');
+    while (eerste != nergens && IsBekend(bron.substr(eerste + 1)))
+        eerste = bron.find('&', eerste + 1);
+    if (eerste == nergens) // as good as always, and quickly seen
+        return std::nullopt;
     for (std::size_t plaats = 0; plaats < bron.size(); ++plaats) {
         if (bron[plaats] == '&' && !IsBekend(bron.substr(plaats + 1))) {
             const std::string_view naam = bron.substr(plaats, 32);

@@ -10,6 +10,7 @@
 #include <numeric>
 
 #include "platform/scherm/bouwstenen.h"
+#include "platform/tekst/tekenvlak.h"
 #include "platform/tekst/tekst.h"
 
 namespace plexoran {
@@ -132,10 +133,16 @@ void Regellijst::Vul(int aantal, std::function<Tekst(int)> regel, Plek plek)
 /// In pixels, of all lines.
 int Regellijst::Breedste() const
 {
-    int breedste = 0;
+    constexpr int fijn = 1000; // parts of a pixel in which is counted
+    Tekstmeter meter;
+    const QFontMetricsF maten(font());
+    for (std::size_t teken = 0; teken < meter.opschuiving.size(); ++teken)
+        meter.opschuiving[teken] =
+            qRound(fijn * maten.horizontalAdvance(NaarQString(Tekst(1, static_cast<char>(teken)))));
+    std::int64_t breedste = 0;
     for (int plaats = 0; plaats < Aantal(); ++plaats)
-        breedste = std::max(breedste, fontMetrics().horizontalAdvance(NaarQString(regel_(plaats))));
-    return 2 * Marge + breedste + 1;
+        breedste = std::max(breedste, meter.Breedte(regel_(plaats)));
+    return 2 * Marge + static_cast<int>(breedste / fijn) + 1;
 }
 
 int Regellijst::Gekozen() const

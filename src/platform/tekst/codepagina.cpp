@@ -168,17 +168,23 @@ Omzetting NaarCodepagina(std::u16string_view tekst)
     return uit;
 }
 
+static bool IsAscii(Tekstblik tekst)
+{
+    return std::all_of(tekst.begin(), tekst.end(),
+                       [](char teken) { return static_cast<unsigned char>(teken) < 0x80; });
+}
+
 Omzetting Utf8NaarCodepagina(std::string_view tekst)
 {
+    if (IsAscii(tekst))
+        return {.tekst = Tekst(tekst), .vervangen = {}};
     return NaarCodepagina(
         QString::fromUtf8(tekst.data(), static_cast<qsizetype>(tekst.size())).toStdU16String());
 }
 
 bool IsUtf8(Tekstblik bytes)
 {
-    const bool ascii = std::ranges::all_of(
-        bytes, [](char teken) { return static_cast<unsigned char>(teken) < 0x80; });
-    return !ascii &&
+    return !IsAscii(bytes) &&
            QUtf8StringView(bytes.data(), static_cast<qsizetype>(bytes.size())).isValidUtf8();
 }
 
