@@ -1,7 +1,5 @@
 #include "dialogs/diaGrNamen.h"
 
-#include <functional>
-
 #include "hulp/dialoogproef.h"
 
 using namespace plexoran;

@@ -1,6 +1,5 @@
 // The entry dialog as it opens: its controls, their places, colours and texts, and the return
 // field.
-#include <QLabel>
 
 #include "dialogs/ingaveproef.h"
 

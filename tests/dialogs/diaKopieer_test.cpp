@@ -1,7 +1,5 @@
 #include "dialogs/diaKopieer.h"
 
-#include <limits>
-
 #include "dialogs/groepsproef.h"
 #include "hulp/groei.h"
 

@@ -1,7 +1,5 @@
 #include "dialogs/diaToevoegen.h"
 
-#include <limits>
-
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"

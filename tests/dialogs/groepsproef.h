@@ -1,8 +1,6 @@
 // What the tests of the dialogs over groups share: a small register and its groups.
 #pragma once
 
-#include <functional>
-
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/tabelmaker.h"

@@ -1,7 +1,6 @@
 // The entry dialog as the main window opens it.
 #pragma once
 
-#include <QApplication>
 #include <QClipboard>
 #include <QPainter>
 

@@ -1,7 +1,5 @@
 #include "dialogs/toevoegen.h"
 
-#include <limits>
-
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"

@@ -1,7 +1,5 @@
 #include "federation/controlelijst.h"
 
-#include <gtest/gtest.h>
-
 #include "hulp/groei.h"
 #include "hulp/vlakvanger.h"
 

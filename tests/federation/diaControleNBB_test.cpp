@@ -4,8 +4,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-#include <gtest/gtest.h>
-
 #include "hulp/accessgegevens.h"
 #include "hulp/dialoogproef.h"
 #include "hulp/groei.h"

@@ -1,7 +1,6 @@
 // The import run from the main window, from every source.
 #include "federation/importproef.h"
 
-#include <QElapsedTimer>
 #include <QPlainTextEdit>
 
 #include "hulp/accessgegevens.h"

@@ -2,12 +2,8 @@
 #pragma once
 
 #include <QFileDialog>
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QRadioButton>
 
 #include "mainwindow/vensterproef.h"
-#include "platform/scherm/regellijst.h"
 
 namespace plexoran {
 

@@ -2,13 +2,7 @@
 
 #include <algorithm>
 #include <ctime>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
-#include <utility>
-
-#include <gtest/gtest.h>
 
 #include "hulp/fouten.h"
 #include "platform/schijf/echteSchijf.h"

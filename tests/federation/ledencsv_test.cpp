@@ -1,7 +1,5 @@
 #include "federation/ledencsv.h"
 
-#include <gtest/gtest.h>
-
 #include "hulp/fouten.h"
 #include "schijven/geheugenSchijf.h"
 

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include <gtest/gtest.h>
-
 #include "hulp/accessgegevens.h"
 #include "hulp/fouten.h"
 #include "platform/schijf/tijdelijkeMap.h"

@@ -1,10 +1,5 @@
 #include "federation/ledenbestand.h"
 
-#include <functional>
-#include <map>
-
-#include <gtest/gtest.h>
-
 #include "hulp/fouten.h"
 #include "schijven/falendeSchijf.h"
 #include "schijven/geheugenSchijf.h"

@@ -1,7 +1,5 @@
 #include "help/tekstblad.h"
 
-#include <gtest/gtest.h>
-
 #include "hulp/vlakvanger.h"
 
 using namespace plexoran;

@@ -4,8 +4,6 @@
 
 #include <map>
 #include <optional>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
 #include "hulp/ledenmaker.h"

@@ -1,9 +1,5 @@
 #include "hulp/berichtwachter.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QPushButton>
-
 #include <gtest/gtest.h>
 
 #include <utility>

@@ -3,10 +3,8 @@
 
 #include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
 
 #include <memory>
-#include <stdexcept>
 #include <utility>
 
 #include <gtest/gtest.h>

@@ -1,18 +1,12 @@
 // Working the print dialog of the system, in which a PDF file stands among the printers.
 #pragma once
 
-#include <QApplication>
-#include <QComboBox>
 #include <QDialogButtonBox>
-#include <QPushButton>
 
 #include <filesystem>
-#include <functional>
-#include <stdexcept>
 
 #include "hulp/berichtwachter.h"
 #include "hulp/venstergrepen.h"
-#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 

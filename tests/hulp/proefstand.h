@@ -3,7 +3,6 @@
 
 #include "hulp/proefsuite.h"
 #include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/tijdelijkeMap.h"
 #include "register/administratie.h"
 #include "register/spelerbestand.h"
 #include "schijven/falendeSchijf.h"

@@ -1,10 +1,7 @@
 // A copy of the sample suite in a folder of its own, as its user would have it.
 #pragma once
 
-#include <filesystem>
 #include <map>
-#include <string>
-#include <vector>
 
 #include "platform/bronnen/instellingenwinkel.h"
 #include "platform/schijf/tijdelijkeMap.h"

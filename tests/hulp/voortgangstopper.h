@@ -1,10 +1,8 @@
 // Works the progress window while the work goes on, such as stopping it by a click on its button.
 #pragma once
 
-#include <QApplication>
 #include <QEvent>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QTimer>
 
 #include <functional>

@@ -1,10 +1,7 @@
 // Sorted lists, double names, moving, copying and deleting a subgroup, on the sample suite.
 #include <QPlainTextEdit>
 
-#include <algorithm>
-
 #include "mainwindow/vensterproef.h"
-#include "platform/scherm/regellijst.h"
 
 using namespace plexoran;
 

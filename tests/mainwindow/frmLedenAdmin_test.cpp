@@ -1,7 +1,4 @@
 // The groups and the commands of the main window on the sample suite.
-#include <QRadioButton>
-
-#include <map>
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -10,7 +7,6 @@
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "mainwindow/vensterproef.h"
-#include "platform/scherm/regellijst.h"
 
 using namespace plexoran;
 

@@ -1,6 +1,4 @@
 // Places, sizes and nothing cut off, from the smallest window up and with larger fonts.
-#include <QGroupBox>
-#include <QScrollArea>
 #include <QStyle>
 #include <QStyleOptionButton>
 

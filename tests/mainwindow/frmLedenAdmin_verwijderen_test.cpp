@@ -1,5 +1,4 @@
 // Deleting one line and a range, on the sample suite.
-#include <algorithm>
 
 #include "mainwindow/vensterproef.h"
 

@@ -1,10 +1,6 @@
 // The steps of the start-up and their order, seen from outside.
-#include <QRadioButton>
-
-#include <algorithm>
 
 #include "mainwindow/opstartproef.h"
-#include "schijven/falendeSchijf.h"
 
 using namespace plexoran;
 using namespace std::string_literals;

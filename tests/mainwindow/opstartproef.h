@@ -1,12 +1,8 @@
 // The start-up on a disk in memory that writes down what happens to it.
 #pragma once
 
-#include <algorithm>
-
-#include "mainwindow/frmLedenAdmin_opslag.h"
 #include "mainwindow/frmLedenAdmin_opstart.h"
 #include "mainwindow/vensterproef.h"
-#include "schijven/geheugenSchijf.h"
 
 namespace plexoran {
 

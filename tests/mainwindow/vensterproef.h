@@ -1,19 +1,11 @@
 // What the tests of the main window share. Controls are found by their names.
 #pragma once
 
-#include <QApplication>
-#include <QTest>
-
-#include <memory>
-
-#include <gtest/gtest.h>
-
 #include "hulp/berichtwachter.h"
 #include "hulp/proefstand.h"
 #include "hulp/tekstvanger.h"
 #include "hulp/venstergrepen.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 

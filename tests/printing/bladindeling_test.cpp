@@ -1,9 +1,5 @@
 #include "printing/printblad.h"
 
-#include <functional>
-
-#include <gtest/gtest.h>
-
 #include "hulp/vlakvanger.h"
 #include "printing/printproef.h"
 

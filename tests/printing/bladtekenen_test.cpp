@@ -1,10 +1,6 @@
 #include "printing/printblad.h"
 
-#include <algorithm>
-#include <optional>
 #include <set>
-
-#include <gtest/gtest.h>
 
 #include "hulp/vlakvanger.h"
 #include "printing/printproef.h"

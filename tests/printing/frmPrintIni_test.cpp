@@ -1,12 +1,10 @@
 #include "printing/frmPrintIni.h"
 
-#include <QComboBox>
 #include <QStyleOptionComboBox>
 #include <QTextDocument>
 
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
-#include "hulp/tabelmaker.h"
 #include "hulp/tekstvanger.h"
 #include "printing/printproef.h"
 

@@ -8,14 +8,8 @@
 // ":", in one of which the queue puts its PDF, PRINTPROEF_DICHT, a queue that takes no jobs, and
 // PRINTPROEF_WEG, one that is removed.
 #include <QCheckBox>
-#include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QProcess>
-
-#include <map>
-
-#include <gtest/gtest.h>
 
 #include "hulp/printdialoog.h"
 #include "hulp/proefstand.h"

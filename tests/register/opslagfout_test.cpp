@@ -1,11 +1,9 @@
 // Each save on a disk that fails at its first, second, ... operation, until nothing is left to
 // fail.
-#include <functional>
 #include <set>
 
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"
-#include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/registerhulp.h"
 #include "schijven/falendeSchijf.h"

@@ -2,7 +2,6 @@
 
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"
-#include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/registerhulp.h"
 #include "schijven/falendeSchijf.h"

@@ -1,7 +1,5 @@
 #include "register/spelerbestand.h"
 
-#include <limits>
-
 #include "register/registerhulp.h"
 #include "schijven/falendeSchijf.h"
 

@@ -1,8 +1,5 @@
 #include "register/spelertabel.h"
 
-#include <algorithm>
-#include <random>
-
 #include "hulp/tabelmaker.h"
 #include "register/registerhulp.h"
 

@@ -1,7 +1,6 @@
 #include "schijven/geheugenSchijf.h"
 
 #include <algorithm>
-#include <system_error>
 
 #include "platform/tekst/codepagina.h"
 

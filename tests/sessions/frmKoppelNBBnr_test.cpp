@@ -1,11 +1,8 @@
 #include "sessions/frmKoppelNBBnr.h"
 
-#include <chrono>
-
 #include "hulp/dialoogproef.h"
 #include "hulp/proefstand.h"
 #include "hulp/voortgangstopper.h"
-#include "register/spelerbestand.h"
 
 using namespace plexoran;
 

@@ -1,12 +1,10 @@
 // Every text can be read in light themes and in dark ones: its ink stands out from its ground at
 // least 4.5 to 1.
-#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
 
 #include <cmath>
 
-#include "platform/scherm/tekstbrug.h"
 #include "vensters/rondgang.h"
 
 using namespace plexoran;

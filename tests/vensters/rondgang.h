@@ -4,8 +4,6 @@
 #include <QApplication>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 #include "afbeeldingen/vensterronde.h"
 #include "hulp/proefstand.h"
 #include "mainwindow/frmLedenAdmin.h"

@@ -1,15 +1,9 @@
 // Every window stands wholly on a small screen, also with large letters, and all of it can be
 // reached.
-#include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTimer>
 
-#include "platform/scherm/berichten.h"
-#include "platform/scherm/tekstbrug.h"
 #include "vensters/rondgang.h"
 
 using namespace plexoran;

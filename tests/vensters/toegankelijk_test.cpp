@@ -2,14 +2,8 @@
 // stands for it, each list its lines, and what takes the keys is something.
 #include <QAbstractItemView>
 #include <QAccessible>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 
-#include <algorithm>
-#include <set>
-
-#include "platform/scherm/tekstbrug.h"
 #include "vensters/rondgang.h"
 
 using namespace plexoran;

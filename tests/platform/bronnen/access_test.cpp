@@ -1,12 +1,8 @@
 #include "platform/bronnen/access.h"
 
-#include <gtest/gtest.h>
-
 #include "hulp/fouten.h"
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
 #include "hulp/accessgegevens.h"
 #include "platform/schijf/tijdelijkeMap.h"

@@ -1,6 +1,5 @@
 // Bytes and pages of a good database changed at random, read by the real child: an error or whole
 // rows, in time, whatever libmdb makes of it. PLEXORAN_MUTATIES sets how many; the seed is fixed.
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <random>

@@ -1,6 +1,5 @@
 #include "platform/scherm/berichten.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScreen>

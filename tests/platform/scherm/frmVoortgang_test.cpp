@@ -2,7 +2,6 @@
 
 #include <QElapsedTimer>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QTimer>
 
 #include <gtest/gtest.h>

@@ -4,22 +4,16 @@
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPrintDialog>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTimer>
 #include <QTranslator>
 
 #include <set>
 
-#include <gtest/gtest.h>
-
-#include "hulp/berichtwachter.h"
 #include "hulp/printdialoog.h"
-#include "hulp/venstergrepen.h"
 #include "platform/scherm/printer.h"
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"

@@ -9,14 +9,11 @@
 
 #include <numeric>
 
-#include <gtest/gtest.h>
-
 #include "hulp/pdfteksten.h"
 #include "hulp/printdialoog.h"
 #include "hulp/proefsuite.h"
 #include "platform/scherm/schildervlak.h"
 #include "platform/schijf/echteSchijf.h"
-#include "platform/schijf/tijdelijkeMap.h"
 #include "schijven/falendeSchijf.h"
 #include "schijven/geheugenSchijf.h"
 

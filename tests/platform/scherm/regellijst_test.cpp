@@ -7,8 +7,6 @@
 #include <QSignalSpy>
 #include <QToolTip>
 
-#include <gtest/gtest.h>
-
 #include "hulp/groei.h"
 #include "hulp/tekstvanger.h"
 #include "hulp/venstergrepen.h"

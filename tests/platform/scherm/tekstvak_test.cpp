@@ -1,6 +1,5 @@
 #include "platform/scherm/tekstvak.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QMimeData>

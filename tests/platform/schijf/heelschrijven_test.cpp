@@ -1,6 +1,3 @@
-#include "platform/schijf/schijf.h"
-
-#include <limits>
 
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"

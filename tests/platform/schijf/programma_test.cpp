@@ -3,8 +3,6 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
-#include <filesystem>
-#include <optional>
 #include <thread>
 
 #ifndef _WIN32
@@ -13,8 +11,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
-
-#include <gtest/gtest.h>
 
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"

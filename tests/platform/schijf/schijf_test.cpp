@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <chrono>
 
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/tijdelijkeMap.h"
