@@ -22,7 +22,7 @@ QColor Kleur(const QWidget* deel, QPalette::ColorRole rol)
 
 } // namespace
 
-TEST_F(diaIngaveTest, HetVensterZelf)
+TEST_F(diaIngaveTest, HetVensterZelfEnZijnPlaats)
 {
     hoofd.setWindowIcon(QPixmap(16, 16));
     Open();
@@ -33,10 +33,6 @@ TEST_F(diaIngaveTest, HetVensterZelf)
     EXPECT_EQ(hoofd.windowIcon().cacheKey(), venster->windowIcon().cacheKey());
     Open("Gr05-", true, "Aanmaken");
     EXPECT_EQ("Aanmaken nieuwe regel", Deel<QLabel>("Label1")->text().toStdString());
-}
-
-TEST_F(diaIngaveTest, StaatRechtsInHetHoofdvensterEnInHetMiddenVanHetScherm)
-{
     Open();
     const int scherm = venster->screen()->availableGeometry().height();
     const QRect kader = hoofd.frameGeometry();
@@ -164,7 +160,7 @@ TEST_F(diaIngaveTest, ElkVeldToontZijnTekst)
     EXPECT_EQ("1234567", Tekst_(18));
 }
 
-TEST_F(diaIngaveTest, HetGeslachtBijHetOpenen)
+TEST_F(diaIngaveTest, HetGeslachtBijHetOpenenEnNaEenKeuze)
 {
     for (const auto& [tekst, wordt, man, vrouw] :
          {std::tuple("M", "M", true, false), std::tuple("V", "V", false, true),
@@ -178,10 +174,6 @@ TEST_F(diaIngaveTest, HetGeslachtBijHetOpenen)
         KlikOK();
         EXPECT_EQ(wordt, ingave.IngaveVelden[12]);
     }
-}
-
-TEST_F(diaIngaveTest, ManEnVrouwSchrijvenHunLetter)
-{
     velden[12] = "X";
     Open();
     for (const auto& [knop, letter] :
@@ -228,7 +220,7 @@ TEST_F(diaIngaveTest, HetTerugkeerveldHeeftDeFocusMetDeCursorAchterDeTekst)
     EXPECT_EQ(50, Vak(4)->cursorPosition());
 }
 
-TEST_F(diaIngaveTest, ZonderGeldigTerugkeerveldBlijftDeFocusWaarZeWas)
+TEST_F(diaIngaveTest, ZonderZichtbaarTerugkeerveldBlijftDeFocusWaarZeWas)
 {
     for (const int veld : {13, 3, 1, 0, -5, 19, 99}) {
         terugkeer = static_cast<std::int16_t>(veld);
@@ -239,10 +231,6 @@ TEST_F(diaIngaveTest, ZonderGeldigTerugkeerveldBlijftDeFocusWaarZeWas)
             EXPECT_FALSE(Keus(i)->isChecked()) << veld << " " << i;
         EXPECT_EQ(veld, terugkeer);
     }
-}
-
-TEST_F(diaIngaveTest, EenVerborgenTerugkeerveldKrijgtDeFocusNiet)
-{
     terugkeer = 18;
     OpenGewoneGroep();
     EXPECT_FALSE(Vak(18)->hasFocus());

@@ -153,7 +153,7 @@ TEST_F(diaIngaveVeldenTest, EenLozePartnerKrijgtUnderscores)
 // ---- Accepting and cancelling -----------------------------------------------------------------
 
 /// Meant: the close box is acceptance, with its check; only the button and Escape cancel.
-TEST_F(diaIngaveVeldenTest, ZonderAchternaamWordtGeweigerd)
+TEST_F(diaIngaveVeldenTest, ZonderAchternaamWordtGeweigerdEnKanMenNogAnnuleren)
 {
     for (const auto& [naam, weg] : {std::pair("", Weg::OK), std::pair("    ", Weg::Sluitvak)}) {
         Open();
@@ -171,10 +171,6 @@ TEST_F(diaIngaveVeldenTest, ZonderAchternaamWordtGeweigerd)
         EXPECT_TRUE(Geaccepteerd());
         EXPECT_EQ("  Bos", ingave.IngaveVelden[5]) << "met zijn spaties";
     }
-}
-
-TEST_F(diaIngaveVeldenTest, NaEenWeigeringKanMenNogAnnuleren)
-{
     Open();
     TypIn(6, QString());
     VerwachtGeenAchternaam();

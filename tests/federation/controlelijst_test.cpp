@@ -120,7 +120,7 @@ TEST(ControlelijstTest, OpNaamInDeTekstordeEnGelijkeNamenZoalsZeStonden)
     EXPECT_EQ("536214", nummers);
 }
 
-TEST(ControlelijstTest, EenTeLangeRegelGaatOnderDeNaamVerder)
+TEST(ControlelijstTest, EenTeLangeRegelGaatOnderDeNaamVerderMaarAlleenSpatiesNiet)
 {
     const auto lijst =
         Lijst({Lid("An", "", "Bos", "V", "1"), Lid("Bea", "van der", Tekst(60, 'x'), "V", "2")});
@@ -138,14 +138,10 @@ TEST(ControlelijstTest, EenTeLangeRegelGaatOnderDeNaamVerder)
     const auto smal = Rijen(Controlerijen(lijst, 20));
     EXPECT_EQ("1           V      C", smal.front());
     EXPECT_EQ("lub        Bos, An", smal[1]);
-}
-
-/// The blanks that fill up the last column need no row of their own.
-TEST(ControlelijstTest, AlleenSpatiesGaanNietVerder)
-{
-    const auto lijst = Lijst({Lid("An", "", "Bos", "V", "1")});
-    EXPECT_EQ(1U, Controlerijen(lijst, 38).Aantal());
-    EXPECT_EQ(2U, Controlerijen(lijst, 37).Aantal());
+    // The blanks that fill up the last column need no row of their own.
+    const auto kort = Lijst({Lid("An", "", "Bos", "V", "1")});
+    EXPECT_EQ(1U, Controlerijen(kort, 38).Aantal());
+    EXPECT_EQ(2U, Controlerijen(kort, 37).Aantal());
 }
 
 TEST(ControlelijstTest, GeenTekenGaatVerlorenHoeSmalOok)

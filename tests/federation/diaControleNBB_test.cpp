@@ -240,7 +240,7 @@ TEST_F(diaControleNBBTest, ZonderLedenIsErNietsTePrinten)
     EXPECT_EQ("NBBnr M/V NBBgroep Naam", Geschilderd());
 }
 
-TEST_F(diaControleNBBTest, SchuiftMetBalkToetsenEnWiel)
+TEST_F(diaControleNBBTest, SchuiftMetBalkToetsenEnWielMaarEenKorteLijstNiet)
 {
     OpenVeel(200);
     const auto toets = [&](Qt::Key welke) { QTest::keyClick(P1(), welke); };
@@ -258,20 +258,16 @@ TEST_F(diaControleNBBTest, SchuiftMetBalkToetsenEnWiel)
     EXPECT_EQ(0, Balk()->value());
     DraaiWiel(P1(), {0, -120});
     EXPECT_GT(Balk()->value(), 0);
-}
-
-TEST_F(diaControleNBBTest, EenKorteLijstLaatElkeSchuiftoetsOverZichHeenGaan)
-{
     OpenBeide();
-    for (const Qt::Key toets :
+    for (const Qt::Key schuif :
          {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}) {
-        QTest::keyClick(P1(), toets);
+        toets(schuif);
         EXPECT_EQ(0, Balk()->value());
     }
     EXPECT_TRUE(venster->isVisible());
 }
 
-TEST_F(diaControleNBBTest, EenGroterVensterToontMeer)
+TEST_F(diaControleNBBTest, EenGroterVensterToontMeerEnEenSmalVerzwijgtNiets)
 {
     OpenVeel(200);
     const int over = Balk()->maximum();
@@ -281,11 +277,7 @@ TEST_F(diaControleNBBTest, EenGroterVensterToontMeer)
     EXPECT_LT(Balk()->maximum(), over);
     EXPECT_EQ(breed + 200, P1()->width());
     EXPECT_EQ(Vind<QFrame>(*venster, "Frame2")->contentsRect().right(), Balk()->geometry().right());
-}
-
-/// A name that does not fit beside the others goes on below.
-TEST_F(diaControleNBBTest, EenSmalVensterVerzwijgtNiets)
-{
+    // A name that does not fit beside the others goes on below.
     map.Zet("Lang.csv", Csv("1", "V", "An", "", "Zeergrootenlangenaamendannogmeer"));
     Open({"Lang.csv"});
     venster->resize(500, 400);

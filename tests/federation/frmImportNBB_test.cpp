@@ -416,12 +416,8 @@ TEST_F(frmImportNBBTest, BeideRekenprogrammas)
     StartMetBeide("Rekenprogramma", "weg", "Option1");
     VerwachtKeus("Option2");
     OpentMetBridgeIt();
-}
-
-/// Closed without a choice the second time: the caption stays that of the program whose database is
-/// read.
-TEST_F(frmImportNBBTest, GeenKeusBijHetOpenenLaatHetOpschriftStaan)
-{
+    // Closed without a choice the second time: the caption stays that of the program whose database
+    // is read.
     StartMetBeide("weg", "Rekenprogramma", "Option2");
     VerwachtKeus(nullptr);
     OpentMetBridgeIt();

@@ -71,17 +71,13 @@ TEST_F(Samenvoegen, VoegtEenNieuwLidAchteraanToe)
 }
 
 /// Meant: the refresh replaces, it does not fill gaps.
-TEST_F(Samenvoegen, EenLeegVeldMaaktDeCelLeeg)
+TEST_F(Samenvoegen, EenLeegVeldMaaktDeCelLeegEnVerversenHoudtSpaties)
 {
     (void)Voeg({"An,,Bos,,,,,,,,12345"});
     EXPECT_EQ((Rijvelden{"1", "100001", "Gr05-", "An", "", "Bos", "", "", "", "", "", "", "", "d1",
                          "d2", "overl", "CLUB", "12345"}),
               spelers.tabel.Velden(1));
-}
-
-/// Meant: refreshed fields are stored as they stand, those of a new player are trimmed.
-TEST_F(Samenvoegen, VerversenHoudtSpatiesToevoegenNiet)
-{
+    // Meant: refreshed fields are stored as they stand, those of a new player are trimmed.
     (void)Voeg({" An , de , Bos , W , P , S , T , E , L , V , 12345 ",
                 " Eva , de , Fuik , W , P , S , T , E , L , V , 77 "});
     EXPECT_EQ((Rijvelden{"1", "100001", "Gr05-", " An ", " de ", " Bos ", " T ", " E ", " W ",
@@ -112,7 +108,7 @@ TEST_F(Samenvoegen, EenNummerInEenAndereGroepTeltNiet)
     EXPECT_EQ("Gr05-", spelers.tabel.Cel(4, Kolom::Groep));
 }
 
-TEST_F(Samenvoegen, InEenLegeTabel)
+TEST_F(Samenvoegen, InEenLegeTabelEnBijEenRijZonderNummer)
 {
     spelers = {};
     // A comma in the name of the member file does not break the row.
@@ -121,6 +117,10 @@ TEST_F(Samenvoegen, InEenLegeTabel)
     EXPECT_EQ(100001, spelers.HKEY);
     EXPECT_EQ("A_B", spelers.tabel.Cel(1, Kolom::NBBgr));
     EXPECT_EQ("77", spelers.tabel.Cel(1, Kolom::NBBnr));
+    // Meant: a row without a number adds a lone "-" to the index, and is never the one refreshed.
+    spelers = Lees(Tekst(Kop) + "1,100001,Gr05-,,,X,,,,,,,,,,,,\r\n");
+    EXPECT_EQ((Teksten{"Bo,,Ek,,,,,,,,-"}), Voeg({"Bo,,Ek,,,,,,,,-"}).overgeslagen);
+    EXPECT_EQ("X", spelers.tabel.Cel(1, Kolom::Achternaam));
 }
 
 /// Meant: a number that equals only after formatting is neither refreshed nor added.
@@ -205,14 +205,6 @@ TEST_F(Samenvoegen, EenKommaInEenVeldSchuiftDeVeldenOp)
     EXPECT_EQ((Rijvelden{"4", "100043", "Gr05-", "Eva", "", "Fuik", "Ede", "022", "Weg 1", "bis",
                          "0303CC", "e@f", "bg", "", "", "", "CLUB", "V"}),
               spelers.tabel.Velden(4));
-}
-
-/// Meant: a row without a number adds a lone "-" to the index, and is never the one refreshed.
-TEST_F(Samenvoegen, EenRijZonderNummer)
-{
-    spelers = Lees(Tekst(Kop) + "1,100001,Gr05-,,,X,,,,,,,,,,,,\r\n");
-    EXPECT_EQ((Teksten{"Bo,,Ek,,,,,,,,-"}), Voeg({"Bo,,Ek,,,,,,,,-"}).overgeslagen);
-    EXPECT_EQ("X", spelers.tabel.Cel(1, Kolom::Achternaam));
 }
 
 TEST_F(Samenvoegen, ZonderSleutelsGenoegVerandertErNiets)

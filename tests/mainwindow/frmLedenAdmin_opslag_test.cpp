@@ -51,18 +51,6 @@ class OpslagTest : public testing::Test, protected Suitestand {
              .alleenBegin = true});
     }
 
-    /// Only the last step failed: the new file is in place.
-    void VerwachtNietVast()
-    {
-        wachter.Verwacht(
-            {.tekst =
-                 u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf. Het "
-                 "systeem kon alleen niet bevestigen dat dit na een stroomstoring nog zo is. Kijk "
-                 "of de schijf in orde is en sla later nog eens op.\n\n"_s +
-                 Bestandsregel() + u"\nMelding van het systeem: schijf vol"_s,
-             .icoon = QMessageBox::Warning});
-    }
-
     void VerwachtGewijzigd(const QString& antwoord)
     {
         wachter.Verwacht(
@@ -373,7 +361,11 @@ TEST_F(VerslagTest, BijElkeStapDieMisluktNoemtHetAlleenSleutelsDieZijnOpgeslagen
         // Only when the folder could not be synced the new register is there all the same.
         const bool staat = stap == stappen;
         if (staat)
-            VerwachtNietVast();
+            wachter.Waarschuwing(
+                u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf. Het systeem "
+                "kon alleen niet bevestigen dat dit na een stroomstoring nog zo is. Kijk of de "
+                "schijf in orde is en sla later nog eens op.\n\n"_s +
+                Bestandsregel() + u"\nMelding van het systeem: schijf vol"_s);
         else {
             VerwachtMislukt(Doorgaan);
             wachter.Informatie(KomtNog);

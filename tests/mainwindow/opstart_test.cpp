@@ -66,7 +66,7 @@ TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
     }
 }
 
-TEST_F(Opstartproef, ZonderWINMAPGaatDeStartDoor)
+TEST_F(Opstartproef, ZonderLedenmapGaatDeStartDoor)
 {
     geheugen.Zet("C:\\RVD\\Mappen.ini", "SPEMAP=C:\\RVD\\Spelers\r\nADMMAP=C:\\RVD\\Admin\r\n");
     wachter.Waarschuwing(
@@ -76,25 +76,25 @@ TEST_F(Opstartproef, ZonderWINMAPGaatDeStartDoor)
     Lees();
     EXPECT_EQ("HKEY=100000\r\n", Spelers());
     EXPECT_EQ(Padsoort::Niets, geheugen.Soort("\\NBB4-Leden").value());
-}
-
-TEST_F(Opstartproef, DeMapVoorLedenbestandenWordtGemaaktAlsZeOntbreekt)
-{
-    Lees();
-    EXPECT_EQ(Padsoort::Map, geheugen.Soort("C:\\RVD\\Bestanden\\NBB4-Leden").value());
-    geheugen.Zet("C:\\RVD\\Bestanden\\NBB4-Leden\\Club.csv", "blijft");
-    Lees();
-    EXPECT_EQ("blijft", geheugen.Inhoud("C:\\RVD\\Bestanden\\NBB4-Leden\\Club.csv"));
-}
-
-TEST_F(Opstartproef, EenLedenmapDieNietTeMakenIsWordtGemeldEnHoudtNietsTegen)
-{
     geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "WINMAP=D:\\weg\r\n");
     wachter.Begin(
         u"De map voor de ledenbestanden van de bond (NBB4-Leden) kon niet worden gemaakt."_s +
         mapvraag + u"Bestand: D:\\weg\\NBB4-Leden\n"_s);
     Lees();
     EXPECT_EQ("HKEY=100000\r\n", Spelers());
+}
+
+TEST_F(Opstartproef, MaaktEenOntbrekendeLedenmapEnSpelersmap)
+{
+    Lees();
+    EXPECT_EQ(Padsoort::Map, geheugen.Soort("C:\\RVD\\Bestanden\\NBB4-Leden").value());
+    geheugen.Zet("C:\\RVD\\Bestanden\\NBB4-Leden\\Club.csv", "blijft");
+    Lees();
+    EXPECT_EQ("blijft", geheugen.Inhoud("C:\\RVD\\Bestanden\\NBB4-Leden\\Club.csv"));
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "SPEMAP=C:\\RVD\\Nieuw\r\n");
+    Lees();
+    EXPECT_EQ(KaleGroepen(), geheugen.Inhoud("C:\\RVD\\Nieuw\\RVDGroepen.txt"));
+    EXPECT_EQ("HKEY=100000\r\n", geheugen.Inhoud("C:\\RVD\\Nieuw\\RVDspelers.txt"));
 }
 
 TEST_F(Opstartproef, MaaktOntbrekendeBestandenTotOpDeByte)
@@ -105,14 +105,6 @@ TEST_F(Opstartproef, MaaktOntbrekendeBestandenTotOpDeByte)
     EXPECT_EQ("OPTIND=0\r\nLOSTGR=0\r\n", Plexo());
     EXPECT_EQ(4U, geheugen.AlleBestanden().size());
     EXPECT_EQ(100000, administratie.spelers.HKEY);
-}
-
-TEST_F(Opstartproef, MaaktEenOntbrekendeSpelersmap)
-{
-    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "SPEMAP=C:\\RVD\\Nieuw\r\n");
-    Lees();
-    EXPECT_EQ(KaleGroepen(), geheugen.Inhoud("C:\\RVD\\Nieuw\\RVDGroepen.txt"));
-    EXPECT_EQ("HKEY=100000\r\n", geheugen.Inhoud("C:\\RVD\\Nieuw\\RVDspelers.txt"));
 }
 
 /// A drive that is away must not turn into an empty register.
@@ -372,18 +364,13 @@ TEST_F(Opstartproef, DeVasteTekstenEnVinkjes)
 
 // ---- The scoring program ----------------------------------------------------------------------
 
-TEST_F(Opstartproef, DeDatamapVanHetRekenprogrammaDatErIs)
+TEST_F(Opstartproef, DeDatamapVanHetRekenprogrammaDatErIsOfWordtGekozen)
 {
     Lees();
     EXPECT_EQ("", administratie.DataMap);
     winkel.Zet("Bridge-It", "DataRoot", "C:\\Bridge");
     Lees();
     EXPECT_EQ("C:\\Bridge\\data", administratie.DataMap);
-}
-
-TEST_F(Opstartproef, TweeRekenprogrammasVragenEenKeus)
-{
-    winkel.Zet("Bridge-It", "DataRoot", "C:\\Bridge");
     winkel.Zet("NBB-Rekenprogramma", "DataRoot", "C:\\NBBR");
     wachter.Bedien([](QDialog& keus) {
         EXPECT_EQ("diaRekProgkeus", keus.objectName().toStdString());

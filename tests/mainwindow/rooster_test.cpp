@@ -103,10 +103,13 @@ TEST_F(RoosterTest, NaSchuivenKiestEenKlikDeRegelDieErStaatEnDeLijnenSchuivenMee
     VerwachtLijnenOm(9);
 }
 
-TEST_F(RoosterTest, EenKlikOpDeHeaderVerbergtDeLijnenEnLaatDeKeus)
+TEST_F(RoosterTest, EenKlikOpDeHeaderVerbergtDeLijnenEnLaatDeKeusEnDeFocus)
 {
     KiesRegel(4);
+    Vlak()->setFocus();
     Klik(Header(6), {5, 5});
+    EXPECT_TRUE(Vlak()->hasFocus());
+    EXPECT_EQ(18, Deel("P2")->findChildren<QPushButton*>().size());
     EXPECT_FALSE(Deel("Line1")->isVisible());
     EXPECT_FALSE(Deel("Line2")->isVisible());
     EXPECT_EQ(4, GekozenRegel());
@@ -114,14 +117,6 @@ TEST_F(RoosterTest, EenKlikOpDeHeaderVerbergtDeLijnenEnLaatDeKeus)
         EXPECT_EQ("Regelnummer 4", Vind<QLabel>(ingave, "Label1")->text().toStdString());
         Druk(ingave, "cmdAnnuleren");
     });
-}
-
-TEST_F(RoosterTest, DeHeaderNeemtDeFocusNiet)
-{
-    Vlak()->setFocus();
-    Klik(Header(6), {5, 5});
-    EXPECT_TRUE(Vlak()->hasFocus());
-    EXPECT_EQ(18, Deel("P2")->findChildren<QPushButton*>().size());
 }
 
 // ---- Keys -------------------------------------------------------------------------------------
@@ -320,14 +315,7 @@ TEST_F(RoosterTest, HetWielSchuiftDeRegelsEnDoetAanHetEindVanZijnBereikNiets)
     EXPECT_EQ(0, Balk("VScroll1")->value());
 }
 
-TEST_F(RoosterTest, EenAndereGroepBegintBoven)
-{
-    Balk("VScroll1")->setValue(300);
-    KiesGroep(2);
-    EXPECT_EQ(0, Balk("VScroll1")->value());
-}
-
-TEST_F(RoosterTest, NaEenWijzigingBlijftHetBeeldStaan)
+TEST_F(RoosterTest, NaEenWijzigingBlijftHetBeeldStaanEnEenAndereGroepBegintBoven)
 {
     Toets(Qt::Key_End);
     const int waarde = Balk("VScroll1")->value();
@@ -337,6 +325,9 @@ TEST_F(RoosterTest, NaEenWijzigingBlijftHetBeeldStaan)
     EXPECT_EQ(waarde, Balk("VScroll1")->value());
     Toets(Qt::Key_Up); // the arrows go on where the selection was
     EXPECT_EQ(50, GekozenRegel());
+    Balk("VScroll1")->setValue(300);
+    KiesGroep(2);
+    EXPECT_EQ(0, Balk("VScroll1")->value());
 }
 
 // ---- Column widths ----------------------------------------------------------------------------

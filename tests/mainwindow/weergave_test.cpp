@@ -56,19 +56,14 @@ constexpr std::size_t woonplaats = Index(Kolom::Plaats);
 
 } // namespace
 
-TEST(BouwWeergave, NeemtDeRijenVanDeGroepInTabelvolgorde)
+TEST(BouwWeergave, NeemtDeRijenVanPreciesDeGroepInTabelvolgorde)
 {
     const Spelertabel tabel = Tabel({"Gr02-", "Gr01-", "Gr02-", "Gr20-", "Gr02-"});
     EXPECT_EQ((Weergave{1, 3, 5}), BouwWeergave(tabel, "Gr02-"));
     EXPECT_EQ((Weergave{2}), BouwWeergave(tabel, "Gr01-"));
     EXPECT_EQ(Weergave{}, BouwWeergave(tabel, "Gr03-"));
     EXPECT_EQ(Weergave{}, BouwWeergave(Spelertabel(), "Gr01-"));
-}
-
-TEST(BouwWeergave, VergelijktDeCodeLetterVoorLetter)
-{
-    const Spelertabel tabel = Tabel({"gr02-", "Gr02", " Gr02", ""});
-    EXPECT_EQ(Weergave{}, BouwWeergave(tabel, "Gr02-"));
+    EXPECT_EQ(Weergave{}, BouwWeergave(Tabel({"gr02-", "Gr02", " Gr02", ""}), "Gr02-"));
 }
 
 TEST(BeeldVan, AlleenDeLaatsteTweeKolommenHetenInDeImportgroepAnders)

@@ -132,15 +132,11 @@ TEST(Overleden, WatEenStatusBetekent)
 
 // ---- Stored pairs ------------------------------------------------------------------------------
 
-TEST_F(ParenTest, EenGeldigPaarVerdwijntUitDeSpelers)
+TEST_F(ParenTest, EenGeldigPaarVerdwijntUitDeSpelersEnStaatOpVolgorde)
 {
     EXPECT_EQ("", Laad({"100001-100004"}));
     EXPECT_EQ(Teksten{"100001 Bos An          +100004 Eik Dirk"}, paren.L3());
     EXPECT_EQ((Teksten{"100005 Aap Els", "100002 Cock Bea de"}), Keuzes());
-}
-
-TEST_F(ParenTest, DeParenOpVolgordeVanDeEersteSpeler)
-{
     EXPECT_EQ("", Laad({"100002-100001", "100004-100005"}));
     EXPECT_EQ((Teksten{"100002 Cock Bea de          +100001 Bos An",
                        "100004 Eik Dirk          +100005 Aap Els"}),
@@ -192,12 +188,16 @@ TEST_F(ParenTest, EenSpelerDieVraagtekensHeetIsNietLos)
     EXPECT_EQ("", Laad({"100001-100002"}));
 }
 
-TEST_F(ParenTest, OpnieuwLadenVergeetDeVorigeParen)
+TEST_F(ParenTest, OpnieuwLadenVergeetDeVorigeParenEnWissenBrengtDeSpelersNietTerug)
 {
     (void)Laad({"100001-100004"});
     (void)Laad({}, "Gr03-Maandag");
     EXPECT_EQ(Teksten(), paren.L3());
     EXPECT_EQ(Teksten{"100007 Haan Gijs"}, Keuzes());
+    (void)Laad({"100001-100004"});
+    paren.WisParen();
+    EXPECT_EQ(Teksten(), paren.L3());
+    EXPECT_EQ((Teksten{"100005 Aap Els", "100002 Cock Bea de"}), Keuzes());
 }
 
 // ---- Forming and dissolving --------------------------------------------------------------------
@@ -223,7 +223,7 @@ TEST_F(ParenTest, EenPaarMakenNeemtElkeRegelMetDeSleutelWeg)
     EXPECT_EQ(Teksten(), Keuzes());
 }
 
-TEST_F(ParenTest, OntbindenBrengtBeideSpelersOpHunPlaatsTerug)
+TEST_F(ParenTest, OntbindenBrengtBeideSpelersOpHunPlaatsTerugOokWieOntbreekt)
 {
     (void)Laad({"100002-100005"});
     ASSERT_EQ((Teksten{"100001 Bos An", "100004 Eik Dirk"}), Keuzes());
@@ -234,23 +234,11 @@ TEST_F(ParenTest, OntbindenBrengtBeideSpelersOpHunPlaatsTerug)
                        "Eik Dirk    100004"}),
               paren.Lalle());
     EXPECT_EQ(Teksten(), paren.L3());
-}
-
-TEST_F(ParenTest, EenOnvolledigPaarOntbinden)
-{
     (void)Laad({"100001-100099"});
     paren.Ontbind(0);
     EXPECT_EQ((Teksten{"100099 ??????", "100005 Aap Els", "100001 Bos An", "100002 Cock Bea de",
                        "100004 Eik Dirk"}),
               Keuzes());
-}
-
-TEST_F(ParenTest, AlleParenWissenBrengtDeSpelersNietTerug)
-{
-    (void)Laad({"100001-100004"});
-    paren.WisParen();
-    EXPECT_EQ(Teksten(), paren.L3());
-    EXPECT_EQ((Teksten{"100005 Aap Els", "100002 Cock Bea de"}), Keuzes());
 }
 
 // ---- Sorting -----------------------------------------------------------------------------------

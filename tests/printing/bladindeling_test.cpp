@@ -84,13 +84,9 @@ TEST(Bladindeling, EenKolomIsZoBreedAlsZijnBreedsteTekst)
     EXPECT_EQ(indeling.begin[3], indeling.Printbreedte());
     EXPECT_EQ(15, indeling.links);
     EXPECT_EQ(3, indeling.kolommen);
-}
-
-/// A text wider than 80 mm is not cut: its column takes the width.
-TEST(Bladindeling, EenLangeTekstKrijgtZijnBreedte)
-{
-    const auto indeling = Indeling(MaakPrintspelers(1, Tekst(120, 'x')), {Kolom::Achternaam});
-    EXPECT_FLOAT_EQ(7.85F + 1.6F + 120, indeling.Printbreedte());
+    // A text wider than 80 mm is not cut: its column takes the width.
+    const auto lang = Indeling(MaakPrintspelers(1, Tekst(120, 'x')), {Kolom::Achternaam});
+    EXPECT_FLOAT_EQ(7.85F + 1.6F + 120, lang.Printbreedte());
 }
 
 TEST(Bladindeling, TweehonderdtienBlijftStaandMeerGaatLiggen)
@@ -184,14 +180,10 @@ TEST(Bladindeling, WatNietOpHetLiggendeVelPastBlijftWeg)
     EXPECT_TRUE(indeling.TeBreed());
     EXPECT_EQ(6, indeling.kolommen);
     EXPECT_NEAR(294.6, static_cast<double>(indeling.begin[6]), 0.01);
-}
-
-/// One column that is wider than any sheet leaves the number of the row.
-TEST(Bladindeling, EenReuzenkolomBlijftWeg)
-{
-    const auto indeling = Indeling(MaakPrintspelers(1, Tekst(400, 'x')), {Kolom::Achternaam});
-    EXPECT_TRUE(indeling.TeBreed());
-    EXPECT_EQ(1, indeling.kolommen);
+    // One column that is wider than any sheet leaves the number of the row.
+    const auto reus = Indeling(MaakPrintspelers(1, Tekst(400, 'x')), {Kolom::Achternaam});
+    EXPECT_TRUE(reus.TeBreed());
+    EXPECT_EQ(1, reus.kolommen);
 }
 
 TEST(Bladindeling, WatNaastDeLinkerMargeInDeRechterRandZouKomenStaatInHetMidden)

@@ -43,7 +43,7 @@ class BladtekenenTest : public testing::Test {
 
 } // namespace
 
-TEST_F(BladtekenenTest, AlleTekstenVanBoven)
+TEST_F(BladtekenenTest, AlleTekstenVanBovenEnZonderSubgroepenGeenSubgroepregel)
 {
     Maak(MaakPrintspelers(2, "Bos"), {Kolom::Voornaam, Kolom::Achternaam});
     EXPECT_EQ(
@@ -51,10 +51,6 @@ TEST_F(BladtekenenTest, AlleTekstenVanBoven)
                             "RegNr", "Voornaam", "Achternaam", "1", "v1", "Bos", "2", "v2", "Bos",
                             "Ravendeck.exe", "21-11-2026", "Blad 1 van 1"}),
         Teken(1).Teksten());
-}
-
-TEST_F(BladtekenenTest, ZonderSubgroepenGeenSubgroepregel)
-{
     Maak(MaakPrintspelers(1), {Kolom::Achternaam});
     lijst->subgroepkop.clear();
     EXPECT_EQ("RegNr", Teken(1).Teksten().at(2));
@@ -161,7 +157,7 @@ TEST_F(BladtekenenTest, GrijzeLijnenOmElkVak)
     EXPECT_NEAR(15 + 7.85, *std::next(staand.begin()), Naast);
 }
 
-TEST_F(BladtekenenTest, ElkBladZijnEigenRijen)
+TEST_F(BladtekenenTest, ElkBladZijnEigenRijenEnNaEenVolBladEenLeeg)
 {
     Maak(MaakPrintspelers(56), {Kolom::Voornaam});
     Teken(1);
@@ -175,11 +171,7 @@ TEST_F(BladtekenenTest, ElkBladZijnEigenRijen)
     EXPECT_NEAR(34.75, Deel("56").y, Naast); // rows are numbered through
     EXPECT_EQ(3U + 2 + 2 + 3, vlak.teksten.size());
     (void)Deel("Blad 2 van 2");
-}
-
-/// 55 rows fill a page; the second one is there, without rows.
-TEST_F(BladtekenenTest, HetBladNaEenVolBladIsLeeg)
-{
+    // 55 rows fill a page; the second one is there, without rows.
     Maak(MaakPrintspelers(55), {Kolom::Voornaam});
     Teken(2);
     EXPECT_EQ(3U + 2 + 3, vlak.teksten.size());

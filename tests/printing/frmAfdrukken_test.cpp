@@ -124,7 +124,7 @@ const Bericht PrintMislukt{
 
 } // namespace
 
-TEST_F(frmAfdrukkenTest, DeOpschriften)
+TEST_F(frmAfdrukkenTest, DeOpschriftenEnDeTabvolgorde)
 {
     OpenRijen(56);
     VerwachtTeksten("Toon/print ....",
@@ -133,11 +133,6 @@ TEST_F(frmAfdrukkenTest, DeOpschriften)
     EXPECT_EQ("(Totaal 2)", Vak("txtAantPages"));
     EXPECT_FALSE(Deel<QLabel>("lblReden")->isVisible());
     EXPECT_EQ(Qt::ClickFocus, Deel<QLineEdit>("txtAantPages")->focusPolicy()); // no tab stop
-}
-
-TEST_F(frmAfdrukkenTest, DeTabtoetsSlaatHetAantalBladenOver)
-{
-    OpenRijen(56);
     EXPECT_TRUE(Deel<QWidget>("picP0")->hasFocus());
     EXPECT_EQ("Bladscroll txtBlad cmdPrinten cmdAnnuleren picP0 ", MetTab(5));
 }

@@ -67,16 +67,6 @@ TEST_F(frmPrintIniTest, DeTabtoetsVolgtHetOog)
               MetTab(8));
 }
 
-/// However long the name of the group is; all of it can be read.
-TEST_F(frmPrintIniTest, DeSchaalIsTeLezen)
-{
-    QStyleOptionComboBox optie;
-    optie.initFrom(cmbSchaal());
-    const QRect vak = cmbSchaal()->style()->subControlRect(
-        QStyle::CC_ComboBox, &optie, QStyle::SC_ComboBoxEditField, cmbSchaal());
-    EXPECT_GE(vak.width(), cmbSchaal()->fontMetrics().horizontalAdvance(u"0,7 "_s));
-}
-
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
 {
     Open("Gr01-");
@@ -136,7 +126,7 @@ TEST_F(frmPrintIniTest, InDeImportgroepHeetDeLaatsteKolomNBBnr)
     EXPECT_EQ("NBBnr", Regels("lstKeus")[14]);
 }
 
-TEST_F(frmPrintIniTest, DeSchalenInDeSchrijfwijzeVanDeGebruiker)
+TEST_F(frmPrintIniTest, DeSchalenInDeSchrijfwijzeVanDeGebruikerZijnTeLezen)
 {
     EXPECT_EQ((std::vector<std::string>{"0,7", "0,8", "0,9", "1", "1,1", "1,2", "1,3"}),
               Keuzes(cmbSchaal()));
@@ -144,6 +134,12 @@ TEST_F(frmPrintIniTest, DeSchalenInDeSchrijfwijzeVanDeGebruiker)
     Open("Gr01-", {QLocale::English, QLocale::UnitedKingdom});
     EXPECT_EQ((std::vector<std::string>{"0.7", "0.8", "0.9", "1", "1.1", "1.2", "1.3"}),
               Keuzes(cmbSchaal()));
+    // However long the name of the group is; all of it can be read.
+    QStyleOptionComboBox optie;
+    optie.initFrom(cmbSchaal());
+    const QRect vak = cmbSchaal()->style()->subControlRect(
+        QStyle::CC_ComboBox, &optie, QStyle::SC_ComboBoxEditField, cmbSchaal());
+    EXPECT_GE(vak.width(), cmbSchaal()->fontMetrics().horizontalAdvance(u"0,7 "_s));
 }
 
 TEST(GetalnotatieTest, DieVanHetSysteemOfDeNederlandse)
@@ -198,16 +194,12 @@ TEST_F(frmPrintIniTest, EenLegeGroepHoudtDeKnopUit)
     EXPECT_FALSE(Knop("cmdOK")->isEnabled());
 }
 
-TEST_F(frmPrintIniTest, EerstEenSubgroepKiezen)
+TEST_F(frmPrintIniTest, EerstEenSubgroepEnEenRubriekKiezen)
 {
     wachter.Waarschuwing(u"U moet nog een subgroep kiezen."_s);
     Klik(Knop("cmdOK"));
     EXPECT_TRUE(venster->isVisible());
-}
-
-/// The button is off then; what it says is there all the same.
-TEST_F(frmPrintIniTest, ZonderRubriekWordtOmDeAchternaamGevraagd)
-{
+    // The button is off then; what it says is there all the same.
     KlikRegel("lstNBBgr", 1);
     Klik(Knop("cmdSelNone"));
     Knop("cmdOK")->setEnabled(true);

@@ -156,7 +156,7 @@ TEST_F(Koppelvenster, ZonderZittingenEnCompetities)
     EXPECT_FALSE(Knop("cmdZoekNamen")->isEnabled());
 }
 
-TEST_F(Koppelvenster, DeZwevendenVanEenZitting)
+TEST_F(Koppelvenster, DeZwevendenVanEenZittingOfGeen)
 {
     EXPECT_EQ("", Label("Label11"));
     ASSERT_NO_FATAL_FAILURE(Zoek(Dinsdag));
@@ -172,10 +172,6 @@ TEST_F(Koppelvenster, DeZwevendenVanEenZitting)
     Keus()->setCurrentIndex(1);
     EXPECT_EQ(Teksten{}, Regels("lstSpelers"));
     EXPECT_EQ("", Label("Label11"));
-}
-
-TEST_F(Koppelvenster, GeenZwevenden)
-{
     for (const char* zitting : {"Donderdagmiddag 2024-10-17", "Nog te spelen"}) {
         ASSERT_NO_FATAL_FAILURE(Zoek(QString::fromLatin1(zitting)));
         EXPECT_EQ("Geen zwevende spelers gevonden", Label("Label11"));
@@ -183,7 +179,7 @@ TEST_F(Koppelvenster, GeenZwevenden)
     }
 }
 
-TEST_F(Koppelvenster, DeSpelersVanDeImportgroepUitHetBestand)
+TEST_F(Koppelvenster, DeSpelersVanDeImportgroepUitHetBestandOfDatErNietIs)
 {
     // The table in memory is not asked: what is not saved has no key yet.
     administratie.spelers = {};
@@ -196,10 +192,6 @@ TEST_F(Koppelvenster, DeSpelersVanDeImportgroepUitHetBestand)
               "HKEY=100002\r\n1,100002,Gr05-,An,de,Bos,,,,,,,V,,,,MA,123\r\n");
     Klik(Knop("cmdKiesRVDspeler"));
     EXPECT_EQ(Teksten{"100002  An de Bos  123       MA"}, Regels("lstRVDsp"));
-}
-
-TEST_F(Koppelvenster, EenSpelerbestandDatErNietIs)
-{
     suite.Verwijder("Spelers/RVDspelers.txt");
     wachter.Begin(
         u"Fout bij het lezen van het spelerbestand; er is nu niemand om te koppelen. Er is "

@@ -281,17 +281,13 @@ TEST_F(ZonderPdfTest, ZonderPrinterVolgtMeteenHetBestand)
     EXPECT_TRUE(std::filesystem::is_empty(map.Weg()));
 }
 
-TEST_F(ZonderPdfTest, VoorEenPrinterVolgtHetVensterVanHetSysteem)
+TEST_F(ZonderPdfTest, VoorEenPrinterVolgtHetVensterVanHetSysteemEnDieZelfPdfMaaktVraagtNiets)
 {
     VerwachtVraag(u"Printen..."_s);
     VerwachtSysteem();
     EXPECT_FALSE(Kies({u"Kantoor"_s}));
     VerwachtVraag(Berichtwachter::Escape);
     EXPECT_FALSE(Kies({u"Kantoor"_s}));
-}
-
-TEST_F(ZonderPdfTest, EenPrinterDieZelfPdfMaaktWordtNietGevraagd)
-{
     VerwachtSysteem();
     EXPECT_FALSE(Kies({u"Kantoor"_s, u"Microsoft Print to PDF"_s}));
 }
@@ -320,7 +316,7 @@ class GekozenBladenTest : public testing::Test {
     QPrinter printer{QPrinter::HighResolution};
 };
 
-TEST_F(GekozenBladenTest, EenReeksDieNietBovenNulIsKiestHetBladInBeeld)
+TEST_F(GekozenBladenTest, EenReeksEnOmgekeerdEnMeerExemplaren)
 {
     using Nummers = std::vector<int>;
     EXPECT_EQ((Nummers{2}), Reeks(0, 0));
@@ -328,11 +324,6 @@ TEST_F(GekozenBladenTest, EenReeksDieNietBovenNulIsKiestHetBladInBeeld)
     EXPECT_EQ((Nummers{1}), Reeks(1, 1));
     EXPECT_EQ((Nummers{4, 5}), Reeks(4, 99));
     EXPECT_EQ((Nummers{}), Reeks(6, 9));
-}
-
-TEST_F(GekozenBladenTest, OmgekeerdEnMeerExemplaren)
-{
-    using Nummers = std::vector<int>;
     printer.setPageOrder(QPrinter::LastPageFirst);
     EXPECT_EQ((Nummers{4, 3, 2}), Reeks(2, 4));
     EXPECT_EQ((Nummers{5, 4}), Reeks(4, 6)); // there are no more than five

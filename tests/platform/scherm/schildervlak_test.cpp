@@ -110,15 +110,11 @@ TEST_F(SchildervlakTest, LijnenDieElkaarRakenDelenHunHoek)
     }
 }
 
-TEST_F(SchildervlakTest, EenVlakWordtGevuld)
+TEST_F(SchildervlakTest, EenVlakEnEenSchuineLijn)
 {
     Teken([](Schildervlak& vlak) { vlak.Vul(10, 5, 20, 10, {1, 2, 3}); });
     EXPECT_EQ(QRect(48, 24, 80, 40), Inkt());
     EXPECT_EQ(QColor(1, 2, 3), beeld.pixelColor(60, 30));
-}
-
-TEST_F(SchildervlakTest, EenSchuineLijnKomtErOok)
-{
     Teken([](Schildervlak& vlak) { vlak.Lijn(10, 5, 20, 15, Grijs, 0.5); });
     EXPECT_NEAR(40, Inkt().width(), 3);
     EXPECT_NEAR(40, Inkt().height(), 3);
@@ -158,7 +154,7 @@ TEST(Letterkast, DeBreedtenZijnDieVanDeGenoemdeLetters)
 }
 
 /// Pairs such as AV are not moved together and "fi" stays two letters.
-TEST(Letterkast, EenTekstIsZoBreedAlsZijnTekens)
+TEST(Letterkast, EenTekstIsZoBreedAlsZijnTekensEnEenStuurtekenAlsEenSpatie)
 {
     const Letterkast kast;
     for (const Letter& letter : {Arial10, Arial10Vet, Courier10, Times10}) {
@@ -170,9 +166,11 @@ TEST(Letterkast, EenTekstIsZoBreedAlsZijnTekens)
         }
         EXPECT_EQ(0, kast.Breedte(letter, ""));
     }
+    for (const Tekstblik teken : {"\t", "\r", "\x81", "\x01"})
+        EXPECT_EQ(kast.Breedte(Arial10, " "), kast.Breedte(Arial10, teken));
 }
 
-TEST(Letterkast, DeMatenGroeienPreciesMetDePunten)
+TEST(Letterkast, DeMatenGroeienPreciesMetDePuntenEnTienPuntenPastInEenRegel)
 {
     const Letterkast kast;
     for (const double punten : {7.0, 8.0, 13.0, 14.0}) {
@@ -182,18 +180,6 @@ TEST(Letterkast, DeMatenGroeienPreciesMetDePunten)
                     kast.Breedte(letter, "Achternaam"), 1e-9);
         EXPECT_NEAR(kast.Hoogte(Arial10) * punten / 10, kast.Hoogte(letter), 1e-9);
     }
-}
-
-TEST(Letterkast, EenLetterVanTienPuntenPastInEenRegel)
-{
-    const Letterkast kast;
     EXPECT_GT(kast.Hoogte(Arial10), 3.5);
     EXPECT_LT(kast.Hoogte(Arial10), 4.5);
-}
-
-TEST(Letterkast, StuurtekensZijnSpatiesBreed)
-{
-    const Letterkast kast;
-    for (const Tekstblik teken : {"\t", "\r", "\x81", "\x01"})
-        EXPECT_EQ(kast.Breedte(Arial10, " "), kast.Breedte(Arial10, teken));
 }
