@@ -15,10 +15,7 @@ namespace plexoran {
 namespace {
 
 // In twips.
-constexpr int VensterBreed = 8400;
-constexpr int VensterHoog = 7800;
 constexpr int VlakBoven = 700;
-constexpr int Vlaklaagst = 1500;
 constexpr int RijAfstand = 390;
 constexpr int RijHoog = 345;
 constexpr int Rand = 100;
@@ -42,7 +39,7 @@ diaGrNamen::diaGrNamen(Groepen& groepen, QWidget* ouder) : QDialog(ouder), groep
     for (QPushButton* knop : {cmdAnnuleren, cmdOK})
         knop->setFocusPolicy(Qt::TabFocus);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
-    PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
+    PasInScherm(this, maten_.Twips(8400, 7800));
     setMinimumWidth(
         std::min(lagen->minimumSize().width(), screen()->availableSize().width() - rand));
     txt1.first()->setFocus();
@@ -90,7 +87,7 @@ QWidget* diaGrNamen::BouwRijen()
     }
     auto* P0 = new Schuifblad(P1, this);
     Noem(P0, u"P0"_s);
-    P0->setMinimumHeight(maten_.Twips(Vlaklaagst));
+    P0->setMinimumHeight(maten_.Twips(1500));
     P0->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     QScrollBar* VScroll1 = P0->verticalScrollBar();
     Noem(VScroll1, u"VScroll1"_s, u"Groepen verschuiven"_s);

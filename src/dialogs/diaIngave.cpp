@@ -17,8 +17,6 @@ namespace {
 
 // In twips.
 constexpr int VensterBreed = 5500;
-constexpr int VensterHoog = 7650;
-constexpr int KleinsteHoogte = 3000;
 constexpr int RijBoven = 500;
 constexpr int RijAfstand = 300;
 constexpr int RijHoog = 285;
@@ -51,14 +49,14 @@ diaIngave::diaIngave(Ingave& ingave, std::int16_t& terugkeerveld, std::function<
 {
     setObjectName(u"diaIngave"_s);
     setWindowTitle(u"Ingeven persoonsgegevens"_s);
-    setMinimumSize(maten_.Twips(VensterBreed), maten_.Twips(KleinsteHoogte));
+    setMinimumSize(maten_.Twips(VensterBreed, 3000));
     auto* lagen = new QVBoxLayout(this);
     lagen->setContentsMargins({});
     lagen->setSpacing(0);
     lagen->addWidget(new Schuifblad(BouwVelden(), this), 1);
     lagen->addLayout(BouwVoet());
     ToonGroep();
-    PasInScherm(this, {maten_.Twips(VensterBreed), maten_.Twips(VensterHoog)});
+    PasInScherm(this, maten_.Twips(VensterBreed, 7650));
     Vak(Kolom::Voornaam)->setFocus();
 
     const QRect scherm = hoofdvenster->screen()->availableGeometry();

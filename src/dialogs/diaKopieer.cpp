@@ -24,9 +24,8 @@ diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
     auto* lagen = new QVBoxLayout(this);
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
-    const Maten maten;
     ZetOpSchuifblad(this);
-    PasInScherm(this, {maten.Twips(7500), maten.Twips(8700)});
+    PasInScherm(this, Maten().Twips(7500, 8700));
     ZetTabvolgorde({cmbUitGroep, cmbNBBgr, keus_->lstKeus, keus_->cmdSelAll, keus_->cmdSelNone,
                     cmbGrnamen, chkNBBgrOok, chkNBBnrOok, cmdAnnuleren, cmdOK});
     cmdOK->setDefault(true);

@@ -45,9 +45,8 @@ diaToevoegen::diaToevoegen(Administratie& administratie, QWidget* ouder)
     lagen->addLayout(Knoppenrij({cmdAnnuleren, OKButton}));
     for (QPushButton* later : {cmdLeesSpelers, cmdStart, OKButton})
         later->setEnabled(false);
-    const Maten maten;
     ZetOpSchuifblad(this);
-    PasInScherm(this, {maten.Twips(7500), maten.Twips(7800)});
+    PasInScherm(this, Maten().Twips(7500, 7800));
     ZetTabvolgorde({Combo1, cmdLeesSpelers, lstN2, cmdStart, cmdAnnuleren, OKButton});
     // The first session is read when the window is there, so that its messages stand before it.
     QTimer::singleShot(0, this, &diaToevoegen::VulZittingen);

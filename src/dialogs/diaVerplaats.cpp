@@ -12,28 +12,22 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
     auto* Frame1 = MaakKader(u"Frame1"_s, QString(), this);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Verplaats"_s, u'V', this, &QDialog::accept);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &QDialog::reject);
-    const auto label = [&](const QString& naam, const QString& tekst) {
-        return MaakLabel(naam, tekst, Frame1);
-    };
-    auto* Label2 = label(u"Label2"_s, u"Verplaats hen naar de volgende groep:"_s);
+    auto* Label2 = MaakLabel(u"Label2"_s, u"Verplaats hen naar de volgende groep:"_s, Frame1);
     cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, Frame1);
     VulKeus(*cmbGrnamen, administratie.groepen.Toonteksten());
     keus_ = new Spelerkeus(tabel_, cmdOK, Frame1);
     keus_->VulKeuslijst(VerplaatsbareRijen(tabel_, administratie.mappen.DFIMPG), Verplaatsregel);
 
-    auto* binnen = new QVBoxLayout(Frame1);
-    binnen->addWidget(keus_, 1);
-    binnen->addWidget(Label2);
-    binnen->addWidget(cmbGrnamen);
-    binnen->addWidget(label(u"Label3"_s, u"Spelers van 'Gr05-' kunnen niet worden verplaatst. "_s));
-    binnen->addWidget(
-        label(u"Label4"_s, u"Spelers mogen wel naar groep 'Gr05-' worden verplaatst."_s));
+    auto* Label3 =
+        MaakLabel(u"Label3"_s, u"Spelers van 'Gr05-' kunnen niet worden verplaatst. "_s, Frame1);
+    auto* Label4 = MaakLabel(u"Label4"_s,
+                             u"Spelers mogen wel naar groep 'Gr05-' worden verplaatst."_s, Frame1);
+    Onderelkaar({keus_, Label2, cmbGrnamen, Label3, Label4}, Frame1)->setStretch(0, 1);
     auto* lagen = new QVBoxLayout(this);
     lagen->addWidget(Frame1, 1);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
-    const Maten maten;
     ZetOpSchuifblad(this);
-    PasInScherm(this, {maten.Twips(6900), maten.Twips(8100)});
+    PasInScherm(this, Maten().Twips(6900, 8100));
     cmdOK->setDefault(true);
     ZetTabvolgorde(
         {keus_->lstKeus, keus_->cmdSelAll, keus_->cmdSelNone, cmbGrnamen, cmdAnnuleren, cmdOK});

@@ -1,7 +1,6 @@
 #include "dialogs/frmVerwSubgroep.h"
 
 #include <QGridLayout>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -34,11 +33,8 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     setObjectName(u"frmVerwSubgroep"_s);
     setWindowTitle(u"Verwijderen van een subgroep"_s);
     auto* frame1 = MaakKader(u"frame1"_s, QString(), this);
-    const auto label = [&](const QString& naam, const QString& tekst) {
-        return MaakLabel(naam, tekst, frame1);
-    };
-    Label3 = label(u"Label3"_s, u"met deze Subgroep:"_s);
-    auto* Label4 = label(u"Label4"_s, u"uit deze Spelergroep:"_s);
+    Label3 = MaakLabel(u"Label3"_s, u"met deze Subgroep:"_s, frame1);
+    auto* Label4 = MaakLabel(u"Label4"_s, u"uit deze Spelergroep:"_s, frame1);
     cmbRVDgr = MaakKeus(u"cmbRVDgr"_s, Label4, frame1);
     VulKeus(*cmbRVDgr, administratie_.groepen.Toonteksten());
     cmbSubGr = MaakKeus(u"cmbSubGr"_s, Label3, frame1);
@@ -49,17 +45,16 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     connect(cmbRVDgr, &QComboBox::activated, this, &frmVerwSubgroep::KiesGroep);
 
     auto* vakken = new QGridLayout(frame1);
-    vakken->addWidget(label(u"Label1"_s, u"Verwijder ALLE spelers "_s), 0, 0, 1, 2);
+    vakken->addWidget(MaakLabel(u"Label1"_s, u"Verwijder ALLE spelers "_s, frame1), 0, 0, 1, 2);
     vakken->addWidget(Label4, 1, 0);
     vakken->addWidget(cmbRVDgr, 1, 1);
     vakken->addWidget(Label3, 2, 0);
     vakken->addWidget(cmbSubGr, 2, 1);
     vakken->setColumnStretch(1, 1);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(
+    auto* Label2 =
         MaakLabel(u"Label2"_s,
-                  u"Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep."_s, this));
-    lagen->addWidget(frame1);
+                  u"Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep."_s, this);
+    auto* lagen = Onderelkaar({Label2, frame1}, this);
     lagen->addStretch();
     lagen->addLayout(Knoppenrij({cmdVerwijder, cmdEinde}));
     ZetOpSchuifblad(this);

@@ -21,12 +21,11 @@ class Spelerkeus : public QWidget {
           cmdSelNone(MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this)), tabel_(tabel)
     {
         Noem(lstKeus, u"lstKeus"_s, u"Spelers"_s);
-        auto* lagen = new QVBoxLayout(this);
-        lagen->setContentsMargins(0, 0, 0, 0);
         auto* Label1 = MaakLabel(u"Label1"_s, u"Selecteer de spelers(s) "_s, this);
         Label1->setBuddy(lstKeus);
-        lagen->addWidget(Label1);
-        lagen->addWidget(lstKeus, 1);
+        auto* lagen = Onderelkaar({Label1, lstKeus}, this);
+        lagen->setContentsMargins(0, 0, 0, 0);
+        lagen->setStretch(1, 1);
         lagen->addLayout(Knoppenrij({cmdSelAll, cmdSelNone}));
 
         connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);

@@ -26,11 +26,10 @@ diaRekProgkeus::diaRekProgkeus(QWidget* ouder) : QDialog(ouder)
             cmdOK->setEnabled(true);
         });
     }
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(
-        MaakLabel(u"Label1"_s, u"Op deze computer zijn 2 Rekenprogramma's aangetroffen."_s, this));
-    lagen->addWidget(MaakLabel(u"Label2"_s, u"Maak een keus"_s, this));
-    lagen->addWidget(Frame1);
+    auto* Label1 =
+        MaakLabel(u"Label1"_s, u"Op deze computer zijn 2 Rekenprogramma's aangetroffen."_s, this);
+    auto* lagen =
+        Onderelkaar({Label1, MaakLabel(u"Label2"_s, u"Maak een keus"_s, this), Frame1}, this);
     lagen->addWidget(cmdOK, 0, Qt::AlignRight);
     lagen->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -67,24 +67,12 @@ const QString VervolgNBBR31 =
     "'...Documenten\\NBB4-Leden', en onthoud die map.\r\n"
     "5. Kies hier 'uit een geexporteerd XML-ledenbestand' met '(uit NBBR-3)' erbij, druk op de "
     "knop om een map te kiezen en kies in die map het bestand."_s;
-const QString MapNBBR4 =
-    u"4. Sla het bestand op in de map '...Documenten\\NBB4-Leden'. Daar wordt hier het eerst "
-    "gekeken.\r\n"_s;
-const QString VervolgXml4 =
-    MapNBBR4 +
-    u"5. Kies hier onder 'Uit NBB-4:' de optie 'uit een geexporteerd XML-ledenbestand', druk "
-    "zo nodig op de knop om een andere map te kiezen en klik het bestand aan in de lijst."_s;
-const QString VervolgCsv4 =
-    MapNBBR4 +
-    u"5. Kies hier 'uit een geexporteerd CSV-ledenbestand', druk zo nodig op de knop om een "
-    "andere map te kiezen en klik het bestand aan in de lijst."_s;
 
-QVBoxLayout* Onderelkaar(const QList<QWidget*>& delen)
+QString VervolgNBBR4(const QString& optie)
 {
-    auto* lagen = new QVBoxLayout;
-    for (QWidget* deel : delen)
-        lagen->addWidget(deel);
-    return lagen;
+    return u"4. Sla het bestand op in de map '...Documenten\\NBB4-Leden'. Daar wordt hier het "
+           "eerst gekeken.\r\n5. Kies hier %1, druk zo nodig op de knop om een andere map te "
+           "kiezen en klik het bestand aan in de lijst."_s.arg(optie);
 }
 
 QCheckBox* MaakVink(const QString& naam, const QString& tekst, char16_t letter, QWidget* ouder)
@@ -107,17 +95,14 @@ void frmImportNBB::Bouw()
 {
     setObjectName(u"frmImportNBB"_s);
     setWindowTitle(u"Importeer een NBB-ledenbestand"_s);
-    auto* links = new QVBoxLayout;
-    links->addWidget(BouwBronnen());
-    links->addWidget(BouwGegevens());
+    auto* links = Onderelkaar({BouwBronnen(), BouwGegevens()});
     links->addStretch();
     auto* kolommen = new QHBoxLayout;
     kolommen->addLayout(links);
     kolommen->addLayout(BouwKeuze(), 1);
 
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(
-        MaakLopendeTekst(u"lblOpening"_s, Openingstekst(administratie_.mappen.DFIMPG), this));
+    const QString opening = Openingstekst(administratie_.mappen.DFIMPG);
+    auto* lagen = Onderelkaar({MaakLopendeTekst(u"lblOpening"_s, opening, this)}, this);
     lagen->addLayout(kolommen, 1);
     lagen->addLayout(BouwHulp());
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::close);
@@ -126,8 +111,7 @@ void frmImportNBB::Bouw()
     cmdImporteer->setDefault(true);
     lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdImporteer}));
     ZetOpSchuifblad(this);
-    const Maten maten;
-    PasInScherm(this, {maten.Twips(12600), maten.Twips(9900)});
+    PasInScherm(this, Maten().Twips(12600, 9900));
 }
 
 QWidget* frmImportNBB::BouwBronnen()
@@ -235,9 +219,13 @@ QLayout* frmImportNBB::BouwHulp()
     zetKnop(0, 1, u"cmdHelpImport31"_s, u"Hoe exporteer je een ledenbestand uit  NBBR-3.1?"_s, u'3',
             Stappenplan(u"NBBR-3.1"_s, u"XML"_s, u"ledenbestand"_s, VervolgNBBR31));
     zetKnop(1, 0, u"cmbHelpCSV"_s, u"Hoe exporteer je een CSV-ledenbestand uit  NBBR-4?"_s, u'V',
-            Stappenplan(u"NBBR-4"_s, u"CSV"_s, u"CSV-ledenbestand"_s, VervolgCsv4));
-    zetKnop(1, 1, u"cmdHelpImport4"_s, u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?"_s,
-            u'4', Stappenplan(u"NBBR-4"_s, u"XML"_s, u"XML-ledenbestand"_s, VervolgXml4));
+            Stappenplan(u"NBBR-4"_s, u"CSV"_s, u"CSV-ledenbestand"_s,
+                        VervolgNBBR4(u"'uit een geexporteerd CSV-ledenbestand'"_s)));
+    zetKnop(
+        1, 1, u"cmdHelpImport4"_s, u"Hoe exporteer je een XML-ledenbestand uit  NBBR-4?"_s, u'4',
+        Stappenplan(u"NBBR-4"_s, u"XML"_s, u"XML-ledenbestand"_s,
+                    VervolgNBBR4(
+                        u"onder 'Uit NBB-4:' de optie 'uit een geexporteerd XML-ledenbestand'"_s)));
     zetKnop(2, 0, u"cmdHint"_s, u"Hint voor toekennen van fictieve NBB-nummers"_s, u'H', Hint,
             u"Hint"_s);
     return vakken;

@@ -47,8 +47,6 @@ frmParenOnderhoud::frmParenOnderhoud(Administratie& administratie, Tekstblik gro
     ZetKnoppen();
 }
 
-// ---- Showing a group-subgroup ------------------------------------------------------------------
-
 /// The pairs that were shown before are not saved.
 void frmParenOnderhoud::LaadSubgroep()
 {
@@ -100,8 +98,6 @@ void frmParenOnderhoud::ToonAantalParen()
     Label8->setText(u"Aantal paren: %1"_s.arg(paren_.L3().size()));
 }
 
-// ---- Choosing ----------------------------------------------------------------------------------
-
 /// A pair and players are not chosen together.
 void frmParenOnderhoud::KeuzeIn(const Regellijst* lijst)
 {
@@ -132,8 +128,6 @@ void frmParenOnderhoud::ZetKnoppen()
     ZetKnopOKE(links >= 0 && rechts >= 0 && links != rechts);
     ZetKnopOntbindt(L3->Gekozen() >= 0);
 }
-
-// ---- Commands ----------------------------------------------------------------------------------
 
 void frmParenOnderhoud::MaakPaar()
 {

@@ -14,9 +14,6 @@
 namespace plexoran {
 namespace {
 
-constexpr int VensterBreed = 15000;  // twips
-constexpr int OnderScherm = 1000;    // the window is so much lower than the screen
-constexpr double Lijstletter = 9;    // points
 constexpr std::size_t NaamVanaf = 7; // in every line, behind the key and a blank
 
 } // namespace
@@ -25,7 +22,7 @@ Regellijst* frmParenOnderhoud::Lijst(const QString& naam, const QString& gesprok
 {
     auto* lijst = new Regellijst(QListView::SingleSelection, this);
     Noem(lijst, naam, gesproken);
-    lijst->setFont(Roosterletter(maten_.Letter(Lijstletter).pixelSize()));
+    lijst->setFont(Roosterletter(maten_.Letter(9).pixelSize()));
     lijst->ZetNaamVanaf(NaamVanaf);
     connect(lijst, &Regellijst::keuzeVeranderd, this, [this, lijst] { KeuzeIn(lijst); });
     return lijst;
@@ -44,32 +41,29 @@ void frmParenOnderhoud::Bouw()
     lagen->addWidget(BouwCSVKader());
     lagen->addLayout(BouwOnderkant());
     ZetOpSchuifblad(this);
-    PasInScherm(
-        this, {maten_.Twips(VensterBreed), screen()->size().height() - maten_.Twips(OnderScherm)});
+    // A little lower than the screen
+    PasInScherm(this, {maten_.Twips(15000), screen()->size().height() - maten_.Twips(1000)});
     cmbNBBledengr->setFocus();
     new QShortcut(Qt::Key_F1, this, this, &frmParenOnderhoud::ToonUitleg);
 }
 
 QLayout* frmParenOnderhoud::BouwKeuze()
 {
-    const auto label = [this](const QString& naam, const QString& tekst) {
-        return MaakLabel(naam, tekst, this);
-    };
-    auto* lblRVDledengr = label(u"lblRVDledengr"_s, NaarQString(code_));
+    auto* lblRVDledengr = MaakLabel(u"lblRVDledengr"_s, NaarQString(code_), this);
     MaakVet(lblRVDledengr);
-    auto* Label2 = label(u"Label2"_s, u"Groep-Subgroep:"_s);
+    auto* Label2 = MaakLabel(u"Label2"_s, u"Groep-Subgroep:"_s, this);
     cmbNBBledengr = MaakKeus(u"cmbNBBledengr"_s, Label2, this);
     cmbNBBledengr->setMinimumContentsLength(8);
     // Also when the group-subgroup that is shown is picked again.
     connect(cmbNBBledengr, &QComboBox::activated, this, &frmParenOnderhoud::LaadSubgroep);
     auto* rij = new QHBoxLayout;
-    rij->addWidget(label(u"Label9"_s, u"RVD-ledengroep:"_s));
+    rij->addWidget(MaakLabel(u"Label9"_s, u"RVD-ledengroep:"_s, this));
     rij->addWidget(lblRVDledengr);
     rij->addSpacing(maten_.Twips(300));
     rij->addWidget(Label2);
     rij->addWidget(cmbNBBledengr, 1);
     rij->addSpacing(maten_.Twips(300));
-    rij->addWidget(label(u"Label1"_s, u"Waarom paren samenstellen?"_s));
+    rij->addWidget(MaakLabel(u"Label1"_s, u"Waarom paren samenstellen?"_s, this));
     rij->addWidget(MaakKnop(u"cmdUitleg"_s, u"Klik hier voor uitleg"_s, u'u', this,
                             &frmParenOnderhoud::ToonUitleg));
     return rij;
@@ -140,18 +134,16 @@ QGroupBox* frmParenOnderhoud::BouwCSVKader()
 {
     auto* Frame2 = MaakKader(u"Frame2"_s, u"Paren opslaan als CSV-bestand"_s, this);
     auto* vakken = new QGridLayout(Frame2);
-    const auto label = [&](const QString& naam, const QString& tekst, int rij, int kolom) {
-        vakken->addWidget(MaakLabel(naam, tekst, Frame2), rij, kolom);
-    };
     vakken->addWidget(MaakKnop(u"cmdPrintVast"_s, u"Als paar in 1 kolom"_s, u'1', this,
                                [this] { SchrijfCSV(ParenCSV::EenKolom); }),
                       0, 0);
-    label(u"lblPrintVast"_s, u"Tuprufo - Leo Jansen "_s, 0, 1);
+    vakken->addWidget(MaakLabel(u"lblPrintVast"_s, u"Tuprufo - Leo Jansen "_s, Frame2), 0, 1);
     vakken->addWidget(MaakKnop(u"cmdPrintLos"_s, u"Als paar in    2 kolommen"_s, u'2', this,
                                [this] { SchrijfCSV(ParenCSV::TweeKolommen); }),
                       1, 0);
-    label(u"lblPrintLos"_s, u"Tuprufo        Leo Jansen  (aparte kolom)"_s, 1, 1);
-    label(u"lblExcel"_s, u"Kan in Excel worden ingelezen. "_s, 0, 3);
+    vakken->addWidget(
+        MaakLabel(u"lblPrintLos"_s, u"Tuprufo        Leo Jansen  (aparte kolom)"_s, Frame2), 1, 1);
+    vakken->addWidget(MaakLabel(u"lblExcel"_s, u"Kan in Excel worden ingelezen. "_s, Frame2), 0, 3);
     vakken->setColumnStretch(2, 1);
     return Frame2;
 }

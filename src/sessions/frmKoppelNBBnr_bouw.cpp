@@ -80,14 +80,12 @@ void frmKoppelNBBnr::Bouw()
     lagen->addLayout(vakken, 1);
     lagen->addLayout(onder);
     ZetOpSchuifblad(this);
-    const Maten maten;
-    PasInScherm(this, {maten.Twips(15000), maten.Twips(10200)});
+    PasInScherm(this, Maten().Twips(15000, 10200));
 }
 
 QGroupBox* frmKoppelNBBnr::BouwKeuze()
 {
     auto* Frame1 = MaakKader(u"Frame1"_s, u"Wijziging van een NBBnr"_s, this);
-    auto* lagen = new QVBoxLayout(Frame1);
     auto* Option1 = MaakOptie(u"Option1"_s, u"In losse Zittingen"_s, u't', Frame1);
     Option1->setChecked(true);
     Option2 = MaakOptie(u"Option2"_s, u"In Competities"_s, u'C', Frame1);
@@ -95,10 +93,7 @@ QGroupBox* frmKoppelNBBnr::BouwKeuze()
     cmbC = MaakKeus(u"cmbC"_s, Label4, Frame1);
     cmdZoekNamen = MaakKnop(u"cmdZoekNamen"_s, u"Zoek de zwevende spelers in RVD"_s, u'Z', this,
                             &frmKoppelNBBnr::ZoekNamen);
-    for (QWidget* deel :
-         std::initializer_list<QWidget*>{Option1, Option2, Label4, cmbC, cmdZoekNamen})
-        lagen->addWidget(deel);
-    lagen->addStretch();
+    Onderelkaar({Option1, Option2, Label4, cmbC, cmdZoekNamen}, Frame1)->addStretch();
     // Of the two that change together only one is listened to.
     connect(Option2, &QRadioButton::toggled, this, &frmKoppelNBBnr::KiesSoort);
     connect(cmbC, &QComboBox::currentIndexChanged, this, &frmKoppelNBBnr::VergeetGevonden);
@@ -146,16 +141,13 @@ QGroupBox* frmKoppelNBBnr::BouwUitleg()
 QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 {
     auto* Frame2 = MaakKader(u"Frame2"_s, QString(), this, u"Zwevende spelers"_s);
-    auto* lagen = new QVBoxLayout(Frame2);
-    lagen->addWidget(Label11 = MaakLabel(u"Label11"_s, QString(), Frame2));
+    Label11 = MaakLabel(u"Label11"_s, QString(), Frame2);
     lstSpelers = MaakLijst(u"lstSpelers"_s, u"Gevonden zwevende spelers"_s, Frame2);
     Label11->setBuddy(lstSpelers);
-    lagen->addWidget(lstSpelers, 1);
     auto* Label12 = MaakLabel(u"Label12"_s, u"Selecteer hierboven 1 speler"_s, Frame2);
-    lagen->addWidget(Label12);
     txtSpeler = MaakToonvak(u"txtSpeler"_s, u"Gekozen zwevende speler"_s, Frame2);
     Label12->setBuddy(txtSpeler);
-    lagen->addWidget(txtSpeler);
+    Onderelkaar({Label11, lstSpelers, Label12, txtSpeler}, Frame2)->setStretch(1, 1);
     connect(lstSpelers, &Regellijst::keuzeVeranderd, this, &frmKoppelNBBnr::ToonZwevende);
     connect(lstSpelers, &Regellijst::activated, this, [this](const QModelIndex& regel) {
         lstSpelers->setCurrentIndex(regel);
@@ -226,8 +218,7 @@ QLayout* frmKoppelNBBnr::BouwKnoppen()
     cmdStartKoppelen = MaakKnop(u"cmdStartKoppelen"_s, u"OK als dit identieke spelers zijn ..."_s,
                                 u'O', this, &frmKoppelNBBnr::StartKoppelen);
     knoppen->addWidget(cmdStartKoppelen);
-    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &QDialog::close);
-    knoppen->addWidget(cmdEinde);
+    knoppen->addWidget(MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &QDialog::close));
     return knoppen;
 }
 

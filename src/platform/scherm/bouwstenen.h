@@ -246,6 +246,16 @@ inline bool VerschuifOpzij(QScrollBar& balk, int toets)
     return true;
 }
 
+/// Controls below each other: a layout that has yet to be placed, or that of `ouder`.
+[[nodiscard]] inline QVBoxLayout* Onderelkaar(const QList<QWidget*>& delen,
+                                              QWidget* ouder = nullptr)
+{
+    auto* lagen = new QVBoxLayout(ouder);
+    for (QWidget* deel : delen)
+        lagen->addWidget(deel);
+    return lagen;
+}
+
 /// Fills a drop-down anew, silently, and selects its first entry. Lines that come out shortened can
 /// be read in their tool tips.
 inline void VulKeus(QComboBox& keus, const std::vector<Tekst>& teksten)

@@ -16,6 +16,7 @@ class Maten {
 
     /// Twips to logical pixels.
     [[nodiscard]] int Twips(int twips) const;
+    [[nodiscard]] QSize Twips(int breed, int hoog) const { return {Twips(breed), Twips(hoog)}; }
     /// Millimetres to logical pixels, growing with the font; whole only after rounding by the
     /// caller.
     [[nodiscard]] double PixelsPerMm() const { return pixelsPerMm_; }
