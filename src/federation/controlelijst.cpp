@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <ranges>
 
 #include "platform/tekst/tekst.h"
 #include "register/spelertabel.h"
@@ -48,9 +49,7 @@ std::vector<Controleregel> OpNaam(std::vector<Controleregel> lstN9)
     std::multimap<Tekst, Controleregel> opNaam;
     for (Controleregel& regel : lstN9)
         opNaam.emplace(Sorteersleutel(regel.Naam()), std::move(regel));
-    lstN9.clear();
-    for (auto& [naam, regel] : opNaam)
-        lstN9.push_back(std::move(regel));
+    std::ranges::move(opNaam | std::views::values, lstN9.begin());
     return lstN9;
 }
 

@@ -121,8 +121,6 @@ class Controlevlak : public Tabelvlak {
     Controlerijen rijen_;
 };
 
-// ---------------------------------------------------------------- the dialog
-
 diaControleNBB::diaControleNBB(Administratie& administratie, const Ledenopdracht& opdracht,
                                const std::vector<Tekst>& namen, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie)
@@ -174,8 +172,6 @@ void diaControleNBB::Bouw()
         P1->KiesRegel(std::min(1, P1->Regels()));
     });
 }
-
-// ---------------------------------------------------------------- reading
 
 void diaControleNBB::Lees(const Ledenopdracht& opdracht, const std::vector<Tekst>& namen)
 {
@@ -241,8 +237,6 @@ void diaControleNBB::Voeg(const Ledenlezing& lezing, Tekstblik naam, QStringList
              "dat erop lijkt, of is weggelaten: %1."_s.arg(lezing.vervangenTekens));
 }
 
-// ---------------------------------------------------------------- showing
-
 Controlerijen diaControleNBB::Rijen(std::size_t breedte) const
 {
     return {chkSort->isChecked() ? opNaam_ : lstN9, breedte};
@@ -262,8 +256,6 @@ void diaControleNBB::keyPressEvent(QKeyEvent* gebeurtenis)
     if (!P1->LeesMet(gebeurtenis->key()))
         QDialog::keyPressEvent(gebeurtenis);
 }
-
-// ---------------------------------------------------------------- printing
 
 void diaControleNBB::Print()
 {

@@ -148,21 +148,17 @@ void frmImportNBB::KiesExportMap()
         return;
     }
     const Pad bestand = VolledigPad(aangewezen.toStdString());
-    const auto naam = bestand.find_last_of("\\/");
-    if (naam == Pad::npos || !ToonMap(bestand.substr(0, naam), bestand.substr(naam + 1)))
+    const auto einde = bestand.find_last_of("\\/");
+    const Tekst naam = bestand.substr(einde + 1);
+    if (einde == Pad::npos || !ToonMap(bestand.substr(0, einde), naam))
         return;
     lstNBBbest->setFocus();
-    MeldNietVanSoort(bestand.substr(naam + 1));
-}
-
-/// Without a word another file would stand chosen than the one that was pointed at.
-void frmImportNBB::MeldNietVanSoort(const Tekst& aangewezen)
-{
-    if (std::ranges::find(import_.Namen(), aangewezen) == import_.Namen().end())
+    // Without a word another file would stand chosen than the one that was pointed at.
+    if (std::ranges::find(import_.Namen(), naam) == import_.Namen().end())
         Meld(this, QMessageBox::Information,
              u"'%1' is geen %2 en staat dus niet in de lijst. Er is niets geïmporteerd. Kies een "
              "ander bestand, of kies eerst links waar dit bestand vandaan komt."_s.arg(
-                 NaarQString(aangewezen), TekstVan(import_.Bron()).soort));
+                 NaarQString(naam), TekstVan(import_.Bron()).soort));
 }
 
 /// Lists the folder. False when it cannot be listed, which leaves everything as it was, or not

@@ -39,7 +39,6 @@ class frmImportNBB : public QDialog {
     void KiesDatabase();
     void KiesExportMap();
     bool ToonMap(const Pad& map, Tekstblik aangewezen);
-    void MeldNietVanSoort(const Tekst& aangewezen);
     void ToonLijst(const QString& aantal = {});
     void MaakBruikbaar(bool bruikbaar);
     [[nodiscard]] std::vector<Tekst> GekozenBestanden();

@@ -35,15 +35,12 @@ Uitkomst<Ledenomzetting> ZetOm(Schijf& schijf, const Ledenopdracht& opdracht, Te
                                const Pad& tussenbestand, const Voortgang& voortgang)
 {
     const Pad bestand = Samen(opdracht.map, naam);
-    switch (opdracht.bron) {
-    case Ledenbron::XmlNbb3:
+    if (opdracht.bron == Ledenbron::XmlNbb3)
         return ConverteerNBB3XML(schijf, bestand, tussenbestand, voortgang);
-    case Ledenbron::XmlNbb4:
+    if (opdracht.bron == Ledenbron::XmlNbb4)
         return ConverteerNBB4XML(schijf, bestand, tussenbestand, voortgang);
-    default:
-        return HaalLeden(schijf, opdracht.LedenDatabase, Databasenummer(naam), tussenbestand,
-                         voortgang, opdracht.grenzen);
-    }
+    return HaalLeden(schijf, opdracht.LedenDatabase, Databasenummer(naam), tussenbestand, voortgang,
+                     opdracht.grenzen);
 }
 
 Uitkomst<Ledenlezing> LeesBestand(Schijf& schijf, const Pad& bestand, const Ledenopdracht& opdracht,

@@ -81,11 +81,9 @@ class Samenvoeger {
                 return false;
         }
         lstN2_.resize(over);
+        uitkomst.AantalNieuw = over;
         return true;
     }
-
-    /// How many keys that takes.
-    [[nodiscard]] std::size_t AantalNieuw() const { return lstN2_.size(); }
 
     /// Changes the register as the steps above decided.
     void Voer()
@@ -95,7 +93,6 @@ class Samenvoeger {
         for (const std::size_t regel : lstN2_)
             VoegSpelerToe(SplitsImportregel(opdracht_.lstN1[regel]));
         uitkomst.AantalVerververst = verversingen_.size();
-        uitkomst.AantalNieuw = lstN2_.size();
     }
 
     Samenvoeging uitkomst;
@@ -172,7 +169,7 @@ VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht, const Voort
     Samenvoeger samenvoeger(spelers, opdracht, voortgang, std::move(nummers));
     if (!samenvoeger.VerversBestaande() || !samenvoeger.VoegNieuweToe())
         return tl::unexpected(Samenvoegfout::Gestopt);
-    if (!ZijnErSleutels(spelers, samenvoeger.AantalNieuw()))
+    if (!ZijnErSleutels(spelers, samenvoeger.uitkomst.AantalNieuw))
         return tl::unexpected(Samenvoegfout::GeenSleutels);
     samenvoeger.Voer();
     return std::move(samenvoeger.uitkomst);

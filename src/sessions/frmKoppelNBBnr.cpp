@@ -38,15 +38,7 @@ frmKoppelNBBnr::frmKoppelNBBnr(Administratie& administratie, QWidget* ouder)
 {
     Bouw();
     ToonKnoppen();
-}
-
-/// Filled when the window is there, so that its messages stand before it.
-void frmKoppelNBBnr::showEvent(QShowEvent* gebeurtenis)
-{
-    QDialog::showEvent(gebeurtenis);
-    if (geladen_)
-        return;
-    geladen_ = true;
+    // Filled when the window is there, so that its messages stand before it.
     QTimer::singleShot(0, this, [this] {
         LeesRegister();
         KiesSoort();
@@ -195,8 +187,6 @@ void frmKoppelNBBnr::MeldLeesfout(const QString& wat, const Fout& fout)
              wat + u" Er is niets veranderd. Verhelp de oorzaak en probeer het opnieuw."_s, fout);
 }
 
-// ---- Searching ---------------------------------------------------------------------------------
-
 void frmKoppelNBBnr::ZoekNamen()
 {
     VergeetGevonden();
@@ -256,8 +246,6 @@ void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
                     : u"%1 bestanden, waarvan hieronder het eerste,"_s.arg(uitslag.fouten.size())),
             uitslag.fouten.front());
 }
-
-// ---- Linking -----------------------------------------------------------------------------------
 
 void frmKoppelNBBnr::StartKoppelen()
 {

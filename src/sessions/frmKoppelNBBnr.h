@@ -22,9 +22,6 @@ class frmKoppelNBBnr : public QDialog {
   public:
     frmKoppelNBBnr(Administratie& administratie, QWidget* ouder);
 
-  protected:
-    void showEvent(QShowEvent* gebeurtenis) override;
-
   private:
     // Building (frmKoppelNBBnr_bouw.cpp)
     void Bouw();
@@ -66,7 +63,6 @@ class frmKoppelNBBnr : public QDialog {
     std::vector<Zwevende> zwevenden_;   ///< of the lines of lstSpelers
     std::vector<Koppelspeler> spelers_; ///< of the lines of lstRVDsp
     QString resultaat_;                 ///< shown unless the chosen name needs a warning
-    bool geladen_ = false;
 
     QRadioButton* Option2 = nullptr;
     QLabel* Label4 = nullptr;

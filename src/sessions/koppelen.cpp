@@ -199,10 +199,8 @@ std::vector<Koppelspeler> Koppelspelers(const Spelertabel& tabel, Tekstblik impo
 
 int Naamgenoot(const std::vector<Koppelspeler>& spelers, Tekstblik naam)
 {
-    const auto gevonden = std::find_if(spelers.begin(), spelers.end(),
-                                       [gezocht = Hoofdletters(naam)](const auto& wie) {
-                                           return Hoofdletters(wie.naam) == gezocht;
-                                       });
+    const auto gevonden = std::ranges::find(spelers, Hoofdletters(naam),
+                                            [](const auto& wie) { return Hoofdletters(wie.naam); });
     return gevonden == spelers.end() ? -1 : static_cast<int>(gevonden - spelers.begin());
 }
 
