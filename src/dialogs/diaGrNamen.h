@@ -15,7 +15,6 @@ class diaGrNamen : public QDialog {
   public:
     diaGrNamen(Groepen& groepen, QWidget* ouder);
 
-    [[nodiscard]] bool Geannuleerd() const { return result() != Accepted; }
     void accept() override;
 
   private:

@@ -25,9 +25,8 @@ class diaToevoegen : public QDialog {
   public:
     diaToevoegen(Administratie& administratie, QWidget* ouder);
 
-    /// Whether players were added and kept, so that there is something to save.
-    [[nodiscard]] bool ToegevoegdEnBewaard() const { return result() == Accepted; }
-    /// The link file that goes with them. Their save decides whether it stands.
+    /// The link file that goes with players that were added and kept, which is to accept this
+    /// window. Their save decides whether it stands.
     [[nodiscard]] Koppelverslag NeemVerslag() { return std::move(vorige_.value().verslag); }
 
     /// "Annuleren", Escape and the close box: table, `HKEY` and link file become what they were.

@@ -4,19 +4,13 @@
 #include <QCloseEvent>
 
 #include "dialogs/diaSortlijst.h"
-#include "mainwindow/frmLedenAdmin_opstart.h"
+#include "dialogs/groepswerk.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/schijf/programma.h"
 
 namespace plexoran {
 namespace {
-
-void PasToe(QPushButton* knop, Zichtbaarheid zichtbaarheid)
-{
-    if (zichtbaarheid != Zichtbaarheid::Ongemoeid)
-        knop->setVisible(zichtbaarheid == Zichtbaarheid::Tonen);
-}
 
 QString NietsGevonden(Sorteersoort soort)
 {
@@ -87,10 +81,7 @@ Tekst frmLedenAdmin::Groeptekst() const
 /// Selecting runs the display, also when the place stays the same.
 void frmLedenAdmin::KiesGroep(int plaats)
 {
-    {
-        const QSignalBlocker stil(cmbGr);
-        cmbGr->setCurrentIndex(plaats);
-    }
+    cmbGr->setCurrentIndex(plaats);
     ToonGroep();
 }
 
@@ -100,7 +91,7 @@ void frmLedenAdmin::ToonGroep()
     const Tekst code(CodeUit(groeptekst));
     const Groepsbeeld beeld = BeeldVan(administratie_.mappen, code);
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    picP0->Toon(tabel, BouwWeergave(tabel, code), beeld.kolomnamen);
+    picP0->Toon(tabel, RijenVanGroep(tabel, code), beeld.kolomnamen);
     const int regels = picP0->Vlak()->Regels();
     Label3->setText(u"Aantal regels: %1"_s.arg(regels));
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdWijzig, cmdVerwijder, cmdVerwijderVT,
@@ -112,7 +103,13 @@ void frmLedenAdmin::ToonGroep()
     regelnummers_->setStringList(nummers);
     cmbVerwVan->setCurrentIndex(regels > 0 ? 0 : -1);
     cmbVerwTot->setCurrentIndex(regels > 0 ? 0 : -1);
-    PasKnoppenAan(beeld);
+    if (beeld.cmdHaalNBBnamen)
+        cmdHaalNBBnamen->setVisible(*beeld.cmdHaalNBBnamen);
+    if (beeld.cmdToonGatenlijst)
+        cmdToonGatenlijst->setVisible(*beeld.cmdToonGatenlijst);
+    cmdKoppel->setVisible(beeld.importgroep);
+    cmdSortlijst2->setVisible(beeld.importgroep);
+    cmdSortlijst3->setText(MetSneltoets(beeld.importgroep ? u"NBBgroep"_s : u"Subgroep"_s, u'o'));
     const QString printtekst = u"Print deze groep: %1 ..."_s.arg(NaarQString(groeptekst));
     cmdPrint->setText(MetSneltoets(printtekst, u'P'));
     ZetWenk(cmdPrint, printtekst);
@@ -122,15 +119,6 @@ void frmLedenAdmin::ToonGroep()
         picP0->NaarBoven();
     LOSTGR = static_cast<std::int16_t>(cmbGr->currentIndex());
     BewaarInstellingen();
-}
-
-void frmLedenAdmin::PasKnoppenAan(const Groepsbeeld& beeld)
-{
-    PasToe(cmdHaalNBBnamen, beeld.cmdHaalNBBnamen);
-    PasToe(cmdToonGatenlijst, beeld.cmdToonGatenlijst);
-    cmdKoppel->setVisible(beeld.importgroep);
-    cmdSortlijst2->setVisible(beeld.importgroep);
-    cmdSortlijst3->setText(MetSneltoets(beeld.importgroep ? u"NBBgroep"_s : u"Subgroep"_s, u'o'));
 }
 
 /// A settings file that cannot be written costs the user little: told once, then kept quiet.
@@ -158,7 +146,14 @@ void frmLedenAdmin::ToonSorteerlijst(Sorteersoort soort)
     const auto lijst = VulSorteerlijst(
         tabel, soort, chkToonAlle->isChecked() ? std::nullopt : std::optional(code));
     if (!lijst) {
-        MeldGeenGetal(soort, lijst.error());
+        const auto& [rij, waarde] = lijst.error();
+        const bool opKey = soort == Sorteersoort::Key;
+        Meld(this, QMessageBox::Warning,
+             u"De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De gegevens "
+             "zijn niet veranderd. Verbeter dat %5."_s.arg(
+                 opKey ? u"de sleutel"_s : u"het NBB-nummer"_s, NaarQString(VolleNaam(tabel, rij)),
+                 NaarQString(tabel.Cel(rij, Kolom::Groep)), NaarQString(waarde),
+                 opKey ? u"in het spelerbestand"_s : u"bij deze speler"_s));
         return;
     }
     if (lijst->empty()) {
@@ -175,18 +170,6 @@ void frmLedenAdmin::ToonSorteerlijst(Sorteersoort soort)
                               }},
                          this);
     venster.exec();
-}
-
-void frmLedenAdmin::MeldGeenGetal(Sorteersoort soort, const GeenGetal& fout)
-{
-    const Spelertabel& tabel = administratie_.spelers.tabel;
-    Meld(this, QMessageBox::Warning,
-         u"De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De gegevens zijn "
-         "niet veranderd. Verbeter dat %5."_s.arg(
-             soort == Sorteersoort::Key ? u"de sleutel"_s : u"het NBB-nummer"_s,
-             NaarQString(VolleNaam(tabel, fout.rij)),
-             NaarQString(tabel.Cel(fout.rij, Kolom::Groep)), NaarQString(fout.waarde),
-             soort == Sorteersoort::Key ? u"in het spelerbestand"_s : u"bij deze speler"_s));
 }
 
 void frmLedenAdmin::ToonDubbeleNamen()

@@ -51,17 +51,13 @@ class frmLedenAdmin : public QMainWindow {
     QLayout* BouwLijstkolom();
     QLayout* BouwBondkolom();
     QLayout* BouwOnderkant();
-    QPushButton* Opdracht(const char16_t* naam, const char16_t* tekst, char16_t letter,
-                          void (frmLedenAdmin::*doe)());
     void VerbindToetsen();
 
     [[nodiscard]] bool IsEersteExemplaar();
     void KiesGroep(int plaats);
     [[nodiscard]] Tekst Groeptekst() const;
-    void PasKnoppenAan(const Groepsbeeld& beeld);
     void BewaarInstellingen();
     void ToonSorteerlijst(Sorteersoort soort);
-    void MeldGeenGetal(Sorteersoort soort, const GeenGetal& fout);
     void ToonDubbeleNamen();
 
     // Commands (frmLedenAdmin_opdrachten.cpp)
@@ -92,7 +88,6 @@ class frmLedenAdmin : public QMainWindow {
     Importgeheugen importgeheugen_;
     std::function<bool()> eersteExemplaar_;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
-    bool netGetoond_ = false;             ///< by the pick that is under way
 
     Rooster* picP0;
     QLabel* Label3;

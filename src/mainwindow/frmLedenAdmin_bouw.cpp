@@ -4,7 +4,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QShortcut>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -81,16 +80,6 @@ QCheckBox* MaakVink(const QString& naam, const QString& tekst, char16_t letter, 
 
 } // namespace
 
-/// A button with the letter that works with Alt.
-QPushButton* frmLedenAdmin::Opdracht(const char16_t* naam, const char16_t* tekst, char16_t letter,
-                                     void (frmLedenAdmin::*doe)())
-{
-    auto* knop = MaakKnop(QString::fromUtf16(naam), QString::fromUtf16(tekst), letter, this);
-    if (doe != nullptr)
-        connect(knop, &QPushButton::clicked, this, doe);
-    return knop;
-}
-
 void frmLedenAdmin::Bouw()
 {
     setObjectName(u"frmLedenAdmin"_s);
@@ -109,7 +98,7 @@ void frmLedenAdmin::Bouw()
     lagen->addLayout(roosterrij, 1);
     lagen->addWidget(BouwOpdrachten());
     setCentralWidget(new Schuifblad(midden, this));
-    PasInScherm(this, {maten_.Twips(15360), maten_.Twips(10500)});
+    PasInScherm(this, maten_.Twips(15360, 10500));
     VerbindToetsen();
 }
 
@@ -134,23 +123,15 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     cmbGr = MaakKeus(u"cmbGr"_s, Label1, boven);
     cmbGr->setAccessibleName(u"Spelergroep"_s);
     cmbGr->setMaxVisibleItems(25);
-    connect(cmbGr, &QComboBox::currentIndexChanged, this, [this] {
-        ToonGroep();
-        netGetoond_ = true; // until the pick that changed it is over
-        QTimer::singleShot(0, this, [this] { netGetoond_ = false; });
-    });
-    // Picking the group that is shown displays it anew.
-    connect(cmbGr, &QComboBox::activated, this, [this] {
-        if (!netGetoond_)
-            ToonGroep();
-    });
+    // Also when the group that is shown is picked again.
+    connect(cmbGr, &QComboBox::activated, this, &frmLedenAdmin::ToonGroep);
     auto* chkKolBr = MaakVink(u"chkKolBr"_s, u"Kolombreedte volgens header"_s, u'd', boven);
     chkKolBr->setChecked(true);
     connect(chkKolBr, &QCheckBox::toggled, this, [this](bool aan) {
         picP0->ZetBreedteregel(aan ? Breedteregel::VolgensHeader : Breedteregel::VolgensTeksten);
     });
-    auto* cmdMaakGrNamen = Opdracht(u"cmdMaakGrNamen", u"Spelergroepsnaam aanvullen", u'S',
-                                    &frmLedenAdmin::WijzigGroepsnamen);
+    auto* cmdMaakGrNamen = MaakKnop(u"cmdMaakGrNamen"_s, u"Spelergroepsnaam aanvullen"_s, u'S',
+                                    this, &frmLedenAdmin::WijzigGroepsnamen);
     cmdMaakGrNamen->setToolTip(
         u"Voor de duidelijkheid kunt u tekst toevoegen. Bijv: Gro2-Clubleden"_s);
     cmdMaakGrNamen->setParent(boven);
@@ -190,20 +171,21 @@ QWidget* frmLedenAdmin::BouwOpdrachten()
 QLayout* frmLedenAdmin::BouwSpelerkolom()
 {
     Label3 = MaakLabel(u"Label3"_s, QString(), this);
-    auto* cmdAanm = Opdracht(u"cmdAanm", u"Nieuwe Speler toevoegen", u'N', &frmLedenAdmin::VoegToe);
-    cmdWijzig =
-        Opdracht(u"cmdWijzig", u"Geselecteerde Speler wijzigen", u'w', &frmLedenAdmin::Wijzig);
+    auto* cmdAanm =
+        MaakKnop(u"cmdAanm"_s, u"Nieuwe Speler toevoegen"_s, u'N', this, &frmLedenAdmin::VoegToe);
+    cmdWijzig = MaakKnop(u"cmdWijzig"_s, u"Geselecteerde Speler wijzigen"_s, u'w', this,
+                         &frmLedenAdmin::Wijzig);
     cmdWijzig->setToolTip(u"U kunt ook dubbelklikken op een regel"_s);
-    auto* cmdVerplaats = Opdracht(u"cmdVerplaats", u"Verplaats speler(s) naar andere groep", u'V',
-                                  &frmLedenAdmin::Verplaats);
-    auto* cmdKopieer = Opdracht(u"cmdKopieer", u"Kopieer speler(s) naar andere groep", u'K',
-                                &frmLedenAdmin::Kopieer);
+    auto* cmdVerplaats = MaakKnop(u"cmdVerplaats"_s, u"Verplaats speler(s) naar andere groep"_s,
+                                  u'V', this, &frmLedenAdmin::Verplaats);
+    auto* cmdKopieer = MaakKnop(u"cmdKopieer"_s, u"Kopieer speler(s) naar andere groep"_s, u'K',
+                                this, &frmLedenAdmin::Kopieer);
     return MaakKolom({Label3, cmdAanm, cmdWijzig, cmdVerplaats, cmdKopieer});
 }
 
 QLayout* frmLedenAdmin::BouwVerwijderkolom()
 {
-    cmdVerwijder = Opdracht(u"cmdVerwijder", u"Geselecteerde regel verwijderen...", u'G',
+    cmdVerwijder = MaakKnop(u"cmdVerwijder"_s, u"Geselecteerde regel verwijderen..."_s, u'G', this,
                             &frmLedenAdmin::VerwijderRij);
     cmdVerwijder->setToolTip(u"Selecteer een regel"_s);
     auto* vakken = MaakVakken(u"Frame2"_s, u"Verwijder regels van/tot"_s, this);
@@ -214,58 +196,57 @@ QLayout* frmLedenAdmin::BouwVerwijderkolom()
     cmbVerwVan = MaakNummerkeus(u"cmbVerwVan"_s, u"Van regel"_s, regelnummers_, lblVan, Frame2);
     cmbVerwTot =
         MaakNummerkeus(u"cmbVerwTot"_s, u"Tot en met regel"_s, regelnummers_, lblTot, Frame2);
-    cmdVerwijderVT =
-        Opdracht(u"cmdVerwijderVT", u"Verwijder ...", u'j', &frmLedenAdmin::VerwijderVanTot);
+    cmdVerwijderVT = MaakKnop(u"cmdVerwijderVT"_s, u"Verwijder ..."_s, u'j', this,
+                              &frmLedenAdmin::VerwijderVanTot);
     vakken->addWidget(lblVan, 0, 0);
     vakken->addWidget(cmbVerwVan, 0, 1);
     vakken->addWidget(lblTot, 1, 0);
     vakken->addWidget(cmbVerwTot, 1, 1);
     vakken->addWidget(cmdVerwijderVT, 2, 0, 1, 2);
     vakken->setColumnStretch(1, 1);
-    auto* cmdVerwGroep = Opdracht(u"cmdVerwGroep", u"Verwijder een hele subgroep ...", u'h',
-                                  &frmLedenAdmin::VerwijderGroep);
+    auto* cmdVerwGroep = MaakKnop(u"cmdVerwGroep"_s, u"Verwijder een hele subgroep ..."_s, u'h',
+                                  this, &frmLedenAdmin::VerwijderGroep);
     return MaakKolom({cmdVerwijder, Frame2, cmdVerwGroep});
 }
 
 QLayout* frmLedenAdmin::BouwLijstkolom()
 {
-    const auto sorteerknop = [this](const char16_t* naam, const char16_t* tekst, char16_t letter,
+    const auto sorteerknop = [this](const QString& naam, const QString& tekst, char16_t letter,
                                     Sorteersoort soort) {
-        auto* knop = Opdracht(naam, tekst, letter, nullptr);
+        auto* knop =
+            MaakKnop(naam, tekst, letter, this, [this, soort] { ToonSorteerlijst(soort); });
         // They share the width that there is; the standard one is too much for a small screen.
         knop->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-        knop->setMinimumWidth(knop->fontMetrics().horizontalAdvance(QString::fromUtf16(tekst)) +
-                              Knopruimte);
-        connect(knop, &QPushButton::clicked, this, [this, soort] { ToonSorteerlijst(soort); });
+        knop->setMinimumWidth(knop->fontMetrics().horizontalAdvance(tekst) + Knopruimte);
         return knop;
     };
     auto* vakken = MaakVakken(u"Frame1"_s, u"Sorteerlijst op:"_s, this);
-    vakken->addWidget(sorteerknop(u"cmdSortlijst1", u" Key", u'y', Sorteersoort::Key), 0, 0);
-    cmdSortlijst2 = sorteerknop(u"cmdSortlijst2", u" NBB-nr", u'B', Sorteersoort::NBBnr);
+    vakken->addWidget(sorteerknop(u"cmdSortlijst1"_s, u" Key"_s, u'y', Sorteersoort::Key), 0, 0);
+    cmdSortlijst2 = sorteerknop(u"cmdSortlijst2"_s, u" NBB-nr"_s, u'B', Sorteersoort::NBBnr);
     HoudPlaats(cmdSortlijst2);
     vakken->addWidget(cmdSortlijst2, 0, 1);
-    cmdSortlijst3 = sorteerknop(u"cmdSortlijst3", u"NBB-groep", u'o', Sorteersoort::NBBgroep);
+    cmdSortlijst3 = sorteerknop(u"cmdSortlijst3"_s, u"NBB-groep"_s, u'o', Sorteersoort::NBBgroep);
     vakken->addWidget(cmdSortlijst3, 0, 2);
     chkToonAlle = MaakVink(u"chkToonAlle"_s, u"Alle groepen"_s, u'A', vakken->parentWidget());
     vakken->addWidget(chkToonAlle, 1, 0, 1, 3);
-    auto* cmdZoekDubbeleNamen = Opdracht(u"cmdZoekDubbeleNamen", u"Zoek dubbele namen", u'Z',
-                                         &frmLedenAdmin::ToonDubbeleNamen);
+    auto* cmdZoekDubbeleNamen = MaakKnop(u"cmdZoekDubbeleNamen"_s, u"Zoek dubbele namen"_s, u'Z',
+                                         this, &frmLedenAdmin::ToonDubbeleNamen);
     return MaakKolom({vakken->parentWidget(), cmdZoekDubbeleNamen});
 }
 
 QLayout* frmLedenAdmin::BouwBondkolom()
 {
-    cmdHaalNBBnamen =
-        Opdracht(u"cmdHaalNBBnamen", u"Importeer NBB-spelers", u'I', &frmLedenAdmin::HaalNBBnamen);
-    cmdKoppel = Opdracht(u"cmdKoppel", u"Koppel zwevende NBB-speler", u'l',
+    cmdHaalNBBnamen = MaakKnop(u"cmdHaalNBBnamen"_s, u"Importeer NBB-spelers"_s, u'I', this,
+                               &frmLedenAdmin::HaalNBBnamen);
+    cmdKoppel = MaakKnop(u"cmdKoppel"_s, u"Koppel zwevende NBB-speler"_s, u'l', this,
                          &frmLedenAdmin::KoppelZwevenden);
-    cmdToonGatenlijst = Opdracht(u"cmdToonGatenlijst", u"Toon vrije NBB-nummers", u'T',
+    cmdToonGatenlijst = MaakKnop(u"cmdToonGatenlijst"_s, u"Toon vrije NBB-nummers"_s, u'T', this,
                                  &frmLedenAdmin::StartGatenlijst);
     cmdToonGatenlijst->setToolTip(u"Voor als u zoekt naar een vrij NBBnummer lager dan 9999 "_s);
-    auto* cmdSpToevoegen = Opdracht(u"cmdSpToevoegen", u"Toevoegen (_Rev)", u'R',
+    auto* cmdSpToevoegen = MaakKnop(u"cmdSpToevoegen"_s, u"Toevoegen (_Rev)"_s, u'R', this,
                                     &frmLedenAdmin::VoegSessiespelersToe);
-    cmdParenOnderhoud =
-        Opdracht(u"cmdParenOnderhoud", u"Paren-onderhoud", u'u', &frmLedenAdmin::OnderhoudParen);
+    cmdParenOnderhoud = MaakKnop(u"cmdParenOnderhoud"_s, u"Paren-onderhoud"_s, u'u', this,
+                                 &frmLedenAdmin::OnderhoudParen);
     return MaakKolom(
         {cmdHaalNBBnamen, cmdKoppel, cmdToonGatenlijst, cmdSpToevoegen, cmdParenOnderhoud});
 }
@@ -280,12 +261,10 @@ QLayout* frmLedenAdmin::BouwOnderkant()
     auto* onder = new QHBoxLayout;
     onder->setSpacing(Tussenruimte);
     onder->addWidget(cmdPrint, 1);
-    onder->addWidget(
-        Opdracht(u"cmdToelichting", u"Toelichting", u'c', &frmLedenAdmin::ToonToelichting));
-    onder->addWidget(Opdracht(u"cmdMaakScripts", u"MaakScripts ...", u'M', nullptr));
-    auto* cmdEinde = Opdracht(u"cmdEinde", u"Einde", u'E', nullptr);
-    connect(cmdEinde, &QPushButton::clicked, this, &frmLedenAdmin::close);
-    onder->addWidget(cmdEinde);
+    onder->addWidget(MaakKnop(u"cmdToelichting"_s, u"Toelichting"_s, u'c', this,
+                              &frmLedenAdmin::ToonToelichting));
+    onder->addWidget(MaakKnop(u"cmdMaakScripts"_s, u"MaakScripts ..."_s, u'M', this));
+    onder->addWidget(MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &frmLedenAdmin::close));
     return onder;
 }
 

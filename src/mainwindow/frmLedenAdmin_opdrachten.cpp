@@ -7,7 +7,6 @@
 #include "dialogs/frmVerwSubgroep.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "mainwindow/frmLedenAdmin_opstart.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
@@ -131,8 +130,7 @@ void frmLedenAdmin::WijzigGroepsnamen()
 {
     const Groepen oud = administratie_.groepen;
     diaGrNamen venster(administratie_.groepen, this);
-    venster.exec();
-    if (venster.Geannuleerd() || !BewaarGroepen(oud))
+    if (venster.exec() != QDialog::Accepted || !BewaarGroepen(oud))
         return;
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     KiesGroep(0);
@@ -212,8 +210,7 @@ void frmLedenAdmin::HaalNBBnamen()
 void frmLedenAdmin::VoegSessiespelersToe()
 {
     diaToevoegen venster(administratie_, this);
-    venster.exec();
-    if (!venster.ToegevoegdEnBewaard())
+    if (venster.exec() != QDialog::Accepted)
         return;
     opslag_.Bewaak(venster.NeemVerslag());
     SlaOpEnToon();

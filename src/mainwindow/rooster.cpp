@@ -39,16 +39,6 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
     : Schuifkader(u"picP0"_s, maten, ouder), pixelsPerMm_(maten.PixelsPerMm()),
       P1(new Roostervlak(maten, *this, this)), P9(new QWidget(this)), P2(new QWidget(P9))
 {
-    BouwHeader();
-    const int naast = maten.Twips(VrijNaastVlakTwips) - 2 * frameWidth();
-    Bevat(P1, naast / 2, naast - naast / 2);
-    setMinimumHeight(qRound(BovenkantVan(KleinsteAantalRegels + 1) * pixelsPerMm_) +
-                     Liggend().height());
-    connect(&Liggend(), &QScrollBar::valueChanged, P2, [this](int links) { P2->move(-links, 0); });
-}
-
-void Rooster::BouwHeader()
-{
     Noem(P9, u"P9"_s);
     Noem(P2, u"P2"_s);
     P9->setAutoFillBackground(true);
@@ -59,6 +49,11 @@ void Rooster::BouwHeader()
         cmd[i]->setFocusPolicy(Qt::NoFocus);
         connect(cmd[i], &QPushButton::clicked, P1, &Roostervlak::VerbergLijnen);
     }
+    const int naast = maten.Twips(VrijNaastVlakTwips) - 2 * frameWidth();
+    Bevat(P1, naast / 2, naast - naast / 2);
+    setMinimumHeight(qRound(BovenkantVan(KleinsteAantalRegels + 1) * pixelsPerMm_) +
+                     Liggend().height());
+    connect(&Liggend(), &QScrollBar::valueChanged, P2, [this](int links) { P2->move(-links, 0); });
 }
 
 void Rooster::Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& kolomnamen)

@@ -97,7 +97,6 @@ class Rooster : public Schuifkader {
     void resizeEvent(QResizeEvent* gebeurtenis) override;
 
   private:
-    void BouwHeader();
     void PlaatsKolommen();
 
     double pixelsPerMm_;

@@ -4,21 +4,8 @@
 #include <cmath>
 
 namespace plexoran {
-namespace {
 
 constexpr double PerMillimeter = 1000.0; // micrometres
-
-} // namespace
-
-Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode)
-{
-    Weergave weergave;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) == groepscode)
-            weergave.push_back(rij);
-    }
-    return weergave;
-}
 
 Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)
 {
@@ -32,11 +19,11 @@ Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)
         beeld.kolomnamen[Index(Kolom::NBBnr)] = "";
     }
     if (heeftWoord("ODNBB4SP"))
-        beeld.cmdHaalNBBnamen = Zichtbaarheid::Verbergen;
+        beeld.cmdHaalNBBnamen = false;
     else if (heeftWoord("ODNBB28"))
-        beeld.cmdToonGatenlijst = Zichtbaarheid::Verbergen;
+        beeld.cmdToonGatenlijst = false;
     else
-        beeld.cmdHaalNBBnamen = beeld.importgroep ? Zichtbaarheid::Tonen : Zichtbaarheid::Verbergen;
+        beeld.cmdHaalNBBnamen = beeld.importgroep;
     return beeld;
 }
 

@@ -3,6 +3,7 @@
 // left corner; lines and columns count from 1.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -15,19 +16,14 @@ namespace plexoran {
 /// The rows of the players in a group, in table order: element i is the row on grid line i + 1.
 using Weergave = std::vector<int>;
 
-[[nodiscard]] Weergave BouwWeergave(const Spelertabel& tabel, Tekstblik groepscode);
-
-/// What the option words do to a button when a group is shown.
-enum class Zichtbaarheid { Ongemoeid, Tonen, Verbergen };
-
 /// The column names as the shown group has them.
 using Namenrij = std::array<Tekstblik, AantalKolommen>;
 
-/// What depends on the shown group.
+/// What depends on the shown group. A button of which the option words say nothing stays as it is.
 struct Groepsbeeld {
     bool importgroep = false;
-    Zichtbaarheid cmdHaalNBBnamen = Zichtbaarheid::Ongemoeid;
-    Zichtbaarheid cmdToonGatenlijst = Zichtbaarheid::Ongemoeid;
+    std::optional<bool> cmdHaalNBBnamen{}; ///< to be shown or hidden
+    std::optional<bool> cmdToonGatenlijst{};
     Namenrij kolomnamen = Kolomnamen;
 };
 

@@ -100,10 +100,10 @@ TEST_F(diaToevoegenTest, ToevoegenEnOpslaan)
     EXPECT_EQ(Verslag, Koppeltekst());
     EXPECT_FALSE(Keus()->isEnabled());
     VerwachtKnoppen(false, false, true);
-    EXPECT_FALSE(venster->ToegevoegdEnBewaard());
+    EXPECT_EQ(QDialog::Rejected, venster->result());
     Klik(Knop("OKButton"));
     EXPECT_FALSE(venster->isVisible());
-    EXPECT_TRUE(venster->ToegevoegdEnBewaard());
+    EXPECT_EQ(QDialog::Accepted, venster->result());
     EXPECT_EQ(oud + 9, Tabel().Rijen());
     EXPECT_EQ(bestand, suite.Spelers()); // saving is the main window's
 }
@@ -124,7 +124,7 @@ TEST_F(diaToevoegenTest, AnnulerenEscapeEnHetSluitvakMakenAllesOngedaan)
                 VerwachtAfscheid();
                 Sluit(weg, "cmdAnnuleren");
                 wachter.Klaar();
-                EXPECT_FALSE(venster->ToegevoegdEnBewaard());
+                EXPECT_EQ(QDialog::Rejected, venster->result());
                 EXPECT_EQ(rijen, AlleRijen(Tabel()));
                 EXPECT_EQ(100171, administratie.spelers.HKEY);
                 EXPECT_EQ(vroeger, suite.Bestaat(Zomer + "/Koppelverslag.txt"));
@@ -245,7 +245,7 @@ TEST_F(diaToevoegenTest, MetHetToetsenbord)
     wachter.Klaar();
     EXPECT_EQ(Knop("OKButton"), venster->focusWidget());
     QTest::keyClick(venster.get(), Qt::Key_Return);
-    EXPECT_TRUE(venster->ToegevoegdEnBewaard());
+    EXPECT_EQ(QDialog::Accepted, venster->result());
 }
 
 /// Two sessions are read, but the one club name is told of once.

@@ -95,7 +95,12 @@ TEST(Keuslijst, RijenInTabelvolgorde)
     EXPECT_EQ((std::vector{2, 3}), VerplaatsbareRijen(tabel, "Gr01-"));
     EXPECT_EQ((std::vector{1, 2, 3, 4}), VerplaatsbareRijen(tabel, "Gr09-"));
     EXPECT_EQ((std::vector{1, 4}), RijenVanGroep(tabel, "Gr01-"));
+    EXPECT_EQ(std::vector{3}, RijenVanGroep(tabel, "Gr02-"));
     EXPECT_TRUE(RijenVanGroep(tabel, "Gr09-").empty());
+    EXPECT_TRUE(RijenVanGroep(Spelertabel(), "Gr01-").empty());
+    EXPECT_TRUE(RijenVanGroep(MaakTabel({{"1", "gr02-"}, {"2", "Gr02"}, {"3", " Gr02"}, {"4", ""}}),
+                              "Gr02-")
+                    .empty());
     EXPECT_TRUE(VerplaatsbareRijen(MaakTabel({{"1", "Gr05-"}, {"2", "Gr05-"}}), "Gr05-").empty());
 }
 

@@ -17,20 +17,9 @@ Mappen MetWoorden(const Tekst& woorden)
     return mappen;
 }
 
-Spelertabel Tabel(std::initializer_list<Tekst> groepen)
-{
-    Spelertabel tabel;
-    for (const Tekst& groep : groepen) {
-        Rijvelden velden;
-        velden[Index(Kolom::Groep)] = groep;
-        tabel.VoegToe(velden);
-    }
-    return tabel;
-}
-
-constexpr auto Ongemoeid = Zichtbaarheid::Ongemoeid;
-constexpr auto Tonen = Zichtbaarheid::Tonen;
-constexpr auto Verbergen = Zichtbaarheid::Verbergen;
+constexpr std::optional<bool> Ongemoeid;
+constexpr std::optional<bool> Tonen = true;
+constexpr std::optional<bool> Verbergen = false;
 
 /// Every character 1 mm wide, "W" 3 mm, "i" and "." half a millimetre.
 Tekstmeter Proefmeter()
@@ -55,16 +44,6 @@ constexpr std::size_t achternaam = Index(Kolom::Achternaam);
 constexpr std::size_t woonplaats = Index(Kolom::Plaats);
 
 } // namespace
-
-TEST(BouwWeergave, NeemtDeRijenVanPreciesDeGroepInTabelvolgorde)
-{
-    const Spelertabel tabel = Tabel({"Gr02-", "Gr01-", "Gr02-", "Gr20-", "Gr02-"});
-    EXPECT_EQ((Weergave{1, 3, 5}), BouwWeergave(tabel, "Gr02-"));
-    EXPECT_EQ((Weergave{2}), BouwWeergave(tabel, "Gr01-"));
-    EXPECT_EQ(Weergave{}, BouwWeergave(tabel, "Gr03-"));
-    EXPECT_EQ(Weergave{}, BouwWeergave(Spelertabel(), "Gr01-"));
-    EXPECT_EQ(Weergave{}, BouwWeergave(Tabel({"gr02-", "Gr02", " Gr02", ""}), "Gr02-"));
-}
 
 TEST(BeeldVan, AlleenDeLaatsteTweeKolommenHetenInDeImportgroepAnders)
 {
@@ -94,8 +73,8 @@ TEST(BeeldVan, DeWoordenTonenOfVerbergenTweeKnoppen)
     struct Geval {
         const char* woorden;
         const char* groep;
-        Zichtbaarheid importeren;
-        Zichtbaarheid gatenlijst;
+        std::optional<bool> importeren;
+        std::optional<bool> gatenlijst;
     };
     for (const Geval& geval :
          {Geval{"", "Gr05-", Tonen, Ongemoeid}, Geval{"ANDERS", "Gr01-", Verbergen, Ongemoeid},

@@ -225,7 +225,7 @@ TEST_F(WachtrijProef, DrieBladenZoalsInHetVoorbeeld)
         if (tabel.Cel(rij, Kolom::Groep) == "Gr02-")
             tabel.ZetCel(rij, Kolom::Groep, "Gr01-");
     }
-    Vind<QComboBox>(venster, "cmbGr")->setCurrentIndex(0);
+    KiesUit(Vind<QComboBox>(venster, "cmbGr"), 0);
 
     wachter.Bedien([&](QDialog& keuze) {
         Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
