@@ -7,7 +7,6 @@
 #include <array>
 #include <cmath>
 
-#include "platform/scherm/schildervlak.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
@@ -82,7 +81,7 @@ void Bladvlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 // ---------------------------------------------------------------- its frame
 
 Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder)
-    : Schuifkader(u"picP0"_s, Maten(), ouder), pixelsPerMm_(SchermPixelsPerMm(*this)),
+    : Schuifkader(u"picP0"_s, Maten(), ouder), pixelsPerMm_(logicalDpiX() / MmPerInch),
       P9(new QWidget(this)), picP1(new Bladvlak(lijst, kast, P9))
 {
     QAccessible::installFactory(MaakSpreker); // which Qt does once

@@ -20,16 +20,6 @@ std::vector<float> Kolombegin(const Printtabel& tabel, const Schaalmaten& maten,
     return begin;
 }
 
-/// How many columns lie within the width of the sheet; the first always does.
-int PassendeKolommen(const std::vector<float>& begin, float breed)
-{
-    int passend = 1;
-    while (passend + 1 < static_cast<int>(begin.size()) &&
-           begin[static_cast<std::size_t>(passend) + 1] <= breed)
-        ++passend;
-    return passend;
-}
-
 constexpr float Printerrand = 5; // no printer reaches the edge of the sheet; few need more white
 
 /// Where x(0) lies: at the margin, unless the list would reach into the rim at the right then. That
@@ -49,8 +39,10 @@ Bladindeling BerekenKolommen(const Printtabel& tabel, float schaal, const Letter
     const Schaalmaten maten{schaal};
     std::vector<float> begin = Kolombegin(tabel, maten, meter);
     const Papier papier{begin.back() <= A4Kort ? Papierstand::Staand : Papierstand::Liggend};
-    const int kolommen = PassendeKolommen(begin, papier.breed);
-    const float getekend = begin[static_cast<std::size_t>(kolommen)];
+    // The first column always lies within the width of the sheet.
+    const auto laatste = std::upper_bound(begin.begin() + 2, begin.end(), papier.breed) - 1;
+    const auto kolommen = static_cast<int>(laatste - begin.begin());
+    const float getekend = *laatste;
     const float links = Linkerkant(papier, getekend);
     const float bruikbaar =
         papier.hoog - papier.bovenmarge - papier.bovenmarge - maten.kophoogte - maten.titelhoogte;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/tekst/tekst.h"
 #include "register/waardenlijst.h"
 
 namespace plexoran {

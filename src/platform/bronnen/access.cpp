@@ -83,17 +83,6 @@ QStringList Argumenten(const Accessvraag& vraag)
     return uit;
 }
 
-/// `LeesAccess` names the file.
-tl::unexpected<Fout> Mis(Foutsoort soort, std::string reden)
-{
-    return Mislukt({.soort = soort, .systeem = std::move(reden)});
-}
-
-tl::unexpected<Fout> Beschadigd(std::string reden)
-{
-    return Mis(Foutsoort::Beschadigd, std::move(reden));
-}
-
 constexpr auto TeVeel = "de database geeft te veel gegevens";
 
 /// What a child wrote that ended with this status.
@@ -146,7 +135,7 @@ Uitkomst<std::vector<Accessrij>> VraagKind(QProcess& kind, const Accessvraag& vr
 {
     constexpr int wachttijd = 50; // ms, so that `voortgang` is called often enough
     if (!Start(kind, vraag, grenzen))
-        return Mis(Foutsoort::Geweigerd, kind.errorString().toStdString());
+        return Mislukt({.systeem = kind.errorString().toStdString()});
     std::size_t gegeven = 0;
     for (auto laatste = Klok::now(); kind.state() != QProcess::NotRunning;) {
         kind.waitForReadyRead(wachttijd);
@@ -178,18 +167,18 @@ Uitkomst<void> KeurAccesskop(const fs::path& bestand)
     std::error_code fout;
     const fs::file_type type = fs::status(bestand, fout).type();
     if (type == fs::file_type::not_found)
-        return Mis(Foutsoort::Ontbreekt, {});
+        return Mislukt({.soort = Foutsoort::Ontbreekt});
     if (type != fs::file_type::none && type != fs::file_type::regular)
-        return Mis(Foutsoort::Geweigerd, "het is geen gewoon bestand");
+        return Mislukt({.systeem = "het is geen gewoon bestand"});
     const std::uintmax_t grootte = fout ? 0 : fs::file_size(bestand, fout);
     if (fout)
-        return Mis(Foutsoort::Geweigerd, Systeemmelding(fout));
+        return Mislukt({.systeem = Systeemmelding(fout)});
     if (grootte == 0)
         return Beschadigd("het bestand is leeg");
     errno = 0;
     std::ifstream stroom(bestand, std::ios::binary);
     if (!stroom)
-        return Mis(Foutsoort::Geweigerd, Systeemmelding({errno, std::generic_category()}));
+        return Mislukt({.systeem = Systeemmelding({errno, std::generic_category()})});
     std::array<char, koplengte> kop{};
     stroom.read(kop.data(), koplengte);
     const std::string_view soort(kop.data() + 4, 16);

@@ -69,6 +69,12 @@ struct Accessvraag {
     std::vector<Accesskolom> kolommen;
 };
 
+/// What is wrong with the database, which the one who asked names.
+[[nodiscard]] inline tl::unexpected<Fout> Beschadigd(std::string reden)
+{
+    return Mislukt({.soort = Foutsoort::Beschadigd, .systeem = std::move(reden)});
+}
+
 /// To be called first of all in `main`: ends this process when it is such a child, and does nothing
 /// when it is the program itself.
 void WerkAlsAccesskind(int argc, char** argv);

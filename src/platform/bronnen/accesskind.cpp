@@ -39,11 +39,6 @@ struct Sluiter {
     void operator()(MdbTableDef* tabel) const { mdb_free_tabledef(tabel); }
 };
 
-tl::unexpected<Fout> Beschadigd(std::string reden)
-{
-    return Mislukt({.soort = Foutsoort::Beschadigd, .systeem = std::move(reden)});
-}
-
 /// A column that was asked, and where it stands in the table.
 struct Zoekkolom {
     MdbColumn* kolom = nullptr;

@@ -2,18 +2,12 @@
 
 #include <QApplication>
 #include <QProgressBar>
-#include <QPushButton>
 
 #include <limits>
 
 #include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
-namespace {
-
-constexpr int Delen = 1000; // of the bar; counts may exceed what it can hold
-
-} // namespace
 
 frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* ouder)
     : QProgressDialog(QString(), QString(), 0, 0, ouder) // else Escape stands for two buttons
@@ -49,9 +43,10 @@ frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* o
 
 bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
 {
+    constexpr int delen = 1000; // of the bar; counts may exceed what it can hold
     if (sinds_.elapsed() >= totInBeeld) {
-        setMaximum(geheel == 0 ? 0 : Delen);
-        setValue(geheel == 0 ? 0 : static_cast<int>(Delen * gedaan / geheel));
+        setMaximum(geheel == 0 ? 0 : delen);
+        setValue(geheel == 0 ? 0 : static_cast<int>(delen * gedaan / geheel));
         show();
         QApplication::processEvents();
     }

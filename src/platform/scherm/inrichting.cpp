@@ -107,27 +107,24 @@ QPainterPath Schoppen()
     return blad;
 }
 
-QPixmap Teken(int maat)
-{
-    QPixmap beeld(maat, maat);
-    beeld.fill(Qt::transparent);
-    QPainter schilder(&beeld);
-    schilder.setRenderHint(QPainter::Antialiasing);
-    schilder.scale(maat / 100.0, maat / 100.0);
-    schilder.setPen(Qt::NoPen);
-    schilder.setBrush(QColor(24, 110, 66));
-    schilder.drawRoundedRect(QRectF(2, 2, 96, 96), 18, 18);
-    schilder.setBrush(Qt::white);
-    schilder.drawPath(Schoppen());
-    return beeld;
-}
-
 /// A white spade on green baize, at the sizes that window managers ask for.
 QIcon Pictogram()
 {
     QIcon pictogram;
-    for (const int maat : {16, 32, 64, 128})
-        pictogram.addPixmap(Teken(maat));
+    for (const int maat : {16, 32, 64, 128}) {
+        QPixmap beeld(maat, maat);
+        beeld.fill(Qt::transparent);
+        QPainter schilder(&beeld);
+        schilder.setRenderHint(QPainter::Antialiasing);
+        schilder.scale(maat / 100.0, maat / 100.0);
+        schilder.setPen(Qt::NoPen);
+        schilder.setBrush(QColor(24, 110, 66));
+        schilder.drawRoundedRect(QRectF(2, 2, 96, 96), 18, 18);
+        schilder.setBrush(Qt::white);
+        schilder.drawPath(Schoppen());
+        schilder.end();
+        pictogram.addPixmap(beeld);
+    }
     return pictogram;
 }
 

@@ -13,7 +13,6 @@ namespace {
 constexpr double TwipsPerPixel = 15.0;
 constexpr double StandaardPunten = 9.0;
 constexpr double PuntenPerInch = 72.0;
-constexpr double MmPerInch = 25.4;
 constexpr double StandaardDpi = 96.0;
 constexpr int Zijranden = 4; // as they are mostly: a few pixels or not seen at all
 
@@ -36,11 +35,6 @@ QFont Maten::Letter(double punten) const
     QFont letter = QApplication::font();
     letter.setPixelSize(qRound(factor_ * punten * StandaardDpi / PuntenPerInch));
     return letter;
-}
-
-double SchermPixelsPerMm(const QWidget& widget)
-{
-    return widget.logicalDpiX() / MmPerInch;
 }
 
 void PasInScherm(QWidget* venster, QSize maat)

@@ -9,6 +9,8 @@ class QWidget;
 
 namespace plexoran {
 
+inline constexpr double MmPerInch = 25.4;
+
 class Maten {
   public:
     /// For the fonts of the application as they are now.
@@ -27,9 +29,6 @@ class Maten {
     double factor_;
     double pixelsPerMm_;
 };
-
-/// Logical pixels in a millimetre of the widget's screen, whatever the font.
-[[nodiscard]] double SchermPixelsPerMm(const QWidget& widget);
 
 /// What a window manager puts around a window, its title above all.
 inline constexpr QSize Kader(16, 40);

@@ -50,14 +50,6 @@ void VerbergLosseBladen(const QPrintDialog& dialoog)
     }
 }
 
-/// Printers that make a PDF file say so by their name.
-bool MaaktPdf(const QStringList& printers)
-{
-    return std::any_of(printers.begin(), printers.end(), [](const QString& naam) {
-        return naam.contains("PDF"_L1, Qt::CaseInsensitive);
-    });
-}
-
 /// A PDF file by the dialog of the system; all pages go into it.
 std::optional<Printkeus> VraagPdf(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
 {
@@ -136,11 +128,10 @@ std::optional<std::string> Serverfout()
 bool TekenBladen(QPagedPaintDevice& apparaat, QPainter& schilder, int puntenPerInch,
                  const std::vector<int>& bladen, const Bladtekenaar& teken, const Voortgang& verder)
 {
-    constexpr double mmPerInch = 25.4;
     if (!schilder.begin(&apparaat))
         return false;
     const Letterkast kast;
-    Schildervlak vlak(schilder, kast, puntenPerInch / mmPerInch, Schildervlak::Doel::Papier);
+    Schildervlak vlak(schilder, kast, puntenPerInch / MmPerInch, Schildervlak::Doel::Papier);
     std::size_t gedaan = 0;
     do {
         if (gedaan > 0 && !apparaat.newPage())
@@ -224,7 +215,8 @@ Printeraanbod HuidigAanbod()
 std::optional<Printkeus> KiesPrinter(Schijf& schijf, const Printwerk& werk, QWidget* ouder,
                                      const Printeraanbod& aanbod)
 {
-    if (aanbod.pdfInDialoog || MaaktPdf(aanbod.printers))
+    // Printers that make a PDF file say so by their name.
+    if (aanbod.pdfInDialoog || !aanbod.printers.filter(u"PDF"_s, Qt::CaseInsensitive).isEmpty())
         return VraagSysteem(schijf, werk, ouder);
     enum { Printen, Pdf, Annuleren };
     const int antwoord = aanbod.printers.isEmpty()

@@ -3,7 +3,6 @@
 #include <QAbstractListModel>
 #include <QApplication>
 #include <QMouseEvent>
-#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -11,7 +10,6 @@
 
 #include "platform/scherm/bouwstenen.h"
 #include "platform/tekst/tekenvlak.h"
-#include "platform/tekst/tekst.h"
 
 namespace plexoran {
 namespace {

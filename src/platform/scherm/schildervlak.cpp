@@ -10,8 +10,6 @@
 namespace plexoran {
 namespace {
 
-constexpr double MmPerPunt = 25.4 / 72.0;
-
 /// The fonts by their names and, behind those, the ones with the same measures.
 struct Soort {
     const char* naam;
@@ -63,11 +61,6 @@ QColor Inkt(Kleur kleur)
 }
 
 } // namespace
-
-double Lettersnede::Mm(double punten)
-{
-    return punten * MmPerPunt / Em;
-}
 
 const Lettersnede& Letterkast::Snede(const Letter& letter) const
 {

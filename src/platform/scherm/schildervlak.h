@@ -25,7 +25,7 @@ struct Lettersnede {
     double daling = 0;   ///< from the base line down
 
     /// Units to millimetres for a letter of this many points.
-    [[nodiscard]] static double Mm(double punten);
+    [[nodiscard]] static double Mm(double punten) { return punten * (25.4 / 72) / Em; }
 };
 
 class Letterkast : public Lettermeter {

@@ -5,11 +5,11 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
-#include "platform/tekst/codepagina.h"
 
 namespace plexoran {
 namespace {
@@ -30,22 +30,14 @@ QString ZonderStuurtekens(const QString& tekst)
     return uit;
 }
 
-/// What an edit put into a text, found by what both texts begin and end with.
-struct Ingevoegd {
-    QString voor;
-    QString tekst;
-    QString na;
-};
-
-Ingevoegd VindIngevoegd(const QString& oud, const QString& nieuw)
+/// What an edit put into a text, between what both texts begin with and what they end with.
+std::array<QString, 3> VindIngevoegd(const QString& oud, const QString& nieuw)
 {
-    const auto kortste = std::min(oud.size(), nieuw.size());
-    qsizetype voor = 0;
-    while (voor < kortste && oud[voor] == nieuw[voor])
-        ++voor;
-    qsizetype na = 0;
-    while (na < kortste - voor && oud[oud.size() - 1 - na] == nieuw[nieuw.size() - 1 - na])
-        ++na;
+    qsizetype voor =
+        std::mismatch(oud.begin(), oud.end(), nieuw.begin(), nieuw.end()).first - oud.begin();
+    const qsizetype na =
+        std::mismatch(oud.rbegin(), oud.rend() - voor, nieuw.rbegin(), nieuw.rend() - voor).first -
+        oud.rbegin();
     // An accent that is typed after its letter belongs to that letter.
     if (voor > 0 && voor < nieuw.size() - na && nieuw[voor].isMark())
         --voor;
@@ -121,11 +113,10 @@ QString Tekstvak::VolgensToetsregel(const QString& ingevoegd, qsizetype lengte) 
 
 void Tekstvak::Zuiver()
 {
-    const Ingevoegd deel = VindIngevoegd(vorige_, text());
-    const Omzetting omzetting = NaarCodepagina(ZonderStuurtekens(deel.tekst).toStdU16String());
-    const QString schoon =
-        VolgensToetsregel(NaarQString(omzetting.tekst), deel.voor.size() + deel.na.size());
-    ZetSchoon(deel.voor + schoon + deel.na);
+    const auto [voor, ingevoegd, na] = VindIngevoegd(vorige_, text());
+    const Omzetting omzetting = NaarCodepagina(ZonderStuurtekens(ingevoegd).toStdU16String());
+    const QString schoon = VolgensToetsregel(NaarQString(omzetting.tekst), voor.size() + na.size());
+    ZetSchoon(voor + schoon + na);
     // Shown when the key or paste has been dealt with: a box inside it would eat what follows.
     if (!omzetting.vervangen.empty())
         QTimer::singleShot(0, this, [this, tekst = Melding(omzetting.vervangen)] {

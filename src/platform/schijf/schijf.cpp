@@ -72,9 +72,7 @@ Uitkomst<Tijdelijk> MaakTijdelijk(Schijf& schijf, const Pad& doel)
 {
     constexpr int pogingen = 100;
     for (int poging = 1;; ++poging) {
-        Pad pad = doel;
-        pad += kenmerk;
-        pad += UniekNummer();
+        Pad pad = Pad(doel).append(kenmerk).append(UniekNummer());
         auto schrijver = schijf.MaakNieuw(pad);
         if (schrijver)
             return Tijdelijk{std::move(pad), std::move(*schrijver)};
@@ -125,10 +123,10 @@ Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, Tekstblik inhoud, Houdbaa
 
 std::string Systeemmelding(const std::error_code& code)
 {
-    const auto bekend = std::find_if(Bekend.begin(), Bekend.end(),
-                                     [&](const Woorden& woorden) { return code == woorden.first; });
-    if (bekend != Bekend.end())
-        return bekend->second;
+    for (const auto& [fout, woorden] : Bekend) {
+        if (code == fout)
+            return woorden;
+    }
 #ifdef _WIN32
     if (code.category() == std::system_category())
         return NaarUtf8(code.message()); // Windows gives its words in the code page
