@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QScreen>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include <utility>
 

@@ -256,7 +256,7 @@ void diaIngave::ToonGroep()
     Tekstvak* groep = Vak(Kolom::Groep);
     groep->ZetTekst(ingave_.groeptekst);
     groep->setAlignment(Qt::AlignCenter);
-    ZetWenk(groep, groep->text());
+    groep->setToolTip(Wenk(groep->text()));
     Kleur(groep, QPalette::Text, QColor(255, 0, 0));
     Kleur(groep, QPalette::Base, QColor(255, 255, 0));
     const int ruimte = maten_.Twips(VakBreed - Rand);

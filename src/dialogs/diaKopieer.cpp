@@ -21,9 +21,7 @@ diaKopieer::diaKopieer(Administratie& administratie, QWidget* ouder)
         connect(knop, &QPushButton::clicked, this, [this] { keus_->lstKeus->ZetHuidige(0); });
     BouwKader(Frame1);
 
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(Frame1, 1);
-    lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
+    Onderelkaar({{Frame1, 1}, Knoppenrij({cmdAnnuleren, cmdOK})}, this);
     ZetOpSchuifblad(this);
     PasInScherm(this, Maten().Twips(7500, 8700));
     ZetTabvolgorde({cmbUitGroep, cmbNBBgr, keus_->lstKeus, keus_->cmdSelAll, keus_->cmdSelNone,

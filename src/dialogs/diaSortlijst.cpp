@@ -1,8 +1,6 @@
 #include "dialogs/diaSortlijst.h"
 
-#include <QKeyEvent>
 #include <QPainter>
-#include <QVBoxLayout>
 
 #include <utility>
 

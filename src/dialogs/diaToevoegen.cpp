@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include <utility>
 

@@ -23,9 +23,7 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
     auto* Label4 = MaakLabel(u"Label4"_s,
                              u"Spelers mogen wel naar groep 'Gr05-' worden verplaatst."_s, Frame1);
     Onderelkaar({keus_, Label2, cmbGrnamen, Label3, Label4}, Frame1)->setStretch(0, 1);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(Frame1, 1);
-    lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdOK}));
+    Onderelkaar({{Frame1, 1}, Knoppenrij({cmdAnnuleren, cmdOK})}, this);
     ZetOpSchuifblad(this);
     PasInScherm(this, Maten().Twips(6900, 8100));
     cmdOK->setDefault(true);

@@ -54,9 +54,7 @@ frmVerwSubgroep::frmVerwSubgroep(Administratie& administratie, QWidget* ouder)
     auto* Label2 =
         MaakLabel(u"Label2"_s,
                   u"Verwijdert ALLE spelers van een geselecteerde Subgroep cq NBBgroep."_s, this);
-    auto* lagen = Onderelkaar({Label2, frame1}, this);
-    lagen->addStretch();
-    lagen->addLayout(Knoppenrij({cmdVerwijder, cmdEinde}));
+    Onderelkaar({Label2, frame1, 0, Knoppenrij({cmdVerwijder, cmdEinde})}, this);
     ZetOpSchuifblad(this);
     PasInScherm(this, {Maten().Twips(7200), sizeHint().height()});
     cmbRVDgr->setFocus();

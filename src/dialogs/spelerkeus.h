@@ -23,10 +23,8 @@ class Spelerkeus : public QWidget {
         Noem(lstKeus, u"lstKeus"_s, u"Spelers"_s);
         auto* Label1 = MaakLabel(u"Label1"_s, u"Selecteer de spelers(s) "_s, this);
         Label1->setBuddy(lstKeus);
-        auto* lagen = Onderelkaar({Label1, lstKeus}, this);
-        lagen->setContentsMargins(0, 0, 0, 0);
-        lagen->setStretch(1, 1);
-        lagen->addLayout(Knoppenrij({cmdSelAll, cmdSelNone}));
+        Onderelkaar({Label1, {lstKeus, 1}, Knoppenrij({cmdSelAll, cmdSelNone})}, this)
+            ->setContentsMargins(0, 0, 0, 0);
 
         connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);
         connect(cmdSelNone, &QPushButton::clicked, lstKeus, &Regellijst::clearSelection);

@@ -1,8 +1,5 @@
 #include "federation/diaControleNBB.h"
 
-#include <QKeyEvent>
-#include <QVBoxLayout>
-
 #include <algorithm>
 #include <cmath>
 
@@ -147,14 +144,9 @@ void diaControleNBB::Bouw()
     auto* cmdTerug = MaakKnop(u"cmdTerug"_s, u"Terug"_s, u'T', this, &QDialog::accept);
     cmdTerug->setDefault(true);
 
-    auto* onder = new QHBoxLayout;
-    onder->addWidget(chkSort);
-    onder->addSpacing(maten_.Twips(300));
-    onder->addWidget(lblAantal);
-    onder->addLayout(Knoppenrij({cmdPrint, cmdTerug}), 1);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(Frame2, 1);
-    lagen->addLayout(onder);
+    auto* onder = Naastelkaar(
+        {chkSort, Wit{maten_.Twips(300)}, lblAantal, {Knoppenrij({cmdPrint, cmdTerug}), 1}});
+    auto* lagen = Onderelkaar({{Frame2, 1}, onder}, this);
     const QMargins marges = lagen->contentsMargins();
     const QSize lijst = P1->Maat(TekensBijOpenen, RijenBijOpenen);
     const int rand = 2 * Frame2->frameWidth();

@@ -1,7 +1,5 @@
 #include "federation/diaRekProgkeus.h"
 
-#include <QVBoxLayout>
-
 #include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {

@@ -179,7 +179,7 @@ bool frmImportNBB::ToonMap(const Pad& map, Tekstblik aangewezen)
     lblExportMap->setText(u"Ledenbestanden in de gekozen map: "_s +
                           // Lets a long path break behind each folder.
                           QString(pad).replace(u'\\', u"\\\u200B"_s));
-    ZetWenk(lblExportMap, pad);
+    lblExportMap->setToolTip(Wenk(pad));
     MeldOvergeslagen(this, administratie_.schijf, map);
     frmVoortgang voortgang(u"De XML-bestanden in de gekozen map worden bekeken"_s, u"&Stoppen"_s,
                            this);

@@ -95,16 +95,12 @@ void frmImportNBB::Bouw()
 {
     setObjectName(u"frmImportNBB"_s);
     setWindowTitle(u"Importeer een NBB-ledenbestand"_s);
-    auto* links = Onderelkaar({BouwBronnen(), BouwGegevens()});
-    links->addStretch();
-    auto* kolommen = new QHBoxLayout;
-    kolommen->addLayout(links);
-    kolommen->addLayout(BouwKeuze(), 1);
+    auto* kolommen =
+        Naastelkaar({Onderelkaar({BouwBronnen(), BouwGegevens(), 0}), {BouwKeuze(), 1}});
 
     const QString opening = Openingstekst(administratie_.mappen.DFIMPG);
-    auto* lagen = Onderelkaar({MaakLopendeTekst(u"lblOpening"_s, opening, this)}, this);
-    lagen->addLayout(kolommen, 1);
-    lagen->addLayout(BouwHulp());
+    auto* lagen = Onderelkaar(
+        {MaakLopendeTekst(u"lblOpening"_s, opening, this), {kolommen, 1}, BouwHulp()}, this);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::close);
     cmdImporteer = MaakKnop(u"cmdImporteer"_s, u"Importeer"_s, u'I', this,
                             &frmImportNBB::ImporteerLedenbestanden);
@@ -164,11 +160,8 @@ QWidget* frmImportNBB::BouwGegevens()
     auto* vast = Onderelkaar({MaakVink(u"chkVoornaam"_s, u"Voornaam"_s, 0, Frame1),
                               MaakVink(u"chkTus"_s, u"Tussenvoegsel"_s, 0, Frame1),
                               MaakVink(u"chkAchternaam"_s, u"Achternaam"_s, 0, Frame1),
-                              MaakVink(u"chkNBBnr"_s, u"NBBnummer"_s, 0, Frame1)});
-    vast->addStretch();
-    auto* delen = new QHBoxLayout(Frame1);
-    delen->addLayout(vast);
-    delen->addWidget(Frame2);
+                              MaakVink(u"chkNBBnr"_s, u"NBBnummer"_s, 0, Frame1), 0});
+    Naastelkaar({vast, Frame2}, Frame1);
     return Frame1;
 }
 
@@ -197,10 +190,13 @@ QLayout* frmImportNBB::BouwKeuze()
         u"Label6"_s,
         u"Bestaande spelers worden overschreven (ververst) nieuwe spelers worden toegevoegd. "_s,
         this);
-    auto* lagen = Onderelkaar(
-        {cmdKiesExportMap, lblExportMap, Label3, lstNBBbest, cmdControleNBBnrs, Label7, Label6});
-    lagen->setStretch(3, 1);
-    return lagen;
+    return Onderelkaar({cmdKiesExportMap,
+                        lblExportMap,
+                        Label3,
+                        {lstNBBbest, 1},
+                        cmdControleNBBnrs,
+                        Label7,
+                        Label6});
 }
 
 QLayout* frmImportNBB::BouwHulp()

@@ -1,7 +1,5 @@
 #include "help/frmToelichting.h"
 
-#include <QVBoxLayout>
-
 #include <numeric>
 
 #include "help/tekstblad.h"
@@ -92,9 +90,7 @@ frmToelichting::frmToelichting(QWidget* hoofdvenster, Printerkeus printer)
             MeldPrintfout(this, geprint.error());
     });
 
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(Text1);
-    lagen->addLayout(Knoppenrij({cmdPrintToel, cmdEinde}));
+    Onderelkaar({Text1, Knoppenrij({cmdPrintToel, cmdEinde})}, this);
     const Maten maten;
     PasInScherm(this, {maten.Twips(13200), maten.Twips(6500)});
     const QPoint ingesprongen(maten.Twips(400), maten.Twips(400));
@@ -120,8 +116,7 @@ frmUitleg::frmUitleg(QWidget* ouder) : QDialog(ouder)
 {
     setObjectName(u"frmUitleg"_s);
     setWindowTitle(u"Uitleg paren samenstellen"_s);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addWidget(MaakText1(VulUitleg(), this));
+    Onderelkaar({MaakText1(VulUitleg(), this)}, this);
     const Maten maten;
     PasInScherm(this, {maten.Twips(9600), maten.Twips(4500)});
 }

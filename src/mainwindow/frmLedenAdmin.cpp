@@ -112,7 +112,7 @@ void frmLedenAdmin::ToonGroep()
     cmdSortlijst3->setText(MetSneltoets(beeld.importgroep ? u"NBBgroep"_s : u"Subgroep"_s, u'o'));
     const QString printtekst = u"Print deze groep: %1 ..."_s.arg(NaarQString(groeptekst));
     cmdPrint->setText(MetSneltoets(printtekst, u'P'));
-    ZetWenk(cmdPrint, printtekst);
+    cmdPrint->setToolTip(Wenk(printtekst));
 
     std::int16_t& LOSTGR = administratie_.instellingen.LOSTGR;
     if (LOSTGR != cmbGr->currentIndex())

@@ -2,9 +2,7 @@
 // which Tab goes through them, as the eye reads: the top, the grid, then the columns of commands
 // from left to right.
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -92,9 +90,8 @@ void frmLedenAdmin::Bouw()
     picP0 = new Rooster(maten_, this);
     connect(picP0->Vlak(), &Roostervlak::wijzigGevraagd, this, &frmLedenAdmin::Wijzig);
     connect(picP0->Vlak(), &Roostervlak::verwijderGevraagd, this, &frmLedenAdmin::VerwijderRij);
-    auto* roosterrij = new QHBoxLayout;
+    auto* roosterrij = Naastelkaar({picP0});
     roosterrij->setContentsMargins(maten_.Twips(RoosterLinks), 0, maten_.Twips(RoosterLinks), 0);
-    roosterrij->addWidget(picP0);
     lagen->addLayout(roosterrij, 1);
     lagen->addWidget(BouwOpdrachten());
     setCentralWidget(new Schuifblad(midden, this));
@@ -154,17 +151,14 @@ QWidget* frmLedenAdmin::BouwBovenkant()
 QWidget* frmLedenAdmin::BouwOpdrachten()
 {
     auto* opdrachten = new QWidget(this);
-    auto* kolommen = new QHBoxLayout;
+    auto* kolommen = Naastelkaar({{BouwSpelerkolom(), 1},
+                                  {BouwVerwijderkolom(), 1},
+                                  {BouwLijstkolom(), 1},
+                                  {BouwBondkolom(), 1}});
     kolommen->setSpacing(Tussenruimte);
-    kolommen->addLayout(BouwSpelerkolom(), 1);
-    kolommen->addLayout(BouwVerwijderkolom(), 1);
-    kolommen->addLayout(BouwLijstkolom(), 1);
-    kolommen->addLayout(BouwBondkolom(), 1);
-    auto* lagen = new QVBoxLayout(opdrachten);
+    auto* lagen = Onderelkaar({kolommen, BouwOnderkant()}, opdrachten);
     lagen->setContentsMargins(maten_.Twips(RoosterLinks), 6, maten_.Twips(RoosterLinks), 8);
     lagen->setSpacing(Tussenruimte);
-    lagen->addLayout(kolommen);
-    lagen->addLayout(BouwOnderkant());
     return opdrachten;
 }
 

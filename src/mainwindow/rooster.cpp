@@ -1,6 +1,5 @@
 #include "mainwindow/rooster.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 

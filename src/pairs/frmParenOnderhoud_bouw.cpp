@@ -1,10 +1,8 @@
 // Building the pairs window: its controls, their captions and places. They are made in the order in
 // which the eye reads them, which is that of the Tab key.
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/bouwstenen.h"
@@ -32,14 +30,14 @@ void frmParenOnderhoud::Bouw()
 {
     setObjectName(u"frmParenOnderhoud"_s);
     setWindowTitle(u"Paren samenstellen"_s);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addLayout(BouwKeuze());
-    lagen->addWidget(MaakLabel(
-        u"Label10"_s,
-        u"Alvorens om te schakelen naar een andere groep eerst de wijzigingen opslaan!"_s, this));
-    lagen->addWidget(BouwSamenstelling(), 1);
-    lagen->addWidget(BouwCSVKader());
-    lagen->addLayout(BouwOnderkant());
+    const QString eerst =
+        u"Alvorens om te schakelen naar een andere groep eerst de wijzigingen opslaan!"_s;
+    Onderelkaar({BouwKeuze(),
+                 MaakLabel(u"Label10"_s, eerst, this),
+                 {BouwSamenstelling(), 1},
+                 BouwCSVKader(),
+                 BouwOnderkant()},
+                this);
     ZetOpSchuifblad(this);
     // A little lower than the screen
     PasInScherm(this, {maten_.Twips(15000), screen()->size().height() - maten_.Twips(1000)});
@@ -56,17 +54,17 @@ QLayout* frmParenOnderhoud::BouwKeuze()
     cmbNBBledengr->setMinimumContentsLength(8);
     // Also when the group-subgroup that is shown is picked again.
     connect(cmbNBBledengr, &QComboBox::activated, this, &frmParenOnderhoud::LaadSubgroep);
-    auto* rij = new QHBoxLayout;
-    rij->addWidget(MaakLabel(u"Label9"_s, u"RVD-ledengroep:"_s, this));
-    rij->addWidget(lblRVDledengr);
-    rij->addSpacing(maten_.Twips(300));
-    rij->addWidget(Label2);
-    rij->addWidget(cmbNBBledengr, 1);
-    rij->addSpacing(maten_.Twips(300));
-    rij->addWidget(MaakLabel(u"Label1"_s, u"Waarom paren samenstellen?"_s, this));
-    rij->addWidget(MaakKnop(u"cmdUitleg"_s, u"Klik hier voor uitleg"_s, u'u', this,
-                            &frmParenOnderhoud::ToonUitleg));
-    return rij;
+    auto* cmdUitleg = MaakKnop(u"cmdUitleg"_s, u"Klik hier voor uitleg"_s, u'u', this,
+                               &frmParenOnderhoud::ToonUitleg);
+    const Wit wit{maten_.Twips(300)};
+    return Naastelkaar({MaakLabel(u"Label9"_s, u"RVD-ledengroep:"_s, this),
+                        lblRVDledengr,
+                        wit,
+                        Label2,
+                        {cmbNBBledengr, 1},
+                        wit,
+                        MaakLabel(u"Label1"_s, u"Waarom paren samenstellen?"_s, this),
+                        cmdUitleg});
 }
 
 QGroupBox* frmParenOnderhoud::BouwSamenstelling()
@@ -150,14 +148,11 @@ QGroupBox* frmParenOnderhoud::BouwCSVKader()
 
 QLayout* frmParenOnderhoud::BouwOnderkant()
 {
-    auto* onder = new QHBoxLayout;
-    onder->addWidget(MaakKnop(u"cmdVerwParenbest"_s, u"Verwijder dit parenbestand"_s, u'V', this,
-                              &frmParenOnderhoud::VerwijderBestand));
-    onder->addStretch();
-    onder->addWidget(
-        MaakKnop(u"cmdEinde"_s, u"Opslaan en Einde"_s, u'E', this, &frmParenOnderhoud::Einde));
-    onder->addWidget(MaakKnop(u"cmdAnnu"_s, u"Annuleren"_s, u'A', this, &QDialog::reject));
-    return onder;
+    return Naastelkaar(
+        {MaakKnop(u"cmdVerwParenbest"_s, u"Verwijder dit parenbestand"_s, u'V', this,
+                  &frmParenOnderhoud::VerwijderBestand),
+         0, MaakKnop(u"cmdEinde"_s, u"Opslaan en Einde"_s, u'E', this, &frmParenOnderhoud::Einde),
+         MaakKnop(u"cmdAnnu"_s, u"Annuleren"_s, u'A', this, &QDialog::reject)});
 }
 
 } // namespace plexoran

@@ -1,9 +1,7 @@
 #include "printing/frmAfdrukken.h"
 
 #include <QIntValidator>
-#include <QKeyEvent>
 #include <QScreen>
-#include <QVBoxLayout>
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
@@ -86,26 +84,21 @@ void frmAfdrukken::Bouw()
             [lblZoom](int procent) { lblZoom->setText(u"%1 %"_s.arg(procent)); });
 
     const bool staand = lijst_.indeling.papier.stand == Papierstand::Staand;
-    auto* boven = new QHBoxLayout;
-    boven->addWidget(MaakLabel(
-        u"Label2"_s, staand ? u"Printformaat: A4-staand"_s : u"Printformaat: A4-liggend"_s, this));
-    boven->addStretch();
-    boven->addWidget(lblZoom);
+    QLabel* Label2 = MaakLabel(
+        u"Label2"_s, staand ? u"Printformaat: A4-staand"_s : u"Printformaat: A4-liggend"_s, this);
     QLabel* lblReden = MaakLabel(u"lblReden"_s, Reden(), this);
     lblReden->setWordWrap(true);
     lblReden->setVisible(!staand);
-    auto* onder = new QHBoxLayout;
-    onder->addLayout(BouwBladkeuze(maten));
-    onder->addSpacing(maten.Twips(300));
+    QLayout* bladkeuze = BouwBladkeuze(maten);
     auto* cmdPrinten = MaakKnop(u"cmdPrinten"_s, u"Printen..."_s, u'P', this, &frmAfdrukken::Print);
     cmdPrinten->setDefault(true);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::reject);
-    onder->addLayout(Knoppenrij({cmdPrinten, cmdAnnuleren}));
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addLayout(boven);
-    lagen->addWidget(lblReden);
-    lagen->addWidget(picP0, 1);
-    lagen->addLayout(onder);
+    Onderelkaar(
+        {Naastelkaar({Label2, 0, lblZoom}),
+         lblReden,
+         {picP0, 1},
+         Naastelkaar({bladkeuze, Wit{maten.Twips(300)}, Knoppenrij({cmdPrinten, cmdAnnuleren})})},
+        this);
     PasInScherm(this, {maten.Twips(VensterBreed), screen()->availableSize().height()});
 }
 
@@ -137,10 +130,7 @@ QLayout* frmAfdrukken::BouwBladkeuze(const Maten& maten)
     palet.setColor(QPalette::Base, Qt::transparent);
     txtAantPages->setPalette(palet);
 
-    auto* rij = new QHBoxLayout;
-    for (QWidget* deel : std::initializer_list<QWidget*>{Label1, Bladscroll, txtBlad, txtAantPages})
-        rij->addWidget(deel);
-    return rij;
+    return Naastelkaar({Label1, Bladscroll, txtBlad, txtAantPages});
 }
 
 /// Why the sheet lies on its side, and what does not come out.

@@ -26,10 +26,7 @@ class frmAfdrukken : public QDialog {
     /// May warn, in boxes of `ouder`, of columns and pages that do not come out.
     frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder);
     ~frmAfdrukken() override;
-    frmAfdrukken(const frmAfdrukken&) = delete;
-    frmAfdrukken& operator=(const frmAfdrukken&) = delete;
-    frmAfdrukken(frmAfdrukken&&) = delete;
-    frmAfdrukken& operator=(frmAfdrukken&&) = delete;
+    Q_DISABLE_COPY(frmAfdrukken)
 
     void ZetZoom(int procent) { picP0->ZetZoom(procent); }
 

@@ -1,7 +1,5 @@
 #include "printing/frmPrintIni.h"
 
-#include <QVBoxLayout>
-
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
@@ -49,24 +47,15 @@ void frmPrintIni::Bouw()
     MaakVet(Label3);
     // A long name must not push the window's other parts away.
     Label3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    ZetWenk(Label3, Label3->text());
+    Label3->setToolTip(Wenk(Label3->text()));
 
-    auto* groep = new QHBoxLayout;
-    groep->addWidget(MaakLabel(u"Label2"_s, u"Gekozen Groep:"_s, this));
-    groep->addWidget(Label3, 1);
-    auto* midden = new QHBoxLayout;
-    midden->addWidget(BouwKolommen(), 1);
-    midden->addSpacing(maten_.Twips(200));
-    midden->addLayout(BouwRechts(), 1);
+    auto* groep = Naastelkaar({MaakLabel(u"Label2"_s, u"Gekozen Groep:"_s, this), {Label3, 1}});
+    auto* midden = Naastelkaar({{BouwKolommen(), 1}, Wit{maten_.Twips(200)}, {BouwRechts(), 1}});
     cmdOK = MaakKnop(u"cmdOK"_s, u"Printen..."_s, u'P', this, &frmPrintIni::Print);
     cmdOK->setDefault(true);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::reject);
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addLayout(groep);
-    lagen->addSpacing(maten_.Twips(100));
-    lagen->addLayout(midden, 1);
-    lagen->addSpacing(maten_.Twips(100));
-    lagen->addLayout(Knoppenrij({cmdOK, cmdAnnuleren}));
+    const Wit wit{maten_.Twips(100)};
+    Onderelkaar({groep, wit, {midden, 1}, wit, Knoppenrij({cmdOK, cmdAnnuleren})}, this);
     ZetOpSchuifblad(this);
     PasInScherm(this, {maten_.Twips(9600), maten_.Twips(7200)});
 }
@@ -92,21 +81,13 @@ QGroupBox* frmPrintIni::BouwKolommen()
                             : Tekst(naam);
     });
     lstKeus->Kies({0, 1, 2, 3, 4, 5, 6, 7}); // `Voornaam` to `Plaats`
-    auto* cmdSelAll = MaakKnop(u"cmdSelAll"_s, u"Selecteer alles"_s, u'a', this);
-    connect(cmdSelAll, &QPushButton::clicked, lstKeus, &Regellijst::selectAll);
-    auto* cmdSelNone = MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this);
-    connect(cmdSelNone, &QPushButton::clicked, lstKeus, &Regellijst::clearSelection);
+    auto* cmdSelAll = MaakKnop(u"cmdSelAll"_s, u"Selecteer alles"_s, u'a', this,
+                               [this] { lstKeus->selectAll(); });
+    auto* cmdSelNone = MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this,
+                                [this] { lstKeus->clearSelection(); });
     lblBreedte = MaakLabel(u"lblBreedte"_s, QString(), this);
     lblBreedte->setWordWrap(true);
-
-    auto* knoppen = new QHBoxLayout;
-    knoppen->addWidget(cmdSelAll);
-    knoppen->addWidget(cmdSelNone);
-    auto* kolom = new QVBoxLayout(Frame1);
-    kolom->addWidget(Label1);
-    kolom->addWidget(lstKeus, 1);
-    kolom->addLayout(knoppen);
-    kolom->addWidget(lblBreedte);
+    Onderelkaar({Label1, {lstKeus, 1}, Naastelkaar({cmdSelAll, cmdSelNone}), lblBreedte}, Frame1);
     return Frame1;
 }
 
@@ -126,23 +107,15 @@ QLayout* frmPrintIni::BouwRechts()
     for (int tiende = KleinsteSchaal; tiende <= GrootsteSchaal; ++tiende)
         cmbSchaal->addItem(getallen_.toString(tiende / 10.0));
     cmbSchaal->setCurrentIndex(GewoneSchaal);
-    cmdPassend = MaakKnop(u"cmdPassend"_s, QString(), 0, this);
-    connect(cmdPassend, &QPushButton::clicked, this,
-            [this] { cmbSchaal->setCurrentIndex(passend_); });
+    cmdPassend = MaakKnop(u"cmdPassend"_s, QString(), 0, this,
+                          [this] { cmbSchaal->setCurrentIndex(passend_); });
 
-    auto* schaal = new QHBoxLayout;
-    schaal->addWidget(Label5);
-    schaal->addWidget(cmbSchaal);
-    schaal->addWidget(cmdPassend);
-    schaal->addStretch();
-    auto* kolom = new QVBoxLayout;
-    kolom->addWidget(Label6);
-    kolom->addWidget(lstNBBgr, 1);
-    kolom->addWidget(Label7);
-    kolom->addSpacing(maten_.Twips(200));
-    kolom->addWidget(MaakLabel(u"Label4"_s, u"Printuitvoer verkleinen of vergroten:"_s, this));
-    kolom->addLayout(schaal);
-    return kolom;
+    return Onderelkaar({Label6,
+                        {lstNBBgr, 1},
+                        Label7,
+                        Wit{maten_.Twips(200)},
+                        MaakLabel(u"Label4"_s, u"Printuitvoer verkleinen of vergroten:"_s, this),
+                        Naastelkaar({Label5, cmbSchaal, cmdPassend, 0})});
 }
 
 void frmPrintIni::PasAan()

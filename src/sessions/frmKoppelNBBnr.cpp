@@ -1,7 +1,6 @@
 // The linking window: choosing a session, finding its floating players and linking one of them.
 #include "sessions/frmKoppelNBBnr.h"
 
-#include <QScrollBar>
 #include <QStyle>
 #include <QTimer>
 

@@ -3,7 +3,6 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
@@ -73,12 +72,7 @@ void frmKoppelNBBnr::Bouw()
     vakken->setColumnStretch(0, 4);
     vakken->setColumnStretch(1, 6);
     vakken->setRowStretch(1, 1);
-    auto* onder = new QVBoxLayout;
-    onder->addLayout(BouwKnoppen());
-    onder->addWidget(BouwResultaat());
-    auto* lagen = new QVBoxLayout(this);
-    lagen->addLayout(vakken, 1);
-    lagen->addLayout(onder);
+    Onderelkaar({{vakken, 1}, Onderelkaar({BouwKnoppen(), BouwResultaat()})}, this);
     ZetOpSchuifblad(this);
     PasInScherm(this, Maten().Twips(15000, 10200));
 }
@@ -212,14 +206,12 @@ QWidget* frmKoppelNBBnr::BouwKolomkoppen()
 
 QLayout* frmKoppelNBBnr::BouwKnoppen()
 {
-    auto* knoppen = new QHBoxLayout;
-    knoppen->addWidget(
-        MaakTekst(u"Label13"_s, u"Elke speler moeten afzonderlijk verwerkt worden!"_s, this), 1);
+    auto* Label13 =
+        MaakTekst(u"Label13"_s, u"Elke speler moeten afzonderlijk verwerkt worden!"_s, this);
     cmdStartKoppelen = MaakKnop(u"cmdStartKoppelen"_s, u"OK als dit identieke spelers zijn ..."_s,
                                 u'O', this, &frmKoppelNBBnr::StartKoppelen);
-    knoppen->addWidget(cmdStartKoppelen);
-    knoppen->addWidget(MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &QDialog::close));
-    return knoppen;
+    auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &QDialog::close);
+    return Naastelkaar({{Label13, 1}, cmdStartKoppelen, cmdEinde});
 }
 
 QWidget* frmKoppelNBBnr::BouwResultaat()

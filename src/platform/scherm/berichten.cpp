@@ -2,13 +2,9 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QLayout>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QScrollBar>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -274,7 +270,6 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap
     txtBericht->setLineWrapMode(QPlainTextEdit::NoWrap);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this, &QDialog::accept);
     cmdOK->setDefault(true);
-    auto* lagen = new QVBoxLayout(this);
     auto* boven = new QHBoxLayout;
     if (!icoon.isNull()) {
         QLabel* lblIcoon = MaakLabel(u"lblIcoon"_s, QString(), this);
@@ -282,8 +277,7 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap
         boven->addWidget(lblIcoon, 0, Qt::AlignTop);
     }
     boven->addWidget(txtBericht);
-    lagen->addLayout(boven);
-    lagen->addLayout(Knoppenrij({cmdOK}));
+    Onderelkaar({boven, Knoppenrij({cmdOK})}, this);
     const Maten maten;
     PasInScherm(this, {maten.Twips(10800), maten.Twips(8100)});
 }

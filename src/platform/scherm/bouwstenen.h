@@ -14,7 +14,9 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QTextDocument>
+#include <QVBoxLayout>
 
+#include <functional>
 #include <vector>
 
 #include "platform/scherm/maten.h"
@@ -163,11 +165,6 @@ inline void MaakVet(QLabel* label)
                : tekst;
 }
 
-inline void ZetWenk(QWidget* widget, const QString& tekst)
-{
-    widget->setToolTip(Wenk(tekst));
-}
-
 /// Shows the beginning of a line that does not fit; Qt would cut through a letter.
 class Kortkeus : public QComboBox {
   public:
@@ -209,6 +206,38 @@ inline void ZetTabvolgorde(const QList<QWidget*>& volgorde)
         QWidget::setTabOrder(volgorde[i - 1], volgorde[i]);
 }
 
+/// White between the parts of a row or a column.
+struct Wit {
+    int pixels;
+};
+
+/// A part of a row or a column: a control or a layout with its share of the room that is left over,
+/// white, or, for a number, that share for nothing.
+struct Deel {
+    Deel(QWidget* wat, int rek = 0) : leg([=](QBoxLayout& rij) { rij.addWidget(wat, rek); }) {}
+    Deel(QLayout* wat, int rek = 0) : leg([=](QBoxLayout& rij) { rij.addLayout(wat, rek); }) {}
+    Deel(Wit wit) : leg([=](QBoxLayout& rij) { rij.addSpacing(wit.pixels); }) {}
+    Deel(int rek) : leg([=](QBoxLayout& rij) { rij.addStretch(rek); }) {}
+
+    std::function<void(QBoxLayout&)> leg;
+};
+
+/// A layout that has yet to be placed, or that of `ouder`.
+inline QHBoxLayout* Naastelkaar(std::initializer_list<Deel> delen, QWidget* ouder = nullptr)
+{
+    auto* rij = new QHBoxLayout(ouder);
+    for (const Deel& deel : delen)
+        deel.leg(*rij);
+    return rij;
+}
+inline QVBoxLayout* Onderelkaar(std::initializer_list<Deel> delen, QWidget* ouder = nullptr)
+{
+    auto* kolom = new QVBoxLayout(ouder);
+    for (const Deel& deel : delen)
+        deel.leg(*kolom);
+    return kolom;
+}
+
 /// Buttons beside each other, at the right.
 [[nodiscard]] inline QHBoxLayout* Knoppenrij(std::initializer_list<QPushButton*> knoppen)
 {
@@ -246,16 +275,6 @@ inline bool VerschuifOpzij(QScrollBar& balk, int toets)
     return true;
 }
 
-/// Controls below each other: a layout that has yet to be placed, or that of `ouder`.
-[[nodiscard]] inline QVBoxLayout* Onderelkaar(const QList<QWidget*>& delen,
-                                              QWidget* ouder = nullptr)
-{
-    auto* lagen = new QVBoxLayout(ouder);
-    for (QWidget* deel : delen)
-        lagen->addWidget(deel);
-    return lagen;
-}
-
 /// Fills a drop-down anew, silently, and selects its first entry. Lines that come out shortened can
 /// be read in their tool tips.
 inline void VulKeus(QComboBox& keus, const std::vector<Tekst>& teksten)
@@ -266,7 +285,6 @@ inline void VulKeus(QComboBox& keus, const std::vector<Tekst>& teksten)
         keus.addItem(NaarQString(tekst));
         keus.setItemData(keus.count() - 1, Wenk(NaarQString(tekst)), Qt::ToolTipRole);
     }
-    keus.setCurrentIndex(teksten.empty() ? -1 : 0);
     keus.setToolTip(keus.currentData(Qt::ToolTipRole).toString());
 }
 
