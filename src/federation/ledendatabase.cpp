@@ -49,12 +49,6 @@ bool Ongelijk(const std::optional<Accesswaarde>& waarde, Tekstblik tekst)
     return waarde->vervangen > 0 || Hoofdletters(zonderStaart) != Hoofdletters(tekst);
 }
 
-bool DoetMee(const Accessrij& rij, const Tekst& bestand)
-{
-    return rij[Bestand] && rij[Bestand]->tekst == bestand && Ongelijk(rij[Achternaam], "") &&
-           Ongelijk(rij[Status], "Overleden");
-}
-
 Lidrij AlsLid(const Accessrij& rij, std::size_t& vervangen)
 {
     const auto neem = [&](Ledenkolom kolom) {
@@ -76,20 +70,6 @@ Lidrij AlsLid(const Accessrij& rij, std::size_t& vervangen)
     lid[Lidveld::Telefoon] = neem(tweede ? Telefoon2 : Telefoon1);
     lid[Lidveld::Email] = neem(Email);
     return lid;
-}
-
-/// The rows that take part, by surname in the text order and then as they were read.
-std::vector<Accessrij> Gekozen(std::vector<Accessrij> rijen, const Tekst& bestand)
-{
-    std::multimap<Tekst, Accessrij> opNaam;
-    for (Accessrij& rij : rijen) {
-        if (DoetMee(rij, bestand))
-            opNaam.emplace(Sorteersleutel(rij[Achternaam]->tekst), std::move(rij));
-    }
-    rijen.clear();
-    for (auto& [naam, rij] : opNaam)
-        rijen.push_back(std::move(rij));
-    return rijen;
 }
 
 } // namespace
@@ -116,13 +96,21 @@ Uitkomst<Ledenomzetting> HaalLeden(Schijf& schijf, const Pad& database, int id,
                                    const Pad& tussenbestand, const Voortgang& voortgang,
                                    const Accessgrenzen& grenzen)
 {
-    auto rijen = LeesAccess(database, "leden", Ledenkolommen(), voortgang, grenzen);
+    const auto rijen = LeesAccess(database, "leden", Ledenkolommen(), voortgang, grenzen);
     if (!rijen)
         return Mislukt(rijen);
+    const Tekst bestand = std::to_string(id);
+    // By surname in the text order and then as they were read.
+    std::multimap<Tekst, const Accessrij*> opNaam;
+    for (const Accessrij& rij : *rijen) {
+        if (rij[Bestand] && rij[Bestand]->tekst == bestand && Ongelijk(rij[Achternaam], "") &&
+            Ongelijk(rij[Status], "Overleden"))
+            opNaam.emplace(Sorteersleutel(rij[Achternaam]->tekst), &rij);
+    }
     Tekst regels;
     Ledenomzetting uit;
-    for (const Accessrij& rij : Gekozen(std::move(*rijen), std::to_string(id)))
-        VoegLidToe(regels, AlsLid(rij, uit.vervangenTekens));
+    for (const auto& [naam, rij] : opNaam)
+        VoegLidToe(regels, AlsLid(*rij, uit.vervangenTekens));
     return SchrijfTussenregels(schijf, tussenbestand, std::move(regels)).map([&] { return uit; });
 }
 

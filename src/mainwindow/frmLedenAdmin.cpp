@@ -81,8 +81,9 @@ Tekst frmLedenAdmin::Groeptekst() const
 /// Selecting runs the display, also when the place stays the same.
 void frmLedenAdmin::KiesGroep(int plaats)
 {
+    if (cmbGr->currentIndex() == plaats)
+        ToonGroep();
     cmbGr->setCurrentIndex(plaats);
-    ToonGroep();
 }
 
 void frmLedenAdmin::ToonGroep()

@@ -121,7 +121,8 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     cmbGr->setAccessibleName(u"Spelergroep"_s);
     cmbGr->setMaxVisibleItems(25);
     // Also when the group that is shown is picked again.
-    connect(cmbGr, &QComboBox::activated, this, &frmLedenAdmin::ToonGroep);
+    for (const auto signaal : {&QComboBox::currentIndexChanged, &QComboBox::activated})
+        connect(cmbGr, signaal, this, &frmLedenAdmin::ToonGroep);
     auto* chkKolBr = MaakVink(u"chkKolBr"_s, u"Kolombreedte volgens header"_s, u'd', boven);
     chkKolBr->setChecked(true);
     connect(chkKolBr, &QCheckBox::toggled, this, [this](bool aan) {

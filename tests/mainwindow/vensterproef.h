@@ -71,7 +71,7 @@ class Vensterproef : public testing::Test {
     }
     [[nodiscard]] std::string Aantal() const { return Label("Label3")->text().toStdString(); }
 
-    void KiesGroep(int nummer) const { KiesUit(Keus("cmbGr"), nummer - 1); }
+    void KiesGroep(int nummer) const { Keus("cmbGr")->setCurrentIndex(nummer - 1); }
     [[nodiscard]] int GetoondeGroep() const { return Keus("cmbGr")->currentIndex() + 1; }
 
     /// Where a height on the surface of the grid, in millimetres, is on the screen.
