@@ -345,8 +345,8 @@ TEST_F(Opstartproef, EenGroepKiezenToontHaar)
     EXPECT_LE(1, getoond([&] { KiesUit(cmbGr, 3); })) << "nog eens";
     EXPECT_LE(1, getoond([&] { QTest::keyClick(cmbGr, Qt::Key_Down); }));
     QApplication::processEvents();
-    EXPECT_EQ(1, getoond([&] { cmbGr->setCurrentIndex(4); }));
-    EXPECT_EQ(5, GetoondeGroep());
+    EXPECT_EQ(1, getoond([&] { cmbGr->setCurrentIndex(6); }));
+    EXPECT_EQ(7, GetoondeGroep());
 }
 
 TEST_F(Opstartproef, DeVasteTekstenEnVinkjes)
