@@ -1,7 +1,6 @@
 #include "dialogs/toevoegen.h"
 
 #include <algorithm>
-#include <array>
 
 #include "platform/schijf/schijf.h"
 #include "platform/tekst/regels.h"

@@ -1,5 +1,5 @@
-// The number check: who of the members of the chosen member files lacks a federation number or a
-// sex, before anything is imported.
+// The number check: the members of the chosen member files with their federation number and sex,
+// before anything is imported.
 #pragma once
 
 #include <QCheckBox>

@@ -75,10 +75,9 @@ QString VervolgNBBR4(const QString& optie)
            "kiezen en klik het bestand aan in de lijst."_s.arg(optie);
 }
 
-QCheckBox* MaakVink(const QString& naam, const QString& tekst, char16_t letter, QWidget* ouder)
+QCheckBox* MaakKeuzevink(const QString& naam, const QString& tekst, char16_t letter, QWidget* ouder)
 {
-    auto* vakje = new QCheckBox(MetSneltoets(tekst, letter), ouder);
-    Noem(vakje, naam);
+    auto* vakje = MaakVink(naam, tekst, letter, ouder);
     vakje->setChecked(true);
     vakje->setEnabled(letter != 0); // the others always travel along
     vakje->setToolTip(
@@ -151,16 +150,16 @@ QWidget* frmImportNBB::BouwGegevens()
 {
     auto* Frame1 = MaakKader(u"Frame1"_s, u"Spelergegevens importeren"_s, this);
     auto* Frame2 = MaakKader(u"Frame2"_s, u"Naar keus inclusief:"_s, Frame1);
-    chkNAW = MaakVink(u"chkNAW"_s, u"NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"_s, u'N',
-                      Frame2);
-    chkTel = MaakVink(u"chkTel"_s, u"Telefoonnr"_s, u'f', Frame2);
-    chkEmail = MaakVink(u"chkEmail"_s, u"Emailadres"_s, u'E', Frame2);
-    chkMV = MaakVink(u"chkMV"_s, u"M/V"_s, u'M', Frame2);
+    chkNAW = MaakKeuzevink(u"chkNAW"_s, u"NAW-gegevens\nStraat+huisnr, Postcode, Plaats, Land"_s,
+                           u'N', Frame2);
+    chkTel = MaakKeuzevink(u"chkTel"_s, u"Telefoonnr"_s, u'f', Frame2);
+    chkEmail = MaakKeuzevink(u"chkEmail"_s, u"Emailadres"_s, u'E', Frame2);
+    chkMV = MaakKeuzevink(u"chkMV"_s, u"M/V"_s, u'M', Frame2);
     Frame2->setLayout(Onderelkaar({chkNAW, chkTel, chkEmail, chkMV}));
-    auto* vast = Onderelkaar({MaakVink(u"chkVoornaam"_s, u"Voornaam"_s, 0, Frame1),
-                              MaakVink(u"chkTus"_s, u"Tussenvoegsel"_s, 0, Frame1),
-                              MaakVink(u"chkAchternaam"_s, u"Achternaam"_s, 0, Frame1),
-                              MaakVink(u"chkNBBnr"_s, u"NBBnummer"_s, 0, Frame1), 0});
+    auto* vast = Onderelkaar({MaakKeuzevink(u"chkVoornaam"_s, u"Voornaam"_s, 0, Frame1),
+                              MaakKeuzevink(u"chkTus"_s, u"Tussenvoegsel"_s, 0, Frame1),
+                              MaakKeuzevink(u"chkAchternaam"_s, u"Achternaam"_s, 0, Frame1),
+                              MaakKeuzevink(u"chkNBBnr"_s, u"NBBnummer"_s, 0, Frame1), 0});
     Naastelkaar({vast, Frame2}, Frame1);
     return Frame1;
 }

@@ -1,4 +1,4 @@
-// Members as text: the import line, one as the import window lists it and merges it, and before it
+// Members as text: the import line, one as the import merges it, and before it
 // the member CSV, in which all sources end: exported as such, or the intermediate file that the
 // other sources write (docs/bestanden.md).
 #pragma once

@@ -1,7 +1,7 @@
 #include "federation/ledenbestand.h"
 
-#include <algorithm>
 #include <map>
+#include <utility>
 
 #include "platform/tekst/tekst.h"
 

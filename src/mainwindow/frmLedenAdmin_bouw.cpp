@@ -69,13 +69,6 @@ QGridLayout* MaakVakken(const QString& naam, const QString& opschrift, QWidget* 
     return vakken;
 }
 
-QCheckBox* MaakVink(const QString& naam, const QString& tekst, char16_t letter, QWidget* ouder)
-{
-    auto* vink = new QCheckBox(MetSneltoets(tekst, letter), ouder);
-    Noem(vink, naam);
-    return vink;
-}
-
 } // namespace
 
 void frmLedenAdmin::Bouw()

@@ -16,7 +16,7 @@
 
 namespace plexoran {
 
-/// Saves, shows what is in the table now, and says `klaar` when it is saved.
+/// Saves, shows what is in the table now, and says `klaar` unless the save failed.
 void frmLedenAdmin::SlaOpEnToon(const QString& klaar)
 {
     const Opslag opslag = opslag_.SlaOp();

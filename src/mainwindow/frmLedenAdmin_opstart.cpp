@@ -135,6 +135,8 @@ void RuimRestenOp(Administratie& administratie)
 void LeesInstellingenbestand(Administratie& administratie, QWidget* venster)
 {
     administratie.instellingen = LeesInstellingen(administratie.schijf, administratie.mappen);
+    if (administratie.mappen.ADMMAP.empty())
+        return;
     const Pad pad = administratie.mappen.Instellingenbestand();
     const auto inhoud = administratie.schijf.LeesBestand(pad);
     if (inhoud && !IsInstellingenbestand(*inhoud))

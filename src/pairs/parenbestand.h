@@ -1,5 +1,5 @@
-// The files with pairs (docs/bestanden.md). A token is two keys, as all but those for a spreadsheet
-// have a pair.
+// The files with pairs (docs/bestanden.md). In all but those for a spreadsheet a pair is a token:
+// two keys.
 #pragma once
 
 #include <optional>
@@ -54,10 +54,10 @@ enum class ParenCSV { EenKolom = 1, TweeKolommen = 2 };
                                   ParenCSV soort);
 
 [[nodiscard]] Tekst ParenCSVNaam(ParenCSV soort);
-/// The folder, which is made when it is missing. An error when the suite has no root folder.
 [[nodiscard]] Pad ParenCSVMap(const Mappen& mappen);
 
-/// Writes the file whole.
+/// Writes the file whole, in a folder that is made when it is missing. An error when the suite has
+/// no root folder.
 [[nodiscard]] Uitkomst<void> SchrijfParenCSV(Schijf& schijf, const Mappen& mappen,
                                              std::span<const Tekst> regels,
                                              const Spelertabel& tabel, ParenCSV soort);

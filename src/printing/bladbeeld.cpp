@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "platform/scherm/tekstbrug.h"
 

@@ -28,8 +28,6 @@ class frmAfdrukken : public QDialog {
     ~frmAfdrukken() override;
     Q_DISABLE_COPY(frmAfdrukken)
 
-    void ZetZoom(int procent) { picP0->ZetZoom(procent); }
-
   protected:
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
 

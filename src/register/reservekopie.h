@@ -1,5 +1,6 @@
 // Copies of files that a save is about to replace although not everything in them was understood,
-// in the folder "Reservekopie" (docs/bestanden.md). A copy never replaces another.
+// in the folder "Reservekopie" (docs/bestanden.md), and files that must be there, made anew or put
+// back at the start. A copy never replaces another.
 #pragma once
 
 #include <functional>

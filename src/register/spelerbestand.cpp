@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::size_t eersteIngaveveld = Index(Kolom::Voornaam);
 
-/// Whether the first line that holds anything is a player whose row number alone is blank. Without
-/// that field the line would be too short; a number there is only its place.
+/// The text from its first line that holds anything on. A player whose row number alone is blank
+/// gets one: without that field the line would be too short; the number is only its place.
 Tekst SpelersZonderBlancoBegin(Tekstblik oud)
 {
     for (const Tekstblik regel : Regels(oud)) {

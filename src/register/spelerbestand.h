@@ -58,8 +58,8 @@ struct Leesverslag : Leesbevinding {
 
 enum class Overschrijven { AlleenEigen, OokGewijzigd };
 
-/// Makes sure that the players folder and the player file exist and that the file has a key line.
-/// A file whose first item is blank is made anew, copied aside first when it holds anything.
+/// Makes sure that the players folder and the player file exist. A new file has a key line. A file
+/// whose first item is blank is made anew, copied aside first when it holds anything.
 [[nodiscard]] Aanmaak MaakSpelerbestand(Schijf& schijf, const Mappen& mappen, Register& spelers);
 
 /// Replaces the table by what the file holds. A file of which no line could be taken leaves the

@@ -112,6 +112,9 @@ TEST_F(LedenimportTest, ImporteertInDeVerzamelgroepOnderDeNaamVanHetBestand)
     Ledenimport ander(administratie, geheugen);
     ASSERT_TRUE(ander.Importeer("Club.csv", {"Eva,,Ek,,,,,,,V,77"}, {}));
     EXPECT_TRUE(ander.IetsGewijzigd()) << "ververst";
+    Ledenimport beide(administratie, geheugen);
+    ASSERT_TRUE(beide.Importeer("Club.csv", {"Eva,,Ek,,,,,,,V,77", "Fie,,Fan,,,,,,,V,76"}, {}));
+    EXPECT_TRUE(beide.IetsGewijzigd()) << "evenveel ververst als nieuw";
     Ledenimport vol(administratie, geheugen);
     administratie.spelers.HKEY = 2147483647;
     EXPECT_FALSE(vol.Importeer("Club.csv", {"Eva,,Ek,,,,,,,V,78"}, {}));

@@ -243,6 +243,13 @@ TEST_F(Opstartproef, AlsDeKopieNietKanKomtErGeenOpslag)
     EXPECT_EQ(Opslag::Mislukt, afloop);
 }
 
+TEST_F(Opstartproef, ZonderMapVoorDeInstellingenWordenErGeenGezocht)
+{
+    geheugen.Zet("C:\\RVD\\Mappen.ini", ini + "ADMMAP=\r\n");
+    geheugen.Zet("\\Plexo.ini", "dit is\r\ngeen instelling\r\n");
+    Lees();
+}
+
 TEST_F(Opstartproef, OnzinInPlexoIniWordtGemeldEnKomtInEenKopie)
 {
     ZetInstellingen("dit is\r\ngeen instelling\r\n");

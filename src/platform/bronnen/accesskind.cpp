@@ -11,7 +11,6 @@
 #include <filesystem>
 #include <memory>
 #include <system_error>
-#include <utility>
 
 #ifdef _WIN32
 #include <fcntl.h>

@@ -1,5 +1,5 @@
 // Message boxes: real QMessageBoxes with exactly the text, title, icon and buttons that the caller
-// names. The buttons read OK and Annuleren on every system.
+// names. Unless he words them the buttons read OK and Annuleren on every system.
 #pragma once
 
 #include <QMessageBox>

@@ -1,6 +1,7 @@
 // The parts of which windows are built. Captions stand in the source as they read on the screen.
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -120,6 +121,14 @@ template <class Venster, class Opdracht>
     auto* optie = new QRadioButton(MetSneltoets(tekst, letter), ouder);
     Noem(optie, naam);
     return optie;
+}
+
+[[nodiscard]] inline QCheckBox* MaakVink(const QString& naam, const QString& tekst, char16_t letter,
+                                         QWidget* ouder)
+{
+    auto* vink = new QCheckBox(MetSneltoets(tekst, letter), ouder);
+    Noem(vink, naam);
+    return vink;
 }
 
 [[nodiscard]] inline QLabel* MaakLabel(const QString& naam, const QString& tekst, QWidget* ouder)

@@ -1,6 +1,5 @@
 #include "platform/schijf/schijf.h"
 
-#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>

@@ -297,6 +297,11 @@ TEST_F(EchteSchijfTest, FoutNoemtBestandEnReden)
 }
 
 #ifndef _WIN32
+TEST_F(EchteSchijfTest, EenMapDieGeenSyncenKentIsGoed)
+{
+    EXPECT_TRUE(schijf_.SyncMapVan("/proc\\a"));
+    EXPECT_EQ(SoortVan(schijf_.SyncMapVan(In("weg\\a"))), Foutsoort::Ontbreekt);
+}
 
 TEST_F(EchteSchijfTest, ExacteNaamGaatVoorAndereKast)
 {
