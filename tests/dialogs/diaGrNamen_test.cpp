@@ -1,5 +1,7 @@
 #include "dialogs/diaGrNamen.h"
 
+#include <QScrollBar>
+
 #include "hulp/dialoogproef.h"
 
 using namespace plexoran;

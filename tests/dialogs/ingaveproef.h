@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QPainter>
+#include <QRadioButton>
 
 #include "dialogs/diaIngave.h"
 #include "hulp/dialoogproef.h"

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QScrollBar>
 
 #include "hulp/accessgegevens.h"
 #include "hulp/dialoogproef.h"

@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QRadioButton>
 
 #include <gtest/gtest.h>
 

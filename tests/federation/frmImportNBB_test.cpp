@@ -1,6 +1,7 @@
 // The import window itself: its texts, its sources and its help.
 #include <QDir>
 #include <QFileIconProvider>
+#include <QGroupBox>
 
 #include "federation/importproef.h"
 #include "hulp/accessgegevens.h"

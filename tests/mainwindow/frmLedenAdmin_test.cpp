@@ -1,4 +1,5 @@
 // The groups and the commands of the main window on the sample suite.
+#include <QGroupBox>
 
 #ifndef _WIN32
 #include <sys/stat.h>

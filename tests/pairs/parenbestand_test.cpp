@@ -1,5 +1,7 @@
 #include "pairs/parenbestand.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"

@@ -2,6 +2,7 @@
 // printing show of them.
 #pragma once
 
+#include <QDialog>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRadioButton>

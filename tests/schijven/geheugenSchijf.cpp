@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/tekst/codepagina.h"
-
 namespace plexoran {
 namespace {
 
@@ -228,11 +226,6 @@ Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)
     return {};
 }
 
-Uitkomst<Pad> GeheugenSchijf::Doel(const Pad& pad)
-{
-    return pad;
-}
-
 Uitkomst<std::unique_ptr<Schrijver>> GeheugenSchijf::MaakNieuw(const Pad& pad)
 {
     const Tekst sleutel = Sleutel(pad);
@@ -296,11 +289,6 @@ Uitkomst<void> GeheugenSchijf::SyncMapVan(const Pad& pad)
             gesyncteNamen_.emplace(sleutel, naam);
     }
     return {};
-}
-
-std::string GeheugenSchijf::Toonpad(const Pad& pad) const
-{
-    return NaarUtf8(pad);
 }
 
 } // namespace plexoran

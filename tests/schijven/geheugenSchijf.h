@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/schijf/schijf.h"
+#include "platform/tekst/codepagina.h"
 
 namespace plexoran {
 
@@ -15,11 +16,6 @@ class GeheugenSchijf : public Schijf {
     /// Which new names a power cut leaves: only those of a synced folder, or, as a disk may do just
     /// as well, all of them. A durable save must survive both.
     enum class Namen { Gesynct, Alle };
-
-    GeheugenSchijf() = default;
-    GeheugenSchijf(const GeheugenSchijf&) = delete;
-    GeheugenSchijf& operator=(const GeheugenSchijf&) = delete;
-    ~GeheugenSchijf() override = default;
 
     /// Puts a file there with its folders, as if it had been on the device for long.
     void Zet(const Pad& pad, Tekstblik inhoud);
@@ -42,14 +38,14 @@ class GeheugenSchijf : public Schijf {
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Mappen(const Pad& map) override;
 
     [[nodiscard]] Uitkomst<void> MaakMap(const Pad& map) override;
-    [[nodiscard]] Uitkomst<Pad> Doel(const Pad& pad) override;
+    [[nodiscard]] Uitkomst<Pad> Doel(const Pad& pad) override { return pad; }
     [[nodiscard]] Uitkomst<std::unique_ptr<Schrijver>> MaakNieuw(const Pad& pad) override;
     [[nodiscard]] Uitkomst<void> NeemRechtenOver(const Pad& van, const Pad& naar) override;
     [[nodiscard]] Uitkomst<void> Hernoem(const Pad& van, const Pad& naar) override;
     [[nodiscard]] Uitkomst<void> Verwijder(const Pad& pad) override;
     [[nodiscard]] Uitkomst<void> SyncMapVan(const Pad& pad) override;
 
-    [[nodiscard]] std::string Toonpad(const Pad& pad) const override;
+    [[nodiscard]] std::string Toonpad(const Pad& pad) const override { return NaarUtf8(pad); }
 
   private:
     class GeheugenSchrijver;

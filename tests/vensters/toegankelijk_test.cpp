@@ -2,6 +2,7 @@
 // stands for it, each list its lines, and what takes the keys is something.
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QGroupBox>
 #include <QLineEdit>
 
 #include "vensters/rondgang.h"

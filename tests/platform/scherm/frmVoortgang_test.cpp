@@ -1,6 +1,7 @@
 #include "platform/scherm/frmVoortgang.h"
 
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QProgressBar>
 #include <QTimer>
 

@@ -1,5 +1,6 @@
 #include "platform/scherm/schuifblad.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QScrollBar>
 
