@@ -24,7 +24,7 @@ double Lichtheid(const QColor& kleur)
 
 double Contrast(const QColor& een, const QColor& ander)
 {
-    const auto [minste, meeste] = std::minmax(Lichtheid(een), Lichtheid(ander));
+    const auto [minste, meeste] = std::minmax({Lichtheid(een), Lichtheid(ander)});
     return (meeste + 0.05) / (minste + 0.05);
 }
 

@@ -52,6 +52,12 @@ Schuifblad::Schuifblad(QWidget* inhoud, QWidget* ouder) : QScrollArea(ouder)
     });
 }
 
+/// The focus still moves while the last of a window goes.
+Schuifblad::~Schuifblad()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize Schuifblad::sizeHint() const
 {
     return widget()->sizeHint();

@@ -13,6 +13,7 @@ class Schuifblad : public QScrollArea {
   public:
     /// Scrolls `inhoud`, whose own smallest size holds as far as the screen has room for it.
     Schuifblad(QWidget* inhoud, QWidget* ouder);
+    ~Schuifblad() override;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
