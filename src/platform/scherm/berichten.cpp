@@ -74,7 +74,7 @@ class Berichtvenster : public QMessageBox {
         const auto labels =
             findChildren<QLabel*>(QRegularExpression(u"^qt_msgbox_(informative)?label$"_s));
         const int tekstbreed = labels.front()->width();
-        layout()->replaceWidget(labels.front(), blad);
+        delete layout()->replaceWidget(labels.front(), blad); // the item that held the label
         for (QLabel* label : labels) {
             teksten->addWidget(label);
             label->show();
