@@ -55,11 +55,6 @@ class Vlakvanger : public Tekenvlak {
     {
         lijnen.push_back({x1, y1, x2, y2, kleur, dikte});
     }
-    void Vul(double /*x*/, double /*y*/, double /*breed*/, double /*hoog*/,
-             Kleur /*kleur*/) override
-    {
-        ++vlakken;
-    }
     [[nodiscard]] std::vector<Tekst> Teksten() const
     {
         std::vector<Tekst> uit;
@@ -81,7 +76,6 @@ class Vlakvanger : public Tekenvlak {
 
     std::vector<Geschreven> teksten;
     std::vector<Getrokken> lijnen;
-    int vlakken = 0;
 
   private:
     Vastemeter vast_;

@@ -143,18 +143,6 @@ void Schildervlak::Schrijf(double x, double y, const Letter& letter, Tekstblik t
     schilder_.restore();
 }
 
-/// The rectangle on whole dots of the device, at least one of them wide and high. Edges that lie on
-/// the same place come out on the same dot.
-QRectF Schildervlak::OpPunten(const QRectF& vlak) const
-{
-    const QTransform naarPunten = schilder_.deviceTransform();
-    const QRectF punten = naarPunten.mapRect(vlak);
-    const QPointF hoek(std::round(punten.left()), std::round(punten.top()));
-    const QPointF eind(std::max(hoek.x() + 1, std::round(punten.right())),
-                       std::max(hoek.y() + 1, std::round(punten.bottom())));
-    return naarPunten.inverted().mapRect(QRectF(hoek, eind));
-}
-
 /// A straight line on whole dots of the device, at least one of them thick. Both its ends take in
 /// the dots of the lines that end there.
 QRectF Schildervlak::LijnOpPunten(QPointF begin, QPointF eind, double dikte) const
@@ -181,12 +169,6 @@ void Schildervlak::Lijn(double x1, double y1, double x2, double y2, Kleur kleur,
     }
     schilder_.setPen(QPen(Inkt(kleur), dikte * perMm_, Qt::SolidLine, Qt::FlatCap));
     schilder_.drawLine(QLineF(Punt(x1, y1), Punt(x2, y2)));
-}
-
-void Schildervlak::Vul(double x, double y, double breed, double hoog, Kleur kleur)
-{
-    const QRectF vlak(Punt(x, y), QSizeF(breed * perMm_, hoog * perMm_));
-    schilder_.fillRect(doel_ == Doel::Scherm ? OpPunten(vlak) : vlak, Inkt(kleur));
 }
 
 } // namespace plexoran

@@ -63,11 +63,9 @@ class Schildervlak : public Tekenvlak {
     [[nodiscard]] const Lettermeter& Meter() const override { return kast_; }
     void Schrijf(double x, double y, const Letter& letter, Tekstblik tekst) override;
     void Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte) override;
-    void Vul(double x, double y, double breed, double hoog, Kleur kleur) override;
 
   private:
     [[nodiscard]] QPointF Punt(double x, double y) const;
-    [[nodiscard]] QRectF OpPunten(const QRectF& vlak) const;
     [[nodiscard]] QRectF LijnOpPunten(QPointF begin, QPointF eind, double dikte) const;
 
     QPainter& schilder_;

@@ -83,8 +83,6 @@ class Tekenvlak {
     /// A straight line around whose middle `dikte` lies. On the screen it is never thinner than one
     /// of its dots.
     virtual void Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte) = 0;
-    /// A filled rectangle.
-    virtual void Vul(double x, double y, double breed, double hoog, Kleur kleur) = 0;
 };
 
 } // namespace plexoran

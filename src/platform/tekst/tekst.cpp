@@ -1,6 +1,7 @@
 #include "platform/tekst/tekst.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <utility>
 
@@ -185,16 +186,23 @@ Tekst Sorteersleutel(Tekstblik tekst)
 {
     // A sort before each weight, of which 0 is kept for the end: it comes before all that goes on.
     enum : char { Einde, Blank, Leesteken, Cijfer, Letter };
+    static const auto gewichten = [] {
+        std::array<Tekst, 256> uit;
+        for (std::size_t code = 0; code < uit.size(); ++code) {
+            const char teken = static_cast<char>(code);
+            for (const char deel : Letters(teken))
+                (uit[code] += Letter) += deel;
+            if (teken == ' ')
+                uit[code] += Blank;
+            else if (uit[code].empty())
+                (uit[code] += IsCijfer(teken) ? Cijfer : Leesteken) += static_cast<char>(code + 1);
+        }
+        return uit;
+    }();
     Tekst sleutel;
-    for (const char teken : tekst) {
-        const Tekst letters = Letters(teken);
-        for (const char deel : letters)
-            (sleutel += Letter) += deel;
-        if (teken == ' ')
-            sleutel += Blank;
-        else if (letters.empty())
-            (sleutel += IsCijfer(teken) ? Cijfer : Leesteken) += static_cast<char>(teken + 1);
-    }
+    sleutel.reserve(3 * tekst.size() + 1);
+    for (const char teken : tekst)
+        sleutel += gewichten[static_cast<unsigned char>(teken)];
     return (sleutel += Einde) += tekst;
 }
 

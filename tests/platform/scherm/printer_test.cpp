@@ -90,7 +90,6 @@ TEST_F(PrinterTest, PdfHeeftDeTekstenOpHunTiendeMillimeter)
         vlak.Schrijf(123.4, 280.5, gewoon, "office \x80");
         vlak.Schrijf(33.3, 100, vast, "0123456789");
         vlak.Lijn(0, 0, 210, 297, {100, 100, 100}, 0.1);
-        vlak.Vul(50, 50, 10, 10, {200, 0, 0});
     }));
 
     const auto bladen = Lees();
