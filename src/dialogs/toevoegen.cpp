@@ -228,7 +228,20 @@ Uitkomst<void> Koppelverslag::Schrijf()
         staat_ = true;
     }
     RuimTijdelijkeOp(schijf_, map_, Verslagnaam);
-    return SchrijfHeel(schijf_, pad_, tekst_);
+    auto geschreven = SchrijfHeel(schijf_, pad_, tekst_);
+    bij_ = StaatOpSchijf(geschreven);
+    return geschreven;
+}
+
+void Koppelverslag::Hernummer(const std::deque<Hernummering>& keys)
+{
+    for (const auto& [was, nu] : keys) { // the new ones are above all old ones
+        const auto plek = tekst_.find(" " + was);
+        if (plek == Tekst::npos)
+            continue;
+        tekst_.replace(plek + 1, was.size(), nu);
+        bij_ = false;
+    }
 }
 
 Uitkomst<void> Koppelverslag::ZetTerug()

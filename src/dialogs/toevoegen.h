@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "register/spelerbestand.h"
+#include "register/mengen.h"
 #include "sessions/zittinglijsten.h"
 
 namespace plexoran {
@@ -76,6 +76,10 @@ class Koppelverslag {
     [[nodiscard]] Uitkomst<void> ZetTerug();
     /// Whether `Schrijf` came at the file and `ZetTerug` did not make up for it yet.
     [[nodiscard]] bool Staat() const { return staat_; }
+    /// Whether the file holds the text as it is now.
+    [[nodiscard]] bool IsBij() const { return staat_ && bij_; }
+    /// Players got other keys before they were saved.
+    void Hernummer(const std::deque<Hernummering>& keys);
 
   private:
     Schijf& schijf_;
@@ -83,6 +87,7 @@ class Koppelverslag {
     Pad pad_;
     Tekst tekst_;
     std::optional<Tekst> oud_;
+    bool bij_ = true;
     bool staat_ = false; ///< else what stood there before is not known
 };
 

@@ -39,9 +39,10 @@ Tekst Verslag(const Spelertabel& tabel, const std::vector<Dubbel>& dubbelen)
 
 frmLedenAdmin::frmLedenAdmin(Administratie& administratie, QWidget* ouder)
     : QMainWindow(ouder), administratie_(administratie),
-      opslag_(administratie, this, [this] { ToonGroep(); })
+      opslag_(administratie, this, [this] { ToonGroep(); }), wacht_(administratie.schijf, this)
 {
     Bouw();
+    connect(&wacht_, &Bestandswacht::veranderd, this, &frmLedenAdmin::VolgBestanden);
 }
 
 std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool()> eersteExemplaar)
@@ -62,6 +63,7 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
         cmdToonGatenlijst->hide();
     cmdKoppel->hide();
     picP0->Vlak()->setFocus();
+    wacht_.Bewaak({administratie_.mappen.Spelerbestand(), administratie_.mappen.Groepenbestand()});
     return std::nullopt;
 }
 
@@ -120,6 +122,49 @@ void frmLedenAdmin::ToonGroep()
         picP0->NaarBoven();
     LOSTGR = static_cast<std::int16_t>(cmbGr->currentIndex());
     BewaarInstellingen();
+}
+
+void frmLedenAdmin::VolgBestanden()
+{
+    Roostervlak& vlak = *picP0->Vlak();
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    const auto keyOp = [&](int regel) {
+        return Tekst(tabel.Cel(vlak.Rijen()[static_cast<std::size_t>(regel - 1)], Kolom::Key));
+    };
+    const Tekst gekozen = vlak.Regel() > 0 ? keyOp(vlak.Regel()) : Tekst();
+    const bool andereSpelers = opslag_.NeemAndereOver();
+    if (!VolgGroepsnamen() && !andereSpelers)
+        return;
+    const int hoogte = picP0->Staand().value();
+    ToonGroep();
+    for (int regel = 1; !gekozen.empty() && vlak.Regel() == 0 && regel <= vlak.Regels(); ++regel) {
+        if (keyOp(regel) == gekozen)
+            vlak.KiesRegel(regel);
+    }
+    picP0->Staand().setValue(hoogte);
+}
+
+/// Whether another program gave groups other names.
+bool frmLedenAdmin::VolgGroepsnamen()
+{
+    Groepen groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
+    if (!groepen.bestandstekst ||
+        groepen.bestandstekst == administratie_.groepen.bestandstekst)
+        return false;
+    administratie_.groepen = std::move(groepen);
+    const int plaats = cmbGr->currentIndex();
+    VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
+    const QSignalBlocker stil(cmbGr);
+    cmbGr->setCurrentIndex(plaats);
+    return true;
+}
+
+/// Who comes back from another program sees at once what it did.
+void frmLedenAdmin::changeEvent(QEvent* gebeurtenis)
+{
+    QMainWindow::changeEvent(gebeurtenis);
+    if (gebeurtenis->type() == QEvent::ActivationChange && isActiveWindow())
+        wacht_.Kijk();
 }
 
 /// A settings file that cannot be written costs the user little: told once, then kept quiet.

@@ -13,6 +13,7 @@
 
 #include "dialogs/ingave.h"
 #include "federation/frmImportNBB.h"
+#include "mainwindow/bestandswacht.h"
 #include "mainwindow/frmLedenAdmin_opslag.h"
 #include "mainwindow/lijsten.h"
 #include "mainwindow/rooster.h"
@@ -36,9 +37,12 @@ class frmLedenAdmin : public QMainWindow {
 
     /// Shows the selected group anew, after a choice or a change.
     void ToonGroep();
+    /// Shows what other programs made of the files since, the selection and the place kept.
+    void VolgBestanden();
 
   protected:
     void closeEvent(QCloseEvent* gebeurtenis) override;
+    void changeEvent(QEvent* gebeurtenis) override;
 
   private:
     // Building (frmLedenAdmin_bouw.cpp)
@@ -53,6 +57,7 @@ class frmLedenAdmin : public QMainWindow {
     void VerbindToetsen();
 
     [[nodiscard]] bool IsEersteExemplaar();
+    [[nodiscard]] bool VolgGroepsnamen();
     void KiesGroep(int plaats);
     [[nodiscard]] Tekst Groeptekst() const;
     void BewaarInstellingen();
@@ -83,6 +88,7 @@ class frmLedenAdmin : public QMainWindow {
 
     Administratie& administratie_;
     Spelersopslag opslag_;
+    Bestandswacht wacht_;
     Maten maten_;
     Importgeheugen importgeheugen_;
     std::function<bool()> eersteExemplaar_;

@@ -1,6 +1,7 @@
 #include "mainwindow/frmLedenAdmin_opslag.h"
 
 #include "dialogs/diaToevoegen.h"
+#include "dialogs/frmVergelijk.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
 
@@ -82,31 +83,28 @@ QString WatNietOpenGing(Leesmoment moment)
 }
 
 /// What the user wants after a save that failed.
-enum class Vervolg { Opnieuw, Overschrijven, LeesOpnieuw, Later };
+enum class Vervolg { Opnieuw, Overschrijven, Later };
 
-Vervolg VraagNaWijziging(QWidget* ouder, const Fout& fout, bool gelezen)
+/// Another program left a file that cannot be brought together with what is here.
+Vervolg VraagNaSchade(QWidget* ouder, const Fout& fout)
 {
-    const QString wat =
-        gelezen ? u"Het spelerbestand is door een ander programma gewijzigd nadat het hier is "
-                  "ingelezen."_s
-                : u"Het spelerbestand op de schijf is hier niet ingelezen."_s;
     const int antwoord = Kies(
         ouder, QMessageBox::Warning,
-        wat +
-            u"\n\nOpslaan: uw gegevens vervangen dat bestand; er komt eerst een kopie van in de "
-            "map Reservekopie.\nOpnieuw inlezen: dat bestand blijft zoals het is; uw wijzigingen "
-            "die nog niet zijn opgeslagen, vervallen.\nLater beslissen: er verandert nu niets; bij "
-            "de volgende wijziging en bij het afsluiten komt deze keus terug.\n\n"_s +
+        u"Een ander programma heeft het spelerbestand gewijzigd, en wat er nu in staat kan niet "
+        "helemaal worden ingelezen.\n\nOpnieuw proberen: als dat programma nog bezig was, is het "
+        "daarna goed.\nOpslaan: de spelers van hier vervangen dat bestand; er komt eerst een kopie "
+        "van in de map Reservekopie.\nLater beslissen: er verandert nu niets; bij de volgende "
+        "wijziging en bij het afsluiten komt deze keus terug.\n\n"_s +
             Bijzonderheden(fout),
-        {u"Opslaan"_s, u"Opnieuw inlezen"_s, u"Later beslissen"_s});
-    constexpr std::array vervolgen{Vervolg::Overschrijven, Vervolg::LeesOpnieuw, Vervolg::Later};
+        {u"Opnieuw proberen"_s, u"Opslaan"_s, u"Later beslissen"_s});
+    constexpr std::array vervolgen{Vervolg::Opnieuw, Vervolg::Overschrijven, Vervolg::Later};
     return vervolgen.at(static_cast<std::size_t>(antwoord));
 }
 
-Vervolg VraagVervolg(QWidget* ouder, const Fout& fout, bool gelezen)
+Vervolg VraagVervolg(QWidget* ouder, const Fout& fout)
 {
     if (fout.soort == Foutsoort::Gewijzigd)
-        return VraagNaWijziging(ouder, fout, gelezen);
+        return VraagNaSchade(ouder, fout);
     const QString wat =
         fout.soort == Foutsoort::GeenReservekopie
             ? u"Er is niets opgeslagen: de kopie van het spelerbestand die eerst in de map "
@@ -120,6 +118,42 @@ Vervolg VraagVervolg(QWidget* ouder, const Fout& fout, bool gelezen)
                               {u"Opnieuw proberen"_s, u"Doorgaan"_s});
     return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
 }
+
+/// As many names as a line holds.
+QString Namen(const std::vector<Tekst>& namen)
+{
+    constexpr std::size_t meeste = 5;
+    QStringList uit;
+    for (std::size_t i = 0; i < std::min(meeste, namen.size()); ++i)
+        uit << NaarQString(namen[i]);
+    const QString rest = namen.size() > meeste ? u" en nog %1"_s.arg(namen.size() - meeste) : u""_s;
+    return uit.join(u", "_s) + rest;
+}
+
+/// What came of bringing two registers together, a line each.
+QStringList Nieuws(const Menging& menging)
+{
+    QStringList uit;
+    if (const std::size_t aantal = menging.overgenomen.size(); aantal > 0)
+        uit << u"%1 van een ander programma overgenomen: %2."_s.arg(
+            Aantal(aantal, u"speler"_s, u"spelers"_s), Namen(menging.overgenomen));
+    std::vector<Tekst> keys;
+    for (const auto& [was, nu] : menging.hernummerd)
+        keys.push_back(nu + " in plaats van " + was);
+    if (!keys.empty())
+        uit << u"%1 van hier %2 een andere sleutel gekregen, omdat het andere programma de sleutel "
+               "ook had uitgegeven: %3."_s.arg(
+                   Aantal(keys.size(), u"nieuwe speler"_s, u"nieuwe spelers"_s),
+                   keys.size() == 1 ? u"heeft"_s : u"hebben"_s, Namen(keys));
+    return uit;
+}
+
+const Vergelijking Botsingtekst{
+    u"Ook door een ander programma gewijzigd"_s,
+    u"Een ander programma heeft deze spelers intussen ook gewijzigd. Kies per speler wat in het "
+    "spelerbestand komt. Waar u niets kiest, komt te staan wat het andere programma ervan maakte; "
+    "zoals het hier was, wordt het dan in een kopie bewaard."_s,
+    u"Hier"_s, u"Ander programma"_s};
 
 } // namespace
 
@@ -154,31 +188,85 @@ Spelersopslag::Spelersopslag(Administratie& administratie, QWidget* venster,
 Opslag Spelersopslag::SlaOp()
 {
     Register& spelers = administratie_.spelers;
-    const bool leeg = spelers.tabel.Rijen() == 0;
     auto overschrijven = Overschrijven::AlleenEigen;
     for (;;) {
-        const auto uitkomst =
+        auto uitkomst =
             SchrijfSpelers(administratie_.schijf, administratie_.mappen, spelers, overschrijven);
         if (StaatEr(venster_, uitkomst))
             break;
         venster_->setWindowModified(true);
         toon_();
-        const Vervolg vervolg =
-            VraagVervolg(venster_, uitkomst.error(), spelers.gelezen.has_value());
+        if (uitkomst.error().soort == Foutsoort::Gewijzigd) {
+            uitkomst = MengMetSchijf();
+            if (uitkomst)
+                continue;
+        }
+        const Vervolg vervolg = VraagVervolg(venster_, uitkomst.error());
         if (vervolg == Vervolg::Overschrijven)
             overschrijven = Overschrijven::OokGewijzigd;
-        else if (vervolg != Vervolg::Opnieuw) {
-            ZetVerslagenTerug(vervolg == Vervolg::LeesOpnieuw);
-            if (vervolg == Vervolg::LeesOpnieuw)
-                LeesOpnieuw(Leesmoment::Opnieuw);
+        else if (vervolg == Vervolg::Later) {
+            ZetVerslagenTerug();
             return Opslag::Mislukt;
         }
     }
     venster_->setWindowModified(false);
+    const bool leeg = spelers.tabel.Rijen() == 0;
     if (!leeg)
         SchrijfVerslagen();
     LeesOpnieuw(leeg ? Leesmoment::Opnieuw : Leesmoment::NaOpslag);
+    if (!nieuws_.empty()) {
+        toon_();
+        Meld(venster_, QMessageBox::Information, nieuws_.join(u"\n\n"_s));
+        nieuws_.clear();
+    }
     return leeg && spelers.tabel.Rijen() > 0 ? Opslag::RegisterBehouden : Opslag::Gelukt;
+}
+
+/// Brings what another program wrote together with what is here. On an error, `Gewijzigd` when its
+/// file cannot be read whole, everything is as it was.
+Uitkomst<void> Spelersopslag::MengMetSchijf()
+{
+    Schijf& schijf = administratie_.schijf;
+    const Pad pad = administratie_.mappen.Spelerbestand();
+    Register& spelers = administratie_.spelers;
+    const auto ander = AnderRegister::Lees(schijf, administratie_.mappen);
+    if (!ander)
+        return Mislukt(ander);
+    if (!ander->IsHeel(spelers))
+        return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf.Toonpad(pad)});
+    Menging menging = ander->MengMet(spelers);
+    if (const std::size_t aantal = menging.botsingen.size(); aantal > 0) {
+        frmVergelijk venster(Botsingtekst, menging.botsingen, venster_);
+        const bool gekozen = venster.exec() == QDialog::Accepted;
+        const auto voorOns = gekozen ? venster.Links() : std::set<Tekst>();
+        if (!gekozen || voorOns.size() + venster.Rechts().size() < aantal) {
+            const auto kopie = MaakReservekopie(schijf, administratie_.mappen.SPEMAP, pad,
+                                                SpelersTekst(spelers));
+            if (!kopie)
+                return Mislukt(kopie);
+            nieuws_ << u"Waar u niets koos, staat in het spelerbestand wat het andere programma "
+                       "ervan maakte. Zoals het hier was, staat het in de kopie:\n%1"_s.arg(
+                           QString::fromStdString(schijf.Toonpad(*kopie)));
+        }
+        menging = ander->MengMet(spelers, voorOns);
+    }
+    for (Koppelverslag& verslag : verslagen_)
+        verslag.Hernummer(menging.hernummerd);
+    nieuws_ << Nieuws(menging);
+    ander->NeemOver(spelers, std::move(menging));
+    return {};
+}
+
+bool Spelersopslag::NeemAndereOver()
+{
+    Register& spelers = administratie_.spelers;
+    if (venster_->isWindowModified() || !spelers.gelezen)
+        return false;
+    const auto ander = AnderRegister::Lees(administratie_.schijf, administratie_.mappen);
+    if (!ander || !ander->IsHeel(spelers) || !ander->IsAnders(spelers))
+        return false;
+    ander->NeemOver(spelers, ander->MengMet(spelers));
+    return true;
 }
 
 void Spelersopslag::LeesOpnieuw(Leesmoment moment)
@@ -208,7 +296,7 @@ void Spelersopslag::SchrijfVerslagen()
                     {u"Opnieuw proberen"_s, u"Doorgaan"_s}) == 0;
     };
     for (Koppelverslag& verslag : verslagen_) {
-        auto geschreven = verslag.Staat() ? Uitkomst<void>() : verslag.Schrijf();
+        auto geschreven = verslag.IsBij() ? Uitkomst<void>() : verslag.Schrijf();
         while (!StaatEr(venster_, geschreven) && nogEens(geschreven.error()))
             geschreven = verslag.Schrijf();
     }
@@ -217,7 +305,7 @@ void Spelersopslag::SchrijfVerslagen()
 
 /// Keys that the register on the disk lacks will be issued to other players: no link file may name
 /// them.
-void Spelersopslag::ZetVerslagenTerug(bool vervallen)
+void Spelersopslag::ZetVerslagenTerug()
 {
     if (verslagen_.empty())
         return;
@@ -226,12 +314,9 @@ void Spelersopslag::ZetVerslagenTerug(bool vervallen)
         terug = (verslag.Staat() && ZetTerugOfMeld(verslag, venster_)) || terug;
     if (!terug)
         return;
-    QString tekst =
-        u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van "
-        "hun zitting weer zoals het was."_s;
-    tekst += vervallen ? u" Voeg ze zo nodig opnieuw toe."_s
-                       : u" Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s;
-    Meld(venster_, QMessageBox::Information, tekst);
+    Meld(venster_, QMessageBox::Information,
+         u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van hun "
+         "zitting weer zoals het was. Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s);
 }
 
 bool Spelersopslag::MagEindigen()

@@ -1,6 +1,8 @@
 // The start-up, and the players to and from their file, with what the user is asked and told.
 #pragma once
 
+#include <QStringList>
+
 #include <functional>
 #include <vector>
 
@@ -46,18 +48,23 @@ class Spelersopslag {
     Opslag SlaOp();
     /// A link file that names players whom the next save must bring into the register.
     void Bewaak(Koppelverslag verslag) { verslagen_.push_back(std::move(verslag)); }
+    /// Takes over what another program made of the player file, when nothing is unsaved here and all
+    /// of it can be read; whether there was anything new.
+    [[nodiscard]] bool NeemAndereOver();
     /// Whether the program may end, asked where that would lose changes.
     [[nodiscard]] bool MagEindigen();
 
   private:
     void LeesOpnieuw(Leesmoment moment);
     void SchrijfVerslagen();
-    void ZetVerslagenTerug(bool vervallen);
+    void ZetVerslagenTerug();
+    [[nodiscard]] Uitkomst<void> MengMetSchijf();
 
     Administratie& administratie_;
     QWidget* venster_;
     std::function<void()> toon_;
     std::vector<Koppelverslag> verslagen_; ///< whose new players are not known to be saved
+    QStringList nieuws_; ///< to tell when the save is done
 };
 
 } // namespace plexoran

@@ -26,7 +26,8 @@ Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
 
 } // namespace
 
-Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand)
+Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                               Tekstblik inhoud)
 {
     const Pad kopiemap = Kopiemap(spelersmap);
     return schijf
@@ -34,11 +35,8 @@ Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad&
         // The copy is only as safe as the name of the folder that it is in.
         .and_then([&] { return schijf.SyncMapVan(kopiemap); })
         .and_then([&] { return VrijeNaam(schijf, kopiemap, bestand); })
-        .and_then([&](const Pad& kopie) -> Uitkomst<Pad> {
-            const auto inhoud = schijf.LeesBestand(bestand);
-            if (!inhoud)
-                return Mislukt(inhoud);
-            return SchrijfHeel(schijf, kopie, *inhoud).map([&] { return kopie; });
+        .and_then([&](const Pad& kopie) {
+            return SchrijfHeel(schijf, kopie, inhoud).map([&] { return kopie; });
         })
         .map_error([](Fout fout) {
             fout.soort = Foutsoort::GeenReservekopie;
@@ -55,7 +53,7 @@ Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap, const Pad&
     if (*oud == nieuw)
         return {};
     if (*oud && !IsLeeg(**oud) && !magWeg(**oud)) {
-        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand);
+        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand, **oud);
         if (!kopie)
             return Mislukt(kopie);
     }
@@ -73,7 +71,7 @@ Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand, T
     Aanmaak uit{.nieuw = std::move(nieuw)};
     if (!IsLeeg(oud)) {
         uit.inhoud = oud;
-        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand);
+        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand, oud);
         if (!kopie) {
             uit.gemaakt = Mislukt(kopie);
             return uit;

@@ -14,10 +14,11 @@ namespace plexoran {
     return Samen(spelersmap, "Reservekopie");
 }
 
-/// Copies `bestand` to the folder "Reservekopie" in `spelersmap`; returns the path of the copy.
+/// Writes what `bestand` holds, or was to hold, to the folder "Reservekopie" in `spelersmap`;
+/// returns the path of the copy.
 /// Any failure is reported as `GeenReservekopie`.
 [[nodiscard]] Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap,
-                                             const Pad& bestand);
+                                             const Pad& bestand, Tekstblik inhoud);
 
 /// Writes a small file whole. A file that stands there and that `magWeg` does not let go is copied
 /// first, unless it is empty; one that already holds `nieuw` is left alone.

@@ -29,17 +29,6 @@ Tekst SpelersZonderBlancoBegin(Tekstblik oud)
     return {};
 }
 
-Uitkomst<void> SchrijfRegister(Schijf& schijf, const Pad& pad, Register& spelers)
-{
-    auto uitkomst = SchrijfHeel(schijf, pad, SpelersTekst(spelers));
-    if (!StaatOpSchijf(uitkomst))
-        return uitkomst;
-    spelers.kopieNodig = false;
-    const auto stempel = schijf.NeemStempel(pad);
-    spelers.gelezen = stempel ? std::optional(*stempel) : std::nullopt;
-    return uitkomst;
-}
-
 } // namespace
 
 Aanmaak MaakSpelerbestand(Schijf& schijf, const Mappen& mappen, Register& spelers)
@@ -59,19 +48,19 @@ Leesverslag LeesSpelers(Schijf& schijf, const Mappen& mappen, Register& spelers)
 {
     const Pad pad = mappen.Spelerbestand();
     Leesverslag verslag;
-    const auto stempel = AlsErIs(schijf.NeemStempel(pad));
     auto inhoud = schijf.LeesBestand(pad);
-    if (!inhoud || !stempel) {
-        verslag.fout = inhoud ? stempel.error() : inhoud.error();
+    if (!inhoud) {
+        verslag.fout = inhoud.error();
         return verslag;
     }
+    if (spelers.gelezen != *inhoud)
+        spelers.gelezen = *inhoud;
     Spelerlezing lezing = SpelersUit(std::move(*inhoud));
     static_cast<Leesbevinding&>(verslag) = lezing;
     verslag.tabelVervangen = lezing.tabel.has_value();
     if (lezing.tabel)
         spelers.tabel = std::move(*lezing.tabel);
     spelers.HKEY = lezing.HKEY.value_or(spelers.HKEY);
-    spelers.gelezen = *stempel;
     spelers.kopieNodig = lezing.verliest;
     if (verslag.fout)
         verslag.fout->bestand = schijf.Toonpad(pad);
@@ -104,21 +93,27 @@ Uitkomst<void> SchrijfSpelers(Schijf& schijf, const Mappen& mappen, Register& sp
         spelers.HKEY = Sleutelbasis;
 
     const Pad pad = mappen.Spelerbestand();
-    const auto stempel = AlsErIs(schijf.NeemStempel(pad));
-    if (!stempel)
-        return Mislukt(stempel);
-    const bool bestaat = stempel->has_value();
-    const bool gewijzigd = bestaat && spelers.gelezen != *stempel;
-    if (gewijzigd && overschrijven == Overschrijven::AlleenEigen)
-        return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf.Toonpad(pad)});
-    const bool alGekopieerd = spelers.gekopieerd == *stempel; // before a save that failed
-    if (bestaat && (gewijzigd || spelers.kopieNodig) && !alGekopieerd) {
-        const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad);
+    auto oud = spelers.gelezen;
+    if (overschrijven == Overschrijven::OokGewijzigd) {
+        auto nu = AlsErIs(schijf.LeesBestand(pad));
+        if (!nu)
+            return Mislukt(nu);
+        oud = std::move(*nu);
+    }
+    const bool kopieNodig = spelers.kopieNodig || oud != spelers.gelezen;
+    if (oud && kopieNodig && spelers.gekopieerd != oud) { // or else before a save that failed
+        const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad, *oud);
         if (!kopie)
             return Mislukt(kopie);
-        spelers.gekopieerd = *stempel;
+        spelers.gekopieerd = oud;
     }
-    return SchrijfRegister(schijf, pad, spelers);
+    Tekst nieuw = SpelersTekst(spelers);
+    auto uitkomst = VervangOngewijzigd(schijf, pad, nieuw, oud);
+    if (StaatOpSchijf(uitkomst)) {
+        spelers.kopieNodig = false;
+        spelers.gelezen = std::move(nieuw);
+    }
+    return uitkomst;
 }
 
 std::optional<std::int32_t> NieuweSleutel(Register& spelers)

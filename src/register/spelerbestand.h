@@ -38,9 +38,9 @@ struct Spelerlezing : Leesbevinding {
 struct Register {
     Spelertabel tabel;
     std::int32_t HKEY = 0;             ///< highest key ever issued
-    std::optional<Stempel> gelezen;    ///< the file as it was when it was read or written last
-    bool kopieNodig = false;           ///< the next save would lose something that the file holds
-    std::optional<Stempel> gekopieerd; ///< the state of the file of which a copy was made
+    std::optional<Tekst> gelezen;    ///< the file as it was when it was read or written last
+    bool kopieNodig = false;         ///< the next save would lose something that the file holds
+    std::optional<Tekst> gekopieerd; ///< the state of the file of which a copy was made
 };
 
 /// What a read found, for the user.

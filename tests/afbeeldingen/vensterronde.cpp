@@ -13,6 +13,7 @@
 #include "dialogs/diaSortlijst.h"
 #include "dialogs/diaToevoegen.h"
 #include "dialogs/diaVerplaats.h"
+#include "dialogs/frmVergelijk.h"
 #include "dialogs/frmVerwSubgroep.h"
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
@@ -68,6 +69,25 @@ void NeemSorteerlijst(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, const S
                                        return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
                                                         Sorteersoort::NBBgroep);
                                    }},
+                              &hoofdvenster));
+}
+
+/// A player with another number and town, and one whom one side deleted.
+void NeemVergelijking(const Bezoek& bezoek, QWidget& hoofdvenster, const Spelertabel& tabel)
+{
+    if (tabel.Rijen() < 2)
+        return;
+    Rijvelden anders = tabel.Velden(1);
+    anders[Index(Kolom::Telef)] = "06-00000999";
+    anders[Index(Kolom::Plaats)] = "Oud-Merwolde aan de Lange Vaart";
+    Neem(bezoek, frmVergelijk({u"Ook door een ander programma gewijzigd"_s,
+                               u"Een ander programma heeft deze spelers intussen ook gewijzigd. "
+                               "Kies per speler wat in het spelerbestand komt. Waar u niets kiest, "
+                               "komt te staan wat het andere programma ervan maakte; zoals het hier "
+                               "was, wordt het dan in een kopie bewaard."_s,
+                               u"Hier"_s, u"Ander programma"_s},
+                              {{"100001", tabel.Velden(1), anders},
+                               {"100002", std::nullopt, tabel.Velden(2)}},
                               &hoofdvenster));
 }
 
@@ -191,6 +211,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Neem(bezoek, frmUitleg(&hoofdvenster));
     NeemParen(bezoek, administratie, hoofdvenster);
     NeemSorteerlijst(bezoek, hoofdvenster, administratie.spelers.tabel);
+    NeemVergelijking(bezoek, hoofdvenster, administratie.spelers.tabel);
 }
 
 } // namespace plexoran

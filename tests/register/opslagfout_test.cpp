@@ -12,6 +12,9 @@ using namespace plexoran;
 
 namespace {
 
+/// A lock that could not be removed is not waited for.
+[[maybe_unused]] const auto ongeduldig = Slotpoos = {};
+
 const Tekst metVeldTeVeel = "HKEY=100007\r\n1,100001,Gr01-,An,,Bos,,,,,,,,,,,,,te veel\r\n";
 
 /// A save that is tried on a failing disk.
@@ -264,7 +267,8 @@ TEST(Opslagfout, NaEenMislukteSyncVanDeMapIsHetBestandNietVanEenAnder)
     Register spelers = Gelezen(binnen, vijfSpelers);
     spelers.tabel.ZetCel(1, Kolom::Voornaam, "Anna");
     FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
-    schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
+    // Make, rights, write, sync, close, lock, rename, unlock, and then the folder.
+    schijf.FaalBij(9);
     EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::NietVast);
     EXPECT_EQ(binnen.Inhoud(spelerbestand), SpelersTekst(spelers));
     spelers.tabel.ZetCel(1, Kolom::Voornaam, "Annie");

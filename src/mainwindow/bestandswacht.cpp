@@ -1,0 +1,45 @@
+#include "mainwindow/bestandswacht.h"
+
+#include <QApplication>
+
+namespace plexoran {
+
+Bestandswacht::Bestandswacht(Schijf& schijf, QObject* ouder) : QObject(ouder), schijf_(schijf)
+{
+    constexpr int seconde = 1000;
+    startTimer(seconde);
+}
+
+void Bestandswacht::Bewaak(std::vector<Pad> paden)
+{
+    paden_ = std::move(paden);
+    stempels_ = Stempels();
+}
+
+void Bestandswacht::Kijk()
+{
+    auto nu = Stempels();
+    if (nu == stempels_)
+        return;
+    stempels_ = std::move(nu);
+    emit veranderd();
+}
+
+void Bestandswacht::timerEvent(QTimerEvent* /*gebeurtenis*/)
+{
+    if (QApplication::activeModalWidget() == nullptr) // else when that window has gone
+        Kijk();
+}
+
+/// None for a file that is not there, or cannot be looked at now.
+std::vector<std::optional<Stempel>> Bestandswacht::Stempels() const
+{
+    std::vector<std::optional<Stempel>> uit;
+    for (const Pad& pad : paden_) {
+        const auto stempel = schijf_.NeemStempel(pad);
+        uit.push_back(stempel ? std::optional(*stempel) : std::nullopt);
+    }
+    return uit;
+}
+
+} // namespace plexoran

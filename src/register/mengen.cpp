@@ -1,0 +1,324 @@
+#include "register/mengen.h"
+
+#include <algorithm>
+#include <limits>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "platform/tekst/tekst.h"
+
+namespace plexoran {
+namespace {
+
+/// What is compared: the number of a row is only its place, its key is how it is found.
+constexpr std::size_t eersteVeld = Index(Kolom::Groep);
+constexpr int AanHetEind = std::numeric_limits<int>::max();
+
+/// A row of the outcome, which stands on or behind a row of the other program.
+struct Plek {
+    int bij;
+    bool erna;
+    Rijblikken cellen;
+};
+
+/// The row in each of the three states, 0 where it is not; or how many rows there are.
+struct Drie {
+    int basis = 0;
+    int ons = 0;
+    int ander = 0;
+};
+
+/// How many rows with the same contents there are when both sides have added and removed theirs.
+int Blijft(const Drie& aantal)
+{
+    if (aantal.ons == aantal.ander)
+        return aantal.ons;
+    return std::max(0, aantal.ons + aantal.ander - aantal.basis);
+}
+
+bool Gelijk(const Rijblikken& een, const Rijblikken& ander)
+{
+    return std::equal(een.begin() + eersteVeld, een.end(), ander.begin() + eersteVeld);
+}
+
+/// `ander` with what we changed since `basis`; nothing when both changed the same field.
+std::optional<Rijblikken> Samen(const Rijblikken& basis, const Rijblikken& ons, Rijblikken ander)
+{
+    for (std::size_t i = eersteVeld; i < ander.size(); ++i) {
+        if (ander[i] == ons[i] || ons[i] == basis[i])
+            continue;
+        if (ander[i] != basis[i])
+            return std::nullopt;
+        ander[i] = ons[i];
+    }
+    return ander;
+}
+
+class Menger {
+  public:
+    Menger(const Stand& basis, const Stand& ons, const Stand& ander, const std::set<Tekst>& voorOns)
+        : basis_(basis), ons_(ons), ander_(ander), voorOns_(voorOns)
+    {
+        uit_.HKEY = std::max(ons.HKEY, ander.HKEY);
+        Zoek(basis.tabel, &Drie::basis);
+        Zoek(ons.tabel, &Drie::ons);
+        Zoek(ander.tabel, &Drie::ander);
+        Tel(basis.tabel, &Drie::basis);
+        Tel(ons.tabel, &Drie::ons);
+        Tel(ander.tabel, &Drie::ander);
+    }
+
+    Menging Meng()
+    {
+        for (int rij = 1; rij <= ander_.tabel.Rijen(); ++rij)
+            NeemVanAnder(rij);
+        NeemOnze();
+        std::stable_sort(plekken_.begin(), plekken_.end(), [](const Plek& een, const Plek& twee) {
+            return std::pair(een.bij, een.erna) < std::pair(twee.bij, twee.erna);
+        });
+        for (Plek& plek : plekken_) {
+            const Tekst nr = std::to_string(uit_.tabel.Rijen() + 1);
+            plek.cellen[Index(Kolom::Nr)] = nr;
+            uit_.tabel.VoegToe(plek.cellen);
+        }
+        return std::move(uit_);
+    }
+
+  private:
+    void Zoek(const Spelertabel& tabel, int Drie::*kant)
+    {
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+            const Tekstblik key = tabel.Cel(rij, Kolom::Key);
+            int& plaats = opKey_[key].*kant;
+            if (plaats != 0 || !AlsGetal(key, 1))
+                onbruikbaar_.insert(key);
+            plaats = rij;
+        }
+    }
+
+    /// After `Zoek` of all three: a key that stands twice in one state identifies nobody.
+    void Tel(const Spelertabel& tabel, int Drie::*kant)
+    {
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+            if (!HeeftKey(tabel, rij))
+                ++(opInhoud_[Inhoud(tabel, rij)].*kant);
+        }
+    }
+
+    [[nodiscard]] bool HeeftKey(const Spelertabel& tabel, int rij) const
+    {
+        return !onbruikbaar_.contains(tabel.Cel(rij, Kolom::Key));
+    }
+
+    static Rijblikken Cellen(const Spelertabel& tabel, int rij)
+    {
+        Rijblikken uit;
+        for (std::size_t i = 0; i < uit.size(); ++i)
+            uit[i] = tabel.Cel(rij, static_cast<Kolom>(i + 1));
+        return uit;
+    }
+
+    static Tekst Inhoud(const Spelertabel& tabel, int rij)
+    {
+        Tekst uit;
+        tabel.VoegCellenAan(uit, rij);
+        return uit;
+    }
+
+    /// Whether our player is another one than the other program's of the same key: both gave it out
+    /// since the register was read here.
+    [[nodiscard]] bool IsDubbelUitgegeven(const Drie& rijen) const
+    {
+        const auto key = Geheel32(ons_.tabel.Cel(rijen.ons, Kolom::Key));
+        if (rijen.basis != 0 || !key || *key <= basis_.HKEY || *key > ander_.HKEY)
+            return false;
+        return rijen.ander == 0 ||
+               !Gelijk(Cellen(ons_.tabel, rijen.ons), Cellen(ander_.tabel, rijen.ander));
+    }
+
+    void NeemVanAnder(int rij)
+    {
+        if (!HeeftKey(ander_.tabel, rij)) {
+            NeemZonderKey(rij);
+            return;
+        }
+        const Drie& rijen = opKey_.at(ander_.tabel.Cel(rij, Kolom::Key));
+        const Rijblikken ander = Cellen(ander_.tabel, rij);
+        if (rijen.ons == 0 || IsDubbelUitgegeven(rijen)) {
+            NeemZonderOns(rijen, ander);
+            return;
+        }
+        const Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
+        // Of a player that both added, what one left empty counts as filled in by the other.
+        const Rijblikken basis =
+            rijen.basis == 0 ? Rijblikken() : Cellen(basis_.tabel, rijen.basis);
+        auto samen = Samen(basis, ons, ander);
+        if (!samen)
+            samen = Bots(rijen) ? ons : ander;
+        else if (!Gelijk(*samen, ons))
+            uit_.overgenomen.push_back(VolleNaam(ander_.tabel, rij));
+        plekken_.push_back({rij, false, *samen});
+    }
+
+    /// A player whom only the other program has: added there, or deleted here.
+    void NeemZonderOns(const Drie& rijen, const Rijblikken& ander)
+    {
+        if (rijen.basis == 0)
+            uit_.overgenomen.push_back(VolleNaam(ander_.tabel, rijen.ander));
+        else if (Gelijk(Cellen(basis_.tabel, rijen.basis), ander) ||
+                 Bots(rijen))
+            return;
+        plekken_.push_back({rijen.ander, false, ander});
+    }
+
+    /// Of rows with the same contents those stay that come first.
+    void NeemZonderKey(int rij)
+    {
+        const Tekst inhoud = Inhoud(ander_.tabel, rij);
+        const Drie& aantal = opInhoud_.at(inhoud);
+        auto& rijen = onbruikbareVanAnder_[inhoud];
+        rijen.push_back(rij);
+        const int nummer = static_cast<int>(rijen.size());
+        if (nummer > Blijft(aantal))
+            return;
+        if (nummer > aantal.ons)
+            uit_.overgenomen.push_back(VolleNaam(ander_.tabel, rij));
+        plekken_.push_back({rij, false, Cellen(ander_.tabel, rij)});
+    }
+
+    /// Whether ours counts when both sides did something else with a player.
+    bool Bots(const Drie& rijen)
+    {
+        Verschil& botsing = uit_.botsingen.emplace_back();
+        if (rijen.ons != 0)
+            botsing.links = ons_.tabel.Velden(rijen.ons);
+        if (rijen.ander != 0)
+            botsing.rechts = ander_.tabel.Velden(rijen.ander);
+        botsing.key = (botsing.links ? *botsing.links : *botsing.rechts)[Index(Kolom::Key)];
+        return voorOns_.contains(botsing.key);
+    }
+
+    /// Our rows that the other program does not have.
+    void NeemOnze()
+    {
+        int laatsteOude = ons_.tabel.Rijen();
+        while (laatsteOude > 0 && IsNieuw(laatsteOude))
+            --laatsteOude;
+        int bij = 0;
+        for (int rij = 1; rij <= ons_.tabel.Rijen(); ++rij) {
+            const int plaats = rij > laatsteOude ? AanHetEind : bij;
+            if (!HeeftKey(ons_.tabel, rij)) {
+                bij = NeemOnzeZonderKey(rij, bij, plaats);
+                continue;
+            }
+            const Drie& rijen = opKey_.at(ons_.tabel.Cel(rij, Kolom::Key));
+            if (rijen.basis != 0 && rijen.ander == 0)
+                NeemZonderAnder(rijen, plaats);
+            else if (rijen.ander == 0 || IsDubbelUitgegeven(rijen))
+                VoegNieuweToe(rijen, plaats);
+            else
+                bij = rijen.ander;
+        }
+    }
+
+    /// Whether the row was added here since the register was read.
+    [[nodiscard]] bool IsNieuw(int rij) const
+    {
+        if (!HeeftKey(ons_.tabel, rij))
+            return false;
+        const Drie& rijen = opKey_.at(ons_.tabel.Cel(rij, Kolom::Key));
+        return rijen.basis == 0 && (rijen.ander == 0 || IsDubbelUitgegeven(rijen));
+    }
+
+    /// A player whom the other program deleted.
+    void NeemZonderAnder(const Drie& rijen, int plaats)
+    {
+        Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
+        if (Gelijk(Cellen(basis_.tabel, rijen.basis), ons))
+            uit_.overgenomen.push_back(VolleNaam(ons_.tabel, rijen.ons));
+        else if (Bots(rijen))
+            plekken_.push_back({plaats, true, ons});
+    }
+
+    void VoegNieuweToe(const Drie& rijen, int plaats)
+    {
+        Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
+        if (IsDubbelUitgegeven(rijen) && uit_.HKEY < std::numeric_limits<std::int32_t>::max()) {
+            Tekstblik& key = ons[Index(Kolom::Key)];
+            uit_.hernummerd.push_back({Tekst(key), std::to_string(++uit_.HKEY)});
+            key = uit_.hernummerd.back().nu;
+        }
+        plekken_.push_back({plaats, true, ons});
+    }
+
+    /// Rows with the same contents that the other program does not have, as far as they stay.
+    /// Returns behind which of its rows we are now.
+    int NeemOnzeZonderKey(int rij, int bij, int plaats)
+    {
+        const Tekst inhoud = Inhoud(ons_.tabel, rij);
+        const Drie& aantal = opInhoud_.at(inhoud);
+        const int nummer = ++onzeGenomen_[inhoud];
+        if (nummer <= aantal.ander)
+            return onbruikbareVanAnder_[inhoud][static_cast<std::size_t>(nummer - 1)];
+        if (nummer <= Blijft(aantal))
+            plekken_.push_back({plaats, true, Cellen(ons_.tabel, rij)});
+        else
+            uit_.overgenomen.push_back(VolleNaam(ons_.tabel, rij));
+        return bij;
+    }
+
+    const Stand& basis_;
+    const Stand& ons_;
+    const Stand& ander_;
+    const std::set<Tekst>& voorOns_;
+    std::unordered_map<Tekstblik, Drie> opKey_;
+    std::unordered_set<Tekstblik> onbruikbaar_; ///< keys that tell no players apart
+    std::unordered_map<Tekst, Drie> opInhoud_;  ///< how many of the rows without a usable key
+    std::unordered_map<Tekst, std::vector<int>> onbruikbareVanAnder_; ///< its rows, by contents
+    std::unordered_map<Tekst, int> onzeGenomen_;
+    std::vector<Plek> plekken_;
+    Menging uit_;
+};
+
+} // namespace
+
+Menging Meng(const Stand& basis, const Stand& ons, const Stand& ander,
+             const std::set<Tekst>& voorOns)
+{
+    return Menger(basis, ons, ander, voorOns).Meng();
+}
+
+Uitkomst<AnderRegister> AnderRegister::Lees(Schijf& schijf, const Mappen& mappen)
+{
+    return schijf.LeesBestand(mappen.Spelerbestand()).map([](Tekst inhoud) {
+        AnderRegister uit;
+        uit.lezing_ = SpelersUit(inhoud);
+        uit.inhoud_ = std::move(inhoud);
+        return uit;
+    });
+}
+
+bool AnderRegister::IsHeel(const Register& ons) const
+{
+    return lezing_.tabel && !lezing_.fout &&
+           (lezing_.tabel->Rijen() > 0 || ons.tabel.Rijen() == 0);
+}
+
+Menging AnderRegister::MengMet(const Register& ons, const std::set<Tekst>& voorOns) const
+{
+    const Spelerlezing basis = SpelersUit(ons.gelezen.value_or(Tekst()));
+    const Spelertabel basistabel = basis.tabel.value_or(Spelertabel());
+    return Meng({basistabel, basis.HKEY.value_or(Sleutelbasis)},
+                {ons.tabel, ons.HKEY}, {*lezing_.tabel, lezing_.HKEY.value_or(Sleutelbasis)},
+                voorOns);
+}
+
+void AnderRegister::NeemOver(Register& ons, Menging menging) const
+{
+    ons.tabel = std::move(menging.tabel);
+    ons.HKEY = menging.HKEY;
+    ons.gelezen = inhoud_;
+    ons.kopieNodig = lezing_.verliest;
+}
+
+} // namespace plexoran
