@@ -43,10 +43,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
     const Tekst alles = AlsTekst(data, lengte);
     const auto een = std::min(alles.find('\0'), alles.size());
     const auto twee = std::min(alles.find('\0', een + 1), alles.size());
-    const std::array lezingen{SpelersUit(alles.substr(0, een)),
-                              SpelersUit(een < alles.size() ? alles.substr(een + 1, twee - een - 1)
-                                                            : Tekst()),
-                              SpelersUit(twee < alles.size() ? alles.substr(twee + 1) : Tekst())};
+    const std::array lezingen{
+        SpelersUit(alles.substr(0, een)),
+        SpelersUit(een < alles.size() ? alles.substr(een + 1, twee - een - 1) : Tekst()),
+        SpelersUit(twee < alles.size() ? alles.substr(twee + 1) : Tekst())};
     std::vector<Spelertabel> tabellen;
     std::vector<std::int32_t> hoogste;
     for (const Spelerlezing& lezing : lezingen) {

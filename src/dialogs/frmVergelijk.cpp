@@ -65,8 +65,8 @@ frmVergelijk::frmVergelijk(const Vergelijking& teksten, const std::vector<Versch
 void frmVergelijk::VoegToe(const Verschil& verschil)
 {
     keys_.push_back(verschil.key);
-    auto* speler = new QTreeWidgetItem(lstVerschillen, {Wie(verschil), Toestand(verschil.links),
-                                                        Toestand(verschil.rechts)});
+    auto* speler = new QTreeWidgetItem(
+        lstVerschillen, {Wie(verschil), Toestand(verschil.links), Toestand(verschil.rechts)});
     for (const int kolom : {KolomLinks, KolomRechts})
         speler->setCheckState(kolom, Qt::Unchecked);
     for (auto i = Index(Kolom::Groep); i < AantalKolommen; ++i) {

@@ -148,8 +148,7 @@ void frmLedenAdmin::VolgBestanden()
 bool frmLedenAdmin::VolgGroepsnamen()
 {
     Groepen groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
-    if (!groepen.bestandstekst ||
-        groepen.bestandstekst == administratie_.groepen.bestandstekst)
+    if (!groepen.bestandstekst || groepen.bestandstekst == administratie_.groepen.bestandstekst)
         return false;
     administratie_.groepen = std::move(groepen);
     const int plaats = cmbGr->currentIndex();

@@ -240,8 +240,8 @@ Uitkomst<void> Spelersopslag::MengMetSchijf()
         const bool gekozen = venster.exec() == QDialog::Accepted;
         const auto voorOns = gekozen ? venster.Links() : std::set<Tekst>();
         if (!gekozen || voorOns.size() + venster.Rechts().size() < aantal) {
-            const auto kopie = MaakReservekopie(schijf, administratie_.mappen.SPEMAP, pad,
-                                                SpelersTekst(spelers));
+            const auto kopie =
+                MaakReservekopie(schijf, administratie_.mappen.SPEMAP, pad, SpelersTekst(spelers));
             if (!kopie)
                 return Mislukt(kopie);
             nieuws_ << u"Waar u niets koos, staat in het spelerbestand wat het andere programma "
@@ -314,9 +314,10 @@ void Spelersopslag::ZetVerslagenTerug()
         terug = (verslag.Staat() && ZetTerugOfMeld(verslag, venster_)) || terug;
     if (!terug)
         return;
-    Meld(venster_, QMessageBox::Information,
-         u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van hun "
-         "zitting weer zoals het was. Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s);
+    Meld(
+        venster_, QMessageBox::Information,
+        u"De nieuwe spelers staan niet in het spelerbestand. Daarom is 'Koppelverslag.txt' van hun "
+        "zitting weer zoals het was. Het wordt opnieuw geschreven zodra ze zijn opgeslagen."_s);
 }
 
 bool Spelersopslag::MagEindigen()

@@ -48,8 +48,8 @@ class Spelersopslag {
     Opslag SlaOp();
     /// A link file that names players whom the next save must bring into the register.
     void Bewaak(Koppelverslag verslag) { verslagen_.push_back(std::move(verslag)); }
-    /// Takes over what another program made of the player file, when nothing is unsaved here and all
-    /// of it can be read; whether there was anything new.
+    /// Takes over what another program made of the player file, when nothing is unsaved here and
+    /// all of it can be read; whether there was anything new.
     [[nodiscard]] bool NeemAndereOver();
     /// Whether the program may end, asked where that would lose changes.
     [[nodiscard]] bool MagEindigen();
@@ -64,7 +64,7 @@ class Spelersopslag {
     QWidget* venster_;
     std::function<void()> toon_;
     std::vector<Koppelverslag> verslagen_; ///< whose new players are not known to be saved
-    QStringList nieuws_; ///< to tell when the save is done
+    QStringList nieuws_;                   ///< to tell when the save is done
 };
 
 } // namespace plexoran

@@ -165,8 +165,7 @@ class Menger {
     {
         if (rijen.basis == 0)
             uit_.overgenomen.push_back(VolleNaam(ander_.tabel, rijen.ander));
-        else if (Gelijk(Cellen(basis_.tabel, rijen.basis), ander) ||
-                 Bots(rijen))
+        else if (Gelijk(Cellen(basis_.tabel, rijen.basis), ander) || Bots(rijen))
             return;
         plekken_.push_back({rijen.ander, false, ander});
     }
@@ -300,17 +299,15 @@ Uitkomst<AnderRegister> AnderRegister::Lees(Schijf& schijf, const Mappen& mappen
 
 bool AnderRegister::IsHeel(const Register& ons) const
 {
-    return lezing_.tabel && !lezing_.fout &&
-           (lezing_.tabel->Rijen() > 0 || ons.tabel.Rijen() == 0);
+    return lezing_.tabel && !lezing_.fout && (lezing_.tabel->Rijen() > 0 || ons.tabel.Rijen() == 0);
 }
 
 Menging AnderRegister::MengMet(const Register& ons, const std::set<Tekst>& voorOns) const
 {
     const Spelerlezing basis = SpelersUit(ons.gelezen.value_or(Tekst()));
     const Spelertabel basistabel = basis.tabel.value_or(Spelertabel());
-    return Meng({basistabel, basis.HKEY.value_or(Sleutelbasis)},
-                {ons.tabel, ons.HKEY}, {*lezing_.tabel, lezing_.HKEY.value_or(Sleutelbasis)},
-                voorOns);
+    return Meng({basistabel, basis.HKEY.value_or(Sleutelbasis)}, {ons.tabel, ons.HKEY},
+                {*lezing_.tabel, lezing_.HKEY.value_or(Sleutelbasis)}, voorOns);
 }
 
 void AnderRegister::NeemOver(Register& ons, Menging menging) const

@@ -37,7 +37,7 @@ struct Spelerlezing : Leesbevinding {
 /// The register in memory and what is known of its file.
 struct Register {
     Spelertabel tabel;
-    std::int32_t HKEY = 0;             ///< highest key ever issued
+    std::int32_t HKEY = 0;           ///< highest key ever issued
     std::optional<Tekst> gelezen;    ///< the file as it was when it was read or written last
     bool kopieNodig = false;         ///< the next save would lose something that the file holds
     std::optional<Tekst> gekopieerd; ///< the state of the file of which a copy was made

@@ -80,15 +80,16 @@ void NeemVergelijking(const Bezoek& bezoek, QWidget& hoofdvenster, const Spelert
     Rijvelden anders = tabel.Velden(1);
     anders[Index(Kolom::Telef)] = "06-00000999";
     anders[Index(Kolom::Plaats)] = "Oud-Merwolde aan de Lange Vaart";
-    Neem(bezoek, frmVergelijk({u"Ook door een ander programma gewijzigd"_s,
-                               u"Een ander programma heeft deze spelers intussen ook gewijzigd. "
-                               "Kies per speler wat in het spelerbestand komt. Waar u niets kiest, "
-                               "komt te staan wat het andere programma ervan maakte; zoals het hier "
-                               "was, wordt het dan in een kopie bewaard."_s,
-                               u"Hier"_s, u"Ander programma"_s},
-                              {{"100001", tabel.Velden(1), anders},
-                               {"100002", std::nullopt, tabel.Velden(2)}},
-                              &hoofdvenster));
+    Neem(bezoek,
+         frmVergelijk(
+             {u"Ook door een ander programma gewijzigd"_s,
+              u"Een ander programma heeft deze spelers intussen ook gewijzigd. "
+              "Kies per speler wat in het spelerbestand komt. Waar u niets kiest, "
+              "komt te staan wat het andere programma ervan maakte; zoals het hier "
+              "was, wordt het dan in een kopie bewaard."_s,
+              u"Hier"_s, u"Ander programma"_s},
+             {{"100001", tabel.Velden(1), anders}, {"100002", std::nullopt, tabel.Velden(2)}},
+             &hoofdvenster));
 }
 
 /// The sample exports, where the suite has them.

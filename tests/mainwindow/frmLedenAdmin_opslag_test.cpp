@@ -55,7 +55,8 @@ class OpslagTest : public testing::Test, protected Suitestand {
     {
         wachter.Verwacht(
             {.tekst =
-                 u"Een ander programma heeft het spelerbestand gewijzigd, en wat er nu in staat kan "
+                 u"Een ander programma heeft het spelerbestand gewijzigd, en wat er nu in staat "
+                 u"kan "
                  "niet helemaal worden ingelezen.\n\nOpnieuw proberen: als dat programma nog bezig "
                  "was, is het daarna goed.\nOpslaan: de spelers van hier vervangen dat bestand; er "
                  "komt eerst een kopie van in de map Reservekopie.\nLater beslissen: er verandert "
@@ -224,9 +225,7 @@ TEST_F(OpslagTest, EenSleutelDieOokEenAnderUitgafKomtNietTweeKeer)
 
 TEST_F(OpslagTest, WaarBeideIetsAndersVanMaaktenKiestDeGebruiker)
 {
-    const auto zet = [&](const std::string& telef) {
-        return "Willem,van der,Horst," + telef;
-    };
+    const auto zet = [&](const std::string& telef) { return "Willem,van der,Horst," + telef; };
     for (const int keus : {0, 1, 2}) { // here, the other, neither
         SCOPED_TRACE(keus);
         suite.Zet("Spelers/RVDspelers.txt", oud);
@@ -704,9 +703,8 @@ TEST_F(Volgen, NieuweSpelersKomenErMeteenBijEnDeKeusEnDePlaatsBlijven)
     const std::string key = GekozenSleutel();
     const int hoogte = Balk("VScroll1")->value();
     const int regels = Label("Label3")->text().section(u' ', -1).toInt();
-    Zet("Spelers/RVDspelers.txt", MetEenErvoor(), [&] {
-        return Aantal() == "Aantal regels: " + std::to_string(regels + 1);
-    });
+    Zet("Spelers/RVDspelers.txt", MetEenErvoor(),
+        [&] { return Aantal() == "Aantal regels: " + std::to_string(regels + 1); });
     EXPECT_EQ(10, GekozenRegel());
     EXPECT_EQ(key, GekozenSleutel());
     EXPECT_EQ(hoogte, Balk("VScroll1")->value());
@@ -737,7 +735,8 @@ TEST_F(Volgen, AndereGroepsnamenStaanInDeKeuslijst)
     KiesGroep(3);
     std::string tekst = suite.Groepen();
     tekst.replace(0, tekst.find('\r'), "Gr01-Anders");
-    Zet("Spelers/RVDGroepen.txt", tekst, [&] { return Keus("cmbGr")->itemText(0) == u"Gr01-Anders"; });
+    Zet("Spelers/RVDGroepen.txt", tekst,
+        [&] { return Keus("cmbGr")->itemText(0) == u"Gr01-Anders"; });
     EXPECT_EQ(3, GetoondeGroep());
 }
 
