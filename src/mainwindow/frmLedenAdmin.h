@@ -47,6 +47,7 @@ class frmLedenAdmin : public QMainWindow {
   private:
     // Building (frmLedenAdmin_bouw.cpp)
     void Bouw();
+    void BouwMenu();
     QWidget* BouwBovenkant();
     QWidget* BouwOpdrachten();
     QLayout* BouwSpelerkolom();

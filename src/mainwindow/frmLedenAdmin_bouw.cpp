@@ -2,6 +2,7 @@
 // which Tab goes through them, as the eye reads: the top, the grid, then the columns of commands
 // from left to right.
 #include <QGridLayout>
+#include <QMenuBar>
 #include <QShortcut>
 
 #include <algorithm>
@@ -88,8 +89,19 @@ void frmLedenAdmin::Bouw()
     lagen->addLayout(roosterrij, 1);
     lagen->addWidget(BouwOpdrachten());
     setCentralWidget(new Schuifblad(midden, this));
-    PasInScherm(this, maten_.Twips(15360, 10500));
+    BouwMenu();
+    // The bar stands above what the window is made for.
+    PasInScherm(this, maten_.Twips(15360, 10500) + QSize(0, menuBar()->sizeHint().height()));
     VerbindToetsen();
+}
+
+/// The letters of the buttons leave few for the menus: the first has its keys in its actions.
+void frmLedenAdmin::BouwMenu()
+{
+    auto* mnuBewerken = menuBar()->addMenu(u"Bewerken"_s);
+    mnuBewerken->setObjectName(u"mnuBewerken"_s);
+    auto* mnuExtra = menuBar()->addMenu(u"E&xtra"_s);
+    mnuExtra->setObjectName(u"mnuExtra"_s);
 }
 
 QWidget* frmLedenAdmin::BouwBovenkant()

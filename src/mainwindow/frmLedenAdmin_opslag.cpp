@@ -152,7 +152,7 @@ const Vergelijking Botsingtekst{
     u"Ook door een ander programma gewijzigd"_s,
     u"Een ander programma heeft deze spelers intussen ook gewijzigd. Kies per speler wat in het "
     "spelerbestand komt. Waar u niets kiest, komt te staan wat het andere programma ervan maakte; "
-    "zoals het hier was, wordt het dan in een kopie bewaard."_s,
+    "zoals het hier was, komt het dan in een kopie."_s,
     u"Hier"_s, u"Ander programma"_s};
 
 } // namespace

@@ -743,15 +743,17 @@ TEST_F(Volgen, AndereGroepsnamenStaanInDeKeuslijst)
 TEST_F(Volgen, WatHierNogNietIsOpgeslagenGaatVoor)
 {
     schijf.FaalVanaf(1);
+    VerwachtIngave(u"Nieuweling"_s);
     wachter.Begin(nietOpgeslagen, QMessageBox::Critical, Doorgaan);
-    VoegToe(u"Nieuweling"_s);
+    Opdracht("cmdAanm");
     schijf.FaalNiet();
     const std::string was = Aantal();
     suite.Zet("Spelers/RVDspelers.txt", MetEenErvoor());
     QTest::qWait(1500);
     EXPECT_EQ(was, Aantal());
+    VerwachtIngave(u"Tweede"_s);
     wachter.Informatie(u"1 speler van een ander programma overgenomen: An Buiten."_s);
-    VoegToe(u"Tweede"_s);
+    Opdracht("cmdAanm");
     EXPECT_NE(std::string::npos, suite.Spelers().find(",An,,Buiten,"));
     EXPECT_NE(std::string::npos, suite.Spelers().find("Nieuweling"));
 }

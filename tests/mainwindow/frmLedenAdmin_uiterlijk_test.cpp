@@ -106,10 +106,13 @@ TEST_F(UiterlijkTest, DePlaatsenBovenaan)
     Start();
     const Maten maten;
     ASSERT_EQ(100, maten.Twips(1500)) << "de letter van de tests is de standaard";
-    EXPECT_EQ(QPoint(maten.Twips(7000), maten.Twips(200)), Plek(Label("Label1")).topLeft());
-    EXPECT_EQ(QPoint(maten.Twips(7000), maten.Twips(500)), Plek(Keus("cmbGr")).topLeft());
+    const int onderMenu = venster->centralWidget()->y();
+    EXPECT_EQ(QPoint(maten.Twips(7000), onderMenu + maten.Twips(200)),
+              Plek(Label("Label1")).topLeft());
+    EXPECT_EQ(QPoint(maten.Twips(7000), onderMenu + maten.Twips(500)),
+              Plek(Keus("cmbGr")).topLeft());
     const QRect namen = Plek(Knop("cmdMaakGrNamen"));
-    EXPECT_EQ(maten.Twips(400), namen.top());
+    EXPECT_EQ(onderMenu + maten.Twips(400), namen.top());
     EXPECT_EQ(Plek(Keus("cmbGr")).right() + 1 + maten.Twips(200), namen.left());
     EXPECT_EQ(namen.left(), Plek(Vink("chkKolBr")).left());
 }
@@ -146,7 +149,8 @@ TEST_F(UiterlijkTest, NietsIsAfgekniptMetGrotereLetters)
         KiesGroep(5);
         QApplication::processEvents();
         // As small as it may be without scrolling.
-        venster->resize(Vind<QScrollArea>(*venster, "schuifblad")->widget()->minimumSizeHint());
+        venster->resize(Vind<QScrollArea>(*venster, "schuifblad")->widget()->minimumSizeHint() +
+                        QSize(0, venster->centralWidget()->y()));
         QApplication::processEvents();
         VerwachtNietsAfgeknipt();
         VerwachtNetjesNaastElkaar();
