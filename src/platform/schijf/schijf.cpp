@@ -215,8 +215,12 @@ Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad)
 Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
                            Houdbaarheid houdbaarheid)
 {
-    return Vervang(schijf, pad, inhoud, houdbaarheid,
-                   [&](const Pad& nieuw, const Pad& doel) { return schijf.Hernoem(nieuw, doel); });
+    const auto ruil = [&](const Pad& nieuw, const Pad& doel) {
+        if (schijf.DeGetuige() != nullptr && houdbaarheid == Houdbaarheid::Blijvend)
+            schijf.DeGetuige()->VoorVervanging(pad, inhoud);
+        return schijf.Hernoem(nieuw, doel);
+    };
+    return Vervang(schijf, pad, inhoud, houdbaarheid, ruil);
 }
 
 Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
@@ -229,6 +233,8 @@ Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inho
                 return Mislukt(nu);
             if (*nu && *nu != oud)
                 return Mislukt({.soort = Foutsoort::Gewijzigd});
+            if (schijf.DeGetuige() != nullptr)
+                schijf.DeGetuige()->VoorVervanging(pad, inhoud);
             return schijf.Hernoem(nieuw, doel);
         });
     };

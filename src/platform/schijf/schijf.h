@@ -53,9 +53,21 @@ class Schrijver {
     [[nodiscard]] virtual Uitkomst<void> Sluit() = 0;
 };
 
+/// Hears of every file that is about to be replaced for good, when all else has succeeded.
+class Getuige {
+  public:
+    virtual ~Getuige() = default;
+    /// Without `nieuw` the file is about to be removed.
+    virtual void VoorVervanging(const Pad& pad, std::optional<Tekstblik> nieuw) = 0;
+};
+
 class Schijf {
   public:
     virtual ~Schijf() = default;
+
+    /// None to begin with.
+    void ZetGetuige(Getuige* getuige) { getuige_ = getuige; }
+    [[nodiscard]] Getuige* DeGetuige() const { return getuige_; }
 
     /// What stands at the path. A path that cannot be looked at is an error, not `Niets`.
     [[nodiscard]] virtual Uitkomst<Padsoort> Soort(const Pad& pad) = 0;
@@ -89,6 +101,9 @@ class Schijf {
 
     /// The path as the system writes it, UTF-8, for messages only.
     [[nodiscard]] virtual std::string Toonpad(const Pad& pad) const = 0;
+
+  private:
+    Getuige* getuige_ = nullptr;
 };
 
 /// Reads a file of at most 64 MB. A larger one is none of the suite's and is refused as

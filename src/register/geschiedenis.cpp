@@ -1,0 +1,418 @@
+#include "register/geschiedenis.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <set>
+
+#include "platform/tekst/regels.h"
+
+namespace plexoran {
+namespace {
+
+constexpr Tekstblik Achtervoegsel = ".txt";
+constexpr Tekstblik Eindregel = "einde";
+
+/// Where files of the suite stand; the first that fits counts.
+constexpr std::array<std::pair<Tekstblik, Tekst Mappen::*>, 4> Wortels{
+    {{"SPEMAP", &Mappen::SPEMAP},
+     {"ZITMAP", &Mappen::ZITMAP},
+     {"COMMAP", &Mappen::COMMAP},
+     {"RVDMAP", &Mappen::RVDMAP}}};
+
+/// In these folders stand copies and what is made for other programs.
+constexpr std::array<Tekstblik, 3> Buiten{"\\Reservekopie\\", "\\Geschiedenis\\",
+                                          "\\DiverseUitvoer\\"};
+
+Pad Geschiedenismap(const Mappen& mappen)
+{
+    return Samen(mappen.SPEMAP, "Geschiedenis");
+}
+
+/// What is on a line behind its word.
+std::optional<Tekstblik> Achter(Tekstblik woord, Tekstblik regel)
+{
+    if (!regel.starts_with(woord) || regel.size() <= woord.size() || regel[woord.size()] != ' ')
+        return std::nullopt;
+    return regel.substr(woord.size() + 1);
+}
+
+Tekst Kopregel(Tekstblik woord, Tekst waarde)
+{
+    std::replace_if(
+        waarde.begin(), waarde.end(), [](char teken) { return teken == '\r' || teken == '\n'; },
+        ' ');
+    return Tekst(woord) + " " + waarde + "\r\n";
+}
+
+Tekst Bestandsnaam(Tekst naam)
+{
+    const auto gewoon = [](char teken) {
+        return (teken >= 'a' && teken <= 'z') || (teken >= 'A' && teken <= 'Z') ||
+               (teken >= '0' && teken <= '9') || teken == '-';
+    };
+    std::replace_if(naam.begin(), naam.end(), std::not_fn(gewoon), '_');
+    return naam;
+}
+
+/// Reads the entries of a file off it, line by line.
+class Lezer {
+  public:
+    Lezer(Tekstblik inhoud, Tekstblik naam) : rest_(inhoud), naam_(naam) {}
+
+    std::vector<Handeling> Lees()
+    {
+        while (const auto regel = Volgende()) {
+            if (const auto nummer = Achter("handeling", *regel))
+                NeemOp({.id = Tekst(naam_) + " " + Tekst(*nummer)});
+            else if (const auto bestand = Achter("bestand", *regel)) {
+                if (!LeesBestand(*bestand))
+                    break;
+            } else
+                LeesKop(*regel);
+        }
+        NeemOp({});
+        return std::move(uit_);
+    }
+
+  private:
+    /// A line with its end; one without an end was torn off.
+    std::optional<Tekstblik> VolgendeRauw()
+    {
+        const auto eind = rest_.find('\n');
+        if (eind == Tekstblik::npos)
+            return std::nullopt;
+        const Tekstblik regel = rest_.substr(0, eind + 1);
+        rest_.remove_prefix(eind + 1);
+        return regel;
+    }
+
+    std::optional<Tekstblik> Volgende()
+    {
+        auto regel = VolgendeRauw();
+        if (regel)
+            regel->remove_suffix(regel->ends_with("\r\n") ? 2 : 1);
+        return regel;
+    }
+
+    /// What was read counts from its first whole file on. An undoing counts without.
+    void NeemOp(Handeling volgende)
+    {
+        if (!handeling_.wijzigingen.empty() || !handeling_.hoort.empty())
+            uit_.push_back(std::move(handeling_));
+        handeling_ = std::move(volgende);
+    }
+
+    void LeesKop(Tekstblik regel)
+    {
+        for (const auto& [woord, veld] : std::initializer_list<std::pair<Tekstblik, Tekst*>>{
+                 {"tijd", &handeling_.tijd},
+                 {"computer", &handeling_.computer},
+                 {"gebruiker", &handeling_.gebruiker},
+                 {"wat", &handeling_.wat}}) {
+            if (const auto waarde = Achter(woord, regel))
+                *veld = *waarde;
+        }
+        for (const auto& [woord, soort] : {std::pair("ongedaan", Handelingsoort::Ongedaan),
+                                           std::pair("opnieuw", Handelingsoort::Opnieuw)}) {
+            if (const auto id = Achter(woord, regel)) {
+                handeling_.soort = soort;
+                handeling_.hoort = *id;
+            }
+        }
+    }
+
+    /// False when its end is not there.
+    bool LeesBestand(Tekstblik plaats)
+    {
+        Wijziging uit{.plaats = Tekst(plaats), .voor = Tekst(), .na = Tekst()};
+        char vorige = ' ';
+        while (const auto regel = VolgendeRauw()) {
+            const Tekstblik rest = regel->substr(1);
+            if (regel->starts_with(Eindregel)) {
+                handeling_.wijzigingen.push_back(std::move(uit));
+                return true;
+            }
+            if (regel->starts_with("geen voor"))
+                uit.voor.reset();
+            else if (regel->starts_with("geen na"))
+                uit.na.reset();
+            else if (regel->front() == '\\')
+                KortIn(uit, vorige);
+            else
+                Verleng(uit, regel->front(), rest);
+            vorige = regel->front();
+        }
+        return false;
+    }
+
+    static void Verleng(Wijziging& uit, char teken, Tekstblik regel)
+    {
+        if (teken != '+' && uit.voor)
+            *uit.voor += regel;
+        if (teken != '-' && uit.na)
+            *uit.na += regel;
+    }
+
+    /// The line before has no end of its own.
+    static void KortIn(Wijziging& uit, char teken)
+    {
+        if (teken != '+' && uit.voor && !uit.voor->empty())
+            uit.voor->pop_back();
+        if (teken != '-' && uit.na && !uit.na->empty())
+            uit.na->pop_back();
+    }
+
+    Tekstblik rest_;
+    Tekstblik naam_;
+    Handeling handeling_;
+    std::vector<Handeling> uit_;
+};
+
+} // namespace
+
+Pad Wijziging::PadIn(const Mappen& mappen) const
+{
+    const auto streep = std::min(plaats.find('\\'), plaats.size() - 1);
+    for (const auto& [naam, map] : Wortels) {
+        if (naam == plaats.substr(0, streep) && !(mappen.*map).empty())
+            return Samen(mappen.*map, plaats.substr(streep + 1));
+    }
+    return {};
+}
+
+std::vector<Handeling> HandelingenUit(Tekstblik inhoud, Tekstblik naam)
+{
+    return Lezer(inhoud, naam).Lees();
+}
+
+void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem)
+{
+    const Pad map = Geschiedenismap(mappen);
+    auto namen = schijf.Bestanden(map).value_or(std::vector<Tekst>());
+    std::sort(namen.begin(), namen.end(), std::greater());
+    for (const Tekst& naam : namen) {
+        const auto inhoud = schijf.LeesBestand(Samen(map, naam));
+        if (!inhoud || !naam.ends_with(Achtervoegsel))
+            continue;
+        auto handelingen = HandelingenUit(*inhoud, naam);
+        for (auto handeling = handelingen.rbegin(); handeling != handelingen.rend(); ++handeling) {
+            if (!neem(*handeling))
+                return;
+        }
+    }
+}
+
+Menging DraaiSpelersTerug(const Register& nu, const Wijziging& wijziging, Handelingsoort soort)
+{
+    const bool terug = soort == Handelingsoort::Ongedaan;
+    const auto tabel = [](const std::optional<Tekst>& tekst) {
+        return SpelersUit(tekst.value_or(Tekst())).tabel.value_or(Spelertabel());
+    };
+    const Spelertabel van = tabel(terug ? wijziging.na : wijziging.voor);
+    const Spelertabel naar = tabel(terug ? wijziging.voor : wijziging.na);
+    // What comes back has its own key: it is nobody else's, however high it is.
+    return Meng({van, std::numeric_limits<std::int32_t>::max()}, {naar, 0}, {nu.tabel, nu.HKEY});
+}
+
+Geschiedenis::~Geschiedenis()
+{
+    if (mappen_ != nullptr)
+        schijf_.ZetGetuige(nullptr);
+}
+
+void Geschiedenis::Open(const Mappen& mappen, Tekst computer, Tekst gebruiker)
+{
+    mappen_ = &mappen;
+    computer_ = std::move(computer);
+    gebruiker_ = std::move(gebruiker);
+    schijf_.ZetGetuige(this);
+}
+
+void Geschiedenis::Begin(Tekst wat, Handelingsoort soort, Tekst hoort)
+{
+    if (!uitgesteld_.empty())
+        wat.insert(0, uitgesteld_ + "; ");
+    handeling_ = {.wat = std::move(wat), .soort = soort, .hoort = std::move(hoort)};
+    begonnen_ = false;
+    bezig_ = true;
+}
+
+void Geschiedenis::StelUit()
+{
+    if (!begonnen_)
+        uitgesteld_ = handeling_.wat;
+}
+
+void Noteer::Leg() const
+{
+    if (!geschiedenis_.begonnen_)
+        geschiedenis_.Schrijf(geschiedenis_.Kop());
+}
+
+void Noteer::Noem(Tekst wat)
+{
+    geschiedenis_.handeling_.wat = std::move(wat);
+    if (geschiedenis_.begonnen_)
+        geschiedenis_.Schrijf(Kopregel("wat", geschiedenis_.handeling_.wat));
+}
+
+std::optional<Tekst> Geschiedenis::PlaatsVan(const Pad& pad) const
+{
+    if (mappen_ == nullptr || pad == mappen_->Instellingenbestand())
+        return std::nullopt;
+    for (const Tekstblik map : Buiten) {
+        if (pad.find(map) != Pad::npos)
+            return std::nullopt;
+    }
+    for (const auto& [naam, wortel] : Wortels) {
+        const Tekst map = mappen_->*wortel + "\\";
+        if (map.size() > 1 && pad.starts_with(map))
+            return Samen(naam, pad.substr(map.size()));
+    }
+    return std::nullopt;
+}
+
+Tekst Geschiedenis::Kop() const
+{
+    Tekst uit = Kopregel("handeling", std::to_string(nummer_ + 1)) +
+                Kopregel("tijd", Tijdtekst("yyyy-MM-dd HH:mm:ss")) +
+                Kopregel("computer", computer_) + Kopregel("gebruiker", gebruiker_) +
+                Kopregel("wat", handeling_.wat);
+    if (handeling_.soort != Handelingsoort::Gewoon)
+        uit += Kopregel(handeling_.soort == Handelingsoort::Ongedaan ? "ongedaan" : "opnieuw",
+                        handeling_.hoort);
+    return uit;
+}
+
+void Geschiedenis::VoorVervanging(const Pad& pad, std::optional<Tekstblik> nieuw)
+{
+    const auto plaats = PlaatsVan(pad);
+    if (!plaats)
+        return;
+    const auto oud = AlsErIs(schijf_.LeesBestand(pad));
+    if (!oud) {
+        fout_ = oud.error();
+        return;
+    }
+    const bool spelers = pad == mappen_->Spelerbestand();
+    const Tekst verschil =
+        Regelverschil(oud->value_or(Tekst()), nieuw.value_or(Tekstblik()), !spelers);
+    if (verschil.empty() && oud->has_value() == nieuw.has_value())
+        return;
+    const bool los = !bezig_;
+    if (los)
+        Begin(*plaats + " gewijzigd", Handelingsoort::Gewoon, {});
+    Tekst regels = begonnen_ ? Tekst() : Kop();
+    regels += Kopregel("bestand", *plaats);
+    if (!*oud)
+        regels += "geen voor\r\n";
+    if (!nieuw)
+        regels += "geen na\r\n";
+    regels += verschil;
+    regels.append(Eindregel).append("\r\n");
+    Schrijf(regels);
+    bezig_ = !los;
+}
+
+/// Kept even when the power fails right after it. What could not be written whole is passed over
+/// when the file is read; what comes after it goes to another file.
+void Geschiedenis::Schrijf(Tekstblik regels)
+{
+    auto geschreven = schrijver_ ? Uitkomst<void>() : OpenBestand();
+    geschreven = geschreven.and_then([&] { return schrijver_->Schrijf(regels); }).and_then([&] {
+        return schrijver_->Sync();
+    });
+    if (!geschreven) {
+        fout_ = geschreven.error();
+        schrijver_.reset();
+        return;
+    }
+    nummer_ += begonnen_ ? 0 : 1;
+    begonnen_ = bezig_;
+    uitgesteld_.clear();
+}
+
+Uitkomst<void> Geschiedenis::OpenBestand()
+{
+    const Pad map = Geschiedenismap(*mappen_);
+    const Pad basis = Samen(map, Tijdtekst("yyyy-MM-dd HHmmss ") + Bestandsnaam(computer_));
+    Pad pad = basis + Tekst(Achtervoegsel);
+    return schijf_.MaakMap(map)
+        .and_then([&] { return schijf_.SyncMapVan(map); })
+        .and_then([&]() -> Uitkomst<void> {
+            constexpr int meeste = 100;
+            for (int nummer = 2;; ++nummer) {
+                auto nieuw = schijf_.MaakNieuw(pad);
+                if (nieuw) {
+                    schrijver_ = std::move(*nieuw);
+                    nummer_ = 0;
+                    begonnen_ = false;
+                    RuimOp();
+                    return schijf_.SyncMapVan(pad);
+                }
+                const auto soort = schijf_.Soort(pad);
+                if (!soort || *soort == Padsoort::Niets || nummer > meeste)
+                    return Mislukt(nieuw);
+                pad = basis + "_" + std::to_string(nummer) + Tekst(Achtervoegsel);
+            }
+        });
+}
+
+void Geschiedenis::RuimOp() const
+{
+    constexpr std::int64_t dag = 86'400'000'000'000;
+    constexpr std::uint64_t meesteBytes = std::uint64_t{200} << 20U;
+    const Pad map = Geschiedenismap(*mappen_);
+    const Tekst oudste = Tijdtekst("yyyy-MM-dd", Nu() - 400 * dag);
+    auto namen = schijf_.Bestanden(map).value_or(std::vector<Tekst>());
+    std::sort(namen.begin(), namen.end(), std::greater());
+    std::uint64_t bytes = 0;
+    for (const Tekst& naam : namen) {
+        const Pad pad = Samen(map, naam);
+        const auto stempel = schijf_.NeemStempel(pad);
+        bytes += stempel ? stempel->grootte : 0;
+        const bool eigen = naam.ends_with(Achtervoegsel) && AlsGetal(naam.substr(0, 4), 4);
+        if (eigen && (naam < oudste || bytes > meesteBytes))
+            static_cast<void>(schijf_.Verwijder(pad)); // or at the next start
+    }
+}
+
+std::optional<Fout> Geschiedenis::NeemFout()
+{
+    if (!fout_ || gemeld_)
+        return std::nullopt;
+    gemeld_ = true;
+    return fout_;
+}
+
+std::optional<Handeling> Geschiedenis::Laatste(Handelingsoort soort) const
+{
+    std::optional<Handeling> uit;
+    if (mappen_ == nullptr)
+        return uit;
+    std::set<Tekst> geweest;  ///< what was undone or done again after what comes now
+    std::set<Tekst> ongedaan; ///< and is undone still
+    Tekst laatste;            ///< the last of those
+    LoopTerug(schijf_, *mappen_, [&](Handeling& handeling) {
+        if (handeling.computer != computer_ || handeling.gebruiker != gebruiker_)
+            return true;
+        if (handeling.soort == Handelingsoort::Gewoon) {
+            const bool gezocht = soort == Handelingsoort::Opnieuw
+                                     ? handeling.id == laatste
+                                     : !ongedaan.contains(handeling.id);
+            if (gezocht)
+                uit = std::move(handeling);
+            return !gezocht && (soort == Handelingsoort::Ongedaan || !laatste.empty());
+        }
+        if (geweest.insert(handeling.hoort).second && handeling.soort == Handelingsoort::Ongedaan) {
+            ongedaan.insert(handeling.hoort);
+            if (laatste.empty())
+                laatste = handeling.hoort;
+        }
+        return true;
+    });
+    return uit;
+}
+
+} // namespace plexoran
