@@ -234,7 +234,7 @@ std::optional<Stukken> Paarstukken(Tekstblik inhoud)
             continue;
         if (paar.size() != 2 * Paarhelft + 1 || paar[Paarhelft] != '-')
             return std::nullopt;
-        const auto [laagste, hoogste] = std::minmax(Links(paar), Rechts(paar));
+        const auto [laagste, hoogste] = std::minmax({Links(paar), Rechts(paar)});
         uit.push_back({Tekst(laagste).append(hoogste), paar, paar, "#"});
     }
     return uit;
