@@ -125,7 +125,7 @@ void RuimRestenOp(Administratie& administratie)
              {mappen.SPEMAP, "RVDspelers.txt"},
              {mappen.SPEMAP, "RVDGroepen.txt"},
              {Kopiemap(mappen.SPEMAP), "RVDspelers.txt"},
-             {Parenmap(mappen), "RVDparen.txt"},
+             {mappen.Parenmap(), "RVDparen.txt"},
              {mappen.ADMMAP, "Plexo.ini"},
              {mappen.RVDMAP.empty() ? Pad() : ParenCSVMap(mappen), "RVDparenCSV1.csv"},
              {administratie.programmamap, "Temp-NBBXMLtoCSV.csv"}})

@@ -34,7 +34,7 @@ frmParenOnderhoud::frmParenOnderhoud(Administratie& administratie, Tekstblik gro
       keuzes_(VulGroepSubgroepen(administratie.spelers.tabel, code_))
 {
     Bouw();
-    const auto map = administratie_.schijf.MaakMap(Parenmap(administratie_.mappen));
+    const auto map = administratie_.schijf.MaakMap(administratie_.mappen.Parenmap());
     if (!map)
         MeldFout(
             parentWidget(), QMessageBox::Warning,

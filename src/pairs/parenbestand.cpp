@@ -36,11 +36,6 @@ Tekst Paarteken(Tekstblik key1, Tekstblik key2)
 
 } // namespace
 
-Pad Parenmap(const Mappen& mappen)
-{
-    return Samen(mappen.SPEMAP, "Parenmap");
-}
-
 Tekst GeweigerdeTekens(Tekstblik keuze)
 {
     constexpr Tekstblik verboden = "\\/:*?\"<>|";
@@ -58,7 +53,7 @@ std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze)
 {
     if (!GeweigerdeTekens(keuze).empty())
         return std::nullopt;
-    return Samen(Parenmap(mappen), keuze) + ".txt";
+    return Samen(mappen.Parenmap(), keuze) + ".txt";
 }
 
 Paartekens PaartekensUit(Tekstblik inhoud)

@@ -13,7 +13,6 @@ namespace plexoran {
 
 using Paartekens = std::vector<Tekst>;
 
-[[nodiscard]] Pad Parenmap(const Mappen& mappen);
 /// The pair file of a group-subgroup; nothing when its name holds a character that a file system
 /// refuses, so that no such file can exist.
 [[nodiscard]] std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze);

@@ -26,6 +26,7 @@ struct Mappen {
     [[nodiscard]] Pad Spelerbestand() const { return Samen(SPEMAP, "RVDspelers.txt"); }
     [[nodiscard]] Pad Groepenbestand() const { return Samen(SPEMAP, "RVDGroepen.txt"); }
     [[nodiscard]] Pad Instellingenbestand() const { return Samen(ADMMAP, "Plexo.ini"); }
+    [[nodiscard]] Pad Parenmap() const { return Samen(SPEMAP, "Parenmap"); }
     /// The federation export folder.
     [[nodiscard]] Pad Ledenmap() const { return Samen(WINMAP, "NBB4-Leden"); }
 };

@@ -7,34 +7,40 @@
 namespace plexoran {
 namespace {
 
-Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& kopiemap, const Pad& bestand)
+Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& basis, Tekstblik na)
 {
-    const Tekst naam = bestand.substr(bestand.rfind('\\') + 1);
-    const auto punt = std::min(naam.rfind('.'), naam.size());
-    const Pad basis = Samen(kopiemap, naam.substr(0, punt) + " " + Tijdtekst("yyyy-MM-dd HHmmss"));
-    const Tekst soort = naam.substr(punt);
-    Pad pad = basis + soort;
+    Pad pad = Pad(basis).append(na);
     for (int volgnummer = 2;; ++volgnummer) {
         const auto wat = schijf.Soort(pad);
         if (!wat)
             return Mislukt(wat);
         if (*wat == Padsoort::Niets)
             return pad;
-        pad = basis + "-" + std::to_string(volgnummer) + soort;
+        pad = (basis + "-" + std::to_string(volgnummer)).append(na);
     }
 }
 
 } // namespace
 
-Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
-                               Tekstblik inhoud)
+Uitkomst<Pad> VrijeKopie(Schijf& schijf, const Pad& spelersmap, Tekstblik voor, Tekstblik na)
 {
     const Pad kopiemap = Kopiemap(spelersmap);
     return schijf
         .MaakMap(kopiemap)
         // The copy is only as safe as the name of the folder that it is in.
         .and_then([&] { return schijf.SyncMapVan(kopiemap); })
-        .and_then([&] { return VrijeNaam(schijf, kopiemap, bestand); })
+        .and_then([&] {
+            return VrijeNaam(schijf, Samen(kopiemap, voor).append(Tijdtekst("yyyy-MM-dd HHmmss")),
+                             na);
+        });
+}
+
+Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                               Tekstblik inhoud)
+{
+    const Tekst naam = bestand.substr(bestand.rfind('\\') + 1);
+    const auto punt = std::min(naam.rfind('.'), naam.size());
+    return VrijeKopie(schijf, spelersmap, naam.substr(0, punt) + " ", naam.substr(punt))
         .and_then([&](const Pad& kopie) {
             return SchrijfHeel(schijf, kopie, inhoud).map([&] { return kopie; });
         })

@@ -14,6 +14,11 @@ namespace plexoran {
     return Samen(spelersmap, "Reservekopie");
 }
 
+/// A path in that folder, which is made when needed, that nothing bears yet: `voor`, this moment
+/// and `na`, with a number behind the moment where it must be told from another one.
+[[nodiscard]] Uitkomst<Pad> VrijeKopie(Schijf& schijf, const Pad& spelersmap, Tekstblik voor,
+                                       Tekstblik na);
+
 /// Writes what `bestand` holds, or was to hold, to the folder "Reservekopie" in `spelersmap`;
 /// returns the path of the copy.
 /// Any failure is reported as `GeenReservekopie`.
