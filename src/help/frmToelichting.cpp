@@ -2,9 +2,9 @@
 
 #include <numeric>
 
-#include "help/tekstblad.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schildervlak.h"
+#include "platform/tekst/tekstblad.h"
 
 namespace plexoran {
 namespace {

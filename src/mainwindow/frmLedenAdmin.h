@@ -82,6 +82,7 @@ class frmLedenAdmin : public QMainWindow {
     void VoegSessiespelersToe();
     void KoppelZwevenden();
     void OnderhoudParen();
+    void Controleer();
     void ToonToelichting();
     void Print();
     void SlaOpEnToon(const QString& klaar = QString());

@@ -102,6 +102,9 @@ void frmLedenAdmin::BouwMenu()
     mnuBewerken->setObjectName(u"mnuBewerken"_s);
     auto* mnuExtra = menuBar()->addMenu(u"E&xtra"_s);
     mnuExtra->setObjectName(u"mnuExtra"_s);
+    auto* actControle = mnuExtra->addAction(u"&Controle van de administratie..."_s, this,
+                                            &frmLedenAdmin::Controleer);
+    actControle->setObjectName(u"actControle"_s);
 }
 
 QWidget* frmLedenAdmin::BouwBovenkant()

@@ -1,4 +1,5 @@
 // The commands of the main window.
+#include "controle/frmControle.h"
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
 #include "dialogs/diaKopieer.h"
@@ -229,6 +230,14 @@ void frmLedenAdmin::OnderhoudParen()
         return;
     }
     frmParenOnderhoud(administratie_, Groeptekst(), this).exec();
+}
+
+void frmLedenAdmin::Controleer()
+{
+    frmControle venster(administratie_, this);
+    venster.exec();
+    if (venster.IetsGewijzigd())
+        SlaOpEnToon();
 }
 
 void frmLedenAdmin::ToonToelichting()

@@ -1,7 +1,6 @@
 #include "sessions/zittinglijsten.h"
 
 #include <algorithm>
-#include <functional>
 #include <unordered_map>
 
 #include "platform/tekst/regels.h"
@@ -21,13 +20,14 @@ std::optional<std::vector<Item>> RecordUit(Tekstblik regel)
     return velden.size() == AantalVelden ? std::optional(std::move(velden)) : std::nullopt;
 }
 
-void VoegZwevendenToe(std::vector<Tafelnaam>& uit, Tekstblik code, Tekstblik spelers)
+void VoegHelftenToe(std::vector<Tafelnaam>& uit, Tekstblik code, Tekstblik spelers,
+                    const Helftkeus& keus)
 {
     const auto helften = SplitsHelften(spelers);
     if (!helften)
         return;
     for (const Tekstblik helft : {helften->eerste, helften->tweede}) {
-        if (!helft.empty() && !AlsGetal(helft, 1))
+        if (keus(helft))
             uit.push_back({Tekst(ZonderSpaties(code)), Tekst(helft)});
     }
 }
@@ -115,7 +115,12 @@ Tekst Tafelsleutel(Tekstblik code)
     return nummer ? tekst.front() + *nummer : Tekst(tekst);
 }
 
-Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort)
+bool IsZwevend(Tekstblik helft)
+{
+    return !helft.empty() && !AlsGetal(helft, 1);
+}
+
+Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort, const Helftkeus& keus)
 {
     Lijstlezing uit;
     for (const Tekstblik regel : Regels(inhoud)) {
@@ -125,10 +130,10 @@ Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort)
             Itemlezer items(regel);
             for (auto item = items.Volgend(); item && !uit.IsTeVeel(); item = items.Volgend()) {
                 if (const auto paar = PaarUit(item->tekst))
-                    VoegZwevendenToe(uit.zwevend, paar->code, paar->spelers);
+                    VoegHelftenToe(uit.zwevend, paar->code, paar->spelers, keus);
             }
         } else if (const auto velden = RecordUit(regel)) {
-            VoegZwevendenToe(uit.zwevend, (*velden)[Codeveld].tekst, (*velden)[Paarveld].tekst);
+            VoegHelftenToe(uit.zwevend, (*velden)[Codeveld].tekst, (*velden)[Paarveld].tekst, keus);
         } else {
             ++uit.overgeslagen;
         }

@@ -3,6 +3,7 @@
 // and which bytes a rewriting keeps, stands in docs/bestanden.md.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <set>
 #include <vector>
@@ -37,8 +38,8 @@ struct Lijstpaar {
 
 enum class Lijstsoort { Spelers, Percentages };
 
-/// A floating player as a file has him, a half of a pair that is neither empty nor made of digits
-/// only; the code as it is written there, without outer spaces.
+/// A half of a pair as a file has it, a floating player as a rule; the code as it is written there,
+/// without outer spaces.
 struct Tafelnaam {
     Tekst code;
     Tekst naam;
@@ -49,15 +50,23 @@ struct Tafelnaam {
 inline constexpr std::size_t MeesteNamen = 100'000;
 inline constexpr auto TeVeelNamen = "er staan meer dan 100.000 namen in";
 
+/// Which halves a reading lists.
+using Helftkeus = std::function<bool(Tekstblik helft)>;
+/// A name: neither empty nor made of digits only.
+[[nodiscard]] bool IsZwevend(Tekstblik helft);
+
 struct Lijstlezing {
-    std::vector<Tafelnaam> zwevend; ///< in file order, of a pair the first player first
-    int overgeslagen = 0;           ///< lines of a result list that are no record of 7 fields
+    /// In file order, of a pair the first player first.
+    std::vector<Tafelnaam> zwevend;
+    int overgeslagen = 0; ///< lines of a result list that are no record of 7 fields
 
     /// The reading ended there: it is no list.
     [[nodiscard]] bool IsTeVeel() const { return zwevend.size() > MeesteNamen; }
 };
 
-[[nodiscard]] Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort);
+/// The floating players, or the halves that `keus` wants.
+[[nodiscard]] Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort,
+                                    const Helftkeus& keus = IsZwevend);
 
 /// What is to be replaced: the name, at these positions only.
 struct Naamvervanging {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "controle/frmControle.h"
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
 #include "dialogs/diaKopieer.h"
@@ -213,6 +214,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     NeemParen(bezoek, administratie, hoofdvenster);
     NeemSorteerlijst(bezoek, hoofdvenster, administratie.spelers.tabel);
     NeemVergelijking(bezoek, hoofdvenster, administratie.spelers.tabel);
+    Neem(bezoek, frmControle(administratie, &hoofdvenster));
 }
 
 } // namespace plexoran

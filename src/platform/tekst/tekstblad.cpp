@@ -1,4 +1,4 @@
-#include "help/tekstblad.h"
+#include "platform/tekst/tekstblad.h"
 
 #include <algorithm>
 
