@@ -26,6 +26,7 @@ int main(int argc, char** argv)
     EchteSchijf schijf;
     Exemplaarslot slot(opdrachten->slot.empty() ? Slotbestand() : opdrachten->slot);
     Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
+    administratie.tweedeplaatsIni = Gebruikersbestand("reservekopie.ini");
     frmLedenAdmin venster(administratie);
     const Pad mappenIni = opdrachten->mappenIni.empty() ? MappenIniPad(Programmamap())
                                                         : VolledigPad(opdrachten->mappenIni);

@@ -27,6 +27,22 @@ QString Toestand(const std::optional<Rijvelden>& velden)
 
 } // namespace
 
+void VoegVeldenToe(QTreeWidgetItem& speler, const std::optional<Rijvelden>& links,
+                   const std::optional<Rijvelden>& rechts)
+{
+    for (auto i = Index(Kolom::Groep); i < AantalKolommen; ++i) {
+        const auto tekst = [i](const std::optional<Rijvelden>& velden) {
+            return velden ? NaarQString((*velden)[i]) : QString();
+        };
+        if (tekst(links) == tekst(rechts))
+            continue;
+        auto* veld =
+            new QTreeWidgetItem(&speler, {NaarQString(Kolomnamen[i]), tekst(links), tekst(rechts)});
+        for (const int kolom : {1, 2})
+            veld->setToolTip(kolom, Wenk(veld->text(kolom)));
+    }
+}
+
 frmVergelijk::frmVergelijk(const Vergelijking& teksten, const std::vector<Verschil>& verschillen,
                            QWidget* ouder)
     : QDialog(ouder), lstVerschillen(new QTreeWidget(this))
@@ -69,18 +85,7 @@ void frmVergelijk::VoegToe(const Verschil& verschil)
         lstVerschillen, {Wie(verschil), Toestand(verschil.links), Toestand(verschil.rechts)});
     for (const int kolom : {KolomLinks, KolomRechts})
         speler->setCheckState(kolom, Qt::Unchecked);
-    for (auto i = Index(Kolom::Groep); i < AantalKolommen; ++i) {
-        const auto tekst = [i](const std::optional<Rijvelden>& velden) {
-            return velden ? NaarQString((*velden)[i]) : QString();
-        };
-        const QString links = tekst(verschil.links);
-        const QString rechts = tekst(verschil.rechts);
-        if (links == rechts)
-            continue;
-        auto* veld = new QTreeWidgetItem(speler, {NaarQString(Kolomnamen[i]), links, rechts});
-        for (const int kolom : {KolomLinks, KolomRechts})
-            veld->setToolTip(kolom, Wenk(veld->text(kolom)));
-    }
+    VoegVeldenToe(*speler, verschil.links, verschil.rechts);
 }
 
 void frmVergelijk::KiesAlle(int kolom)

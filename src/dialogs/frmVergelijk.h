@@ -17,6 +17,11 @@ struct Vergelijking {
     QString rechts;
 };
 
+/// Adds a line to a player for each field that differs: its name and what stands in it at the left
+/// and at the right, in the columns 0 to 2.
+void VoegVeldenToe(QTreeWidgetItem& speler, const std::optional<Rijvelden>& links,
+                   const std::optional<Rijvelden>& rechts);
+
 class frmVergelijk : public QDialog {
     Q_OBJECT
 

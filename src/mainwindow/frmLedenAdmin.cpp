@@ -2,8 +2,10 @@
 #include "mainwindow/frmLedenAdmin.h"
 
 #include <QCloseEvent>
+#include <QStatusBar>
 
 #include "dialogs/diaSortlijst.h"
+#include "dialogs/frmTerugzetten.h"
 #include "dialogs/groepswerk.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
@@ -63,8 +65,18 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
         cmdToonGatenlijst->hide();
     cmdKoppel->hide();
     picP0->Vlak()->setFocus();
+    ToonTweedePlaats();
     wacht_.Bewaak({administratie_.mappen.Spelerbestand(), administratie_.mappen.Groepenbestand()});
     return std::nullopt;
+}
+
+/// A stick that was put in since gets its backup; one that stays away is told of in a line below.
+void frmLedenAdmin::ToonTweedePlaats()
+{
+    WerkTweedeplaatsBij(administratie_.schijf, administratie_.mappen,
+                        administratie_.tweedeplaatsIni);
+    if (const QString regel = Tweedeplaatsregel(administratie_); !regel.isEmpty())
+        statusBar()->addWidget(MaakLabel(u"lblTweedePlaats"_s, regel, this));
 }
 
 bool frmLedenAdmin::IsEersteExemplaar()

@@ -59,6 +59,7 @@ class frmLedenAdmin : public QMainWindow {
 
     [[nodiscard]] bool IsEersteExemplaar();
     [[nodiscard]] bool VolgGroepsnamen();
+    void ToonTweedePlaats();
     void KiesGroep(int plaats);
     [[nodiscard]] Tekst Groeptekst() const;
     void BewaarInstellingen();
@@ -83,6 +84,7 @@ class frmLedenAdmin : public QMainWindow {
     void KoppelZwevenden();
     void OnderhoudParen();
     void Controleer();
+    void ZetTerug();
     void ToonToelichting();
     void Print();
     void SlaOpEnToon(const QString& klaar = QString());

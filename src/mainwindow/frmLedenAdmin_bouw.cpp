@@ -105,6 +105,9 @@ void frmLedenAdmin::BouwMenu()
     auto* actControle = mnuExtra->addAction(u"&Controle van de administratie..."_s, this,
                                             &frmLedenAdmin::Controleer);
     actControle->setObjectName(u"actControle"_s);
+    auto* actTerugzetten =
+        mnuExtra->addAction(u"&Reservekopie terugzetten..."_s, this, &frmLedenAdmin::ZetTerug);
+    actTerugzetten->setObjectName(u"actTerugzetten"_s);
 }
 
 QWidget* frmLedenAdmin::BouwBovenkant()

@@ -22,6 +22,8 @@ void frmLedenAdmin::SlaOpEnToon(const QString& klaar)
 {
     const Opslag opslag = opslag_.SlaOp();
     ToonGroep();
+    if (opslag != Opslag::Mislukt)
+        opslag_.Reserve().Meld();
     if (opslag != Opslag::Mislukt && !klaar.isEmpty())
         Meld(this, QMessageBox::Information, klaar);
     if (opslag == Opslag::RegisterBehouden)
@@ -124,6 +126,8 @@ void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QSt
                NoemSpelers(tabel, rijen, *this)))
         return;
     tabel.VerwijderRijen(rijen);
+    if (rijen.size() > 1)
+        opslag_.Reserve().Maak("voor verwijderen");
     SlaOpEnToon(klaar);
 }
 
@@ -131,8 +135,12 @@ void frmLedenAdmin::WijzigGroepsnamen()
 {
     const Groepen oud = administratie_.groepen;
     diaGrNamen venster(administratie_.groepen, this);
-    if (venster.exec() != QDialog::Accepted || !BewaarGroepen(oud))
+    if (venster.exec() != QDialog::Accepted)
         return;
+    opslag_.Reserve().VoorWijziging();
+    if (!BewaarGroepen(oud))
+        return;
+    opslag_.Reserve().Meld();
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     KiesGroep(0);
 }
@@ -180,8 +188,10 @@ void frmLedenAdmin::VerwijderGroep()
     // Behind the window, which stays open, the grid must not show other players in its old lines.
     connect(&venster, &frmVerwSubgroep::rijenVerwijderd, this, &frmLedenAdmin::ToonGroep);
     venster.exec();
-    if (venster.IetsVerwijderd())
-        SlaOpEnToon();
+    if (!venster.IetsVerwijderd())
+        return;
+    opslag_.Reserve().Maak("voor verwijderen");
+    SlaOpEnToon();
 }
 
 /// Members in a group that is none of the fifty would never be seen again.
@@ -204,8 +214,10 @@ void frmLedenAdmin::HaalNBBnamen()
     // Its last box and the window itself go at once, and a window manager may then give the focus
     // to nobody.
     activateWindow();
-    if (venster.IetsGewijzigd())
-        SlaOpEnToon();
+    if (!venster.IetsGewijzigd())
+        return;
+    opslag_.Reserve().Maak("voor import");
+    SlaOpEnToon();
 }
 
 void frmLedenAdmin::VoegSessiespelersToe()
@@ -220,7 +232,12 @@ void frmLedenAdmin::VoegSessiespelersToe()
 /// Changes session files only: there is nothing to save in the register.
 void frmLedenAdmin::KoppelZwevenden()
 {
-    frmKoppelNBBnr(administratie_, this).exec();
+    frmKoppelNBBnr venster(administratie_, this);
+    connect(&venster, &frmKoppelNBBnr::begint, this, [this] {
+        opslag_.Reserve().Maak("voor koppelen");
+        opslag_.Reserve().Meld();
+    });
+    venster.exec();
 }
 
 void frmLedenAdmin::OnderhoudParen()
@@ -229,6 +246,8 @@ void frmLedenAdmin::OnderhoudParen()
         close();
         return;
     }
+    opslag_.Reserve().VoorWijziging(); // the window saves pairs by itself
+    opslag_.Reserve().Meld();
     frmParenOnderhoud(administratie_, Groeptekst(), this).exec();
 }
 
@@ -238,6 +257,16 @@ void frmLedenAdmin::Controleer()
     venster.exec();
     if (venster.IetsGewijzigd())
         SlaOpEnToon();
+}
+
+void frmLedenAdmin::ZetTerug()
+{
+    const bool andereSpelers = ZetReserveTerug(administratie_, opslag_.Reserve(), this);
+    const bool andereGroepen = VolgGroepsnamen();
+    if (andereSpelers)
+        SlaOpEnToon();
+    else if (andereGroepen)
+        ToonGroep();
 }
 
 void frmLedenAdmin::ToonToelichting()

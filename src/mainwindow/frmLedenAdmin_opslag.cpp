@@ -182,11 +182,13 @@ void MeldLezing(QWidget* ouder, const Spelertabel& tabel, const Leesverslag& ver
 
 Spelersopslag::Spelersopslag(Administratie& administratie, QWidget* venster,
                              std::function<void()> toon)
-    : administratie_(administratie), venster_(venster), toon_(std::move(toon))
+    : administratie_(administratie), venster_(venster), toon_(std::move(toon)),
+      reserve_(administratie, venster)
 {}
 
 Opslag Spelersopslag::SlaOp()
 {
+    reserve_.VoorWijziging();
     Register& spelers = administratie_.spelers;
     auto overschrijven = Overschrijven::AlleenEigen;
     for (;;) {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "dialogs/toevoegen.h"
-#include "register/administratie.h"
+#include "mainwindow/frmLedenAdmin_reserve.h"
 
 class QWidget;
 
@@ -18,7 +18,7 @@ namespace plexoran {
 /// still the one read.
 void KiesRekenprogramma(Administratie& administratie, QWidget* venster);
 
-/// `TeBewaren`: the highest key was raised, which is to be saved at once.
+/// `TeBewaren`: the highest key was raised or players were put back, which is to be saved at once.
 enum class Startafloop { Mislukt, Gelezen, TeBewaren };
 
 /// All that the program works on is made, mended and read, in a fixed order, before the main window
@@ -48,6 +48,7 @@ class Spelersopslag {
     Opslag SlaOp();
     /// A link file that names players whom the next save must bring into the register.
     void Bewaak(Koppelverslag verslag) { verslagen_.push_back(std::move(verslag)); }
+    [[nodiscard]] Reservewacht& Reserve() { return reserve_; }
     /// Takes over what another program made of the player file, when nothing is unsaved here and
     /// all of it can be read; whether there was anything new.
     [[nodiscard]] bool NeemAndereOver();
@@ -63,6 +64,7 @@ class Spelersopslag {
     Administratie& administratie_;
     QWidget* venster_;
     std::function<void()> toon_;
+    Reservewacht reserve_;
     std::vector<Koppelverslag> verslagen_; ///< whose new players are not known to be saved
     QStringList nieuws_;                   ///< to tell when the save is done
 };

@@ -198,9 +198,14 @@ bool VraagHogereSleutel(Administratie& administratie, QWidget* venster, std::int
     return true;
 }
 
-/// Whether the register is to be saved, because the highest key was raised. Not when players were
-/// left out: then the new key goes along with the first change.
-bool LeesRegister(Administratie& administratie, QWidget* venster)
+/// What the start made of the register.
+struct Registerstart {
+    bool teBewaren;  ///< the highest key was raised; not when players were left out: then the new
+                     ///< key goes along with the first change
+    bool geschonden; ///< it was read, but not to its end, or holds no players
+};
+
+Registerstart LeesRegister(Administratie& administratie, QWidget* venster)
 {
     const auto aanmaak =
         MaakSpelerbestand(administratie.schijf, administratie.mappen, administratie.spelers);
@@ -214,7 +219,8 @@ bool LeesRegister(Administratie& administratie, QWidget* venster)
     MeldLezing(venster, administratie.spelers.tabel, verslag, Leesmoment::Start);
     const std::int32_t hoogste =
         std::max(HoogsteSleutel(administratie.spelers.tabel), verslag.hoogsteWeggelaten);
-    return VraagHogereSleutel(administratie, venster, hoogste) && verslag.AlleSpelersGelezen();
+    return {VraagHogereSleutel(administratie, venster, hoogste) && verslag.AlleSpelersGelezen(),
+            !verslag.NietGeopend() && (verslag.fout || administratie.spelers.tabel.Rijen() == 0)};
 }
 
 void MeldLosseSleutels(Administratie& administratie, QWidget* venster)
@@ -261,9 +267,10 @@ Startafloop LeesBijStart(Administratie& administratie, QWidget* venster, const P
     LeesInstellingenbestand(administratie, venster);
     ZoekDataMap(administratie, venster);
     LeesGroepsnamen(administratie, venster);
-    const bool bewaren = LeesRegister(administratie, venster);
+    const auto [teBewaren, geschonden] = LeesRegister(administratie, venster);
     MeldLosseSleutels(administratie, venster);
-    return bewaren ? Startafloop::TeBewaren : Startafloop::Gelezen;
+    const bool hersteld = geschonden && BiedReservesAan(administratie, venster);
+    return teBewaren || hersteld ? Startafloop::TeBewaren : Startafloop::Gelezen;
 }
 
 } // namespace plexoran

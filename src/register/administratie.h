@@ -26,6 +26,7 @@ struct Administratie {
     Schijf& schijf;
     Instellingenwinkel winkel;         ///< what other programs left for this user
     Pad programmamap = Programmamap(); ///< where the running program stands
+    Pad tweedeplaatsIni{};             ///< of this user; empty: no second place can be chosen
     Mappen mappen{};
     Instellingen instellingen{};
     Groepen groepen{};

@@ -252,6 +252,7 @@ void frmKoppelNBBnr::StartKoppelen()
                u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
                "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s))
         return;
+    emit begint();
     const Koppelopdracht opdracht = MaakKoppelopdracht(
         zwevenden_, static_cast<std::size_t>(lstSpelers->Gekozen()), GekozenSpeler()->key);
     const Koppeluitslag uitslag =

@@ -22,6 +22,10 @@ class frmKoppelNBBnr : public QDialog {
   public:
     frmKoppelNBBnr(Administratie& administratie, QWidget* ouder);
 
+  signals:
+    /// Files are about to change.
+    void begint();
+
   private:
     // Building (frmKoppelNBBnr_bouw.cpp)
     void Bouw();

@@ -14,6 +14,7 @@
 #include "dialogs/diaSortlijst.h"
 #include "dialogs/diaToevoegen.h"
 #include "dialogs/diaVerplaats.h"
+#include "dialogs/frmTerugzetten.h"
 #include "dialogs/frmVergelijk.h"
 #include "dialogs/frmVerwSubgroep.h"
 #include "federation/diaControleNBB.h"
@@ -91,6 +92,31 @@ void NeemVergelijking(const Bezoek& bezoek, QWidget& hoofdvenster, const Spelert
               u"Hier"_s, u"Ander programma"_s},
              {{"100001", tabel.Velden(1), anders}, {"100002", std::nullopt, tabel.Velden(2)}},
              &hoofdvenster));
+}
+
+/// Backups of the suite, and a register in which a player came, one changed and one went since.
+void NeemTerugzetten(const Bezoek& bezoek, QWidget& hoofdvenster,
+                     const Administratie& administratie)
+{
+    Administratie anders = administratie;
+    Register& spelers = anders.spelers;
+    if (spelers.tabel.Rijen() < 3)
+        return;
+    for (const char* reden : {"voor eerste wijziging", "voor koppelen", "voor import"}) {
+        if (!MaakReservezip(anders.schijf, anders.mappen, reden))
+            return;
+    }
+    spelers.tabel.ZetCel(1, Kolom::Telef, "06-00000999");
+    spelers.tabel.ZetCel(1, Kolom::Plaats, "Oud-Merwolde aan de Lange Vaart");
+    spelers.tabel.VerwijderRijen(std::vector{2});
+    static_cast<void>(
+        VoegSpelerToe(spelers, "Gr01-", Rijvelden{"", "", "", "Roos", "van", "Nieuwland"}));
+    frmTerugzetten venster(anders, &hoofdvenster);
+    if (auto* lijst = venster.findChild<QTreeWidget*>(u"lstVerschillen"_s)) {
+        lijst->expandAll();
+        lijst->topLevelItem(0)->setCheckState(0, Qt::Checked);
+    }
+    bezoek(venster);
 }
 
 /// The sample exports, where the suite has them.
@@ -215,6 +241,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     NeemSorteerlijst(bezoek, hoofdvenster, administratie.spelers.tabel);
     NeemVergelijking(bezoek, hoofdvenster, administratie.spelers.tabel);
     Neem(bezoek, frmControle(administratie, &hoofdvenster));
+    NeemTerugzetten(bezoek, hoofdvenster, administratie);
 }
 
 } // namespace plexoran

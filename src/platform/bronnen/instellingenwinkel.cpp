@@ -10,6 +10,12 @@
 namespace plexoran {
 namespace {
 
+std::filesystem::path Gebruikerspad(const char* naam)
+{
+    const QString map = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return std::filesystem::path(map.toStdU16String()) / "plexoran" / naam;
+}
+
 #ifdef _WIN32
 
 constexpr auto registerpad = "HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings";
@@ -18,13 +24,17 @@ constexpr auto registerpad = "HKEY_CURRENT_USER\\Software\\VB and VBA Program Se
 
 std::filesystem::path Winkelbestand()
 {
-    const QString map = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return std::filesystem::path(map.toStdU16String()) / "plexoran" / "rekenprogrammas.ini";
+    return Gebruikerspad("rekenprogrammas.ini");
 }
 
 #endif
 
 } // namespace
+
+Pad Gebruikersbestand(const char* naam)
+{
+    return PadVan(Gebruikerspad(naam));
+}
 
 std::optional<Tekst> WaardeUit(Tekstblik inhoud, Tekstblik toepassing, Tekstblik sectie,
                                Tekstblik sleutel)

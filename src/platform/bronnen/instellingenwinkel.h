@@ -18,6 +18,9 @@ using Instellingenwinkel =
 [[nodiscard]] std::optional<Tekst> WaardeUit(Tekstblik inhoud, Tekstblik toepassing,
                                              Tekstblik sectie, Tekstblik sleutel);
 
+/// Where this program keeps a file of its own for this user.
+[[nodiscard]] Pad Gebruikersbestand(const char* naam);
+
 /// The store of this system, which must not outlive `schijf`.
 [[nodiscard]] Instellingenwinkel MaakInstellingenwinkel(Schijf& schijf);
 
