@@ -218,19 +218,27 @@ Koppelverslag::Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zit
       tekst_(std::move(tekst))
 {}
 
+/// What another program writes meanwhile is what stood there before.
 Uitkomst<void> Koppelverslag::Schrijf()
 {
-    if (!staat_) {
-        auto oud = LeesAlsErIs(schijf_, pad_);
-        if (!oud)
-            return tl::unexpected(oud.error());
-        oud_ = std::move(*oud);
-        staat_ = true;
+    constexpr int pogingen = 20;
+    for (int poging = 1;; ++poging) {
+        if (!staat_ || poging > 1) {
+            auto oud = LeesAlsErIs(schijf_, pad_);
+            if (!oud)
+                return tl::unexpected(oud.error());
+            oud_ = std::move(*oud);
+            nu_ = oud_;
+            staat_ = true;
+        }
+        RuimTijdelijkeOp(schijf_, map_, Verslagnaam);
+        auto geschreven = VervangOngewijzigd(schijf_, pad_, tekst_, nu_);
+        bij_ = StaatOpSchijf(geschreven);
+        if (bij_)
+            nu_ = tekst_;
+        if (bij_ || geschreven.error().soort != Foutsoort::Gewijzigd || poging == pogingen)
+            return geschreven;
     }
-    RuimTijdelijkeOp(schijf_, map_, Verslagnaam);
-    auto geschreven = SchrijfHeel(schijf_, pad_, tekst_);
-    bij_ = StaatOpSchijf(geschreven);
-    return geschreven;
 }
 
 void Koppelverslag::Hernummer(const std::deque<Hernummering>& keys)
@@ -248,7 +256,15 @@ Uitkomst<void> Koppelverslag::ZetTerug()
 {
     if (!staat_)
         return {};
-    auto terug = oud_ ? SchrijfHeel(schijf_, pad_, *oud_) : schijf_.Verwijder(pad_);
+    const auto verwijder = [this]() -> Uitkomst<void> {
+        const auto nu = LeesAlsErIs(schijf_, pad_);
+        if (!nu)
+            return Mislukt(nu);
+        if (*nu && *nu != nu_)
+            return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf_.Toonpad(pad_)});
+        return schijf_.Verwijder(pad_);
+    };
+    auto terug = oud_ ? VervangOngewijzigd(schijf_, pad_, *oud_, nu_) : verwijder();
     if (!terug && !oud_ && terug.error().soort == Foutsoort::Ontbreekt)
         terug = {};
     staat_ = !StaatOpSchijf(terug);

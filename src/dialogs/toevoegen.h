@@ -72,7 +72,8 @@ class Koppelverslag {
     Koppelverslag(Schijf& schijf, const Mappen& mappen, Tekstblik zitting, Tekst tekst);
 
     [[nodiscard]] Uitkomst<void> Schrijf();
-    /// The file as it was before `Schrijf`; removed when there was none.
+    /// The file as it was before `Schrijf`; removed when there was none. `Gewijzigd` when someone
+    /// else wrote it since.
     [[nodiscard]] Uitkomst<void> ZetTerug();
     /// Whether `Schrijf` came at the file and `ZetTerug` did not make up for it yet.
     [[nodiscard]] bool Staat() const { return staat_; }
@@ -87,6 +88,7 @@ class Koppelverslag {
     Pad pad_;
     Tekst tekst_;
     std::optional<Tekst> oud_;
+    std::optional<Tekst> nu_; ///< what stands there as far as is known
     bool bij_ = true;
     bool staat_ = false; ///< else what stood there before is not known
 };

@@ -156,11 +156,12 @@ void frmLedenAdmin::VolgBestanden()
     picP0->Staand().setValue(hoogte);
 }
 
-/// Whether another program gave groups other names.
+/// Whether another program gave groups other names. A text that ends before its time is not taken.
 bool frmLedenAdmin::VolgGroepsnamen()
 {
     Groepen groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
-    if (!groepen.bestandstekst || groepen.bestandstekst == administratie_.groepen.bestandstekst)
+    if (!groepen.bestandstekst || groepen.bestandstekst == administratie_.groepen.bestandstekst ||
+        groepen.aantal < administratie_.groepen.aantal)
         return false;
     administratie_.groepen = std::move(groepen);
     const int plaats = cmbGr->currentIndex();

@@ -74,7 +74,7 @@ class frmLedenAdmin : public QMainWindow {
     void VerwijderVanTot();
     void Verwijder(int van, int tot, const QString& regels, const QString& klaar);
     void WijzigGroepsnamen();
-    bool BewaarGroepen(const Groepen& oud);
+    std::optional<Bewaring> BewaarGroepen(const Groepen& oud);
     void StartGatenlijst();
     void Verplaats();
     void Kopieer();

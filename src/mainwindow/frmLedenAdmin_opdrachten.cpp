@@ -42,6 +42,7 @@ bool frmLedenAdmin::IsRegelGekozen()
 
 bool frmLedenAdmin::ToonIngave(Ingave& ingave)
 {
+    BewaarInstellingen(); // another program may have chosen another return field
     const Tekst groeptekst = Groeptekst();
     ingave.groeptekst = groeptekst;
     ingave.importgroep = CodeUit(groeptekst) == administratie_.mappen.DFIMPG;
@@ -138,30 +139,37 @@ void frmLedenAdmin::WijzigGroepsnamen()
     if (venster.exec() != QDialog::Accepted)
         return;
     opslag_.Reserve().VoorWijziging();
-    if (!BewaarGroepen(oud))
+    const auto bewaard = BewaarGroepen(oud);
+    if (!bewaard)
         return;
     opslag_.Reserve().Meld();
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     KiesGroep(0);
+    MeldMenging(this, {.een = u"groepsnaam"_s,
+                       .meer = u"groepsnamen"_s,
+                       .overgenomen = bewaard->overgenomen,
+                       .botsingen = bewaard->botsingen,
+                       .onze = bewaard->onze,
+                       .andere = bewaard->andere});
 }
 
 /// Names that cannot be saved are taken back, so that screen and file stay one.
-bool frmLedenAdmin::BewaarGroepen(const Groepen& oud)
+std::optional<Bewaring> frmLedenAdmin::BewaarGroepen(const Groepen& oud)
 {
     for (;;) {
-        const auto uitkomst =
+        Bewaring bewaard =
             SchrijfGroepen(administratie_.schijf, administratie_.mappen, administratie_.groepen);
-        if (StaatEr(this, uitkomst))
-            return true;
+        if (StaatEr(this, bewaard.gelukt))
+            return bewaard;
         const int antwoord =
             Kies(this, QMessageBox::Critical,
                  u"De groepsnamen konden niet worden opgeslagen. Het bestand is gebleven zoals het "
                  "was. Probeer het opnieuw, of kies Annuleren om de oude namen te houden.\n\n"_s +
-                     Bijzonderheden(uitkomst.error()),
+                     Bijzonderheden(bewaard.gelukt.error()),
                  {u"Opnieuw proberen"_s, u"Annuleren"_s});
         if (antwoord != 0) {
             administratie_.groepen = oud;
-            return false;
+            return std::nullopt;
         }
     }
 }

@@ -119,17 +119,6 @@ Vervolg VraagVervolg(QWidget* ouder, const Fout& fout)
     return antwoord == 0 ? Vervolg::Opnieuw : Vervolg::Later;
 }
 
-/// As many names as a line holds.
-QString Namen(const std::vector<Tekst>& namen)
-{
-    constexpr std::size_t meeste = 5;
-    QStringList uit;
-    for (std::size_t i = 0; i < std::min(meeste, namen.size()); ++i)
-        uit << NaarQString(namen[i]);
-    const QString rest = namen.size() > meeste ? u" en nog %1"_s.arg(namen.size() - meeste) : u""_s;
-    return uit.join(u", "_s) + rest;
-}
-
 /// What came of bringing two registers together, a line each.
 QStringList Nieuws(const Menging& menging)
 {

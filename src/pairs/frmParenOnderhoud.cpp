@@ -54,22 +54,21 @@ void frmParenOnderhoud::LaadSubgroep()
     if (keuze < 0)
         return;
     keuze_ = keuzes_[static_cast<std::size_t>(keuze)];
-    const auto lezing = LeesParenbestand(administratie_.schijf, administratie_.mappen, keuze_);
-    gelezen_ = lezing.value_or(std::nullopt);
-    const Paartekens paren = PaartekensUit(gelezen_.value_or(Tekst()));
+    gelezen_ = LeesParenbestand(administratie_.schijf, administratie_.mappen, keuze_);
+    const Paartekens paren = PaartekensUit(gelezen_.value_or(std::nullopt).value_or(Tekst()));
     const Tekst losse = paren_.LaadSubgroep(administratie_.spelers.tabel, code_, keuze_, paren);
     VulParenlijst(Regellijst::Plek::Begin);
     Label8->clear();
     if (!paren.empty())
         ToonAantalParen();
     VulSpelerslijsten(Regellijst::Plek::Begin);
-    if (!lezing)
+    if (!gelezen_)
         MeldFout(
             this, QMessageBox::Warning,
             u"Het parenbestand '%1' kan niet worden gelezen; u ziet daarom geen paren. Voordat "
             "het wordt vervangen, komt er een kopie van in de map Reservekopie. Sluit met "
             "Annuleren als u eerst de oorzaak wilt verhelpen."_s.arg(NaarQString(keuze_)),
-            lezing.error());
+            gelezen_.error());
     if (!losse.empty())
         MeldVerslag(
             this,
@@ -169,7 +168,7 @@ void frmParenOnderhoud::VerwijderBestand()
     if (!Vraag(this, QMessageBox::Information,
                u"U gaat Parenbestand %1 volledig verwijderen!\r\nWeet u het zeker?"_s.arg(keuze)))
         return;
-    const auto weg = administratie_.schijf.Verwijder(*pad);
+    const auto weg = VerwijderParen(administratie_.schijf, administratie_.mappen, keuze_, gelezen_);
     if (!weg) {
         MeldFout(
             this, QMessageBox::Warning,
@@ -178,10 +177,14 @@ void frmParenOnderhoud::VerwijderBestand()
             weg.error());
         return;
     }
-    gelezen_.reset();
+    gelezen_ = std::nullopt;
     paren_.WisParen();
     VulParenlijst(Regellijst::Plek::Begin);
     ToonAantalParen();
+    if (!weg->empty())
+        Meld(this, QMessageBox::Information,
+             u"Een ander programma had dit parenbestand intussen gewijzigd. Wat erin stond, staat "
+             "in de kopie:\n%1"_s.arg(QString::fromStdString(administratie_.schijf.Toonpad(*weg))));
 }
 
 void frmParenOnderhoud::SchrijfCSV(ParenCSV soort)
@@ -219,16 +222,24 @@ void frmParenOnderhoud::Einde()
                  geweigerd.size() == 1 ? u"kan"_s : u"kunnen"_s));
         return;
     }
-    const auto bewaard =
+    const Bewaring bewaard =
         BewaarParen(administratie_.schijf, administratie_.mappen, keuze_, paren_.L3(), gelezen_);
-    if (!StaatEr(this, bewaard)) {
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    if (StaatEr(this, bewaard.gelukt)) {
+        MeldMenging(this, {.een = u"paar"_s,
+                           .meer = u"paren"_s,
+                           .overgenomen = Paarnamen(bewaard.overgenomen, tabel),
+                           .botsingen = Paarnamen(bewaard.botsingen, tabel),
+                           .onze = bewaard.onze,
+                           .andere = bewaard.andere});
+    } else {
         // The window closes all the same, so the pairs go where the user can still get them.
         const QString tekst = NaarQString(ParenTekst(paren_.L3()).value_or(Tekst()));
         QGuiApplication::clipboard()->setText(tekst.section(u'\r', 0, 0));
         Meld(this, QMessageBox::Warning,
              u"Fout bij het opslaan van Paren\nDe paren zijn niet verloren: ze staan nu op het "
              "klembord. Plak ze in een tekstbestand, verhelp de oorzaak en sla dat op onder de "
-             "naam hieronder.\n\n%1"_s.arg(Bijzonderheden(bewaard.error())));
+             "naam hieronder.\n\n%1"_s.arg(Bijzonderheden(bewaard.gelukt.error())));
     }
     accept();
 }

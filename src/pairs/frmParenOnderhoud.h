@@ -51,10 +51,10 @@ class frmParenOnderhoud : public QDialog {
     void ToonUitleg();
 
     Administratie& administratie_;
-    Tekst code_;                   ///< of the group
-    std::vector<Tekst> keuzes_;    ///< the lines of `cmbNBBledengr`
-    Tekst keuze_;                  ///< the group-subgroup that was chosen last
-    std::optional<Tekst> gelezen_; ///< the text of its pair file
+    Tekst code_;                ///< of the group
+    std::vector<Tekst> keuzes_; ///< the lines of `cmbNBBledengr`
+    Tekst keuze_;               ///< the group-subgroup that was chosen last
+    Parenlezing gelezen_;       ///< of its pair file
     Paren paren_;
     Maten maten_;
 

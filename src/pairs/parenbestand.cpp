@@ -7,7 +7,6 @@
 #include "pairs/paarregel.h"
 #include "platform/schijf/schijf.h"
 #include "platform/tekst/regels.h"
-#include "register/reservekopie.h"
 
 namespace plexoran {
 namespace {
@@ -28,6 +27,34 @@ std::vector<Tekstblik> Stukken(Tekstblik inhoud)
     stukken.push_back(rest);
     return stukken;
 }
+
+/// The name of a player with a key; the key itself when nobody has it.
+class Namen {
+  public:
+    explicit Namen(const Spelertabel& tabel) : tabel_(tabel)
+    {
+        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+            if (const auto getal = Geheel32(tabel.Cel(rij, Kolom::Key)))
+                rijen_.try_emplace(*getal, rij);
+        }
+    }
+
+    Tekst operator()(Tekstblik key) const
+    {
+        const auto getal = AlsGetal(key, 1) ? Geheel32(key) : std::nullopt;
+        const auto rij = getal ? rijen_.find(*getal) : rijen_.end();
+        if (rij == rijen_.end())
+            return Tekst(key);
+        Tekst uit(tabel_.Cel(rij->second, Kolom::Voornaam));
+        if (!tabel_.Cel(rij->second, Kolom::Tusv).empty())
+            uit.append(" ").append(tabel_.Cel(rij->second, Kolom::Tusv));
+        return uit.append(" ").append(tabel_.Cel(rij->second, Kolom::Achternaam));
+    }
+
+  private:
+    const Spelertabel& tabel_;
+    std::unordered_map<std::int32_t, int> rijen_; ///< by the number of the key
+};
 
 Tekst Paarteken(Tekstblik key1, Tekstblik key2)
 {
@@ -93,17 +120,30 @@ std::optional<Tekst> ParenTekst(std::span<const Tekst> regels)
     return tekst + "\r\n";
 }
 
-Uitkomst<void> BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
-                           std::span<const Tekst> regels, const std::optional<Tekst>& gelezen)
+Bewaring BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
+                     std::span<const Tekst> regels, const Parenlezing& gelezen)
 {
     if (regels.empty())
         return {};
     const auto tekst = ParenTekst(regels);
     const auto pad = Parenbestand(mappen, keuze);
     if (!tekst || !pad)
-        return Mislukt({.soort = tekst ? Foutsoort::Geweigerd : Foutsoort::Beschadigd});
-    const auto magWeg = [&](Tekstblik oud) { return gelezen == oud && IsParenbestand(oud); };
-    return VervangMetKopie(schijf, mappen.SPEMAP, *pad, *tekst, magWeg);
+        return {.gelukt = Mislukt({.soort = tekst ? Foutsoort::Geweigerd : Foutsoort::Beschadigd})};
+    const auto basis = gelezen ? std::optional(gelezen->value_or(Tekst())) : std::nullopt;
+    return BewaarSamen(schijf, mappen.SPEMAP, *pad, basis, *tekst, IsParenbestand);
+}
+
+Uitkomst<Pad> VerwijderParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
+                             const Parenlezing& gelezen)
+{
+    const Pad pad = Parenbestand(mappen, keuze).value_or(Pad());
+    const auto nu = LeesParenbestand(schijf, mappen, keuze);
+    const bool isAnders = nu && *nu && gelezen && *nu != *gelezen;
+    auto kopie =
+        isAnders ? MaakReservekopie(schijf, mappen.SPEMAP, pad, **nu) : Uitkomst<Pad>(Pad());
+    if (!kopie)
+        return kopie;
+    return schijf.Verwijder(pad).map([&] { return *kopie; });
 }
 
 Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen, Tekstblik groepscode,
@@ -127,23 +167,18 @@ Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen, Tek
     return paren;
 }
 
+std::vector<Tekst> Paarnamen(const Paartekens& paren, const Spelertabel& tabel)
+{
+    const Namen naam(tabel);
+    std::vector<Tekst> uit;
+    for (const Tekst& paar : paren)
+        uit.push_back(naam(Eerste6(paar)) + " - " + naam(Laatste6(paar)));
+    return uit;
+}
+
 Tekst ParenCSVTekst(std::span<const Tekst> regels, const Spelertabel& tabel, ParenCSV soort)
 {
-    std::unordered_map<std::int32_t, int> rijen; // by the number of the key
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (const auto getal = Geheel32(tabel.Cel(rij, Kolom::Key)))
-            rijen.try_emplace(*getal, rij);
-    }
-    const auto naam = [&](Tekstblik key) {
-        const auto getal = AlsGetal(key, 1) ? Geheel32(key) : std::nullopt;
-        const auto rij = getal ? rijen.find(*getal) : rijen.end();
-        if (rij == rijen.end())
-            return Tekst(key);
-        Tekst uit(tabel.Cel(rij->second, Kolom::Voornaam));
-        if (!tabel.Cel(rij->second, Kolom::Tusv).empty())
-            uit.append(" ").append(tabel.Cel(rij->second, Kolom::Tusv));
-        return uit.append(" ").append(tabel.Cel(rij->second, Kolom::Achternaam));
-    };
+    const Namen naam(tabel);
     Tekst tekst;
     for (std::size_t i = 0; i < regels.size(); ++i) {
         const Tekstblik regel = regels[i];

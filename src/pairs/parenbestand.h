@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "register/mappen.h"
+#include "register/reservekopie.h"
 #include "register/spelertabel.h"
 
 namespace plexoran {
@@ -32,18 +33,28 @@ using Paartekens = std::vector<Tekst>;
 /// The content of a pair file, from the lines of the pairs list. Nothing when a line has no "+".
 [[nodiscard]] std::optional<Tekst> ParenTekst(std::span<const Tekst> regels);
 
-/// Writes the pair file whole. Without lines nothing is written: the file keeps its pairs. A file
-/// that holds anything else than pairs, or that is not the text `gelezen`, is first copied aside.
+/// What came of `LeesParenbestand`.
+using Parenlezing = Uitkomst<std::optional<Tekst>>;
+
+/// Writes the pair file whole. Without lines nothing is written: the file keeps its pairs. What
+/// another program did to it since it was read as `gelezen` is brought together with the lines. A
+/// file that holds anything else than pairs, or that could not be read, is first copied aside.
 /// `Beschadigd` when a line has no "+", `Geweigerd` when no file can have that name.
-[[nodiscard]] Uitkomst<void> BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
-                                         std::span<const Tekst> regels,
-                                         const std::optional<Tekst>& gelezen);
+[[nodiscard]] Bewaring BewaarParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
+                                   std::span<const Tekst> regels, const Parenlezing& gelezen);
+
+/// Removes the pair file. One that is not what was read is first copied aside: where to.
+[[nodiscard]] Uitkomst<Pad> VerwijderParen(Schijf& schijf, const Mappen& mappen, Tekstblik keuze,
+                                           const Parenlezing& gelezen);
 
 /// The pairs in "RVDparen.txt" of which both players are in this group and subgroup, the latter in
 /// capitals or not. A missing file gives no pairs.
 [[nodiscard]] Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen,
                                                      Tekstblik groepscode, Tekstblik subgroep,
                                                      const Spelertabel& tabel);
+
+/// The two names of each pair, as the files for a spreadsheet have them.
+[[nodiscard]] std::vector<Tekst> Paarnamen(const Paartekens& paren, const Spelertabel& tabel);
 
 enum class ParenCSV { EenKolom = 1, TweeKolommen = 2 };
 

@@ -45,6 +45,7 @@ Groepen GroepenUit(Tekstblik inhoud)
         if (++nummer > AantalGroepen)
             break;
         groepen.ZetNaam(nummer, item.substr(std::min(item.size(), LengteGroepscode)));
+        groepen.aantal = nummer;
     }
     return groepen;
 }
@@ -87,16 +88,17 @@ Groepen LeesGroepen(Schijf& schijf, const Mappen& mappen)
     return groepen;
 }
 
-Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen, Groepen& groepen)
+Bewaring SchrijfGroepen(Schijf& schijf, const Mappen& mappen, Groepen& groepen)
 {
-    Tekst nieuw = GroepenTekst(groepen);
-    const auto magWeg = [&](Tekstblik oud) {
-        return groepen.bestandstekst == oud && IsGroepenbestand(oud);
-    };
-    auto uitkomst = VervangMetKopie(schijf, mappen.SPEMAP, mappen.Groepenbestand(), nieuw, magWeg);
-    if (StaatOpSchijf(uitkomst))
-        groepen.bestandstekst = std::move(nieuw);
-    return uitkomst;
+    Bewaring uit = BewaarSamen(schijf, mappen.SPEMAP, mappen.Groepenbestand(),
+                               groepen.bestandstekst, GroepenTekst(groepen), IsGroepenbestand);
+    Groepen daar = GroepenUit(uit.inhoud);
+    // One that was cut off, and that we had nothing to add to, stands there as it was.
+    if (StaatOpSchijf(uit.gelukt) && daar.aantal >= groepen.aantal) {
+        groepen = std::move(daar);
+        groepen.bestandstekst = uit.inhoud;
+    }
+    return uit;
 }
 
 } // namespace plexoran

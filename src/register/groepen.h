@@ -38,6 +38,7 @@ class Groepen {
     /// The text of the file that the names were read from or written to; none when there is no such
     /// text, so that a file that stands there is not known.
     std::optional<Tekst> bestandstekst;
+    int aantal = 0; ///< of how many groups that text has a name, be it an empty one
 
     /// Those of all groups, in their order.
     [[nodiscard]] std::vector<Tekst> Toonteksten() const;
@@ -61,8 +62,9 @@ class Groepen {
 /// A file that cannot be read gives groups without names.
 [[nodiscard]] Groepen LeesGroepen(Schijf& schijf, const Mappen& mappen);
 
-/// Writes the file whole. One that holds anything else than group names, or that is not the one
-/// that was read, is first copied aside.
-[[nodiscard]] Uitkomst<void> SchrijfGroepen(Schijf& schijf, const Mappen& mappen, Groepen& groepen);
+/// Writes the file whole. Names that another program gave since it was read come along, into
+/// `groepen` too. A file that holds anything else than group names, or that is not known, is first
+/// copied aside.
+[[nodiscard]] Bewaring SchrijfGroepen(Schijf& schijf, const Mappen& mappen, Groepen& groepen);
 
 } // namespace plexoran

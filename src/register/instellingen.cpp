@@ -56,16 +56,28 @@ Instellingen LeesInstellingen(Schijf& schijf, const Mappen& mappen)
     if (mappen.ADMMAP.empty())
         return {};
     const auto inhoud = schijf.LeesBestand(mappen.Instellingenbestand());
-    return inhoud ? InstellingenUit(*inhoud) : Instellingen();
+    Instellingen instellingen = inhoud ? InstellingenUit(*inhoud) : Instellingen();
+    instellingen.OPTINDopSchijf = instellingen.OPTIND;
+    return instellingen;
 }
 
-Uitkomst<void> SchrijfInstellingen(Schijf& schijf, const Mappen& mappen,
-                                   const Instellingen& instellingen)
+Uitkomst<void> SchrijfInstellingen(Schijf& schijf, const Mappen& mappen, Instellingen& instellingen)
 {
     if (mappen.ADMMAP.empty())
         return Mislukt({.soort = Foutsoort::Ontbreekt, .bestand = "Plexo.ini"});
-    return VervangMetKopie(schijf, mappen.SPEMAP, mappen.Instellingenbestand(),
-                           InstellingenTekst(instellingen), IsInstellingenbestand);
+    const Pad pad = mappen.Instellingenbestand();
+    const auto nu = AlsErIs(schijf.LeesBestand(pad));
+    if (!nu)
+        return Mislukt(nu);
+    const bool isHeel = *nu && !IsLeeg(**nu) && IsInstellingenbestand(**nu);
+    if (isHeel && instellingen.OPTIND == instellingen.OPTINDopSchijf)
+        instellingen.OPTIND = InstellingenUit(**nu).OPTIND;
+    const auto gelukt = BewaarSamen(schijf, mappen.SPEMAP, pad, *nu,
+                                    InstellingenTekst(instellingen), IsInstellingenbestand)
+                            .gelukt;
+    if (StaatOpSchijf(gelukt))
+        instellingen.OPTINDopSchijf = instellingen.OPTIND;
+    return gelukt;
 }
 
 } // namespace plexoran

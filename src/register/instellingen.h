@@ -6,8 +6,9 @@
 namespace plexoran {
 
 struct Instellingen {
-    std::int16_t OPTIND = 0; ///< the return field of fast entry
-    std::int16_t LOSTGR = 0; ///< list position, from 0, of the group shown last
+    std::int16_t OPTIND = 0;         ///< the return field of fast entry
+    std::int16_t LOSTGR = 0;         ///< list position, from 0, of the group shown last
+    std::int16_t OPTINDopSchijf = 0; ///< as it was read or written last
 };
 
 /// The settings in the text of a "Plexo.ini"; those not found stay 0. A number that does not fit
@@ -20,8 +21,9 @@ struct Instellingen {
 /// A file that is missing or cannot be read gives 0 for both.
 [[nodiscard]] Instellingen LeesInstellingen(Schijf& schijf, const Mappen& mappen);
 
-/// Writes the file whole. One that holds anything else than settings is first copied aside.
+/// Writes the file whole. A return field that only another program changed since is taken over. A
+/// file that holds anything else than settings is first copied aside.
 [[nodiscard]] Uitkomst<void> SchrijfInstellingen(Schijf& schijf, const Mappen& mappen,
-                                                 const Instellingen& instellingen);
+                                                 Instellingen& instellingen);
 
 } // namespace plexoran

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/tekst/regels.h"
+#include "register/itemmenging.h"
 
 namespace plexoran {
 namespace {
@@ -18,6 +19,48 @@ Uitkomst<Pad> VrijeNaam(Schijf& schijf, const Pad& basis, Tekstblik na)
             return pad;
         pad = (basis + "-" + std::to_string(volgnummer)).append(na);
     }
+}
+
+/// Where the copy is, as the system names it.
+Uitkomst<std::string> Kopieer(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                              Tekstblik inhoud)
+{
+    return MaakReservekopie(schijf, spelersmap, bestand, inhoud).map([&](const Pad& kopie) {
+        return schijf.Toonpad(kopie);
+    });
+}
+
+/// One try to save over the text `nu`; `Gewijzigd` when that is not what stands there any more.
+Bewaring BewaarOver(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                    const std::optional<Tekst>& basis, const Tekst& ons,
+                    const std::function<bool(Tekstblik)>& isHeel, const std::optional<Tekst>& nu)
+{
+    const bool isEr = nu && !IsLeeg(*nu);
+    const bool isAnders = isEr && nu != basis;
+    auto samen = isAnders && basis ? MengTekst(bestand, basis, ons, nu) : std::nullopt;
+    const bool nietSamen = isAnders && !samen;
+    if (!samen)
+        samen.emplace().inhoud = ons;
+    Bewaring uit{.inhoud = samen->inhoud.value_or(Tekst()),
+                 .overgenomen = std::move(samen->overgenomen),
+                 .botsingen = std::move(samen->botsingen)};
+    if (!uit.botsingen.empty()) {
+        const auto kopie = Kopieer(schijf, spelersmap, bestand, ons);
+        if (!kopie)
+            return {.gelukt = Mislukt(kopie)};
+        uit.onze = *kopie;
+    }
+    if (nu == uit.inhoud)
+        return uit;
+    if (isEr && (nietSamen || !isHeel(*nu))) {
+        const auto kopie = Kopieer(schijf, spelersmap, bestand, *nu);
+        if (!kopie)
+            return {.gelukt = Mislukt(kopie)};
+        if (nietSamen && basis)
+            uit.andere = *kopie;
+    }
+    uit.gelukt = VervangOngewijzigd(schijf, bestand, uit.inhoud, nu);
+    return uit;
 }
 
 } // namespace
@@ -50,20 +93,19 @@ Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap, const Pad&
         });
 }
 
-Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
-                               Tekstblik nieuw, const std::function<bool(Tekstblik)>& magWeg)
+Bewaring BewaarSamen(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                     const std::optional<Tekst>& basis, const Tekst& ons,
+                     const std::function<bool(Tekstblik)>& isHeel)
 {
-    const auto oud = AlsErIs(schijf.LeesBestand(bestand));
-    if (!oud)
-        return Mislukt(oud);
-    if (*oud == nieuw)
-        return {};
-    if (*oud && !IsLeeg(**oud) && !magWeg(**oud)) {
-        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand, **oud);
-        if (!kopie)
-            return Mislukt(kopie);
+    constexpr int pogingen = 20;
+    for (int poging = 1;; ++poging) {
+        const auto nu = AlsErIs(schijf.LeesBestand(bestand));
+        if (!nu)
+            return {.gelukt = Mislukt(nu)};
+        Bewaring uit = BewaarOver(schijf, spelersmap, bestand, basis, ons, isHeel, *nu);
+        if (uit.gelukt || uit.gelukt.error().soort != Foutsoort::Gewijzigd || poging == pogingen)
+            return uit;
     }
-    return SchrijfHeel(schijf, bestand, nieuw);
 }
 
 Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand, Tekst nieuw)
@@ -84,15 +126,15 @@ Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand, T
         }
         uit.kopie = *kopie;
     }
-    uit.gemaakt = SchrijfHeel(schijf, bestand, uit.nieuw);
+    uit.gemaakt = VervangOngewijzigd(schijf, bestand, uit.nieuw, *gelezen);
     return uit;
 }
 
 Uitkomst<void> ZetTerug(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
                         const Aanmaak& aanmaak)
 {
-    return VervangMetKopie(schijf, spelersmap, bestand, aanmaak.inhoud,
-                           [&](Tekstblik nu) { return nu == aanmaak.nieuw; });
+    const auto isHeel = [](Tekstblik /*nu*/) { return true; };
+    return BewaarSamen(schijf, spelersmap, bestand, aanmaak.nieuw, aanmaak.inhoud, isHeel).gelukt;
 }
 
 } // namespace plexoran

@@ -25,11 +25,23 @@ namespace plexoran {
 [[nodiscard]] Uitkomst<Pad> MaakReservekopie(Schijf& schijf, const Pad& spelersmap,
                                              const Pad& bestand, Tekstblik inhoud);
 
-/// Writes a small file whole. A file that stands there and that `magWeg` does not let go is copied
-/// first, unless it is empty; one that already holds `nieuw` is left alone.
-[[nodiscard]] Uitkomst<void> VervangMetKopie(Schijf& schijf, const Pad& spelersmap,
-                                             const Pad& bestand, Tekstblik nieuw,
-                                             const std::function<bool(Tekstblik)>& magWeg);
+/// What came of saving a small file that another program may have changed meanwhile.
+struct Bewaring {
+    Uitkomst<void> gelukt{};
+    Tekst inhoud{};                   ///< what the file holds then
+    std::vector<Tekst> overgenomen{}; ///< items that are the other program's doing
+    std::vector<Tekst> botsingen{};   ///< items that both changed: the other's stand in the file
+    std::string onze{};               ///< and the copy that holds ours; for the eye only
+    std::string andere{};             ///< the copy of what could not be brought together with ours
+};
+
+/// Saves `ons`, which came of `basis`. Another text in the file is the other program's work and is
+/// brought together with ours; where that cannot be, and where `isHeel` says that the file holds
+/// more than a save keeps, it is copied first. Without `basis` what stands there is not known, and
+/// is copied and replaced. An empty file is none, and one that holds the outcome is left alone.
+[[nodiscard]] Bewaring BewaarSamen(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
+                                   const std::optional<Tekst>& basis, const Tekst& ons,
+                                   const std::function<bool(Tekstblik)>& isHeel);
 
 /// What the start did for a file that must be there and begin with something.
 struct Aanmaak {
@@ -44,7 +56,8 @@ struct Aanmaak {
 [[nodiscard]] Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
                                   Tekst nieuw);
 
-/// Puts back what the file held. One that was changed since it was made is first copied aside.
+/// Puts back what the file held. One that was changed since it was made is brought together with
+/// it, or first copied aside.
 [[nodiscard]] Uitkomst<void> ZetTerug(Schijf& schijf, const Pad& spelersmap, const Pad& bestand,
                                       const Aanmaak& aanmaak);
 

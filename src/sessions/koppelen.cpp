@@ -35,20 +35,26 @@ struct Aanpassing {
     std::optional<Fout> fout;
 };
 
+/// What another program writes in between is read, and linked, again.
 Aanpassing PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort,
                   const Naamvervanging& vervanging)
 {
-    const auto inhoud = LeesAlsErIs(schijf, pad);
-    if (!inhoud)
-        return {{}, inhoud.error()};
-    Herschrijving nieuw = HerschrijfLijst(inhoud->value_or(Tekst()), soort, vervanging);
-    if (nieuw.vervangen.empty())
-        return {};
-    const auto geschreven = SchrijfHeel(schijf, pad, nieuw.inhoud);
-    if (!StaatOpSchijf(geschreven))
-        return {{}, geschreven.error()};
-    return {std::move(nieuw.vervangen),
-            geschreven ? std::nullopt : std::optional(geschreven.error())};
+    constexpr int pogingen = 20;
+    for (int poging = 1;; ++poging) {
+        const auto inhoud = LeesAlsErIs(schijf, pad);
+        if (!inhoud)
+            return {{}, inhoud.error()};
+        Herschrijving nieuw = HerschrijfLijst(inhoud->value_or(Tekst()), soort, vervanging);
+        if (nieuw.vervangen.empty())
+            return {};
+        const auto geschreven = VervangOngewijzigd(schijf, pad, nieuw.inhoud, *inhoud);
+        if (geschreven)
+            return {std::move(nieuw.vervangen), std::nullopt};
+        if (StaatOpSchijf(geschreven))
+            return {std::move(nieuw.vervangen), geschreven.error()};
+        if (geschreven.error().soort != Foutsoort::Gewijzigd || poging == pogingen)
+            return {{}, geschreven.error()};
+    }
 }
 
 /// The lines of one session that stand together in the list.

@@ -301,6 +301,40 @@ TEST_F(Toevoegen, HetVerslagRuimtOpWatEenAfgebrokenSchrijvenLiet)
     EXPECT_EQ("half", schijf.Inhoud(net));
 }
 
+/// What another program writes while ours is written, is what comes back.
+TEST_F(Toevoegen, WatErTijdensHetSchrijvenKomtKomtTerug)
+{
+    schijf.Zet(koppelverslag, "van vroeger");
+    FalendeSchijf falend(schijf);
+    Koppelverslag verslag(falend, mappen, "a_Rev", "N01 1 - 2\r\n");
+    int keer = 0;
+    falend.Vooraf([&](const Pad& pad) {
+        if (pad.ends_with(".~plexoran0") && keer < 2)
+            schijf.Zet(koppelverslag, "van daar " + std::to_string(++keer));
+        return true;
+    });
+    ASSERT_TRUE(verslag.Schrijf());
+    EXPECT_EQ("N01 1 - 2\r\n", schijf.Inhoud(koppelverslag));
+    ASSERT_TRUE(verslag.ZetTerug());
+    EXPECT_EQ("van daar 2", schijf.Inhoud(koppelverslag));
+}
+
+TEST_F(Toevoegen, WatEenAnderOverHetVerslagSchreefWordtNietTeruggezet)
+{
+    for (const bool vroeger : {false, true}) {
+        schijf.ZetMap("C:\\RVD\\Zittingen\\a_Rev");
+        if (vroeger)
+            schijf.Zet(koppelverslag, "van vroeger");
+        Koppelverslag verslag(schijf, mappen, "a_Rev", "N01 1 - 2\r\n");
+        ASSERT_TRUE(verslag.Schrijf());
+        schijf.Zet(koppelverslag, "van daar");
+        const auto terug = verslag.ZetTerug();
+        ASSERT_FALSE(terug);
+        EXPECT_EQ(Foutsoort::Gewijzigd, terug.error().soort);
+        EXPECT_EQ("van daar", schijf.Inhoud(koppelverslag));
+    }
+}
+
 TEST_F(Toevoegen, EenVerslagDatNietTeLezenWasWordtNooitVerwijderd)
 {
     schijf.Zet(koppelverslag, "van vroeger");

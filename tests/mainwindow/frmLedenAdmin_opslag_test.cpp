@@ -657,10 +657,46 @@ TEST_F(OpslagInHetVenster, GroepsnamenDieNietTeBewarenZijnWordenTeruggenomen)
     EXPECT_EQ("Gr11-Nieuw", Groepsnaam());
 }
 
+TEST_F(OpslagInHetVenster, GroepsnamenVanEenAnderProgrammaWordenOvergenomenEnGemeld)
+{
+    std::string daar = suite.Groepen();
+    daar.replace(daar.find("Gr12-"), 5, "Gr12-Daar");
+    wachter.Bedien([&](QDialog& dialoog) {
+        suite.Zet("Spelers/RVDGroepen.txt", daar);
+        Schrijf(dialoog, "txt1_11", u"Nieuw"_s);
+        Druk(dialoog, "cmdOK");
+    });
+    wachter.Informatie(u"1 groepsnaam van een ander programma overgenomen: Gr12-Daar."_s);
+    Opdracht("cmdMaakGrNamen");
+    EXPECT_EQ("Gr11-Nieuw", RegelsVan(suite.Groepen()).at(10));
+    EXPECT_EQ("Gr12-Daar", RegelsVan(suite.Groepen()).at(11));
+    EXPECT_EQ("Gr12-Daar", Keus("cmbGr")->itemText(11).toStdString());
+}
+
+TEST_F(OpslagInHetVenster, VanEenGroepsnaamDieBeideGavenHeetDeKopie)
+{
+    std::string daar = suite.Groepen();
+    daar.replace(daar.find("Gr11-"), 5, "Gr11-Daar");
+    wachter.Bedien([&](QDialog& dialoog) {
+        suite.Zet("Spelers/RVDGroepen.txt", daar);
+        Schrijf(dialoog, "txt1_11", u"Nieuw"_s);
+        Druk(dialoog, "cmdOK");
+    });
+    wachter.Begin(
+        u"1 groepsnaam zowel hier als door een ander programma gewijzigd: Gr11-Nieuw. In het "
+        "bestand staat wat het andere programma ervan maakte. Zoals het hier was, staat het in de "
+        "kopie:\n"_s,
+        QMessageBox::Information);
+    Opdracht("cmdMaakGrNamen");
+    EXPECT_EQ(daar, suite.Groepen());
+    EXPECT_EQ("Gr11-Daar", Keus("cmbGr")->itemText(10).toStdString());
+    EXPECT_EQ(1U, suite.Namen("Spelers/Reservekopie").size());
+}
+
 TEST_F(OpslagInHetVenster, GroepsnamenDieErStaanMaarNietVastBlijvenOokOpHetScherm)
 {
     LaatEenReserveMaken();
-    schijf.FaalBij(7); // make, rights, write, sync, close, rename, and then the folder
+    schijf.FaalBij(9); // make, rights, write, sync, close, lock, rename, unlock, the folder
     VerwachtGroepsnaam();
     wachter.Begin(u"Het bestand is opgeslagen: de nieuwe inhoud staat heel op de schijf."_s);
     Opdracht("cmdMaakGrNamen");
@@ -751,6 +787,24 @@ TEST_F(Volgen, AndereGroepsnamenStaanInDeKeuslijst)
     Zet("Spelers/RVDGroepen.txt", tekst,
         [&] { return Keus("cmbGr")->itemText(0) == u"Gr01-Anders"; });
     EXPECT_EQ(3, GetoondeGroep());
+}
+
+TEST_F(Volgen, HalveGroepsnamenVeranderenNiets)
+{
+    const QString was = Keus("cmbGr")->itemText(1);
+    suite.Zet("Spelers/RVDGroepen.txt", "Gr01-Anders\r\n");
+    QTest::qWait(1500);
+    EXPECT_NE(u"Gr01-Anders"_s, Keus("cmbGr")->itemText(0));
+    EXPECT_EQ(was, Keus("cmbGr")->itemText(1));
+}
+
+TEST_F(Volgen, HetTerugkeerveldVanEenAnderProgrammaGeldtBijHetInvoeren)
+{
+    suite.Zet("Admin/Plexo.ini", "OPTIND=2\r\nLOSTGR=0\r\n");
+    VerwachtIngave(u"Nieuweling"_s);
+    Opdracht("cmdAanm");
+    EXPECT_EQ(2, administratie.instellingen.OPTIND);
+    EXPECT_EQ("OPTIND=2\r\nLOSTGR=0\r\n", suite.Instellingen());
 }
 
 TEST_F(Volgen, WatHierNogNietIsOpgeslagenGaatVoor)

@@ -507,12 +507,54 @@ TEST_F(frmParenOnderhoudTest, ParenDieErStaanMaarNietVastGaanNietNaarHetKlembord
     KiesDinsdag("100004-100005#\r\n");
     MaakPaar(0, 1);
     QGuiApplication::clipboard()->setText(u"van mij"_s);
-    schijf.FaalBij(10);
+    schijf.FaalBij(13);
     VerwachtNietVast(dinsdag);
     Opdracht("cmdEinde");
     EXPECT_FALSE(venster->isVisible());
     EXPECT_EQ("van mij", QGuiApplication::clipboard()->text().toStdString());
     EXPECT_EQ("100001-100002#100004-100005#\r\n", geheugen.Inhoud(dinsdag));
+}
+
+TEST_F(frmParenOnderhoudTest, WatEenAnderProgrammaDeedWordtOvergenomenEnGemeld)
+{
+    KiesDinsdag("100004-100005#\r\n");
+    MaakPaar(0, 1);
+    geheugen.Zet(dinsdag, "100006-100099#\r\n");
+    wachter.Informatie(
+        u"2 paren van een ander programma overgenomen: Fred Gans - 100099, Dirk Eik - \u00C9ls "
+        "\u00C4rp."_s);
+    Opdracht("cmdEinde");
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ("100006-100099#100001-100002#\r\n", geheugen.Inhoud(dinsdag));
+}
+
+TEST_F(frmParenOnderhoudTest, VanEenPaarDatBotstHeetDeKopie)
+{
+    KiesDinsdag("");
+    MaakPaar(1, 2);
+    geheugen.Zet(dinsdag, "100001-100004#\r\n");
+    wachter.Begin(
+        u"1 paar van een ander programma overgenomen: An Bos - Dirk Eik.\n\n1 paar zowel hier als "
+        "door een ander programma gewijzigd: An Bos - Bea de Cock. In het bestand staat wat het "
+        "andere programma ervan maakte. Zoals het hier was, staat het in de "
+        "kopie:\nC:\\club\\Spelers\\Reservekopie\\Gr03-Dinsdag "_s,
+        QMessageBox::Information);
+    Opdracht("cmdEinde");
+    EXPECT_EQ("100001-100004#\r\n", geheugen.Inhoud(dinsdag));
+}
+
+TEST_F(frmParenOnderhoudTest, WatNietSamenKanHeetDeKopieVanDeAnder)
+{
+    KiesDinsdag("");
+    MaakPaar(1, 2);
+    geheugen.Zet(dinsdag, "kapot");
+    wachter.Begin(
+        u"Een ander programma heeft dit bestand intussen gewijzigd, en dat is niet samen te voegen "
+        "met wat hier staat. In het bestand staat nu wat hier staat; wat het andere programma "
+        "schreef, staat in de kopie:\nC:\\club\\Spelers\\Reservekopie\\Gr03-Dinsdag "_s,
+        QMessageBox::Information);
+    Opdracht("cmdEinde");
+    EXPECT_EQ("100001-100002#\r\n", geheugen.Inhoud(dinsdag));
 }
 
 TEST_F(frmParenOnderhoudTest, EenNaamDieGeenBestandKanZijn)
@@ -567,6 +609,21 @@ TEST_F(frmParenOnderhoudTest, HetBestandVerwijderen)
     EXPECT_EQ((Teksten{"100001 Bos An", "100002 Cock Bea de"}), Regels("L1"));
     Kies("Gr03-Dinsdag");
     EXPECT_EQ(vier, Regels("L1"));
+}
+
+TEST_F(frmParenOnderhoudTest, VanWatEenAnderIntussenSchreefKomtBijHetVerwijderenEenKopie)
+{
+    KiesDinsdag("100004-100005#\r\n");
+    geheugen.Zet(dinsdag, "100001-100002#\r\n");
+    wachter.Begin(u"U gaat Parenbestand Gr03-Dinsdag"_s, QMessageBox::Information);
+    wachter.Begin(u"Een ander programma had dit parenbestand intussen gewijzigd. Wat erin stond, "
+                  "staat in de kopie:\nC:\\club\\Spelers\\Reservekopie\\Gr03-Dinsdag "_s,
+                  QMessageBox::Information);
+    Opdracht("cmdVerwParenbest");
+    const auto over = geheugen.AlleBestanden();
+    ASSERT_EQ(1U, over.size());
+    EXPECT_EQ("100001-100002#\r\n", geheugen.Inhoud(over.front()));
+    EXPECT_EQ(Teksten(), Regels("L3"));
 }
 
 TEST_F(frmParenOnderhoudTest, EenBestandDatNietVerwijderdKanWorden)

@@ -34,7 +34,14 @@ struct ParenbestandTest : testing::Test {
     [[nodiscard]] Uitkomst<void> Bewaar(const std::vector<Tekst>& regels,
                                         const std::optional<Tekst>& gelezen = std::nullopt)
     {
-        return BewaarParen(schijf, mappen, "Gr03-Dinsdag", regels, gelezen);
+        return BewaarParen(schijf, mappen, "Gr03-Dinsdag", regels, gelezen).gelukt;
+    }
+    /// While another program left this in the file since it was read.
+    [[nodiscard]] Bewaring BewaarTerwijl(const Tekst& gelezen, const std::vector<Tekst>& regels,
+                                         const Tekst& daar)
+    {
+        schijf.Zet(gr03, daar);
+        return BewaarParen(schijf, mappen, "Gr03-Dinsdag", regels, std::optional(gelezen));
     }
     [[nodiscard]] std::vector<Tekst> Kopieen()
     {
@@ -87,7 +94,8 @@ TEST_F(ParenbestandTest, DeGroepZonderSubgroepHeeftEenBestandMetAlleenDeCode)
     schijf.Zet("C:\\club\\Spelers\\Parenmap\\Gr07-.txt", "100234-100417#\r\n");
     EXPECT_EQ(Paartekens{"100234-100417"}, Tekens("Gr07-"));
     ASSERT_TRUE(
-        BewaarParen(schijf, mappen, "Gr07-", std::vector<Tekst>{eenPaar, eenPaar}, Lees("Gr07-")));
+        BewaarParen(schijf, mappen, "Gr07-", std::vector<Tekst>{eenPaar, eenPaar}, Lees("Gr07-"))
+            .gelukt);
     EXPECT_EQ("100234-100417#100234-100417#\r\n",
               schijf.Inhoud("C:\\club\\Spelers\\Parenmap\\Gr07-.txt"));
 }
@@ -119,7 +127,7 @@ TEST_F(ParenbestandTest, ZoNaamHeeftGeenParenEnWordtNietBewaard)
     schijf.Zet("C:\\club\\Spelers\\Parenmap\\Gr03-A\\B.txt", "100234-100417#\r\n");
     EXPECT_EQ(std::nullopt, Lees("Gr03-A\\B"));
     const auto bewaard =
-        BewaarParen(schijf, mappen, "Gr03-A\\B", std::vector<Tekst>{eenPaar}, std::nullopt);
+        BewaarParen(schijf, mappen, "Gr03-A\\B", std::vector<Tekst>{eenPaar}, std::nullopt).gelukt;
     ASSERT_FALSE(bewaard);
     EXPECT_EQ(Foutsoort::Geweigerd, bewaard.error().soort);
     EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud("C:\\club\\Spelers\\Parenmap\\Gr03-A\\B.txt"));
@@ -181,14 +189,113 @@ TEST_F(ParenbestandTest, WatNietGelezenIsKomtInEenKopie)
     }
 }
 
-TEST_F(ParenbestandTest, EenBestandDatIntussenVeranderdeKomtInEenKopie)
+TEST_F(ParenbestandTest, DeParenVanEenAnderProgrammaKomenMee)
+{
+    const Bewaring bewaard =
+        BewaarTerwijl("100301-100222#\r\n", {eenPaar, "100301 X          +100222 Y"},
+                      "100301-100222#100500-100501#\r\n");
+    ASSERT_TRUE(bewaard.gelukt);
+    EXPECT_EQ("100301-100222#100500-100501#100234-100417#\r\n", schijf.Inhoud(gr03));
+    EXPECT_EQ(std::vector<Tekst>{"100500-100501"}, bewaard.overgenomen);
+    EXPECT_EQ(std::vector<Tekst>(), Kopieen());
+}
+
+/// The list of the window has another order than the file; that alone is no change.
+TEST_F(ParenbestandTest, WieNietsVeranderdeLaatHetBestandVanDeAnder)
+{
+    const Bewaring bewaard =
+        BewaarTerwijl("100301-100222#100234-100417#\r\n", {eenPaar, "100301 X          +100222 Y"},
+                      "100500-100501#100301-100222#\r\n");
+    ASSERT_TRUE(bewaard.gelukt);
+    EXPECT_EQ("100500-100501#100301-100222#\r\n", schijf.Inhoud(gr03));
+    EXPECT_EQ((std::vector<Tekst>{"100500-100501", "100234-100417"}), bewaard.overgenomen);
+    // A file that came meanwhile is no less another program's.
+    ASSERT_TRUE(BewaarTerwijl("", {eenPaar}, "100500-100501#\r\n").gelukt);
+    EXPECT_EQ("100500-100501#100234-100417#\r\n", schijf.Inhoud(gr03));
+}
+
+TEST_F(ParenbestandTest, EenSpelerDieOokEldersGepaardIsKomtInEenKopie)
+{
+    const Bewaring bewaard = BewaarTerwijl("", {eenPaar}, "100417-100500#\r\n");
+    ASSERT_TRUE(bewaard.gelukt);
+    EXPECT_EQ("100417-100500#\r\n", schijf.Inhoud(gr03));
+    EXPECT_EQ(std::vector<Tekst>{"100234-100417"}, bewaard.botsingen);
+    EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(bewaard.onze));
+    EXPECT_EQ(std::vector<Tekst>{"100234-100417#\r\n"}, Kopieen());
+}
+
+TEST_F(ParenbestandTest, WatEenAnderBeschadigdeKomtInEenKopieDieGenoemdWordt)
+{
+    for (const char* stuk : {"100301-100222#1002", "100301-100222#\r\nx", "iets anders"}) {
+        const Bewaring bewaard = BewaarTerwijl("100301-100222#\r\n", {eenPaar}, stuk);
+        ASSERT_TRUE(bewaard.gelukt);
+        EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(gr03));
+        EXPECT_EQ(stuk, schijf.Inhoud(bewaard.andere));
+        EXPECT_EQ(std::vector<Tekst>(), bewaard.overgenomen);
+    }
+    // Emptied, or gone: there is nothing to bring together.
+    ASSERT_TRUE(BewaarTerwijl("100301-100222#\r\n", {eenPaar}, "\r\n").gelukt);
+    EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(gr03));
+    EXPECT_EQ(3U, Kopieen().size());
+}
+
+TEST_F(ParenbestandTest, WatNietTeLezenWasWordtVervangenNaEenKopie)
 {
     schijf.Zet(gr03, "100301-100222#\r\n");
-    const auto gelezen = Lees();
-    schijf.Zet(gr03, "100500-100501#\r\n");
-    ASSERT_TRUE(Bewaar({eenPaar}, gelezen));
+    const Parenlezing mislukt = Mislukt({.soort = Foutsoort::Geweigerd});
+    const Bewaring bewaard =
+        BewaarParen(schijf, mappen, "Gr03-Dinsdag", std::vector<Tekst>{eenPaar}, mislukt);
+    ASSERT_TRUE(bewaard.gelukt);
+    EXPECT_EQ("", bewaard.andere) << "dat er een kopie komt, is bij het lezen al gezegd";
     EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(gr03));
-    EXPECT_EQ(std::vector<Tekst>{"100500-100501#\r\n"}, Kopieen());
+    EXPECT_EQ(std::vector<Tekst>{"100301-100222#\r\n"}, Kopieen());
+}
+
+TEST_F(ParenbestandTest, VerwijderenMetEenKopieVanWatNietGelezenWas)
+{
+    const auto verwijder = [&](const Parenlezing& gelezen) {
+        schijf.Zet(gr03, "100301-100222#\r\n");
+        const auto kopie = VerwijderParen(schijf, mappen, "Gr03-Dinsdag", gelezen);
+        EXPECT_EQ(std::nullopt, schijf.Inhoud(gr03));
+        return kopie.value_or("mislukt");
+    };
+    EXPECT_EQ("", verwijder(std::optional<Tekst>("100301-100222#\r\n")));
+    EXPECT_EQ(std::vector<Tekst>(), Kopieen());
+    for (const auto& gelezen : {std::optional<Tekst>("100234-100417#\r\n"), std::optional<Tekst>()})
+        EXPECT_EQ("100301-100222#\r\n", schijf.Inhoud(verwijder(gelezen)));
+
+    schijf.Zet(gr03, "100301-100222#\r\n");
+    FalendeSchijf stuk(schijf, FalendeSchijf::Telt::AlleenSchrijven);
+    stuk.FaalBij(1);
+    const auto kopie = VerwijderParen(stuk, mappen, "Gr03-Dinsdag", std::optional<Tekst>("anders"));
+    ASSERT_FALSE(kopie);
+    EXPECT_EQ(Foutsoort::GeenReservekopie, kopie.error().soort);
+    EXPECT_EQ("100301-100222#\r\n", schijf.Inhoud(gr03));
+}
+
+/// Whoever saves over another program's work loses nothing of it wherever the disk fails.
+TEST_F(ParenbestandTest, BijElkeWeigeringBlijftWatEenAnderSchreef)
+{
+    const Tekst daar = "100417-100500#100301-100222#\r\n";
+    const Tekst samen = "100417-100500#100301-100222#100600-100601#\r\n";
+    const Tekst ons = "100234-100417#100600-100601#\r\n";
+    bool gelukt = false;
+    int bij = 0;
+    while (!gelukt) {
+        schijf.Zet(gr03, daar);
+        FalendeSchijf stuk(schijf);
+        stuk.FaalBij(++bij);
+        const Bewaring bewaard = BewaarParen(
+            stuk, mappen, "Gr03-Dinsdag",
+            std::vector<Tekst>{eenPaar, "100600 X          +100601 Y"}, std::optional<Tekst>(""));
+        gelukt = stuk.Aantal() < bij;
+        const Tekst nu = schijf.Inhoud(gr03).value_or("weg");
+        EXPECT_EQ(StaatOpSchijf(bewaard.gelukt) ? samen : daar, nu) << bij;
+        if (StaatOpSchijf(bewaard.gelukt)) {
+            EXPECT_EQ(ons, schijf.Inhoud(bewaard.onze)) << bij;
+        }
+    }
+    EXPECT_GT(bij, 20);
 }
 
 TEST_F(ParenbestandTest, BijElkeWeigeringVanDeSchijfIsHetOudeOfHetNieuweBestandHeel)
@@ -198,8 +305,9 @@ TEST_F(ParenbestandTest, BijElkeWeigeringVanDeSchijfIsHetOudeOfHetNieuweBestandH
         schijf.Zet(gr03, oud);
         FalendeSchijf stuk(schijf, FalendeSchijf::Telt::AlleenSchrijven);
         stuk.FaalBij(bij);
-        const auto bewaard =
-            BewaarParen(stuk, mappen, "Gr03-Dinsdag", std::vector<Tekst>{eenPaar}, oud);
+        const auto bewaard = BewaarParen(stuk, mappen, "Gr03-Dinsdag", std::vector<Tekst>{eenPaar},
+                                         std::optional(oud))
+                                 .gelukt;
         const Tekst nu = schijf.Inhoud(gr03).value_or("weg");
         EXPECT_TRUE(nu == oud || nu == "100234-100417#\r\n") << nu;
         if (bewaard) {

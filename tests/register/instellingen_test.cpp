@@ -68,13 +68,16 @@ TEST(SchrijfInstellingen, NieuwEnVervangend)
 {
     GeheugenSchijf schijf;
     MetMappen(schijf);
-    ASSERT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), {.OPTIND = 0, .LOSTGR = 10}));
+    Instellingen instellingen{.OPTIND = 0, .LOSTGR = 10};
+    ASSERT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), instellingen));
     EXPECT_EQ(schijf.Inhoud(instellingenbestand), "OPTIND=0\r\nLOSTGR=10\r\n");
-    ASSERT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), {.OPTIND = 4, .LOSTGR = 1}));
+    instellingen.OPTIND = 4;
+    instellingen.LOSTGR = 1;
+    ASSERT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), instellingen));
     EXPECT_EQ(schijf.Inhoud(instellingenbestand), "OPTIND=4\r\nLOSTGR=1\r\n");
     EXPECT_EQ(schijf.AlleBestanden(), std::vector<Pad>{instellingenbestand});
     const auto voor = schijf.NeemStempel(instellingenbestand);
-    ASSERT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), {.OPTIND = 4, .LOSTGR = 1}));
+    ASSERT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), instellingen));
     EXPECT_EQ(schijf.NeemStempel(instellingenbestand), *voor) << "niet nog eens geschreven";
 }
 
@@ -84,7 +87,8 @@ TEST(SchrijfInstellingen, OnzinWordtEerstGekopieerd)
         GeheugenSchijf schijf;
         MetMappen(schijf);
         schijf.Zet(instellingenbestand, oud);
-        EXPECT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), {.OPTIND = 5, .LOSTGR = 2}));
+        Instellingen instellingen{.OPTIND = 5, .LOSTGR = 2};
+        EXPECT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), instellingen));
         EXPECT_EQ(schijf.Inhoud(instellingenbestand), "OPTIND=5\r\nLOSTGR=2\r\n");
         return Kopieen(schijf);
     };
@@ -98,11 +102,38 @@ TEST(SchrijfInstellingen, OnzinWordtEerstGekopieerd)
 TEST(SchrijfInstellingen, MapOntbreektOfAlleenLezen)
 {
     GeheugenSchijf schijf;
-    EXPECT_EQ(SoortVan(SchrijfInstellingen(schijf, Proefmappen(), {})), Foutsoort::Ontbreekt);
+    Instellingen nul;
+    EXPECT_EQ(SoortVan(SchrijfInstellingen(schijf, Proefmappen(), nul)), Foutsoort::Ontbreekt);
 
     MetMappen(schijf);
     schijf.Zet(instellingenbestand, "OPTIND=4\r\nLOSTGR=1\r\n");
     schijf.ZetAlleenLezen(Proefmappen().ADMMAP);
-    EXPECT_EQ(SoortVan(SchrijfInstellingen(schijf, Proefmappen(), {})), Foutsoort::Geweigerd);
+    nul.LOSTGR = 2;
+    EXPECT_EQ(SoortVan(SchrijfInstellingen(schijf, Proefmappen(), nul)), Foutsoort::Geweigerd);
     EXPECT_EQ(schijf.Inhoud(instellingenbestand), "OPTIND=4\r\nLOSTGR=1\r\n");
+}
+
+TEST(SchrijfInstellingen, HetTerugkeerveldVanEenAnderProgrammaBlijft)
+{
+    GeheugenSchijf schijf;
+    MetMappen(schijf);
+    schijf.Zet(instellingenbestand, "OPTIND=4\r\nLOSTGR=1\r\n");
+    Instellingen instellingen = LeesInstellingen(schijf, Proefmappen());
+    const auto bewaar = [&](Tekstblik daar) {
+        schijf.Zet(instellingenbestand, daar);
+        EXPECT_TRUE(SchrijfInstellingen(schijf, Proefmappen(), instellingen));
+        return schijf.Inhoud(instellingenbestand);
+    };
+    instellingen.LOSTGR = 7;
+    EXPECT_EQ(bewaar("OPTIND=2\r\nLOSTGR=3\r\n"), "OPTIND=2\r\nLOSTGR=7\r\n");
+    EXPECT_EQ(instellingen.OPTIND, 2);
+    EXPECT_EQ(bewaar("optind=3"), "OPTIND=3\r\nLOSTGR=7\r\n");
+    // Chosen here since: the last choice counts.
+    instellingen.OPTIND = 5;
+    EXPECT_EQ(bewaar("OPTIND=1\r\nLOSTGR=7\r\n"), "OPTIND=5\r\nLOSTGR=7\r\n");
+    EXPECT_EQ(bewaar("OPTIND=1\r\nLOSTGR=7\r\n"), "OPTIND=1\r\nLOSTGR=7\r\n");
+    EXPECT_EQ(Kopieen(schijf), std::vector<Tekst>());
+    // What is broken or gone says nothing.
+    for (const Tekst stuk : {"", "\r\n", "OPTIND=99999\r\n", "onzin\r\n"})
+        EXPECT_EQ(bewaar(stuk), "OPTIND=1\r\nLOSTGR=7\r\n") << stuk;
 }

@@ -182,7 +182,7 @@ Proef Groepenproef(const Mappen& mappen, Stand& stand, const Tekst& oud)
                 },
             .bewaar =
                 [=, &stand](Schijf& schijf, Schijf& /*binnen*/) {
-                    return SchrijfGroepen(schijf, mappen, stand.groepen);
+                    return SchrijfGroepen(schijf, mappen, stand.groepen).gelukt;
                 },
             .tekst = [&stand] { return GroepenTekst(stand.groepen); }};
 }
@@ -195,7 +195,8 @@ Proef Instellingenproef(const Mappen& mappen, const Tekst& oud)
             .lees = [](Schijf&) {},
             .bewaar =
                 [=](Schijf& schijf, Schijf& /*binnen*/) {
-                    return SchrijfInstellingen(schijf, mappen, {.OPTIND = 4, .LOSTGR = 12});
+                    Instellingen instellingen{.OPTIND = 4, .LOSTGR = 12};
+                    return SchrijfInstellingen(schijf, mappen, instellingen);
                 },
             .tekst = [] { return Tekst("OPTIND=4\r\nLOSTGR=12\r\n"); }};
 }
@@ -282,11 +283,11 @@ TEST(Opslagfout, NaEenMislukteSyncVanDeMapKomtErGeenKopieVanDeEigenGroepsnamen)
     Groepen groepen = LeesGroepen(binnen, Proefmappen());
     groepen.ZetNaam(1, "Clubleden");
     FalendeSchijf schijf(binnen, FalendeSchijf::Telt::AlleenSchrijven);
-    schijf.FaalBij(7);
-    EXPECT_EQ(SoortVan(SchrijfGroepen(schijf, Proefmappen(), groepen)), Foutsoort::NietVast);
+    schijf.FaalBij(9);
+    EXPECT_EQ(SoortVan(SchrijfGroepen(schijf, Proefmappen(), groepen).gelukt), Foutsoort::NietVast);
     EXPECT_EQ(binnen.Inhoud(groepenbestand), GroepenTekst(groepen));
     groepen.ZetNaam(1, "Avond");
-    EXPECT_TRUE(SchrijfGroepen(schijf, Proefmappen(), groepen));
+    EXPECT_TRUE(SchrijfGroepen(schijf, Proefmappen(), groepen).gelukt);
     EXPECT_EQ(Kopieen(binnen), std::vector<Tekst>{});
 }
 

@@ -191,12 +191,13 @@ TEST(Reservekopie, ZonderKopieGeenOpslag)
 
     schijf.Zet(groepenbestand, "onzin");
     Groepen zonderNamen;
-    EXPECT_EQ(SoortVan(SchrijfGroepen(schijf, Proefmappen(), zonderNamen)),
+    EXPECT_EQ(SoortVan(SchrijfGroepen(schijf, Proefmappen(), zonderNamen).gelukt),
               Foutsoort::GeenReservekopie);
     EXPECT_EQ(schijf.Inhoud(groepenbestand), "onzin");
 
     schijf.Zet(instellingenbestand, "onzin");
-    EXPECT_EQ(SoortVan(SchrijfInstellingen(schijf, Proefmappen(), {})),
+    Instellingen nul;
+    EXPECT_EQ(SoortVan(SchrijfInstellingen(schijf, Proefmappen(), nul)),
               Foutsoort::GeenReservekopie);
     EXPECT_EQ(schijf.Inhoud(instellingenbestand), "onzin");
 

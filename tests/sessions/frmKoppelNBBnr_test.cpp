@@ -299,7 +299,7 @@ TEST_F(Koppelvenster, EenMislukkingInHetMiddenNoemtDeBestanden)
     const auto pad = [&](const std::string& rest) {
         return QString::fromStdString(suite.Toonpad(Com(rest)));
     };
-    schijf.FaalBij(8); // the second file is being written
+    schijf.FaalBij(10); // the second file is being written
     VerwachtVraag();
     wachter.Begin(
         u"Fout bij het koppelen. Elk bestand is heel: het is helemaal aangepast of nog zoals "

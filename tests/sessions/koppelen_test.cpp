@@ -199,6 +199,38 @@ TEST_F(Koppelen, WatEenAnderProgrammaIntussenSchreefBlijft)
     EXPECT_EQ("heel iets anders", Spelers());
 }
 
+/// Between the reading and the renaming: what was written there is linked too.
+TEST_F(Koppelen, WatErTijdensHetKoppelenBijKomtBlijft)
+{
+    ZetDinsdag("N05 Jansen - 100001\r\n");
+    const auto opdracht = MaakKoppelopdracht(ZoekZitting().zwevenden, 0, "100237");
+    FalendeSchijf falend(schijf);
+    int keer = 0;
+    falend.Vooraf([&](const Pad& pad) {
+        if (pad.ends_with(".~plexoran0") && keer < 2)
+            ZetDinsdag("N04 Nieuw - " + std::to_string(++keer) + "\r\nN05 Jansen - 100001\r\n");
+        return true;
+    });
+    auto uitslag = Koppel(falend, opdracht);
+    EXPECT_FALSE(uitslag.fout);
+    EXPECT_EQ(Meldingen(uitslag), Teksten{"N05 spelers"});
+    EXPECT_EQ("N04 Nieuw - 2\r\nN05 100237 - 100001\r\n", Spelers());
+
+    // One who never stops is told.
+    ZetDinsdag("N05 Jansen - 100001\r\n");
+    falend.Vooraf([&](const Pad& pad) {
+        if (pad.ends_with(".~plexoran0"))
+            ZetDinsdag("N05 Jansen - " + std::to_string(++keer) + "\r\n");
+        return true;
+    });
+    uitslag = Koppel(falend, opdracht);
+    ASSERT_TRUE(uitslag.fout);
+    EXPECT_EQ(Foutsoort::Gewijzigd, uitslag.fout->soort);
+    EXPECT_EQ(uitslag.nietGewijzigd,
+              std::vector<std::string>{schijf.Toonpad("C:\\Zit\\Di\\Spelers.txt")});
+    EXPECT_EQ("N05 Jansen - " + std::to_string(keer) + "\r\n", Spelers());
+}
+
 // ---------------------------------------------------------------- a competition
 
 TEST_F(Koppelen, InEenCompetitieOveralWaarDeNaamStaat)

@@ -244,6 +244,36 @@ QString Aantal(std::size_t aantal, const QString& een, const QString& meer)
     return u"%1 %2"_s.arg(aantal).arg(aantal == 1 ? een : meer);
 }
 
+QString Namen(const std::vector<Tekst>& namen)
+{
+    constexpr std::size_t meeste = 5;
+    QStringList uit;
+    for (std::size_t i = 0; i < std::min(meeste, namen.size()); ++i)
+        uit << NaarQString(namen[i]);
+    const QString rest = namen.size() > meeste ? u" en nog %1"_s.arg(namen.size() - meeste) : u""_s;
+    return uit.join(u", "_s) + rest;
+}
+
+void MeldMenging(QWidget* ouder, const Mengbericht& samen)
+{
+    QStringList regels;
+    if (!samen.overgenomen.empty())
+        regels << u"%1 van een ander programma overgenomen: %2."_s.arg(
+            Aantal(samen.overgenomen.size(), samen.een, samen.meer), Namen(samen.overgenomen));
+    if (!samen.botsingen.empty())
+        regels << u"%1 zowel hier als door een ander programma gewijzigd: %2. In het bestand staat "
+                  "wat het andere programma ervan maakte. Zoals het hier was, staat het in de "
+                  "kopie:\n%3"_s.arg(Aantal(samen.botsingen.size(), samen.een, samen.meer),
+                                     Namen(samen.botsingen), QString::fromStdString(samen.onze));
+    if (!samen.andere.empty())
+        regels << u"Een ander programma heeft dit bestand intussen gewijzigd, en dat is niet samen "
+                  "te voegen met wat hier staat. In het bestand staat nu wat hier staat; wat het "
+                  "andere programma schreef, staat in de kopie:\n%1"_s.arg(
+                      QString::fromStdString(samen.andere));
+    if (!regels.isEmpty())
+        Meld(ouder, QMessageBox::Information, regels.join(u"\n\n"_s));
+}
+
 void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map)
 {
     QStringList namen;

@@ -51,6 +51,21 @@ void MeldSleutelsOp(QWidget* ouder, const QString& wat, const Fout& plaats);
 /// "1 speler", "2 spelers".
 [[nodiscard]] QString Aantal(std::size_t aantal, const QString& een, const QString& meer);
 
+/// As many names as a line holds.
+[[nodiscard]] QString Namen(const std::vector<Tekst>& namen);
+
+/// What came of saving a file that another program had changed.
+struct Mengbericht {
+    QString een; ///< what its items are called
+    QString meer;
+    std::vector<Tekst> overgenomen; ///< items that are the other program's doing
+    std::vector<Tekst> botsingen;   ///< items that both changed: the other's stand in the file
+    std::string onze;               ///< and the copy that holds ours
+    std::string andere;             ///< the copy of what could not be brought together with ours
+};
+/// Nothing where the other program had a hand in nothing.
+void MeldMenging(QWidget* ouder, const Mengbericht& samen);
+
 /// Tells which names the disk left out of its lists of this folder, each once.
 void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map);
 

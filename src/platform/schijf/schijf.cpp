@@ -106,7 +106,8 @@ Uitkomst<void> OnderSlot(Schijf& schijf, const Pad& bestand,
             std::this_thread::sleep_for(Slotpoos);
     }
     auto uitkomst = werk();
-    static_cast<void>(schijf.Verwijder(slot)); // when this fails, the next one waits for it
+    if (!schijf.Verwijder(slot))
+        static_cast<void>(schijf.Verwijder(slot)); // when this fails too, the next one waits
     return uitkomst;
 }
 
