@@ -19,8 +19,9 @@ void SchrijfBestanden(Administratie& administratie, const std::vector<Zipdeel>& 
     auto uitkomst =
         delen.empty() ? Uitkomst<void>() : schijf.MaakMap(administratie.mappen.Parenmap());
     for (std::size_t i = 0; i < delen.size() && uitkomst; ++i) {
-        uitkomst = VervangMetKopie(schijf, map, Samen(map, delen[i].naam), delen[i].inhoud,
-                                   [](Tekstblik) { return false; });
+        uitkomst = BewaarSamen(schijf, map, Samen(map, delen[i].naam), std::nullopt,
+                               delen[i].inhoud, [](Tekstblik) { return false; })
+                       .gelukt;
         if (StaatOpSchijf(uitkomst) && StaatEr(venster, uitkomst))
             uitkomst = {};
     }
