@@ -132,7 +132,7 @@ Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik 
     const auto oud = LeesAlsErIs(schijf, doel);
     if (oud && *oud == *bron)
         return {};
-    return SchrijfHeel(schijf, doel, **bron);
+    return VervangOngewijzigd(schijf, doel, **bron, oud.value_or(std::nullopt));
 }
 
 Tekst Toevoegregel(const Sessiespeler& speler)

@@ -301,6 +301,21 @@ TEST_F(Toevoegen, HetVerslagRuimtOpWatEenAfgebrokenSchrijvenLiet)
     EXPECT_EQ("half", schijf.Inhoud(net));
 }
 
+TEST_F(Toevoegen, EenLijstDieTijdensHetOphalenVerandertBlijft)
+{
+    ZetClub("Club");
+    schijf.Zet(zusterlijst, "N01 An Bos - Bo Cos\r\n");
+    schijf.Zet(lijst, "eigen");
+    FalendeSchijf falend(schijf);
+    falend.Vooraf([&](const Pad& pad) {
+        if (pad.ends_with(".~plexoran0"))
+            schijf.Zet(lijst, "van daar");
+        return true;
+    });
+    EXPECT_EQ(Foutsoort::Gewijzigd, HaalSpelerslijst(falend, mappen, "a_Rev").error().soort);
+    EXPECT_EQ("van daar", schijf.Inhoud(lijst));
+}
+
 /// What another program writes while ours is written, is what comes back.
 TEST_F(Toevoegen, WatErTijdensHetSchrijvenKomtKomtTerug)
 {

@@ -233,8 +233,12 @@ TEST_F(ParenbestandTest, WatEenAnderBeschadigdeKomtInEenKopieDieGenoemdWordt)
         EXPECT_EQ(stuk, schijf.Inhoud(bewaard.andere));
         EXPECT_EQ(std::vector<Tekst>(), bewaard.overgenomen);
     }
-    // Emptied, or gone: there is nothing to bring together.
-    ASSERT_TRUE(BewaarTerwijl("100301-100222#\r\n", {eenPaar}, "\r\n").gelukt);
+    // Emptied, or gone: there is nothing to bring together, and no pair is lost.
+    ASSERT_TRUE(BewaarTerwijl("100234-100417#\r\n", {eenPaar}, "\r\n").gelukt);
+    EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(gr03));
+    const auto gelezen = Lees();
+    ASSERT_TRUE(schijf.Verwijder(gr03));
+    ASSERT_TRUE(Bewaar({eenPaar}, gelezen));
     EXPECT_EQ("100234-100417#\r\n", schijf.Inhoud(gr03));
     EXPECT_EQ(3U, Kopieen().size());
 }
