@@ -88,6 +88,9 @@ void frmTerugzetten::Bouw()
     Label2->setWordWrap(true);
     lstVerschillen = MaakLijst(u"lstVerschillen"_s, u"Verschillen per speler"_s,
                                {u"Speler"_s, u"Nu"_s, u"In de reservekopie"_s}, this);
+    const Maten maten;
+    lstVerschillen->header()->setSectionResizeMode(0, QHeaderView::Interactive);
+    lstVerschillen->header()->resizeSection(0, maten.Twips(4300)); // a name and the key behind it
     connect(lstVerschillen, &QTreeWidget::itemExpanded, this, &frmTerugzetten::ToonVelden);
     connect(lstVerschillen, &QTreeWidget::itemChanged, this, &frmTerugzetten::ToonKnoppen);
     chkOokGroepen = MaakVink(u"chkOokGroepen"_s, u"Ook groepsnamen en paren"_s, u'g', this);
@@ -108,7 +111,6 @@ void frmTerugzetten::Bouw()
                  lblTweedePlaats,
                  Knoppenrij({cmdTweedePlaats, cmdAlles, cmdTerugzetten, cmdSluiten})},
                 this);
-    const Maten maten;
     PasInScherm(this, maten.Twips(10500, 9000));
     lstReserves->setFocus();
 }

@@ -67,7 +67,7 @@ Uitkomst<void> LeesTerug(Schijf& schijf, const Pad& pad, const std::vector<Zipde
             if (terug != delen)
                 return Mislukt(
                     {.soort = Foutsoort::Beschadigd,
-                     .systeem = "wat werd teruggelezen, is anders dan wat werd bewaard"});
+                     .systeem = "wat werd teruggelezen, is anders dan wat werd opgeslagen"});
             return {};
         })
         .map_error([&](Fout fout) {

@@ -99,6 +99,7 @@ void NeemTerugzetten(const Bezoek& bezoek, QWidget& hoofdvenster,
                      const Administratie& administratie)
 {
     Administratie anders = administratie;
+    anders.tweedeplaatsIni = Samen(anders.mappen.ADMMAP, "reservekopie.ini");
     Register& spelers = anders.spelers;
     if (spelers.tabel.Rijen() < 3)
         return;
