@@ -5,6 +5,7 @@
 
 #include "hulp/accessgegevens.h"
 #include "hulp/voortgangstopper.h"
+#include "platform/bronnen/zip.h"
 
 using namespace plexoran;
 
@@ -395,6 +396,19 @@ TEST_F(ImporterenTest, ZonderSleutelsGebeurtErNiets)
     Importeer();
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ(148, administratie.spelers.tabel.Rijen());
+}
+
+TEST_F(ImporterenTest, ErKomtEerstEenReservekopieVanHetOudeRegister)
+{
+    VoerClub(Een);
+    VerwachtImport(u"Club"_s, 1, 0, 1);
+    Importeer();
+    EXPECT_NE(oud, suite.Spelers());
+    const auto namen = suite.Namen("Spelers/Reservekopie");
+    ASSERT_EQ(1U, namen.size());
+    EXPECT_TRUE(namen[0].ends_with(" voor import.zip")) << namen[0];
+    const auto delen = Uitgepakt(suite.Inhoud("Spelers/Reservekopie/" + namen[0])).value();
+    EXPECT_EQ((Zipdeel{"RVDspelers.txt", oud}), delen.at(0));
 }
 
 TEST_F(ImporterenTest, MislukteOpslagHoudtDeLedenInHetProgramma)

@@ -91,6 +91,47 @@ TEST_F(Reserveproef, VoorHetVerwijderenVanMeerDanEen)
     EXPECT_EQ(Redenen(), (Teksten{"voor eerste wijziging 148", "voor verwijderen 148"}));
 }
 
+TEST_F(Reserveproef, VoorHetVerwijderenVanEenSubgroep)
+{
+    KiesGroep(3);
+    wachter.Bedien([](QDialog& dialoog) {
+        KiesUit(Vind<QComboBox>(dialoog, "cmbRVDgr"), 2);
+        Druk(dialoog, "cmdVerwijder");
+        Druk(dialoog, "cmdEinde");
+    });
+    wachter.Verwacht({.tekst = u"U gaat alle spelers van Subgroep 'BEGINNERS'"_s,
+                      .titel = u"Verwijderen?"_s,
+                      .alleenBegin = true});
+    wachter.Informatie(u"Klaar! \r\nEr zijn 4 speler(s) verwijderd."_s);
+    Opdracht("cmdVerwGroep");
+    EXPECT_EQ(Redenen(), Teksten{"voor verwijderen 148"});
+}
+
+TEST_F(Reserveproef, VoorHetKoppelenMaarNietVoorEenBlik)
+{
+    KiesGroep(5);
+    const auto zoek = [](QDialog& dialoog) {
+        Vind<QComboBox>(dialoog, "cmbC")->setCurrentText(u"Dinsdagavond 2024-09-10"_s);
+        Druk(dialoog, "cmdZoekNamen");
+        KlikRegel(dialoog, "lstSpelers", std::string("als O02    J"));
+        KlikRegel(dialoog, "lstRVDsp", std::string("100084"));
+    };
+    Opdracht("cmdKoppel", [&](QDialog& dialoog) {
+        zoek(dialoog);
+        dialoog.reject();
+    });
+    EXPECT_EQ(Redenen(), Teksten());
+    wachter.Bedien([&](QDialog& dialoog) {
+        zoek(dialoog);
+        Druk(dialoog, "cmdStartKoppelen");
+        dialoog.reject();
+    });
+    wachter.Begin(u"De zwevende speler krijgt nu zijn RVD-nummer"_s, QMessageBox::Information);
+    wachter.Begin(u"Speler J"_s, QMessageBox::Information);
+    Opdracht("cmdKoppel");
+    EXPECT_EQ(Redenen(), Teksten{"voor koppelen 148"});
+}
+
 TEST_F(Reserveproef, TerugzettenIsEenWijzigingDieWordtOpgeslagen)
 {
     const std::string oud = suite.Spelers();
