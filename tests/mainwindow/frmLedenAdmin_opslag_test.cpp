@@ -1,6 +1,8 @@
 // Saving that fails, and a file that someone else changed.
 #include <algorithm>
 
+#include <QRadioButton>
+
 #include "mainwindow/vensterproef.h"
 
 using namespace plexoran;
@@ -804,11 +806,13 @@ TEST_F(Volgen, HalveGroepsnamenVeranderenNiets)
 
 TEST_F(Volgen, HetTerugkeerveldVanEenAnderProgrammaGeldtBijHetInvoeren)
 {
-    suite.Zet("Admin/Plexo.ini", "OPTIND=2\r\nLOSTGR=0\r\n");
-    VerwachtIngave(u"Nieuweling"_s);
+    suite.Zet("Admin/Plexo.ini", "OPTIND=7\r\nLOSTGR=0\r\n");
+    wachter.Bedien([](QDialog& ingave) {
+        EXPECT_TRUE(ingave.findChild<QRadioButton*>(u"opt1_7"_s)->isChecked());
+        Druk(ingave, "cmdAnnuleren");
+    });
     Opdracht("cmdAanm");
-    EXPECT_EQ(2, administratie.instellingen.OPTIND);
-    EXPECT_EQ("OPTIND=2\r\nLOSTGR=0\r\n", suite.Instellingen());
+    EXPECT_EQ("OPTIND=7\r\nLOSTGR=0\r\n", suite.Instellingen());
 }
 
 TEST_F(Volgen, WatHierNogNietIsOpgeslagenGaatVoor)
