@@ -121,6 +121,8 @@ void diaKopieer::accept()
                        RegelVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
+    administratie_.geschiedenis.Noem(NaarTekst(u"%1 gekopieerd naar %2"_s.arg(
+        Aantal(opdracht.keys.size(), u"speler"_s, u"spelers"_s), doel)));
     Meld(this, QMessageBox::Information,
          u"Er zijn %1 spelers gekopieerd."_s.arg(opdracht.keys.size()));
     QDialog::accept();

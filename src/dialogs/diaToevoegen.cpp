@@ -158,6 +158,7 @@ void diaToevoegen::VoegToe()
             geschreven.error());
         return;
     }
+    administratie_.geschiedenis.Noem("Spelers toegevoegd uit " + Zitting());
     vorige_.emplace(Vorige{std::move(vorige), std::move(verslag)});
     for (QWidget* klaar : std::initializer_list<QWidget*>{cmdStart, Combo1, cmdLeesSpelers})
         klaar->setEnabled(false);

@@ -1,11 +1,12 @@
 #include "dialogs/diaVerplaats.h"
 
+#include "platform/scherm/berichten.h"
 #include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
 
 diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
-    : QDialog(ouder), tabel_(administratie.spelers.tabel)
+    : QDialog(ouder), administratie_(administratie)
 {
     setObjectName(u"diaVerplaats"_s);
     setWindowTitle(u"Verplaats speler(s) naar een andere groep"_s);
@@ -15,8 +16,9 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
     auto* Label2 = MaakLabel(u"Label2"_s, u"Verplaats hen naar de volgende groep:"_s, Frame1);
     cmbGrnamen = MaakKeus(u"cmbGrnamen"_s, Label2, Frame1);
     VulKeus(*cmbGrnamen, administratie.groepen.Toonteksten());
-    keus_ = new Spelerkeus(tabel_, cmdOK, Frame1);
-    keus_->VulKeuslijst(VerplaatsbareRijen(tabel_, administratie.mappen.DFIMPG), Verplaatsregel);
+    const Spelertabel& tabel = administratie.spelers.tabel;
+    keus_ = new Spelerkeus(tabel, cmdOK, Frame1);
+    keus_->VulKeuslijst(VerplaatsbareRijen(tabel, administratie.mappen.DFIMPG), Verplaatsregel);
 
     auto* Label3 =
         MaakLabel(u"Label3"_s, u"Spelers van 'Gr05-' kunnen niet worden verplaatst. "_s, Frame1);
@@ -34,7 +36,11 @@ diaVerplaats::diaVerplaats(Administratie& administratie, QWidget* ouder)
 
 void diaVerplaats::accept()
 {
-    VerplaatsSpelers(tabel_, keus_->GekozenKeys(), Groepscode(cmbGrnamen->currentIndex() + 1));
+    const auto keys = keus_->GekozenKeys();
+    VerplaatsSpelers(administratie_.spelers.tabel, keys,
+                     Groepscode(cmbGrnamen->currentIndex() + 1));
+    administratie_.geschiedenis.Noem(NaarTekst(u"%1 verplaatst naar %2"_s.arg(
+        Aantal(keys.size(), u"speler"_s, u"spelers"_s), cmbGrnamen->currentText())));
     QDialog::accept();
 }
 

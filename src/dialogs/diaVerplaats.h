@@ -19,7 +19,7 @@ class diaVerplaats : public QDialog {
     void accept() override;
 
   private:
-    Spelertabel& tabel_;
+    Administratie& administratie_;
     Spelerkeus* keus_;
     QComboBox* cmbGrnamen;
 };

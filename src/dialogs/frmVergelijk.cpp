@@ -8,18 +8,6 @@
 namespace plexoran {
 namespace {
 
-/// First name, particle and surname, and the key that tells players of the same name apart.
-QString Wie(const Verschil& verschil)
-{
-    const Rijvelden& velden = verschil.links ? *verschil.links : *verschil.rechts;
-    QStringList delen;
-    for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam}) {
-        if (!velden[Index(kolom)].empty())
-            delen << NaarQString(velden[Index(kolom)]);
-    }
-    return u"%1 (%2)"_s.arg(delen.join(u' '), NaarQString(verschil.key));
-}
-
 QString Toestand(const std::optional<Rijvelden>& velden)
 {
     return velden ? u"Deze"_s : u"Verwijderd"_s;
@@ -81,8 +69,9 @@ frmVergelijk::frmVergelijk(const Vergelijking& teksten, const std::vector<Versch
 void frmVergelijk::VoegToe(const Verschil& verschil)
 {
     keys_.push_back(verschil.key);
-    auto* speler = new QTreeWidgetItem(
-        lstVerschillen, {Wie(verschil), Toestand(verschil.links), Toestand(verschil.rechts)});
+    auto* speler =
+        new QTreeWidgetItem(lstVerschillen, {NaarQString(Aanduiding(verschil)),
+                                             Toestand(verschil.links), Toestand(verschil.rechts)});
     for (const int kolom : {KolomLinks, KolomRechts})
         speler->setCheckState(kolom, Qt::Unchecked);
     VoegVeldenToe(*speler, verschil.links, verschil.rechts);

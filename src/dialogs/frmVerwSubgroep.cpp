@@ -82,6 +82,8 @@ void frmVerwSubgroep::VerwijderSubgroep()
                NoemSpelers(tabel, weg, *this)))
         return;
     tabel.VerwijderRijen(weg);
+    administratie_.geschiedenis.Noem("Subgroep " + subgroep + " van " +
+                                     NaarTekst(cmbRVDgr->currentText()) + " verwijderd");
     ietsVerwijderd_ = ietsVerwijderd_ || !weg.empty();
     emit rijenVerwijderd();
     Meld(this, QMessageBox::Information,

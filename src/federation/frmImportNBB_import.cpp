@@ -121,6 +121,10 @@ bool frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
         MeldAfgebroken(naam, uitkomst.error());
         return false;
     }
+    const auto leden =
+        static_cast<std::size_t>(uitkomst->AantalVerververst + uitkomst->AantalNieuw);
+    administratie_.geschiedenis.Noem(NaarTekst(u"%1 geïmporteerd uit %2"_s.arg(
+        Aantal(leden, u"lid"_s, u"leden"_s), NaarQString(SubgroepUitNaam(naam)))));
     MeldUitkomst(naam, lezing, *uitkomst);
     return true;
 }

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStringListModel>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -20,6 +21,7 @@
 #include "platform/scherm/maten.h"
 
 class QLayout;
+class QMenu;
 
 namespace plexoran {
 
@@ -66,6 +68,17 @@ class frmLedenAdmin : public QMainWindow {
     void ToonSorteerlijst(Sorteersoort soort);
     void ToonDubbeleNamen();
 
+    // What was done, and undoing it (frmLedenAdmin_geschiedenis.cpp)
+    void BouwTerugmenu(QMenu* menu);
+    void Draai(Handelingsoort soort);
+    void DraaiTerug(const Handeling& handeling, Handelingsoort soort);
+    void DraaiSpelers(const Wijziging& wijziging, Handelingsoort soort, QStringList& rest);
+    void DraaiBestand(const Wijziging& wijziging, Handelingsoort soort, QStringList& rest);
+    void ToonGeschiedenis(const Tekst& key);
+    void ToonSpeler();
+    void ToonMelding(const QString& tekst);
+    void MeldGeschiedenisfout();
+
     // Commands (frmLedenAdmin_opdrachten.cpp)
     void VoegToe();
     void Wijzig();
@@ -98,6 +111,8 @@ class frmLedenAdmin : public QMainWindow {
     std::function<bool()> eersteExemplaar_;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
 
+    QTimer meldtijd_;   ///< how long the line below stays
+    QLabel* lblMelding; ///< in the menu bar, for what asks no answer
     Rooster* picP0;
     QLabel* Label3;
     QComboBox* cmbGr;

@@ -100,6 +100,7 @@ void frmLedenAdmin::BouwMenu()
 {
     auto* mnuBewerken = menuBar()->addMenu(u"Bewerken"_s);
     mnuBewerken->setObjectName(u"mnuBewerken"_s);
+    BouwTerugmenu(mnuBewerken);
     auto* mnuExtra = menuBar()->addMenu(u"E&xtra"_s);
     mnuExtra->setObjectName(u"mnuExtra"_s);
     auto* actControle = mnuExtra->addAction(u"&Controle van de administratie..."_s, this,
@@ -108,6 +109,12 @@ void frmLedenAdmin::BouwMenu()
     auto* actTerugzetten =
         mnuExtra->addAction(u"&Reservekopie terugzetten..."_s, this, &frmLedenAdmin::ZetTerug);
     actTerugzetten->setObjectName(u"actTerugzetten"_s);
+    lblMelding = new Kortlabel(menuBar());
+    Noem(lblMelding, u"lblMelding"_s);
+    lblMelding->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    menuBar()->setCornerWidget(lblMelding);
+    meldtijd_.setSingleShot(true);
+    connect(&meldtijd_, &QTimer::timeout, lblMelding, &QLabel::clear);
 }
 
 QWidget* frmLedenAdmin::BouwBovenkant()

@@ -30,6 +30,7 @@ void frmLedenAdmin::SlaOpEnToon(const QString& klaar)
         Meld(this, QMessageBox::Information,
              u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
              "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
+    MeldGeschiedenisfout();
 }
 
 bool frmLedenAdmin::IsRegelGekozen()
@@ -63,6 +64,9 @@ void frmLedenAdmin::VoegToe()
                        RegelVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    const Noteer noteer(administratie_.geschiedenis,
+                        VolleNaam(tabel, tabel.Rijen()) + " toegevoegd");
     SlaOpEnToon();
     picP0->Vlak()->BrengInBeeld(picP0->Vlak()->Regels());
 }
@@ -78,6 +82,8 @@ void frmLedenAdmin::Wijzig()
     if (!ToonIngave(ingave))
         return;
     WijzigSpeler(administratie_.spelers, ingave.rij, ingave.IngaveVelden);
+    const Noteer noteer(administratie_.geschiedenis,
+                        VolleNaam(administratie_.spelers.tabel, ingave.rij) + " gewijzigd");
     SlaOpEnToon();
 }
 
@@ -126,6 +132,10 @@ void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QSt
     if (!Vraag(this, QMessageBox::Information, waarschuwing.join(u"\r\n"_s), u"Verwijderen"_s,
                NoemSpelers(tabel, rijen, *this)))
         return;
+    const Noteer noteer(administratie_.geschiedenis,
+                        van == tot ? VolleNaam(tabel, rijen.front()) + " verwijderd"
+                                   : "Regels " + std::to_string(van) + " t/m " +
+                                         std::to_string(tot) + " verwijderd");
     tabel.VerwijderRijen(rijen);
     if (rijen.size() > 1)
         opslag_.Reserve().Maak("voor verwijderen");
@@ -136,6 +146,7 @@ void frmLedenAdmin::WijzigGroepsnamen()
 {
     const Groepen oud = administratie_.groepen;
     diaGrNamen venster(administratie_.groepen, this);
+    const Noteer noteer(administratie_.geschiedenis, "Groepsnamen gewijzigd");
     if (venster.exec() != QDialog::Accepted)
         return;
     opslag_.Reserve().VoorWijziging();
@@ -143,6 +154,7 @@ void frmLedenAdmin::WijzigGroepsnamen()
     if (!bewaard)
         return;
     opslag_.Reserve().Meld();
+    MeldGeschiedenisfout();
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     KiesGroep(0);
     MeldMenging(this, {.een = u"groepsnaam"_s,
@@ -176,6 +188,7 @@ std::optional<Bewaring> frmLedenAdmin::BewaarGroepen(const Groepen& oud)
 
 void frmLedenAdmin::Verplaats()
 {
+    const Noteer noteer(administratie_.geschiedenis, "Spelers verplaatst");
     diaVerplaats venster(administratie_, this);
     venster.exec();
     if (!venster.IngaveGeannuleerd())
@@ -184,6 +197,7 @@ void frmLedenAdmin::Verplaats()
 
 void frmLedenAdmin::Kopieer()
 {
+    const Noteer noteer(administratie_.geschiedenis, "Spelers gekopieerd");
     diaKopieer venster(administratie_, this);
     venster.exec();
     if (!venster.IngaveGeannuleerd())
@@ -192,6 +206,7 @@ void frmLedenAdmin::Kopieer()
 
 void frmLedenAdmin::VerwijderGroep()
 {
+    const Noteer noteer(administratie_.geschiedenis, "Subgroep verwijderd");
     frmVerwSubgroep venster(administratie_, this);
     // Behind the window, which stays open, the grid must not show other players in its old lines.
     connect(&venster, &frmVerwSubgroep::rijenVerwijderd, this, &frmLedenAdmin::ToonGroep);
@@ -216,6 +231,7 @@ void frmLedenAdmin::HaalNBBnamen()
              "en start Plexoran opnieuw."_s);
         return;
     }
+    const Noteer noteer(administratie_.geschiedenis, NaarTekst(u"Leden geïmporteerd"_s));
     KiesRekenprogramma(administratie_, this);
     frmImportNBB venster(administratie_, importgeheugen_, this);
     venster.exec();
@@ -230,6 +246,7 @@ void frmLedenAdmin::HaalNBBnamen()
 
 void frmLedenAdmin::VoegSessiespelersToe()
 {
+    const Noteer noteer(administratie_.geschiedenis, "Spelers toegevoegd");
     diaToevoegen venster(administratie_, this);
     if (venster.exec() != QDialog::Accepted)
         return;
@@ -246,6 +263,7 @@ void frmLedenAdmin::KoppelZwevenden()
         opslag_.Reserve().Meld();
     });
     venster.exec();
+    MeldGeschiedenisfout();
 }
 
 void frmLedenAdmin::OnderhoudParen()
@@ -257,18 +275,21 @@ void frmLedenAdmin::OnderhoudParen()
     opslag_.Reserve().VoorWijziging(); // the window saves pairs by itself
     opslag_.Reserve().Meld();
     frmParenOnderhoud(administratie_, Groeptekst(), this).exec();
+    MeldGeschiedenisfout();
 }
 
 void frmLedenAdmin::Controleer()
 {
+    const Noteer noteer(administratie_.geschiedenis, "Controle van de administratie: hersteld");
     frmControle venster(administratie_, this);
     venster.exec();
-    if (venster.IetsGewijzigd())
+    if (venster.IetsGewijzigd() && MagWijzigen())
         SlaOpEnToon();
 }
 
 void frmLedenAdmin::ZetTerug()
 {
+    const Noteer noteer(administratie_.geschiedenis, "Reservekopie teruggezet");
     const bool andereSpelers = ZetReserveTerug(administratie_, opslag_.Reserve(), this);
     const bool andereGroepen = VolgGroepsnamen();
     if (andereSpelers)

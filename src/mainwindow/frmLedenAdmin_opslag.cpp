@@ -197,6 +197,7 @@ Opslag Spelersopslag::SlaOp()
             overschrijven = Overschrijven::OokGewijzigd;
         else if (vervolg == Vervolg::Later) {
             ZetVerslagenTerug();
+            administratie_.geschiedenis.StelUit();
             return Opslag::Mislukt;
         }
     }

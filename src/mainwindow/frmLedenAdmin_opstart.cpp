@@ -8,6 +8,7 @@
 #include "pairs/parenbestand.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"
+#include "platform/schijf/programma.h"
 #include "register/reservekopie.h"
 
 namespace plexoran {
@@ -269,6 +270,8 @@ Startafloop LeesBijStart(Administratie& administratie, QWidget* venster, const P
     LeesGroepsnamen(administratie, venster);
     const auto [teBewaren, geschonden] = LeesRegister(administratie, venster);
     MeldLosseSleutels(administratie, venster);
+    // What the start makes or puts back so far was no command of the user.
+    administratie.geschiedenis.Open(administratie.mappen, Computernaam(), Gebruikersnaam());
     const bool hersteld = geschonden && BiedReservesAan(administratie, venster);
     return teBewaren || hersteld ? Startafloop::TeBewaren : Startafloop::Gelezen;
 }

@@ -222,6 +222,7 @@ void frmParenOnderhoud::Einde()
                  geweigerd.size() == 1 ? u"kan"_s : u"kunnen"_s));
         return;
     }
+    const Noteer noteer(administratie_.geschiedenis, "Paren van " + keuze_ + " opgeslagen");
     const Bewaring bewaard =
         BewaarParen(administratie_.schijf, administratie_.mappen, keuze_, paren_.L3(), gelezen_);
     const Spelertabel& tabel = administratie_.spelers.tabel;

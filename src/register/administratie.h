@@ -3,6 +3,7 @@
 
 #include "platform/bronnen/instellingenwinkel.h"
 #include "platform/schijf/programma.h"
+#include "register/geschiedenis.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
 #include "register/spelerbestand.h"
@@ -31,6 +32,7 @@ struct Administratie {
     Instellingen instellingen{};
     Groepen groepen{};
     Register spelers{};
+    Geschiedenis geschiedenis{schijf};
     Rekenprogramma rekenprogramma{};
     /// Data folder of the scoring program found at the start; a later choice leaves it as it is.
     Pad DataMap{};

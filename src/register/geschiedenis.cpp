@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <set>
 
 #include "platform/tekst/regels.h"
@@ -186,6 +185,16 @@ std::vector<Handeling> HandelingenUit(Tekstblik inhoud, Tekstblik naam)
     return Lezer(inhoud, naam).Lees();
 }
 
+std::optional<Handeling> LeesHandeling(Schijf& schijf, const Mappen& mappen, const Tekst& id)
+{
+    const Tekst naam = id.substr(0, id.rfind(' '));
+    const auto inhoud = schijf.LeesBestand(Samen(Geschiedenismap(mappen), naam));
+    auto handelingen = HandelingenUit(inhoud.value_or(Tekst()), naam);
+    const auto plek = std::find_if(handelingen.begin(), handelingen.end(),
+                                   [&](const Handeling& een) { return een.id == id; });
+    return plek == handelingen.end() ? std::nullopt : std::optional(std::move(*plek));
+}
+
 void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem)
 {
     const Pad map = Geschiedenismap(mappen);
@@ -203,18 +212,6 @@ void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Ha
     }
 }
 
-Menging DraaiSpelersTerug(const Register& nu, const Wijziging& wijziging, Handelingsoort soort)
-{
-    const bool terug = soort == Handelingsoort::Ongedaan;
-    const auto tabel = [](const std::optional<Tekst>& tekst) {
-        return SpelersUit(tekst.value_or(Tekst())).tabel.value_or(Spelertabel());
-    };
-    const Spelertabel van = tabel(terug ? wijziging.na : wijziging.voor);
-    const Spelertabel naar = tabel(terug ? wijziging.voor : wijziging.na);
-    // What comes back has its own key: it is nobody else's, however high it is.
-    return Meng({van, std::numeric_limits<std::int32_t>::max()}, {naar, 0}, {nu.tabel, nu.HKEY});
-}
-
 Geschiedenis::~Geschiedenis()
 {
     if (mappen_ != nullptr)
@@ -229,19 +226,17 @@ void Geschiedenis::Open(const Mappen& mappen, Tekst computer, Tekst gebruiker)
     schijf_.ZetGetuige(this);
 }
 
-void Geschiedenis::Begin(Tekst wat, Handelingsoort soort, Tekst hoort)
+void Geschiedenis::Begin(const Tekst& wat, Handelingsoort soort, Tekst hoort)
 {
-    if (!uitgesteld_.empty())
-        wat.insert(0, uitgesteld_ + "; ");
-    handeling_ = {.wat = std::move(wat), .soort = soort, .hoort = std::move(hoort)};
-    begonnen_ = false;
+    handeling_ = {.wat = wat, .soort = soort, .hoort = std::move(hoort)};
+    begonnen_ = genoemd_ = false;
     bezig_ = true;
 }
 
 void Geschiedenis::StelUit()
 {
     if (!begonnen_)
-        uitgesteld_ = handeling_.wat;
+        uitgesteld_ += handeling_.wat + "; ";
 }
 
 void Noteer::Leg() const
@@ -250,11 +245,13 @@ void Noteer::Leg() const
         geschiedenis_.Schrijf(geschiedenis_.Kop());
 }
 
-void Noteer::Noem(Tekst wat)
+void Geschiedenis::Noem(const Tekst& wat)
 {
-    geschiedenis_.handeling_.wat = std::move(wat);
-    if (geschiedenis_.begonnen_)
-        geschiedenis_.Schrijf(Kopregel("wat", geschiedenis_.handeling_.wat));
+    Tekst& naam = handeling_.wat;
+    naam = genoemd_ ? naam + "; " + wat : wat;
+    genoemd_ = true;
+    if (begonnen_)
+        Schrijf(Kopregel("wat", naam));
 }
 
 std::optional<Tekst> Geschiedenis::PlaatsVan(const Pad& pad) const
@@ -278,7 +275,7 @@ Tekst Geschiedenis::Kop() const
     Tekst uit = Kopregel("handeling", std::to_string(nummer_ + 1)) +
                 Kopregel("tijd", Tijdtekst("yyyy-MM-dd HH:mm:ss")) +
                 Kopregel("computer", computer_) + Kopregel("gebruiker", gebruiker_) +
-                Kopregel("wat", handeling_.wat);
+                Kopregel("wat", uitgesteld_ + handeling_.wat);
     if (handeling_.soort != Handelingsoort::Gewoon)
         uit += Kopregel(handeling_.soort == Handelingsoort::Ongedaan ? "ongedaan" : "opnieuw",
                         handeling_.hoort);

@@ -45,14 +45,27 @@ struct Handeling {
 /// The entries of a history file named `naam`, as far as they are whole.
 [[nodiscard]] std::vector<Handeling> HandelingenUit(Tekstblik inhoud, Tekstblik naam);
 
+/// The entry with that id; nothing when it is not there any more.
+[[nodiscard]] std::optional<Handeling> LeesHandeling(Schijf& schijf, const Mappen& mappen,
+                                                     const Tekst& id);
+
 /// Hands out the entries of all computers, of each the last one first, until `neem` says false.
 /// Files that cannot be read are passed over.
 void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem);
+
+/// The players that differ before, at the left, and after.
+[[nodiscard]] std::vector<Verschil> SpelersIn(const Wijziging& wijziging);
 
 /// The players as they become when an entry is undone, or done again. Where something else was
 /// changed since, that stays as it is and counts as `botsingen`, what was to come at the left.
 [[nodiscard]] Menging DraaiSpelersTerug(const Register& nu, const Wijziging& wijziging,
                                         Handelingsoort soort);
+
+/// Makes another file than that of the players what it is when an entry is undone, or done again.
+/// Where it was changed since, that stays and is named in the outcome.
+[[nodiscard]] Uitkomst<std::vector<Tekst>> DraaiBestandTerug(Schijf& schijf, const Mappen& mappen,
+                                                             const Wijziging& wijziging,
+                                                             Handelingsoort soort);
 
 class Geschiedenis : public Getuige {
   public:
@@ -68,6 +81,8 @@ class Geschiedenis : public Getuige {
     /// Writes what is about to happen to a file to the disk; without `nieuw` it is removed.
     void VoorVervanging(const Pad& pad, std::optional<Tekstblik> nieuw) override;
 
+    /// A better name for what is going on, now that more is known; a second one is put behind it.
+    void Noem(const Tekst& wat);
     /// The save failed: what was to be named counts with the next one.
     void StelUit();
 
@@ -80,7 +95,7 @@ class Geschiedenis : public Getuige {
   private:
     friend class Noteer;
 
-    void Begin(Tekst wat, Handelingsoort soort, Tekst hoort);
+    void Begin(const Tekst& wat, Handelingsoort soort, Tekst hoort);
     [[nodiscard]] std::optional<Tekst> PlaatsVan(const Pad& pad) const;
     [[nodiscard]] Tekst Kop() const;
     [[nodiscard]] Uitkomst<void> OpenBestand();
@@ -94,6 +109,7 @@ class Geschiedenis : public Getuige {
     std::unique_ptr<Schrijver> schrijver_; ///< of the file of this start, from the first entry on
     Handeling handeling_;                  ///< the one that is going on
     bool begonnen_ = false;                ///< and is in the file
+    bool genoemd_ = false;
     bool bezig_ = false;
     Tekst uitgesteld_;
     int nummer_ = 0;
@@ -104,18 +120,16 @@ class Geschiedenis : public Getuige {
 /// While it lives, what happens to the files is part of one entry.
 class Noteer {
   public:
-    Noteer(Geschiedenis& geschiedenis, Tekst wat, Handelingsoort soort = Handelingsoort::Gewoon,
-           Tekst hoort = {})
+    Noteer(Geschiedenis& geschiedenis, const Tekst& wat,
+           Handelingsoort soort = Handelingsoort::Gewoon, Tekst hoort = {})
         : geschiedenis_(geschiedenis)
     {
-        geschiedenis_.Begin(std::move(wat), soort, std::move(hoort));
+        geschiedenis_.Begin(wat, soort, std::move(hoort));
     }
     Noteer(const Noteer&) = delete;
     Noteer& operator=(const Noteer&) = delete;
     ~Noteer() { geschiedenis_.bezig_ = false; }
 
-    /// A better name, now that more is known.
-    void Noem(Tekst wat);
     /// Is in the history also when no file changes.
     void Leg() const;
 

@@ -281,6 +281,17 @@ class Menger {
 
 } // namespace
 
+Tekst Aanduiding(const Verschil& verschil)
+{
+    const Rijvelden& velden = verschil.links ? *verschil.links : *verschil.rechts;
+    Tekst uit;
+    for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam}) {
+        if (!velden[Index(kolom)].empty())
+            uit += velden[Index(kolom)] + " ";
+    }
+    return uit + "(" + verschil.key + ")";
+}
+
 Menging Meng(const Stand& basis, const Stand& ons, const Stand& ander,
              const std::set<Tekst>& voorOns)
 {

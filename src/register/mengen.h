@@ -25,6 +25,9 @@ struct Verschil {
     std::optional<Rijvelden> rechts;
 };
 
+/// The full name and the key that tells players of one name apart.
+[[nodiscard]] Tekst Aanduiding(const Verschil& verschil);
+
 /// A new player of ours whose key the other program had issued too.
 struct Hernummering {
     Tekst was;

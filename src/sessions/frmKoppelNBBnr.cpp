@@ -255,11 +255,19 @@ void frmKoppelNBBnr::StartKoppelen()
     emit begint();
     const Koppelopdracht opdracht = MaakKoppelopdracht(
         zwevenden_, static_cast<std::size_t>(lstSpelers->Gekozen()), GekozenSpeler()->key);
+    const Noteer noteer(administratie_.geschiedenis, opdracht.naam + " gekoppeld");
     const Koppeluitslag uitslag =
         Koppel(administratie_.schijf, opdracht,
                frmVoortgang(u"De speler wordt gekoppeld ..."_s, {}, this).AlsVoortgang());
-    QStringList regels;
+    std::set<std::string> zittingen; ///< in which files were changed, by their folders
+    for (const std::string& bestand : uitslag.gewijzigd)
+        zittingen.insert(bestand.substr(0, bestand.find_last_of("/\\")));
     const QString naam = NaarQString(opdracht.naam);
+    administratie_.geschiedenis.Noem(
+        NaarTekst(naam + u" gekoppeld in "_s +
+                  NaarQString(sessies_.at(static_cast<std::size_t>(cmbC->currentIndex())).naam) +
+                  u" (%1)"_s.arg(Aantal(zittingen.size(), u"zitting"_s, u"zittingen"_s))));
+    QStringList regels;
     for (const Aangepast& aangepast : uitslag.aangepast)
         regels << naam + u" - "_s + NaarQString(aangepast.code) +
                       (aangepast.soort == Lijstsoort::Spelers

@@ -21,6 +21,7 @@
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
 #include "help/frmToelichting.h"
+#include "mainwindow/frmGeschiedenis.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/lijsten.h"
 #include "pairs/frmParenOnderhoud.h"
@@ -200,6 +201,33 @@ void NeemPrinten(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, Administrati
     bezoek(blad);
 }
 
+/// A player deleted and another one changed, the latter open.
+void NeemGeschiedenis(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster,
+                      Administratie& administratie)
+{
+    const Pad map = Samen(administratie.mappen.SPEMAP, "Geschiedenis");
+    const Tekst kop = "\r\ncomputer SECRETARIAAT\r\ngebruiker wil\r\nwat ";
+    const Tekst bestand = "\r\nbestand SPEMAP\\RVDspelers.txt\r\n";
+    const auto gezet = administratie.schijf.MaakMap(map).and_then([&] {
+        return SchrijfHeel(
+            administratie.schijf, Samen(map, "2026-11-02 190400 SECRETARIAAT.txt"),
+            "handeling 1\r\ntijd 2026-11-02 19:04:00" + kop + "Jan Bos verwijderd" + bestand +
+                "-9,100009,Gr01-,Jan,,Bos,,,,,,,M,,,,A-LIJN,\r\neinde\r\n" +
+                "handeling 2\r\ntijd 2026-11-02 19:21:40" + kop + "Trudy Kuipersma-Hol gewijzigd" +
+                bestand +
+                "-4,100004,Gr01-,Trudy,,Kuipersma-Hol,010-0000115,,Zuidereind 43,,,,V,,,,,\r\n" +
+                "+4,100004,Gr01-,Trudy,,Kuipersma-Hol,06-00000115,,Zuidereind 45,,,,V,,,,,\r\n" +
+                "einde\r\n");
+    });
+    if (!gezet)
+        throw std::runtime_error("de geschiedenis kan niet worden gemaakt");
+    frmGeschiedenis venster(
+        administratie, {}, [](auto...) {}, &hoofdvenster);
+    auto* lijst = venster.findChild<QTreeWidget*>(u"lstHandelingen"_s);
+    lijst->expandItem(lijst->topLevelItem(0));
+    bezoek(venster);
+}
+
 } // namespace
 
 void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
@@ -221,14 +249,15 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Neem(bezoek, diaGrNamen(groepen, &hoofdvenster));
     Neem(bezoek, diaRekProgkeus(&hoofdvenster));
     // With a scoring program installed the window shows all four sources.
-    Administratie metProgramma = administratie;
-    metProgramma.rekenprogramma = {.NBBRaanwezig = true,
-                                   .GekozenProgramma = Programma::NBBR,
-                                   .DataRoot = {},
-                                   .ProgrammaCode = "NBBR",
-                                   .ProgrammaNaam = "NBB-R"};
+    const Rekenprogramma zonder = administratie.rekenprogramma;
+    administratie.rekenprogramma = {.NBBRaanwezig = true,
+                                    .GekozenProgramma = Programma::NBBR,
+                                    .DataRoot = {},
+                                    .ProgrammaCode = "NBBR",
+                                    .ProgrammaNaam = "NBB-R"};
     Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
-    Neem(bezoek, frmImportNBB(metProgramma, importgeheugen, &hoofdvenster));
+    Neem(bezoek, frmImportNBB(administratie, importgeheugen, &hoofdvenster));
+    administratie.rekenprogramma = zonder;
     Neem(bezoek, diaVerplaats(administratie, &hoofdvenster));
     Neem(bezoek, diaKopieer(administratie, &hoofdvenster));
     Neem(bezoek, frmVerwSubgroep(administratie, &hoofdvenster));
@@ -243,6 +272,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     NeemVergelijking(bezoek, hoofdvenster, administratie.spelers.tabel);
     Neem(bezoek, frmControle(administratie, &hoofdvenster));
     NeemTerugzetten(bezoek, hoofdvenster, administratie);
+    NeemGeschiedenis(bezoek, hoofdvenster, administratie);
 }
 
 } // namespace plexoran

@@ -272,7 +272,7 @@ TEST_F(RoosterTest, HetVlakIsZoBreedAlsHetKaderMinRandEnBalk)
     const QWidget* kader = Deel("picP0");
     EXPECT_NEAR(kader->width() - Maten().Twips(220) - Maten().Twips(280), Vlak()->width(), 1);
     EXPECT_EQ(QPoint(Maten().Twips(100), Maten().Twips(1000)),
-              kader->mapTo(venster.get(), QPoint()));
+              kader->mapTo(venster->centralWidget(), QPoint()));
     venster->resize(1300, 800);
     QApplication::processEvents();
     EXPECT_NEAR(kader->width() - Maten().Twips(220) - Maten().Twips(280), Vlak()->width(), 1);

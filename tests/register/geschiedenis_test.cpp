@@ -162,10 +162,10 @@ TEST_F(GeschiedenisTest, EenAnderBestandStaatErHeelInTotOpDeByte)
     const Tekst oud = schijf.Inhoud(lijst).value();
     const Tekst nieuw = "N01100001-100005\r\nN02los\nzonder eind";
     {
-        Noteer noteer(*geschiedenis, "Bezig");
+        const Noteer noteer(*geschiedenis, "Bezig");
         ASSERT_TRUE(SchrijfHeel(schijf, lijst, nieuw));
         ASSERT_TRUE(SchrijfHeel(schijf, "C:\\club\\Zittingen\\Maandag\\Nieuw.txt", "a"));
-        noteer.Noem("An Bos gekoppeld in Maandag (1 zitting)");
+        geschiedenis->Noem("An Bos gekoppeld in Maandag (1 zitting)");
         geschiedenis->VoorVervanging(lijst, std::nullopt);
     }
     const auto handeling = geschiedenis->Laatste(Handelingsoort::Ongedaan);
@@ -355,6 +355,59 @@ TEST_F(GeschiedenisTest, WatOudIsOfTeGrootGaatWegEnVreemdeBestandenBlijven)
     EXPECT_EQ("1 aantekening.doc", namen[0]);
     EXPECT_EQ(Tijdtekst("yyyy") + "-01-01 000001 B.txt", namen[1]);
     EXPECT_EQ("aantekening.txt", namen[3]);
+}
+
+TEST_F(GeschiedenisTest, EenAnderBestandKomtTotOpDeByteTerugAlsNiemandEraanKwam)
+{
+    const Tekst oud = schijf.Inhoud(lijst).value();
+    const Pad nieuw = "C:\\club\\Zittingen\\Maandag\\Nieuw.txt";
+    {
+        const Noteer noteer(*geschiedenis, "gekoppeld");
+        ASSERT_TRUE(SchrijfHeel(schijf, lijst, "anders"));
+        ASSERT_TRUE(SchrijfHeel(schijf, nieuw, "erbij"));
+    }
+    const auto handeling = geschiedenis->Laatste(Handelingsoort::Ongedaan).value();
+    const auto draai = [&](Handelingsoort soort) {
+        std::vector<Tekst> rest;
+        for (const Wijziging& wijziging : handeling.wijzigingen) {
+            const auto gedaan = DraaiBestandTerug(schijf, mappen, wijziging, soort);
+            EXPECT_TRUE(gedaan);
+            if (gedaan)
+                rest.insert(rest.end(), gedaan->begin(), gedaan->end());
+        }
+        return rest;
+    };
+    EXPECT_EQ(std::vector<Tekst>(), draai(Handelingsoort::Ongedaan));
+    EXPECT_EQ(oud, schijf.Inhoud(lijst));
+    EXPECT_EQ(std::nullopt, schijf.Inhoud(nieuw));
+    EXPECT_EQ(std::vector<Tekst>(), draai(Handelingsoort::Ongedaan)) << "het is al zo";
+    EXPECT_EQ(std::vector<Tekst>(), draai(Handelingsoort::Opnieuw));
+    EXPECT_EQ("anders", schijf.Inhoud(lijst));
+    EXPECT_EQ("erbij", schijf.Inhoud(nieuw));
+    schijf.Zet(nieuw, "van een ander");
+    EXPECT_EQ(std::vector<Tekst>{"ZITMAP\\Maandag\\Nieuw.txt"}, draai(Handelingsoort::Ongedaan));
+    EXPECT_EQ(oud, schijf.Inhoud(lijst));
+    EXPECT_EQ("van een ander", schijf.Inhoud(nieuw));
+    schijf.ZetAlleenLezen("C:\\club\\Zittingen\\Maandag");
+    EXPECT_FALSE(
+        DraaiBestandTerug(schijf, mappen, handeling.wijzigingen[0], Handelingsoort::Opnieuw));
+    EXPECT_EQ(oud, schijf.Inhoud(lijst));
+}
+
+TEST_F(GeschiedenisTest, VanWatVeranderdeStaanOudEnNieuwNaastElkaar)
+{
+    spelers.tabel.ZetCel(2, Kolom::Voornaam, "Beatrix");
+    spelers.tabel.VerwijderRijen(std::vector{4});
+    Bewaar("van alles");
+    const auto handeling = geschiedenis->Laatste(Handelingsoort::Ongedaan).value();
+    EXPECT_EQ(handeling.wijzigingen[0].plaats,
+              LeesHandeling(schijf, mappen, handeling.id).value().wijzigingen[0].plaats);
+    const auto verschillen = SpelersIn(handeling.wijzigingen[0]);
+    ASSERT_EQ(2U, verschillen.size());
+    EXPECT_EQ("Dirk Eik (100004)", Aanduiding(verschillen[0]));
+    EXPECT_FALSE(verschillen[0].rechts);
+    EXPECT_EQ("Bea", verschillen[1].links.value()[Index(Kolom::Voornaam)]);
+    EXPECT_EQ("Beatrix", verschillen[1].rechts.value()[Index(Kolom::Voornaam)]);
 }
 
 /// Whatever a command did to the register, undone it is what it was, and done again what it became.

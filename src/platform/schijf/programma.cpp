@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QSysInfo>
 
 #include <cerrno>
 
@@ -19,6 +20,7 @@
 #endif
 
 #include "platform/schijf/systeempad.h"
+#include "platform/tekst/codepagina.h"
 
 namespace plexoran {
 namespace {
@@ -80,6 +82,21 @@ void Sluit(int greep)
 Pad Programmamap()
 {
     return PadVan(NaarPad(QCoreApplication::applicationDirPath()));
+}
+
+Tekst Computernaam()
+{
+    return Utf8NaarCodepagina(QSysInfo::machineHostName().toStdString()).tekst;
+}
+
+Tekst Gebruikersnaam()
+{
+#ifdef _WIN32
+    const QString naam = qEnvironmentVariable("USERNAME");
+#else
+    const QString naam = qEnvironmentVariable("USER");
+#endif
+    return Utf8NaarCodepagina(naam.toStdString()).tekst;
 }
 
 Pad VolledigPad(const std::string& utf8)

@@ -10,6 +10,10 @@ namespace plexoran {
 /// The folder of the running executable.
 [[nodiscard]] Pad Programmamap();
 
+/// The names that this computer and its user bear; empty when the system tells none.
+[[nodiscard]] Tekst Computernaam();
+[[nodiscard]] Tekst Gebruikersnaam();
+
 /// A path as the user gave it, on the command line or in a file dialog, made independent of the
 /// working folder.
 [[nodiscard]] Pad VolledigPad(const std::string& utf8);

@@ -1,0 +1,189 @@
+#include "mainwindow/frmGeschiedenis.h"
+
+#include <QHeaderView>
+
+#include "platform/scherm/bouwstenen.h"
+#include "platform/tekst/regels.h"
+
+namespace plexoran {
+namespace {
+
+enum Kop { Wanneer, Wat, Was, Werd, Wie, Computer };
+enum Rol { Id = Qt::UserRole, Soort };
+
+QTreeWidgetItem* VoegToe(QTreeWidgetItem* onder, const QString& wat, const QString& was,
+                         const QString& werd)
+{
+    auto* regel = new QTreeWidgetItem(onder, {QString(), wat, was, werd});
+    for (const int kolom : {Wat, Was, Werd})
+        regel->setToolTip(kolom, Wenk(regel->text(kolom)));
+    return regel;
+}
+
+QString Veld(const std::optional<Rijvelden>& velden, std::size_t kolom)
+{
+    return velden ? NaarQString((*velden)[kolom]) : QString();
+}
+
+/// The lines that only one of two texts has, in their order.
+void OpenRegels(QTreeWidgetItem* regel, const Wijziging& wijziging)
+{
+    VoegToe(regel, NaarQString(wijziging.plaats), wijziging.voor ? u""_s : u"(geen bestand)"_s,
+            wijziging.na ? u""_s : u"(geen bestand)"_s);
+    const Tekst verschil =
+        Regelverschil(wijziging.voor.value_or(Tekst()), wijziging.na.value_or(Tekst()), true);
+    for (const Tekstblik een : Regels(verschil)) {
+        if (een.starts_with('-'))
+            VoegToe(regel, {}, NaarQString(een.substr(1)), {});
+        else if (een.starts_with('+'))
+            VoegToe(regel, {}, {}, NaarQString(een.substr(1)));
+    }
+}
+
+} // namespace
+
+frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai draai,
+                                 QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie), key_(std::move(key)), draai_(std::move(draai)),
+      lstHandelingen(new QTreeWidget(this))
+{
+    setObjectName(u"frmGeschiedenis"_s);
+    setWindowTitle(key_.empty() ? u"Geschiedenis"_s
+                                : u"Geschiedenis van speler %1"_s.arg(NaarQString(key_)));
+    auto* Label1 = MaakLabel(u"Label1"_s,
+                             u"Wat er in de administratie is gewijzigd, het laatste bovenaan. Open "
+                             "een regel om te zien wat er was en wat het werd."_s,
+                             this);
+    Label1->setWordWrap(true);
+    Noem(lstHandelingen, u"lstHandelingen"_s, u"Handelingen"_s);
+    lstHandelingen->setHeaderLabels(
+        {u"Wanneer"_s, u"Wat"_s, u"Was"_s, u"Werd"_s, u"Gebruiker"_s, u"Computer"_s});
+    lstHandelingen->setUniformRowHeights(true);
+    lstHandelingen->header()->setStretchLastSection(true);
+    connect(lstHandelingen, &QTreeWidget::itemExpanded, this, &frmGeschiedenis::Open);
+    connect(lstHandelingen, &QTreeWidget::currentItemChanged, this, &frmGeschiedenis::Kies);
+    cmdOngedaan =
+        MaakKnop(u"cmdOngedaan"_s, u"Ongedaan maken"_s, u'O', this, &frmGeschiedenis::DraaiGekozen);
+    auto* cmdSluiten = MaakKnop(u"cmdSluiten"_s, u"Sluiten"_s, u'S', this, &QDialog::accept);
+    Onderelkaar({Label1, {lstHandelingen, 1}, Knoppenrij({cmdOngedaan, cmdSluiten})}, this);
+    const Maten maten;
+    PasInScherm(this, {maten.Twips(13500), maten.Twips(8400)});
+    Vul();
+    for (const auto& [kolom, twips] :
+         {std::pair(Wanneer, 2400), {Wat, 4800}, {Was, 1900}, {Werd, 1900}, {Wie, 1100}})
+        lstHandelingen->setColumnWidth(kolom, maten.Twips(twips));
+    lstHandelingen->setFocus();
+}
+
+/// Of one player only what changed himself.
+bool frmGeschiedenis::IsGekozen(const Handeling& handeling) const
+{
+    if (key_.empty())
+        return true;
+    for (const Wijziging& wijziging : handeling.wijzigingen) {
+        if (!wijziging.IsSpelerbestand())
+            continue;
+        for (const Verschil& verschil : SpelersIn(wijziging)) {
+            if (verschil.key == key_)
+                return true;
+        }
+    }
+    return false;
+}
+
+void frmGeschiedenis::Vul()
+{
+    lstHandelingen->clear();
+    ongedaan_.clear();
+    std::set<Tekst> geweest; // the last word on an entry counts, and comes first
+    LoopTerug(administratie_.schijf, administratie_.mappen, [&](Handeling& handeling) {
+        if (handeling.soort != Handelingsoort::Gewoon && geweest.insert(handeling.hoort).second &&
+            handeling.soort == Handelingsoort::Ongedaan)
+            ongedaan_.insert(handeling.hoort);
+        if (!IsGekozen(handeling))
+            return true;
+        const bool weg = ongedaan_.contains(handeling.id);
+        auto* regel = new QTreeWidgetItem(
+            lstHandelingen,
+            {NaarQString(handeling.tijd),
+             NaarQString(handeling.wat) + (weg ? u" (ongedaan gemaakt)"_s : QString()), QString(),
+             QString(), NaarQString(handeling.gebruiker), NaarQString(handeling.computer)});
+        regel->setData(0, Id, NaarQString(handeling.id));
+        regel->setData(0, Soort, static_cast<int>(handeling.soort));
+        regel->setToolTip(Wat, Wenk(regel->text(Wat)));
+        if (!handeling.wijzigingen.empty())
+            regel->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+        return true;
+    });
+    lstHandelingen->sortItems(Wanneer, Qt::DescendingOrder); // those of several computers
+    lstHandelingen->setCurrentItem(lstHandelingen->topLevelItem(0));
+    Kies();
+}
+
+void frmGeschiedenis::Open(QTreeWidgetItem* regel)
+{
+    if (regel->parent() != nullptr || regel->childCount() > 0)
+        return;
+    const auto handeling = LeesHandeling(administratie_.schijf, administratie_.mappen,
+                                         NaarTekst(regel->data(0, Id).toString()));
+    if (!handeling) {
+        VoegToe(regel, u"Dit is niet meer te lezen."_s, {}, {});
+        return;
+    }
+    for (const Wijziging& wijziging : handeling->wijzigingen) {
+        if (wijziging.IsSpelerbestand())
+            OpenSpelers(regel, wijziging);
+        else if (key_.empty())
+            OpenRegels(regel, wijziging);
+    }
+}
+
+void frmGeschiedenis::OpenSpelers(QTreeWidgetItem* regel, const Wijziging& wijziging) const
+{
+    constexpr int meeste = 1000;
+    for (const Verschil& verschil : SpelersIn(wijziging)) {
+        if (!key_.empty() && verschil.key != key_)
+            continue;
+        if (regel->childCount() == meeste) {
+            VoegToe(regel, u"... en meer"_s, {}, {});
+            return;
+        }
+        auto* speler =
+            VoegToe(regel, NaarQString(Aanduiding(verschil)), verschil.links ? u""_s : u"(geen)"_s,
+                    verschil.rechts ? u""_s : u"(verwijderd)"_s);
+        for (auto i = Index(Kolom::Groep); i < AantalKolommen; ++i) {
+            const QString was = Veld(verschil.links, i);
+            const QString werd = Veld(verschil.rechts, i);
+            if (was != werd)
+                VoegToe(speler, NaarQString(Kolomnamen[i]), was, werd);
+        }
+        speler->setExpanded(true);
+    }
+}
+
+void frmGeschiedenis::Kies()
+{
+    QTreeWidgetItem* regel = lstHandelingen->currentItem();
+    while (regel != nullptr && regel->parent() != nullptr)
+        regel = regel->parent();
+    cmdOngedaan->setEnabled(regel != nullptr &&
+                            regel->data(0, Soort) == static_cast<int>(Handelingsoort::Gewoon));
+    const bool weg =
+        regel != nullptr && ongedaan_.contains(NaarTekst(regel->data(0, Id).toString()));
+    cmdOngedaan->setText(MetSneltoets(weg ? u"Opnieuw doen"_s : u"Ongedaan maken"_s, u'O'));
+}
+
+void frmGeschiedenis::DraaiGekozen()
+{
+    QTreeWidgetItem* regel = lstHandelingen->currentItem();
+    while (regel->parent() != nullptr)
+        regel = regel->parent();
+    const Tekst id = NaarTekst(regel->data(0, Id).toString());
+    const auto handeling = LeesHandeling(administratie_.schijf, administratie_.mappen, id);
+    if (handeling)
+        draai_(*handeling,
+               ongedaan_.contains(id) ? Handelingsoort::Opnieuw : Handelingsoort::Ongedaan);
+    Vul();
+}
+
+} // namespace plexoran

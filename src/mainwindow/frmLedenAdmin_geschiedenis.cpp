@@ -1,0 +1,154 @@
+// Undoing, doing again, and looking back.
+#include <QMenu>
+
+#include "mainwindow/frmGeschiedenis.h"
+#include "mainwindow/frmLedenAdmin.h"
+#include "platform/scherm/berichten.h"
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+namespace {
+
+/// As it stands in a menu, where a name of any length must not widen it.
+QString Menutekst(const QString& wat, const std::optional<Handeling>& handeling)
+{
+    constexpr qsizetype langste = 60;
+    if (!handeling)
+        return wat;
+    QString naam = NaarQString(handeling->wat);
+    if (naam.size() > langste)
+        naam = naam.left(langste) + u"..."_s;
+    return wat + u": "_s + ZonderSneltoets(naam);
+}
+
+QString Woorden(Handelingsoort soort)
+{
+    return soort == Handelingsoort::Ongedaan ? u"Ongedaan gemaakt"_s : u"Opnieuw gedaan"_s;
+}
+
+} // namespace
+
+/// What they would do is looked up when the menu opens; their keys work always.
+void frmLedenAdmin::BouwTerugmenu(QMenu* menu)
+{
+    const auto actie = [&](const QString& naam, const QString& tekst, const QKeySequence& toets,
+                           Handelingsoort soort) {
+        QAction* uit = menu->addAction(tekst, toets, this, [this, soort] { Draai(soort); });
+        uit->setObjectName(naam);
+        connect(menu, &QMenu::aboutToShow, uit, [=, this] {
+            uit->setText(Menutekst(tekst, administratie_.geschiedenis.Laatste(soort)));
+        });
+    };
+    actie(u"actOngedaan"_s, u"Ongedaan maken"_s, Qt::CTRL | Qt::Key_Z, Handelingsoort::Ongedaan);
+    actie(u"actOpnieuw"_s, u"Opnieuw doen"_s, Qt::CTRL | Qt::Key_Y, Handelingsoort::Opnieuw);
+    menu->addSeparator();
+    menu->addAction(u"Geschiedenis..."_s, Qt::CTRL | Qt::Key_H, this,
+                    [this] { ToonGeschiedenis({}); })
+        ->setObjectName(u"actGeschiedenis"_s);
+    menu->addAction(u"Geschiedenis van deze speler..."_s, this, &frmLedenAdmin::ToonSpeler)
+        ->setObjectName(u"actSpelergeschiedenis"_s);
+}
+
+void frmLedenAdmin::Draai(Handelingsoort soort)
+{
+    const auto handeling = administratie_.geschiedenis.Laatste(soort);
+    if (handeling)
+        DraaiTerug(*handeling, soort);
+    else
+        Meld(this, QMessageBox::Information,
+             soort == Handelingsoort::Ongedaan ? u"Er is niets om ongedaan te maken."_s
+                                               : u"Er is niets om opnieuw te doen."_s);
+}
+
+void frmLedenAdmin::DraaiTerug(const Handeling& handeling, Handelingsoort soort)
+{
+    if (isWindowModified())
+        SlaOpEnToon();
+    if (isWindowModified())
+        return;
+    static_cast<void>(opslag_.NeemAndereOver());
+    const Tekst wat = NaarTekst(Woorden(soort)) + ": " + handeling.wat;
+    const Noteer noteer(administratie_.geschiedenis, wat, soort, handeling.id);
+    QStringList rest;
+    bool spelers = false;
+    for (auto een = handeling.wijzigingen.rbegin(); een != handeling.wijzigingen.rend(); ++een) {
+        if (een->IsSpelerbestand())
+            DraaiSpelers(*een, soort, rest);
+        else
+            DraaiBestand(*een, soort, rest);
+        spelers = spelers || een->IsSpelerbestand();
+    }
+    if (spelers)
+        SlaOpEnToon();
+    noteer.Leg();
+    wacht_.Kijk(); // names of groups may be others
+    ToonMelding(NaarQString(wat));
+    if (!rest.isEmpty())
+        MeldLijst(this, QMessageBox::Warning,
+                  u"%1, maar niet alles. Dit is sindsdien op een andere manier gewijzigd en "
+                  "gebleven zoals het is:\n\n%2"_s.arg(Woorden(soort), rest.join(u'\n')));
+    MeldGeschiedenisfout();
+}
+
+void frmLedenAdmin::DraaiSpelers(const Wijziging& wijziging, Handelingsoort soort,
+                                 QStringList& rest)
+{
+    Register& spelers = administratie_.spelers;
+    Menging menging = DraaiSpelersTerug(spelers, wijziging, soort);
+    for (const Verschil& botsing : menging.botsingen)
+        rest << NaarQString(Aanduiding(botsing));
+    spelers.tabel = std::move(menging.tabel);
+}
+
+void frmLedenAdmin::DraaiBestand(const Wijziging& wijziging, Handelingsoort soort,
+                                 QStringList& rest)
+{
+    const auto gedaan =
+        DraaiBestandTerug(administratie_.schijf, administratie_.mappen, wijziging, soort);
+    if (!gedaan) {
+        rest << NaarQString(wijziging.plaats) + u'\n' + Bijzonderheden(gedaan.error());
+        return;
+    }
+    for (const Tekst& deel : *gedaan)
+        rest << NaarQString(deel);
+}
+
+void frmLedenAdmin::ToonGeschiedenis(const Tekst& key)
+{
+    frmGeschiedenis venster(
+        administratie_, key,
+        [this](const Handeling& handeling, Handelingsoort soort) { DraaiTerug(handeling, soort); },
+        this);
+    venster.exec();
+}
+
+void frmLedenAdmin::ToonSpeler()
+{
+    if (!IsRegelGekozen())
+        return;
+    const int rij = picP0->Vlak()->Rijen()[static_cast<std::size_t>(picP0->Vlak()->Regel() - 1)];
+    ToonGeschiedenis(Tekst(administratie_.spelers.tabel.Cel(rij, Kolom::Key)));
+}
+
+/// Stays for as long as it takes to read it.
+void frmLedenAdmin::ToonMelding(const QString& tekst)
+{
+    constexpr int leestijd = 20'000;
+    lblMelding->setText(tekst);
+    lblMelding->setToolTip(Wenk(tekst));
+    meldtijd_.start(leestijd);
+}
+
+/// What could not be kept cannot be undone later; told once.
+void frmLedenAdmin::MeldGeschiedenisfout()
+{
+    if (const auto fout = administratie_.geschiedenis.NeemFout())
+        MeldFout(
+            this, QMessageBox::Warning,
+            u"De geschiedenis kan niet worden bijgehouden. Uw wijzigingen zelf zijn niet in "
+            "gevaar, maar wat u nu doet, kunt u later niet ongedaan maken. Kijk of u in de map "
+            "Geschiedenis mag schrijven en of de schijf vol is."_s,
+            *fout);
+}
+
+} // namespace plexoran

@@ -1,0 +1,208 @@
+#include "mainwindow/frmGeschiedenis.h"
+
+#include <QMenu>
+
+#include "mainwindow/vensterproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+class GeschiedenisTest : public HoofdvensterTest {
+  protected:
+    void VerwijderRegel(int regel)
+    {
+        KiesRegel(regel);
+        wachter.Verwacht(
+            {.tekst = u"\t\tLET OP!"_s, .titel = u"Verwijderen"_s, .alleenBegin = true});
+        wachter.Informatie(u"De regel is verwijderd."_s);
+        Opdracht("cmdVerwijder");
+    }
+    void Terug() { DrukMetCtrl(Qt::Key_Z); }
+    void Vooruit() { DrukMetCtrl(Qt::Key_Y); }
+    /// Keys work in the active window only, which nobody makes it here when a box has gone.
+    void DrukMetCtrl(Qt::Key toets)
+    {
+        venster->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        Toets(toets, Qt::ControlModifier);
+        wachter.Klaar();
+    }
+    /// What it would undo, as the menu says it.
+    [[nodiscard]] std::string Menutekst(const char* actie) const
+    {
+        emit Vind<QMenu>(*venster, "mnuBewerken")->aboutToShow();
+        return venster->findChild<QAction*>(QString::fromLatin1(actie))->text().toStdString();
+    }
+    [[nodiscard]] std::string Melding() const { return Label("lblMelding")->text().toStdString(); }
+    /// As another program would, and the window has not looked yet.
+    void WijzigVanBuiten(const std::string& was, const std::string& wordt)
+    {
+        std::string tekst = suite.Spelers();
+        ASSERT_NE(std::string::npos, tekst.find(was)) << was;
+        suite.Zet("Spelers/RVDspelers.txt", tekst.replace(tekst.find(was), was.size(), wordt));
+    }
+    /// The window of all entries, or of the chosen player.
+    void InGeschiedenis(const char* actie, std::function<void(QDialog&)> stappen)
+    {
+        wachter.Bedien(std::move(stappen));
+        venster->findChild<QAction*>(QString::fromLatin1(actie))->trigger();
+        wachter.Klaar();
+    }
+    static std::vector<std::string> Regels(const QTreeWidgetItem& onder)
+    {
+        std::vector<std::string> uit;
+        for (int i = 0; i < onder.childCount(); ++i) {
+            const QTreeWidgetItem& kind = *onder.child(i);
+            uit.push_back(
+                QStringList{kind.text(1), kind.text(2), kind.text(3)}.join(u'|').toStdString());
+            for (const std::string& dieper : Regels(kind))
+                uit.push_back("  " + dieper);
+        }
+        return uit;
+    }
+};
+
+} // namespace
+
+TEST_F(GeschiedenisTest, ErIsEerstNietsOngedaanTeMaken)
+{
+    EXPECT_EQ("Ongedaan maken", Menutekst("actOngedaan"));
+    wachter.Informatie(u"Er is niets om ongedaan te maken."_s);
+    Terug();
+    wachter.Informatie(u"Er is niets om opnieuw te doen."_s);
+    Vooruit();
+}
+
+TEST_F(GeschiedenisTest, EenVerwijderdeSpelerKomtTerugOokNaEenHerstart)
+{
+    const std::string oud = suite.Spelers();
+    VerwijderRegel(2);
+    const std::string zonder = suite.Spelers();
+    EXPECT_EQ("Ongedaan maken: Ineke van der Horst-Blaauw verwijderd", Menutekst("actOngedaan"));
+    Terug();
+    EXPECT_EQ("Ongedaan gemaakt: Ineke van der Horst-Blaauw verwijderd", Melding());
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("Aantal regels: 50", Aantal());
+    Herstart();
+    EXPECT_EQ("Opnieuw doen: Ineke van der Horst-Blaauw verwijderd", Menutekst("actOpnieuw"));
+    Vooruit();
+    EXPECT_EQ(zonder, suite.Spelers());
+    Herstart();
+    Terug();
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(GeschiedenisTest, ElkeOpdrachtHeeftZijnNaam)
+{
+    VoegToe(u"Nieuweling"_s);
+    EXPECT_EQ("Ongedaan maken: Nieuweling toegevoegd", Menutekst("actOngedaan"));
+    KiesRegel(1);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_7", u"06-1"_s);
+        Druk(ingave, "cmdOK");
+    });
+    Opdracht("cmdWijzig");
+    EXPECT_EQ("Ongedaan maken: Willem van der Horst gewijzigd", Menutekst("actOngedaan"));
+    wachter.Bedien([](QDialog& namen) {
+        Schrijf(namen, "txt1_11", u"Nieuw & mooi"_s);
+        Druk(namen, "cmdOK");
+    });
+    Opdracht("cmdMaakGrNamen");
+    EXPECT_EQ("Ongedaan maken: Groepsnamen gewijzigd", Menutekst("actOngedaan"));
+    EXPECT_EQ("Gr11-Nieuw & mooi", Keus("cmbGr")->itemText(10).toStdString());
+    Terug();
+    EXPECT_EQ("Gr11-", Keus("cmbGr")->itemText(10).toStdString());
+    Terug();
+    Terug();
+    EXPECT_EQ("Ongedaan maken", Menutekst("actOngedaan"));
+    EXPECT_EQ(std::string::npos, suite.Spelers().find("Nieuweling"));
+    EXPECT_EQ("HKEY=100172", RegelsVan(suite.Spelers())[0]) << "een sleutel komt nooit terug";
+}
+
+TEST_F(GeschiedenisTest, WatEenAnderSindsdienDeedBlijftEnWordtGenoemd)
+{
+    KiesRegel(1);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_7", u"06-1"_s);
+        Schrijf(ingave, "txt1_11", u"Elders"_s);
+        Druk(ingave, "cmdOK");
+    });
+    Opdracht("cmdWijzig");
+    WijzigVanBuiten(",06-1,", ",06-2,");
+    wachter.Verwacht({.tekst = u"Ongedaan gemaakt, maar niet alles. Dit is sindsdien op een andere "
+                               "manier gewijzigd en gebleven zoals het is:\n\nWillem van der Horst "
+                               "(100001)"_s,
+                      .icoon = QMessageBox::Warning});
+    Terug();
+    EXPECT_NE(std::string::npos, suite.Spelers().find("Horst,06-2,"));
+}
+
+TEST_F(GeschiedenisTest, HetVensterToontOudEnNieuwEnMaaktOokEenEerdereOngedaan)
+{
+    const std::string oud = suite.Spelers();
+    VerwijderRegel(1);
+    KiesRegel(1);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_7", u"06-1"_s);
+        Druk(ingave, "cmdOK");
+    });
+    Opdracht("cmdWijzig");
+    InGeschiedenis("actGeschiedenis", [&](QDialog& geschiedenis) {
+        auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
+        ASSERT_EQ(2, lijst->topLevelItemCount());
+        lijst->expandItem(lijst->topLevelItem(0));
+        EXPECT_EQ((std::vector<std::string>{"Ineke van der Horst-Blaauw (100002)||",
+                                            "  Telef|06-00000103|06-1"}),
+                  Regels(*lijst->topLevelItem(0)));
+        EXPECT_EQ("Willem van der Horst verwijderd", lijst->topLevelItem(1)->text(1).toStdString());
+        lijst->setCurrentItem(lijst->topLevelItem(1));
+        Druk(geschiedenis, "cmdOngedaan");
+        ASSERT_EQ(3, lijst->topLevelItemCount());
+        EXPECT_EQ("Ongedaan gemaakt: Willem van der Horst verwijderd",
+                  lijst->topLevelItem(0)->text(1).toStdString());
+        EXPECT_FALSE(Vind<QPushButton>(geschiedenis, "cmdOngedaan")->isEnabled());
+        lijst->setCurrentItem(lijst->topLevelItem(2));
+        EXPECT_EQ("Willem van der Horst verwijderd (ongedaan gemaakt)",
+                  lijst->topLevelItem(2)->text(1).toStdString());
+        EXPECT_EQ("Opnieuw doen", Opschrift(Vind<QPushButton>(geschiedenis, "cmdOngedaan")));
+        Druk(geschiedenis, "cmdSluiten");
+    });
+    std::string verwacht = oud;
+    verwacht.replace(verwacht.find("Blaauw,06-00000103"), 18, "Blaauw,06-1");
+    EXPECT_EQ(verwacht, suite.Spelers());
+}
+
+TEST_F(GeschiedenisTest, VanEenSpelerStaatErAlleenWatHemzelfBetreft)
+{
+    VerwijderRegel(3);
+    KiesRegel(2);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_7", u"06-1"_s);
+        Druk(ingave, "cmdOK");
+    });
+    Opdracht("cmdWijzig");
+    KiesRegel(2);
+    InGeschiedenis("actSpelergeschiedenis", [&](QDialog& geschiedenis) {
+        auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
+        EXPECT_EQ(1, lijst->topLevelItemCount());
+        EXPECT_EQ("Ineke van der Horst-Blaauw gewijzigd",
+                  lijst->topLevelItem(0)->text(1).toStdString());
+        Druk(geschiedenis, "cmdSluiten");
+    });
+    wachter.Waarschuwing(u"Er is geen regel geselecteerd!"_s);
+    KiesGroep(2);
+    venster->findChild<QAction*>(u"actSpelergeschiedenis"_s)->trigger();
+    wachter.Klaar();
+}
+
+TEST_F(GeschiedenisTest, WatNietBijgehoudenKanWordenWordtEenKeerGemeld)
+{
+    schijf.Vooraf([](const Pad& pad) { return pad.find("Geschiedenis") == Pad::npos; });
+    VerwachtIngave(u"Een"_s);
+    wachter.Begin(u"De geschiedenis kan niet worden bijgehouden. Uw wijzigingen zelf zijn niet in "
+                  "gevaar, maar wat u nu doet, kunt u later niet ongedaan maken."_s);
+    Opdracht("cmdAanm");
+    VoegToe(u"Twee"_s);
+    EXPECT_NE(std::string::npos, suite.Spelers().find("Twee"));
+}
