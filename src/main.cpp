@@ -1,5 +1,6 @@
 // Picks the folder configuration and opens the main window.
 #include <QApplication>
+#include <QTimer>
 
 #include "mainwindow/frmLedenAdmin.h"
 #include "opdrachtregel.h"
@@ -30,8 +31,16 @@ int main(int argc, char** argv)
     frmLedenAdmin venster(administratie);
     const Pad mappenIni = opdrachten->mappenIni.empty() ? MappenIniPad(Programmamap())
                                                         : VolledigPad(opdrachten->mappenIni);
-    if (const auto eindstatus = venster.Laad(mappenIni, [&slot] { return slot.Neem(); }))
+    if (const auto eindstatus = venster.Laad(mappenIni, [&slot] { return slot.Neem(); })) {
+        slot.Roep();
         return *eindstatus;
+    }
     venster.show();
+    QTimer roep;
+    QObject::connect(&roep, &QTimer::timeout, &venster, [&] {
+        if (slot.IsGeroepen())
+            venster.KomNaarVoren();
+    });
+    roep.start(std::chrono::milliseconds(300));
     return QApplication::exec();
 }

@@ -55,6 +55,8 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
     const Startafloop afloop = LeesBijStart(administratie_, this, mappenIni);
     if (afloop == Startafloop::Mislukt)
         return 1;
+    if (!MagErbij())
+        return 0;
     cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     const int laatste = administratie_.instellingen.LOSTGR;
@@ -89,6 +91,66 @@ bool frmLedenAdmin::IsEersteExemplaar()
     return eerste;
 }
 
+void frmLedenAdmin::KomNaarVoren()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
+/// Whether the program may go on, when others have the register open.
+bool frmLedenAdmin::MagErbij()
+{
+    aanwezigheid_.emplace(administratie_.schijf, administratie_.mappen, Computernaam(),
+                          Gebruikersnaam());
+    aanwezigheid_->Meld();
+    const auto anderen = aanwezigheid_->Anderen();
+    if (!anderen.empty()) {
+        QStringList wie;
+        for (const auto& [computer, gebruiker, sinds] : anderen)
+            wie << u"%1 op %2, sinds %3"_s.arg(NaarQString(gebruiker), NaarQString(computer),
+                                               NaarQString(sinds));
+        const int antwoord = Kies(
+            this, QMessageBox::Warning,
+            u"Er werkt al iemand met deze administratie:\n%1\n\nSamenwerken: wat de ander opslaat, "
+            "ziet u meteen; wat u beiden wijzigt, wordt samengevoegd.\nAlleen kijken: u kunt "
+            "niets wijzigen.\nStoppen: Plexoran sluit."_s.arg(wie.join(u'\n')),
+            {u"Samenwerken"_s, u"Alleen kijken"_s, u"Stoppen"_s});
+        if (antwoord == 2)
+            return false;
+        if (antwoord == 1)
+            ZetOpKijken();
+    }
+    constexpr int halveMinuut = 30'000;
+    connect(&hartslag_, &QTimer::timeout, this, [this] { aanwezigheid_->Meld(); });
+    hartslag_.start(halveMinuut);
+    return true;
+}
+
+/// What keys and windows that stay open could change all the same.
+bool frmLedenAdmin::MagWijzigen()
+{
+    if (alleenKijken_)
+        Meld(this, QMessageBox::Information,
+             u"U kijkt alleen: er kan niets worden gewijzigd. Start Plexoran opnieuw om samen te "
+             "werken."_s);
+    return !alleenKijken_;
+}
+
+/// Every command that changes anything is off.
+void frmLedenAdmin::ZetOpKijken()
+{
+    alleenKijken_ = true;
+    setWindowTitle(u"Onderhoud Plexoran (alleen kijken)[*]"_s);
+    for (const QString& naam :
+         {u"cmdAanm"_s, u"cmdVerplaats"_s, u"cmdKopieer"_s, u"cmdVerwGroep"_s, u"cmdMaakGrNamen"_s,
+          u"cmdHaalNBBnamen"_s, u"cmdKoppel"_s, u"cmdSpToevoegen"_s, u"cmdParenOnderhoud"_s})
+        findChild<QPushButton*>(naam)->setEnabled(false);
+    for (const QString& naam : {u"actOngedaan"_s, u"actOpnieuw"_s, u"actTerugzetten"_s})
+        findChild<QAction*>(naam)->setEnabled(false);
+    aanwezigheid_.reset(); // who only looks is in nobody's way
+}
+
 Tekst frmLedenAdmin::Groeptekst() const
 {
     return administratie_.groepen.Toontekst(cmbGr->currentIndex() + 1);
@@ -113,7 +175,7 @@ void frmLedenAdmin::ToonGroep()
     Label3->setText(u"Aantal regels: %1"_s.arg(regels));
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdWijzig, cmdVerwijder, cmdVerwijderVT,
                                                          cmbVerwVan, cmbVerwTot})
-        deel->setEnabled(regels > 0);
+        deel->setEnabled(regels > 0 && !alleenKijken_);
     QStringList nummers;
     for (int regel = 1; regel <= regels; ++regel)
         nummers << QString::number(regel);
@@ -184,6 +246,8 @@ void frmLedenAdmin::changeEvent(QEvent* gebeurtenis)
 /// A settings file that cannot be written costs the user little: told once, then kept quiet.
 void frmLedenAdmin::BewaarInstellingen()
 {
+    if (alleenKijken_)
+        return;
     const auto uitkomst = SchrijfInstellingen(administratie_.schijf, administratie_.mappen,
                                               administratie_.instellingen);
     if (uitkomst || instellingenfoutGemeld_)

@@ -19,6 +19,7 @@
 #include "mainwindow/lijsten.h"
 #include "mainwindow/rooster.h"
 #include "platform/scherm/maten.h"
+#include "register/aanwezigheid.h"
 
 class QLayout;
 class QMenu;
@@ -36,6 +37,9 @@ class frmLedenAdmin : public QMainWindow {
     /// the program runs.
     [[nodiscard]] std::optional<int> Laad(const Pad& mappenIni,
                                           std::function<bool()> eersteExemplaar);
+
+    /// Over the windows of other programs, also when it was made small.
+    void KomNaarVoren();
 
     /// Shows the selected group anew, after a choice or a change.
     void ToonGroep();
@@ -60,6 +64,9 @@ class frmLedenAdmin : public QMainWindow {
     void VerbindToetsen();
 
     [[nodiscard]] bool IsEersteExemplaar();
+    [[nodiscard]] bool MagErbij();
+    void ZetOpKijken();
+    [[nodiscard]] bool MagWijzigen();
     [[nodiscard]] bool VolgGroepsnamen();
     void ToonTweedePlaats();
     void KiesGroep(int plaats);
@@ -109,6 +116,9 @@ class frmLedenAdmin : public QMainWindow {
     Maten maten_;
     Importgeheugen importgeheugen_;
     std::function<bool()> eersteExemplaar_;
+    std::optional<Aanwezigheid> aanwezigheid_;
+    QTimer hartslag_;
+    bool alleenKijken_ = false;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
 
     QTimer meldtijd_;   ///< how long the line below stays

@@ -62,6 +62,8 @@ void frmLedenAdmin::Draai(Handelingsoort soort)
 
 void frmLedenAdmin::DraaiTerug(const Handeling& handeling, Handelingsoort soort)
 {
+    if (!MagWijzigen())
+        return;
     if (isWindowModified())
         SlaOpEnToon();
     if (isWindowModified())

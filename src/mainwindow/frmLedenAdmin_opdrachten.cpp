@@ -54,6 +54,8 @@ bool frmLedenAdmin::ToonIngave(Ingave& ingave)
 
 void frmLedenAdmin::VoegToe()
 {
+    if (!MagWijzigen())
+        return;
     Ingave ingave;
     ingave.IngaveModus = "Aanmaken";
     ingave.rij = administratie_.spelers.tabel.Rijen() + 1;
@@ -73,7 +75,7 @@ void frmLedenAdmin::VoegToe()
 
 void frmLedenAdmin::Wijzig()
 {
-    if (!IsRegelGekozen())
+    if (!MagWijzigen() || !IsRegelGekozen())
         return;
     const int regel = picP0->Vlak()->Regel();
     Ingave ingave;
@@ -89,7 +91,7 @@ void frmLedenAdmin::Wijzig()
 
 void frmLedenAdmin::VerwijderRij()
 {
-    if (!IsRegelGekozen())
+    if (!MagWijzigen() || !IsRegelGekozen())
         return;
     const int regel = picP0->Vlak()->Regel();
     Verwijder(regel, regel, u"regel %1"_s.arg(regel), u"De regel is verwijderd."_s);

@@ -44,16 +44,6 @@ Tekst Kopregel(Tekstblik woord, Tekst waarde)
     return Tekst(woord) + " " + waarde + "\r\n";
 }
 
-Tekst Bestandsnaam(Tekst naam)
-{
-    const auto gewoon = [](char teken) {
-        return (teken >= 'a' && teken <= 'z') || (teken >= 'A' && teken <= 'Z') ||
-               (teken >= '0' && teken <= '9') || teken == '-';
-    };
-    std::replace_if(naam.begin(), naam.end(), std::not_fn(gewoon), '_');
-    return naam;
-}
-
 /// Reads the entries of a file off it, line by line.
 class Lezer {
   public:
@@ -333,7 +323,7 @@ void Geschiedenis::Schrijf(Tekstblik regels)
 Uitkomst<void> Geschiedenis::OpenBestand()
 {
     const Pad map = Geschiedenismap(*mappen_);
-    const Pad basis = Samen(map, Tijdtekst("yyyy-MM-dd HHmmss ") + Bestandsnaam(computer_));
+    const Pad basis = Samen(map, Tijdtekst("yyyy-MM-dd HHmmss ") + AlsBestandsnaam(computer_));
     Pad pad = basis + Tekst(Achtervoegsel);
     return schijf_.MaakMap(map)
         .and_then([&] { return schijf_.SyncMapVan(map); })

@@ -8,6 +8,7 @@
 #include <QSysInfo>
 
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -159,7 +160,24 @@ bool Exemplaarslot::Neem()
         return false;
     }
     greep_ = greep;
+    static_cast<void>(IsGeroepen());
     return true;
+}
+
+/// The time of the file is the one thing of it that both can see without waiting.
+void Exemplaarslot::Roep() const
+{
+    std::error_code fout;
+    if (greep_ == -1)
+        std::filesystem::last_write_time(bestand_, std::filesystem::file_time_type::clock::now(),
+                                         fout);
+}
+
+bool Exemplaarslot::IsGeroepen()
+{
+    std::error_code fout;
+    const auto tijd = std::filesystem::last_write_time(bestand_, fout);
+    return !fout && std::exchange(gezien_, tijd) != tijd;
 }
 
 } // namespace plexoran

@@ -42,10 +42,15 @@ class Exemplaarslot {
     /// all (a full disk, a folder in its place) the program may start: refusing it would be the
     /// greater harm.
     [[nodiscard]] bool Neem();
+    /// Asks the instance that holds it to come to the front.
+    void Roep() const;
+    /// Whether another one asked so since the last time.
+    [[nodiscard]] bool IsGeroepen();
 
   private:
     std::filesystem::path bestand_;
     int greep_ = -1;
+    std::filesystem::file_time_type gezien_{};
 };
 
 } // namespace plexoran

@@ -1,5 +1,6 @@
 #include "platform/schijf/schijf.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -190,6 +191,16 @@ Fout GeenNaam(Tekstblik naam, std::string bestand)
             .systeem = std::string("'").append(NaarUtf8(naam)) +
                        "' kan niet de naam van een bestand of map zijn: daarin mogen geen '/', "
                        "'\\', 'C:' of '..' staan"};
+}
+
+Tekst AlsBestandsnaam(Tekst tekst)
+{
+    const auto gewoon = [](char teken) {
+        return (teken >= 'a' && teken <= 'z') || (teken >= 'A' && teken <= 'Z') ||
+               (teken >= '0' && teken <= '9') || teken == '-';
+    };
+    std::replace_if(tekst.begin(), tekst.end(), std::not_fn(gewoon), '_');
+    return tekst;
 }
 
 Uitkomst<Tekst> LeesBegrensd(Schijf& schijf, const Pad& pad)

@@ -32,6 +32,11 @@ using Pad = Tekst;
 /// What is wrong with a name that is not so, as `Beschadigd`; `bestand` is where it was read.
 [[nodiscard]] Fout GeenNaam(Tekstblik naam, std::string bestand = {});
 
+/// A text as it may stand in the name of a file everywhere: letters without accents, digits and
+/// "-";
+/// "_" for the rest.
+[[nodiscard]] Tekst AlsBestandsnaam(Tekst tekst);
+
 enum class Padsoort { Niets, Bestand, Map };
 
 /// What tells one state of a file from the next: another stamp means that the file was changed or
