@@ -96,16 +96,15 @@ void NeemVergelijking(const Bezoek& bezoek, QWidget& hoofdvenster, const Spelert
 }
 
 /// Backups of the suite, and a register in which a player came, one changed and one went since.
-void NeemTerugzetten(const Bezoek& bezoek, QWidget& hoofdvenster,
-                     const Administratie& administratie)
+void NeemTerugzetten(const Bezoek& bezoek, QWidget& hoofdvenster, Administratie& administratie)
 {
-    Administratie anders = administratie;
-    anders.tweedeplaatsIni = Samen(anders.mappen.ADMMAP, "reservekopie.ini");
-    Register& spelers = anders.spelers;
+    const Register zoalsHetWas = administratie.spelers;
+    Register& spelers = administratie.spelers;
+    administratie.tweedeplaatsIni = Samen(administratie.mappen.ADMMAP, "reservekopie.ini");
     if (spelers.tabel.Rijen() < 3)
         return;
     for (const char* reden : {"voor eerste wijziging", "voor koppelen", "voor import"}) {
-        if (!MaakReservezip(anders.schijf, anders.mappen, reden))
+        if (!MaakReservezip(administratie.schijf, administratie.mappen, reden))
             return;
     }
     spelers.tabel.ZetCel(1, Kolom::Telef, "06-00000999");
@@ -113,12 +112,13 @@ void NeemTerugzetten(const Bezoek& bezoek, QWidget& hoofdvenster,
     spelers.tabel.VerwijderRijen(std::vector{2});
     static_cast<void>(
         VoegSpelerToe(spelers, "Gr01-", Rijvelden{"", "", "", "Roos", "van", "Nieuwland"}));
-    frmTerugzetten venster(anders, &hoofdvenster);
+    frmTerugzetten venster(administratie, &hoofdvenster);
     if (auto* lijst = venster.findChild<QTreeWidget*>(u"lstVerschillen"_s)) {
         lijst->expandAll();
         lijst->topLevelItem(0)->setCheckState(0, Qt::Checked);
     }
     bezoek(venster);
+    spelers = zoalsHetWas;
 }
 
 /// The sample exports, where the suite has them.

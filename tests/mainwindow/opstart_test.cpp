@@ -103,7 +103,7 @@ TEST_F(Opstartproef, MaaktOntbrekendeBestandenTotOpDeByte)
     EXPECT_EQ(KaleGroepen(), Groepen());
     EXPECT_EQ("HKEY=100000\r\n", Spelers());
     EXPECT_EQ("OPTIND=0\r\nLOSTGR=0\r\n", Plexo());
-    EXPECT_EQ(4U, geheugen.AlleBestanden().size());
+    EXPECT_EQ(5U, geheugen.AlleBestanden().size()) << "met Mappen.ini en wie er aanwezig is";
     EXPECT_EQ(100000, administratie.spelers.HKEY);
 }
 

@@ -42,6 +42,19 @@ TEST_F(ExemplaarslotTest, WieStoptGeeftHetTerug)
         EXPECT_TRUE(Exemplaarslot(Bestand()).Neem()) << keer;
 }
 
+TEST_F(ExemplaarslotTest, WieNietMagRoeptDeEerste)
+{
+    Exemplaarslot eerste(Bestand());
+    ASSERT_TRUE(eerste.Neem());
+    EXPECT_FALSE(eerste.IsGeroepen());
+    const Exemplaarslot tweede(Bestand());
+    tweede.Roep();
+    EXPECT_TRUE(eerste.IsGeroepen());
+    EXPECT_FALSE(eerste.IsGeroepen()) << "een keer";
+    eerste.Roep();
+    EXPECT_FALSE(eerste.IsGeroepen()) << "zichzelf niet";
+}
+
 TEST_F(ExemplaarslotTest, EenMapOpZijnPlaatsHoudtNiemandTegen)
 {
     std::filesystem::create_directory(Bestand());
