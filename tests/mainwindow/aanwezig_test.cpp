@@ -84,7 +84,7 @@ TEST_F(AanwezigTest, WieAlleenKijktKanNietsWijzigen)
     wachter.Informatie(kijkt);
     Toets(Qt::Key_Delete);
     wachter.Informatie(kijkt);
-    Toets(Qt::Key_N, Qt::ControlModifier);
+    DrukMetCtrl(Qt::Key_N);
     wachter.Klaar();
     EXPECT_EQ(spelers, suite.Spelers());
     EXPECT_EQ(instellingen, suite.Instellingen());

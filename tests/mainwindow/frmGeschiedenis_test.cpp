@@ -20,14 +20,6 @@ class GeschiedenisTest : public HoofdvensterTest {
     }
     void Terug() { DrukMetCtrl(Qt::Key_Z); }
     void Vooruit() { DrukMetCtrl(Qt::Key_Y); }
-    /// Keys work in the active window only, which nobody makes it here when a box has gone.
-    void DrukMetCtrl(Qt::Key toets)
-    {
-        venster->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
-        Toets(toets, Qt::ControlModifier);
-        wachter.Klaar();
-    }
     /// What it would undo, as the menu says it.
     [[nodiscard]] std::string Menutekst(const char* actie) const
     {
