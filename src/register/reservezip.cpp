@@ -89,6 +89,16 @@ std::optional<int> Telling(Schijf& schijf, const Pad& pad, const Kopienaam& kopi
     return Geheel32(toelichting->substr(telling.size()));
 }
 
+/// Failures do no harm.
+void DunUit(Schijf& schijf, const Pad& map)
+{
+    const auto namen = schijf.Bestanden(map);
+    if (!namen)
+        return;
+    for (const Tekst& naam : Uitgediend(*namen, Tijdtekst("yyyy-MM-dd")))
+        static_cast<void>(schijf.Verwijder(Samen(map, naam)));
+}
+
 } // namespace
 
 Uitkomst<Pad> MaakReservezip(Schijf& schijf, const Mappen& mappen, Tekstblik reden)
@@ -142,15 +152,6 @@ Uitkomst<std::vector<Zipdeel>> LeesReserve(Schijf& schijf, const Mappen& mappen,
             fout.bestand = schijf.Toonpad(pad);
             return fout;
         });
-}
-
-void DunUit(Schijf& schijf, const Pad& map)
-{
-    const auto namen = schijf.Bestanden(map);
-    if (!namen)
-        return;
-    for (const Tekst& naam : Uitgediend(*namen, Tijdtekst("yyyy-MM-dd")))
-        static_cast<void>(schijf.Verwijder(Samen(map, naam)));
 }
 
 } // namespace plexoran

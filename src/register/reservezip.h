@@ -32,7 +32,4 @@ struct Reserve {
 [[nodiscard]] Uitkomst<std::vector<Zipdeel>> LeesReserve(Schijf& schijf, const Mappen& mappen,
                                                          const Kopienaam& kopie);
 
-/// Removes what has had its time from a folder with backups. Failures do no harm.
-void DunUit(Schijf& schijf, const Pad& map);
-
 } // namespace plexoran

@@ -41,7 +41,6 @@ bool Breng(Schijf& schijf, const Pad& van, const Pad& naar)
         static_cast<void>(schijf.Verwijder(doel));
         return false;
     }
-    DunUit(schijf, naar);
     return true;
 }
 

@@ -18,7 +18,8 @@ struct Tweedeplaats {
                                                 const Tweedeplaats& plaats);
 
 /// Brings the newest backup to the second place, read back there, unless it is there already. When
-/// the place is away or full nothing happens, but that the days are counted on.
+/// the place is away or full nothing happens, but that the days are counted on. Nothing is removed
+/// there: it may hold what the user or another club put there.
 void WerkTweedeplaatsBij(Schijf& schijf, const Mappen& mappen, const Pad& ini);
 
 /// How many days ago the newest backup was there last, when that is two weeks or more; else, and
