@@ -223,7 +223,8 @@ void frmTerugzetten::ToonKnoppen()
 void frmTerugzetten::KiesAlle()
 {
     {
-        const QSignalBlocker stil(lstVerschillen);
+        const QSignalBlocker stil(
+            lstVerschillen->model()); // the view looks up each line it is told of
         for (int i = 0; i < lstVerschillen->topLevelItemCount(); ++i)
             lstVerschillen->topLevelItem(i)->setCheckState(0, Qt::Checked);
     }

@@ -184,6 +184,21 @@ TEST_F(frmTerugzettenTest, ZonderReservekopieOfZonderMap)
     EXPECT_EQ(venster->result(), QDialog::Rejected);
 }
 
+TEST_F(frmTerugzettenTest, EenGrootRegisterKomtInEensTerug)
+{
+    constexpr int spelers = 100'000;
+    Tekst groot = "HKEY=200000\r\n";
+    for (int i = 1; i <= spelers; ++i)
+        groot += std::to_string(i) + "," + std::to_string(100'000 + i) +
+                 ",Gr01-,An,,Bos,,,,,,,V,,,,,\r\n";
+    ZetReserve("2026-11-21 142233 voor import.zip", {{"RVDspelers.txt", groot}});
+    geheugen.Zet("C:\\club\\Spelers\\RVDspelers.txt", "HKEY=100000\r\n");
+    (void)LeesSpelers(schijf, administratie.mappen, administratie.spelers);
+    ToonHetVenster();
+    Klik(Knop("cmdAlles"));
+    EXPECT_EQ(venster->Hersteld().tabel.Rijen(), spelers);
+}
+
 TEST_F(frmTerugzettenTest, DeTweedePlaats)
 {
     ZetGewone();
