@@ -92,6 +92,7 @@ bool BiedReservesAan(Administratie& administratie, QWidget* venster)
             "niets voordat u daarin op Terugzetten drukt."_s,
             {u"Reservekopieën bekijken"_s, u"Zo verdergaan"_s}) != 0)
         return false;
+    const Noteer noteer(administratie.geschiedenis, "Reservekopie teruggezet");
     Reservewacht reserve(administratie, venster);
     const bool hersteld = ZetReserveTerug(administratie, reserve, venster);
     administratie.groepen = LeesGroepen(administratie.schijf, administratie.mappen);
