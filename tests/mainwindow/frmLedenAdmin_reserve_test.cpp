@@ -147,6 +147,29 @@ TEST_F(Reserveproef, TerugzettenIsEenWijzigingDieWordtOpgeslagen)
     EXPECT_EQ(suite.Spelers(), nieuw);
 }
 
+TEST_F(Reserveproef, TerugzettenIsInEensOngedaanTeMaken)
+{
+    VoegToe(u"Een"_s);
+    VoegToe(u"Twee"_s);
+    const std::string nieuw = suite.Spelers();
+    wachter.Bedien([](QDialog& namen) {
+        Schrijf(namen, "txt1_11", u"Nieuw"_s);
+        Druk(namen, "cmdOK");
+    });
+    Opdracht("cmdMaakGrNamen");
+    const std::string groepen = suite.Groepen();
+    Terugzetten([](QDialog& dialoog) {
+        Vind<QCheckBox>(dialoog, "chkOokGroepen")->click();
+        AllesTerug(dialoog);
+    });
+    EXPECT_NE(suite.Spelers(), nieuw);
+    EXPECT_NE(suite.Groepen(), groepen);
+    venster->findChild<QAction*>(u"actOngedaan"_s)->trigger();
+    wachter.Klaar();
+    EXPECT_EQ(suite.Spelers(), nieuw);
+    EXPECT_EQ(suite.Groepen(), groepen);
+}
+
 TEST_F(Reserveproef, ZonderKeuzeVerandertErNiets)
 {
     VoegToe(u"Een"_s);
@@ -210,6 +233,41 @@ TEST_F(Reserveproef, GroepsnamenDieNietTerugKunnenWordenGemeld)
     EXPECT_EQ(suite.Groepen(), nieuw);
 }
 
+TEST_F(Reserveproef, BijElkeStapVanTerugzettenDieMisluktKomenDeSpelersTerug)
+{
+    const std::string groepen = suite.Groepen();
+    const std::size_t regels = RegelsVan(suite.Spelers()).size();
+    int gemeld = 0;
+    for (int stap = 1; stap <= 40; ++stap) {
+        SCOPED_TRACE(stap);
+        suite.Verwijder("Spelers/Reservekopie");
+        ASSERT_TRUE(MaakReservezip(echteSchijf, administratie.mappen, "voor import"));
+        VoegToe(u"Een"_s);
+        const std::string anders = RegelsVan(groepen).at(0) + " en meer\r\n";
+        suite.Zet("Spelers/RVDGroepen.txt", anders);
+        wachter.LaatBeslissen([&](const QMessageBox& bericht) {
+            ++gemeld;
+            const bool opslag = bericht.text().startsWith(u"De spelers konden niet"_s);
+            return opslag ? u"Opnieuw proberen"_s : u"OK"_s;
+        });
+        Terugzetten([&](QDialog& dialoog) {
+            auto* lijst = Vind<QTreeWidget>(dialoog, "lstReserves");
+            lijst->setCurrentItem(lijst->topLevelItem(lijst->topLevelItemCount() - 1));
+            Vind<QCheckBox>(dialoog, "chkOokGroepen")->click();
+            Druk(dialoog, "cmdAlles");
+            schijf.FaalBij(stap);
+            Druk(dialoog, "cmdTerugzetten");
+        });
+        schijf.FaalNiet();
+        EXPECT_EQ(RegelsVan(suite.Spelers()).size(), regels);
+        EXPECT_TRUE(suite.Groepen() == groepen || suite.Groepen() == anders) << suite.Groepen();
+        EXPECT_FALSE(venster->isWindowModified());
+        suite.Zet("Spelers/RVDGroepen.txt", groepen);
+        wachter.LaatBeslissen({});
+    }
+    EXPECT_GE(gemeld, 10);
+}
+
 TEST_F(Reserveproef, EenMislukteReserveHoudtNietsOpEnWordtEenKeerGemeld)
 {
     schijf.Vooraf([](const Pad& pad) { return pad.find(".zip") == Pad::npos; });
@@ -227,7 +285,7 @@ TEST_F(Reserveproef, EenMislukteReserveHoudtNietsOpEnWordtEenKeerGemeld)
 
 TEST_F(Reserveproef, BijElkeStapDieMisluktWordtErOpgeslagen)
 {
-    for (int stap = 1; stap <= 14; ++stap) {
+    for (int stap = 1; stap <= 30; ++stap) {
         SCOPED_TRACE(stap);
         Herstart();
         const std::size_t regels = RegelsVan(suite.Spelers()).size();
