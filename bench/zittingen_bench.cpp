@@ -1,11 +1,14 @@
-// Finding the floating players of a competition beside reading the same files, and linking one who
-// is in all of its sessions beside writing and syncing the changed files, measured in the same run.
+// Finding the floating players of a competition, and checking a suite that holds it, beside reading
+// the same files; and linking one who is in all of its sessions beside writing and syncing the
+// changed files, measured in the same run.
 #include <array>
 #include <fstream>
 #include <memory>
 #include <string>
 
+#include "controle/controle.h"
 #include "hulp/meten.h"
+#include "hulp/register.h"
 #include "platform/schijf/echteSchijf.h"
 #include "platform/schijf/systeempad.h"
 #include "sessions/koppelen.h"
@@ -15,6 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr int Spelers = 1'000;
 constexpr int Paren = 40;
 constexpr int ZittingenPerRonde = 20;
 constexpr Tekstblik Zwever = "Ellen Ravenzwaay";
@@ -49,13 +53,15 @@ Lijsten MaakLijsten(int nummer)
 /// A competition on the disk, in the page cache.
 class Competitie {
   public:
-    explicit Competitie(int aantal) : suite_("")
+    explicit Competitie(int aantal)
+        : suite_(MaakRegister(Spelers, Verdeling::AlleGroepen)), mappen_(suite_.Instellingen())
     {
-        mappen_.COMMAP = suite_.Instellingen().SPEMAP;
+        mappen_.COMMAP = mappen_.SPEMAP;
         for (int i = 0; i < aantal; ++i)
             zittingen_.push_back(Competitiezitting(mappen_, "Ladder", i / ZittingenPerRonde + 1,
                                                    i % ZittingenPerRonde + 1));
         ZetTerug();
+        Zet(Samen(Samen(mappen_.COMMAP, "Ladder"), "Compdata.txt"), {});
     }
 
     /// Every file as it was before anything was linked.
@@ -74,6 +80,8 @@ class Competitie {
     {
         return ZoekZwevenden(schijf, ZittingenVan(schijf, mappen_, "Ladder").value());
     }
+    [[nodiscard]] Controleuitslag Controleer() { return ControleerSuite(schijf, mappen_); }
+    [[nodiscard]] fs::path Map() const { return Systeempad(mappen_.COMMAP); }
     [[nodiscard]] std::vector<fs::path> Bestanden() const
     {
         std::vector<fs::path> uit;
@@ -149,6 +157,39 @@ void ZoekenGrens(benchmark::State& meting)
     });
 }
 BENCHMARK(ZoekenGrens)->Apply(Zittingaantallen);
+
+// ---------------------------------------------------------------- checking
+
+/// Of two players a session has the name only, the same in both files.
+void Controleren(benchmark::State& meting)
+{
+    Competitie& competitie = CompetitieVan(meting);
+    competitie.ZetTerug();
+    const auto verwacht = static_cast<std::size_t>(Grootte(meting)) * 2;
+    Meet(
+        meting, [] { return Controleuitslag(); },
+        [&](Controleuitslag& uitslag) {
+            uitslag = competitie.Controleer();
+            Eis(meting, uitslag.vondsten.size() == verwacht);
+        });
+}
+BENCHMARK(Controleren)->Apply(Zittingaantallen);
+
+/// As nobody gave it the names of the files, it looks into the folders for them.
+void ControlerenGrens(benchmark::State& meting)
+{
+    Competitie& competitie = CompetitieVan(meting);
+    std::unique_ptr<char[]> buffer;
+    Meet(meting, [&] {
+        std::int64_t geteld = 0;
+        for (const auto& plek : fs::recursive_directory_iterator(competitie.Map())) {
+            if (plek.is_regular_file())
+                geteld += LeesEnTel(plek.path(), buffer);
+        }
+        Eis(meting, geteld > 0);
+    });
+}
+BENCHMARK(ControlerenGrens)->Apply(Zittingaantallen);
 
 // ---------------------------------------------------------------- linking
 

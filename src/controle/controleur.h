@@ -42,10 +42,7 @@ class Controleur {
     void BekijkSleutel(int rij);
     void BekijkNBBnr(int rij);
     /// The first row with this key, `ZonderRij`, or 0 when nobody has it.
-    [[nodiscard]] int& RijVan(std::int32_t sleutel)
-    {
-        return rijVan_[static_cast<std::size_t>(sleutel)];
-    }
+    [[nodiscard]] int& RijVan(std::int32_t sleutel);
     [[nodiscard]] int RijVan(Tekstblik key);
 
     // Pairs and sessions (controleur_lijsten.cpp)
@@ -59,8 +56,7 @@ class Controleur {
     [[nodiscard]] std::vector<Tafelnaam> LeesLijstVan(const Pad& pad, Lijstsoort soort);
     void MeldHelft(const Sessie& sessie, const Tafelnaam& wie);
 
-    static constexpr std::size_t Sleutels = 1'000'000; ///< that six digits can make
-    static constexpr int ZonderRij = -1;               ///< of a player whose line is left out
+    static constexpr int ZonderRij = -1; ///< of a player whose line is left out
 
     Schijf& schijf_;
     const Mappen& mappen_;
@@ -68,7 +64,7 @@ class Controleur {
     Controleuitslag uit_;
     Spelertabel tabel_;
     bool kentSpelers_ = false; ///< all of them, so that a key that is not found is nobody's
-    std::vector<int> rijVan_ = std::vector<int>(Sleutels);
+    std::vector<int> rijVan_;  ///< by the number of the key, as far as one was asked for
     std::unordered_map<Tekst, int> rijMetNBBnr_; ///< in the import group
 };
 

@@ -1,5 +1,5 @@
 // The pairs and the sessions: who stands in them that the register does not know.
-#include <unordered_set>
+#include <set>
 
 #include "controle/controleur.h"
 #include "pairs/paarregel.h"
@@ -100,17 +100,22 @@ std::vector<Controleur::Sessie> Controleur::ZoekSessies()
 /// Of both files; what stands in either or both is one finding.
 void Controleur::LeesSessie(const Sessie& sessie)
 {
-    std::unordered_map<Tekst, std::size_t> vondsten; // places in the list, by key or name
-    std::unordered_set<Tekst> gezien;                // of each the positions
+    struct Gemeld {
+        std::size_t vondst;
+        std::set<Tekst> plaatsen; ///< by their keys
+    };
+    std::unordered_map<Tekst, Gemeld> gemeld; // by key or name
     for (const Lijstsoort soort : {Lijstsoort::Spelers, Lijstsoort::Percentages}) {
         for (const Tafelnaam& wie : LeesLijstVan(sessie.zitting.Bestand(soort), soort)) {
-            if (!gezien.insert(wie.naam + '\n' + Tafelsleutel(wie.code)).second)
+            const auto [plek, nieuw] =
+                gemeld.try_emplace(wie.naam, Gemeld{uit_.vondsten.size(), {}});
+            auto& [vondst, plaatsen] = plek->second;
+            if (!plaatsen.insert(Tafelsleutel(wie.code)).second)
                 continue;
-            const auto [plek, nieuw] = vondsten.emplace(wie.naam, uit_.vondsten.size());
             if (nieuw)
                 MeldHelft(sessie, wie);
             else
-                uit_.vondsten[plek->second].plek->plaatsen.append(", ").append(wie.code);
+                uit_.vondsten[vondst].plek->plaatsen.append(", ").append(wie.code);
         }
     }
 }

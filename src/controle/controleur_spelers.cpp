@@ -12,11 +12,14 @@ namespace plexoran {
 std::optional<std::int32_t> Sleutelgetal(Tekstblik key)
 {
     constexpr std::size_t lengte = 6;
-    if (key.size() != lengte || !std::ranges::all_of(key, IsCijfer))
+    if (key.size() != lengte)
         return std::nullopt;
     std::int32_t getal = 0;
-    for (const char cijfer : key)
-        getal = 10 * getal + (cijfer - '0');
+    for (const char teken : key) {
+        if (!IsCijfer(teken))
+            return std::nullopt;
+        getal = 10 * getal + (teken - '0');
+    }
     return getal;
 }
 
@@ -140,6 +143,14 @@ void Controleur::BekijkNBBnr(int rij)
         rijMetNBBnr_.emplace(AlsGetal(cel, cijfers).value_or(Tekst(cel)), rij);
     if (!nieuw)
         Speler(Vondstsoort::DubbelNBBnr, rij, Tekst(cel), Wie(eerste->second));
+}
+
+int& Controleur::RijVan(std::int32_t sleutel)
+{
+    const auto plek = static_cast<std::size_t>(sleutel);
+    if (plek >= rijVan_.size())
+        rijVan_.resize(plek + 1);
+    return rijVan_[plek];
 }
 
 int Controleur::RijVan(Tekstblik key)

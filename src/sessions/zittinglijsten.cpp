@@ -13,11 +13,26 @@ constexpr std::size_t AantalVelden = 7;
 constexpr std::size_t Codeveld = 2;
 constexpr std::size_t Paarveld = 3;
 
-/// The fields of a record; nothing for a line that is none.
-std::optional<std::vector<Item>> RecordUit(Tekstblik regel)
+/// The fields of a record that tell of players.
+struct Record {
+    Item code;
+    Item paar;
+};
+
+/// Nothing for a line that is none.
+std::optional<Record> RecordUit(Tekstblik regel)
 {
-    auto velden = ItemsVan(regel, AantalVelden + 1);
-    return velden.size() == AantalVelden ? std::optional(std::move(velden)) : std::nullopt;
+    Record uit;
+    std::size_t veld = 0;
+    Itemlezer items(regel);
+    for (auto item = items.Volgend(); item && veld <= AantalVelden; item = items.Volgend()) {
+        if (veld == Codeveld)
+            uit.code = *item;
+        else if (veld == Paarveld)
+            uit.paar = *item;
+        ++veld;
+    }
+    return veld == AantalVelden ? std::optional(uit) : std::nullopt;
 }
 
 void VoegHelftenToe(std::vector<Tafelnaam>& uit, Tekstblik code, Tekstblik spelers,
@@ -72,11 +87,11 @@ std::optional<Tekst> NieuweSpelersregel(Tekstblik regel, Tekstblik einde, const 
 /// The record with the pair replaced and all else, quotes included, as it was.
 std::optional<Tekst> NieuweRecordregel(Tekstblik regel, const Vervanger& vervang)
 {
-    const auto velden = RecordUit(regel);
-    if (!velden)
+    const auto record = RecordUit(regel);
+    if (!record)
         return std::nullopt;
-    const Item& paar = (*velden)[Paarveld];
-    const auto nieuw = vervang((*velden)[Codeveld].tekst, paar.tekst);
+    const Item& paar = record->paar;
+    const auto nieuw = vervang(record->code.tekst, paar.tekst);
     if (!nieuw)
         return std::nullopt;
     const auto begin = static_cast<std::size_t>(paar.rauw.data() - regel.data());
@@ -117,7 +132,7 @@ Tekst Tafelsleutel(Tekstblik code)
 
 bool IsZwevend(Tekstblik helft)
 {
-    return !helft.empty() && !AlsGetal(helft, 1);
+    return !std::ranges::all_of(helft, IsCijfer);
 }
 
 Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort, const Helftkeus& keus)
@@ -132,8 +147,8 @@ Lijstlezing LeesLijst(Tekstblik inhoud, Lijstsoort soort, const Helftkeus& keus)
                 if (const auto paar = PaarUit(item->tekst))
                     VoegHelftenToe(uit.zwevend, paar->code, paar->spelers, keus);
             }
-        } else if (const auto velden = RecordUit(regel)) {
-            VoegHelftenToe(uit.zwevend, (*velden)[Codeveld].tekst, (*velden)[Paarveld].tekst, keus);
+        } else if (const auto record = RecordUit(regel)) {
+            VoegHelftenToe(uit.zwevend, record->code.tekst, record->paar.tekst, keus);
         } else {
             ++uit.overgeslagen;
         }

@@ -1,5 +1,6 @@
 #include "platform/schijf/echteSchijf.h"
 
+#include <limits>
 #include <new>
 #include <stdexcept>
 #include <utility>
@@ -39,8 +40,10 @@ Uitkomst<std::vector<Tekst>> Namen(const Pad& map, fs::file_type soort,
     std::error_code fout;
     for (fs::directory_iterator plek(waar, fout); !fout && plek != fs::directory_iterator();
          plek.increment(fout)) {
-        std::error_code nietTeZien; // as a link that leads nowhere
-        if (plek->status(nietTeZien).type() != soort)
+        // What the folder itself tells, and only for a link another look; it may lead nowhere.
+        std::error_code nietTeZien;
+        if (soort == fs::file_type::directory ? !plek->is_directory(nietTeZien)
+                                              : !plek->is_regular_file(nietTeZien))
             continue;
         auto naam = NaamVan(plek->path().filename());
         if (naam && IsKaleNaam(*naam))
@@ -53,19 +56,22 @@ Uitkomst<std::vector<Tekst>> Namen(const Pad& map, fs::file_type soort,
     return namen;
 }
 
-std::error_code LeesAlles(const fs::path& waar, Tekst& naar)
+/// A file of more than `grootste` bytes is `value_too_large`.
+std::error_code LeesAlles(const fs::path& waar, std::uint64_t grootste, Tekst& naar)
 try {
     // Asked first: the opening of a pipe would hold us until someone writes to it.
-    if (const auto fout = systeem::GewoonBestand(waar))
+    Stempel stempel;
+    if (const auto fout = systeem::NeemStempel(waar, stempel))
         return fout;
+    if (stempel.grootte > grootste)
+        return std::make_error_code(std::errc::value_too_large);
     const systeem::Greep greep(systeem::Open(waar, false));
-    if (!greep)
+    // Without a buffer: what is read goes straight into ours.
+    if (!greep || std::setvbuf(greep.get(), nullptr, _IONBF, 0) != 0)
         return systeem::Laatste();
     // One byte more, so that the end shows without growing; the size is a guess, for the file may
     // change and some systems do not tell it.
-    std::error_code onbekend;
-    const auto grootte = fs::file_size(waar, onbekend);
-    naar.resize(onbekend ? 1 : grootte + 1);
+    naar.resize(stempel.grootte + 1);
     std::size_t gelezen = 0;
     for (;;) {
         gelezen += std::fread(naar.data() + gelezen, 1, naar.size() - gelezen, greep.get());
@@ -120,7 +126,19 @@ Uitkomst<Tekst> EchteSchijf::LeesBestand(const Pad& pad)
 {
     const fs::path waar = Systeempad(pad);
     Tekst inhoud;
-    if (const auto fout = LeesAlles(waar, inhoud))
+    if (const auto fout = LeesAlles(waar, std::numeric_limits<std::uint64_t>::max(), inhoud))
+        return Mislukt(waar, fout);
+    return inhoud;
+}
+
+Uitkomst<Tekst> EchteSchijf::LeesBegrensd(const Pad& pad)
+{
+    const fs::path waar = Systeempad(pad);
+    Tekst inhoud;
+    const auto fout = LeesAlles(waar, GrootsteBestand, inhoud);
+    if (fout == std::errc::value_too_large)
+        return plexoran::Mislukt(TeGroot(Leesbaar(waar)));
+    if (fout)
         return Mislukt(waar, fout);
     return inhoud;
 }

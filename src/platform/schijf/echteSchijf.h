@@ -13,6 +13,7 @@ class EchteSchijf : public Schijf {
     [[nodiscard]] Uitkomst<Padsoort> Soort(const Pad& pad) override;
     /// Refused for what is not a regular file; a pipe or device is not waited for.
     [[nodiscard]] Uitkomst<Tekst> LeesBestand(const Pad& pad) override;
+    [[nodiscard]] Uitkomst<Tekst> LeesBegrensd(const Pad& pad) override;
     [[nodiscard]] Uitkomst<Stempel> NeemStempel(const Pad& pad) override;
     /// Regular files and links to them.
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) override;

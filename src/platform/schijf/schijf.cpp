@@ -203,17 +203,21 @@ Tekst AlsBestandsnaam(Tekst tekst)
     return tekst;
 }
 
-Uitkomst<Tekst> LeesBegrensd(Schijf& schijf, const Pad& pad)
+Fout TeGroot(std::string bestand)
 {
-    constexpr std::uint64_t grootste = std::uint64_t{64} << 20U;
-    const auto stempel = schijf.NeemStempel(pad);
+    return {.soort = Foutsoort::Beschadigd,
+            .bestand = std::move(bestand),
+            .systeem = "het bestand is te groot: meer dan 64 MB"};
+}
+
+Uitkomst<Tekst> Schijf::LeesBegrensd(const Pad& pad)
+{
+    const auto stempel = NeemStempel(pad);
     if (!stempel)
         return Mislukt(stempel);
-    if (stempel->grootte > grootste)
-        return Mislukt({.soort = Foutsoort::Beschadigd,
-                        .bestand = schijf.Toonpad(pad),
-                        .systeem = "het bestand is te groot: meer dan 64 MB"});
-    return schijf.LeesBestand(pad);
+    if (stempel->grootte > GrootsteBestand)
+        return Mislukt(TeGroot(Toonpad(pad)));
+    return LeesBestand(pad);
 }
 
 Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad)

@@ -66,6 +66,10 @@ class Getuige {
     virtual void VoorVervanging(const Pad& pad, std::optional<Tekstblik> nieuw) = 0;
 };
 
+/// A larger file is none of the suite's.
+inline constexpr std::uint64_t GrootsteBestand = std::uint64_t{64} << 20U;
+[[nodiscard]] Fout TeGroot(std::string bestand);
+
 class Schijf {
   public:
     virtual ~Schijf() = default;
@@ -77,6 +81,9 @@ class Schijf {
     /// What stands at the path. A path that cannot be looked at is an error, not `Niets`.
     [[nodiscard]] virtual Uitkomst<Padsoort> Soort(const Pad& pad) = 0;
     [[nodiscard]] virtual Uitkomst<Tekst> LeesBestand(const Pad& pad) = 0;
+    /// The same, but a file that is too large is refused as `Beschadigd` before it fills the
+    /// memory.
+    [[nodiscard]] virtual Uitkomst<Tekst> LeesBegrensd(const Pad& pad);
     [[nodiscard]] virtual Uitkomst<Stempel> NeemStempel(const Pad& pad) = 0;
     /// The names of the files in a folder, without their path, in no order. Only names that can
     /// stand in a path of the suite.
@@ -111,9 +118,10 @@ class Schijf {
     Getuige* getuige_ = nullptr;
 };
 
-/// Reads a file of at most 64 MB. A larger one is none of the suite's and is refused as
-/// `Beschadigd`, before it fills the memory.
-[[nodiscard]] Uitkomst<Tekst> LeesBegrensd(Schijf& schijf, const Pad& pad);
+[[nodiscard]] inline Uitkomst<Tekst> LeesBegrensd(Schijf& schijf, const Pad& pad)
+{
+    return schijf.LeesBegrensd(pad);
+}
 
 /// The same, or nothing where there is no file of that name.
 [[nodiscard]] Uitkomst<std::optional<Tekst>> LeesAlsErIs(Schijf& schijf, const Pad& pad);
