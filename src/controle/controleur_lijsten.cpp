@@ -79,14 +79,15 @@ void Controleur::LeesSessies()
 std::vector<Controleur::Sessie> Controleur::ZoekSessies()
 {
     std::vector<Sessie> sessies;
+    std::vector<Fout> geweigerd;
     const auto namen = [&](const auto& mappen) {
         if (!mappen)
             Onleesbaar(mappen.error());
         return mappen.value_or(std::vector<Sessiemap>());
     };
-    for (const Sessiemap& map : namen(LeesZittingen(schijf_, mappen_)))
+    for (const Sessiemap& map : namen(LeesZittingen(schijf_, mappen_, &geweigerd)))
         sessies.push_back({map.naam, LosseZitting(mappen_, map.naam)});
-    for (const Sessiemap& map : namen(LeesCompetities(schijf_, mappen_))) {
+    for (const Sessiemap& map : namen(LeesCompetities(schijf_, mappen_, &geweigerd))) {
         const auto zittingen = ZittingenVan(schijf_, mappen_, map.naam);
         if (!zittingen)
             Onleesbaar(zittingen.error());
@@ -94,6 +95,8 @@ std::vector<Controleur::Sessie> Controleur::ZoekSessies()
             for (const Zitting& zitting : *zittingen)
                 sessies.push_back({map.naam, zitting});
     }
+    for (const Fout& fout : geweigerd)
+        Onleesbaar(fout);
     return sessies;
 }
 

@@ -125,6 +125,9 @@ frmControle::frmControle(Administratie& administratie, QWidget* ouder)
         uitslag_ =
             ControleerSuite(administratie.schijf, administratie.mappen, voortgang.AlsVoortgang());
     }
+    for (const Pad& map : {administratie.mappen.Parenmap(), administratie.mappen.ZITMAP,
+                           administratie.mappen.COMMAP})
+        MeldOvergeslagen(ouder, administratie.schijf, map);
     Bouw();
     VulLijst();
 }

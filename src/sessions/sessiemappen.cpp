@@ -7,7 +7,8 @@
 namespace plexoran {
 namespace {
 
-Uitkomst<std::vector<Sessiemap>> LeesMappenMet(Schijf& schijf, const Pad& wortel, Tekstblik kenmerk)
+Uitkomst<std::vector<Sessiemap>> LeesMappenMet(Schijf& schijf, const Pad& wortel, Tekstblik kenmerk,
+                                               std::vector<Fout>* geweigerd)
 {
     std::vector<Sessiemap> uit;
     if (wortel.empty())
@@ -22,6 +23,8 @@ Uitkomst<std::vector<Sessiemap>> LeesMappenMet(Schijf& schijf, const Pad& wortel
         const auto stempel = schijf.NeemStempel(Samen(Samen(wortel, naam), kenmerk));
         if (stempel)
             uit.push_back({std::move(naam), stempel->tijd});
+        else if (geweigerd != nullptr && stempel.error().soort != Foutsoort::Ontbreekt)
+            geweigerd->push_back(stempel.error());
     }
     return uit;
 }
@@ -50,14 +53,16 @@ Pad Rondemap(const Mappen& mappen, Tekstblik competitie, int ronde)
 
 } // namespace
 
-Uitkomst<std::vector<Sessiemap>> LeesZittingen(Schijf& schijf, const Mappen& mappen)
+Uitkomst<std::vector<Sessiemap>> LeesZittingen(Schijf& schijf, const Mappen& mappen,
+                                               std::vector<Fout>* geweigerd)
 {
-    return LeesMappenMet(schijf, mappen.ZITMAP, "Zitdata.txt");
+    return LeesMappenMet(schijf, mappen.ZITMAP, "Zitdata.txt", geweigerd);
 }
 
-Uitkomst<std::vector<Sessiemap>> LeesCompetities(Schijf& schijf, const Mappen& mappen)
+Uitkomst<std::vector<Sessiemap>> LeesCompetities(Schijf& schijf, const Mappen& mappen,
+                                                 std::vector<Fout>* geweigerd)
 {
-    return LeesMappenMet(schijf, mappen.COMMAP, "Compdata.txt");
+    return LeesMappenMet(schijf, mappen.COMMAP, "Compdata.txt", geweigerd);
 }
 
 Tekst Zitting::Bestandsnaam(Lijstsoort soort) const

@@ -14,10 +14,12 @@ struct Sessiemap {
     std::int64_t tijd = 0; ///< of the last change of its data file, nanoseconds since 1970
 };
 
-/// In text order. A root folder that is missing or not named holds none.
-[[nodiscard]] Uitkomst<std::vector<Sessiemap>> LeesZittingen(Schijf& schijf, const Mappen& mappen);
-[[nodiscard]] Uitkomst<std::vector<Sessiemap>> LeesCompetities(Schijf& schijf,
-                                                               const Mappen& mappen);
+/// In text order. A root folder that is missing or not named holds none. Folders of which the disk
+/// does not say whether they are one are left out; what it says instead goes to `geweigerd`.
+[[nodiscard]] Uitkomst<std::vector<Sessiemap>>
+LeesZittingen(Schijf& schijf, const Mappen& mappen, std::vector<Fout>* geweigerd = nullptr);
+[[nodiscard]] Uitkomst<std::vector<Sessiemap>>
+LeesCompetities(Schijf& schijf, const Mappen& mappen, std::vector<Fout>* geweigerd = nullptr);
 
 /// One session, loose or of a competition.
 struct Zitting {

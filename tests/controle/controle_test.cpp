@@ -272,7 +272,7 @@ TEST_F(ControleTest, BestandenDieNietGelezenKunnenWorden)
     geheugen.Zet("C\\Ladder\\Compdata.txt", "");
     for (const char* pad :
          {"S\\RVDspelers.txt", "S\\RVDGroepen.txt", "S\\Parenmap", "S\\Parenmap\\Gr01-.txt", "Z",
-          "Z\\Een\\Spelers.txt", "Z\\Een\\PercZit.txt", "C", "C\\Ladder"}) {
+          "Z\\Een\\Zitdata.txt", "Z\\Een\\Spelers.txt", "Z\\Een\\PercZit.txt", "C", "C\\Ladder"}) {
         schijf.Vooraf([pad](const Pad& welk) { return welk != pad; });
         const Regels_t vondsten = Vondsten();
         ASSERT_FALSE(vondsten.empty()) << pad;

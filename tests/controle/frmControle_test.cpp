@@ -195,6 +195,19 @@ TEST_F(frmControleTest, DeControleKanWordenGestopt)
               Label("lblUitslag").find("\nDe controle is gestopt: de lijst is niet volledig."));
 }
 
+#ifndef _WIN32
+
+/// A name that no path of the suite can say is not read, so it is told.
+TEST_F(frmControleTest, EenMapDieNietGelezenKanWordenWordtGemeld)
+{
+    ZetZitting("Een\\Twee", "N01 Jan Tol - 100001\r\n");
+    wachter.Begin(u"Overgeslagen in de map hieronder: 1 naam"_s);
+    Open();
+    EXPECT_EQ("", Lijsttekst());
+}
+
+#endif
+
 TEST_F(frmControleTest, MetHetToetsenbordAlleen)
 {
     OpenMetVondsten();
