@@ -141,7 +141,8 @@ void frmControle::Bouw()
     lstVondsten = new QTreeWidget(this);
     Noem(lstVondsten, u"lstVondsten"_s, u"Wat aandacht vraagt"_s);
     lstVondsten->setHeaderLabels({u"Waar"_s, u"Wat"_s});
-    lstVondsten->header()->setSectionResizeMode(QHeaderView::Stretch);
+    const Maten maten;
+    lstVondsten->header()->resizeSection(0, maten.Twips(6700)); // the other one takes the rest
     lstVondsten->setTextElideMode(Qt::ElideMiddle);
     lstVondsten->setUniformRowHeights(true);
     txtRaad = MaakLeesvak(u"txtRaad"_s, u"Wat te doen"_s, QString(), this);
@@ -160,7 +161,6 @@ void frmControle::Bouw()
                  txtRaad,
                  Naastelkaar({cmdHerstel, {Knoppenrij({cmdPrint, cmdOpslaan, cmdEinde}), 1}})},
                 this);
-    const Maten maten;
     PasInScherm(this, maten.Twips(12600, 8400));
     lstVondsten->setFocus();
 }

@@ -11,6 +11,8 @@ class ControleopdrachtTest : public HoofdvensterTest {
     /// By the keys of the menu.
     void Controleer(std::function<void(QDialog&)> stappen)
     {
+        venster->activateWindow(); // no window manager does that here
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
         wachter.Bedien(std::move(stappen));
         QTest::keyClick(venster.get(), Qt::Key_X, Qt::AltModifier);
         auto* menu = Vind<QMenu>(*venster, "mnuExtra");
