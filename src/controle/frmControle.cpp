@@ -232,7 +232,7 @@ QString frmControle::Samenvatting() const
                         ? u"Er is niets gevonden dat aandacht vraagt."_s
                         : Aantal(aantal, u"punt"_s, u"punten"_s) +
                               (aantal == 1 ? u" vraagt aandacht."_s : u" vragen aandacht."_s);
-    tekst += u" Gecontroleerd: %1 in %2, %3 en %4; samen %5."_s.arg(
+    tekst += u"\nGecontroleerd: %1 in %2, %3 en %4; samen %5."_s.arg(
         Aantal(telling.spelers, u"speler"_s, u"spelers"_s),
         Aantal(telling.groepen, u"groep"_s, u"groepen"_s),
         Aantal(telling.parenbestanden, u"parenbestand"_s, u"parenbestanden"_s),

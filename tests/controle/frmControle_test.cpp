@@ -92,7 +92,7 @@ TEST_F(frmControleTest, NietsGevonden)
 {
     Open();
     VerwachtTeksten("Controle van de administratie",
-                    {{"lblUitslag", "Er is niets gevonden dat aandacht vraagt. Gecontroleerd: 2 "
+                    {{"lblUitslag", "Er is niets gevonden dat aandacht vraagt.\nGecontroleerd: 2 "
                                     "spelers in 2 groepen, 0 parenbestanden en 0 zittingen; samen "
                                     "1 bestand."}},
                     {{"cmdHerstel", "HKEY= verhogen"},
@@ -108,7 +108,7 @@ TEST_F(frmControleTest, NietsGevonden)
 TEST_F(frmControleTest, WatGevondenIsMetWaarEnWatTeDoen)
 {
     OpenMetVondsten();
-    EXPECT_EQ("3 punten vragen aandacht. " + geteld, Label("lblUitslag"));
+    EXPECT_EQ("3 punten vragen aandacht.\n" + geteld, Label("lblUitslag"));
     EXPECT_EQ(alles, Lijsttekst());
     EXPECT_TRUE(Raad().starts_with("Wat te doen: Zittingen en paren kunnen deze spelers niet"));
     QTest::keyClick(Lijst(), Qt::Key_Down);
@@ -128,7 +128,7 @@ TEST_F(frmControleTest, VerhogenEnWeerNiet)
     EXPECT_TRUE(venster->IetsGewijzigd());
     EXPECT_EQ(100007, administratie.spelers.HKEY);
     EXPECT_EQ("HKEY= niet verhogen", Opschrift(Knop("cmdHerstel")));
-    EXPECT_EQ("2 punten vragen aandacht. " + geteld +
+    EXPECT_EQ("2 punten vragen aandacht.\n" + geteld +
                   "\nHKEY= is verhoogd tot 100007. Dat wordt opgeslagen als u dit venster sluit.",
               Label("lblUitslag"));
     EXPECT_EQ(std::string::npos, Lijsttekst().find("HKEY"));
@@ -155,7 +155,7 @@ TEST_F(frmControleTest, DeLijstWordtOpgeslagen)
     Opdracht("cmdOpslaan");
     const std::string tekst = map.Inhoud("lijst.txt");
     EXPECT_TRUE(tekst.starts_with("Controle van de administratie, ")) << tekst;
-    EXPECT_NE(std::string::npos, tekst.find("\r\n\r\n3 punten vragen aandacht. " + geteld +
+    EXPECT_NE(std::string::npos, tekst.find("\r\n\r\n3 punten vragen aandacht.\r\n" + geteld +
                                             "\r\n\r\nSleutels die meer dan eens voorkomen (1)\r\n"
                                             "Wat te doen: Zittingen en paren kunnen"));
     EXPECT_NE(std::string::npos, tekst.find("\r\n - 100007 Bea Eik (Gr02-): ligt boven HKEY=\r\n"));
