@@ -28,7 +28,7 @@ QString Veld(const std::optional<Rijvelden>& velden, std::size_t kolom)
 /// The lines that only one of two texts has, in their order.
 void OpenRegels(QTreeWidgetItem* regel, const Wijziging& wijziging)
 {
-    VoegToe(regel, NaarQString(wijziging.plaats), wijziging.voor ? u""_s : u"(geen bestand)"_s,
+    VoegToe(regel, NaarQString(wijziging.Naam()), wijziging.voor ? u""_s : u"(geen bestand)"_s,
             wijziging.na ? u""_s : u"(geen bestand)"_s);
     const Tekst verschil =
         Regelverschil(wijziging.voor.value_or(Tekst()), wijziging.na.value_or(Tekst()), true);
@@ -70,7 +70,7 @@ frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai 
     PasInScherm(this, {maten.Twips(13500), maten.Twips(8400)});
     Vul();
     for (const auto& [kolom, twips] :
-         {std::pair(Wanneer, 2400), {Wat, 4800}, {Was, 1900}, {Werd, 1900}, {Wie, 1100}})
+         {std::pair(Wanneer, 2300), {Wat, 4100}, {Was, 2200}, {Werd, 2200}, {Wie, 1000}})
         lstHandelingen->setColumnWidth(kolom, maten.Twips(twips));
     lstHandelingen->setFocus();
 }

@@ -108,7 +108,7 @@ void frmLedenAdmin::DraaiBestand(const Wijziging& wijziging, Handelingsoort soor
     const auto gedaan =
         DraaiBestandTerug(administratie_.schijf, administratie_.mappen, wijziging, soort);
     if (!gedaan) {
-        rest << NaarQString(wijziging.plaats) + u'\n' + Bijzonderheden(gedaan.error());
+        rest << NaarQString(wijziging.Naam()) + u'\n' + Bijzonderheden(gedaan.error());
         return;
     }
     for (const Tekst& deel : *gedaan)

@@ -248,7 +248,7 @@ void frmLedenAdmin::HaalNBBnamen()
 
 void frmLedenAdmin::VoegSessiespelersToe()
 {
-    const Noteer noteer(administratie_.geschiedenis, "Spelers toegevoegd");
+    const Noteer noteer(administratie_.geschiedenis, "Spelerslijst opgehaald");
     diaToevoegen venster(administratie_, this);
     if (venster.exec() != QDialog::Accepted)
         return;

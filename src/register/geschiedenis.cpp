@@ -289,7 +289,7 @@ void Geschiedenis::VoorVervanging(const Pad& pad, std::optional<Tekstblik> nieuw
         return;
     const bool los = !bezig_;
     if (los)
-        Begin(*plaats + " gewijzigd", Handelingsoort::Gewoon, {});
+        Begin(Wijziging{*plaats, {}, {}}.Naam() + " gewijzigd", Handelingsoort::Gewoon, {});
     Tekst regels = begonnen_ ? Tekst() : Kop();
     regels += Kopregel("bestand", *plaats);
     if (!*oud)

@@ -20,6 +20,8 @@ struct Wijziging {
     std::optional<Tekst> na;
 
     [[nodiscard]] bool IsSpelerbestand() const { return plaats == "SPEMAP\\RVDspelers.txt"; }
+    /// For the eye: the path in its folder.
+    [[nodiscard]] Tekst Naam() const { return plaats.substr(plaats.find('\\') + 1); }
     [[nodiscard]] Pad PadIn(const Mappen& mappen) const;
 };
 

@@ -65,9 +65,9 @@ Uitkomst<std::vector<Tekst>> DraaiBestandTerug(Schijf& schijf, const Mappen& map
         return Mislukt(nu);
     auto menging = MengTekst(pad, van, naar, *nu);
     if (!menging)
-        return std::vector<Tekst>{wijziging.plaats};
+        return std::vector<Tekst>{wijziging.Naam()};
     for (Tekst& item : menging->botsingen)
-        item = wijziging.plaats + ": " + item;
+        item = wijziging.Naam() + ": " + item;
     Uitkomst<void> gedaan;
     if (menging->inhoud == *nu)
         return std::move(menging->botsingen);

@@ -89,7 +89,7 @@ void NeemVergelijking(const Bezoek& bezoek, QWidget& hoofdvenster, const Spelert
               u"Een ander programma heeft deze spelers intussen ook gewijzigd. "
               "Kies per speler wat in het spelerbestand komt. Waar u niets kiest, "
               "komt te staan wat het andere programma ervan maakte; zoals het hier "
-              "was, wordt het dan in een kopie bewaard."_s,
+              "was, komt het dan in een kopie."_s,
               u"Hier"_s, u"Ander programma"_s},
              {{"100001", tabel.Velden(1), anders}, {"100002", std::nullopt, tabel.Velden(2)}},
              &hoofdvenster));

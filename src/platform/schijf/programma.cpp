@@ -95,7 +95,7 @@ Tekst Gebruikersnaam()
 #ifdef _WIN32
     const QString naam = qEnvironmentVariable("USERNAME");
 #else
-    const QString naam = qEnvironmentVariable("USER");
+    const QString naam = qEnvironmentVariable("USER", QDir::home().dirName());
 #endif
     return Utf8NaarCodepagina(naam.toStdString()).tekst;
 }
