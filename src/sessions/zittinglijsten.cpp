@@ -1,6 +1,7 @@
 #include "sessions/zittinglijsten.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <unordered_map>
 
@@ -15,10 +16,17 @@ constexpr std::size_t Codeveld = 2;
 constexpr std::size_t Paarveld = 3;
 
 /// The fields of a record; nothing for a line that is none.
-std::optional<std::vector<Item>> RecordUit(Tekstblik regel)
+std::optional<std::array<Item, AantalVelden>> RecordUit(Tekstblik regel)
 {
-    auto velden = ItemsVan(regel, AantalVelden + 1);
-    return velden.size() == AantalVelden ? std::optional(std::move(velden)) : std::nullopt;
+    std::array<Item, AantalVelden> velden;
+    Itemlezer items(regel);
+    for (Item& veld : velden) {
+        const auto item = items.Volgend();
+        if (!item)
+            return std::nullopt;
+        veld = *item;
+    }
+    return items.Volgend() ? std::nullopt : std::optional(velden);
 }
 
 void VoegZwevendenToe(std::vector<Tafelnaam>& uit, Tekstblik code, Tekstblik spelers)
@@ -27,7 +35,7 @@ void VoegZwevendenToe(std::vector<Tafelnaam>& uit, Tekstblik code, Tekstblik spe
     if (!helften)
         return;
     for (const Tekstblik helft : {helften->eerste, helften->tweede}) {
-        if (!helft.empty() && !AlsGetal(helft, 1))
+        if (!std::ranges::all_of(helft, IsCijfer)) // which an empty one is too
             uit.push_back({Tekst(ZonderSpaties(code)), Tekst(helft)});
     }
 }

@@ -56,16 +56,15 @@ Uitkomst<std::vector<Tekst>> Namen(const Pad& map, fs::file_type soort,
 std::error_code LeesAlles(const fs::path& waar, Tekst& naar)
 try {
     // Asked first: the opening of a pipe would hold us until someone writes to it.
-    if (const auto fout = systeem::GewoonBestand(waar))
+    Stempel stempel;
+    if (const auto fout = systeem::NeemStempel(waar, stempel))
         return fout;
     const systeem::Greep greep(systeem::Open(waar, false));
     if (!greep)
         return systeem::Laatste();
     // One byte more, so that the end shows without growing; the size is a guess, for the file may
     // change and some systems do not tell it.
-    std::error_code onbekend;
-    const auto grootte = fs::file_size(waar, onbekend);
-    naar.resize(onbekend ? 1 : grootte + 1);
+    naar.resize(stempel.grootte + 1);
     std::size_t gelezen = 0;
     for (;;) {
         gelezen += std::fread(naar.data() + gelezen, 1, naar.size() - gelezen, greep.get());

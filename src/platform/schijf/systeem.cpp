@@ -144,9 +144,8 @@ std::error_code SyncNummer(int nummer)
 
 std::error_code ToestandVan(const fs::path& pad, struct stat& toestand)
 {
-    if (const auto fout = GewoonBestand(pad))
-        return fout;
-    return Uitslag(::stat(pad.c_str(), &toestand));
+    const auto fout = Uitslag(::stat(pad.c_str(), &toestand));
+    return fout || S_ISREG(toestand.st_mode) ? fout : GewoonBestand(pad);
 }
 
 } // namespace
