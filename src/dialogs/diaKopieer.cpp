@@ -110,12 +110,11 @@ void diaKopieer::accept()
         u"U gaat spelers kopiëren van groep '%1' naar groep '%2'.\r\n\r\nPas op: Reeds bestaande "
         "spelers in '%2' zullen er daarna 2 keer in staan en zult u handmatig moeten verwijderen!"_s
             .arg(bron, doel);
-    if (!Vraag(this, QMessageBox::Information, vraag))
+    if (!Vraag(this, vraag))
         return;
     const Kopieeropdracht opdracht{.keys = keus_->GekozenKeys(),
                                    .naarGroep = Groepscode(cmbGrnamen->currentIndex() + 1),
-                                   .metNBBgr = chkNBBgrOok->isChecked(),
-                                   .metNBBnr = chkNBBnrOok->isChecked()};
+                                   .metNBBgr = chkNBBgrOok->isChecked()};
     if (!KopieerSpelers(administratie_.spelers, opdracht)) {
         MeldSleutelsOp(this, u"Er is niets gekopieerd"_s,
                        RegelVanHKEY(administratie_.schijf, administratie_.mappen));

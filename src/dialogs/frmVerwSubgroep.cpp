@@ -78,8 +78,7 @@ void frmVerwSubgroep::VerwijderSubgroep()
         "het zeker?"_s.arg(NaarQString(subgroep), cmbRVDgr->currentText());
     Spelertabel& tabel = administratie_.spelers.tabel;
     const std::vector<int> weg = RijenVanSubgroep(tabel, Code(), subgroep);
-    if (!Vraag(this, QMessageBox::Information, vraag, u"Verwijderen?"_s,
-               NoemSpelers(tabel, weg, *this)))
+    if (!Vraag(this, vraag, u"Verwijderen?"_s, NoemSpelers(tabel, weg, *this)))
         return;
     tabel.VerwijderRijen(weg);
     administratie_.geschiedenis.Noem("Subgroep " + subgroep + " van " +

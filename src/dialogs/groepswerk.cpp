@@ -77,8 +77,7 @@ bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
     std::vector<Celtekst> anders{{Kolom::Key, {}}, {Kolom::Groep, opdracht.naarGroep}};
     if (!opdracht.metNBBgr)
         anders.push_back({Kolom::NBBgr, {}});
-    if (!opdracht.metNBBnr)
-        anders.push_back({Kolom::NBBnr, {}});
+    anders.push_back({Kolom::NBBnr, {}});
     const Sleutelwijzer wijzer(spelers.tabel);
     for (const Tekst& key : opdracht.keys) {
         const int bron = wijzer.Rij(key); // a copy made here is never found, nor copied again

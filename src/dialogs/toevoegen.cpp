@@ -115,17 +115,17 @@ Uitkomst<void> HaalSpelerslijst(Schijf& schijf, const Mappen& mappen, Tekstblik 
 {
     const auto club = LeesClubnaam(schijf, mappen);
     if (!club)
-        return tl::unexpected(club.error());
+        return Mislukt(club);
     if (club->empty())
         return {};
     if (!IsKaleNaam(*club))
-        return tl::unexpected(GeenNaam(*club, schijf.Toonpad(Clubnaampad(mappen))));
+        return Mislukt(GeenNaam(*club, schijf.Toonpad(Clubnaampad(mappen))));
     // The name of the session is that of its folder without "_Rev", which comes behind it again.
     const Tekst kaal(zitting.substr(0, zitting.size() - Tekstblik("_Rev").size()));
     const auto bron = LeesAlsErIs(
         schijf, Samen(mappen.RVDMAP, "Puntenboek\\" + *club + '_' + kaal + "_Rev\\Spelers.txt"));
     if (!bron)
-        return tl::unexpected(bron.error());
+        return Mislukt(bron);
     if (!*bron)
         return {};
     const Pad doel = Samen(Zittingmap(mappen, zitting), Spelersnaam);
@@ -168,13 +168,12 @@ Uitkomst<Sessiespelers> LeesSessieSpelers(Schijf& schijf, const Mappen& mappen, 
     const Pad pad = Samen(Zittingmap(mappen, zitting), Spelersnaam);
     const auto inhoud = LeesAlsErIs(schijf, pad);
     if (!inhoud)
-        return tl::unexpected(inhoud.error());
+        return Mislukt(inhoud);
     Sessiespelers uit = SessiespelersUit(inhoud->value_or(Tekst()));
     if (uit.IsTeVeel())
-        return tl::unexpected(Fout{.soort = Foutsoort::Beschadigd,
-                                   .bestand = schijf.Toonpad(pad),
-                                   .regel = 0,
-                                   .systeem = TeVeelNamen});
+        return Mislukt({.soort = Foutsoort::Beschadigd,
+                        .bestand = schijf.Toonpad(pad),
+                        .systeem = TeVeelNamen});
     return uit;
 }
 
@@ -226,7 +225,7 @@ Uitkomst<void> Koppelverslag::Schrijf()
         if (!staat_ || poging > 1) {
             auto oud = LeesAlsErIs(schijf_, pad_);
             if (!oud)
-                return tl::unexpected(oud.error());
+                return Mislukt(oud);
             oud_ = std::move(*oud);
             nu_ = oud_;
             staat_ = true;

@@ -96,7 +96,7 @@ class Controlevlak : public Tabelvlak {
     void paintEvent(QPaintEvent* /*gebeurtenis*/) override
     {
         QPainter schilder(this);
-        Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm, {},
+        Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm,
                           palette().color(QPalette::Text));
         TekenControlelijst(vlak, Rand, Rand, ControlekopScherm, rijen_,
                            static_cast<std::size_t>(Kader().Staand().value()),
@@ -251,20 +251,17 @@ void diaControleNBB::keyPressEvent(QKeyEvent* gebeurtenis)
 
 void diaControleNBB::Print()
 {
-    if (lstN9.empty())
-        return;
     const Controlerijen rijen =
         Rijen(TekensNaastElkaar(kast_, controleblad::Breed - 2 * controleblad::Marge));
     const int bladen = ControlebladenVoor(rijen.Aantal());
-    const bool gekozen = PrintBladen(
+    PrintBladen(
         administratie_.schijf,
         {.titel = u"Controle NBB-spelers"_s,
          .stand = Papierstand::Staand,
          .bezig = u"De lijst wordt geprint"_s,
          .bladen = bladen},
         [&](Tekenvlak& vlak, int blad) { TekenControleblad(vlak, rijen, blad, bladen); }, this);
-    if (gekozen)
-        Teken();
+    Teken();
 }
 
 } // namespace plexoran

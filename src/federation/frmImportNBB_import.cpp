@@ -111,7 +111,7 @@ bool frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
     const QString vraag = u"U gaat van '%1' %2 spelers importeren naar groep '%3'."_s.arg(
         NaarQString(SubgroepUitNaam(naam)), QString::number(lezing.lstN1.size()),
         NaarQString(administratie_.mappen.DFIMPG));
-    if (!Vraag(this, QMessageBox::Information, vraag))
+    if (!Vraag(this, vraag))
         return true;
     const auto uitkomst = import_.Importeer(
         naam, std::move(lezing.lstN1),

@@ -16,9 +16,9 @@ using Herkomsten = std::array<Herkomst, Importveld::Aantal>;
 
 Herkomsten HerkomstenVan(const Importkeuzes& keuzes)
 {
-    return {{{2, true},
-             {4, true},
-             {5, true},
+    return {{{2},
+             {4},
+             {5},
              {6, keuzes.naw},
              {7, keuzes.naw},
              {8, keuzes.naw},
@@ -26,7 +26,7 @@ Herkomsten HerkomstenVan(const Importkeuzes& keuzes)
              {10, keuzes.email},
              {11, keuzes.naw},
              {1, keuzes.mv},
-             {0, true}}};
+             {0}}};
 }
 
 /// The import line of a line; false when it lacks columns that are asked for.

@@ -102,7 +102,7 @@ Uitkomst<void> frmToelichting::Print() const
 {
     const auto printer = printer_();
     if (!printer)
-        return tl::unexpected(printer.error());
+        return Mislukt(printer);
     const auto bladen = Tekstbladen(NaarTekst(Text1->toPlainText()), Letterkast());
     std::vector<int> nummers(bladen.size());
     std::iota(nummers.begin(), nummers.end(), 0);

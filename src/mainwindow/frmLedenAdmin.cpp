@@ -7,6 +7,7 @@
 #include "dialogs/diaSortlijst.h"
 #include "dialogs/frmTerugzetten.h"
 #include "dialogs/groepswerk.h"
+#include "mainwindow/frmLedenAdmin_opstart.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/schijf/programma.h"
@@ -184,8 +185,8 @@ void frmLedenAdmin::ToonGroep()
     cmbVerwTot->setCurrentIndex(regels > 0 ? 0 : -1);
     if (beeld.cmdHaalNBBnamen)
         cmdHaalNBBnamen->setVisible(*beeld.cmdHaalNBBnamen);
-    if (beeld.cmdToonGatenlijst)
-        cmdToonGatenlijst->setVisible(*beeld.cmdToonGatenlijst);
+    if (beeld.verbergGatenlijst)
+        cmdToonGatenlijst->hide();
     cmdKoppel->setVisible(beeld.importgroep);
     cmdSortlijst2->setVisible(beeld.importgroep);
     cmdSortlijst3->setText(MetSneltoets(beeld.importgroep ? u"NBBgroep"_s : u"Subgroep"_s, u'o'));

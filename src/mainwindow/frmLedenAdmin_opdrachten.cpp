@@ -8,6 +8,7 @@
 #include "dialogs/frmVerwSubgroep.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmLedenAdmin.h"
+#include "mainwindow/frmLedenAdmin_opstart.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
@@ -131,7 +132,7 @@ void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QSt
     Spelertabel& tabel = administratie_.spelers.tabel;
     const auto eerste = picP0->Vlak()->Rijen().begin();
     const std::vector<int> rijen(eerste + van - 1, eerste + tot);
-    if (!Vraag(this, QMessageBox::Information, waarschuwing.join(u"\r\n"_s), u"Verwijderen"_s,
+    if (!Vraag(this, waarschuwing.join(u"\r\n"_s), u"Verwijderen"_s,
                NoemSpelers(tabel, rijen, *this)))
         return;
     const Noteer noteer(administratie_.geschiedenis,
@@ -315,9 +316,9 @@ void frmLedenAdmin::Print()
 void frmLedenAdmin::StartGatenlijst()
 {
     const Tekst& map = administratie_.mappen.RVDMAP;
-    const auto uitkomst =
-        map.empty() ? Uitkomst<void>(tl::unexpected(Fout{Foutsoort::Ontbreekt, {}, 0, {}}))
-                    : StartProgramma(administratie_.schijf, Samen(map, "Gatenlijst.exe"));
+    const auto uitkomst = map.empty()
+                              ? Uitkomst<void>(Mislukt({.soort = Foutsoort::Ontbreekt}))
+                              : StartProgramma(administratie_.schijf, Samen(map, "Gatenlijst.exe"));
     if (uitkomst)
         return;
     if (uitkomst.error().soort == Foutsoort::Ontbreekt)

@@ -1,4 +1,4 @@
-// The start-up, and the players to and from their file, with what the user is asked and told.
+// The players to and from their file, with what the user is asked and told.
 #pragma once
 
 #include <QStringList>
@@ -12,19 +12,6 @@
 class QWidget;
 
 namespace plexoran {
-
-/// Both scoring programs there: the user is asked which, at the start and whenever the import
-/// window opens. Without an answer the captions stay those of the one before, whose database is
-/// still the one read.
-void KiesRekenprogramma(Administratie& administratie, QWidget* venster);
-
-/// `TeBewaren`: the highest key was raised or players were put back, which is to be saved at once.
-enum class Startafloop { Mislukt, Gelezen, TeBewaren };
-
-/// All that the program works on is made, mended and read, in a fixed order, before the main window
-/// shows it.
-[[nodiscard]] Startafloop LeesBijStart(Administratie& administratie, QWidget* venster,
-                                       const Pad& mappenIni);
 
 /// When a player file is read.
 enum class Leesmoment { Start, NaOpslag, Opnieuw };

@@ -1,10 +1,11 @@
-#include "mainwindow/frmLedenAdmin_opslag.h"
+#include "mainwindow/frmLedenAdmin_opstart.h"
 
 #include <algorithm>
 
 #include "dialogs/toevoegen.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/zoekrekenprogramma.h"
+#include "mainwindow/frmLedenAdmin_opslag.h"
 #include "pairs/parenbestand.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/tekstbrug.h"

@@ -21,7 +21,7 @@ Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)
     if (heeftWoord("ODNBB4SP"))
         beeld.cmdHaalNBBnamen = false;
     else if (heeftWoord("ODNBB28"))
-        beeld.cmdToonGatenlijst = false;
+        beeld.verbergGatenlijst = true;
     else
         beeld.cmdHaalNBBnamen = beeld.importgroep;
     return beeld;

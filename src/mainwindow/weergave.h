@@ -23,7 +23,7 @@ using Namenrij = std::array<Tekstblik, AantalKolommen>;
 struct Groepsbeeld {
     bool importgroep = false;
     std::optional<bool> cmdHaalNBBnamen{}; ///< to be shown or hidden
-    std::optional<bool> cmdToonGatenlijst{};
+    bool verbergGatenlijst = false;
     Namenrij kolomnamen = Kolomnamen;
 };
 

@@ -165,7 +165,7 @@ void frmParenOnderhoud::VerwijderBestand()
         Meld(this, QMessageBox::Warning, u"Parenbestand '%1' bestaat nog niet!"_s.arg(keuze));
         return;
     }
-    if (!Vraag(this, QMessageBox::Information,
+    if (!Vraag(this,
                u"U gaat Parenbestand %1 volledig verwijderen!\r\nWeet u het zeker?"_s.arg(keuze)))
         return;
     const auto weg = VerwijderParen(administratie_.schijf, administratie_.mappen, keuze_, gelezen_);

@@ -1,7 +1,7 @@
 #include "pairs/paren.h"
 
 #include <algorithm>
-#include <map>
+#include <array>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -34,15 +34,20 @@ std::vector<Tekst> BeschikbareSpelers(const Spelertabel& tabel, Tekstblik groeps
 std::unordered_map<Tekstblik, std::vector<std::size_t>>
 RegelsMetKeys(const std::vector<Tekst>& regels, const Paartekens& paren)
 {
-    std::unordered_map<Tekstblik, std::vector<std::size_t>> regelsMet;
+    std::unordered_map<Tekstblik, std::vector<std::size_t>> regelsMet(2 * paren.size());
+    std::array<bool, 256> begint{}; // most characters of a name begin no key and are passed over
     for (const Tekst& paar : paren) {
-        regelsMet[Eerste6(paar)];
-        regelsMet[Laatste6(paar)];
+        for (const Tekstblik key : {Eerste6(paar), Laatste6(paar)}) {
+            regelsMet[key];
+            begint[static_cast<unsigned char>(key.front())] = true;
+        }
     }
     for (std::size_t i = regels.size(); i-- > 0;) {
         const Tekstblik regel = regels[i];
         for (std::size_t begin = 0; begin < regel.size(); ++begin) {
-            const auto plek = regelsMet.find(Eerste6(regel.substr(begin)));
+            const auto plek = begint[static_cast<unsigned char>(regel[begin])]
+                                  ? regelsMet.find(Eerste6(regel.substr(begin)))
+                                  : regelsMet.end();
             if (plek != regelsMet.end())
                 plek->second.push_back(i);
         }
@@ -96,13 +101,15 @@ Tekst Paren::ToonParen(const Paartekens& paren)
             auto& regels = regelsMet.at(key);
             while (!regels.empty() && weg[regels.back()])
                 regels.pop_back();
-            const auto wie = Tekst(key).append(" ");
+            Tekst wie = Tekst(key).append(" ");
             if (regels.empty()) {
                 los = true;
-                return wie + OnbekendeNaam;
+                wie += OnbekendeNaam;
+            } else {
+                weg[regels.back()] = true;
+                wie += Spelernaam(lalle_[regels.back()]);
             }
-            weg[regels.back()] = true;
-            return wie + Tekst(Spelernaam(lalle_[regels.back()]));
+            return wie;
         };
         const Tekst links = speler(Eerste6(paar));
         const Tekst rechts = speler(Laatste6(paar));
@@ -143,14 +150,16 @@ void Paren::Sorteer()
 {
     // Three digits as the suite has them, and more when there are more than a thousand pairs.
     const auto breedte = std::max<std::size_t>(3, std::to_string(l3_.size()).size());
-    std::map<Tekst, Tekst> l9;
+    std::vector<std::pair<Tekst, Tekst>> l9; // by keys that are all different
+    l9.reserve(l3_.size());
     for (Tekst& regel : l3_) {
         const Paarspeler speler = LinkerSpeler(regel);
         Tekst sleutel(speler.naam);
         sleutel.append(" ").append(speler.key).append(" ");
         sleutel += MetNullen(static_cast<std::int64_t>(l9.size()), static_cast<int>(breedte));
-        l9.emplace(Sorteersleutel(sleutel), std::move(regel));
+        l9.emplace_back(Sorteersleutel(sleutel), std::move(regel));
     }
+    std::ranges::sort(l9);
     l3_.clear();
     for (auto& [sleutel, regel] : l9)
         l3_.push_back(std::move(regel));

@@ -248,9 +248,8 @@ void frmKoppelNBBnr::ToonGevonden(const Zoekuitslag& uitslag)
 
 void frmKoppelNBBnr::StartKoppelen()
 {
-    if (!Vraag(this, QMessageBox::Information,
-               u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
-               "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s))
+    if (!Vraag(this, u"De zwevende speler krijgt nu zijn RVD-nummer toegewezen in de betreffende "
+                     "zittingbestanden.\r\n\r\nKies OK of Annuleer."_s))
         return;
     emit begint();
     const Koppelopdracht opdracht = MaakKoppelopdracht(

@@ -20,7 +20,7 @@ const QString Hallo = u"Hallo"_s;
 
 bool VraagHallo()
 {
-    return Vraag(nullptr, QMessageBox::Information, Hallo);
+    return Vraag(nullptr, Hallo);
 }
 
 void MeldHallo()

@@ -1,7 +1,7 @@
 // The start-up on a disk in memory that writes down what happens to it.
 #pragma once
 
-#include "mainwindow/frmLedenAdmin_opslag.h"
+#include "mainwindow/frmLedenAdmin_opstart.h"
 #include "mainwindow/vensterproef.h"
 
 namespace plexoran {

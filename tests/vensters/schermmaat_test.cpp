@@ -147,7 +147,7 @@ TEST_P(SchermmaatTest, EenLangeVraagSchuiftAlleenOmlaag)
     ouder.setGeometry(Scherm()->availableGeometry());
     ouder.show();
     EXPECT_FALSE(Vraag(
-        &ouder, QMessageBox::Information,
+        &ouder,
         u"Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen.\n\n"_s.repeated(9),
         {}, u"Willem van der Horst\n"_s.repeated(80)));
     EXPECT_TRUE(gezien);

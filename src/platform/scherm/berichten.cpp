@@ -174,11 +174,10 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
         LaatAntwoorden(venster);
 }
 
-bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel,
-           const QString& toelichting)
+bool Vraag(QWidget* ouder, const QString& tekst, const QString& titel, const QString& toelichting)
 {
-    Berichtvenster venster(icoon, tekst, titel, QMessageBox::Ok | QMessageBox::Cancel, ouder,
-                           toelichting);
+    Berichtvenster venster(QMessageBox::Information, tekst, titel,
+                           QMessageBox::Ok | QMessageBox::Cancel, ouder, toelichting);
     return LaatAntwoorden(venster) == QMessageBox::Ok;
 }
 

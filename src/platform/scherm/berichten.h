@@ -26,7 +26,7 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
 
 /// OK and Annuleren; true for OK. Escape and the close box count as Annuleren. `toelichting` stands
 /// below the text.
-[[nodiscard]] bool Vraag(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
+[[nodiscard]] bool Vraag(QWidget* ouder, const QString& tekst,
                          const QString& titel = Programmatitel,
                          const QString& toelichting = QString());
 

@@ -229,11 +229,11 @@ std::optional<Printkeus> KiesPrinter(Schijf& schijf, const Printwerk& werk, QWid
     return antwoord == Pdf ? VraagPdf(schijf, werk, ouder) : VraagSysteem(schijf, werk, ouder);
 }
 
-bool PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teken, QWidget* ouder)
+void PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teken, QWidget* ouder)
 {
     const auto keus = KiesPrinter(schijf, werk, ouder);
     if (!keus || keus->bladen.empty())
-        return keus.has_value();
+        return;
     std::size_t gedaan = 0;
     Uitkomst<void> geprint;
     {
@@ -251,7 +251,6 @@ bool PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teke
              u"Het printen is gestopt na %1 van de %2 bladen. De gegevens van de spelers zijn niet "
              "veranderd. De overige bladen kunt u later printen."_s.arg(gedaan)
                  .arg(keus->bladen.size()));
-    return true;
 }
 
 Uitkomst<Printer> StandaardPrinter()

@@ -77,8 +77,8 @@ struct Printeraanbod {
 
 /// Lets the user choose a printer and prints the pages that he wants. While many go out he may
 /// stop: then the page that is being drawn is the last, what was drawn comes out, and he is told
-/// how much that is. He is also told of a failure. False when he chose no printer.
-bool PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teken, QWidget* ouder);
+/// how much that is. He is also told of a failure.
+void PrintBladen(Schijf& schijf, const Printwerk& werk, const Bladtekenaar& teken, QWidget* ouder);
 
 /// The default printer of the system; `Ontbreekt` when there is none.
 [[nodiscard]] Uitkomst<Printer> StandaardPrinter();

@@ -99,14 +99,13 @@ Tekstmeter Roostermeter(int pixels, double pixelsPerMm)
 // ---------------------------------------------------------------- drawing
 
 Schildervlak::Schildervlak(QPainter& schilder, const Letterkast& kast, double eenhedenPerMm,
-                           Doel doel, QPointF oorsprong, const QColor& inkt)
-    : schilder_(schilder), kast_(kast), perMm_(eenhedenPerMm), doel_(doel), oorsprong_(oorsprong),
-      inkt_(inkt)
+                           Doel doel, const QColor& inkt)
+    : schilder_(schilder), kast_(kast), perMm_(eenhedenPerMm), doel_(doel), inkt_(inkt)
 {}
 
 QPointF Schildervlak::Punt(double x, double y) const
 {
-    return oorsprong_ + QPointF(x * perMm_, y * perMm_);
+    return QPointF(x * perMm_, y * perMm_);
 }
 
 void Schildervlak::Schrijf(double x, double y, const Letter& letter, Tekstblik tekst)
@@ -160,11 +159,9 @@ QRectF Schildervlak::LijnOpPunten(QPointF begin, QPointF eind, double dikte) con
 
 void Schildervlak::Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte)
 {
-    const bool recht = x1 == x2 || y1 == y2;
-    if (doel_ == Doel::Scherm && recht) {
-        const QPointF begin = Punt(std::min(x1, x2), std::min(y1, y2));
-        const QPointF eind = Punt(std::max(x1, x2), std::max(y1, y2));
-        schilder_.fillRect(LijnOpPunten(begin, eind, dikte * perMm_), Inkt(kleur));
+    if (doel_ == Doel::Scherm) {
+        const QRectF punten = LijnOpPunten(Punt(x1, y1), Punt(x2, y2), dikte * perMm_);
+        schilder_.fillRect(punten, Inkt(kleur));
         return;
     }
     schilder_.setPen(QPen(Inkt(kleur), dikte * perMm_, Qt::SolidLine, Qt::FlatCap));

@@ -55,10 +55,10 @@ class Schildervlak : public Tekenvlak {
         Papier, ///< many dots: everything stands exactly where it was put
     };
 
-    /// Draws with `schilder`, whose own scale counts, with the top left corner at `oorsprong` in
-    /// its units and texts in `inkt`. Both it and the case are borrowed.
+    /// Draws with `schilder`, whose own scale counts, and texts in `inkt`. Both it and the case are
+    /// borrowed.
     Schildervlak(QPainter& schilder, const Letterkast& kast, double eenhedenPerMm, Doel doel,
-                 QPointF oorsprong = {}, const QColor& inkt = Qt::black);
+                 const QColor& inkt = Qt::black);
 
     [[nodiscard]] const Lettermeter& Meter() const override { return kast_; }
     void Schrijf(double x, double y, const Letter& letter, Tekstblik tekst) override;
@@ -72,7 +72,6 @@ class Schildervlak : public Tekenvlak {
     const Letterkast& kast_;
     double perMm_;
     Doel doel_;
-    QPointF oorsprong_;
     QColor inkt_;
 };
 

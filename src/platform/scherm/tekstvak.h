@@ -15,7 +15,7 @@ class Tekstvak : public QLineEdit {
     Q_OBJECT
 
   public:
-    explicit Tekstvak(QWidget* ouder = nullptr);
+    explicit Tekstvak(QWidget* ouder);
 
     /// Fills the box; bytes that the user leaves alone come back as they were, control characters
     /// and texts of any length included.

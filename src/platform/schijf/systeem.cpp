@@ -144,9 +144,8 @@ std::error_code SyncNummer(int nummer)
 
 std::error_code ToestandVan(const fs::path& pad, struct stat& toestand)
 {
-    if (const auto fout = Uitslag(::stat(pad.c_str(), &toestand)))
-        return fout;
-    return S_ISREG(toestand.st_mode) ? std::error_code() : GewoonBestand(pad);
+    const auto fout = Uitslag(::stat(pad.c_str(), &toestand));
+    return fout || S_ISREG(toestand.st_mode) ? fout : GewoonBestand(pad);
 }
 
 } // namespace

@@ -103,9 +103,7 @@ Itemlezer::Slot Itemlezer::Sluiter(std::size_t vanaf)
 
 std::vector<Item> ItemsVan(Tekstblik regel, std::size_t hoogstens)
 {
-    constexpr std::size_t gewoonlijk = 8; // a record of a result list has 7
     std::vector<Item> items;
-    items.reserve(gewoonlijk);
     Itemlezer lezer(regel);
     while (items.size() < hoogstens) {
         const auto item = lezer.Volgend();

@@ -80,8 +80,8 @@ class Tekenvlak {
     /// Writes in black with the left end of the text at `x` and the top of its letters, capitals
     /// with accents included, at `y`. A control character is a blank.
     virtual void Schrijf(double x, double y, const Letter& letter, Tekstblik tekst) = 0;
-    /// A straight line around whose middle `dikte` lies. On the screen it is never thinner than one
-    /// of its dots.
+    /// A line straight to the right or down, around whose middle `dikte` lies. On the screen it is
+    /// never thinner than one of its dots.
     virtual void Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte) = 0;
 };
 

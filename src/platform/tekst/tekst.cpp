@@ -199,10 +199,13 @@ Tekst Sorteersleutel(Tekstblik tekst)
         }
         return uit;
     }();
-    Tekst sleutel;
-    sleutel.reserve(3 * tekst.size() + 1);
-    for (const char teken : tekst)
-        sleutel += gewichten[static_cast<unsigned char>(teken)];
+    Tekst sleutel(4 * tekst.size(), Einde); // no character has more than two letters
+    char* eind = sleutel.data();
+    for (const char teken : tekst) {
+        for (const char deel : gewichten[static_cast<unsigned char>(teken)])
+            *eind++ = deel;
+    }
+    sleutel.erase(static_cast<std::size_t>(eind - sleutel.data()));
     return (sleutel += Einde) += tekst;
 }
 

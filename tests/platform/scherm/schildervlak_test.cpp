@@ -28,7 +28,7 @@ class SchildervlakTest : public testing::Test {
         beeld.setDevicePixelRatio(schaal);
         beeld.fill(Qt::white);
         QPainter schilder(&beeld);
-        Schildervlak vlak(schilder, kast, PuntenPerMm, Schildervlak::Doel::Scherm, {8, 4});
+        Schildervlak vlak(schilder, kast, PuntenPerMm, Schildervlak::Doel::Scherm);
         werk(vlak);
     }
 
@@ -59,10 +59,10 @@ TEST_F(SchildervlakTest, EenTekstStaatWaarHijGevraagdIs)
         const QRect inkt = Inkt();
         const double perMm = PuntenPerMm * schaal;
         const double stam = kast.Breedte(letter, "H") * 0.08; // white before the stem of an H
-        EXPECT_NEAR((2 + 10 + stam) * perMm, inkt.left(), 1.5) << schaal;
-        EXPECT_NEAR((2 + 10 + kast.Breedte(letter, "HHHH") - stam) * perMm, inkt.right() + 1, 1.5);
+        EXPECT_NEAR((10 + stam) * perMm, inkt.left(), 1.5) << schaal;
+        EXPECT_NEAR((10 + kast.Breedte(letter, "HHHH") - stam) * perMm, inkt.right() + 1, 1.5);
         // The base line: the letters reach 0.905 of the size above it.
-        const double basis = 1 + 5 + 0.905 * 20 * 25.4 / 72;
+        const double basis = 5 + 0.905 * 20 * 25.4 / 72;
         EXPECT_NEAR(basis * perMm, inkt.bottom() + 1, 1.01) << schaal;
     }
 }
@@ -74,7 +74,7 @@ TEST_F(SchildervlakTest, LijnenZijnScherpOpElkScherm)
         const QRect inkt = Inkt();
         EXPECT_EQ(1, inkt.height()) << schaal;
         EXPECT_NEAR(50 * PuntenPerMm * schaal, inkt.width(), 1.01) << schaal;
-        EXPECT_NEAR((1 + 5.07) * PuntenPerMm * schaal, inkt.top(), 1.01) << schaal;
+        EXPECT_NEAR(5.07 * PuntenPerMm * schaal, inkt.top(), 1.01) << schaal;
         for (int x = inkt.left(); x <= inkt.right(); ++x)
             ASSERT_EQ(QColor(100, 100, 100), beeld.pixelColor(x, inkt.top())) << schaal;
     }
@@ -108,13 +108,6 @@ TEST_F(SchildervlakTest, LijnenDieElkaarRakenDelenHunHoek)
                 << schaal << " " << schuif;
         }
     }
-}
-
-TEST_F(SchildervlakTest, EenSchuineLijn)
-{
-    Teken([](Schildervlak& vlak) { vlak.Lijn(10, 5, 20, 15, Grijs, 0.5); });
-    EXPECT_NEAR(40, Inkt().width(), 3);
-    EXPECT_NEAR(40, Inkt().height(), 3);
 }
 
 /// Afterwards the painter draws as it did before.
