@@ -1,6 +1,6 @@
 #include "register/reservezip.h"
 
-#include <map>
+#include <set>
 
 #include "hulp/fouten.h"
 #include "register/registerhulp.h"

@@ -1,7 +1,5 @@
 #include "platform/bronnen/zip.h"
 
-#include <random>
-
 #include <gtest/gtest.h>
 
 #include "hulp/fouten.h"
