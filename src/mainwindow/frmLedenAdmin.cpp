@@ -62,7 +62,8 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     const int laatste = administratie_.instellingen.LOSTGR;
     KiesGroep(laatste >= 0 && laatste < AantalGroepen ? laatste : 0);
-    if (afloop == Startafloop::TeBewaren && !alleenKijken_) { // not before: a display keeps the place of its group
+    // Not before: a display keeps the place of its group.
+    if (afloop == Startafloop::TeBewaren && !alleenKijken_) {
         const Noteer noteer(administratie_.geschiedenis, "Hersteld bij de start");
         SlaOpEnToon();
     }

@@ -71,7 +71,7 @@ TEST(MengTekst, AndereSoortenKunnenNietSamen)
 
 TEST(MengTekst, DeNaamTeltZonderHoofdlettersEnMetElkeStreep)
 {
-    for (const auto* pad : {"plexo.INI", "/home/x/Plexo.ini", "S:\\PLEXO.INI"})
+    for (const auto* pad : {"plexo.INI", "map/Plexo.ini", "S:\\PLEXO.INI"})
         EXPECT_EQ(Uitkomst3(pad, "A=1\nB=1\n", "A=2\nB=1\n", "A=1\nB=2\n"), "A=2\nB=2\n|B=2;|");
     EXPECT_EQ(Uitkomst3("Parenmap\\Gr01-.txt", "", "100001-100002#\r\n", ""),
               "100001-100002#\r\n||");
