@@ -63,10 +63,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
         Eis(uit.tabel.Cel(rij, Kolom::Nr) == std::to_string(rij), "Nr");
     std::array<std::map<Tekst, int>, 3> keys;
     std::transform(tabellen.begin(), tabellen.end(), keys.begin(), Keys);
-    for (const auto& [key, aantal] : Keys(uit.tabel)) {
+    for (const auto& rij : Keys(uit.tabel)) {
         const bool enig = std::all_of(keys.begin(), keys.end(),
-                                      [&](const auto& van) { return IsEnig(van, key); });
-        Eis(aantal == 1 || !enig || uit.HKEY == std::numeric_limits<std::int32_t>::max(),
+                                      [&](const auto& van) { return IsEnig(van, rij.first); });
+        Eis(rij.second == 1 || !enig || uit.HKEY == std::numeric_limits<std::int32_t>::max(),
             "een sleutel staat er twee keer");
     }
     // When one side did nothing, the other's is the outcome.

@@ -261,7 +261,7 @@ Uitkomst<void> Koppelverslag::ZetTerug()
             return Mislukt(nu);
         if (*nu && *nu != nu_)
             return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf_.Toonpad(pad_)});
-        return schijf_.Verwijder(pad_);
+        return VerwijderBlijvend(schijf_, pad_);
     };
     auto terug = oud_ ? VervangOngewijzigd(schijf_, pad_, *oud_, nu_) : verwijder();
     if (!terug && !oud_ && terug.error().soort == Foutsoort::Ontbreekt)

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <ranges>
 
 #include "platform/tekst/tekst.h"
 #include "register/spelertabel.h"
@@ -49,7 +48,8 @@ std::vector<Controleregel> OpNaam(std::vector<Controleregel> lstN9)
     std::multimap<Tekst, Controleregel> opNaam;
     for (Controleregel& regel : lstN9)
         opNaam.emplace(Sorteersleutel(regel.Naam()), std::move(regel));
-    std::ranges::move(opNaam | std::views::values, lstN9.begin());
+    std::transform(opNaam.begin(), opNaam.end(), lstN9.begin(),
+                   [](auto& paar) { return std::move(paar.second); });
     return lstN9;
 }
 

@@ -168,6 +168,7 @@ void frmParenOnderhoud::VerwijderBestand()
     if (!Vraag(this,
                u"U gaat Parenbestand %1 volledig verwijderen!\r\nWeet u het zeker?"_s.arg(keuze)))
         return;
+    const Noteer noteer(administratie_.geschiedenis, "Paren van " + keuze_ + " verwijderd");
     const auto weg = VerwijderParen(administratie_.schijf, administratie_.mappen, keuze_, gelezen_);
     if (!weg) {
         MeldFout(

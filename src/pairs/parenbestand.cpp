@@ -143,7 +143,7 @@ Uitkomst<Pad> VerwijderParen(Schijf& schijf, const Mappen& mappen, Tekstblik keu
         isAnders ? MaakReservekopie(schijf, mappen.SPEMAP, pad, **nu) : Uitkomst<Pad>(Pad());
     if (!kopie)
         return kopie;
-    return schijf.Verwijder(pad).map([&] { return *kopie; });
+    return VerwijderBlijvend(schijf, pad).map([&] { return *kopie; });
 }
 
 Uitkomst<Paartekens> ImporteerRVDparen(Schijf& schijf, const Mappen& mappen, Tekstblik groepscode,

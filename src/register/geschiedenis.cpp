@@ -44,6 +44,17 @@ Tekst Kopregel(Tekstblik woord, Tekst waarde)
     return Tekst(woord) + " " + waarde + "\r\n";
 }
 
+/// A sum of bytes of which the disk may have kept only some when the power failed (FNV-1a).
+Tekst Som(Tekstblik bytes)
+{
+    constexpr std::uint64_t begin = 14'695'981'039'346'656'037U;
+    constexpr std::uint64_t maal = 1'099'511'628'211U;
+    std::uint64_t som = begin;
+    for (const char byte : bytes)
+        som = (som ^ static_cast<unsigned char>(byte)) * maal;
+    return std::to_string(som);
+}
+
 /// Reads the entries of a file off it, line by line.
 class Lezer {
   public:
@@ -55,7 +66,7 @@ class Lezer {
             if (const auto nummer = Achter("handeling", *regel))
                 NeemOp({.id = Tekst(naam_) + " " + Tekst(*nummer)});
             else if (const auto bestand = Achter("bestand", *regel)) {
-                if (!LeesBestand(*bestand))
+                if (!LeesBestand(regel->data(), *bestand))
                     break;
             } else
                 LeesKop(*regel);
@@ -80,8 +91,13 @@ class Lezer {
     {
         auto regel = VolgendeRauw();
         if (regel)
-            regel->remove_suffix(regel->ends_with("\r\n") ? 2 : 1);
+            regel = ZonderEind(*regel);
         return regel;
+    }
+
+    static Tekstblik ZonderEind(Tekstblik regel)
+    {
+        return regel.substr(0, regel.size() - (regel.ends_with("\r\n") ? 2 : 1));
     }
 
     /// What was read counts from its first whole file on. An undoing counts without.
@@ -111,15 +127,18 @@ class Lezer {
         }
     }
 
-    /// False when its end is not there.
-    bool LeesBestand(Tekstblik plaats)
+    /// False when its end is not there. One with another sum than its bytes is passed over.
+    bool LeesBestand(const char* begin, Tekstblik plaats)
     {
         Wijziging uit{.plaats = Tekst(plaats), .voor = Tekst(), .na = Tekst()};
         char vorige = ' ';
         while (const auto regel = VolgendeRauw()) {
             const Tekstblik rest = regel->substr(1);
             if (regel->starts_with(Eindregel)) {
-                handeling_.wijzigingen.push_back(std::move(uit));
+                const auto som = Achter(Eindregel, ZonderEind(*regel));
+                const Tekstblik bytes(begin, static_cast<std::size_t>(regel->data() - begin));
+                if (!som || *som == Som(bytes))
+                    handeling_.wijzigingen.push_back(std::move(uit));
                 return true;
             }
             if (regel->starts_with("geen voor"))
@@ -290,15 +309,14 @@ void Geschiedenis::VoorVervanging(const Pad& pad, std::optional<Tekstblik> nieuw
     const bool los = !bezig_;
     if (los)
         Begin(Wijziging{*plaats, {}, {}}.Naam() + " gewijzigd", Handelingsoort::Gewoon, {});
-    Tekst regels = begonnen_ ? Tekst() : Kop();
-    regels += Kopregel("bestand", *plaats);
+    Tekst regels = Kopregel("bestand", *plaats);
     if (!*oud)
         regels += "geen voor\r\n";
     if (!nieuw)
         regels += "geen na\r\n";
     regels += verschil;
-    regels.append(Eindregel).append("\r\n");
-    Schrijf(regels);
+    regels += Kopregel(Eindregel, Som(regels));
+    Schrijf(begonnen_ ? regels : Kop() + regels);
     bezig_ = !los;
 }
 

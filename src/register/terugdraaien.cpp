@@ -68,16 +68,10 @@ Uitkomst<std::vector<Tekst>> DraaiBestandTerug(Schijf& schijf, const Mappen& map
         return std::vector<Tekst>{wijziging.Naam()};
     for (Tekst& item : menging->botsingen)
         item = wijziging.Naam() + ": " + item;
-    Uitkomst<void> gedaan;
     if (menging->inhoud == *nu)
         return std::move(menging->botsingen);
-    if (menging->inhoud)
-        gedaan = VervangOngewijzigd(schijf, pad, *menging->inhoud, *nu);
-    else {
-        if (schijf.DeGetuige() != nullptr)
-            schijf.DeGetuige()->VoorVervanging(pad, std::nullopt);
-        gedaan = schijf.Verwijder(pad);
-    }
+    const auto gedaan = menging->inhoud ? VervangOngewijzigd(schijf, pad, *menging->inhoud, *nu)
+                                        : VerwijderBlijvend(schijf, pad);
     return gedaan.map([&] { return std::move(menging->botsingen); });
 }
 

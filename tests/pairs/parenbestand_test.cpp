@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "hulp/tabelmaker.h"
+#include "register/geschiedenis.h"
 #include "schijven/falendeSchijf.h"
 #include "schijven/geheugenSchijf.h"
 
@@ -274,6 +275,20 @@ TEST_F(ParenbestandTest, VerwijderenMetEenKopieVanWatNietGelezenWas)
     const auto kopie = VerwijderParen(stuk, mappen, "Gr03-Dinsdag", std::optional<Tekst>("anders"));
     ASSERT_FALSE(kopie);
     EXPECT_EQ(Foutsoort::GeenReservekopie, kopie.error().soort);
+    EXPECT_EQ("100301-100222#\r\n", schijf.Inhoud(gr03));
+}
+
+TEST_F(ParenbestandTest, VerwijderenIsOngedaanTeMaken)
+{
+    schijf.Zet(gr03, "100301-100222#\r\n");
+    Geschiedenis geschiedenis(schijf);
+    geschiedenis.Open(mappen, "pc", "an");
+    ASSERT_TRUE(
+        VerwijderParen(schijf, mappen, "Gr03-Dinsdag", std::optional<Tekst>("100301-100222#\r\n")));
+    const auto handeling = geschiedenis.Laatste(Handelingsoort::Ongedaan);
+    ASSERT_TRUE(handeling);
+    ASSERT_TRUE(
+        DraaiBestandTerug(schijf, mappen, handeling->wijzigingen.at(0), Handelingsoort::Ongedaan));
     EXPECT_EQ("100301-100222#\r\n", schijf.Inhoud(gr03));
 }
 

@@ -63,11 +63,13 @@ class GeheugenSchijf::GeheugenSchrijver : public Schrijver {
         knoop_->inhoud += bytes;
         knoop_->stempel.grootte = knoop_->inhoud.size();
         knoop_->stempel.tijd = schijf_.Tik();
+        schijf_.MeldStap();
         return {};
     }
     Uitkomst<void> Sync() override
     {
         knoop_->gesynct = knoop_->inhoud;
+        schijf_.MeldStap();
         return {};
     }
     Uitkomst<void> Sluit() override { return {}; }
@@ -151,6 +153,12 @@ void GeheugenSchijf::ZetTijd(const Pad& pad, std::int64_t tijd)
     namen_.at(Sleutel(pad)).knoop->stempel.tijd = tijd;
 }
 
+void GeheugenSchijf::ZetTijdstap(std::int64_t stap)
+{
+    tik_ = 10'000'000;
+    tijdstap_ = stap;
+}
+
 void GeheugenSchijf::ZetAlleenLezen(const Pad& pad, bool alleenLezen)
 {
     const auto map = mappen_.find(Sleutel(pad));
@@ -179,6 +187,40 @@ std::map<Pad, Tekst> GeheugenSchijf::NaStroomuitval(Namen namen) const
     std::map<Pad, Tekst> uit;
     for (const auto& [sleutel, naam] : namen == Namen::Alle ? namen_ : gesyncteNamen_)
         uit[naam.pad] = naam.knoop->gesynct;
+    return uit;
+}
+
+std::map<Pad, Tekst> GeheugenSchijf::NaStroomuitval(std::mt19937& toeval) const
+{
+    Namenlijst namen = gesyncteNamen_;
+    for (const auto& [sleutel, naam] : gesyncteNamen_) {
+        if (!namen_.contains(sleutel) && toeval() % 2 == 0)
+            namen.erase(sleutel);
+    }
+    for (const auto& [sleutel, naam] : namen_) {
+        const auto oud = gesyncteNamen_.find(sleutel);
+        const bool isNieuw = oud == gesyncteNamen_.end() || oud->second.knoop != naam.knoop;
+        if (isNieuw && toeval() % 2 == 0)
+            namen.insert_or_assign(sleutel, naam);
+    }
+    std::map<Pad, Tekst> uit;
+    for (const auto& [sleutel, naam] : namen)
+        uit[naam.pad] = naam.knoop->NaStroomuitval(toeval);
+    return uit;
+}
+
+Tekst GeheugenSchijf::Knoop::NaStroomuitval(std::mt19937& toeval) const
+{
+    constexpr std::size_t blok = 512;
+    Tekst uit = gesynct;
+    for (std::size_t begin = gesynct.size(); begin < inhoud.size();) {
+        const std::size_t eind = std::min(inhoud.size(), (begin / blok + 1) * blok);
+        if (toeval() % 2 == 0) {
+            uit.resize(begin, '\0');
+            uit.append(inhoud, begin, eind - begin);
+        }
+        begin = eind;
+    }
     return uit;
 }
 
@@ -223,6 +265,7 @@ Uitkomst<void> GeheugenSchijf::MaakMap(const Pad& map)
     if (auto mag = MagInMapVan(sleutel, map); !mag)
         return mag;
     ZetMap(map);
+    MeldStap();
     return {};
 }
 
@@ -235,6 +278,7 @@ Uitkomst<std::unique_ptr<Schrijver>> GeheugenSchijf::MaakNieuw(const Pad& pad)
         return Mislukt(pad, std::errc::file_exists);
     auto knoop = NieuweKnoop();
     namen_.emplace(sleutel, Naam{Genormaliseerd(pad), knoop});
+    MeldStap();
     return std::make_unique<GeheugenSchrijver>(*this, std::move(knoop));
 }
 
@@ -265,6 +309,7 @@ Uitkomst<void> GeheugenSchijf::Hernoem(const Pad& van, const Pad& naar)
     const auto knoop = namen_.extract(Sleutel(van)).mapped().knoop;
     // A name that is there already keeps its case.
     namen_.try_emplace(sleutel, Naam{Genormaliseerd(naar), nullptr}).first->second.knoop = knoop;
+    MeldStap();
     return {};
 }
 
@@ -275,6 +320,7 @@ Uitkomst<void> GeheugenSchijf::Verwijder(const Pad& pad)
     if (auto mag = MagInMapVan(Sleutel(pad), pad); !mag)
         return mag;
     namen_.erase(Sleutel(pad));
+    MeldStap();
     return {};
 }
 
@@ -288,6 +334,7 @@ Uitkomst<void> GeheugenSchijf::SyncMapVan(const Pad& pad)
         if (MapVan(sleutel) == map)
             gesyncteNamen_.emplace(sleutel, naam);
     }
+    MeldStap();
     return {};
 }
 

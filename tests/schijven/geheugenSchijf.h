@@ -2,8 +2,10 @@
 // would leave. Not in it: links, pipes, owners.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
+#include <random>
 
 #include "platform/schijf/schijf.h"
 #include "platform/tekst/codepagina.h"
@@ -22,6 +24,9 @@ class GeheugenSchijf : public Schijf {
     void ZetMap(const Pad& map);
     /// The time of a file in its stamp, nanoseconds since 1970.
     void ZetTijd(const Pad& pad, std::int64_t tijd);
+    /// Stamps are whole multiples of this many nanoseconds, as on a disk with coarse times, while a
+    /// change takes only a hundredth of a second.
+    void ZetTijdstap(std::int64_t stap);
     /// A folder in which no name may change, or a file that may not be written.
     void ZetAlleenLezen(const Pad& pad, bool alleenLezen = true);
 
@@ -30,6 +35,11 @@ class GeheugenSchijf : public Schijf {
     /// The files and their contents after a power cut at this moment. What was written but not
     /// synced is lost; folders are there always.
     [[nodiscard]] std::map<Pad, Tekst> NaStroomuitval(Namen namen) const;
+    /// The same, when the disk wrote any part of what was not synced: of every changed name the old
+    /// or the new state, of every file any of the 512 bytes that came since, zeros in between.
+    [[nodiscard]] std::map<Pad, Tekst> NaStroomuitval(std::mt19937& toeval) const;
+    /// Called after every step that changes anything on the disk, when that is done.
+    void NaElkeStap(std::function<void()> stap) { naStap_ = std::move(stap); }
 
     [[nodiscard]] Uitkomst<Padsoort> Soort(const Pad& pad) override;
     [[nodiscard]] Uitkomst<Tekst> LeesBestand(const Pad& pad) override;
@@ -56,6 +66,8 @@ class GeheugenSchijf : public Schijf {
         Tekst gesynct;
         Stempel stempel;
         bool alleenLezen = false;
+
+        [[nodiscard]] Tekst NaStroomuitval(std::mt19937& toeval) const;
     };
     struct Naam {
         Pad pad; ///< in the case in which it was made
@@ -75,12 +87,20 @@ class GeheugenSchijf : public Schijf {
     [[nodiscard]] Uitkomst<void> MagInMapVan(const Tekst& sleutel, const Pad& pad) const;
     [[nodiscard]] Uitkomst<Knoop*> Vind(const Pad& pad) const;
     [[nodiscard]] std::shared_ptr<Knoop> NieuweKnoop();
-    [[nodiscard]] std::int64_t Tik() { return ++klok_ * 1'000'000'000; }
+    [[nodiscard]] std::int64_t Tik() { return ++klok_ * tik_ / tijdstap_ * tijdstap_; }
+    void MeldStap() const
+    {
+        if (naStap_)
+            naStap_();
+    }
 
     Namenlijst namen_;
     Namenlijst gesyncteNamen_;
     std::map<Tekst, Map> mappen_; ///< by the path in capitals
-    std::int64_t klok_ = 0;       ///< seconds; goes on with every change
+    std::int64_t klok_ = 0;       ///< goes on with every change
+    std::int64_t tik_ = 1'000'000'000;
+    std::int64_t tijdstap_ = 1;
+    std::function<void()> naStap_;
     std::uint64_t laatsteNummer_ = 0;
 };
 

@@ -257,6 +257,13 @@ Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inho
     return Vervang(schijf, pad, inhoud, Houdbaarheid::Blijvend, ruil);
 }
 
+Uitkomst<void> VerwijderBlijvend(Schijf& schijf, const Pad& pad)
+{
+    if (schijf.DeGetuige() != nullptr)
+        schijf.DeGetuige()->VoorVervanging(pad, std::nullopt);
+    return schijf.Verwijder(pad);
+}
+
 constexpr std::int64_t perMilliseconde = 1'000'000;
 
 std::int64_t Nu()

@@ -149,6 +149,9 @@ enum class Houdbaarheid {
 /// less.
 inline std::chrono::milliseconds Slotpoos{50};
 
+/// Removes a file for good: the witness hears of it first.
+[[nodiscard]] Uitkomst<void> VerwijderBlijvend(Schijf& schijf, const Pad& pad);
+
 /// Nanoseconds since 1970, as files are stamped.
 [[nodiscard]] std::int64_t Nu();
 
