@@ -30,8 +30,11 @@ std::map<Tekst, int> Keys(const Spelertabel& tabel)
     return uit;
 }
 
+/// Whether the key is that of one player at the most.
 bool IsEnig(const std::map<Tekst, int>& keys, const Tekst& key)
 {
+    if (!AlsGetal(key, 1))
+        return false;
     const auto gevonden = keys.find(key);
     return gevonden == keys.end() || gevonden->second == 1;
 }

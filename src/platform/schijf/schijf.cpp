@@ -91,17 +91,22 @@ Uitkomst<void> OnderSlot(Schijf& schijf, const Pad& bestand,
 {
     constexpr int pogingen = 60;
     const Pad slot = Pad(bestand).append(kenmerk).append("0");
-    bool wasBezet = false;
-    for (int poging = 1;; ++poging) {
+    std::optional<Stempel> gezien; // of the lock that is waited for
+    int poging = 0;
+    int raadsels = 0; // refusals without a lock: it may have gone just then, but not every time
+    for (;;) {
         const auto gemaakt = schijf.MaakNieuw(slot);
         if (gemaakt)
             break;
-        const auto soort = schijf.Soort(slot);
-        const bool bezet = soort && *soort != Padsoort::Niets;
-        if (!bezet && !wasBezet)
+        const auto stempel = schijf.NeemStempel(slot);
+        raadsels = stempel ? 0 : raadsels + 1;
+        if (raadsels == 5 || poging == 2 * pogingen)
             return Mislukt(gemaakt);
-        wasBezet = bezet;
-        if (poging % pogingen == 0) // a killed program left it: nobody holds it this long
+        if (stempel && gezien != *stempel) {
+            gezien = *stempel;
+            poging = 0;
+        }
+        if (++poging == pogingen) // a killed program left it: nobody holds it this long
             static_cast<void>(schijf.Verwijder(slot));
         else
             std::this_thread::sleep_for(Slotpoos);
