@@ -67,10 +67,10 @@ frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai 
     auto* cmdSluiten = MaakKnop(u"cmdSluiten"_s, u"Sluiten"_s, u'S', this, &QDialog::accept);
     Onderelkaar({Label1, {lstHandelingen, 1}, Knoppenrij({cmdOngedaan, cmdSluiten})}, this);
     const Maten maten;
-    PasInScherm(this, {maten.Twips(13500), maten.Twips(8400)});
+    PasInScherm(this, {maten.Twips(15000), maten.Twips(8400)});
     Vul();
     for (const auto& [kolom, twips] :
-         {std::pair(Wanneer, 2300), {Wat, 4100}, {Was, 2200}, {Werd, 2200}, {Wie, 1000}})
+         {std::pair(Wanneer, 2900), {Wat, 5000}, {Was, 2200}, {Werd, 2200}, {Wie, 1000}})
         lstHandelingen->setColumnWidth(kolom, maten.Twips(twips));
     lstHandelingen->setFocus();
 }

@@ -112,9 +112,9 @@ void frmLedenAdmin::BouwMenu()
     lblMelding = new Kortlabel(menuBar());
     Noem(lblMelding, u"lblMelding"_s);
     lblMelding->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    menuBar()->setCornerWidget(lblMelding);
+    lblMelding->hide();
     meldtijd_.setSingleShot(true);
-    connect(&meldtijd_, &QTimer::timeout, lblMelding, &QLabel::clear);
+    connect(&meldtijd_, &QTimer::timeout, lblMelding, &QWidget::hide);
 }
 
 QWidget* frmLedenAdmin::BouwBovenkant()

@@ -136,8 +136,12 @@ void frmLedenAdmin::ToonSpeler()
 void frmLedenAdmin::ToonMelding(const QString& tekst)
 {
     constexpr int leestijd = 20'000;
+    // A corner of the menu bar would keep the width of its first text.
+    const int begin = menuBar()->actionGeometry(menuBar()->actions().constLast()).right();
+    lblMelding->setGeometry(menuBar()->rect().adjusted(begin, 0, -maten_.Twips(120), 0));
     lblMelding->setText(tekst);
     lblMelding->setToolTip(Wenk(tekst));
+    lblMelding->show();
     meldtijd_.start(leestijd);
 }
 

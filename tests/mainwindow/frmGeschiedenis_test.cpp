@@ -74,6 +74,8 @@ TEST_F(GeschiedenisTest, EenVerwijderdeSpelerKomtTerugOokNaEenHerstart)
     EXPECT_EQ("Ongedaan maken: Ineke van der Horst-Blaauw verwijderd", Menutekst("actOngedaan"));
     Terug();
     EXPECT_EQ("Ongedaan gemaakt: Ineke van der Horst-Blaauw verwijderd", Melding());
+    EXPECT_TRUE(Label("lblMelding")->isVisible());
+    EXPECT_GE(Label("lblMelding")->width(), Label("lblMelding")->sizeHint().width());
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ("Aantal regels: 50", Aantal());
     Herstart();
@@ -143,6 +145,9 @@ TEST_F(GeschiedenisTest, HetVensterToontOudEnNieuwEnMaaktOokEenEerdereOngedaan)
     InGeschiedenis("actGeschiedenis", [&](QDialog& geschiedenis) {
         auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
         ASSERT_EQ(2, lijst->topLevelItemCount());
+        const int breedte = lijst->columnWidth(0);
+        lijst->resizeColumnToContents(0);
+        EXPECT_GE(breedte, lijst->columnWidth(0));
         lijst->expandItem(lijst->topLevelItem(0));
         EXPECT_EQ((std::vector<std::string>{"Ineke van der Horst-Blaauw (100002)||",
                                             "  Telef|06-00000103|06-1"}),
