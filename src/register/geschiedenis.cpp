@@ -351,7 +351,6 @@ Uitkomst<void> Geschiedenis::OpenBestand()
                 auto nieuw = schijf_.MaakNieuw(pad);
                 if (nieuw) {
                     schrijver_ = std::move(*nieuw);
-                    nummer_ = 0;
                     begonnen_ = false;
                     RuimOp();
                     return schijf_.SyncMapVan(pad);
