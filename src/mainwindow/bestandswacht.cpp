@@ -1,6 +1,7 @@
 #include "mainwindow/bestandswacht.h"
 
 #include <QApplication>
+#include <QThread>
 
 namespace plexoran {
 
@@ -25,9 +26,11 @@ void Bestandswacht::Kijk()
     emit veranderd();
 }
 
-void Bestandswacht::timerEvent(QTimerEvent* /*gebeurtenis*/)
+/// A command that showed a window may hold places in the table until its own loop has ended, which
+/// is after the window has gone.
+void Bestandswacht::KijkAlsHetMag()
 {
-    if (QApplication::activeModalWidget() == nullptr) // else when that window has gone
+    if (QApplication::activeModalWidget() == nullptr && QThread::currentThread()->loopLevel() <= 1)
         Kijk();
 }
 

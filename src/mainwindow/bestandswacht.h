@@ -20,13 +20,15 @@ class Bestandswacht : public QObject {
     void Bewaak(std::vector<Pad> paden);
     /// Looks at once.
     void Kijk();
+    /// The same, unless a command is under way.
+    void KijkAlsHetMag();
 
   signals:
     /// A file is not what it was when it was looked at last.
     void veranderd();
 
   protected:
-    void timerEvent(QTimerEvent* gebeurtenis) override;
+    void timerEvent(QTimerEvent* /*gebeurtenis*/) override { KijkAlsHetMag(); }
 
   private:
     [[nodiscard]] std::vector<std::optional<Stempel>> Stempels() const;

@@ -56,6 +56,8 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
     const Startafloop afloop = LeesBijStart(administratie_, this, mappenIni);
     if (afloop == Startafloop::Mislukt)
         return 1;
+    // Before a question that may stand for long.
+    wacht_.Bewaak({administratie_.mappen.Spelerbestand(), administratie_.mappen.Groepenbestand()});
     if (!MagErbij())
         return 0;
     cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);
@@ -72,7 +74,6 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
     cmdKoppel->hide();
     picP0->Vlak()->setFocus();
     ToonTweedePlaats();
-    wacht_.Bewaak({administratie_.mappen.Spelerbestand(), administratie_.mappen.Groepenbestand()});
     return std::nullopt;
 }
 
@@ -120,8 +121,10 @@ bool frmLedenAdmin::MagErbij()
             {u"Samenwerken"_s, u"Alleen kijken"_s, u"Stoppen"_s});
         if (antwoord == 2)
             return false;
-        if (antwoord == 1)
+        if (antwoord == 1) {
             ZetOpKijken();
+            return true;
+        }
     }
     constexpr int halveMinuut = 30'000;
     connect(&hartslag_, &QTimer::timeout, this, [this] { aanwezigheid_->Meld(); });
@@ -242,7 +245,7 @@ void frmLedenAdmin::changeEvent(QEvent* gebeurtenis)
 {
     QMainWindow::changeEvent(gebeurtenis);
     if (gebeurtenis->type() == QEvent::ActivationChange && isActiveWindow())
-        wacht_.Kijk();
+        wacht_.KijkAlsHetMag();
 }
 
 /// A settings file that cannot be written costs the user little: told once, then kept quiet.

@@ -107,7 +107,8 @@ class frmLedenAdmin : public QMainWindow {
     void ZetTerug();
     void ToonToelichting();
     void Print();
-    void SlaOpEnToon(const QString& klaar = QString());
+    bool SlaOpEnToon(const QString& klaar = QString());
+    [[nodiscard]] bool IsAllesOpgeslagen();
     [[nodiscard]] bool IsRegelGekozen();
 
     Administratie& administratie_;
@@ -117,7 +118,7 @@ class frmLedenAdmin : public QMainWindow {
     Importgeheugen importgeheugen_;
     std::function<bool()> eersteExemplaar_;
     std::optional<Aanwezigheid> aanwezigheid_;
-    QTimer hartslag_;
+    QTimer hartslag_{this};
     bool alleenKijken_ = false;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
 

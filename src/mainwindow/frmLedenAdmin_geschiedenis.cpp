@@ -51,6 +51,8 @@ void frmLedenAdmin::BouwTerugmenu(QMenu* menu)
 
 void frmLedenAdmin::Draai(Handelingsoort soort)
 {
+    if (!IsAllesOpgeslagen()) // or else the last one is not in the history
+        return;
     const auto handeling = administratie_.geschiedenis.Laatste(soort);
     if (handeling)
         DraaiTerug(*handeling, soort);
@@ -62,13 +64,11 @@ void frmLedenAdmin::Draai(Handelingsoort soort)
 
 void frmLedenAdmin::DraaiTerug(const Handeling& handeling, Handelingsoort soort)
 {
-    if (!MagWijzigen())
+    if (!MagWijzigen() || !IsAllesOpgeslagen())
         return;
-    if (isWindowModified())
-        SlaOpEnToon();
-    if (isWindowModified())
-        return;
-    static_cast<void>(opslag_.NeemAndereOver());
+    VolgBestanden();
+    opslag_.Reserve().VoorWijziging();
+    opslag_.Reserve().Meld();
     const Tekst wat = NaarTekst(Woorden(soort)) + ": " + handeling.wat;
     const Noteer noteer(administratie_.geschiedenis, wat, soort, handeling.id);
     QStringList rest;
@@ -80,11 +80,11 @@ void frmLedenAdmin::DraaiTerug(const Handeling& handeling, Handelingsoort soort)
             DraaiBestand(*een, soort, rest);
         spelers = spelers || een->IsSpelerbestand();
     }
-    if (spelers)
-        SlaOpEnToon();
-    noteer.Leg();
+    if (!spelers || SlaOpEnToon()) {
+        noteer.Leg();
+        ToonMelding(NaarQString(wat));
+    }
     wacht_.Kijk(); // names of groups may be others
-    ToonMelding(NaarQString(wat));
     if (!rest.isEmpty())
         MeldLijst(this, QMessageBox::Warning,
                   u"%1, maar niet alles. Dit is sindsdien op een andere manier gewijzigd en "

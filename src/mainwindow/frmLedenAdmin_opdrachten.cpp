@@ -18,8 +18,9 @@
 
 namespace plexoran {
 
-/// Saves, shows what is in the table now, and says `klaar` unless the save failed.
-void frmLedenAdmin::SlaOpEnToon(const QString& klaar)
+/// Saves, shows what is in the table now, and says `klaar` unless the save failed. Whether the
+/// table is on the disk now.
+bool frmLedenAdmin::SlaOpEnToon(const QString& klaar)
 {
     const Opslag opslag = opslag_.SlaOp();
     ToonGroep();
@@ -32,6 +33,13 @@ void frmLedenAdmin::SlaOpEnToon(const QString& klaar)
              u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
              "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
     MeldGeschiedenisfout();
+    return opslag == Opslag::Gelukt;
+}
+
+/// Players who are not saved may still get another key, and no other file may hold theirs.
+bool frmLedenAdmin::IsAllesOpgeslagen()
+{
+    return !isWindowModified() || SlaOpEnToon();
 }
 
 bool frmLedenAdmin::IsRegelGekozen()
@@ -260,6 +268,8 @@ void frmLedenAdmin::VoegSessiespelersToe()
 /// Changes session files only: there is nothing to save in the register.
 void frmLedenAdmin::KoppelZwevenden()
 {
+    if (!IsAllesOpgeslagen())
+        return;
     frmKoppelNBBnr venster(administratie_, this);
     connect(&venster, &frmKoppelNBBnr::begint, this, [this] {
         opslag_.Reserve().Maak("voor koppelen");
@@ -275,6 +285,8 @@ void frmLedenAdmin::OnderhoudParen()
         close();
         return;
     }
+    if (!IsAllesOpgeslagen())
+        return;
     opslag_.Reserve().VoorWijziging(); // the window saves pairs by itself
     opslag_.Reserve().Meld();
     frmParenOnderhoud(administratie_, Groeptekst(), this).exec();

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QTimer>
 
 #include "mainwindow/vensterproef.h"
 
@@ -32,6 +33,15 @@ class AanwezigTest : public Hoofdvensterproef {
             std::count_if(namen.begin(), namen.end(),
                           [](const std::string& naam) { return naam.starts_with("Aanwezig "); }));
     }
+    /// What happens every half minute, happens now.
+    void LaatTijdVoorbijGaan() const
+    {
+        for (auto* klok : venster->findChildren<QTimer*>()) {
+            if (klok->isActive() && klok->interval() == 30'000)
+                klok->start(1);
+        }
+        QTest::qWait(50);
+    }
 };
 
 } // namespace
@@ -51,11 +61,29 @@ TEST_F(AanwezigTest, WieSamenwerktIsZelfAanwezigTotHetEinde)
     VerwachtVraag(u"Samenwerken"_s);
     Start();
     EXPECT_EQ(2, Aanwezigen());
+    for (const std::string& naam : suite.Namen("Spelers")) {
+        if (naam.starts_with("Aanwezig "))
+            std::filesystem::remove(suite.Weg() / "Spelers" / naam);
+    }
+    LaatTijdVoorbijGaan();
+    EXPECT_EQ(1, Aanwezigen());
     VoegToe(u"Nieuweling"_s);
     EXPECT_NE(std::string::npos, suite.Spelers().find("Nieuweling"));
     EXPECT_TRUE(venster->close());
     venster.reset();
-    EXPECT_EQ(1, Aanwezigen());
+    EXPECT_EQ(0, Aanwezigen());
+}
+
+TEST_F(AanwezigTest, WatDeAnderTijdensDeVraagOpslaatStaatErDaarna)
+{
+    wachter.LaatBeslissen([this](const QMessageBox&) {
+        std::string tekst = suite.Spelers();
+        suite.Zet("Spelers/RVDspelers.txt",
+                  tekst.insert(tekst.find("1,100001"), "0,100300,Gr01-,,,Ander,,,,,,,V,,,,,\r\n"));
+        return u"Samenwerken"_s;
+    });
+    Start();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Aantal() == "Aantal regels: 51"; }, 2000));
 }
 
 TEST_F(AanwezigTest, WieAlleenKijktKanNietsWijzigen)
@@ -86,6 +114,8 @@ TEST_F(AanwezigTest, WieAlleenKijktKanNietsWijzigen)
     wachter.Informatie(kijkt);
     DrukMetCtrl(Qt::Key_N);
     wachter.Klaar();
+    LaatTijdVoorbijGaan();
+    EXPECT_EQ(1, Aanwezigen());
     EXPECT_EQ(spelers, suite.Spelers());
     EXPECT_EQ(instellingen, suite.Instellingen());
 }

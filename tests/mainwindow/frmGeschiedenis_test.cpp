@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "mainwindow/vensterproef.h"
+#include "platform/scherm/regellijst.h"
 
 using namespace plexoran;
 
@@ -202,4 +203,52 @@ TEST_F(GeschiedenisTest, WatNietBijgehoudenKanWordenWordtEenKeerGemeld)
     Opdracht("cmdAanm");
     VoegToe(u"Twee"_s);
     EXPECT_NE(std::string::npos, suite.Spelers().find("Twee"));
+}
+
+TEST_F(GeschiedenisTest, WatNogNietIsOpgeslagenGaatAlsEersteTerug)
+{
+    VerwijderRegel(1);
+    const std::string oud = suite.Spelers();
+    schijf.FaalVanaf(1);
+    VerwachtIngave(u"Nieuweling"_s);
+    wachter.Begin(u"De spelers konden niet worden opgeslagen."_s, QMessageBox::Critical,
+                  u"Doorgaan"_s);
+    Opdracht("cmdAanm");
+    schijf.FaalNiet();
+    Terug();
+    EXPECT_EQ("Aantal regels: 49", Aantal());
+    EXPECT_EQ(oud.substr(oud.find('\n')), suite.Spelers().substr(oud.find('\n')));
+}
+
+TEST_F(GeschiedenisTest, WatNietIsOpgeslagenHeetNietOngedaanGemaakt)
+{
+    VoegToe(u"Nieuweling"_s);
+    schijf.Vooraf([](const Pad& pad) { return pad.find("RVDspelers") == Pad::npos; });
+    wachter.Begin(u"De spelers konden niet worden opgeslagen."_s, QMessageBox::Critical,
+                  u"Doorgaan"_s);
+    Terug();
+    EXPECT_EQ("", Melding());
+    EXPECT_EQ("Ongedaan maken: Nieuweling toegevoegd", Menutekst("actOngedaan"));
+}
+
+TEST_F(GeschiedenisTest, SpelersVanEenAnderStaanErNaHetTerugdraaienVanAndereBestanden)
+{
+    KiesGroep(5);
+    Opdracht("cmdParenOnderhoud", [](QDialog& paren) {
+        auto* keus = Vind<QComboBox>(paren, "cmbNBBledengr");
+        keus->setCurrentIndex(0);
+        emit keus->activated(0);
+        Vind<Regellijst>(paren, "L1")->ZetHuidige(0);
+        Vind<Regellijst>(paren, "L2")->ZetHuidige(1);
+        Druk(paren, "cmdOKE");
+        Druk(paren, "cmdEinde");
+    });
+    Herstart();
+    KiesGroep(1);
+    const auto reserves = suite.Namen("Spelers/Reservekopie").size();
+    WijzigVanBuiten("1,100001", "0,100300,Gr01-,,,Ander,,,,,,,V,,,,,\r\n1,100001");
+    Terug();
+    EXPECT_TRUE(Melding().starts_with("Ongedaan gemaakt: Paren van ")) << Melding();
+    EXPECT_EQ("Aantal regels: 51", Aantal());
+    EXPECT_EQ(reserves + 1, suite.Namen("Spelers/Reservekopie").size());
 }

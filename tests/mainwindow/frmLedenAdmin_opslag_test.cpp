@@ -1,7 +1,9 @@
 // Saving that fails, and a file that someone else changed.
 #include <algorithm>
 
+#include <QEventLoop>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "mainwindow/vensterproef.h"
 
@@ -841,4 +843,49 @@ TEST_F(Volgen, EenHalfGeschrevenBestandVerandertNiets)
     suite.Zet("Spelers/RVDspelers.txt", heel.substr(0, heel.size() / 2));
     QTest::qWait(1500);
     EXPECT_EQ(was, Aantal());
+}
+
+TEST_F(Volgen, WatErBijKomtTerwijlEenVensterSluitVerandertGeenAndereSpeler)
+{
+    KiesGroep(1);
+    KiesRegel(9);
+    const std::string key = GekozenSleutel();
+    wachter.Bedien([this](QDialog& ingave) {
+        Schrijf(ingave, "txt1_7", u"06-9"_s);
+        suite.Zet("Spelers/RVDspelers.txt", MetEenErvoor());
+        QObject::connect(&ingave, &QDialog::finished, venster.get(), [this] {
+            QTimerEvent tik(0);
+            QApplication::sendEvent(venster->findChild<Bestandswacht*>(), &tik);
+        });
+        Druk(ingave, "cmdOK");
+    });
+    wachter.Informatie(u"1 speler van een ander programma overgenomen: An Buiten."_s);
+    QEventLoop programma;
+    QTimer::singleShot(0, venster.get(), [&] {
+        Opdracht("cmdWijzig");
+        programma.quit();
+    });
+    programma.exec();
+    const std::string tekst = suite.Spelers();
+    const auto plek = tekst.find(key);
+    EXPECT_NE(std::string::npos, tekst.substr(plek, tekst.find('\r', plek) - plek).find("06-9"));
+}
+
+TEST_F(Volgen, ParenEnZittingenKrijgenGeenSpelersDieNietZijnOpgeslagen)
+{
+    KiesGroep(5);
+    LaatEenReserveMaken();
+    schijf.FaalVanaf(1);
+    VerwachtIngave(u"Nieuweling"_s);
+    wachter.Begin(nietOpgeslagen, QMessageBox::Critical, Doorgaan);
+    Opdracht("cmdAanm");
+    for (const char* knop : {"cmdParenOnderhoud", "cmdKoppel"}) {
+        wachter.Begin(nietOpgeslagen, QMessageBox::Critical, Doorgaan);
+        Opdracht(knop); // and no window
+    }
+    schijf.FaalNiet();
+    Opdracht("cmdKoppel", [this](QDialog& koppelen) {
+        EXPECT_NE(std::string::npos, suite.Spelers().find("Nieuweling"));
+        koppelen.reject();
+    });
 }
