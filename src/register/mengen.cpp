@@ -70,12 +70,17 @@ class Menger {
 
     Menging Meng()
     {
+        plekken_.reserve(static_cast<std::size_t>(ander_.tabel.Rijen() + ons_.tabel.Rijen()));
         for (int rij = 1; rij <= ander_.tabel.Rijen(); ++rij)
             NeemVanAnder(rij);
+        const auto onze = static_cast<std::ptrdiff_t>(plekken_.size());
         NeemOnze();
-        std::stable_sort(plekken_.begin(), plekken_.end(), [](const Plek& een, const Plek& twee) {
+        const auto eerder = [](const Plek& een, const Plek& twee) {
             return std::pair(een.bij, een.erna) < std::pair(twee.bij, twee.erna);
-        });
+        };
+        // The other's are in order.
+        std::stable_sort(plekken_.begin() + onze, plekken_.end(), eerder);
+        std::inplace_merge(plekken_.begin(), plekken_.begin() + onze, plekken_.end(), eerder);
         for (Plek& plek : plekken_) {
             const Tekst nr = std::to_string(uit_.tabel.Rijen() + 1);
             plek.cellen[Index(Kolom::Nr)] = nr;
@@ -242,12 +247,24 @@ class Menger {
     void VoegNieuweToe(const Drie& rijen, int plaats)
     {
         Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
-        if (IsDubbelUitgegeven(rijen) && uit_.HKEY < std::numeric_limits<std::int32_t>::max()) {
+        if (auto nieuw = IsDubbelUitgegeven(rijen) ? NieuweKey() : std::nullopt) {
             Tekstblik& key = ons[Index(Kolom::Key)];
-            uit_.hernummerd.push_back({Tekst(key), std::to_string(++uit_.HKEY)});
+            uit_.hernummerd.push_back({Tekst(key), std::move(*nieuw)});
             key = uit_.hernummerd.back().nu;
         }
         plekken_.push_back({plaats, true, ons});
+    }
+
+    /// One that nobody has, also where a file holds keys above its highest one; none when the keys
+    /// have run out.
+    std::optional<Tekst> NieuweKey()
+    {
+        while (uit_.HKEY < std::numeric_limits<std::int32_t>::max()) {
+            Tekst key = std::to_string(++uit_.HKEY);
+            if (!opKey_.contains(key))
+                return key;
+        }
+        return std::nullopt;
     }
 
     /// Rows with the same contents that the other program does not have, as far as they stay.

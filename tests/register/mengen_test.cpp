@@ -166,6 +166,23 @@ TEST(Mengen, NieuweSpelersMetDezelfdeSleutelWordenErTwee)
     EXPECT_TRUE(uit.botsingen.empty());
 }
 
+/// As in a file whose key line is behind.
+TEST(Mengen, EenNieuweSleutelIsVanNiemandOokNietBovenDeHoogste)
+{
+    Kant ons = drie;
+    ons.HKEY = 100004;
+    ons.rijen.push_back({"100004", "Dirk", "Eik", ""});
+    ons.rijen.push_back({"100005", "Els", "Fuik", ""});
+    Kant ander = drie;
+    ander.HKEY = 100004;
+    ander.rijen.push_back({"100004", "Fie", "Gans", ""});
+    const Menging uit = MengKanten(drie, ons, ander);
+    ASSERT_EQ(uit.hernummerd.size(), 1U);
+    EXPECT_EQ(uit.hernummerd[0].was, "100004");
+    EXPECT_EQ(uit.hernummerd[0].nu, "100006");
+    EXPECT_EQ(uit.HKEY, 100006);
+}
+
 TEST(Mengen, EenSleutelDieElderWeerVerwijderdIsWordtNietNogEensUitgegeven)
 {
     Kant ons = drie;
