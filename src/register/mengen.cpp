@@ -60,6 +60,7 @@ class Menger {
         : basis_(basis), ons_(ons), ander_(ander), voorOns_(voorOns)
     {
         uit_.HKEY = std::max(ons.HKEY, ander.HKEY);
+        opKey_.reserve(static_cast<std::size_t>(ander.tabel.Rijen()));
         Zoek(basis.tabel, &Drie::basis);
         Zoek(ons.tabel, &Drie::ons);
         Zoek(ander.tabel, &Drie::ander);

@@ -11,7 +11,9 @@ using Blikken = std::vector<Tekstblik>;
 /// Each with its line end, so that they joined are the text again.
 Blikken MetEind(Tekstblik tekst)
 {
+    constexpr std::size_t kortsteRegel = 64; // of players, mostly
     Blikken uit;
+    uit.reserve(tekst.size() / kortsteRegel);
     while (!tekst.empty()) {
         const auto eind = std::min(tekst.find('\n'), tekst.size() - 1) + 1;
         uit.push_back(tekst.substr(0, eind));
@@ -28,10 +30,16 @@ class Vergelijker {
 
     Tekst Verschil()
     {
+        if (!alles_ && HeeftSleutelregel(voor_) && HeeftSleutelregel(na_) && !ZelfdeHier()) {
+            // Else all behind it would count as changed.
+            Schrijf('-', voor_[links_++]);
+            Schrijf('+', na_[rechts_++]);
+        }
         while (links_ < voor_.size() && rechts_ < na_.size() && ZelfdeHier())
             Bleef();
         const std::size_t staart = Staart();
-        Tel(staart);
+        if (links_ + staart < voor_.size() && rechts_ + staart < na_.size())
+            Tel(staart);
         while (links_ + staart < voor_.size() || rechts_ + staart < na_.size())
             Stap(staart);
         while (links_ < voor_.size())
@@ -45,6 +53,11 @@ class Vergelijker {
     {
         const auto komma = alles_ ? Tekstblik::npos : regel.find(',');
         return komma == Tekstblik::npos ? regel : regel.substr(komma);
+    }
+
+    static bool HeeftSleutelregel(const Blikken& regels)
+    {
+        return !regels.empty() && regels.front().starts_with("HKEY=");
     }
 
     [[nodiscard]] bool ZelfdeHier() const { return Inhoud(voor_[links_]) == Inhoud(na_[rechts_]); }
@@ -73,13 +86,17 @@ class Vergelijker {
     {
         const bool kanLinks = links_ + staart < voor_.size();
         const bool kanRechts = rechts_ + staart < na_.size();
-        if (kanLinks && kanRechts && ZelfdeHier()) {
+        if (!kanLinks) {
+            Schrijf('+', na_[rechts_++]);
+        } else if (!kanRechts) {
+            Schrijf('-', voor_[links_++]);
+        } else if (ZelfdeHier()) {
             auto& over = over_[Inhoud(voor_[links_])];
             --over.first;
             --over.second;
             Bleef();
-        } else if (kanLinks && (!kanRechts || over_[Inhoud(voor_[links_])].second == 0 ||
-                                over_[Inhoud(na_[rechts_])].first > 0)) {
+        } else if (over_[Inhoud(voor_[links_])].second == 0 ||
+                   over_[Inhoud(na_[rechts_])].first > 0) {
             --over_[Inhoud(voor_[links_])].first;
             Schrijf('-', voor_[links_++]);
         } else {
