@@ -308,3 +308,28 @@ TEST(Opslagfout, AlleenLezenMapOfBestand)
         EXPECT_EQ(schijf.Inhoud(spelerbestand), nieuw);
     }
 }
+
+/// Writing the history may take so long that another program takes the lock for left behind.
+TEST(Opslagfout, WieZijnSlotKwijtraaktVervangtNiets)
+{
+    struct Trage : Getuige {
+        void VoorVervanging(const Pad& /*pad*/, std::optional<Tekstblik> /*nieuw*/) override
+        {
+            schijf.Zet(Pad(spelerbestand) + ".~plexoran0", "");
+        }
+        explicit Trage(GeheugenSchijf& welke) : schijf(welke) {}
+        GeheugenSchijf& schijf;
+    };
+    GeheugenSchijf schijf;
+    Register spelers = Gelezen(schijf, vijfSpelers);
+    spelers.tabel.ZetCel(1, Kolom::Voornaam, "Anna");
+    Trage trage(schijf);
+    schijf.ZetGetuige(&trage);
+    EXPECT_EQ(SoortVan(Bewaar(schijf, spelers)), Foutsoort::Gewijzigd);
+    EXPECT_EQ(schijf.Inhoud(spelerbestand), vijfSpelers);
+    EXPECT_TRUE(schijf.Inhoud(Pad(spelerbestand) + ".~plexoran0")) << "het is van een ander";
+    schijf.ZetGetuige(nullptr);
+    ASSERT_TRUE(schijf.Verwijder(Pad(spelerbestand) + ".~plexoran0"));
+    EXPECT_TRUE(Bewaar(schijf, spelers));
+    EXPECT_EQ(schijf.Inhoud(spelerbestand), SpelersTekst(spelers));
+}

@@ -85,9 +85,10 @@ Uitkomst<Tijdelijk> MaakTijdelijk(Schijf& schijf, const Pad& doel)
     }
 }
 
-/// Does `werk` while a file stands beside `bestand` that only one program at a time can make.
+/// Does `werk` while a file stands beside `bestand` that only one program at a time can make. It is
+/// told how to see whether that is so still: who takes long may be taken for killed.
 Uitkomst<void> OnderSlot(Schijf& schijf, const Pad& bestand,
-                         const std::function<Uitkomst<void>()>& werk)
+                         const std::function<Uitkomst<void>(const std::function<bool()>&)>& werk)
 {
     constexpr int pogingen = 60;
     const Pad slot = Pad(bestand).append(kenmerk).append("0");
@@ -111,8 +112,13 @@ Uitkomst<void> OnderSlot(Schijf& schijf, const Pad& bestand,
         else
             std::this_thread::sleep_for(Slotpoos);
     }
-    auto uitkomst = werk();
-    if (!schijf.Verwijder(slot))
+    const auto eigen = schijf.NeemStempel(slot);
+    const auto isVanOns = [&] {
+        const auto nu = schijf.NeemStempel(slot);
+        return !eigen || (nu ? *nu == *eigen : nu.error().soort != Foutsoort::Ontbreekt);
+    };
+    auto uitkomst = werk(isVanOns);
+    if (isVanOns() && !schijf.Verwijder(slot))
         static_cast<void>(schijf.Verwijder(slot)); // when this fails too, the next one waits
     return uitkomst;
 }
@@ -248,7 +254,7 @@ Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inho
                                   const std::optional<Tekst>& oud)
 {
     const auto ruil = [&](const Pad& nieuw, const Pad& doel) {
-        return OnderSlot(schijf, doel, [&]() -> Uitkomst<void> {
+        return OnderSlot(schijf, doel, [&](const auto& isVanOns) -> Uitkomst<void> {
             const auto nu = AlsErIs(schijf.LeesBestand(doel));
             if (!nu)
                 return Mislukt(nu);
@@ -256,6 +262,8 @@ Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inho
                 return Mislukt({.soort = Foutsoort::Gewijzigd});
             if (schijf.DeGetuige() != nullptr)
                 schijf.DeGetuige()->VoorVervanging(pad, inhoud);
+            if (!isVanOns())
+                return Mislukt({.soort = Foutsoort::Gewijzigd});
             return schijf.Hernoem(nieuw, doel);
         });
     };
