@@ -2,6 +2,8 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 #include "platform/scherm/bouwstenen.h"
 #include "platform/tekst/regels.h"
 
@@ -25,13 +27,27 @@ QString Veld(const std::optional<Rijvelden>& velden, std::size_t kolom)
     return velden ? NaarQString((*velden)[kolom]) : QString();
 }
 
+/// Pairs stand on one line, in the order in which they were made: here each on its own, sorted.
+Tekst OpRegels(Tekst tekst)
+{
+    if (tekst.find('#') == Tekst::npos)
+        return tekst;
+    std::ranges::replace(tekst, '#', '\n');
+    auto paren = Regels(tekst);
+    std::ranges::sort(paren);
+    Tekst uit;
+    for (const Tekstblik paar : paren)
+        uit.append(paar) += '\n';
+    return uit;
+}
+
 /// The lines that only one of two texts has, in their order.
 void OpenRegels(QTreeWidgetItem* regel, const Wijziging& wijziging)
 {
     VoegToe(regel, NaarQString(wijziging.Naam()), wijziging.voor ? u""_s : u"(geen bestand)"_s,
             wijziging.na ? u""_s : u"(geen bestand)"_s);
-    const Tekst verschil =
-        Regelverschil(wijziging.voor.value_or(Tekst()), wijziging.na.value_or(Tekst()), true);
+    const Tekst verschil = Regelverschil(OpRegels(wijziging.voor.value_or(Tekst())),
+                                         OpRegels(wijziging.na.value_or(Tekst())), true);
     for (const Tekstblik een : Regels(verschil)) {
         if (een.starts_with('-'))
             VoegToe(regel, {}, NaarQString(een.substr(1)), {});
@@ -48,8 +64,7 @@ frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai 
       lstHandelingen(new QTreeWidget(this))
 {
     setObjectName(u"frmGeschiedenis"_s);
-    setWindowTitle(key_.empty() ? u"Geschiedenis"_s
-                                : u"Geschiedenis van speler %1"_s.arg(NaarQString(key_)));
+    setWindowTitle(u"Geschiedenis"_s);
     auto* Label1 = MaakLabel(u"Label1"_s,
                              u"Wat er in de administratie is gewijzigd, het laatste bovenaan. Open "
                              "een regel om te zien wat er was en wat het werd."_s,
@@ -70,7 +85,7 @@ frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai 
     PasInScherm(this, {maten.Twips(15000), maten.Twips(8400)});
     Vul();
     for (const auto& [kolom, twips] :
-         {std::pair(Wanneer, 2900), {Wat, 5000}, {Was, 2200}, {Werd, 2200}, {Wie, 1000}})
+         {std::pair(Wanneer, 2900), {Wat, 4700}, {Was, 2100}, {Werd, 2100}, {Wie, 1000}})
         lstHandelingen->setColumnWidth(kolom, maten.Twips(twips));
     lstHandelingen->setFocus();
 }

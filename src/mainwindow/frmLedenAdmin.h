@@ -81,7 +81,7 @@ class frmLedenAdmin : public QMainWindow {
     void DraaiTerug(const Handeling& handeling, Handelingsoort soort);
     void DraaiSpelers(const Wijziging& wijziging, Handelingsoort soort, QStringList& rest);
     void DraaiBestand(const Wijziging& wijziging, Handelingsoort soort, QStringList& rest);
-    void ToonGeschiedenis(const Tekst& key);
+    void ToonGeschiedenis(const Tekst& key, const QString& van = {});
     void ToonSpeler();
     void ToonMelding(const QString& tekst);
     void MeldGeschiedenisfout();

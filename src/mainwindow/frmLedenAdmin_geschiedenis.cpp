@@ -115,12 +115,13 @@ void frmLedenAdmin::DraaiBestand(const Wijziging& wijziging, Handelingsoort soor
         rest << NaarQString(deel);
 }
 
-void frmLedenAdmin::ToonGeschiedenis(const Tekst& key)
+void frmLedenAdmin::ToonGeschiedenis(const Tekst& key, const QString& van)
 {
     frmGeschiedenis venster(
         administratie_, key,
         [this](const Handeling& handeling, Handelingsoort soort) { DraaiTerug(handeling, soort); },
         this);
+    venster.setWindowTitle(venster.windowTitle() + van);
     venster.exec();
 }
 
@@ -129,7 +130,9 @@ void frmLedenAdmin::ToonSpeler()
     if (!IsRegelGekozen())
         return;
     const int rij = picP0->Vlak()->Rijen()[static_cast<std::size_t>(picP0->Vlak()->Regel() - 1)];
-    ToonGeschiedenis(Tekst(administratie_.spelers.tabel.Cel(rij, Kolom::Key)));
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    ToonGeschiedenis(Tekst(tabel.Cel(rij, Kolom::Key)),
+                     u" van "_s + NaarQString(VolleNaam(tabel, rij)));
 }
 
 /// Stays for as long as it takes to read it.

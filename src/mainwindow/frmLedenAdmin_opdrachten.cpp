@@ -311,6 +311,8 @@ void frmLedenAdmin::ZetTerug()
         SlaOpEnToon();
     else if (andereGroepen)
         ToonGroep();
+    if (andereSpelers || andereGroepen)
+        ToonMelding(u"Reservekopie teruggezet"_s);
 }
 
 void frmLedenAdmin::ToonToelichting()

@@ -171,6 +171,27 @@ TEST_F(GeschiedenisTest, HetVensterToontOudEnNieuwEnMaaktOokEenEerdereOngedaan)
     EXPECT_EQ(verwacht, suite.Spelers());
 }
 
+TEST_F(GeschiedenisTest, VanParenStaatErAlleenHetPaarDatAndersWerd)
+{
+    KiesGroep(5);
+    Opdracht("cmdParenOnderhoud", [](QDialog& paren) {
+        auto* cmb = Vind<QComboBox>(paren, "cmbNBBledengr");
+        cmb->setCurrentIndex(cmb->findText(u"Gr05-DINSDAG"_s));
+        emit cmb->activated(cmb->currentIndex());
+        KlikRegel(paren, "L1", "100090");
+        KlikRegel(paren, "L2", "100094");
+        Druk(paren, "cmdOKE");
+        Druk(paren, "cmdEinde");
+    });
+    InGeschiedenis("actGeschiedenis", [](QDialog& geschiedenis) {
+        auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
+        lijst->expandItem(lijst->topLevelItem(0));
+        EXPECT_EQ((std::vector<std::string>{"Parenmap\\Gr05-DINSDAG.txt||", "||100090-100094"}),
+                  Regels(*lijst->topLevelItem(0)));
+        Druk(geschiedenis, "cmdSluiten");
+    });
+}
+
 TEST_F(GeschiedenisTest, VanEenSpelerStaatErAlleenWatHemzelfBetreft)
 {
     VerwijderRegel(3);
@@ -183,6 +204,8 @@ TEST_F(GeschiedenisTest, VanEenSpelerStaatErAlleenWatHemzelfBetreft)
     KiesRegel(2);
     InGeschiedenis("actSpelergeschiedenis", [&](QDialog& geschiedenis) {
         auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
+        EXPECT_EQ("Geschiedenis van Ineke van der Horst-Blaauw",
+                  geschiedenis.windowTitle().toStdString());
         EXPECT_EQ(1, lijst->topLevelItemCount());
         EXPECT_EQ("Ineke van der Horst-Blaauw gewijzigd",
                   lijst->topLevelItem(0)->text(1).toStdString());

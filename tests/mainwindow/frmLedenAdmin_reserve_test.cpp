@@ -140,6 +140,7 @@ TEST_F(Reserveproef, TerugzettenIsEenWijzigingDieWordtOpgeslagen)
     EXPECT_EQ("Aantal regels: 51", Aantal());
     Terugzetten(AllesTerug);
     EXPECT_EQ("Aantal regels: 50", Aantal());
+    EXPECT_EQ("Reservekopie teruggezet", Label("lblMelding")->text().toStdString());
     EXPECT_EQ(Redenen(), (Teksten{"voor eerste wijziging 148", "voor terugzetten 149"}));
     EXPECT_EQ(RegelsVan(suite.Spelers()).size(), RegelsVan(oud).size());
     EXPECT_EQ(RegelsVan(suite.Spelers()).at(0), RegelsVan(nieuw).at(0)) << "HKEY= stays up";
