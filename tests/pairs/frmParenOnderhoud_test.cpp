@@ -507,7 +507,7 @@ TEST_F(frmParenOnderhoudTest, ParenDieErStaanMaarNietVastGaanNietNaarHetKlembord
     KiesDinsdag("100004-100005#\r\n");
     MaakPaar(0, 1);
     QGuiApplication::clipboard()->setText(u"van mij"_s);
-    schijf.FaalBij(13);
+    schijf.FaalBij(16);
     VerwachtNietVast(dinsdag);
     Opdracht("cmdEinde");
     EXPECT_FALSE(venster->isVisible());
