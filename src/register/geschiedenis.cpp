@@ -19,10 +19,6 @@ constexpr std::array<std::pair<Tekstblik, Tekst Mappen::*>, 4> Wortels{
      {"COMMAP", &Mappen::COMMAP},
      {"RVDMAP", &Mappen::RVDMAP}}};
 
-/// In these folders stand copies and what is made for other programs.
-constexpr std::array<Tekstblik, 3> Buiten{"\\Reservekopie\\", "\\Geschiedenis\\",
-                                          "\\DiverseUitvoer\\"};
-
 Pad Geschiedenismap(const Mappen& mappen)
 {
     return Samen(mappen.SPEMAP, "Geschiedenis");
@@ -271,10 +267,6 @@ std::optional<Tekst> Geschiedenis::PlaatsVan(const Pad& pad) const
 {
     if (mappen_ == nullptr || pad == mappen_->Instellingenbestand())
         return std::nullopt;
-    for (const Tekstblik map : Buiten) {
-        if (pad.find(map) != Pad::npos)
-            return std::nullopt;
-    }
     for (const auto& [naam, wortel] : Wortels) {
         const Tekst map = mappen_->*wortel + "\\";
         if (map.size() > 1 && pad.starts_with(map))

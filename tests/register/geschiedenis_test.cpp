@@ -155,7 +155,9 @@ TEST_F(GeschiedenisTest, StaatAlsTekstInEenBestandPerStart)
 TEST_F(GeschiedenisTest, NietsDatVerandertIsGeenHandeling)
 {
     Bewaar("niets");
-    ASSERT_TRUE(SchrijfHeel(schijf, instellingenbestand, "OPTIND=4\r\nLOSTGR=1\r\n"));
+    ASSERT_TRUE(VervangOngewijzigd(schijf, instellingenbestand, "OPTIND=4\r\nLOSTGR=1\r\n",
+                                   schijf.Inhoud(instellingenbestand)));
+    ASSERT_TRUE(SchrijfHeel(schijf, "C:\\club\\Zittingen\\lijst.pdf", "%PDF"));
     ASSERT_TRUE(SchrijfHeel(schijf, "C:\\club\\tussen.csv", "1,2", Houdbaarheid::Vluchtig));
     EXPECT_FALSE(schijf.Bestanden(geschiedenismap));
 }
@@ -166,8 +168,8 @@ TEST_F(GeschiedenisTest, EenAnderBestandStaatErHeelInTotOpDeByte)
     const Tekst nieuw = "N01100001-100005\r\nN02los\nzonder eind";
     {
         const Noteer noteer(*geschiedenis, "Bezig");
-        ASSERT_TRUE(SchrijfHeel(schijf, lijst, nieuw));
-        ASSERT_TRUE(SchrijfHeel(schijf, "C:\\club\\Zittingen\\Maandag\\Nieuw.txt", "a"));
+        ASSERT_TRUE(VervangOngewijzigd(schijf, lijst, nieuw, oud));
+        ASSERT_TRUE(VervangOngewijzigd(schijf, "C:\\club\\Zittingen\\Maandag\\Nieuw.txt", "a", {}));
         geschiedenis->Noem("An Bos gekoppeld in Maandag (1 zitting)");
         geschiedenis->VoorVervanging(lijst, std::nullopt);
     }
@@ -380,8 +382,8 @@ TEST_F(GeschiedenisTest, EenAnderBestandKomtTotOpDeByteTerugAlsNiemandEraanKwam)
     const Pad nieuw = "C:\\club\\Zittingen\\Maandag\\Nieuw.txt";
     {
         const Noteer noteer(*geschiedenis, "gekoppeld");
-        ASSERT_TRUE(SchrijfHeel(schijf, lijst, "anders"));
-        ASSERT_TRUE(SchrijfHeel(schijf, nieuw, "erbij"));
+        ASSERT_TRUE(VervangOngewijzigd(schijf, lijst, "anders", oud));
+        ASSERT_TRUE(VervangOngewijzigd(schijf, nieuw, "erbij", {}));
     }
     const auto handeling = geschiedenis->Laatste(Handelingsoort::Ongedaan).value();
     const auto draai = [&](Handelingsoort soort) {

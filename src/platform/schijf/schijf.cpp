@@ -243,8 +243,6 @@ Uitkomst<void> SchrijfHeel(Schijf& schijf, const Pad& pad, Tekstblik inhoud,
                            Houdbaarheid houdbaarheid)
 {
     const auto ruil = [&](const Pad& nieuw, const Pad& doel) {
-        if (schijf.DeGetuige() != nullptr && houdbaarheid == Houdbaarheid::Blijvend)
-            schijf.DeGetuige()->VoorVervanging(pad, inhoud);
         return schijf.Hernoem(nieuw, doel);
     };
     return Vervang(schijf, pad, inhoud, houdbaarheid, ruil);

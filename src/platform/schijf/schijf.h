@@ -58,7 +58,9 @@ class Schrijver {
     [[nodiscard]] virtual Uitkomst<void> Sluit() = 0;
 };
 
-/// Hears of every file that is about to be replaced for good, when all else has succeeded.
+/// Hears of every file that `VervangOngewijzigd` or `VerwijderBlijvend` is about to change, when
+/// all else has succeeded. What is made for others, such as copies and prints, comes by
+/// `SchrijfHeel`.
 class Getuige {
   public:
     virtual ~Getuige() = default;
