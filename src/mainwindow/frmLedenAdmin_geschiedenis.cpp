@@ -1,5 +1,6 @@
 // Undoing, doing again, and looking back.
 #include <QMenu>
+#include <QMenuBar>
 
 #include "mainwindow/frmGeschiedenis.h"
 #include "mainwindow/frmLedenAdmin.h"

@@ -93,14 +93,16 @@ Uitkomst<void> SchrijfSpelers(Schijf& schijf, const Mappen& mappen, Register& sp
         spelers.HKEY = Sleutelbasis;
 
     const Pad pad = mappen.Spelerbestand();
-    auto oud = spelers.gelezen;
+    std::optional<Tekst> anders; // what somebody else made of the file
     if (overschrijven == Overschrijven::OokGewijzigd) {
         auto nu = AlsErIs(schijf.LeesBestand(pad));
         if (!nu)
             return Mislukt(nu);
-        oud = std::move(*nu);
+        anders = std::move(*nu);
     }
-    const bool kopieNodig = spelers.kopieNodig || oud != spelers.gelezen;
+    const bool isEigen = overschrijven == Overschrijven::AlleenEigen || anders == spelers.gelezen;
+    const std::optional<Tekst>& oud = isEigen ? spelers.gelezen : anders; // it may be large
+    const bool kopieNodig = spelers.kopieNodig || !isEigen;
     if (oud && kopieNodig && spelers.gekopieerd != oud) { // or else before a save that failed
         const auto kopie = MaakReservekopie(schijf, mappen.SPEMAP, pad, *oud);
         if (!kopie)

@@ -143,6 +143,29 @@ Uitkomst<Tekst> EchteSchijf::LeesBegrensd(const Pad& pad)
     return inhoud;
 }
 
+Uitkomst<bool> EchteSchijf::Houdt(const Pad& pad, Tekstblik inhoud)
+{
+    const fs::path waar = Systeempad(pad);
+    Stempel stempel;
+    if (const auto fout = systeem::NeemStempel(waar, stempel))
+        return Mislukt(waar, fout);
+    const systeem::Greep greep(systeem::Open(waar, false));
+    if (!greep || std::setvbuf(greep.get(), nullptr, _IONBF, 0) != 0)
+        return Mislukt(waar, systeem::Laatste());
+    constexpr std::size_t portie = std::size_t{1} << 18U;
+    Tekst deel(portie, '\0');
+    for (;;) {
+        const auto gelezen = std::fread(deel.data(), 1, deel.size(), greep.get());
+        if (std::ferror(greep.get()) != 0)
+            return Mislukt(waar, systeem::Laatste());
+        if (inhoud.substr(0, gelezen) != Tekstblik(deel).substr(0, gelezen))
+            return false;
+        inhoud.remove_prefix(gelezen);
+        if (gelezen < deel.size())
+            return inhoud.empty();
+    }
+}
+
 Uitkomst<Stempel> EchteSchijf::NeemStempel(const Pad& pad)
 {
     const fs::path waar = Systeempad(pad);

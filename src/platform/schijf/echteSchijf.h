@@ -14,6 +14,8 @@ class EchteSchijf : public Schijf {
     /// Refused for what is not a regular file; a pipe or device is not waited for.
     [[nodiscard]] Uitkomst<Tekst> LeesBestand(const Pad& pad) override;
     [[nodiscard]] Uitkomst<Tekst> LeesBegrensd(const Pad& pad) override;
+    /// Part by part: the file may be large, and nothing of it is needed.
+    [[nodiscard]] Uitkomst<bool> Houdt(const Pad& pad, Tekstblik inhoud) override;
     [[nodiscard]] Uitkomst<Stempel> NeemStempel(const Pad& pad) override;
     /// Regular files and links to them.
     [[nodiscard]] Uitkomst<std::vector<Tekst>> Bestanden(const Pad& map) override;

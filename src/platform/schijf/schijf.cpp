@@ -253,10 +253,10 @@ Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inho
 {
     const auto ruil = [&](const Pad& nieuw, const Pad& doel) {
         return OnderSlot(schijf, doel, [&](const auto& isVanOns) -> Uitkomst<void> {
-            const auto nu = AlsErIs(schijf.LeesBestand(doel));
-            if (!nu)
-                return Mislukt(nu);
-            if (*nu && *nu != oud)
+            const auto zelfde = AlsErIs(schijf.Houdt(doel, oud ? *oud : Tekstblik()));
+            if (!zelfde)
+                return Mislukt(zelfde);
+            if (*zelfde && !(oud && **zelfde))
                 return Mislukt({.soort = Foutsoort::Gewijzigd});
             if (schijf.DeGetuige() != nullptr)
                 schijf.DeGetuige()->VoorVervanging(pad, inhoud);

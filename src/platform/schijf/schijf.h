@@ -86,6 +86,11 @@ class Schijf {
     /// The same, but a file that is too large is refused as `Beschadigd` before it fills the
     /// memory.
     [[nodiscard]] virtual Uitkomst<Tekst> LeesBegrensd(const Pad& pad);
+    /// Whether the file holds these bytes and no others.
+    [[nodiscard]] virtual Uitkomst<bool> Houdt(const Pad& pad, Tekstblik inhoud)
+    {
+        return LeesBestand(pad).map([&](const Tekst& nu) { return nu == inhoud; });
+    }
     [[nodiscard]] virtual Uitkomst<Stempel> NeemStempel(const Pad& pad) = 0;
     /// The names of the files in a folder, without their path, in no order. Only names that can
     /// stand in a path of the suite.

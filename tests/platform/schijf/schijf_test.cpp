@@ -98,6 +98,25 @@ TEST_P(SchijfTest, GeschrevenKomtTerug)
     EXPECT_EQ(schijf_.LeesBestand(In("a.txt")), "een\r\ntwee\n");
 }
 
+TEST_P(SchijfTest, HoudtZegtOfErPreciesDatStaat)
+{
+    EXPECT_EQ(Foutsoort::Ontbreekt, SoortVan(schijf_.Houdt(In("weg"), "")));
+    const std::size_t portie = std::size_t{1} << 18U; // that the real disk reads at once
+    for (const std::size_t lengte :
+         {std::size_t{0}, std::size_t{5}, portie - 1, portie, portie + 1}) {
+        const Pad pad = In("lengte" + std::to_string(lengte));
+        Tekst inhoud(lengte, 'a');
+        Schrijf(pad, inhoud);
+        EXPECT_EQ(true, schijf_.Houdt(pad, inhoud)) << lengte;
+        EXPECT_EQ(false, schijf_.Houdt(pad, inhoud + "a")) << lengte;
+        if (lengte > 0) {
+            EXPECT_EQ(false, schijf_.Houdt(pad, Tekstblik(inhoud).substr(1))) << lengte;
+            inhoud.back() = 'b';
+            EXPECT_EQ(false, schijf_.Houdt(pad, inhoud)) << lengte;
+        }
+    }
+}
+
 TEST_P(SchijfTest, SoortPerPad)
 {
     Schrijf(In("a.txt"), "x");
