@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 
 #include "platform/tekst/regels.h"
 
@@ -18,11 +17,6 @@ constexpr std::array<std::pair<Tekstblik, Tekst Mappen::*>, 4> Wortels{
      {"ZITMAP", &Mappen::ZITMAP},
      {"COMMAP", &Mappen::COMMAP},
      {"RVDMAP", &Mappen::RVDMAP}}};
-
-Pad Geschiedenismap(const Mappen& mappen)
-{
-    return Samen(mappen.SPEMAP, "Geschiedenis");
-}
 
 /// What is on a line behind its word.
 std::optional<Tekstblik> Achter(Tekstblik woord, Tekstblik regel)
@@ -194,33 +188,6 @@ std::vector<Handeling> HandelingenUit(Tekstblik inhoud, Tekstblik naam)
     return Lezer(inhoud, naam).Lees();
 }
 
-std::optional<Handeling> LeesHandeling(Schijf& schijf, const Mappen& mappen, const Tekst& id)
-{
-    const Tekst naam = id.substr(0, id.rfind(' '));
-    const auto inhoud = schijf.LeesBestand(Samen(Geschiedenismap(mappen), naam));
-    auto handelingen = HandelingenUit(inhoud.value_or(Tekst()), naam);
-    const auto plek = std::find_if(handelingen.begin(), handelingen.end(),
-                                   [&](const Handeling& een) { return een.id == id; });
-    return plek == handelingen.end() ? std::nullopt : std::optional(std::move(*plek));
-}
-
-void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem)
-{
-    const Pad map = Geschiedenismap(mappen);
-    auto namen = schijf.Bestanden(map).value_or(std::vector<Tekst>());
-    std::sort(namen.begin(), namen.end(), std::greater());
-    for (const Tekst& naam : namen) {
-        const auto inhoud = schijf.LeesBestand(Samen(map, naam));
-        if (!inhoud || !naam.ends_with(Achtervoegsel))
-            continue;
-        auto handelingen = HandelingenUit(*inhoud, naam);
-        for (auto handeling = handelingen.rbegin(); handeling != handelingen.rend(); ++handeling) {
-            if (!neem(*handeling))
-                return;
-        }
-    }
-}
-
 Geschiedenis::~Geschiedenis()
 {
     if (mappen_ != nullptr)
@@ -338,7 +305,7 @@ void Geschiedenis::Schrijf(Tekstblik regels)
 
 Uitkomst<void> Geschiedenis::OpenBestand()
 {
-    const Pad map = Geschiedenismap(*mappen_);
+    const Pad map = mappen_->Geschiedenismap();
     const Pad basis = Samen(map, Tijdtekst("yyyy-MM-dd HHmmss ") + AlsBestandsnaam(computer_));
     Pad pad = basis + Tekst(Achtervoegsel);
     return schijf_.MaakMap(map)
@@ -365,7 +332,7 @@ void Geschiedenis::RuimOp() const
 {
     constexpr std::int64_t dag = 86'400'000'000'000;
     constexpr std::uint64_t meesteBytes = std::uint64_t{200} << 20U;
-    const Pad map = Geschiedenismap(*mappen_);
+    const Pad map = mappen_->Geschiedenismap();
     const Tekst oudste = Tijdtekst("yyyy-MM-dd", Nu() - 400 * dag);
     auto namen = schijf_.Bestanden(map).value_or(std::vector<Tekst>());
     std::sort(namen.begin(), namen.end(), std::greater());
@@ -386,35 +353,6 @@ std::optional<Fout> Geschiedenis::NeemFout()
         return std::nullopt;
     gemeld_ = true;
     return fout_;
-}
-
-std::optional<Handeling> Geschiedenis::Laatste(Handelingsoort soort) const
-{
-    std::optional<Handeling> uit;
-    if (mappen_ == nullptr)
-        return uit;
-    std::set<Tekst> geweest;  ///< what was undone or done again after what comes now
-    std::set<Tekst> ongedaan; ///< and is undone still
-    Tekst laatste;            ///< the last of those
-    LoopTerug(schijf_, *mappen_, [&](Handeling& handeling) {
-        if (handeling.computer != computer_ || handeling.gebruiker != gebruiker_)
-            return true;
-        if (handeling.soort == Handelingsoort::Gewoon) {
-            const bool gezocht = soort == Handelingsoort::Opnieuw
-                                     ? handeling.id == laatste
-                                     : !ongedaan.contains(handeling.id);
-            if (gezocht)
-                uit = std::move(handeling);
-            return !gezocht && (soort == Handelingsoort::Ongedaan || !laatste.empty());
-        }
-        if (geweest.insert(handeling.hoort).second && handeling.soort == Handelingsoort::Ongedaan) {
-            ongedaan.insert(handeling.hoort);
-            if (laatste.empty())
-                laatste = handeling.hoort;
-        }
-        return true;
-    });
-    return uit;
 }
 
 } // namespace plexoran

@@ -27,6 +27,7 @@ struct Mappen {
     [[nodiscard]] Pad Groepenbestand() const { return Samen(SPEMAP, "RVDGroepen.txt"); }
     [[nodiscard]] Pad Instellingenbestand() const { return Samen(ADMMAP, "Plexo.ini"); }
     [[nodiscard]] Pad Parenmap() const { return Samen(SPEMAP, "Parenmap"); }
+    [[nodiscard]] Pad Geschiedenismap() const { return Samen(SPEMAP, "Geschiedenis"); }
     /// The federation export folder.
     [[nodiscard]] Pad Ledenmap() const { return Samen(WINMAP, "NBB4-Leden"); }
 };

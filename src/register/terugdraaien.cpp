@@ -1,6 +1,8 @@
-// Undoing what the history holds, without harm to what was changed since.
+// Looking up what the history holds, and undoing it without harm to what was changed since.
+#include <algorithm>
 #include <limits>
 #include <map>
+#include <set>
 
 #include "register/geschiedenis.h"
 #include "register/itemmenging.h"
@@ -23,6 +25,62 @@ VanNaar(const Wijziging& wijziging, Handelingsoort soort)
 }
 
 } // namespace
+
+std::optional<Handeling> LeesHandeling(Schijf& schijf, const Mappen& mappen, const Tekst& id)
+{
+    const Tekst naam = id.substr(0, id.rfind(' '));
+    const auto inhoud = schijf.LeesBestand(Samen(mappen.Geschiedenismap(), naam));
+    auto handelingen = HandelingenUit(inhoud.value_or(Tekst()), naam);
+    const auto plek = std::find_if(handelingen.begin(), handelingen.end(),
+                                   [&](const Handeling& een) { return een.id == id; });
+    return plek == handelingen.end() ? std::nullopt : std::optional(std::move(*plek));
+}
+
+void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem)
+{
+    const Pad map = mappen.Geschiedenismap();
+    auto namen = schijf.Bestanden(map).value_or(std::vector<Tekst>());
+    std::sort(namen.begin(), namen.end(), std::greater());
+    for (const Tekst& naam : namen) {
+        const auto inhoud = schijf.LeesBestand(Samen(map, naam));
+        if (!inhoud || !naam.ends_with(".txt"))
+            continue;
+        auto handelingen = HandelingenUit(*inhoud, naam);
+        for (auto handeling = handelingen.rbegin(); handeling != handelingen.rend(); ++handeling) {
+            if (!neem(*handeling))
+                return;
+        }
+    }
+}
+
+std::optional<Handeling> Geschiedenis::Laatste(Handelingsoort soort) const
+{
+    std::optional<Handeling> uit;
+    if (mappen_ == nullptr)
+        return uit;
+    std::set<Tekst> geweest;  ///< what was undone or done again after what comes now
+    std::set<Tekst> ongedaan; ///< and is undone still
+    Tekst laatste;            ///< the last of those
+    LoopTerug(schijf_, *mappen_, [&](Handeling& handeling) {
+        if (handeling.computer != computer_ || handeling.gebruiker != gebruiker_)
+            return true;
+        if (handeling.soort == Handelingsoort::Gewoon) {
+            const bool gezocht = soort == Handelingsoort::Opnieuw
+                                     ? handeling.id == laatste
+                                     : !ongedaan.contains(handeling.id);
+            if (gezocht)
+                uit = std::move(handeling);
+            return !gezocht && (soort == Handelingsoort::Ongedaan || !laatste.empty());
+        }
+        if (geweest.insert(handeling.hoort).second && handeling.soort == Handelingsoort::Ongedaan) {
+            ongedaan.insert(handeling.hoort);
+            if (laatste.empty())
+                laatste = handeling.hoort;
+        }
+        return true;
+    });
+    return uit;
+}
 
 std::vector<Verschil> SpelersIn(const Wijziging& wijziging)
 {
