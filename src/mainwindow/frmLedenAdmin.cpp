@@ -53,19 +53,20 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
     eersteExemplaar_ = std::move(eersteExemplaar);
     if (!IsEersteExemplaar())
         return 0;
-    const Startafloop afloop = LeesBijStart(administratie_, this, mappenIni);
-    if (afloop == Startafloop::Mislukt)
+    if (!LeesMappen(administratie_, this, mappenIni))
         return 1;
-    // Before a question that may stand for long.
-    wacht_.Bewaak({administratie_.mappen.Spelerbestand(), administratie_.mappen.Groepenbestand()});
+    // Who else is there comes before anything that is made, mended or put back.
     if (!MagErbij())
         return 0;
+    // Before a question that may stand for long.
+    wacht_.Bewaak({administratie_.mappen.Spelerbestand(), administratie_.mappen.Groepenbestand()});
+    const bool teBewaren = LeesBijStart(administratie_, this, alleenKijken_);
     cmdParenOnderhoud->setVisible(administratie_.mappen.NEWPAGR == 1);
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     const int laatste = administratie_.instellingen.LOSTGR;
     KiesGroep(laatste >= 0 && laatste < AantalGroepen ? laatste : 0);
     // Not before: a display keeps the place of its group.
-    if (afloop == Startafloop::TeBewaren && !alleenKijken_) {
+    if (teBewaren) {
         const Noteer noteer(administratie_.geschiedenis, "Hersteld bij de start");
         SlaOpEnToon();
     }

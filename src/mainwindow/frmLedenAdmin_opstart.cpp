@@ -76,33 +76,6 @@ void BiedTerugzettenAan(Administratie& administratie, QWidget* venster, const Aa
     }
 }
 
-bool LeesMappen(Administratie& administratie, QWidget* venster, const Pad& mappenIni)
-{
-    auto mappen = LeesMappenIni(administratie.schijf, mappenIni);
-    if (!mappen) {
-        const QString wat =
-            mappen.error().soort == Foutsoort::Beschadigd
-                ? u"Het bestand 'Mappen.ini' noemt de map van de spelers niet: er staat geen map "
-                  "achter SPEMAP=."_s
-                : u"Het bestand 'Mappen.ini' kan niet worden gelezen."_s;
-        MeldFout(
-            venster, QMessageBox::Critical,
-            wat + u" Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit programma "
-                  "niet waar ze staan. Zet het goede bestand op deze plaats, of start Plexoran "
-                  "met --mappen en de naam van het bestand."_s,
-            mappen.error());
-        return false;
-    }
-    administratie.mappen = std::move(*mappen);
-    if (const std::string& bezwaar = administratie.mappen.bezwaar; !bezwaar.empty())
-        Meld(venster, QMessageBox::Warning,
-             u"Misschien zijn niet alle regels van 'Mappen.ini' gelezen: %1. Er is niets aan uw "
-             "gegevens veranderd. Sla dat bestand in een tekstprogramma op als ANSI (Windows-1252) "
-             "en start Plexoran opnieuw.\n\nBestand: %2"_s.arg(QString::fromStdString(bezwaar),
-                                                               Toonpad(administratie, mappenIni)));
-    return true;
-}
-
 void MaakLedenmap(Administratie& administratie, QWidget* venster)
 {
     const Mappen& mappen = administratie.mappen;
@@ -157,7 +130,7 @@ void ZoekDataMap(Administratie& administratie, QWidget* venster)
         administratie.DataMap = Samen(dataRoot, "data");
 }
 
-void LeesGroepsnamen(Administratie& administratie, QWidget* venster)
+void MaakGroepsnamen(Administratie& administratie, QWidget* venster)
 {
     const Pad pad = administratie.mappen.Groepenbestand();
     // The players folder holds the group file too, so it must be there before that file is made.
@@ -169,6 +142,10 @@ void LeesGroepsnamen(Administratie& administratie, QWidget* venster)
     BiedTerugzettenAan(administratie, venster, aanmaak, pad, wat);
     if (map)
         MeldAanmaak(venster, aanmaak, wat, u" kon niet worden gemaakt of gelezen."_s);
+}
+
+void LeesGroepsnamen(Administratie& administratie, QWidget* venster)
+{
     administratie.groepen = LeesGroepen(administratie.schijf, administratie.mappen);
     const auto& inhoud = administratie.groepen.bestandstekst;
     if (inhoud && !IsGroepenbestand(*inhoud))
@@ -176,7 +153,7 @@ void LeesGroepsnamen(Administratie& administratie, QWidget* venster)
              u"Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; die zijn "
              "overgeslagen. Voordat het bestand wordt vervangen, komt er een kopie van in de map "
              "Reservekopie. Kijk na of de groepsnamen kloppen.\n\nBestand: "_s +
-                 Toonpad(administratie, pad));
+                 Toonpad(administratie, administratie.mappen.Groepenbestand()));
 }
 
 /// The highest key issued is never raised without this answer.
@@ -207,10 +184,12 @@ struct Registerstart {
     bool geschonden; ///< it was read, but not to its end, or holds no players
 };
 
-Registerstart LeesRegister(Administratie& administratie, QWidget* venster)
+Registerstart LeesRegister(Administratie& administratie, QWidget* venster, bool alleenKijken)
 {
     const auto aanmaak =
-        MaakSpelerbestand(administratie.schijf, administratie.mappen, administratie.spelers);
+        alleenKijken
+            ? Aanmaak()
+            : MaakSpelerbestand(administratie.schijf, administratie.mappen, administratie.spelers);
     const QString wat = u"Het spelerbestand"_s;
     BiedTerugzettenAan(administratie, venster, aanmaak, administratie.mappen.Spelerbestand(), wat);
     const Leesverslag verslag =
@@ -221,7 +200,8 @@ Registerstart LeesRegister(Administratie& administratie, QWidget* venster)
     MeldLezing(venster, administratie.spelers.tabel, verslag, Leesmoment::Start);
     const std::int32_t hoogste =
         std::max(HoogsteSleutel(administratie.spelers.tabel), verslag.hoogsteWeggelaten);
-    return {VraagHogereSleutel(administratie, venster, hoogste) && verslag.AlleSpelersGelezen(),
+    return {!alleenKijken && VraagHogereSleutel(administratie, venster, hoogste) &&
+                verslag.AlleSpelersGelezen(),
             !verslag.NietGeopend() && (verslag.fout || administratie.spelers.tabel.Rijen() == 0)};
 }
 
@@ -260,21 +240,51 @@ void KiesRekenprogramma(Administratie& administratie, QWidget* venster)
         administratie.rekenprogramma.ProgrammaCode = vorige;
 }
 
-Startafloop LeesBijStart(Administratie& administratie, QWidget* venster, const Pad& mappenIni)
+bool LeesMappen(Administratie& administratie, QWidget* venster, const Pad& mappenIni)
 {
-    if (!LeesMappen(administratie, venster, mappenIni))
-        return Startafloop::Mislukt;
-    MaakLedenmap(administratie, venster);
-    RuimRestenOp(administratie);
+    auto mappen = LeesMappenIni(administratie.schijf, mappenIni);
+    if (!mappen) {
+        const QString wat =
+            mappen.error().soort == Foutsoort::Beschadigd
+                ? u"Het bestand 'Mappen.ini' noemt de map van de spelers niet: er staat geen map "
+                  "achter SPEMAP=."_s
+                : u"Het bestand 'Mappen.ini' kan niet worden gelezen."_s;
+        MeldFout(
+            venster, QMessageBox::Critical,
+            wat + u" Uw gegevens zijn niet veranderd, maar zonder dat bestand weet dit programma "
+                  "niet waar ze staan. Zet het goede bestand op deze plaats, of start Plexoran "
+                  "met --mappen en de naam van het bestand."_s,
+            mappen.error());
+        return false;
+    }
+    administratie.mappen = std::move(*mappen);
+    if (const std::string& bezwaar = administratie.mappen.bezwaar; !bezwaar.empty())
+        Meld(venster, QMessageBox::Warning,
+             u"Misschien zijn niet alle regels van 'Mappen.ini' gelezen: %1. Er is niets aan uw "
+             "gegevens veranderd. Sla dat bestand in een tekstprogramma op als ANSI (Windows-1252) "
+             "en start Plexoran opnieuw.\n\nBestand: %2"_s.arg(QString::fromStdString(bezwaar),
+                                                               Toonpad(administratie, mappenIni)));
+    return true;
+}
+
+bool LeesBijStart(Administratie& administratie, QWidget* venster, bool alleenKijken)
+{
+    if (!alleenKijken) {
+        MaakLedenmap(administratie, venster);
+        RuimRestenOp(administratie);
+    }
     LeesInstellingenbestand(administratie, venster);
     ZoekDataMap(administratie, venster);
+    if (!alleenKijken)
+        MaakGroepsnamen(administratie, venster);
     LeesGroepsnamen(administratie, venster);
-    const auto [teBewaren, geschonden] = LeesRegister(administratie, venster);
+    const auto [teBewaren, geschonden] = LeesRegister(administratie, venster, alleenKijken);
     MeldLosseSleutels(administratie, venster);
+    if (alleenKijken)
+        return false;
     // What the start makes or puts back so far was no command of the user.
     administratie.geschiedenis.Open(administratie.mappen, Computernaam(), Gebruikersnaam());
-    const bool hersteld = geschonden && BiedReservesAan(administratie, venster);
-    return teBewaren || hersteld ? Startafloop::TeBewaren : Startafloop::Gelezen;
+    return (geschonden && BiedReservesAan(administratie, venster)) || teBewaren;
 }
 
 } // namespace plexoran

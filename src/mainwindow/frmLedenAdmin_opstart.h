@@ -12,12 +12,12 @@ namespace plexoran {
 /// still the one read.
 void KiesRekenprogramma(Administratie& administratie, QWidget* venster);
 
-/// `TeBewaren`: the highest key was raised or players were put back, which is to be saved at once.
-enum class Startafloop { Mislukt, Gelezen, TeBewaren };
+/// Reads where the folders are; whether the program can go on.
+[[nodiscard]] bool LeesMappen(Administratie& administratie, QWidget* venster, const Pad& mappenIni);
 
 /// All that the program works on is made, mended and read, in a fixed order, before the main window
-/// shows it.
-[[nodiscard]] Startafloop LeesBijStart(Administratie& administratie, QWidget* venster,
-                                       const Pad& mappenIni);
+/// shows it; for who only looks it is read as it stands. Whether the register is to be saved at
+/// once: the highest key was raised, or players were put back.
+[[nodiscard]] bool LeesBijStart(Administratie& administratie, QWidget* venster, bool alleenKijken);
 
 } // namespace plexoran

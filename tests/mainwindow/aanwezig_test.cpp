@@ -74,16 +74,20 @@ TEST_F(AanwezigTest, WieSamenwerktIsZelfAanwezigTotHetEinde)
     EXPECT_EQ(0, Aanwezigen());
 }
 
-TEST_F(AanwezigTest, WatDeAnderTijdensDeVraagOpslaatStaatErDaarna)
+/// At the first question nothing was read yet, at the second one the players were.
+TEST_F(AanwezigTest, WatDeAnderTijdensEenVraagOpslaatStaatErDaarna)
 {
-    wachter.LaatBeslissen([this](const QMessageBox&) {
+    wachter.LaatBeslissen([this](const QMessageBox& vraag) {
+        const bool eerste = vraag.text().startsWith(u"Er werkt al iemand"_s);
         std::string tekst = suite.Spelers();
-        suite.Zet("Spelers/RVDspelers.txt",
-                  tekst.insert(tekst.find("1,100001"), "0,100300,Gr01-,,,Ander,,,,,,,V,,,,,\r\n"));
-        return u"Samenwerken"_s;
+        suite.Zet(
+            "Spelers/RVDspelers.txt",
+            tekst.insert(tekst.find("1,100001"), std::string(eerste ? "0,100300" : "0,100301") +
+                                                     ",Gr01-,,,Ander,,,,,,,V,,,,,\r\n"));
+        return eerste ? u"Samenwerken"_s : u"Niet verhogen"_s;
     });
     Start();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Aantal() == "Aantal regels: 51"; }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Aantal() == "Aantal regels: 52"; }, 2000));
 }
 
 TEST_F(AanwezigTest, WieAlleenKijktKanNietsWijzigen)

@@ -348,6 +348,17 @@ class Aanbod : public Opstartproef {
                           .icoon = QMessageBox::Question,
                           .knoppen = {u"Reservekopieën bekijken"_s, u"Zo verdergaan"_s}});
     }
+    /// Somebody else has the register open.
+    void ZetAndere()
+    {
+        geheugen.Zet("C:\\RVD\\Spelers\\Aanwezig Kamer wil.txt",
+                     "Kamer 2\r\nwil\r\n02-11-2026 19:04\r\n");
+    }
+    void VerwachtAndere(const QString& antwoord)
+    {
+        wachter.Begin(u"Er werkt al iemand met deze administratie:"_s, QMessageBox::Warning,
+                      antwoord);
+    }
 };
 
 } // namespace
@@ -398,4 +409,42 @@ TEST_F(Aanbod, GeenVraagZonderBruikbareReserveOfMetEenGoedRegister)
     ZetReserve();
     ZetSpelers(goed);
     Lees();
+}
+
+TEST_F(Aanbod, WieSamenwerktWeetEerstWieErIs)
+{
+    ZetReserve();
+    ZetAndere();
+    VerwachtAndere(u"Samenwerken"_s);
+    VerwachtVraag(u"Zo verdergaan"_s);
+    Start();
+}
+
+TEST_F(Aanbod, WieStoptKrijgtGeenVraagMeer)
+{
+    ZetReserve();
+    ZetAndere();
+    VerwachtAndere(u"Stoppen"_s);
+    EXPECT_EQ(0, Laad());
+    EXPECT_EQ(Spelers(), std::nullopt);
+}
+
+TEST_F(Aanbod, WieAlleenKijktKrijgtGeenVraagEnMaaktNiets)
+{
+    const std::string kapot =
+        "HKEY=100001\r\n1,100002,Gr01-,,,Bos,,,,,,,V,,,,,\r\n1,100001,G,,,Cock";
+    ZetReserve();
+    ZetAndere();
+    ZetSpelers(kapot);
+    ZetGroepen("   \r\nGr01-Clubleden\r\n");
+    const std::size_t bestanden = geheugen.AlleBestanden().size();
+    VerwachtAndere(u"Alleen kijken"_s);
+    wachter.Begin(u"Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn"_s,
+                  QMessageBox::Information);
+    VerwachtNietTotHetEinde(1, 6, 3);
+    Start();
+    EXPECT_EQ("Aantal regels: 1", Aantal());
+    EXPECT_EQ(Spelers(), kapot);
+    EXPECT_EQ(Groepen(), "   \r\nGr01-Clubleden\r\n");
+    EXPECT_EQ(geheugen.AlleBestanden().size(), bestanden);
 }

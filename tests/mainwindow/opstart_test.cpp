@@ -61,7 +61,7 @@ TEST_F(Opstartproef, EenMappenIniZonderSpelersmapEindigtMetStatusEen)
                  (inhoud.find('\0') == std::string::npos ? QString()
                                                          : u"\nOorzaak: er staan NUL-tekens in"_s),
              .icoon = QMessageBox::Critical});
-        Lees(Startafloop::Mislukt);
+        Lees(false);
         EXPECT_EQ(std::vector<Pad>{"C:\\RVD\\Mappen.ini"}, geheugen.AlleBestanden());
     }
 }

@@ -86,9 +86,12 @@ class Opstartproef : public Vensterproef {
     ~Opstartproef() override { venster.reset(); }
 
     /// The start-up alone, without a window.
-    void Lees(Startafloop moet = Startafloop::Gelezen)
+    void Lees(bool gelukt = true)
     {
-        EXPECT_EQ(moet, LeesBijStart(administratie, &hoofd, "C:\\RVD\\Mappen.ini"));
+        EXPECT_EQ(gelukt, LeesMappen(administratie, &hoofd, "C:\\RVD\\Mappen.ini"));
+        if (gelukt) {
+            EXPECT_FALSE(LeesBijStart(administratie, &hoofd, false)) << "nothing to be saved";
+        }
         wachter.Klaar();
     }
     /// With the window that shows what was read.
