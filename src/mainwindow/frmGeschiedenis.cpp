@@ -65,10 +65,10 @@ frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai 
 {
     setObjectName(u"frmGeschiedenis"_s);
     setWindowTitle(u"Geschiedenis"_s);
-    auto* Label1 = MaakLabel(u"Label1"_s,
-                             u"Wat er in de administratie is gewijzigd, het laatste bovenaan. Open "
-                             "een regel om te zien wat er was en wat het werd."_s,
-                             this);
+    Label1 = MaakLabel(u"Label1"_s,
+                       u"Wat er in de administratie is gewijzigd, het laatste bovenaan. Open "
+                       "een regel om te zien wat er was en wat het werd."_s,
+                       this);
     Label1->setWordWrap(true);
     Noem(lstHandelingen, u"lstHandelingen"_s, u"Handelingen"_s);
     lstHandelingen->setHeaderLabels(
@@ -112,7 +112,9 @@ void frmGeschiedenis::Vul()
     ongedaan_.clear();
     std::set<Tekst> geweest; // the last word on an entry counts, and comes first
     LoopTerug(administratie_.schijf, administratie_.mappen, [&](Handeling& handeling) {
-        if (handeling.soort != Handelingsoort::Gewoon && geweest.insert(handeling.hoort).second &&
+        const bool draaide = // else nothing could be undone
+            handeling.soort != Handelingsoort::Gewoon && !handeling.wijzigingen.empty();
+        if (draaide && geweest.insert(handeling.hoort).second &&
             handeling.soort == Handelingsoort::Ongedaan)
             ongedaan_.insert(handeling.hoort);
         if (!IsGekozen(handeling))
@@ -132,6 +134,9 @@ void frmGeschiedenis::Vul()
     });
     lstHandelingen->sortItems(Wanneer, Qt::DescendingOrder); // those of several computers
     lstHandelingen->setCurrentItem(lstHandelingen->topLevelItem(0));
+    if (lstHandelingen->topLevelItemCount() == 0)
+        Label1->setText(key_.empty() ? u"Er is nog niets vastgelegd."_s
+                                     : u"Van deze speler is nog niets vastgelegd."_s);
     Kies();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -35,6 +36,7 @@ class frmGeschiedenis : public QDialog {
     Draai draai_;
     std::set<Tekst> ongedaan_; ///< the ids of what is undone now
 
+    QLabel* Label1;
     QTreeWidget* lstHandelingen;
     QPushButton* cmdOngedaan;
 };

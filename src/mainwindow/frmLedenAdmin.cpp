@@ -4,6 +4,8 @@
 #include <QCloseEvent>
 #include <QStatusBar>
 
+#include <algorithm>
+
 #include "dialogs/diaSortlijst.h"
 #include "dialogs/frmTerugzetten.h"
 #include "dialogs/groepswerk.h"
@@ -170,6 +172,39 @@ void frmLedenAdmin::KiesGroep(int plaats)
     cmbGr->setCurrentIndex(plaats);
 }
 
+/// In the drop-down; -1 for none of the fifty.
+int frmLedenAdmin::PlaatsVan(Tekstblik groepscode)
+{
+    int plaats = AantalGroepen - 1;
+    while (plaats >= 0 && Groepscode(plaats + 1) != groepscode)
+        --plaats;
+    return plaats;
+}
+
+/// When he is in the group that is shown.
+void frmLedenAdmin::KiesSpeler(const Tekst& key)
+{
+    Roostervlak& vlak = *picP0->Vlak();
+    const auto plek = std::ranges::find_if(vlak.Rijen(), [&](int rij) {
+        return administratie_.spelers.tabel.Cel(rij, Kolom::Key) == key;
+    });
+    if (!key.empty() && plek != vlak.Rijen().end())
+        vlak.KiesRegel(static_cast<int>(plek - vlak.Rijen().begin()) + 1);
+}
+
+/// Empty when nobody is chosen.
+Tekst frmLedenAdmin::GekozenKey() const
+{
+    const int rij = GekozenRij();
+    return rij == 0 ? Tekst() : Tekst(administratie_.spelers.tabel.Cel(rij, Kolom::Key));
+}
+
+int frmLedenAdmin::GekozenRij() const
+{
+    const Roostervlak& vlak = *picP0->Vlak();
+    return vlak.Regel() == 0 ? 0 : vlak.Rijen()[static_cast<std::size_t>(vlak.Regel() - 1)];
+}
+
 void frmLedenAdmin::ToonGroep()
 {
     const Tekst groeptekst = Groeptekst();
@@ -208,21 +243,13 @@ void frmLedenAdmin::ToonGroep()
 
 void frmLedenAdmin::VolgBestanden()
 {
-    Roostervlak& vlak = *picP0->Vlak();
-    const Spelertabel& tabel = administratie_.spelers.tabel;
-    const auto keyOp = [&](int regel) {
-        return Tekst(tabel.Cel(vlak.Rijen()[static_cast<std::size_t>(regel - 1)], Kolom::Key));
-    };
-    const Tekst gekozen = vlak.Regel() > 0 ? keyOp(vlak.Regel()) : Tekst();
+    const Tekst gekozen = GekozenKey();
     const bool andereSpelers = opslag_.NeemAndereOver();
     if (!VolgGroepsnamen() && !andereSpelers)
         return;
     const int hoogte = picP0->Staand().value();
     ToonGroep();
-    for (int regel = 1; !gekozen.empty() && vlak.Regel() == 0 && regel <= vlak.Regels(); ++regel) {
-        if (keyOp(regel) == gekozen)
-            vlak.KiesRegel(regel);
-    }
+    KiesSpeler(gekozen);
     picP0->Staand().setValue(hoogte);
 }
 

@@ -20,6 +20,7 @@
 #include "mainwindow/rooster.h"
 #include "platform/scherm/maten.h"
 #include "register/aanwezigheid.h"
+#include "register/herstel.h"
 
 class QLayout;
 class QMenu;
@@ -70,6 +71,10 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] bool VolgGroepsnamen();
     void ToonTweedePlaats();
     void KiesGroep(int plaats);
+    [[nodiscard]] static int PlaatsVan(Tekstblik groepscode);
+    void KiesSpeler(const Tekst& key);
+    [[nodiscard]] Tekst GekozenKey() const;
+    [[nodiscard]] int GekozenRij() const;
     [[nodiscard]] Tekst Groeptekst() const;
     void BewaarInstellingen();
     void ToonSorteerlijst(Sorteersoort soort);
@@ -80,7 +85,8 @@ class frmLedenAdmin : public QMainWindow {
     void Draai(Handelingsoort soort);
     void DraaiTerug(const Handeling& handeling, Handelingsoort soort);
     void DraaiSpelers(const Wijziging& wijziging, Handelingsoort soort, QStringList& rest);
-    void DraaiBestand(const Wijziging& wijziging, Handelingsoort soort, QStringList& rest);
+    [[nodiscard]] bool DraaiBestand(const Wijziging& wijziging, Handelingsoort soort,
+                                    QStringList& rest);
     void ToonGeschiedenis(const Tekst& key, const QString& van = {});
     void ToonSpeler();
     void ToonMelding(const QString& tekst);
@@ -108,6 +114,7 @@ class frmLedenAdmin : public QMainWindow {
     void ToonToelichting();
     void Print();
     bool SlaOpEnToon(const QString& klaar = QString());
+    bool SlaOpEnKies(const std::vector<Rijverschil>& verschillen, Tekst gekozen);
     [[nodiscard]] bool IsAllesOpgeslagen();
     [[nodiscard]] bool IsRegelGekozen();
 

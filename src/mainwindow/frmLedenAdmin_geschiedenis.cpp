@@ -22,11 +22,6 @@ QString Menutekst(const QString& wat, const std::optional<Handeling>& handeling)
     return wat + u": "_s + ZonderSneltoets(naam);
 }
 
-QString Woorden(Handelingsoort soort)
-{
-    return soort == Handelingsoort::Ongedaan ? u"Ongedaan gemaakt"_s : u"Opnieuw gedaan"_s;
-}
-
 } // namespace
 
 /// What they would do is looked up when the menu opens; their keys work always.
@@ -70,26 +65,38 @@ void frmLedenAdmin::DraaiTerug(const Handeling& handeling, Handelingsoort soort)
     VolgBestanden();
     opslag_.Reserve().VoorWijziging();
     opslag_.Reserve().Meld();
-    const Tekst wat = NaarTekst(Woorden(soort)) + ": " + handeling.wat;
-    const Noteer noteer(administratie_.geschiedenis, wat, soort, handeling.id);
+    const QString woorden =
+        soort == Handelingsoort::Ongedaan ? u"ongedaan gemaakt"_s : u"opnieuw gedaan"_s;
+    const QString wat = u": "_s + NaarQString(handeling.wat);
+    QString kop = woorden.at(0).toUpper() + woorden.mid(1);
+    const Noteer noteer(administratie_.geschiedenis, NaarTekst(kop + wat), soort, handeling.id);
     QStringList rest;
-    bool spelers = false;
+    const Tekst gekozen = GekozenKey();
+    const Spelertabel was = administratie_.spelers.tabel;
+    bool iets = false; // came out otherwise
     for (auto een = handeling.wijzigingen.rbegin(); een != handeling.wijzigingen.rend(); ++een) {
         if (een->IsSpelerbestand())
             DraaiSpelers(*een, soort, rest);
         else
-            DraaiBestand(*een, soort, rest);
-        spelers = spelers || een->IsSpelerbestand();
+            iets = DraaiBestand(*een, soort, rest) || iets;
     }
-    if (!spelers || SlaOpEnToon()) {
+    const auto verschillen = Verschillen(administratie_.spelers.tabel, was);
+    iets = iets || !verschillen.empty() || rest.isEmpty();
+    if (!iets) {
+        kop = u"Niet "_s + woorden;
+        administratie_.geschiedenis.Noem(NaarTekst(kop + wat));
+    }
+    if (SlaOpEnKies(verschillen, gekozen)) {
         noteer.Leg();
-        ToonMelding(NaarQString(wat));
+        ToonMelding(kop + wat);
     }
     wacht_.Kijk(); // names of groups may be others
     if (!rest.isEmpty())
-        MeldLijst(this, QMessageBox::Warning,
-                  u"%1, maar niet alles. Dit is sindsdien op een andere manier gewijzigd en "
-                  "gebleven zoals het is:\n\n%2"_s.arg(Woorden(soort), rest.join(u'\n')));
+        MeldLijst(
+            this, QMessageBox::Warning,
+            u"%1. Dit is sindsdien op een andere manier gewijzigd en gebleven zoals het "
+            "is:\n\n%2"_s.arg(iets ? kop + u", maar niet alles"_s : u"Er is niets "_s + woorden,
+                              rest.join(u'\n')));
     MeldGeschiedenisfout();
 }
 
@@ -103,17 +110,21 @@ void frmLedenAdmin::DraaiSpelers(const Wijziging& wijziging, Handelingsoort soor
     spelers.tabel = std::move(menging.tabel);
 }
 
-void frmLedenAdmin::DraaiBestand(const Wijziging& wijziging, Handelingsoort soort,
+/// Whether the file is another now.
+bool frmLedenAdmin::DraaiBestand(const Wijziging& wijziging, Handelingsoort soort,
                                  QStringList& rest)
 {
-    const auto gedaan =
-        DraaiBestandTerug(administratie_.schijf, administratie_.mappen, wijziging, soort);
-    if (!gedaan) {
+    Schijf& schijf = administratie_.schijf;
+    const auto inhoud = [&] {
+        return LeesAlsErIs(schijf, wijziging.PadIn(administratie_.mappen)).value_or(std::nullopt);
+    };
+    const auto was = inhoud();
+    const auto gedaan = DraaiBestandTerug(schijf, administratie_.mappen, wijziging, soort);
+    if (!gedaan)
         rest << NaarQString(wijziging.Naam()) + u'\n' + Bijzonderheden(gedaan.error());
-        return;
-    }
-    for (const Tekst& deel : *gedaan)
+    for (const Tekst& deel : gedaan.value_or(std::vector<Tekst>()))
         rest << NaarQString(deel);
+    return inhoud() != was;
 }
 
 void frmLedenAdmin::ToonGeschiedenis(const Tekst& key, const QString& van)
@@ -130,10 +141,15 @@ void frmLedenAdmin::ToonSpeler()
 {
     if (!IsRegelGekozen())
         return;
-    const int rij = picP0->Vlak()->Rijen()[static_cast<std::size_t>(picP0->Vlak()->Regel() - 1)];
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    ToonGeschiedenis(Tekst(tabel.Cel(rij, Kolom::Key)),
-                     u" van "_s + NaarQString(VolleNaam(tabel, rij)));
+    const QString naam = NaarQString(VolleNaam(tabel, GekozenRij()));
+    const Tekst key = GekozenKey();
+    if (key.empty())
+        Meld(this, QMessageBox::Information,
+             u"%1 heeft geen sleutel. Daarom is niet te zeggen wat er van deze speler is "
+             "gewijzigd."_s.arg(naam));
+    else
+        ToonGeschiedenis(key, u" van "_s + naam);
 }
 
 /// Stays for as long as it takes to read it.

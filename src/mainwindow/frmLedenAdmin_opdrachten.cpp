@@ -36,6 +36,24 @@ bool frmLedenAdmin::SlaOpEnToon(const QString& klaar)
     return opslag == Opslag::Gelukt;
 }
 
+/// The same after players came, changed or went, if any did. The first who is there now is chosen,
+/// in his own group; without one, who was chosen stays so.
+bool frmLedenAdmin::SlaOpEnKies(const std::vector<Rijverschil>& verschillen, Tekst gekozen)
+{
+    if (verschillen.empty())
+        return true;
+    int plaats = -1;
+    if (const int rij = verschillen.front().nu; rij > 0) { // those who went come last
+        gekozen = verschillen.front().key;
+        plaats = PlaatsVan(administratie_.spelers.tabel.Cel(rij, Kolom::Groep));
+    }
+    const bool opgeslagen = SlaOpEnToon();
+    if (plaats >= 0)
+        cmbGr->setCurrentIndex(plaats);
+    KiesSpeler(gekozen);
+    return opgeslagen;
+}
+
 /// Players who are not saved may still get another key, and no other file may hold theirs.
 bool frmLedenAdmin::IsAllesOpgeslagen()
 {
@@ -86,9 +104,8 @@ void frmLedenAdmin::Wijzig()
 {
     if (!MagWijzigen() || !IsRegelGekozen())
         return;
-    const int regel = picP0->Vlak()->Regel();
     Ingave ingave;
-    ingave.rij = picP0->Vlak()->Rijen()[static_cast<std::size_t>(regel - 1)];
+    ingave.rij = GekozenRij();
     ingave.IngaveVelden = administratie_.spelers.tabel.Velden(ingave.rij);
     if (!ToonIngave(ingave))
         return;
@@ -231,11 +248,7 @@ void frmLedenAdmin::VerwijderGroep()
 /// Members in a group that is none of the fifty would never be seen again.
 void frmLedenAdmin::HaalNBBnamen()
 {
-    const Tekst& importgroep = administratie_.mappen.DFIMPG;
-    bool bestaat = false;
-    for (int nummer = 1; nummer <= AantalGroepen; ++nummer)
-        bestaat = bestaat || Groepscode(nummer) == importgroep;
-    if (!bestaat) {
+    if (PlaatsVan(administratie_.mappen.DFIMPG) < 0) {
         Meld(this, QMessageBox::Warning,
              u"Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat achter DFIMPG= "
              "niet in welke groep ze komen, zoals Gr05-. Er is niets veranderd. Vul die groep in "
@@ -305,10 +318,12 @@ void frmLedenAdmin::Controleer()
 void frmLedenAdmin::ZetTerug()
 {
     const Noteer noteer(administratie_.geschiedenis, "Reservekopie teruggezet");
+    const Tekst gekozen = GekozenKey();
+    const Spelertabel was = administratie_.spelers.tabel;
     const bool andereSpelers = ZetReserveTerug(administratie_, opslag_.Reserve(), this);
     const bool andereGroepen = VolgGroepsnamen();
     if (andereSpelers)
-        SlaOpEnToon();
+        SlaOpEnKies(Verschillen(administratie_.spelers.tabel, was), gekozen);
     else if (andereGroepen)
         ToonGroep();
     if (andereSpelers || andereGroepen)

@@ -117,6 +117,24 @@ TEST_F(GeschiedenisTest, ElkeOpdrachtHeeftZijnNaam)
 
 TEST_F(GeschiedenisTest, WatEenAnderSindsdienDeedBlijftEnWordtGenoemd)
 {
+    const std::string eerste = RegelsVan(suite.Spelers()).at(2);
+    Keus("cmbVerwTot")->setCurrentIndex(1);
+    wachter.Verwacht({.tekst = u"\t\tLET OP!"_s, .titel = u"Verwijderen"_s, .alleenBegin = true});
+    wachter.Informatie(u"De regels zijn verwijderd."_s);
+    Opdracht("cmdVerwijderVT");
+    WijzigVanBuiten("HKEY=100171\r\n", "HKEY=100171\r\n1,100001,Gr01-,,,Anders,,,,,,,V,,,,,\r\n");
+    wachter.Verwacht({.tekst = u"Ongedaan gemaakt, maar niet alles. Dit is sindsdien op een andere "
+                               "manier gewijzigd en gebleven zoals het is:\n\nWillem van der Horst "
+                               "(100001)"_s,
+                      .icoon = QMessageBox::Warning});
+    Terug();
+    EXPECT_EQ("Ongedaan gemaakt: Regels 1 t/m 2 verwijderd", Melding());
+    EXPECT_NE(std::string::npos, suite.Spelers().find(",Anders,"));
+    EXPECT_EQ(eerste, RegelsVan(suite.Spelers()).at(2));
+}
+
+TEST_F(GeschiedenisTest, WaarNietsTerugKanIsNietsOngedaanGemaakt)
+{
     KiesRegel(1);
     wachter.Bedien([](QDialog& ingave) {
         Schrijf(ingave, "txt1_7", u"06-1"_s);
@@ -125,12 +143,77 @@ TEST_F(GeschiedenisTest, WatEenAnderSindsdienDeedBlijftEnWordtGenoemd)
     });
     Opdracht("cmdWijzig");
     WijzigVanBuiten(",06-1,", ",06-2,");
-    wachter.Verwacht({.tekst = u"Ongedaan gemaakt, maar niet alles. Dit is sindsdien op een andere "
+    const std::string spelers = suite.Spelers();
+    wachter.Verwacht({.tekst = u"Er is niets ongedaan gemaakt. Dit is sindsdien op een andere "
                                "manier gewijzigd en gebleven zoals het is:\n\nWillem van der Horst "
                                "(100001)"_s,
                       .icoon = QMessageBox::Warning});
     Terug();
-    EXPECT_NE(std::string::npos, suite.Spelers().find("Horst,06-2,"));
+    EXPECT_EQ(spelers, suite.Spelers());
+    EXPECT_EQ("Niet ongedaan gemaakt: Willem van der Horst gewijzigd", Melding());
+    EXPECT_EQ("Ongedaan maken", Menutekst("actOngedaan")) << "the next one comes now";
+    InGeschiedenis("actGeschiedenis", [](QDialog& geschiedenis) {
+        auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
+        ASSERT_EQ(2, lijst->topLevelItemCount());
+        EXPECT_EQ("Niet ongedaan gemaakt: Willem van der Horst gewijzigd",
+                  lijst->topLevelItem(0)->text(1).toStdString());
+        EXPECT_EQ("Willem van der Horst gewijzigd", lijst->topLevelItem(1)->text(1).toStdString());
+        Druk(geschiedenis, "cmdSluiten");
+    });
+}
+
+TEST_F(GeschiedenisTest, WieTerugkomtIsGekozenInZijnEigenGroep)
+{
+    Balk("VScroll1")->setValue(Balk("VScroll1")->maximum());
+    VerwijderRegel(45);
+    KiesGroep(2);
+    KiesRegel(3);
+    Terug();
+    EXPECT_EQ(1, GetoondeGroep());
+    EXPECT_EQ(45, GekozenRegel());
+    EXPECT_GT(Balk("VScroll1")->value(), 0) << "scrolled to him";
+    Vooruit();
+    EXPECT_EQ(0, GekozenRegel());
+}
+
+TEST_F(GeschiedenisTest, NaHetWeghalenVanEenToegevoegdeBlijftDeKeusStaan)
+{
+    VoegToe(u"Nieuweling"_s);
+    KiesRegel(3);
+    Terug();
+    EXPECT_EQ("Aantal regels: 50", Aantal());
+    EXPECT_EQ(3, GekozenRegel());
+    Vooruit();
+    EXPECT_EQ(51, GekozenRegel());
+    Terug();
+    EXPECT_EQ(0, GekozenRegel());
+}
+
+TEST_F(GeschiedenisTest, EenLegeGeschiedenisZegtHet)
+{
+    InGeschiedenis("actGeschiedenis", [](QDialog& geschiedenis) {
+        EXPECT_EQ("Er is nog niets vastgelegd.",
+                  Vind<QLabel>(geschiedenis, "Label1")->text().toStdString());
+        Druk(geschiedenis, "cmdSluiten");
+    });
+    KiesRegel(1);
+    InGeschiedenis("actSpelergeschiedenis", [](QDialog& geschiedenis) {
+        EXPECT_EQ("Van deze speler is nog niets vastgelegd.",
+                  Vind<QLabel>(geschiedenis, "Label1")->text().toStdString());
+        EXPECT_FALSE(Vind<QPushButton>(geschiedenis, "cmdOngedaan")->isEnabled());
+        Druk(geschiedenis, "cmdSluiten");
+    });
+}
+
+TEST_F(GeschiedenisTest, VanWieGeenSleutelHeeftIsErGeenGeschiedenis)
+{
+    std::string spelers = suite.Spelers();
+    HerstartMet(spelers.replace(spelers.find("1,100001,"), 9, "1,,"));
+    KiesRegel(1);
+    wachter.Informatie(u"Willem van der Horst heeft geen sleutel. Daarom is niet te zeggen wat er "
+                       "van deze speler is gewijzigd."_s);
+    venster->findChild<QAction*>(u"actSpelergeschiedenis"_s)->trigger();
+    wachter.Klaar();
 }
 
 TEST_F(GeschiedenisTest, HetVensterToontOudEnNieuwEnMaaktOokEenEerdereOngedaan)

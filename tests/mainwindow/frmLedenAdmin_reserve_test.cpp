@@ -146,6 +146,7 @@ TEST_F(Reserveproef, TerugzettenIsEenWijzigingDieWordtOpgeslagen)
     EXPECT_EQ(RegelsVan(suite.Spelers()).at(0), RegelsVan(nieuw).at(0)) << "HKEY= stays up";
     Terugzetten(AllesTerug); // and back again from the backup that was made before
     EXPECT_EQ(suite.Spelers(), nieuw);
+    EXPECT_EQ(51, GekozenRegel()) << "who came back is chosen";
 }
 
 TEST_F(Reserveproef, TerugzettenIsInEensOngedaanTeMaken)
