@@ -2,6 +2,7 @@
 // least 4.5 to 1.
 #include <QLineEdit>
 #include <QScreen>
+#include <QTreeWidget>
 
 #include <cmath>
 
@@ -156,6 +157,41 @@ TEST_P(ContrastTest, HetRoosterEnDeLijstenVolgenHetBureaublad)
         EXPECT_GE(Contrast(inkt, ondergrond), Leesbaar);
     });
     EXPECT_EQ(3, gezien.size()) << gezien.join(u' ').toStdString();
+}
+
+/// A box without a tick in it is seen all the same; in a light theme it is the system's own.
+TEST_P(ContrastTest, EenLeegVakjeIsTeZien)
+{
+    const double zichtbaar = GetParam() ? 3 : 1.5;
+    QStringList gezien;
+    Rondgang(QGuiApplication::screens().constLast(), [&](const QWidget& venster) {
+        for (auto* lijst : venster.findChildren<QTreeWidget*>()) {
+            const QImage beeld = lijst->viewport()->grab().toImage();
+            const int breed = lijst->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 6;
+            for (int kolom = 0; kolom < lijst->columnCount(); ++kolom) {
+                const auto* regel = lijst->topLevelItem(1); // the first one is chosen
+                if (regel == nullptr || regel->data(kolom, Qt::CheckStateRole) != Qt::Unchecked)
+                    continue;
+                QRect vak = lijst->visualRect(lijst->model()->index(1, kolom));
+                vak.setWidth(breed);
+                const auto [rand, papier] = InktOpPapier(beeld, vak);
+                EXPECT_GE(Contrast(rand, papier), zichtbaar) << lijst->objectName().toStdString();
+                gezien << lijst->objectName();
+            }
+        }
+        for (auto* vink : venster.findChildren<QCheckBox*>()) {
+            if (!vink->isVisible() || !vink->isEnabled() || vink->isChecked())
+                continue;
+            QStyleOptionButton optie;
+            optie.initFrom(vink);
+            const QRect vak =
+                vink->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &optie, vink);
+            const auto [rand, papier] = InktOpPapier(vink->grab().toImage(), vak);
+            EXPECT_GE(Contrast(rand, papier), zichtbaar) << vink->objectName().toStdString();
+            gezien << vink->objectName();
+        }
+    });
+    EXPECT_GE(gezien.size(), 6) << gezien.join(u' ').toStdString();
 }
 
 /// These are stated; the one that a dark theme would make hard to read gets a ground.

@@ -28,6 +28,23 @@ class Huisstijl : public QProxyStyle {
             return 0;
         return QProxyStyle::styleHint(gewoonte, optie, widget, uitslag);
     }
+    /// The edge of an empty box is darker than its ground, which a dark theme hides.
+    void drawPrimitive(PrimitiveElement wat, const QStyleOption* optie, QPainter* schilder,
+                       const QWidget* widget) const override
+    {
+        QProxyStyle::drawPrimitive(wat, optie, schilder, widget);
+        const QColor papier = optie->palette.color(QPalette::Base);
+        constexpr int middengrijs = 128;
+        if (wat != PE_IndicatorCheckBox || papier.lightness() >= middengrijs)
+            return;
+        QColor inkt = optie->palette.color(QPalette::Text);
+        inkt.setAlphaF(0.6F);
+        schilder->save();
+        schilder->setPen(inkt);
+        schilder->setBrush(Qt::NoBrush);
+        schilder->drawRect(QRectF(optie->rect).adjusted(0.5, 0.5, -1.5, -1.5));
+        schilder->restore();
+    }
 };
 
 struct Woord {
