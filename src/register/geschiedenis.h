@@ -52,8 +52,9 @@ struct Handeling {
                                                      const Tekst& id);
 
 /// Hands out the entries of all computers, of each the last one first, until `neem` says false.
-/// Files that cannot be read are passed over.
-void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem);
+/// Files that cannot be read are passed over, and those that were written last before `sinds`.
+void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem,
+               const Tekst& sinds = {});
 
 /// The players that differ before, at the left, and after.
 [[nodiscard]] std::vector<Verschil> SpelersIn(const Wijziging& wijziging);
@@ -91,13 +92,15 @@ class Geschiedenis : public Getuige {
     /// Why nothing could be kept; handed out once.
     [[nodiscard]] std::optional<Fout> NeemFout();
 
-    /// The last one of this user on this computer that can be undone, or done again.
+    /// The last one of this user on this computer that can be undone, or done again; whoever undid
+    /// it before.
     [[nodiscard]] std::optional<Handeling> Laatste(Handelingsoort soort) const;
 
   private:
     friend class Noteer;
 
     void Begin(const Tekst& wat, Handelingsoort soort, Tekst hoort);
+    [[nodiscard]] bool IsOngedaan(const Handeling& handeling) const;
     [[nodiscard]] std::optional<Tekst> PlaatsVan(const Pad& pad) const;
     [[nodiscard]] Tekst Kop() const;
     [[nodiscard]] Uitkomst<void> OpenBestand();

@@ -24,11 +24,25 @@ VanNaar(const Wijziging& wijziging, Handelingsoort soort)
     return {wijziging.voor, wijziging.na};
 }
 
+/// The file that holds an entry.
+Tekst Bestandsnaam(const Tekst& id)
+{
+    return id.substr(0, id.rfind(' '));
+}
+
+/// Whether the file was written last before that time; a day at the least, since clocks differ.
+bool IsVanVoor(const Tekst& tijd, Schijf& schijf, const Pad& pad)
+{
+    constexpr std::int64_t dag = 86'400'000'000'000;
+    const auto stempel = schijf.NeemStempel(pad);
+    return stempel && Tijdtekst("yyyy-MM-dd HH:mm:ss", stempel->tijd + dag) < tijd;
+}
+
 } // namespace
 
 std::optional<Handeling> LeesHandeling(Schijf& schijf, const Mappen& mappen, const Tekst& id)
 {
-    const Tekst naam = id.substr(0, id.rfind(' '));
+    const Tekst naam = Bestandsnaam(id);
     const auto inhoud = schijf.LeesBestand(Samen(mappen.Geschiedenismap(), naam));
     auto handelingen = HandelingenUit(inhoud.value_or(Tekst()), naam);
     const auto plek = std::find_if(handelingen.begin(), handelingen.end(),
@@ -36,14 +50,18 @@ std::optional<Handeling> LeesHandeling(Schijf& schijf, const Mappen& mappen, con
     return plek == handelingen.end() ? std::nullopt : std::optional(std::move(*plek));
 }
 
-void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem)
+void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Handeling&)>& neem,
+               const Tekst& sinds)
 {
     const Pad map = mappen.Geschiedenismap();
     auto namen = schijf.Bestanden(map).value_or(std::vector<Tekst>());
     std::sort(namen.begin(), namen.end(), std::greater());
     for (const Tekst& naam : namen) {
-        const auto inhoud = schijf.LeesBestand(Samen(map, naam));
-        if (!inhoud || !naam.ends_with(".txt"))
+        const Pad pad = Samen(map, naam);
+        if (!naam.ends_with(".txt") || (!sinds.empty() && IsVanVoor(sinds, schijf, pad)))
+            continue;
+        const auto inhoud = schijf.LeesBestand(pad);
+        if (!inhoud)
             continue;
         auto handelingen = HandelingenUit(*inhoud, naam);
         for (auto handeling = handelingen.rbegin(); handeling != handelingen.rend(); ++handeling) {
@@ -53,28 +71,46 @@ void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Ha
     }
 }
 
+/// Whoever undid it or did it again last: that may stand in the file of an earlier start.
+bool Geschiedenis::IsOngedaan(const Handeling& handeling) const
+{
+    const Pad pad = Samen(mappen_->Geschiedenismap(), Bestandsnaam(handeling.id));
+    const bool telbaar = !IsVanVoor(handeling.tijd, schijf_, pad); // else the disk's clock is wrong
+    Handeling laatste;
+    LoopTerug(
+        schijf_, *mappen_,
+        [&](Handeling& een) {
+            if (een.hoort == handeling.id && een.tijd > laatste.tijd)
+                laatste = std::move(een);
+            return true;
+        },
+        telbaar ? handeling.tijd : Tekst());
+    return laatste.soort == Handelingsoort::Ongedaan;
+}
+
 std::optional<Handeling> Geschiedenis::Laatste(Handelingsoort soort) const
 {
     std::optional<Handeling> uit;
     if (mappen_ == nullptr)
         return uit;
+    const bool opnieuw = soort == Handelingsoort::Opnieuw;
     std::set<Tekst> geweest;  ///< what was undone or done again after what comes now
     std::set<Tekst> ongedaan; ///< and is undone still
-    Tekst laatste;            ///< the last of those
+    Tekst laatste;            ///< the last of those that was undone here
     LoopTerug(schijf_, *mappen_, [&](Handeling& handeling) {
-        if (handeling.computer != computer_ || handeling.gebruiker != gebruiker_)
-            return true;
+        const bool eigen = handeling.computer == computer_ && handeling.gebruiker == gebruiker_;
         if (handeling.soort == Handelingsoort::Gewoon) {
-            const bool gezocht = soort == Handelingsoort::Opnieuw
-                                     ? handeling.id == laatste
-                                     : !ongedaan.contains(handeling.id);
-            if (gezocht)
+            if (!eigen)
+                return true;
+            const bool gezocht =
+                opnieuw ? handeling.id == laatste : !ongedaan.contains(handeling.id);
+            if (gezocht && IsOngedaan(handeling) == opnieuw)
                 uit = std::move(handeling);
-            return !gezocht && (soort == Handelingsoort::Ongedaan || !laatste.empty());
+            return !uit && (!opnieuw || (!gezocht && !laatste.empty()));
         }
         if (geweest.insert(handeling.hoort).second && handeling.soort == Handelingsoort::Ongedaan) {
             ongedaan.insert(handeling.hoort);
-            if (laatste.empty())
+            if (eigen && laatste.empty())
                 laatste = handeling.hoort;
         }
         return true;

@@ -291,6 +291,31 @@ TEST_F(GeschiedenisTest, OngedaanEnOpnieuwGaanAchterElkaarTerugEnVooruitOokNaEen
     EXPECT_EQ("twee", LaatsteNaam(Handelingsoort::Ongedaan));
 }
 
+/// Also when that stands in the file of a program that was started before the entry was made.
+TEST_F(GeschiedenisTest, WatEldersOngedaanIsWordtHierNietNogEensOngedaan)
+{
+    for (const char* naam : {"een", "twee"})
+        Verwijder({1}, naam);
+    const Tekst twee = geschiedenis->Laatste(Handelingsoort::Ongedaan).value().id;
+    Tekst elders;
+    const auto draai = [&](const Tekst& soort) {
+        elders += "handeling 1\r\ntijd " + Tijdtekst("yyyy-MM-dd HH:mm:ss", Nu() + 5'000'000'000) +
+                  "\r\ncomputer PC van Bea\r\ngebruiker bea\r\n" + soort + " " + twee + "\r\n";
+        schijf.Zet(Samen(geschiedenismap, "2020-01-01 120000 PC_van_Bea.txt"), elders);
+    };
+    draai("ongedaan");
+    EXPECT_EQ("een", LaatsteNaam(Handelingsoort::Ongedaan));
+    EXPECT_EQ("geen", LaatsteNaam(Handelingsoort::Opnieuw)) << "that is for who undid it";
+    draai("opnieuw");
+    EXPECT_EQ("twee", LaatsteNaam(Handelingsoort::Ongedaan));
+    elders.clear();
+    draai("niets");
+    Draai(Handelingsoort::Ongedaan);
+    EXPECT_EQ("twee", LaatsteNaam(Handelingsoort::Opnieuw));
+    draai("opnieuw");
+    EXPECT_EQ("geen", LaatsteNaam(Handelingsoort::Opnieuw));
+}
+
 TEST_F(GeschiedenisTest, WatMislukteHeetBijHetVolgende)
 {
     {
