@@ -18,6 +18,8 @@ class Bestandswacht : public QObject {
 
     /// These files as they are now are known.
     void Bewaak(std::vector<Pad> paden);
+    /// What changed last could not be read: it is new at the next look too.
+    void Vergeet() { stempels_.clear(); }
     /// Looks at once.
     void Kijk();
     /// The same, unless a command is under way.

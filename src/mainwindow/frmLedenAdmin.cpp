@@ -244,8 +244,10 @@ void frmLedenAdmin::ToonGroep()
 void frmLedenAdmin::VolgBestanden()
 {
     const Tekst gekozen = GekozenKey();
-    const bool andereSpelers = opslag_.NeemAndereOver();
-    if (!VolgGroepsnamen() && !andereSpelers)
+    const auto andereSpelers = opslag_.NeemAndereOver();
+    if (!andereSpelers)
+        wacht_.Vergeet();
+    if (!VolgGroepsnamen() && !andereSpelers.value_or(false))
         return;
     const int hoogte = picP0->Staand().value();
     ToonGroep();

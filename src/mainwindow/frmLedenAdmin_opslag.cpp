@@ -249,13 +249,15 @@ Uitkomst<void> Spelersopslag::MengMetSchijf()
     return {};
 }
 
-bool Spelersopslag::NeemAndereOver()
+std::optional<bool> Spelersopslag::NeemAndereOver()
 {
     Register& spelers = administratie_.spelers;
     if (venster_->isWindowModified() || !spelers.gelezen)
         return false;
     const auto ander = AnderRegister::Lees(administratie_.schijf, administratie_.mappen);
-    if (!ander || !ander->IsHeel(spelers) || !ander->IsAnders(spelers))
+    if (!ander || !ander->IsHeel(spelers))
+        return std::nullopt;
+    if (!ander->IsAnders(spelers))
         return false;
     ander->NeemOver(spelers, ander->MengMet(spelers));
     return true;

@@ -37,8 +37,8 @@ class Spelersopslag {
     void Bewaak(Koppelverslag verslag) { verslagen_.push_back(std::move(verslag)); }
     [[nodiscard]] Reservewacht& Reserve() { return reserve_; }
     /// Takes over what another program made of the player file, when nothing is unsaved here and
-    /// all of it can be read; whether there was anything new.
-    [[nodiscard]] bool NeemAndereOver();
+    /// all of it can be read; whether there was anything new, nothing where it cannot be read.
+    [[nodiscard]] std::optional<bool> NeemAndereOver();
     /// Whether the program may end, asked where that would lose changes.
     [[nodiscard]] bool MagEindigen();
 

@@ -845,6 +845,25 @@ TEST_F(Volgen, EenHalfGeschrevenBestandVerandertNiets)
     EXPECT_EQ(was, Aantal());
 }
 
+TEST_F(Volgen, WatEvenNietTeLezenIsKomtErBijDeVolgendeBlikBij)
+{
+    const std::string was = Aantal();
+    const auto kijk = [this] {
+        QTimerEvent tik(0);
+        QApplication::sendEvent(venster->findChild<Bestandswacht*>(), &tik);
+    };
+    int keer = 0;
+    schijf.Vooraf([&](const Pad& pad) { // only the reading fails, which comes after the stamp
+        return !pad.ends_with("RVDspelers.txt") || ++keer != 2;
+    });
+    suite.Zet("Spelers/RVDspelers.txt", MetEenErvoor());
+    kijk();
+    EXPECT_EQ(was, Aantal());
+    kijk();
+    EXPECT_NE(was, Aantal());
+    schijf.Vooraf({});
+}
+
 TEST_F(Volgen, WatErBijKomtTerwijlEenVensterSluitVerandertGeenAndereSpeler)
 {
     KiesGroep(1);
