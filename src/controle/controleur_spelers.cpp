@@ -135,12 +135,10 @@ void Controleur::BekijkSleutel(int rij)
 /// Numbers are compared as the import does.
 void Controleur::BekijkNBBnr(int rij)
 {
-    constexpr std::size_t cijfers = 8;
     const Tekstblik cel = ZonderSpaties(tabel_.Cel(rij, Kolom::NBBnr));
     if (cel.empty())
         return;
-    const auto [eerste, nieuw] =
-        rijMetNBBnr_.emplace(AlsGetal(cel, cijfers).value_or(Tekst(cel)), rij);
+    const auto [eerste, nieuw] = rijMetNBBnr_.emplace(OpgemaaktNBBnr(cel), rij);
     if (!nieuw)
         Speler(Vondstsoort::DubbelNBBnr, rij, Tekst(cel), Wie(eerste->second));
 }

@@ -175,13 +175,6 @@ VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht, const Voort
     return std::move(samenvoeger.uitkomst);
 }
 
-Tekst OpgemaaktNBBnr(Tekstblik nummer)
-{
-    constexpr std::size_t cijfers = 8;
-    auto getal = AlsGetal(nummer, cijfers);
-    return getal ? std::move(*getal) : Tekst(nummer);
-}
-
 NBBnrIndex::NBBnrIndex(const std::vector<Tekstblik>& vragen)
 {
     vragen_.reserve(vragen.size()); // their texts stay where they are

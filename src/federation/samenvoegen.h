@@ -42,10 +42,6 @@ enum class Samenvoegfout {
 VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht,
                const Voortgang& voortgang = {});
 
-/// A number as the index below writes it: digits with leading zeros to at least 8, any other text
-/// as it is. Outer spaces do not count for digits.
-[[nodiscard]] Tekst OpgemaaktNBBnr(Tekstblik nummer);
-
 /// Which federation numbers occur in the import group, asked as a search in one text: for every
 /// player "-" and the number in at least 8 digits ("-00012345-00067890"). A number is found
 /// wherever it stands in that text, so a longer number hides those within its digits, and one that

@@ -56,8 +56,9 @@ std::optional<Rijblikken> Samen(const Rijblikken& basis, const Rijblikken& ons, 
 
 class Menger {
   public:
-    Menger(const Stand& basis, const Stand& ons, const Stand& ander, const std::set<Tekst>& voorOns)
-        : basis_(basis), ons_(ons), ander_(ander), voorOns_(voorOns)
+    Menger(const Stand& basis, const Stand& ons, const Stand& ander, const std::set<Tekst>& voorOns,
+           Tekstblik importgroep)
+        : basis_(basis), ons_(ons), ander_(ander), voorOns_(voorOns), importgroep_(importgroep)
     {
         uit_.HKEY = std::max(ons.HKEY, ander.HKEY);
         opKey_.reserve(static_cast<std::size_t>(ander.tabel.Rijen()));
@@ -166,12 +167,21 @@ class Menger {
         plekken_.push_back({rij, false, *samen});
     }
 
+    /// Empty for who is no member of the federation, or not from its lists.
+    [[nodiscard]] Tekst Lidnummer(const Rijblikken& cellen) const
+    {
+        return importgroep_.empty() || cellen[Index(Kolom::Groep)] != importgroep_
+                   ? Tekst()
+                   : OpgemaaktNBBnr(ZonderSpaties(cellen[Index(Kolom::NBBnr)]));
+    }
+
     /// A player whom only the other program has: added there, or deleted here.
     void NeemZonderOns(const Drie& rijen, const Rijblikken& ander)
     {
-        if (rijen.basis == 0)
+        if (rijen.basis == 0) {
             uit_.overgenomen.push_back(VolleNaam(ander_.tabel, rijen.ander));
-        else if (Gelijk(Cellen(basis_.tabel, rijen.basis), ander) || Bots(rijen))
+            nieuweLeden_.insert(Lidnummer(ander));
+        } else if (Gelijk(Cellen(basis_.tabel, rijen.basis), ander) || Bots(rijen))
             return;
         plekken_.push_back({rijen.ander, false, ander});
     }
@@ -248,6 +258,8 @@ class Menger {
     void VoegNieuweToe(const Drie& rijen, int plaats)
     {
         Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
+        if (const Tekst nummer = Lidnummer(ons); !nummer.empty() && nieuweLeden_.contains(nummer))
+            return;
         if (auto nieuw = IsDubbelUitgegeven(rijen) ? NieuweKey() : std::nullopt) {
             Tekstblik& key = ons[Index(Kolom::Key)];
             uit_.hernummerd.push_back({Tekst(key), std::move(*nieuw)});
@@ -288,11 +300,13 @@ class Menger {
     const Stand& ons_;
     const Stand& ander_;
     const std::set<Tekst>& voorOns_;
+    const Tekstblik importgroep_;
     std::unordered_map<Tekstblik, Drie> opKey_;
     std::unordered_set<Tekstblik> onbruikbaar_; ///< keys that tell no players apart
     std::unordered_map<Tekst, Drie> opInhoud_;  ///< how many of the rows without a usable key
     std::unordered_map<Tekst, std::vector<int>> onbruikbareVanAnder_; ///< its rows, by contents
     std::unordered_map<Tekst, int> onzeGenomen_;
+    std::unordered_set<Tekst> nieuweLeden_; ///< of the other program, by their number
     std::vector<Plek> plekken_;
     Menging uit_;
 };
@@ -311,17 +325,18 @@ Tekst Aanduiding(const Verschil& verschil)
 }
 
 Menging Meng(const Stand& basis, const Stand& ons, const Stand& ander,
-             const std::set<Tekst>& voorOns)
+             const std::set<Tekst>& voorOns, Tekstblik importgroep)
 {
-    return Menger(basis, ons, ander, voorOns).Meng();
+    return Menger(basis, ons, ander, voorOns, importgroep).Meng();
 }
 
 Uitkomst<AnderRegister> AnderRegister::Lees(Schijf& schijf, const Mappen& mappen)
 {
-    return schijf.LeesBestand(mappen.Spelerbestand()).map([](Tekst inhoud) {
+    return schijf.LeesBestand(mappen.Spelerbestand()).map([&](Tekst inhoud) {
         AnderRegister uit;
         uit.lezing_ = SpelersUit(inhoud);
         uit.inhoud_ = std::move(inhoud);
+        uit.importgroep_ = mappen.DFIMPG;
         return uit;
     });
 }
@@ -336,7 +351,7 @@ Menging AnderRegister::MengMet(const Register& ons, const std::set<Tekst>& voorO
     const Spelerlezing basis = SpelersUit(ons.gelezen.value_or(Tekst()));
     const Spelertabel basistabel = basis.tabel.value_or(Spelertabel());
     return Meng({basistabel, basis.HKEY.value_or(Sleutelbasis)}, {ons.tabel, ons.HKEY},
-                {*lezing_.tabel, lezing_.HKEY.value_or(Sleutelbasis)}, voorOns);
+                {*lezing_.tabel, lezing_.HKEY.value_or(Sleutelbasis)}, voorOns, importgroep_);
 }
 
 void AnderRegister::NeemOver(Register& ons, Menging menging) const

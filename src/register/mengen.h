@@ -49,9 +49,10 @@ struct Menging {
 /// The rows of the other program in their order, with our changes. A new row of ours stands behind
 /// the one that it followed here, and at the end when it stood at the end. Where both collide the
 /// table gets what the other program made of the player, or what we did when his key is in
-/// `voorOns`. Two sides that did the same do not collide.
+/// `voorOns`. Two sides that did the same do not collide. Who is new on both sides in the import
+/// group, by his federation number, is so once: as the other program added him.
 [[nodiscard]] Menging Meng(const Stand& basis, const Stand& ons, const Stand& ander,
-                           const std::set<Tekst>& voorOns = {});
+                           const std::set<Tekst>& voorOns = {}, Tekstblik importgroep = {});
 
 /// The player file as another program left it, to be brought together with the register here.
 class AnderRegister {
@@ -70,6 +71,7 @@ class AnderRegister {
   private:
     Tekst inhoud_;
     Spelerlezing lezing_;
+    Tekst importgroep_;
 };
 
 } // namespace plexoran

@@ -124,6 +124,12 @@ Tekst VolleNaam(const Spelertabel& tabel, int rij)
     return naam;
 }
 
+Tekst OpgemaaktNBBnr(Tekstblik nummer)
+{
+    constexpr std::size_t cijfers = 8;
+    return AlsGetal(nummer, cijfers).value_or(Tekst(nummer));
+}
+
 bool IsPartner(Tekstblik achternaam)
 {
     constexpr Tekstblik partner = "PARTNER";

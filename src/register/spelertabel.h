@@ -150,6 +150,10 @@ class Spelertabel {
 /// First name, particle and last name, as far as they are there.
 [[nodiscard]] Tekst VolleNaam(const Spelertabel& tabel, int rij);
 
+/// A federation number as such numbers are compared: digits with leading zeros to at least 8, any
+/// other text as it is. Outer spaces do not count for digits.
+[[nodiscard]] Tekst OpgemaaktNBBnr(Tekstblik nummer);
+
 /// Whether a surname is that of somebody's partner without a name of his own. It is one word then.
 [[nodiscard]] bool IsPartner(Tekstblik achternaam);
 

@@ -206,6 +206,34 @@ TEST(Mengen, DezelfdeNieuweSpelerAanBeideKantenIsErEen)
     EXPECT_TRUE(uit.hernummerd.empty());
 }
 
+TEST(Mengen, EenLidDatBeideImporteerdenIsErEen)
+{
+    const auto met = [](Spelertabel tabel, const std::vector<std::array<Tekst, 4>>& leden) {
+        for (const auto& [key, groep, achternaam, nummer] : leden) {
+            Rijvelden velden{std::to_string(tabel.Rijen() + 1), key, groep};
+            velden[Index(Kolom::Achternaam)] = achternaam;
+            velden[Index(Kolom::NBBnr)] = nummer;
+            tabel.VoegToe(velden);
+        }
+        return tabel;
+    };
+    const Spelertabel basis = Tabel(Zonder(2));
+    const Spelertabel ons = met(basis, {{"100004", "Gr05-", "Eik", "123"},
+                                        {"100005", "Gr05-", "Fuik", "124 "},
+                                        {"100006", "Gr01-", "Gans", "125"},
+                                        {"100007", "Gr05-", "Hond", ""}});
+    const Spelertabel ander = met(basis, {{"100004", "Gr05-", "Fuik", "00000124"},
+                                          {"100005", "Gr05-", "Gans", "125"},
+                                          {"100006", "Gr05-", "Iep", ""}});
+    const Menging uit =
+        Meng({basis, 100003}, {ons, 100007}, {ander, 100006}, {}, Tekstblik("Gr05-"));
+    EXPECT_EQ(Rijen(uit.tabel), "1 100001 An Bos 06-1;2 100002 Bea Cock 06-2;3 100004  Fuik ;"
+                                "4 100005  Gans ;5 100006  Iep ;6 100008  Eik ;7 100009  Gans ;"
+                                "8 100007  Hond ;");
+    EXPECT_EQ(Namen(uit.overgenomen), "Fuik;Gans;Iep;");
+    EXPECT_EQ(Meng({basis, 100003}, {ons, 100007}, {ander, 100006}).tabel.Rijen(), 9);
+}
+
 TEST(Mengen, EenTeruggezetteSpelerHoudtZijnSleutel)
 {
     Kant basis = Zonder(1);
