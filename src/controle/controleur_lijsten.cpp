@@ -11,18 +11,13 @@ namespace plexoran {
 
 void Controleur::LeesParenmap()
 {
-    const Pad map = mappen_.Parenmap();
-    auto namen = AlsErIs(schijf_.Bestanden(map));
-    if (!namen)
+    auto namen = Parenbestanden(schijf_, mappen_);
+    if (namen)
+        Sorteer(*namen);
+    else
         Onleesbaar(namen.error());
-    if (namen && *namen) {
-        Sorteer(**namen);
-        for (const Tekst& naam : **namen) {
-            constexpr Tekstblik eind = ".TXT";
-            if (Tekst keuze = Hoofdletters(naam); keuze.ends_with(eind))
-                LeesParen(Samen(map, naam), keuze.substr(0, keuze.size() - eind.size()));
-        }
-    }
+    for (const Tekst& naam : namen.value_or(std::vector<Tekst>()))
+        LeesParen(Samen(mappen_.Parenmap(), naam), Hoofdletters(naam.substr(0, naam.rfind('.'))));
     LeesParen(Samen(mappen_.SPEMAP, "RVDparen.txt"), std::nullopt);
 }
 

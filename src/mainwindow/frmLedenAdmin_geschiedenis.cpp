@@ -105,6 +105,18 @@ void frmLedenAdmin::DraaiSpelers(const Wijziging& wijziging, Handelingsoort soor
 {
     Register& spelers = administratie_.spelers;
     Menging menging = DraaiSpelersTerug(spelers, wijziging, soort);
+    Paarplaatsen inParen; // who is deleted once more was so with his pairs the first time
+    if (soort == Handelingsoort::Ongedaan)
+        inParen = ZonderSpelerInParen(administratie_.schijf, administratie_.mappen, spelers.tabel,
+                                      menging.tabel);
+    if (!inParen.empty())
+        menging = DraaiSpelersTerug(spelers, wijziging, soort, inParen);
+    const Sleutelwijzer wie(spelers.tabel);
+    for (const auto& [key, bestand] : inParen) {
+        const Verschil speler{key, spelers.tabel.Velden(wie.Rij(key)), {}};
+        rest << u"%1 staat in de paren van %2"_s.arg(
+            NaarQString(Aanduiding(speler)), NaarQString(bestand.substr(0, bestand.rfind('.'))));
+    }
     for (const Verschil& botsing : menging.botsingen)
         rest << NaarQString(Aanduiding(botsing));
     spelers.tabel = std::move(menging.tabel);

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -59,10 +60,18 @@ void LoopTerug(Schijf& schijf, const Mappen& mappen, const std::function<bool(Ha
 /// The players that differ before, at the left, and after.
 [[nodiscard]] std::vector<Verschil> SpelersIn(const Wijziging& wijziging);
 
+/// By their keys, the names of the pair files in which players stand.
+using Paarplaatsen = std::map<Tekst, Tekst>;
+
 /// The players as they become when an entry is undone, or done again. Where something else was
-/// changed since, that stays as it is and counts as `botsingen`, what was to come at the left.
+/// changed since, that stays as it is and counts as `botsingen`, what was to come at the left. So
+/// do those who would go but stand in `blijven`, by their keys.
 [[nodiscard]] Menging DraaiSpelersTerug(const Register& nu, const Wijziging& wijziging,
-                                        Handelingsoort soort);
+                                        Handelingsoort soort, const Paarplaatsen& blijven = {});
+
+/// Who is in a table and no more in the next one, but still in pairs.
+[[nodiscard]] Paarplaatsen ZonderSpelerInParen(Schijf& schijf, const Mappen& mappen,
+                                               const Spelertabel& eerst, const Spelertabel& dan);
 
 /// Makes another file than that of the players what it is when an entry is undone, or done again.
 /// Where it was changed since, that stays and is named in the outcome.

@@ -72,4 +72,14 @@ Uitkomst<Mappen> LeesMappenIni(Schijf& schijf, const Pad& pad)
     });
 }
 
+Uitkomst<std::vector<Tekst>> Parenbestanden(Schijf& schijf, const Mappen& mappen)
+{
+    return AlsErIs(schijf.Bestanden(mappen.Parenmap())).map([](auto gevonden) {
+        auto namen = std::move(gevonden).value_or(std::vector<Tekst>());
+        std::erase_if(namen,
+                      [](const Tekst& naam) { return !Hoofdletters(naam).ends_with(".TXT"); });
+        return namen;
+    });
+}
+
 } // namespace plexoran

@@ -43,4 +43,7 @@ struct Mappen {
 /// `Beschadigd` when the file names no players folder: without it there is no register.
 [[nodiscard]] Uitkomst<Mappen> LeesMappenIni(Schijf& schijf, const Pad& pad);
 
+/// The names of the pair files, in any order; none where their folder is missing.
+[[nodiscard]] Uitkomst<std::vector<Tekst>> Parenbestanden(Schijf& schijf, const Mappen& mappen);
+
 } // namespace plexoran

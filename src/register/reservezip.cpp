@@ -26,15 +26,12 @@ Uitkomst<std::vector<Zipdeel>> Verzameld(Schijf& schijf, const Mappen& mappen)
                                              {Samen(mappen.SPEMAP, Parendeel), Pad(Parendeel)}};
     if (!mappen.ADMMAP.empty())
         bronnen.emplace_back(mappen.Instellingenbestand(), "Plexo.ini");
-    const auto paren = AlsErIs(schijf.Bestanden(mappen.Parenmap()));
+    auto paren = Parenbestanden(schijf, mappen);
     if (!paren)
         return Mislukt(paren);
-    std::vector<Tekst> namen = paren->value_or(std::vector<Tekst>());
-    std::sort(namen.begin(), namen.end());
-    for (const Tekst& naam : namen) {
-        if (Hoofdletters(naam).ends_with(".TXT"))
-            bronnen.emplace_back(Samen(mappen.Parenmap(), naam), Tekst(Parenmapdeel) + naam);
-    }
+    std::ranges::sort(*paren);
+    for (const Tekst& naam : *paren)
+        bronnen.emplace_back(Samen(mappen.Parenmap(), naam), Tekst(Parenmapdeel) + naam);
     std::vector<Zipdeel> delen;
     for (auto& [pad, naam] : bronnen) {
         const auto erbij = Verzamel(schijf, pad, std::move(naam), delen);

@@ -140,13 +140,40 @@ std::vector<Verschil> SpelersIn(const Wijziging& wijziging)
     return uit;
 }
 
-Menging DraaiSpelersTerug(const Register& nu, const Wijziging& wijziging, Handelingsoort soort)
+Menging DraaiSpelersTerug(const Register& nu, const Wijziging& wijziging, Handelingsoort soort,
+                          const Paarplaatsen& blijven)
 {
     const auto [vanTekst, naarTekst] = VanNaar(wijziging, soort);
     const Spelertabel van = TabelUit(vanTekst);
-    const Spelertabel naar = TabelUit(naarTekst);
+    Spelertabel naar = TabelUit(naarTekst);
+    for (int rij = 1; rij <= van.Rijen(); ++rij) {
+        if (blijven.contains(Tekst(van.Cel(rij, Kolom::Key))))
+            naar.VoegToe(van.Velden(rij));
+    }
     // What comes back has its own key: it is nobody else's, however high it is.
     return Meng({van, std::numeric_limits<std::int32_t>::max()}, {naar, 0}, {nu.tabel, nu.HKEY});
+}
+
+Paarplaatsen ZonderSpelerInParen(Schijf& schijf, const Mappen& mappen, const Spelertabel& eerst,
+                                 const Spelertabel& dan)
+{
+    Paarplaatsen uit;
+    const Sleutelwijzer over(dan);
+    std::vector<Tekst> weg;
+    for (int rij = 1; rij <= eerst.Rijen(); ++rij) {
+        if (const Tekstblik key = eerst.Cel(rij, Kolom::Key); over.Rij(key) == 0)
+            weg.emplace_back(key);
+    }
+    if (weg.empty())
+        return uit;
+    for (const Tekst& naam : Parenbestanden(schijf, mappen).value_or(std::vector<Tekst>())) {
+        const auto paren = LeesBegrensd(schijf, Samen(mappen.Parenmap(), naam));
+        for (const Tekst& key : weg) {
+            if (paren && paren->find(key) != Tekst::npos)
+                uit.emplace(key, naam);
+        }
+    }
+    return uit;
 }
 
 Uitkomst<std::vector<Tekst>> DraaiBestandTerug(Schijf& schijf, const Mappen& mappen,

@@ -115,6 +115,18 @@ TEST_F(GeschiedenisTest, ElkeOpdrachtHeeftZijnNaam)
     EXPECT_EQ("HKEY=100172", RegelsVan(suite.Spelers())[0]) << "een sleutel komt nooit terug";
 }
 
+TEST_F(GeschiedenisTest, WieInParenStaatBlijftEnWordtGenoemd)
+{
+    VoegToe(u"Nieuweling"_s);
+    suite.Zet("Spelers/Parenmap/Gr01-Nieuw.txt", "100001-100172#");
+    wachter.Verwacht({.tekst = u"Er is niets ongedaan gemaakt. Dit is sindsdien op een andere "
+                               "manier gewijzigd en gebleven zoals het is:\n\nNieuweling (100172) "
+                               "staat in de paren van Gr01-Nieuw"_s,
+                      .icoon = QMessageBox::Warning});
+    Terug();
+    EXPECT_NE(std::string::npos, suite.Spelers().find("Nieuweling"));
+}
+
 TEST_F(GeschiedenisTest, WatEenAnderSindsdienDeedBlijftEnWordtGenoemd)
 {
     const std::string eerste = RegelsVan(suite.Spelers()).at(2);

@@ -244,6 +244,29 @@ TEST_F(GeschiedenisTest, EenSleutelDieWasUitgegevenBlijftDat)
     EXPECT_EQ("Nieuw", spelers.tabel.Cel(6, Kolom::Achternaam));
 }
 
+TEST_F(GeschiedenisTest, WieInParenStaatGaatNietWegDoorOngedaanMaken)
+{
+    for (const char* naam : {"Nieuw", "Nieuwer"}) {
+        ASSERT_TRUE(VoegSpelerToe(spelers, "Gr01-", {}));
+        spelers.tabel.ZetCel(spelers.tabel.Rijen(), Kolom::Achternaam, naam);
+    }
+    Bewaar("Twee toegevoegd");
+    schijf.Zet("C:\\club\\Spelers\\Parenmap\\Gr01-.txt", "100001-100043#");
+    schijf.Zet("C:\\club\\Spelers\\Parenmap\\oud.bak", "100001-100044#");
+    const auto handeling = geschiedenis->Laatste(Handelingsoort::Ongedaan).value();
+    const auto draai = [&](const Paarplaatsen& blijven) {
+        return DraaiSpelersTerug(spelers, handeling.wijzigingen[0], Handelingsoort::Ongedaan,
+                                 blijven)
+            .tabel;
+    };
+    EXPECT_EQ(5, draai({}).Rijen());
+    const auto inParen = ZonderSpelerInParen(schijf, mappen, spelers.tabel, draai({}));
+    EXPECT_EQ((Paarplaatsen{{"100043", "Gr01-.txt"}}), inParen);
+    const Spelertabel uit = draai(inParen);
+    EXPECT_EQ(6, uit.Rijen());
+    EXPECT_EQ(Rij(spelers.tabel, 6), Rij(uit, 6));
+}
+
 TEST_F(GeschiedenisTest, WatSindsdienIsGewijzigdBlijftEnWordtGenoemd)
 {
     spelers.tabel.ZetCel(1, Kolom::Voornaam, "Anna");
