@@ -2,26 +2,17 @@
 // parted by a null byte, as a file before a command and after it: what is written of them reads
 // back the same, and undoing it gives back the players of before.
 #include <algorithm>
-#include <map>
 #include <set>
 
 #include "eis.h"
 #include "register/geschiedenis.h"
+#include "spelers.h"
 
 using namespace plexoran;
 
 namespace {
 
 constexpr Tekstblik spelersplaats = "SPEMAP\\RVDspelers.txt";
-
-Register RegisterVan(const std::optional<Tekst>& tekst)
-{
-    Spelerlezing lezing = SpelersUit(tekst.value_or(Tekst()));
-    Register uit;
-    uit.tabel = lezing.tabel.value_or(Spelertabel());
-    uit.HKEY = lezing.HKEY.value_or(Sleutelbasis);
-    return uit;
-}
 
 /// An entry with one file, as it is written and read back.
 Wijziging Heen(Tekstblik plaats, Tekstblik voor, Tekstblik na, bool alles)
@@ -34,18 +25,6 @@ Wijziging Heen(Tekstblik plaats, Tekstblik voor, Tekstblik na, bool alles)
     const auto af = HandelingenUit(Tekstblik(tekst).substr(0, tekst.size() - 1), "a.txt");
     Eis(af.empty(), "een afgebroken handeling telt niet");
     return std::move(uit[0].wijzigingen[0]);
-}
-
-/// How often each row stands in a table, its number apart.
-std::map<Tekst, int> Tel(const Spelertabel& tabel)
-{
-    std::map<Tekst, int> uit;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        Tekst inhoud;
-        tabel.VoegCellenAan(inhoud, rij);
-        ++uit[inhoud];
-    }
-    return uit;
 }
 
 /// Whether the keys tell all players apart.

@@ -5,22 +5,11 @@
 
 #include "eis.h"
 #include "register/mengen.h"
+#include "spelers.h"
 
 using namespace plexoran;
 
 namespace {
-
-/// How often each row stands in a table, its number apart.
-std::map<Tekst, int> Tel(const Spelertabel& tabel)
-{
-    std::map<Tekst, int> uit;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        Tekst inhoud;
-        tabel.VoegCellenAan(inhoud, rij);
-        ++uit[inhoud];
-    }
-    return uit;
-}
 
 std::map<Tekst, int> Keys(const Spelertabel& tabel)
 {
@@ -46,26 +35,21 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t lengte)
     const Tekst alles = AlsTekst(data, lengte);
     const auto een = std::min(alles.find('\0'), alles.size());
     const auto twee = std::min(alles.find('\0', een + 1), alles.size());
-    const std::array lezingen{
-        SpelersUit(alles.substr(0, een)),
-        SpelersUit(een < alles.size() ? alles.substr(een + 1, twee - een - 1) : Tekst()),
-        SpelersUit(twee < alles.size() ? alles.substr(twee + 1) : Tekst())};
-    std::vector<Spelertabel> tabellen;
-    std::vector<std::int32_t> hoogste;
-    for (const Spelerlezing& lezing : lezingen) {
-        tabellen.push_back(lezing.tabel.value_or(Spelertabel()));
-        hoogste.push_back(lezing.HKEY.value_or(Sleutelbasis));
-    }
-    const Stand basis{tabellen[0], hoogste[0]};
-    const Stand ons{tabellen[1], hoogste[1]};
-    const Stand ander{tabellen[2], hoogste[2]};
+    const std::array registers{
+        RegisterVan(alles.substr(0, een)),
+        RegisterVan(een < alles.size() ? alles.substr(een + 1, twee - een - 1) : Tekst()),
+        RegisterVan(twee < alles.size() ? alles.substr(twee + 1) : Tekst())};
+    const Stand basis{registers[0].tabel, registers[0].HKEY};
+    const Stand ons{registers[1].tabel, registers[1].HKEY};
+    const Stand ander{registers[2].tabel, registers[2].HKEY};
 
     const Menging uit = Meng(basis, ons, ander);
     Eis(uit.HKEY >= std::max(ons.HKEY, ander.HKEY), "HKEY");
     for (int rij = 1; rij <= uit.tabel.Rijen(); ++rij)
         Eis(uit.tabel.Cel(rij, Kolom::Nr) == std::to_string(rij), "Nr");
     std::array<std::map<Tekst, int>, 3> keys;
-    std::transform(tabellen.begin(), tabellen.end(), keys.begin(), Keys);
+    std::transform(registers.begin(), registers.end(), keys.begin(),
+                   [](const Register& van) { return Keys(van.tabel); });
     for (const auto& rij : Keys(uit.tabel)) {
         const bool enig = std::all_of(keys.begin(), keys.end(),
                                       [&](const auto& van) { return IsEnig(van, rij.first); });

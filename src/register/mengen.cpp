@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "platform/tekst/tekst.h"
@@ -21,15 +20,8 @@ struct Plek {
     Rijblikken cellen;
 };
 
-/// The row in each of the three states, 0 where it is not; or how many rows there are.
-struct Drie {
-    int basis = 0;
-    int ons = 0;
-    int ander = 0;
-};
-
 /// How many rows with the same contents there are when both sides have added and removed theirs.
-int Blijft(const Drie& aantal)
+int Blijft(const Drierij& aantal)
 {
     if (aantal.ons == aantal.ander)
         return aantal.ons;
@@ -62,12 +54,20 @@ class Menger {
     {
         uit_.HKEY = std::max(ons.HKEY, ander.HKEY);
         opKey_.reserve(static_cast<std::size_t>(ander.tabel.Rijen()));
-        Zoek(basis.tabel, &Drie::basis);
-        Zoek(ons.tabel, &Drie::ons);
-        Zoek(ander.tabel, &Drie::ander);
-        Tel(basis.tabel, &Drie::basis);
-        Tel(ons.tabel, &Drie::ons);
-        Tel(ander.tabel, &Drie::ander);
+        const std::pair<const Spelertabel&, int Drierij::*> standen[]{
+            {basis.tabel, &Drierij::basis},
+            {ons.tabel, &Drierij::ons},
+            {ander.tabel, &Drierij::ander}};
+        bool alleKeys = true;
+        for (const auto& [tabel, kant] : standen)
+            alleKeys = Indexeer(opKey_, tabel, kant) && alleKeys;
+        for (const auto& [tabel, kant] : standen) {
+            // After the search of all three: a key that stands twice in one identifies nobody.
+            for (int rij = 1; !alleKeys && rij <= tabel.Rijen(); ++rij) {
+                if (Rijen(tabel, rij).onbruikbaar)
+                    ++(opInhoud_[tabel.Inhoud(rij)].*kant);
+            }
+        }
     }
 
     Menging Meng()
@@ -92,73 +92,37 @@ class Menger {
     }
 
   private:
-    void Zoek(const Spelertabel& tabel, int Drie::*kant)
+    [[nodiscard]] const Drierij& Rijen(const Spelertabel& tabel, int rij) const
     {
-        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-            const Tekstblik key = tabel.Cel(rij, Kolom::Key);
-            int& plaats = opKey_[key].*kant;
-            if (plaats != 0 || !AlsGetal(key, 1))
-                onbruikbaar_.insert(key);
-            plaats = rij;
-        }
-    }
-
-    /// After `Zoek` of all three: a key that stands twice in one state identifies nobody.
-    void Tel(const Spelertabel& tabel, int Drie::*kant)
-    {
-        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-            if (!HeeftKey(tabel, rij))
-                ++(opInhoud_[Inhoud(tabel, rij)].*kant);
-        }
-    }
-
-    [[nodiscard]] bool HeeftKey(const Spelertabel& tabel, int rij) const
-    {
-        return !onbruikbaar_.contains(tabel.Cel(rij, Kolom::Key));
-    }
-
-    static Rijblikken Cellen(const Spelertabel& tabel, int rij)
-    {
-        Rijblikken uit;
-        for (std::size_t i = 0; i < uit.size(); ++i)
-            uit[i] = tabel.Cel(rij, static_cast<Kolom>(i + 1));
-        return uit;
-    }
-
-    static Tekst Inhoud(const Spelertabel& tabel, int rij)
-    {
-        Tekst uit;
-        tabel.VoegCellenAan(uit, rij);
-        return uit;
+        return opKey_.at(tabel.Cel(rij, Kolom::Key));
     }
 
     /// Whether our player is another one than the other program's of the same key: both gave it out
     /// since the register was read here.
-    [[nodiscard]] bool IsDubbelUitgegeven(const Drie& rijen) const
+    [[nodiscard]] bool IsDubbelUitgegeven(const Drierij& rijen) const
     {
         const auto key = Geheel32(ons_.tabel.Cel(rijen.ons, Kolom::Key));
         if (rijen.basis != 0 || !key || *key <= basis_.HKEY || *key > ander_.HKEY)
             return false;
         return rijen.ander == 0 ||
-               !Gelijk(Cellen(ons_.tabel, rijen.ons), Cellen(ander_.tabel, rijen.ander));
+               !Gelijk(ons_.tabel.Cellen(rijen.ons), ander_.tabel.Cellen(rijen.ander));
     }
 
     void NeemVanAnder(int rij)
     {
-        if (!HeeftKey(ander_.tabel, rij)) {
+        const Drierij& rijen = Rijen(ander_.tabel, rij);
+        if (rijen.onbruikbaar) {
             NeemZonderKey(rij);
             return;
         }
-        const Drie& rijen = opKey_.at(ander_.tabel.Cel(rij, Kolom::Key));
-        const Rijblikken ander = Cellen(ander_.tabel, rij);
+        const Rijblikken ander = ander_.tabel.Cellen(rij);
         if (rijen.ons == 0 || IsDubbelUitgegeven(rijen)) {
             NeemZonderOns(rijen, ander);
             return;
         }
-        const Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
+        const Rijblikken ons = ons_.tabel.Cellen(rijen.ons);
         // Of a player that both added, what one left empty counts as filled in by the other.
-        const Rijblikken basis =
-            rijen.basis == 0 ? Rijblikken() : Cellen(basis_.tabel, rijen.basis);
+        const Rijblikken basis = rijen.basis == 0 ? Rijblikken() : basis_.tabel.Cellen(rijen.basis);
         auto samen = Samen(basis, ons, ander);
         if (!samen)
             samen = Bots(rijen) ? ons : ander;
@@ -176,12 +140,12 @@ class Menger {
     }
 
     /// A player whom only the other program has: added there, or deleted here.
-    void NeemZonderOns(const Drie& rijen, const Rijblikken& ander)
+    void NeemZonderOns(const Drierij& rijen, const Rijblikken& ander)
     {
         if (rijen.basis == 0) {
             uit_.overgenomen.push_back(VolleNaam(ander_.tabel, rijen.ander));
             nieuweLeden_.insert(Lidnummer(ander));
-        } else if (Gelijk(Cellen(basis_.tabel, rijen.basis), ander) || Bots(rijen))
+        } else if (Gelijk(basis_.tabel.Cellen(rijen.basis), ander) || Bots(rijen))
             return;
         plekken_.push_back({rijen.ander, false, ander});
     }
@@ -189,8 +153,8 @@ class Menger {
     /// Of rows with the same contents those stay that come first.
     void NeemZonderKey(int rij)
     {
-        const Tekst inhoud = Inhoud(ander_.tabel, rij);
-        const Drie& aantal = opInhoud_.at(inhoud);
+        const Tekst inhoud = ander_.tabel.Inhoud(rij);
+        const Drierij& aantal = opInhoud_.at(inhoud);
         auto& rijen = onbruikbareVanAnder_[inhoud];
         rijen.push_back(rij);
         const int nummer = static_cast<int>(rijen.size());
@@ -198,11 +162,11 @@ class Menger {
             return;
         if (nummer > aantal.ons)
             uit_.overgenomen.push_back(VolleNaam(ander_.tabel, rij));
-        plekken_.push_back({rij, false, Cellen(ander_.tabel, rij)});
+        plekken_.push_back({rij, false, ander_.tabel.Cellen(rij)});
     }
 
     /// Whether ours counts when both sides did something else with a player.
-    bool Bots(const Drie& rijen)
+    bool Bots(const Drierij& rijen)
     {
         Verschil& botsing = uit_.botsingen.emplace_back();
         if (rijen.ons != 0)
@@ -222,12 +186,10 @@ class Menger {
         int bij = 0;
         for (int rij = 1; rij <= ons_.tabel.Rijen(); ++rij) {
             const int plaats = rij > laatsteOude ? AanHetEind : bij;
-            if (!HeeftKey(ons_.tabel, rij)) {
+            const Drierij& rijen = Rijen(ons_.tabel, rij);
+            if (rijen.onbruikbaar)
                 bij = NeemOnzeZonderKey(rij, bij, plaats);
-                continue;
-            }
-            const Drie& rijen = opKey_.at(ons_.tabel.Cel(rij, Kolom::Key));
-            if (rijen.basis != 0 && rijen.ander == 0)
+            else if (rijen.basis != 0 && rijen.ander == 0)
                 NeemZonderAnder(rijen, plaats);
             else if (rijen.ander == 0 || IsDubbelUitgegeven(rijen))
                 VoegNieuweToe(rijen, plaats);
@@ -239,25 +201,24 @@ class Menger {
     /// Whether the row was added here since the register was read.
     [[nodiscard]] bool IsNieuw(int rij) const
     {
-        if (!HeeftKey(ons_.tabel, rij))
-            return false;
-        const Drie& rijen = opKey_.at(ons_.tabel.Cel(rij, Kolom::Key));
-        return rijen.basis == 0 && (rijen.ander == 0 || IsDubbelUitgegeven(rijen));
+        const Drierij& rijen = Rijen(ons_.tabel, rij);
+        return !rijen.onbruikbaar && rijen.basis == 0 &&
+               (rijen.ander == 0 || IsDubbelUitgegeven(rijen));
     }
 
     /// A player whom the other program deleted.
-    void NeemZonderAnder(const Drie& rijen, int plaats)
+    void NeemZonderAnder(const Drierij& rijen, int plaats)
     {
-        Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
-        if (Gelijk(Cellen(basis_.tabel, rijen.basis), ons))
+        Rijblikken ons = ons_.tabel.Cellen(rijen.ons);
+        if (Gelijk(basis_.tabel.Cellen(rijen.basis), ons))
             uit_.overgenomen.push_back(VolleNaam(ons_.tabel, rijen.ons));
         else if (Bots(rijen))
             plekken_.push_back({plaats, true, ons});
     }
 
-    void VoegNieuweToe(const Drie& rijen, int plaats)
+    void VoegNieuweToe(const Drierij& rijen, int plaats)
     {
-        Rijblikken ons = Cellen(ons_.tabel, rijen.ons);
+        Rijblikken ons = ons_.tabel.Cellen(rijen.ons);
         if (const Tekst nummer = Lidnummer(ons); !nummer.empty() && nieuweLeden_.contains(nummer))
             return;
         if (auto nieuw = IsDubbelUitgegeven(rijen) ? NieuweKey() : std::nullopt) {
@@ -284,13 +245,13 @@ class Menger {
     /// Returns behind which of its rows we are now.
     int NeemOnzeZonderKey(int rij, int bij, int plaats)
     {
-        const Tekst inhoud = Inhoud(ons_.tabel, rij);
-        const Drie& aantal = opInhoud_.at(inhoud);
+        const Tekst inhoud = ons_.tabel.Inhoud(rij);
+        const Drierij& aantal = opInhoud_.at(inhoud);
         const int nummer = ++onzeGenomen_[inhoud];
         if (nummer <= aantal.ander)
             return onbruikbareVanAnder_[inhoud][static_cast<std::size_t>(nummer - 1)];
         if (nummer <= Blijft(aantal))
-            plekken_.push_back({plaats, true, Cellen(ons_.tabel, rij)});
+            plekken_.push_back({plaats, true, ons_.tabel.Cellen(rij)});
         else
             uit_.overgenomen.push_back(VolleNaam(ons_.tabel, rij));
         return bij;
@@ -301,9 +262,8 @@ class Menger {
     const Stand& ander_;
     const std::set<Tekst>& voorOns_;
     const Tekstblik importgroep_;
-    std::unordered_map<Tekstblik, Drie> opKey_;
-    std::unordered_set<Tekstblik> onbruikbaar_; ///< keys that tell no players apart
-    std::unordered_map<Tekst, Drie> opInhoud_;  ///< how many of the rows without a usable key
+    Rijindex opKey_;
+    std::unordered_map<Tekst, Drierij> opInhoud_; ///< how many of the rows without a usable key
     std::unordered_map<Tekst, std::vector<int>> onbruikbareVanAnder_; ///< its rows, by contents
     std::unordered_map<Tekst, int> onzeGenomen_;
     std::unordered_set<Tekst> nieuweLeden_; ///< of the other program, by their number
@@ -312,6 +272,20 @@ class Menger {
 };
 
 } // namespace
+
+bool Indexeer(Rijindex& opKey, const Spelertabel& tabel, int Drierij::*kant)
+{
+    bool alle = true;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        const Tekstblik key = tabel.Cel(rij, Kolom::Key);
+        Drierij& rijen = opKey[key];
+        if (rijen.*kant != 0 || !AlsGetal(key, 1))
+            rijen.onbruikbaar = true;
+        alle = alle && !rijen.onbruikbaar;
+        rijen.*kant = rij;
+    }
+    return alle;
+}
 
 Tekst Aanduiding(const Verschil& verschil)
 {

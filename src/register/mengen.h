@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <set>
+#include <unordered_map>
 
 #include "register/spelerbestand.h"
 
@@ -24,6 +25,18 @@ struct Verschil {
     std::optional<Rijvelden> links;
     std::optional<Rijvelden> rechts;
 };
+
+/// The rows with a key in three states of the register, 0 where there is none.
+struct Drierij {
+    int basis = 0;
+    int ons = 0;
+    int ander = 0;
+    bool onbruikbaar = false; ///< the key tells no players apart
+};
+/// The keys are views into the tables.
+using Rijindex = std::unordered_map<Tekstblik, Drierij>;
+/// Adds a state; whether each of its keys tells a player apart.
+bool Indexeer(Rijindex& opKey, const Spelertabel& tabel, int Drierij::*kant);
 
 /// The full name and the key that tells players of one name apart.
 [[nodiscard]] Tekst Aanduiding(const Verschil& verschil);

@@ -104,14 +104,6 @@ void Spelertabel::VerwijderRijen(std::span<const int> rijen)
     rijen_.resize(over);
 }
 
-Rijvelden Spelertabel::Velden(int rij) const
-{
-    Rijvelden velden;
-    for (std::size_t i = 0; i < velden.size(); ++i)
-        velden[i] = Cel(rij, static_cast<Kolom>(i + 1));
-    return velden;
-}
-
 Tekst VolleNaam(const Spelertabel& tabel, int rij)
 {
     Tekst naam;

@@ -89,6 +89,13 @@ class Spelertabel {
     }
     /// The cells 2 to 18 as they stand in a file, joined by commas.
     void VoegCellenAan(Tekst& uit, int rij) const;
+    /// The same: all that tells what a row says; its number is only its place.
+    [[nodiscard]] Tekst Inhoud(int rij) const
+    {
+        Tekst uit;
+        VoegCellenAan(uit, rij);
+        return uit;
+    }
 
     /// A comma cannot stand in a cell; the windows keep it out and, last, the table does: it
     /// becomes an underscore, a line end a space.
@@ -107,7 +114,15 @@ class Spelertabel {
     /// in any order and more than once.
     void VerwijderRijen(std::span<const int> rijen);
 
-    [[nodiscard]] Rijvelden Velden(int rij) const;
+    [[nodiscard]] Rijvelden Velden(int rij) const { return Cellen<Rijvelden>(rij); }
+    /// As `Rijblikken`, views that hold until the table is changed.
+    template <class Rij = Rijblikken> [[nodiscard]] Rij Cellen(int rij) const
+    {
+        Rij uit;
+        for (std::size_t i = 0; i < uit.size(); ++i)
+            uit[i] = Cel(rij, static_cast<Kolom>(i + 1));
+        return uit;
+    }
 
   private:
     [[nodiscard]] const Celgrenzen& Grenzen(int rij) const

@@ -95,18 +95,11 @@ struct GeschiedenisTest : testing::Test {
     std::optional<Geschiedenis> geschiedenis;
 };
 
-Tekst Rij(const Spelertabel& tabel, int rij)
-{
-    Tekst uit;
-    tabel.VoegCellenAan(uit, rij);
-    return uit;
-}
-
 std::vector<Tekst> Rijen(const Spelertabel& tabel)
 {
     std::vector<Tekst> uit;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij)
-        uit.push_back(Rij(tabel, rij));
+        uit.push_back(tabel.Inhoud(rij));
     return uit;
 }
 
@@ -264,7 +257,7 @@ TEST_F(GeschiedenisTest, WieInParenStaatGaatNietWegDoorOngedaanMaken)
     EXPECT_EQ((Paarplaatsen{{"100043", "Gr01-.txt"}}), inParen);
     const Spelertabel uit = draai(inParen);
     EXPECT_EQ(6, uit.Rijen());
-    EXPECT_EQ(Rij(spelers.tabel, 6), Rij(uit, 6));
+    EXPECT_EQ(spelers.tabel.Inhoud(6), uit.Inhoud(6));
 }
 
 TEST_F(GeschiedenisTest, WatSindsdienIsGewijzigdBlijftEnWordtGenoemd)

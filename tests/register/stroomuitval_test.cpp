@@ -244,7 +244,7 @@ std::vector<Tekst> Rijen(const Spelertabel& tabel)
 {
     std::vector<Tekst> uit;
     for (int rij = 1; rij <= tabel.Rijen(); ++rij)
-        tabel.VoegCellenAan(uit.emplace_back(), rij);
+        uit.push_back(tabel.Inhoud(rij));
     return uit;
 }
 
