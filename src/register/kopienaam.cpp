@@ -29,8 +29,7 @@ constexpr std::size_t datumlengte = 10;
 bool IsMoment(Tekstblik tekst)
 {
     return HeeftVorm(tekst, momentvorm) && Dagnummer(tekst.substr(0, datumlengte)) &&
-           Getal(tekst.substr(11, 2)) < 24 && Getal(tekst.substr(13, 2)) < 60 &&
-           Getal(tekst.substr(15, 2)) < 60;
+           tekst.substr(11, 2) < "24" && tekst[13] < '6' && tekst[15] < '6';
 }
 
 /// Of which file there can be a copy: the register's, the settings and the pairs of a group.
@@ -55,42 +54,37 @@ int NeemVolgnummer(Tekstblik& rest)
     return static_cast<int>(nummer);
 }
 
-/// In which day, week or month a backup was made.
-enum class Tijdvak { Dag, Week, Maand };
+// In which span a backup was made, by number.
 
-int Nummer(const Kopienaam& kopie, Tijdvak tijdvak)
+int Dag(const Kopienaam& kopie)
 {
-    const Tekstblik moment = kopie.moment;
-    const int dag = Dagnummer(moment.substr(0, datumlengte)).value_or(0);
+    return Dagnummer(Tekstblik(kopie.moment).substr(0, datumlengte)).value_or(0);
+}
+
+int Week(const Kopienaam& kopie)
+{
     constexpr int vanMaandag = 3; // 1 January 1970 was a Thursday
-    constexpr int jaren = 12;
-    switch (tijdvak) {
-    case Tijdvak::Dag:
-        return dag;
-    case Tijdvak::Week:
-        return (dag + vanMaandag) / 7;
-    case Tijdvak::Maand:
-        break;
-    }
-    return static_cast<int>(Getal(moment.substr(0, 4)) * jaren + Getal(moment.substr(5, 2)));
+    return (Dag(kopie) + vanMaandag) / 7;
+}
+
+int Maand(const Kopienaam& kopie)
+{
+    constexpr unsigned maanden = 12;
+    const Tekstblik moment = kopie.moment;
+    return static_cast<int>(Getal(moment.substr(0, 4)) * maanden + Getal(moment.substr(5, 2)));
 }
 
 /// Takes the backups that stay out of `zips`, the newest first: what is left may go.
 std::vector<Kopienaam> NaUitdunnen(const std::vector<Kopienaam>& zips)
 {
-    struct Regel {
-        Tijdvak tijdvak;
-        int aantal;
-    };
-    constexpr std::array regels{Regel{Tijdvak::Dag, 12}, Regel{Tijdvak::Week, 10},
-                                Regel{Tijdvak::Maand, 9}};
+    constexpr std::array regels{std::pair(&Dag, 12), std::pair(&Week, 10), std::pair(&Maand, 9)};
     constexpr std::size_t laatste = 20;
     std::vector<Kopienaam> weg;
     auto plek = std::min(laatste, zips.size());
     for (const auto& [tijdvak, aantal] : regels) {
         for (int blijft = 0; plek < zips.size() && blijft < aantal; ++plek) {
             // The newer one beside it is of the same span: that one stands for it.
-            if (Nummer(zips[plek], tijdvak) == Nummer(zips[plek - 1], tijdvak))
+            if (tijdvak(zips[plek]) == tijdvak(zips[plek - 1]))
                 weg.push_back(zips[plek]);
             else
                 ++blijft;
@@ -162,7 +156,7 @@ std::vector<Tekst> Uitgediend(std::span<const Tekst> namen, Tekstblik vandaag)
     for (Kopienaam& kopie : Kopienamen(namen)) {
         if (kopie.IsZip())
             zips.push_back(std::move(kopie));
-        else if (Nummer(kopie, Tijdvak::Dag) + blijftDagen < Dagnummer(vandaag).value_or(0))
+        else if (Dag(kopie) + blijftDagen < Dagnummer(vandaag).value_or(0))
             uit.push_back(std::move(kopie.naam));
     }
     for (Kopienaam& kopie : NaUitdunnen(zips))
