@@ -10,15 +10,6 @@ namespace {
 
 constexpr Tekstblik telling = "spelers=";
 
-/// Adds a file that is there.
-Uitkomst<void> Verzamel(Schijf& schijf, const Pad& pad, Pad naam, std::vector<Zipdeel>& delen)
-{
-    return AlsErIs(schijf.LeesBestand(pad)).map([&](std::optional<Tekst> inhoud) {
-        if (inhoud)
-            delen.push_back({std::move(naam), std::move(*inhoud)});
-    });
-}
-
 Uitkomst<std::vector<Zipdeel>> Verzameld(Schijf& schijf, const Mappen& mappen)
 {
     std::vector<std::pair<Pad, Pad>> bronnen{{mappen.Spelerbestand(), Pad(Spelersdeel)},
@@ -34,9 +25,11 @@ Uitkomst<std::vector<Zipdeel>> Verzameld(Schijf& schijf, const Mappen& mappen)
         bronnen.emplace_back(Samen(mappen.Parenmap(), naam), Tekst(Parenmapdeel) + naam);
     std::vector<Zipdeel> delen;
     for (auto& [pad, naam] : bronnen) {
-        const auto erbij = Verzamel(schijf, pad, std::move(naam), delen);
-        if (!erbij)
-            return Mislukt(erbij);
+        auto inhoud = AlsErIs(schijf.LeesBestand(pad));
+        if (!inhoud)
+            return Mislukt(inhoud);
+        if (*inhoud)
+            delen.push_back({std::move(naam), std::move(**inhoud)});
     }
     return delen;
 }
@@ -55,22 +48,26 @@ Uitkomst<Tekst> Ingepakt(const std::vector<Zipdeel>& delen)
     return ZipVan(delen, Tekst(telling) + std::to_string(spelers));
 }
 
-/// What the device gave back must hold what went into it.
-Uitkomst<void> LeesTerug(Schijf& schijf, const Pad& pad, const std::vector<Zipdeel>& delen)
+Uitkomst<std::vector<Zipdeel>> LeesZip(Schijf& schijf, const Pad& pad)
 {
     return schijf.LeesBestand(pad)
         .and_then([](const Tekst& zip) { return Uitgepakt(zip); })
-        .and_then([&](const std::vector<Zipdeel>& terug) -> Uitkomst<void> {
-            if (terug != delen)
-                return Mislukt(
-                    {.soort = Foutsoort::Beschadigd,
-                     .systeem = "wat werd teruggelezen, is anders dan wat werd opgeslagen"});
-            return {};
-        })
         .map_error([&](Fout fout) {
             fout.bestand = schijf.Toonpad(pad);
             return fout;
         });
+}
+
+/// What the device gave back must hold what went into it.
+Uitkomst<void> LeesTerug(Schijf& schijf, const Pad& pad, const std::vector<Zipdeel>& delen)
+{
+    return LeesZip(schijf, pad).and_then([&](const auto& terug) -> Uitkomst<void> {
+        if (terug == delen)
+            return {};
+        return Mislukt({.soort = Foutsoort::Beschadigd,
+                        .bestand = schijf.Toonpad(pad),
+                        .systeem = "wat werd teruggelezen, is anders dan wat werd opgeslagen"});
+    });
 }
 
 std::optional<int> Telling(Schijf& schijf, const Pad& pad, const Kopienaam& kopie)
@@ -89,10 +86,8 @@ std::optional<int> Telling(Schijf& schijf, const Pad& pad, const Kopienaam& kopi
 /// Failures do no harm.
 void DunUit(Schijf& schijf, const Pad& map)
 {
-    const auto namen = schijf.Bestanden(map);
-    if (!namen)
-        return;
-    for (const Tekst& naam : Uitgediend(*namen, Tijdtekst("yyyy-MM-dd")))
+    const auto namen = schijf.Bestanden(map).value_or(std::vector<Tekst>());
+    for (const Tekst& naam : Uitgediend(namen, Tijdtekst("yyyy-MM-dd")))
         static_cast<void>(schijf.Verwijder(Samen(map, naam)));
 }
 
@@ -139,16 +134,11 @@ Uitkomst<std::vector<Zipdeel>> LeesReserve(Schijf& schijf, const Mappen& mappen,
                                            const Kopienaam& kopie)
 {
     const Pad pad = Samen(Kopiemap(mappen.SPEMAP), kopie.naam);
-    return schijf.LeesBestand(pad)
-        .and_then([&](Tekst inhoud) -> Uitkomst<std::vector<Zipdeel>> {
-            if (kopie.IsZip())
-                return Uitgepakt(inhoud);
-            return std::vector<Zipdeel>{{Pad(Spelersdeel), std::move(inhoud)}};
-        })
-        .map_error([&](Fout fout) {
-            fout.bestand = schijf.Toonpad(pad);
-            return fout;
-        });
+    if (kopie.IsZip())
+        return LeesZip(schijf, pad);
+    return schijf.LeesBestand(pad).map([](Tekst inhoud) {
+        return std::vector<Zipdeel>{{Pad(Spelersdeel), std::move(inhoud)}};
+    });
 }
 
 } // namespace plexoran
