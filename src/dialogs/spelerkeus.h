@@ -2,8 +2,6 @@
 // and its two buttons.
 #pragma once
 
-#include <QVBoxLayout>
-
 #include <utility>
 
 #include "dialogs/groepswerk.h"
@@ -16,11 +14,11 @@ class Spelerkeus : public QWidget {
   public:
     /// `cmdOK` can be pressed while at least one line is chosen.
     Spelerkeus(const Spelertabel& tabel, QPushButton* cmdOK, QWidget* ouder)
-        : QWidget(ouder), lstKeus(new Regellijst(QListView::MultiSelection, this)),
+        : QWidget(ouder),
+          lstKeus(new Regellijst(QListView::MultiSelection, u"lstKeus"_s, u"Spelers"_s, this)),
           cmdSelAll(MaakKnop(u"cmdSelAll"_s, u"Selecteer alles"_s, u'S', this)),
           cmdSelNone(MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this)), tabel_(tabel)
     {
-        Noem(lstKeus, u"lstKeus"_s, u"Spelers"_s);
         auto* Label1 = MaakLabel(u"Label1"_s, u"Selecteer de spelers(s) "_s, this);
         Label1->setBuddy(lstKeus);
         Onderelkaar({Label1, {lstKeus, 1}, Knoppenrij({cmdSelAll, cmdSelNone})}, this)

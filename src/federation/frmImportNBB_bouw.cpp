@@ -171,8 +171,8 @@ QLayout* frmImportNBB::BouwKeuze()
     cmdKiesExportMap->setEnabled(false);
     lblExportMap = MaakLopendeTekst(u"lblExportMap"_s,
                                     u"Kies links eerst waar de spelers vandaan komen."_s, this);
-    lstNBBbest = new Regellijst(QListView::MultiSelection, this);
-    Noem(lstNBBbest, u"lstNBBbest"_s, u"Ledenbestanden"_s);
+    lstNBBbest =
+        new Regellijst(QListView::MultiSelection, u"lstNBBbest"_s, u"Ledenbestanden"_s, this);
     lstNBBbest->setToolTip(
         u"Een klik of de spatiebalk kiest een ledenbestand of laat het los; Ctrl+A kiest alle"_s);
     Label3 = MaakLabel(u"Label3"_s, MetSneltoets(u"Ledenbestanden:"_s, u'b'), this);

@@ -10,18 +10,12 @@
 #include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
-namespace {
-
-constexpr std::size_t NaamVanaf = 7; // in every line, behind the key and a blank
-
-} // namespace
 
 Regellijst* frmParenOnderhoud::Lijst(const QString& naam, const QString& gesproken)
 {
-    auto* lijst = new Regellijst(QListView::SingleSelection, this);
-    Noem(lijst, naam, gesproken);
+    auto* lijst = new Regellijst(QListView::SingleSelection, naam, gesproken, this);
     lijst->setFont(Roosterletter(maten_.Letter(9).pixelSize()));
-    lijst->ZetNaamVanaf(NaamVanaf);
+    lijst->ZetNaamVanaf(7); // behind the key and a blank
     connect(lijst, &Regellijst::keuzeVeranderd, this, [this, lijst] { KeuzeIn(lijst); });
     return lijst;
 }

@@ -60,19 +60,12 @@ void frmPrintIni::Bouw()
     PasInScherm(this, {maten_.Twips(9600), maten_.Twips(7200)});
 }
 
-Regellijst* frmPrintIni::MaakLijst(const QString& naam, QLabel* label)
-{
-    auto* lijst = new Regellijst(QListView::MultiSelection, this);
-    Noem(lijst, naam, label->text());
-    label->setBuddy(lijst);
-    return lijst;
-}
-
 QGroupBox* frmPrintIni::BouwKolommen()
 {
     auto* Frame1 = MaakKader(u"Frame1"_s, u"Welke kolommen te printen"_s, this);
     QLabel* Label1 = MaakLabel(u"Label1"_s, u"Te printen Rubrieken (kolommen)"_s, this);
-    lstKeus = MaakLijst(u"lstKeus"_s, Label1);
+    lstKeus = new Regellijst(QListView::MultiSelection, u"lstKeus"_s, Label1->text(), this);
+    Label1->setBuddy(lstKeus);
     lstKeus->Vul(AantalPrintkolommen, [this](int plaats) {
         const Kolom kolom = PrintkolomOp(plaats);
         const Tekstblik naam = kolomnamen_[Index(kolom)];
@@ -94,7 +87,8 @@ QGroupBox* frmPrintIni::BouwKolommen()
 QLayout* frmPrintIni::BouwRechts()
 {
     QLabel* Label6 = MaakLabel(u"Label6"_s, u"Print alleen deze Subgroep(en):"_s, this);
-    lstNBBgr = MaakLijst(u"lstNBBgr"_s, Label6);
+    lstNBBgr = new Regellijst(QListView::MultiSelection, u"lstNBBgr"_s, Label6->text(), this);
+    Label6->setBuddy(lstNBBgr);
     lstNBBgr->Vul(static_cast<int>(subgroepen_.size()),
                   [this](int plaats) { return subgroepen_[static_cast<std::size_t>(plaats)]; });
     lstNBBgr->setEnabled(!subgroepen_.empty());

@@ -30,7 +30,6 @@ class frmPrintIni : public QDialog {
 
   private:
     void Bouw();
-    [[nodiscard]] Regellijst* MaakLijst(const QString& naam, QLabel* label);
     [[nodiscard]] QGroupBox* BouwKolommen();
     [[nodiscard]] QLayout* BouwRechts();
     void PasAan();

@@ -50,14 +50,6 @@ class Tekstvlak : public QScrollArea {
     int minstens_;
 };
 
-Regellijst* MaakLijst(const QString& naam, const QString& gesproken, QWidget* ouder)
-{
-    auto* lijst = new Regellijst(QListView::SingleSelection, ouder);
-    Noem(lijst, naam, gesproken);
-    lijst->setTabKeyNavigation(false);
-    return lijst;
-}
-
 } // namespace
 
 void frmKoppelNBBnr::Bouw()
@@ -136,7 +128,8 @@ QGroupBox* frmKoppelNBBnr::BouwZwevenden()
 {
     auto* Frame2 = MaakKader(u"Frame2"_s, QString(), this, u"Zwevende spelers"_s);
     Label11 = MaakLabel(u"Label11"_s, QString(), Frame2);
-    lstSpelers = MaakLijst(u"lstSpelers"_s, u"Gevonden zwevende spelers"_s, Frame2);
+    lstSpelers = new Regellijst(QListView::SingleSelection, u"lstSpelers"_s,
+                                u"Gevonden zwevende spelers"_s, Frame2);
     Label11->setBuddy(lstSpelers);
     auto* Label12 = MaakLabel(u"Label12"_s, u"Selecteer hierboven 1 speler"_s, Frame2);
     txtSpeler = MaakToonvak(u"txtSpeler"_s, u"Gekozen zwevende speler"_s, Frame2);
@@ -172,7 +165,8 @@ QGroupBox* frmKoppelNBBnr::BouwRegister()
                                       this, &frmKoppelNBBnr::KiesUitRegister);
     lagen->addWidget(cmdKiesRVDspeler);
     lagen->addWidget(BouwKolomkoppen());
-    lstRVDsp = MaakLijst(u"lstRVDsp"_s, u"Spelers uit RVD"_s, Frame4);
+    lstRVDsp =
+        new Regellijst(QListView::SingleSelection, u"lstRVDsp"_s, u"Spelers uit RVD"_s, Frame4);
     lstRVDsp->ZetNaamVanaf(8); // behind the key and two blanks
     QFont vast = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     vast.setPixelSize(QFontInfo(font()).pixelSize());

@@ -85,8 +85,11 @@ Tekst Gewichten(Tekstblik tekst)
 
 } // namespace
 
-Regellijst::Regellijst(SelectionMode hoeveel, QWidget* ouder) : QListView(ouder)
+Regellijst::Regellijst(SelectionMode hoeveel, const QString& naam, const QString& gesproken,
+                       QWidget* ouder)
+    : QListView(ouder)
 {
+    Noem(this, naam, gesproken);
     setModel(new Regelmodel([this](int plaats, int rol) { return Zegt(plaats, rol); }, this));
     setItemDelegate(new Regeltekenaar(this));
     setSelectionMode(hoeveel);

@@ -27,7 +27,8 @@ class Regellijst : public QListView {
   public:
     /// `hoeveel` can be chosen: `SingleSelection` or `MultiSelection`. A line that is too long is
     /// shortened in the latter and scrolls in the former.
-    Regellijst(SelectionMode hoeveel, QWidget* ouder);
+    Regellijst(SelectionMode hoeveel, const QString& naam, const QString& gesproken,
+               QWidget* ouder);
 
     /// Where the name begins in a line without a tab, behind which it begins otherwise.
     void ZetNaamVanaf(std::size_t plek) { naamVanaf_ = plek; }

@@ -62,7 +62,7 @@ class Meerkeuze : public testing::Test {
     }
 
     int gevraagd = 0;
-    Regellijst lijst{QListView::MultiSelection, nullptr};
+    Regellijst lijst{QListView::MultiSelection, {}, {}, nullptr};
 };
 
 } // namespace
@@ -350,7 +350,7 @@ class Eenkeuze : public testing::Test {
     }
 
     std::vector<Tekst> regels;
-    Regellijst lijst{QListView::SingleSelection, nullptr};
+    Regellijst lijst{QListView::SingleSelection, {}, {}, nullptr};
 };
 
 std::vector<Tekst> Honderden(int aantal)
