@@ -26,11 +26,9 @@ diaGrNamen::diaGrNamen(Groepen& groepen, QWidget* ouder) : QDialog(ouder), groep
     setObjectName(u"diaGrNamen"_s);
     setWindowTitle(u"Groepsnamen ingeven/wijzigen"_s);
     const int rand = maten_.Twips(Rand);
-    auto* lagen = new QVBoxLayout(this);
+    auto* lagen = Onderelkaar({BouwKader(), {BouwRijen(), 1}}, this);
     lagen->setContentsMargins(rand, rand / 2, rand, rand);
     lagen->setSpacing(rand / 2);
-    lagen->addWidget(BouwKader());
-    lagen->addWidget(BouwRijen(), 1);
     auto* cmdAnnuleren =
         MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &diaGrNamen::reject);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"OK"_s, u'O', this, &diaGrNamen::accept);

@@ -50,11 +50,10 @@ diaIngave::diaIngave(Ingave& ingave, std::int16_t& terugkeerveld, std::function<
     setObjectName(u"diaIngave"_s);
     setWindowTitle(u"Ingeven persoonsgegevens"_s);
     setMinimumSize(maten_.Twips(VensterBreed, 3000));
-    auto* lagen = new QVBoxLayout(this);
+    auto* velden = new Schuifblad(BouwVelden(), this);
+    auto* lagen = Onderelkaar({{velden, 1}, BouwVoet()}, this);
     lagen->setContentsMargins({});
     lagen->setSpacing(0);
-    lagen->addWidget(new Schuifblad(BouwVelden(), this), 1);
-    lagen->addLayout(BouwVoet());
     ToonGroep();
     PasInScherm(this, maten_.Twips(VensterBreed, 7650));
     Vak(Kolom::Voornaam)->setFocus();
@@ -150,10 +149,8 @@ void diaIngave::BouwVeld(int veld, QGridLayout* rooster)
     }
     vak->setFixedWidth(maten_.Twips(GeslachtBreed));
     vak->setAlignment(Qt::AlignCenter);
-    auto* rij = new QHBoxLayout;
+    auto* rij = Naastelkaar({vak, {BouwGeslacht(velden), 1}});
     rij->setSpacing(maten_.Twips(Rand));
-    rij->addWidget(vak);
-    rij->addWidget(BouwGeslacht(velden), 1);
     rooster->addLayout(rij, veld, 1);
 }
 
@@ -204,11 +201,7 @@ void diaIngave::BouwHulp(QGridLayout* rooster, int rij)
              "letters."_s,
              u"Hulp voor Status"_s);
     });
-    auto* naastKeus = new QHBoxLayout;
-    naastKeus->addSpacing(maten_.Twips(Inspringing));
-    naastKeus->addWidget(cmdH);
-    naastKeus->addStretch();
-    rooster->addLayout(naastKeus, rij, 2);
+    rooster->addLayout(Naastelkaar({Wit{maten_.Twips(Inspringing)}, cmdH, 0}), rij, 2);
 }
 
 void diaIngave::BouwTerugkeerkeuzen(QGridLayout* rooster)
@@ -241,12 +234,10 @@ QLayout* diaIngave::BouwVoet()
         knop->setFocusPolicy(Qt::TabFocus);
     auto* knoppen = Knoppenrij({cmdAnnuleren, cmdOK});
     knoppen->setSpacing(maten_.Twips(Inspringing));
-    auto* voet = new QVBoxLayout;
+    auto* voet = Onderelkaar({Label2, knoppen});
     const int rand = maten_.Twips(Rand);
     voet->setContentsMargins(rand, 0, rand, rand);
     voet->setSpacing(0);
-    voet->addWidget(Label2);
-    voet->addLayout(knoppen);
     return voet;
 }
 

@@ -44,12 +44,10 @@ void diaKopieer::BouwKader(QGroupBox* kader)
     // Also when what is shown is picked again.
     connect(cmbUitGroep, &QComboBox::activated, this, &diaKopieer::KiesBron);
     connect(cmbNBBgr, &QComboBox::activated, this, &diaKopieer::KiesWaarde);
-    chkNBBgrOok = new QCheckBox(kader);
-    Noem(chkNBBgrOok, u"chkNBBgrOok"_s);
+    chkNBBgrOok = MaakVink(u"chkNBBgrOok"_s, QString(), 0, kader);
     chkNBBgrOok->setChecked(true);
     // This one may be shown or hidden, but is never ticked: copies get no federation number.
-    chkNBBnrOok = new QCheckBox(u"NBBnummer ook kopieren"_s, kader);
-    Noem(chkNBBnrOok, u"chkNBBnrOok"_s);
+    chkNBBnrOok = MaakVink(u"chkNBBnrOok"_s, u"NBBnummer ook kopieren"_s, 0, kader);
     chkNBBnrOok->setEnabled(false);
 
     auto* vakken = new QGridLayout(kader);

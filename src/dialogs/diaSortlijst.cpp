@@ -150,24 +150,20 @@ diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)
     Noem(P0, u"P0"_s);
     auto* vlak = new Sorteervlak(beeld_, maten, *Frame2, P0);
     P1 = vlak;
-    auto* binnen = new QVBoxLayout(P0);
-    binnen->setContentsMargins({});
-    binnen->addWidget(P1);
+    Onderelkaar({P1}, P0)->setContentsMargins({});
     Frame2->Bevat(P0);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Terug"_s, u'T', this, &QDialog::accept);
     cmdOK->setDefault(true);
 
-    auto* lagen = new QVBoxLayout(this);
+    const QStringList titels{u"Spelers gesorteerd op 'RVD-key'."_s,
+                             u"Spelers gesorteerd op 'NBB-nummer'."_s,
+                             u"Spelers gesorteerd op 'NBB-groep en Naam'."_s};
+    auto* Label1 = MaakLabel(u"Label1"_s, titels[static_cast<int>(beeld_.soort) - 1], this);
+    auto* lagen = Onderelkaar({Label1, {Frame2, 1}, Knoppenrij({cmdOK})}, this);
     QMargins marges = lagen->contentsMargins();
     marges.setLeft(maten.Twips(Zijmarge));
     marges.setRight(maten.Twips(Zijmarge));
     lagen->setContentsMargins(marges);
-    const QStringList titels{u"Spelers gesorteerd op 'RVD-key'."_s,
-                             u"Spelers gesorteerd op 'NBB-nummer'."_s,
-                             u"Spelers gesorteerd op 'NBB-groep en Naam'."_s};
-    lagen->addWidget(MaakLabel(u"Label1"_s, titels[static_cast<int>(beeld_.soort) - 1], this));
-    lagen->addWidget(Frame2, 1);
-    lagen->addLayout(Knoppenrij({cmdOK}));
     const int breed = vlak->Vlakmaat().width() + Frame2->Staand().width() +
                       2 * Frame2->frameWidth() + marges.left() + marges.right();
     PasInScherm(this, {breed, maten.Twips(VensterHoog)});

@@ -138,8 +138,7 @@ void diaControleNBB::Bouw()
     Frame2->Bevat(P1);
     Frame2->Liggend().hide(); // what is too wide goes on below
     lblAantal = MaakLabel(u"lblAantal"_s, QString(), this);
-    chkSort = new QCheckBox(MetSneltoets(u"Sorteer op naam"_s, u'S'), this);
-    Noem(chkSort, u"chkSort"_s);
+    chkSort = MaakVink(u"chkSort"_s, u"Sorteer op naam"_s, u'S', this);
     cmdPrint = MaakKnop(u"cmdPrint"_s, u"Print"_s, u'P', this, &diaControleNBB::Print);
     auto* cmdTerug = MaakKnop(u"cmdTerug"_s, u"Terug"_s, u'T', this, &QDialog::accept);
     cmdTerug->setDefault(true);

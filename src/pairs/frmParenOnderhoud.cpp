@@ -109,23 +109,13 @@ void frmParenOnderhoud::KeuzeIn(const Regellijst* lijst)
     ZetKnoppen();
 }
 
-void frmParenOnderhoud::ZetKnopOKE(bool aan)
-{
-    ZetKnop(cmdOKE, aan, Paarkleur);
-}
-
-void frmParenOnderhoud::ZetKnopOntbindt(bool aan)
-{
-    ZetKnop(cmdOntbindt, aan, Ontbindkleur);
-}
-
 /// The same line in both lists is the same player.
 void frmParenOnderhoud::ZetKnoppen()
 {
     const int links = L1->Gekozen();
     const int rechts = L2->Gekozen();
-    ZetKnopOKE(links >= 0 && rechts >= 0 && links != rechts);
-    ZetKnopOntbindt(L3->Gekozen() >= 0);
+    ZetKnop(cmdOKE, links >= 0 && rechts >= 0 && links != rechts, Paarkleur);
+    ZetKnop(cmdOntbindt, L3->Gekozen() >= 0, Ontbindkleur);
 }
 
 void frmParenOnderhoud::MaakPaar()
@@ -248,8 +238,7 @@ void frmParenOnderhoud::Einde()
 
 void frmParenOnderhoud::ToonUitleg()
 {
-    frmUitleg venster(this);
-    venster.exec();
+    frmUitleg(this).exec();
 }
 
 } // namespace plexoran

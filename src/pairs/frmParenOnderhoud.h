@@ -38,8 +38,6 @@ class frmParenOnderhoud : public QDialog {
     void ToonAantalParen();
 
     void KeuzeIn(const Regellijst* lijst);
-    void ZetKnopOKE(bool aan);
-    void ZetKnopOntbindt(bool aan);
     void ZetKnoppen();
 
     void MaakPaar();

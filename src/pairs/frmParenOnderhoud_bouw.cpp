@@ -105,20 +105,14 @@ QLayout* frmParenOnderhoud::BouwMidden()
     auto* cmdSortL3 =
         MaakKnop(u"cmdSortL3"_s, u"Sort  L9"_s, u'S', this, &frmParenOnderhoud::SorteerParen);
     cmdSortL3->setToolTip(u"Zet de paren op volgorde van de eerste speler"_s);
-    auto* midden = new QVBoxLayout;
-    const auto label = [&](const QString& naam, const QString& tekst) {
-        auto* nieuw = MaakLabel(naam, tekst, this);
-        nieuw->setWordWrap(true);
-        midden->addWidget(nieuw, 0, Qt::AlignHCenter);
-    };
-    midden->addStretch(1);
-    label(u"Label6"_s, u"Maak  een paar"_s);
-    midden->addWidget(cmdOKE);
-    midden->addSpacing(maten_.Twips(450));
-    label(u"Label5"_s, u"Ontbindt dit paar"_s);
-    midden->addWidget(cmdOntbindt);
-    midden->addStretch(2);
-    midden->addWidget(cmdSortL3);
+    auto* Label6 = MaakLabel(u"Label6"_s, u"Maak  een paar"_s, this);
+    auto* Label5 = MaakLabel(u"Label5"_s, u"Ontbindt dit paar"_s, this);
+    auto* midden =
+        Onderelkaar({1, Label6, cmdOKE, Wit{maten_.Twips(450)}, Label5, cmdOntbindt, 2, cmdSortL3});
+    for (QLabel* label : {Label6, Label5}) {
+        label->setWordWrap(true);
+        midden->setAlignment(label, Qt::AlignHCenter);
+    }
     return midden;
 }
 

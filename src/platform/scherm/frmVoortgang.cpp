@@ -53,9 +53,4 @@ bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
     return !gestopt_;
 }
 
-Voortgang frmVoortgang::AlsVoortgang()
-{
-    return [this](std::size_t gedaan, std::size_t geheel) { return Meld(gedaan, geheel); };
-}
-
 } // namespace plexoran

@@ -25,7 +25,7 @@ class frmVoortgang : public QProgressDialog {
     bool Meld(std::size_t gedaan, std::size_t geheel);
     [[nodiscard]] bool Gestopt() const { return gestopt_; }
     /// The same for a rule; the window must outlive it.
-    [[nodiscard]] Voortgang AlsVoortgang();
+    [[nodiscard]] Voortgang AlsVoortgang() { return std::bind_front(&frmVoortgang::Meld, this); }
 
     /// Escape and the close box ask the work to stop. The window stays until it has come to its
     /// end: without it the windows behind it would take commands in the middle of the work.
