@@ -33,24 +33,20 @@ std::vector<int> RijenVan(const Spelertabel& tabel, const Printopdracht& opdrach
 
 /// By the lines "surname  #number" as a list in text order has them. Four digits, and more where
 /// there are more rows.
-std::vector<int> OpNaam(const Spelertabel& tabel, const std::vector<int>& rijen, Kolom naamkolom)
+std::vector<int> OpNaam(const Spelertabel& tabel, std::vector<int> rijen, Kolom naamkolom)
 {
-    const std::size_t cijfers = std::max(Nummerbreedte, std::to_string(rijen.size()).size());
-    std::vector<Tekst> lstHPsort;
+    const auto cijfers =
+        static_cast<int>(std::max(Nummerbreedte, std::to_string(rijen.size()).size()));
+    std::vector<std::pair<Tekst, int>> lstHPsort; // by keys that are all different
     lstHPsort.reserve(rijen.size());
-    for (std::size_t i = 0; i < rijen.size(); ++i) {
-        const Tekst nummer = std::to_string(i + 1);
-        lstHPsort.push_back(Tekst(tabel.Cel(rijen[i], naamkolom))
-                                .append("  #")
-                                .append(cijfers - nummer.size(), '0')
-                                .append(nummer));
+    for (const int rij : rijen) {
+        const Tekst nummer = MetNullen(static_cast<std::int64_t>(lstHPsort.size()) + 1, cijfers);
+        lstHPsort.emplace_back(
+            Sorteersleutel(Tekst(tabel.Cel(rij, naamkolom)).append("  #").append(nummer)), rij);
     }
-    Sorteer(lstHPsort);
-    std::vector<int> gesorteerd;
-    gesorteerd.reserve(rijen.size());
-    for (const Tekst& regel : lstHPsort)
-        gesorteerd.push_back(rijen[std::stoul(regel.substr(regel.size() - cijfers)) - 1]);
-    return gesorteerd;
+    std::ranges::sort(lstHPsort);
+    std::ranges::transform(lstHPsort, rijen.begin(), &std::pair<Tekst, int>::second);
+    return rijen;
 }
 
 } // namespace
@@ -85,7 +81,7 @@ Printtabel MaakPrinttabel(const Spelertabel& tabel, const Printopdracht& opdrach
         return Hoofdletters(titel) == SorteerkolomInHoofdletters;
     });
     if (naam != titels.end())
-        rijen = OpNaam(tabel, rijen,
+        rijen = OpNaam(tabel, std::move(rijen),
                        opdracht.kolommen[static_cast<std::size_t>(naam - titels.begin())]);
     return {tabel, std::move(rijen), opdracht.kolommen, std::move(titels)};
 }

@@ -56,22 +56,22 @@ Uitkomst<std::vector<Tekst>> Namen(const Pad& map, fs::file_type soort,
     return namen;
 }
 
-/// A file of more than `grootste` bytes is `value_too_large`.
-std::error_code LeesAlles(const fs::path& waar, std::uint64_t grootste, Tekst& naar)
+/// A file of more than `grootste` bytes is refused before it fills the memory.
+Uitkomst<Tekst> LeesAlles(const fs::path& waar, std::uint64_t grootste)
 try {
     // Asked first: the opening of a pipe would hold us until someone writes to it.
     Stempel stempel;
     if (const auto fout = systeem::NeemStempel(waar, stempel))
-        return fout;
+        return Mislukt(waar, fout);
     if (stempel.grootte > grootste)
-        return std::make_error_code(std::errc::value_too_large);
+        return plexoran::Mislukt(TeGroot(Leesbaar(waar)));
     const systeem::Greep greep(systeem::Open(waar, false));
     // Without a buffer: what is read goes straight into ours.
     if (!greep || std::setvbuf(greep.get(), nullptr, _IONBF, 0) != 0)
-        return systeem::Laatste();
+        return Mislukt(waar, systeem::Laatste());
     // One byte more, so that the end shows without growing; the size is a guess, for the file may
     // change and some systems do not tell it.
-    naar.resize(stempel.grootte + 1);
+    Tekst naar(stempel.grootte + 1, '\0');
     std::size_t gelezen = 0;
     for (;;) {
         gelezen += std::fread(naar.data() + gelezen, 1, naar.size() - gelezen, greep.get());
@@ -79,12 +79,14 @@ try {
             break;
         naar.resize(2 * naar.size());
     }
+    if (const auto fout = systeem::Uitslag(std::ferror(greep.get())))
+        return Mislukt(waar, fout);
     naar.resize(gelezen);
-    return systeem::Uitslag(std::ferror(greep.get()));
+    return naar;
 } catch (const std::bad_alloc&) {
-    return std::make_error_code(std::errc::not_enough_memory);
+    return Mislukt(waar, std::make_error_code(std::errc::not_enough_memory));
 } catch (const std::length_error&) {
-    return std::make_error_code(std::errc::file_too_large);
+    return Mislukt(waar, std::make_error_code(std::errc::file_too_large));
 }
 
 class EchteSchrijver : public Schrijver {
@@ -124,23 +126,12 @@ Uitkomst<Padsoort> EchteSchijf::Soort(const Pad& pad)
 
 Uitkomst<Tekst> EchteSchijf::LeesBestand(const Pad& pad)
 {
-    const fs::path waar = Systeempad(pad);
-    Tekst inhoud;
-    if (const auto fout = LeesAlles(waar, std::numeric_limits<std::uint64_t>::max(), inhoud))
-        return Mislukt(waar, fout);
-    return inhoud;
+    return LeesAlles(Systeempad(pad), std::numeric_limits<std::uint64_t>::max());
 }
 
 Uitkomst<Tekst> EchteSchijf::LeesBegrensd(const Pad& pad)
 {
-    const fs::path waar = Systeempad(pad);
-    Tekst inhoud;
-    const auto fout = LeesAlles(waar, GrootsteBestand, inhoud);
-    if (fout == std::errc::value_too_large)
-        return plexoran::Mislukt(TeGroot(Leesbaar(waar)));
-    if (fout)
-        return Mislukt(waar, fout);
-    return inhoud;
+    return LeesAlles(Systeempad(pad), GrootsteBestand);
 }
 
 Uitkomst<bool> EchteSchijf::Houdt(const Pad& pad, Tekstblik inhoud)
