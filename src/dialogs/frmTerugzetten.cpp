@@ -1,7 +1,6 @@
 #include "dialogs/frmTerugzetten.h"
 
 #include <QFileDialog>
-#include <QHeaderView>
 
 #include <algorithm>
 
@@ -11,14 +10,6 @@
 
 namespace plexoran {
 namespace {
-
-/// "2026-11-22 142233" as "22-11-2026 14:22".
-QString Datum(const Kopienaam& kopie)
-{
-    const QString moment = NaarQString(kopie.moment);
-    return moment.mid(8, 2) + moment.mid(4, 4) + moment.left(4) + moment.mid(10, 3) + u':' +
-           moment.mid(13, 2);
-}
 
 QString Reden(const Kopienaam& kopie)
 {
@@ -35,17 +26,6 @@ QString Wijze(const Rijverschil& verschil)
 std::optional<Rijvelden> Velden(const Spelertabel& tabel, int rij)
 {
     return rij > 0 ? std::optional(tabel.Velden(rij)) : std::nullopt;
-}
-
-QTreeWidget* MaakLijst(const QString& naam, const QString& gesproken, const QStringList& koppen,
-                       QWidget* ouder)
-{
-    auto* lijst = new QTreeWidget(ouder);
-    Noem(lijst, naam, gesproken);
-    lijst->setHeaderLabels(koppen);
-    lijst->header()->setSectionResizeMode(QHeaderView::Stretch);
-    lijst->setUniformRowHeights(true);
-    return lijst;
 }
 
 } // namespace
@@ -73,21 +53,21 @@ frmTerugzetten::frmTerugzetten(Administratie& administratie, QWidget* ouder)
 
 void frmTerugzetten::Bouw()
 {
-    auto* Label1 = MaakLabel(
+    auto* Label1 = MaakUitleg(
         u"Label1"_s,
         u"Kies een reservekopie. Daaronder staat wat er sindsdien is veranderd: vink de spelers "
         "aan die weer moeten worden zoals ze toen waren. Wie sindsdien gekomen is en wordt "
         "aangevinkt, verdwijnt."_s,
         this);
-    Label1->setWordWrap(true);
-    lstReserves = MaakLijst(u"lstReserves"_s, u"Reservekopieën"_s,
-                            {u"Datum"_s, u"Reden"_s, u"Aantal spelers"_s}, this);
+    lstReserves = MaakBoom(u"lstReserves"_s, u"Reservekopieën"_s,
+                           {u"Datum"_s, u"Reden"_s, u"Aantal spelers"_s}, this);
     lstReserves->setRootIsDecorated(false);
     connect(lstReserves, &QTreeWidget::currentItemChanged, this, &frmTerugzetten::KiesReserve);
-    Label2 = MaakLabel(u"Label2"_s, QString(), this);
-    Label2->setWordWrap(true);
-    lstVerschillen = MaakLijst(u"lstVerschillen"_s, u"Verschillen per speler"_s,
-                               {u"Speler"_s, u"Nu"_s, u"In de reservekopie"_s}, this);
+    Label2 = MaakUitleg(u"Label2"_s, QString(), this);
+    lstVerschillen = MaakBoom(u"lstVerschillen"_s, u"Verschillen per speler"_s,
+                              {u"Speler"_s, u"Nu"_s, u"In de reservekopie"_s}, this);
+    for (const QTreeWidget* lijst : {lstReserves, lstVerschillen})
+        lijst->header()->setSectionResizeMode(QHeaderView::Stretch);
     const Maten maten;
     lstVerschillen->header()->setSectionResizeMode(0, QHeaderView::Interactive);
     lstVerschillen->header()->resizeSection(0, maten.Twips(4300)); // a name and the key behind it
@@ -95,8 +75,7 @@ void frmTerugzetten::Bouw()
     connect(lstVerschillen, &QTreeWidget::itemChanged, this, &frmTerugzetten::ToonKnoppen);
     chkOokGroepen = MaakVink(u"chkOokGroepen"_s, u"Ook groepsnamen en paren"_s, u'g', this);
     connect(chkOokGroepen, &QCheckBox::toggled, this, &frmTerugzetten::ToonKnoppen);
-    lblTweedePlaats = MaakLabel(u"lblTweedePlaats"_s, QString(), this);
-    lblTweedePlaats->setWordWrap(true);
+    lblTweedePlaats = MaakUitleg(u"lblTweedePlaats"_s, QString(), this);
     auto* cmdTweedePlaats = MaakKnop(u"cmdTweedePlaats"_s, u"Tweede plaats..."_s, u'w', this,
                                      &frmTerugzetten::KiesTweedePlaats);
     cmdTweedePlaats->setEnabled(!administratie_.tweedeplaatsIni.empty());
@@ -128,7 +107,8 @@ void frmTerugzetten::LeesLijst()
     }
     for (const auto& [kopie, spelers] : reserves_) {
         const QString aantal = spelers ? QString::number(*spelers) : u"onleesbaar"_s;
-        auto* regel = new QTreeWidgetItem(lstReserves, {Datum(kopie), Reden(kopie), aantal});
+        auto* regel =
+            new QTreeWidgetItem(lstReserves, {Toonmoment(kopie.moment), Reden(kopie), aantal});
         regel->setToolTip(0, Wenk(NaarQString(kopie.naam)));
     }
     ToonKnoppen();
@@ -183,7 +163,7 @@ void frmTerugzetten::ToonVerschillen()
     lstVerschillen->clear();
     QList<QTreeWidgetItem*> regels;
     for (const Rijverschil& verschil : verschillen_) {
-        auto* regel = new QTreeWidgetItem;
+        auto* regel = new Boomregel;
         if (verschil.key.empty()) {
             regel->setText(0, u"Alle spelers zonder eigen sleutel"_s);
             regel->setText(1, u"Sindsdien gewijzigd"_s);
@@ -195,6 +175,7 @@ void frmTerugzetten::ToonVerschillen()
             regel->setText(1, Wijze(verschil));
             regel->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
         }
+        regel->setData(0, Sleutelrol, NaarQString(verschil.key));
         regel->setCheckState(0, Qt::Unchecked);
         regels << regel;
     }
@@ -207,16 +188,15 @@ void frmTerugzetten::ToonVelden(QTreeWidgetItem* speler) const
     if (plaats < 0 || speler->childCount() > 0)
         return;
     const Rijverschil& verschil = verschillen_[static_cast<std::size_t>(plaats)];
-    VoegVeldenToe(*speler, Velden(administratie_.spelers.tabel, verschil.nu),
-                  Velden(*toen_.tabel, verschil.toen));
+    VoegVeldenToe(*speler,
+                  {verschil.key, Velden(administratie_.spelers.tabel, verschil.nu),
+                   Velden(*toen_.tabel, verschil.toen)},
+                  administratie_.mappen.DFIMPG);
 }
 
 void frmTerugzetten::ToonKnoppen()
 {
-    bool gekozen = chkOokGroepen->isChecked() && !OokBestanden().empty();
-    for (int i = 0; i < lstVerschillen->topLevelItemCount() && !gekozen; ++i)
-        gekozen = lstVerschillen->topLevelItem(i)->checkState(0) == Qt::Checked;
-    cmdTerugzetten->setEnabled(gekozen);
+    cmdTerugzetten->setEnabled(IetsGekozen() || !OokBestanden().empty());
     cmdAlles->setEnabled(!verschillen_.empty());
 }
 
@@ -225,21 +205,10 @@ void frmTerugzetten::KiesAlle()
     {
         const QSignalBlocker stil(
             lstVerschillen->model()); // the view looks up each line it is told of
-        for (int i = 0; i < lstVerschillen->topLevelItemCount(); ++i)
-            lstVerschillen->topLevelItem(i)->setCheckState(0, Qt::Checked);
+        VinkAlle(*lstVerschillen, 0);
     }
     lstVerschillen->viewport()->update();
     ToonKnoppen();
-}
-
-std::set<Tekst> frmTerugzetten::Keys() const
-{
-    std::set<Tekst> uit;
-    for (int i = 0; i < lstVerschillen->topLevelItemCount(); ++i) {
-        if (lstVerschillen->topLevelItem(i)->checkState(0) == Qt::Checked)
-            uit.insert(verschillen_[static_cast<std::size_t>(i)].key);
-    }
-    return uit;
 }
 
 Menging frmTerugzetten::Hersteld() const

@@ -6,8 +6,8 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
 
+#include "platform/scherm/boom.h"
 #include "register/administratie.h"
 #include "register/herstel.h"
 #include "register/reservezip.h"
@@ -39,7 +39,7 @@ class frmTerugzetten : public QDialog {
     void ToonVelden(QTreeWidgetItem* speler) const;
     void ToonKnoppen();
     void KiesAlle();
-    [[nodiscard]] std::set<Tekst> Keys() const;
+    [[nodiscard]] std::set<Tekst> Keys() const { return Aangevinkt(*lstVerschillen, 0); }
 
     void KiesTweedePlaats();
     void ZetTweedePlaats(const Pad& map);

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <QDialog>
-#include <QTreeWidget>
 
+#include "platform/scherm/boom.h"
 #include "register/mengen.h"
 
 namespace plexoran {
@@ -17,31 +17,30 @@ struct Vergelijking {
     QString rechts;
 };
 
-/// Adds a line to a player for each field that differs: its name and what stands in it at the left
-/// and at the right, in the columns 0 to 2.
-void VoegVeldenToe(QTreeWidgetItem& speler, const std::optional<Rijvelden>& links,
-                   const std::optional<Rijvelden>& rechts);
+/// Adds a line to a player for each field that differs: from `kolom` on the name that the grid has
+/// for it, and what stands in it at the left and at the right.
+void VoegVeldenToe(QTreeWidgetItem& speler, const Verschil& verschil, Tekstblik importgroep,
+                   int kolom = 0);
 
 class frmVergelijk : public QDialog {
     Q_OBJECT
 
   public:
     frmVergelijk(const Vergelijking& teksten, const std::vector<Verschil>& verschillen,
-                 QWidget* ouder);
+                 Tekstblik importgroep, QWidget* ouder);
 
     /// The keys of the players of whom the left state was chosen.
-    [[nodiscard]] std::set<Tekst> Links() const { return Gekozen(KolomLinks); }
-    [[nodiscard]] std::set<Tekst> Rechts() const { return Gekozen(KolomRechts); }
+    [[nodiscard]] std::set<Tekst> Links() const { return Aangevinkt(*lstVerschillen, KolomLinks); }
+    [[nodiscard]] std::set<Tekst> Rechts() const
+    {
+        return Aangevinkt(*lstVerschillen, KolomRechts);
+    }
 
   private:
     enum { KolomWie, KolomLinks, KolomRechts };
 
-    void VoegToe(const Verschil& verschil);
-    void KiesAlle(int kolom);
     static void LaatLos(QTreeWidgetItem* speler, int kolom);
-    [[nodiscard]] std::set<Tekst> Gekozen(int kolom) const;
 
-    std::vector<Tekst> keys_;
     QTreeWidget* lstVerschillen;
 };
 

@@ -1,30 +1,20 @@
 #include "mainwindow/frmGeschiedenis.h"
 
-#include <QHeaderView>
-
 #include <algorithm>
 
-#include "platform/scherm/bouwstenen.h"
+#include "dialogs/frmVergelijk.h"
 #include "platform/tekst/regels.h"
 
 namespace plexoran {
 namespace {
 
 enum Kop { Wanneer, Wat, Was, Werd, Wie, Computer };
-enum Rol { Id = Qt::UserRole, Soort };
+enum Rol { Id = Sleutelrol, Soort, Tijd };
 
-QTreeWidgetItem* VoegToe(QTreeWidgetItem* onder, const QString& wat, const QString& was,
-                         const QString& werd)
+QTreeWidgetItem* VoegToe(QTreeWidgetItem* onder, const QString& wat, const QString& was = {},
+                         const QString& werd = {})
 {
-    auto* regel = new QTreeWidgetItem(onder, {QString(), wat, was, werd});
-    for (const int kolom : {Wat, Was, Werd})
-        regel->setToolTip(kolom, Wenk(regel->text(kolom)));
-    return regel;
-}
-
-QString Veld(const std::optional<Rijvelden>& velden, std::size_t kolom)
-{
-    return velden ? NaarQString((*velden)[kolom]) : QString();
+    return new Boomregel(onder, {QString(), wat, was, werd});
 }
 
 /// Pairs stand on one line, in the order in which they were made: here each on its own, sorted.
@@ -50,7 +40,7 @@ void OpenRegels(QTreeWidgetItem* regel, const Wijziging& wijziging)
                                          OpRegels(wijziging.na.value_or(Tekst())), true);
     for (const Tekstblik een : Regels(verschil)) {
         if (een.starts_with('-'))
-            VoegToe(regel, {}, NaarQString(een.substr(1)), {});
+            VoegToe(regel, {}, NaarQString(een.substr(1)));
         else if (een.starts_with('+'))
             VoegToe(regel, {}, {}, NaarQString(een.substr(1)));
     }
@@ -61,20 +51,16 @@ void OpenRegels(QTreeWidgetItem* regel, const Wijziging& wijziging)
 frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai draai,
                                  QWidget* ouder)
     : QDialog(ouder), administratie_(administratie), key_(std::move(key)), draai_(std::move(draai)),
-      lstHandelingen(new QTreeWidget(this))
+      lstHandelingen(MaakBoom(
+          u"lstHandelingen"_s, u"Handelingen"_s,
+          {u"Wanneer"_s, u"Wat"_s, u"Was"_s, u"Werd"_s, u"Gebruiker"_s, u"Computer"_s}, this))
 {
     setObjectName(u"frmGeschiedenis"_s);
     setWindowTitle(u"Geschiedenis"_s);
-    Label1 = MaakLabel(u"Label1"_s,
-                       u"Wat er in de administratie is gewijzigd, het laatste bovenaan. Open "
-                       "een regel om te zien wat er was en wat het werd."_s,
-                       this);
-    Label1->setWordWrap(true);
-    Noem(lstHandelingen, u"lstHandelingen"_s, u"Handelingen"_s);
-    lstHandelingen->setHeaderLabels(
-        {u"Wanneer"_s, u"Wat"_s, u"Was"_s, u"Werd"_s, u"Gebruiker"_s, u"Computer"_s});
-    lstHandelingen->setUniformRowHeights(true);
-    lstHandelingen->header()->setStretchLastSection(true);
+    Label1 = MaakUitleg(u"Label1"_s,
+                        u"Wat er in de administratie is gewijzigd, het laatste bovenaan. Open "
+                        "een regel om te zien wat er was en wat het werd."_s,
+                        this);
     connect(lstHandelingen, &QTreeWidget::itemExpanded, this, &frmGeschiedenis::Open);
     connect(lstHandelingen, &QTreeWidget::currentItemChanged, this, &frmGeschiedenis::Kies);
     cmdOngedaan =
@@ -110,6 +96,7 @@ void frmGeschiedenis::Vul()
 {
     lstHandelingen->clear();
     ongedaan_.clear();
+    QList<QTreeWidgetItem*> regels;
     std::set<Tekst> geweest; // the last word on an entry counts, and comes first
     LoopTerug(administratie_.schijf, administratie_.mappen, [&](Handeling& handeling) {
         const bool draaide = // else nothing could be undone
@@ -119,20 +106,23 @@ void frmGeschiedenis::Vul()
             ongedaan_.insert(handeling.hoort);
         if (!IsGekozen(handeling))
             return true;
-        const bool weg = ongedaan_.contains(handeling.id);
-        auto* regel = new QTreeWidgetItem(
-            lstHandelingen,
-            {NaarQString(handeling.tijd),
-             NaarQString(handeling.wat) + (weg ? u" (ongedaan gemaakt)"_s : QString()), QString(),
-             QString(), NaarQString(handeling.gebruiker), NaarQString(handeling.computer)});
+        const QString weg = ongedaan_.contains(handeling.id) ? u" (ongedaan gemaakt)"_s : QString();
+        auto* regel = new Boomregel({Toonmoment(handeling.tijd), NaarQString(handeling.wat) + weg,
+                                     QString(), QString(), NaarQString(handeling.gebruiker),
+                                     NaarQString(handeling.computer)});
         regel->setData(0, Id, NaarQString(handeling.id));
         regel->setData(0, Soort, static_cast<int>(handeling.soort));
-        regel->setToolTip(Wat, Wenk(regel->text(Wat)));
+        regel->setData(0, Tijd, NaarQString(handeling.tijd));
         if (!handeling.wijzigingen.empty())
             regel->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+        regels << regel;
         return true;
     });
-    lstHandelingen->sortItems(Wanneer, Qt::DescendingOrder); // those of several computers
+    // Those of several computers come together.
+    std::ranges::stable_sort(regels, std::greater(), [](const QTreeWidgetItem* regel) {
+        return regel->data(0, Tijd).toString();
+    });
+    lstHandelingen->addTopLevelItems(regels);
     lstHandelingen->setCurrentItem(lstHandelingen->topLevelItem(0));
     if (lstHandelingen->topLevelItemCount() == 0)
         Label1->setText(key_.empty() ? u"Er is nog niets vastgelegd."_s
@@ -147,7 +137,7 @@ void frmGeschiedenis::Open(QTreeWidgetItem* regel)
     const auto handeling = LeesHandeling(administratie_.schijf, administratie_.mappen,
                                          NaarTekst(regel->data(0, Id).toString()));
     if (!handeling) {
-        VoegToe(regel, u"Dit is niet meer te lezen."_s, {}, {});
+        VoegToe(regel, u"Dit is niet meer te lezen."_s);
         return;
     }
     for (const Wijziging& wijziging : handeling->wijzigingen) {
@@ -165,18 +155,13 @@ void frmGeschiedenis::OpenSpelers(QTreeWidgetItem* regel, const Wijziging& wijzi
         if (!key_.empty() && verschil.key != key_)
             continue;
         if (regel->childCount() == meeste) {
-            VoegToe(regel, u"... en meer"_s, {}, {});
+            VoegToe(regel, u"... en meer"_s);
             return;
         }
         auto* speler =
             VoegToe(regel, NaarQString(Aanduiding(verschil)), verschil.links ? u""_s : u"(geen)"_s,
                     verschil.rechts ? u""_s : u"(verwijderd)"_s);
-        for (auto i = Index(Kolom::Groep); i < AantalKolommen; ++i) {
-            const QString was = Veld(verschil.links, i);
-            const QString werd = Veld(verschil.rechts, i);
-            if (was != werd)
-                VoegToe(speler, NaarQString(Kolomnamen[i]), was, werd);
-        }
+        VoegVeldenToe(*speler, verschil, administratie_.mappen.DFIMPG, Wat);
         speler->setExpanded(true);
     }
 }

@@ -5,11 +5,11 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
 
 #include <functional>
 #include <set>
 
+#include "platform/scherm/boom.h"
 #include "register/administratie.h"
 
 namespace plexoran {

@@ -121,12 +121,11 @@ QWidget* frmLedenAdmin::BouwBovenkant()
 {
     auto* boven = new QWidget(this);
     boven->setFixedHeight(maten_.Twips(RoosterBoven));
-    auto* lblToel = MaakLabel(
+    auto* lblToel = MaakUitleg(
         u"lblToel"_s,
         u"Met dit programma moet u de gegevens van de spelers vastleggen en bewaren.\nBij het "
         "opzetten van de zitting moet u kiezen uit deze spelers."_s,
         boven);
-    lblToel->setWordWrap(true);
     lblToel->setFont(maten_.Letter(Toelichtingletter));
     lblToel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lblToel->setGeometry(maten_.Twips(RoosterLinks), maten_.Twips(KolBrBoven),

@@ -228,7 +228,8 @@ Uitkomst<void> Spelersopslag::MengMetSchijf()
         return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf.Toonpad(pad)});
     Menging menging = ander->MengMet(spelers);
     if (const std::size_t aantal = menging.botsingen.size(); aantal > 0) {
-        frmVergelijk venster(Botsingtekst, menging.botsingen, venster_);
+        frmVergelijk venster(Botsingtekst, menging.botsingen, administratie_.mappen.DFIMPG,
+                             venster_);
         const bool gekozen = venster.exec() == QDialog::Accepted;
         const auto voorOns = gekozen ? venster.Links() : std::set<Tekst>();
         if (!gekozen || voorOns.size() + venster.Rechts().size() < aantal) {

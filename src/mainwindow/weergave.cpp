@@ -15,7 +15,7 @@ Groepsbeeld BeeldVan(const Mappen& mappen, Tekstblik groepscode)
     Groepsbeeld beeld;
     beeld.importgroep = groepscode == mappen.DFIMPG;
     if (!beeld.importgroep) {
-        beeld.kolomnamen[Index(Kolom::NBBgr)] = "Subgr";
+        beeld.kolomnamen[Index(Kolom::NBBgr)] = Subgroepnaam;
         beeld.kolomnamen[Index(Kolom::NBBnr)] = "";
     }
     if (heeftWoord("ODNBB4SP"))

@@ -14,7 +14,7 @@ constexpr std::int64_t Oud = 86'400 * Seconde;
 
 Aanwezigheid::Aanwezigheid(Schijf& schijf, const Mappen& mappen, Tekst computer, Tekst gebruiker)
     : schijf_(schijf), map_(mappen.SPEMAP), zelf_{std::move(computer), std::move(gebruiker),
-                                                  Tijdtekst("d-M-yyyy HH:mm")},
+                                                  Tijdtekst("dd-MM-yyyy HH:mm")},
       naam_(Tekst(Voorvoegsel) + AlsBestandsnaam(zelf_.computer) + " " +
             AlsBestandsnaam(zelf_.gebruiker) + ".txt")
 {}

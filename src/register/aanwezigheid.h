@@ -11,7 +11,7 @@ namespace plexoran {
 struct Aanwezige {
     Tekst computer;
     Tekst gebruiker;
-    Tekst sinds; ///< "2-11-2026 19:04", as the clock of that computer has it
+    Tekst sinds; ///< "02-11-2026 19:04", as the clock of that computer has it
     bool operator==(const Aanwezige&) const = default;
 };
 

@@ -46,6 +46,9 @@ inline constexpr std::array<Tekstblik, AantalKolommen> Kolomnamen{
     "Nr",    "Key",    "Groep", "Voornaam", "Tusv", "Achternaam", "Telef",  "Email", "Adres",
     "Postc", "Plaats", "Land",  "M/V",      "Div1", "Div2",       "Status", "NBBgr", "NBBnr"};
 
+/// What `NBBgr` is called in any other group than the import group.
+inline constexpr Tekstblik Subgroepnaam = "Subgr";
+
 /// What is to stand in a cell.
 struct Celtekst {
     Kolom kolom;

@@ -92,7 +92,7 @@ void NeemVergelijking(const Bezoek& bezoek, QWidget& hoofdvenster, const Spelert
               "was, komt het dan in een kopie."_s,
               u"Hier"_s, u"Ander programma"_s},
              {{"100001", tabel.Velden(1), anders}, {"100002", std::nullopt, tabel.Velden(2)}},
-             &hoofdvenster));
+             "Gr05-", &hoofdvenster));
 }
 
 /// Backups of the suite, and a register in which a player came, one changed and one went since.

@@ -15,7 +15,7 @@ const Tekst toen = "HKEY=100004\r\n"
 const Tekst nu = "HKEY=100005\r\n"
                  "1,100001,Gr01-,An,,Bos,06-2,,,,Ede,,V,,,,,\r\n"
                  "2,100003,Gr02-,Cor,,Dam,,,,,,,M,,,,,\r\n"
-                 "3,100005,Gr02-,Els,,Fuik,,,,,,,V,,,,,\r\n";
+                 "3,100005,Gr02-,Els,,Fuik,,,,,,,V,,,,A-LIJN,\r\n";
 const Pad kopiemap = "C:\\club\\Spelers\\Reservekopie";
 const Pad ini = "C:\\gebruiker\\plexoran\\reservekopie.ini";
 
@@ -104,6 +104,7 @@ TEST_F(frmTerugzettenTest, ToontDeReservekopieenEnWatErSindsdienVeranderde)
                                       "  Voornaam|Els|\n"
                                       "  Achternaam|Fuik|\n"
                                       "  M/V|V|\n"
+                                      "  Subgr|A-LIJN|\n"
                                       "Bea de Cock (100002)|Sindsdien verdwenen|\n"
                                       "  Groep||Gr01-\n"
                                       "  Voornaam||Bea\n"

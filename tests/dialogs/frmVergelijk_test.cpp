@@ -20,6 +20,7 @@ struct TweeSpelers {
     std::vector<Verschil> verschillen{
         {"100001", Speler("100001", "An", "06-1"), Speler("100001", "Anna", "06-1")},
         {"100002", std::nullopt, Speler("100002", "Bea", "")}};
+    Tekst importgroep = "Gr05-";
 };
 
 class frmVergelijkTest : public Dialoogproef<frmVergelijk, TweeSpelers> {
@@ -27,7 +28,7 @@ class frmVergelijkTest : public Dialoogproef<frmVergelijk, TweeSpelers> {
     frmVergelijkTest()
     {
         Toon(Vergelijking{u"Vergelijk"_s, u"Kies per speler."_s, u"Hier"_s, u"Elders"_s},
-             verschillen);
+             verschillen, importgroep);
     }
     QTreeWidget* Lijst() { return Deel<QTreeWidget>("lstVerschillen"); }
     /// The three columns of every line, a player's fields indented; [x] for what is chosen.
@@ -69,6 +70,24 @@ TEST_F(frmVergelijkTest, ToontPerSpelerWatVerschilt)
                         "  Achternaam||Boer");
     EXPECT_EQ(venster->Links(), Keys());
     EXPECT_EQ(venster->Rechts(), Keys());
+}
+
+TEST_F(frmVergelijkTest, DeKolommenHetenZoalsInHetRooster)
+{
+    for (Verschil& verschil : verschillen)
+        (*verschil.rechts)[Index(Kolom::NBBgr)] = "A-LIJN";
+    verschillen[1].rechts->at(Index(Kolom::Groep)) = "Gr05-DINSDAG";
+    Toon(Vergelijking{u"Vergelijk"_s, u"Kies per speler."_s, u"Hier"_s, u"Elders"_s}, verschillen,
+         importgroep);
+    EXPECT_EQ(Regels(), "An de Boer (100001)|Deze|Deze\n"
+                        "  Voornaam|An|Anna\n"
+                        "  Subgr||A-LIJN\n"
+                        "Bea de Boer (100002)|Verwijderd|Deze\n"
+                        "  Groep||Gr05-DINSDAG\n"
+                        "  Voornaam||Bea\n"
+                        "  Tusv||de\n"
+                        "  Achternaam||Boer\n"
+                        "  NBBgr||A-LIJN");
 }
 
 TEST_F(frmVergelijkTest, VanElkeSpelerHoogstensEenKant)

@@ -12,13 +12,13 @@ class AanwezigTest : public Hoofdvensterproef {
   protected:
     AanwezigTest()
     {
-        suite.Zet("Spelers/Aanwezig Kamer wil.txt", "Kamer 2\r\nwil\r\n2-11-2026 19:04\r\n");
+        suite.Zet("Spelers/Aanwezig Kamer wil.txt", "Kamer 2\r\nwil\r\n02-11-2026 19:04\r\n");
     }
     void VerwachtVraag(const QString& antwoord)
     {
         wachter.Verwacht(
             {.tekst =
-                 u"Er werkt al iemand met deze administratie:\nwil op Kamer 2, sinds 2-11-2026 "
+                 u"Er werkt al iemand met deze administratie:\nwil op Kamer 2, sinds 02-11-2026 "
                  "19:04\n\nSamenwerken: wat de ander opslaat, ziet u meteen; wat u beiden "
                  "wijzigt, wordt samengevoegd.\nAlleen kijken: u kunt niets "
                  "wijzigen.\nStoppen: Plexoran sluit."_s,

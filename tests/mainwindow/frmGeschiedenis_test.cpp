@@ -370,3 +370,33 @@ TEST_F(GeschiedenisTest, SpelersVanEenAnderStaanErNaHetTerugdraaienVanAndereBest
     EXPECT_EQ("Aantal regels: 51", Aantal());
     EXPECT_EQ(reserves + 1, suite.Namen("Spelers/Reservekopie").size());
 }
+
+TEST_F(GeschiedenisTest, HetLaatsteStaatBovenaanWelkeComputerHetOokDeed)
+{
+    const auto zet = [&](const std::string& computer, const std::string& wat,
+                         const std::string& dag, const std::string& tijd) {
+        suite.Zet("Spelers/Geschiedenis/" + dag + " 120000 " + computer + ".txt",
+                  "handeling 1\r\ntijd " + dag + " " + tijd + "\r\ncomputer " + computer +
+                      "\r\ngebruiker wil\r\nwat " + wat +
+                      "\r\nbestand SPEMAP\\RVDspelers.txt\r\n"
+                      "-9,100009,Gr05-,Jan,,Bos,,,,,,,M,,,,A-LIJN,\r\n"
+                      "+9,100009,Gr05-,Jan,,Bos,,,,,,,M,,,,,\r\n"
+                      "-8,100008,Gr01-,Bea,,Bos,,,,,,,V,,,,A-LIJN,\r\n"
+                      "+8,100008,Gr01-,Bea,,Bos,,,,,,,V,,,,,\r\neinde\r\n");
+    };
+    std::filesystem::create_directory(suite.Weg() / "Spelers/Geschiedenis");
+    zet("ZAAL", "Eerste", "2026-10-30", "19:04:59");
+    zet("BAR", "Tweede", "2026-11-02", "08:30:00");
+    InGeschiedenis("actGeschiedenis", [](QDialog& geschiedenis) {
+        auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
+        ASSERT_EQ(2, lijst->topLevelItemCount());
+        EXPECT_EQ("02-11-2026 08:30", lijst->topLevelItem(0)->text(0).toStdString());
+        EXPECT_EQ("30-10-2026 19:04", lijst->topLevelItem(1)->text(0).toStdString());
+        lijst->expandItem(lijst->topLevelItem(0));
+        EXPECT_EQ((std::vector<std::string>{"Bea Bos (100008)||", "  Subgr|A-LIJN|",
+                                            "Jan Bos (100009)||", "  NBBgr|A-LIJN|"}),
+                  Regels(*lijst->topLevelItem(0)));
+        EXPECT_EQ("A-LIJN", lijst->topLevelItem(0)->child(0)->child(0)->toolTip(2).toStdString());
+        Druk(geschiedenis, "cmdSluiten");
+    });
+}

@@ -139,6 +139,14 @@ template <class Venster, class Opdracht>
     return label;
 }
 
+/// One whose lines are as wide as its window.
+[[nodiscard]] inline QLabel* MaakUitleg(const QString& naam, const QString& tekst, QWidget* ouder)
+{
+    auto* label = MaakLabel(naam, tekst, ouder);
+    label->setWordWrap(true);
+    return label;
+}
+
 [[nodiscard]] inline QGroupBox* MaakKader(const QString& naam, const QString& tekst, QWidget* ouder,
                                           const QString& gesproken = QString())
 {
