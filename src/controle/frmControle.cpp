@@ -1,7 +1,6 @@
 #include "controle/frmControle.h"
 
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QStandardPaths>
 
 #include <array>
@@ -136,15 +135,11 @@ void frmControle::Bouw()
 {
     setObjectName(u"frmControle"_s);
     setWindowTitle(Titel);
-    lblUitslag = MaakLabel(u"lblUitslag"_s, QString(), this);
-    lblUitslag->setWordWrap(true);
-    lstVondsten = new QTreeWidget(this);
-    Noem(lstVondsten, u"lstVondsten"_s, u"Wat aandacht vraagt"_s);
-    lstVondsten->setHeaderLabels({u"Waar"_s, u"Wat"_s});
+    lblUitslag = MaakUitleg(u"lblUitslag"_s, QString(), this);
+    lstVondsten = MaakBoom(u"lstVondsten"_s, u"Wat aandacht vraagt"_s, {u"Waar"_s, u"Wat"_s}, this);
     const Maten maten;
     lstVondsten->header()->resizeSection(0, maten.Twips(6700)); // the other one takes the rest
     lstVondsten->setTextElideMode(Qt::ElideMiddle);
-    lstVondsten->setUniformRowHeights(true);
     txtRaad = MaakLeesvak(u"txtRaad"_s, u"Wat te doen"_s, QString(), this);
     constexpr int raadregels = 6;
     txtRaad->setFixedHeight(raadregels * fontMetrics().lineSpacing() + 2 * txtRaad->frameWidth());
@@ -189,9 +184,7 @@ void frmControle::VulLijst()
             groep->setFont(0, vet);
             groep->setData(0, Qt::UserRole, TekstVan(soort).raad);
         }
-        auto* regel = new QTreeWidgetItem(groep, {Waar(vondst, wortel), Wat(vondst)});
-        for (const int kolom : {0, 1})
-            regel->setToolTip(kolom, Wenk(regel->text(kolom)));
+        new Boomregel(groep, {Waar(vondst, wortel), Wat(vondst)});
     }
     lstVondsten->expandAll();
     lstVondsten->setCurrentItem(lstVondsten->topLevelItem(0));
@@ -249,7 +242,7 @@ QString frmControle::Samenvatting() const
 /// The whole list as a text.
 QString frmControle::Verslag() const
 {
-    QStringList regels{Titel + u", "_s + NaarQString(Tijdtekst("d-M-yyyy H:mm")), QString(),
+    QStringList regels{Titel + u", "_s + NaarQString(Tijdtekst("dd-MM-yyyy HH:mm")), QString(),
                        Samenvatting()};
     for (int i = 0; i < lstVondsten->topLevelItemCount(); ++i) {
         const QTreeWidgetItem* groep = lstVondsten->topLevelItem(i);
@@ -272,11 +265,14 @@ void frmControle::SlaOp()
     CommonDialog1.selectFile(Titel + u".txt"_s);
     if (CommonDialog1.exec() != QDialog::Accepted)
         return;
+    Schijf& schijf = administratie_.schijf;
+    const Pad pad = VolledigPad(CommonDialog1.selectedFiles().constFirst().toStdString());
     const auto opgeslagen =
-        SchrijfHeel(administratie_.schijf,
-                    VolledigPad(CommonDialog1.selectedFiles().constFirst().toStdString()),
-                    NaarTekst(Verslag().replace(u'\n', u"\r\n"_s)));
-    if (!StaatEr(this, opgeslagen))
+        SchrijfHeel(schijf, pad, NaarTekst(Verslag().replace(u'\n', u"\r\n"_s)));
+    if (StaatEr(this, opgeslagen))
+        lblUitslag->setText(Samenvatting() + u"\nDe lijst is opgeslagen: "_s +
+                            QString::fromStdString(schijf.Toonpad(pad)));
+    else
         MeldFout(this, QMessageBox::Warning,
                  u"De lijst kon niet worden opgeslagen. Er is niets veranderd. Kies een andere map "
                  "of een andere naam."_s,

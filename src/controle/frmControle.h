@@ -6,9 +6,9 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTreeWidget>
 
 #include "controle/controle.h"
+#include "platform/scherm/boom.h"
 #include "register/administratie.h"
 
 namespace plexoran {

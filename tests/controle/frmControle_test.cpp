@@ -154,12 +154,19 @@ TEST_F(frmControleTest, DeLijstWordtOpgeslagen)
     VerwachtOpslaan(map.Weg() / "lijst.txt");
     Opdracht("cmdOpslaan");
     const std::string tekst = map.Inhoud("lijst.txt");
-    EXPECT_TRUE(tekst.starts_with("Controle van de administratie, ")) << tekst;
+    EXPECT_TRUE(tekst.starts_with("Controle van de administratie, " +
+                                  Tijdtekst("dd-MM-yyyy HH:").substr(0, 14)))
+        << tekst;
     EXPECT_NE(std::string::npos, tekst.find("\r\n\r\n3 punten vragen aandacht.\r\n" + geteld +
                                             "\r\n\r\nSleutels die meer dan eens voorkomen (1)\r\n"
                                             "Wat te doen: Zittingen en paren kunnen"));
     EXPECT_NE(std::string::npos, tekst.find("\r\n - 100007 Bea Eik (Gr02-): ligt boven HKEY=\r\n"));
     EXPECT_TRUE(tekst.ends_with("\r\n - Zitting Een: N01: Jan Tol\r\n"));
+    EXPECT_EQ("3 punten vragen aandacht.\n" + geteld +
+                  "\nDe lijst is opgeslagen: " + (map.Weg() / "lijst.txt").string(),
+              Label("lblUitslag"));
+    Opdracht("cmdHerstel");
+    EXPECT_EQ(std::string::npos, Label("lblUitslag").find("opgeslagen:")) << "now it is another";
 }
 
 TEST_F(frmControleTest, OpslaanKanMislukkenOfWordenAfgezegd)
