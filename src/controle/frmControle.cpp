@@ -1,8 +1,5 @@
 #include "controle/frmControle.h"
 
-#include <QFileDialog>
-#include <QStandardPaths>
-
 #include <array>
 
 #include "platform/scherm/berichten.h"
@@ -10,7 +7,6 @@
 #include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/printer.h"
 #include "platform/scherm/schildervlak.h"
-#include "platform/schijf/programma.h"
 #include "platform/tekst/tekstblad.h"
 
 namespace plexoran {
@@ -164,9 +160,7 @@ void frmControle::VulLijst()
 {
     lstVondsten->clear();
     const Pad& map = administratie_.mappen.RVDMAP;
-    const QString wortel =
-        map.empty() ? QString()
-                    : QString::fromStdString(administratie_.schijf.Toonpad(Samen(map, {})));
+    const QString wortel = map.empty() ? QString() : Toonpad(administratie_.schijf, Samen(map, {}));
     QTreeWidgetItem* groep = nullptr;
     QFont vet = lstVondsten->font();
     vet.setBold(true);
@@ -256,22 +250,16 @@ QString frmControle::Verslag() const
 
 void frmControle::SlaOp()
 {
-    QFileDialog CommonDialog1(this, u"Lijst opslaan"_s);
-    Noem(&CommonDialog1, u"CommonDialog1"_s);
-    CommonDialog1.setAcceptMode(QFileDialog::AcceptSave);
-    CommonDialog1.setNameFilter(u"Tekstbestanden (*.txt)"_s);
-    CommonDialog1.setDefaultSuffix(u"txt"_s);
-    CommonDialog1.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    CommonDialog1.selectFile(Titel + u".txt"_s);
-    if (CommonDialog1.exec() != QDialog::Accepted)
+    const auto pad =
+        VraagOpslagplaats(this, u"Lijst opslaan"_s, u"Tekstbestanden (*.txt)"_s, u"txt"_s, Titel);
+    if (!pad)
         return;
     Schijf& schijf = administratie_.schijf;
-    const Pad pad = VolledigPad(CommonDialog1.selectedFiles().constFirst().toStdString());
     const auto opgeslagen =
-        SchrijfHeel(schijf, pad, NaarTekst(Verslag().replace(u'\n', u"\r\n"_s)));
+        SchrijfHeel(schijf, *pad, NaarTekst(Verslag().replace(u'\n', u"\r\n"_s)));
     if (StaatEr(this, opgeslagen))
         lblUitslag->setText(Samenvatting() + u"\nDe lijst is opgeslagen: "_s +
-                            QString::fromStdString(schijf.Toonpad(pad)));
+                            Toonpad(schijf, *pad));
     else
         MeldFout(this, QMessageBox::Warning,
                  u"De lijst kon niet worden opgeslagen. Er is niets veranderd. Kies een andere map "

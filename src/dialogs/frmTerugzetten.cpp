@@ -38,7 +38,7 @@ QString Tweedeplaatsregel(const Administratie& administratie)
     return dagen == 0 ? QString()
                       : u"De tweede plaats voor reservekopieën (%2) heeft al %1 dagen geen nieuwe "
                         "gekregen."_s.arg(dagen)
-                            .arg(QString::fromStdString(administratie.schijf.Toonpad(plaats.map)));
+                            .arg(Toonpad(administratie.schijf, plaats.map));
 }
 
 frmTerugzetten::frmTerugzetten(Administratie& administratie, QWidget* ouder)
@@ -239,7 +239,7 @@ void frmTerugzetten::KiesTweedePlaats()
     if (!nu.empty()) {
         const int antwoord = Kies(this, QMessageBox::Question,
                                   u"De nieuwste reservekopie gaat ook naar:\n\n%1"_s.arg(
-                                      QString::fromStdString(administratie_.schijf.Toonpad(nu))),
+                                      Toonpad(administratie_.schijf, nu)),
                                   {u"Andere map..."_s, u"Geen tweede plaats"_s, u"Annuleren"_s});
         if (antwoord == 1)
             ZetTweedePlaats({});
@@ -277,7 +277,7 @@ void frmTerugzetten::ToonTweedePlaats()
     const QString gewoon =
         map.empty() ? u"Er is geen tweede plaats gekozen, zoals een stick of een andere schijf."_s
                     : u"De nieuwste reservekopie gaat ook naar "_s +
-                          QString::fromStdString(administratie_.schijf.Toonpad(map)) + u'.';
+                          Toonpad(administratie_.schijf, map) + u'.';
     lblTweedePlaats->setText(weg.isEmpty() ? gewoon : weg);
 }
 

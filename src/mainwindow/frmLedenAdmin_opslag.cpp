@@ -239,7 +239,7 @@ Uitkomst<void> Spelersopslag::MengMetSchijf()
                 return Mislukt(kopie);
             nieuws_ << u"Waar u niets koos, staat in het spelerbestand wat het andere programma "
                        "ervan maakte. Zoals het hier was, staat het in de kopie:\n%1"_s.arg(
-                           QString::fromStdString(schijf.Toonpad(*kopie)));
+                           Toonpad(schijf, *kopie));
         }
         menging = ander->MengMet(spelers, voorOns);
     }

@@ -15,11 +15,6 @@
 namespace plexoran {
 namespace {
 
-QString Toonpad(const Administratie& administratie, const Pad& pad)
-{
-    return QString::fromStdString(administratie.schijf.Toonpad(pad));
-}
-
 void MeldMapfout(QWidget* venster, const QString& wat, const Fout& fout)
 {
     MeldFout(venster, QMessageBox::Warning,
@@ -51,7 +46,7 @@ void BiedTerugzettenAan(Administratie& administratie, QWidget* venster, const Aa
 {
     if (!StaatOpSchijf(aanmaak.gemaakt) || aanmaak.inhoud.empty())
         return;
-    const QString kopie = u"\n\nKopie: "_s + Toonpad(administratie, aanmaak.kopie);
+    const QString kopie = u"\n\nKopie: "_s + Toonpad(administratie.schijf, aanmaak.kopie);
     int antwoord = Kies(
         venster, QMessageBox::Warning,
         wat +
@@ -119,7 +114,7 @@ void LeesInstellingenbestand(Administratie& administratie, QWidget* venster)
              u"Het bestand 'Plexo.ini' bevat iets anders dan de instellingen van dit programma. "
              "Voordat het wordt vervangen, komt er een kopie van in de map Reservekopie. U hoeft "
              "niets te doen.\n\nBestand: "_s +
-                 Toonpad(administratie, pad));
+                 Toonpad(administratie.schijf, pad));
 }
 
 void ZoekDataMap(Administratie& administratie, QWidget* venster)
@@ -153,7 +148,7 @@ void LeesGroepsnamen(Administratie& administratie, QWidget* venster)
              u"Het bestand met de groepsnamen bevat regels die geen groepsnaam zijn; die zijn "
              "overgeslagen. Voordat het bestand wordt vervangen, komt er een kopie van in de map "
              "Reservekopie. Kijk na of de groepsnamen kloppen.\n\nBestand: "_s +
-                 Toonpad(administratie, administratie.mappen.Groepenbestand()));
+                 Toonpad(administratie.schijf, administratie.mappen.Groepenbestand()));
 }
 
 /// The highest key issued is never raised without this answer.
@@ -222,7 +217,7 @@ void MeldLosseSleutels(Administratie& administratie, QWidget* venster)
                                               : u"%1 zittingen"_s.arg(verslagen.size()),
                                           een ? u"dat bestand"_s : u"die bestanden"_s);
     for (const Pad& pad : verslagen)
-        tekst += u"\nBestand: "_s + Toonpad(administratie, pad);
+        tekst += u"\nBestand: "_s + Toonpad(administratie.schijf, pad);
     MeldLijst(venster, QMessageBox::Warning, tekst);
 }
 
@@ -262,8 +257,8 @@ bool LeesMappen(Administratie& administratie, QWidget* venster, const Pad& mappe
         Meld(venster, QMessageBox::Warning,
              u"Misschien zijn niet alle regels van 'Mappen.ini' gelezen: %1. Er is niets aan uw "
              "gegevens veranderd. Sla dat bestand in een tekstprogramma op als ANSI (Windows-1252) "
-             "en start Plexoran opnieuw.\n\nBestand: %2"_s.arg(QString::fromStdString(bezwaar),
-                                                               Toonpad(administratie, mappenIni)));
+             "en start Plexoran opnieuw.\n\nBestand: %2"_s.arg(
+                 QString::fromStdString(bezwaar), Toonpad(administratie.schijf, mappenIni)));
     return true;
 }
 

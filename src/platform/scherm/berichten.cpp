@@ -1,15 +1,18 @@
 #include "platform/scherm/berichten.h"
 
 #include <QEvent>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
 
 #include <algorithm>
 
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/schuifblad.h"
+#include "platform/schijf/programma.h"
 
 namespace plexoran {
 namespace {
@@ -195,6 +198,21 @@ int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
     return static_cast<int>(plaats < 0 ? knoppen.size() - 1 : plaats);
 }
 
+std::optional<Pad> VraagOpslagplaats(QWidget* ouder, const QString& vraag, const QString& soort,
+                                     const QString& uitgang, const QString& naam)
+{
+    QFileDialog kiezer(ouder, vraag);
+    Noem(&kiezer, u"CommonDialog1"_s);
+    kiezer.setAcceptMode(QFileDialog::AcceptSave);
+    kiezer.setNameFilter(soort);
+    kiezer.setDefaultSuffix(uitgang);
+    kiezer.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    kiezer.selectFile(naam + u'.' + uitgang);
+    if (kiezer.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return VolledigPad(kiezer.selectedFiles().constFirst().toStdString());
+}
+
 QString Bijzonderheden(const Fout& fout)
 {
     QStringList regels;
@@ -286,7 +304,7 @@ void MeldOvergeslagen(QWidget* ouder, Schijf& schijf, const Pad& map)
             Aantal(static_cast<std::size_t>(namen.size()), u"naam"_s, u"namen"_s) +
             u", omdat er een teken in staat dat een naam in Ravendeck niet kan hebben, zoals "
             "'\\'. Er is niets gewijzigd. Geef wat u ervan nodig hebt, een andere naam.\n\nMap: "_s +
-            QString::fromStdString(schijf.Toonpad(map)) + u'\n' + namen.join(u'\n'));
+            Toonpad(schijf, map) + u'\n' + namen.join(u'\n'));
 }
 
 frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap& icoon,
@@ -307,8 +325,7 @@ frmBericht::frmBericht(const QString& tekst, const QString& titel, const QPixmap
     }
     boven->addWidget(txtBericht);
     Onderelkaar({boven, Knoppenrij({cmdOK})}, this);
-    const Maten maten;
-    PasInScherm(this, {maten.Twips(10800), maten.Twips(8100)});
+    PasInScherm(this, Maten().Twips(10800, 8100));
 }
 
 } // namespace plexoran

@@ -35,6 +35,18 @@ void MeldVerslag(QWidget* ouder, const QString& tekst, const QString& titel,
 [[nodiscard]] int Kies(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
                        const QStringList& antwoorden, int voorkeur = 0);
 
+/// Where a new file is to come, by the dialog of the system; nothing when that is called off. Files
+/// of this kind, "Tekstbestanden (*.txt)", end in `uitgang`.
+[[nodiscard]] std::optional<Pad> VraagOpslagplaats(QWidget* ouder, const QString& vraag,
+                                                   const QString& soort, const QString& uitgang,
+                                                   const QString& naam);
+
+/// A path as the system writes it.
+[[nodiscard]] inline QString Toonpad(Schijf& schijf, const Pad& pad)
+{
+    return QString::fromStdString(schijf.Toonpad(pad));
+}
+
 /// Which file and line, and the system's own words, as the closing lines of a message.
 [[nodiscard]] QString Bijzonderheden(const Fout& fout);
 

@@ -20,9 +20,7 @@ frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* o
     setMinimumDuration(std::numeric_limits<int>::max());
     reset(); // stops the timer that runs already
     disconnect(this, &QProgressDialog::canceled, nullptr, nullptr); // which hides it at once
-    auto* lblTekst = MaakLabel(u"lblTekst"_s, tekst, this);
-    lblTekst->setWordWrap(true);
-    setLabel(lblTekst);
+    setLabel(MaakUitleg(u"lblTekst"_s, tekst, this));
     auto* balk = new QProgressBar(this);
     Noem(balk, u"balk"_s, u"Voortgang"_s);
     setBar(balk);

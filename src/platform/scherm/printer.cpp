@@ -1,13 +1,11 @@
 #include "platform/scherm/printer.h"
 
 #include <QBuffer>
-#include <QFileDialog>
 #include <QLibrary>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <numeric>
@@ -53,20 +51,18 @@ void VerbergLosseBladen(const QPrintDialog& dialoog)
 /// A PDF file by the dialog of the system; all pages go into it.
 std::optional<Printkeus> VraagPdf(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
 {
-    QFileDialog kiezer(ouder, u"Opslaan als PDF-bestand"_s);
-    Noem(&kiezer, u"CommonDialog1"_s);
-    kiezer.setAcceptMode(QFileDialog::AcceptSave);
-    kiezer.setNameFilter(u"PDF-bestanden (*.pdf)"_s);
-    kiezer.setDefaultSuffix(u"pdf"_s);
-    kiezer.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    kiezer.selectFile(werk.titel + u".pdf"_s);
-    if (kiezer.exec() != QDialog::Accepted)
+    const auto pad = VraagOpslagplaats(ouder, u"Opslaan als PDF-bestand"_s,
+                                       u"PDF-bestanden (*.pdf)"_s, u"pdf"_s, werk.titel);
+    if (!pad)
         return std::nullopt;
     std::vector<int> alle(static_cast<std::size_t>(werk.bladen));
     std::iota(alle.begin(), alle.end(), 1);
-    return Printkeus{
-        Printer(schijf, VolledigPad(kiezer.selectedFiles().constFirst().toStdString())),
-        std::move(alle)};
+    return Printkeus{Printer(schijf, *pad), std::move(alle)};
+}
+
+QPageLayout::Orientation Richting(Papierstand stand)
+{
+    return stand == Papierstand::Staand ? QPageLayout::Portrait : QPageLayout::Landscape;
 }
 
 std::optional<Printkeus> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWidget* ouder)
@@ -74,8 +70,7 @@ std::optional<Printkeus> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWi
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(werk.titel);
     printer->setPageSize(QPageSize(QPageSize::A4));
-    printer->setPageOrientation(werk.stand == Papierstand::Staand ? QPageLayout::Portrait
-                                                                  : QPageLayout::Landscape);
+    printer->setPageOrientation(Richting(werk.stand));
     printer->setPrintRange(QPrinter::PageRange);
 
     QPrintDialog dialoog(printer.get(), ouder);
@@ -99,9 +94,8 @@ std::optional<Printkeus> VraagSysteem(Schijf& schijf, const Printwerk& werk, QWi
 
 QPageLayout HeleVel(Papierstand stand)
 {
-    QPageLayout vel(QPageSize(QPageSize::A4),
-                    stand == Papierstand::Staand ? QPageLayout::Portrait : QPageLayout::Landscape,
-                    QMarginsF(), QPageLayout::Millimeter);
+    QPageLayout vel(QPageSize(QPageSize::A4), Richting(stand), QMarginsF(),
+                    QPageLayout::Millimeter);
     vel.setMode(QPageLayout::FullPageMode);
     return vel;
 }
