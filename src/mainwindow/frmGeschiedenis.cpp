@@ -68,7 +68,7 @@ frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai 
     auto* cmdSluiten = MaakKnop(u"cmdSluiten"_s, u"Sluiten"_s, u'S', this, &QDialog::accept);
     Onderelkaar({Label1, {lstHandelingen, 1}, Knoppenrij({cmdOngedaan, cmdSluiten})}, this);
     const Maten maten;
-    PasInScherm(this, {maten.Twips(15000), maten.Twips(8400)});
+    PasInScherm(this, maten.Twips(15000, 8400));
     Vul();
     for (const auto& [kolom, twips] :
          {std::pair(Wanneer, 2900), {Wat, 4700}, {Was, 2100}, {Werd, 2100}, {Wie, 1000}})
@@ -79,17 +79,11 @@ frmGeschiedenis::frmGeschiedenis(Administratie& administratie, Tekst key, Draai 
 /// Of one player only what changed himself.
 bool frmGeschiedenis::IsGekozen(const Handeling& handeling) const
 {
-    if (key_.empty())
-        return true;
-    for (const Wijziging& wijziging : handeling.wijzigingen) {
-        if (!wijziging.IsSpelerbestand())
-            continue;
-        for (const Verschil& verschil : SpelersIn(wijziging)) {
-            if (verschil.key == key_)
-                return true;
-        }
-    }
-    return false;
+    const auto vanHem = [this](const Verschil& verschil) { return verschil.key == key_; };
+    return key_.empty() || std::ranges::any_of(handeling.wijzigingen, [&](const auto& wijziging) {
+               return wijziging.IsSpelerbestand() &&
+                      std::ranges::any_of(SpelersIn(wijziging), vanHem);
+           });
 }
 
 void frmGeschiedenis::Vul()
@@ -166,11 +160,18 @@ void frmGeschiedenis::OpenSpelers(QTreeWidgetItem* regel, const Wijziging& wijzi
     }
 }
 
-void frmGeschiedenis::Kies()
+/// The line of the entry that is looked at; null for none.
+QTreeWidgetItem* frmGeschiedenis::Gekozen() const
 {
     QTreeWidgetItem* regel = lstHandelingen->currentItem();
     while (regel != nullptr && regel->parent() != nullptr)
         regel = regel->parent();
+    return regel;
+}
+
+void frmGeschiedenis::Kies()
+{
+    const QTreeWidgetItem* regel = Gekozen();
     cmdOngedaan->setEnabled(regel != nullptr &&
                             regel->data(0, Soort) == static_cast<int>(Handelingsoort::Gewoon));
     const bool weg =
@@ -180,10 +181,7 @@ void frmGeschiedenis::Kies()
 
 void frmGeschiedenis::DraaiGekozen()
 {
-    QTreeWidgetItem* regel = lstHandelingen->currentItem();
-    while (regel->parent() != nullptr)
-        regel = regel->parent();
-    const Tekst id = NaarTekst(regel->data(0, Id).toString());
+    const Tekst id = NaarTekst(Gekozen()->data(0, Id).toString());
     const auto handeling = LeesHandeling(administratie_.schijf, administratie_.mappen, id);
     if (handeling)
         draai_(*handeling,

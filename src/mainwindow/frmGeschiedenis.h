@@ -27,6 +27,7 @@ class frmGeschiedenis : public QDialog {
     void Vul();
     void Open(QTreeWidgetItem* regel);
     void OpenSpelers(QTreeWidgetItem* regel, const Wijziging& wijziging) const;
+    [[nodiscard]] QTreeWidgetItem* Gekozen() const;
     void Kies();
     void DraaiGekozen();
     [[nodiscard]] bool IsGekozen(const Handeling& handeling) const;

@@ -77,17 +77,15 @@ void frmLedenAdmin::Bouw()
     setObjectName(u"frmLedenAdmin"_s);
     setWindowTitle(u"Onderhoud Plexoran[*]"_s);
     auto* midden = new QWidget(this);
-    auto* lagen = new QVBoxLayout(midden);
-    lagen->setContentsMargins(0, 0, 0, 0);
-    lagen->setSpacing(0);
-    lagen->addWidget(BouwBovenkant());
+    QWidget* bovenkant = BouwBovenkant();
     picP0 = new Rooster(maten_, this);
     connect(picP0->Vlak(), &Roostervlak::wijzigGevraagd, this, &frmLedenAdmin::Wijzig);
     connect(picP0->Vlak(), &Roostervlak::verwijderGevraagd, this, &frmLedenAdmin::VerwijderRij);
     auto* roosterrij = Naastelkaar({picP0});
     roosterrij->setContentsMargins(maten_.Twips(RoosterLinks), 0, maten_.Twips(RoosterLinks), 0);
-    lagen->addLayout(roosterrij, 1);
-    lagen->addWidget(BouwOpdrachten());
+    auto* lagen = Onderelkaar({bovenkant, {roosterrij, 1}, BouwOpdrachten()}, midden);
+    lagen->setContentsMargins(0, 0, 0, 0);
+    lagen->setSpacing(0);
     setCentralWidget(new Schuifblad(midden, this));
     BouwMenu();
     // The bar stands above what the window is made for.
@@ -103,12 +101,10 @@ void frmLedenAdmin::BouwMenu()
     BouwTerugmenu(mnuBewerken);
     auto* mnuExtra = menuBar()->addMenu(u"E&xtra"_s);
     mnuExtra->setObjectName(u"mnuExtra"_s);
-    auto* actControle = mnuExtra->addAction(u"&Controle van de administratie..."_s, this,
-                                            &frmLedenAdmin::Controleer);
-    actControle->setObjectName(u"actControle"_s);
-    auto* actTerugzetten =
-        mnuExtra->addAction(u"&Reservekopie terugzetten..."_s, this, &frmLedenAdmin::ZetTerug);
-    actTerugzetten->setObjectName(u"actTerugzetten"_s);
+    mnuExtra->addAction(u"&Controle van de administratie..."_s, this, &frmLedenAdmin::Controleer)
+        ->setObjectName(u"actControle"_s);
+    mnuExtra->addAction(u"&Reservekopie terugzetten..."_s, this, &frmLedenAdmin::ZetTerug)
+        ->setObjectName(u"actTerugzetten"_s);
     lblMelding = new Kortlabel(menuBar());
     Noem(lblMelding, u"lblMelding"_s);
     lblMelding->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -270,13 +266,13 @@ QLayout* frmLedenAdmin::BouwOnderkant()
     connect(cmdPrint, &QPushButton::clicked, this, &frmLedenAdmin::Print);
     // Its caption holds the group's name, of any length, and must not widen the window.
     cmdPrint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* onder = new QHBoxLayout;
+    auto* onder =
+        Naastelkaar({{cmdPrint, 1},
+                     MaakKnop(u"cmdToelichting"_s, u"Toelichting"_s, u'c', this,
+                              &frmLedenAdmin::ToonToelichting),
+                     MaakKnop(u"cmdMaakScripts"_s, u"MaakScripts ..."_s, u'M', this),
+                     MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &frmLedenAdmin::close)});
     onder->setSpacing(Tussenruimte);
-    onder->addWidget(cmdPrint, 1);
-    onder->addWidget(MaakKnop(u"cmdToelichting"_s, u"Toelichting"_s, u'c', this,
-                              &frmLedenAdmin::ToonToelichting));
-    onder->addWidget(MaakKnop(u"cmdMaakScripts"_s, u"MaakScripts ..."_s, u'M', this));
-    onder->addWidget(MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &frmLedenAdmin::close));
     return onder;
 }
 

@@ -140,25 +140,17 @@ void frmLedenAdmin::VerwijderVanTot()
 /// After a warning with the names of the players; `regels` are the lines as the question says them.
 void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QString& klaar)
 {
-    const QStringList waarschuwing{
-        u"\t\tLET OP!"_s,
-        QString(),
-        u"Als u spelers verwijdert die nog voorkomen in bestaande zittingen dan zal hun naam "
-        "daarin niet meer verschijnen."_s,
-        u"Voor competitie-zittingen betekent dat ook dat ze niet meer meedoen."_s,
-        QString(),
-        u"Het opnieuw invoeren van een speler die per vergissing is verwijderd heeft alleen zin "
-        "als men in elke relevante zitting zijn naam opnieuw ingeeft."_s,
-        QString(),
-        u"Weet u zeker dat u %1 wilt verwijderen?"_s.arg(regels),
-        QString(),
-        QString(),
-    };
+    const QString waarschuwing =
+        u"\t\tLET OP!\r\n\r\nAls u spelers verwijdert die nog voorkomen in bestaande zittingen dan "
+        "zal hun naam daarin niet meer verschijnen.\r\nVoor competitie-zittingen betekent dat ook "
+        "dat ze niet meer meedoen.\r\n\r\nHet opnieuw invoeren van een speler die per vergissing "
+        "is "
+        "verwijderd heeft alleen zin als men in elke relevante zitting zijn naam opnieuw "
+        "ingeeft.\r\n\r\nWeet u zeker dat u %1 wilt verwijderen?\r\n\r\n"_s.arg(regels);
     Spelertabel& tabel = administratie_.spelers.tabel;
     const auto eerste = picP0->Vlak()->Rijen().begin();
     const std::vector<int> rijen(eerste + van - 1, eerste + tot);
-    if (!Vraag(this, waarschuwing.join(u"\r\n"_s), u"Verwijderen"_s,
-               NoemSpelers(tabel, rijen, *this)))
+    if (!Vraag(this, waarschuwing, u"Verwijderen"_s, NoemSpelers(tabel, rijen, *this)))
         return;
     const Noteer noteer(administratie_.geschiedenis,
                         van == tot ? VolleNaam(tabel, rijen.front()) + " verwijderd"
