@@ -28,6 +28,7 @@ int main(int argc, char** argv)
     Exemplaarslot slot(opdrachten->slot.empty() ? Slotbestand() : opdrachten->slot);
     Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
     administratie.tweedeplaatsIni = Gebruikersbestand("reservekopie.ini");
+    administratie.vensterIni = Gebruikersbestand("venster.ini");
     frmLedenAdmin venster(administratie);
     const Pad mappenIni = opdrachten->mappenIni.empty() ? MappenIniPad(Programmamap())
                                                         : VolledigPad(opdrachten->mappenIni);

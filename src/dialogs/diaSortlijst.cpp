@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/kopieren.h"
 #include "platform/scherm/schildervlak.h"
 
 namespace plexoran {
@@ -83,6 +84,7 @@ class Sorteervlak : public Tabelvlak {
         for (int regel = eerste; regel <= laatste; ++regel)
             TekenRegel(schilder, regel);
         TekenKeus(schilder, 1);
+        TekenFocus(schilder);
     }
 
   private:
@@ -150,6 +152,7 @@ diaSortlijst::diaSortlijst(Sorteerbeeld beeld, QWidget* hoofdvenster)
     Noem(P0, u"P0"_s);
     auto* vlak = new Sorteervlak(beeld_, maten, *Frame2, P0);
     P1 = vlak;
+    LaatKopieren(P1);
     Onderelkaar({P1}, P0)->setContentsMargins({});
     Frame2->Bevat(P0);
     auto* cmdOK = MaakKnop(u"cmdOK"_s, u"Terug"_s, u'T', this, &QDialog::accept);

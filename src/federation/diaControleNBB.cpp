@@ -7,6 +7,7 @@
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 #include "platform/scherm/frmVoortgang.h"
+#include "platform/scherm/kopieren.h"
 #include "platform/scherm/printer.h"
 #include "platform/scherm/tabelvlak.h"
 
@@ -135,6 +136,7 @@ void diaControleNBB::Bouw()
     setSizeGripEnabled(true);
     auto* Frame2 = new Schuifkader(u"Frame2"_s, maten_, this);
     P1 = new Controlevlak(kast_, maten_, *Frame2, Frame2);
+    LaatKopieren(P1);
     Frame2->Bevat(P1);
     Frame2->Liggend().hide(); // what is too wide goes on below
     lblAantal = MaakLabel(u"lblAantal"_s, QString(), this);

@@ -44,9 +44,14 @@ Tekst Verslag(const Spelertabel& tabel, const std::vector<Dubbel>& dubbelen)
 
 frmLedenAdmin::frmLedenAdmin(Administratie& administratie, QWidget* ouder)
     : QMainWindow(ouder), administratie_(administratie),
-      opslag_(administratie, this, [this] { ToonGroep(); }), wacht_(administratie.schijf, this)
+      opslag_(administratie, this, [this] { ToonGroep(); }), wacht_(administratie.schijf, this),
+      geheugen_(administratie.vensterIni)
 {
     Bouw();
+    chkKolBr->setChecked(geheugen_.IsAan(chkKolBr->objectName()));
+    picP0->Kies(geheugen_.Kolommen());
+    actKnoppen->setChecked(geheugen_.IsAan(actKnoppen->objectName()));
+    geheugen_.Plaats(*this);
     connect(&wacht_, &Bestandswacht::veranderd, this, &frmLedenAdmin::VolgBestanden);
 }
 
@@ -75,7 +80,9 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
     if (administratie_.mappen.NBB28UIT == 1)
         cmdToonGatenlijst->hide();
     cmdKoppel->hide();
+    WerkOpdrachtenBij();
     picP0->Vlak()->setFocus();
+    ToonOngedaan();
     ToonTweedePlaats();
     return std::nullopt;
 }
@@ -154,8 +161,6 @@ void frmLedenAdmin::ZetOpKijken()
          {u"cmdAanm"_s, u"cmdVerplaats"_s, u"cmdKopieer"_s, u"cmdVerwGroep"_s, u"cmdMaakGrNamen"_s,
           u"cmdHaalNBBnamen"_s, u"cmdKoppel"_s, u"cmdSpToevoegen"_s, u"cmdParenOnderhoud"_s})
         findChild<QPushButton*>(naam)->setEnabled(false);
-    for (const QString& naam : {u"actOngedaan"_s, u"actOpnieuw"_s, u"actTerugzetten"_s})
-        findChild<QAction*>(naam)->setEnabled(false);
     aanwezigheid_.reset(); // who only looks is in nobody's way
 }
 
@@ -211,7 +216,13 @@ void frmLedenAdmin::ToonGroep()
     const Tekst code(CodeUit(groeptekst));
     const Groepsbeeld beeld = BeeldVan(administratie_.mappen, code);
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    picP0->Toon(tabel, RijenVanGroep(tabel, code), beeld.kolomnamen);
+    // A column that has no name here shows nothing to sort by.
+    const bool gesorteerd = volgorde_ && !beeld.kolomnamen[Index(*volgorde_)].empty();
+    Weergave rijen = RijenVanGroep(tabel, code);
+    if (gesorteerd)
+        rijen = Gesorteerd(tabel, std::move(rijen), *volgorde_);
+    picP0->Toon(tabel, std::move(rijen), beeld.kolomnamen);
+    picP0->MerkVolgorde(gesorteerd ? volgorde_ : std::nullopt);
     const int regels = picP0->Vlak()->Regels();
     Label3->setText(u"Aantal regels: %1"_s.arg(regels));
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdWijzig, cmdVerwijder, cmdVerwijderVT,
@@ -239,6 +250,7 @@ void frmLedenAdmin::ToonGroep()
         picP0->NaarBoven();
     LOSTGR = static_cast<std::int16_t>(cmbGr->currentIndex());
     BewaarInstellingen();
+    WerkOpdrachtenBij();
 }
 
 void frmLedenAdmin::VolgBestanden()
@@ -276,6 +288,8 @@ void frmLedenAdmin::changeEvent(QEvent* gebeurtenis)
     QMainWindow::changeEvent(gebeurtenis);
     if (gebeurtenis->type() == QEvent::ActivationChange && isActiveWindow())
         wacht_.KijkAlsHetMag();
+    if (gebeurtenis->type() == QEvent::ModifiedChange)
+        ToonOpgeslagen();
 }
 
 /// A settings file that cannot be written costs the user little: told once, then kept quiet.
@@ -348,8 +362,10 @@ void frmLedenAdmin::ToonDubbeleNamen()
 void frmLedenAdmin::closeEvent(QCloseEvent* gebeurtenis)
 {
     gebeurtenis->setAccepted(opslag_.MagEindigen());
-    if (gebeurtenis->isAccepted())
-        ZetWerkmap(administratie_.mappen.RVDMAP);
+    if (!gebeurtenis->isAccepted())
+        return;
+    geheugen_.BewaarPlaats(*this);
+    ZetWerkmap(administratie_.mappen.RVDMAP);
 }
 
 } // namespace plexoran

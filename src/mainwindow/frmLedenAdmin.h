@@ -1,6 +1,7 @@
 // The main window: one group of the register in a grid, and every command of the program.
 #pragma once
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -11,6 +12,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 
 #include "dialogs/ingave.h"
 #include "federation/frmImportNBB.h"
@@ -18,6 +20,7 @@
 #include "mainwindow/frmLedenAdmin_opslag.h"
 #include "mainwindow/lijsten.h"
 #include "mainwindow/rooster.h"
+#include "mainwindow/venstergeheugen.h"
 #include "platform/scherm/maten.h"
 #include "register/aanwezigheid.h"
 #include "register/herstel.h"
@@ -26,6 +29,8 @@ class QLayout;
 class QMenu;
 
 namespace plexoran {
+
+class Kortlabel;
 
 class frmLedenAdmin : public QMainWindow {
     Q_OBJECT
@@ -50,11 +55,11 @@ class frmLedenAdmin : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* gebeurtenis) override;
     void changeEvent(QEvent* gebeurtenis) override;
+    void keyPressEvent(QKeyEvent* gebeurtenis) override;
 
   private:
     // Building (frmLedenAdmin_bouw.cpp)
     void Bouw();
-    void BouwMenu();
     QWidget* BouwBovenkant();
     QWidget* BouwOpdrachten();
     QLayout* BouwSpelerkolom();
@@ -62,7 +67,37 @@ class frmLedenAdmin : public QMainWindow {
     QLayout* BouwLijstkolom();
     QLayout* BouwBondkolom();
     QLayout* BouwOnderkant();
-    void VerbindToetsen();
+
+    // The menus, the line below, and how the user wants to see it (frmLedenAdmin_menu.cpp)
+    struct Opdracht;
+    struct Menupunt {
+        QAction* actie;
+        const Opdracht* opdracht;
+        QAbstractButton* knop;
+    };
+    [[nodiscard]] static std::span<const Opdracht> Opdrachten();
+    void BouwMenu();
+    void VoegOpdrachtToe(QMenu* menu, const Opdracht& opdracht);
+    void BouwKolommenu(QMenu* menu);
+    void ToonKopmenu(int kolom, QPoint plek);
+    void WerkOpdrachtenBij();
+    [[nodiscard]] std::vector<int> GekozenRijen() const;
+    void Sorteer(int kolom);
+    void ToonKolom(std::size_t kolom, bool tonen);
+    void KiesKolommen(const Kolomkeuzes& keuzes);
+    void VerdeelKolommen();
+    void HerstelBreedten();
+    void HerstelKolommen();
+    void ToonKnoppen(bool tonen);
+    void NaarGroep();
+    void NaarRooster();
+    void KopieerGekozen();
+    void ToonToetsen();
+    void BouwStatus();
+    void ToonGekozene();
+    void ToonOpgeslagen();
+    void ToonOngedaan();
+    void ToonStatus(const QString& tekst);
 
     [[nodiscard]] bool IsEersteExemplaar();
     [[nodiscard]] bool MagErbij();
@@ -125,15 +160,27 @@ class frmLedenAdmin : public QMainWindow {
     Importgeheugen importgeheugen_;
     std::function<bool()> eersteExemplaar_;
     std::optional<Aanwezigheid> aanwezigheid_;
+    Venstergeheugen geheugen_;
+    std::vector<Menupunt> opdrachten_;
+    std::array<QAction*, AantalKolommen + 1> volgorden_{}; ///< element 0 is table order
+    std::array<QAction*, AantalKolommen + 1> kolommen_{};
+    std::optional<Kolom> volgorde_; ///< by which the lines are sorted; else table order
     QTimer hartslag_{this};
     bool alleenKijken_ = false;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
 
-    QTimer meldtijd_;   ///< how long the line below stays
-    QLabel* lblMelding; ///< in the menu bar, for what asks no answer
+    QTimer meldtijd_;     ///< how long the line below stays
+    QLabel* lblMelding;   ///< in the menu bar, for what asks no answer
+    Kortlabel* lblSpeler; ///< these four at the foot
+    Kortlabel* lblOngedaan;
+    QLabel* lblGekozen;
+    QLabel* lblOpgeslagen;
+    QAction* actKnoppen;
     Rooster* picP0;
+    QWidget* knoppen_; ///< all that stands under the grid
     QLabel* Label3;
     QComboBox* cmbGr;
+    QCheckBox* chkKolBr;
     QCheckBox* chkToonAlle;
     QComboBox* cmbVerwVan;
     QComboBox* cmbVerwTot;

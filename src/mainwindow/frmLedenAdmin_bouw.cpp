@@ -3,7 +3,7 @@
 // from left to right.
 #include <QGridLayout>
 #include <QMenuBar>
-#include <QShortcut>
+#include <QStatusBar>
 
 #include <algorithm>
 
@@ -83,34 +83,16 @@ void frmLedenAdmin::Bouw()
     connect(picP0->Vlak(), &Roostervlak::verwijderGevraagd, this, &frmLedenAdmin::VerwijderRij);
     auto* roosterrij = Naastelkaar({picP0});
     roosterrij->setContentsMargins(maten_.Twips(RoosterLinks), 0, maten_.Twips(RoosterLinks), 0);
-    auto* lagen = Onderelkaar({bovenkant, {roosterrij, 1}, BouwOpdrachten()}, midden);
+    knoppen_ = BouwOpdrachten();
+    auto* lagen = Onderelkaar({bovenkant, {roosterrij, 1}, knoppen_}, midden);
     lagen->setContentsMargins(0, 0, 0, 0);
     lagen->setSpacing(0);
     setCentralWidget(new Schuifblad(midden, this));
     BouwMenu();
-    // The bar stands above what the window is made for.
-    PasInScherm(this, maten_.Twips(15360, 10500) + QSize(0, menuBar()->sizeHint().height()));
-    VerbindToetsen();
-}
-
-/// The letters of the buttons leave few for the menus: the first has its keys in its actions.
-void frmLedenAdmin::BouwMenu()
-{
-    auto* mnuBewerken = menuBar()->addMenu(u"Bewerken"_s);
-    mnuBewerken->setObjectName(u"mnuBewerken"_s);
-    BouwTerugmenu(mnuBewerken);
-    auto* mnuExtra = menuBar()->addMenu(u"E&xtra"_s);
-    mnuExtra->setObjectName(u"mnuExtra"_s);
-    mnuExtra->addAction(u"&Controle van de administratie..."_s, this, &frmLedenAdmin::Controleer)
-        ->setObjectName(u"actControle"_s);
-    mnuExtra->addAction(u"&Reservekopie terugzetten..."_s, this, &frmLedenAdmin::ZetTerug)
-        ->setObjectName(u"actTerugzetten"_s);
-    lblMelding = new Kortlabel(menuBar());
-    Noem(lblMelding, u"lblMelding"_s);
-    lblMelding->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    lblMelding->hide();
-    meldtijd_.setSingleShot(true);
-    connect(&meldtijd_, &QTimer::timeout, lblMelding, &QWidget::hide);
+    BouwStatus();
+    // The bars stand above and below what the window is made for.
+    const int balken = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+    PasInScherm(this, maten_.Twips(15360, 10500) + QSize(0, balken));
 }
 
 QWidget* frmLedenAdmin::BouwBovenkant()
@@ -136,11 +118,12 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     // Also when the group that is shown is picked again.
     for (const auto signaal : {&QComboBox::currentIndexChanged, &QComboBox::activated})
         connect(cmbGr, signaal, this, &frmLedenAdmin::ToonGroep);
-    auto* chkKolBr = MaakVink(u"chkKolBr"_s, u"Kolombreedte volgens header"_s, u'd', boven);
+    chkKolBr = MaakVink(u"chkKolBr"_s, u"Kolombreedte volgens header"_s, u'd', boven);
     chkKolBr->setChecked(true);
     connect(chkKolBr, &QCheckBox::toggled, this, [this](bool aan) {
         picP0->ZetBreedteregel(aan ? Breedteregel::VolgensHeader : Breedteregel::VolgensTeksten);
     });
+    connect(chkKolBr, &QCheckBox::clicked, this, &frmLedenAdmin::HerstelBreedten);
     auto* cmdMaakGrNamen = MaakKnop(u"cmdMaakGrNamen"_s, u"Spelergroepsnaam aanvullen"_s, u'S',
                                     this, &frmLedenAdmin::WijzigGroepsnamen);
     cmdMaakGrNamen->setToolTip(
@@ -274,17 +257,6 @@ QLayout* frmLedenAdmin::BouwOnderkant()
                      MaakKnop(u"cmdEinde"_s, u"Einde"_s, u'E', this, &frmLedenAdmin::close)});
     onder->setSpacing(Tussenruimte);
     return onder;
-}
-
-void frmLedenAdmin::VerbindToetsen()
-{
-    const auto bij = [this](const QString& toets, auto doe) {
-        connect(new QShortcut(QKeySequence(toets), this), &QShortcut::activated, this, doe);
-    };
-    bij(u"Ctrl+G"_s, [this] { cmbGr->setFocus(Qt::ShortcutFocusReason); });
-    bij(u"F6"_s, [this] { picP0->Vlak()->setFocus(Qt::ShortcutFocusReason); });
-    bij(u"Ctrl+N"_s, &frmLedenAdmin::VoegToe);
-    bij(u"F1"_s, &frmLedenAdmin::ToonToelichting);
 }
 
 } // namespace plexoran

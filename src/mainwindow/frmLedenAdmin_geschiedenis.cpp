@@ -22,6 +22,12 @@ QString Menutekst(const QString& wat, const std::optional<Handeling>& handeling)
     return wat + u": "_s + ZonderSneltoets(naam);
 }
 
+QString NietsTeDraaien(Handelingsoort soort)
+{
+    return soort == Handelingsoort::Ongedaan ? u"Er is niets om ongedaan te maken."_s
+                                             : u"Er is niets om opnieuw te doen."_s;
+}
+
 } // namespace
 
 /// What they would do is looked up when the menu opens; their keys work always.
@@ -32,7 +38,12 @@ void frmLedenAdmin::BouwTerugmenu(QMenu* menu)
         QAction* uit = menu->addAction(tekst, toets, this, [this, soort] { Draai(soort); });
         uit->setObjectName(naam);
         connect(menu, &QMenu::aboutToShow, uit, [=, this] {
-            uit->setText(Menutekst(tekst, administratie_.geschiedenis.Laatste(soort)));
+            const auto laatste = administratie_.geschiedenis.Laatste(soort);
+            uit->setText(Menutekst(tekst, laatste));
+            if (uit->isEnabled() && !laatste) {
+                uit->setEnabled(false);
+                uit->setStatusTip(NietsTeDraaien(soort));
+            }
         });
     };
     actie(u"actOngedaan"_s, u"Ongedaan maken"_s, Qt::CTRL | Qt::Key_Z, Handelingsoort::Ongedaan);
@@ -53,9 +64,7 @@ void frmLedenAdmin::Draai(Handelingsoort soort)
     if (handeling)
         DraaiTerug(*handeling, soort);
     else
-        Meld(this, QMessageBox::Information,
-             soort == Handelingsoort::Ongedaan ? u"Er is niets om ongedaan te maken."_s
-                                               : u"Er is niets om opnieuw te doen."_s);
+        Meld(this, QMessageBox::Information, NietsTeDraaien(soort));
 }
 
 void frmLedenAdmin::DraaiTerug(const Handeling& handeling, Handelingsoort soort)
@@ -180,6 +189,7 @@ void frmLedenAdmin::ToonMelding(const QString& tekst)
 /// What could not be kept cannot be undone later; told once.
 void frmLedenAdmin::MeldGeschiedenisfout()
 {
+    ToonOngedaan();
     if (const auto fout = administratie_.geschiedenis.NeemFout())
         MeldFout(
             this, QMessageBox::Warning,

@@ -1,4 +1,6 @@
 // The commands of the main window.
+#include <algorithm>
+
 #include "controle/frmControle.h"
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
@@ -97,7 +99,9 @@ void frmLedenAdmin::VoegToe()
     const Noteer noteer(administratie_.geschiedenis,
                         VolleNaam(tabel, tabel.Rijen()) + " toegevoegd");
     SlaOpEnToon();
-    picP0->Vlak()->BrengInBeeld(picP0->Vlak()->Regels());
+    const Weergave& rijen = picP0->Vlak()->Rijen();
+    const auto nieuwe = std::max_element(rijen.begin(), rijen.end());
+    picP0->Vlak()->BrengInBeeld(static_cast<int>(nieuwe - rijen.begin()) + 1);
 }
 
 void frmLedenAdmin::Wijzig()

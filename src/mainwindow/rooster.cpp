@@ -46,8 +46,12 @@ Rooster::Rooster(const Maten& maten, QWidget* ouder)
         Noem(cmd[i], u"cmd_%1"_s.arg(i + 1));
         cmd[i]->setFont(P1->font());
         cmd[i]->setFocusPolicy(Qt::NoFocus);
+        cmd[i]->setMouseTracking(true);
+        cmd[i]->installEventFilter(this);
         connect(cmd[i], &QPushButton::clicked, P1, &Roostervlak::VerbergLijnen);
     }
+    P2->setMouseTracking(true);
+    P2->installEventFilter(this);
     const int naast = maten.Twips(VrijNaastVlakTwips) - 2 * frameWidth();
     Bevat(P1, naast / 2, naast - naast / 2);
     setMinimumHeight(qRound(BovenkantVan(KleinsteAantalRegels + 1) * pixelsPerMm_) +
@@ -60,6 +64,21 @@ void Rooster::Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& 
     P1->Toon(tabel, std::move(weergave), kolomnamen);
     PlaatsKolommen();
     P1->MeldAndereRegels();
+}
+
+void Rooster::Kies(const Kolomkeuzes& keuzes)
+{
+    P1->ZetKeuzes(keuzes);
+    PlaatsKolommen();
+}
+
+void Rooster::MerkVolgorde(std::optional<Kolom> kolom)
+{
+    for (std::size_t i = 0; i < cmd.size(); ++i) {
+        QFont letter = P1->font();
+        letter.setBold(kolom && Index(*kolom) == i);
+        cmd[i]->setFont(letter);
+    }
 }
 
 void Rooster::ZetBreedteregel(Breedteregel regel)
@@ -79,9 +98,10 @@ void Rooster::PlaatsKolommen()
         cmd[i]->setToolTip(naam);
         cmd[i]->setAccessibleName(naam.isEmpty() ? u"Kolom %1"_s.arg(i + 1) : naam);
         cmd[i]->setGeometry(links, 0, rechts - links, hoogte);
+        cmd[i]->setVisible(rechts > links);
     }
     const QSize vlak = P1->Vlakmaat();
-    P2->resize(vlak.width(), hoogte);
+    P2->resize(vlak.width() + Greep, hoogte);
     Stel(Liggend(), vlak.width(), P1->width(), P1->width(),
          qRound(rooster::SmalsteKolom * pixelsPerMm_));
     Stel(Staand(), vlak.height(), P1->height(), P1->height() - hoogte,
@@ -129,7 +149,25 @@ void Roostervlak::Toon(const Spelertabel& tabel, Weergave weergave, const Namenr
 void Roostervlak::ZetBreedteregel(Breedteregel regel)
 {
     breedteregel_ = regel;
-    randen_ = MaakKolommen(celmaten_, headermaten_, regel);
+    randen_ = MetKeuzes(MaakKolommen(celmaten_, headermaten_, regel), keuzes_);
+}
+
+void Roostervlak::ZetKeuzes(const Kolomkeuzes& keuzes)
+{
+    keuzes_ = keuzes;
+    ZetBreedteregel(breedteregel_);
+}
+
+Kolomkeuzes Roostervlak::Verdeeld() const
+{
+    // The last line takes a pixel too.
+    return VerdeelRuimte((width() - 1) / pixelsPerMm_, *tabel_, weergave_, kolomnamen_, keuzes_,
+                         meter_);
+}
+
+double Roostervlak::Passend(std::size_t kolom) const
+{
+    return PassendeBreedte(std::max(celmaten_[kolom], headermaten_[kolom]));
 }
 
 Tekstblik Roostervlak::Cel(int regel, std::size_t kolom) const
@@ -202,7 +240,7 @@ void Roostervlak::TekenTeksten(QPainter& schilder, int regel, double links, doub
     for (std::size_t i = 0; i < AantalKolommen; ++i) {
         const double begin = randen_[i];
         const double eind = randen_[i + 1];
-        if (X(eind) < links || X(begin) > rechts)
+        if (X(eind) < links || X(begin) > rechts || eind <= begin)
             continue;
         const Tekstblik cel = Cel(regel, i);
         // The band is light in dark themes too.
@@ -224,7 +262,7 @@ void Roostervlak::keyPressEvent(QKeyEvent* gebeurtenis)
     const int toets = gebeurtenis->key();
     if (toets == Qt::Key_Return || toets == Qt::Key_Enter || toets == Qt::Key_F2)
         emit wijzigGevraagd();
-    else if (toets == Qt::Key_Delete)
+    else if (toets == Qt::Key_Delete && gebeurtenis->modifiers() == Qt::NoModifier)
         emit verwijderGevraagd();
     else if (!KiesMet(toets))
         QWidget::keyPressEvent(gebeurtenis);

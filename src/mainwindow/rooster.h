@@ -12,6 +12,8 @@ namespace plexoran {
 
 class Maten;
 
+inline constexpr int Greep = 4; ///< pixels beside an edge of the header by which it is held
+
 /// Paints the lines and columns that are exposed, shows the selected line between two guide lines,
 /// and turns mouse and keys into line numbers.
 class Roostervlak : public Tabelvlak {
@@ -23,6 +25,12 @@ class Roostervlak : public Tabelvlak {
     /// Shows these rows of the table, which must outlive their display; clears the selection.
     void Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& kolomnamen);
     void ZetBreedteregel(Breedteregel regel);
+    void ZetKeuzes(const Kolomkeuzes& keuzes);
+    [[nodiscard]] const Kolomkeuzes& Keuzes() const { return keuzes_; }
+    /// The choices with which the least is cut, in the width that there is.
+    [[nodiscard]] Kolomkeuzes Verdeeld() const;
+    /// In which all of a column stands whole.
+    [[nodiscard]] double Passend(std::size_t kolom) const;
 
     [[nodiscard]] int Regels() const override { return static_cast<int>(weergave_.size()); }
     /// The table row on each line.
@@ -74,6 +82,7 @@ class Roostervlak : public Tabelvlak {
     Breedteregel breedteregel_ = Breedteregel::VolgensHeader;
     Kolommaten celmaten_{};
     Kolommaten headermaten_{};
+    Kolomkeuzes keuzes_{};
     Kolomranden randen_{};
     bool lijnenZichtbaar_ = false;
     QFrame* Line1;
@@ -89,21 +98,38 @@ class Rooster : public Schuifkader {
     /// The scroll bars keep their place as far as the rows reach.
     void Toon(const Spelertabel& tabel, Weergave weergave, const Namenrij& kolomnamen);
     void ZetBreedteregel(Breedteregel regel);
+    void Kies(const Kolomkeuzes& keuzes);
+    /// Shows by which column the lines are sorted; nothing for none.
+    void MerkVolgorde(std::optional<Kolom> kolom);
     void NaarBoven() { Staand().setValue(0); }
     /// Has the keys of the grid.
     [[nodiscard]] Roostervlak* Vlak() const { return P1; }
+    /// The edges of the header can be dragged; a double click on one fits its column.
+    bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
+
+  signals:
+    void gekozen(const Kolomkeuzes& keuzes);
+    /// The menu of a column, 0 for none, is asked for there on the screen.
+    void kopmenuGevraagd(int kolom, QPoint plek);
 
   protected:
     void resizeEvent(QResizeEvent* gebeurtenis) override;
 
   private:
     void PlaatsKolommen();
+    // The edges of the header (rooster_kop.cpp)
+    [[nodiscard]] int RandBij(double x) const;
+    void Versleep(double x);
+    void LaatLos();
+    void Pas(int kolom);
 
     double pixelsPerMm_;
     Roostervlak* P1;
     QWidget* P9; ///< clips the header
     QWidget* P2; ///< carries the header buttons
     std::array<QPushButton*, AantalKolommen> cmd{};
+    int sleept_ = 0; ///< the column whose right edge is held
+    bool versleept_ = false;
 };
 
 } // namespace plexoran

@@ -28,6 +28,7 @@ struct Administratie {
     Instellingenwinkel winkel;         ///< what other programs left for this user
     Pad programmamap = Programmamap(); ///< where the running program stands
     Pad tweedeplaatsIni{};             ///< of this user; empty: no second place can be chosen
+    Pad vensterIni{};                  ///< how this user wants his window; empty: not kept
     Mappen mappen{};
     Instellingen instellingen{};
     Groepen groepen{};

@@ -23,6 +23,7 @@
 #include "help/frmToelichting.h"
 #include "mainwindow/frmGeschiedenis.h"
 #include "mainwindow/frmLedenAdmin.h"
+#include "mainwindow/frmToetsen.h"
 #include "mainwindow/lijsten.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/tekstbrug.h"
@@ -267,6 +268,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     NeemKoppelvenster(bezoek, hoofdvenster, administratie);
     Neem(bezoek, frmToelichting(&hoofdvenster));
     Neem(bezoek, frmUitleg(&hoofdvenster));
+    Neem(bezoek, frmToetsen(hoofdvenster));
     NeemParen(bezoek, administratie, hoofdvenster);
     NeemSorteerlijst(bezoek, hoofdvenster, administratie.spelers.tabel);
     NeemVergelijking(bezoek, hoofdvenster, administratie.spelers.tabel);

@@ -150,7 +150,7 @@ TEST_F(UiterlijkTest, NietsIsAfgekniptMetGrotereLetters)
         QApplication::processEvents();
         // As small as it may be without scrolling.
         venster->resize(Vind<QScrollArea>(*venster, "schuifblad")->widget()->minimumSizeHint() +
-                        QSize(0, venster->centralWidget()->y()));
+                        QSize(0, venster->height() - venster->centralWidget()->height()));
         QApplication::processEvents();
         VerwachtNietsAfgeknipt();
         VerwachtNetjesNaastElkaar();

@@ -211,3 +211,192 @@ TEST(PasTekst, IsSnelOpEenHeelLangeTekst)
     // Measuring the whole text anew for every character would take minutes.
     EXPECT_LT((std::clock() - begin) / CLOCKS_PER_SEC, 5);
 }
+
+// ---- What the user chose of the columns -------------------------------------------------------
+
+namespace {
+
+Kolomkeuzes AlleVerborgenBehalve(std::initializer_list<Kolom> getoond)
+{
+    Kolomkeuzes keuzes;
+    keuzes.fill({.breedte = 0, .verborgen = true});
+    for (const Kolom kolom : getoond)
+        keuzes[Index(kolom)].verborgen = false;
+    return keuzes;
+}
+
+/// Millimetres of the texts in a column that would be cut off.
+double Weg(const std::vector<double>& teksten, double breedte)
+{
+    double weg = 0;
+    for (const double tekst : teksten)
+        weg += std::max(0.0, tekst + 2.601 - breedte);
+    return weg;
+}
+
+} // namespace
+
+TEST(MetKeuzes, EenEigenBreedteGaatVoorEnEenVerborgenKolomHeeftGeen)
+{
+    Kolomranden gesteld{};
+    for (std::size_t i = 1; i < gesteld.size(); ++i)
+        gesteld[i] = 10.0 * static_cast<double>(i);
+    EXPECT_EQ(gesteld, MetKeuzes(gesteld, {}));
+    Kolomkeuzes keuzes{};
+    keuzes[1].breedte = 25;
+    keuzes[2] = {.breedte = 30, .verborgen = true};
+    const Kolomranden randen = MetKeuzes(gesteld, keuzes);
+    EXPECT_DOUBLE_EQ(10, randen[1]);
+    EXPECT_DOUBLE_EQ(35, randen[2]);
+    EXPECT_DOUBLE_EQ(35, randen[3]);
+    EXPECT_DOUBLE_EQ(45, randen[4]);
+}
+
+TEST(PassendeBreedte, DeTekstBlijftErHeelIn)
+{
+    for (const Tekst& tekst : {Tekst("Jansen"), Tekst("WiWiWi"), Tekst(300, 'i')})
+        EXPECT_EQ(tekst,
+                  PasTekst(tekst, PassendeBreedte(Proefmeter().Breedte(tekst)), Proefmeter()));
+    EXPECT_DOUBLE_EQ(4, PassendeBreedte(0));
+}
+
+TEST(VerdeelRuimte, IsErGenoegDanBlijftAllesHeelEnDeeltElkeKolomInDeRest)
+{
+    Spelertabel tabel;
+    tabel.VoegToe(Rij("Jansen", "Breda"));
+    const Kolomkeuzes uit =
+        VerdeelRuimte(40, tabel, std::vector{1}, Kolomnamen,
+                      AlleVerborgenBehalve({Kolom::Achternaam, Kolom::Plaats}), Proefmeter());
+    // "Achternaam" asks 12.6 and "Plaats" 8.6 mm.
+    EXPECT_NEAR(12.6 + (40 - 21.2) / 2, uit[achternaam].breedte, 0.01);
+    EXPECT_NEAR(8.6 + (40 - 21.2) / 2, uit[woonplaats].breedte, 0.01);
+    EXPECT_DOUBLE_EQ(0, uit[0].breedte);
+    EXPECT_TRUE(uit[0].verborgen);
+}
+
+TEST(VerdeelRuimte, EenLangeTekstKrijgtMinderDanVeleKorte)
+{
+    Spelertabel tabel;
+    for (int i = 0; i < 5; ++i)
+        tabel.VoegToe(Rij("Horsting", i == 0 ? "Hoogmade-Koudekerk" : "Oss"));
+    const Kolomkeuzes uit =
+        VerdeelRuimte(24, tabel, std::vector{1, 2, 3, 4, 5}, Kolomnamen,
+                      AlleVerborgenBehalve({Kolom::Achternaam, Kolom::Plaats}), Proefmeter());
+    EXPECT_GE(uit[achternaam].breedte, 10.6);
+    EXPECT_LT(uit[woonplaats].breedte, 20.6);
+    EXPECT_NEAR(24, uit[achternaam].breedte + uit[woonplaats].breedte, 1e-9);
+}
+
+/// Against every way to share the room in steps of a tenth.
+TEST(VerdeelRuimte, NergensGaatMinderAf)
+{
+    std::mt19937 toeval(20261122);
+    const auto tot = [&](unsigned grens) { return static_cast<unsigned>(toeval() % grens); };
+    for (int keer = 0; keer < 200; ++keer) {
+        Spelertabel tabel;
+        std::vector<int> rijen;
+        std::vector<double> namen{10};
+        std::vector<double> plaatsen{6};
+        for (unsigned i = 1 + tot(6); i > 0; --i) {
+            namen.push_back(tot(30));
+            plaatsen.push_back(tot(30));
+            tabel.VoegToe(Rij(Tekst(static_cast<std::size_t>(namen.back()), 'a'),
+                              Tekst(static_cast<std::size_t>(plaatsen.back()), 'a')));
+            rijen.push_back(tabel.Rijen());
+        }
+        const double ruimte = 8 + tot(60);
+        const Kolomkeuzes uit =
+            VerdeelRuimte(ruimte, tabel, rijen, Kolomnamen,
+                          AlleVerborgenBehalve({Kolom::Achternaam, Kolom::Plaats}), Proefmeter());
+        const double weg =
+            Weg(namen, uit[achternaam].breedte) + Weg(plaatsen, uit[woonplaats].breedte);
+        for (double links = 4; links <= ruimte - 4; links += 0.1)
+            ASSERT_LE(weg, Weg(namen, links) + Weg(plaatsen, ruimte - links) + 1e-6)
+                << ruimte << " bij " << links;
+    }
+}
+
+TEST(VerdeelRuimte, ZonderRuimteHoudtElkeKolomZijnMinste)
+{
+    Spelertabel tabel;
+    tabel.VoegToe(Rij("Jansen", "Breda"));
+    for (const auto& [breedte, verborgen] :
+         VerdeelRuimte(3, tabel, std::vector{1}, Kolomnamen, {}, Proefmeter()))
+        EXPECT_DOUBLE_EQ(4, breedte);
+}
+
+// ---- The order of the lines -------------------------------------------------------------------
+
+TEST(Gesorteerd, GetallenNaarWaardeEnTekstenNaarDeTekstvolgorde)
+{
+    Spelertabel tabel;
+    const auto voegToe = [&](const Tekst& key, const Tekst& naam, const Tekst& bondsnummer) {
+        Rijvelden velden = Rij(naam);
+        velden[Index(Kolom::Nr)] = std::to_string(12 - tabel.Rijen());
+        velden[Index(Kolom::Key)] = key;
+        velden[Index(Kolom::NBBnr)] = bondsnummer;
+        tabel.VoegToe(velden);
+    };
+    voegToe("100020", "de Wit", "1000");
+    voegToe("100003", "\xC9lan", "999");
+    voegToe("100100", "elan", "");
+    voegToe("100004", "Aa", "12x");
+    const Weergave rijen{1, 2, 3, 4};
+    EXPECT_EQ((Weergave{4, 3, 2, 1}), Gesorteerd(tabel, rijen, Kolom::Nr));
+    EXPECT_EQ((Weergave{2, 4, 1, 3}), Gesorteerd(tabel, rijen, Kolom::Key));
+    EXPECT_EQ((Weergave{3, 2, 1, 4}), Gesorteerd(tabel, rijen, Kolom::NBBnr));
+    EXPECT_EQ((Weergave{4, 1, 3, 2}), Gesorteerd(tabel, rijen, Kolom::Achternaam));
+    EXPECT_EQ(rijen, Gesorteerd(tabel, rijen, Kolom::Plaats)) << "wat gelijk is, blijft staan";
+    EXPECT_EQ((Weergave{4, 2}), Gesorteerd(tabel, {4, 2}, Kolom::Plaats));
+}
+
+TEST(Kopieertekst, IsEenRegelPerSpelerMetTabsTussenWatGetoondWordt)
+{
+    Spelertabel tabel;
+    tabel.VoegToe(Rij("Jansen", "Den\tHaag"));
+    tabel.VoegToe(Rij("Wit", "Oss"));
+    const Kolomkeuzes keuzes =
+        AlleVerborgenBehalve({Kolom::Achternaam, Kolom::Plaats, Kolom::NBBnr});
+    Namenrij namen = Kolomnamen;
+    EXPECT_EQ("Jansen\tDen Haag\t\nWit\tOss\t",
+              Kopieertekst(tabel, std::vector{1, 2}, namen, keuzes));
+    namen[17] = "";
+    EXPECT_EQ("Wit\tOss\nJansen\tDen Haag", Kopieertekst(tabel, std::vector{2, 1}, namen, keuzes));
+    EXPECT_EQ("", Kopieertekst(tabel, {}, namen, keuzes));
+}
+
+TEST(SpelerVoluit, ZegtNaamTelefoonMailEnAdres)
+{
+    Spelertabel tabel;
+    Rijvelden velden = Rij("Horst", "Breda");
+    velden[Index(Kolom::Voornaam)] = "Willem";
+    velden[Index(Kolom::Tusv)] = "van der";
+    tabel.VoegToe(velden);
+    EXPECT_EQ("Willem van der Horst, Breda", SpelerVoluit(tabel, 1));
+    velden[Index(Kolom::Telef)] = "06-1";
+    velden[Index(Kolom::Email)] = "w@x.nl";
+    velden[Index(Kolom::Adres)] = "Dam 1";
+    velden[Index(Kolom::Postc)] = "1234 AB";
+    tabel.VoegToe(velden);
+    EXPECT_EQ("Willem van der Horst, 06-1, w@x.nl, Dam 1, 1234 AB  Breda", SpelerVoluit(tabel, 2));
+}
+
+TEST(WaaromNiet, NoemtWatErHetEerstAanOntbreekt)
+{
+    const Eisen regel{.wijzigt = true, .regels = true, .regel = true};
+    const Opdrachtstand gewoon{.regels = 3, .gekozen = 1, .importcode = "Gr05-"};
+    EXPECT_EQ("", WaaromNiet(regel, gewoon));
+    EXPECT_EQ("", WaaromNiet({}, {.alleenKijken = true}));
+    Opdrachtstand stand = gewoon;
+    stand.gekozen = 0;
+    EXPECT_EQ("Kies eerst een regel", WaaromNiet(regel, stand));
+    stand.regels = 0;
+    EXPECT_EQ("Deze groep heeft geen spelers", WaaromNiet(regel, stand));
+    stand.knopVerborgen = true;
+    EXPECT_EQ("Uitgezet in 'Mappen.ini'", WaaromNiet(regel, stand));
+    EXPECT_EQ("Alleen in de importgroep Gr05-", WaaromNiet({.importgroep = true}, stand));
+    stand.importgroep = true;
+    EXPECT_EQ("Uitgezet in 'Mappen.ini'", WaaromNiet({.importgroep = true}, stand));
+    stand.alleenKijken = true;
+    EXPECT_EQ("U kijkt alleen", WaaromNiet(regel, stand));
+}

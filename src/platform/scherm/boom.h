@@ -7,6 +7,7 @@
 #include <set>
 
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/kopieren.h"
 
 namespace plexoran {
 
@@ -31,6 +32,7 @@ inline constexpr int Sleutelrol = Qt::UserRole;
     Noem(boom, naam, gesproken);
     boom->setHeaderLabels(koppen);
     boom->setUniformRowHeights(true);
+    LaatKopieren(boom);
     return boom;
 }
 

@@ -83,10 +83,25 @@ class Kortknop : public Knop {
     }
 };
 
+/// A tool tip that shows a text of the user as it is; Qt would take its "<" for layout.
+[[nodiscard]] inline QString Wenk(const QString& tekst)
+{
+    return Qt::mightBeRichText(tekst)
+               ? u"<span style=\"white-space:pre\">%1</span>"_s.arg(tekst.toHtmlEscaped())
+               : tekst;
+}
+
 /// Shows the beginning of a text that does not fit on its one line.
 class Kortlabel : public QLabel {
   public:
     using QLabel::QLabel;
+
+    /// What does not fit can be read in the tool tip.
+    void Toon(const QString& tekst)
+    {
+        setText(tekst);
+        setToolTip(Wenk(tekst));
+    }
 
   protected:
     void paintEvent(QPaintEvent* /*gebeurtenis*/) override
@@ -172,14 +187,6 @@ inline void MaakVet(QLabel* label)
     vak->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     vak->setTabChangesFocus(true);
     return vak;
-}
-
-/// A tool tip that shows a text of the user as it is; Qt would take its "<" for layout.
-[[nodiscard]] inline QString Wenk(const QString& tekst)
-{
-    return Qt::mightBeRichText(tekst)
-               ? u"<span style=\"white-space:pre\">%1</span>"_s.arg(tekst.toHtmlEscaped())
-               : tekst;
 }
 
 /// Shows the beginning of a line that does not fit; Qt would cut through a letter.

@@ -26,7 +26,21 @@ class Huisstijl : public QProxyStyle {
         // buttons of message boxes would be the only ones in the program.
         if (gewoonte == SH_ComboBox_Popup || gewoonte == SH_DialogButtonBox_ButtonsHaveIcons)
             return 0;
+        // Who points at an entry that is off is told why.
+        if (gewoonte == SH_Menu_AllowActiveAndDisabled)
+            return 1;
         return QProxyStyle::styleHint(gewoonte, optie, widget, uitslag);
+    }
+    /// An entry that is off and pointed at would look as all others.
+    void drawControl(ControlElement wat, const QStyleOption* optie, QPainter* schilder,
+                     const QWidget* widget) const override
+    {
+        QProxyStyle::drawControl(wat, optie, schilder, widget);
+        if (wat != CE_MenuItem || !optie->state.testFlag(State_Selected) ||
+            optie->state.testFlag(State_Enabled))
+            return;
+        schilder->setPen(optie->palette.color(QPalette::Highlight));
+        schilder->drawRect(optie->rect.adjusted(0, 0, -1, -1));
     }
     /// The edge of an empty box is darker than its ground, which a dark theme hides.
     void drawPrimitive(PrimitiveElement wat, const QStyleOption* optie, QPainter* schilder,

@@ -9,6 +9,7 @@
 #include <numeric>
 
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/kopieren.h"
 #include "platform/tekst/tekenvlak.h"
 
 namespace plexoran {
@@ -99,6 +100,7 @@ Regellijst::Regellijst(SelectionMode hoeveel, const QString& naam, const QString
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Regellijst::keuzeVeranderd);
+    LaatKopieren(this, [this] { return Kopieertekst(); });
 }
 
 QVariant Regellijst::Zegt(int plaats, int rol) const
@@ -129,6 +131,18 @@ void Regellijst::Vul(int aantal, std::function<Tekst(int)> regel, Plek plek)
                                       QItemSelectionModel::NoUpdate);
     verticalScrollBar()->setValue(boven); // a current line scrolls itself into sight
     emit keuzeVeranderd();
+}
+
+/// The chosen lines, or the current one, as they read on the screen.
+QString Regellijst::Kopieertekst() const
+{
+    std::vector<int> plaatsen = GekozenPlaatsen();
+    if (plaatsen.empty() && currentIndex().isValid())
+        plaatsen.push_back(currentIndex().row());
+    QStringList regels;
+    for (const int plaats : plaatsen)
+        regels << Zichtbaar(NaarQString(regel_(plaats)));
+    return regels.join(u'\n');
 }
 
 /// In pixels, of all lines.

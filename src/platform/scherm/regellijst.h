@@ -68,6 +68,7 @@ class Regellijst : public QListView {
   private:
     [[nodiscard]] QVariant Zegt(int plaats, int rol) const;
     [[nodiscard]] int Breedste() const;
+    [[nodiscard]] QString Kopieertekst() const;
     [[nodiscard]] int Zoek(Tekstblik getypt, int vanaf) const;
 
     std::size_t naamVanaf_ = 0;

@@ -58,6 +58,7 @@ void Tabelvlak::KiesRegel(int regel)
     update();
     Beschrijf();
     MeldKeus();
+    emit keuzeVeranderd();
 }
 
 void Tabelvlak::BrengInBeeld(int regel)
@@ -167,7 +168,7 @@ void Tabelvlak::Beschrijf()
         tekst = u"Regel %1"_s.arg(regel_);
         for (int kolom = 0; kolom < Kolommen(); ++kolom) {
             const QString cel = Celtekst(regel_, kolom);
-            if (!cel.isEmpty())
+            if (!cel.isEmpty() && Links(kolom) < Links(kolom + 1))
                 tekst += u", %1 %2"_s.arg(Celtekst(0, kolom), cel);
         }
     }

@@ -46,6 +46,9 @@ class Tabelvlak : public QWidget {
     /// The same for a list that is there to be read: the lines scroll along with the choice.
     bool LeesMet(int toets);
 
+  signals:
+    void keuzeVeranderd();
+
   protected:
     /// A text that does not fit its column can be read in a tool tip.
     bool event(QEvent* gebeurtenis) override;

@@ -1,0 +1,149 @@
+// How the user sees the players: their order, the columns, the buttons under them, and the line at
+// the foot of the window.
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QStatusBar>
+
+#include <algorithm>
+
+#include "mainwindow/frmLedenAdmin.h"
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+
+/// In the order of the lines.
+std::vector<int> frmLedenAdmin::GekozenRijen() const
+{
+    return std::vector<int>(picP0->Vlak()->Regel() > 0 ? 1 : 0, GekozenRij());
+}
+
+void frmLedenAdmin::Sorteer(int kolom)
+{
+    volgorde_ = kolom > 0 ? std::optional(static_cast<Kolom>(kolom)) : std::nullopt;
+    const Tekst gekozen = GekozenKey();
+    ToonGroep();
+    KiesSpeler(gekozen);
+}
+
+/// One must stay, or nothing would be left to bring the others back by.
+void frmLedenAdmin::ToonKolom(std::size_t kolom, bool tonen)
+{
+    Kolomkeuzes keuzes = picP0->Vlak()->Keuzes();
+    keuzes[kolom].verborgen = !tonen;
+    if (std::all_of(keuzes.begin(), keuzes.end(),
+                    [](const auto& keuze) { return keuze.verborgen; }))
+        ToonStatus(u"De laatste kolom blijft staan"_s);
+    else
+        KiesKolommen(keuzes);
+    WerkOpdrachtenBij();
+}
+
+void frmLedenAdmin::KiesKolommen(const Kolomkeuzes& keuzes)
+{
+    picP0->Kies(keuzes);
+    geheugen_.Bewaar(keuzes);
+    WerkOpdrachtenBij();
+}
+
+void frmLedenAdmin::VerdeelKolommen()
+{
+    KiesKolommen(picP0->Vlak()->Verdeeld());
+}
+
+/// The columns have the widths that go with the tick again, after the user set or removed it.
+void frmLedenAdmin::HerstelBreedten()
+{
+    Kolomkeuzes keuzes = picP0->Vlak()->Keuzes();
+    for (Kolomkeuze& keuze : keuzes)
+        keuze.breedte = 0;
+    KiesKolommen(keuzes);
+    geheugen_.ZetAan(chkKolBr->objectName(), chkKolBr->isChecked());
+}
+
+void frmLedenAdmin::HerstelKolommen()
+{
+    chkKolBr->setChecked(true);
+    KiesKolommen({});
+    HerstelBreedten();
+}
+
+void frmLedenAdmin::ToonKnoppen(bool tonen)
+{
+    if (!tonen && knoppen_->isAncestorOf(focusWidget()))
+        NaarRooster();
+    knoppen_->setVisible(tonen);
+    geheugen_.ZetAan(actKnoppen->objectName(), tonen);
+}
+
+void frmLedenAdmin::NaarGroep()
+{
+    cmbGr->setFocus(Qt::ShortcutFocusReason);
+}
+
+void frmLedenAdmin::NaarRooster()
+{
+    picP0->Vlak()->setFocus(Qt::ShortcutFocusReason);
+}
+
+void frmLedenAdmin::KopieerGekozen()
+{
+    const Namenrij namen = BeeldVan(administratie_.mappen, CodeUit(Groeptekst())).kolomnamen;
+    QGuiApplication::clipboard()->setText(NaarQString(Kopieertekst(
+        administratie_.spelers.tabel, GekozenRijen(), namen, picP0->Vlak()->Keuzes())));
+}
+
+// ---------------------------------------------------------------- the line at the foot
+
+void frmLedenAdmin::BouwStatus()
+{
+    lblSpeler = new Kortlabel(this);
+    lblOngedaan = new Kortlabel(this);
+    for (const auto& [label, naam] :
+         {std::pair(lblSpeler, u"lblSpeler"_s), {lblOngedaan, u"lblOngedaan"_s}}) {
+        Noem(label, naam);
+        label->setTextFormat(Qt::PlainText);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+    lblGekozen = MaakLabel(u"lblGekozen"_s, {}, this);
+    lblOpgeslagen = MaakLabel(u"lblOpgeslagen"_s, {}, this);
+    statusBar()->addWidget(lblSpeler, 3);
+    statusBar()->addWidget(lblOngedaan, 2);
+    statusBar()->addPermanentWidget(lblGekozen);
+    statusBar()->addPermanentWidget(lblOpgeslagen);
+    connect(picP0->Vlak(), &Tabelvlak::keuzeVeranderd, this, &frmLedenAdmin::ToonGekozene);
+    ToonOpgeslagen();
+}
+
+/// Of more than one the first.
+void frmLedenAdmin::ToonGekozene()
+{
+    const auto rijen = GekozenRijen();
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    lblSpeler->Toon(rijen.empty() || rijen.front() > tabel.Rijen()
+                        ? u"Geen speler gekozen"_s
+                        : NaarQString(SpelerVoluit(tabel, rijen.front())));
+    lblGekozen->setText(u"%1 gekozen"_s.arg(rijen.size()));
+    WerkOpdrachtenBij();
+}
+
+void frmLedenAdmin::ToonOpgeslagen()
+{
+    lblOpgeslagen->setText(isWindowModified() ? u"Niet opgeslagen"_s : u"Opgeslagen"_s);
+}
+
+/// What Ctrl+Z would undo.
+void frmLedenAdmin::ToonOngedaan()
+{
+    const auto laatste = administratie_.geschiedenis.Laatste(Handelingsoort::Ongedaan);
+    lblOngedaan->Toon(laatste ? u"Ctrl+Z: "_s + NaarQString(laatste->wat)
+                              : u"Niets ongedaan te maken"_s);
+}
+
+/// In place of the player, for as long as it takes to read it.
+void frmLedenAdmin::ToonStatus(const QString& tekst)
+{
+    constexpr int leestijd = 8000;
+    statusBar()->showMessage(tekst, leestijd);
+}
+
+} // namespace plexoran

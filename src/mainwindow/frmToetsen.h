@@ -1,0 +1,15 @@
+// All keys of the main window, read off its menus and buttons, so that the list is as they are.
+#pragma once
+
+#include <QDialog>
+
+namespace plexoran {
+
+class frmToetsen : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmToetsen(QWidget& hoofdvenster);
+};
+
+} // namespace plexoran

@@ -1,0 +1,270 @@
+// The menus of the main window by mouse and keys: every command is there, does what its button
+// does, and says why it is off.
+#include <QClipboard>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTreeWidget>
+
+#include "mainwindow/vensterproef.h"
+
+using namespace plexoran;
+
+namespace {
+
+class MenuTest : public HoofdvensterTest {
+  protected:
+    [[nodiscard]] QAction* Actie(const QString& naam) const
+    {
+        auto* actie = venster->findChild<QAction*>(naam);
+        if (actie == nullptr)
+            throw std::runtime_error("geen " + naam.toStdString());
+        return actie;
+    }
+    [[nodiscard]] std::string Reden(const QString& naam) const
+    {
+        EXPECT_EQ(Actie(naam)->statusTip().isEmpty(), Actie(naam)->isEnabled());
+        return Actie(naam)->statusTip().toStdString();
+    }
+    [[nodiscard]] std::string Status() const
+    {
+        return venster->statusBar()->currentMessage().toStdString();
+    }
+    void Druk(const char* toetsen) const
+    {
+        venster->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+        const QKeyCombination toets = QKeySequence(QString::fromLatin1(toetsen))[0];
+        QTest::keyClick(QApplication::focusWidget(), toets.key(), toets.keyboardModifiers());
+        QApplication::processEvents();
+    }
+};
+
+} // namespace
+
+TEST_F(MenuTest, ElkeKnopStaatInHetMenuMetZijnToets)
+{
+    // The button that does nothing has none.
+    for (const auto& [actie, knop, toetsen] : std::initializer_list<std::array<const char*, 3>>{
+             {"actNieuw", "cmdAanm", "Ctrl+N"},
+             {"actWijzig", "cmdWijzig", "F2; Return; Enter"},
+             {"actVerwijder", "cmdVerwijder", "Del"},
+             {"actVerplaats", "cmdVerplaats", "Ctrl+M"},
+             {"actKopieerNaar", "cmdKopieer", "Ctrl+K"},
+             {"actSpToevoegen", "cmdSpToevoegen", "Ctrl+R"},
+             {"actParenOnderhoud", "cmdParenOnderhoud", "Ctrl+U"},
+             {"actEinde", "cmdEinde", "Ctrl+Q"},
+             {"actGroepsnamen", "cmdMaakGrNamen", "Ctrl+Shift+G"},
+             {"actPrint", "cmdPrint", "Ctrl+P"},
+             {"actVerwijderVT", "cmdVerwijderVT", "Ctrl+Del"},
+             {"actVerwGroep", "cmdVerwGroep", "Ctrl+Shift+Del"},
+             {"actImporteer", "cmdHaalNBBnamen", "Ctrl+I"},
+             {"actKoppel", "cmdKoppel", "Ctrl+L"},
+             {"actSortlijst1", "cmdSortlijst1", "Ctrl+1"},
+             {"actSortlijst2", "cmdSortlijst2", "Ctrl+2"},
+             {"actSortlijst3", "cmdSortlijst3", "Ctrl+3"},
+             {"actToonAlle", "chkToonAlle", "Ctrl+4"},
+             {"actDubbeleNamen", "cmdZoekDubbeleNamen", "Ctrl+D"},
+             {"actGatenlijst", "cmdToonGatenlijst", "Ctrl+T"},
+             {"actKolBr", "chkKolBr", "Ctrl+B"},
+             {"actToelichting", "cmdToelichting", "F1"}}) {
+        SCOPED_TRACE(actie);
+        QAction* deze = Actie(QString::fromLatin1(actie));
+        EXPECT_EQ(toetsen, QKeySequence::listToString(deze->shortcuts()).toStdString());
+        auto* bij = Vind<QAbstractButton>(*venster, knop);
+        bool gedrukt = false;
+        const auto los = QObject::connect(bij, &QAbstractButton::pressed, [&, bij] {
+            gedrukt = true;
+            bij->blockSignals(true); // what it does is kept from happening
+        });
+        KiesGroep(5);
+        KiesRegel(1);
+        bij->show();
+        emit Vind<QMenu>(*venster, "mnuSpeler")->aboutToShow();
+        ASSERT_TRUE(deze->isEnabled());
+        deze->trigger();
+        bij->blockSignals(false);
+        QObject::disconnect(los);
+        EXPECT_TRUE(gedrukt);
+    }
+}
+
+TEST_F(MenuTest, AlleActiesHetenActEnGeenTweeHebbenDezelfdeToets)
+{
+    std::set<QString> namen;
+    std::map<QString, QString> toetsen;
+    for (const QMenu* menu : venster->findChildren<QMenu*>()) {
+        for (const QAction* actie : menu->actions()) {
+            if (actie->isSeparator() || actie->menu() != nullptr)
+                continue;
+            EXPECT_TRUE(actie->objectName().startsWith(u"act"_s)) << actie->text().toStdString();
+            EXPECT_TRUE(namen.insert(actie->objectName()).second)
+                << actie->objectName().toStdString();
+            EXPECT_FALSE(actie->text().isEmpty()) << actie->objectName().toStdString();
+            for (const QKeySequence& toets : actie->shortcuts())
+                EXPECT_TRUE(toetsen.emplace(toets.toString(), actie->objectName()).second)
+                    << toets.toString().toStdString() << " van "
+                    << actie->objectName().toStdString() << " en "
+                    << toetsen[toets.toString()].toStdString();
+        }
+    }
+    EXPECT_GT(namen.size(), 70U);
+    EXPECT_GT(toetsen.size(), 30U);
+}
+
+TEST_F(MenuTest, EenOpdrachtDieNietKanIsGrijsEnZegtWaarom)
+{
+    EXPECT_EQ("Kies eerst een regel", Reden(u"actWijzig"_s));
+    EXPECT_EQ("Kies eerst een regel", Reden(u"actVerwijder"_s));
+    EXPECT_EQ("Kies eerst een regel", Reden(u"actKopieer"_s));
+    EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actImporteer"_s));
+    EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actKoppel"_s));
+    EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actSortlijst2"_s));
+    EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actVolgorde_18"_s));
+    EXPECT_EQ("", Reden(u"actParenOnderhoud"_s));
+    EXPECT_EQ("", Reden(u"actVerwijderVT"_s));
+    Knop("cmdParenOnderhoud")->hide(); // as without NEWPAGR
+    KiesRegel(1);
+    EXPECT_EQ("", Reden(u"actWijzig"_s));
+    EXPECT_EQ("", Reden(u"actKopieer"_s));
+    EXPECT_EQ("Uitgezet in 'Mappen.ini'", Reden(u"actParenOnderhoud"_s));
+    KiesGroep(4); // empty
+    EXPECT_EQ("Deze groep heeft geen spelers", Reden(u"actWijzig"_s));
+    EXPECT_EQ("Deze groep heeft geen spelers", Reden(u"actVerwijderVT"_s));
+    KiesGroep(5);
+    EXPECT_EQ("", Reden(u"actImporteer"_s));
+    EXPECT_EQ("", Reden(u"actSortlijst2"_s));
+}
+
+TEST_F(MenuTest, WieOpEenGrijzeRegelStaatLeestOnderaanWaarom)
+{
+    Druk("F10");
+    auto* speler = Vind<QMenu>(*venster, "mnuSpeler");
+    ASSERT_TRUE(speler->isVisible());
+    QTest::keyClick(speler, Qt::Key_Down);
+    while (speler->activeAction() != Actie(u"actWijzig"_s) && speler->isVisible())
+        QTest::keyClick(speler, Qt::Key_Down);
+    EXPECT_EQ("Kies eerst een regel", Status());
+    QTest::keyClick(speler, Qt::Key_Return); // does nothing
+    QTest::keyClick(speler, Qt::Key_Escape);
+    QTest::keyClick(venster->menuBar(), Qt::Key_Escape);
+    EXPECT_FALSE(speler->isVisible());
+    EXPECT_EQ("", Status());
+}
+
+TEST_F(MenuTest, OokDeMuisKrijgtTeLezenWaarom)
+{
+    const QAction* titel = Vind<QMenu>(*venster, "mnuGroep")->menuAction();
+    QTest::mouseClick(venster->menuBar(), Qt::LeftButton, {},
+                      venster->menuBar()->actionGeometry(const_cast<QAction*>(titel)).center());
+    auto* menu = Vind<QMenu>(*venster, "mnuGroep");
+    ASSERT_TRUE(menu->isVisible());
+    QTest::mouseMove(menu, menu->actionGeometry(Actie(u"actKiesGroep"_s)).center());
+    QTest::mouseMove(menu, menu->actionGeometry(Actie(u"actKoppel"_s)).center());
+    QApplication::processEvents();
+    EXPECT_EQ("Alleen in de importgroep Gr05-", Status());
+    menu->close();
+}
+
+TEST_F(MenuTest, DeToetsVanEenGrijzeOpdrachtZegtWaaromEnDoetNiets)
+{
+    Druk("Ctrl+L");
+    EXPECT_EQ("Alleen in de importgroep Gr05-", Status());
+    KiesGroep(4);
+    Druk("Ctrl+Del");
+    EXPECT_EQ("Deze groep heeft geen spelers", Status());
+    wachter.Klaar();
+}
+
+TEST_F(MenuTest, ToetsenDoenWatDeKnopDoet)
+{
+    for (const auto& [toets, dialoog] : {std::pair("Ctrl+M", "diaVerplaats"),
+                                         {"Ctrl+K", "diaKopieer"},
+                                         {"Ctrl+Shift+Del", "frmVerwSubgroep"},
+                                         {"Ctrl+1", "diaSortlijst"},
+                                         {"Ctrl+Shift+G", "diaGrNamen"},
+                                         {"Ctrl+P", "frmPrintIni"},
+                                         {"F1", "frmToelichting"},
+                                         {"Ctrl+?", "frmToetsen"},
+                                         {"Ctrl+Shift+?", "frmToetsen"},
+                                         {"Ctrl+Shift+/", "frmToetsen"}}) {
+        SCOPED_TRACE(toets);
+        wachter.Bedien([dialoog = dialoog](QDialog& open) {
+            EXPECT_EQ(dialoog, open.objectName().toStdString());
+            open.reject();
+        });
+        Druk(toets);
+        wachter.Klaar();
+    }
+    Druk("Ctrl+G");
+    EXPECT_TRUE(Keus("cmbGr")->hasFocus());
+    Druk("F6");
+    EXPECT_TRUE(Vlak()->hasFocus());
+    EXPECT_FALSE(Vink("chkToonAlle")->isChecked());
+    Druk("Ctrl+4");
+    EXPECT_TRUE(Vink("chkToonAlle")->isChecked());
+}
+
+TEST_F(MenuTest, CtrlCKopieertDeSpelerZoalsEenRekenbladHemNeemt)
+{
+    KiesRegel(1);
+    Druk("Ctrl+C");
+    EXPECT_EQ("1\t100001\tGr01-\tWillem\tvan der\tHorst",
+              QGuiApplication::clipboard()->text().section(u'\t', 0, 5).toStdString());
+    EXPECT_EQ(16, QGuiApplication::clipboard()->text().count(u'\t')) << "zonder naam geen kolom";
+    Actie(u"actKolom_2"_s)->trigger();
+    Actie(u"actKopieer"_s)->trigger();
+    EXPECT_EQ("1\tGr01-\tWillem",
+              QGuiApplication::clipboard()->text().section(u'\t', 0, 2).toStdString());
+}
+
+TEST_F(MenuTest, HetRoosterHeeftEenMenuMetWatEenRegelAangaat)
+{
+    QStringList namen;
+    for (const QAction* actie : Vlak()->actions())
+        namen << actie->objectName();
+    for (const char* naam : {"actWijzig", "actVerwijder", "actKopieer", "actSpelergeschiedenis"})
+        EXPECT_TRUE(namen.contains(QLatin1String(naam))) << naam;
+}
+
+TEST_F(MenuTest, DeToetsenlijstStaatVolEnIsVanDeActiesZelf)
+{
+    Actie(u"actPassend"_s)->setShortcut(QKeySequence(u"Ctrl+J"_s));
+    wachter.Bedien([](QDialog& open) {
+        const auto* lijst = Vind<QTreeWidget>(open, "lstToetsen");
+        std::map<std::string, std::string> regels;
+        for (int i = 0; i < lijst->topLevelItemCount(); ++i) {
+            const QTreeWidgetItem* regel = lijst->topLevelItem(i);
+            regels[regel->text(0).toStdString()] =
+                QStringList{regel->text(1), regel->text(2)}.join(u" | "_s).toStdString();
+        }
+        EXPECT_EQ("Kolommen passend | Beeld", regels["Ctrl+J"]);
+        EXPECT_EQ("Nieuwe Speler toevoegen | Speler", regels["Ctrl+N"]);
+        EXPECT_EQ("Ongedaan maken | Bewerken", regels["Ctrl+Z"]);
+        EXPECT_EQ("Knoppen onder de spelers | Beeld", regels["F9"]);
+        EXPECT_EQ("Spelergroepsnaam aanvullen | Knop", regels["Alt+S"]);
+        QTest::keyClick(&open, Qt::Key_Escape);
+    });
+    Druk("Ctrl+?");
+    wachter.Klaar();
+}
+
+TEST_F(MenuTest, OnderaanStaatDeSpelerEnWatCtrlZZouTerugdraaien)
+{
+    EXPECT_EQ("Geen speler gekozen", Label("lblSpeler")->text().toStdString());
+    EXPECT_EQ("0 gekozen", Label("lblGekozen")->text().toStdString());
+    EXPECT_EQ("Niets ongedaan te maken", Label("lblOngedaan")->text().toStdString());
+    EXPECT_EQ("Opgeslagen", Label("lblOpgeslagen")->text().toStdString());
+    VoegToe(u"Nieuweling"_s);
+    EXPECT_EQ("Ctrl+Z: Nieuweling toegevoegd", Label("lblOngedaan")->text().toStdString());
+    KiesRegel(1);
+    EXPECT_EQ("1 gekozen", Label("lblGekozen")->text().toStdString());
+    EXPECT_TRUE(Label("lblSpeler")->text().startsWith(u"Willem van der Horst, "_s))
+        << Label("lblSpeler")->text().toStdString();
+    EXPECT_EQ(Label("lblSpeler")->text(), Label("lblSpeler")->toolTip());
+    venster->setWindowModified(true);
+    EXPECT_EQ("Niet opgeslagen", Label("lblOpgeslagen")->text().toStdString());
+    venster->setWindowModified(false);
+    DrukMetCtrl(Qt::Key_Z);
+    EXPECT_EQ("Niets ongedaan te maken", Label("lblOngedaan")->text().toStdString());
+}
