@@ -1,10 +1,11 @@
 // Importing as many members as the register has players, half of them known: reading the CSV and
-// merging, beside SQLite doing the same without the reading, measured in the same run. Once with
-// usual numbers, once with numbers that can be found across two others.
+// merging, beside the preview of that and beside SQLite doing the same without the reading,
+// measured in the same run. Once with usual numbers, once with numbers that can be found across two
+// others.
 #include <utility>
 
 #include "federation/ledenbestand.h"
-#include "federation/samenvoegen.h"
+#include "federation/voorbeeld.h"
 #include "hulp/meten.h"
 #include "hulp/register.h"
 #include "hulp/sqlite.h"
@@ -116,6 +117,26 @@ void ImporterenVreemd(benchmark::State& meting)
     Importeer(meting, Nummers::Vreemd);
 }
 BENCHMARK(ImporterenVreemd)->Apply(Groottes);
+
+/// The same up to where the import begins to change things, and what the preview tells more.
+void ImportBekijken(benchmark::State& meting)
+{
+    Proef& proef = ProefVan(meting, Nummers::Gewoon);
+    const auto helft = static_cast<std::size_t>(meting.range(0) / 2);
+    Meet(
+        meting, [&] { return proef.Laad(); },
+        [&](const Register& spelers) {
+            Ledenlezing lezing = std::move(proef.LeesCsv().value());
+            const auto voorbeeld = Voorbeeld::Maak(spelers.tabel,
+                                                   {.importgroep = Tekst(Importgroep),
+                                                    .subgroep = "Club",
+                                                    .lstN1 = std::move(lezing.lstN1)},
+                                                   lezing);
+            Eis(meting, voorbeeld && voorbeeld->Aantal(Voorbeeldsoort::Nieuw) == helft &&
+                            voorbeeld->Aantal(Voorbeeldsoort::Gewijzigd) == helft);
+        });
+}
+BENCHMARK(ImportBekijken)->Apply(Groottes);
 
 /// SQLite looks up, updates or inserts the same members, with an index on the number; the file is
 /// read and split beforehand.

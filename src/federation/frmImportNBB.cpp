@@ -61,6 +61,7 @@ void frmImportNBB::reject()
 void frmImportNBB::MaakBruikbaar(bool bruikbaar)
 {
     cmdControleNBBnrs->setEnabled(bruikbaar);
+    cmdBekijk->setEnabled(bruikbaar);
     cmdImporteer->setEnabled(bruikbaar);
 }
 

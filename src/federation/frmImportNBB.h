@@ -46,9 +46,17 @@ class frmImportNBB : public QDialog {
     void ControleerNBBnrs();
 
     // The run (frmImportNBB_import.cpp)
+    using Behandeling = bool (frmImportNBB::*)(const Tekst& naam, Ledenlezing lezing);
     void ImporteerLedenbestanden();
-    [[nodiscard]] bool LeesEnImporteer(const Ledenopdracht& opdracht, const Tekst& naam);
+    void BekijkLedenbestanden();
+    void Behandel(Behandeling behandeling);
+    [[nodiscard]] bool LeesEnBehandel(const Ledenopdracht& opdracht, const Tekst& naam,
+                                      Behandeling behandeling);
     [[nodiscard]] bool ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing);
+    [[nodiscard]] bool BekijkEenBestand(const Tekst& naam, Ledenlezing lezing);
+    [[nodiscard]] bool VraagOfHetMag(const Tekst& naam, std::size_t aantal);
+    [[nodiscard]] bool RondAf(const Tekst& naam, const Ledenlezing& lezing,
+                              const Samenvoeguitkomst& uitkomst);
     void MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezing& lezing);
     void MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing, const Samenvoeging& uitkomst);
     void MeldAfgebroken(const Tekst& naam, Samenvoegfout fout);
@@ -67,6 +75,7 @@ class frmImportNBB : public QDialog {
     QCheckBox* chkEmail = nullptr;
     QCheckBox* chkMV = nullptr;
     QPushButton* cmdControleNBBnrs = nullptr;
+    QPushButton* cmdBekijk = nullptr;
     QPushButton* cmdImporteer = nullptr;
 };
 

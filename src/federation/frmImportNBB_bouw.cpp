@@ -101,10 +101,12 @@ void frmImportNBB::Bouw()
     auto* lagen = Onderelkaar(
         {MaakLopendeTekst(u"lblOpening"_s, opening, this), {kolommen, 1}, BouwHulp()}, this);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::close);
+    cmdBekijk = MaakKnop(u"cmdBekijk"_s, u"Bekijk vooraf..."_s, u'a', this,
+                         &frmImportNBB::BekijkLedenbestanden);
     cmdImporteer = MaakKnop(u"cmdImporteer"_s, u"Importeer"_s, u'I', this,
                             &frmImportNBB::ImporteerLedenbestanden);
     cmdImporteer->setDefault(true);
-    lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdImporteer}));
+    lagen->addLayout(Knoppenrij({cmdAnnuleren, cmdBekijk, cmdImporteer}));
     ZetOpSchuifblad(this);
     PasInScherm(this, Maten().Twips(12600, 9900));
 }

@@ -2,6 +2,7 @@
 #include <QGuiApplication>
 
 #include "federation/frmImportNBB.h"
+#include "federation/frmVoorbeeld.h"
 #include "federation/leesfoutmelding.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/frmVoortgang.h"
@@ -36,6 +37,16 @@ template <class Reeks> QString Toonbaar(const Reeks& regels)
 
 void frmImportNBB::ImporteerLedenbestanden()
 {
+    Behandel(&frmImportNBB::ImporteerEenBestand);
+}
+
+void frmImportNBB::BekijkLedenbestanden()
+{
+    Behandel(&frmImportNBB::BekijkEenBestand);
+}
+
+void frmImportNBB::Behandel(Behandeling behandeling)
+{
     const auto gekozen = GekozenBestanden();
     if (gekozen.empty())
         return;
@@ -43,7 +54,7 @@ void frmImportNBB::ImporteerLedenbestanden()
     bezig_ = true;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool heel = std::all_of(gekozen.begin(), gekozen.end(), [&](const Tekst& naam) {
-        return LeesEnImporteer(opdracht, naam);
+        return LeesEnBehandel(opdracht, naam, behandeling);
     });
     QGuiApplication::restoreOverrideCursor();
     bezig_ = false;
@@ -52,7 +63,8 @@ void frmImportNBB::ImporteerLedenbestanden()
 }
 
 /// False when the import ends here, as below.
-bool frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdracht, const Tekst& naam)
+bool frmImportNBB::LeesEnBehandel(const Ledenopdracht& opdracht, const Tekst& naam,
+                                  Behandeling behandeling)
 {
     frmVoortgang voortgang(u"'%1' wordt gelezen ..."_s.arg(NaarQString(naam)), u"&Stoppen"_s, this);
     connect(&voortgang, &frmVoortgang::canceled, &voortgang,
@@ -75,7 +87,7 @@ bool frmImportNBB::LeesEnImporteer(const Ledenopdracht& opdracht, const Tekst& n
         return false;
     }
     MeldVooraf(opdracht.bron, naam, *lezing);
-    return ImporteerEenBestand(naam, std::move(*lezing));
+    return (this->*behandeling)(naam, std::move(*lezing));
 }
 
 /// What the user must know to answer the question that follows.
@@ -108,23 +120,56 @@ void frmImportNBB::MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezi
 
 bool frmImportNBB::ImporteerEenBestand(const Tekst& naam, Ledenlezing lezing)
 {
-    const QString vraag = u"U gaat van '%1' %2 spelers importeren naar groep '%3'."_s.arg(
-        NaarQString(SubgroepUitNaam(naam)), QString::number(lezing.lstN1.size()),
-        NaarQString(administratie_.mappen.DFIMPG));
-    if (!Vraag(this, vraag))
+    if (!VraagOfHetMag(naam, lezing.lstN1.size()))
         return true;
-    const auto uitkomst = import_.Importeer(
-        naam, std::move(lezing.lstN1),
-        frmVoortgang(u"'%1' wordt geïmporteerd ..."_s.arg(NaarQString(naam)), u"&Stoppen"_s, this)
+    return RondAf(
+        naam, lezing,
+        import_.Importeer(naam, std::move(lezing.lstN1),
+                          frmVoortgang(u"'%1' wordt geïmporteerd ..."_s.arg(NaarQString(naam)),
+                                       u"&Stoppen"_s, this)
+                              .AlsVoortgang()));
+}
+
+/// The file comes in as it was shown. Who thinks better of it at the question sees it again.
+bool frmImportNBB::BekijkEenBestand(const Tekst& naam, Ledenlezing lezing)
+{
+    auto voorbeeld = import_.Bekijk(
+        naam, lezing,
+        frmVoortgang(u"'%1' wordt bekeken ..."_s.arg(NaarQString(naam)), u"&Stoppen"_s, this)
             .AlsVoortgang());
+    if (!voorbeeld) {
+        MeldAfgebroken(naam, voorbeeld.error());
+        return false;
+    }
+    frmVoorbeeld venster(*voorbeeld, NaarQString(naam), this);
+    do {
+        if (LaatAntwoorden(venster) != QDialog::Accepted)
+            return false;
+        if (!voorbeeld->VerandertIets()) {
+            Meld(this, QMessageBox::Information, frmVoorbeeld::Nietstekst());
+            return true;
+        }
+    } while (!VraagOfHetMag(naam, voorbeeld->Gekozen().size() - voorbeeld->RegelsUit()));
+    return RondAf(naam, lezing, import_.Importeer(*voorbeeld));
+}
+
+bool frmImportNBB::VraagOfHetMag(const Tekst& naam, std::size_t aantal)
+{
+    return Vraag(this, u"U gaat van '%1' %2 spelers importeren naar groep '%3'."_s.arg(
+                           NaarQString(SubgroepUitNaam(naam)), QString::number(aantal),
+                           NaarQString(administratie_.mappen.DFIMPG)));
+}
+
+bool frmImportNBB::RondAf(const Tekst& naam, const Ledenlezing& lezing,
+                          const Samenvoeguitkomst& uitkomst)
+{
     if (!uitkomst) {
         MeldAfgebroken(naam, uitkomst.error());
         return false;
     }
-    const auto leden =
-        static_cast<std::size_t>(uitkomst->AantalVerververst + uitkomst->AantalNieuw);
     administratie_.geschiedenis.Noem(NaarTekst(u"%1 geïmporteerd uit %2"_s.arg(
-        Aantal(leden, u"lid"_s, u"leden"_s), NaarQString(SubgroepUitNaam(naam)))));
+        Aantal(uitkomst->AantalVerververst + uitkomst->AantalNieuw, u"lid"_s, u"leden"_s),
+        NaarQString(SubgroepUitNaam(naam)))));
     MeldUitkomst(naam, lezing, *uitkomst);
     return true;
 }

@@ -81,14 +81,35 @@ Ledenopdracht Ledenimport::Opdracht(const Importkeuzes& keuzes) const
             .grenzen = grenzen_};
 }
 
-tl::expected<Samenvoeging, Samenvoegfout>
-Ledenimport::Importeer(Tekstblik naam, std::vector<Tekst> lstN1, const Voortgang& voortgang)
+Samenvoegopdracht Ledenimport::Samenvoegen(Tekstblik naam, std::vector<Tekst> lstN1) const
 {
-    auto uitkomst = VoegLedenSamen(administratie_.spelers,
-                                   {.importgroep = administratie_.mappen.DFIMPG,
-                                    .subgroep = SubgroepUitNaam(naam),
-                                    .lstN1 = std::move(lstN1)},
-                                   voortgang);
+    return {.importgroep = administratie_.mappen.DFIMPG,
+            .subgroep = SubgroepUitNaam(naam),
+            .lstN1 = std::move(lstN1)};
+}
+
+Samenvoeguitkomst Ledenimport::Importeer(Tekstblik naam, std::vector<Tekst> lstN1,
+                                         const Voortgang& voortgang)
+{
+    return Onthoud(
+        VoegLedenSamen(administratie_.spelers, Samenvoegen(naam, std::move(lstN1)), voortgang));
+}
+
+tl::expected<Voorbeeld, Samenvoegfout> Ledenimport::Bekijk(Tekstblik naam, Ledenlezing& lezing,
+                                                           const Voortgang& voortgang) const
+{
+    return Voorbeeld::Maak(administratie_.spelers.tabel, Samenvoegen(naam, std::move(lezing.lstN1)),
+                           lezing, voortgang);
+}
+
+Samenvoeguitkomst Ledenimport::Importeer(const Voorbeeld& voorbeeld)
+{
+    return Onthoud(
+        VoerSamenvoegingUit(administratie_.spelers, voorbeeld.Opdracht(), voorbeeld.Gekozen()));
+}
+
+Samenvoeguitkomst Ledenimport::Onthoud(Samenvoeguitkomst uitkomst)
+{
     if (uitkomst && uitkomst->AantalVerververst + uitkomst->AantalNieuw > 0)
         ietsGewijzigd_ = true;
     return uitkomst;

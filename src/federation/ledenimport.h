@@ -5,7 +5,7 @@
 #include <map>
 
 #include "federation/ledenbestand.h"
-#include "federation/samenvoegen.h"
+#include "federation/voorbeeld.h"
 #include "register/administratie.h"
 
 namespace plexoran {
@@ -48,12 +48,20 @@ class Ledenimport {
     [[nodiscard]] Ledenopdracht Opdracht(const Importkeuzes& keuzes) const;
 
     /// Merges what was read of a member file into the import group.
-    [[nodiscard]] tl::expected<Samenvoeging, Samenvoegfout>
-    Importeer(Tekstblik naam, std::vector<Tekst> lstN1, const Voortgang& voortgang);
+    [[nodiscard]] Samenvoeguitkomst Importeer(Tekstblik naam, std::vector<Tekst> lstN1,
+                                              const Voortgang& voortgang);
+    /// What that would do. Takes the import lines out of the reading, which must outlive it.
+    [[nodiscard]] tl::expected<Voorbeeld, Samenvoegfout> Bekijk(Tekstblik naam, Ledenlezing& lezing,
+                                                                const Voortgang& voortgang) const;
+    /// Does what is on in a preview.
+    [[nodiscard]] Samenvoeguitkomst Importeer(const Voorbeeld& voorbeeld);
     /// Whether a player was refreshed or added, so that there is something to save.
     [[nodiscard]] bool IetsGewijzigd() const { return ietsGewijzigd_; }
 
   private:
+    [[nodiscard]] Samenvoegopdracht Samenvoegen(Tekstblik naam, std::vector<Tekst> lstN1) const;
+    Samenvoeguitkomst Onthoud(Samenvoeguitkomst uitkomst);
+
     Administratie& administratie_;
     Importgeheugen& geheugen_;
     Ledenbron bron_ = Ledenbron::Csv;

@@ -1,5 +1,7 @@
 #include "federation/samenvoegen.h"
 
+#include <algorithm>
+
 #include "platform/tekst/tekst.h"
 
 namespace plexoran {
@@ -7,19 +9,11 @@ namespace {
 
 constexpr std::size_t MeldElke = 2048; // lines between two reports
 
-/// The columns that an import line fills, rising, and from which of its fields.
-constexpr std::array<std::pair<Kolom, std::size_t>, 10> Herkomst{{
-    {Kolom::Voornaam, Importveld::Voornaam},
-    {Kolom::Tusv, Importveld::Tusv},
-    {Kolom::Achternaam, Importveld::Achternaam},
-    {Kolom::Telef, Importveld::Telef},
-    {Kolom::Email, Importveld::Email},
-    {Kolom::Adres, Importveld::Adres},
-    {Kolom::Postc, Importveld::Postc},
-    {Kolom::Plaats, Importveld::Plaats},
-    {Kolom::Land, Importveld::Land},
-    {Kolom::MV, Importveld::MV},
-}};
+/// From which field of the line each of `Importkolommen` comes, but for the last one.
+constexpr std::array Herkomst{Importveld::Voornaam, Importveld::Tusv,   Importveld::Achternaam,
+                              Importveld::Telef,    Importveld::Email,  Importveld::Adres,
+                              Importveld::Postc,    Importveld::Plaats, Importveld::Land,
+                              Importveld::MV};
 
 Tekstblik Nummer(const Importvelden& velden)
 {
@@ -36,143 +30,132 @@ bool ZijnTeGroot(const std::vector<Tekstblik>& nummers)
     return samen > meeste;
 }
 
-/// One merge. It decides first what happens to every line and changes the register only then, so
-/// that stopping half-way changes nothing.
-class Samenvoeger {
-  public:
-    Samenvoeger(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang,
-                std::vector<Tekstblik> nummers)
-        : spelers_(spelers), opdracht_(opdracht), voortgang_(voortgang),
-          nummers_(std::move(nummers)), NBBnrIndex_(nummers_)
-    {
-        BouwNBBnrIndex();
+void Ververs(Spelertabel& tabel, const Regelbesluit& besluit, const Rijblikken& cellen)
+{
+    std::array<Celtekst, Importkolommen.size()> anders;
+    std::size_t aantal = 0;
+    for (const Kolom kolom : Importkolommen) {
+        if (besluit.kolommen[Index(kolom)])
+            anders[aantal++] = {kolom, cellen[Index(kolom)]};
     }
+    tabel.ZetCellen(besluit.rij, std::span(anders).first(aantal));
+}
 
-    /// What has a row of its own number is to be refreshed; the rest that has a number is left for
-    /// adding. False when the user stops it, here and below.
-    [[nodiscard]] bool VerversBestaande()
-    {
-        for (std::size_t i = 0; i < nummers_.size(); ++i) {
-            const auto gelijke = eersteRij_.find(nummers_[i]);
-            if (nummers_[i].empty())
-                uitkomst.ZonderNBBnr.append(opdracht_.lstN1[i]).append("\r\n");
-            else if (gelijke != eersteRij_.end()) // whose number is in the index as well
-                verversingen_.emplace_back(i, gelijke->second);
-            else
-                lstN2_.push_back(i);
-            if (!GaVerder())
-                return false;
-        }
-        return true;
+void VoegToe(Register& spelers, Tekstblik groep, const Kolommen& kolommen, Rijblikken& cellen)
+{
+    for (const Kolom kolom : Importkolommen) {
+        if (!kolommen[Index(kolom)])
+            cellen[Index(kolom)] = {};
     }
-
-    /// Of what is left, all whose number does not occur yet; every one of them makes it occur.
-    [[nodiscard]] bool VoegNieuweToe()
-    {
-        std::size_t over = 0;
-        for (const std::size_t i : lstN2_) {
-            if (NBBnrIndex_.Bevat(i)) {
-                uitkomst.overgeslagen.push_back(opdracht_.lstN1[i]);
-            } else {
-                NBBnrIndex_.Voeg(nummers_[i]);
-                lstN2_[over++] = i;
-            }
-            if (!GaVerder())
-                return false;
-        }
-        lstN2_.resize(over);
-        uitkomst.AantalNieuw = over;
-        return true;
-    }
-
-    /// Changes the register as the steps above decided.
-    void Voer()
-    {
-        for (const auto& [regel, rij] : verversingen_)
-            Ververs(rij, SplitsImportregel(opdracht_.lstN1[regel]));
-        for (const std::size_t regel : lstN2_)
-            VoegSpelerToe(SplitsImportregel(opdracht_.lstN1[regel]));
-        uitkomst.AantalVerververst = verversingen_.size();
-    }
-
-    Samenvoeging uitkomst;
-
-  private:
-    /// The numbers of the import group, and where each stands first.
-    void BouwNBBnrIndex()
-    {
-        const Spelertabel& tabel = spelers_.tabel;
-        eersteRij_.reserve(static_cast<std::size_t>(tabel.Rijen()));
-        for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-            if (tabel.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
-                continue;
-            const Tekstblik nummer = tabel.Cel(rij, Kolom::NBBnr);
-            NBBnrIndex_.Voeg(nummer);
-            eersteRij_.try_emplace(nummer, rij);
-        }
-    }
-
-    [[nodiscard]] bool GaVerder()
-    {
-        return ++gedaan_ % MeldElke != 0 || !voortgang_ ||
-               voortgang_(gedaan_, 2 * opdracht_.lstN1.size());
-    }
-
-    /// The fields as they stand: one that was not asked for is empty and empties the cell.
-    void Ververs(int rij, const Importvelden& velden)
-    {
-        std::array<Celtekst, Herkomst.size() + 1> cellen;
-        for (std::size_t i = 0; i < Herkomst.size(); ++i)
-            cellen[i] = {Herkomst[i].first, velden[Herkomst[i].second]};
-        cellen.back() = {Kolom::NBBgr, NBBgr_};
-        spelers_.tabel.ZetCellen(rij, cellen);
-    }
-
-    void VoegSpelerToe(const Importvelden& velden)
-    {
-        const Tekst nr = std::to_string(spelers_.tabel.Rijen() + 1);
-        const Tekst key = std::to_string(NieuweSleutel(spelers_).value());
-        Rijblikken cellen;
-        cellen[Index(Kolom::Nr)] = nr;
-        cellen[Index(Kolom::Key)] = key;
-        cellen[Index(Kolom::Groep)] = opdracht_.importgroep;
-        for (const auto& [kolom, veld] : Herkomst)
-            cellen[Index(kolom)] = ZonderSpaties(velden[veld]);
-        cellen[Index(Kolom::NBBgr)] = NBBgr_;
-        cellen[Index(Kolom::NBBnr)] = Nummer(velden);
-        spelers_.tabel.VoegToe(cellen);
-    }
-
-    Register& spelers_;
-    const Samenvoegopdracht& opdracht_;
-    const Voortgang& voortgang_;
-    std::vector<Tekstblik> nummers_; ///< of every line, without outer blanks
-    Tekst NBBgr_ = Hoofdletters(opdracht_.subgroep);
-    NBBnrIndex NBBnrIndex_;
-    std::unordered_map<Tekstblik, int> eersteRij_; ///< of the group, with each number as text
-    std::vector<std::pair<std::size_t, int>> verversingen_; ///< element of lstN1, and row
-    std::vector<std::size_t> lstN2_;                        ///< elements of lstN1 to be added
-    std::size_t gedaan_ = 0;
-};
+    const Tekst nr = std::to_string(spelers.tabel.Rijen() + 1);
+    const Tekst key = std::to_string(NieuweSleutel(spelers).value());
+    cellen[Index(Kolom::Nr)] = nr;
+    cellen[Index(Kolom::Key)] = key;
+    cellen[Index(Kolom::Groep)] = groep;
+    spelers.tabel.VoegToe(cellen);
+}
 
 } // namespace
 
-tl::expected<Samenvoeging, Samenvoegfout>
-VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht, const Voortgang& voortgang)
+Rijblikken Importcellen(Tekstblik regel, Regellot lot, Tekstblik NBBgr)
 {
+    const Importvelden velden = SplitsImportregel(regel);
+    Rijblikken cellen;
+    for (std::size_t i = 0; i < Herkomst.size(); ++i) {
+        const Tekstblik veld = velden[Herkomst[i]];
+        cellen[Index(Importkolommen[i])] = lot == Regellot::Nieuw ? ZonderSpaties(veld) : veld;
+    }
+    cellen[Index(Kolom::NBBgr)] = NBBgr;
+    cellen[Index(Kolom::NBBnr)] = Nummer(velden);
+    return cellen;
+}
+
+/// What has a row of its own number is to be refreshed. Of the rest that has a number all are added
+/// whose number does not occur yet; every one of them makes it occur.
+tl::expected<Besluiten, Samenvoegfout> BesluitSamenvoeging(const Spelertabel& tabel,
+                                                           const Samenvoegopdracht& opdracht,
+                                                           const Voortgang& voortgang)
+{
+    const std::size_t aantal = opdracht.lstN1.size();
     std::vector<Tekstblik> nummers;
-    nummers.reserve(opdracht.lstN1.size());
+    nummers.reserve(aantal);
     for (const Tekstblik regel : opdracht.lstN1)
         nummers.push_back(Nummer(SplitsImportregel(regel)));
     if (ZijnTeGroot(nummers))
         return tl::unexpected(Samenvoegfout::TeGroot);
-    Samenvoeger samenvoeger(spelers, opdracht, voortgang, std::move(nummers));
-    if (!samenvoeger.VerversBestaande() || !samenvoeger.VoegNieuweToe())
-        return tl::unexpected(Samenvoegfout::Gestopt);
-    if (!ZijnErSleutels(spelers, samenvoeger.uitkomst.AantalNieuw))
+
+    NBBnrIndex index(nummers);
+    std::unordered_map<Tekstblik, int> eersteRij; // of the group, with each number as text
+    eersteRij.reserve(static_cast<std::size_t>(tabel.Rijen()));
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Groep) != opdracht.importgroep)
+            continue;
+        const Tekstblik nummer = tabel.Cel(rij, Kolom::NBBnr);
+        index.Voeg(nummer);
+        eersteRij.try_emplace(nummer, rij);
+    }
+
+    std::size_t gedaan = 0;
+    const auto gestopt = [&] {
+        return ++gedaan % MeldElke == 0 && voortgang && !voortgang(gedaan, 2 * aantal);
+    };
+    Besluiten besluiten(aantal);
+    for (std::size_t i = 0; i < aantal; ++i) {
+        const auto gelijke = eersteRij.find(nummers[i]);
+        if (nummers[i].empty())
+            besluiten[i].lot = Regellot::ZonderNBBnr;
+        else if (gelijke != eersteRij.end()) // whose number is in the index as well
+            besluiten[i] = {.lot = Regellot::Ververst, .rij = gelijke->second};
+        if (gestopt())
+            return tl::unexpected(Samenvoegfout::Gestopt);
+    }
+    for (std::size_t i = 0; i < aantal; ++i) {
+        if (besluiten[i].lot != Regellot::Nieuw)
+            continue;
+        if (index.Bevat(i))
+            besluiten[i].lot = Regellot::Overgeslagen;
+        else
+            index.Voeg(nummers[i]);
+        if (gestopt())
+            return tl::unexpected(Samenvoegfout::Gestopt);
+    }
+    return besluiten;
+}
+
+Samenvoeguitkomst VoerSamenvoegingUit(Register& spelers, const Samenvoegopdracht& opdracht,
+                                      const Besluiten& besluiten)
+{
+    const auto nieuw = std::ranges::count(besluiten, Regellot::Nieuw, &Regelbesluit::lot);
+    if (!ZijnErSleutels(spelers, static_cast<std::size_t>(nieuw)))
         return tl::unexpected(Samenvoegfout::GeenSleutels);
-    samenvoeger.Voer();
-    return std::move(samenvoeger.uitkomst);
+    const Tekst NBBgr = Hoofdletters(opdracht.subgroep);
+    Samenvoeging uit;
+    for (std::size_t i = 0; i < besluiten.size(); ++i) {
+        const Regelbesluit& besluit = besluiten[i];
+        const Tekst& regel = opdracht.lstN1[i];
+        Rijblikken cellen = Importcellen(regel, besluit.lot, NBBgr);
+        if (besluit.lot == Regellot::ZonderNBBnr) {
+            uit.ZonderNBBnr.append(regel).append("\r\n");
+        } else if (besluit.lot == Regellot::Overgeslagen) {
+            uit.overgeslagen.push_back(regel);
+        } else if (besluit.lot == Regellot::Ververst) {
+            Ververs(spelers.tabel, besluit, cellen);
+            ++uit.AantalVerververst;
+        } else if (besluit.lot == Regellot::Nieuw) {
+            VoegToe(spelers, opdracht.importgroep, besluit.kolommen, cellen);
+            ++uit.AantalNieuw;
+        }
+    }
+    return uit;
+}
+
+Samenvoeguitkomst VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht,
+                                 const Voortgang& voortgang)
+{
+    return BesluitSamenvoeging(spelers.tabel, opdracht, voortgang)
+        .and_then([&](const Besluiten& besluiten) {
+            return VoerSamenvoegingUit(spelers, opdracht, besluiten);
+        });
 }
 
 NBBnrIndex::NBBnrIndex(const std::vector<Tekstblik>& vragen)

@@ -4,6 +4,7 @@
 // with a new key. Players of other groups are never looked at.
 #pragma once
 
+#include <bitset>
 #include <set>
 #include <unordered_map>
 #include <vector>
@@ -37,10 +38,52 @@ enum class Samenvoegfout {
     Gestopt,      ///< the user stopped it
 };
 
-/// On an error the register is as it was.
-[[nodiscard]] tl::expected<Samenvoeging, Samenvoegfout>
-VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht,
-               const Voortgang& voortgang = {});
+using Samenvoeguitkomst = tl::expected<Samenvoeging, Samenvoegfout>;
+
+/// A set of columns, by `Index`.
+using Kolommen = std::bitset<AantalKolommen>;
+
+enum class Regellot {
+    ZonderNBBnr,
+    Ververst,
+    Nieuw,
+    Overgeslagen, ///< as in `Samenvoeging::overgeslagen`
+    Uitgezet,     ///< by the user: nothing is done with it, and it does not count
+};
+
+/// What is to happen to an import line.
+struct Regelbesluit {
+    Regellot lot = Regellot::Nieuw;
+    int rij = 0; ///< that is refreshed
+    /// Of those that the line fills. The others stay as they are; of a new player they are empty.
+    Kolommen kolommen = Kolommen().set();
+};
+using Besluiten = std::vector<Regelbesluit>; ///< in the order of `lstN1`
+
+/// Decides on every line as the register is now.
+[[nodiscard]] tl::expected<Besluiten, Samenvoegfout>
+BesluitSamenvoeging(const Spelertabel& tabel, const Samenvoegopdracht& opdracht,
+                    const Voortgang& voortgang = {});
+
+/// Does what was decided. On an error the register is as it was.
+[[nodiscard]] Samenvoeguitkomst VoerSamenvoegingUit(Register& spelers,
+                                                    const Samenvoegopdracht& opdracht,
+                                                    const Besluiten& besluiten);
+
+/// Both. On an error the register is as it was.
+[[nodiscard]] Samenvoeguitkomst VoegLedenSamen(Register& spelers, const Samenvoegopdracht& opdracht,
+                                               const Voortgang& voortgang = {});
+
+/// The columns that an import line fills of a player that is there, rising. Of a new one also the
+/// group, and the number.
+inline constexpr std::array Importkolommen{
+    Kolom::Voornaam, Kolom::Tusv,   Kolom::Achternaam, Kolom::Telef, Kolom::Email, Kolom::Adres,
+    Kolom::Postc,    Kolom::Plaats, Kolom::Land,       Kolom::MV,    Kolom::NBBgr};
+
+/// What a line puts in those, and its number without outer spaces: the fields of a new player are
+/// trimmed too, those of a refreshed one stand as they are, so that one which was not asked for
+/// empties the cell.
+[[nodiscard]] Rijblikken Importcellen(Tekstblik regel, Regellot lot, Tekstblik NBBgr);
 
 /// Which federation numbers occur in the import group, asked as a search in one text: for every
 /// player "-" and the number in at least 8 digits ("-00012345-00067890"). A number is found

@@ -104,16 +104,21 @@ void Spelertabel::VerwijderRijen(std::span<const int> rijen)
     rijen_.resize(over);
 }
 
-Tekst VolleNaam(const Spelertabel& tabel, int rij)
+Tekst VolleNaam(Tekstblik voornaam, Tekstblik tusv, Tekstblik achternaam)
 {
     Tekst naam;
-    for (const Kolom kolom : {Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam}) {
-        const Tekstblik deel = tabel.Cel(rij, kolom);
+    for (const Tekstblik deel : {voornaam, tusv, achternaam}) {
         if (!naam.empty() && !deel.empty())
             naam += ' ';
         naam += deel;
     }
     return naam;
+}
+
+Tekst VolleNaam(const Spelertabel& tabel, int rij)
+{
+    return VolleNaam(tabel.Cel(rij, Kolom::Voornaam), tabel.Cel(rij, Kolom::Tusv),
+                     tabel.Cel(rij, Kolom::Achternaam));
 }
 
 Tekst OpgemaaktNBBnr(Tekstblik nummer)

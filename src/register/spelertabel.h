@@ -166,6 +166,7 @@ class Spelertabel {
 };
 
 /// First name, particle and last name, as far as they are there.
+[[nodiscard]] Tekst VolleNaam(Tekstblik voornaam, Tekstblik tusv, Tekstblik achternaam);
 [[nodiscard]] Tekst VolleNaam(const Spelertabel& tabel, int rij);
 
 /// A federation number as such numbers are compared: digits with leading zeros to at least 8, any

@@ -20,6 +20,7 @@
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
+#include "federation/frmVoorbeeld.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmGeschiedenis.h"
 #include "mainwindow/frmLedenAdmin.h"
@@ -141,6 +142,39 @@ void NeemControle(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, Administrat
     bezoek(venster);
 }
 
+/// A member file in which somebody is new, somebody else moved and bears another name, one has no
+/// number and one came twice.
+void NeemVoorbeeld(const Bezoek& bezoek, QWidget& hoofdvenster, const Administratie& administratie)
+{
+    const Spelertabel& tabel = administratie.spelers.tabel;
+    std::vector<Tekst> regels{"Eva,van,Nieuwland,Lindelaan 3,0411 AB,Wielerdam,06-00000771,"
+                              "eva@thuispost.example,Nederland,V,771",
+                              "Gonnie,,Gastvrouw,Brink 2,,Wielerdam,,,,V,",
+                              "Eva,van,Nieuwland,,,,,,,V,771"};
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::NBBgr) != "MAANDAG" || regels.size() == 9)
+            continue;
+        Tekst regel = regels.size() == 4 ? "Roos" : Tekst(tabel.Cel(rij, Kolom::Voornaam));
+        for (const Kolom kolom :
+             {Kolom::Tusv, Kolom::Achternaam, Kolom::Adres, Kolom::Postc, Kolom::Plaats,
+              Kolom::Telef, Kolom::Email, Kolom::Land, Kolom::MV, Kolom::NBBnr})
+            regel.append(",").append(regels.size() == 4 && kolom == Kolom::Achternaam ? "Zeldenrust"
+                                     : regels.size() == 5 && kolom == Kolom::Adres
+                                         ? "Nieuwe Singel 8"
+                                         : tabel.Cel(rij, kolom));
+        regels.push_back(regel);
+    }
+    const Ledenlezing lezing;
+    auto voorbeeld =
+        Voorbeeld::Maak(tabel, {administratie.mappen.DFIMPG, "Maandag", std::move(regels)}, lezing);
+    frmVoorbeeld venster(voorbeeld.value(), u"Maandag 20260901.csv"_s, &hoofdvenster);
+    if (auto* lijst = venster.findChild<QTreeView*>(u"lstVoorbeeld"_s)) {
+        for (const int regel : {0, 4})
+            lijst->expand(lijst->model()->index(regel, 0));
+    }
+    bezoek(venster);
+}
+
 /// With the floating players of the competition, and the first of them chosen.
 void NeemKoppelvenster(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster,
                        Administratie& administratie)
@@ -259,6 +293,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Importgeheugen importgeheugen{.mappen = {}, .bron = Ledenbron::XmlNbb4};
     Neem(bezoek, frmImportNBB(administratie, importgeheugen, &hoofdvenster));
     administratie.rekenprogramma = zonder;
+    NeemVoorbeeld(bezoek, hoofdvenster, administratie);
     Neem(bezoek, diaVerplaats(administratie, &hoofdvenster));
     Neem(bezoek, diaKopieer(administratie, &hoofdvenster));
     Neem(bezoek, frmVerwSubgroep(administratie, &hoofdvenster));

@@ -137,6 +137,7 @@ TEST_F(frmImportNBBTest, TabGaatVanBovenNaarBenedenEnLinksVoor)
         EXPECT_EQ("Option1 Option2 Option3 Option4 chkNAW chkTel chkEmail chkMV chkVoornaam chkTus "
                   "chkAchternaam chkNBBnr cmdKiesExportMap lstNBBbest cmdControleNBBnrs "
                   "cmdHelpImport28 cmdHelpImport31 cmbHelpCSV cmdHelpImport4 cmdHint cmdAnnuleren "
+                  "cmdBekijk "
                   "cmdImporteer",
                   volgorde.join(u' ').toStdString());
     });

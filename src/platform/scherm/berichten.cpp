@@ -17,20 +17,6 @@
 namespace plexoran {
 namespace {
 
-/// The box waits for the user, not the other way round: whatever work goes on behind it, the busy
-/// cursor is put off until there is an answer.
-int LaatAntwoorden(QDialog& venster)
-{
-    const QCursor* bezig = QGuiApplication::overrideCursor();
-    if (bezig == nullptr)
-        return venster.exec();
-    const QCursor straks = *bezig;
-    QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
-    const int antwoord = venster.exec();
-    QGuiApplication::changeOverrideCursor(straks);
-    return antwoord;
-}
-
 /// A message box with Dutch buttons that can be kept as it is laid out.
 class Berichtvenster : public QMessageBox {
   public:
@@ -152,6 +138,18 @@ void ToonLang(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, con
 }
 
 } // namespace
+
+int LaatAntwoorden(QDialog& venster)
+{
+    const QCursor* bezig = QGuiApplication::overrideCursor();
+    if (bezig == nullptr)
+        return venster.exec();
+    const QCursor straks = *bezig;
+    QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
+    const int antwoord = venster.exec();
+    QGuiApplication::changeOverrideCursor(straks);
+    return antwoord;
+}
 
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst, const QString& titel)
 {

@@ -11,6 +11,10 @@ namespace plexoran {
 
 inline const QString Programmatitel = u"Plexoran"_s;
 
+/// Shows a window, which waits for the user, not the other way round: whatever work goes on behind
+/// it, the busy cursor is put off until there is an answer.
+int LaatAntwoorden(QDialog& venster);
+
 /// Shows a text with an OK button.
 void Meld(QWidget* ouder, QMessageBox::Icon icoon, const QString& tekst,
           const QString& titel = Programmatitel);

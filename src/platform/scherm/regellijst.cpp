@@ -76,14 +76,6 @@ class Regeltekenaar : public QStyledItemDelegate {
     int breed_ = 1;
 };
 
-/// What texts are compared by: equal for letters that differ in case or accent only.
-Tekst Gewichten(Tekstblik tekst)
-{
-    Tekst sleutel = Sorteersleutel(tekst);
-    sleutel.resize(sleutel.find('\0'));
-    return sleutel;
-}
-
 } // namespace
 
 Regellijst::Regellijst(SelectionMode hoeveel, const QString& naam, const QString& gesproken,

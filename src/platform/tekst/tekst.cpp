@@ -209,4 +209,11 @@ Tekst Sorteersleutel(Tekstblik tekst)
     return (sleutel += Einde) += tekst;
 }
 
+Tekst Gewichten(Tekstblik tekst)
+{
+    Tekst sleutel = Sorteersleutel(tekst);
+    sleutel.resize(sleutel.find('\0'));
+    return sleutel;
+}
+
 } // namespace plexoran

@@ -65,8 +65,9 @@ void VoegVeldToe(Tekst& uit, Tekstblik tekst);
 
 void Sorteer(std::vector<Tekst>& teksten);
 
-/// A key that compares byte by byte as its text compares in the text order. Up to its first null
-/// byte it is equal for texts that differ in case or accent only.
+/// A key that compares byte by byte as its text compares in the text order.
 [[nodiscard]] Tekst Sorteersleutel(Tekstblik tekst);
+/// The part of it that is equal for texts that differ in case or accent only.
+[[nodiscard]] Tekst Gewichten(Tekstblik tekst);
 
 } // namespace plexoran
