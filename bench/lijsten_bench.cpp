@@ -1,5 +1,6 @@
 // The lists and the changes of many players at once, each beside SQLite doing the same and beside
 // one load of the same register, measured in the same run.
+#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -8,6 +9,7 @@
 #include "hulp/register.h"
 #include "hulp/sqlite.h"
 #include "mainwindow/lijsten.h"
+#include "mainwindow/weergave.h"
 #include "platform/schijf/echteSchijf.h"
 #include "printing/printtabel.h"
 #include "register/spelerbestand.h"
@@ -158,6 +160,50 @@ void SorterenNBBgroepSql(benchmark::State& meting)
         static_cast<std::size_t>(Grootte(meting)));
 }
 BENCHMARK(SorterenNBBgroepSql)->Apply(Groottes);
+
+// ---------------------------------------------------------------- the grid by a column
+
+std::vector<int> AlleRijen(const Spelertabel& tabel)
+{
+    std::vector<int> rijen(static_cast<std::size_t>(tabel.Rijen()));
+    std::iota(rijen.begin(), rijen.end(), 1);
+    return rijen;
+}
+
+void KolomSorteren(benchmark::State& meting)
+{
+    const Spelertabel& tabel = ProefVan(meting, Verdeling::EenGroep).gelezen.tabel;
+    Meet(
+        meting, [&] { return AlleRijen(tabel); },
+        [&](Weergave& rijen) {
+            rijen = Gesorteerd(tabel, std::move(rijen), Kolom::Achternaam);
+            Eis(meting, rijen.size() == static_cast<std::size_t>(Grootte(meting)));
+        });
+}
+BENCHMARK(KolomSorteren)->Apply(Groottes);
+
+void KolomSorterenSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::EenGroep,
+        "SELECT rowid FROM spelers WHERE Groep = 'Gr01-' ORDER BY Achternaam COLLATE NOCASE, rowid",
+        static_cast<std::size_t>(Grootte(meting)));
+}
+BENCHMARK(KolomSorterenSql)->Apply(Groottes);
+
+/// In half the room that all of it would take.
+void RuimteVerdelen(benchmark::State& meting)
+{
+    const Spelertabel& tabel = ProefVan(meting, Verdeling::EenGroep).gelezen.tabel;
+    constexpr double ruimte = 250;
+    Tekstmeter meter;
+    meter.opschuiving.fill(1'700);
+    const auto rijen = AlleRijen(tabel);
+    Meet(meting, [&] {
+        const Kolomkeuzes keuzes = VerdeelRuimte(ruimte, tabel, rijen, Kolomnamen, {}, meter);
+        Eis(meting, keuzes[Index(Kolom::Email)].breedte > rooster::SmalsteKeuze);
+    });
+}
+BENCHMARK(RuimteVerdelen)->Apply(Groottes);
 
 // ---------------------------------------------------------------- many players at once
 
