@@ -4,6 +4,7 @@
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/kopieren.h"
 
 namespace plexoran {
 
@@ -46,6 +47,12 @@ void frmVoorbeeld::Bouw()
                                        {Voorbeeldmodel::NBBnr, 1500},
                                        {Voorbeeldmodel::Wie, 3600}})
         lstVoorbeeld->setColumnWidth(kolom, maten.Twips(twips));
+    LaatKopieren(lstVoorbeeld, [this] {
+        QStringList cellen;
+        for (int kolom = 0; kolom < Voorbeeldmodel::AantalKoppen; ++kolom)
+            cellen << lstVoorbeeld->currentIndex().siblingAtColumn(kolom).data().toString();
+        return cellen.join(u'\t');
+    });
     // What does not fit on the line.
     auto* lblRegel = MaakUitleg(u"lblRegel"_s, QString(), this);
     lblRegel->setAlignment(Qt::AlignTop);

@@ -1,6 +1,8 @@
 // Looking at an import first, from the import window.
 #include "federation/frmVoorbeeld.h"
 
+#include <QAction>
+#include <QClipboard>
 #include <QHeaderView>
 
 #include "federation/importproef.h"
@@ -139,6 +141,9 @@ TEST_F(frmVoorbeeldTest, ToontWatErMetElkeRegelGebeurt)
         KlikRegel(dia, "lstVoorbeeld", 4);
         EXPECT_EQ("niet verwerkt: het NBB-nummer ontbreekt",
                   Vind<QLabel>(dia, "lblRegel")->text().toStdString());
+        Vind<QAction>(dia, "actRegelKopieren")->trigger();
+        EXPECT_EQ("Geweigerd\t\tGast Heer\tniet verwerkt: het NBB-nummer ontbreekt",
+                  QGuiApplication::clipboard()->text().toStdString());
         QTest::keyClick(&dia, Qt::Key_Escape);
     });
     Importeer();
