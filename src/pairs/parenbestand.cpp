@@ -63,19 +63,6 @@ Tekst Paarteken(Tekstblik key1, Tekstblik key2)
 
 } // namespace
 
-Tekst GeweigerdeTekens(Tekstblik keuze)
-{
-    constexpr Tekstblik verboden = "\\/:*?\"<>|";
-    Tekst tekens;
-    for (const char teken : keuze) {
-        const bool stuurteken = static_cast<unsigned char>(teken) < 0x20;
-        if ((stuurteken || verboden.find(teken) != Tekstblik::npos) &&
-            tekens.find(teken) == Tekst::npos)
-            tekens += teken;
-    }
-    return tekens;
-}
-
 std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze)
 {
     if (!GeweigerdeTekens(keuze).empty())

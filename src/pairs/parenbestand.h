@@ -17,8 +17,6 @@ using Paartekens = std::vector<Tekst>;
 /// The pair file of a group-subgroup; nothing when its name holds a character that a file system
 /// refuses, so that no such file can exist.
 [[nodiscard]] std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze);
-/// The characters of a group-subgroup that cannot stand in the name of a file, each once.
-[[nodiscard]] Tekst GeweigerdeTekens(Tekstblik keuze);
 
 /// The tokens of a pair file, in their order.
 [[nodiscard]] Paartekens PaartekensUit(Tekstblik inhoud);

@@ -84,6 +84,10 @@ class FalendeSchijf : public Schijf {
     {
         return Schrijvend(pad).and_then([&] { return binnen_.Verwijder(pad); });
     }
+    [[nodiscard]] Uitkomst<void> VerwijderMap(const Pad& map) override
+    {
+        return Schrijvend(map).and_then([&] { return binnen_.VerwijderMap(map); });
+    }
     [[nodiscard]] Uitkomst<void> SyncMapVan(const Pad& pad) override
     {
         return Schrijvend(pad).and_then([&] { return binnen_.SyncMapVan(pad); });

@@ -324,6 +324,22 @@ Uitkomst<void> GeheugenSchijf::Verwijder(const Pad& pad)
     return {};
 }
 
+Uitkomst<void> GeheugenSchijf::VerwijderMap(const Pad& map)
+{
+    const Tekst sleutel = Sleutel(map);
+    if (!mappen_.contains(sleutel))
+        return Mislukt(map, namen_.contains(sleutel) ? std::errc::file_exists
+                                                     : std::errc::no_such_file_or_directory);
+    const auto inMap = [&](const auto& wat) { return MapVan(wat.first) == sleutel; };
+    if (std::ranges::any_of(namen_, inMap) || std::ranges::any_of(mappen_, inMap))
+        return Mislukt(map, std::errc::directory_not_empty);
+    if (auto mag = MagInMapVan(sleutel, map); !mag)
+        return mag;
+    mappen_.erase(sleutel);
+    MeldStap();
+    return {};
+}
+
 Uitkomst<void> GeheugenSchijf::SyncMapVan(const Pad& pad)
 {
     const Tekst map = MapVan(Sleutel(pad));

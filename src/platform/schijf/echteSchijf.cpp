@@ -255,6 +255,17 @@ Uitkomst<void> EchteSchijf::Verwijder(const Pad& pad)
     return Uitslag(waar, fout);
 }
 
+Uitkomst<void> EchteSchijf::VerwijderMap(const Pad& map)
+{
+    const fs::path waar = Systeempad(map);
+    std::error_code fout;
+    if (!fs::is_directory(fs::symlink_status(waar, fout)) && !fout)
+        fout = std::make_error_code(std::errc::not_a_directory);
+    else if (!fout)
+        fs::remove(waar, fout);
+    return Uitslag(waar, fout);
+}
+
 Uitkomst<void> EchteSchijf::SyncMapVan(const Pad& pad)
 {
     fs::path map = Systeempad(pad).parent_path();

@@ -30,6 +30,7 @@ class EchteSchijf : public Schijf {
     [[nodiscard]] Uitkomst<void> NeemRechtenOver(const Pad& van, const Pad& naar) override;
     [[nodiscard]] Uitkomst<void> Hernoem(const Pad& van, const Pad& naar) override;
     [[nodiscard]] Uitkomst<void> Verwijder(const Pad& pad) override;
+    [[nodiscard]] Uitkomst<void> VerwijderMap(const Pad& map) override;
     [[nodiscard]] Uitkomst<void> SyncMapVan(const Pad& pad) override;
 
     [[nodiscard]] std::string Toonpad(const Pad& pad) const override;

@@ -195,6 +195,19 @@ bool IsKaleNaam(Tekstblik naam)
            naam != "..";
 }
 
+Tekst GeweigerdeTekens(Tekstblik naam)
+{
+    constexpr Tekstblik verboden = "\\/:*?\"<>|";
+    Tekst tekens;
+    for (const char teken : naam) {
+        const bool stuurteken = static_cast<unsigned char>(teken) < 0x20;
+        if ((stuurteken || verboden.find(teken) != Tekstblik::npos) &&
+            tekens.find(teken) == Tekst::npos)
+            tekens += teken;
+    }
+    return tekens;
+}
+
 Fout GeenNaam(Tekstblik naam, std::string bestand)
 {
     return {.soort = Foutsoort::Beschadigd,

@@ -32,6 +32,9 @@ using Pad = Tekst;
 /// What is wrong with a name that is not so, as `Beschadigd`; `bestand` is where it was read.
 [[nodiscard]] Fout GeenNaam(Tekstblik naam, std::string bestand = {});
 
+/// The characters in it that no file system of the suite takes in a name, each once.
+[[nodiscard]] Tekst GeweigerdeTekens(Tekstblik naam);
+
 /// A text as it may stand in the name of a file everywhere: letters without accents, digits and
 /// "-";
 /// "_" for the rest.
@@ -115,6 +118,8 @@ class Schijf {
     /// Renames a file; a file that bears the new name is replaced in the same step.
     [[nodiscard]] virtual Uitkomst<void> Hernoem(const Pad& van, const Pad& naar) = 0;
     [[nodiscard]] virtual Uitkomst<void> Verwijder(const Pad& pad) = 0;
+    /// Removes a folder that is empty.
+    [[nodiscard]] virtual Uitkomst<void> VerwijderMap(const Pad& map) = 0;
     /// Returns when the names in the folder of `pad` are on the device.
     [[nodiscard]] virtual Uitkomst<void> SyncMapVan(const Pad& pad) = 0;
 

@@ -243,6 +243,25 @@ TEST_P(SchijfTest, VerwijderEnSync)
     EXPECT_TRUE(schijf_.SyncMapVan(In("a.txt")));
 }
 
+TEST_P(SchijfTest, EenMapGaatAlleenWegAlsZeLeegIs)
+{
+    const Pad map = In("map");
+    ASSERT_TRUE(schijf_.MaakMap(map));
+    Schrijf(Samen(map, "a.txt"), "x");
+    EXPECT_EQ(SoortVan(schijf_.VerwijderMap(map)), Foutsoort::Geweigerd);
+    EXPECT_EQ(schijf_.LeesBestand(Samen(map, "a.txt")), "x");
+    EXPECT_EQ(SoortVan(schijf_.VerwijderMap(Samen(map, "weg"))), Foutsoort::Ontbreekt);
+    ASSERT_TRUE(schijf_.Verwijder(Samen(map, "a.txt")));
+    ASSERT_TRUE(schijf_.MaakMap(Samen(map, "onder")));
+    EXPECT_EQ(SoortVan(schijf_.VerwijderMap(map)), Foutsoort::Geweigerd);
+    EXPECT_TRUE(schijf_.VerwijderMap(Samen(map, "onder")));
+    EXPECT_TRUE(schijf_.VerwijderMap(map));
+    EXPECT_EQ(schijf_.Soort(map), Padsoort::Niets);
+    Schrijf(In("b.txt"), "x");
+    EXPECT_FALSE(schijf_.VerwijderMap(In("b.txt")));
+    EXPECT_EQ(schijf_.LeesBestand(In("b.txt")), "x");
+}
+
 TEST_P(SchijfTest, DoelVanEenGewoonBestandIsHetZelf)
 {
     Schrijf(In("a.txt"), "x");
