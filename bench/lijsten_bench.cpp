@@ -12,6 +12,7 @@
 #include "mainwindow/weergave.h"
 #include "platform/schijf/echteSchijf.h"
 #include "printing/printtabel.h"
+#include "register/overzicht.h"
 #include "register/spelerbestand.h"
 
 namespace plexoran {
@@ -204,6 +205,33 @@ void RuimteVerdelen(benchmark::State& meting)
     });
 }
 BENCHMARK(RuimteVerdelen)->Apply(Groottes);
+
+// ---------------------------------------------------------------- the club at a glance
+
+void Overzicht(benchmark::State& meting)
+{
+    const Spelertabel& tabel = ProefVan(meting, Verdeling::AlleGroepen).gelezen.tabel;
+    const auto spelers = static_cast<std::size_t>(Grootte(meting));
+    Meet(
+        meting, [] { return std::vector<Overzichtregel>(); },
+        [&](auto& regels) {
+            regels = MaakOverzicht(tabel, Groepen());
+            Eis(meting, regels.front().rijen.size() == spelers && regels.size() > AantalGroepen);
+        });
+}
+BENCHMARK(Overzicht)->Apply(Groottes);
+
+/// The numbers alone, without who they are.
+void OverzichtSql(benchmark::State& meting)
+{
+    Sql(meting, Verdeling::AlleGroepen,
+        "SELECT Groep, trim(NBBgr), count(*) FROM spelers GROUP BY 1, 2;"
+        "SELECT MV, count(*) FROM spelers GROUP BY 1;"
+        "SELECT count(*), sum(trim(Email) <> ''), sum(trim(Telef) <> ''), sum(trim(NBBnr) <> '') "
+        "FROM spelers",
+        AantalGroepen);
+}
+BENCHMARK(OverzichtSql)->Apply(Groottes);
 
 // ---------------------------------------------------------------- many players at once
 

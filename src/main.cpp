@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "opdrachtregel.h"
 #include "platform/bronnen/access.h"
@@ -29,9 +30,13 @@ int main(int argc, char** argv)
     Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
     administratie.tweedeplaatsIni = Gebruikersbestand("reservekopie.ini");
     administratie.vensterIni = Gebruikersbestand("venster.ini");
+    Pad mappenIni = VolledigPad(opdrachten->mappenIni);
+    if (opdrachten->mappenIni.empty()) {
+        administratie.eersteStart = HuidigeOmgeving();
+        mappenIni =
+            StartMappenIni(schijf, administratie.programmamap, administratie.eersteStart->ini);
+    }
     frmLedenAdmin venster(administratie);
-    const Pad mappenIni = opdrachten->mappenIni.empty() ? MappenIniPad(Programmamap())
-                                                        : VolledigPad(opdrachten->mappenIni);
     if (const auto eindstatus = venster.Laad(mappenIni, [&slot] { return slot.Neem(); })) {
         slot.Roep();
         return *eindstatus;

@@ -26,7 +26,8 @@ Opties:
   --version             toon de versie
 
 Zonder --mappen wordt "Mappen.ini" gezocht in de map van het programma of, als
-ergens in het pad van die map "Admin" voorkomt, in de map erboven.
+ergens in het pad van die map "Admin" voorkomt, in de map erboven. Staat het
+daar niet, dan geldt het bestand dat bij de eerste start is gekozen.
 De mappen van de rekenprogramma's worden gelezen uit:
   %1
 )";

@@ -21,11 +21,6 @@ class Controleur {
     [[nodiscard]] Controleuitslag Voer();
 
   private:
-    struct Sessie {
-        Tekst naam;
-        Zitting zitting;
-    };
-
     // Files
     [[nodiscard]] std::string Toon(const Pad& pad) const { return schijf_.Toonpad(pad); }
     void Onleesbaar(const Fout& fout);
@@ -51,7 +46,6 @@ class Controleur {
     void BekijkPaarspeler(const Pad& pad, const std::optional<Tekst>& keuze, const Tekst& paar,
                           Tekstblik key);
     void LeesSessies();
-    [[nodiscard]] std::vector<Sessie> ZoekSessies();
     void LeesSessie(const Sessie& sessie);
     [[nodiscard]] std::vector<Tafelnaam> LeesLijstVan(const Pad& pad, Lijstsoort soort);
     void MeldHelft(const Sessie& sessie, const Tafelnaam& wie);

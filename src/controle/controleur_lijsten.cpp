@@ -60,7 +60,10 @@ void Controleur::BekijkPaarspeler(const Pad& pad, const std::optional<Tekst>& ke
 
 void Controleur::LeesSessies()
 {
-    const std::vector<Sessie> sessies = ZoekSessies();
+    std::vector<Fout> onleesbaar;
+    const std::vector<Sessie> sessies = AlleSessies(schijf_, mappen_, onleesbaar);
+    for (const Fout& fout : onleesbaar)
+        Onleesbaar(fout);
     for (std::size_t i = 0; i < sessies.size(); ++i) {
         if (voortgang_ && !voortgang_(i, sessies.size())) {
             uit_.gestopt = true;
@@ -69,30 +72,6 @@ void Controleur::LeesSessies()
         ++uit_.telling.zittingen;
         LeesSessie(sessies[i]);
     }
-}
-
-std::vector<Controleur::Sessie> Controleur::ZoekSessies()
-{
-    std::vector<Sessie> sessies;
-    std::vector<Fout> geweigerd;
-    const auto namen = [&](const auto& mappen) {
-        if (!mappen)
-            Onleesbaar(mappen.error());
-        return mappen.value_or(std::vector<Sessiemap>());
-    };
-    for (const Sessiemap& map : namen(LeesZittingen(schijf_, mappen_, &geweigerd)))
-        sessies.push_back({map.naam, LosseZitting(mappen_, map.naam)});
-    for (const Sessiemap& map : namen(LeesCompetities(schijf_, mappen_, &geweigerd))) {
-        const auto zittingen = ZittingenVan(schijf_, mappen_, map.naam);
-        if (!zittingen)
-            Onleesbaar(zittingen.error());
-        else
-            for (const Zitting& zitting : *zittingen)
-                sessies.push_back({map.naam, zitting});
-    }
-    for (const Fout& fout : geweigerd)
-        Onleesbaar(fout);
-    return sessies;
 }
 
 /// Of both files; what stands in either or both is one finding.

@@ -145,6 +145,8 @@ class frmLedenAdmin : public QMainWindow {
     void KoppelZwevenden();
     void OnderhoudParen();
     void Controleer();
+    void ToonOverzicht();
+    void KiesAdministratie();
     void ZetTerug();
     void ToonToelichting();
     void Print();

@@ -9,8 +9,10 @@
 #include "dialogs/diaVerplaats.h"
 #include "dialogs/frmVerwSubgroep.h"
 #include "help/frmToelichting.h"
+#include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/frmLedenAdmin_opstart.h"
+#include "mainwindow/frmOverzicht.h"
 #include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
@@ -309,6 +311,33 @@ void frmLedenAdmin::Controleer()
     venster.exec();
     if (venster.IetsGewijzigd() && MagWijzigen())
         SlaOpEnToon();
+}
+
+void frmLedenAdmin::ToonOverzicht()
+{
+    frmOverzicht venster(administratie_, this);
+    if (venster.exec() != QDialog::Accepted)
+        return;
+    Tekst verslag;
+    for (const int rij : venster.Gekozen().rijen) {
+        VoegVeldenToe(verslag, administratie_.spelers.tabel, rij, '\t');
+        verslag += '\n';
+    }
+    MeldVerslag(this, NaarQString(verslag), venster.Opschrift());
+}
+
+void frmLedenAdmin::KiesAdministratie()
+{
+    QString tekst =
+        u"Plexoran begint voortaan met de administratie die u koos. Sluit het af en start het "
+        "opnieuw om ermee te werken."_s;
+    if (!MagKiezen(administratie_))
+        tekst = u"U kunt hier geen andere administratie kiezen: er staat een 'Mappen.ini' bij het "
+                "programma, of Plexoran is gestart met --mappen."_s;
+    else if (frmEersteStart keus(administratie_.schijf, *administratie_.eersteStart, this);
+             keus.exec() != QDialog::Accepted)
+        return;
+    Meld(this, QMessageBox::Information, tekst);
 }
 
 void frmLedenAdmin::ZetTerug()

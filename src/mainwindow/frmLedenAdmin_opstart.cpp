@@ -5,6 +5,7 @@
 #include "dialogs/toevoegen.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/zoekrekenprogramma.h"
+#include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmLedenAdmin_opslag.h"
 #include "pairs/parenbestand.h"
 #include "platform/scherm/berichten.h"
@@ -69,6 +70,14 @@ void BiedTerugzettenAan(Administratie& administratie, QWidget* venster, const Aa
                 kopie + u'\n' + Bijzonderheden(terug.error()),
             {u"Doorgaan"_s, u"Opnieuw proberen"_s}, 1);
     }
+}
+
+bool BiedEersteStartAan(Administratie& administratie, QWidget* venster)
+{
+    if (!MagKiezen(administratie))
+        return false;
+    frmEersteStart keus(administratie.schijf, *administratie.eersteStart, venster);
+    return keus.exec() == QDialog::Accepted && LeesMappen(administratie, venster, keus.MappenIni());
 }
 
 void MaakLedenmap(Administratie& administratie, QWidget* venster)
@@ -235,6 +244,12 @@ void KiesRekenprogramma(Administratie& administratie, QWidget* venster)
         administratie.rekenprogramma.ProgrammaCode = vorige;
 }
 
+bool MagKiezen(const Administratie& administratie)
+{
+    return administratie.eersteStart &&
+           administratie.schijf.Soort(MappenIniPad(administratie.programmamap)) == Padsoort::Niets;
+}
+
 bool LeesMappen(Administratie& administratie, QWidget* venster, const Pad& mappenIni)
 {
     auto mappen = LeesMappenIni(administratie.schijf, mappenIni);
@@ -250,7 +265,7 @@ bool LeesMappen(Administratie& administratie, QWidget* venster, const Pad& mappe
                   "niet waar ze staan. Zet het goede bestand op deze plaats, of start Plexoran "
                   "met --mappen en de naam van het bestand."_s,
             mappen.error());
-        return false;
+        return BiedEersteStartAan(administratie, venster);
     }
     administratie.mappen = std::move(*mappen);
     if (const std::string& bezwaar = administratie.mappen.bezwaar; !bezwaar.empty())

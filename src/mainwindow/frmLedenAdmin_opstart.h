@@ -7,6 +7,10 @@ class QWidget;
 
 namespace plexoran {
 
+/// Whether the user's own choice of an administration counts: neither the command line names one
+/// nor a file beside the program, which is to be mended when it cannot be read.
+[[nodiscard]] bool MagKiezen(const Administratie& administratie);
+
 /// Both scoring programs there: the user is asked which, at the start and whenever the import
 /// window opens. Without an answer the captions stay those of the one before, whose database is
 /// still the one read.

@@ -3,6 +3,7 @@
 
 #include "platform/bronnen/instellingenwinkel.h"
 #include "platform/schijf/programma.h"
+#include "register/eerstestart.h"
 #include "register/geschiedenis.h"
 #include "register/groepen.h"
 #include "register/instellingen.h"
@@ -29,6 +30,8 @@ struct Administratie {
     Pad programmamap = Programmamap(); ///< where the running program stands
     Pad tweedeplaatsIni{};             ///< of this user; empty: no second place can be chosen
     Pad vensterIni{};                  ///< how this user wants his window; empty: not kept
+    /// None: the start without a "Mappen.ini" ends.
+    std::optional<Startomgeving> eersteStart{};
     Mappen mappen{};
     Instellingen instellingen{};
     Groepen groepen{};

@@ -17,7 +17,7 @@ const Pad Clubnaampad = "Puntenboek\\Rev_Clubnaam.txt";
 
 Pad MapVan(const Pad& pad)
 {
-    const auto streep = pad.rfind('\\');
+    const auto streep = pad.find_last_of("\\/");
     return pad.substr(0, streep == Pad::npos ? 0 : streep);
 }
 

@@ -19,6 +19,13 @@ struct Zoekplaats {
     int diep = 0; ///< how many folders deep
 };
 
+/// What the first start knows of this user and this computer.
+struct Startomgeving {
+    Pad ini;        ///< remembers the choice
+    Pad documenten; ///< in which administrations come
+    std::vector<Zoekplaats> zoekplaatsen;
+};
+
 /// Every "Mappen.ini" that names a players folder that is there. The places one after another, what
 /// is near first; hidden folders are passed over. Goes on while `verder`, asked before each folder.
 [[nodiscard]] std::vector<Pad> ZoekSuites(Schijf& schijf, const std::vector<Zoekplaats>& plaatsen,

@@ -85,6 +85,28 @@ Zitting Competitiezitting(const Mappen& mappen, Tekstblik competitie, int ronde,
             .zitting = zitting};
 }
 
+std::vector<Sessie> AlleSessies(Schijf& schijf, const Mappen& mappen, std::vector<Fout>& onleesbaar)
+{
+    std::vector<Sessie> sessies;
+    std::vector<Fout> geweigerd;
+    const auto namen = [&](const auto& lijst) {
+        if (!lijst)
+            onleesbaar.push_back(lijst.error());
+        return lijst.value_or(std::vector<Sessiemap>());
+    };
+    for (const Sessiemap& map : namen(LeesZittingen(schijf, mappen, &geweigerd)))
+        sessies.push_back({map.naam, LosseZitting(mappen, map.naam)});
+    for (const Sessiemap& map : namen(LeesCompetities(schijf, mappen, &geweigerd))) {
+        const auto zittingen = ZittingenVan(schijf, mappen, map.naam);
+        if (!zittingen)
+            onleesbaar.push_back(zittingen.error());
+        for (const Zitting& zitting : zittingen.value_or(std::vector<Zitting>()))
+            sessies.push_back({map.naam, zitting});
+    }
+    onleesbaar.insert(onleesbaar.end(), geweigerd.begin(), geweigerd.end());
+    return sessies;
+}
+
 Uitkomst<std::vector<Zitting>> ZittingVan(Schijf& schijf, const Mappen& mappen, Tekstblik zitting)
 {
     std::vector<Zitting> uit{LosseZitting(mappen, zitting)};

@@ -36,6 +36,15 @@ struct Zitting {
 [[nodiscard]] Zitting Competitiezitting(const Mappen& mappen, Tekstblik competitie, int ronde,
                                         int zitting);
 
+/// A session with the name of its folder, or that of its competition.
+struct Sessie {
+    Tekst naam;
+    Zitting zitting;
+};
+/// Those of all folders, the loose ones first. What cannot be read goes to `onleesbaar`.
+[[nodiscard]] std::vector<Sessie> AlleSessies(Schijf& schijf, const Mappen& mappen,
+                                              std::vector<Fout>& onleesbaar);
+
 /// The loose session itself, or the sessions of the competition, rounds and sessions in numeric
 /// order. `Ontbreekt` when it is not there any more.
 [[nodiscard]] Uitkomst<std::vector<Zitting>> ZittingVan(Schijf& schijf, const Mappen& mappen,

@@ -22,8 +22,10 @@
 #include "federation/frmImportNBB.h"
 #include "federation/frmVoorbeeld.h"
 #include "help/frmToelichting.h"
+#include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmGeschiedenis.h"
 #include "mainwindow/frmLedenAdmin.h"
+#include "mainwindow/frmOverzicht.h"
 #include "mainwindow/frmToetsen.h"
 #include "mainwindow/lijsten.h"
 #include "pairs/frmParenOnderhoud.h"
@@ -263,6 +265,15 @@ void NeemGeschiedenis(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster,
     bezoek(venster);
 }
 
+/// With the suite itself as the one that was found.
+void NeemEersteStart(const Bezoek& bezoek, QWidget& hoofdvenster, Administratie& administratie)
+{
+    const Startomgeving omgeving{.ini = {},
+                                 .documenten = administratie.mappen.RVDMAP,
+                                 .zoekplaatsen = {{administratie.mappen.RVDMAP, 0}}};
+    Neem(bezoek, frmEersteStart(administratie.schijf, omgeving, &hoofdvenster));
+}
+
 } // namespace
 
 void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
@@ -308,6 +319,8 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     NeemSorteerlijst(bezoek, hoofdvenster, administratie.spelers.tabel);
     NeemVergelijking(bezoek, hoofdvenster, administratie.spelers.tabel);
     Neem(bezoek, frmControle(administratie, &hoofdvenster));
+    Neem(bezoek, frmOverzicht(administratie, &hoofdvenster));
+    NeemEersteStart(bezoek, hoofdvenster, administratie);
     NeemTerugzetten(bezoek, hoofdvenster, administratie);
     NeemGeschiedenis(bezoek, hoofdvenster, administratie);
 }
