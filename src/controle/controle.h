@@ -33,6 +33,7 @@ struct Zittingplek {
     int ronde = 0; ///< this and the next only in a competition
     int zitting = 0;
     Tekst plaatsen{}; ///< "N05, O12"
+    bool operator==(const Zittingplek&) const = default;
 };
 
 /// What was found. It is about a player, a place in a session, or a file.

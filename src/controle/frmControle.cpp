@@ -81,15 +81,8 @@ const Soorttekst& TekstVan(Vondstsoort soort)
 /// A file is named from the root folder of the suite on, `wortel`, when it is below it.
 QString Waar(const Vondst& vondst, const QString& wortel)
 {
-    if (vondst.plek) {
-        const Zittingplek& plek = *vondst.plek;
-        const QString naam = NaarQString(plek.naam);
-        return (plek.inCompetitie
-                    ? u"Competitie %1, ronde %2, zitting %3"_s.arg(
-                          naam, QString::number(plek.ronde), QString::number(plek.zitting))
-                    : u"Zitting "_s + naam) +
-               u": "_s + NaarQString(plek.plaatsen);
-    }
+    if (vondst.plek)
+        return Zittingnaam(*vondst.plek) + u": "_s + NaarQString(vondst.plek->plaatsen);
     if (!vondst.speler.empty())
         return NaarQString(vondst.speler);
     const QString regel = vondst.regel > 0 ? u", regel %1"_s.arg(vondst.regel) : QString();
@@ -110,6 +103,14 @@ QString Kop(Vondstsoort soort, std::size_t aantal)
 }
 
 } // namespace
+
+QString Zittingnaam(const Zittingplek& plek)
+{
+    const QString naam = NaarQString(plek.naam);
+    return plek.inCompetitie ? u"Competitie %1, ronde %2, zitting %3"_s.arg(
+                                   naam, QString::number(plek.ronde), QString::number(plek.zitting))
+                             : u"Zitting "_s + naam;
+}
 
 frmControle::frmControle(Administratie& administratie, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie), oudeHKEY_(administratie.spelers.HKEY)

@@ -13,6 +13,9 @@
 
 namespace plexoran {
 
+/// A session as a line names it, without the positions in it.
+[[nodiscard]] QString Zittingnaam(const Zittingplek& plek);
+
 class frmControle : public QDialog {
     Q_OBJECT
 

@@ -147,6 +147,7 @@ class frmLedenAdmin : public QMainWindow {
     void Controleer();
     void ToonOverzicht();
     void KiesAdministratie();
+    void ZoekDubbelen();
     void ZetTerug();
     void ToonToelichting();
     void Print();

@@ -92,6 +92,7 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"mnuExtra", u"E&xtra"},
         Opdracht{"actControle", u"&Controle van de administratie...", "", "", Geen,
                  &Venster::Controleer},
+        Opdracht{"actDubbelen", u"&Dubbele spelers...", "", "", Wijzigt, &Venster::ZoekDubbelen},
         Opdracht{"actTerugzetten", u"&Reservekopie terugzetten...", "", "", Wijzigt,
                  &Venster::ZetTerug},
         Opdracht{"actOverzicht", u"&Overzicht...", "", "", Geen, &Venster::ToonOverzicht},

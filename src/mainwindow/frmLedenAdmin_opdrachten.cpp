@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "controle/frmControle.h"
+#include "controle/frmDubbelen.h"
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
 #include "dialogs/diaKopieer.h"
@@ -338,6 +339,20 @@ void frmLedenAdmin::KiesAdministratie()
              keus.exec() != QDialog::Accepted)
         return;
     Meld(this, QMessageBox::Information, tekst);
+}
+
+void frmLedenAdmin::ZoekDubbelen()
+{
+    if (!MagWijzigen() || !IsAllesOpgeslagen())
+        return;
+    opslag_.Reserve().VoorWijziging(); // the window saves by itself
+    opslag_.Reserve().Meld();
+    frmDubbelen venster(
+        administratie_, [this] { SlaOpEnToon(); }, this);
+    connect(&venster, &frmDubbelen::begint, this,
+            [this] { opslag_.Reserve().Maak("voor samenvoegen"); });
+    venster.exec();
+    MeldGeschiedenisfout();
 }
 
 void frmLedenAdmin::ZetTerug()

@@ -70,14 +70,17 @@ std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze)
     return Samen(mappen.Parenmap(), keuze) + ".txt";
 }
 
+std::vector<Tekstblik> Paarblikken(Tekstblik inhoud)
+{
+    std::vector<Tekstblik> paren = Stukken(inhoud);
+    std::erase_if(paren, [](Tekstblik stuk) { return stuk.size() != Tekenlengte; });
+    return paren;
+}
+
 Paartekens PaartekensUit(Tekstblik inhoud)
 {
-    Paartekens paren;
-    for (const Tekstblik stuk : Stukken(inhoud)) {
-        if (stuk.size() == Tekenlengte)
-            paren.emplace_back(stuk);
-    }
-    return paren;
+    const auto paren = Paarblikken(inhoud);
+    return {paren.begin(), paren.end()};
 }
 
 bool IsParenbestand(Tekstblik inhoud)

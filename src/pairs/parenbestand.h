@@ -18,7 +18,8 @@ using Paartekens = std::vector<Tekst>;
 /// refuses, so that no such file can exist.
 [[nodiscard]] std::optional<Pad> Parenbestand(const Mappen& mappen, Tekstblik keuze);
 
-/// The tokens of a pair file, in their order.
+/// The tokens of a pair file, in their order; as views into its text.
+[[nodiscard]] std::vector<Tekstblik> Paarblikken(Tekstblik inhoud);
 [[nodiscard]] Paartekens PaartekensUit(Tekstblik inhoud);
 /// Whether the text holds one line of tokens and nothing else, so that writing it anew loses
 /// nothing.

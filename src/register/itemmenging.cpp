@@ -218,6 +218,15 @@ std::optional<Stukken> Uitslagstukken(Tekstblik inhoud)
     return MetEinden(inhoud, std::move(uit));
 }
 
+/// Each line is an item.
+std::optional<Stukken> Regelstukken(Tekstblik inhoud)
+{
+    Stukken uit;
+    for (const Tekstblik regel : Regels(inhoud))
+        uit.push_back(Los(regel));
+    return MetEinden(inhoud, std::move(uit));
+}
+
 /// Which of its two players comes first does not make another pair.
 std::optional<Stukken> Paarstukken(Tekstblik inhoud)
 {
@@ -259,6 +268,7 @@ const Soort* SoortVan(Tekstblik pad)
     static constexpr Soort instellingen{Instelstukken, Regeleinde};
     static constexpr Soort zitting{Zittingstukken, Regeleinde};
     static constexpr Soort uitslag{Uitslagstukken, Regeleinde};
+    static constexpr Soort regels{Regelstukken, Regeleinde};
     static constexpr Soort paren{Paarstukken, "#", true};
     const Tekst heel = '\\' + Vervang(Hoofdletters(pad), '/', '\\');
     const Tekstblik naam = Tekstblik(heel).substr(heel.rfind('\\') + 1);
@@ -269,6 +279,8 @@ const Soort* SoortVan(Tekstblik pad)
         return &instellingen;
     if (naam == "SPELERS.TXT")
         return &zitting;
+    if (naam == "GEENDUBBELEN.TXT")
+        return &regels;
     if (naam.starts_with("PERCZIT") && naam.ends_with(".TXT"))
         return &uitslag;
     const bool inParenmap = map.ends_with("\\PARENMAP\\");

@@ -26,8 +26,9 @@ struct Itemmenging {
 ///
 /// The name of the file in `pad` says what its items are: of "RVDGroepen.txt" the names by their
 /// place, of "Plexo.ini" the settings by their key, of a "Spelers.txt" the pairs by their position,
-/// of a "PercZit.txt" the records by their first three fields, and of a file in "Parenmap" the
-/// pairs. There a pair of ours with a player whom the other program paired too is a collision.
+/// of a "PercZit.txt" the records by their first three fields, of "GeenDubbelen.txt" the lines, and
+/// of a file in "Parenmap" the pairs. There a pair of ours with a player whom the other program
+/// paired too is a collision.
 ///
 /// Nothing for other files and for damaged pair files, unless two of the texts are the same: one of
 /// these is the outcome then, to the byte.

@@ -35,26 +35,21 @@ struct Aanpassing {
     std::optional<Fout> fout;
 };
 
-/// What another program writes in between is read, and linked, again.
 Aanpassing PasAan(Schijf& schijf, const Pad& pad, Lijstsoort soort,
                   const Naamvervanging& vervanging)
 {
-    constexpr int pogingen = 20;
-    for (int poging = 1;; ++poging) {
-        const auto inhoud = LeesAlsErIs(schijf, pad);
-        if (!inhoud)
-            return {{}, inhoud.error()};
-        Herschrijving nieuw = HerschrijfLijst(inhoud->value_or(Tekst()), soort, vervanging);
-        if (nieuw.vervangen.empty())
-            return {};
-        const auto geschreven = VervangOngewijzigd(schijf, pad, nieuw.inhoud, *inhoud);
-        if (geschreven)
-            return {std::move(nieuw.vervangen), std::nullopt};
-        if (StaatOpSchijf(geschreven))
-            return {std::move(nieuw.vervangen), geschreven.error()};
-        if (geschreven.error().soort != Foutsoort::Gewijzigd || poging == pogingen)
-            return {{}, geschreven.error()};
-    }
+    Aanpassing uit;
+    const auto geschreven =
+        Herschrijf(schijf, pad, [&](const Tekst& inhoud) -> std::optional<Tekst> {
+            Herschrijving nieuw = HerschrijfLijst(inhoud, soort, vervanging);
+            uit.vervangen = std::move(nieuw.vervangen);
+            return uit.vervangen.empty() ? std::nullopt : std::optional(std::move(nieuw.inhoud));
+        });
+    if (!StaatOpSchijf(geschreven))
+        uit.vervangen.clear();
+    if (!geschreven)
+        uit.fout = geschreven.error();
+    return uit;
 }
 
 /// The lines of one session that stand together in the list.

@@ -8,6 +8,7 @@
 #include <chrono>
 
 #include "controle/frmControle.h"
+#include "controle/frmDubbelen.h"
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
 #include "dialogs/diaKopieer.h"
@@ -274,6 +275,25 @@ void NeemEersteStart(const Bezoek& bezoek, QWidget& hoofdvenster, Administratie&
     Neem(bezoek, frmEersteStart(administratie.schijf, omgeving, &hoofdvenster));
 }
 
+/// A member who came to the club under his initials, and stands in a session.
+void NeemDubbelen(const Bezoek& bezoek, QWidget& hoofdvenster, Administratie& administratie)
+{
+    const Register zoalsHetWas = administratie.spelers;
+    Spelertabel& tabel = administratie.spelers.tabel;
+    if (tabel.Rijen() < 2)
+        return;
+    tabel.VoegKopieToe(1, std::vector<Celtekst>{{Kolom::Key, "100500"},
+                                                {Kolom::Voornaam, "W."},
+                                                {Kolom::Adres, "Oude Trekvaart 1003 achterhuis"},
+                                                {Kolom::Plaats, ""}});
+    frmDubbelen venster(
+        administratie, [] {}, &hoofdvenster);
+    if (auto* links = venster.findChild<QRadioButton*>(u"optRechts"_s))
+        links->setChecked(true);
+    bezoek(venster);
+    administratie.spelers = zoalsHetWas;
+}
+
 } // namespace
 
 void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
@@ -321,6 +341,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Neem(bezoek, frmControle(administratie, &hoofdvenster));
     Neem(bezoek, frmOverzicht(administratie, &hoofdvenster));
     NeemEersteStart(bezoek, hoofdvenster, administratie);
+    NeemDubbelen(bezoek, hoofdvenster, administratie);
     NeemTerugzetten(bezoek, hoofdvenster, administratie);
     NeemGeschiedenis(bezoek, hoofdvenster, administratie);
 }

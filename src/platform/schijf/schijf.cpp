@@ -4,7 +4,6 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
-#include <functional>
 #include <thread>
 #include <utility>
 
@@ -279,6 +278,22 @@ Uitkomst<void> VervangOngewijzigd(Schijf& schijf, const Pad& pad, Tekstblik inho
         });
     };
     return Vervang(schijf, pad, inhoud, Houdbaarheid::Blijvend, ruil);
+}
+
+Uitkomst<void> Herschrijf(Schijf& schijf, const Pad& pad,
+                          const std::function<std::optional<Tekst>(const Tekst& inhoud)>& maak)
+{
+    constexpr int pogingen = 20;
+    for (int poging = 1;; ++poging) {
+        const auto inhoud = LeesAlsErIs(schijf, pad);
+        if (!inhoud)
+            return Mislukt(inhoud);
+        const auto nieuw = *inhoud ? maak(**inhoud) : std::nullopt;
+        const auto geschreven =
+            nieuw ? VervangOngewijzigd(schijf, pad, *nieuw, *inhoud) : Uitkomst<void>();
+        if (geschreven || geschreven.error().soort != Foutsoort::Gewijzigd || poging == pogingen)
+            return geschreven;
+    }
 }
 
 Uitkomst<void> VerwijderBlijvend(Schijf& schijf, const Pad& pad)

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -160,6 +161,12 @@ enum class Houdbaarheid {
 /// How long that waits before it asks for the lock again, sixty times at the most; a test waits
 /// less.
 inline std::chrono::milliseconds Slotpoos{50};
+
+/// The same for a file that is there, with what `maak` makes of its text, if anything; again when
+/// another program writes in between, twenty times at the most.
+[[nodiscard]] Uitkomst<void>
+Herschrijf(Schijf& schijf, const Pad& pad,
+           const std::function<std::optional<Tekst>(const Tekst& inhoud)>& maak);
 
 /// Removes a file for good: the witness hears of it first.
 [[nodiscard]] Uitkomst<void> VerwijderBlijvend(Schijf& schijf, const Pad& pad);

@@ -216,4 +216,26 @@ Tekst Gewichten(Tekstblik tekst)
     return sleutel;
 }
 
+Tekst KaleWoorden(Tekstblik tekst)
+{
+    static const auto kaal = [] {
+        std::array<Tekst, 256> uit;
+        for (std::size_t code = 0; code < uit.size(); ++code) {
+            const char teken = static_cast<char>(code);
+            uit[code] = IsCijfer(teken) ? Tekst(1, teken) : Letters(teken);
+        }
+        return uit;
+    }();
+    Tekst uit;
+    bool nieuwWoord = false;
+    for (const char teken : tekst) {
+        const Tekst& deel = kaal[static_cast<unsigned char>(teken)];
+        if (!deel.empty() && nieuwWoord)
+            uit += ' ';
+        nieuwWoord = deel.empty() && !uit.empty();
+        uit += deel;
+    }
+    return uit;
+}
+
 } // namespace plexoran

@@ -70,4 +70,8 @@ void Sorteer(std::vector<Tekst>& teksten);
 /// The part of it that is equal for texts that differ in case or accent only.
 [[nodiscard]] Tekst Gewichten(Tekstblik tekst);
 
+/// The letters, as they count in the text order, and the digits of a text; a single blank where
+/// anything else stands between two of them.
+[[nodiscard]] Tekst KaleWoorden(Tekstblik tekst);
+
 } // namespace plexoran
