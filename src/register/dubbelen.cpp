@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <span>
 
 #include "platform/tekst/regels.h"
 #include "register/naamverband.h"
@@ -40,29 +39,26 @@ class Zoeker {
     }
 
   private:
-    /// Players, or names, with the same one of these are compared.
-    struct Lot {
-        std::size_t merk;
-        int wie;
-        bool operator<(const Lot& ander) const
-        {
-            return std::pair(merk, wie) < std::pair(ander.merk, ander.wie);
-        }
-    };
+    /// Half a hash of what is compared, and whose it is: the row, or the number of a name.
+    using Lot = std::uint64_t;
     using Loten = std::vector<Lot>;
+    static constexpr unsigned Helft = 32;
 
-    static std::size_t Merk(Tekstblik tekst, std::size_t soort = 0)
+    static Lot Loot(Tekstblik tekst, std::size_t wie, std::size_t soort = 0)
     {
-        return std::hash<Tekstblik>()(tekst) + soort;
+        return ((Lot{std::hash<Tekstblik>()(tekst)} + soort) << Helft) | wie;
     }
-    static void PerMerk(Loten& loten, const std::function<void(std::span<const Lot>)>& doe)
+    /// Hands out whose it is of each that is the same.
+    template <class Doe> static void PerGelijke(Loten& loten, const Doe& doe)
     {
         std::sort(loten.begin(), loten.end());
-        for (auto begin = loten.begin(); begin != loten.end();) {
-            const auto eind = std::find_if(begin, loten.end(),
-                                           [&](const Lot& lot) { return lot.merk != begin->merk; });
-            doe({begin, eind});
-            begin = eind;
+        std::vector<int> gelijken;
+        for (std::size_t i = 0; i < loten.size(); ++i) {
+            gelijken.push_back(static_cast<int>(loten[i] & 0xFFFF'FFFFU));
+            if (i + 1 == loten.size() || loten[i] >> Helft != loten[i + 1] >> Helft) {
+                doe(gelijken);
+                gelijken.clear();
+            }
         }
     }
     [[nodiscard]] const Wie& Van(int rij) const { return wie_[static_cast<std::size_t>(rij - 1)]; }
@@ -82,8 +78,8 @@ class Zoeker {
         return true;
     }
 
-    /// Every one of the first with every one of both, unless that are too many.
-    void Paar(std::span<const int> een, std::span<const int> ander)
+    /// Every one of the first with every one of the other, unless that are too many.
+    void Paar(const std::vector<int>& een, const std::vector<int>& ander)
     {
         if (een.size() * ander.size() > MeesteGelijken * MeesteGelijken) {
             uit_.teVaak = true;
@@ -91,7 +87,7 @@ class Zoeker {
         }
         for (const int rij : een) {
             for (const int latere : ander) {
-                if (rij != latere)
+                if (rij < latere || (rij > latere && &een != &ander))
                     kandidaten_.emplace_back(std::min(rij, latere), std::max(rij, latere));
             }
         }
@@ -100,41 +96,32 @@ class Zoeker {
     void ZoekGelijke()
     {
         Loten loten;
-        for (int rij = 1; rij <= tabel_.Rijen(); ++rij) {
-            const Wie& wie = Van(rij);
+        for (std::size_t rij = 1; rij <= aantal_; ++rij) {
+            const Wie& wie = wie_[rij - 1];
             const auto& [laag, hoog] = std::minmax(wie.voor, wie.kern);
-            loten.push_back({Merk(laag + '|' + hoog), rij}); // also where they changed places
-            loten.push_back({Merk(wie.vol), rij});
+            loten.push_back(Loot(laag + '|' + hoog, rij)); // also where they changed places
+            loten.push_back(Loot(wie.vol, rij));
             std::size_t soort = 0;
             for (const Tekst* gegeven : {&wie.nbbnr, &wie.mail, &wie.telefoon}) {
                 ++soort;
                 if (!gegeven->empty())
-                    loten.push_back({Merk(*gegeven, soort), rij});
+                    loten.push_back(Loot(*gegeven, rij, soort));
             }
         }
-        PerMerk(loten, [this](std::span<const Lot> gelijken) {
-            std::vector<int> rijen;
-            for (const Lot& lot : gelijken)
-                rijen.push_back(lot.wie);
-            Paar(rijen, rijen);
-        });
+        PerGelijke(loten, [this](const std::vector<int>& rijen) { Paar(rijen, rijen); });
     }
 
     void ZoekVoorletters()
     {
         Loten loten;
-        for (int rij = 1; rij <= tabel_.Rijen(); ++rij) {
-            if (const Wie& wie = Van(rij); !wie.voor.empty())
-                loten.push_back({Merk(wie.voor.substr(0, 1) + '|' + wie.kern), rij});
+        for (std::size_t rij = 1; rij <= aantal_; ++rij) {
+            if (const Wie& wie = wie_[rij - 1]; !wie.voor.empty())
+                loten.push_back(Loot(wie.voor.substr(0, 1) + '|' + wie.kern, rij));
         }
-        PerMerk(loten, [this](std::span<const Lot> gelijken) {
-            std::vector<int> rijen;
+        PerGelijke(loten, [this](const std::vector<int>& rijen) {
             std::vector<int> afgekort;
-            for (const Lot& lot : gelijken) {
-                rijen.push_back(lot.wie);
-                if (Van(lot.wie).afgekort)
-                    afgekort.push_back(lot.wie);
-            }
+            std::ranges::copy_if(rijen, std::back_inserter(afgekort),
+                                 [this](int rij) { return Van(rij).afgekort; });
             Paar(afgekort, rijen);
         });
     }
@@ -144,33 +131,30 @@ class Zoeker {
     {
         constexpr std::size_t langste = 60;
         Loten loten;
-        for (int rij = 1; rij <= tabel_.Rijen(); ++rij)
-            loten.push_back({Merk(Van(rij).heel), rij});
+        for (std::size_t rij = 1; rij <= aantal_; ++rij)
+            loten.push_back(Loot(wie_[rij - 1].heel, rij));
         std::vector<std::vector<int>> namen; // the rows of each
-        PerMerk(loten, [&](std::span<const Lot> gelijken) {
-            auto& rijen = namen.emplace_back();
-            for (const Lot& lot : gelijken)
-                rijen.push_back(lot.wie);
-        });
+        PerGelijke(loten, [&](const std::vector<int>& rijen) { namen.push_back(rijen); });
         loten.clear();
-        for (std::size_t i = 0; i < namen.size(); ++i) {
-            Tekst rest = Van(namen[i].front()).heel;
-            if (rest.size() > langste)
+        for (std::size_t naam = 0; naam < namen.size(); ++naam) {
+            const Tekst& heel = Van(namen[naam].front()).heel;
+            if (heel.size() > langste)
                 continue;
-            const int naam = static_cast<int>(i);
-            loten.push_back({Merk(rest), naam});
-            for (std::size_t weg = rest.size(); weg-- > 0;) {
-                Tekst zonder = rest;
-                zonder.erase(weg, 1);
-                loten.push_back({Merk(zonder), naam});
+            loten.push_back(Loot(heel, naam));
+            Tekst zonder = heel.substr(0, heel.size() - 1);
+            for (std::size_t weg = zonder.size();; --weg) {
+                loten.push_back(Loot(zonder, naam));
+                if (weg == 0)
+                    break;
+                zonder[weg - 1] = heel[weg];
             }
         }
-        PerMerk(loten, [&](std::span<const Lot> gelijken) {
+        PerGelijke(loten, [&](const std::vector<int>& gelijken) {
             uit_.teVaak = uit_.teVaak || gelijken.size() > MeesteGelijken;
             for (std::size_t i = 1; i < gelijken.size() && gelijken.size() <= MeesteGelijken; ++i) {
                 for (std::size_t j = 0; j < i; ++j) {
-                    const auto& een = namen[static_cast<std::size_t>(gelijken[j].wie)];
-                    const auto& ander = namen[static_cast<std::size_t>(gelijken[i].wie)];
+                    const auto& een = namen[static_cast<std::size_t>(gelijken[j])];
+                    const auto& ander = namen[static_cast<std::size_t>(gelijken[i])];
                     if (ScheeltEenLetter(Van(een.front()).heel, Van(ander.front()).heel))
                         Paar(een, ander);
                 }
@@ -211,12 +195,14 @@ class Zoeker {
         zet(Dubbelreden::Email, mail && (voornaam || verband));
         zet(Dubbelreden::Telefoon,
             telefoon && (verband || (voornaam && LijkenAchternamen(een, ander))));
-        if (paar.redenen.none() || geen_.contains(Sleutelpaar(tabel_, rij, latere)))
+        if (paar.redenen.none() ||
+            (!geen_.empty() && geen_.contains(Sleutelpaar(tabel_, rij, latere))))
             return;
         zet(Dubbelreden::AnderNBBnr,
             !een.nbbnr.empty() && !ander.nbbnr.empty() && een.nbbnr != ander.nbbnr);
         const bool andereGroep = tabel_.Cel(rij, Kolom::Groep) != tabel_.Cel(latere, Kolom::Groep);
-        if (andereGroep && !paar.Heeft(Dubbelreden::AnderNBBnr) && IsKopie(rij, latere)) {
+        if (andereGroep && verband == Dubbelreden::Naam && !paar.Heeft(Dubbelreden::AnderNBBnr) &&
+            IsKopie(rij, latere)) {
             paar.redenen.reset();
             zet(Dubbelreden::TweeGroepen, true);
         }

@@ -96,6 +96,9 @@ bool ScheeltEenLetter(Tekstblik een, Tekstblik ander)
         een.remove_prefix(1);
         ander.remove_prefix(1);
     }
+    const auto cijfer = [](Tekstblik rest) { return !rest.empty() && IsCijfer(rest.front()); };
+    if (cijfer(een) || cijfer(ander))
+        return false;
     if (een.empty() || ander.empty())
         return een.size() + ander.size() == 1;
     const Tekstblik na = een.substr(1);

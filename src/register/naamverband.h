@@ -20,7 +20,7 @@ struct Wie {
 
 [[nodiscard]] Wie WieIs(const Spelertabel& tabel, int rij);
 
-/// One letter more, less or other, or two that changed places.
+/// One letter more, less or other, or two that changed places. A digit is no letter.
 [[nodiscard]] bool ScheeltEenLetter(Tekstblik een, Tekstblik ander);
 
 /// Whether they can be the first names of one person; none can be any.

@@ -122,6 +122,7 @@ TEST(Dubbelen, EenLetterMeerMinderAndersOfVerwisseld)
             << achternaam;
     EXPECT_EQ("1-2 letter\n", Gevonden({{"Pieter", "", "Bos"}, {"Peter", "", "Bos"}}));
     EXPECT_EQ("1-2 letter\n", Gevonden({{"Gerrit Jan", "", "Bos"}, {"Gerritjan", "", "Bos"}}));
+    EXPECT_EQ("", Gevonden({{"Gast 1", "", "Club"}, {"Gast 2", "", "Club"}})) << "no letter";
     EXPECT_EQ("", Gevonden({{"Piet", "", "Jansen"}, {"Piet", "", "Janzzen"}}));
     EXPECT_EQ("", Gevonden({{"Piet", "", "Jansen"}, {"Pier", "", "Janzen"}}));
 }
