@@ -1,14 +1,12 @@
 #include "controle/frmDubbelen.h"
 
-#include <QHeaderView>
-
 #include <algorithm>
 #include <array>
 
 #include "controle/controleur.h"
 #include "controle/frmControle.h"
 #include "platform/scherm/berichten.h"
-#include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/boom.h"
 #include "platform/scherm/frmVoortgang.h"
 
 namespace plexoran {
@@ -32,22 +30,11 @@ const std::array Redenen{u"zelfde NBB-nummer"_s,
 QTreeWidget* MaakLijst(const QString& naam, const QString& gesproken, const QStringList& koppen,
                        QWidget* ouder)
 {
-    auto* lijst = new QTreeWidget(ouder);
-    Noem(lijst, naam, gesproken);
-    lijst->setHeaderLabels(koppen);
+    auto* lijst = MaakBoom(naam, gesproken, koppen, ouder);
     lijst->setRootIsDecorated(false);
-    lijst->setUniformRowHeights(true);
     lijst->setTextElideMode(Qt::ElideMiddle);
     lijst->header()->setSectionResizeMode(QHeaderView::Stretch);
     return lijst;
-}
-
-QTreeWidgetItem* VoegRegelToe(QTreeWidget* lijst, const QStringList& teksten)
-{
-    auto* regel = new QTreeWidgetItem(lijst, teksten);
-    for (int kolom = 0; kolom < teksten.size(); ++kolom)
-        regel->setToolTip(kolom, Wenk(teksten[kolom]));
-    return regel;
 }
 
 QString Plaatstekst(const Vindplaats& plaats)
@@ -197,7 +184,7 @@ void frmDubbelen::VulDubbelen(int regel)
                 if (paar.redenen[i])
                     redenen << Redenen.at(i);
             }
-            VoegRegelToe(lstDubbelen, {wie(paar.rij), wie(paar.latere), redenen.join(u", "_s)});
+            new Boomregel(lstDubbelen, {wie(paar.rij), wie(paar.latere), redenen.join(u", "_s)});
         }
         const int laatste = lstDubbelen->topLevelItemCount() - 1;
         lstDubbelen->setCurrentItem(lstDubbelen->topLevelItem(std::min(regel, laatste)));
@@ -232,13 +219,16 @@ void frmDubbelen::VulVelden()
     lstVelden->setHeaderLabels(
         {u"Veld"_s, NaarQString(Naam(paar->rij)), NaarQString(Naam(paar->latere))});
     const Spelertabel& tabel = administratie_.spelers.tabel;
+    const bool bondslid = tabel.Cel(paar->rij, Kolom::Groep) == administratie_.mappen.DFIMPG;
     QFont vet = lstVelden->font();
     vet.setBold(true);
     for (auto i = Index(Kolom::Groep); i < AantalKolommen; ++i) {
         const auto kolom = static_cast<Kolom>(i + 1);
         const QString een = NaarQString(tabel.Cel(paar->rij, kolom));
         const QString ander = NaarQString(tabel.Cel(paar->latere, kolom));
-        auto* veld = VoegRegelToe(lstVelden, {NaarQString(Kolomnamen[i]), een, ander});
+        const bool subgroep = kolom == Kolom::NBBgr && !bondslid;
+        auto* veld = new Boomregel(
+            lstVelden, {NaarQString(subgroep ? Subgroepnaam : Kolomnamen[i]), een, ander});
         if (een == ander)
             continue;
         const bool rechtse = een.isEmpty() || (rechtsBlijft && !ander.isEmpty());
@@ -269,14 +259,15 @@ void frmDubbelen::VulPlaatsen()
     for (const Vindplaats& plaats : plaatsen_) {
         QStringList bestanden;
         for (const auto& bestand : plaats.bestanden)
-            bestanden << QString::fromStdString(administratie_.schijf.Toonpad(bestand.pad));
-        auto* regel = VoegRegelToe(lstPlaatsen, {Plaatstekst(plaats), bestanden.join(u"; "_s)});
+            bestanden << Toonpad(administratie_.schijf, bestand.pad);
+        auto* regel = new Boomregel(lstPlaatsen, {Plaatstekst(plaats), bestanden.join(u"; "_s)});
         if (plaats.bezwaar != Bezwaar::Beide)
             regel->setCheckState(0, plaats.bezwaar == Bezwaar::Geen ? Qt::Checked : Qt::Unchecked);
     }
     for (const Fout& fout : vindplaatsen_.Fouten())
-        VoegRegelToe(lstPlaatsen, {u"Niet te lezen: %1"_s.arg(QString::fromStdString(fout.systeem)),
-                                   QString::fromStdString(fout.bestand)});
+        new Boomregel(lstPlaatsen,
+                      {u"Niet te lezen: %1"_s.arg(QString::fromStdString(fout.systeem)),
+                       QString::fromStdString(fout.bestand)});
 }
 
 Rijvelden frmDubbelen::Gekozen() const
