@@ -96,6 +96,10 @@ void frmDubbelen::Bouw()
     lblUitslag->setWordWrap(true);
     lstDubbelen = MaakLijst(u"lstDubbelen"_s, u"Mogelijke dubbelen"_s,
                             {u"Speler"_s, u"Misschien dezelfde"_s, u"Waarom"_s}, this);
+    const Maten maten;
+    lstDubbelen->header()->setSectionResizeMode(QHeaderView::Interactive);
+    for (const int kolom : {0, 1}) // the reasons take the rest
+        lstDubbelen->header()->resizeSection(kolom, maten.Twips(3600));
     optLinks = MaakOptie(u"optLinks"_s, QString(), 0, this);
     optRechts = MaakOptie(u"optRechts"_s, QString(), 0, this);
     lstVelden = MaakLijst(u"lstVelden"_s, u"Beide spelers, per veld"_s, {QString()}, this);
@@ -119,7 +123,6 @@ void frmDubbelen::Bouw()
                  {lstPlaatsen, 1},
                  Knoppenrij({cmdSamenvoegen, cmdGeenDubbelen, cmdSluiten})},
                 this);
-    const Maten maten;
     PasInScherm(this, maten.Twips(13500, 9900));
     lstDubbelen->setFocus();
 }
@@ -348,7 +351,7 @@ void frmDubbelen::GeenDubbelen()
         BewaarGeenDubbel(administratie_.schijf, administratie_.mappen, tabel, rij, latere);
     if (!StaatEr(this, bewaard.gelukt)) {
         MeldFout(this, QMessageBox::Warning,
-                 u"Dat dit geen dubbelen zijn, kon niet worden bewaard. Er is niets veranderd. "
+                 u"Dat dit geen dubbelen zijn, kon niet worden opgeslagen. Er is niets veranderd. "
                  "Verhelp de oorzaak en kies weer Geen dubbelen."_s,
                  bewaard.gelukt.error());
         return;

@@ -233,7 +233,8 @@ TEST_F(frmDubbelenTest, GeenDubbelenDieNietBewaardKanWorden)
 {
     Open();
     schijf.FaalBij(1);
-    wachter.Begin(u"Dat dit geen dubbelen zijn, kon niet worden bewaard. Er is niets veranderd."_s);
+    wachter.Begin(
+        u"Dat dit geen dubbelen zijn, kon niet worden opgeslagen. Er is niets veranderd."_s);
     Opdracht("cmdGeenDubbelen");
     EXPECT_EQ(2U, Inhoud("lstDubbelen").size());
 }
