@@ -1,5 +1,6 @@
 #include "dialogs/groepswerk.h"
 
+#include "dialogs/ingave.h"
 #include "register/spelertabel.h"
 #include "register/waardenlijst.h"
 
@@ -89,6 +90,27 @@ bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
             spelers.tabel.VoegKopieToe(bron, anders);
     }
     return true;
+}
+
+Veldopdracht MaakVeldopdracht(const Spelertabel& tabel, const std::vector<int>& rijen, Kolom veld,
+                              Tekstblik waarde, Tekstblik importgroep)
+{
+    Veldopdracht uit{veld, VerlaatVeld(veld, waarde).tekst, {}};
+    if (veld == Kolom::Achternaam && IsBlanco(uit.nieuw))
+        return uit;
+    for (const int rij : rijen) {
+        const bool isLid = tabel.Cel(rij, Kolom::Groep) == importgroep;
+        const bool mag = veld == Kolom::NBBnr ? isLid : veld != Kolom::Groep || !isLid;
+        if (mag && tabel.Cel(rij, veld) != uit.nieuw)
+            uit.rijen.push_back(rij);
+    }
+    return uit;
+}
+
+void VoerUit(Spelertabel& tabel, const Veldopdracht& opdracht)
+{
+    for (const int rij : opdracht.rijen)
+        tabel.ZetCel(rij, opdracht.veld, opdracht.nieuw);
 }
 
 std::vector<Tekst> SubgroepenVan(const Spelertabel& tabel, Tekstblik groepscode)

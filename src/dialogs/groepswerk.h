@@ -37,6 +37,19 @@ struct Kopieeropdracht {
 /// after the save drops it. False when there are not keys enough for all; nothing is changed then.
 [[nodiscard]] bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht);
 
+/// One field of players to be set to a text.
+struct Veldopdracht {
+    Kolom veld;
+    Tekst nieuw;
+    std::vector<int> rijen; ///< of whom it becomes another one, as far as that may be
+};
+
+/// The text becomes what the entry of a player makes of it. Nobody's surname becomes blank, only
+/// members of the import group have a federation number, and none of them changes group.
+[[nodiscard]] Veldopdracht MaakVeldopdracht(const Spelertabel& tabel, const std::vector<int>& rijen,
+                                            Kolom veld, Tekstblik waarde, Tekstblik importgroep);
+void VoerUit(Spelertabel& tabel, const Veldopdracht& opdracht);
+
 /// The subgroups of a group, trimmed, an empty one as "geen", in order of first appearance.
 [[nodiscard]] std::vector<Tekst> SubgroepenVan(const Spelertabel& tabel, Tekstblik groepscode);
 

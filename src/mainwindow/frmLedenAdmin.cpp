@@ -161,6 +161,9 @@ void frmLedenAdmin::ZetOpKijken()
          {u"cmdAanm"_s, u"cmdVerplaats"_s, u"cmdKopieer"_s, u"cmdVerwGroep"_s, u"cmdMaakGrNamen"_s,
           u"cmdHaalNBBnamen"_s, u"cmdKoppel"_s, u"cmdSpToevoegen"_s, u"cmdParenOnderhoud"_s})
         findChild<QPushButton*>(naam)->setEnabled(false);
+    for (QAction* actie : mnuGekozen->actions())
+        actie->setEnabled(actie->objectName() == u"actPrintGekozen"_s ||
+                          actie->objectName() == u"actGeschiedenisGekozen"_s);
     aanwezigheid_.reset(); // who only looks is in nobody's way
 }
 
@@ -175,15 +178,6 @@ void frmLedenAdmin::KiesGroep(int plaats)
     if (cmbGr->currentIndex() == plaats)
         ToonGroep();
     cmbGr->setCurrentIndex(plaats);
-}
-
-/// In the drop-down; -1 for none of the fifty.
-int frmLedenAdmin::PlaatsVan(Tekstblik groepscode)
-{
-    int plaats = AantalGroepen - 1;
-    while (plaats >= 0 && Groepscode(plaats + 1) != groepscode)
-        --plaats;
-    return plaats;
 }
 
 /// When he is in the group that is shown.
@@ -206,8 +200,8 @@ Tekst frmLedenAdmin::GekozenKey() const
 
 int frmLedenAdmin::GekozenRij() const
 {
-    const Roostervlak& vlak = *picP0->Vlak();
-    return vlak.Regel() == 0 ? 0 : vlak.Rijen()[static_cast<std::size_t>(vlak.Regel() - 1)];
+    const int regel = picP0->Vlak()->Regel();
+    return regel == 0 ? 0 : RijOp(regel);
 }
 
 void frmLedenAdmin::ToonGroep()
@@ -248,6 +242,8 @@ void frmLedenAdmin::ToonGroep()
     std::int16_t& LOSTGR = administratie_.instellingen.LOSTGR;
     if (LOSTGR != cmbGr->currentIndex())
         picP0->NaarBoven();
+    else
+        picZoek->Ververs(); // another group is no other table
     LOSTGR = static_cast<std::int16_t>(cmbGr->currentIndex());
     BewaarInstellingen();
     WerkOpdrachtenBij();
@@ -255,16 +251,14 @@ void frmLedenAdmin::ToonGroep()
 
 void frmLedenAdmin::VolgBestanden()
 {
-    const Tekst gekozen = GekozenKey();
+    Roosterplek plek = NeemPlek();
     const auto andereSpelers = opslag_.NeemAndereOver();
     if (!andereSpelers)
         wacht_.Vergeet();
     if (!VolgGroepsnamen() && !andereSpelers.value_or(false))
         return;
-    const int hoogte = picP0->Staand().value();
     ToonGroep();
-    KiesSpeler(gekozen);
-    picP0->Staand().setValue(hoogte);
+    ZetPlek(std::move(plek));
 }
 
 /// Whether another program gave groups other names. A text that ends before its time is not taken.

@@ -12,8 +12,10 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <span>
 
+#include "dialogs/frmVeld.h"
 #include "dialogs/ingave.h"
 #include "federation/frmImportNBB.h"
 #include "mainwindow/bestandswacht.h"
@@ -21,12 +23,15 @@
 #include "mainwindow/lijsten.h"
 #include "mainwindow/rooster.h"
 #include "mainwindow/venstergeheugen.h"
+#include "mainwindow/zoekbalk.h"
 #include "platform/scherm/maten.h"
 #include "register/aanwezigheid.h"
 #include "register/herstel.h"
 
 class QLayout;
 class QMenu;
+class QShortcut;
+class QStackedLayout;
 
 namespace plexoran {
 
@@ -61,6 +66,7 @@ class frmLedenAdmin : public QMainWindow {
     // Building (frmLedenAdmin_bouw.cpp)
     void Bouw();
     QWidget* BouwBovenkant();
+    QWidget* BouwOnderblad();
     QWidget* BouwOpdrachten();
     QLayout* BouwSpelerkolom();
     QLayout* BouwVerwijderkolom();
@@ -91,6 +97,7 @@ class frmLedenAdmin : public QMainWindow {
     void ToonKnoppen(bool tonen);
     void NaarGroep();
     void NaarRooster();
+    void NaarZoeken();
     void KopieerGekozen();
     void ToonToetsen();
     void BouwStatus();
@@ -106,7 +113,6 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] bool VolgGroepsnamen();
     void ToonTweedePlaats();
     void KiesGroep(int plaats);
-    [[nodiscard]] static int PlaatsVan(Tekstblik groepscode);
     void KiesSpeler(const Tekst& key);
     [[nodiscard]] Tekst GekozenKey() const;
     [[nodiscard]] int GekozenRij() const;
@@ -127,13 +133,34 @@ class frmLedenAdmin : public QMainWindow {
     void ToonMelding(const QString& tekst);
     void MeldGeschiedenisfout();
 
+    // Finding, and what is done with all that are chosen (frmLedenAdmin_gekozen.cpp)
+    /// What of the grid one comes back to; players are known by their keys.
+    struct Roosterplek {
+        int groep = 0;
+        Tekst huidige{};
+        std::set<Tekst> gekozen{};
+        int hoogte = 0;
+    };
+    [[nodiscard]] Roosterplek NeemPlek() const;
+    void ZetPlek(Roosterplek plek);
+    void BouwGekozenmenu();
+    void OpenZoeken(bool open);
+    bool GaNaar(int rij);
+    [[nodiscard]] bool KiestInLijst() const;
+    [[nodiscard]] std::vector<int> TeDoenRijen();
+    [[nodiscard]] bool BrengInRooster();
+    void DoeGekozen(Gekozenwerk werk);
+    void PrintGekozen();
+    void VerwijderGekozen();
+
     // Commands (frmLedenAdmin_opdrachten.cpp)
     void VoegToe();
     void Wijzig();
     bool ToonIngave(Ingave& ingave);
     void VerwijderRij();
     void VerwijderVanTot();
-    void Verwijder(int van, int tot, const QString& regels, const QString& klaar);
+    void Verwijder(const std::vector<int>& rijen, const QString& regels, const Tekst& wie,
+                   const QString& klaar);
     void WijzigGroepsnamen();
     std::optional<Bewaring> BewaarGroepen(const Groepen& oud);
     void StartGatenlijst();
@@ -155,6 +182,7 @@ class frmLedenAdmin : public QMainWindow {
     bool SlaOpEnKies(const std::vector<Rijverschil>& verschillen, Tekst gekozen);
     [[nodiscard]] bool IsAllesOpgeslagen();
     [[nodiscard]] bool IsRegelGekozen();
+    [[nodiscard]] int RijOp(int regel) const;
 
     Administratie& administratie_;
     Spelersopslag opslag_;
@@ -180,7 +208,12 @@ class frmLedenAdmin : public QMainWindow {
     QLabel* lblOpgeslagen;
     QAction* actKnoppen;
     Rooster* picP0;
-    QWidget* knoppen_; ///< all that stands under the grid
+    QWidget* knoppen_; ///< all that stands under the grid, or who was found
+    Zoekbalk* picZoek;
+    QStackedLayout* onderblad_; ///< the commands, or who was found
+    QShortcut* terug_;          ///< to where one was when the finding began
+    Roosterplek vanwaar_{};
+    QMenu* mnuGekozen; ///< what can be done with all that are chosen
     QLabel* Label3;
     QComboBox* cmbGr;
     QCheckBox* chkKolBr;

@@ -14,7 +14,10 @@ namespace plexoran {
 /// In the order of the lines.
 std::vector<int> frmLedenAdmin::GekozenRijen() const
 {
-    return std::vector<int>(picP0->Vlak()->Regel() > 0 ? 1 : 0, GekozenRij());
+    std::vector<int> rijen;
+    for (const int regel : picP0->Vlak()->Gekozen())
+        rijen.push_back(RijOp(regel));
+    return rijen;
 }
 
 void frmLedenAdmin::Sorteer(int kolom)
@@ -71,7 +74,7 @@ void frmLedenAdmin::ToonKnoppen(bool tonen)
 {
     if (!tonen && knoppen_->isAncestorOf(focusWidget()))
         NaarRooster();
-    knoppen_->setVisible(tonen);
+    knoppen_->setVisible(tonen || picZoek->IsOpen());
     geheugen_.ZetAan(actKnoppen->objectName(), tonen);
 }
 
@@ -90,6 +93,11 @@ void frmLedenAdmin::KopieerGekozen()
     const Namenrij namen = BeeldVan(administratie_.mappen, CodeUit(Groeptekst())).kolomnamen;
     QGuiApplication::clipboard()->setText(NaarQString(Kopieertekst(
         administratie_.spelers.tabel, GekozenRijen(), namen, picP0->Vlak()->Keuzes())));
+}
+
+void frmLedenAdmin::NaarZoeken()
+{
+    picZoek->GaErheen();
 }
 
 // ---------------------------------------------------------------- the line at the foot

@@ -3,6 +3,7 @@
 // from left to right.
 #include <QGridLayout>
 #include <QMenuBar>
+#include <QStackedLayout>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -83,15 +84,21 @@ void frmLedenAdmin::Bouw()
     connect(picP0->Vlak(), &Roostervlak::verwijderGevraagd, this, &frmLedenAdmin::VerwijderRij);
     auto* roosterrij = Naastelkaar({picP0});
     roosterrij->setContentsMargins(maten_.Twips(RoosterLinks), 0, maten_.Twips(RoosterLinks), 0);
-    knoppen_ = BouwOpdrachten();
+    knoppen_ = BouwOnderblad();
     auto* lagen = Onderelkaar({bovenkant, {roosterrij, 1}, knoppen_}, midden);
     lagen->setContentsMargins(0, 0, 0, 0);
     lagen->setSpacing(0);
-    setCentralWidget(new Schuifblad(midden, this));
+    auto* geheel = new QWidget(this);
+    auto* lagenMetBalk = Onderelkaar({{new Schuifblad(midden, geheel), 1}, picZoek}, geheel);
+    lagenMetBalk->setContentsMargins(0, 0, 0, 0);
+    lagenMetBalk->setSpacing(0);
+    setCentralWidget(geheel);
     BouwMenu();
+    BouwGekozenmenu();
     BouwStatus();
     // The bars stand above and below what the window is made for.
-    const int balken = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+    const int balken = menuBar()->sizeHint().height() + statusBar()->sizeHint().height() +
+                       picZoek->sizeHint().height();
     PasInScherm(this, maten_.Twips(15360, 10500) + QSize(0, balken));
 }
 
@@ -143,6 +150,21 @@ QWidget* frmLedenAdmin::BouwBovenkant()
     chkKolBr->move(naast, cmdMaakGrNamen->y() - chkKolBr->height() - maten_.Twips(KolBrBoven) / 2);
     boven->setMinimumWidth(chkKolBr->geometry().right() + maten_.Twips(RoosterLinks));
     return boven;
+}
+
+/// Who was found stands in the place of the commands, so that nothing else moves.
+QWidget* frmLedenAdmin::BouwOnderblad()
+{
+    auto* blad = new QWidget(this);
+    blad->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    onderblad_ = new QStackedLayout(blad);
+    onderblad_->addWidget(BouwOpdrachten());
+    picZoek = new Zoekbalk(administratie_, this);
+    auto* gevonden = new QWidget(this);
+    Naastelkaar({picZoek->Lijst()}, gevonden)
+        ->setContentsMargins(maten_.Twips(RoosterLinks), 6, maten_.Twips(RoosterLinks), 0);
+    onderblad_->addWidget(gevonden);
+    return blad;
 }
 
 QWidget* frmLedenAdmin::BouwOpdrachten()

@@ -59,6 +59,7 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"actSpelergeschiedenis", u"", "", "", LeesRegel},
         Opdracht{},
         Opdracht{"actKopieer", u"&Kopiëren", "Ctrl+C", "", LeesRegel, &Venster::KopieerGekozen},
+        Opdracht{"actZoek", u"&Zoek een speler", "Ctrl+F; /", "", Geen, &Venster::NaarZoeken},
         Opdracht{"mnuGroep", u"Groep"},
         Opdracht{"actKiesGroep", u"&Kies spelergroep", "Ctrl+G", "", Geen, &Venster::NaarGroep},
         Opdracht{"actGroepsnamen", u"", "Ctrl+Shift+G", "cmdMaakGrNamen", Wijzigt},

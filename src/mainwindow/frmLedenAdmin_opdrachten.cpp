@@ -50,7 +50,7 @@ bool frmLedenAdmin::SlaOpEnKies(const std::vector<Rijverschil>& verschillen, Tek
     int plaats = -1;
     if (const int rij = verschillen.front().nu; rij > 0) { // those who went come last
         gekozen = verschillen.front().key;
-        plaats = PlaatsVan(administratie_.spelers.tabel.Cel(rij, Kolom::Groep));
+        plaats = Groepnummer(administratie_.spelers.tabel.Cel(rij, Kolom::Groep)) - 1;
     }
     const bool opgeslagen = SlaOpEnToon();
     if (plaats >= 0)
@@ -71,6 +71,11 @@ bool frmLedenAdmin::IsRegelGekozen()
         return true;
     Meld(this, QMessageBox::Warning, u"Er is geen regel geselecteerd!"_s);
     return false;
+}
+
+int frmLedenAdmin::RijOp(int regel) const
+{
+    return picP0->Vlak()->Rijen()[static_cast<std::size_t>(regel - 1)];
 }
 
 bool frmLedenAdmin::ToonIngave(Ingave& ingave)
@@ -124,18 +129,24 @@ void frmLedenAdmin::Wijzig()
 
 void frmLedenAdmin::VerwijderRij()
 {
+    if (picP0->Vlak()->IsMeer()) {
+        VerwijderGekozen();
+        return;
+    }
     if (!MagWijzigen() || !IsRegelGekozen())
         return;
     const int regel = picP0->Vlak()->Regel();
-    Verwijder(regel, regel, u"regel %1"_s.arg(regel), u"De regel is verwijderd."_s);
+    Verwijder({GekozenRij()}, u"regel %1"_s.arg(regel), {}, u"De regel is verwijderd."_s);
 }
 
 void frmLedenAdmin::VerwijderVanTot()
 {
     const int van = cmbVerwVan->currentIndex() + 1;
     const int tot = cmbVerwTot->currentIndex() + 1;
+    const auto eerste = picP0->Vlak()->Rijen().begin();
     if (van <= tot)
-        Verwijder(van, tot, u"regel %1 t/m regel %2"_s.arg(van).arg(tot),
+        Verwijder({eerste + van - 1, eerste + tot}, u"regel %1 t/m regel %2"_s.arg(van).arg(tot),
+                  "Regels " + std::to_string(van) + " t/m " + std::to_string(tot),
                   u"De regels zijn verwijderd."_s);
     else
         Meld(this, QMessageBox::Warning,
@@ -144,8 +155,10 @@ void frmLedenAdmin::VerwijderVanTot()
                  .arg(tot));
 }
 
-/// After a warning with the names of the players; `regels` are the lines as the question says them.
-void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QString& klaar)
+/// After a warning with the names of the players; `regels` is what the question calls them, `wie`
+/// the history where they are more than one.
+void frmLedenAdmin::Verwijder(const std::vector<int>& rijen, const QString& regels,
+                              const Tekst& wie, const QString& klaar)
 {
     const QString waarschuwing =
         u"\t\tLET OP!\r\n\r\nAls u spelers verwijdert die nog voorkomen in bestaande zittingen dan "
@@ -155,14 +168,11 @@ void frmLedenAdmin::Verwijder(int van, int tot, const QString& regels, const QSt
         "verwijderd heeft alleen zin als men in elke relevante zitting zijn naam opnieuw "
         "ingeeft.\r\n\r\nWeet u zeker dat u %1 wilt verwijderen?\r\n\r\n"_s.arg(regels);
     Spelertabel& tabel = administratie_.spelers.tabel;
-    const auto eerste = picP0->Vlak()->Rijen().begin();
-    const std::vector<int> rijen(eerste + van - 1, eerste + tot);
     if (!Vraag(this, waarschuwing, u"Verwijderen"_s, NoemSpelers(tabel, rijen, *this)))
         return;
     const Noteer noteer(administratie_.geschiedenis,
-                        van == tot ? VolleNaam(tabel, rijen.front()) + " verwijderd"
-                                   : "Regels " + std::to_string(van) + " t/m " +
-                                         std::to_string(tot) + " verwijderd");
+                        (rijen.size() == 1 ? VolleNaam(tabel, rijen.front()) : wie) +
+                            " verwijderd");
     tabel.VerwijderRijen(rijen);
     if (rijen.size() > 1)
         opslag_.Reserve().Maak("voor verwijderen");
@@ -247,7 +257,7 @@ void frmLedenAdmin::VerwijderGroep()
 /// Members in a group that is none of the fifty would never be seen again.
 void frmLedenAdmin::HaalNBBnamen()
 {
-    if (PlaatsVan(administratie_.mappen.DFIMPG) < 0) {
+    if (Groepnummer(administratie_.mappen.DFIMPG) == 0) {
         Meld(this, QMessageBox::Warning,
              u"Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat achter DFIMPG= "
              "niet in welke groep ze komen, zoals Gr05-. Er is niets veranderd. Vul die groep in "

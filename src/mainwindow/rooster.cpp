@@ -122,6 +122,7 @@ Roostervlak::Roostervlak(const Maten& maten, const Schuifkader& kader, QWidget* 
     : Tabelvlak(kader, u"Spelers van de groep"_s, ouder), pixelsPerMm_(maten.PixelsPerMm()),
       Line1(MaakLijn(u"Line1"_s, this)), Line2(MaakLijn(u"Line2"_s, this))
 {
+    ZetMeerkeus();
     setFont(Roosterletter(maten.Letter(Letterpunten).pixelSize()));
     meter_ = Roostermeter(font().pixelSize(), pixelsPerMm_);
     for (const QScrollBar* balk : {&kader.Staand(), &kader.Liggend()})
@@ -184,9 +185,9 @@ QString Roostervlak::Celtekst(int regel, int kolom) const
     return NaarQString(regel == 0 ? kolomnamen_[plaats] : Cel(regel, plaats));
 }
 
-void Roostervlak::KiesRegel(int regel)
+void Roostervlak::Kies(int regel, std::vector<int> gekozen)
 {
-    Tabelvlak::KiesRegel(regel);
+    Tabelvlak::Kies(regel, std::move(gekozen));
     lijnenZichtbaar_ = regel > 0;
     PlaatsLijnen();
 }
@@ -223,6 +224,12 @@ void Roostervlak::TekenRasters(QPainter& schilder, int eerste, int laatste) cons
     const double onder = Y(BovenkantVan(laatste + 1));
     schilder.fillRect(QRectF(QPointF(X(0), boven), QPointF(X(randen_[KolommenInBand]), onder)),
                       bandkleur);
+    for (int regel = eerste; regel <= laatste; ++regel) {
+        if (IsMeer() && IsGekozen(regel))
+            schilder.fillRect(QRectF(QPointF(X(0), Y(BovenkantVan(regel))),
+                                     QPointF(X(randen_.back()), Y(BovenkantVan(regel + 1)))),
+                              palette().color(QPalette::Highlight));
+    }
     schilder.setPen(lijnkleur);
     for (const double rand : randen_)
         schilder.drawLine(QLineF(qRound(X(rand)), boven, qRound(X(rand)), onder));
@@ -244,7 +251,10 @@ void Roostervlak::TekenTeksten(QPainter& schilder, int regel, double links, doub
             continue;
         const Tekstblik cel = Cel(regel, i);
         // The band is light in dark themes too.
-        schilder.setPen(i < KolommenInBand ? Qt::black : palette().color(QPalette::Text));
+        if (IsMeer() && IsGekozen(regel))
+            schilder.setPen(palette().color(QPalette::HighlightedText));
+        else
+            schilder.setPen(i < KolommenInBand ? Qt::black : palette().color(QPalette::Text));
         if (!cel.empty())
             schilder.drawText(QPointF(X(begin + rooster::Celmarge), qRound(basislijn)),
                               NaarQString(PasTekst(cel, eind - begin, meter_)));
@@ -264,8 +274,21 @@ void Roostervlak::keyPressEvent(QKeyEvent* gebeurtenis)
         emit wijzigGevraagd();
     else if (toets == Qt::Key_Delete && gebeurtenis->modifiers() == Qt::NoModifier)
         emit verwijderGevraagd();
-    else if (!KiesMet(toets))
+    else if (!KiesMet(toets, gebeurtenis->modifiers()))
         QWidget::keyPressEvent(gebeurtenis);
+}
+
+/// Of the line under the mouse, which is chosen by that; with the keys of the current one.
+void Roostervlak::contextMenuEvent(QContextMenuEvent* gebeurtenis)
+{
+    if (gebeurtenis->reason() == QContextMenuEvent::Keyboard) {
+        emit menuGevraagd(mapToGlobal(Plek(std::max(Regel(), 1), 0).bottomLeft()));
+        return;
+    }
+    const int regel = RegelOp(gebeurtenis->y());
+    if (!IsGekozen(regel))
+        KiesRegel(regel);
+    emit menuGevraagd(gebeurtenis->globalPos());
 }
 
 void Roostervlak::PlaatsLijnen()

@@ -44,7 +44,7 @@ class Roostervlak : public Tabelvlak {
         return X(randen_[static_cast<std::size_t>(kolom)]);
     }
     [[nodiscard]] double Koponder() const override { return rooster::Bovenmarge * pixelsPerMm_; }
-    void KiesRegel(int regel) override;
+    void Kies(int regel, std::vector<int> gekozen) override;
 
     /// Hides the guide lines; the selection stays.
     void VerbergLijnen();
@@ -56,11 +56,13 @@ class Roostervlak : public Tabelvlak {
   signals:
     void wijzigGevraagd();
     void verwijderGevraagd();
+    void menuGevraagd(QPoint plek); ///< on the screen
 
   protected:
     void paintEvent(QPaintEvent* gebeurtenis) override;
     void mouseDoubleClickEvent(QMouseEvent* gebeurtenis) override;
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
+    void contextMenuEvent(QContextMenuEvent* gebeurtenis) override;
 
   private:
     [[nodiscard]] double X(double mm) const

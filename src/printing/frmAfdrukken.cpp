@@ -210,9 +210,11 @@ bool frmAfdrukken::Verwerk(const QKeyEvent& toets)
 void frmAfdrukken::Print()
 {
     const Bladindeling& indeling = lijst_.indeling;
+    const Tekst& groep = lijst_.groeptekst;
+    const Tekstblik code = CodeUit(groep);
     PrintBladen(
         administratie_.schijf,
-        {.titel = u"Ledenlijst "_s + NaarQString(CodeUit(lijst_.groeptekst)).left(4),
+        {.titel = u"Ledenlijst "_s + NaarQString(Groepnummer(code) > 0 ? code.substr(0, 4) : groep),
          .stand = indeling.papier.stand,
          .bezig = u"De bladen worden geprint"_s,
          .bladen = indeling.ToonbareBladen(),

@@ -23,10 +23,11 @@ Kolom PrintkolomOp(int plaats)
 
 frmPrintIni::frmPrintIni(Administratie& administratie, Tekst groeptekst,
                          const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder,
-                         const QLocale& getallen)
+                         const QLocale& getallen, std::optional<std::vector<int>> rijen)
     : QDialog(ouder), administratie_(administratie), groeptekst_(std::move(groeptekst)),
-      kolomnamen_(kolomnamen), getallen_(getallen),
-      subgroepen_(Printsubgroepen(administratie.spelers.tabel, CodeUit(groeptekst_)))
+      kolomnamen_(kolomnamen), getallen_(getallen), rijen_(std::move(rijen)),
+      subgroepen_(rijen_ ? Printsubgroepen(administratie.spelers.tabel, *rijen_)
+                         : Printsubgroepen(administratie.spelers.tabel, CodeUit(groeptekst_)))
 {
     Bouw();
     connect(lstKeus, &Regellijst::keuzeVeranderd, this, &frmPrintIni::PasAan);
@@ -153,7 +154,8 @@ Printopdracht frmPrintIni::Opdracht() const
     Printopdracht opdracht{.groepscode = Tekst(CodeUit(groeptekst_)),
                            .subgroepen = {},
                            .kolommen = {},
-                           .kolomnamen = kolomnamen_};
+                           .kolomnamen = kolomnamen_,
+                           .rijen = rijen_};
     for (const int plaats : lstNBBgr->GekozenPlaatsen())
         opdracht.subgroepen.push_back(subgroepen_[static_cast<std::size_t>(plaats)]);
     for (const int plaats : lstKeus->GekozenPlaatsen())

@@ -23,10 +23,12 @@ class frmPrintIni : public QDialog {
 
   public:
     /// `groeptekst` and `kolomnamen` are the group and the columns as the main window shows them;
-    /// the scales are written as `getallen` has it.
+    /// the scales are written as `getallen` has it. With `rijen` these players are printed, under
+    /// `groeptekst`.
     frmPrintIni(Administratie& administratie, Tekst groeptekst,
                 const std::array<Tekstblik, AantalKolommen>& kolomnamen, QWidget* ouder,
-                const QLocale& getallen = Getalnotatie());
+                const QLocale& getallen = Getalnotatie(),
+                std::optional<std::vector<int>> rijen = {});
 
   private:
     void Bouw();
@@ -43,6 +45,7 @@ class frmPrintIni : public QDialog {
     Tekst groeptekst_;
     std::array<Tekstblik, AantalKolommen> kolomnamen_;
     QLocale getallen_;
+    std::optional<std::vector<int>> rijen_;
     Letterkast kast_;
     int passend_ = -1; ///< the largest scale at which all columns come out, its place in the list
     std::vector<Tekst> subgroepen_; ///< as listed; none: the group is empty

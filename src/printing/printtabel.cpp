@@ -17,17 +17,27 @@ Tekstblik SubgroepVan(const Spelertabel& tabel, int rij)
     return IsBlanco(cel) ? GeenSubgroep : cel;
 }
 
+std::vector<int> Groepsrijen(const Spelertabel& tabel, Tekstblik groepscode)
+{
+    std::vector<int> rijen;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (tabel.Cel(rij, Kolom::Groep) == groepscode)
+            rijen.push_back(rij);
+    }
+    return rijen;
+}
+
 std::vector<int> RijenVan(const Spelertabel& tabel, const Printopdracht& opdracht)
 {
     Hekjestekst gekozen;
     for (const Tekst& subgroep : opdracht.subgroepen)
         gekozen.Voeg(Hoofdletters(subgroep));
-    std::vector<int> rijen;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) == opdracht.groepscode &&
-            (opdracht.subgroepen.empty() || gekozen.Bevat(Hoofdletters(SubgroepVan(tabel, rij)))))
-            rijen.push_back(rij);
-    }
+    std::vector<int> rijen =
+        opdracht.rijen ? *opdracht.rijen : Groepsrijen(tabel, opdracht.groepscode);
+    std::erase_if(rijen, [&](int rij) {
+        return !opdracht.subgroepen.empty() &&
+               !gekozen.Bevat(Hoofdletters(SubgroepVan(tabel, rij)));
+    });
     return rijen;
 }
 
@@ -53,11 +63,14 @@ std::vector<int> OpNaam(const Spelertabel& tabel, std::vector<int> rijen, Kolom 
 
 std::vector<Tekst> Printsubgroepen(const Spelertabel& tabel, Tekstblik groepscode)
 {
+    return Printsubgroepen(tabel, Groepsrijen(tabel, groepscode));
+}
+
+std::vector<Tekst> Printsubgroepen(const Spelertabel& tabel, const std::vector<int>& rijen)
+{
     Waardenlijst subgroepen;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (tabel.Cel(rij, Kolom::Groep) == groepscode)
-            subgroepen.Voeg(Tekst(SubgroepVan(tabel, rij)));
-    }
+    for (const int rij : rijen)
+        subgroepen.Voeg(Tekst(SubgroepVan(tabel, rij)));
     return subgroepen.Waarden();
 }
 

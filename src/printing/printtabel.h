@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "register/spelertabel.h"
@@ -16,6 +17,9 @@ inline constexpr Tekstblik GeenSubgroep = "GEEN";
 
 /// The distinct subgroups of the group's players, as the set-up lists them: a `Waardenlijst`.
 [[nodiscard]] std::vector<Tekst> Printsubgroepen(const Spelertabel& tabel, Tekstblik groepscode);
+/// The same of these players.
+[[nodiscard]] std::vector<Tekst> Printsubgroepen(const Spelertabel& tabel,
+                                                 const std::vector<int>& rijen);
 
 /// "Subgroep(en): " and the subgroups as listed, joined by " + "; empty without any.
 [[nodiscard]] Tekst Subgroepkop(const std::vector<Tekst>& subgroepen);
@@ -51,6 +55,7 @@ struct Printopdracht {
     std::vector<Tekst> subgroepen{};
     std::vector<Kolom> kolommen{};                                 ///< in list order
     std::array<Tekstblik, AantalKolommen> kolomnamen = Kolomnamen; ///< as the group shows them
+    std::optional<std::vector<int>> rijen{}; ///< these players, whatever their group
 };
 
 /// Sorted by surname when a column of that name is among the chosen ones, players with the same

@@ -22,6 +22,14 @@ bool HeeftGroepscode(Tekstblik item)
 
 } // namespace
 
+int Groepnummer(Tekstblik code)
+{
+    int nummer = AantalGroepen;
+    while (nummer > 0 && Groepscode(nummer) != code)
+        --nummer;
+    return nummer;
+}
+
 void Groepen::ZetNaam(int nummer, Tekstblik naam)
 {
     namen_.at(Index(nummer)) = AlsVeld(naam);

@@ -26,6 +26,9 @@ inline constexpr std::size_t LengteGroepscode = 5;
     return tekst.substr(0, LengteGroepscode);
 }
 
+/// The number of the group with that code; 0 when it is none of the fifty.
+[[nodiscard]] int Groepnummer(Tekstblik code);
+
 class Groepen {
   public:
     /// `nummer` counts from 1.

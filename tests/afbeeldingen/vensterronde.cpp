@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QTimer>
 
 #include <algorithm>
@@ -16,6 +17,7 @@
 #include "dialogs/diaToevoegen.h"
 #include "dialogs/diaVerplaats.h"
 #include "dialogs/frmTerugzetten.h"
+#include "dialogs/frmVeld.h"
 #include "dialogs/frmVergelijk.h"
 #include "dialogs/frmVerwSubgroep.h"
 #include "federation/diaControleNBB.h"
@@ -124,6 +126,15 @@ void NeemTerugzetten(const Bezoek& bezoek, QWidget& hoofdvenster, Administratie&
     }
     bezoek(venster);
     spelers = zoalsHetWas;
+}
+
+/// The main window with what was found in it.
+void NeemZoeken(const Bezoek& bezoek, QWidget& hoofdvenster)
+{
+    auto* vak = hoofdvenster.findChild<QLineEdit*>(u"txtZoek"_s);
+    vak->setText(u"jan 06"_s);
+    bezoek(hoofdvenster);
+    vak->clear();
 }
 
 /// The sample exports, where the suite has them.
@@ -306,7 +317,10 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
             dialoog->reject();
     });
     antwoord.start(std::chrono::milliseconds(50));
+    NeemZoeken(bezoek, hoofdvenster);
     bezoek(hoofdvenster);
+    Neem(bezoek, frmVeld(administratie, {3, 4, 5}, Gekozenwerk::Verplaatsen, &hoofdvenster));
+    Neem(bezoek, frmVeld(administratie, {3, 4, 5}, Gekozenwerk::Wijzigen, &hoofdvenster));
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;
     Neem(bezoek, diaIngave(

@@ -259,3 +259,27 @@ TEST(Subgroep, MetSpatiesEromheenHoortDeSpelerErNietBij)
     EXPECT_EQ(std::vector{3}, RijenVanSubgroep(tabel, "Gr01-", "x"));
     EXPECT_EQ(std::vector<int>(), RijenVanSubgroep(tabel, "Gr01-", "geen"));
 }
+
+TEST(Veldopdracht, NoemtWieEenAndereTekstKrijgtZoalsDeIngaveDieMaakt)
+{
+    Spelertabel tabel = VierSpelers();
+    const auto maak = [&](Kolom veld, Tekstblik waarde) {
+        return MaakVeldopdracht(tabel, {1, 2, 3, 4}, veld, waarde, "Gr05-");
+    };
+    const Veldopdracht subgroep = maak(Kolom::NBBgr, "dins,dag");
+    EXPECT_EQ("DINS_DAG", subgroep.nieuw);
+    EXPECT_EQ((std::vector{1, 2, 3, 4}), subgroep.rijen);
+    EXPECT_EQ((std::vector{1, 3, 4}), maak(Kolom::NBBgr, "DINSDAG").rijen);
+    EXPECT_EQ((std::vector{1, 3, 4}),
+              maak(Kolom::Groep, "Gr07-").rijen); // not out of the import group
+    EXPECT_EQ((std::vector{3}), maak(Kolom::Groep, "Gr01-").rijen);
+    EXPECT_EQ((std::vector{2}), maak(Kolom::NBBnr, "").rijen);
+    EXPECT_TRUE(maak(Kolom::Achternaam, " ").rijen.empty());
+    EXPECT_EQ((std::vector{1, 2, 3}), maak(Kolom::Achternaam, "Eik").rijen);
+
+    std::vector<Rijvelden> moet = AlleRijen(tabel);
+    VoerUit(tabel, maak(Kolom::NBBgr, "DINSDAG"));
+    for (const std::size_t rij : {0U, 2U, 3U})
+        moet[rij][16] = "DINSDAG";
+    EXPECT_EQ(moet, AlleRijen(tabel));
+}

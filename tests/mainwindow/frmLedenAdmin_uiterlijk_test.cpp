@@ -150,7 +150,8 @@ TEST_F(UiterlijkTest, NietsIsAfgekniptMetGrotereLetters)
         QApplication::processEvents();
         // As small as it may be without scrolling.
         venster->resize(Vind<QScrollArea>(*venster, "schuifblad")->widget()->minimumSizeHint() +
-                        QSize(0, venster->height() - venster->centralWidget()->height()));
+                        QSize(0, venster->height() - venster->centralWidget()->height() +
+                                     Deel("picZoek")->height()));
         QApplication::processEvents();
         VerwachtNietsAfgeknipt();
         VerwachtNetjesNaastElkaar();
@@ -190,6 +191,6 @@ TEST_F(UiterlijkTest, TabGaatLangsElkeOpdrachtZoalsHetOogLeest)
               "cmdVerwijder cmbVerwVan cmbVerwTot cmdVerwijderVT cmdVerwGroep cmdSortlijst1 "
               "cmdSortlijst2 cmdSortlijst3 chkToonAlle cmdZoekDubbeleNamen cmdHaalNBBnamen "
               "cmdKoppel cmdToonGatenlijst cmdSpToevoegen cmdParenOnderhoud cmdPrint "
-              "cmdToelichting cmdMaakScripts cmdEinde",
+              "cmdToelichting cmdMaakScripts cmdEinde txtZoek",
               bereikt.join(u' ').toStdString());
 }

@@ -155,3 +155,15 @@ TEST(Printtabel, EenLegeGroepHeeftGeenRijen)
 {
     EXPECT_TRUE(Voornamen(MaakTabel({{"1", "Gr02-", "An", "", "Bos", "", ""}})).empty());
 }
+
+TEST(Printtabel, GekozenSpelersVanWelkeGroepOok)
+{
+    const Spelertabel tabel = Voorbeeld();
+    const std::vector<int> rijen{2, 3, 5};
+    EXPECT_EQ((std::vector<Tekst>{"DINSDAG", "GEEN", "a-LIJN"}), Printsubgroepen(tabel, rijen));
+    Printopdracht opdracht{
+        .groepscode = "Gr01-", .kolommen = {Kolom::Voornaam, Kolom::Achternaam}, .rijen = rijen};
+    EXPECT_EQ((std::vector{5, 3, 2}), MaakPrinttabel(tabel, opdracht).rijen);
+    opdracht.subgroepen = {"DINSDAG"};
+    EXPECT_EQ(std::vector{2}, MaakPrinttabel(tabel, opdracht).rijen);
+}

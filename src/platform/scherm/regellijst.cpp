@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <numeric>
@@ -57,6 +58,30 @@ class Regeltekenaar : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
 
     void ZetBreed(int breed) { breed_ = breed; }
+    void ZetMerken(std::function<Regellijst::Merken(int)> merken) { merken_ = std::move(merken); }
+
+    void paint(QPainter* schilder, const QStyleOptionViewItem& gegeven,
+               const QModelIndex& plaats) const override
+    {
+        if (!merken_) {
+            QStyledItemDelegate::paint(schilder, gegeven, plaats);
+            return;
+        }
+        QStyleOptionViewItem optie = gegeven;
+        initStyleOption(&optie, plaats);
+        const QString tekst = std::exchange(optie.text, QString());
+        optie.widget->style()->drawControl(QStyle::CE_ItemViewItem, &optie, schilder, optie.widget);
+        const bool gekozen = optie.state.testFlag(QStyle::State_Selected);
+        schilder->setPen(optie.palette.color(gekozen ? QPalette::HighlightedText : QPalette::Text));
+        QTextLayout beeld(tekst, optie.font);
+        beeld.setFormats(Opmaak(merken_(plaats.row()), tekst.size()));
+        beeld.beginLayout();
+        QTextLine regel = beeld.createLine();
+        regel.setNumColumns(static_cast<int>(tekst.size())); // all of it
+        beeld.endLayout();
+        const double boven = (optie.rect.height() - regel.height()) / 2;
+        beeld.draw(schilder, optie.rect.topLeft() + QPointF(Marge, boven));
+    }
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& optie,
                                  const QModelIndex& /*plaats*/) const override
@@ -73,7 +98,26 @@ class Regeltekenaar : public QStyledItemDelegate {
     }
 
   private:
+    /// Black on yellow and underlined: to be read on any ground, and without seeing colours.
+    static QList<QTextLayout::FormatRange> Opmaak(const Regellijst::Merken& merken,
+                                                  qsizetype lengte)
+    {
+        QTextLayout::FormatRange deel;
+        deel.format.setBackground(QColor(255, 224, 102));
+        deel.format.setForeground(Qt::black);
+        deel.format.setFontUnderline(true);
+        QList<QTextLayout::FormatRange> delen;
+        for (const auto& [begin, lang] : merken) {
+            deel.start = static_cast<int>(begin);
+            deel.length = static_cast<int>(lang);
+            if (deel.start < lengte)
+                delen << deel;
+        }
+        return delen;
+    }
+
     int breed_ = 1;
+    std::function<Regellijst::Merken(int)> merken_;
 };
 
 } // namespace
@@ -88,11 +132,16 @@ Regellijst::Regellijst(SelectionMode hoeveel, const QString& naam, const QString
     setSelectionMode(hoeveel);
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
-    if (hoeveel == MultiSelection)
+    if (hoeveel != SingleSelection)
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Regellijst::keuzeVeranderd);
     LaatKopieren(this, [this] { return Kopieertekst(); });
+}
+
+void Regellijst::ZetMerken(std::function<Merken(int)> merken)
+{
+    static_cast<Regeltekenaar*>(itemDelegate())->ZetMerken(std::move(merken));
 }
 
 QVariant Regellijst::Zegt(int plaats, int rol) const
@@ -105,8 +154,12 @@ QVariant Regellijst::Zegt(int plaats, int rol) const
     const QString zichtbaar = Zichtbaar(regel);
     if (rol == Qt::AccessibleTextRole)
         return zichtbaar;
-    const bool past = fontMetrics().horizontalAdvance(zichtbaar) + 2 * Marge <= viewport()->width();
-    return past ? QVariant() : Wenk(zichtbaar);
+    return Past(zichtbaar) ? QVariant() : Wenk(zichtbaar);
+}
+
+bool Regellijst::Past(const QString& regel) const
+{
+    return fontMetrics().horizontalAdvance(regel) + 2 * Marge <= viewport()->width();
 }
 
 void Regellijst::Vul(int aantal, std::function<Tekst(int)> regel, Plek plek)
@@ -198,7 +251,11 @@ void Regellijst::selectAll()
 
 void Regellijst::ZetHuidige(int plaats)
 {
-    setCurrentIndex(model()->index(plaats, 0));
+    // Whatever keys are down.
+    selectionModel()->setCurrentIndex(model()->index(plaats, 0),
+                                      selectionMode() == MultiSelection
+                                          ? QItemSelectionModel::NoUpdate
+                                          : QItemSelectionModel::ClearAndSelect);
     scrollTo(currentIndex());
 }
 
@@ -208,7 +265,7 @@ QItemSelectionModel::SelectionFlags Regellijst::selectionCommand(const QModelInd
                                                                  const QEvent* gebeurtenis) const
 {
     const QEvent::Type soort = gebeurtenis == nullptr ? QEvent::None : gebeurtenis->type();
-    if (selectionMode() == SingleSelection || soort == QEvent::MouseButtonRelease)
+    if (selectionMode() != MultiSelection || soort == QEvent::MouseButtonRelease)
         return QListView::selectionCommand(plaats, gebeurtenis);
     if (soort == QEvent::None)
         return QItemSelectionModel::NoUpdate;
@@ -223,7 +280,7 @@ QItemSelectionModel::SelectionFlags Regellijst::selectionCommand(const QModelInd
 /// Where clicks choose and let go, the second of two quick ones is a click like the first.
 void Regellijst::mouseDoubleClickEvent(QMouseEvent* gebeurtenis)
 {
-    if (selectionMode() == SingleSelection) {
+    if (selectionMode() != MultiSelection) {
         QListView::mouseDoubleClickEvent(gebeurtenis);
         return;
     }

@@ -2,8 +2,9 @@
 // that assistive programs know it.
 //
 // Where any number can be chosen, a click or the space bar chooses a line or lets it go; dragging
-// and Shift do the same for many, Ctrl+A chooses all. Typing goes to the next line that begins with
-// what was typed, or whose name does, without regard to case or accent.
+// and Shift do the same for many, Ctrl+A chooses all. Where they are chosen as a file manager does,
+// a click chooses one line alone, and Ctrl and Shift others besides. Typing goes to the next line
+// that begins with what was typed, or whose name does, without regard to case or accent.
 //
 // What follows sixty spaces in a line belongs to it but is not shown.
 //
@@ -15,6 +16,7 @@
 #include <QListView>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "platform/tekst/tekst.h"
@@ -25,13 +27,17 @@ class Regellijst : public QListView {
     Q_OBJECT
 
   public:
-    /// `hoeveel` can be chosen: `SingleSelection` or `MultiSelection`. A line that is too long is
-    /// shortened in the latter and scrolls in the former.
+    /// `hoeveel` can be chosen: `SingleSelection`, `MultiSelection` or `ExtendedSelection`. A line
+    /// that is too long scrolls in the first and is shortened in the others.
     Regellijst(SelectionMode hoeveel, const QString& naam, const QString& gesproken,
                QWidget* ouder);
 
     /// Where the name begins in a line without a tab, behind which it begins otherwise.
     void ZetNaamVanaf(std::size_t plek) { naamVanaf_ = plek; }
+
+    /// Begin and length of the parts of a line that stand out.
+    using Merken = std::vector<std::pair<std::size_t, std::size_t>>;
+    void ZetMerken(std::function<Merken(int plaats)> merken);
 
     enum class Plek { Begin, Behouden };
     /// Fills the list anew; nothing is chosen. With `Behouden` the lines on the screen stay where
@@ -39,6 +45,8 @@ class Regellijst : public QListView {
     void Vul(int aantal, std::function<Tekst(int plaats)> regel, Plek plek = Plek::Begin);
     [[nodiscard]] int Aantal() const { return model()->rowCount(); }
     [[nodiscard]] Tekst Regel(int plaats) const { return regel_(plaats); }
+    /// Whether a line can be seen whole.
+    [[nodiscard]] bool Past(const QString& regel) const;
 
     [[nodiscard]] bool IetsGekozen() const { return selectionModel()->hasSelection(); }
     /// The chosen line of a list with one; -1 when none is.

@@ -1,5 +1,5 @@
 // What assistive programs see of a `Tabelvlak`: a table with a header and cells, which come into
-// being when they are asked for, and the chosen line as its selection.
+// being when they are asked for, and the chosen lines as its selection.
 #include <QAccessibleWidget>
 
 #include "platform/scherm/tabelvlak.h"
@@ -51,7 +51,7 @@ class Celspreker : public QAccessibleInterface, public QAccessibleTableCellInter
         stand.offscreen = !vlak_.rect().intersects(vlak_.Plek(Regel(), columnIndex()));
         stand.selectable = stand.focusable = !IsKop();
         stand.selected = isSelected();
-        stand.focused = isSelected() && vlak_.hasFocus();
+        stand.focused = !IsKop() && Regel() == vlak_.Regel() && vlak_.hasFocus();
         return stand;
     }
     void* interface_cast(QAccessible::InterfaceType soort) override
@@ -61,7 +61,7 @@ class Celspreker : public QAccessibleInterface, public QAccessibleTableCellInter
     }
 
     // A cell of a table
-    [[nodiscard]] bool isSelected() const override { return !IsKop() && Regel() == vlak_.Regel(); }
+    [[nodiscard]] bool isSelected() const override { return vlak_.IsGekozen(Regel()); }
     [[nodiscard]] int columnIndex() const override { return plaats_ % vlak_.Kolommen(); }
     [[nodiscard]] int rowIndex() const override { return Regel() - 1; }
     [[nodiscard]] int columnExtent() const override { return 1; }
@@ -145,7 +145,10 @@ class Tabelspreker : public QAccessibleWidget, public QAccessibleTableInterface 
         return kolom < vlak_.Kolommen() && kop != nullptr ? kop->text(QAccessible::Name)
                                                           : QString();
     }
-    [[nodiscard]] int selectedRowCount() const override { return vlak_.Regel() > 0 ? 1 : 0; }
+    [[nodiscard]] int selectedRowCount() const override
+    {
+        return static_cast<int>(vlak_.Gekozen().size());
+    }
     [[nodiscard]] int selectedColumnCount() const override { return 0; }
     [[nodiscard]] int selectedCellCount() const override
     {
@@ -154,19 +157,24 @@ class Tabelspreker : public QAccessibleWidget, public QAccessibleTableInterface 
     [[nodiscard]] QList<int> selectedColumns() const override { return {}; }
     [[nodiscard]] QList<int> selectedRows() const override
     {
-        return vlak_.Regel() > 0 ? QList<int>{vlak_.Regel() - 1} : QList<int>();
+        QList<int> rijen;
+        for (const int regel : vlak_.Gekozen())
+            rijen << regel - 1;
+        return rijen;
     }
     [[nodiscard]] QList<QAccessibleInterface*> selectedCells() const override
     {
         QList<QAccessibleInterface*> cellen;
-        for (int kolom = 0; kolom < selectedCellCount(); ++kolom)
-            cellen << cellAt(vlak_.Regel() - 1, kolom);
+        for (const int regel : vlak_.Gekozen()) {
+            for (int kolom = 0; kolom < vlak_.Kolommen(); ++kolom)
+                cellen << cellAt(regel - 1, kolom);
+        }
         return cellen;
     }
     [[nodiscard]] bool isColumnSelected(int) const override { return false; }
     [[nodiscard]] bool isRowSelected(int rij) const override
     {
-        return rij >= 0 && rij == vlak_.Regel() - 1;
+        return rij >= 0 && vlak_.IsGekozen(rij + 1);
     }
     bool selectRow(int rij) override
     {
@@ -179,7 +187,9 @@ class Tabelspreker : public QAccessibleWidget, public QAccessibleTableInterface 
     {
         if (!isRowSelected(rij))
             return false;
-        vlak_.KiesRegel(0);
+        std::vector<int> rest = vlak_.Gekozen();
+        std::erase(rest, rij + 1);
+        vlak_.Kies(rest.empty() ? 0 : rest.front(), rest);
         return true;
     }
     bool selectColumn(int) override { return false; }
@@ -219,7 +229,7 @@ void Tabelvlak::MeldKeus()
             gebeurtenis.setChild(regel_ * Kolommen());
         QAccessible::updateAccessibility(&gebeurtenis);
     };
-    meld(QAccessible::Selection);
+    meld(IsMeer() ? QAccessible::SelectionWithin : QAccessible::Selection);
     if (hasFocus())
         meld(QAccessible::Focus);
 }

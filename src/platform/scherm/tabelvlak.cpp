@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <numeric>
 
 #include "platform/scherm/bouwstenen.h"
 
@@ -50,7 +51,14 @@ std::pair<int, int> Tabelvlak::RegelsIn(const QRect& deel) const
 
 void Tabelvlak::KiesRegel(int regel)
 {
+    anker_ = regel;
+    Kies(regel, std::vector<int>(regel > 0 ? 1 : 0, regel));
+}
+
+void Tabelvlak::Kies(int regel, std::vector<int> gekozen)
+{
     regel_ = regel;
+    gekozen_ = std::move(gekozen);
     if (regel > 0) {
         laatsteRegel_ = regel;
         BrengInBeeld(regel);
@@ -59,6 +67,29 @@ void Tabelvlak::KiesRegel(int regel)
     Beschrijf();
     MeldKeus();
     emit keuzeVeranderd();
+}
+
+void Tabelvlak::KiesTot(int regel)
+{
+    if (anker_ == 0)
+        anker_ = regel_ > 0 ? regel_ : regel;
+    const auto [van, tot] = std::minmax(anker_, regel);
+    std::vector<int> reeks(static_cast<std::size_t>(tot - van + 1));
+    std::iota(reeks.begin(), reeks.end(), van);
+    Kies(regel, std::move(reeks));
+}
+
+/// Chooses a line besides the others, or lets it go.
+void Tabelvlak::Wissel(int regel)
+{
+    std::vector<int> gekozen = gekozen_;
+    const auto plek = std::lower_bound(gekozen.begin(), gekozen.end(), regel);
+    if (IsGekozen(regel))
+        gekozen.erase(plek);
+    else
+        gekozen.insert(plek, regel);
+    anker_ = regel;
+    Kies(regel, std::move(gekozen));
 }
 
 void Tabelvlak::BrengInBeeld(int regel)
@@ -98,13 +129,32 @@ int Tabelvlak::Doelregel(int toets) const
     }
 }
 
-bool Tabelvlak::KiesMet(int toets)
+/// With Ctrl the current line moves and the choice stays; Ctrl+Space changes that.
+bool Tabelvlak::KiesMet(int toets, Qt::KeyboardModifiers bij)
 {
+    const bool ctrl = meerkeus_ && bij.testFlag(Qt::ControlModifier);
+    if (ctrl && regel_ > 0 && toets == Qt::Key_Space) {
+        Wissel(regel_);
+        return true;
+    }
+    if (ctrl && Regels() > 0 && toets == Qt::Key_A) {
+        std::vector<int> alle(static_cast<std::size_t>(Regels()));
+        std::iota(alle.begin(), alle.end(), 1);
+        Kies(std::max(regel_, 1), std::move(alle));
+        return true;
+    }
     const int doel = Doelregel(toets);
     if (doel == INT_MIN)
         return VerschuifOpzij(kader_.Liggend(), toets);
-    if (Regels() > 0)
-        KiesRegel(std::clamp(doel, 1, Regels()));
+    if (Regels() == 0)
+        return true;
+    const int regel = std::clamp(doel, 1, Regels());
+    if (meerkeus_ && bij.testFlag(Qt::ShiftModifier))
+        KiesTot(regel);
+    else if (ctrl)
+        Kies(regel, gekozen_);
+    else
+        KiesRegel(regel);
     return true;
 }
 
@@ -139,8 +189,18 @@ QString Tabelvlak::TeLangeTekst(QPoint plek) const
 
 void Tabelvlak::mousePressEvent(QMouseEvent* gebeurtenis)
 {
-    if (gebeurtenis->button() == Qt::LeftButton)
-        KiesRegel(RegelOp(gebeurtenis->position().y()));
+    if (gebeurtenis->button() != Qt::LeftButton)
+        return;
+    const int regel = RegelOp(gebeurtenis->position().y());
+    const auto bij = [&](Qt::KeyboardModifier toets) {
+        return meerkeus_ && regel > 0 && gebeurtenis->modifiers().testFlag(toets);
+    };
+    if (bij(Qt::ShiftModifier))
+        KiesTot(regel);
+    else if (bij(Qt::ControlModifier))
+        Wissel(regel);
+    else
+        KiesRegel(regel);
 }
 
 void Tabelvlak::TekenKeus(QPainter& schilder, int lijn) const
@@ -160,7 +220,7 @@ void Tabelvlak::TekenFocus(QPainter& schilder) const
     schilder.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-/// Screen readers read the description of the surface: the chosen line, column by column.
+/// Screen readers read the description of the surface: the current line, column by column.
 void Tabelvlak::Beschrijf()
 {
     QString tekst = u"Geen regel gekozen"_s;
@@ -172,6 +232,8 @@ void Tabelvlak::Beschrijf()
                 tekst += u", %1 %2"_s.arg(Celtekst(0, kolom), cel);
         }
     }
+    if (IsMeer())
+        tekst += u", gekozen regels: %1"_s.arg(gekozen_.size());
     setAccessibleDescription(tekst);
 }
 

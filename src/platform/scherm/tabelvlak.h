@@ -1,5 +1,5 @@
-// A table that is painted line by line in a frame that scrolls. It knows its chosen line, the keys
-// that move it, and tells assistive programs what stands in it.
+// A table that is painted line by line in a frame that scrolls. It knows its current line and those
+// that are chosen, the keys that change them, and tells assistive programs what stands in it.
 //
 // Lines count from 1; line 0 is the header, or no line at all. Columns count from 0. Heights and
 // widths are pixels of the surface as it is scrolled now.
@@ -7,7 +7,9 @@
 
 #include <QWidget>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "platform/scherm/schuifblad.h"
 
@@ -36,13 +38,26 @@ class Tabelvlak : public QWidget {
     [[nodiscard]] int RegelOp(double y) const;
 
     [[nodiscard]] int Regel() const { return regel_; }
-    /// Shows and speaks the choice; 0 for none.
-    virtual void KiesRegel(int regel);
+    /// In order. The current line alone, but where more can be chosen.
+    [[nodiscard]] const std::vector<int>& Gekozen() const { return gekozen_; }
+    [[nodiscard]] bool IsGekozen(int regel) const
+    {
+        return std::binary_search(gekozen_.begin(), gekozen_.end(), regel);
+    }
+    /// Whether the choice is anything else than the current line.
+    [[nodiscard]] bool IsMeer() const
+    {
+        return gekozen_.size() > 1 || (regel_ > 0 && !IsGekozen(regel_));
+    }
+    /// Chooses this line alone; 0 for none.
+    void KiesRegel(int regel);
+    /// Shows and speaks the current line and the choice, which is in order.
+    virtual void Kies(int regel, std::vector<int> gekozen);
     void BrengInBeeld(int regel);
     /// Tells assistive programs that other lines are shown.
     void MeldAndereRegels();
     /// When the key is one that moves the choice or scrolls sideways, it does so.
-    bool KiesMet(int toets);
+    bool KiesMet(int toets, Qt::KeyboardModifiers bij = {});
     /// The same for a list that is there to be read: the lines scroll along with the choice.
     bool LeesMet(int toets);
 
@@ -50,6 +65,8 @@ class Tabelvlak : public QWidget {
     void keuzeVeranderd();
 
   protected:
+    /// From now on Shift and Ctrl choose more than one line.
+    void ZetMeerkeus() { meerkeus_ = true; }
     /// A text that does not fit its column can be read in a tool tip.
     bool event(QEvent* gebeurtenis) override;
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
@@ -65,6 +82,8 @@ class Tabelvlak : public QWidget {
 
   private:
     [[nodiscard]] int Doelregel(int toets) const;
+    void KiesTot(int regel);
+    void Wissel(int regel);
     [[nodiscard]] QString TeLangeTekst(QPoint plek) const;
     void Beschrijf();
     // For assistive programs (tabelspreker.cpp)
@@ -73,7 +92,10 @@ class Tabelvlak : public QWidget {
 
     const Schuifkader& kader_;
     double pixelsPerStand_;
+    bool meerkeus_ = false;
     int regel_ = 0;
+    std::vector<int> gekozen_;
+    int anker_ = 0;        ///< from where Shift chooses
     int laatsteRegel_ = 0; ///< where the arrows go on when nothing is chosen any more
 };
 

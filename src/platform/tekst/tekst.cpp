@@ -52,7 +52,8 @@ template <class Int> std::optional<Int> Passend(Tekstblik tekst)
     return static_cast<Int>(*waarde);
 }
 
-/// The letters that a character counts as; empty for what is none.
+} // namespace
+
 Tekst Letters(char teken)
 {
     /// The plain capitals that 0xC0 to 0xDD count as; a blank where they are none, or two.
@@ -70,8 +71,6 @@ Tekst Letters(char teken)
     const char letter = na < kaleHoofdletters.size() ? kaleHoofdletters[na] : hoofdletter;
     return letter >= 'A' && letter <= 'Z' ? Tekst(1, letter) : Tekst();
 }
-
-} // namespace
 
 char Hoofdletter(char teken)
 {

@@ -58,6 +58,10 @@ void VoegVeldToe(Tekst& uit, Tekstblik tekst);
 /// zeros. Nothing for any other text.
 [[nodiscard]] std::optional<Tekst> AlsGetal(Tekstblik tekst, std::size_t breedte);
 
+/// The plain capitals, one or two, that a letter counts as in the text order; empty for what is no
+/// letter.
+[[nodiscard]] Tekst Letters(char teken);
+
 // The one text order of the house, the same on every system: character by character, blank before
 // other signs (by code) before digits before letters; letters without regard to case or accent (Æ
 // as AE, Œ as OE, ß as SS, Ø as O, Þ as TH). Texts that are equal so far are ordered by their

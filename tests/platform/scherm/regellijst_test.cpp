@@ -431,3 +431,63 @@ TEST_F(Eenkeuze, EenLangeRegelSchuiftOpzijZoBreedAlsHijIs)
     const int breed = lijst.fontMetrics().horizontalAdvance(NaarQString(regel));
     EXPECT_GE(lijst.horizontalScrollBar()->maximum(), breed - lijst.viewport()->width());
 }
+
+// ---- As a file manager chooses ------------------------------------------------------------------
+
+TEST(Uitgebreidekeuze, EenKlikKiestEenRegelEnCtrlShiftEnCtrlAMeer)
+{
+    Regellijst lijst(QListView::ExtendedSelection, u"lijst"_s, u"Lijst"_s, nullptr);
+    lijst.resize(300, 400);
+    lijst.Vul(10, [](int plaats) { return "regel " + std::to_string(plaats); });
+    lijst.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&lijst));
+    const auto klik = [&](int plaats, Qt::KeyboardModifiers bij = {}) {
+        QTest::mouseClick(lijst.viewport(), Qt::LeftButton, bij,
+                          lijst.visualRect(lijst.model()->index(plaats, 0)).center());
+    };
+    klik(2);
+    klik(4);
+    EXPECT_EQ(Plaatsen{4}, lijst.GekozenPlaatsen());
+    klik(6, Qt::ShiftModifier);
+    klik(1, Qt::ControlModifier);
+    EXPECT_EQ((Plaatsen{1, 4, 5, 6}), lijst.GekozenPlaatsen());
+    QTest::keyClick(&lijst, Qt::Key_Down);
+    EXPECT_EQ(Plaatsen{2}, lijst.GekozenPlaatsen());
+    QTest::keyClick(&lijst, Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(8U, lijst.GekozenPlaatsen().size());
+    QTest::keyClick(&lijst, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(10U, lijst.GekozenPlaatsen().size());
+    lijst.ZetHuidige(3);
+    EXPECT_EQ(Plaatsen{3}, lijst.GekozenPlaatsen());
+}
+
+TEST(Uitgebreidekeuze, WatGemerktIsStaatOpEenEigenGrond)
+{
+    Regellijst lijst(QListView::ExtendedSelection, u"lijst"_s, u"Lijst"_s, nullptr);
+    lijst.resize(300, 100);
+    lijst.Vul(2, [](int) { return Tekst("iiiiiiiiWWWWiiii"); });
+    const auto geel = [&](int plaats) {
+        const QImage beeld = lijst.viewport()->grab().toImage();
+        const QRect deel = lijst.visualRect(lijst.model()->index(plaats, 0));
+        QRect uit;
+        for (int y = deel.top(); y <= deel.bottom(); ++y) {
+            for (int x = deel.left(); x < beeld.width(); ++x) {
+                if (beeld.pixelColor(x, y) == QColor(255, 224, 102))
+                    uit |= QRect(x, y, 1, 1);
+            }
+        }
+        return uit;
+    };
+    lijst.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&lijst));
+    EXPECT_TRUE(geel(0).isEmpty());
+    lijst.ZetMerken([](int plaats) {
+        return plaats == 0 ? Regellijst::Merken{{8, 4}} : Regellijst::Merken{{0, 1}, {900, 4}};
+    });
+    lijst.ZetHuidige(0);
+    const QFontMetrics maten(lijst.font());
+    EXPECT_NEAR(maten.horizontalAdvance(u"iiiiiiii"_s), geel(0).left(), 8);
+    EXPECT_NEAR(maten.horizontalAdvance(u"WWWW"_s), geel(0).width(), 4);
+    EXPECT_LE(geel(1).width(), maten.horizontalAdvance(u'i') + 2);
+    EXPECT_FALSE(geel(1).isEmpty());
+}

@@ -1,0 +1,203 @@
+// Finding players in all groups, and what is done with all that are chosen, in the grid or in the
+// list of who was found.
+#include <QMenu>
+#include <QShortcut>
+#include <QStackedLayout>
+
+#include <algorithm>
+
+#include "mainwindow/frmLedenAdmin.h"
+#include "platform/scherm/berichten.h"
+#include "printing/frmPrintIni.h"
+
+namespace plexoran {
+
+void frmLedenAdmin::BouwGekozenmenu()
+{
+    mnuGekozen = new QMenu(u"Gekozen spelers"_s, this);
+    mnuGekozen->setObjectName(u"mnuGekozen"_s);
+    const auto actie = [this](const QString& naam, const QString& tekst, auto doe) {
+        mnuGekozen->addAction(tekst, this, doe)->setObjectName(naam);
+    };
+    actie(u"actWijzigGekozen"_s, u"&Wijzigen..."_s, [this] {
+        if (BrengInRooster())
+            Wijzig();
+    });
+    actie(u"actVeldGekozen"_s, u"&Een veld wijzigen..."_s,
+          [this] { DoeGekozen(Gekozenwerk::Wijzigen); });
+    actie(u"actVerplaatsGekozen"_s, u"Ver&plaatsen..."_s,
+          [this] { DoeGekozen(Gekozenwerk::Verplaatsen); });
+    actie(u"actKopieerGekozen"_s, u"&Kopiëren..."_s, [this] { DoeGekozen(Gekozenwerk::Kopieren); });
+    actie(u"actPrintGekozen"_s, u"P&rinten..."_s, &frmLedenAdmin::PrintGekozen);
+    actie(u"actVerwijderGekozen"_s, u"&Verwijderen..."_s, &frmLedenAdmin::VerwijderGekozen);
+    mnuGekozen->addSeparator();
+    actie(u"actGeschiedenisGekozen"_s, u"&Geschiedenis van deze speler..."_s, [this] {
+        if (BrengInRooster())
+            ToonSpeler();
+    });
+    // Not by a loop of their own: it would keep what other programs did from being seen.
+    Roostervlak* vlak = picP0->Vlak();
+    connect(vlak, &Roostervlak::menuGevraagd, this, [this, vlak](QPoint plek) {
+        vlak->setFocus();
+        mnuGekozen->popup(plek);
+    });
+    Regellijst* lijst = picZoek->Lijst();
+    lijst->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(lijst, &QWidget::customContextMenuRequested, this, [this, lijst](QPoint plek) {
+        lijst->setFocus();
+        mnuGekozen->popup(lijst->viewport()->mapToGlobal(plek));
+    });
+
+    connect(picZoek, &Zoekbalk::opengegaan, this, &frmLedenAdmin::OpenZoeken);
+    connect(picZoek, &Zoekbalk::aangeklikt, this, &frmLedenAdmin::GaNaar);
+    connect(picZoek, &Zoekbalk::gevraagd, this, [this, vlak](int rij, bool ctrl) {
+        if (!GaNaar(rij))
+            return;
+        if (ctrl)
+            Wijzig();
+        else
+            vlak->setFocus();
+    });
+    terug_ = new QShortcut(Qt::Key_Escape, this);
+    terug_->setEnabled(false);
+    connect(terug_, &QShortcut::activated, this, [this] {
+        picP0->Vlak()->setFocus();
+        ZetPlek(std::move(vanwaar_));
+        picZoek->Leeg();
+    });
+}
+
+void frmLedenAdmin::OpenZoeken(bool open)
+{
+    if (open)
+        vanwaar_ = NeemPlek();
+    onderblad_->setCurrentIndex(open ? 1 : 0);
+    knoppen_->setVisible(open || actKnoppen->isChecked());
+    terug_->setEnabled(open);
+}
+
+/// False when he is in a group that is none of the fifty, after saying so.
+bool frmLedenAdmin::GaNaar(int rij)
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    const int groep = Groepnummer(tabel.Cel(rij, Kolom::Groep));
+    if (groep == 0) {
+        Meld(this, QMessageBox::Warning,
+             u"%1 staat in groep '%2', die niet bestaat, en is daarom niet te tonen. Er is niets "
+             "veranderd. Met 'Controle van de administratie' is dat te herstellen."_s.arg(
+                 NaarQString(VolleNaam(tabel, rij)), NaarQString(tabel.Cel(rij, Kolom::Groep))));
+        return false;
+    }
+    if (cmbGr->currentIndex() != groep - 1)
+        KiesGroep(groep - 1);
+    Roostervlak& vlak = *picP0->Vlak();
+    const auto plek = std::ranges::find(vlak.Rijen(), rij);
+    vlak.KiesRegel(static_cast<int>(plek - vlak.Rijen().begin()) + 1);
+    return true;
+}
+
+frmLedenAdmin::Roosterplek frmLedenAdmin::NeemPlek() const
+{
+    const Roostervlak& vlak = *picP0->Vlak();
+    const auto key = [&](int regel) {
+        return Tekst(administratie_.spelers.tabel.Cel(RijOp(regel), Kolom::Key));
+    };
+    Roosterplek plek{.groep = cmbGr->currentIndex(),
+                     .huidige = GekozenKey(),
+                     .gekozen = {},
+                     .hoogte = picP0->Staand().value()};
+    for (const int regel : vlak.Gekozen())
+        plek.gekozen.insert(key(regel));
+    return plek;
+}
+
+void frmLedenAdmin::ZetPlek(Roosterplek plek)
+{
+    if (cmbGr->currentIndex() != plek.groep)
+        KiesGroep(plek.groep);
+    Roostervlak& vlak = *picP0->Vlak();
+    int huidige = 0;
+    std::vector<int> gekozen;
+    for (int regel = 1; !plek.huidige.empty() && regel <= vlak.Regels(); ++regel) {
+        const Tekst key(administratie_.spelers.tabel.Cel(RijOp(regel), Kolom::Key));
+        if (huidige == 0 && key == plek.huidige)
+            huidige = regel;
+        if (plek.gekozen.erase(key) > 0)
+            gekozen.push_back(regel);
+    }
+    if (huidige == 0 && !gekozen.empty())
+        huidige = gekozen.front();
+    vlak.Kies(huidige, std::move(gekozen));
+    picP0->Staand().setValue(plek.hoogte);
+}
+
+/// Whether a command is about who was found: as long as the grid has not got the keys.
+bool frmLedenAdmin::KiestInLijst() const
+{
+    return picZoek->IsOpen() && focusWidget() != picP0->Vlak();
+}
+
+/// In table order; none after saying so.
+std::vector<int> frmLedenAdmin::TeDoenRijen()
+{
+    std::vector<int> rijen = KiestInLijst() ? picZoek->Gekozen() : GekozenRijen();
+    std::ranges::sort(rijen);
+    if (rijen.empty())
+        Meld(this, QMessageBox::Warning, u"Er is geen regel geselecteerd!"_s);
+    return rijen;
+}
+
+/// Who is current in the list becomes so in the grid, which the commands for one player are about.
+bool frmLedenAdmin::BrengInRooster()
+{
+    return !KiestInLijst() || picZoek->Huidige() == 0 || GaNaar(picZoek->Huidige());
+}
+
+void frmLedenAdmin::DoeGekozen(Gekozenwerk werk)
+{
+    const std::vector<int> rijen = MagWijzigen() ? TeDoenRijen() : std::vector<int>();
+    if (rijen.empty())
+        return;
+    frmVeld venster(administratie_, rijen, werk, this);
+    if (venster.exec() != QDialog::Accepted)
+        return;
+    Register& spelers = administratie_.spelers;
+    Roosterplek plek = NeemPlek();
+    if (!venster.VoerUit(spelers)) {
+        MeldSleutelsOp(this, u"Er is niets gekopieerd"_s,
+                       RegelVanHKEY(administratie_.schijf, administratie_.mappen));
+        return;
+    }
+    const Noteer noteer(administratie_.geschiedenis, venster.Wat());
+    if (SlaOpEnToon())
+        ToonMelding(NaarQString(venster.Wat()));
+    ZetPlek(std::move(plek)); // who is still there
+}
+
+void frmLedenAdmin::VerwijderGekozen()
+{
+    const std::vector<int> rijen = MagWijzigen() ? TeDoenRijen() : std::vector<int>();
+    const QString wie = Aantal(rijen.size(), u"speler"_s, u"spelers"_s);
+    if (!rijen.empty())
+        Verwijder(rijen, wie, NaarTekst(wie), {});
+}
+
+void frmLedenAdmin::PrintGekozen()
+{
+    const std::vector<int> rijen = TeDoenRijen();
+    if (rijen.empty())
+        return;
+    const auto groep = [this](int rij) {
+        return administratie_.spelers.tabel.Cel(rij, Kolom::Groep);
+    };
+    // Of several groups all columns have a name.
+    const bool een =
+        std::ranges::all_of(rijen, [&](int rij) { return groep(rij) == groep(rijen.front()); });
+    const Groepsbeeld beeld =
+        BeeldVan(administratie_.mappen, een ? groep(rijen.front()) : administratie_.mappen.DFIMPG);
+    const QString wie = Aantal(rijen.size(), u"gekozen speler"_s, u"gekozen spelers"_s);
+    frmPrintIni(administratie_, NaarTekst(wie), beeld.kolomnamen, this, Getalnotatie(), rijen)
+        .exec();
+}
+
+} // namespace plexoran

@@ -1,0 +1,127 @@
+#include "mainwindow/zoekbalk.h"
+
+#include <QApplication>
+#include <QToolButton>
+
+#include "platform/scherm/bouwstenen.h"
+
+namespace plexoran {
+
+Zoekbalk::Zoekbalk(const Administratie& administratie, QWidget* ouder)
+    : QWidget(ouder), administratie_(administratie), txtZoek(new QLineEdit(this)),
+      lblZoek(MaakLabel(u"lblZoek"_s, QString(), this)),
+      lstZoek(
+          new Regellijst(QListView::ExtendedSelection, u"lstZoek"_s, u"Gevonden spelers"_s, ouder))
+{
+    Noem(this, u"picZoek"_s);
+    auto* lblZoekop = MaakLabel(u"lblZoekop"_s, u"Zoek:"_s, this);
+    Noem(txtZoek, u"txtZoek"_s, u"Zoek in alle groepen"_s);
+    txtZoek->setToolTip(u"Naam, adres, telefoon, nummer, ... in alle groepen (Ctrl+F of /)"_s);
+    txtZoek->setClearButtonEnabled(true);
+    Noem(txtZoek->findChild<QToolButton*>(), u"btnZoek"_s, u"Zoektekst wissen"_s);
+    lblZoekop->setBuddy(txtZoek);
+    lstZoek->ZetMerken([this](int plaats) { return Regel(plaats).merken; });
+    Naastelkaar({lblZoekop, {txtZoek, 2}, {lblZoek, 1}}, this)->setContentsMargins(8, 0, 8, 8);
+
+    for (QObject* deel : std::initializer_list<QObject*>{txtZoek, lstZoek})
+        deel->installEventFilter(this);
+    connect(txtZoek, &QLineEdit::textChanged, this, &Zoekbalk::Zoek);
+    connect(lstZoek, &QListView::clicked, this, [this] {
+        if (QApplication::keyboardModifiers() == Qt::NoModifier)
+            emit aangeklikt(Huidige());
+    });
+}
+
+std::vector<int> Zoekbalk::Gekozen() const
+{
+    std::vector<int> rijen;
+    for (const int plaats : lstZoek->GekozenPlaatsen())
+        rijen.push_back(rijen_[static_cast<std::size_t>(plaats)]);
+    return rijen;
+}
+
+int Zoekbalk::Huidige() const
+{
+    const int plaats = lstZoek->currentIndex().row();
+    return plaats < 0 ? 0 : rijen_[static_cast<std::size_t>(plaats)];
+}
+
+void Zoekbalk::GaErheen()
+{
+    txtZoek->setFocus(Qt::ShortcutFocusReason);
+    txtZoek->selectAll();
+}
+
+void Zoekbalk::Zoek()
+{
+    const bool was = IsOpen();
+    woorden_ = ZoekwoordenUit(NaarTekst(txtZoek->text()));
+    VulLijst(Regellijst::Plek::Begin);
+    lstZoek->ZetHuidige(0);
+    if (IsOpen() != was)
+        emit opengegaan(IsOpen());
+}
+
+void Zoekbalk::Ververs()
+{
+    if (!IsOpen())
+        return;
+    VulLijst(Regellijst::Plek::Behouden);
+    if (Huidige() == 0)
+        lstZoek->ZetHuidige(0);
+}
+
+void Zoekbalk::VulLijst(Regellijst::Plek plek)
+{
+    rijen_ = ZoekSpelers(administratie_.spelers.tabel, woorden_);
+    lstZoek->Vul(
+        static_cast<int>(rijen_.size()), [this](int plaats) { return Regel(plaats).tekst; }, plek);
+    lblZoek->setText(IsOpen() ? u"%1 gevonden"_s.arg(rijen_.size()) : QString());
+    txtZoek->setAccessibleDescription(lblZoek->text());
+}
+
+/// While a change is going on there may be a line of a row that the table no longer has.
+Zoekregel Zoekbalk::Regel(int plaats) const
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    const int rij = rijen_[static_cast<std::size_t>(plaats)];
+    if (rij > tabel.Rijen())
+        return {};
+    const auto maak = [&](bool kort) {
+        return MaakZoekregel(tabel, administratie_.groepen, rij, woorden_, kort);
+    };
+    Zoekregel regel = maak(false);
+    return lstZoek->Past(NaarQString(regel.tekst)) ? regel : maak(true);
+}
+
+bool Zoekbalk::eventFilter(QObject* object, QEvent* gebeurtenis)
+{
+    return gebeurtenis->type() == QEvent::KeyPress &&
+           Verwerk(object, static_cast<QKeyEvent&>(*gebeurtenis));
+}
+
+bool Zoekbalk::Verwerk(const QObject* waar, QKeyEvent& toets)
+{
+    const bool ctrl = toets.modifiers().testFlag(Qt::ControlModifier);
+    if (toets.key() == Qt::Key_Return || toets.key() == Qt::Key_Enter) {
+        if (Huidige() > 0)
+            emit gevraagd(Huidige(), ctrl);
+        return true;
+    }
+    if (waar == txtZoek) {
+        if (toets.key() != Qt::Key_Down || lstZoek->Aantal() == 0)
+            return false;
+        lstZoek->setFocus();
+        return true;
+    }
+    const bool boven = toets.key() == Qt::Key_Up && lstZoek->currentIndex().row() <= 0;
+    const bool typt = !ctrl && !toets.text().isEmpty() && toets.text().front().isPrint();
+    if (!boven && !typt && toets.key() != Qt::Key_Backspace)
+        return false;
+    txtZoek->setFocus(Qt::OtherFocusReason);
+    if (!boven)
+        QApplication::sendEvent(txtZoek, &toets);
+    return true;
+}
+
+} // namespace plexoran

@@ -1,0 +1,391 @@
+// Several players chosen, in the grid and in the list of who was found, and what is done with all.
+#include <QAccessible>
+#include <QContextMenuEvent>
+#include <QMenu>
+
+#include "hulp/printdialoog.h"
+#include "mainwindow/vensterproef.h"
+#include "platform/scherm/regellijst.h"
+
+using namespace plexoran;
+
+namespace {
+
+using Regels_t = std::vector<std::string>;
+
+class GekozenTest : public HoofdvensterTest {
+  protected:
+    void Klik(int regel, Qt::KeyboardModifiers bij) const
+    {
+        QTest::mouseClick(Vlak(), Qt::LeftButton, bij, OpRegel(regel));
+    }
+    /// The chosen lines as assistive programs hear them.
+    [[nodiscard]] std::vector<int> Gekozen() const
+    {
+        const auto* tabel = QAccessible::queryAccessibleInterface(Vlak())->tableInterface();
+        std::vector<int> regels;
+        for (const int rij : tabel->selectedRows())
+            regels.push_back(rij + 1);
+        return regels;
+    }
+    [[nodiscard]] QAction* Actie(const char* naam) const
+    {
+        return venster->findChild<QAction*>(QString::fromLatin1(naam));
+    }
+    void Doe(const char* actie)
+    {
+        Actie(actie)->trigger();
+        wachter.Klaar();
+    }
+    /// The same for one that opens `frmVeld`.
+    void Doe(const char* actie, std::function<void(QDialog&)> stappen)
+    {
+        wachter.Bedien(std::move(stappen));
+        Doe(actie);
+    }
+    void Zoek(const QString& tekst) const { Schrijf(*venster, "txtZoek", tekst); }
+    [[nodiscard]] Regellijst* Lijst() const { return Vind<Regellijst>(*venster, "lstZoek"); }
+    [[nodiscard]] std::string Melding() const { return Label("lblMelding")->text().toStdString(); }
+    /// By one undoing; keys that were issued stay so.
+    void VerwachtOngedaanIn(const std::string& oud)
+    {
+        const auto spelers = [](const std::string& bestand) {
+            return bestand.substr(bestand.find('\n'));
+        };
+        ASSERT_NE(spelers(oud), spelers(suite.Spelers()));
+        Vlak()->setFocus();
+        DrukMetCtrl(Qt::Key_Z);
+        EXPECT_EQ(spelers(oud), spelers(suite.Spelers()));
+    }
+    [[nodiscard]] int Reserves() const
+    {
+        int aantal = 0;
+        for (const std::string& naam : suite.Namen("Spelers/Reservekopie"))
+            aantal += naam.find("voor verwijderen") != std::string::npos;
+        return aantal;
+    }
+};
+
+/// The line of the player file with this key.
+std::string Regel(const std::string& bestand, const std::string& key)
+{
+    const auto plek = bestand.find("," + key + ",");
+    const auto begin = bestand.rfind('\n', plek) + 1;
+    return bestand.substr(begin, bestand.find('\r', begin) - begin);
+}
+
+} // namespace
+
+// ---- Choosing in the grid -----------------------------------------------------------------------
+
+TEST_F(GekozenTest, ShiftEnCtrlMetDeMuisKiezenMeerRegels)
+{
+    KiesRegel(3);
+    EXPECT_EQ(std::vector{3}, Gekozen());
+    Klik(6, Qt::ShiftModifier);
+    EXPECT_EQ((std::vector{3, 4, 5, 6}), Gekozen());
+    EXPECT_EQ(6, GekozenRegel()); // the guide lines are around that
+    Klik(2, Qt::ShiftModifier);
+    EXPECT_EQ((std::vector{2, 3}), Gekozen());
+    Klik(8, Qt::ControlModifier);
+    EXPECT_EQ((std::vector{2, 3, 8}), Gekozen());
+    Klik(3, Qt::ControlModifier);
+    EXPECT_EQ((std::vector{2, 8}), Gekozen());
+    EXPECT_EQ(3, GekozenRegel());
+    EXPECT_TRUE(Vlak()->accessibleDescription().endsWith(u", gekozen regels: 2"_s));
+    KiesRegel(5);
+    EXPECT_EQ(std::vector{5}, Gekozen());
+    EXPECT_FALSE(Vlak()->accessibleDescription().contains(u"gekozen"_s));
+}
+
+TEST_F(GekozenTest, DeToetsenKiezenMeerRegels)
+{
+    KiesRegel(3);
+    Toets(Qt::Key_Down, Qt::ShiftModifier);
+    Toets(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ((std::vector{3, 4, 5}), Gekozen());
+    Toets(Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_EQ((std::vector{1, 2, 3}), Gekozen());
+    Toets(Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(48U, Gekozen().size());
+    Toets(Qt::Key_PageUp, Qt::ShiftModifier);
+    EXPECT_LT(Gekozen().size(), 48U);
+    Toets(Qt::Key_Home);
+    EXPECT_EQ(std::vector{1}, Gekozen());
+    Toets(Qt::Key_Down, Qt::ControlModifier);
+    Toets(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(std::vector{1}, Gekozen());
+    EXPECT_EQ(3, GekozenRegel());
+    Toets(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ((std::vector{1, 3}), Gekozen());
+    Toets(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(std::vector{1}, Gekozen());
+    Toets(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(50U, Gekozen().size());
+    EXPECT_EQ(3, GekozenRegel());
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(std::vector{4}, Gekozen());
+}
+
+TEST_F(GekozenTest, MeerRegelsZijnTeZienEnEenZoalsAltijd)
+{
+    const auto vol = [this](int regel) {
+        const QImage beeld = Vlak()->grab().toImage();
+        return beeld.pixelColor(OpRegel(regel) + QPoint(0, -4)) ==
+               Vlak()->palette().color(QPalette::Highlight);
+    };
+    KiesRegel(3);
+    EXPECT_FALSE(vol(3));
+    Klik(5, Qt::ControlModifier);
+    EXPECT_TRUE(vol(3));
+    EXPECT_FALSE(vol(4));
+    EXPECT_TRUE(vol(5));
+}
+
+TEST_F(GekozenTest, HulpprogrammasZienElkeGekozenRegel)
+{
+    QAccessibleInterface* vlak = QAccessible::queryAccessibleInterface(Vlak());
+    QAccessibleTableInterface* tabel = vlak->tableInterface();
+    KiesRegel(3);
+    Klik(5, Qt::ControlModifier);
+    EXPECT_EQ(2, tabel->selectedRowCount());
+    EXPECT_EQ(36, tabel->selectedCellCount());
+    EXPECT_EQ(36, tabel->selectedCells().size());
+    EXPECT_TRUE(tabel->isRowSelected(2));
+    EXPECT_FALSE(tabel->isRowSelected(3));
+    EXPECT_TRUE(tabel->cellAt(2, 5)->state().selected);
+    EXPECT_FALSE(tabel->cellAt(2, 5)->state().focused);
+    EXPECT_TRUE(tabel->cellAt(4, 5)->state().focused);
+    EXPECT_TRUE(tabel->unselectRow(4));
+    EXPECT_EQ(std::vector{3}, Gekozen());
+}
+
+TEST_F(GekozenTest, DeKeusBlijftAlsEenAnderProgrammaOpslaat)
+{
+    KiesRegel(3);
+    Klik(5, Qt::ControlModifier);
+    std::string tekst = suite.Spelers();
+    const auto begin = tekst.find("2,100002");
+    suite.Zet("Spelers/RVDspelers.txt", tekst.erase(begin, tekst.find("3,100003") - begin));
+    venster->VolgBestanden();
+    EXPECT_EQ((std::vector{2, 4}), Gekozen());
+    EXPECT_EQ(4, GekozenRegel());
+}
+
+// ---- The menu -----------------------------------------------------------------------------------
+
+TEST_F(GekozenTest, HetMenuKomtBijDeRegelOnderDeMuisEnHoudtEenKeusWaarinDieZit)
+{
+    auto* menu = Vind<QMenu>(*venster, "mnuGekozen");
+    QStringList namen;
+    for (const QAction* actie : menu->actions()) {
+        if (!actie->isSeparator())
+            namen << actie->objectName();
+    }
+    EXPECT_EQ(
+        "actWijzigGekozen actVeldGekozen actVerplaatsGekozen actKopieerGekozen actPrintGekozen "
+        "actVerwijderGekozen actGeschiedenisGekozen",
+        namen.join(u' ').toStdString());
+    const auto vraagMenu = [&](int regel) {
+        QContextMenuEvent vraag(QContextMenuEvent::Mouse, OpRegel(regel),
+                                Vlak()->mapToGlobal(OpRegel(regel)));
+        QApplication::sendEvent(Vlak(), &vraag);
+        EXPECT_TRUE(menu->isVisible());
+        menu->close();
+    };
+    vraagMenu(4);
+    EXPECT_EQ(std::vector{4}, Gekozen());
+    Klik(6, Qt::ShiftModifier);
+    vraagMenu(5);
+    EXPECT_EQ((std::vector{4, 5, 6}), Gekozen());
+    vraagMenu(9);
+    EXPECT_EQ(std::vector{9}, Gekozen());
+}
+
+TEST_F(GekozenTest, ZonderKeusGebeurtErNiets)
+{
+    const std::string oud = suite.Spelers();
+    for (const char* actie : {"actVeldGekozen", "actVerplaatsGekozen", "actKopieerGekozen",
+                              "actPrintGekozen", "actVerwijderGekozen"}) {
+        wachter.Waarschuwing(u"Er is geen regel geselecteerd!"_s);
+        Doe(actie);
+    }
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+// ---- The commands -------------------------------------------------------------------------------
+
+TEST_F(GekozenTest, VerplaatsenIsEenVraagEnEenHandeling)
+{
+    const std::string oud = suite.Spelers();
+    KiesRegel(3);
+    Klik(5, Qt::ControlModifier);
+    Doe("actVerplaatsGekozen", [](QDialog& veld) {
+        EXPECT_EQ("Gekozen spelers verplaatsen", veld.windowTitle().toStdString());
+        EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled()); // they are in the first group
+        EXPECT_FALSE(Vind<QWidget>(veld, "cmbVeld")->isVisible());
+        KiesUit(Vind<QComboBox>(veld, "cmbGroep"), 6);
+        EXPECT_EQ("Van de 2 gekozen spelers veranderen er 2:",
+                  Vind<QLabel>(veld, "lblAantal")->text().toStdString());
+        EXPECT_EQ((Regels_t{"Johan Kuipersma: Gr01- -> Gr07-",
+                            "Gerrit Jan ten Broekhoven: Gr01- -> Gr07-"}),
+                  Lijstregels(veld, "lstVeld"));
+        Druk(veld, "cmdOK");
+    });
+    EXPECT_EQ("2 spelers verplaatst naar Gr07-Zomerdrive", Melding());
+    EXPECT_EQ("Aantal regels: 48", Aantal());
+    EXPECT_TRUE(Regel(suite.Spelers(), "100003").find(",Gr07-,Johan") != std::string::npos);
+    KiesGroep(7);
+    EXPECT_EQ("Aantal regels: 2", Aantal());
+    VerwachtOngedaanIn(oud);
+}
+
+TEST_F(GekozenTest, WieLidIsVanDeBondWordtNietVerplaatst)
+{
+    Zoek(u"theo oudewortel"_s); // a club member and a member of the federation
+    Lijst()->setFocus();
+    Lijst()->selectAll();
+    Doe("actVerplaatsGekozen", [](QDialog& veld) {
+        KiesUit(Vind<QComboBox>(veld, "cmbGroep"), 6);
+        EXPECT_EQ("Van de 2 gekozen spelers veranderen er 1:",
+                  Vind<QLabel>(veld, "lblAantal")->text().toStdString());
+        EXPECT_EQ("Spelers van 'Gr05-' kunnen niet worden verplaatst.",
+                  Vind<QLabel>(veld, "lblUitleg")->text().toStdString());
+        Druk(veld, "cmdAnnuleren");
+    });
+}
+
+TEST_F(GekozenTest, KopierenUitDeLijstGeeftIederEenNieuweSleutelInEenHandeling)
+{
+    const std::string oud = suite.Spelers();
+    Zoek(u"ypeslot"_s);
+    QTest::keyClick(Vind<QLineEdit>(*venster, "txtZoek"), Qt::Key_Down);
+    QTest::keyClick(Lijst(), Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ((std::vector{0, 1}), Lijst()->GekozenPlaatsen());
+    Doe("actKopieerGekozen", [](QDialog& veld) {
+        EXPECT_EQ("Gekozen spelers kopiëren", veld.windowTitle().toStdString());
+        KiesUit(Vind<QComboBox>(veld, "cmbGroep"), 3);
+        Druk(veld, "cmdOK");
+    });
+    EXPECT_EQ("2 spelers gekopieerd naar Gr04-Viertallen", Melding());
+    EXPECT_EQ("149,100172,Gr04-,Klaas,,Ypeslot,06-00000268,k.ypeslot@brievenbus.example,Het Hoogt "
+              "44,0411 KK,Wielerdam,,M,,,,A-LIJN,",
+              Regel(suite.Spelers(), "100172"));
+    EXPECT_TRUE(Regel(suite.Spelers(), "100173").find(",Gr04-,Femmie") != std::string::npos);
+    VerwachtOngedaanIn(oud);
+}
+
+TEST_F(GekozenTest, EenVeldWijzigenToontEerstOudEnNieuw)
+{
+    const std::string oud = suite.Spelers();
+    KiesRegel(3);
+    Klik(5, Qt::ShiftModifier);
+    Doe("actVeldGekozen", [](QDialog& veld) {
+        EXPECT_EQ("A-LIJN", Vind<QLineEdit>(veld, "txtWaarde")->text().toStdString());
+        EXPECT_EQ((Regels_t{"Trudy Kuipersma-Hol: B-LIJN -> A-LIJN"}),
+                  Lijstregels(veld, "lstVeld"));
+        Schrijf(veld, "txtWaarde", u"d-lijn"_s);
+        EXPECT_EQ("Van de 3 gekozen spelers veranderen er 3:",
+                  Vind<QLabel>(veld, "lblAantal")->text().toStdString());
+        EXPECT_EQ("Johan Kuipersma: A-LIJN -> D-LIJN", Lijstregels(veld, "lstVeld").front());
+        QTest::keyClick(Vind<QLineEdit>(veld, "txtWaarde"), Qt::Key_Return);
+    });
+    EXPECT_EQ("NBBgr van 3 spelers gewijzigd in 'D-LIJN'", Melding());
+    for (const char* key : {"100003", "100004", "100005"})
+        EXPECT_TRUE(Regel(suite.Spelers(), key).ends_with(",D-LIJN,")) << key;
+    EXPECT_EQ((std::vector{3, 4, 5}), Gekozen()); // for what comes next
+    VerwachtOngedaanIn(oud);
+}
+
+TEST_F(GekozenTest, EenVeldDatNietMagVerandertNiet)
+{
+    const std::string oud = suite.Spelers();
+    KiesRegel(3);
+    Klik(4, Qt::ShiftModifier);
+    Doe("actVeldGekozen", [](QDialog& veld) {
+        auto* cmbVeld = Vind<QComboBox>(veld, "cmbVeld");
+        KiesUit(cmbVeld, cmbVeld->findText(u"Achternaam"_s));
+        Schrijf(veld, "txtWaarde", {});
+        EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled());
+        KiesUit(cmbVeld, cmbVeld->findText(u"NBBnr"_s));
+        Schrijf(veld, "txtWaarde", u"12x3"_s);
+        EXPECT_EQ("123", Vind<QLineEdit>(veld, "txtWaarde")->text().toStdString());
+        EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled()); // no federation members
+        KiesUit(cmbVeld, cmbVeld->findText(u"Telef"_s));
+        Schrijf(veld, "txtWaarde", {});
+        EXPECT_EQ("Johan Kuipersma: 06-00000111 -> (leeg)", Lijstregels(veld, "lstVeld").front());
+        QTest::keyClick(&veld, Qt::Key_Escape);
+    });
+    EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(GekozenTest, VerwijderenVraagtEenKeerMetDeNamenEnMaaktEerstEenReservekopie)
+{
+    const std::string oud = suite.Spelers();
+    KiesRegel(3);
+    Klik(5, Qt::ControlModifier);
+    const auto vraag = [this](const QString& antwoord) {
+        wachter.Verwacht(
+            {.tekst = u"\t\tLET OP!"_s,
+             .antwoord = antwoord,
+             .titel = u"Verwijderen"_s,
+             .alleenBegin = true,
+             .toelichting = u"2 spelers:\nJohan Kuipersma\nGerrit Jan ten Broekhoven"_s});
+    };
+    vraag(u"Annuleren"_s);
+    Toets(Qt::Key_Delete);
+    wachter.Klaar();
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ(0, Reserves());
+    vraag(u"OK"_s);
+    Doe("actVerwijderGekozen");
+    EXPECT_EQ("Aantal regels: 48", Aantal());
+    EXPECT_EQ(std::string::npos, suite.Spelers().find(",100003,"));
+    EXPECT_EQ(std::string::npos, suite.Spelers().find(",100005,"));
+    EXPECT_EQ(1, Reserves());
+    VerwachtOngedaanIn(oud);
+}
+
+TEST_F(GekozenTest, VerwijderenUitDeLijstOverGroepenHeen)
+{
+    const std::string oud = suite.Spelers();
+    Zoek(u"theo oudewortel"_s);
+    Lijst()->setFocus();
+    QTest::keyClick(Lijst(), Qt::Key_A, Qt::ControlModifier);
+    wachter.Verwacht({.tekst = u"\t\tLET OP!"_s, .titel = u"Verwijderen"_s, .alleenBegin = true});
+    Doe("actVerwijderGekozen");
+    EXPECT_EQ(std::string::npos, suite.Spelers().find(",Theo,,Oudewortel,"));
+    EXPECT_EQ("0 gevonden", Label("lblZoek")->text().toStdString());
+    VerwachtOngedaanIn(oud);
+    EXPECT_EQ("2 gevonden", Label("lblZoek")->text().toStdString());
+}
+
+TEST_F(GekozenTest, PrintenIsVanDeGekozenSpelersAlleen)
+{
+    Zoek(u"oudewortel"_s);
+    Lijst()->setFocus();
+    Lijst()->selectAll();
+    Doe("actPrintGekozen", [](QDialog& keuze) {
+        EXPECT_EQ("frmPrintIni", keuze.objectName().toStdString());
+        EXPECT_EQ("4 gekozen spelers", Vind<QLabel>(keuze, "Label3")->text().toStdString());
+        EXPECT_EQ((Regels_t{"A-LIJN", "MAANDAG"}), Lijstregels(keuze, "lstNBBgr"));
+        Druk(keuze, "cmdAnnuleren");
+    });
+}
+
+TEST_F(GekozenTest, WijzigEnGeschiedenisZijnVanWieInDeLijstAanDeBeurtIs)
+{
+    Zoek(u"ypeslot"_s);
+    Lijst()->setFocus();
+    QTest::keyClick(Lijst(), Qt::Key_Down);
+    Doe("actWijzigGekozen", [](QDialog& ingave) {
+        EXPECT_EQ("Femmie", Vind<QLineEdit>(ingave, "txt1_4")->text().toStdString());
+        Druk(ingave, "cmdAnnuleren");
+    });
+    Lijst()->setFocus();
+    QTest::keyClick(Lijst(), Qt::Key_Up);
+    Doe("actGeschiedenisGekozen", [](QDialog& geschiedenis) {
+        EXPECT_EQ("Geschiedenis van Klaas Ypeslot", geschiedenis.windowTitle().toStdString());
+        geschiedenis.reject();
+    });
+}
