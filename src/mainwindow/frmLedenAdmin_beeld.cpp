@@ -11,9 +11,11 @@
 
 namespace plexoran {
 
-/// In the order of the lines.
+/// In the order of the lines, of the grid or of who was found.
 std::vector<int> frmLedenAdmin::GekozenRijen() const
 {
+    if (KiestInLijst())
+        return picZoek->Gekozen();
     std::vector<int> rijen;
     for (const int regel : picP0->Vlak()->Gekozen())
         rijen.push_back(RijOp(regel));
@@ -119,6 +121,7 @@ void frmLedenAdmin::BouwStatus()
     statusBar()->addPermanentWidget(lblGekozen);
     statusBar()->addPermanentWidget(lblOpgeslagen);
     connect(picP0->Vlak(), &Tabelvlak::keuzeVeranderd, this, &frmLedenAdmin::ToonGekozene);
+    connect(picZoek->Lijst(), &Regellijst::keuzeVeranderd, this, &frmLedenAdmin::ToonGekozene);
     ToonOpgeslagen();
 }
 

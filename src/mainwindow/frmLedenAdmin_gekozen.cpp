@@ -31,10 +31,13 @@ void frmLedenAdmin::BouwGekozenmenu()
     actie(u"actPrintGekozen"_s, u"P&rinten..."_s, &frmLedenAdmin::PrintGekozen);
     actie(u"actVerwijderGekozen"_s, u"&Verwijderen..."_s, &frmLedenAdmin::VerwijderGekozen);
     mnuGekozen->addSeparator();
+    actie(u"actTekstGekozen"_s, u"Als &tekst kopiëren"_s, &frmLedenAdmin::KopieerGekozen);
     actie(u"actGeschiedenisGekozen"_s, u"&Geschiedenis van deze speler..."_s, [this] {
         if (BrengInRooster())
             ToonSpeler();
     });
+    findChild<QMenu*>(u"mnuSpeler"_s)
+        ->insertMenu(findChild<QAction*>(u"actSpToevoegen"_s), mnuGekozen);
     // Not by a loop of their own: it would keep what other programs did from being seen.
     Roostervlak* vlak = picP0->Vlak();
     connect(vlak, &Roostervlak::menuGevraagd, this, [this, vlak](QPoint plek) {
@@ -140,7 +143,7 @@ bool frmLedenAdmin::KiestInLijst() const
 /// In table order; none after saying so.
 std::vector<int> frmLedenAdmin::TeDoenRijen()
 {
-    std::vector<int> rijen = KiestInLijst() ? picZoek->Gekozen() : GekozenRijen();
+    std::vector<int> rijen = GekozenRijen();
     std::ranges::sort(rijen);
     if (rijen.empty())
         Meld(this, QMessageBox::Warning, u"Er is geen regel geselecteerd!"_s);

@@ -212,7 +212,8 @@ void frmLedenAdmin::WerkOpdrachtenBij()
     const Tekst& importcode = administratie_.mappen.DFIMPG;
     Opdrachtstand stand{.alleenKijken = alleenKijken_,
                         .regels = picP0->Vlak()->Regels(),
-                        .gekozen = static_cast<int>(GekozenRijen().size()),
+                        .gekozen = static_cast<int>(
+                            std::max(GekozenRijen().size(), picP0->Vlak()->Gekozen().size())),
                         .importgroep = CodeUit(Groeptekst()) == importcode,
                         .importcode = importcode};
     const auto zet = [&](QAction* actie, const Eisen& eisen) {

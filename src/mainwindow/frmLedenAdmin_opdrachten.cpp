@@ -327,14 +327,8 @@ void frmLedenAdmin::Controleer()
 void frmLedenAdmin::ToonOverzicht()
 {
     frmOverzicht venster(administratie_, this);
-    if (venster.exec() != QDialog::Accepted)
-        return;
-    Tekst verslag;
-    for (const int rij : venster.Gekozen().rijen) {
-        VoegVeldenToe(verslag, administratie_.spelers.tabel, rij, '\t');
-        verslag += '\n';
-    }
-    MeldVerslag(this, NaarQString(verslag), venster.Opschrift());
+    if (venster.exec() == QDialog::Accepted)
+        picZoek->Toon(venster.Gekozen().rijen, venster.Opschrift());
 }
 
 void frmLedenAdmin::KiesAdministratie()

@@ -9,6 +9,7 @@
 #include "platform/scherm/frmVoortgang.h"
 #include "platform/scherm/printer.h"
 #include "printing/overzichtblad.h"
+#include "register/dubbelen.h"
 #include "sessions/koppelen.h"
 
 namespace plexoran {
@@ -53,6 +54,7 @@ frmOverzicht::frmOverzicht(Administratie& administratie, QWidget* ouder)
       regels_(MaakOverzicht(administratie.spelers.tabel, administratie.groepen))
 {
     ZoekZwevende(ouder);
+    ZoekDubbele(ouder);
     Bouw();
     VulLijst();
 }
@@ -75,6 +77,27 @@ void frmOverzicht::ZoekZwevende(QWidget* ouder)
                        .tekst = gevonden.gestopt ? "Zwevende namen in zittingen (niet alle)"
                                                  : "Zwevende namen in zittingen",
                        .aantal = namen.size()});
+}
+
+/// A player who was copied to another group is meant to stand there twice.
+void frmOverzicht::ZoekDubbele(QWidget* ouder)
+{
+    frmVoortgang voortgang(u"De dubbele spelers worden geteld ..."_s, u"&Stoppen"_s, ouder);
+    const auto gevonden = ZoekDubbelen(
+        administratie_.spelers.tabel,
+        LeesGeenDubbelen(administratie_.schijf, administratie_.mappen).value_or(Sleutelparen()),
+        voortgang.AlsVoortgang());
+    std::set<int> rijen;
+    for (const Dubbelpaar& paar : gevonden.paren) {
+        if (!paar.Heeft(Dubbelreden::TweeGroepen))
+            rijen.insert({paar.rij, paar.latere});
+    }
+    regels_.push_back({.diepte = 1,
+                       .tekst = gevonden.gestopt || gevonden.meer > 0
+                                    ? "Vermoedelijk dubbele spelers (niet alle)"
+                                    : "Vermoedelijk dubbele spelers",
+                       .aantal = rijen.size(),
+                       .rijen = {rijen.begin(), rijen.end()}});
 }
 
 void frmOverzicht::Bouw()

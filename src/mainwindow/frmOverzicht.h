@@ -13,7 +13,7 @@ class frmOverzicht : public QDialog {
     Q_OBJECT
 
   public:
-    /// Reads the sessions, which may take a while and can be stopped.
+    /// Reads the sessions and looks for doubles, which may take a while and can be stopped.
     frmOverzicht(Administratie& administratie, QWidget* ouder);
 
     // Once the window was accepted: the line whose players were asked for, and how it is called
@@ -23,6 +23,7 @@ class frmOverzicht : public QDialog {
 
   private:
     void ZoekZwevende(QWidget* ouder);
+    void ZoekDubbele(QWidget* ouder);
     void Bouw();
     void VulLijst();
     void Kies(const QTreeWidgetItem* regel);

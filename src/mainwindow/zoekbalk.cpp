@@ -55,7 +55,37 @@ void Zoekbalk::GaErheen()
 void Zoekbalk::Zoek()
 {
     const bool was = IsOpen();
+    keys_.clear();
     woorden_ = ZoekwoordenUit(NaarTekst(txtZoek->text()));
+    VulAnders(was);
+}
+
+void Zoekbalk::Toon(const std::vector<int>& rijen, const QString& opschrift)
+{
+    const bool was = IsOpen();
+    {
+        const QSignalBlocker stil(txtZoek);
+        txtZoek->clear();
+    }
+    woorden_.clear();
+    keys_.clear();
+    for (const int rij : rijen)
+        keys_.emplace(administratie_.spelers.tabel.Cel(rij, Kolom::Key));
+    opschrift_ = opschrift;
+    VulAnders(was);
+    lstZoek->setFocus();
+}
+
+void Zoekbalk::Leeg()
+{
+    txtZoek->clear();
+    if (IsOpen())
+        Zoek();
+}
+
+/// With other players than were shown.
+void Zoekbalk::VulAnders(bool was)
+{
     VulLijst(Regellijst::Plek::Begin);
     lstZoek->ZetHuidige(0);
     if (IsOpen() != was)
@@ -73,10 +103,16 @@ void Zoekbalk::Ververs()
 
 void Zoekbalk::VulLijst(Regellijst::Plek plek)
 {
-    rijen_ = ZoekSpelers(administratie_.spelers.tabel, woorden_);
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    rijen_ = ZoekSpelers(tabel, woorden_);
+    for (int rij = 1; !keys_.empty() && rij <= tabel.Rijen(); ++rij) {
+        if (keys_.contains(Tekst(tabel.Cel(rij, Kolom::Key))))
+            rijen_.push_back(rij);
+    }
     lstZoek->Vul(
         static_cast<int>(rijen_.size()), [this](int plaats) { return Regel(plaats).tekst; }, plek);
-    lblZoek->setText(IsOpen() ? u"%1 gevonden"_s.arg(rijen_.size()) : QString());
+    const QString wie = keys_.empty() ? QString() : opschrift_ + u": "_s;
+    lblZoek->setText(IsOpen() ? wie + u"%1 gevonden"_s.arg(rijen_.size()) : QString());
     txtZoek->setAccessibleDescription(lblZoek->text());
 }
 

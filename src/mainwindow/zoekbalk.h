@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <set>
+
 #include "mainwindow/zoeken.h"
 #include "platform/scherm/regellijst.h"
 #include "register/administratie.h"
@@ -18,14 +20,16 @@ class Zoekbalk : public QWidget {
 
     /// `lstZoek`, which has its place elsewhere in the window.
     [[nodiscard]] Regellijst* Lijst() const { return lstZoek; }
-    [[nodiscard]] bool IsOpen() const { return !woorden_.empty(); }
+    [[nodiscard]] bool IsOpen() const { return !woorden_.empty() || !keys_.empty(); }
     /// The table rows of the chosen lines, in list order.
     [[nodiscard]] std::vector<int> Gekozen() const;
     /// The table row of the current line; 0 without.
     [[nodiscard]] int Huidige() const;
 
     void GaErheen();
-    void Leeg() { txtZoek->clear(); }
+    /// Shows these players, whose caption tells who they are, until something is typed.
+    void Toon(const std::vector<int>& rijen, const QString& opschrift);
+    void Leeg();
     /// The table may be another one.
     void Ververs();
 
@@ -39,12 +43,15 @@ class Zoekbalk : public QWidget {
 
   private:
     void Zoek();
+    void VulAnders(bool was);
     void VulLijst(Regellijst::Plek plek);
     [[nodiscard]] Zoekregel Regel(int plaats) const;
     [[nodiscard]] bool Verwerk(const QObject* waar, QKeyEvent& toets);
 
     const Administratie& administratie_;
     Zoekwoorden woorden_;
+    std::set<Tekst> keys_; ///< of those who are shown without words
+    QString opschrift_;
     std::vector<int> rijen_;
     QLineEdit* txtZoek;
     QLabel* lblZoek; ///< how many answer

@@ -184,7 +184,7 @@ TEST_F(GekozenTest, HetMenuKomtBijDeRegelOnderDeMuisEnHoudtEenKeusWaarinDieZit)
     }
     EXPECT_EQ(
         "actWijzigGekozen actVeldGekozen actVerplaatsGekozen actKopieerGekozen actPrintGekozen "
-        "actVerwijderGekozen actGeschiedenisGekozen",
+        "actVerwijderGekozen actTekstGekozen actGeschiedenisGekozen",
         namen.join(u' ').toStdString());
     const auto vraagMenu = [&](int regel) {
         QContextMenuEvent vraag(QContextMenuEvent::Mouse, OpRegel(regel),

@@ -55,6 +55,31 @@ using Regels_t = std::vector<std::string>;
 
 } // namespace
 
+TEST_F(ZoekTest, WieAchterEenBalkVanHetOverzichtStaatKomtInDeLijst)
+{
+    Zoek(u"oudewortel"_s);
+    wachter.Bedien([](QDialog& overzicht) {
+        auto* lijst = overzicht.findChild<QTreeWidget*>(u"lstOverzicht"_s);
+        lijst->setCurrentItem(
+            lijst->findItems(u"DONDERDAG"_s, Qt::MatchExactly | Qt::MatchRecursive).constFirst());
+        QTest::keyClick(lijst, Qt::Key_Return);
+    });
+    venster->findChild<QAction*>(u"actOverzicht"_s)->trigger();
+    wachter.Klaar();
+    venster->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    EXPECT_EQ("Gr05-Bondsleden, DONDERDAG: 5 gevonden", Gevonden());
+    EXPECT_EQ(5U, Namen().size());
+    EXPECT_TRUE(Lijst()->hasFocus());
+    EXPECT_EQ(u""_s, Vak()->text());
+    InLijst(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ("5 gekozen", Label("lblGekozen")->text().toStdString());
+    Zoek(u"jansen"_s);
+    EXPECT_TRUE(Gevonden().ends_with(" gevonden") && !Gevonden().starts_with("Gr05"));
+    InVak(Qt::Key_Escape);
+    EXPECT_FALSE(Lijst()->isVisible());
+}
+
 TEST_F(ZoekTest, DeLijstKomtInDePlaatsVanDeOpdrachtenEnVerderVerspringtNiets)
 {
     EXPECT_TRUE(Deel("picZoek")->isVisible());

@@ -83,16 +83,26 @@ TEST_F(frmOverzichtTest, TeltDeVoorbeeldclub)
                     {{"Label1", "Klik op een balk, of druk op Enter, om te zien om wie het gaat."}},
                     {{"cmdPrint", "Print"}, {"cmdEinde", "Terug"}});
     const std::vector<std::pair<const char*, const char*>> moet{
-        {"Alle spelers", "148"},   {"Gr01-Clubleden", "50"},
-        {"Gr05-Bondsleden", "36"}, {"DONDERDAG", "5"},
-        {"Gr08-Introducés", "10"}, {"Man", "70"},
-        {"Vrouw", "76"},           {"Niet ingevuld", "2"},
-        {"Met e-mail", "108"},     {"Zonder e-mail", "40"},
-        {"Met NBB-nummer", "36"},  {"Zonder NBB-nummer", "112"},
-        {"Groepen", ""},           {"Zwevende namen in zittingen", "26"}};
+        {"Alle spelers", "148"},
+        {"Gr01-Clubleden", "50"},
+        {"Gr05-Bondsleden", "36"},
+        {"DONDERDAG", "5"},
+        {"Gr08-Introducés", "10"},
+        {"Man", "70"},
+        {"Vrouw", "76"},
+        {"Niet ingevuld", "2"},
+        {"Met e-mail", "108"},
+        {"Zonder e-mail", "40"},
+        {"Met NBB-nummer", "36"},
+        {"Zonder NBB-nummer", "112"},
+        {"Groepen", ""},
+        {"Zwevende namen in zittingen", "26"},
+        {"Vermoedelijk dubbele spelers", "18"}};
     for (const auto& [tekst, aantal] : moet)
         EXPECT_EQ(aantal, Aantal(tekst)) << tekst;
     EXPECT_EQ(Regel("Gr05-Bondsleden"), Regel("DONDERDAG")->parent());
+    KlikOp("Vermoedelijk dubbele spelers", 1);
+    VerwachtGekozen("Vermoedelijk dubbele spelers", 18);
 }
 
 TEST_F(frmOverzichtTest, DeBalkIsZoLangAlsHetGetal)

@@ -266,9 +266,9 @@ TEST(Lijstgrootte, LezenEnHerschrijvenBlijvenBinnenAchtKeerHetBestand)
     for (const Tekst& inhoud : {kommas, quotes}) {
         for (const Lijstsoort soort : {Spelers, Percentages}) {
             EXPECT_LT(Geheugen([&] { (void)LeesLijst(inhoud, soort); }), 2 * grootte);
-            EXPECT_LT(Geheugen([&] { // makes the file, too
-                          (void)HerschrijfLijst("N05 Jansen-1," + inhoud, soort,
-                                                {{"N05"}, "Jansen", "100237"});
+            const Tekst metNaam = "N05 Jansen-1," + inhoud;
+            EXPECT_LT(Geheugen([&] {
+                          (void)HerschrijfLijst(metNaam, soort, {{"N05"}, "Jansen", "100237"});
                       }),
                       8 * grootte);
         }
