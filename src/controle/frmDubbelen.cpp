@@ -55,7 +55,7 @@ QString Plaatstekst(const Vindplaats& plaats)
 
 } // namespace
 
-frmDubbelen::frmDubbelen(Administratie& administratie, std::function<void()> slaOp, QWidget* ouder)
+frmDubbelen::frmDubbelen(Administratie& administratie, std::function<bool()> slaOp, QWidget* ouder)
     : QDialog(ouder), administratie_(administratie), slaOp_(std::move(slaOp))
 {
     const auto geen = LeesGeenDubbelen(administratie.schijf, administratie.mappen);
@@ -130,6 +130,11 @@ void frmDubbelen::Bouw()
 Tekst frmDubbelen::Key(int rij) const
 {
     return Tekst(administratie_.spelers.tabel.Cel(rij, Kolom::Key));
+}
+
+bool frmDubbelen::IsBondslid(int rij) const
+{
+    return administratie_.spelers.tabel.Cel(rij, Kolom::Groep) == administratie_.mappen.DFIMPG;
 }
 
 Tekst frmDubbelen::Naam(int rij) const
@@ -222,7 +227,8 @@ void frmDubbelen::VulVelden()
     lstVelden->setHeaderLabels(
         {u"Veld"_s, NaarQString(Naam(paar->rij)), NaarQString(Naam(paar->latere))});
     const Spelertabel& tabel = administratie_.spelers.tabel;
-    const bool bondslid = tabel.Cel(paar->rij, Kolom::Groep) == administratie_.mappen.DFIMPG;
+    const bool bondslid = IsBondslid(paar->rij);
+    const bool eenBondslid = bondslid != IsBondslid(paar->latere);
     QFont vet = lstVelden->font();
     vet.setBold(true);
     for (auto i = Index(Kolom::Groep); i < AantalKolommen; ++i) {
@@ -234,7 +240,12 @@ void frmDubbelen::VulVelden()
             lstVelden, {NaarQString(subgroep ? Subgroepnaam : Kolomnamen[i]), een, ander});
         if (een == ander)
             continue;
-        const bool rechtse = een.isEmpty() || (rechtsBlijft && !ander.isEmpty());
+        // The next import looks for a member in his group, by his number.
+        const bool vanBond =
+            kolom == Kolom::Groep || kolom == Kolom::NBBgr || kolom == Kolom::NBBnr;
+        const bool rechtse = eenBondslid && vanBond
+                                 ? !bondslid
+                                 : een.isEmpty() || (rechtsBlijft && !ander.isEmpty());
         veld->setCheckState(KolomLinks, rechtse ? Qt::Unchecked : Qt::Checked);
         veld->setCheckState(KolomRechts, rechtse ? Qt::Checked : Qt::Unchecked);
         for (const int deel : {KolomVeld, KolomLinks, KolomRechts})
@@ -321,6 +332,8 @@ void frmDubbelen::VoegSamen()
         const auto vervangen =
             VervangSleutel(administratie_.schijf, plaatsen_[i], Key(weg), Key(blijft));
         if (!StaatEr(this, vervangen)) {
+            administratie_.geschiedenis.Noem("Niet samengevoegd: " + Naam(blijft) + " en " +
+                                             Naam(weg));
             LeesPlaatsen();
             VulPlaatsen();
             MeldFout(this, QMessageBox::Warning,
@@ -333,17 +346,31 @@ void frmDubbelen::VoegSamen()
         }
     }
     VoegDubbelSamen(administratie_.spelers.tabel, blijft, weg, Gekozen());
-    slaOp_();
+    if (!slaOp_()) {
+        Meld(this, QMessageBox::Warning,
+             u"De spelers zijn samengevoegd, maar dat is nog niet opgeslagen. In de aangevinkte "
+             "paren en zittingen staat al de sleutel die blijft. Sla de spelers op voordat u "
+             "Plexoran sluit."_s);
+        accept();
+        return;
+    }
     ietsGedaan_ = true;
     const int regel = lstDubbelen->indexOfTopLevelItem(lstDubbelen->currentItem());
     Zoek();
     LeesPlaatsen();
     VulDubbelen(regel);
+    lstDubbelen->setFocus(); // another Enter must not merge the next two unseen
 }
 
 void frmDubbelen::GeenDubbelen()
 {
     const auto [rij, latere, redenen, waarde] = *Paar();
+    if (Key(rij) == Key(latere) || Key(rij).empty() || Key(latere).empty()) {
+        Meld(this, QMessageBox::Warning,
+             u"Dat is niet te onthouden, want deze spelers hebben geen eigen sleutel. Er is niets "
+             "veranderd. Met 'Controle van de administratie' is dat te herstellen."_s);
+        return;
+    }
     const Noteer noteer(administratie_.geschiedenis,
                         "Geen dubbelen: " + Naam(rij) + " en " + Naam(latere));
     const auto& tabel = administratie_.spelers.tabel;

@@ -20,8 +20,9 @@ class frmDubbelen : public QDialog {
     Q_OBJECT
 
   public:
-    /// Searches first, which may take a while and can be stopped. `slaOp` saves the register.
-    frmDubbelen(Administratie& administratie, std::function<void()> slaOp, QWidget* ouder);
+    /// Searches first, which may take a while and can be stopped. `slaOp` saves the register, or
+    /// says false.
+    frmDubbelen(Administratie& administratie, std::function<bool()> slaOp, QWidget* ouder);
 
   signals:
     void begint(); ///< two players are about to become one
@@ -41,13 +42,14 @@ class frmDubbelen : public QDialog {
     [[nodiscard]] int Blijft() const;
     [[nodiscard]] int Weg() const { return Paar()->rij + Paar()->latere - Blijft(); }
     [[nodiscard]] Tekst Key(int rij) const;
+    [[nodiscard]] bool IsBondslid(int rij) const;
     [[nodiscard]] Tekst Naam(int rij) const;
     [[nodiscard]] std::vector<Vindplaats> Plaatsen() const;
     [[nodiscard]] Rijvelden Gekozen() const;
     [[nodiscard]] QString Samenvatting() const;
 
     Administratie& administratie_;
-    std::function<void()> slaOp_;
+    std::function<bool()> slaOp_;
     Sleutelparen geen_;
     Dubbeluitslag uitslag_;
     Vindplaatsen vindplaatsen_;

@@ -130,12 +130,15 @@ Uitkomst<void> VervangSleutel(Schijf& schijf, const Vindplaats& plaats, const Te
     Uitkomst<void> uit;
     for (const auto& [pad, soort] : plaats.bestanden) {
         bool beide = false;
+        Uitkomst<void> leesbaar;
         const auto streep = pad.rfind('\\');
         RuimTijdelijkeOp(schijf, pad.substr(0, streep), pad.substr(streep + 1));
         const auto geschreven = Herschrijf(
             schijf, pad, [&, soort = soort](const Tekst& inhoud) -> std::optional<Tekst> {
                 Tekst nieuw = inhoud;
                 const auto sleutels = Sleutels(inhoud, soort);
+                if (!sleutels)
+                    leesbaar = Mislukt(sleutels);
                 for (const auto& [key, code] : sleutels.value_or(std::vector<Sleutelplek>())) {
                     if (!soort && code != plaats.paar)
                         continue;
@@ -148,6 +151,8 @@ Uitkomst<void> VervangSleutel(Schijf& schijf, const Vindplaats& plaats, const Te
             });
         if (beide)
             return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf.Toonpad(pad)});
+        if (!leesbaar)
+            return leesbaar;
         if (!geschreven)
             uit = geschreven;
         if (!StaatOpSchijf(geschreven))

@@ -161,9 +161,10 @@ void frmLedenAdmin::ZetOpKijken()
          {u"cmdAanm"_s, u"cmdVerplaats"_s, u"cmdKopieer"_s, u"cmdVerwGroep"_s, u"cmdMaakGrNamen"_s,
           u"cmdHaalNBBnamen"_s, u"cmdKoppel"_s, u"cmdSpToevoegen"_s, u"cmdParenOnderhoud"_s})
         findChild<QPushButton*>(naam)->setEnabled(false);
-    for (QAction* actie : mnuGekozen->actions())
-        actie->setEnabled(actie->objectName() == u"actPrintGekozen"_s ||
-                          actie->objectName() == u"actGeschiedenisGekozen"_s);
+    for (const QString& naam :
+         {u"actWijzigGekozen"_s, u"actVeldGekozen"_s, u"actVerplaatsGekozen"_s,
+          u"actKopieerGekozen"_s, u"actVerwijderGekozen"_s})
+        findChild<QAction*>(naam)->setEnabled(false);
     aanwezigheid_.reset(); // who only looks is in nobody's way
 }
 

@@ -148,6 +148,7 @@ class frmLedenAdmin : public QMainWindow {
     bool GaNaar(int rij);
     [[nodiscard]] bool KiestInLijst() const;
     [[nodiscard]] std::vector<int> TeDoenRijen();
+    [[nodiscard]] Namenrij NamenVan(const std::vector<int>& rijen) const;
     [[nodiscard]] bool BrengInRooster();
     void DoeGekozen(Gekozenwerk werk);
     void PrintGekozen();

@@ -92,9 +92,9 @@ void frmLedenAdmin::NaarRooster()
 
 void frmLedenAdmin::KopieerGekozen()
 {
-    const Namenrij namen = BeeldVan(administratie_.mappen, CodeUit(Groeptekst())).kolomnamen;
+    const auto rijen = GekozenRijen();
     QGuiApplication::clipboard()->setText(NaarQString(Kopieertekst(
-        administratie_.spelers.tabel, GekozenRijen(), namen, picP0->Vlak()->Keuzes())));
+        administratie_.spelers.tabel, rijen, NamenVan(rijen), picP0->Vlak()->Keuzes())));
 }
 
 void frmLedenAdmin::NaarZoeken()

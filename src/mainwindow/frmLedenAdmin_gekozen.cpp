@@ -19,10 +19,7 @@ void frmLedenAdmin::BouwGekozenmenu()
     const auto actie = [this](const QString& naam, const QString& tekst, auto doe) {
         mnuGekozen->addAction(tekst, this, doe)->setObjectName(naam);
     };
-    actie(u"actWijzigGekozen"_s, u"&Wijzigen..."_s, [this] {
-        if (BrengInRooster())
-            Wijzig();
-    });
+    actie(u"actWijzigGekozen"_s, u"&Wijzigen..."_s, &frmLedenAdmin::Wijzig);
     actie(u"actVeldGekozen"_s, u"&Een veld wijzigen..."_s,
           [this] { DoeGekozen(Gekozenwerk::Wijzigen); });
     actie(u"actVerplaatsGekozen"_s, u"Ver&plaatsen..."_s,
@@ -32,10 +29,8 @@ void frmLedenAdmin::BouwGekozenmenu()
     actie(u"actVerwijderGekozen"_s, u"&Verwijderen..."_s, &frmLedenAdmin::VerwijderGekozen);
     mnuGekozen->addSeparator();
     actie(u"actTekstGekozen"_s, u"Als &tekst kopiëren"_s, &frmLedenAdmin::KopieerGekozen);
-    actie(u"actGeschiedenisGekozen"_s, u"&Geschiedenis van deze speler..."_s, [this] {
-        if (BrengInRooster())
-            ToonSpeler();
-    });
+    actie(u"actGeschiedenisGekozen"_s, u"&Geschiedenis van deze speler..."_s,
+          &frmLedenAdmin::ToonSpeler);
     findChild<QMenu*>(u"mnuSpeler"_s)
         ->insertMenu(findChild<QAction*>(u"actSpToevoegen"_s), mnuGekozen);
     // Not by a loop of their own: it would keep what other programs did from being seen.
@@ -53,6 +48,7 @@ void frmLedenAdmin::BouwGekozenmenu()
 
     connect(picZoek, &Zoekbalk::opengegaan, this, &frmLedenAdmin::OpenZoeken);
     connect(picZoek, &Zoekbalk::aangeklikt, this, &frmLedenAdmin::GaNaar);
+    connect(picZoek, &Zoekbalk::verwijderGevraagd, this, &frmLedenAdmin::VerwijderGekozen);
     connect(picZoek, &Zoekbalk::gevraagd, this, [this, vlak](int rij, bool ctrl) {
         if (!GaNaar(rij))
             return;
@@ -185,21 +181,23 @@ void frmLedenAdmin::VerwijderGekozen()
         Verwijder(rijen, wie, NaarTekst(wie), {});
 }
 
+/// The columns' names in the group of these players; of several groups all have one.
+Namenrij frmLedenAdmin::NamenVan(const std::vector<int>& rijen) const
+{
+    std::set<Tekstblik> groepen;
+    for (const int rij : rijen)
+        groepen.insert(administratie_.spelers.tabel.Cel(rij, Kolom::Groep));
+    const Mappen& mappen = administratie_.mappen;
+    return BeeldVan(mappen, groepen.size() == 1 ? *groepen.begin() : mappen.DFIMPG).kolomnamen;
+}
+
 void frmLedenAdmin::PrintGekozen()
 {
     const std::vector<int> rijen = TeDoenRijen();
     if (rijen.empty())
         return;
-    const auto groep = [this](int rij) {
-        return administratie_.spelers.tabel.Cel(rij, Kolom::Groep);
-    };
-    // Of several groups all columns have a name.
-    const bool een =
-        std::ranges::all_of(rijen, [&](int rij) { return groep(rij) == groep(rijen.front()); });
-    const Groepsbeeld beeld =
-        BeeldVan(administratie_.mappen, een ? groep(rijen.front()) : administratie_.mappen.DFIMPG);
     const QString wie = Aantal(rijen.size(), u"gekozen speler"_s, u"gekozen spelers"_s);
-    frmPrintIni(administratie_, NaarTekst(wie), beeld.kolomnamen, this, Getalnotatie(), rijen)
+    frmPrintIni(administratie_, NaarTekst(wie), NamenVan(rijen), this, Getalnotatie(), rijen)
         .exec();
 }
 

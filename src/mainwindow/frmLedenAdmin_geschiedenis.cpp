@@ -160,7 +160,7 @@ void frmLedenAdmin::ToonGeschiedenis(const Tekst& key, const QString& van)
 
 void frmLedenAdmin::ToonSpeler()
 {
-    if (!IsRegelGekozen())
+    if (!BrengInRooster() || !IsRegelGekozen())
         return;
     const Spelertabel& tabel = administratie_.spelers.tabel;
     const QString naam = NaarQString(VolleNaam(tabel, GekozenRij()));

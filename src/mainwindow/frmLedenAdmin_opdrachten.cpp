@@ -114,7 +114,7 @@ void frmLedenAdmin::VoegToe()
 
 void frmLedenAdmin::Wijzig()
 {
-    if (!MagWijzigen() || !IsRegelGekozen())
+    if (!MagWijzigen() || !BrengInRooster() || !IsRegelGekozen())
         return;
     Ingave ingave;
     ingave.rij = GekozenRij();
@@ -129,7 +129,7 @@ void frmLedenAdmin::Wijzig()
 
 void frmLedenAdmin::VerwijderRij()
 {
-    if (picP0->Vlak()->IsMeer()) {
+    if (KiestInLijst() || picP0->Vlak()->IsMeer()) {
         VerwijderGekozen();
         return;
     }
@@ -352,7 +352,7 @@ void frmLedenAdmin::ZoekDubbelen()
     opslag_.Reserve().VoorWijziging(); // the window saves by itself
     opslag_.Reserve().Meld();
     frmDubbelen venster(
-        administratie_, [this] { SlaOpEnToon(); }, this);
+        administratie_, [this] { return SlaOpEnToon(); }, this);
     connect(&venster, &frmDubbelen::begint, this,
             [this] { opslag_.Reserve().Maak("voor samenvoegen"); });
     venster.exec();

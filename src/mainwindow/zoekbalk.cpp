@@ -26,6 +26,13 @@ Zoekbalk::Zoekbalk(const Administratie& administratie, QWidget* ouder)
     for (QObject* deel : std::initializer_list<QObject*>{txtZoek, lstZoek})
         deel->installEventFilter(this);
     connect(txtZoek, &QLineEdit::textChanged, this, &Zoekbalk::Zoek);
+    // When the table changes, its rows are other players.
+    connect(lstZoek, &Regellijst::keuzeVeranderd, this, [this] {
+        huidige_ = Huidige() > 0 ? Wie(Huidige()) : Tekst();
+        gekozen_.clear();
+        for (const int rij : Gekozen())
+            gekozen_.insert(Wie(rij));
+    });
     connect(lstZoek, &QListView::clicked, this, [this] {
         if (QApplication::keyboardModifiers() == Qt::NoModifier)
             emit aangeklikt(Huidige());
@@ -55,7 +62,7 @@ void Zoekbalk::GaErheen()
 void Zoekbalk::Zoek()
 {
     const bool was = IsOpen();
-    keys_.clear();
+    wie_.clear();
     woorden_ = ZoekwoordenUit(NaarTekst(txtZoek->text()));
     VulAnders(was);
 }
@@ -68,12 +75,19 @@ void Zoekbalk::Toon(const std::vector<int>& rijen, const QString& opschrift)
         txtZoek->clear();
     }
     woorden_.clear();
-    keys_.clear();
+    wie_.clear();
     for (const int rij : rijen)
-        keys_.emplace(administratie_.spelers.tabel.Cel(rij, Kolom::Key));
+        wie_.insert(Wie(rij));
     opschrift_ = opschrift;
     VulAnders(was);
     lstZoek->setFocus();
+}
+
+/// A file may hold rows without a key, and one key twice.
+Tekst Zoekbalk::Wie(int rij) const
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    return Tekst(tabel.Cel(rij, Kolom::Key)) + VolleNaam(tabel, rij);
 }
 
 void Zoekbalk::Leeg()
@@ -96,22 +110,33 @@ void Zoekbalk::Ververs()
 {
     if (!IsOpen())
         return;
+    const Tekst huidige = huidige_;
+    const std::set<Tekst> gekozen = gekozen_;
     VulLijst(Regellijst::Plek::Behouden);
-    if (Huidige() == 0)
-        lstZoek->ZetHuidige(0);
+    int plek = 0;
+    std::vector<int> plaatsen;
+    for (int plaats = 0; plaats < lstZoek->Aantal(); ++plaats) {
+        const Tekst wie = Wie(rijen_[static_cast<std::size_t>(plaats)]);
+        if (wie == huidige)
+            plek = plaats;
+        if (gekozen.contains(wie))
+            plaatsen.push_back(plaats);
+    }
+    lstZoek->ZetHuidige(plek);
+    lstZoek->Kies(plaatsen);
 }
 
 void Zoekbalk::VulLijst(Regellijst::Plek plek)
 {
     const Spelertabel& tabel = administratie_.spelers.tabel;
     rijen_ = ZoekSpelers(tabel, woorden_);
-    for (int rij = 1; !keys_.empty() && rij <= tabel.Rijen(); ++rij) {
-        if (keys_.contains(Tekst(tabel.Cel(rij, Kolom::Key))))
+    for (int rij = 1; !wie_.empty() && rij <= tabel.Rijen(); ++rij) {
+        if (wie_.contains(Wie(rij)))
             rijen_.push_back(rij);
     }
     lstZoek->Vul(
         static_cast<int>(rijen_.size()), [this](int plaats) { return Regel(plaats).tekst; }, plek);
-    const QString wie = keys_.empty() ? QString() : opschrift_ + u": "_s;
+    const QString wie = wie_.empty() ? QString() : opschrift_ + u": "_s;
     lblZoek->setText(IsOpen() ? wie + u"%1 gevonden"_s.arg(rijen_.size()) : QString());
     txtZoek->setAccessibleDescription(lblZoek->text());
 }
@@ -142,6 +167,14 @@ bool Zoekbalk::Verwerk(const QObject* waar, QKeyEvent& toets)
     if (toets.key() == Qt::Key_Return || toets.key() == Qt::Key_Enter) {
         if (Huidige() > 0)
             emit gevraagd(Huidige(), ctrl);
+        return true;
+    }
+    if (toets.key() == Qt::Key_F2 && Huidige() > 0) {
+        emit gevraagd(Huidige(), true);
+        return true;
+    }
+    if (waar == lstZoek && toets.key() == Qt::Key_Delete) {
+        emit verwijderGevraagd();
         return true;
     }
     if (waar == txtZoek) {

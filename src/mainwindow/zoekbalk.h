@@ -20,7 +20,7 @@ class Zoekbalk : public QWidget {
 
     /// `lstZoek`, which has its place elsewhere in the window.
     [[nodiscard]] Regellijst* Lijst() const { return lstZoek; }
-    [[nodiscard]] bool IsOpen() const { return !woorden_.empty() || !keys_.empty(); }
+    [[nodiscard]] bool IsOpen() const { return !woorden_.empty() || !wie_.empty(); }
     /// The table rows of the chosen lines, in list order.
     [[nodiscard]] std::vector<int> Gekozen() const;
     /// The table row of the current line; 0 without.
@@ -36,7 +36,8 @@ class Zoekbalk : public QWidget {
   signals:
     void opengegaan(bool open);
     void aangeklikt(int rij);
-    void gevraagd(int rij, bool ctrl); ///< with Enter
+    void gevraagd(int rij, bool wijzigen); ///< with Enter, or to change him
+    void verwijderGevraagd();
 
   protected:
     bool eventFilter(QObject* object, QEvent* gebeurtenis) override;
@@ -46,13 +47,16 @@ class Zoekbalk : public QWidget {
     void VulAnders(bool was);
     void VulLijst(Regellijst::Plek plek);
     [[nodiscard]] Zoekregel Regel(int plaats) const;
+    [[nodiscard]] Tekst Wie(int rij) const;
     [[nodiscard]] bool Verwerk(const QObject* waar, QKeyEvent& toets);
 
     const Administratie& administratie_;
     Zoekwoorden woorden_;
-    std::set<Tekst> keys_; ///< of those who are shown without words
+    std::set<Tekst> wie_; ///< are shown without words
     QString opschrift_;
     std::vector<int> rijen_;
+    Tekst huidige_; ///< and the chosen ones, to find them in a table that changed
+    std::set<Tekst> gekozen_;
     QLineEdit* txtZoek;
     QLabel* lblZoek; ///< how many answer
     Regellijst* lstZoek;

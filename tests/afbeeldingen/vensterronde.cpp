@@ -298,7 +298,7 @@ void NeemDubbelen(const Bezoek& bezoek, QWidget& hoofdvenster, Administratie& ad
                                                 {Kolom::Adres, "Oude Trekvaart 1003 achterhuis"},
                                                 {Kolom::Plaats, ""}});
     frmDubbelen venster(
-        administratie, [] {}, &hoofdvenster);
+        administratie, [] { return true; }, &hoofdvenster);
     if (auto* links = venster.findChild<QRadioButton*>(u"optRechts"_s))
         links->setChecked(true);
     bezoek(venster);

@@ -33,8 +33,10 @@ class frmDubbelenTest : public Dialoogproef<frmDubbelen, Mapstand> {
     {
         Toon(administratie, [this] {
             ++opgeslagen;
-            EXPECT_TRUE(SchrijfSpelers(schijf, administratie.mappen, administratie.spelers,
-                                       Overschrijven::AlleenEigen));
+            const auto geschreven = SchrijfSpelers(
+                schijf, administratie.mappen, administratie.spelers, Overschrijven::AlleenEigen);
+            EXPECT_TRUE(geschreven);
+            return geschreven.has_value();
         });
         QObject::connect(venster.get(), &frmDubbelen::begint, venster.get(), [this] {
             EXPECT_EQ("N01 100003 - 100002\r\n", Zitting()) << "before anything changes";

@@ -118,7 +118,11 @@ TEST_F(DubbelenTest, WatNietOpgeslagenKanWordenKomtLater)
         schijf.Vooraf([](const Pad& pad) { return pad.find("RVDspelers.txt.~") == Pad::npos; });
         wachter.Begin(u"De spelers konden niet worden opgeslagen."_s, QMessageBox::Critical,
                       u"Doorgaan"_s);
-        Samenvoegen(dubbelen);
+        wachter.Begin(u"De spelers zijn samengevoegd, maar dat is nog niet opgeslagen."_s,
+                      QMessageBox::Warning, u"OK"_s);
+        Vind<QRadioButton>(dubbelen, "optLinks")->click();
+        Druk(dubbelen, "cmdSamenvoegen");
+        EXPECT_FALSE(dubbelen.isVisible()) << "no more before this is saved";
         schijf.Vooraf({});
     });
     EXPECT_EQ("N01 100001  -100004\nO02 Jan-Bos\r", Bestanden()[3]);

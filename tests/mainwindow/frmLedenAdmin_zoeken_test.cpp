@@ -55,6 +55,50 @@ using Regels_t = std::vector<std::string>;
 
 } // namespace
 
+TEST_F(ZoekTest, EenMenuopdrachtGaatOverWieInDeLijstGekozenIs)
+{
+    QTest::keyClick(Vlak(), Qt::Key_Home);
+    Zoek(u"oudewortel"_s);
+    Lijst()->setFocus();
+    InLijst(Qt::Key_Down);
+    const std::string wie = Namen()[1];
+    for (const bool toets : {false, true}) {
+        wachter.Bedien([&](QDialog& ingave) {
+            EXPECT_EQ("Mieke", Vind<QLineEdit>(ingave, "txt1_4")->text().toStdString()) << wie;
+            ingave.reject();
+        });
+        if (toets)
+            InLijst(Qt::Key_F2);
+        else
+            venster->findChild<QAction*>(u"actWijzig"_s)->trigger();
+        wachter.Klaar();
+        venster->activateWindow();
+        Lijst()->setFocus();
+    }
+    wachter.Verwacht({.tekst = u"\t\tLET OP!"_s,
+                      .antwoord = u"Annuleren"_s,
+                      .titel = u"Verwijderen"_s,
+                      .alleenBegin = true});
+    InLijst(Qt::Key_Delete);
+    wachter.Klaar();
+}
+
+TEST_F(ZoekTest, WieInDeLijstGekozenIsBlijftHetAlsErEenAnderVoorKomt)
+{
+    Zoek(u"oudewortel"_s);
+    InLijst(Qt::Key_Down);
+    const std::string wie = Namen()[1];
+    Spelertabel& tabel = administratie.spelers.tabel;
+    Rijvelden eerder = tabel.Velden(1);
+    eerder[Index(Kolom::Achternaam)] = "Oudewortel-Aap";
+    WijzigSpeler(administratie.spelers, 1, eerder);
+    venster->ToonGroep();
+    EXPECT_EQ(5U, Namen().size());
+    EXPECT_EQ(wie, Namen()[static_cast<std::size_t>(Lijst()->currentIndex().row())]);
+    EXPECT_EQ(2, Lijst()->currentIndex().row());
+    EXPECT_EQ((std::vector<int>{2}), Lijst()->GekozenPlaatsen());
+}
+
 TEST_F(ZoekTest, WieAchterEenBalkVanHetOverzichtStaatKomtInDeLijst)
 {
     Zoek(u"oudewortel"_s);
