@@ -186,11 +186,11 @@ class Zoeker {
         const bool mail = !een.mail.empty() && een.mail == ander.mail;
         const bool telefoon = !een.telefoon.empty() && een.telefoon == ander.telefoon;
         const bool voornaam = LijkenVoornamen(een, ander);
-        auto verband = Naamverband(een, ander);
-        if (verband == Dubbelreden::EenLetter && !voornaam && (mail || telefoon))
-            verband.reset(); // they live together
-        if (verband)
-            zet(*verband, true);
+        if (const auto gevonden = Naamverband(een, ander))
+            zet(*gevonden, true);
+        if (!voornaam && (mail || telefoon))
+            zet(Dubbelreden::EenLetter, false); // they live together
+        const bool verband = paar.redenen.any();
         zet(Dubbelreden::NBBnr, !een.nbbnr.empty() && een.nbbnr == ander.nbbnr);
         zet(Dubbelreden::Email, mail && (voornaam || verband));
         zet(Dubbelreden::Telefoon,
@@ -201,7 +201,7 @@ class Zoeker {
         zet(Dubbelreden::AnderNBBnr,
             !een.nbbnr.empty() && !ander.nbbnr.empty() && een.nbbnr != ander.nbbnr);
         const bool andereGroep = tabel_.Cel(rij, Kolom::Groep) != tabel_.Cel(latere, Kolom::Groep);
-        if (andereGroep && verband == Dubbelreden::Naam && !paar.Heeft(Dubbelreden::AnderNBBnr) &&
+        if (andereGroep && paar.Heeft(Dubbelreden::Naam) && !paar.Heeft(Dubbelreden::AnderNBBnr) &&
             IsKopie(rij, latere)) {
             paar.redenen.reset();
             zet(Dubbelreden::TweeGroepen, true);
