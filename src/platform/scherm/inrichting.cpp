@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QTranslator>
 
 #include <array>
