@@ -58,7 +58,8 @@ class frmImportNBB : public QDialog {
     [[nodiscard]] bool RondAf(const Tekst& naam, const Ledenlezing& lezing,
                               const Samenvoeguitkomst& uitkomst);
     void MeldVooraf(Ledenbron bron, const Tekst& naam, const Ledenlezing& lezing);
-    void MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing, const Samenvoeging& uitkomst);
+    void MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing, const Samenvoeging& uitkomst,
+                      const QString& gedaan);
     void MeldAfgebroken(const Tekst& naam, Samenvoegfout fout);
 
     Administratie& administratie_;

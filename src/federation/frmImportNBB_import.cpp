@@ -146,7 +146,8 @@ bool frmImportNBB::BekijkEenBestand(const Tekst& naam, Ledenlezing lezing)
         if (LaatAntwoorden(venster) != QDialog::Accepted)
             return false;
         if (!voorbeeld->VerandertIets()) {
-            Meld(this, QMessageBox::Information, frmVoorbeeld::Nietstekst());
+            if (const auto uitkomst = import_.Importeer(*voorbeeld))
+                MeldUitkomst(naam, lezing, *uitkomst, frmVoorbeeld::Nietstekst());
             return true;
         }
     } while (!VraagOfHetMag(naam, voorbeeld->Gekozen().size() - voorbeeld->RegelsUit()));
@@ -170,22 +171,23 @@ bool frmImportNBB::RondAf(const Tekst& naam, const Ledenlezing& lezing,
     administratie_.geschiedenis.Noem(NaarTekst(u"%1 geïmporteerd uit %2"_s.arg(
         Aantal(uitkomst->AantalVerververst + uitkomst->AantalNieuw, u"lid"_s, u"leden"_s),
         NaarQString(SubgroepUitNaam(naam)))));
-    MeldUitkomst(naam, lezing, *uitkomst);
+    MeldUitkomst(naam, lezing, *uitkomst,
+                 u"Aantal spelers geupdate (ververst): %1\r\nAantal nieuwe spelers toegevoegd: %2"_s
+                     .arg(uitkomst->AantalVerververst)
+                     .arg(uitkomst->AantalNieuw));
     return true;
 }
 
-/// The two boxes of every import, then one for all that nobody would see otherwise.
+/// The two boxes of every import, then one for all that nobody would see otherwise. `gedaan` says
+/// what was done.
 void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
-                                const Samenvoeging& uitkomst)
+                                const Samenvoeging& uitkomst, const QString& gedaan)
 {
     if (!uitkomst.ZonderNBBnr.empty())
         MeldLijst(this, QMessageBox::Warning,
                   u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\n"_s +
                       Toonbaar(Regels(uitkomst.ZonderNBBnr)));
-    Meld(this, QMessageBox::Information,
-         u"Aantal spelers geupdate (ververst): %1\r\nAantal nieuwe spelers toegevoegd: %2"_s
-             .arg(uitkomst.AantalVerververst)
-             .arg(uitkomst.AantalNieuw));
+    Meld(this, QMessageBox::Information, gedaan);
     QStringList delen;
     if (!uitkomst.overgeslagen.empty())
         delen << u"%1 overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit bestand, of "

@@ -104,8 +104,10 @@ tl::expected<Voorbeeld, Samenvoegfout> Ledenimport::Bekijk(Tekstblik naam, Leden
 
 Samenvoeguitkomst Ledenimport::Importeer(const Voorbeeld& voorbeeld)
 {
-    return Onthoud(
-        VoerSamenvoegingUit(administratie_.spelers, voorbeeld.Opdracht(), voorbeeld.Gekozen()));
+    const bool verandertIets = voorbeeld.VerandertIets(); // asked while the table is as it was
+    auto uitkomst =
+        VoerSamenvoegingUit(administratie_.spelers, voorbeeld.Opdracht(), voorbeeld.Gekozen());
+    return verandertIets ? Onthoud(std::move(uitkomst)) : uitkomst;
 }
 
 Samenvoeguitkomst Ledenimport::Onthoud(Samenvoeguitkomst uitkomst)

@@ -53,7 +53,8 @@ class Ledenimport {
     /// What that would do. Takes the import lines out of the reading, which must outlive it.
     [[nodiscard]] tl::expected<Voorbeeld, Samenvoegfout> Bekijk(Tekstblik naam, Ledenlezing& lezing,
                                                                 const Voortgang& voortgang) const;
-    /// Does what is on in a preview.
+    /// Does what is on in a preview. Where that leaves every player as he is, there is nothing to
+    /// save.
     [[nodiscard]] Samenvoeguitkomst Importeer(const Voorbeeld& voorbeeld);
     /// Whether a player was refreshed or added, so that there is something to save.
     [[nodiscard]] bool IetsGewijzigd() const { return ietsGewijzigd_; }

@@ -42,10 +42,28 @@ tl::expected<Voorbeeld, Samenvoegfout> Voorbeeld::Maak(const Spelertabel& tabel,
                                                        const Ledenlezing& lezing,
                                                        const Voortgang& voortgang)
 {
-    auto besluiten = BesluitSamenvoeging(tabel, opdracht, voortgang);
+    // The decisions count each line twice; every line is gone through three times more, and every
+    // player once for his name and once to see whether he is gone.
+    const auto rijen = static_cast<std::size_t>(tabel.Rijen());
+    const std::size_t geheel = 5 * opdracht.lstN1.size() + 2 * rijen;
+    std::size_t gedaan = 2 * opdracht.lstN1.size();
+    const auto meld = [&](std::size_t stap, std::size_t /*deel*/) {
+        return !voortgang || voortgang(stap, geheel);
+    };
+    auto besluiten = BesluitSamenvoeging(tabel, opdracht, meld);
     if (!besluiten)
         return tl::unexpected(besluiten.error());
-    return Voorbeeld(tabel, std::move(opdracht), lezing, std::move(*besluiten));
+    constexpr std::size_t meldElke = 2048;
+    const auto verder = [&] { return ++gedaan % meldElke != 0 || meld(gedaan, geheel); };
+    Voorbeeld uit(tabel, std::move(opdracht), lezing, std::move(*besluiten));
+    if (!uit.VergelijkRegels(verder) || !uit.ZoekTwijfels(verder))
+        return tl::unexpected(Samenvoegfout::Gestopt);
+    uit.VoegOvergeslagenToe();
+    if (uit.IsHeel() && !uit.ZoekVerdwenen(verder))
+        return tl::unexpected(Samenvoegfout::Gestopt);
+    for (const Voorbeeldregel& regel : uit.regels_)
+        ++uit.aantallen_[static_cast<std::size_t>(regel.soort)];
+    return uit;
 }
 
 Voorbeeld::Voorbeeld(const Spelertabel& tabel, Samenvoegopdracht opdracht,
@@ -53,23 +71,22 @@ Voorbeeld::Voorbeeld(const Spelertabel& tabel, Samenvoegopdracht opdracht,
     : tabel_(tabel), opdracht_(std::move(opdracht)), lezing_(lezing),
       NBBgr_(AlsVeld(Hoofdletters(opdracht_.subgroep))), besluiten_(std::move(besluiten)),
       regels_(besluiten_.size()), eerdere_(besluiten_.size())
+{}
+
+void Voorbeeld::VoegOvergeslagenToe()
 {
-    VergelijkRegels();
-    ZoekTwijfels();
-    for (std::size_t i = 0; i < lezing.metIsTeken.size(); ++i)
-        regels_.push_back({.soort = Voorbeeldsoort::Geweigerd, .weigering = Weigering::MetIsTeken});
-    if (lezing.teKorteRegel > 0)
+    regels_.resize(regels_.size() + lezing_.metIsTeken.size(),
+                   {.soort = Voorbeeldsoort::Geweigerd, .weigering = Weigering::MetIsTeken});
+    if (lezing_.teKorteRegel > 0)
         regels_.push_back({.soort = Voorbeeldsoort::Geweigerd, .weigering = Weigering::TeKort});
-    if (IsHeel())
-        ZoekVerdwenen();
-    for (const Voorbeeldregel& regel : regels_)
-        ++aantallen_[static_cast<std::size_t>(regel.soort)];
 }
 
-void Voorbeeld::VergelijkRegels()
+bool Voorbeeld::VergelijkRegels(const Stap& verder)
 {
     std::vector<std::optional<std::size_t>> laatste(static_cast<std::size_t>(tabel_.Rijen()) + 1);
     for (std::size_t i = 0; i < besluiten_.size(); ++i) {
+        if (!verder())
+            return false;
         Regelbesluit& besluit = besluiten_[i];
         Voorbeeldregel& regel = regels_[i];
         regel.rij = besluit.rij;
@@ -95,13 +112,16 @@ void Voorbeeld::VergelijkRegels()
             regel.andereNaam = regel.anders.any() && IsAndereNaam(oud, nieuw);
         }
     }
+    return true;
 }
 
-void Voorbeeld::ZoekTwijfels()
+bool Voorbeeld::ZoekTwijfels(const Stap& verder)
 {
     const auto nummer = [this](int rij) { return Nummersleutel(tabel_.Cel(rij, Kolom::NBBnr)); };
     std::unordered_map<Tekst, Naamdragers> namen;
     for (int rij = 1; rij <= tabel_.Rijen(); ++rij) {
+        if (!verder())
+            return false;
         if (tabel_.Cel(rij, Kolom::Groep) != opdracht_.importgroep)
             continue;
         Naamdragers& dragers = namen[Naamsleutel(VolleNaam(tabel_, rij))];
@@ -112,6 +132,8 @@ void Voorbeeld::ZoekTwijfels()
     }
     std::vector<const Naamdragers*> vanRegel(besluiten_.size());
     for (std::size_t i = 0; i < besluiten_.size(); ++i) {
+        if (!verder())
+            return false;
         if (const Tekst naam = Naamsleutel(Naam(i)); !naam.empty()) {
             Naamdragers& dragers = namen[naam];
             ++dragers.regels;
@@ -126,26 +148,31 @@ void Voorbeeld::ZoekTwijfels()
         const bool eigen = dragers->rij > 0 && nummer(dragers->rij) == Nummersleutel(Nummer(i));
         regels_[i].naamgenoot = eigen ? dragers->ander : dragers->rij;
     }
+    return true;
 }
 
 /// Players without a number are looked for by their name.
-void Voorbeeld::ZoekVerdwenen()
+bool Voorbeeld::ZoekVerdwenen(const Stap& verder)
 {
     std::vector<bool> ververst(static_cast<std::size_t>(tabel_.Rijen()) + 1);
     for (const Voorbeeldregel& regel : regels_)
         ververst[static_cast<std::size_t>(regel.rij)] = true;
     std::vector<int> over;
     for (int rij = 1; rij <= tabel_.Rijen(); ++rij) {
+        if (!verder())
+            return false;
         if (!ververst[static_cast<std::size_t>(rij)] &&
             tabel_.Cel(rij, Kolom::Groep) == opdracht_.importgroep &&
             tabel_.Cel(rij, Kolom::NBBgr) == NBBgr_)
             over.push_back(rij);
     }
     if (over.empty())
-        return;
+        return true;
     std::unordered_set<Tekst> nummers;
     std::unordered_set<Tekst> namen;
     for (std::size_t i = 0; i < besluiten_.size(); ++i) {
+        if (!verder())
+            return false;
         nummers.insert(Nummersleutel(Nummer(i)));
         namen.insert(Naamsleutel(Naam(i)));
     }
@@ -157,6 +184,7 @@ void Voorbeeld::ZoekVerdwenen()
                            : !nummers.contains(nummer))
             regels_.push_back({.soort = Voorbeeldsoort::Verdwenen, .rij = rij});
     }
+    return true;
 }
 
 bool Voorbeeld::IsHeel() const

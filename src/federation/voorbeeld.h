@@ -4,6 +4,8 @@
 // left, just as it was shown.
 #pragma once
 
+#include <functional>
+
 #include "federation/samenvoegen.h"
 
 namespace plexoran {
@@ -96,9 +98,13 @@ class Voorbeeld {
 
     [[nodiscard]] Rijblikken Cellen(std::size_t regel) const;
     [[nodiscard]] Tekstblik Na(std::optional<std::size_t> regel, int rij, Kolom kolom) const;
-    void VergelijkRegels();
-    void ZoekTwijfels();
-    void ZoekVerdwenen();
+
+    // The steps of making it, line by line. False once `verder` wants to stop.
+    using Stap = std::function<bool()>;
+    [[nodiscard]] bool VergelijkRegels(const Stap& verder);
+    [[nodiscard]] bool ZoekTwijfels(const Stap& verder);
+    [[nodiscard]] bool ZoekVerdwenen(const Stap& verder);
+    void VoegOvergeslagenToe();
 
     const Spelertabel& tabel_;
     Samenvoegopdracht opdracht_;

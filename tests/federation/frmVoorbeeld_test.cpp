@@ -6,6 +6,7 @@
 #include <QHeaderView>
 
 #include "federation/importproef.h"
+#include "hulp/voortgangstopper.h"
 #include "register/geschiedenis.h"
 
 using namespace plexoran;
@@ -300,9 +301,74 @@ TEST_F(frmVoorbeeldTest, HetzelfdeNogEensZegtDatErNietsVerandert)
         EXPECT_TRUE(QString::fromStdString(Totalen(dia)).endsWith(u'\n' + niets)) << Totalen(dia);
         Druk(dia, "cmdImporteerDeze");
     });
+    wachter.Begin(u"Niet verwerkte spelers"_s);
     wachter.Informatie(niets);
+    wachter.Begin(u"Niet alles uit"_s, QMessageBox::Information);
     Importeer();
     EXPECT_EQ(na, suite.Spelers());
+}
+
+/// What comes for the lines that are refused is what the import itself says of them, also where
+/// nothing changes.
+TEST_F(frmVoorbeeldTest, OokAlsErNietsVerandertKomenDeGeweigerdeRegels)
+{
+    const QString zonderNummer =
+        u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nGast,,Heer,,,,,,,M,\r\n"_s;
+    const QString overgeslagen =
+        u"Niet alles uit 'Club.csv' is zo overgenomen als het er staat; de rest is geïmporteerd. "
+        "Verander het zo nodig in het rekenprogramma en importeer opnieuw.\r\n\r\n1 lid "
+        "overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit bestand, of anders "
+        "geschreven in groep 'Gr05-':\r\nEva,,Een,,,,,,,V,0771\r\n\r\n1 regel overgeslagen, omdat "
+        "er een '=' in staat, zoals in een kopregel:\r\nKOP=1\r\n"_s;
+    ZetExport("Club.csv", "KOP=1\r\n771;V;Eva;;;Een;;;;;;\r\n;M;Gast;;;Heer;;;;;;\r\n"
+                          "0771;V;Eva;;;Een;;;;;;\r\n");
+    Verwacht([](QDialog& dia) {
+        KiesOptie(dia, "Option2");
+        Lijst(dia)->Kies({0});
+        Druk(dia, "cmdImporteer");
+    });
+    VerwachtVraag(u"Club"_s, 3);
+    wachter.Waarschuwing(zonderNummer);
+    VerwachtAantallen(0, 1);
+    wachter.Informatie(overgeslagen);
+    Importeer();
+    const std::string na = suite.Spelers();
+    schijf.FaalVanaf(1); // nothing is written
+    Bekijk({0}, false);
+    InVoorbeeld([](QDialog& dia, QTreeView&) { Druk(dia, "cmdImporteerDeze"); });
+    wachter.Waarschuwing(zonderNummer);
+    wachter.Informatie(frmVoorbeeld::Nietstekst());
+    wachter.Informatie(overgeslagen);
+    Importeer();
+    EXPECT_EQ(na, suite.Spelers());
+}
+
+TEST_F(frmVoorbeeldTest, HetBekijkenIsTeStoppenEnVerandertDanNiets)
+{
+    std::string regels;
+    for (int i = 0; i < 20'000; ++i)
+        regels += std::to_string(200'000 + i) + ";V;Eva;;;Naam" + std::to_string(i) + ";;;;;;\r\n";
+    ZetExport("Club.csv", regels);
+    int stappen = 0;
+    {
+        const Voortgangstopper teller(0);
+        Bekijk({0}, true);
+        InVoorbeeld([](QDialog& dia, QTreeView&) { Druk(dia, "cmdSluiten"); });
+        Importeer();
+        stappen = teller.Stappen();
+    }
+    EXPECT_GT(stappen, 40) << "zo vaak, ook als de besluiten al genomen zijn";
+    const Voortgangstopper stopper(stappen - 4, [](frmVoortgang& voortgang) {
+        EXPECT_EQ("'Club.csv' wordt bekeken ...", voortgang.labelText().toStdString());
+        EXPECT_GT(voortgang.value(), voortgang.maximum() / 2);
+        Druk(voortgang, "cmdStop");
+    });
+    Bekijk({0}, true);
+    wachter.Informatie(
+        u"Het importeren is gestopt. Uit 'Club.csv' is niets geïmporteerd; wat eerder is "
+        "geïmporteerd, blijft. Importeer 'Club.csv' opnieuw als u die leden nog nodig hebt."_s);
+    Importeer();
+    EXPECT_EQ(oud, suite.Spelers());
 }
 
 /// Each file is shown as the ones before it leave the register; closing ends it there.

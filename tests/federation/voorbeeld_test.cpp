@@ -352,6 +352,23 @@ TEST_F(VoorbeeldTest, WaaropDeImportAfbreektIsErGeenVoorbeeld)
                                          [](std::size_t, std::size_t) { return false; });
     ASSERT_FALSE(gestopt);
     EXPECT_EQ(Samenvoegfout::Gestopt, gestopt.error());
+    for (int na = 1;; ++na) { // also in what comes after the decisions
+        int stap = 0;
+        std::size_t laatste = 0;
+        const auto half = Voorbeeld::Maak(spelers.tabel, {"Gr05-", "Club", regels}, lezing,
+                                          [&](std::size_t gedaan, std::size_t geheel) {
+                                              EXPECT_EQ(15'008U, geheel);
+                                              EXPECT_GT(gedaan, laatste);
+                                              laatste = gedaan;
+                                              return ++stap != na;
+                                          });
+        if (half) {
+            EXPECT_EQ(8, na);
+            EXPECT_LE(laatste, 15'008U);
+            break;
+        }
+        EXPECT_EQ(Samenvoegfout::Gestopt, half.error());
+    }
     const auto groot = Voorbeeld::Maak(
         spelers.tabel, {"Gr05-", "Club", {"A,,B,,,,,,,," + Tekst(70'000, 'x')}}, lezing);
     ASSERT_FALSE(groot);
