@@ -1,5 +1,6 @@
 #include "mainwindow/frmOverzicht.h"
 
+#include <QAction>
 #include <QStyledItemDelegate>
 
 #include <set>
@@ -105,16 +106,17 @@ void frmOverzicht::Bouw()
     setObjectName(u"frmOverzicht"_s);
     setWindowTitle(Titel);
     auto* Label1 = MaakUitleg(
-        u"Label1"_s, u"Klik op een balk, of druk op Enter, om te zien om wie het gaat."_s, this);
+        u"Label1"_s, u"Klik op een regel, of druk op Enter, om te zien om wie het gaat."_s, this);
     lstOverzicht =
         MaakBoom(u"lstOverzicht"_s, u"Aantallen spelers"_s, {u"Wat"_s, u"Aantal"_s}, this);
     lstOverzicht->setItemDelegateForColumn(Balk, new Balkschilder(lstOverzicht));
-    connect(lstOverzicht, &QTreeWidget::itemActivated, this, &frmOverzicht::Kies);
-    connect(lstOverzicht, &QTreeWidget::itemClicked, this,
-            [this](const QTreeWidgetItem* regel, int kolom) {
-                if (kolom == Balk)
-                    Kies(regel);
-            });
+    connect(lstOverzicht, &QTreeWidget::itemClicked, this, &frmOverzicht::Kies);
+    // Not what the list calls activated: on some desktops that is a click too.
+    auto* actToon = new QAction(u"&Tonen wie het zijn"_s, lstOverzicht);
+    actToon->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+    actToon->setShortcutContext(Qt::WidgetShortcut);
+    connect(actToon, &QAction::triggered, this, [this] { Kies(lstOverzicht->currentItem()); });
+    lstOverzicht->addAction(actToon);
     auto* cmdPrint = MaakKnop(u"cmdPrint"_s, u"Print"_s, u'P', this, &frmOverzicht::Print);
     auto* cmdEinde = MaakKnop(u"cmdEinde"_s, u"Terug"_s, u'T', this, &QDialog::reject);
     Onderelkaar({Label1, {lstOverzicht, 1}, Knoppenrij({cmdPrint, cmdEinde})}, this);
