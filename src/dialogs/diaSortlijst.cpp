@@ -84,7 +84,6 @@ class Sorteervlak : public Tabelvlak {
         for (int regel = eerste; regel <= laatste; ++regel)
             TekenRegel(schilder, regel);
         TekenKeus(schilder, 1);
-        TekenFocus(schilder);
     }
 
   private:

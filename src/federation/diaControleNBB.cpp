@@ -103,7 +103,6 @@ class Controlevlak : public Tabelvlak {
                            static_cast<std::size_t>(Kader().Staand().value()),
                            static_cast<std::size_t>(ZichtbareRijen()) + 1);
         TekenKeus(schilder, 0);
-        TekenFocus(schilder);
     }
 
   private:

@@ -215,7 +215,6 @@ void Roostervlak::paintEvent(QPaintEvent* gebeurtenis)
         for (int regel = eerste; regel <= laatste; ++regel)
             TekenTeksten(schilder, regel, deel.left(), deel.right());
     }
-    TekenFocus(schilder);
 }
 
 void Roostervlak::TekenRasters(QPainter& schilder, int eerste, int laatste) const

@@ -115,16 +115,6 @@ void Bladbeeld::Zoom(int stappen)
         static_cast<std::size_t>(std::clamp(plaats, 0, static_cast<int>(Zoomstappen.size()) - 1))));
 }
 
-void Bladbeeld::paintEvent(QPaintEvent* gebeurtenis)
-{
-    Schuifkader::paintEvent(gebeurtenis);
-    if (!hasFocus())
-        return;
-    QPainter schilder(this);
-    schilder.setPen(palette().color(QPalette::Highlight));
-    schilder.drawRect(rect().adjusted(0, 0, -1, -1));
-}
-
 void Bladbeeld::resizeEvent(QResizeEvent* gebeurtenis)
 {
     Schuifkader::resizeEvent(gebeurtenis);

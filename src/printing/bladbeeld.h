@@ -43,7 +43,6 @@ class Bladbeeld : public Schuifkader {
     void zoomVeranderd(int procent);
 
   protected:
-    void paintEvent(QPaintEvent* gebeurtenis) override;
     void resizeEvent(QResizeEvent* gebeurtenis) override;
     void wheelEvent(QWheelEvent* gebeurtenis) override;
 

@@ -284,7 +284,11 @@ TEST_F(frmAfdrukkenTest, HetBladMetDeAandachtHeeftEenRand)
     OpenRijen(2);
     auto* kader = Deel<QWidget>("picP0");
     const QColor rand = kader->palette().color(QPalette::Highlight);
-    const auto hoek = [&] { return kader->grab().toImage().pixelColor(0, kader->height() / 2); };
+    const auto hoek = [&] {
+        QApplication::processEvents();
+        const QPoint plek = kader->mapTo(venster.get(), QPoint(0, kader->height() / 2));
+        return venster->grab().toImage().pixelColor(plek);
+    };
     kader->setFocus();
     EXPECT_EQ(rand, hoek());
     Knop("cmdPrinten")->setFocus();

@@ -1,21 +1,38 @@
 #include "platform/scherm/inrichting.h"
 
+#include <QFocusFrame>
 #include <QFontInfo>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTranslator>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <string_view>
 
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
 namespace {
+
+/// Some themes choose a highlight that does not stand out from their ground.
+QColor Focuskleur(const QPalette& palet)
+{
+    constexpr int genoeg = 90;
+    const QColor kleur = palet.color(QPalette::Highlight);
+    const auto verschil = [&](QPalette::ColorRole rol) {
+        return std::abs(qGray(kleur.rgb()) - qGray(palet.color(rol).rgb()));
+    };
+    return palet.color(std::min(verschil(QPalette::Window), verschil(QPalette::Base)) < genoeg
+                           ? QPalette::WindowText
+                           : QPalette::Highlight);
+}
 
 /// The system's own style but for a few habits.
 class Huisstijl : public QProxyStyle {
@@ -28,14 +45,32 @@ class Huisstijl : public QProxyStyle {
         if (gewoonte == SH_ComboBox_Popup || gewoonte == SH_DialogButtonBox_ButtonsHaveIcons)
             return 0;
         // Who points at an entry that is off is told why.
-        if (gewoonte == SH_Menu_AllowActiveAndDisabled)
+        // The line around what has the focus stands above it, and leaves the middle free.
+        if (gewoonte == SH_Menu_AllowActiveAndDisabled || gewoonte == SH_FocusFrame_AboveWidget)
             return 1;
+        if (auto* vorm = qstyleoption_cast<QStyleHintReturnMask*>(uitslag);
+            gewoonte == SH_FocusFrame_Mask && vorm != nullptr) {
+            constexpr int dik = 2;
+            vorm->region = QRegion(optie->rect) - optie->rect.adjusted(dik, dik, -dik, -dik);
+            return 1;
+        }
         return QProxyStyle::styleHint(gewoonte, optie, widget, uitslag);
+    }
+    int pixelMetric(PixelMetric maat, const QStyleOption* optie,
+                    const QWidget* widget) const override
+    {
+        return maat == PM_FocusFrameHMargin || maat == PM_FocusFrameVMargin
+                   ? 0
+                   : QProxyStyle::pixelMetric(maat, optie, widget);
     }
     /// An entry that is off and pointed at would look as all others.
     void drawControl(ControlElement wat, const QStyleOption* optie, QPainter* schilder,
                      const QWidget* widget) const override
     {
+        if (wat == CE_FocusFrame) {
+            schilder->fillRect(optie->rect, Focuskleur(optie->palette));
+            return;
+        }
         QProxyStyle::drawControl(wat, optie, schilder, widget);
         if (wat != CE_MenuItem || !optie->state.testFlag(State_Selected) ||
             optie->state.testFlag(State_Enabled))
@@ -115,6 +150,24 @@ void SpreekNederlands(QApplication& programma)
     QApplication::installTranslator(new Aanvulling(&programma)); // the last one is asked first
 }
 
+/// A line around what has the focus, alike in every window. What the style draws itself can be hard
+/// to see, or comes only once Tab was used. It comes when what gets the focus has been scrolled
+/// into sight.
+void LaatFocusZien(QApplication& programma)
+{
+    const auto toon = [lijn = QPointer<QFocusFrame>()]() mutable {
+        QWidget* nu = QApplication::focusWidget();
+        if (nu != nullptr && (nu->isWindow() || nu->window()->windowType() == Qt::Popup))
+            nu = nullptr;
+        if (lijn == nullptr && nu != nullptr)
+            lijn = new QFocusFrame(nu->window()); // goes with the window
+        if (lijn != nullptr)
+            lijn->setWidget(nu);
+    };
+    QObject::connect(&programma, &QApplication::focusChanged, &programma, toon,
+                     Qt::QueuedConnection);
+}
+
 /// A bare system may answer "the standard font" with one for typewriter text.
 void ZorgVoorVensterletter()
 {
@@ -167,6 +220,7 @@ void RichtIn(QApplication& programma)
     QApplication::setStyle(new Huisstijl);
     SpreekNederlands(programma);
     ZorgVoorVensterletter();
+    LaatFocusZien(programma);
     QApplication::setWindowIcon(Pictogram());
 }
 

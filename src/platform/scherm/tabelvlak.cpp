@@ -212,14 +212,6 @@ void Tabelvlak::TekenKeus(QPainter& schilder, int lijn) const
     schilder.drawRect(plek.adjusted(lijn, 0, -1, -1 - lijn));
 }
 
-void Tabelvlak::TekenFocus(QPainter& schilder) const
-{
-    if (!hasFocus())
-        return;
-    schilder.setPen(palette().color(QPalette::Highlight));
-    schilder.drawRect(rect().adjusted(0, 0, -1, -1));
-}
-
 /// Screen readers read the description of the surface: the current line, column by column.
 void Tabelvlak::Beschrijf()
 {

@@ -77,8 +77,6 @@ class Tabelvlak : public QWidget {
     [[nodiscard]] std::pair<int, int> RegelsIn(const QRect& deel) const;
     /// A frame around the chosen line, inside the lines of the table, which are so thick.
     void TekenKeus(QPainter& schilder, int lijn) const;
-    /// A frame around all of it when it has the keys.
-    void TekenFocus(QPainter& schilder) const;
 
   private:
     [[nodiscard]] int Doelregel(int toets) const;
