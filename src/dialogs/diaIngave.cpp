@@ -55,6 +55,7 @@ diaIngave::diaIngave(Ingave& ingave, std::int16_t& terugkeerveld, std::function<
     lagen->setContentsMargins({});
     lagen->setSpacing(0);
     ToonGroep();
+    KleurVelden();
     PasInScherm(this, maten_.Twips(VensterBreed, 7650));
     Vak(Kolom::Voornaam)->setFocus();
 
@@ -131,15 +132,11 @@ void diaIngave::BouwVeld(int veld, QGridLayout* rooster)
     if (veld < EersteIngaveveld) {
         vak->setEnabled(false);
         vak->setReadOnly(true);
-        Kleur(vak, QPalette::Base, palette().color(QPalette::Button));
-        Kleur(vak, QPalette::Text, palette().color(QPalette::ButtonText));
     }
     if (kolom == Kolom::Achternaam) {
         MaakVet(label);
         Kleur(label, QPalette::WindowText, QColor(255, 0, 0));
-        // Red is hard to read on the grey of dark themes.
         Kleur(label, QPalette::Window, Qt::black);
-        label->setAutoFillBackground(palette().color(QPalette::Window).lightness() < 128);
     }
     if (kolom == Kolom::Status)
         BouwHulp(rooster, veld);
@@ -239,6 +236,25 @@ QLayout* diaIngave::BouwVoet()
     voet->setContentsMargins(rand, 0, rand, rand);
     voet->setSpacing(0);
     return voet;
+}
+
+/// In the theme of the desktop, also when that changes.
+void diaIngave::KleurVelden()
+{
+    for (const Kolom kolom : {Kolom::Nr, Kolom::Key}) {
+        Kleur(Vak(kolom), QPalette::Base, palette().color(QPalette::Button));
+        Kleur(Vak(kolom), QPalette::Text, palette().color(QPalette::ButtonText));
+    }
+    // Red is hard to read on the grey of dark themes.
+    findChild<QLabel*>(u"lbl1_6"_s)
+        ->setAutoFillBackground(palette().color(QPalette::Window).lightness() < 128);
+}
+
+void diaIngave::changeEvent(QEvent* gebeurtenis)
+{
+    QDialog::changeEvent(gebeurtenis);
+    if (gebeurtenis->type() == QEvent::PaletteChange && !txt1.isEmpty())
+        KleurVelden();
 }
 
 /// Bold and large, but for a long name as small as it must be to stand in its box.

@@ -26,6 +26,7 @@ class diaIngave : public QDialog {
 
   protected:
     void closeEvent(QCloseEvent* gebeurtenis) override;
+    void changeEvent(QEvent* gebeurtenis) override;
 
   private:
     [[nodiscard]] QWidget* BouwVelden();
@@ -35,6 +36,7 @@ class diaIngave : public QDialog {
     void BouwTerugkeerkeuzen(QGridLayout* rooster);
     [[nodiscard]] QLayout* BouwVoet();
     void ToonGroep();
+    void KleurVelden();
     [[nodiscard]] QString Opschrift(Kolom kolom) const;
 
     void Verlaat(int veld);

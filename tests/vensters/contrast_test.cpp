@@ -36,14 +36,33 @@ std::optional<std::pair<QColor, QColor>> Kleuren(const QWidget* deel)
     return {};
 }
 
-class ContrastTest : public Rondgangproef, public testing::WithParamInterface<bool> {
+/// The theme in which the windows are made, and the one to which the desktop then goes over.
+struct Thema {
+    const char* naam;
+    QPalette (*eerst)();
+    QPalette (*dan)();
+    [[nodiscard]] bool IsDonker() const { return dan != Licht; }
+};
+
+void PrintTo(const Thema& thema, std::ostream* uit)
+{
+    *uit << thema.naam;
+}
+
+class ContrastTest : public Rondgangproef, public testing::WithParamInterface<Thema> {
   protected:
-    ContrastTest()
+    ContrastTest() { QApplication::setPalette(GetParam().eerst()); }
+    ~ContrastTest() override { QApplication::setPalette(Licht()); }
+
+    void Bekijk(const std::function<void(QWidget&)>& bekijk)
     {
-        if (GetParam())
-            QApplication::setPalette(Donker());
+        Rondgang(QGuiApplication::screens().constLast(), [&](QWidget& venster) {
+            QApplication::setPalette(GetParam().dan());
+            QApplication::processEvents();
+            bekijk(venster);
+            QApplication::setPalette(GetParam().eerst());
+        });
     }
-    ~ContrastTest() override { QApplication::setPalette(QPalette()); }
 };
 
 /// In a dark theme the black ground is ours; in a light one both red texts stand as they are
@@ -75,19 +94,18 @@ void VerwachtLeesbaar(const QWidget& venster, bool donker)
 
 TEST_P(ContrastTest, ElkeTekstIsLeesbaar)
 {
-    Rondgang(QGuiApplication::screens().constLast(),
-             [](const QWidget& venster) { VerwachtLeesbaar(venster, GetParam()); });
+    Bekijk([](const QWidget& venster) { VerwachtLeesbaar(venster, GetParam().IsDonker()); });
 }
 
 TEST_P(ContrastTest, HetRoosterEnDeLijstenVolgenHetBureaublad)
 {
-    const QColor papier = QApplication::palette().color(QPalette::Base);
     QStringList gezien;
-    Rondgang(QGuiApplication::screens().constLast(), [&](QWidget& venster) {
+    Bekijk([&](QWidget& venster) {
         auto* vlak = venster.findChild<QWidget*>(u"P1"_s);
         if (vlak == nullptr || venster.objectName() == "diaGrNamen"_L1)
             return;
         gezien << venster.objectName();
+        const QColor papier = QApplication::palette().color(QPalette::Base);
         const QImage beeld = vlak->grab().toImage();
         // Texts without lines among them: the first name on the first line, or the top of a list.
         QRect teksten(0, 0, beeld.width(), vlak->fontMetrics().height());
@@ -109,9 +127,9 @@ TEST_P(ContrastTest, HetRoosterEnDeLijstenVolgenHetBureaublad)
 /// A box without a tick in it is seen all the same; in a light theme it is the system's own.
 TEST_P(ContrastTest, EenLeegVakjeIsTeZien)
 {
-    const double zichtbaar = GetParam() ? 3 : 1.5;
+    const double zichtbaar = GetParam().IsDonker() ? 3 : 1.5;
     QStringList gezien;
-    Rondgang(QGuiApplication::screens().constLast(), [&](const QWidget& venster) {
+    Bekijk([&](const QWidget& venster) {
         for (auto* lijst : venster.findChildren<QTreeWidget*>()) {
             const QImage beeld = lijst->viewport()->grab().toImage();
             const int breed = lijst->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 6;
@@ -144,17 +162,54 @@ TEST_P(ContrastTest, EenLeegVakjeIsTeZien)
 /// These are stated; the one that a dark theme would make hard to read gets a ground.
 TEST_P(ContrastTest, HetRodeOpschriftEnDeGeleGroepHoudenHunKleur)
 {
-    Rondgang(QGuiApplication::screens().constLast(), [](const QWidget& venster) {
+    Bekijk([](const QWidget& venster) {
         if (venster.objectName() != "diaIngave"_L1)
             return;
         const auto* naam = venster.findChild<QLabel*>(u"lbl1_6"_s);
         EXPECT_EQ(QColor(255, 0, 0), naam->palette().color(QPalette::WindowText));
-        EXPECT_EQ(GetParam(), naam->autoFillBackground());
+        EXPECT_EQ(GetParam().IsDonker(), naam->autoFillBackground());
         const auto* groep = venster.findChild<QLineEdit*>(u"txt1_3"_s);
         EXPECT_EQ(QColor(255, 0, 0), groep->palette().color(QPalette::Text));
         EXPECT_EQ(QColor(255, 255, 0), groep->palette().color(QPalette::Base));
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Paletten, ContrastTest, testing::Bool(),
-                         [](const auto& soort) { return soort.param ? "Donker" : "Licht"; });
+/// As they are painted: the first line of each list, which is chosen in some, and the fields of the
+/// entry window that are never typed.
+TEST_P(ContrastTest, DeRegelsStaanInDeKleurenVanNu)
+{
+    QStringList gezien;
+    Bekijk([&](const QWidget& venster) {
+        const auto palet = QApplication::palette();
+        for (auto* lijst : venster.findChildren<QAbstractItemView*>()) {
+            const QModelIndex eerste = lijst->model()->index(0, 0);
+            const QRect regel = lijst->visualRect(eerste) & lijst->viewport()->rect();
+            if (!lijst->isVisible() || !lijst->isEnabled() || regel.width() < 20 ||
+                regel.height() < 10 || eerste.data().toString().trimmed().isEmpty())
+                continue;
+            // How well a chosen line reads is up to the desktop.
+            const bool goed = Contrast(palet.color(QPalette::Highlight),
+                                       palet.color(QPalette::HighlightedText)) >= Leesbaar;
+            const double moet = goed ? Leesbaar : 3;
+            const QImage beeld = lijst->viewport()->grab().toImage();
+            const auto [inkt, ondergrond] = InktOpPapier(beeld, regel);
+            EXPECT_GE(Contrast(inkt, ondergrond), moet) << lijst->objectName().toStdString();
+            gezien << lijst->objectName();
+        }
+        if (const auto* vak = venster.findChild<QLineEdit*>(u"txt1_1"_s);
+            vak != nullptr && venster.objectName() == "diaIngave"_L1) {
+            EXPECT_EQ(palet.color(QPalette::Button), vak->palette().color(QPalette::Base));
+            EXPECT_EQ(palet.color(QPalette::ButtonText), vak->palette().color(QPalette::Text));
+        }
+    });
+    EXPECT_GT(gezien.size(), 20) << gezien.join(u' ').toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Paletten, ContrastTest,
+                         testing::Values(Thema{"Licht", Licht, Licht},
+                                         Thema{"Donker", Donker, Donker},
+                                         Thema{"HoogContrast", HoogContrast, HoogContrast},
+                                         Thema{"LichtWordtDonker", Licht, Donker},
+                                         Thema{"DonkerWordtLicht", Donker, Licht},
+                                         Thema{"LichtWordtHoogContrast", Licht, HoogContrast}),
+                         [](const auto& soort) { return soort.param.naam; });

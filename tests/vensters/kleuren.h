@@ -27,6 +27,12 @@ inline double Contrast(const QColor& een, const QColor& ander)
     return (meeste + 0.05) / (minste + 0.05);
 }
 
+/// That of the system.
+inline QPalette Licht()
+{
+    return {};
+}
+
 inline QPalette Donker()
 {
     const QColor venster(49, 54, 59);
