@@ -1,4 +1,5 @@
-// All keys of the main window, read off its menus and buttons, so that the list is as they are.
+// All keys, by where they work: those of the main window read off its menus and buttons, so that
+// the list is as they are, and those of lists and windows.
 #pragma once
 
 #include <QDialog>

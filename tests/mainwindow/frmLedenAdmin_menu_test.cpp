@@ -233,20 +233,83 @@ TEST_F(MenuTest, DeToetsenlijstStaatVolEnIsVanDeActiesZelf)
     wachter.Bedien([](QDialog& open) {
         const auto* lijst = Vind<QTreeWidget>(open, "lstToetsen");
         std::map<std::string, std::string> regels;
+        std::vector<std::string> plaatsen;
         for (int i = 0; i < lijst->topLevelItemCount(); ++i) {
-            const QTreeWidgetItem* regel = lijst->topLevelItem(i);
-            regels[regel->text(0).toStdString()] =
-                QStringList{regel->text(1), regel->text(2)}.join(u" | "_s).toStdString();
+            const QTreeWidgetItem* kop = lijst->topLevelItem(i);
+            plaatsen.push_back(kop->text(0).toStdString());
+            EXPECT_TRUE(kop->isExpanded());
+            for (int j = 0; j < kop->childCount(); ++j)
+                regels[kop->text(0).toStdString() + ": " + kop->child(j)->text(0).toStdString()] =
+                    kop->child(j)->text(1).toStdString();
         }
-        EXPECT_EQ("Kolommen passend | Beeld", regels["Ctrl+J"]);
-        EXPECT_EQ("Nieuwe Speler toevoegen | Speler", regels["Ctrl+N"]);
-        EXPECT_EQ("Ongedaan maken | Bewerken", regels["Ctrl+Z"]);
-        EXPECT_EQ("Knoppen onder de spelers | Beeld", regels["F9"]);
-        EXPECT_EQ("Spelergroepsnaam aanvullen | Knop", regels["Alt+S"]);
+        EXPECT_EQ(
+            (std::vector<std::string>{"Menu Speler", "Menu Bewerken", "Menu Groep", "Menu Lijsten",
+                                      "Menu Beeld", "Menu Help", "Knoppen van het hoofdvenster",
+                                      "In de spelers", "Bij het zoeken", "In elke lijst",
+                                      "In elk venster", "Bij de paren", "In het afdrukvoorbeeld"}),
+            plaatsen);
+        EXPECT_EQ("Kolommen passend", regels["Menu Beeld: Ctrl+J"]);
+        EXPECT_EQ("Nieuwe Speler toevoegen", regels["Menu Speler: Ctrl+N"]);
+        EXPECT_EQ("Ongedaan maken", regels["Menu Bewerken: Ctrl+Z"]);
+        EXPECT_EQ("Knoppen onder de spelers", regels["Menu Beeld: F9"]);
+        EXPECT_EQ("Spelergroepsnaam aanvullen", regels["Knoppen van het hoofdvenster: Alt+S"]);
+        EXPECT_EQ("De gekozen speler wijzigen", regels["In de spelers: Enter of F2"]);
+        EXPECT_EQ("De gevonden speler wijzigen", regels["Bij het zoeken: Ctrl+Enter of F2"]);
+        EXPECT_EQ("Groter, kleiner, weer op 100 %",
+                  regels["In het afdrukvoorbeeld: Ctrl++, Ctrl+-, Ctrl+0"]);
+        EXPECT_GT(regels.size(), 50U);
         QTest::keyClick(&open, Qt::Key_Escape);
     });
     Druk("Ctrl+?");
     wachter.Klaar();
+}
+
+/// What the list of keys says of the players and of who was found; the other keys are tried with
+/// the windows in which they work.
+TEST_F(MenuTest, DeToetsenDoenWatDeLijstZegt)
+{
+    const auto opent = [this](const char* toets, const char* naam) {
+        wachter.Bedien([naam](QDialog& open) {
+            EXPECT_EQ(naam, open.objectName().toStdString());
+            QTest::keyClick(&open, Qt::Key_Escape);
+        });
+        Druk(toets);
+        wachter.Klaar();
+    };
+    const auto gekozen = [this] { return Label("lblGekozen")->text().toStdString(); };
+    Druk("F6");
+    for (const auto& [toets, regel] : std::vector<std::pair<const char*, int>>{
+             {"End", 50}, {"Home", 1}, {"Down", 2}, {"Up", 1}, {"Ctrl+Down", 2}}) {
+        Druk(toets);
+        EXPECT_EQ(regel, GekozenRegel()) << toets;
+    }
+    Druk("Ctrl+Space");
+    EXPECT_EQ("2 gekozen", gekozen());
+    Druk("Shift+Down");
+    EXPECT_EQ("2 gekozen", gekozen());
+    Druk("Ctrl+A");
+    EXPECT_EQ("50 gekozen", gekozen());
+    Druk("Home");
+    for (const char* toets : {"Return", "Enter", "F2"})
+        opent(toets, "diaIngave");
+    Druk("/");
+    EXPECT_EQ("txtZoek", QApplication::focusWidget()->objectName().toStdString());
+    Typ(QApplication::focusWidget(), u"jan"_s);
+    QApplication::processEvents();
+    Druk("Down");
+    EXPECT_EQ("lstZoek", QApplication::focusWidget()->objectName().toStdString());
+    for (const char* toets : {"F2", "Ctrl+Return"}) {
+        opent(toets, "diaIngave");
+        Vind<QWidget>(*venster, "lstZoek")->setFocus();
+    }
+    Druk("Home");
+    Druk("Up");
+    EXPECT_EQ("txtZoek", QApplication::focusWidget()->objectName().toStdString());
+    Druk("Escape");
+    EXPECT_TRUE(Vlak()->hasFocus());
+    EXPECT_EQ("", Vind<QLineEdit>(*venster, "txtZoek")->text().toStdString());
+    Druk("F10");
+    EXPECT_NE(nullptr, venster->menuBar()->activeAction());
 }
 
 TEST_F(MenuTest, OnderaanStaatDeSpelerEnWatCtrlZZouTerugdraaien)

@@ -11,7 +11,6 @@
 #include <QStyleOption>
 #include <QTranslator>
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string_view>
@@ -24,14 +23,9 @@ namespace {
 /// Some themes choose a highlight that does not stand out from their ground.
 QColor Focuskleur(const QPalette& palet)
 {
-    constexpr int genoeg = 90;
     const QColor kleur = palet.color(QPalette::Highlight);
-    const auto verschil = [&](QPalette::ColorRole rol) {
-        return std::abs(qGray(kleur.rgb()) - qGray(palet.color(rol).rgb()));
-    };
-    return palet.color(std::min(verschil(QPalette::Window), verschil(QPalette::Base)) < genoeg
-                           ? QPalette::WindowText
-                           : QPalette::Highlight);
+    const int verschil = qGray(kleur.rgb()) - qGray(palet.color(QPalette::Window).rgb());
+    return std::abs(verschil) < 90 ? palet.color(QPalette::WindowText) : kleur;
 }
 
 /// The system's own style but for a few habits.
