@@ -11,8 +11,9 @@ namespace plexoran {
 namespace {
 
 constexpr std::array<int, static_cast<std::size_t>(Dubbelreden::Aantal)> Punten{
-    60, 40, 50, 45, 40, 40, 25, 20, 30, -45, -1000};
+    60, 40, 50, 45, 40, 40, 25, 20, 30, -110, -1000};
 constexpr int AndereGroep = -40; ///< where copies stand on purpose
+constexpr int Huisadres = 20;    ///< all that an address counts between two first names
 
 class Zoeker {
   public:
@@ -44,17 +45,15 @@ class Zoeker {
     using Loten = std::vector<Lot>;
     static constexpr unsigned Helft = 32;
 
-    static Lot Loot(Tekstblik tekst, std::size_t wie, std::size_t soort = 0)
-    {
-        return ((Lot{std::hash<Tekstblik>()(tekst)} + soort) << Helft) | wie;
-    }
+    static Lot Loot(Merk merk, std::size_t wie) { return (Lot{merk} << Helft) | wie; }
+    static int Wiens(Lot lot) { return static_cast<int>(lot & 0xFFFF'FFFFU); }
     /// Hands out whose it is of each that is the same.
     template <class Doe> static void PerGelijke(Loten& loten, const Doe& doe)
     {
         std::sort(loten.begin(), loten.end());
         std::vector<int> gelijken;
         for (std::size_t i = 0; i < loten.size(); ++i) {
-            gelijken.push_back(static_cast<int>(loten[i] & 0xFFFF'FFFFU));
+            gelijken.push_back(Wiens(loten[i]));
             if (i + 1 == loten.size() || loten[i] >> Helft != loten[i + 1] >> Helft) {
                 doe(gelijken);
                 gelijken.clear();
@@ -88,7 +87,8 @@ class Zoeker {
         for (const int rij : een) {
             for (const int latere : ander) {
                 if (rij < latere || (rij > latere && &een != &ander))
-                    kandidaten_.emplace_back(std::min(rij, latere), std::max(rij, latere));
+                    kandidaten_.push_back((static_cast<Lot>(std::min(rij, latere)) << Helft) |
+                                          static_cast<Lot>(std::max(rij, latere)));
             }
         }
     }
@@ -99,13 +99,14 @@ class Zoeker {
         for (std::size_t rij = 1; rij <= aantal_; ++rij) {
             const Wie& wie = wie_[rij - 1];
             const auto& [laag, hoog] = std::minmax(wie.voor, wie.kern);
-            loten.push_back(Loot(laag + '|' + hoog, rij)); // also where they changed places
+            loten.push_back(
+                Loot(MerkVan(laag + '|' + hoog), rij)); // also where they changed places
             loten.push_back(Loot(wie.vol, rij));
             std::size_t soort = 0;
-            for (const Tekst* gegeven : {&wie.nbbnr, &wie.mail, &wie.telefoon}) {
+            for (const Merk gegeven : {wie.nbbnr, wie.mail, wie.telefoon}) {
                 ++soort;
-                if (!gegeven->empty())
-                    loten.push_back(Loot(*gegeven, rij, soort));
+                if (gegeven != 0)
+                    loten.push_back(Loot(gegeven + soort, rij));
             }
         }
         PerGelijke(loten, [this](const std::vector<int>& rijen) { Paar(rijen, rijen); });
@@ -116,7 +117,7 @@ class Zoeker {
         Loten loten;
         for (std::size_t rij = 1; rij <= aantal_; ++rij) {
             if (const Wie& wie = wie_[rij - 1]; !wie.voor.empty())
-                loten.push_back(Loot(wie.voor.substr(0, 1) + '|' + wie.kern, rij));
+                loten.push_back(Loot(MerkVan(wie.voor.substr(0, 1) + '|' + wie.kern), rij));
         }
         PerGelijke(loten, [this](const std::vector<int>& rijen) {
             std::vector<int> afgekort;
@@ -132,7 +133,7 @@ class Zoeker {
         constexpr std::size_t langste = 60;
         Loten loten;
         for (std::size_t rij = 1; rij <= aantal_; ++rij)
-            loten.push_back(Loot(wie_[rij - 1].heel, rij));
+            loten.push_back(Loot(MerkVan(wie_[rij - 1].heel), rij));
         std::vector<std::vector<int>> namen; // the rows of each
         PerGelijke(loten, [&](const std::vector<int>& rijen) { namen.push_back(rijen); });
         loten.clear();
@@ -140,10 +141,10 @@ class Zoeker {
             const Tekst& heel = Van(namen[naam].front()).heel;
             if (heel.size() > langste)
                 continue;
-            loten.push_back(Loot(heel, naam));
+            loten.push_back(Loot(MerkVan(heel), naam));
             Tekst zonder = heel.substr(0, heel.size() - 1);
             for (std::size_t weg = zonder.size();; --weg) {
-                loten.push_back(Loot(zonder, naam));
+                loten.push_back(Loot(MerkVan(zonder), naam));
                 if (weg == 0)
                     break;
                 zonder[weg - 1] = heel[weg];
@@ -170,7 +171,7 @@ class Zoeker {
         for (std::size_t i = 0; i < kandidaten_.size(); ++i) {
             if (i % slag == 0 && !Meld(3 * aantal_ + aantal_ * i / kandidaten_.size()))
                 return false;
-            Beoordeel(kandidaten_[i].first, kandidaten_[i].second);
+            Beoordeel(static_cast<int>(kandidaten_[i] >> Helft), Wiens(kandidaten_[i]));
         }
         return true;
     }
@@ -183,32 +184,40 @@ class Zoeker {
         const auto zet = [&](Dubbelreden reden, bool waar) {
             paar.redenen[static_cast<std::size_t>(reden)] = waar;
         };
-        const bool mail = !een.mail.empty() && een.mail == ander.mail;
-        const bool telefoon = !een.telefoon.empty() && een.telefoon == ander.telefoon;
+        const bool mail = een.mail != 0 && een.mail == ander.mail;
+        const bool telefoon = een.telefoon != 0 && een.telefoon == ander.telefoon;
         const bool voornaam = LijkenVoornamen(een, ander);
         if (const auto gevonden = Naamverband(een, ander))
             zet(*gevonden, true);
         if (!voornaam && (mail || telefoon))
             zet(Dubbelreden::EenLetter, false); // they live together
         const bool verband = paar.redenen.any();
-        zet(Dubbelreden::NBBnr, !een.nbbnr.empty() && een.nbbnr == ander.nbbnr);
-        zet(Dubbelreden::Email, mail && (voornaam || verband));
-        zet(Dubbelreden::Telefoon,
-            telefoon && (verband || (voornaam && LijkenAchternamen(een, ander))));
+        zet(Dubbelreden::NBBnr, een.nbbnr != 0 && een.nbbnr == ander.nbbnr);
+        const bool lijkt = verband || (voornaam && LijkenAchternamen(een, ander));
+        const bool voornamen = voornaam && !een.voor.empty() && !ander.voor.empty();
+        zet(Dubbelreden::Email, mail && (voornamen || lijkt));
+        zet(Dubbelreden::Telefoon, telefoon && lijkt);
         if (paar.redenen.none() ||
             (!geen_.empty() && geen_.contains(Sleutelpaar(tabel_, rij, latere))))
             return;
         zet(Dubbelreden::AnderNBBnr,
-            !een.nbbnr.empty() && !ander.nbbnr.empty() && een.nbbnr != ander.nbbnr);
-        const bool andereGroep = tabel_.Cel(rij, Kolom::Groep) != tabel_.Cel(latere, Kolom::Groep);
+            een.nbbnr != 0 && ander.nbbnr != 0 && een.nbbnr != ander.nbbnr);
+        const bool andereGroep = een.groep != ander.groep;
         if (andereGroep && paar.Heeft(Dubbelreden::Naam) && !paar.Heeft(Dubbelreden::AnderNBBnr) &&
             IsKopie(rij, latere)) {
             paar.redenen.reset();
             zet(Dubbelreden::TweeGroepen, true);
         }
+        auto tellen = paar.redenen;
         paar.waarde = andereGroep ? AndereGroep : 0;
+        if (een.voor != ander.voor &&
+            (paar.Heeft(Dubbelreden::Email) || paar.Heeft(Dubbelreden::Telefoon))) {
+            paar.waarde += Huisadres;
+            for (const auto reden : {Dubbelreden::Email, Dubbelreden::Telefoon})
+                tellen.reset(static_cast<std::size_t>(reden));
+        }
         for (std::size_t i = 0; i < Punten.size(); ++i)
-            paar.waarde += paar.redenen[i] ? Punten[i] : 0;
+            paar.waarde += tellen[i] ? Punten[i] : 0;
         uit_.paren.push_back(paar);
     }
 
@@ -228,7 +237,7 @@ class Zoeker {
     const Voortgang& voortgang_;
     std::size_t aantal_;
     std::vector<Wie> wie_;
-    std::vector<std::pair<int, int>> kandidaten_;
+    Loten kandidaten_; ///< both rows
     Dubbeluitslag uit_;
 };
 
@@ -256,6 +265,15 @@ void VoegDubbelSamen(Spelertabel& tabel, int blijft, int weg, Rijvelden velden)
         velden[Index(kolom)] = tabel.Cel(blijft, kolom);
     tabel.ZetRij(blijft, velden);
     tabel.VerwijderRijen({&weg, 1});
+}
+
+void NeemUitParen(std::vector<Dubbelpaar>& paren, int weg)
+{
+    std::erase_if(paren, [weg](const auto& paar) { return paar.rij == weg || paar.latere == weg; });
+    for (Dubbelpaar& paar : paren) {
+        paar.rij -= paar.rij > weg ? 1 : 0;
+        paar.latere -= paar.latere > weg ? 1 : 0;
+    }
 }
 
 Sleutelparen GeenDubbelenUit(Tekstblik inhoud)

@@ -60,6 +60,8 @@ struct Dubbeluitslag {
 
 /// Puts these fields on the row that stays, with its own number and key; the other one goes.
 void VoegDubbelSamen(Spelertabel& tabel, int blijft, int weg, Rijvelden velden);
+/// Nobody is looked for anew: these are the other pairs, by the rows of the table without that one.
+void NeemUitParen(std::vector<Dubbelpaar>& paren, int weg);
 
 // The pairs of which the user said that they are no doubles: "GeenDubbelen.txt" in the players
 // folder (docs/bestanden.md).

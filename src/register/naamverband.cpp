@@ -58,6 +58,14 @@ bool PassenVoornamen(const Wie& een, const Wie& ander)
     return true;
 }
 
+/// Father and son, or a man and a woman: with the same name in full M or V may be mistyped.
+bool ZijnAnderen(const Wie& een, const Wie& ander)
+{
+    return een.junior != ander.junior ||
+           (een.geslacht != ander.geslacht && !een.geslacht.empty() && !ander.geslacht.empty() &&
+            (een.afgekort || ander.afgekort || een.voor != ander.voor));
+}
+
 /// Kees is Cees.
 char Beginletter(const Wie& wie)
 {
@@ -72,9 +80,12 @@ Wie WieIs(const Spelertabel& tabel, int rij)
     constexpr std::size_t kortsteTelefoon = 6;
     const auto cel = [&](Kolom kolom) { return ZonderSpaties(tabel.Cel(rij, kolom)); };
     Wie uit;
-    const Tekst naam = VolleNaam(tabel, rij);
-    uit.gespeld = Hoofdletters(naam);
-    uit.vol = KaleWoorden(naam);
+    uit.gespeld = VolleNaam(tabel, rij);
+    const Tekst vol = KaleWoorden(uit.gespeld) + ' ';
+    uit.vol = MerkVan(vol);
+    uit.junior = vol.find(" JR ") != Tekst::npos || vol.find(" JUNIOR ") != Tekst::npos;
+    uit.groep = MerkVan(tabel.Cel(rij, Kolom::Groep));
+    uit.geslacht = Hoofdletters(cel(Kolom::MV));
     uit.voor = KaleWoorden(cel(Kolom::Voornaam));
     uit.afgekort = IsAfgekort(cel(Kolom::Voornaam), uit.voor);
     if (!uit.afgekort)
@@ -82,11 +93,10 @@ Wie WieIs(const Spelertabel& tabel, int rij)
     uit.kern = ZonderTussenvoegsel(KaleWoorden(cel(Kolom::Achternaam)));
     uit.heel = uit.voor + ' ' + uit.kern;
     if (cel(Kolom::Email).find('@') != Tekstblik::npos)
-        uit.mail = Hoofdletters(cel(Kolom::Email));
-    uit.telefoon = Cijfers(cel(Kolom::Telef), kortsteTelefoon);
-    uit.nbbnr = AlsGetal(cel(Kolom::NBBnr), 1).value_or(Tekst(cel(Kolom::NBBnr)));
-    if (uit.nbbnr == "0")
-        uit.nbbnr.clear();
+        uit.mail = MerkVan(Hoofdletters(cel(Kolom::Email)));
+    uit.telefoon = MerkVan(Cijfers(cel(Kolom::Telef), kortsteTelefoon));
+    const Tekst nummer = AlsGetal(cel(Kolom::NBBnr), 1).value_or(Tekst(cel(Kolom::NBBnr)));
+    uit.nbbnr = nummer == "0" ? 0 : MerkVan(nummer);
     return uit;
 }
 
@@ -110,9 +120,10 @@ bool ScheeltEenLetter(Tekstblik een, Tekstblik ander)
 
 bool LijkenVoornamen(const Wie& een, const Wie& ander)
 {
-    return PassenVoornamen(een, ander) ||
-           (!een.afgekort && !ander.afgekort && Beginletter(een) == Beginletter(ander) &&
-            ScheeltEenLetter(een.voor, ander.voor));
+    return !ZijnAnderen(een, ander) &&
+           (PassenVoornamen(een, ander) ||
+            (!een.afgekort && !ander.afgekort && Beginletter(een) == Beginletter(ander) &&
+             ScheeltEenLetter(een.voor, ander.voor)));
 }
 
 bool LijkenAchternamen(const Wie& een, const Wie& ander)
@@ -125,8 +136,13 @@ bool LijkenAchternamen(const Wie& een, const Wie& ander)
 
 std::optional<Dubbelreden> Naamverband(const Wie& een, const Wie& ander)
 {
+    if (ZijnAnderen(een, ander))
+        return std::nullopt;
     if (een.vol == ander.vol)
-        return een.gespeld == ander.gespeld ? Dubbelreden::Naam : Dubbelreden::Accent;
+        return een.gespeld == ander.gespeld ||
+                       Hoofdletters(een.gespeld) == Hoofdletters(ander.gespeld)
+                   ? Dubbelreden::Naam
+                   : Dubbelreden::Accent;
     if (een.heel == ander.heel)
         return Dubbelreden::Tussenvoegsel;
     if (een.voor == ander.kern && een.kern == ander.voor)

@@ -5,17 +5,27 @@
 
 namespace plexoran {
 
+/// Stands for a text that only has to be the same; 0 for none.
+using Merk = std::size_t;
+[[nodiscard]] inline Merk MerkVan(Tekstblik tekst)
+{
+    return tekst.empty() ? 0 : std::hash<Tekstblik>()(tekst);
+}
+
 /// What is compared of a player.
 struct Wie {
-    Tekst gespeld; ///< the full name in capitals
-    Tekst vol;     ///< the words of it
-    Tekst voor;    ///< those of the first name
+    Tekst gespeld; ///< the full name
+    Tekst voor;    ///< the words of the first name
     Tekst kern;    ///< those of the surname, without the particle before it
     Tekst heel;    ///< both
-    Tekst mail;
-    Tekst telefoon;
-    Tekst nbbnr;
+    Merk vol = 0;  ///< the words of the full name
+    Merk mail = 0;
+    Merk telefoon = 0;
+    Merk nbbnr = 0;
+    Merk groep = 0;
+    Tekst geslacht;        ///< "M" or "V"
     bool afgekort = false; ///< the first name, to initials
+    bool junior = false;
 };
 
 [[nodiscard]] Wie WieIs(const Spelertabel& tabel, int rij);

@@ -19,6 +19,7 @@ struct Speler {
     Tekst mail{};
     Tekst nbbnr{};
     Tekst groep = "Gr01-";
+    Tekst geslacht = "M";
 };
 
 /// With the keys 100001 and up.
@@ -30,7 +31,7 @@ Spelertabel Tabel(const std::vector<Speler>& spelers)
         const Tekst nr = std::to_string(++nummer);
         tekst += nr + "," + std::to_string(100000 + nummer) + "," + wie.groep + "," + wie.voornaam +
                  "," + wie.tusv + "," + wie.achternaam + "," + wie.telefoon + "," + wie.mail +
-                 ",,,,,M,,,,," + wie.nbbnr + "\r\n";
+                 ",,,,," + wie.geslacht + ",,,,," + wie.nbbnr + "\r\n";
     }
     return SpelersUit(tekst).tabel.value();
 }
@@ -160,6 +161,41 @@ TEST(Dubbelen, EenHuishoudenMetAndereVoornamenIsGeenDubbel)
               Gevonden({{"Kees", "", "Bos", telefoon, mail}, {"Cees", "", "Bos", telefoon, mail}}));
 }
 
+TEST(Dubbelen, VaderEnZoonZijnGeenDubbel)
+{
+    const Tekst mail = "bos@thuis.example";
+    for (const Speler& zoon :
+         {Speler{"Jan jr.", "", "Bos", "", mail}, Speler{"Jan", "", "Bos jr", "", mail},
+          Speler{"J.", "", "Bos Junior", "", mail}})
+        EXPECT_EQ("", Gevonden({{"Jan", "", "Bos", "", mail}, zoon})) << zoon.voornaam;
+    EXPECT_EQ("1-2 nummer\n", Gevonden({{"Jan", "", "Bos", "", "", "1234567"},
+                                        {"Jan jr.", "", "Bos", "", "", "1234567"}}));
+    EXPECT_EQ("1-2 mail voorletter\n",
+              Gevonden({{"Jan", "", "Bos jr", "", mail}, {"J.", "", "Bos jr", "", mail}}));
+}
+
+TEST(Dubbelen, EenManEnEenVrouwZijnGeenDubbel)
+{
+    const Tekst telefoon = "0612345678";
+    const Tekst mail = "bos@thuis.example";
+    const auto paar = [&](const char* man, const char* vrouw) {
+        return Gevonden({{man, "", "Bos", telefoon, mail, "", "Gr01-", "M"},
+                         {vrouw, "", "Bos", telefoon, mail, "", "Gr01-", "v"}});
+    };
+    for (const auto& [man, vrouw] : {std::pair{"Paul", "Paula"}, std::pair{"Wim", "Wil"},
+                                     std::pair{"J.", "Joke"}, std::pair{"J.", "J."}})
+        EXPECT_EQ("", paar(man, vrouw)) << man << vrouw;
+    EXPECT_EQ("1-2 mail naam telefoon\n", paar("Anne", "Anne")) << "a mistyped letter";
+    EXPECT_EQ("", Gevonden({{"Paul", "", "Bos"}, {"Paula", "", "Bos", "", "", "", "Gr01-", "V"}}));
+}
+
+TEST(Dubbelen, ZonderVoornaamMoetOokDeAchternaamLijken)
+{
+    const Tekst mail = "bos@thuis.example";
+    EXPECT_EQ("", Gevonden({{"", "", "Bos", "", mail}, {"Els", "", "Tol", "", mail}}));
+    EXPECT_EQ("1-2 mail\n", Gevonden({{"", "", "Bos", "", mail}, {"Els", "", "Bos", "", mail}}));
+}
+
 // --- which comes first ---
 
 TEST(Dubbelen, DeBesteEerst)
@@ -176,6 +212,32 @@ TEST(Dubbelen, DeBesteEerst)
                         {"Jan", "", "Bos", "", "", "1234567"},
                         {"T.", "", "Eik"},
                         {"Jan", "", "Bos", "", "", "7654321"}}));
+}
+
+/// The federation knows them as two, who share a name and a house.
+TEST(Dubbelen, TweeNummersGaanVoorAlleGelijkenis)
+{
+    const Tekst mail = "bos@thuis.example";
+    EXPECT_EQ("3-4 voorletter\n1-2 mail naam telefoon andernummer\n",
+              Gevonden({{"Jan", "", "Bos", "0612345678", mail, "1234567"},
+                        {"Jan", "", "Bos", "0612345678", mail, "7654321"},
+                        {"Truus", "", "Eik"},
+                        {"T.", "", "Eik"}}));
+}
+
+/// Initials may be anybody's there; and people share a telephone and an address.
+TEST(Dubbelen, EenHuisadresMaaktVanGelijkendeVoornamenNietDeBeste)
+{
+    const Tekst mail = "bos@thuis.example";
+    EXPECT_EQ("4-5 naam\n1-2 mail voorletter telefoon\n1-3 mail voorletter telefoon\n"
+              "6-7 mail letter telefoon\n",
+              Gevonden({{"J.", "", "Bos", "0612345678", mail},
+                        {"Jan", "", "Bos", "0612345678", mail},
+                        {"Joke", "", "Bos", "0612345678", mail, "", "Gr01-", ""},
+                        {"Wim", "", "Tol"},
+                        {"Wim", "", "Tol"},
+                        {"Kees", "", "Eik", "0687654321", "eik@thuis.example"},
+                        {"Cees", "", "Eik", "0687654321", "eik@thuis.example"}}));
 }
 
 TEST(Dubbelen, EenKopieInEenAndereGroepStaatAchteraan)
@@ -268,6 +330,16 @@ TEST(Dubbelen, DeGekozenVeldenOpDeRijDieBlijft)
     VoegDubbelSamen(tabel, 3, 2, tabel.Velden(3));
     EXPECT_EQ("100003", tabel.Cel(2, Kolom::Key));
     EXPECT_EQ("2", tabel.Cel(2, Kolom::Nr));
+}
+
+TEST(Dubbelen, WieSamengevoegdIsGaatUitDeParen)
+{
+    std::vector<Dubbelpaar> paren{{1, 3}, {2, 5}, {2, 4}, {1, 2}, {4, 5}};
+    NeemUitParen(paren, 3);
+    Tekst uit;
+    for (const Dubbelpaar& paar : paren)
+        uit += std::to_string(paar.rij) + "-" + std::to_string(paar.latere) + " ";
+    EXPECT_EQ("2-4 2-3 1-2 3-4 ", uit);
 }
 
 // --- what is remembered ---
