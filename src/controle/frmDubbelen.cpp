@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "controle/controleur.h"
 #include "controle/frmControle.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/boom.h"
 #include "platform/scherm/frmVoortgang.h"
+#include "register/herstel.h"
 
 namespace plexoran {
 namespace {
@@ -45,6 +47,8 @@ QString Plaatstekst(const Vindplaats& plaats)
     switch (plaats.bezwaar) {
     case Bezwaar::Geen:
         break;
+    case Bezwaar::ZelfdePaar:
+        return tekst + u" (vervalt: dat paar staat er al met de sleutel die blijft)"_s;
     case Bezwaar::AnderPaar:
         return tekst + u" (de sleutel die blijft, staat daar al in een ander paar)"_s;
     case Bezwaar::Beide:
@@ -162,8 +166,8 @@ std::vector<Vindplaats> frmDubbelen::Plaatsen() const
 QString frmDubbelen::Samenvatting() const
 {
     const std::size_t aantal = uitslag_.paren.size();
-    QString tekst = ietsGedaan_ ? u"Klaar: alle mogelijke dubbelen zijn behandeld."_s
-                                : u"Er zijn geen dubbele spelers gevonden."_s;
+    QString tekst = !gedaan_.isEmpty() ? u"Klaar: alle mogelijke dubbelen zijn behandeld."_s
+                                       : u"Er zijn geen dubbele spelers gevonden."_s;
     if (aantal > 0)
         tekst = Aantal(aantal, u"mogelijke dubbel"_s, u"mogelijke dubbelen"_s) +
                 u", de waarschijnlijkste eerst."_s;
@@ -197,7 +201,8 @@ void frmDubbelen::VulDubbelen(int regel)
         const int laatste = lstDubbelen->topLevelItemCount() - 1;
         lstDubbelen->setCurrentItem(lstDubbelen->topLevelItem(std::min(regel, laatste)));
     }
-    lblUitslag->setText(Samenvatting());
+    lblUitslag->setText(gedaan_ + Samenvatting());
+    lstDubbelen->setAccessibleDescription(lblUitslag->text()); // read out when it gets the focus
     for (QWidget* deel : std::initializer_list<QWidget*>{cmdSamenvoegen, cmdGeenDubbelen, optLinks,
                                                          optRechts, lstVelden, lstPlaatsen})
         deel->setEnabled(Paar() != nullptr);
@@ -276,7 +281,8 @@ void frmDubbelen::VulPlaatsen()
             bestanden << Toonpad(administratie_.schijf, bestand.pad);
         auto* regel = new Boomregel(lstPlaatsen, {Plaatstekst(plaats), bestanden.join(u"; "_s)});
         if (plaats.bezwaar != Bezwaar::Beide)
-            regel->setCheckState(0, plaats.bezwaar == Bezwaar::Geen ? Qt::Checked : Qt::Unchecked);
+            regel->setCheckState(0, plaats.bezwaar == Bezwaar::AnderPaar ? Qt::Unchecked
+                                                                         : Qt::Checked);
     }
     for (const Fout& fout : vindplaatsen_.Fouten())
         new Boomregel(lstPlaatsen,
@@ -300,7 +306,7 @@ Rijvelden frmDubbelen::Gekozen() const
 /// Whether the files are still as the list shows them, and can take the key that stays.
 bool frmDubbelen::StaatGoed()
 {
-    LeesPlaatsen();
+    vindplaatsen_.Herlees(administratie_.schijf, plaatsen_);
     if (Plaatsen() != plaatsen_) {
         VulPlaatsen();
         Meld(this, QMessageBox::Information,
@@ -316,25 +322,61 @@ bool frmDubbelen::StaatGoed()
     return false;
 }
 
+bool frmDubbelen::IsAangevinkt(std::size_t plaats) const
+{
+    return lstPlaatsen->topLevelItem(static_cast<int>(plaats))->checkState(0) == Qt::Checked;
+}
+
+bool frmDubbelen::IsGewild()
+{
+    std::set<Pad> bestanden;
+    for (std::size_t i = 0; i < plaatsen_.size(); ++i) {
+        for (const auto& bestand : plaatsen_[i].bestanden) {
+            if (IsAangevinkt(i))
+                bestanden.insert(bestand.pad);
+        }
+    }
+    QString tekst = NaarQString(Naam(Blijft()) + " blijft en " + Naam(Weg()) + " vervalt.");
+    if (!bestanden.empty())
+        tekst += u" In %1 komt de ene sleutel voor de andere in de plaats."_s.arg(
+            Aantal(bestanden.size(), u"bestand"_s, u"bestanden"_s));
+    const Rijvelden gekozen = Gekozen();
+    for (const int rij : {Paar()->rij, Paar()->latere}) {
+        const Tekst nummer(administratie_.spelers.tabel.Cel(rij, Kolom::NBBnr));
+        if (IsBondslid(rij) && !nummer.empty() &&
+            (gekozen[Index(Kolom::Groep)] != administratie_.mappen.DFIMPG ||
+             OpgemaaktNBBnr(gekozen[Index(Kolom::NBBnr)]) != OpgemaaktNBBnr(nummer)))
+            tekst += u"\n\nLet op: NBB-nummer %1 staat dan niet meer in groep %2. Is het nog lid, "
+                     "dan voegt de volgende import het als nieuwe speler toe."_s.arg(
+                         NaarQString(nummer), NaarQString(administratie_.mappen.DFIMPG));
+    }
+    return Vraag(this, tekst + u"\n\nMet Ongedaan maken is alles in één keer terug te draaien."_s,
+                 u"Samenvoegen?"_s);
+}
+
 /// First the files that name the key: until the register is saved both keys are somebody's.
 void frmDubbelen::VoegSamen()
 {
-    if (!StaatGoed())
+    if (!StaatGoed() || !IsGewild())
         return;
     const int blijft = Blijft();
     const int weg = Weg();
-    const Noteer noteer(administratie_.geschiedenis,
-                        Naam(blijft) + " samengevoegd met " + Naam(weg));
+    const Tekst wie = Naam(blijft) + " samengevoegd met " + Naam(weg);
+    const Tekst poging = Naam(blijft) + " en " + Naam(weg);
+    if (poging != poging_)
+        GeefOp();
+    auto noteer =
+        noteer_ ? std::move(noteer_) : std::make_unique<Noteer>(administratie_.geschiedenis, wie);
     emit begint();
     for (std::size_t i = 0; i < plaatsen_.size(); ++i) {
-        if (lstPlaatsen->topLevelItem(static_cast<int>(i))->checkState(0) != Qt::Checked)
+        if (!IsAangevinkt(i))
             continue;
         const auto vervangen =
             VervangSleutel(administratie_.schijf, plaatsen_[i], Key(weg), Key(blijft));
         if (!StaatEr(this, vervangen)) {
-            administratie_.geschiedenis.Noem("Niet samengevoegd: " + Naam(blijft) + " en " +
-                                             Naam(weg));
-            LeesPlaatsen();
+            noteer_ = std::move(noteer); // another try is part of it
+            poging_ = poging;
+            vindplaatsen_.Herlees(administratie_.schijf, plaatsen_);
             VulPlaatsen();
             MeldFout(this, QMessageBox::Warning,
                      u"De spelers zijn niet samengevoegd: een bestand kon niet worden gewijzigd. "
@@ -345,7 +387,9 @@ void frmDubbelen::VoegSamen()
             return;
         }
     }
-    VoegDubbelSamen(administratie_.spelers.tabel, blijft, weg, Gekozen());
+    Spelertabel& tabel = administratie_.spelers.tabel;
+    VoegDubbelSamen(tabel, blijft, weg, Gekozen());
+    const Spelertabel samen = tabel;
     if (!slaOp_()) {
         Meld(this, QMessageBox::Warning,
              u"De spelers zijn samengevoegd, maar dat is nog niet opgeslagen. In de aangevinkte "
@@ -354,10 +398,25 @@ void frmDubbelen::VoegSamen()
         accept();
         return;
     }
-    ietsGedaan_ = true;
+    vindplaatsen_.Herlees(administratie_.schijf, plaatsen_);
+    NeemUitParen(uitslag_.paren, weg);
+    ToonGedaan(wie, !Verschillen(tabel, samen).empty()); // another program's players came too
+}
+
+void frmDubbelen::GeefOp()
+{
+    if (noteer_)
+        administratie_.geschiedenis.Noem("Niet samengevoegd: " + poging_);
+    noteer_.reset();
+}
+
+/// The next pair, or what more there is.
+void frmDubbelen::ToonGedaan(const Tekst& gedaan, bool zoek)
+{
+    gedaan_ = NaarQString(gedaan) + u". "_s;
     const int regel = lstDubbelen->indexOfTopLevelItem(lstDubbelen->currentItem());
-    Zoek();
-    LeesPlaatsen();
+    if (zoek || uitslag_.paren.empty())
+        Zoek();
     VulDubbelen(regel);
     lstDubbelen->setFocus(); // another Enter must not merge the next two unseen
 }
@@ -371,8 +430,9 @@ void frmDubbelen::GeenDubbelen()
              "veranderd. Met 'Controle van de administratie' is dat te herstellen."_s);
         return;
     }
-    const Noteer noteer(administratie_.geschiedenis,
-                        "Geen dubbelen: " + Naam(rij) + " en " + Naam(latere));
+    const Tekst wat = "Geen dubbelen: " + Naam(rij) + " en " + Naam(latere);
+    GeefOp();
+    const Noteer noteer(administratie_.geschiedenis, wat);
     const auto& tabel = administratie_.spelers.tabel;
     const Bewaring bewaard =
         BewaarGeenDubbel(administratie_.schijf, administratie_.mappen, tabel, rij, latere);
@@ -384,10 +444,9 @@ void frmDubbelen::GeenDubbelen()
         return;
     }
     geen_ = GeenDubbelenUit(bewaard.inhoud);
-    ietsGedaan_ = true;
-    const int regel = lstDubbelen->indexOfTopLevelItem(lstDubbelen->currentItem());
-    uitslag_.paren.erase(uitslag_.paren.begin() + regel);
-    VulDubbelen(regel);
+    uitslag_.paren.erase(uitslag_.paren.begin() +
+                         lstDubbelen->indexOfTopLevelItem(lstDubbelen->currentItem()));
+    ToonGedaan(wat, false);
 }
 
 } // namespace plexoran

@@ -23,6 +23,7 @@ class frmDubbelen : public QDialog {
     /// Searches first, which may take a while and can be stopped. `slaOp` saves the register, or
     /// says false.
     frmDubbelen(Administratie& administratie, std::function<bool()> slaOp, QWidget* ouder);
+    ~frmDubbelen() override { GeefOp(); }
 
   signals:
     void begint(); ///< two players are about to become one
@@ -38,6 +39,10 @@ class frmDubbelen : public QDialog {
     void VoegSamen();
     void GeenDubbelen();
     [[nodiscard]] bool StaatGoed();
+    [[nodiscard]] bool IsGewild();
+    void GeefOp();
+    void ToonGedaan(const Tekst& gedaan, bool zoek);
+    [[nodiscard]] bool IsAangevinkt(std::size_t plaats) const;
     [[nodiscard]] const Dubbelpaar* Paar() const;
     [[nodiscard]] int Blijft() const;
     [[nodiscard]] int Weg() const { return Paar()->rij + Paar()->latere - Blijft(); }
@@ -54,7 +59,9 @@ class frmDubbelen : public QDialog {
     Dubbeluitslag uitslag_;
     Vindplaatsen vindplaatsen_;
     std::vector<Vindplaats> plaatsen_; ///< those in the list
-    bool ietsGedaan_ = false;
+    QString gedaan_;                   ///< what was done last
+    std::unique_ptr<Noteer> noteer_;   ///< of merging that failed, for another try
+    Tekst poging_;                     ///< who those are
 
     QLabel* lblUitslag = nullptr;
     QTreeWidget* lstDubbelen = nullptr;

@@ -47,6 +47,24 @@ Uitkomst<std::vector<Sleutelplek>> Sleutels(Tekstblik inhoud, std::optional<Lijs
     return uit;
 }
 
+/// Without what `paar` became where that is there too.
+void LaatElkPaarEens(Tekst& nieuw, Tekstblik oud, const Tekst& paar)
+{
+    const auto was = Paarblikken(oud);
+    for (std::size_t i = was.size(); i-- > 0;) {
+        const auto nu = Paarblikken(nieuw);
+        const auto zelfde = [&](Tekstblik een) {
+            return een.find(Eerste6(nu[i])) != Tekst::npos &&
+                   een.find(Laatste6(nu[i])) != Tekst::npos;
+        };
+        if (was[i] == paar && std::ranges::count_if(nu, zelfde) > 1) {
+            const auto plek = static_cast<std::size_t>(nu[i].data() - nieuw.data());
+            const bool hekje = nieuw.compare(plek + nu[i].size(), 1, "#") == 0;
+            nieuw.erase(plek, nu[i].size() + (hekje ? 1 : 0));
+        }
+    }
+}
+
 } // namespace
 
 Vindplaatsen::Vindplaatsen(Schijf& schijf, const Mappen& mappen, const Voortgang& voortgang)
@@ -89,6 +107,23 @@ void Vindplaatsen::Lees(Schijf& schijf, std::size_t plaats, const Vindplaats::Be
         plekken_[Tekst(plek.key)].push_back({plaats, bestand, plek.code});
 }
 
+void Vindplaatsen::Herlees(Schijf& schijf, const std::vector<Vindplaats>& plaatsen)
+{
+    const auto fouten = fouten_;
+    for (const Vindplaats& plaats : plaatsen) {
+        for (const auto& bestand : plaats.bestanden) {
+            for (auto& [key, plekken] : plekken_)
+                std::erase_if(plekken, [&](const Plek& plek) { return plek.bestand == bestand; });
+            Lees(schijf, plaats.nummer, bestand);
+        }
+    }
+    for (auto& [key, plekken] : plekken_)
+        std::ranges::stable_sort(plekken, {}, [](const Plek& plek) {
+            return std::pair(plek.plaats, plek.bestand.soort);
+        });
+    fouten_ = fouten;
+}
+
 std::vector<Vindplaats> Vindplaatsen::Van(const Tekst& weg, const Tekst& blijft) const
 {
     const auto van = [this](const Tekst& key) {
@@ -109,7 +144,7 @@ std::vector<Vindplaats> Vindplaatsen::Van(const Tekst& weg, const Tekst& blijft)
             continue;
         }
         vorige = plaats;
-        Vindplaats& nieuw = uit.emplace_back(Vindplaats{.bestanden = {bestand}});
+        Vindplaats& nieuw = uit.emplace_back(Vindplaats{.bestanden = {bestand}, .nummer = plaats});
         if (bestand.soort) {
             nieuw.zitting = zittingen_.at(plaats);
             nieuw.zitting->plaatsen = code;
@@ -117,9 +152,14 @@ std::vector<Vindplaats> Vindplaatsen::Van(const Tekst& weg, const Tekst& blijft)
         } else {
             nieuw.paar = code;
         }
-        if (std::ranges::find(andere, plaats, &Plek::plaats) != andere.end())
-            nieuw.bezwaar = bestand.soort || code.find(blijft) != Tekst::npos ? Bezwaar::Beide
-                                                                              : Bezwaar::AnderPaar;
+        const Tekst partner = code.starts_with(weg) ? Tekst(Laatste6(code)) : code.substr(0, 6);
+        for (const Plek& daar : andere) {
+            if (daar.plaats == plaats)
+                nieuw.bezwaar = std::max(
+                    nieuw.bezwaar, bestand.soort || partner == blijft       ? Bezwaar::Beide
+                                   : daar.code.find(partner) != Tekst::npos ? Bezwaar::ZelfdePaar
+                                                                            : Bezwaar::AnderPaar);
+        }
     }
     return uit;
 }
@@ -147,7 +187,11 @@ Uitkomst<void> VervangSleutel(Schijf& schijf, const Vindplaats& plaats, const Te
                         nieuw.replace(static_cast<std::size_t>(key.data() - inhoud.data()),
                                       key.size(), blijft);
                 }
-                return beide || nieuw == inhoud ? std::nullopt : std::optional(std::move(nieuw));
+                if (beide || nieuw == inhoud)
+                    return std::nullopt;
+                if (!soort)
+                    LaatElkPaarEens(nieuw, inhoud, plaats.paar);
+                return nieuw;
             });
         if (beide)
             return Mislukt({.soort = Foutsoort::Gewijzigd, .bestand = schijf.Toonpad(pad)});

@@ -11,8 +11,9 @@ namespace plexoran {
 
 enum class Bezwaar {
     Geen,
-    AnderPaar, ///< the other key is in another pair of the file
-    Beide,     ///< both keys are in the session or the pair: it cannot be rewritten
+    AnderPaar,  ///< the other key is in another pair of the file
+    ZelfdePaar, ///< in one with the same partner: of these pairs one goes
+    Beide,      ///< both keys are in the session or the pair: it cannot be rewritten
 };
 
 struct Vindplaats {
@@ -26,6 +27,7 @@ struct Vindplaats {
     Tekst paar{}; ///< as a pair file has it
     std::vector<Bestand> bestanden{};
     Bezwaar bezwaar = Bezwaar::Geen;
+    std::size_t nummer = 0; ///< of the pair file or the session
     bool operator==(const Vindplaats&) const = default;
 };
 
@@ -37,6 +39,8 @@ class Vindplaatsen {
 
     /// Of the key `weg`, in whose place `blijft` may come: each pair, and each session.
     [[nodiscard]] std::vector<Vindplaats> Van(const Tekst& weg, const Tekst& blijft) const;
+    /// Reads the files of these places again, and no others.
+    void Herlees(Schijf& schijf, const std::vector<Vindplaats>& plaatsen);
     /// Files that cannot be read, where keys may stand too.
     [[nodiscard]] const std::vector<Fout>& Fouten() const { return fouten_; }
 
@@ -54,8 +58,8 @@ class Vindplaatsen {
     std::vector<Fout> fouten_;
 };
 
-/// Puts one key in the place of the other and leaves all other bytes. `Gewijzigd` when both stand
-/// there by now.
+/// Puts one key in the place of the other and leaves all other bytes, but a pair that is there
+/// twice by that. `Gewijzigd` when both stand there by now.
 [[nodiscard]] Uitkomst<void> VervangSleutel(Schijf& schijf, const Vindplaats& plaats,
                                             const Tekst& weg, const Tekst& blijft);
 

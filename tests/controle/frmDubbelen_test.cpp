@@ -86,8 +86,29 @@ class frmDubbelenTest : public Dialoogproef<frmDubbelen, Mapstand> {
                  .center());
     }
 
+    /// The question before it; `verder` stands between the files and the promise.
+    void VerwachtVraag(const QString& bestanden = {}, const QString& antwoord = u"OK"_s,
+                       const QString& verder = {},
+                       const QString& wie = u"Jan Bos (100001) blijft en J. Bos (100003)"_s)
+    {
+        wachter.Verwacht(
+            {.tekst = wie + u" vervalt."_s +
+                      (bestanden.isEmpty() ? QString()
+                                           : u" In %1 komt de ene sleutel voor de andere in de "
+                                             "plaats."_s.arg(bestanden)) +
+                      verder + u"\n\nMet Ongedaan maken is alles in één keer terug te draaien."_s,
+             .antwoord = antwoord,
+             .titel = u"Samenvoegen?"_s,
+             .knoppen = {u"OK"_s, u"Annuleren"_s}});
+    }
+    void KiesLinks() const
+    {
+        Klik(Deel<QRadioButton>("optLinks"), {8, Deel<QRadioButton>("optLinks")->height() / 2});
+    }
+
     int opgeslagen = 0;
     int begonnen = 0;
+    const std::string gedaan = "Jan Bos (100001) samengevoegd met J. Bos (100003). ";
 };
 
 } // namespace
@@ -118,7 +139,7 @@ TEST_F(frmDubbelenTest, WieErLijkenNaastElkaarEnWaarDeSleutelStaat)
     EXPECT_FALSE(Lijst("lstVelden")->topLevelItem(0)->font(1).bold());
     EXPECT_TRUE(Deel<QRadioButton>("optRechts")->isChecked());
     EXPECT_EQ(std::vector<std::string>(), Plaatsen());
-    Klik(Deel<QRadioButton>("optLinks"), {8, Deel<QRadioButton>("optLinks")->height() / 2});
+    KiesLinks();
     EXPECT_EQ("Waar sleutel 100003 nog staat (2)",
               Lijst("lstPlaatsen")->headerItem()->text(0).toStdString());
     EXPECT_EQ((std::vector<std::string>{"*Paar 100003-100004|Parenmap/Gr01-.txt",
@@ -129,11 +150,16 @@ TEST_F(frmDubbelenTest, WieErLijkenNaastElkaarEnWaarDeSleutelStaat)
 TEST_F(frmDubbelenTest, MetDeMuisSamengevoegd)
 {
     Open();
-    Klik(Deel<QRadioButton>("optLinks"), {8, Deel<QRadioButton>("optLinks")->height() / 2});
+    KiesLinks();
     Vink("lstVelden", 1, 1);
     EXPECT_EQ("Voornaam|*Jan|J.", Inhoud("lstVelden")[1]);
     Vink("lstVelden", 5, 2);
     EXPECT_EQ("Email|*|j@bos.example", Inhoud("lstVelden")[5]) << "one of both, always";
+    VerwachtVraag(u"2 bestanden"_s, u"Annuleren"_s);
+    Opdracht("cmdSamenvoegen");
+    EXPECT_EQ(0, begonnen + opgeslagen);
+    EXPECT_EQ("100003-100004#\r\n", Paren());
+    VerwachtVraag(u"2 bestanden"_s);
     Opdracht("cmdSamenvoegen");
     EXPECT_EQ(1, begonnen);
     EXPECT_EQ(1, opgeslagen);
@@ -144,8 +170,12 @@ TEST_F(frmDubbelenTest, MetDeMuisSamengevoegd)
               "2,100002,Gr01-,Els,,Tol,,,,,,,V,,,,,\r\n"
               "3,100004,Gr02-,E.,,Tol,,,,,,,V,,,,,\r\n",
               map.Inhoud("RVDspelers.txt"));
-    EXPECT_EQ("1 mogelijke dubbel, de waarschijnlijkste eerst.", Label("lblUitslag"));
-    EXPECT_EQ(1U, Inhoud("lstDubbelen").size());
+    EXPECT_EQ(gedaan + "1 mogelijke dubbel, de waarschijnlijkste eerst.", Label("lblUitslag"));
+    EXPECT_EQ(Label("lblUitslag"), Lijst("lstDubbelen")->accessibleDescription().toStdString());
+    EXPECT_EQ("lstDubbelen", venster->focusWidget()->objectName().toStdString());
+    EXPECT_EQ((std::vector<std::string>{"Els Tol (100002, Gr01-)|E. Tol (100004, Gr02-)|voorletter "
+                                        "in plaats van voornaam"}),
+              Inhoud("lstDubbelen"));
 }
 
 TEST_F(frmDubbelenTest, MetHetToetsenbordAlleen)
@@ -168,10 +198,13 @@ TEST_F(frmDubbelenTest, MetHetToetsenbordAlleen)
     QTest::keyClick(Lijst("lstPlaatsen"), Qt::Key_Home);
     QTest::keyClick(Lijst("lstPlaatsen"), Qt::Key_Space);
     EXPECT_TRUE(Plaatsen()[0].starts_with("Paar")) << "not ticked";
+    VerwachtVraag(u"1 bestand"_s);
     QTest::keyClick(venster.get(), Qt::Key_S, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return opgeslagen == 1; }));
     EXPECT_EQ("100003-100004#\r\n", Paren());
     EXPECT_EQ("N01 100001 - 100002\r\n", Zitting());
+    venster->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(venster.get()));
     QTest::keyClick(venster.get(), Qt::Key_G, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return Inhoud("lstDubbelen").empty(); }));
     QTest::keyClick(venster.get(), Qt::Key_Escape);
@@ -183,9 +216,13 @@ TEST_F(frmDubbelenTest, GeenDubbelenWordtOnthoudenEnAllesGedaanGezegd)
     Open();
     Opdracht("cmdGeenDubbelen");
     EXPECT_EQ("100001,100003,Jan Bos,J. Bos\r\n", map.Inhoud("GeenDubbelen.txt"));
-    EXPECT_EQ("1 mogelijke dubbel, de waarschijnlijkste eerst.", Label("lblUitslag"));
+    EXPECT_EQ("Geen dubbelen: Jan Bos (100001) en J. Bos (100003). 1 mogelijke dubbel, de "
+              "waarschijnlijkste eerst.",
+              Label("lblUitslag"));
     Opdracht("cmdGeenDubbelen");
-    EXPECT_EQ("Klaar: alle mogelijke dubbelen zijn behandeld.", Label("lblUitslag"));
+    EXPECT_EQ("Geen dubbelen: Els Tol (100002) en E. Tol (100004). Klaar: alle mogelijke dubbelen "
+              "zijn behandeld.",
+              Label("lblUitslag"));
     for (const char* knop : {"cmdSamenvoegen", "cmdGeenDubbelen"})
         EXPECT_FALSE(Knop(knop)->isEnabled());
     EXPECT_EQ(0U, Inhoud("lstVelden").size() + Inhoud("lstPlaatsen").size());
@@ -197,7 +234,7 @@ TEST_F(frmDubbelenTest, GeenDubbelenWordtOnthoudenEnAllesGedaanGezegd)
 TEST_F(frmDubbelenTest, WatEenAnderProgrammaSchreefWordtEerstGetoond)
 {
     Open();
-    Klik(Deel<QRadioButton>("optLinks"), {8, Deel<QRadioButton>("optLinks")->height() / 2});
+    KiesLinks();
     map.Zet("Zittingen/Di/Spelers.txt", "N01 100003 - 100002\r\nN02 100001 - 100009\r\n");
     wachter.Informatie(
         u"Een ander programma heeft intussen paren of zittingen gewijzigd. Er is nog niets "
@@ -207,6 +244,7 @@ TEST_F(frmDubbelenTest, WatEenAnderProgrammaSchreefWordtEerstGetoond)
     EXPECT_EQ("Zitting Di: N01 (blijft zo: beide sleutels staan er)|Zittingen/Di/Spelers.txt",
               Plaatsen()[1]);
     QObject::disconnect(venster.get(), &frmDubbelen::begint, nullptr, nullptr);
+    VerwachtVraag(u"1 bestand"_s);
     Opdracht("cmdSamenvoegen");
     EXPECT_EQ(1, opgeslagen);
     EXPECT_EQ("N01 100003 - 100002\r\nN02 100001 - 100009\r\n", Zitting());
@@ -217,8 +255,9 @@ TEST_F(frmDubbelenTest, WatEenAnderProgrammaSchreefWordtEerstGetoond)
 TEST_F(frmDubbelenTest, EenBestandDatNietGewijzigdKanWordenLaatBeideStaan)
 {
     Open();
-    Klik(Deel<QRadioButton>("optLinks"), {8, Deel<QRadioButton>("optLinks")->height() / 2});
+    KiesLinks();
     schijf.Vooraf([](const Pad& pad) { return pad.find("Spelers.txt.~") == Pad::npos; });
+    VerwachtVraag(u"2 bestanden"_s);
     wachter.Begin(u"De spelers zijn niet samengevoegd: een bestand kon niet worden gewijzigd."_s);
     Opdracht("cmdSamenvoegen");
     EXPECT_EQ(0, opgeslagen);
@@ -226,9 +265,79 @@ TEST_F(frmDubbelenTest, EenBestandDatNietGewijzigdKanWordenLaatBeideStaan)
     EXPECT_EQ("100001-100004#\r\n", Paren());
     EXPECT_EQ("N01 100003 - 100002\r\n", Zitting());
     schijf.Vooraf({});
+    VerwachtVraag(u"1 bestand"_s);
     Opdracht("cmdSamenvoegen");
     EXPECT_EQ(1, opgeslagen);
     EXPECT_EQ("N01 100001 - 100002\r\n", Zitting());
+}
+
+/// Who were like the one who went are not looked for, nor are other files read.
+TEST_F(frmDubbelenTest, NaHetSamenvoegenAlleenDeBestandenDieGewijzigdZijn)
+{
+    std::filesystem::create_directories(map.Weg() / "Zittingen" / "Wo");
+    map.Zet("Zittingen/Wo/Zitdata.txt", "");
+    map.Zet("Zittingen/Wo/Spelers.txt", "N01 100002 - 100009\r\n");
+    map.Zet("Parenmap/Gr02-.txt", "100004-100009#\r\n");
+    Open();
+    KiesLinks();
+    std::string gelezen;
+    schijf.Vooraf([&gelezen](const Pad& pad) {
+        gelezen += pad + "\n";
+        return true;
+    });
+    VerwachtVraag(u"2 bestanden"_s);
+    Opdracht("cmdSamenvoegen");
+    EXPECT_NE(std::string::npos, gelezen.find("Gr01-.txt"));
+    EXPECT_EQ(std::string::npos, gelezen.find("Gr02-.txt")) << gelezen;
+    EXPECT_EQ(std::string::npos, gelezen.find("Wo\\Spelers.txt")) << gelezen;
+    EXPECT_EQ((std::vector<std::string>{"*Paar 100001-100004|Parenmap/Gr01-.txt",
+                                        "*Paar 100004-100009|Parenmap/Gr02-.txt"}),
+              Plaatsen())
+        << "what was written is known";
+}
+
+TEST_F(frmDubbelenTest, WatEenAnderProgrammaBijHetOpslaanToevoegdeWordtOokGezocht)
+{
+    Toon(administratie, [this] {
+        administratie.spelers.tabel.VoegKopieToe(2, {});
+        return true;
+    });
+    VerwachtVraag({}, u"OK"_s, {}, u"J. Bos (100003) blijft en Jan Bos (100001)"_s);
+    Opdracht("cmdSamenvoegen");
+    ASSERT_EQ(2U, Inhoud("lstDubbelen").size());
+    EXPECT_TRUE(Inhoud("lstDubbelen")[0].starts_with("J. Bos (100003, Gr01-)|J. Bos (100003"));
+}
+
+TEST_F(frmDubbelenTest, EenPaarDatErAlStaatVervalt)
+{
+    map.Zet("Parenmap/Gr01-.txt", "100003-100004#100001-100004#\r\n");
+    Open();
+    KiesLinks();
+    EXPECT_EQ("*Paar 100003-100004 (vervalt: dat paar staat er al met de sleutel die "
+              "blijft)|Parenmap/Gr01-.txt",
+              Plaatsen()[0]);
+    VerwachtVraag(u"2 bestanden"_s);
+    Opdracht("cmdSamenvoegen");
+    EXPECT_EQ("100001-100004#\r\n", Paren());
+}
+
+/// The import looks for a member in his group, by his number.
+TEST_F(frmDubbelenTest, WatDeVolgendeImportWeerToevoegtWordtGezegd)
+{
+    administratie.mappen.DFIMPG = "Gr05-";
+    const std::string bosje = "2,100003,Gr05-,J.,,Bos,,,,,,,M,,,,LAAR,1234567\r\n";
+    const QString letOp = u"\n\nLet op: NBB-nummer 1234567 staat dan niet meer in groep Gr05-. Is "
+                          "het nog lid, dan voegt de volgende import het als nieuwe speler toe."_s;
+    for (const int veld : {-1, 0, 15}) {
+        ZetSpelers("1,100001,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n" + bosje);
+        Open();
+        KiesLinks();
+        EXPECT_EQ("Groep|Gr01-|*Gr05-", Inhoud("lstVelden")[0]);
+        if (veld >= 0)
+            Vink("lstVelden", veld, 1);
+        VerwachtVraag(u"2 bestanden"_s, u"Annuleren"_s, veld < 0 ? QString() : letOp);
+        Opdracht("cmdSamenvoegen");
+    }
 }
 
 TEST_F(frmDubbelenTest, GeenDubbelenDieNietBewaardKanWorden)
@@ -246,7 +355,7 @@ TEST_F(frmDubbelenTest, EenSleutelDieGeenZesCijfersIsKanNergensKomen)
     ZetSpelers("1,12,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n2,100003,Gr01-,J.,,Bos,,,,,,,M,,,,,\r\n");
     Open();
     EXPECT_TRUE(Deel<QRadioButton>("optRechts")->isChecked());
-    Klik(Deel<QRadioButton>("optLinks"), {8, Deel<QRadioButton>("optLinks")->height() / 2});
+    KiesLinks();
     wachter.Begin(u"De sleutel die blijft, is geen zes cijfers"_s);
     Opdracht("cmdSamenvoegen");
     EXPECT_EQ(2, administratie.spelers.tabel.Rijen());

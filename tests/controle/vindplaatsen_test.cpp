@@ -39,7 +39,7 @@ class VindplaatsenTest : public testing::Test {
             uit += plaats.paar;
             for (const auto& bestand : plaats.bestanden)
                 uit += " " + bestand.pad;
-            constexpr std::array bezwaren{"", " ander paar", " beide"};
+            constexpr std::array bezwaren{"", " ander paar", " zelfde paar", " beide"};
             uit.append(bezwaren.at(static_cast<std::size_t>(plaats.bezwaar))).append("\n");
         }
         return uit;
@@ -90,6 +90,39 @@ TEST_F(VindplaatsenTest, EenPaarVanBeideBlijftEnEenAnderPaarWordtGenoemd)
     EXPECT_EQ("100001-100002 " + paren + " beide\n100003-100001 " + paren + " ander paar\n", Van());
     Vervang();
     EXPECT_EQ("100001-100002#100003-100002#", Inhoud(paren));
+}
+
+/// Whoever stands first in it; and with two of the key that goes.
+TEST_F(VindplaatsenTest, EenPaarDatErAlStaatKomtErGeenTweedeKeer)
+{
+    schijf.Zet(paren, "100001-100003#100004-100005#100003-100002#100002-100006#");
+    EXPECT_EQ("100001-100003 " + paren + " zelfde paar\n", Van());
+    Vervang();
+    EXPECT_EQ("100004-100005#100003-100002#100002-100006#", Inhoud(paren));
+    schijf.Zet(paren, "100001-100003#100004-100005#100003-100001");
+    EXPECT_EQ("100001-100003 " + paren + "\n100003-100001 " + paren + "\n", Van());
+    Vervang();
+    EXPECT_EQ("100002-100003#100004-100005#", Inhoud(paren));
+}
+
+/// As if all were read anew, though no other file is read.
+TEST_F(VindplaatsenTest, AlleenDeBestandenVanDezePlaatsenOpnieuwGelezen)
+{
+    schijf.Zet(paren, "100001-100003#");
+    schijf.Zet("S:\\RVDparen.txt", "100007-100008#\n");
+    ZetZitting("N01 100001 - 100003\r\n", "1,A,O7,100001-100003,50,0,x\r\n");
+    Vindplaatsen plaatsen = Gelezen();
+    const auto voor = plaatsen.Van("100001", "100002");
+    schijf.Zet(paren, "100003-100001#100002-100009#");
+    schijf.Zet(uitslag, "1,A,O7,100004-100001,50,0,x\r\n");
+    schijf.Zet("S:\\RVDparen.txt", "100001-100008#\n");
+    plaatsen.Herlees(schijf, voor);
+    EXPECT_EQ("100003-100001", plaatsen.Van("100001", "100002").at(0).paar);
+    EXPECT_EQ(2U, plaatsen.Van("100001", "100002").size());
+    EXPECT_EQ(1U, plaatsen.Van("100007", "100002").size()) << "not read again";
+    schijf.Zet("S:\\RVDparen.txt", "100007-100008#\n");
+    for (const char* key : {"100001", "100003", "100004", "100009", "100008"})
+        EXPECT_EQ(Gelezen().Van(key, "100002"), plaatsen.Van(key, "100002")) << key;
 }
 
 TEST_F(VindplaatsenTest, InZittingenTotOpDeByte)

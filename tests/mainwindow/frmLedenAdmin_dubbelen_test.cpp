@@ -46,13 +46,21 @@ class DubbelenTest : public HoofdvensterTest {
         return static_cast<std::size_t>(std::ranges::count_if(
             namen, [&](const std::string& naam) { return naam.ends_with(reden + ".zip"); }));
     }
-    static void Samenvoegen(QDialog& dubbelen)
+    void VerwachtVraag()
     {
+        wachter.Verwacht({.tekst = u"Jan Bos (100001) blijft en J. Bos (100003) vervalt."_s,
+                          .titel = u"Samenvoegen?"_s,
+                          .alleenBegin = true});
+    }
+    void Samenvoegen(QDialog& dubbelen)
+    {
+        VerwachtVraag();
         auto* links = Vind<QRadioButton>(dubbelen, "optLinks");
         links->click();
         Druk(dubbelen, "cmdSamenvoegen");
         EXPECT_EQ(0, Vind<QTreeWidget>(dubbelen, "lstDubbelen")->topLevelItemCount());
-        EXPECT_EQ("Klaar: alle mogelijke dubbelen zijn behandeld.",
+        EXPECT_EQ("Jan Bos (100001) samengevoegd met J. Bos (100003). Klaar: alle mogelijke "
+                  "dubbelen zijn behandeld.",
                   Vind<QLabel>(dubbelen, "lblUitslag")->text().toStdString());
         Druk(dubbelen, "cmdSluiten");
     }
@@ -64,7 +72,7 @@ TEST_F(DubbelenTest, SamengevoegdInEenHandelingEnTotOpDeByteTerug)
 {
     ZetDubbelen();
     const auto oud = Bestanden();
-    Zoek([](QDialog& dubbelen) { Samenvoegen(dubbelen); });
+    Zoek([this](QDialog& dubbelen) { Samenvoegen(dubbelen); });
     const std::vector<std::string> nieuw{"HKEY=100009\r\n"
                                          "1,100001,Gr01-,J.,,Bos,06-1,,,,,,M,,,,A-LIJN,\r\n"
                                          "2,100002,Gr01-,Els,,Tol,,,,,,,V,,,,A-LIJN,\r\n"
@@ -116,6 +124,7 @@ TEST_F(DubbelenTest, WatNietOpgeslagenKanWordenKomtLater)
     ZetDubbelen();
     Zoek([this](QDialog& dubbelen) {
         schijf.Vooraf([](const Pad& pad) { return pad.find("RVDspelers.txt.~") == Pad::npos; });
+        VerwachtVraag();
         wachter.Begin(u"De spelers konden niet worden opgeslagen."_s, QMessageBox::Critical,
                       u"Doorgaan"_s);
         wachter.Begin(u"De spelers zijn samengevoegd, maar dat is nog niet opgeslagen."_s,
@@ -130,6 +139,34 @@ TEST_F(DubbelenTest, WatNietOpgeslagenKanWordenKomtLater)
     EXPECT_TRUE(venster->isWindowModified());
     Zoek([](QDialog& dubbelen) { Druk(dubbelen, "cmdSluiten"); });
     EXPECT_EQ(std::string::npos, suite.Spelers().find(",100003,"));
+}
+
+TEST_F(DubbelenTest, EenTweedePogingIsDezelfdeHandeling)
+{
+    ZetDubbelen();
+    const auto oud = Bestanden();
+    for (const bool alsnog : {true, false}) {
+        Zoek([this, alsnog](QDialog& dubbelen) {
+            schijf.Vooraf([](const Pad& pad) { return pad.find("PercZit-1.txt.~") == Pad::npos; });
+            VerwachtVraag();
+            wachter.Begin(
+                u"De spelers zijn niet samengevoegd: een bestand kon niet worden gewijzigd."_s);
+            Vind<QRadioButton>(dubbelen, "optLinks")->click();
+            Druk(dubbelen, "cmdSamenvoegen");
+            schijf.Vooraf({});
+            if (alsnog)
+                Samenvoegen(dubbelen);
+            else
+                Druk(dubbelen, "cmdSluiten");
+        });
+        EXPECT_NE(oud, Bestanden());
+        emit Vind<QMenu>(*venster, "mnuBewerken")->aboutToShow();
+        EXPECT_EQ(alsnog ? "Ongedaan maken: Jan Bos (100001) samengevoegd met J. Bos (100003)"
+                         : "Ongedaan maken: Niet samengevoegd: Jan Bos (100001) en J. Bos (100003)",
+                  venster->findChild<QAction*>(u"actOngedaan"_s)->text().toStdString());
+        DrukMetCtrl(Qt::Key_Z);
+        EXPECT_EQ(oud, Bestanden());
+    }
 }
 
 TEST_F(DubbelenTest, WieAlleenKijktVoegtNietsSamen)
