@@ -6,6 +6,8 @@
 #include <QFileDialog>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 #include "platform/bronnen/instellingenwinkel.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
@@ -36,10 +38,21 @@ std::vector<Zipdeel> Oefendelen()
 
 } // namespace
 
+Pad EersteBruikbare(const QStringList& mappen)
+{
+    for (const QString& map : mappen) {
+        if (ExactNaarCodepagina(map.toStdU16String()) &&
+            (!QFileInfo::exists(map) || QFileInfo(map).isWritable()))
+            return VolledigPad(map.toStdString());
+    }
+    return VolledigPad(mappen.front().toStdString());
+}
+
 Startomgeving HuidigeOmgeving()
 {
-    const Pad documenten = VolledigPad(
-        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString());
+    const Pad documenten = EersteBruikbare(
+        {QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+         qEnvironmentVariable("PUBLIC", QDir::homePath()) + u"/Documents"_s, QDir::rootPath()});
     const Pad programma = Programmamap();
     Startomgeving uit{.ini = Gebruikersbestand("suite.ini"),
                       .documenten = documenten,
@@ -58,22 +71,26 @@ Startomgeving HuidigeOmgeving()
     return uit;
 }
 
-frmEersteStart::frmEersteStart(Schijf& schijf, const Startomgeving& omgeving, QWidget* ouder)
+frmEersteStart::frmEersteStart(Schijf& schijf, const Startomgeving& omgeving, QWidget* ouder,
+                               const Pad& open)
     : QDialog(ouder), schijf_(schijf), omgeving_(omgeving), map_(omgeving.documenten)
 {
     constexpr int hoogstens = 2000; // milliseconds of searching
-    Bouw();
+    Bouw(open.empty() ? u"Stoppen"_s : u"Annuleren"_s);
     QElapsedTimer sinds;
     sinds.start();
     for (const Pad& pad :
          ZoekSuites(schijf, omgeving.zoekplaatsen, [&] { return sinds.elapsed() < hoogstens; }))
         VoegSuiteToe(pad);
-    lstSuites->setCurrentRow(0);
+    if (!open.empty() && std::ranges::find(suites_, open) == suites_.end())
+        VoegSuiteToe(open);
+    const auto plek = std::ranges::find(suites_, open) - suites_.begin();
+    lstSuites->setCurrentRow(open.empty() ? 0 : static_cast<int>(plek));
     (suites_.empty() ? optNieuw : optBestaand)->setChecked(true);
     ToonKeus();
 }
 
-void frmEersteStart::Bouw()
+void frmEersteStart::Bouw(const QString& weg)
 {
     setObjectName(u"frmEersteStart"_s);
     setWindowTitle(u"Administratie kiezen"_s);
@@ -82,9 +99,9 @@ void frmEersteStart::Bouw()
                    u"Plexoran werkt met een administratie: een map met de spelers van uw "
                    "club en een bestand 'Mappen.ini'. Hoe wilt u beginnen?"_s,
                    this);
-    optBestaand = MaakOptie(u"optBestaand"_s, u"Een bestaande suite kiezen"_s, u'b', this);
+    optBestaand = MaakOptie(u"optBestaand"_s, u"Een bestaande administratie kiezen"_s, u'b', this);
     lstSuites = new QListWidget(this);
-    Noem(lstSuites, u"lstSuites"_s, u"Gevonden suites"_s);
+    Noem(lstSuites, u"lstSuites"_s, u"Gevonden administraties"_s);
     lstSuites->setTextElideMode(Qt::ElideMiddle);
     lstSuites->setMinimumHeight(3 * fontMetrics().lineSpacing());
     cmdBladeren =
@@ -107,7 +124,8 @@ void frmEersteStart::Bouw()
                                  this);
     auto* cmdVerder = MaakKnop(u"cmdVerder"_s, u"Verder"_s, u'V', this, &QDialog::accept);
     cmdVerder->setDefault(true);
-    auto* cmdStoppen = MaakKnop(u"cmdStoppen"_s, u"Stoppen"_s, u'S', this, &QDialog::reject);
+    auto* cmdStoppen =
+        MaakKnop(u"cmdStoppen"_s, weg, weg.contains(u'u') ? u'u' : u'S', this, &QDialog::reject);
     for (auto* optie : {optBestaand, optNieuw, optOefenen})
         connect(optie, &QRadioButton::clicked, this, &frmEersteStart::ToonKeus);
     connect(txtClub, &QLineEdit::textChanged, this, &frmEersteStart::ToonKeus);
@@ -170,7 +188,7 @@ Pad frmEersteStart::GekozenIn(QFileDialog& kiezer)
 
 void frmEersteStart::ZoekSuite()
 {
-    QFileDialog CommonDialog1(this, u"Kies het bestand 'Mappen.ini' van de suite"_s);
+    QFileDialog CommonDialog1(this, u"Kies het bestand 'Mappen.ini' van de administratie"_s);
     CommonDialog1.setFileMode(QFileDialog::ExistingFile);
     CommonDialog1.setNameFilter(u"Mappen.ini (*.ini)"_s);
     if (const Pad pad = GekozenIn(CommonDialog1); !pad.empty())
@@ -217,7 +235,7 @@ std::optional<Pad> frmEersteStart::KiesBestaande()
     if (lstSuites->currentRow() >= 0)
         return Gelezen(suites_[static_cast<std::size_t>(lstSuites->currentRow())]);
     Meld(this, QMessageBox::Information,
-         u"Kies een suite uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'."_s);
+         u"Kies een administratie uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'."_s);
     return std::nullopt;
 }
 
@@ -227,6 +245,7 @@ std::optional<Pad> frmEersteStart::MaakNieuwe()
     const Pad map = NieuweMap();
     if (const std::string bezwaar = Naambezwaar(club, map); !bezwaar.empty()) {
         Meld(this, QMessageBox::Warning, QString::fromStdString(bezwaar));
+        txtClub->setFocus();
         return std::nullopt;
     }
     for (const Pad& waar : {map, map_}) {

@@ -16,11 +16,17 @@ namespace plexoran {
 /// Of this user on this computer.
 [[nodiscard]] Startomgeving HuidigeOmgeving();
 
+/// The first of these folders whose name the suite can write and in which this user may write, or
+/// else the first.
+[[nodiscard]] Pad EersteBruikbare(const QStringList& mappen);
+
 class frmEersteStart : public QDialog {
     Q_OBJECT
 
   public:
-    frmEersteStart(Schijf& schijf, const Startomgeving& omgeving, QWidget* ouder);
+    /// `open` is the "Mappen.ini" to start with, so far.
+    frmEersteStart(Schijf& schijf, const Startomgeving& omgeving, QWidget* ouder,
+                   const Pad& open = {});
 
     /// The one to start with, once the window was accepted.
     [[nodiscard]] const Pad& MappenIni() const { return mappenIni_; }
@@ -28,7 +34,7 @@ class frmEersteStart : public QDialog {
     void accept() override;
 
   private:
-    void Bouw();
+    void Bouw(const QString& weg);
     void ToonKeus();
     void ZoekSuite();
     void KiesMap();

@@ -339,7 +339,9 @@ void frmLedenAdmin::KiesAdministratie()
     if (!MagKiezen(administratie_))
         tekst = u"U kunt hier geen andere administratie kiezen: er staat een 'Mappen.ini' bij het "
                 "programma, of Plexoran is gestart met --mappen."_s;
-    else if (frmEersteStart keus(administratie_.schijf, *administratie_.eersteStart, this);
+    else if (frmEersteStart keus(administratie_.schijf, *administratie_.eersteStart, this,
+                                 StartMappenIni(administratie_.schijf, administratie_.programmamap,
+                                                administratie_.eersteStart->ini));
              keus.exec() != QDialog::Accepted)
         return;
     Meld(this, QMessageBox::Information, tekst);

@@ -135,19 +135,18 @@ std::vector<Pad> ZoekSuites(Schijf& schijf, const std::vector<Zoekplaats>& plaat
 Uitkomst<Bestaand> ZoekBestaand(Schijf& schijf, const Pad& map)
 {
     Bestaand uit;
-    const auto kijk = [&](const Pad& pad, Pad& vak, const Pad& wat) {
-        return schijf.Soort(pad).map([&](Padsoort soort) {
-            if (soort != Padsoort::Niets)
-                vak = wat;
-        });
-    };
-    const Pad spelersmap = Samen(map, "Spelers");
+    for (const Pad& waar : {map, Samen(map, "Spelers")}) {
+        const auto soort = schijf.Soort(Samen(waar, "RVDspelers.txt"));
+        if (!soort)
+            return Mislukt(soort);
+        if (*soort != Padsoort::Niets)
+            uit.spelersmap = waar;
+    }
     const Pad mappenIni = Samen(map, mappennaam);
-    return kijk(mappenIni, uit.mappenIni, mappenIni)
-        .and_then([&] { return kijk(Samen(map, "RVDspelers.txt"), uit.spelersmap, map); })
-        .and_then(
-            [&] { return kijk(Samen(spelersmap, "RVDspelers.txt"), uit.spelersmap, spelersmap); })
-        .map([&] { return uit; });
+    return schijf.Soort(mappenIni).map([&](Padsoort soort) {
+        uit.mappenIni = soort == Padsoort::Niets ? Pad() : mappenIni;
+        return uit;
+    });
 }
 
 std::string Naambezwaar(Tekstblik club, const Pad& map)
@@ -157,7 +156,8 @@ std::string Naambezwaar(Tekstblik club, const Pad& map)
     if (club.empty())
         return "Vul de naam van uw club in.";
     if (const Tekst tekens = GeweigerdeTekens(club); !tekens.empty())
-        return "Deze tekens kunnen niet in de naam van een map staan: " + NaarUtf8(tekens);
+        return "In de naam van uw club kan dit niet staan, want die krijgt ook de map: " +
+               NaarUtf8(tekens) + "\n\nKies een andere naam.";
     if (club.ends_with('.'))
         return "De naam van een map kan niet eindigen op een punt.";
     if (map.size() > langste)

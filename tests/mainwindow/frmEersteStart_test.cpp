@@ -121,7 +121,7 @@ TEST_F(frmEersteStartTest, NoemtDeDrieManieren)
                     "een bestand 'Mappen.ini'. Hoe wilt u beginnen?"},
          {"lblOefenen",
           "Met verzonnen spelers, in de map 'Plexoran oefenclub' bij uw documenten."}},
-        {{"optBestaand", "Een bestaande suite kiezen"},
+        {{"optBestaand", "Een bestaande administratie kiezen"},
          {"cmdBladeren", "Bladeren..."},
          {"optNieuw", "Een nieuwe administratie maken"},
          {"cmdMap", "Andere map..."},
@@ -171,9 +171,10 @@ TEST_F(frmEersteStartTest, EenSuiteDieErgensAndersStaatWordtAangewezen)
     Open();
     Kies("optBestaand");
     wachter.Informatie(
-        u"Kies een suite uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'."_s);
+        u"Kies een administratie uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'."_s);
     Klik(Knop("cmdVerder"));
-    VerwachtBestandskeus(map.Weg() / "Mappen.ini", u"Kies het bestand 'Mappen.ini' van de suite"_s);
+    VerwachtBestandskeus(map.Weg() / "Mappen.ini",
+                         u"Kies het bestand 'Mappen.ini' van de administratie"_s);
     Opdracht("cmdBladeren");
     Klik(Knop("cmdVerder"));
     VerwachtKeus(map.Weg() / "Mappen.ini");
@@ -185,7 +186,8 @@ TEST_F(frmEersteStartTest, EenAangewezenBestandDatGeenSpelersmapNoemtWordtGeweig
     const auto was = Alles(map.Weg());
     Open();
     Kies("optBestaand");
-    VerwachtBestandskeus(map.Weg() / "Mappen.ini", u"Kies het bestand 'Mappen.ini' van de suite"_s);
+    VerwachtBestandskeus(map.Weg() / "Mappen.ini",
+                         u"Kies het bestand 'Mappen.ini' van de administratie"_s);
     Opdracht("cmdBladeren");
     wachter.Begin(u"Met dit bestand kan Plexoran niet beginnen: het is niet te lezen, of er staat "
                   "geen map achter SPEMAP=. Er is niets veranderd. Kies een ander.\n\n"_s);
@@ -239,6 +241,36 @@ TEST_F(frmEersteStartTest, EenOefenclubDieErIsWordtAangebodenEnNooitOverschreven
     EXPECT_EQ("van een ander", Lees(In("Plexoran oefenclub")));
 }
 
+/// From the menu of a program that runs.
+TEST_F(frmEersteStartTest, WatOpenIsStaatGekozenEnDeKnopHeetAnnuleren)
+{
+    ZetSuite("Bridge");
+    ZetSuite("Zuid");
+    for (const Pad& open : {Als("Bridge") + "\\Mappen.ini", wortel + "\\Elders\\Mappen.ini"}) {
+        venster = std::make_unique<frmEersteStart>(schijf, omgeving, &hoofd, open);
+        ToonHet();
+        EXPECT_EQ("Annuleren", Opschrift(Knop("cmdStoppen")));
+        EXPECT_EQ(schijf.Toonpad(open),
+                  Deel<QListWidget>("lstSuites")->currentItem()->text().toStdString());
+        EXPECT_TRUE(Deel<QRadioButton>("optBestaand")->isChecked());
+    }
+}
+
+TEST_F(frmEersteStartTest, EenMapDieDeSuiteNietKanSchrijvenWordtNietVoorgesteld)
+{
+    const QString thuis = QString::fromStdString(map.Weg().string());
+    EXPECT_EQ(Als("Clubs"), EersteBruikbare({thuis + u"/Жан/Documenten"_s,
+                                             thuis + u"/Documenten/Clubs"_s, thuis}))
+        << "it need not be there yet";
+    fs::create_directory(In("Dicht"));
+    fs::permissions(In("Dicht"), fs::perms::none);
+    const Pad gevonden = EersteBruikbare({thuis + u"/Documenten/Dicht"_s, thuis});
+    EXPECT_TRUE(gevonden == PadVan(map.Weg()) ||
+                QFileInfo(thuis + u"/Documenten/Dicht"_s).isWritable());
+    fs::permissions(In("Dicht"), fs::perms::owner_all);
+    EXPECT_EQ(PadVan(map.Weg() / "Жан"), EersteBruikbare({thuis + u"/Жан"_s}));
+}
+
 // ---- What goes wrong --------------------------------------------------------------------------
 
 TEST_F(frmEersteStartTest, WieStoptVerandertNiets)
@@ -263,9 +295,15 @@ TEST_F(frmEersteStartTest, EenNaamDieNietKanWordtGezegd)
         Enter();
         VerwachtNietsVeranderd(was);
     };
+    Deel<QRadioButton>("optNieuw")->setFocus();
+    wachter.Begin(u"Vul de naam van uw club in."_s);
+    Klik(Knop("cmdVerder"));
+    EXPECT_EQ("txtClub", venster->focusWidget()->objectName().toStdString());
     weigert({}, u"Vul de naam van uw club in."_s);
     weigert(u"  "_s, u"Vul de naam van uw club in."_s);
-    weigert(u"Zuid/Oost"_s, u"Deze tekens kunnen niet in de naam van een map staan: /"_s);
+    weigert(u"Zuid/Oost"_s,
+            u"In de naam van uw club kan dit niet staan, want die krijgt ook de map: /\n\nKies een "
+            "andere naam."_s);
     weigert(QString(200, u'x'), u"De naam van de map is te lang: "_s);
     for (int teken = 0; teken < 2; ++teken)
         wachter.Begin(u"Dit teken kan niet worden opgeslagen."_s);

@@ -222,8 +222,10 @@ TEST(Naambezwaar, ZegtWatErAanDeNaamMankeert)
 {
     EXPECT_EQ("", Naambezwaar("B.C. 't Hof (\xE9\xE9n)", club));
     EXPECT_EQ("Vul de naam van uw club in.", Naambezwaar("", club));
-    EXPECT_EQ("Deze tekens kunnen niet in de naam van een map staan: /?",
-              Naambezwaar("A/B?/", club));
+    EXPECT_EQ(
+        "In de naam van uw club kan dit niet staan, want die krijgt ook de map: /?\n\nKies een "
+        "andere naam.",
+        Naambezwaar("A/B?/", club));
     EXPECT_EQ("De naam van een map kan niet eindigen op een punt.", Naambezwaar("..", club));
     EXPECT_EQ("", Naambezwaar("Club", Pad(150, 'x')));
     EXPECT_TRUE(
