@@ -31,20 +31,16 @@ struct Proef {
 
     static Tekst Registertekst(int spelers, Namen namen)
     {
-        Register uit;
-        uit.HKEY = Sleutelbasis + spelers;
-        uit.tabel =
-            SpelersUit(MaakRegister(spelers, Verdeling::AlleGroepen)).tabel.value_or(Spelertabel());
-        for (int rij = 1; rij <= uit.tabel.Rijen() && namen == Namen::Eigen; ++rij) {
+        return MaakRegister(spelers, Verdeling::AlleGroepen, [namen](Spelertabel& tabel, int rij) {
             const bool dubbel = rij % 100 == 0;
-            uit.tabel.ZetCel(rij, Kolom::Achternaam,
-                             Achternaam(dubbel ? rij - 1 : rij) + (dubbel ? "s" : ""));
-            uit.tabel.ZetCel(rij, Kolom::Email, std::to_string(rij) + "@club.example");
+            if (namen == Namen::Weinig)
+                return;
+            tabel.ZetCel(rij, Kolom::Achternaam,
+                         Achternaam(dubbel ? rij - 1 : rij) + (dubbel ? "s" : ""));
+            tabel.ZetCel(rij, Kolom::Email, std::to_string(rij) + "@club.example");
             if (dubbel)
-                uit.tabel.ZetCel(rij, Kolom::Voornaam,
-                                 Tekst(uit.tabel.Cel(rij - 1, Kolom::Voornaam)));
-        }
-        return SpelersTekst(uit);
+                tabel.ZetCel(rij, Kolom::Voornaam, Tekst(tabel.Cel(rij - 1, Kolom::Voornaam)));
+        });
     }
 
     EchteSchijf schijf;

@@ -1,64 +1,32 @@
 // Showing a group that is the whole register, and painting a screenful of it, in the real main
 // window.
-#include <QApplication>
 #include <QImage>
 #include <QScrollBar>
 
-#include <memory>
-
-#include "hulp/meten.h"
-#include "hulp/register.h"
-#include "mainwindow/frmLedenAdmin.h"
+#include "hulp/vensterproef.h"
 #include "platform/scherm/tekstbrug.h"
-#include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
 namespace {
 
 constexpr int Basis = 100; ///< players of the register with which painting is compared
 
-/// The main window on a register of one size, everybody in the shown group.
-struct Proef {
-    explicit Proef(int spelers)
-        : suite(MaakRegister(spelers, Verdeling::EenGroep)),
-          administratie{.schijf = schijf, .winkel = [](auto...) { return std::nullopt; }},
-          venster(administratie)
-    {
-        const auto status = venster.Laad(suite.MappenIni(), [] { return true; });
-        goed = !status && administratie.spelers.tabel.Rijen() == spelers;
-        venster.show();
-        QApplication::processEvents();
-    }
+/// Everybody in the shown group.
+struct Proef : Vensterproef<Verdeling::EenGroep> {
+    using Vensterproef::Vensterproef;
 
     QWidget& P1() const { return *venster.findChild<QWidget*>(u"P1"_s); }
     QScrollBar& VScroll1() const { return *venster.findChild<QScrollBar*>(u"VScroll1"_s); }
-
-    EchteSchijf schijf;
-    Proefsuite suite;
-    Administratie administratie;
-    frmLedenAdmin venster;
-    bool goed = false;
 };
 
-Proefkast<Proef, int>& Proeven()
-{
-    static Proefkast<Proef, int> proeven;
-    return proeven;
-}
-
-Proef& ProefVan(benchmark::State& meting)
-{
-    Proef& proef = Proeven().Geef(Grootte(meting));
-    Eis(meting, proef.goed);
-    return proef;
-}
+using Proeven = Vensterproeven<Proef>;
 
 // ---------------------------------------------------------------- showing
 
 /// Loading in this program, so that showing is compared within one run.
 void Laden(benchmark::State& meting)
 {
-    Proef& proef = ProefVan(meting);
+    Proef& proef = Proeven::Van(meting);
     Meet(
         meting, [] { return Register(); },
         [&](Register& spelers) { LeesSpelers(proef.schijf, proef.suite.Instellingen(), spelers); });
@@ -67,7 +35,7 @@ BENCHMARK(Laden)->Apply(Groottes);
 
 void Tonen(benchmark::State& meting)
 {
-    Proef& proef = ProefVan(meting);
+    Proef& proef = Proeven::Van(meting);
     Meet(
         meting,
         [] {
@@ -81,7 +49,7 @@ BENCHMARK(Tonen)->Apply(Groottes);
 /// Until the user sees it: the layout and the paint that follow are part of it.
 void TonenTotBeeld(benchmark::State& meting)
 {
-    Proef& proef = ProefVan(meting);
+    Proef& proef = Proeven::Van(meting);
     Meet(meting, [&] {
         proef.venster.ToonGroep();
         QApplication::processEvents();
@@ -101,7 +69,7 @@ BENCHMARK(TonenGrens)->Apply(Groottes);
 
 void MeetTekenen(benchmark::State& meting)
 {
-    QWidget& vlak = ProefVan(meting).P1();
+    QWidget& vlak = Proeven::Van(meting).P1();
     QImage beeld(vlak.size(), QImage::Format_ARGB32_Premultiplied);
     Meet(meting, [&] { vlak.render(&beeld); });
 }
@@ -109,7 +77,7 @@ void MeetTekenen(benchmark::State& meting)
 /// The first rows are the same players whatever the size.
 void Tekenen(benchmark::State& meting)
 {
-    ProefVan(meting).VScroll1().setValue(0);
+    Proeven::Van(meting).VScroll1().setValue(0);
     MeetTekenen(meting);
 }
 BENCHMARK(Tekenen)->Arg(Basis)->Apply(Groottes);
@@ -117,7 +85,7 @@ BENCHMARK(Tekenen)->Arg(Basis)->Apply(Groottes);
 /// Scrolled to the last rows.
 void TekenenOnderaan(benchmark::State& meting)
 {
-    QScrollBar& balk = ProefVan(meting).VScroll1();
+    QScrollBar& balk = Proeven::Van(meting).VScroll1();
     balk.setValue(balk.maximum());
     MeetTekenen(meting);
 }
@@ -128,6 +96,5 @@ BENCHMARK(TekenenOnderaan)->Arg(Basis)->Apply(Groottes);
 
 int main(int argc, char** argv)
 {
-    const QApplication programma(argc, argv);
-    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Proeven().Leeg(); });
+    return plexoran::Proeven::Voer(argc, argv);
 }

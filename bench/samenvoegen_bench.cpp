@@ -46,13 +46,9 @@ struct Proef {
 
     static Tekst Registertekst(int spelers, Nummers nummers)
     {
-        Register uit;
-        uit.HKEY = Sleutelbasis + spelers;
-        uit.tabel =
-            SpelersUit(MaakRegister(spelers, Verdeling::EenGroep)).tabel.value_or(Spelertabel());
-        for (int rij = 1; rij <= uit.tabel.Rijen(); ++rij)
-            uit.tabel.ZetCel(rij, Kolom::NBBnr, Nummer(rij, nummers));
-        return SpelersTekst(uit);
+        return MaakRegister(spelers, Verdeling::EenGroep, [nummers](Spelertabel& tabel, int rij) {
+            tabel.ZetCel(rij, Kolom::NBBnr, Nummer(rij, nummers));
+        });
     }
 
     Register Laad()

@@ -1,36 +1,24 @@
 // Finding players by what is typed: the rule beside SQLite answering the same question, and in the
 // real main window from a key to the painted answer.
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 
 #include <array>
 #include <optional>
 
-#include "hulp/meten.h"
-#include "hulp/register.h"
 #include "hulp/sqlite.h"
-#include "mainwindow/frmLedenAdmin.h"
+#include "hulp/vensterproef.h"
 #include "mainwindow/zoeken.h"
 #include "platform/scherm/regellijst.h"
 #include "platform/scherm/tekstbrug.h"
-#include "platform/schijf/echteSchijf.h"
 
 namespace plexoran {
 namespace {
 
-/// Everybody spread over all groups, in the real window.
-struct Proef {
-    explicit Proef(int spelers)
-        : suite(MaakRegister(spelers, Verdeling::AlleGroepen)),
-          administratie{.schijf = schijf, .winkel = [](auto...) { return std::nullopt; }},
-          venster(administratie)
-    {
-        const auto status = venster.Laad(suite.MappenIni(), [] { return true; });
-        goed = !status && administratie.spelers.tabel.Rijen() == spelers;
-        venster.show();
-        QApplication::processEvents();
-    }
+/// Everybody spread over all groups.
+struct Proef : Vensterproef<Verdeling::AlleGroepen> {
+    using Vensterproef::Vensterproef;
+
     Sqlite& Bank()
     {
         if (!bank)
@@ -38,30 +26,14 @@ struct Proef {
         return *bank;
     }
 
-    EchteSchijf schijf;
-    Proefsuite suite;
-    Administratie administratie;
-    frmLedenAdmin venster;
     std::optional<Sqlite> bank;
-    bool goed = false;
 };
 
-Proefkast<Proef, int>& Proeven()
-{
-    static Proefkast<Proef, int> proeven;
-    return proeven;
-}
-
-Proef& ProefVan(benchmark::State& meting)
-{
-    Proef& proef = Proeven().Geef(Grootte(meting));
-    Eis(meting, proef.goed);
-    return proef;
-}
+using Proeven = Vensterproeven<Proef>;
 
 void Zoek(benchmark::State& meting, Tekstblik getypt)
 {
-    const Spelertabel& tabel = ProefVan(meting).administratie.spelers.tabel;
+    const Spelertabel& tabel = Proeven::Van(meting).administratie.spelers.tabel;
     Meet(
         meting, [] { return std::vector<int>(); },
         [&](auto& rijen) { rijen = ZoekSpelers(tabel, ZoekwoordenUit(getypt)); });
@@ -84,7 +56,7 @@ BENCHMARK(ZoekenWoorden)->Apply(Groottes);
 /// From the key to the painted list, in the real window; nothing was typed before.
 void ZoekenTotBeeld(benchmark::State& meting)
 {
-    const QWidget& venster = ProefVan(meting).venster;
+    const QWidget& venster = Proeven::Van(meting).venster;
     auto* vak = venster.findChild<QLineEdit*>(u"txtZoek"_s);
     auto* lijst = venster.findChild<Regellijst*>(u"lstZoek"_s);
     Meet(
@@ -119,7 +91,7 @@ void Sql(benchmark::State& meting, std::initializer_list<Tekstblik> woorden)
         for (const Tekst kolom : {"Achternaam", "Voornaam"})
             op += " OR " + kolom + " LIKE '" + Tekst(woord) + "%'";
     }
-    Sqlite& bank = ProefVan(meting).Bank();
+    Sqlite& bank = Proeven::Van(meting).Bank();
     sql += " ORDER BY NOT (" + op + "), rowid";
     Meet(meting, [&] { benchmark::DoNotOptimize(bank.Vraag(sql)); });
 }
@@ -141,6 +113,5 @@ BENCHMARK(ZoekenWoordenSql)->Apply(Groottes);
 
 int main(int argc, char** argv)
 {
-    const QApplication programma(argc, argv);
-    return plexoran::VoerMetingenUit(argc, argv, [] { plexoran::Proeven().Leeg(); });
+    return plexoran::Proeven::Voer(argc, argv);
 }

@@ -132,4 +132,15 @@ Tekst MaakRegister(int spelers, Verdeling verdeling)
     return tekst;
 }
 
+Tekst MaakRegister(int spelers, Verdeling verdeling,
+                   const std::function<void(Spelertabel& tabel, int rij)>& zet)
+{
+    Register uit;
+    uit.HKEY = Sleutelbasis + spelers;
+    uit.tabel = SpelersUit(MaakRegister(spelers, verdeling)).tabel.value_or(Spelertabel());
+    for (int rij = 1; rij <= uit.tabel.Rijen(); ++rij)
+        zet(uit.tabel, rij);
+    return SpelersTekst(uit);
+}
+
 } // namespace plexoran

@@ -1,7 +1,9 @@
 // Made-up registers of any size, with lines as long as those of real clubs.
 #pragma once
 
-#include "platform/tekst/tekst.h"
+#include <functional>
+
+#include "register/spelertabel.h"
 
 namespace plexoran {
 
@@ -13,5 +15,8 @@ enum class Verdeling {
 /// The text of a player file. The same on every machine and at every call, and the players of a
 /// smaller register are the first ones of a larger one.
 [[nodiscard]] Tekst MaakRegister(int spelers, Verdeling verdeling);
+/// The same with what `zet` makes of each row.
+[[nodiscard]] Tekst MaakRegister(int spelers, Verdeling verdeling,
+                                 const std::function<void(Spelertabel& tabel, int rij)>& zet);
 
 } // namespace plexoran
