@@ -5,7 +5,6 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -139,7 +138,8 @@ void SpreekNederlands(QApplication& programma)
     QLocale::setDefault(nederlands);
     auto* vertaling = new QTranslator(&programma);
     if (vertaling->load(nederlands, u"qtbase"_s, u"_"_s,
-                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+        vertaling->load(u":/qtbase_nl.qm"_s)) // in a program of one file
         QApplication::installTranslator(vertaling);
     QApplication::installTranslator(new Aanvulling(&programma)); // the last one is asked first
 }
@@ -172,38 +172,11 @@ void ZorgVoorVensterletter()
     QApplication::setFont(letter);
 }
 
-/// In a square of 100 by 100.
-QPainterPath Schoppen()
-{
-    QPainterPath blad(QPointF(50, 14));
-    blad.cubicTo(58, 32, 86, 42, 82, 62);
-    blad.cubicTo(79, 76, 60, 76, 54, 64);
-    blad.cubicTo(55, 74, 58, 82, 66, 86);
-    blad.lineTo(34, 86);
-    blad.cubicTo(42, 82, 45, 74, 46, 64);
-    blad.cubicTo(40, 76, 21, 76, 18, 62);
-    blad.cubicTo(14, 42, 42, 32, 50, 14);
-    return blad;
-}
-
-/// A white spade on green baize, at the sizes that window managers ask for.
 QIcon Pictogram()
 {
     QIcon pictogram;
-    for (const int maat : {16, 32, 64, 128}) {
-        QPixmap beeld(maat, maat);
-        beeld.fill(Qt::transparent);
-        QPainter schilder(&beeld);
-        schilder.setRenderHint(QPainter::Antialiasing);
-        schilder.scale(maat / 100.0, maat / 100.0);
-        schilder.setPen(Qt::NoPen);
-        schilder.setBrush(QColor(24, 110, 66));
-        schilder.drawRoundedRect(QRectF(2, 2, 96, 96), 18, 18);
-        schilder.setBrush(Qt::white);
-        schilder.drawPath(Schoppen());
-        schilder.end();
-        pictogram.addPixmap(beeld);
-    }
+    for (const int maat : {16, 32, 64, 128, 256})
+        pictogram.addFile(u":/pictogrammen/%1.png"_s.arg(maat));
     return pictogram;
 }
 

@@ -158,3 +158,11 @@ TEST_F(NederlandsTest, DeSchuifbalk)
     balk.show();
     OpenMenu(balk);
 }
+
+/// The program and the packages have one icon.
+TEST(Inrichting, HetPictogramIsErInElkeMaat)
+{
+    const QList<QSize> maten = QApplication::windowIcon().availableSizes();
+    for (const int maat : {16, 32, 64, 128, 256})
+        EXPECT_TRUE(maten.contains(QSize(maat, maat))) << maat;
+}
