@@ -12,12 +12,10 @@ using namespace plexoran;
 
 namespace {
 
-class frmControleTest : public Dialoogproef<frmControle, Mapstand> {
+class frmControleTest : public Dialoogproef<frmControle, Clubstand> {
   protected:
     frmControleTest()
     {
-        administratie.mappen.SPEMAP = map.AlsPad();
-        administratie.mappen.ZITMAP = Samen(map.AlsPad(), "Zittingen");
         administratie.mappen.DFIMPG = "Gr05-";
         map.Zet("RVDspelers.txt",
                 "HKEY=100900\r\n" + Bos + "2,100002,Gr02-,Bea,,Eik,,,,,,,,,,,,\r\n");
@@ -36,14 +34,6 @@ class frmControleTest : public Dialoogproef<frmControle, Mapstand> {
         ZetZitting("Een", "N01 Jan Tol - 100001\r\n");
         Open();
     }
-    void ZetZitting(const std::string& naam, const std::string& spelers) const
-    {
-        const auto zitting = map.Weg() / "Zittingen" / naam;
-        std::filesystem::create_directories(zitting);
-        map.Zet(zitting / "Zitdata.txt", "");
-        map.Zet(zitting / "Spelers.txt", spelers);
-    }
-
     [[nodiscard]] QTreeWidget* Lijst() const { return Deel<QTreeWidget>("lstVondsten"); }
     [[nodiscard]] std::string Raad() const
     {

@@ -8,26 +8,17 @@ using namespace plexoran;
 
 namespace {
 
-class frmDubbelenTest : public Dialoogproef<frmDubbelen, Mapstand> {
+class frmDubbelenTest : public Dialoogproef<frmDubbelen, Clubstand> {
   protected:
     frmDubbelenTest()
     {
-        administratie.mappen.SPEMAP = map.AlsPad();
-        administratie.mappen.ZITMAP = Samen(map.AlsPad(), "Zittingen");
-        std::filesystem::create_directories(map.Weg() / "Zittingen" / "Di");
         std::filesystem::create_directories(map.Weg() / "Parenmap");
-        map.Zet("Zittingen/Di/Zitdata.txt", "");
-        map.Zet("Zittingen/Di/Spelers.txt", "N01 100003 - 100002\r\n");
+        ZetZitting("Di", "N01 100003 - 100002\r\n");
         map.Zet("Parenmap/Gr01-.txt", "100003-100004#\r\n");
-        ZetSpelers("1,100001,Gr01-,Jan,,Bos,06-12345678,,,,,,M,,,,,\r\n"
+        ZetSpelers("HKEY=100900\r\n1,100001,Gr01-,Jan,,Bos,06-12345678,,,,,,M,,,,,\r\n"
                    "2,100002,Gr01-,Els,,Tol,,,,,,,V,,,,,\r\n"
                    "3,100003,Gr01-,J.,,Bos,06-12345678,j@bos.example,,,Laar,,M,,,,,1234567\r\n"
                    "4,100004,Gr02-,E.,,Tol,,,,,,,V,,,,,\r\n");
-    }
-    void ZetSpelers(const std::string& regels)
-    {
-        map.Zet("RVDspelers.txt", "HKEY=100900\r\n" + regels);
-        (void)LeesSpelers(echteSchijf, administratie.mappen, administratie.spelers);
     }
     void Open()
     {
@@ -274,9 +265,7 @@ TEST_F(frmDubbelenTest, EenBestandDatNietGewijzigdKanWordenLaatBeideStaan)
 /// Who were like the one who went are not looked for, nor are other files read.
 TEST_F(frmDubbelenTest, NaHetSamenvoegenAlleenDeBestandenDieGewijzigdZijn)
 {
-    std::filesystem::create_directories(map.Weg() / "Zittingen" / "Wo");
-    map.Zet("Zittingen/Wo/Zitdata.txt", "");
-    map.Zet("Zittingen/Wo/Spelers.txt", "N01 100002 - 100009\r\n");
+    ZetZitting("Wo", "N01 100002 - 100009\r\n");
     map.Zet("Parenmap/Gr02-.txt", "100004-100009#\r\n");
     Open();
     KiesLinks();
@@ -329,7 +318,7 @@ TEST_F(frmDubbelenTest, WatDeVolgendeImportWeerToevoegtWordtGezegd)
     const QString letOp = u"\n\nLet op: NBB-nummer 1234567 staat dan niet meer in groep Gr05-. Is "
                           "het nog lid, dan voegt de volgende import het als nieuwe speler toe."_s;
     for (const int veld : {-1, 0, 15}) {
-        ZetSpelers("1,100001,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n" + bosje);
+        ZetSpelers("HKEY=100900\r\n1,100001,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n" + bosje);
         Open();
         KiesLinks();
         EXPECT_EQ("Groep|Gr01-|*Gr05-", Inhoud("lstVelden")[0]);
@@ -352,7 +341,8 @@ TEST_F(frmDubbelenTest, GeenDubbelenDieNietBewaardKanWorden)
 
 TEST_F(frmDubbelenTest, EenSleutelDieGeenZesCijfersIsKanNergensKomen)
 {
-    ZetSpelers("1,12,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n2,100003,Gr01-,J.,,Bos,,,,,,,M,,,,,\r\n");
+    ZetSpelers("HKEY=100900\r\n1,12,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n2,100003,Gr01-,J.,,Bos,,,,,,,M,,"
+               ",,,\r\n");
     Open();
     EXPECT_TRUE(Deel<QRadioButton>("optRechts")->isChecked());
     KiesLinks();

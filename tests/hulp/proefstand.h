@@ -35,6 +35,27 @@ struct Mapstand {
     Administratie administratie{.schijf = schijf, .winkel = std::ref(winkel)};
 };
 
+/// The same with folders for the players and the sessions.
+struct Clubstand : Mapstand {
+    Clubstand()
+    {
+        administratie.mappen.SPEMAP = map.AlsPad();
+        administratie.mappen.ZITMAP = Samen(map.AlsPad(), "Zittingen");
+    }
+    void ZetSpelers(const std::string& bestand)
+    {
+        map.Zet("RVDspelers.txt", bestand);
+        (void)LeesSpelers(echteSchijf, administratie.mappen, administratie.spelers);
+    }
+    void ZetZitting(const std::string& naam, const std::string& spelers) const
+    {
+        const auto zitting = map.Weg() / "Zittingen" / naam;
+        std::filesystem::create_directories(zitting);
+        map.Zet(zitting / "Zitdata.txt", "");
+        map.Zet(zitting / "Spelers.txt", spelers);
+    }
+};
+
 /// An empty register, and files in memory.
 struct Geheugenstand {
     GeheugenSchijf geheugen;
