@@ -29,13 +29,19 @@ class frmDubbelen : public QDialog {
     void begint(); ///< two players are about to become one
 
   private:
+    enum { KolomVeld, KolomLinks, KolomRechts };
+
+    // What it shows (frmDubbelen_beeld.cpp)
     void Bouw();
-    void Zoek();
-    void LeesPlaatsen();
     void VulDubbelen(int regel);
     void VulVelden();
     void VulPlaatsen();
     static void Kies(QTreeWidgetItem* veld, int kolom);
+    [[nodiscard]] QString Samenvatting() const;
+
+    // What it does
+    void Zoek();
+    void LeesPlaatsen();
     void VoegSamen();
     void GeenDubbelen();
     [[nodiscard]] bool StaatGoed();
@@ -51,7 +57,6 @@ class frmDubbelen : public QDialog {
     [[nodiscard]] Tekst Naam(int rij) const;
     [[nodiscard]] std::vector<Vindplaats> Plaatsen() const;
     [[nodiscard]] Rijvelden Gekozen() const;
-    [[nodiscard]] QString Samenvatting() const;
 
     Administratie& administratie_;
     std::function<bool()> slaOp_;
