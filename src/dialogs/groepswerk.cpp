@@ -73,19 +73,27 @@ void VerplaatsSpelers(Spelertabel& tabel, const std::vector<Tekst>& keys, Tekstb
 
 bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht)
 {
-    if (!ZijnErSleutels(spelers, opdracht.keys.size()))
+    const Sleutelwijzer wijzer(spelers.tabel);
+    std::vector<int> rijen;
+    for (const Tekst& key : opdracht.keys)
+        rijen.push_back(wijzer.Rij(key));
+    return KopieerRijen(spelers, rijen, opdracht.naarGroep, opdracht.metNBBgr);
+}
+
+bool KopieerRijen(Register& spelers, const std::vector<int>& rijen, Tekstblik naarGroep,
+                  bool metNBBgr)
+{
+    if (!ZijnErSleutels(spelers, rijen.size()))
         return false;
-    std::vector<Celtekst> anders{{Kolom::Key, {}}, {Kolom::Groep, opdracht.naarGroep}};
-    if (!opdracht.metNBBgr)
+    std::vector<Celtekst> anders{{Kolom::Key, {}}, {Kolom::Groep, naarGroep}};
+    if (!metNBBgr)
         anders.push_back({Kolom::NBBgr, {}});
     anders.push_back({Kolom::NBBnr, {}});
-    const Sleutelwijzer wijzer(spelers.tabel);
-    for (const Tekst& key : opdracht.keys) {
-        const int bron = wijzer.Rij(key); // a copy made here is never found, nor copied again
+    for (const int bron : rijen) {
         const Tekst nieuweKey = std::to_string(NieuweSleutel(spelers).value());
         anders.front().tekst = nieuweKey;
         if (bron == 0)
-            spelers.tabel.VoegToe({"", nieuweKey, opdracht.naarGroep});
+            spelers.tabel.VoegToe({"", nieuweKey, Tekst(naarGroep)});
         else
             spelers.tabel.VoegKopieToe(bron, anders);
     }

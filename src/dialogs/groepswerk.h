@@ -32,10 +32,14 @@ struct Kopieeropdracht {
     bool metNBBgr = true;    ///< copy column 17
 };
 
-/// Appends a row for every key, with a new key of its own and without a federation number. A key
-/// that is not in the table gives a row that is empty but for its new key and group; the reload
-/// after the save drops it. False when there are not keys enough for all; nothing is changed then.
+/// Appends a row for every key, that of the first row with it, with a new key of its own and
+/// without a federation number. A key that is not in the table gives a row that is empty but for
+/// its new key and group; the reload after the save drops it. False when there are not keys enough
+/// for all; nothing is changed then.
 [[nodiscard]] bool KopieerSpelers(Register& spelers, const Kopieeropdracht& opdracht);
+/// The same of these very rows, whatever their keys; 0 counts as a key that is not in the table.
+[[nodiscard]] bool KopieerRijen(Register& spelers, const std::vector<int>& rijen,
+                                Tekstblik naarGroep, bool metNBBgr = true);
 
 /// One field of players to be set to a text.
 struct Veldopdracht {

@@ -196,6 +196,20 @@ TEST_F(Kopieren, EenOnbekendeKeyGeeftEenLegeRij)
     EXPECT_EQ(moet, AlleRijen(spelers.tabel));
 }
 
+TEST_F(Kopieren, DeRijenZelfWatHunKeyOokIs)
+{
+    spelers.tabel.ZetCel(2, Kolom::Key, "100001");
+    spelers.tabel.ZetCel(3, Kolom::Key, "");
+    moet = AlleRijen(spelers.tabel);
+    VerwachtKopie(2, "100043", "Gr09-");
+    VerwachtKopie(3, "100044", "Gr09-");
+    EXPECT_TRUE(KopieerRijen(spelers, {2, 3}, "Gr09-"));
+    EXPECT_EQ(moet, AlleRijen(spelers.tabel));
+    spelers.HKEY = hoogste - 1;
+    EXPECT_FALSE(KopieerRijen(spelers, {1, 2}, "Gr09-"));
+    EXPECT_EQ(moet, AlleRijen(spelers.tabel));
+}
+
 TEST_F(Kopieren, VanTweeRijenMetDezelfdeKeyTweeKeerDeEerste)
 {
     spelers.tabel.ZetCel(2, Kolom::Key, "100001");
