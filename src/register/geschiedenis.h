@@ -95,6 +95,8 @@ class Geschiedenis : public Getuige {
 
     /// A better name for what is going on, now that more is known; a second one is put behind it.
     void Noem(const Tekst& wat);
+    /// The name of what is going on; empty without.
+    [[nodiscard]] Tekst Bezig() const { return bezig_ ? handeling_.wat : Tekst(); }
     /// The save failed: what was to be named counts with the next one.
     void StelUit();
 

@@ -68,6 +68,7 @@ Uitkomst<Mappen> LeesMappenIni(Schijf& schijf, const Pad& pad)
             return Mislukt({.soort = Foutsoort::Beschadigd,
                             .bestand = schijf.Toonpad(pad),
                             .systeem = mappen.bezwaar});
+        mappen.bestand = pad;
         return mappen;
     });
 }

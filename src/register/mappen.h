@@ -21,6 +21,7 @@ struct Mappen {
     Tekst ODKEYS;              ///< option words, looked for as parts of this text
     std::int16_t NEWPAGR = 0;  ///< 1 shows the pairs button
     std::int16_t NBB28UIT = 0; ///< 1 hides the button for free federation numbers
+    Pad bestand;               ///< this "Mappen.ini" itself
     std::string bezwaar;       ///< why lines of the text may not count, UTF-8; mostly empty
 
     [[nodiscard]] Pad Spelerbestand() const { return Samen(SPEMAP, "RVDspelers.txt"); }
