@@ -36,7 +36,8 @@ Werktekst TekstVan(Gekozenwerk werk, const Tekst& importgroep)
 
 } // namespace
 
-frmVeld::frmVeld(const Administratie& administratie, std::vector<int> rijen, Gekozenwerk werk,
+frmVeld::frmVeld(const Administratie& administratie, std::vector<int> rijen,
+                 const std::array<Tekstblik, AantalKolommen>& kolomnamen, Gekozenwerk werk,
                  QWidget* ouder)
     : QDialog(ouder), administratie_(administratie), rijen_(std::move(rijen)), werk_(werk)
 {
@@ -46,8 +47,11 @@ frmVeld::frmVeld(const Administratie& administratie, std::vector<int> rijen, Gek
     const bool wijzigt = werk == Gekozenwerk::Wijzigen;
     auto* lblVeld = MaakLabel(u"lblVeld"_s, u"Veld:"_s, this);
     cmbVeld = MaakKeus(u"cmbVeld"_s, lblVeld, this);
-    for (int veld = EersteIngaveveld; veld <= AantalKolommen; ++veld)
-        cmbVeld->addItem(NaarQString(Kolomnamen[Index(static_cast<Kolom>(veld))]), veld);
+    for (int veld = EersteIngaveveld; veld <= AantalKolommen; ++veld) {
+        const Tekstblik naam = kolomnamen[Index(static_cast<Kolom>(veld))];
+        if (!naam.empty())
+            cmbVeld->addItem(NaarQString(naam), veld);
+    }
     cmbVeld->setCurrentIndex(cmbVeld->findData(static_cast<int>(Kolom::NBBgr)));
     auto* lblWaarde =
         MaakLabel(u"lblWaarde"_s, wijzigt ? u"Nieuwe waarde:"_s : u"Naar groep:"_s, this);
@@ -57,7 +61,8 @@ frmVeld::frmVeld(const Administratie& administratie, std::vector<int> rijen, Gek
     Noem(txtWaarde, u"txtWaarde"_s);
     if (wijzigt)
         lblWaarde->setBuddy(txtWaarde);
-    for (QWidget* deel : std::initializer_list<QWidget*>{lblVeld, cmbVeld, txtWaarde})
+    chkLeeg = MaakVink(u"chkLeeg"_s, u"Veld leegmaken"_s, u'l', this);
+    for (QWidget* deel : std::initializer_list<QWidget*>{lblVeld, cmbVeld, txtWaarde, chkLeeg})
         deel->setVisible(wijzigt);
     cmbGroep->setVisible(!wijzigt);
     lblAantal = MaakLabel(u"lblAantal"_s, QString(), this);
@@ -66,9 +71,9 @@ frmVeld::frmVeld(const Administratie& administratie, std::vector<int> rijen, Gek
     cmdOK = MaakKnop(u"cmdOK"_s, tekst.knop, tekst.knop.front().unicode(), this, &QDialog::accept);
     cmdOK->setDefault(true);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'A', this, &QDialog::reject);
-    auto* lblUitleg = MaakUitleg(u"lblUitleg"_s, tekst.uitleg, this);
+    lblUitleg = MaakUitleg(u"lblUitleg"_s, tekst.uitleg, this);
     Onderelkaar({Naastelkaar({lblVeld, {cmbVeld, 1}}),
-                 Naastelkaar({lblWaarde, {txtWaarde, 1}, {cmbGroep, 1}}),
+                 Naastelkaar({lblWaarde, {txtWaarde, 1}, chkLeeg, {cmbGroep, 1}}),
                  lblAantal,
                  {lstVeld, 1},
                  lblUitleg,
@@ -80,10 +85,11 @@ frmVeld::frmVeld(const Administratie& administratie, std::vector<int> rijen, Gek
     connect(cmbVeld, &QComboBox::currentIndexChanged, this, &frmVeld::KiesVeld);
     connect(cmbGroep, &QComboBox::currentIndexChanged, this, &frmVeld::Toon);
     connect(txtWaarde, &QLineEdit::textChanged, this, &frmVeld::Toon);
+    connect(chkLeeg, &QCheckBox::toggled, this, &frmVeld::Toon);
     KiesVeld();
 }
 
-/// The text begins with what the first one has: a field that is left empty would be cleared.
+/// Every field begins without a change.
 void frmVeld::KiesVeld()
 {
     const bool wijzigt = werk_ == Gekozenwerk::Wijzigen;
@@ -91,17 +97,24 @@ void frmVeld::KiesVeld()
     txtWaarde->ZetToetsregel([veld = opdracht_.veld](char teken, std::size_t lengte) {
         return TypTeken(veld, teken, lengte);
     });
-    txtWaarde->ZetTekst(administratie_.spelers.tabel.Cel(rijen_.front(), opdracht_.veld));
-    txtWaarde->selectAll();
+    txtWaarde->ZetTekst({});
+    chkLeeg->setChecked(false);
+    chkLeeg->setEnabled(opdracht_.veld != Kolom::Achternaam);
+    lblUitleg->setVisible(!wijzigt || opdracht_.veld == Kolom::NBBnr);
     Toon();
 }
 
 void frmVeld::Toon()
 {
-    const Tekst waarde = werk_ == Gekozenwerk::Wijzigen ? txtWaarde->GeefTekst()
-                                                        : Groepscode(cmbGroep->currentIndex() + 1);
+    const bool leeg = chkLeeg->isChecked();
+    txtWaarde->setEnabled(!leeg);
+    Tekst waarde = Groepscode(cmbGroep->currentIndex() + 1);
+    if (werk_ == Gekozenwerk::Wijzigen)
+        waarde = leeg ? Tekst() : txtWaarde->GeefTekst();
     opdracht_ = MaakVeldopdracht(administratie_.spelers.tabel, rijen_, opdracht_.veld, waarde,
                                  administratie_.mappen.DFIMPG);
+    if (IsBlanco(waarde) && !leeg) // not typed yet
+        opdracht_.rijen.clear();
     if (werk_ == Gekozenwerk::Kopieren)
         opdracht_.rijen = rijen_;
     lblAantal->setText(u"Van de %1 gekozen spelers veranderen er %2:"_s.arg(rijen_.size())
@@ -126,19 +139,18 @@ bool frmVeld::VoerUit(Register& spelers) const
         plexoran::VoerUit(spelers.tabel, opdracht_);
         return true;
     }
-    Kopieeropdracht kopie{.keys = {}, .naarGroep = opdracht_.nieuw};
-    for (const int rij : opdracht_.rijen)
-        kopie.keys.push_back(Regelkey(spelers.tabel, rij));
-    return KopieerSpelers(spelers, kopie);
+    return KopieerRijen(spelers, opdracht_.rijen, opdracht_.nieuw);
 }
 
 Tekst frmVeld::Wat() const
 {
     const bool wijzigt = werk_ == Gekozenwerk::Wijzigen;
     const QString wie = Aantal(opdracht_.rijen.size(), u"speler"_s, u"spelers"_s);
-    return NaarTekst(TekstVan(werk_, {}).gedaan.arg(
-        wijzigt ? cmbVeld->currentText() + u" van "_s + wie : wie,
-        wijzigt ? NaarQString(opdracht_.nieuw) : cmbGroep->currentText()));
+    const QString van = wijzigt ? cmbVeld->currentText() + u" van "_s + wie : wie;
+    return NaarTekst(opdracht_.nieuw.empty() ? van + u" leeggemaakt"_s
+                                             : TekstVan(werk_, {}).gedaan.arg(
+                                                   van, wijzigt ? NaarQString(opdracht_.nieuw)
+                                                                : cmbGroep->currentText()));
 }
 
 } // namespace plexoran

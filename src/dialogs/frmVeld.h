@@ -4,11 +4,14 @@
 
 #include <QDialog>
 
+#include <array>
+
 #include "dialogs/groepswerk.h"
 #include "platform/scherm/regellijst.h"
 #include "platform/scherm/tekstvak.h"
 #include "register/administratie.h"
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -21,7 +24,9 @@ class frmVeld : public QDialog {
     Q_OBJECT
 
   public:
-    frmVeld(const Administratie& administratie, std::vector<int> rijen, Gekozenwerk werk,
+    /// `kolomnamen` are those of the grid; a column without a name cannot be chosen.
+    frmVeld(const Administratie& administratie, std::vector<int> rijen,
+            const std::array<Tekstblik, AantalKolommen>& kolomnamen, Gekozenwerk werk,
             QWidget* ouder);
 
     /// Does it; false when there are not keys enough for the copies.
@@ -42,7 +47,9 @@ class frmVeld : public QDialog {
     QComboBox* cmbVeld;
     QComboBox* cmbGroep;
     Tekstvak* txtWaarde;
+    QCheckBox* chkLeeg;
     QLabel* lblAantal;
+    QLabel* lblUitleg;
     Regellijst* lstVeld;
     QPushButton* cmdOK;
 };

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 
-#include "dialogs/diaSortlijst.h"
 #include "dialogs/frmTerugzetten.h"
 #include "dialogs/groepswerk.h"
 #include "mainwindow/frmLedenAdmin_opstart.h"
@@ -15,33 +14,6 @@
 #include "platform/schijf/programma.h"
 
 namespace plexoran {
-namespace {
-
-QString NietsGevonden(Sorteersoort soort)
-{
-    constexpr std::array criteria{u"", u" 'NBB-nummer'", u" 'NBB-groep'"}; // by kind
-    return u"Er zijn geen regels die voldoen aan het zoek-criterium%1."_s.arg(
-        QString::fromUtf16(criteria.at(static_cast<std::size_t>(soort) - 1)));
-}
-
-Tekst Verslag(const Spelertabel& tabel, const std::vector<Dubbel>& dubbelen)
-{
-    if (dubbelen.empty())
-        return "G\xE9\xE9n dubbele namen gevonden!\r\n";
-    Tekst verslag = "RVDkey\tNaam\t\t\tNBBgr\tNBBnr\r\n" + Tekst(71, '-') + "\r\n";
-    for (const Dubbel& dubbel : dubbelen) {
-        for (const int rij : {dubbel.rij, dubbel.latere}) {
-            VoegVeldenToe(verslag, tabel, rij, '\t');
-            verslag += "\r\n";
-        }
-    }
-    return verslag + "\r\nGa na welke regel nog actueel is.\r\n"
-                     "Verwijder 1 van beide, deze zal dan niet meer worden getoond in de "
-                     "overzichten ed.\r\n";
-}
-
-} // namespace
-
 frmLedenAdmin::frmLedenAdmin(Administratie& administratie, QWidget* ouder)
     : QMainWindow(ouder), administratie_(administratie),
       opslag_(administratie, this, [this] { ToonGroep(); }), wacht_(administratie.schijf, this),
@@ -51,7 +23,8 @@ frmLedenAdmin::frmLedenAdmin(Administratie& administratie, QWidget* ouder)
     chkKolBr->setChecked(geheugen_.IsAan(chkKolBr->objectName()));
     picP0->Kies(geheugen_.Kolommen());
     actKnoppen->setChecked(geheugen_.IsAan(actKnoppen->objectName()));
-    geheugen_.Plaats(*this);
+    volgorde_ = geheugen_.Volgorde();
+    geheugen_.Volg(*this);
     connect(&wacht_, &Bestandswacht::veranderd, this, &frmLedenAdmin::VolgBestanden);
 }
 
@@ -80,6 +53,7 @@ std::optional<int> frmLedenAdmin::Laad(const Pad& mappenIni, std::function<bool(
     if (administratie_.mappen.NBB28UIT == 1)
         cmdToonGatenlijst->hide();
     cmdKoppel->hide();
+    ToonAdministratie();
     WerkOpdrachtenBij();
     picP0->Vlak()->setFocus();
     ToonOngedaan();
@@ -161,10 +135,6 @@ void frmLedenAdmin::ZetOpKijken()
          {u"cmdAanm"_s, u"cmdVerplaats"_s, u"cmdKopieer"_s, u"cmdVerwGroep"_s, u"cmdMaakGrNamen"_s,
           u"cmdHaalNBBnamen"_s, u"cmdKoppel"_s, u"cmdSpToevoegen"_s, u"cmdParenOnderhoud"_s})
         findChild<QPushButton*>(naam)->setEnabled(false);
-    for (const QString& naam :
-         {u"actWijzigGekozen"_s, u"actVeldGekozen"_s, u"actVerplaatsGekozen"_s,
-          u"actKopieerGekozen"_s, u"actVerwijderGekozen"_s})
-        findChild<QAction*>(naam)->setEnabled(false);
     aanwezigheid_.reset(); // who only looks is in nobody's way
 }
 
@@ -305,53 +275,6 @@ void frmLedenAdmin::BewaarInstellingen()
         "spelers zijn niet in gevaar: alleen de groep die u het laatst zag en het terugkeerveld "
         "worden niet onthouden. Kijk of u in die map mag schrijven."_s,
         uitkomst.error());
-}
-
-void frmLedenAdmin::ToonSorteerlijst(Sorteersoort soort)
-{
-    const Spelertabel& tabel = administratie_.spelers.tabel;
-    const Tekst code(CodeUit(Groeptekst()));
-    const auto lijst = VulSorteerlijst(
-        tabel, soort, chkToonAlle->isChecked() ? std::nullopt : std::optional(code));
-    if (!lijst) {
-        const auto& [rij, waarde] = lijst.error();
-        const bool opKey = soort == Sorteersoort::Key;
-        Meld(this, QMessageBox::Warning,
-             u"De lijst kan niet worden gemaakt: %1 van %2 (%3) is geen getal: '%4'. De gegevens "
-             "zijn niet veranderd. Verbeter dat %5."_s.arg(
-                 opKey ? u"de sleutel"_s : u"het NBB-nummer"_s, NaarQString(VolleNaam(tabel, rij)),
-                 NaarQString(tabel.Cel(rij, Kolom::Groep)), NaarQString(waarde),
-                 opKey ? u"in het spelerbestand"_s : u"bij deze speler"_s));
-        return;
-    }
-    if (lijst->empty()) {
-        Meld(this, QMessageBox::Information, NietsGevonden(soort));
-        return;
-    }
-    diaSortlijst venster({.soort = soort,
-                          .importgroep = code == administratie_.mappen.DFIMPG,
-                          .regels = static_cast<int>(lijst->size()),
-                          .regel =
-                              [&](int regel) {
-                                  return VeldenVan((*lijst)[static_cast<std::size_t>(regel)],
-                                                   soort);
-                              }},
-                         this);
-    venster.exec();
-}
-
-void frmLedenAdmin::ToonDubbeleNamen()
-{
-    const Spelertabel& tabel = administratie_.spelers.tabel;
-    const Tekst code(CodeUit(Groeptekst()));
-    const Dubbelen dubbelen = ZoekDubbeleNamen(tabel, code);
-    MeldVerslag(this, NaarQString(Verslag(tabel, dubbelen.paren)),
-                u"DUBBELE NAMEN in deze groep: %1"_s.arg(NaarQString(code)));
-    if (dubbelen.meer)
-        Meld(this, QMessageBox::Information,
-             u"Er zijn meer dubbele namen dan dit verslag kan tonen: het houdt op na %1 paren. Er "
-             "is niets veranderd. Verwijder er eerst een aantal en zoek dan "
-             "opnieuw."_s.arg(MeesteDubbelen));
 }
 
 void frmLedenAdmin::closeEvent(QCloseEvent* gebeurtenis)

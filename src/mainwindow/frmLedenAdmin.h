@@ -104,6 +104,8 @@ class frmLedenAdmin : public QMainWindow {
     void ToonGekozene();
     void ToonOpgeslagen();
     void ToonOngedaan();
+    void ToonAdministratie();
+    void ToonMelding(const QString& tekst = {});
     void ToonStatus(const QString& tekst);
 
     [[nodiscard]] bool IsEersteExemplaar();
@@ -118,8 +120,6 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] int GekozenRij() const;
     [[nodiscard]] Tekst Groeptekst() const;
     void BewaarInstellingen();
-    void ToonSorteerlijst(Sorteersoort soort);
-    void ToonDubbeleNamen();
 
     // What was done, and undoing it (frmLedenAdmin_geschiedenis.cpp)
     void BouwTerugmenu(QMenu* menu);
@@ -130,7 +130,6 @@ class frmLedenAdmin : public QMainWindow {
                                     QStringList& rest);
     void ToonGeschiedenis(const Tekst& key, const QString& van = {});
     void ToonSpeler();
-    void ToonMelding(const QString& tekst);
     void MeldGeschiedenisfout();
 
     // Finding, and what is done with all that are chosen (frmLedenAdmin_gekozen.cpp)
@@ -151,6 +150,7 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] Namenrij NamenVan(const std::vector<int>& rijen) const;
     [[nodiscard]] bool BrengInRooster();
     void DoeGekozen(Gekozenwerk werk);
+    template <Gekozenwerk werk> void DoeGekozen() { DoeGekozen(werk); }
     void PrintGekozen();
     void VerwijderGekozen();
 
@@ -164,10 +164,18 @@ class frmLedenAdmin : public QMainWindow {
                    const QString& klaar);
     void WijzigGroepsnamen();
     std::optional<Bewaring> BewaarGroepen(const Groepen& oud);
-    void StartGatenlijst();
     void Verplaats();
     void Kopieer();
     void VerwijderGroep();
+    bool SlaOpEnToon(const QString& klaar = QString());
+    bool SlaOpEnKies(const std::vector<Rijverschil>& verschillen, Tekst gekozen);
+    [[nodiscard]] bool IsAllesOpgeslagen();
+    [[nodiscard]] bool IsRegelGekozen();
+    [[nodiscard]] int RijOp(int regel) const;
+
+    // Those that open a window of their own (frmLedenAdmin_vensters.cpp)
+    void ToonSorteerlijst(Sorteersoort soort);
+    void ToonDubbeleNamen();
     void HaalNBBnamen();
     void VoegSessiespelersToe();
     void KoppelZwevenden();
@@ -179,11 +187,7 @@ class frmLedenAdmin : public QMainWindow {
     void ZetTerug();
     void ToonToelichting();
     void Print();
-    bool SlaOpEnToon(const QString& klaar = QString());
-    bool SlaOpEnKies(const std::vector<Rijverschil>& verschillen, Tekst gekozen);
-    [[nodiscard]] bool IsAllesOpgeslagen();
-    [[nodiscard]] bool IsRegelGekozen();
-    [[nodiscard]] int RijOp(int regel) const;
+    void StartGatenlijst();
 
     Administratie& administratie_;
     Spelersopslag opslag_;
@@ -201,12 +205,13 @@ class frmLedenAdmin : public QMainWindow {
     bool alleenKijken_ = false;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
 
-    QTimer meldtijd_;     ///< how long the line below stays
-    QLabel* lblMelding;   ///< in the menu bar, for what asks no answer
-    Kortlabel* lblSpeler; ///< these four at the foot
+    QTimer meldtijd_;     ///< how long a message stays
+    Kortlabel* lblSpeler; ///< these six at the foot
     Kortlabel* lblOngedaan;
+    Kortlabel* lblMelding; ///< for what asks no answer
     QLabel* lblGekozen;
     QLabel* lblOpgeslagen;
+    Kortlabel* lblAdministratie;
     QAction* actKnoppen;
     Rooster* picP0;
     QWidget* knoppen_; ///< all that stands under the grid, or who was found
@@ -214,7 +219,8 @@ class frmLedenAdmin : public QMainWindow {
     QStackedLayout* onderblad_; ///< the commands, or who was found
     QShortcut* terug_;          ///< to where one was when the finding began
     Roosterplek vanwaar_{};
-    QMenu* mnuGekozen; ///< what can be done with all that are chosen
+    bool inRooster_ = true;      ///< had the keys last, not who was found
+    QMenu* mnuGekozen = nullptr; ///< what can be done with all that are chosen
     QLabel* Label3;
     QComboBox* cmbGr;
     QCheckBox* chkKolBr;

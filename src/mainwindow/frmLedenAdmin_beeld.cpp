@@ -1,12 +1,14 @@
 // How the user sees the players: their order, the columns, the buttons under them, and the line at
 // the foot of the window.
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QDir>
 #include <QStatusBar>
 
 #include <algorithm>
 
 #include "mainwindow/frmLedenAdmin.h"
+#include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
 
 namespace plexoran {
@@ -25,6 +27,7 @@ std::vector<int> frmLedenAdmin::GekozenRijen() const
 void frmLedenAdmin::Sorteer(int kolom)
 {
     volgorde_ = kolom > 0 ? std::optional(static_cast<Kolom>(kolom)) : std::nullopt;
+    geheugen_.Bewaar(volgorde_);
     const Tekst gekozen = GekozenKey();
     ToonGroep();
     KiesSpeler(gekozen);
@@ -93,8 +96,11 @@ void frmLedenAdmin::NaarRooster()
 void frmLedenAdmin::KopieerGekozen()
 {
     const auto rijen = GekozenRijen();
+    if (rijen.empty())
+        return;
     QGuiApplication::clipboard()->setText(NaarQString(Kopieertekst(
         administratie_.spelers.tabel, rijen, NamenVan(rijen), picP0->Vlak()->Keuzes())));
+    ToonMelding(Aantal(rijen.size(), u"speler"_s, u"spelers"_s) + u" als tekst gekopieerd"_s);
 }
 
 void frmLedenAdmin::NaarZoeken()
@@ -106,22 +112,38 @@ void frmLedenAdmin::NaarZoeken()
 
 void frmLedenAdmin::BouwStatus()
 {
-    lblSpeler = new Kortlabel(this);
-    lblOngedaan = new Kortlabel(this);
-    for (const auto& [label, naam] :
-         {std::pair(lblSpeler, u"lblSpeler"_s), {lblOngedaan, u"lblOngedaan"_s}}) {
+    const auto kort = [this](const QString& naam, QSizePolicy::Policy breed) {
+        auto* label = new Kortlabel(this);
         Noem(label, naam);
         label->setTextFormat(Qt::PlainText);
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
+        label->setSizePolicy(breed, QSizePolicy::Preferred);
+        return label;
+    };
+    lblSpeler = kort(u"lblSpeler"_s, QSizePolicy::Ignored);
+    lblOngedaan = kort(u"lblOngedaan"_s, QSizePolicy::Ignored);
+    lblMelding = kort(u"lblMelding"_s, QSizePolicy::Ignored);
+    lblMelding->hide();
     lblGekozen = MaakLabel(u"lblGekozen"_s, {}, this);
     lblOpgeslagen = MaakLabel(u"lblOpgeslagen"_s, {}, this);
+    lblAdministratie = kort(u"lblAdministratie"_s, QSizePolicy::Maximum);
+    lblAdministratie->setMaximumWidth(maten_.Twips(3600));
     statusBar()->addWidget(lblSpeler, 3);
     statusBar()->addWidget(lblOngedaan, 2);
-    statusBar()->addPermanentWidget(lblGekozen);
-    statusBar()->addPermanentWidget(lblOpgeslagen);
+    statusBar()->addWidget(lblMelding, 7);
+    for (QLabel* label : {lblGekozen, lblOpgeslagen, static_cast<QLabel*>(lblAdministratie)})
+        statusBar()->addPermanentWidget(label);
+    meldtijd_.setSingleShot(true);
+    connect(&meldtijd_, &QTimer::timeout, lblMelding, &QWidget::hide);
     connect(picP0->Vlak(), &Tabelvlak::keuzeVeranderd, this, &frmLedenAdmin::ToonGekozene);
     connect(picZoek->Lijst(), &Regellijst::keuzeVeranderd, this, &frmLedenAdmin::ToonGekozene);
+    // A menu that has the focus for a while is about who was chosen before.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* naar) {
+        const bool inRooster = naar == picP0->Vlak();
+        if (!inRooster && naar != picZoek->Lijst() && !picZoek->isAncestorOf(naar))
+            return;
+        inRooster_ = inRooster;
+        ToonGekozene();
+    });
     ToonOpgeslagen();
 }
 
@@ -150,11 +172,36 @@ void frmLedenAdmin::ToonOngedaan()
                               : u"Niets ongedaan te maken"_s);
 }
 
-/// In place of the player, for as long as it takes to read it.
+/// Which administration is open: its folder.
+void frmLedenAdmin::ToonAdministratie()
+{
+    const QFileInfo ini(Toonpad(administratie_.schijf, administratie_.mappen.bestand));
+    lblAdministratie->setText(ini.absoluteDir().dirName());
+    lblAdministratie->setToolTip(Wenk(QDir::toNativeSeparators(ini.absoluteFilePath())));
+    lblAdministratie->setAccessibleName(u"Administratie: "_s + lblAdministratie->text());
+}
+
+/// What was done, for as long as it takes to read it, and aloud; without a text what the history
+/// calls it. Every save comes here. Boxes are for what must be known or decided, and where they
+/// belong to a command of old.
+void frmLedenAdmin::ToonMelding(const QString& tekst)
+{
+    constexpr int leestijd = 20'000;
+    const QString gedaan = NaarQString(administratie_.geschiedenis.Bezig());
+    statusBar()->clearMessage();
+    lblMelding->Toon(!tekst.isEmpty() ? tekst : gedaan.isEmpty() ? u"Opgeslagen"_s : gedaan);
+    lblMelding->show();
+    meldtijd_.start(leestijd);
+    Spreek(lblMelding);
+}
+
+/// Why something cannot be done, in place of all that, and aloud.
 void frmLedenAdmin::ToonStatus(const QString& tekst)
 {
     constexpr int leestijd = 8000;
     statusBar()->showMessage(tekst, leestijd);
+    if (!tekst.isEmpty())
+        Spreek(statusBar());
 }
 
 } // namespace plexoran

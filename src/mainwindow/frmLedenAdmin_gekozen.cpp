@@ -14,23 +14,6 @@ namespace plexoran {
 
 void frmLedenAdmin::BouwGekozenmenu()
 {
-    mnuGekozen = new QMenu(u"Gekozen spelers"_s, this);
-    mnuGekozen->setObjectName(u"mnuGekozen"_s);
-    const auto actie = [this](const QString& naam, const QString& tekst, auto doe) {
-        mnuGekozen->addAction(tekst, this, doe)->setObjectName(naam);
-    };
-    actie(u"actWijzigGekozen"_s, u"&Wijzigen..."_s, &frmLedenAdmin::Wijzig);
-    actie(u"actVeldGekozen"_s, u"&Een veld wijzigen..."_s,
-          [this] { DoeGekozen(Gekozenwerk::Wijzigen); });
-    actie(u"actVerplaatsGekozen"_s, u"Ver&plaatsen..."_s,
-          [this] { DoeGekozen(Gekozenwerk::Verplaatsen); });
-    actie(u"actKopieerGekozen"_s, u"&Kopiëren..."_s, [this] { DoeGekozen(Gekozenwerk::Kopieren); });
-    actie(u"actPrintGekozen"_s, u"P&rinten..."_s, &frmLedenAdmin::PrintGekozen);
-    actie(u"actVerwijderGekozen"_s, u"&Verwijderen..."_s, &frmLedenAdmin::VerwijderGekozen);
-    mnuGekozen->addSeparator();
-    actie(u"actTekstGekozen"_s, u"Als &tekst kopiëren"_s, &frmLedenAdmin::KopieerGekozen);
-    actie(u"actGeschiedenisGekozen"_s, u"&Geschiedenis van deze speler..."_s,
-          &frmLedenAdmin::ToonSpeler);
     findChild<QMenu*>(u"mnuSpeler"_s)
         ->insertMenu(findChild<QAction*>(u"actSpToevoegen"_s), mnuGekozen);
     // Not by a loop of their own: it would keep what other programs did from being seen.
@@ -40,6 +23,12 @@ void frmLedenAdmin::BouwGekozenmenu()
         mnuGekozen->popup(plek);
     });
     Regellijst* lijst = picZoek->Lijst();
+    auto* kopieer = lijst->findChild<QAction*>(u"actRegelKopieren"_s);
+    kopieer->disconnect(); // a sheet takes the columns of a player, not his line
+    connect(kopieer, &QAction::triggered, this, [this] {
+        inRooster_ = false;
+        KopieerGekozen();
+    });
     lijst->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(lijst, &QWidget::customContextMenuRequested, this, [this, lijst](QPoint plek) {
         lijst->setFocus();
@@ -130,17 +119,16 @@ void frmLedenAdmin::ZetPlek(Roosterplek plek)
     picP0->Staand().setValue(plek.hoogte);
 }
 
-/// Whether a command is about who was found: as long as the grid has not got the keys.
+/// Whether a command is about who was found: as long as the grid did not get the keys since.
 bool frmLedenAdmin::KiestInLijst() const
 {
-    return picZoek->IsOpen() && focusWidget() != picP0->Vlak();
+    return picZoek->IsOpen() && !inRooster_;
 }
 
-/// In table order; none after saying so.
+/// As they are shown; none after saying so.
 std::vector<int> frmLedenAdmin::TeDoenRijen()
 {
     std::vector<int> rijen = GekozenRijen();
-    std::ranges::sort(rijen);
     if (rijen.empty())
         Meld(this, QMessageBox::Warning, u"Er is geen regel geselecteerd!"_s);
     return rijen;
@@ -154,10 +142,11 @@ bool frmLedenAdmin::BrengInRooster()
 
 void frmLedenAdmin::DoeGekozen(Gekozenwerk werk)
 {
-    const std::vector<int> rijen = MagWijzigen() ? TeDoenRijen() : std::vector<int>();
+    std::vector<int> rijen = MagWijzigen() ? TeDoenRijen() : std::vector<int>();
     if (rijen.empty())
         return;
-    frmVeld venster(administratie_, rijen, werk, this);
+    std::ranges::sort(rijen); // copies come in table order
+    frmVeld venster(administratie_, rijen, NamenVan(rijen), werk, this);
     if (venster.exec() != QDialog::Accepted)
         return;
     Register& spelers = administratie_.spelers;
@@ -168,8 +157,7 @@ void frmLedenAdmin::DoeGekozen(Gekozenwerk werk)
         return;
     }
     const Noteer noteer(administratie_.geschiedenis, venster.Wat());
-    if (SlaOpEnToon())
-        ToonMelding(NaarQString(venster.Wat()));
+    SlaOpEnToon();
     ZetPlek(std::move(plek)); // who is still there
 }
 
@@ -181,14 +169,17 @@ void frmLedenAdmin::VerwijderGekozen()
         Verwijder(rijen, wie, NaarTekst(wie), {});
 }
 
-/// The columns' names in the group of these players; of several groups all have one.
+/// The columns' names in the groups of these players: those of the import group where one of them
+/// is in it.
 Namenrij frmLedenAdmin::NamenVan(const std::vector<int>& rijen) const
 {
-    std::set<Tekstblik> groepen;
-    for (const int rij : rijen)
-        groepen.insert(administratie_.spelers.tabel.Cel(rij, Kolom::Groep));
-    const Mappen& mappen = administratie_.mappen;
-    return BeeldVan(mappen, groepen.size() == 1 ? *groepen.begin() : mappen.DFIMPG).kolomnamen;
+    Tekstblik groep = administratie_.mappen.DFIMPG;
+    const auto groepVan = [this](int rij) {
+        return administratie_.spelers.tabel.Cel(rij, Kolom::Groep);
+    };
+    if (!rijen.empty() && std::ranges::find(rijen, groep, groepVan) == rijen.end())
+        groep = groepVan(rijen.front());
+    return BeeldVan(administratie_.mappen, groep).kolomnamen;
 }
 
 void frmLedenAdmin::PrintGekozen()

@@ -1,6 +1,5 @@
 // Undoing, doing again, and looking back.
 #include <QMenu>
-#include <QMenuBar>
 
 #include "mainwindow/frmGeschiedenis.h"
 #include "mainwindow/frmLedenAdmin.h"
@@ -52,8 +51,6 @@ void frmLedenAdmin::BouwTerugmenu(QMenu* menu)
     menu->addAction(u"Geschiedenis..."_s, Qt::CTRL | Qt::Key_H, this,
                     [this] { ToonGeschiedenis({}); })
         ->setObjectName(u"actGeschiedenis"_s);
-    menu->addAction(u"Geschiedenis van deze speler..."_s, this, &frmLedenAdmin::ToonSpeler)
-        ->setObjectName(u"actSpelergeschiedenis"_s);
 }
 
 void frmLedenAdmin::Draai(Handelingsoort soort)
@@ -95,10 +92,8 @@ void frmLedenAdmin::DraaiTerug(const Handeling& handeling, Handelingsoort soort)
         kop = u"Niet "_s + woorden;
         administratie_.geschiedenis.Noem(NaarTekst(kop + wat));
     }
-    if (SlaOpEnKies(verschillen, gekozen)) {
+    if (SlaOpEnKies(verschillen, gekozen))
         noteer.Leg();
-        ToonMelding(kop + wat);
-    }
     wacht_.Kijk(); // names of groups may be others
     if (!rest.isEmpty())
         MeldLijst(
@@ -171,19 +166,6 @@ void frmLedenAdmin::ToonSpeler()
              "gewijzigd."_s.arg(naam));
     else
         ToonGeschiedenis(key, u" van "_s + naam);
-}
-
-/// Stays for as long as it takes to read it.
-void frmLedenAdmin::ToonMelding(const QString& tekst)
-{
-    constexpr int leestijd = 20'000;
-    // A corner of the menu bar would keep the width of its first text.
-    const int begin = menuBar()->actionGeometry(menuBar()->actions().constLast()).right();
-    lblMelding->setGeometry(menuBar()->rect().adjusted(begin, 0, -maten_.Twips(120), 0));
-    lblMelding->setText(tekst);
-    lblMelding->setToolTip(Wenk(tekst));
-    lblMelding->show();
-    meldtijd_.start(leestijd);
 }
 
 /// What could not be kept cannot be undone later; told once.

@@ -11,6 +11,9 @@
 namespace plexoran {
 namespace {
 
+/// By which the columns are picked in their menus, whatever the group calls them.
+constexpr char16_t Kolomletters[] = u"NKGVuAfEdcPLM12SrB";
+
 QAction* MaakActie(QMenu* menu, const QString& naam, const QString& tekst)
 {
     auto* actie = menu->addAction(tekst);
@@ -41,6 +44,8 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
     static constexpr Eisen Regel{.wijzigt = true, .regels = true, .regel = true};
     static constexpr Eisen LeesRegel{.regels = true, .regel = true};
     static constexpr Eisen Bond{.wijzigt = true, .importgroep = true};
+    static constexpr Eisen Keus{.wijzigt = true, .regel = true};
+    static constexpr Eisen LeesKeus{.regel = true};
     static constexpr std::array alle{
         Opdracht{"mnuSpeler", u"Speler"},
         Opdracht{"actNieuw", u"", "Ctrl+N", "cmdAanm", Wijzigt},
@@ -56,7 +61,6 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"mnuBewerken", u"Bewerken"},
         Opdracht{"actOngedaan", u"", "", "", Wijzigt},
         Opdracht{"actOpnieuw", u"", "", "", Wijzigt},
-        Opdracht{"actSpelergeschiedenis", u"", "", "", LeesRegel},
         Opdracht{},
         Opdracht{"actKopieer", u"&Kopiëren", "Ctrl+C", "", LeesRegel, &Venster::KopieerGekozen},
         Opdracht{"actZoek", u"&Zoek een speler", "Ctrl+F; /", "", Geen, &Venster::NaarZoeken},
@@ -91,17 +95,39 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
                  &Venster::HerstelKolommen},
         Opdracht{},
         Opdracht{"mnuExtra", u"E&xtra"},
-        Opdracht{"actControle", u"&Controle van de administratie...", "", "", Geen,
+        Opdracht{"actControle", u"&Controle van de administratie...", "Ctrl+Shift+C", "", Geen,
                  &Venster::Controleer},
-        Opdracht{"actDubbelen", u"&Dubbele spelers...", "", "", Wijzigt, &Venster::ZoekDubbelen},
-        Opdracht{"actTerugzetten", u"&Reservekopie terugzetten...", "", "", Wijzigt,
+        Opdracht{"actDubbelen", u"&Dubbele spelers...", "Ctrl+Shift+D", "", Wijzigt,
+                 &Venster::ZoekDubbelen},
+        Opdracht{"actTerugzetten", u"&Reservekopie terugzetten...", "Ctrl+Shift+R", "", Wijzigt,
                  &Venster::ZetTerug},
-        Opdracht{"actOverzicht", u"&Overzicht...", "", "", Geen, &Venster::ToonOverzicht},
-        Opdracht{"actAdministratie", u"&Andere administratie...", "", "", Geen,
+        Opdracht{"actOverzicht", u"&Overzicht...", "Ctrl+Shift+O", "", Geen,
+                 &Venster::ToonOverzicht},
+        Opdracht{"actAdministratie", u"&Andere administratie...", "Ctrl+Shift+A", "", Geen,
                  &Venster::KiesAdministratie},
+        Opdracht{},
+        Opdracht{"actMaakScripts", u"", "Ctrl+J", "cmdMaakScripts", {.nooit = true}},
         Opdracht{"mnuHelp", u"Help"},
         Opdracht{"actToelichting", u"", "F1", "cmdToelichting"},
         Opdracht{"actToetsen", u"Toet&sen...", "Ctrl+?", "", Geen, &Venster::ToonToetsen},
+        Opdracht{"mnuGekozen", u"Gekozen spelers"},
+        Opdracht{"actWijzigGekozen", u"&Wijzigen...", "Ctrl+Return; Ctrl+Enter", "", Keus,
+                 &Venster::Wijzig},
+        Opdracht{"actVeldGekozen", u"&Een veld wijzigen...", "Shift+F2", "", Keus,
+                 &Venster::DoeGekozen<Gekozenwerk::Wijzigen>},
+        Opdracht{"actVerplaatsGekozen", u"Ver&plaatsen...", "Ctrl+Shift+M", "", Keus,
+                 &Venster::DoeGekozen<Gekozenwerk::Verplaatsen>},
+        Opdracht{"actKopieerGekozen", u"&Kopiëren...", "Ctrl+Shift+K", "", Keus,
+                 &Venster::DoeGekozen<Gekozenwerk::Kopieren>},
+        Opdracht{"actPrintGekozen", u"P&rinten...", "Ctrl+Shift+P", "", LeesKeus,
+                 &Venster::PrintGekozen},
+        Opdracht{"actVerwijderGekozen", u"&Verwijderen...", "Shift+Del", "", Keus,
+                 &Venster::VerwijderGekozen},
+        Opdracht{},
+        Opdracht{"actTekstGekozen", u"Als &tekst kopiëren", "Ctrl+Ins", "", LeesKeus,
+                 &Venster::KopieerGekozen},
+        Opdracht{"actGeschiedenisGekozen", u"&Geschiedenis van deze speler...", "Ctrl+Shift+H", "",
+                 LeesKeus, &Venster::ToonSpeler},
     };
     return alle;
 }
@@ -112,8 +138,12 @@ void frmLedenAdmin::BouwMenu()
     for (const Opdracht& opdracht : Opdrachten()) {
         const QString naam = QString::fromLatin1(opdracht.naam);
         if (naam.startsWith(u"mnu"_s)) {
-            menu = menuBar()->addMenu(QString::fromUtf16(opdracht.tekst));
+            menu = new QMenu(QString::fromUtf16(opdracht.tekst), this);
             menu->setObjectName(naam);
+            if (naam == u"mnuGekozen"_s)
+                mnuGekozen = menu;
+            else
+                menuBar()->addMenu(menu);
             connect(menu, &QMenu::aboutToShow, this, &frmLedenAdmin::WerkOpdrachtenBij);
             connect(menu, &QMenu::aboutToHide, this, &frmLedenAdmin::WerkOpdrachtenBij);
             if (naam == u"mnuBewerken"_s)
@@ -129,15 +159,10 @@ void frmLedenAdmin::BouwMenu()
     auto* openen = new QShortcut(Qt::Key_F10, this);
     connect(openen, &QShortcut::activated, this,
             [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
-    lblMelding = new Kortlabel(menuBar());
-    Noem(lblMelding, u"lblMelding"_s);
-    lblMelding->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    lblMelding->hide();
-    meldtijd_.setSingleShot(true);
-    connect(&meldtijd_, &QTimer::timeout, lblMelding, &QWidget::hide);
 }
 
-/// The keys of what is done to the chosen line are those of the grid, which has a menu of it too.
+/// The keys of what is done to the chosen line are those of the grid, which has a menu of it too;
+/// those of what is done to all that are chosen work in the list of who was found as well.
 void frmLedenAdmin::VoegOpdrachtToe(QMenu* menu, const Opdracht& opdracht)
 {
     const QString naam = QString::fromLatin1(opdracht.naam);
@@ -155,7 +180,7 @@ void frmLedenAdmin::VoegOpdrachtToe(QMenu* menu, const Opdracht& opdracht)
             connect(actie, &QAction::triggered, this, opdracht.doe);
     }
     opdrachten_.push_back({actie, &opdracht, knop});
-    if (!opdracht.eisen.regel)
+    if (!opdracht.eisen.regel || menu == mnuGekozen)
         return;
     actie->setShortcutContext(Qt::WidgetShortcut);
     picP0->Vlak()->addAction(actie);
@@ -212,8 +237,7 @@ void frmLedenAdmin::WerkOpdrachtenBij()
     const Tekst& importcode = administratie_.mappen.DFIMPG;
     Opdrachtstand stand{.alleenKijken = alleenKijken_,
                         .regels = picP0->Vlak()->Regels(),
-                        .gekozen = static_cast<int>(
-                            std::max(GekozenRijen().size(), picP0->Vlak()->Gekozen().size())),
+                        .gekozen = static_cast<int>(GekozenRijen().size()),
                         .importgroep = CodeUit(Groeptekst()) == importcode,
                         .importcode = importcode};
     const auto zet = [&](QAction* actie, const Eisen& eisen) {
@@ -234,8 +258,9 @@ void frmLedenAdmin::WerkOpdrachtenBij()
     for (std::size_t i = 0; i < AantalKolommen; ++i) {
         const QString hier = picP0->Vlak()->Celtekst(0, static_cast<int>(i));
         const QString naam = hier.isEmpty() ? NaarQString(Kolomnamen[i]) : hier;
-        volgorden_[i + 1]->setText(u"Op "_s + naam);
-        kolommen_[i + 1]->setText(u"Kolom "_s + naam);
+        const QString metLetter = MetSneltoets(naam, Kolomletters[i]);
+        volgorden_[i + 1]->setText(u"Op "_s + metLetter);
+        kolommen_[i + 1]->setText(u"Kolom "_s + metLetter);
         kolommen_[i + 1]->setChecked(!picP0->Vlak()->Keuzes()[i].verborgen);
         stand.knopVerborgen = hier.isEmpty();
         for (QAction* actie : {volgorden_[i + 1], kolommen_[i + 1]})

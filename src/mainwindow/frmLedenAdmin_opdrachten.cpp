@@ -1,25 +1,14 @@
 // The commands of the main window.
 #include <algorithm>
 
-#include "controle/frmControle.h"
-#include "controle/frmDubbelen.h"
 #include "dialogs/diaGrNamen.h"
 #include "dialogs/diaIngave.h"
 #include "dialogs/diaKopieer.h"
-#include "dialogs/diaToevoegen.h"
 #include "dialogs/diaVerplaats.h"
 #include "dialogs/frmVerwSubgroep.h"
-#include "help/frmToelichting.h"
-#include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmLedenAdmin.h"
-#include "mainwindow/frmLedenAdmin_opstart.h"
-#include "mainwindow/frmOverzicht.h"
-#include "pairs/frmParenOnderhoud.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
-#include "platform/schijf/programma.h"
-#include "printing/frmPrintIni.h"
-#include "sessions/frmKoppelNBBnr.h"
 
 namespace plexoran {
 
@@ -38,6 +27,8 @@ bool frmLedenAdmin::SlaOpEnToon(const QString& klaar)
              u"Een spelerbestand zonder spelers wordt niet opgeslagen. Het houdt zijn laatste "
              "inhoud, en die ziet u nu weer. Voeg eerst een andere speler toe."_s);
     MeldGeschiedenisfout();
+    if (opslag == Opslag::Gelukt)
+        ToonMelding();
     return opslag == Opslag::Gelukt;
 }
 
@@ -45,8 +36,10 @@ bool frmLedenAdmin::SlaOpEnToon(const QString& klaar)
 /// in his own group; without one, who was chosen stays so.
 bool frmLedenAdmin::SlaOpEnKies(const std::vector<Rijverschil>& verschillen, Tekst gekozen)
 {
-    if (verschillen.empty())
+    if (verschillen.empty()) {
+        ToonMelding();
         return true;
+    }
     int plaats = -1;
     if (const int rij = verschillen.front().nu; rij > 0) { // those who went come last
         gekozen = verschillen.front().key;
@@ -192,6 +185,7 @@ void frmLedenAdmin::WijzigGroepsnamen()
         return;
     opslag_.Reserve().Meld();
     MeldGeschiedenisfout();
+    ToonMelding();
     VulKeus(*cmbGr, administratie_.groepen.Toonteksten());
     KiesGroep(0);
     MeldMenging(this, {.een = u"groepsnaam"_s,
@@ -252,158 +246,6 @@ void frmLedenAdmin::VerwijderGroep()
         return;
     opslag_.Reserve().Maak("voor verwijderen");
     SlaOpEnToon();
-}
-
-/// Members in a group that is none of the fifty would never be seen again.
-void frmLedenAdmin::HaalNBBnamen()
-{
-    if (Groepnummer(administratie_.mappen.DFIMPG) == 0) {
-        Meld(this, QMessageBox::Warning,
-             u"Er kunnen geen bondsleden worden geïmporteerd: in 'Mappen.ini' staat achter DFIMPG= "
-             "niet in welke groep ze komen, zoals Gr05-. Er is niets veranderd. Vul die groep in "
-             "en start Plexoran opnieuw."_s);
-        return;
-    }
-    const Noteer noteer(administratie_.geschiedenis, NaarTekst(u"Leden geïmporteerd"_s));
-    KiesRekenprogramma(administratie_, this);
-    frmImportNBB venster(administratie_, importgeheugen_, this);
-    venster.exec();
-    // Its last box and the window itself go at once, and a window manager may then give the focus
-    // to nobody.
-    activateWindow();
-    if (!venster.IetsGewijzigd())
-        return;
-    opslag_.Reserve().Maak("voor import");
-    SlaOpEnToon();
-}
-
-void frmLedenAdmin::VoegSessiespelersToe()
-{
-    const Noteer noteer(administratie_.geschiedenis, "Spelerslijst opgehaald");
-    diaToevoegen venster(administratie_, this);
-    if (venster.exec() != QDialog::Accepted)
-        return;
-    opslag_.Bewaak(venster.NeemVerslag());
-    SlaOpEnToon();
-}
-
-/// Changes session files only: there is nothing to save in the register.
-void frmLedenAdmin::KoppelZwevenden()
-{
-    if (!IsAllesOpgeslagen())
-        return;
-    frmKoppelNBBnr venster(administratie_, this);
-    connect(&venster, &frmKoppelNBBnr::begint, this, [this] {
-        opslag_.Reserve().Maak("voor koppelen");
-        opslag_.Reserve().Meld();
-    });
-    venster.exec();
-    MeldGeschiedenisfout();
-}
-
-void frmLedenAdmin::OnderhoudParen()
-{
-    if (!IsEersteExemplaar()) {
-        close();
-        return;
-    }
-    if (!IsAllesOpgeslagen())
-        return;
-    opslag_.Reserve().VoorWijziging(); // the window saves pairs by itself
-    opslag_.Reserve().Meld();
-    frmParenOnderhoud(administratie_, Groeptekst(), this).exec();
-    MeldGeschiedenisfout();
-}
-
-void frmLedenAdmin::Controleer()
-{
-    const Noteer noteer(administratie_.geschiedenis, "Controle van de administratie: hersteld");
-    frmControle venster(administratie_, this);
-    venster.exec();
-    if (venster.IetsGewijzigd() && MagWijzigen())
-        SlaOpEnToon();
-}
-
-void frmLedenAdmin::ToonOverzicht()
-{
-    frmOverzicht venster(administratie_, this);
-    if (venster.exec() == QDialog::Accepted)
-        picZoek->Toon(venster.Gekozen().rijen, venster.Opschrift());
-}
-
-void frmLedenAdmin::KiesAdministratie()
-{
-    QString tekst =
-        u"Plexoran begint voortaan met de administratie die u koos. Sluit het af en start het "
-        "opnieuw om ermee te werken."_s;
-    if (!MagKiezen(administratie_))
-        tekst = u"U kunt hier geen andere administratie kiezen: er staat een 'Mappen.ini' bij het "
-                "programma, of Plexoran is gestart met --mappen."_s;
-    else if (frmEersteStart keus(administratie_.schijf, *administratie_.eersteStart, this,
-                                 StartMappenIni(administratie_.schijf, administratie_.programmamap,
-                                                administratie_.eersteStart->ini));
-             keus.exec() != QDialog::Accepted)
-        return;
-    Meld(this, QMessageBox::Information, tekst);
-}
-
-void frmLedenAdmin::ZoekDubbelen()
-{
-    if (!MagWijzigen() || !IsAllesOpgeslagen())
-        return;
-    opslag_.Reserve().VoorWijziging(); // the window saves by itself
-    opslag_.Reserve().Meld();
-    frmDubbelen venster(
-        administratie_, [this] { return SlaOpEnToon(); }, this);
-    connect(&venster, &frmDubbelen::begint, this,
-            [this] { opslag_.Reserve().Maak("voor samenvoegen"); });
-    venster.exec();
-    MeldGeschiedenisfout();
-}
-
-void frmLedenAdmin::ZetTerug()
-{
-    const Noteer noteer(administratie_.geschiedenis, "Reservekopie teruggezet");
-    const Tekst gekozen = GekozenKey();
-    const Spelertabel was = administratie_.spelers.tabel;
-    const bool andereSpelers = ZetReserveTerug(administratie_, opslag_.Reserve(), this);
-    const bool andereGroepen = VolgGroepsnamen();
-    if (andereSpelers)
-        SlaOpEnKies(Verschillen(administratie_.spelers.tabel, was), gekozen);
-    else if (andereGroepen)
-        ToonGroep();
-    if (andereSpelers || andereGroepen)
-        ToonMelding(u"Reservekopie teruggezet"_s);
-}
-
-void frmLedenAdmin::ToonToelichting()
-{
-    frmToelichting(this).exec();
-}
-
-void frmLedenAdmin::Print()
-{
-    const Tekst groeptekst = Groeptekst();
-    const Groepsbeeld beeld = BeeldVan(administratie_.mappen, CodeUit(groeptekst));
-    frmPrintIni(administratie_, groeptekst, beeld.kolomnamen, this).exec();
-}
-
-void frmLedenAdmin::StartGatenlijst()
-{
-    const Tekst& map = administratie_.mappen.RVDMAP;
-    const auto uitkomst = map.empty()
-                              ? Uitkomst<void>(Mislukt({.soort = Foutsoort::Ontbreekt}))
-                              : StartProgramma(administratie_.schijf, Samen(map, "Gatenlijst.exe"));
-    if (uitkomst)
-        return;
-    if (uitkomst.error().soort == Foutsoort::Ontbreekt)
-        Meld(this, QMessageBox::Warning, u"Het programma 'Gatenlijst.exe' is niet te vinden."_s);
-    else
-        MeldFout(
-            this, QMessageBox::Warning,
-            u"Het programma 'Gatenlijst.exe' kon niet worden gestart. Er is niets veranderd. Kijk "
-            "of u dat programma mag starten."_s,
-            uitkomst.error());
 }
 
 } // namespace plexoran

@@ -1,5 +1,6 @@
 #include "mainwindow/venstergeheugen.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -16,8 +17,9 @@ QString Sleutel(const QString& groep, std::size_t kolom)
     return groep + u'/' + NaarQString(Kolomnamen[kolom]).remove(u'/');
 }
 
-/// The screens as they stand beside each other.
-QString Opstelling()
+} // namespace
+
+QString Venstergeheugen::Opstelling()
 {
     QStringList schermen;
     for (const QScreen* scherm : QGuiApplication::screens()) {
@@ -28,9 +30,8 @@ QString Opstelling()
     return u"Plaats/"_s + schermen.join(u'_');
 }
 
-} // namespace
-
-Venstergeheugen::Venstergeheugen(const Pad& bestand)
+Venstergeheugen::Venstergeheugen(const Pad& bestand, std::function<QString()> opstelling)
+    : stand_(std::move(opstelling))
 {
     if (!bestand.empty())
         bestand_.emplace(QString::fromStdU16String(Systeempad(bestand).u16string()),
@@ -85,14 +86,58 @@ bool Venstergeheugen::IsAan(const QString& naam) const
     return !waarde.isValid() || waarde.toBool();
 }
 
-void Venstergeheugen::Plaats(QWidget& venster) const
+std::optional<Kolom> Venstergeheugen::Volgorde() const
 {
-    venster.restoreGeometry(Lees(Opstelling()).toByteArray());
+    const int kolom = Lees(u"Beeld/Volgorde"_s).toInt();
+    return kolom < 1 || kolom > AantalKolommen ? std::nullopt
+                                               : std::optional(static_cast<Kolom>(kolom));
+}
+
+void Venstergeheugen::Bewaar(std::optional<Kolom> volgorde)
+{
+    Zet(u"Beeld/Volgorde"_s, static_cast<int>(volgorde.value_or(Kolom())), volgorde.has_value());
+}
+
+void Venstergeheugen::Volg(QWidget& venster)
+{
+    constexpr int tot = 500; // milliseconds
+    venster_ = &venster;
+    opstelling_ = stand_();
+    venster.restoreGeometry(Lees(opstelling_).toByteArray());
+    venster.installEventFilter(this);
+    rust_.setSingleShot(true);
+    rust_.setInterval(tot);
+    connect(&rust_, &QTimer::timeout, this, &Venstergeheugen::Verhuis);
+    for (const auto signaal : {&QGuiApplication::screenAdded, &QGuiApplication::screenRemoved,
+                               &QGuiApplication::primaryScreenChanged})
+        connect(qGuiApp, signaal, &rust_, qOverload<>(&QTimer::start));
+}
+
+bool Venstergeheugen::eventFilter(QObject* /*object*/, QEvent* gebeurtenis)
+{
+    if (gebeurtenis->type() == QEvent::Move || gebeurtenis->type() == QEvent::Resize)
+        rust_.start();
+    return false;
+}
+
+/// A system that takes a screen away moves the window before it tells so: that is no place of its.
+void Venstergeheugen::Verhuis()
+{
+    const QString nu = stand_();
+    if (nu == opstelling_) {
+        plek_ = venster_->saveGeometry();
+        return;
+    }
+    if (!plek_.isEmpty())
+        Zet(opstelling_, plek_, true);
+    opstelling_ = nu;
+    const QByteArray hier = Lees(nu).toByteArray();
+    venster_->restoreGeometry(hier.isEmpty() ? venster_->saveGeometry() : hier);
 }
 
 void Venstergeheugen::BewaarPlaats(const QWidget& venster)
 {
-    Zet(Opstelling(), venster.saveGeometry(), true);
+    Zet(stand_(), venster.saveGeometry(), true);
 }
 
 } // namespace plexoran

@@ -174,6 +174,8 @@ Tekst SpelerVoluit(const Spelertabel& tabel, int rij)
 
 Tekst WaaromNiet(const Eisen& eisen, const Opdrachtstand& stand)
 {
+    if (eisen.nooit)
+        return "Deze knop doet niets in Plexoran";
     if (eisen.wijzigt && stand.alleenKijken)
         return "U kijkt alleen";
     if (stand.knopVerborgen)

@@ -95,6 +95,7 @@ struct Eisen {
     bool regels = false; ///< in the group
     bool regel = false;  ///< that is chosen
     bool importgroep = false;
+    bool nooit = false; ///< does nothing in this program
 };
 struct Opdrachtstand {
     bool alleenKijken = false;

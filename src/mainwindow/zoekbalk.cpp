@@ -137,8 +137,12 @@ void Zoekbalk::VulLijst(Regellijst::Plek plek)
     lstZoek->Vul(
         static_cast<int>(rijen_.size()), [this](int plaats) { return Regel(plaats).tekst; }, plek);
     const QString wie = wie_.empty() ? QString() : opschrift_ + u": "_s;
-    lblZoek->setText(IsOpen() ? wie + u"%1 gevonden"_s.arg(rijen_.size()) : QString());
+    const QString hoeveel =
+        rijen_.empty() ? u"niets gevonden"_s : u"%1 gevonden"_s.arg(rijen_.size());
+    lblZoek->setText(IsOpen() ? wie + hoeveel : QString());
     txtZoek->setAccessibleDescription(lblZoek->text());
+    if (IsOpen())
+        Spreek(lblZoek);
 }
 
 /// While a change is going on there may be a line of a row that the table no longer has.

@@ -319,8 +319,10 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     antwoord.start(std::chrono::milliseconds(50));
     NeemZoeken(bezoek, hoofdvenster);
     bezoek(hoofdvenster);
-    Neem(bezoek, frmVeld(administratie, {3, 4, 5}, Gekozenwerk::Verplaatsen, &hoofdvenster));
-    Neem(bezoek, frmVeld(administratie, {3, 4, 5}, Gekozenwerk::Wijzigen, &hoofdvenster));
+    Neem(bezoek,
+         frmVeld(administratie, {3, 4, 5}, Kolomnamen, Gekozenwerk::Verplaatsen, &hoofdvenster));
+    Neem(bezoek,
+         frmVeld(administratie, {3, 4, 5}, Kolomnamen, Gekozenwerk::Wijzigen, &hoofdvenster));
     Ingave ingave = Voorbeeldingave(administratie);
     std::int16_t terugkeerveld = administratie.instellingen.OPTIND;
     Neem(bezoek, diaIngave(

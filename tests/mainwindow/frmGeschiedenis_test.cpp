@@ -213,7 +213,7 @@ TEST_F(GeschiedenisTest, EenLegeGeschiedenisZegtHet)
         Druk(geschiedenis, "cmdSluiten");
     });
     KiesRegel(1);
-    InGeschiedenis("actSpelergeschiedenis", [](QDialog& geschiedenis) {
+    InGeschiedenis("actGeschiedenisGekozen", [](QDialog& geschiedenis) {
         EXPECT_EQ("Van deze speler is nog niets vastgelegd.",
                   Vind<QLabel>(geschiedenis, "Label1")->text().toStdString());
         EXPECT_FALSE(Vind<QPushButton>(geschiedenis, "cmdOngedaan")->isEnabled());
@@ -228,7 +228,7 @@ TEST_F(GeschiedenisTest, VanWieGeenSleutelHeeftIsErGeenGeschiedenis)
     KiesRegel(1);
     wachter.Informatie(u"Willem van der Horst heeft geen sleutel. Daarom is niet te zeggen wat er "
                        "van deze speler is gewijzigd."_s);
-    venster->findChild<QAction*>(u"actSpelergeschiedenis"_s)->trigger();
+    venster->findChild<QAction*>(u"actGeschiedenisGekozen"_s)->trigger();
     wachter.Klaar();
 }
 
@@ -301,7 +301,7 @@ TEST_F(GeschiedenisTest, VanEenSpelerStaatErAlleenWatHemzelfBetreft)
     });
     Opdracht("cmdWijzig");
     KiesRegel(2);
-    InGeschiedenis("actSpelergeschiedenis", [&](QDialog& geschiedenis) {
+    InGeschiedenis("actGeschiedenisGekozen", [&](QDialog& geschiedenis) {
         auto* lijst = Vind<QTreeWidget>(geschiedenis, "lstHandelingen");
         EXPECT_EQ("Geschiedenis van Ineke van der Horst-Blaauw",
                   geschiedenis.windowTitle().toStdString());
@@ -311,7 +311,7 @@ TEST_F(GeschiedenisTest, VanEenSpelerStaatErAlleenWatHemzelfBetreft)
         Druk(geschiedenis, "cmdSluiten");
     });
     KiesGroep(2);
-    const auto* actie = venster->findChild<QAction*>(u"actSpelergeschiedenis"_s);
+    const auto* actie = venster->findChild<QAction*>(u"actGeschiedenisGekozen"_s);
     EXPECT_FALSE(actie->isEnabled());
     EXPECT_EQ("Kies eerst een regel", actie->statusTip().toStdString());
 }
@@ -349,7 +349,7 @@ TEST_F(GeschiedenisTest, WatNietIsOpgeslagenHeetNietOngedaanGemaakt)
     wachter.Begin(u"De spelers konden niet worden opgeslagen."_s, QMessageBox::Critical,
                   u"Doorgaan"_s);
     Terug();
-    EXPECT_EQ("", Melding());
+    EXPECT_EQ("Nieuweling toegevoegd", Melding());
     EXPECT_EQ("Ongedaan maken: Nieuweling toegevoegd", Menutekst("actOngedaan"));
 }
 

@@ -7,6 +7,7 @@
 
 #include <fstream>
 
+#include "mainwindow/venstergeheugen.h"
 #include "mainwindow/vensterproef.h"
 #include "platform/schijf/systeempad.h"
 
@@ -182,6 +183,26 @@ TEST_F(BeeldTest, SorterenVerandertDeRegelsEnNietHetBestand)
     EXPECT_EQ(laatste, Cel(50, 1));
 }
 
+TEST_F(BeeldTest, DeVolgordeGeldtOokDeVolgendeKeer)
+{
+    Actie("actVolgorde_6")->trigger();
+    const std::string eerste = Cel(1, 6);
+    NieuwVenster();
+    EXPECT_EQ(eerste, Cel(1, 6));
+    EXPECT_NE("1", Cel(1, 1));
+    EXPECT_TRUE(Actie("actVolgorde_6")->isChecked());
+    KiesGroep(5);
+    Actie("actVolgorde_18")->trigger();
+    NieuwVenster();
+    KiesGroep(1);
+    EXPECT_EQ("1", Cel(1, 1)) << "zonder naam geen kolom";
+    KiesGroep(5);
+    EXPECT_TRUE(Header(18)->font().bold());
+    Actie("actVolgorde_0")->trigger();
+    NieuwVenster();
+    EXPECT_FALSE(Header(18)->font().bold());
+}
+
 TEST_F(BeeldTest, NaSorterenVerwijdertRegelDrieWieDaarStaat)
 {
     Actie("actVolgorde_6")->trigger();
@@ -221,7 +242,7 @@ TEST_F(BeeldTest, RechtsklikkenOpEenHeaderGeeftHetMenuVanDieKolom)
     QStringList teksten;
     for (const QAction* actie : menu->actions())
         teksten << actie->text();
-    EXPECT_EQ("Op Achternaam; Kolom Achternaam; &Tabelvolgorde; Kolommen &passend; Kolommen "
+    EXPECT_EQ("Op &Achternaam; Kolom &Achternaam; &Tabelvolgorde; Kolommen &passend; Kolommen "
               "&herstellen; &Kolommen tonen",
               teksten.join(u"; "_s).toStdString());
     menu->close();
@@ -261,6 +282,41 @@ TEST_F(BeeldTest, HetVensterKomtTerugWaarHetStond)
     QApplication::processEvents();
     heropen();
     EXPECT_TRUE(venster->screen()->geometry().contains(venster->geometry().topLeft()));
+}
+
+TEST_F(BeeldTest, MetAndereSchermenKomtHetVensterWaarHetDaarmeeStond)
+{
+    QString schermen = u"Plaats/een"_s;
+    Venstergeheugen geheugen(administratie.vensterIni, [&] { return schermen; });
+    QWidget raam;
+    raam.resize(300, 200);
+    geheugen.Volg(raam);
+    raam.show();
+    constexpr int rust = 800;
+    const auto zet = [&](const QRect& plek) {
+        raam.setGeometry(plek);
+        QTest::qWait(rust);
+    };
+    const auto wissel = [&](const QString& naar, auto meld) {
+        schermen = naar;
+        meld();
+        QTest::qWait(rust);
+    };
+    QScreen* scherm = QGuiApplication::primaryScreen();
+    zet({60, 70, 320, 210});
+    wissel(u"Plaats/twee"_s, [&] {
+        raam.move(5, 5); // by the system, with the screen that went
+        emit qGuiApp->screenRemoved(scherm);
+    });
+    EXPECT_TRUE(scherm->geometry().contains(raam.geometry()));
+    zet({90, 20, 400, 250});
+    wissel(u"Plaats/een"_s, [&] { emit qGuiApp->screenAdded(scherm); });
+    EXPECT_EQ(QRect(60, 70, 320, 210), raam.geometry());
+    wissel(u"Plaats/twee"_s, [&] { emit qGuiApp->primaryScreenChanged(scherm); });
+    EXPECT_EQ(QRect(90, 20, 400, 250), raam.geometry());
+    raam.move(9000, 9000); // with screens that are new here it is brought back
+    wissel(u"Plaats/drie"_s, [&] { emit qGuiApp->screenRemoved(scherm); });
+    EXPECT_TRUE(scherm->geometry().contains(raam.geometry().topLeft()));
 }
 
 TEST_F(BeeldTest, EenKapotOfOnbereikbaarBestandDoetGeenKwaad)

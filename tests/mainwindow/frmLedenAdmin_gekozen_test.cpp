@@ -1,11 +1,15 @@
 // Several players chosen, in the grid and in the list of who was found, and what is done with all.
 #include <QAccessible>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
 
 #include "hulp/printdialoog.h"
 #include "mainwindow/vensterproef.h"
 #include "platform/scherm/regellijst.h"
+#include "printing/printproef.h"
 
 using namespace plexoran;
 
@@ -202,15 +206,40 @@ TEST_F(GekozenTest, HetMenuKomtBijDeRegelOnderDeMuisEnHoudtEenKeusWaarinDieZit)
     EXPECT_EQ(std::vector{9}, Gekozen());
 }
 
-TEST_F(GekozenTest, ZonderKeusGebeurtErNiets)
+TEST_F(GekozenTest, ZonderKeusIsAllesGrijsEnZegtWaarom)
 {
     const std::string oud = suite.Spelers();
-    for (const char* actie : {"actVeldGekozen", "actVerplaatsGekozen", "actKopieerGekozen",
-                              "actPrintGekozen", "actVerwijderGekozen"}) {
-        wachter.Waarschuwing(u"Er is geen regel geselecteerd!"_s);
-        Doe(actie);
-    }
+    const auto reden = [this](const QString& moet) {
+        for (const QAction* actie : Vind<QMenu>(*venster, "mnuGekozen")->actions()) {
+            if (!actie->isSeparator()) {
+                EXPECT_EQ(moet, actie->statusTip()) << actie->objectName().toStdString();
+                EXPECT_EQ(moet.isEmpty(), actie->isEnabled());
+            }
+        }
+    };
+    reden(u"Kies eerst een regel"_s);
+    Vlak()->setFocus();
+    Toets(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier); // is told, and does nothing
+    EXPECT_EQ("Kies eerst een regel", venster->statusBar()->currentMessage().toStdString());
+    KiesRegel(3);
+    reden({});
+    Zoek(u"zonderling niemand"_s); // it goes to who was found now: nobody
+    reden(u"Kies eerst een regel"_s);
+    Vlak()->setFocus();
+    reden({});
+    EXPECT_EQ("1 gekozen", Label("lblGekozen")->text().toStdString());
     EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(GekozenTest, EenMenuMetDeToetsenGaatOverWieErVoorAanDeBeurtWas)
+{
+    Zoek(u"oudewortel"_s);
+    Lijst()->setFocus();
+    KiesRegel(3);
+    EXPECT_EQ("1 gekozen", Label("lblGekozen")->text().toStdString());
+    venster->menuBar()->setFocus(Qt::MenuBarFocusReason);
+    Doe("actTekstGekozen");
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(u"3\t100003\t"_s));
 }
 
 // ---- The commands -------------------------------------------------------------------------------
@@ -281,16 +310,19 @@ TEST_F(GekozenTest, EenVeldWijzigenToontEerstOudEnNieuw)
     KiesRegel(3);
     Klik(5, Qt::ShiftModifier);
     Doe("actVeldGekozen", [](QDialog& veld) {
-        EXPECT_EQ("A-LIJN", Vind<QLineEdit>(veld, "txtWaarde")->text().toStdString());
-        EXPECT_EQ((Regels_t{"Trudy Kuipersma-Hol: B-LIJN -> A-LIJN"}),
-                  Lijstregels(veld, "lstVeld"));
+        // As the grid calls it; nothing changes before anything was typed.
+        EXPECT_EQ("Subgr", Vind<QComboBox>(veld, "cmbVeld")->currentText().toStdString());
+        EXPECT_EQ("", Vind<QLineEdit>(veld, "txtWaarde")->text().toStdString());
+        EXPECT_EQ(Regels_t{}, Lijstregels(veld, "lstVeld"));
+        EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled());
+        EXPECT_FALSE(Vind<QLabel>(veld, "lblUitleg")->isVisible());
         Schrijf(veld, "txtWaarde", u"d-lijn"_s);
         EXPECT_EQ("Van de 3 gekozen spelers veranderen er 3:",
                   Vind<QLabel>(veld, "lblAantal")->text().toStdString());
         EXPECT_EQ("Johan Kuipersma: A-LIJN -> D-LIJN", Lijstregels(veld, "lstVeld").front());
         QTest::keyClick(Vind<QLineEdit>(veld, "txtWaarde"), Qt::Key_Return);
     });
-    EXPECT_EQ("NBBgr van 3 spelers gewijzigd in 'D-LIJN'", Melding());
+    EXPECT_EQ("Subgr van 3 spelers gewijzigd in 'D-LIJN'", Melding());
     for (const char* key : {"100003", "100004", "100005"})
         EXPECT_TRUE(Regel(suite.Spelers(), key).ends_with(",D-LIJN,")) << key;
     EXPECT_EQ((std::vector{3, 4, 5}), Gekozen()); // for what comes next
@@ -307,16 +339,75 @@ TEST_F(GekozenTest, EenVeldDatNietMagVerandertNiet)
         KiesUit(cmbVeld, cmbVeld->findText(u"Achternaam"_s));
         Schrijf(veld, "txtWaarde", {});
         EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled());
-        KiesUit(cmbVeld, cmbVeld->findText(u"NBBnr"_s));
-        Schrijf(veld, "txtWaarde", u"12x3"_s);
-        EXPECT_EQ("123", Vind<QLineEdit>(veld, "txtWaarde")->text().toStdString());
-        EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled()); // no federation members
-        KiesUit(cmbVeld, cmbVeld->findText(u"Telef"_s));
-        Schrijf(veld, "txtWaarde", {});
-        EXPECT_EQ("Johan Kuipersma: 06-00000111 -> (leeg)", Lijstregels(veld, "lstVeld").front());
+        Schrijf(veld, "txtWaarde", u"  "_s);
+        EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled());
+        EXPECT_FALSE(Vind<QCheckBox>(veld, "chkLeeg")->isEnabled());
+        EXPECT_EQ(-1, cmbVeld->findText(u"NBBnr"_s)); // no federation members
         QTest::keyClick(&veld, Qt::Key_Escape);
     });
     EXPECT_EQ(oud, suite.Spelers());
+}
+
+TEST_F(GekozenTest, HetNBBnummerHeeftEenUitlegDieAndereVeldenNietHebben)
+{
+    Zoek(u"theo oudewortel"_s); // a club member and a member of the federation
+    Lijst()->setFocus();
+    Lijst()->selectAll();
+    Doe("actVeldGekozen", [](QDialog& veld) {
+        auto* cmbVeld = Vind<QComboBox>(veld, "cmbVeld");
+        EXPECT_EQ("NBBgr", cmbVeld->currentText().toStdString());
+        const auto* lblUitleg = Vind<QLabel>(veld, "lblUitleg");
+        EXPECT_FALSE(lblUitleg->isVisible());
+        KiesUit(cmbVeld, cmbVeld->findText(u"NBBnr"_s));
+        EXPECT_EQ("NBB-nummers veranderen alleen bij spelers van 'Gr05-'.",
+                  lblUitleg->text().toStdString());
+        EXPECT_TRUE(lblUitleg->isVisible());
+        Schrijf(veld, "txtWaarde", u"12x3"_s);
+        EXPECT_EQ("123", Vind<QLineEdit>(veld, "txtWaarde")->text().toStdString());
+        EXPECT_EQ("Van de 2 gekozen spelers veranderen er 1:",
+                  Vind<QLabel>(veld, "lblAantal")->text().toStdString());
+        KiesUit(cmbVeld, cmbVeld->findText(u"Telef"_s));
+        EXPECT_FALSE(lblUitleg->isVisible());
+        EXPECT_EQ("", Vind<QLineEdit>(veld, "txtWaarde")->text().toStdString());
+        QTest::keyClick(&veld, Qt::Key_Escape);
+    });
+}
+
+TEST_F(GekozenTest, LeegmakenMoetMenZeggen)
+{
+    const std::string oud = suite.Spelers();
+    KiesRegel(3);
+    Klik(4, Qt::ShiftModifier);
+    Doe("actVeldGekozen", [](QDialog& veld) {
+        auto* cmbVeld = Vind<QComboBox>(veld, "cmbVeld");
+        KiesUit(cmbVeld, cmbVeld->findText(u"Telef"_s));
+        Schrijf(veld, "txtWaarde", u"1"_s);
+        Schrijf(veld, "txtWaarde", {});
+        EXPECT_FALSE(Vind<QPushButton>(veld, "cmdOK")->isEnabled());
+        Vind<QCheckBox>(veld, "chkLeeg")->click();
+        EXPECT_FALSE(Vind<QLineEdit>(veld, "txtWaarde")->isEnabled());
+        EXPECT_EQ("Johan Kuipersma: 06-00000111 -> (leeg)", Lijstregels(veld, "lstVeld").front());
+        Druk(veld, "cmdOK");
+    });
+    EXPECT_EQ("Telef van 2 spelers leeggemaakt", Melding());
+    EXPECT_TRUE(Regel(suite.Spelers(), "100003").find(",Kuipersma,,johan") != std::string::npos);
+    VerwachtOngedaanIn(oud);
+}
+
+TEST_F(GekozenTest, KopierenIsVanDeGekozenRegelsOokZonderOfMetEenDubbeleSleutel)
+{
+    HerstartMet("HKEY=100171\r\n"
+                "1,100001,Gr01-,An,,Bos,,,,,,,V,,,,,\r\n"
+                "2,100001,Gr01-,Bo,,Cos,,,,,,,M,,,,,\r\n"
+                "3,,Gr01-,Cy,,Dos,,,,,,,M,,,,,\r\n");
+    KiesRegel(2);
+    Klik(3, Qt::ShiftModifier);
+    Doe("actKopieerGekozen", [](QDialog& veld) {
+        KiesUit(Vind<QComboBox>(veld, "cmbGroep"), 3);
+        Druk(veld, "cmdOK");
+    });
+    EXPECT_EQ("4,100172,Gr04-,Bo,,Cos,,,,,,,M,,,,,", Regel(suite.Spelers(), "100172"));
+    EXPECT_EQ("5,100173,Gr04-,Cy,,Dos,,,,,,,M,,,,,", Regel(suite.Spelers(), "100173"));
 }
 
 TEST_F(GekozenTest, VerwijderenVraagtEenKeerMetDeNamenEnMaaktEerstEenReservekopie)
@@ -339,6 +430,7 @@ TEST_F(GekozenTest, VerwijderenVraagtEenKeerMetDeNamenEnMaaktEerstEenReservekopi
     EXPECT_EQ(0, Reserves());
     vraag(u"OK"_s);
     Doe("actVerwijderGekozen");
+    EXPECT_EQ("2 spelers verwijderd", Melding());
     EXPECT_EQ("Aantal regels: 48", Aantal());
     EXPECT_EQ(std::string::npos, suite.Spelers().find(",100003,"));
     EXPECT_EQ(std::string::npos, suite.Spelers().find(",100005,"));
@@ -355,7 +447,7 @@ TEST_F(GekozenTest, VerwijderenUitDeLijstOverGroepenHeen)
     wachter.Verwacht({.tekst = u"\t\tLET OP!"_s, .titel = u"Verwijderen"_s, .alleenBegin = true});
     Doe("actVerwijderGekozen");
     EXPECT_EQ(std::string::npos, suite.Spelers().find(",Theo,,Oudewortel,"));
-    EXPECT_EQ("0 gevonden", Label("lblZoek")->text().toStdString());
+    EXPECT_EQ("niets gevonden", Label("lblZoek")->text().toStdString());
     VerwachtOngedaanIn(oud);
     EXPECT_EQ("2 gevonden", Label("lblZoek")->text().toStdString());
 }
@@ -371,6 +463,48 @@ TEST_F(GekozenTest, PrintenIsVanDeGekozenSpelersAlleen)
         EXPECT_EQ((Regels_t{"A-LIJN", "MAANDAG"}), Lijstregels(keuze, "lstNBBgr"));
         Druk(keuze, "cmdAnnuleren");
     });
+}
+
+TEST_F(GekozenTest, PrintenHoudtDeVolgordeDieTeZienIs)
+{
+    Actie("actVolgorde_4")->trigger(); // by first name
+    const auto* rooster = static_cast<const Roostervlak*>(Vlak());
+    QStringList moet;
+    for (int regel = 1; regel <= 4; ++regel)
+        moet << rooster->Celtekst(regel, 3);
+    KiesRegel(1);
+    Klik(4, Qt::ShiftModifier);
+    wachter.Bedien([](QDialog& keuze) {
+        Druk(keuze, "cmdSelNone"); // with the surname it would be by that
+        Vind<Regellijst>(keuze, "lstKeus")->Kies({0});
+        Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
+        Druk(keuze, "cmdOK");
+        keuze.reject();
+    });
+    QStringList geprint;
+    wachter.Bedien([&](QDialog& blad) {
+        const auto bestand = suite.Weg() / "blad.pdf";
+        for (const Pdfwoord& woord : BladInBeeld(*Vind<QWidget>(blad, "picP1"), bestand).woorden) {
+            if (const QString tekst = QString::fromStdString(woord.tekst); moet.contains(tekst))
+                geprint << tekst;
+        }
+        blad.reject();
+    });
+    Doe("actPrintGekozen");
+    EXPECT_EQ(moet.join(u' ').toStdString(), geprint.join(u' ').toStdString());
+}
+
+TEST_F(GekozenTest, CtrlCInDeLijstGeeftDeKolommenZoalsHetRooster)
+{
+    Zoek(u"ypeslot"_s);
+    Lijst()->setFocus();
+    QTest::keyClick(Lijst(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(Lijst(), Qt::Key_C, Qt::ControlModifier);
+    const QStringList regels = QGuiApplication::clipboard()->text().split(u'\n');
+    ASSERT_EQ(2, regels.size());
+    EXPECT_EQ("Klaas\t\tYpeslot", regels.front().section(u'\t', 3, 5).toStdString());
+    EXPECT_EQ("Femmie", regels.back().section(u'\t', 3, 3).toStdString());
+    EXPECT_EQ("2 spelers als tekst gekopieerd", Melding());
 }
 
 TEST_F(GekozenTest, WijzigEnGeschiedenisZijnVanWieInDeLijstAanDeBeurtIs)

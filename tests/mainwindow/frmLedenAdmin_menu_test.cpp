@@ -1,5 +1,6 @@
 // The menus of the main window by mouse and keys: every command is there, does what its button
 // does, and says why it is off.
+#include <QAccessible>
 #include <QClipboard>
 #include <QMenu>
 #include <QMenuBar>
@@ -44,7 +45,6 @@ class MenuTest : public HoofdvensterTest {
 
 TEST_F(MenuTest, ElkeKnopStaatInHetMenuMetZijnToets)
 {
-    // The button that does nothing has none.
     for (const auto& [actie, knop, toetsen] : std::initializer_list<std::array<const char*, 3>>{
              {"actNieuw", "cmdAanm", "Ctrl+N"},
              {"actWijzig", "cmdWijzig", "F2; Return; Enter"},
@@ -109,7 +109,39 @@ TEST_F(MenuTest, AlleActiesHetenActEnGeenTweeHebbenDezelfdeToets)
         }
     }
     EXPECT_GT(namen.size(), 70U);
-    EXPECT_GT(toetsen.size(), 30U);
+    EXPECT_GT(toetsen.size(), 50U);
+}
+
+TEST_F(MenuTest, ElkeActieHeeftEenToetsEnDieVanEenKolomEenLetter)
+{
+    std::map<QString, QStringList> letters; // by the menu
+    for (const QMenu* menu : venster->findChildren<QMenu*>()) {
+        for (const QAction* actie : menu->actions()) {
+            const QString naam = actie->objectName();
+            const QKeySequence letter = QKeySequence::mnemonic(actie->text());
+            if (naam.startsWith(u"actKolom_"_s) || naam.startsWith(u"actVolgorde_"_s)) {
+                EXPECT_FALSE(letter.isEmpty()) << actie->text().toStdString();
+                EXPECT_FALSE(letters[menu->objectName()].contains(letter.toString()))
+                    << actie->text().toStdString();
+                letters[menu->objectName()] << letter.toString();
+            } else if (actie->menu() == nullptr && !actie->isSeparator()) {
+                EXPECT_FALSE(actie->shortcut().isEmpty()) << naam.toStdString();
+            }
+        }
+    }
+    EXPECT_EQ(18, letters[u"mnuKolommen"_s].size());
+    EXPECT_EQ(19, letters[u"mnuVolgorde"_s].size());
+    KiesGroep(5); // by the same letters where the last columns have other names
+    EXPECT_EQ("Kolom NBBg&r", Actie(u"actKolom_17"_s)->text().toStdString());
+    EXPECT_EQ("Op N&BBnr", Actie(u"actVolgorde_18"_s)->text().toStdString());
+}
+
+TEST_F(MenuTest, DeKnopDieNietsDoetZegtDatInHetMenu)
+{
+    EXPECT_EQ("Deze knop doet niets in Plexoran", Reden(u"actMaakScripts"_s));
+    EXPECT_EQ("MaakScripts ...", Actie(u"actMaakScripts"_s)->text().remove(u'&').toStdString());
+    Druk("Ctrl+J");
+    EXPECT_EQ("Deze knop doet niets in Plexoran", Status());
 }
 
 TEST_F(MenuTest, EenOpdrachtDieNietKanIsGrijsEnZegtWaarom)
@@ -185,6 +217,9 @@ TEST_F(MenuTest, ToetsenDoenWatDeKnopDoet)
                                          {"Ctrl+Shift+G", "diaGrNamen"},
                                          {"Ctrl+P", "frmPrintIni"},
                                          {"F1", "frmToelichting"},
+                                         {"Ctrl+Shift+C", "frmControle"},
+                                         {"Ctrl+Shift+O", "frmOverzicht"},
+                                         {"Ctrl+Shift+D", "frmDubbelen"},
                                          {"Ctrl+?", "frmToetsen"},
                                          {"Ctrl+Shift+?", "frmToetsen"},
                                          {"Ctrl+Shift+/", "frmToetsen"}}) {
@@ -223,13 +258,13 @@ TEST_F(MenuTest, HetRoosterHeeftEenMenuMetWatEenRegelAangaat)
     QStringList namen;
     for (const QAction* actie : Vlak()->actions())
         namen << actie->objectName();
-    for (const char* naam : {"actWijzig", "actVerwijder", "actKopieer", "actSpelergeschiedenis"})
+    for (const char* naam : {"actWijzig", "actVerwijder", "actKopieer"})
         EXPECT_TRUE(namen.contains(QLatin1String(naam))) << naam;
 }
 
 TEST_F(MenuTest, DeToetsenlijstStaatVolEnIsVanDeActiesZelf)
 {
-    Actie(u"actPassend"_s)->setShortcut(QKeySequence(u"Ctrl+J"_s));
+    Actie(u"actPassend"_s)->setShortcut(QKeySequence(u"Ctrl+Alt+J"_s));
     wachter.Bedien([](QDialog& open) {
         const auto* lijst = Vind<QTreeWidget>(open, "lstToetsen");
         std::map<std::string, std::string> regels;
@@ -244,11 +279,11 @@ TEST_F(MenuTest, DeToetsenlijstStaatVolEnIsVanDeActiesZelf)
         }
         EXPECT_EQ(
             (std::vector<std::string>{"Menu Speler", "Menu Bewerken", "Menu Groep", "Menu Lijsten",
-                                      "Menu Beeld", "Menu Help", "Knoppen van het hoofdvenster",
+                                      "Menu Beeld", "Menu Extra", "Menu Help", "Knoppen van het hoofdvenster",
                                       "In de spelers", "Bij het zoeken", "In elke lijst",
                                       "In elk venster", "Bij de paren", "In het afdrukvoorbeeld"}),
             plaatsen);
-        EXPECT_EQ("Kolommen passend", regels["Menu Beeld: Ctrl+J"]);
+        EXPECT_EQ("Kolommen passend", regels["Menu Beeld: Ctrl+Alt+J"]);
         EXPECT_EQ("Nieuwe Speler toevoegen", regels["Menu Speler: Ctrl+N"]);
         EXPECT_EQ("Ongedaan maken", regels["Menu Bewerken: Ctrl+Z"]);
         EXPECT_EQ("Knoppen onder de spelers", regels["Menu Beeld: F9"]);
@@ -330,4 +365,73 @@ TEST_F(MenuTest, OnderaanStaatDeSpelerEnWatCtrlZZouTerugdraaien)
     venster->setWindowModified(false);
     DrukMetCtrl(Qt::Key_Z);
     EXPECT_EQ("Niets ongedaan te maken", Label("lblOngedaan")->text().toStdString());
+}
+
+namespace {
+
+/// What screen readers were told aloud.
+QStringList gesproken;
+
+} // namespace
+
+#ifndef Q_OS_WIN
+/// In the place of Qt's own, which tells nobody off screen.
+void QAccessible::updateAccessibility(QAccessibleEvent* gebeurtenis)
+{
+    if (gebeurtenis->type() == QAccessible::Alert)
+        gesproken << gebeurtenis->accessibleInterface()->text(QAccessible::Name);
+}
+#endif
+
+TEST_F(MenuTest, WatGedaanIsStaatOnderaanEnWordtGesproken)
+{
+#ifdef Q_OS_WIN
+    GTEST_SKIP();
+#endif
+    gesproken.clear();
+    const auto gemeld = [this](const char* tekst) {
+        EXPECT_EQ(tekst, Label("lblMelding")->text().toStdString());
+        EXPECT_TRUE(Label("lblMelding")->isVisible());
+        EXPECT_TRUE(gesproken.contains(QString::fromUtf8(tekst))) << tekst;
+    };
+    EXPECT_FALSE(Label("lblMelding")->isVisible());
+    VoegToe(u"Nieuweling"_s);
+    gemeld("Nieuweling toegevoegd");
+    KiesRegel(1);
+    wachter.Bedien([](QDialog& ingave) {
+        Schrijf(ingave, "txt1_6", u"Horstman"_s);
+        ::plexoran::Druk(ingave, "cmdOK");
+    });
+    Opdracht("cmdWijzig");
+    gemeld("Willem van der Horstman gewijzigd");
+    DrukMetCtrl(Qt::Key_Z);
+    gemeld("Ongedaan gemaakt: Willem van der Horstman gewijzigd");
+    DrukMetCtrl(Qt::Key_Y);
+    gemeld("Opnieuw gedaan: Willem van der Horstman gewijzigd");
+    KiesRegel(2);
+    wachter.Verwacht({.tekst = u"\t\tLET OP!"_s, .titel = u"Verwijderen"_s, .alleenBegin = true});
+    wachter.Informatie(u"De regel is verwijderd."_s);
+    Opdracht("cmdVerwijder");
+    gemeld("Ineke van der Horst-Blaauw verwijderd");
+    KiesRegel(1);
+    Druk("Ctrl+C");
+    gemeld("1 speler als tekst gekopieerd");
+    Opdracht("cmdMaakGrNamen", [](QDialog& namen) { namen.accept(); });
+    gemeld("Groepsnamen gewijzigd");
+    Schrijf(*venster, "txtZoek", u"oudewortel"_s);
+    EXPECT_TRUE(gesproken.contains(u"4 gevonden"_s));
+    Schrijf(*venster, "txtZoek", u"oudewortel qq"_s);
+    EXPECT_EQ("niets gevonden", gesproken.last().toStdString());
+    Druk("Ctrl+L");
+    EXPECT_EQ("Alleen in de importgroep Gr05-", gesproken.last().toStdString());
+}
+
+TEST_F(MenuTest, OnderaanStaatWelkeAdministratieOpenIs)
+{
+    const QLabel* wie = Label("lblAdministratie");
+    EXPECT_EQ(suite.Weg().filename().string(), wie->text().toStdString());
+    EXPECT_EQ((suite.Weg() / "Mappen.ini").string(), wie->toolTip().toStdString());
+    EXPECT_EQ("Administratie: " + suite.Weg().filename().string(),
+              wie->accessibleName().toStdString());
+    EXPECT_TRUE(wie->isVisible());
 }

@@ -144,7 +144,7 @@ TEST_F(ZoekTest, DeLijstKomtInDePlaatsVanDeOpdrachtenEnVerderVerspringtNiets)
                         "Mieke Oudewortel-Quist"}),
               Namen());
     Zoek(u"oudewortel qq"_s);
-    EXPECT_EQ("0 gevonden", Gevonden());
+    EXPECT_EQ("niets gevonden", Gevonden());
     EXPECT_TRUE(Lijst()->isVisible());
     Zoek({});
     EXPECT_FALSE(Lijst()->isVisible());
@@ -265,7 +265,7 @@ TEST_F(ZoekTest, CtrlEnterWijzigtDeSpelerEnDeLijstVolgt)
 TEST_F(ZoekTest, NaOngedaanMakenEnWijzigingVanBuitenIsHetAntwoordBij)
 {
     Zoek(u"pelikaan"_s);
-    EXPECT_EQ("0 gevonden", Gevonden());
+    EXPECT_EQ("niets gevonden", Gevonden());
     std::string tekst = suite.Spelers();
     const std::string was = ",Klaas,,Ypeslot,";
     suite.Zet("Spelers/RVDspelers.txt",
@@ -280,7 +280,7 @@ TEST_F(ZoekTest, NaOngedaanMakenEnWijzigingVanBuitenIsHetAntwoordBij)
     });
     Toets(Qt::Key_Return);
     wachter.Klaar();
-    EXPECT_EQ("0 gevonden", Gevonden());
+    EXPECT_EQ("niets gevonden", Gevonden());
     DrukMetCtrl(Qt::Key_Z);
     EXPECT_EQ("1 gevonden", Gevonden());
 }
