@@ -138,6 +138,8 @@ void frmLedenAdmin::BouwStatus()
     connect(picZoek->Lijst(), &Regellijst::keuzeVeranderd, this, &frmLedenAdmin::ToonGekozene);
     // A menu that has the focus for a while is about who was chosen before.
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* naar) {
+        if (naar == nullptr) // as when the window goes, its parts before it
+            return;
         const bool inRooster = naar == picP0->Vlak();
         if (!inRooster && naar != picZoek->Lijst() && !picZoek->isAncestorOf(naar))
             return;
