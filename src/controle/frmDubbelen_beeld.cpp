@@ -2,8 +2,10 @@
 #include <algorithm>
 #include <array>
 
+#include "controle/controleur.h"
 #include "controle/frmControle.h"
 #include "controle/frmDubbelen.h"
+#include "platform/scherm/berichten.h"
 #include "platform/scherm/boom.h"
 
 namespace plexoran {

@@ -14,9 +14,13 @@ void VoegVeldenToe(QTreeWidgetItem& speler, const Verschil& verschil, Tekstblik 
         if (tekst(verschil.links) == tekst(verschil.rechts))
             continue;
         const bool subgroep = i == Index(Kolom::NBBgr) && !bondslid;
-        new Boomregel(&speler, QStringList(kolom)
-                                   << NaarQString(subgroep ? Subgroepnaam : Kolomnamen[i])
-                                   << tekst(verschil.links) << tekst(verschil.rechts));
+        const QStringList delen{NaarQString(subgroep ? Subgroepnaam : Kolomnamen[i]),
+                                tekst(verschil.links), tekst(verschil.rechts)};
+        auto* regel = new Boomregel(&speler, QStringList(kolom) << delen);
+        const QTreeWidgetItem* koppen = speler.treeWidget()->headerItem();
+        regel->setData(kolom, Qt::AccessibleTextRole,
+                       u"%1, %2: %3, %4: %5"_s.arg(delen[0], koppen->text(kolom + 1), delen[1],
+                                                   koppen->text(kolom + 2), delen[2]));
     }
 }
 

@@ -159,6 +159,11 @@ QVariant Voorbeeldmodel::data(const QModelIndex& plek, int rol) const
             voorbeeld_.IsAan(regel) && (isRegel || voorbeeld_.IsAan(regel, Veld(plek).kolom));
         return aan ? Qt::Checked : Qt::Unchecked;
     }
+    if (rol == Qt::AccessibleTextRole && plek.column() == 0 && !isRegel) {
+        const auto tekst = [](Tekstblik cel) { return cel.empty() ? u"leeg"_s : NaarQString(cel); };
+        const Veldwijziging veld = Veld(plek);
+        return u"%1: %2 wordt %3"_s.arg(Naam(veld.kolom), tekst(veld.oud), tekst(veld.nieuw));
+    }
     if (rol != Qt::DisplayRole && rol != Qt::ToolTipRole)
         return {};
     const QString tekst = isRegel ? Regeltekst(regel, plek.column()) : Veldtekst(plek);

@@ -192,9 +192,9 @@ void frmLedenAdmin::ToonMelding(const QString& tekst)
     const QString gedaan = NaarQString(administratie_.geschiedenis.Bezig());
     statusBar()->clearMessage();
     lblMelding->Toon(!tekst.isEmpty() ? tekst : gedaan.isEmpty() ? u"Opgeslagen"_s : gedaan);
+    Spreek(lblMelding, lblMelding->text());
     lblMelding->show();
     meldtijd_.start(leestijd);
-    Spreek(lblMelding);
 }
 
 /// Why something cannot be done, in place of all that, and aloud.
@@ -203,7 +203,7 @@ void frmLedenAdmin::ToonStatus(const QString& tekst)
     constexpr int leestijd = 8000;
     statusBar()->showMessage(tekst, leestijd);
     if (!tekst.isEmpty())
-        Spreek(statusBar());
+        Spreek(statusBar(), tekst);
 }
 
 } // namespace plexoran

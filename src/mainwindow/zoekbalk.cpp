@@ -142,7 +142,7 @@ void Zoekbalk::VulLijst(Regellijst::Plek plek)
     lblZoek->setText(IsOpen() ? wie + hoeveel : QString());
     txtZoek->setAccessibleDescription(lblZoek->text());
     if (IsOpen())
-        Spreek(lblZoek);
+        Spreek(lblZoek, lblZoek->text());
 }
 
 /// While a change is going on there may be a line of a row that the table no longer has.

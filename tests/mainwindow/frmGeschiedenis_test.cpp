@@ -80,6 +80,7 @@ TEST_F(GeschiedenisTest, EenVerwijderdeSpelerKomtTerugOokNaEenHerstart)
     Terug();
     EXPECT_EQ("Ongedaan gemaakt: Ineke van der Horst-Blaauw verwijderd", Melding());
     EXPECT_TRUE(Label("lblMelding")->isVisible());
+    EXPECT_EQ(Melding(), Label("lblMelding")->accessibleName().toStdString()) << "te horen";
     EXPECT_GE(Label("lblMelding")->width(), Label("lblMelding")->sizeHint().width());
     EXPECT_EQ(oud, suite.Spelers());
     EXPECT_EQ("Aantal regels: 50", Aantal());

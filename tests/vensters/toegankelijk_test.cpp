@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QTreeView>
 
 #include "vensters/rondgang.h"
 
@@ -133,4 +134,54 @@ TEST_F(Toegankelijk, ElkVensterIsTeGebruikenZonderKijken)
     Rondgang(QGuiApplication::primaryScreen(), [](QWidget& venster) {
         EXPECT_EQ(std::set<std::string>(), Onderzoek().Loop(venster));
     });
+}
+
+/// The beginning, now and then how far it is, and the end.
+TEST_F(Toegankelijk, WieNietKijktHoortHoeVerHetWerkIs)
+{
+    const int totInBeeld = std::exchange(frmVoortgang::totInBeeld, 0);
+    frmVoortgang voortgang(u"De spelers worden geteld ..."_s, u"&Stoppen"_s, nullptr);
+    const auto* tekst = voortgang.findChild<QLabel*>(u"lblTekst"_s);
+    std::vector<std::string> gezegd{""};
+    const auto hoor = [&] {
+        if (const auto nu = tekst->accessibleName().toStdString(); nu != gezegd.back())
+            gezegd.push_back(nu);
+    };
+    for (std::size_t i = 0; i <= 100; ++i) {
+        voortgang.Meld(i, 100);
+        hoor();
+    }
+    frmVoortgang::totInBeeld = totInBeeld;
+    voortgang.hide();
+    hoor();
+    EXPECT_EQ((std::vector<std::string>{
+                  "", "De spelers worden geteld ...", "De spelers worden geteld ... 25 %",
+                  "De spelers worden geteld ... 50 %", "De spelers worden geteld ... 75 %",
+                  "De spelers worden geteld ... 100 %", "De spelers worden geteld ... Klaar"}),
+              gezegd);
+}
+
+TEST_F(Toegankelijk, WatErVerschiltWordtHeelGezegd)
+{
+    std::set<std::string> gezegd;
+    Rondgang(QGuiApplication::primaryScreen(), [&](const QWidget& venster) {
+        for (const char* naam : {"lstVoorbeeld", "lstVerschillen", "lstHandelingen"}) {
+            const auto* lijst = venster.findChild<QTreeView*>(QLatin1String(naam));
+            if (lijst == nullptr)
+                continue;
+            for (QModelIndex plek = lijst->model()->index(0, 0); plek.isValid();
+                 plek = lijst->indexBelow(plek)) {
+                for (int kolom = 0; kolom < lijst->model()->columnCount(); ++kolom)
+                    gezegd.insert(plek.siblingAtColumn(kolom)
+                                      .data(Qt::AccessibleTextRole)
+                                      .toString()
+                                      .toStdString());
+            }
+        }
+    });
+    for (const char* tekst : {"Achternaam: Beukering wordt Zeldenrust", "Voornaam: leeg wordt Eva",
+                              "Telef, Hier: 06-00000103, Ander programma: 06-00000999",
+                              "Achternaam, Nu: Nieuwland, In de reservekopie: "})
+        EXPECT_TRUE(gezegd.contains(tekst))
+            << tekst << " en niet " << testing::PrintToString(gezegd);
 }

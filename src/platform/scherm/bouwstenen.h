@@ -1,7 +1,6 @@
 // The parts of which windows are built. Captions stand in the source as they read on the screen.
 #pragma once
 
-#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -112,13 +111,6 @@ class Kortlabel : public QLabel {
                               Ingekort(fontMetrics(), text(), width()), foregroundRole());
     }
 };
-
-/// Has screen readers say what a part tells now, although the focus is elsewhere.
-inline void Spreek(QWidget* deel)
-{
-    QAccessibleEvent gebeurtenis(deel, QAccessible::Alert);
-    QAccessible::updateAccessibility(&gebeurtenis);
-}
 
 [[nodiscard]] inline QPushButton* MaakKnop(const QString& naam, const QString& tekst,
                                            char16_t letter, QWidget* ouder)

@@ -4,6 +4,7 @@
 #include <QProgressBar>
 
 #include <limits>
+#include <utility>
 
 #include "platform/scherm/bouwstenen.h"
 
@@ -39,6 +40,13 @@ frmVoortgang::frmVoortgang(const QString& tekst, const QString& stop, QWidget* o
     sinds_.start();
 }
 
+void frmVoortgang::hideEvent(QHideEvent* gebeurtenis)
+{
+    QProgressDialog::hideEvent(gebeurtenis);
+    Spreek(findChild<QLabel*>(u"lblTekst"_s),
+           labelText() + (gestopt_ ? u" Gestopt"_s : u" Klaar"_s));
+}
+
 bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
 {
     constexpr int delen = 1000; // of the bar; counts may exceed what it can hold
@@ -46,6 +54,9 @@ bool frmVoortgang::Meld(std::size_t gedaan, std::size_t geheel)
         setMaximum(geheel == 0 ? 0 : delen);
         setValue(geheel == 0 ? 0 : static_cast<int>(delen * gedaan / geheel));
         show();
+        if (const int kwart = 4 * value() / delen; std::exchange(kwart_, kwart) != kwart)
+            Spreek(findChild<QLabel*>(u"lblTekst"_s),
+                   kwart <= 0 ? labelText() : u"%1 %2 %"_s.arg(labelText()).arg(25 * kwart));
         QApplication::processEvents();
     }
     return !gestopt_;

@@ -22,7 +22,9 @@ class frmVoortgang : public QProgressDialog {
 
     /// What is done of the whole, 0 where the whole is not known. False once the user wants to
     /// stop.
+    /// Screen readers hear the text, each quarter of the work, and its end.
     bool Meld(std::size_t gedaan, std::size_t geheel);
+    ~frmVoortgang() override { hide(); }
     [[nodiscard]] bool Gestopt() const { return gestopt_; }
     /// The same for a rule; the window must outlive it.
     [[nodiscard]] Voortgang AlsVoortgang() { return std::bind_front(&frmVoortgang::Meld, this); }
@@ -31,9 +33,13 @@ class frmVoortgang : public QProgressDialog {
     /// end: without it the windows behind it would take commands in the middle of the work.
     void reject() override { emit canceled(); }
 
+  protected:
+    void hideEvent(QHideEvent* gebeurtenis) override;
+
   private:
     QElapsedTimer sinds_;
     bool gestopt_ = false;
+    int kwart_ = -1; ///< that was spoken
 };
 
 } // namespace plexoran

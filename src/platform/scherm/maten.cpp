@@ -1,5 +1,6 @@
 #include "platform/scherm/maten.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFontInfo>
 #include <QScreen>
@@ -50,6 +51,13 @@ void ZetInScherm(QWidget* venster, QPoint linksboven, const QWidget& hoofdvenste
     const int onder = vrij.y() + vrij.height() - venster->height() - Kader.height();
     venster->move(std::max(vrij.x(), std::min(linksboven.x(), rechts)),
                   std::max(vrij.y(), std::min(linksboven.y(), onder)));
+}
+
+void Spreek(QWidget* deel, const QString& tekst)
+{
+    deel->setAccessibleName(tekst);
+    QAccessibleEvent roep(deel, QAccessible::Alert);
+    QAccessible::updateAccessibility(&roep);
 }
 
 void Noem(QWidget* widget, const QString& naam, const QString& gesproken)

@@ -42,6 +42,9 @@ void PasInScherm(QWidget* venster, QSize maat);
 /// Moves a window there, or as near as it stays whole on the screen of `hoofdvenster`.
 void ZetInScherm(QWidget* venster, QPoint linksboven, const QWidget& hoofdvenster);
 
+/// Screen readers say it at once, wherever the keys are; it becomes the name of this part.
+void Spreek(QWidget* deel, const QString& tekst);
+
 /// Gives a control its name: for style sheets, tests and, when it has no text of its own, as
 /// `gesproken` for screen readers.
 void Noem(QWidget* widget, const QString& naam, const QString& gesproken = QString());
