@@ -82,13 +82,12 @@ frmToetsen::frmToetsen(QWidget& hoofdvenster) : QDialog(&hoofdvenster)
     for (const auto& [waar, toetsen, wat] : Overige)
         VoegToe(*lstToetsen, waar.toString(), toetsen.toString(), wat.toString());
     lstToetsen->expandAll();
-    for (int kolom = 0; kolom < lstToetsen->columnCount(); ++kolom)
-        lstToetsen->resizeColumnToContents(kolom);
+    lstToetsen->resizeColumnToContents(0);
     lstToetsen->setCurrentItem(lstToetsen->topLevelItem(0));
     auto* cmdSluiten = MaakKnop(u"cmdSluiten"_s, u"Sluiten"_s, u'S', this, &QDialog::accept);
     cmdSluiten->setDefault(true);
     Onderelkaar({{lstToetsen, 1}, Knoppenrij({cmdSluiten})}, this);
-    PasInScherm(this, Maten().Twips(9000, 9000));
+    PasInScherm(this, Maten().Twips(10500, 9000));
     lstToetsen->setFocus();
 }
 
