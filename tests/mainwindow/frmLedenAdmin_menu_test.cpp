@@ -277,12 +277,12 @@ TEST_F(MenuTest, DeToetsenlijstStaatVolEnIsVanDeActiesZelf)
                 regels[kop->text(0).toStdString() + ": " + kop->child(j)->text(0).toStdString()] =
                     kop->child(j)->text(1).toStdString();
         }
-        EXPECT_EQ(
-            (std::vector<std::string>{"Menu Speler", "Menu Bewerken", "Menu Groep", "Menu Lijsten",
-                                      "Menu Beeld", "Menu Extra", "Menu Help", "Knoppen van het hoofdvenster",
-                                      "In de spelers", "Bij het zoeken", "In elke lijst",
-                                      "In elk venster", "Bij de paren", "In het afdrukvoorbeeld"}),
-            plaatsen);
+        EXPECT_EQ((std::vector<std::string>{
+                      "Menu Speler", "Menu Bewerken", "Menu Groep", "Menu Lijsten", "Menu Beeld",
+                      "Menu Extra", "Menu Help", "Menu Gekozen spelers",
+                      "Knoppen van het hoofdvenster", "In de spelers", "Bij het zoeken",
+                      "In elke lijst", "In elk venster", "Bij de paren", "In het afdrukvoorbeeld"}),
+                  plaatsen);
         EXPECT_EQ("Kolommen passend", regels["Menu Beeld: Ctrl+Alt+J"]);
         EXPECT_EQ("Nieuwe Speler toevoegen", regels["Menu Speler: Ctrl+N"]);
         EXPECT_EQ("Ongedaan maken", regels["Menu Bewerken: Ctrl+Z"]);
