@@ -235,7 +235,11 @@ void frmLedenAdmin::VolgBestanden()
 /// Whether another program gave groups other names. A text that ends before its time is not taken.
 bool frmLedenAdmin::VolgGroepsnamen()
 {
-    Groepen groepen = LeesGroepen(administratie_.schijf, administratie_.mappen);
+    Schijf& schijf = administratie_.schijf;
+    Groepen groepen = LeesGroepen(schijf, administratie_.mappen);
+    if (!groepen.bestandstekst &&
+        schijf.Soort(administratie_.mappen.Groepenbestand()) != Padsoort::Niets)
+        wacht_.Vergeet();
     if (!groepen.bestandstekst || groepen.bestandstekst == administratie_.groepen.bestandstekst ||
         groepen.aantal < administratie_.groepen.aantal)
         return false;

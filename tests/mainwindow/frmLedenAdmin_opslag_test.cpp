@@ -864,6 +864,23 @@ TEST_F(Volgen, WatEvenNietTeLezenIsKomtErBijDeVolgendeBlikBij)
     schijf.Vooraf({});
 }
 
+TEST_F(Volgen, GroepsnamenDieEvenNietTeLezenZijnKomenBijDeVolgendeBlik)
+{
+    const auto kijk = [this] {
+        QTimerEvent tik(0);
+        QApplication::sendEvent(venster->findChild<Bestandswacht*>(), &tik);
+    };
+    int keer = 0;
+    schijf.Vooraf([&](const Pad& pad) { return !pad.ends_with("RVDGroepen.txt") || ++keer != 2; });
+    const std::string namen = suite.Groepen();
+    suite.Zet("Spelers/RVDGroepen.txt", "Gr01-Anders" + namen.substr(namen.find("\r\n")));
+    kijk();
+    EXPECT_NE(u"Gr01-Anders"_s, Keus("cmbGr")->itemText(0));
+    kijk();
+    EXPECT_EQ(u"Gr01-Anders"_s, Keus("cmbGr")->itemText(0));
+    schijf.Vooraf({});
+}
+
 TEST_F(Volgen, WatErBijKomtTerwijlEenVensterSluitVerandertGeenAndereSpeler)
 {
     KiesGroep(1);
