@@ -88,10 +88,11 @@ Rijvelden frmDubbelen::Gekozen() const
     return uit;
 }
 
-/// Whether the files are still as the list shows them, and can take the key that stays.
+/// Whether the files are still as the list shows them, and can take the key that stays. Another
+/// program may have put the key into any of them.
 bool frmDubbelen::StaatGoed()
 {
-    vindplaatsen_.Herlees(administratie_.schijf, plaatsen_);
+    LeesPlaatsen();
     if (Plaatsen() != plaatsen_) {
         VulPlaatsen();
         Meld(this, QMessageBox::Information,
@@ -115,16 +116,21 @@ bool frmDubbelen::IsAangevinkt(std::size_t plaats) const
 bool frmDubbelen::IsGewild()
 {
     std::set<Pad> bestanden;
+    bool tweeParen = false;
     for (std::size_t i = 0; i < plaatsen_.size(); ++i) {
-        for (const auto& bestand : plaatsen_[i].bestanden) {
-            if (IsAangevinkt(i))
-                bestanden.insert(bestand.pad);
-        }
+        if (!IsAangevinkt(i))
+            continue;
+        tweeParen = tweeParen || plaatsen_[i].bezwaar == Bezwaar::AnderPaar;
+        for (const auto& bestand : plaatsen_[i].bestanden)
+            bestanden.insert(bestand.pad);
     }
     QString tekst = NaarQString(Naam(Blijft()) + " blijft en " + Naam(Weg()) + " vervalt.");
     if (!bestanden.empty())
         tekst += u" In %1 komt de ene sleutel voor de andere in de plaats."_s.arg(
             Aantal(bestanden.size(), u"bestand"_s, u"bestanden"_s));
+    if (tweeParen)
+        tekst += u"\n\nLet op: wie blijft, staat dan in één bestand in twee paren. Ontbind er "
+                 "daarna een met Paren-onderhoud."_s;
     const Rijvelden gekozen = Gekozen();
     for (const int rij : {Paar()->rij, Paar()->latere}) {
         const Tekst nummer(administratie_.spelers.tabel.Cel(rij, Kolom::NBBnr));

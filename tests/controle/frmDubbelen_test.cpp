@@ -242,6 +242,51 @@ TEST_F(frmDubbelenTest, WatEenAnderProgrammaSchreefWordtEerstGetoond)
     EXPECT_EQ("100001-100004#\r\n", Paren());
 }
 
+/// In a file where it was not, and in one that was not there.
+TEST_F(frmDubbelenTest, OokEenNieuwePlaatsVanDeSleutelWordtEerstGetoond)
+{
+    map.Zet("Parenmap/Gr02-.txt", "100007-100008#\r\n");
+    Open();
+    KiesLinks();
+    map.Zet("Parenmap/Gr02-.txt", "100003-100008#\r\n");
+    ZetZitting("Wo", "N01 100003 - 100002\r\n");
+    wachter.Informatie(
+        u"Een ander programma heeft intussen paren of zittingen gewijzigd. Er is nog niets "
+        "samengevoegd. Kijk na waar de sleutel nu staat, en kies dan weer Samenvoegen."_s);
+    Opdracht("cmdSamenvoegen");
+    EXPECT_EQ(0, opgeslagen);
+    EXPECT_EQ((std::vector<std::string>{"*Paar 100003-100004|Parenmap/Gr01-.txt",
+                                        "*Paar 100003-100008|Parenmap/Gr02-.txt",
+                                        "*Zitting Di: N01|Zittingen/Di/Spelers.txt",
+                                        "*Zitting Wo: N01|Zittingen/Wo/Spelers.txt"}),
+              Plaatsen());
+    VerwachtVraag(u"4 bestanden"_s);
+    Opdracht("cmdSamenvoegen");
+    EXPECT_EQ("100001-100008#\r\n", map.Inhoud("Parenmap/Gr02-.txt"));
+    EXPECT_EQ("N01 100001 - 100002\r\n", map.Inhoud("Zittingen/Wo/Spelers.txt"));
+}
+
+/// Nobody plays in two pairs of one file; who ticks that by hand is told so.
+TEST_F(frmDubbelenTest, EenAnderPaarWordtNietVanzelfGewijzigdEnMetEenVinkNaEenWaarschuwing)
+{
+    map.Zet("Parenmap/Gr01-.txt", "100003-100004#100001-100002#\r\n");
+    Open();
+    KiesLinks();
+    const std::string paar =
+        "Paar 100003-100004 (de sleutel die blijft, staat daar al in een ander paar)|"
+        "Parenmap/Gr01-.txt";
+    EXPECT_EQ(paar, Plaatsen()[0]);
+    VerwachtVraag(u"1 bestand"_s, u"Annuleren"_s);
+    Opdracht("cmdSamenvoegen");
+    Vink("lstPlaatsen", 0, 0);
+    EXPECT_EQ("*" + paar, Plaatsen()[0]);
+    VerwachtVraag(u"2 bestanden"_s, u"OK"_s,
+                  u"\n\nLet op: wie blijft, staat dan in één bestand in twee paren. Ontbind er "
+                  "daarna een met Paren-onderhoud."_s);
+    Opdracht("cmdSamenvoegen");
+    EXPECT_EQ("100001-100004#100001-100002#\r\n", Paren());
+}
+
 /// Until the register is saved both keys are somebody's.
 TEST_F(frmDubbelenTest, EenBestandDatNietGewijzigdKanWordenLaatBeideStaan)
 {
@@ -262,7 +307,7 @@ TEST_F(frmDubbelenTest, EenBestandDatNietGewijzigdKanWordenLaatBeideStaan)
     EXPECT_EQ("N01 100001 - 100002\r\n", Zitting());
 }
 
-/// Who were like the one who went are not looked for, nor are other files read.
+/// Who were like the one who went are not looked for, nor are other files read again.
 TEST_F(frmDubbelenTest, NaHetSamenvoegenAlleenDeBestandenDieGewijzigdZijn)
 {
     ZetZitting("Wo", "N01 100002 - 100009\r\n");
@@ -274,6 +319,8 @@ TEST_F(frmDubbelenTest, NaHetSamenvoegenAlleenDeBestandenDieGewijzigdZijn)
         gelezen += pad + "\n";
         return true;
     });
+    QObject::connect(venster.get(), &frmDubbelen::begint, venster.get(),
+                     [&gelezen] { gelezen.clear(); }); // before that all are
     VerwachtVraag(u"2 bestanden"_s);
     Opdracht("cmdSamenvoegen");
     EXPECT_NE(std::string::npos, gelezen.find("Gr01-.txt"));
