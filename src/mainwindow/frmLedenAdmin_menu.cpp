@@ -42,7 +42,6 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
     static constexpr Eisen Wijzigt{.wijzigt = true};
     static constexpr Eisen Regels{.wijzigt = true, .regels = true};
     static constexpr Eisen Regel{.wijzigt = true, .regels = true, .regel = true};
-    static constexpr Eisen LeesRegel{.regels = true, .regel = true};
     static constexpr Eisen Bond{.wijzigt = true, .importgroep = true};
     static constexpr Eisen Keus{.wijzigt = true, .regel = true};
     static constexpr Eisen LeesKeus{.regel = true};
@@ -62,7 +61,7 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"actOngedaan", u"", "", "", Wijzigt},
         Opdracht{"actOpnieuw", u"", "", "", Wijzigt},
         Opdracht{},
-        Opdracht{"actKopieer", u"&Kopiëren", "Ctrl+C", "", LeesRegel, &Venster::KopieerGekozen},
+        Opdracht{"actKopieer", u"&Kopiëren", "Ctrl+C", "", LeesKeus, &Venster::KopieerGekozen},
         Opdracht{"actZoek", u"&Zoek een speler", "Ctrl+F; /", "", Geen, &Venster::NaarZoeken},
         Opdracht{"mnuGroep", u"Groep"},
         Opdracht{"actKiesGroep", u"&Kies spelergroep", "Ctrl+G", "", Geen, &Venster::NaarGroep},

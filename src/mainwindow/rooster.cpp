@@ -185,6 +185,13 @@ QString Roostervlak::Celtekst(int regel, int kolom) const
     return NaarQString(regel == 0 ? kolomnamen_[plaats] : Cel(regel, plaats));
 }
 
+bool Roostervlak::IsIngekort(int regel, int kolom) const
+{
+    const auto plek = static_cast<std::size_t>(kolom);
+    const Tekstblik cel = Cel(regel, plek);
+    return PasTekst(cel, randen_[plek + 1] - randen_[plek], meter_) != cel;
+}
+
 void Roostervlak::Kies(int regel, std::vector<int> gekozen)
 {
     Tabelvlak::Kies(regel, std::move(gekozen));

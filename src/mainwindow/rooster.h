@@ -63,6 +63,7 @@ class Roostervlak : public Tabelvlak {
     void mouseDoubleClickEvent(QMouseEvent* gebeurtenis) override;
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
     void contextMenuEvent(QContextMenuEvent* gebeurtenis) override;
+    [[nodiscard]] bool IsIngekort(int regel, int kolom) const override;
 
   private:
     [[nodiscard]] double X(double mm) const

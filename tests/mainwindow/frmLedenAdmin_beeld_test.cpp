@@ -2,13 +2,16 @@
 // the buttons folded away, and all of it remembered.
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QScreen>
+#include <QToolTip>
 
 #include <fstream>
 
 #include "mainwindow/venstergeheugen.h"
 #include "mainwindow/vensterproef.h"
+#include "platform/scherm/schildervlak.h"
 #include "platform/schijf/systeempad.h"
 
 using namespace plexoran;
@@ -91,6 +94,29 @@ TEST_F(BeeldTest, EenKolomWordtNietSmallerDanHetMinste)
 {
     Sleep(6, -500);
     EXPECT_NEAR(4 * Maten().PixelsPerMm(), Header(6)->width(), 1);
+}
+
+/// At each width at which a name may or may not fit.
+TEST_F(BeeldTest, WatIsIngekortHeeftEenWenkEnWatErHeelStaatNiet)
+{
+    auto& vlak = dynamic_cast<Roostervlak&>(*Vlak());
+    const Tekstmeter meter = Roostermeter(vlak.font().pixelSize(), Maten().PixelsPerMm());
+    const std::string naam = Cel(3, 6);
+    int ingekort = 0;
+    constexpr int breedten = 60;
+    Kolomkeuzes keuzes{};
+    for (int i = breedten; i > 0; --i) { // a tool tip that goes stays for a moment
+        keuzes[5].breedte = 9 + 0.25 * i;
+        Vind<Rooster>(*venster, "picP0")->Kies(keuzes);
+        const QPoint plek = vlak.Plek(3, 5).center();
+        QHelpEvent vraag(QEvent::ToolTip, plek, vlak.mapToGlobal(plek));
+        qApp->notify(&vlak, &vraag);
+        const bool heel = PasTekst(naam, keuzes[5].breedte, meter) == naam;
+        EXPECT_EQ(heel ? "" : naam, QToolTip::text().toStdString()) << keuzes[5].breedte;
+        ingekort += heel ? 0 : 1;
+    }
+    EXPECT_GT(ingekort, 5);
+    EXPECT_LT(ingekort, breedten - 5);
 }
 
 TEST_F(BeeldTest, EenKlikOpDeRandZonderSlepenVerbergtDeLijnen)

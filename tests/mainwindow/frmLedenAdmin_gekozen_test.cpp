@@ -507,6 +507,16 @@ TEST_F(GekozenTest, CtrlCInDeLijstGeeftDeKolommenZoalsHetRooster)
     EXPECT_EQ("2 spelers als tekst gekopieerd", Melding());
 }
 
+TEST_F(GekozenTest, KopierenUitDeLijstKanOokBijEenLegeGroep)
+{
+    KiesGroep(4);
+    EXPECT_EQ("Kies eerst een regel", Actie("actKopieer")->statusTip().toStdString());
+    Zoek(u"ypeslot"_s);
+    Lijst()->setFocus();
+    Actie("actKopieer")->trigger();
+    EXPECT_EQ("1 speler als tekst gekopieerd", Melding());
+}
+
 TEST_F(GekozenTest, WijzigEnGeschiedenisZijnVanWieInDeLijstAanDeBeurtIs)
 {
     Zoek(u"ypeslot"_s);

@@ -173,16 +173,20 @@ bool Tabelvlak::event(QEvent* gebeurtenis)
     return true;
 }
 
+/// One more letter: texts begin behind the edge.
+bool Tabelvlak::IsIngekort(int regel, int kolom) const
+{
+    return fontMetrics().horizontalAdvance(Celtekst(regel, kolom) + u'A') >
+           Plek(regel, kolom).width();
+}
+
 /// The whole text of the cell there when its column is too narrow for it, else nothing.
 QString Tabelvlak::TeLangeTekst(QPoint plek) const
 {
     const int regel = RegelOp(plek.y());
     for (int kolom = 0; regel > 0 && kolom < Kolommen(); ++kolom) {
-        const QRect cel = Plek(regel, kolom);
-        // One more letter: texts begin behind the edge.
-        const QString tekst = Celtekst(regel, kolom);
-        if (cel.contains(plek) && fontMetrics().horizontalAdvance(tekst + u'A') > cel.width())
-            return tekst;
+        if (Plek(regel, kolom).contains(plek) && IsIngekort(regel, kolom))
+            return Celtekst(regel, kolom);
     }
     return {};
 }

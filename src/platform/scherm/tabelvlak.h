@@ -71,6 +71,8 @@ class Tabelvlak : public QWidget {
     bool event(QEvent* gebeurtenis) override;
     void mousePressEvent(QMouseEvent* gebeurtenis) override;
 
+    /// Whether the column is too narrow for the text there.
+    [[nodiscard]] virtual bool IsIngekort(int regel, int kolom) const;
     [[nodiscard]] double Regelhoogte() const { return Boven(2) - Boven(1); }
     [[nodiscard]] const Schuifkader& Kader() const { return kader_; }
     /// The first and the last line that show in this part, as far as there are lines.
