@@ -27,26 +27,31 @@ int main(int argc, char** argv)
 
     EchteSchijf schijf;
     Exemplaarslot slot(opdrachten->slot.empty() ? Slotbestand() : opdrachten->slot);
-    Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
-    administratie.tweedeplaatsIni = Gebruikersbestand("reservekopie.ini");
-    administratie.vensterIni = Gebruikersbestand("venster.ini");
-    Pad mappenIni = VolledigPad(opdrachten->mappenIni);
-    if (opdrachten->mappenIni.empty()) {
-        administratie.eersteStart = HuidigeOmgeving();
-        mappenIni =
-            StartMappenIni(schijf, administratie.programmamap, administratie.eersteStart->ini);
+    int status = 0;
+    for (bool opnieuw = true; opnieuw;) {
+        Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
+        administratie.tweedeplaatsIni = Gebruikersbestand("reservekopie.ini");
+        administratie.vensterIni = Gebruikersbestand("venster.ini");
+        Pad mappenIni = VolledigPad(opdrachten->mappenIni);
+        if (opdrachten->mappenIni.empty()) {
+            administratie.eersteStart = HuidigeOmgeving();
+            mappenIni =
+                StartMappenIni(schijf, administratie.programmamap, administratie.eersteStart->ini);
+        }
+        frmLedenAdmin venster(administratie);
+        if (const auto eindstatus = venster.Laad(mappenIni, [&slot] { return slot.Neem(); })) {
+            slot.Roep();
+            return *eindstatus;
+        }
+        venster.show();
+        QTimer roep;
+        QObject::connect(&roep, &QTimer::timeout, &venster, [&] {
+            if (slot.IsGeroepen())
+                venster.KomNaarVoren();
+        });
+        roep.start(std::chrono::milliseconds(300));
+        status = QApplication::exec();
+        opnieuw = venster.MoetOpnieuw();
     }
-    frmLedenAdmin venster(administratie);
-    if (const auto eindstatus = venster.Laad(mappenIni, [&slot] { return slot.Neem(); })) {
-        slot.Roep();
-        return *eindstatus;
-    }
-    venster.show();
-    QTimer roep;
-    QObject::connect(&roep, &QTimer::timeout, &venster, [&] {
-        if (slot.IsGeroepen())
-            venster.KomNaarVoren();
-    });
-    roep.start(std::chrono::milliseconds(300));
-    return QApplication::exec();
+    return status;
 }

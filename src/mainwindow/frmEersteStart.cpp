@@ -86,7 +86,9 @@ frmEersteStart::frmEersteStart(Schijf& schijf, const Startomgeving& omgeving, QW
         VoegSuiteToe(open);
     const auto plek = std::ranges::find(suites_, open) - suites_.begin();
     lstSuites->setCurrentRow(open.empty() ? 0 : static_cast<int>(plek));
-    (suites_.empty() ? optNieuw : optBestaand)->setChecked(true);
+    auto* keus = suites_.empty() ? optNieuw : optBestaand;
+    keus->setChecked(true);
+    keus->setFocus();
     ToonKeus();
 }
 

@@ -49,6 +49,8 @@ class frmLedenAdmin : public QMainWindow {
     [[nodiscard]] std::optional<int> Laad(const Pad& mappenIni,
                                           std::function<bool()> eersteExemplaar);
 
+    /// Whether the user closed it to go on with another administration.
+    [[nodiscard]] bool MoetOpnieuw() const { return moetOpnieuw_; }
     /// Over the windows of other programs, also when it was made small.
     void KomNaarVoren();
 
@@ -203,6 +205,7 @@ class frmLedenAdmin : public QMainWindow {
     std::optional<Kolom> volgorde_; ///< by which the lines are sorted; else table order
     QTimer hartslag_{this};
     bool alleenKijken_ = false;
+    bool moetOpnieuw_ = false;
     bool instellingenfoutGemeld_ = false; ///< told once, not at every change of group
 
     QTimer meldtijd_;     ///< how long a message stays

@@ -172,18 +172,21 @@ void frmLedenAdmin::ToonOverzicht()
 
 void frmLedenAdmin::KiesAdministratie()
 {
-    QString tekst =
-        u"Plexoran begint voortaan met de administratie die u koos. Sluit het af en start het "
-        "opnieuw om ermee te werken."_s;
-    if (!MagKiezen(administratie_))
-        tekst = u"U kunt hier geen andere administratie kiezen: er staat een 'Mappen.ini' bij het "
-                "programma, of Plexoran is gestart met --mappen."_s;
-    else if (frmEersteStart keus(administratie_.schijf, *administratie_.eersteStart, this,
-                                 StartMappenIni(administratie_.schijf, administratie_.programmamap,
-                                                administratie_.eersteStart->ini));
-             keus.exec() != QDialog::Accepted)
+    if (!MagKiezen(administratie_)) {
+        Meld(this, QMessageBox::Information,
+             u"U kunt hier geen andere administratie kiezen: er staat een 'Mappen.ini' bij het "
+             "programma, of Plexoran is gestart met --mappen."_s);
         return;
-    Meld(this, QMessageBox::Information, tekst);
+    }
+    frmEersteStart keus(administratie_.schijf, *administratie_.eersteStart, this,
+                        StartMappenIni(administratie_.schijf, administratie_.programmamap,
+                                       administratie_.eersteStart->ini));
+    if (keus.exec() == QDialog::Accepted &&
+        Kies(this, QMessageBox::Question,
+             u"Plexoran begint voortaan met de administratie die u koos. Wat nu open is, blijft "
+             "dat tot u Plexoran opnieuw start."_s,
+             {u"Nu opnieuw starten"_s, u"Later"_s}) == 0)
+        moetOpnieuw_ = close();
 }
 
 void frmLedenAdmin::ZoekDubbelen()

@@ -135,7 +135,7 @@ TEST_F(frmEersteStartTest, NoemtDeDrieManieren)
 TEST_F(frmEersteStartTest, NieuweAdministratieMetAlleenToetsen)
 {
     Open();
-    Deel<QRadioButton>("optNieuw")->setFocus();
+    EXPECT_EQ("optNieuw", venster->focusWidget()->objectName().toStdString());
     EXPECT_EQ("txtClub txtPlaats cmdMap cmdVerder cmdStoppen optNieuw txtClub ", MetTab(7));
     Typ(venster->focusWidget(), u"  Café Zuid "_s);
     EXPECT_EQ(In("Café Zuid").string(), Vak("txtPlaats"));
@@ -577,14 +577,21 @@ TEST_F(Begin, EenAndereAdministratieGeldtVanafDeVolgendeStart)
         ZetSuite(naam);
     ASSERT_TRUE(OnthoudMappenIni(schijf, omgeving.ini, Als("Een") + "\\Mappen.ini"));
     ASSERT_EQ(std::nullopt, Start());
-    wachter.Bedien([](QDialog& dialoog) {
-        KlikRegel(dialoog, "lstSuites", 1);
-        Druk(dialoog, "cmdVerder");
-    });
-    wachter.Informatie(u"Plexoran begint voortaan met de administratie die u koos. Sluit het af en "
-                       "start het opnieuw om ermee te werken."_s);
-    venster->findChild<QAction*>(u"actAdministratie"_s)->trigger();
-    wachter.Klaar();
+    for (const QString& antwoord : {u"Later"_s, u"Nu opnieuw starten"_s}) {
+        wachter.Bedien([](QDialog& dialoog) {
+            KlikRegel(dialoog, "lstSuites", 1);
+            Druk(dialoog, "cmdVerder");
+        });
+        wachter.Verwacht(
+            {.tekst = u"Plexoran begint voortaan met de administratie die u koos. Wat nu open is, "
+                      "blijft dat tot u Plexoran opnieuw start."_s,
+             .antwoord = antwoord,
+             .icoon = QMessageBox::Question,
+             .knoppen = {u"Nu opnieuw starten"_s, u"Later"_s}});
+        venster->findChild<QAction*>(u"actAdministratie"_s)->trigger();
+        wachter.Klaar();
+        EXPECT_EQ(antwoord != u"Later"_s, venster->MoetOpnieuw());
+    }
     EXPECT_EQ(Als("Een") + "\\Spelers", administratie.mappen.SPEMAP);
     ASSERT_EQ(std::nullopt, Start());
     EXPECT_EQ(Als("Twee") + "\\Spelers", administratie.mappen.SPEMAP);
