@@ -181,7 +181,8 @@ Tekst WaaromNiet(const Eisen& eisen, const Opdrachtstand& stand)
     if (stand.knopVerborgen)
         return eisen.importgroep && !stand.importgroep
                    ? "Alleen in de importgroep " + Tekst(stand.importcode)
-                   : "Uitgezet in 'Mappen.ini'";
+               : eisen.keuze ? "Kies deze groep eerst opnieuw bij 'Kies spelergroep'"
+                             : "Uitgezet in 'Mappen.ini'";
     if (eisen.regels && stand.regels == 0)
         return "Deze groep heeft geen spelers";
     return eisen.regel && stand.gekozen == 0 ? "Kies eerst een regel" : "";
