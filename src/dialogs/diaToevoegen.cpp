@@ -7,6 +7,7 @@
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/kopieren.h"
 #include "platform/scherm/schuifblad.h"
 
 namespace plexoran {
@@ -62,6 +63,7 @@ void diaToevoegen::BouwKader(QGroupBox* Frame1)
     Combo1 = MaakKeus(u"Combo1"_s, Label1, Frame1);
     lstN2 = new QListWidget(Frame1);
     Noem(lstN2, u"lstN2"_s, u"Gevonden spelers"_s);
+    LaatKopieren(lstN2);
     lstN2->setUniformItemSizes(true);
     cmdLeesSpelers = MaakKnop(u"cmdLeesSpelers"_s, u"Spelers ophalen uit deze zitting"_s, u'S',
                               this, &diaToevoegen::LeesNamen);

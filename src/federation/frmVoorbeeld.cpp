@@ -47,12 +47,7 @@ void frmVoorbeeld::Bouw()
                                        {Voorbeeldmodel::NBBnr, 1500},
                                        {Voorbeeldmodel::Wie, 3600}})
         lstVoorbeeld->setColumnWidth(kolom, maten.Twips(twips));
-    LaatKopieren(lstVoorbeeld, [this] {
-        QStringList cellen;
-        for (int kolom = 0; kolom < Voorbeeldmodel::AantalKoppen; ++kolom)
-            cellen << lstVoorbeeld->currentIndex().siblingAtColumn(kolom).data().toString();
-        return cellen.join(u'\t');
-    });
+    LaatKopieren(lstVoorbeeld);
     // What does not fit on the line.
     auto* lblRegel = MaakUitleg(u"lblRegel"_s, QString(), this);
     lblRegel->setAlignment(Qt::AlignTop);

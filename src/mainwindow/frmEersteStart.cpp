@@ -11,6 +11,7 @@
 #include "platform/bronnen/instellingenwinkel.h"
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
+#include "platform/scherm/kopieren.h"
 #include "platform/schijf/programma.h"
 
 #ifdef _WIN32
@@ -104,6 +105,7 @@ void frmEersteStart::Bouw(const QString& weg)
     optBestaand = MaakOptie(u"optBestaand"_s, u"Een bestaande administratie kiezen"_s, u'b', this);
     lstSuites = new QListWidget(this);
     Noem(lstSuites, u"lstSuites"_s, u"Gevonden administraties"_s);
+    LaatKopieren(lstSuites);
     lstSuites->setTextElideMode(Qt::ElideMiddle);
     lstSuites->setMinimumHeight(3 * fontMetrics().lineSpacing());
     cmdBladeren =

@@ -85,4 +85,6 @@ TEST_F(Sneltoetsen, ElkeLijstKopieertHaarRegel)
         }
     });
     EXPECT_GT(gezien.size(), 12) << gezien.join(u' ').toStdString();
+    for (const QString& naam : {u"lstSuites"_s, u"lstN2"_s, u"lstVoorbeeld"_s, u"lstDubbelen"_s})
+        EXPECT_TRUE(gezien.contains(naam)) << naam.toStdString();
 }

@@ -21,13 +21,13 @@ void LaatKopieren(QWidget* lijst, const std::function<QString()>& tekst)
     lijst->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-void LaatKopieren(QTreeWidget* lijst)
+void LaatKopieren(QAbstractItemView* lijst)
 {
     LaatKopieren(lijst, [lijst] {
         QStringList cellen;
-        const QTreeWidgetItem* regel = lijst->currentItem();
-        for (int kolom = 0; regel != nullptr && kolom < lijst->columnCount(); ++kolom)
-            cellen << regel->text(kolom);
+        for (QModelIndex cel = lijst->currentIndex().siblingAtColumn(0); cel.isValid();
+             cel = cel.siblingAtColumn(cel.column() + 1))
+            cellen << cel.data().toString();
         return cellen.join(u'\t');
     });
 }
