@@ -188,6 +188,7 @@ class frmLedenAdmin : public QMainWindow {
     void ZoekDubbelen();
     void ZetTerug();
     void ToonToelichting();
+    void ToonHandleiding();
     void Print();
     void StartGatenlijst();
 

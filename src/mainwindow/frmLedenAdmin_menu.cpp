@@ -4,6 +4,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 
+#include "help/frmHandleiding.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "mainwindow/frmToetsen.h"
 #include "platform/scherm/bouwstenen.h"
@@ -112,6 +113,8 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"actMaakScripts", u"", "Ctrl+J", "cmdMaakScripts", {.nooit = true}},
         Opdracht{"mnuHelp", u"Help"},
         Opdracht{"actToelichting", u"", "F1", "cmdToelichting"},
+        Opdracht{"actHandleiding", u"&Handleiding...", "Shift+F1", "", Geen,
+                 &Venster::ToonHandleiding},
         Opdracht{"actToetsen", u"Toet&sen...", "Ctrl+?", "", Geen, &Venster::ToonToetsen},
         Opdracht{"mnuGekozen", u"Gekozen spelers"},
         Opdracht{"actWijzigGekozen", u"&Wijzigen...", "Ctrl+Return; Ctrl+Enter", "", Keus,
@@ -159,6 +162,7 @@ void frmLedenAdmin::BouwMenu()
     BouwKolommenu(findChild<QMenu*>(u"mnuBeeld"_s));
     for (QAction* actie : findChildren<QAction*>())
         connect(actie, &QAction::hovered, this, [=, this] { ToonStatus(actie->statusTip()); });
+    new Hulptoets(administratie_.schijf, this);
     auto* openen = new QShortcut(Qt::Key_F10, this);
     connect(openen, &QShortcut::activated, this,
             [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
@@ -287,6 +291,11 @@ void frmLedenAdmin::keyPressEvent(QKeyEvent* gebeurtenis)
         return;
     }
     QMainWindow::keyPressEvent(gebeurtenis);
+}
+
+void frmLedenAdmin::ToonHandleiding()
+{
+    findChild<Hulptoets*>()->ToonHandleiding(*this);
 }
 
 void frmLedenAdmin::ToonToetsen()

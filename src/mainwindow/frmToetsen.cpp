@@ -41,6 +41,8 @@ constexpr std::array Overige{
           u"De knop of het vak waarin die letter onderstreept is"},
     Toets{Plaatsen[3], u"Enter", u"De knop met een lijn eromheen, en anders de gewone"},
     Toets{Plaatsen[3], u"Escape", u"Sluiten zonder iets op te slaan"},
+    Toets{Plaatsen[3], u"Shift+F1, en F1 in de meeste vensters",
+          u"De handleiding, bij het hoofdstuk van het venster"},
     Toets{Plaatsen[3], u"F10", u"De menu's, in het hoofdvenster"},
     Toets{Plaatsen[4], u"Enter", u"Een paar maken van de twee gekozen spelers"},
     Toets{Plaatsen[4], u"Delete", u"Het gekozen paar ontbinden"},

@@ -24,6 +24,7 @@
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
 #include "federation/frmVoorbeeld.h"
+#include "help/frmHandleiding.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmGeschiedenis.h"
@@ -351,6 +352,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Neem(bezoek, frmToelichting(&hoofdvenster));
     Neem(bezoek, frmUitleg(&hoofdvenster));
     Neem(bezoek, frmToetsen(hoofdvenster));
+    Neem(bezoek, frmHandleiding(administratie.schijf, &hoofdvenster));
     NeemParen(bezoek, administratie, hoofdvenster);
     NeemSorteerlijst(bezoek, hoofdvenster, administratie.spelers.tabel);
     NeemVergelijking(bezoek, hoofdvenster, administratie.spelers.tabel);

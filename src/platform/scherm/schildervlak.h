@@ -61,6 +61,9 @@ class Schildervlak : public Tekenvlak {
                  const QColor& inkt = Qt::black);
 
     [[nodiscard]] const Lettermeter& Meter() const override { return kast_; }
+    /// What it draws with, for what is drawn by others, and its units per millimetre.
+    [[nodiscard]] QPainter& Schilder() const { return schilder_; }
+    [[nodiscard]] double PerMm() const { return perMm_; }
     void Schrijf(double x, double y, const Letter& letter, Tekstblik tekst) override;
     void Lijn(double x1, double y1, double x2, double y2, Kleur kleur, double dikte) override;
 
