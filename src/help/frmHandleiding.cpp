@@ -69,13 +69,17 @@ class Handboek : public QTextDocument {
     void MaakVerwijzingenLeesbaar()
     {
         QTextCursor plek(this);
-        while (!plek.atEnd()) {
-            plek.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
-            if (QTextCharFormat vorm = plek.charFormat(); vorm.isAnchor()) {
+        for (QTextBlock blok = begin(); blok.isValid(); blok = blok.next()) {
+            for (const QTextLayout::FormatRange& deel : blok.textFormats()) {
+                if (!deel.format.isAnchor())
+                    continue;
+                QTextCharFormat vorm = deel.format;
                 vorm.clearForeground();
+                plek.setPosition(blok.position() + deel.start);
+                plek.setPosition(blok.position() + deel.start + deel.length,
+                                 QTextCursor::KeepAnchor);
                 plek.setCharFormat(vorm);
             }
-            plek.clearSelection();
         }
     }
 
