@@ -57,10 +57,14 @@ class Handboek : public QTextDocument {
     {
         const QString licht = u":/docs/"_s + naam.path();
         const QString donker = QString(licht).replace(u".png"_s, u"_donker.png"_s);
-        QImage plaat(donker_ && QFile::exists(donker) ? donker : licht);
+        const QScreen& scherm = *QGuiApplication::primaryScreen();
         constexpr int meest = 640; // fits on paper too
-        const int breed = std::min(meest, QGuiApplication::primaryScreen()->size().width() / 2);
-        plaat.setDevicePixelRatio(std::max(1.0, 1.0 * plaat.width() / breed));
+        const int breed = std::min(meest, scherm.size().width() * 3 / 5);
+        const double fijn = scherm.devicePixelRatio();
+        QImage plaat(donker_ && QFile::exists(donker) ? donker : licht);
+        if (plaat.width() > breed * fijn)
+            plaat = plaat.scaledToWidth(qRound(breed * fijn), Qt::SmoothTransformation);
+        plaat.setDevicePixelRatio(fijn);
         return plaat;
     }
 
@@ -75,6 +79,7 @@ class Handboek : public QTextDocument {
                     continue;
                 QTextCharFormat vorm = deel.format;
                 vorm.clearForeground();
+                vorm.setFontUnderline(true);
                 plek.setPosition(blok.position() + deel.start);
                 plek.setPosition(blok.position() + deel.start + deel.length,
                                  QTextCursor::KeepAnchor);
@@ -143,10 +148,8 @@ void frmHandleiding::Bouw()
 void frmHandleiding::Lees()
 {
     auto* boek = new Handboek(palette(), txtHandleiding);
-    txtHandleiding->setDocument(boek); // which lets go of the one before
+    txtHandleiding->setDocument(boek);
     hoofdstukken_ = boek->vensters;
-    if (lstHoofdstukken->topLevelItemCount() > 0)
-        return;
     QTreeWidgetItem* hoofdstuk = nullptr;
     for (QTextBlock blok = boek->begin(); blok.isValid(); blok = blok.next()) {
         if (const int niveau = blok.blockFormat().headingLevel(); niveau == 2)
@@ -206,18 +209,6 @@ void frmHandleiding::ToonTreffer(qsizetype stap)
     Spreek(lblGevonden, stand);
 }
 
-/// With another theme come other pictures.
-void frmHandleiding::changeEvent(QEvent* gebeurtenis)
-{
-    QDialog::changeEvent(gebeurtenis);
-    if (gebeurtenis->type() != QEvent::PaletteChange)
-        return;
-    const int hier = txtHandleiding->verticalScrollBar()->value();
-    Lees();
-    Zoek();
-    txtHandleiding->verticalScrollBar()->setValue(hier);
-}
-
 /// Black on white, whatever the theme.
 void frmHandleiding::Print()
 {
@@ -248,16 +239,16 @@ void frmHandleiding::Print()
                 teken, this);
 }
 
-Hulptoets::Hulptoets(Schijf& schijf, QWidget* hoofdvenster)
-    : QObject(hoofdvenster), schijf_(schijf), hoofdvenster_(hoofdvenster)
+Hulptoets::Hulptoets(Schijf& schijf, QWidget* hoofdvenster) : QObject(hoofdvenster), schijf_(schijf)
 {
     qApp->installEventFilter(this);
 }
 
 void Hulptoets::ToonHandleiding(const QWidget& voor)
 {
-    QWidget* baas = QApplication::activeModalWidget();
-    QWidget* ouder = baas == nullptr ? hoofdvenster_ : baas;
+    QWidget* ouder = QApplication::activeModalWidget();
+    if (ouder == nullptr)
+        ouder = static_cast<QWidget*>(parent());
     auto* handleiding = ouder->findChild<frmHandleiding*>({}, Qt::FindDirectChildrenOnly);
     if (handleiding == nullptr) {
         handleiding = new frmHandleiding(schijf_, ouder);

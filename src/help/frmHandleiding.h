@@ -25,9 +25,6 @@ class frmHandleiding : public QDialog {
     /// That of this window.
     void ToonVenster(const QString& naam) { ToonHoofdstuk(hoofdstukken_.value(naam)); }
 
-  protected:
-    void changeEvent(QEvent* gebeurtenis) override;
-
   private:
     void Bouw();
     void Lees();
@@ -59,7 +56,6 @@ class Hulptoets : public QObject {
 
   private:
     Schijf& schijf_;
-    QWidget* hoofdvenster_;
 };
 
 } // namespace plexoran

