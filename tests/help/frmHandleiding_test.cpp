@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTimer>
@@ -225,6 +226,7 @@ TEST(Hulptoets, DeHandleidingIsTeGebruikenNaastElkVenster)
     QMessageBox vraag(QMessageBox::Question, u"Plexoran"_s, u"Verwijderen?"_s, QMessageBox::Ok,
                       &hoofd);
     QTimer::singleShot(0, &vraag, [&] {
+        const auto sluit = qScopeGuard([&] { vraag.reject(); }); // also when the test fails
         QTest::keyClick(&vraag, Qt::Key_F1);
         const auto* bij = vraag.findChild<frmHandleiding*>();
         ASSERT_NE(nullptr, bij);
@@ -232,7 +234,6 @@ TEST(Hulptoets, DeHandleidingIsTeGebruikenNaastElkVenster)
         EXPECT_EQ("Wat betekent deze melding?",
                   Vind<QTreeWidget>(*bij, "lstHoofdstukken")->currentItem()->text(0).toStdString());
         gezien = true;
-        vraag.reject();
     });
     vraag.exec();
     EXPECT_TRUE(gezien);
