@@ -1,6 +1,7 @@
 // Finding anyone, in the real window by mouse and keys, on the sample suite.
 #include <QElapsedTimer>
 #include <QPainter>
+#include <QTreeWidget>
 
 #include "mainwindow/vensterproef.h"
 #include "platform/scherm/regellijst.h"

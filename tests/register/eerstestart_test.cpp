@@ -2,6 +2,7 @@
 // administrations on a disk that fails at every step.
 #include "register/eerstestart.h"
 
+#include <algorithm>
 #include <fstream>
 
 #include <gtest/gtest.h>
