@@ -17,8 +17,6 @@ Zoekbalk::Zoekbalk(const Administratie& administratie, QWidget* ouder)
     auto* lblZoekop = MaakLabel(u"lblZoekop"_s, u"Zoek:"_s, this);
     Noem(txtZoek, u"txtZoek"_s, u"Zoek in alle groepen"_s);
     txtZoek->setToolTip(u"Naam, adres, telefoon, nummer, ... in alle groepen (Ctrl+F of /)"_s);
-    txtZoek->setClearButtonEnabled(true);
-    Noem(txtZoek->findChild<QToolButton*>(), u"btnZoek"_s, u"Zoektekst wissen"_s);
     lblZoekop->setBuddy(txtZoek);
     lstZoek->ZetMerken([this](int plaats) { return Regel(plaats).merken; });
     Naastelkaar({lblZoekop, {txtZoek, 2}, {lblZoek, 1}}, this)->setContentsMargins(8, 0, 8, 8);
@@ -161,6 +159,12 @@ Zoekregel Zoekbalk::Regel(int plaats) const
 
 bool Zoekbalk::eventFilter(QObject* object, QEvent* gebeurtenis)
 {
+    // Its picture is looked for in all themes of icons, which a start would have to wait for.
+    if (object == txtZoek && gebeurtenis->type() == QEvent::FocusIn &&
+        !txtZoek->isClearButtonEnabled()) {
+        txtZoek->setClearButtonEnabled(true);
+        Noem(txtZoek->findChild<QToolButton*>(), u"btnZoek"_s, u"Zoektekst wissen"_s);
+    }
     return gebeurtenis->type() == QEvent::KeyPress &&
            Verwerk(object, static_cast<QKeyEvent&>(*gebeurtenis));
 }
