@@ -154,6 +154,7 @@ class frmLedenAdmin : public QMainWindow {
     void DoeGekozen(Gekozenwerk werk);
     template <Gekozenwerk werk> void DoeGekozen() { DoeGekozen(werk); }
     void PrintGekozen();
+    void MaakPaarGekozen();
     void VerwijderGekozen();
 
     // Commands (frmLedenAdmin_opdrachten.cpp)
@@ -182,6 +183,7 @@ class frmLedenAdmin : public QMainWindow {
     void VoegSessiespelersToe();
     void KoppelZwevenden();
     void OnderhoudParen();
+    void OpenParen(const Tekst& groeptekst, const std::vector<int>& rijen);
     void Controleer();
     void ToonOverzicht();
     void KiesAdministratie();

@@ -161,6 +161,24 @@ void frmLedenAdmin::DoeGekozen(Gekozenwerk werk)
     ZetPlek(std::move(plek)); // who is still there
 }
 
+void frmLedenAdmin::MaakPaarGekozen()
+{
+    const std::vector<int> rijen = MagWijzigen() ? TeDoenRijen() : std::vector<int>();
+    if (rijen.empty())
+        return;
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    const auto samen = [&](Kolom kolom) {
+        return tabel.Cel(rijen.front(), kolom) == tabel.Cel(rijen.back(), kolom);
+    };
+    const int groep = Groepnummer(tabel.Cel(rijen.front(), Kolom::Groep));
+    if (rijen.size() == 2 && groep > 0 && samen(Kolom::Groep) && samen(Kolom::NBBgr))
+        OpenParen(administratie_.groepen.Toontekst(groep), rijen);
+    else
+        Meld(this, QMessageBox::Information,
+             u"Een paar bestaat uit twee spelers van dezelfde groep en subgroep. Er is niets "
+             "veranderd. Kies er twee met Ctrl en de muis, of met Shift en de pijltjes."_s);
+}
+
 void frmLedenAdmin::VerwijderGekozen()
 {
     const std::vector<int> rijen = MagWijzigen() ? TeDoenRijen() : std::vector<int>();

@@ -43,7 +43,7 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
     static constexpr Eisen Wijzigt{.wijzigt = true};
     static constexpr Eisen Regels{.wijzigt = true, .regels = true};
     static constexpr Eisen Regel{.wijzigt = true, .regels = true, .regel = true};
-    static constexpr Eisen Bond{.wijzigt = true, .importgroep = true};
+    static constexpr Eisen Bond{.wijzigt = true, .importgroep = true, .gaatErheen = true};
     static constexpr Eisen Keus{.wijzigt = true, .regel = true};
     static constexpr Eisen LeesKeus{.regel = true};
     static constexpr std::array alle{
@@ -74,11 +74,7 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"actVerwGroep", u"", "Ctrl+Shift+Del", "cmdVerwGroep", Wijzigt},
         Opdracht{},
         Opdracht{"actImporteer", u"", "Ctrl+I", "cmdHaalNBBnamen", Bond},
-        Opdracht{"actKoppel",
-                 u"",
-                 "Ctrl+L",
-                 "cmdKoppel",
-                 {.wijzigt = true, .importgroep = true, .keuze = true}},
+        Opdracht{"actKoppel", u"", "Ctrl+L", "cmdKoppel", Bond},
         Opdracht{"mnuLijsten", u"Lijsten"},
         Opdracht{"actSortlijst1", u"Sorteerlijst op &Key", "Ctrl+1", "cmdSortlijst1"},
         Opdracht{"actSortlijst2",
@@ -125,6 +121,8 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
                  &Venster::DoeGekozen<Gekozenwerk::Verplaatsen>},
         Opdracht{"actKopieerGekozen", u"&Kopiëren...", "Ctrl+Shift+K", "", Keus,
                  &Venster::DoeGekozen<Gekozenwerk::Kopieren>},
+        Opdracht{"actPaarGekozen", u"Samen een p&aar...", "Ctrl+Shift+U", "cmdParenOnderhoud", Keus,
+                 &Venster::MaakPaarGekozen},
         Opdracht{"actPrintGekozen", u"P&rinten...", "Ctrl+Shift+P", "", LeesKeus,
                  &Venster::PrintGekozen},
         Opdracht{"actVerwijderGekozen", u"&Verwijderen...", "Shift+Del", "", Keus,
@@ -181,10 +179,14 @@ void frmLedenAdmin::VoegOpdrachtToe(QMenu* menu, const Opdracht& opdracht)
             actie->setShortcuts(
                 QKeySequence::listFromString(QString::fromLatin1(opdracht.toetsen)));
         actie->setCheckable(knop != nullptr && knop->isCheckable());
-        if (knop != nullptr)
-            connect(actie, &QAction::triggered, knop, &QAbstractButton::click);
-        else
+        if (opdracht.doe != nullptr)
             connect(actie, &QAction::triggered, this, opdracht.doe);
+        else
+            connect(actie, &QAction::triggered, this, [=, this, eisen = opdracht.eisen] {
+                if (eisen.gaatErheen && knop->isHidden())
+                    KiesGroep(Groepnummer(administratie_.mappen.DFIMPG) - 1);
+                knop->click();
+            });
     }
     opdrachten_.push_back({actie, &opdracht, knop});
     if (!opdracht.eisen.regel || menu == mnuGekozen)
@@ -242,6 +244,8 @@ void frmLedenAdmin::ToonKopmenu(int kolom, QPoint plek)
 void frmLedenAdmin::WerkOpdrachtenBij()
 {
     const Tekst& importcode = administratie_.mappen.DFIMPG;
+    const bool kanErheen = Groepnummer(importcode) > 0;
+    const bool haalt = BeeldVan(administratie_.mappen, importcode).cmdHaalNBBnamen.value_or(false);
     Opdrachtstand stand{.alleenKijken = alleenKijken_,
                         .regels = picP0->Vlak()->Regels(),
                         .gekozen = static_cast<int>(GekozenRijen().size()),
@@ -253,7 +257,9 @@ void frmLedenAdmin::WerkOpdrachtenBij()
         actie->setStatusTip(reden);
     };
     for (const auto& [actie, opdracht, knop] : opdrachten_) {
-        stand.knopVerborgen = knop != nullptr && knop->isHidden();
+        const bool komtErheen =
+            opdracht->eisen.gaatErheen && kanErheen && (knop != cmdHaalNBBnamen || haalt);
+        stand.knopVerborgen = knop != nullptr && knop->isHidden() && !komtErheen;
         zet(actie, opdracht->eisen);
         if (knop == nullptr)
             continue;

@@ -107,9 +107,7 @@ void frmLedenAdmin::HaalNBBnamen()
     KiesRekenprogramma(administratie_, this);
     frmImportNBB venster(administratie_, importgeheugen_, this);
     venster.exec();
-    // Its last box and the window itself go at once, and a window manager may then give the focus
-    // to nobody.
-    activateWindow();
+    activateWindow(); // it closes with its last box, and a window manager may lose the focus then
     if (!venster.IetsGewijzigd())
         return;
     opslag_.Reserve().Maak("voor import");
@@ -120,7 +118,9 @@ void frmLedenAdmin::VoegSessiespelersToe()
 {
     const Noteer noteer(administratie_.geschiedenis, "Spelerslijst opgehaald");
     diaToevoegen venster(administratie_, this);
-    if (venster.exec() != QDialog::Accepted)
+    const int antwoord = venster.exec();
+    activateWindow(); // as above
+    if (antwoord != QDialog::Accepted)
         return;
     opslag_.Bewaak(venster.NeemVerslag());
     SlaOpEnToon();
@@ -142,6 +142,12 @@ void frmLedenAdmin::KoppelZwevenden()
 
 void frmLedenAdmin::OnderhoudParen()
 {
+    OpenParen(Groeptekst(), {});
+}
+
+/// The pairs of a group; the players in these rows can be made one at once.
+void frmLedenAdmin::OpenParen(const Tekst& groeptekst, const std::vector<int>& rijen)
+{
     if (!IsEersteExemplaar()) {
         close();
         return;
@@ -150,7 +156,9 @@ void frmLedenAdmin::OnderhoudParen()
         return;
     opslag_.Reserve().VoorWijziging(); // the window saves pairs by itself
     opslag_.Reserve().Meld();
-    frmParenOnderhoud(administratie_, Groeptekst(), this).exec();
+    frmParenOnderhoud venster(administratie_, groeptekst, this);
+    venster.Kies(rijen);
+    venster.exec();
     MeldGeschiedenisfout();
 }
 

@@ -179,10 +179,9 @@ Tekst WaaromNiet(const Eisen& eisen, const Opdrachtstand& stand)
     if (eisen.wijzigt && stand.alleenKijken)
         return "U kijkt alleen";
     if (stand.knopVerborgen)
-        return eisen.importgroep && !stand.importgroep
+        return eisen.importgroep && !eisen.gaatErheen && !stand.importgroep
                    ? "Alleen in de importgroep " + Tekst(stand.importcode)
-               : eisen.keuze ? "Kies deze groep eerst opnieuw bij 'Kies spelergroep'"
-                             : "Uitgezet in 'Mappen.ini'";
+                   : "Uitgezet in 'Mappen.ini'";
     if (eisen.regels && stand.regels == 0)
         return "Deze groep heeft geen spelers";
     return eisen.regel && stand.gekozen == 0 ? "Kies eerst een regel" : "";

@@ -95,8 +95,8 @@ struct Eisen {
     bool regels = false; ///< in the group
     bool regel = false;  ///< that is chosen
     bool importgroep = false;
-    bool keuze = false; ///< of the group, even of the one that is shown since the start
-    bool nooit = false; ///< does nothing in this program
+    bool gaatErheen = false; ///< to the import group, from any other
+    bool nooit = false;      ///< does nothing in this program
 };
 struct Opdrachtstand {
     bool alleenKijken = false;

@@ -181,7 +181,12 @@ bool Zoekbalk::Verwerk(const QObject* waar, QKeyEvent& toets)
         emit gevraagd(Huidige(), true);
         return true;
     }
-    if (waar == lstZoek && toets.key() == Qt::Key_Delete) {
+    // Behind the last letter there is nothing else to delete than who was found.
+    const bool achteraan =
+        waar == lstZoek || (txtZoek->cursorPosition() == txtZoek->text().size() &&
+                            !txtZoek->hasSelectedText() && Huidige() > 0);
+    if (toets.key() == Qt::Key_Delete && achteraan && toets.modifiers() == Qt::NoModifier &&
+        !toets.isAutoRepeat()) {
         emit verwijderGevraagd();
         return true;
     }

@@ -47,6 +47,27 @@ frmParenOnderhoud::frmParenOnderhoud(Administratie& administratie, Tekstblik gro
     ZetKnoppen();
 }
 
+void frmParenOnderhoud::Kies(const std::vector<int>& rijen)
+{
+    const Spelertabel& tabel = administratie_.spelers.tabel;
+    Regellijst* lijst = L1;
+    for (const int rij : rijen) {
+        if (lijst == L1) {
+            const Tekst keuze = code_ + Tekst(tabel.Cel(rij, Kolom::NBBgr));
+            const auto plek = std::ranges::find(keuzes_, keuze) - keuzes_.begin();
+            cmbNBBledengr->setCurrentIndex(static_cast<int>(plek));
+            LaadSubgroep();
+        }
+        int regel = L1->Aantal() - 1;
+        while (regel >= 0 && !paren_.Keuze(regel).starts_with(tabel.Cel(rij, Kolom::Key)))
+            --regel;
+        lijst->ZetHuidige(regel);
+        lijst = L2;
+    }
+    if (cmdOKE->isEnabled())
+        cmdOKE->setFocus();
+}
+
 /// The pairs that were shown before are not saved.
 void frmParenOnderhoud::LaadSubgroep()
 {

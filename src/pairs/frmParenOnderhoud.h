@@ -22,6 +22,10 @@ class frmParenOnderhoud : public QDialog {
     /// For the group with which `groeptekst` begins.
     frmParenOnderhoud(Administratie& administratie, Tekstblik groeptekst, QWidget* ouder);
 
+    /// Opens with the group-subgroup of the players in these rows, the first chosen on the left and
+    /// the other on the right; who is in a pair already is not.
+    void Kies(const std::vector<int>& rijen);
+
   private:
     // Building (frmParenOnderhoud_bouw.cpp)
     void Bouw();

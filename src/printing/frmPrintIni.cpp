@@ -79,9 +79,14 @@ QGroupBox* frmPrintIni::BouwKolommen()
                                [this] { lstKeus->selectAll(); });
     auto* cmdSelNone = MaakKnop(u"cmdSelNone"_s, u"Selecteer niets"_s, u'n', this,
                                 [this] { lstKeus->clearSelection(); });
+    auto* cmdTelefoonlijst = MaakKnop(u"cmdTelefoonlijst"_s, u"Telefoonlijst van iedereen"_s, u'l',
+                                      this, &frmPrintIni::KiesTelefoonlijst);
+    cmdTelefoonlijst->setEnabled(!subgroepen_.empty());
     lblBreedte = MaakLabel(u"lblBreedte"_s, QString(), this);
     lblBreedte->setWordWrap(true);
-    Onderelkaar({Label1, {lstKeus, 1}, Naastelkaar({cmdSelAll, cmdSelNone}), lblBreedte}, Frame1);
+    Onderelkaar(
+        {Label1, {lstKeus, 1}, Naastelkaar({cmdSelAll, cmdSelNone}), cmdTelefoonlijst, lblBreedte},
+        Frame1);
     return Frame1;
 }
 
@@ -111,6 +116,15 @@ QLayout* frmPrintIni::BouwRechts()
                         Wit{maten_.Twips(200)},
                         MaakLabel(u"Label4"_s, u"Printuitvoer verkleinen of vergroten:"_s, this),
                         Naastelkaar({Label5, cmbSchaal, cmdPassend, 0})});
+}
+
+/// The list that clubs print most, in one go.
+void frmPrintIni::KiesTelefoonlijst()
+{
+    lstKeus->clearSelection();
+    lstKeus->Kies({0, 1, 2, 3}); // `Voornaam` to `Telef`
+    lstNBBgr->selectAll();
+    cmdOK->setFocus();
 }
 
 void frmPrintIni::PasAan()

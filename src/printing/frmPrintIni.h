@@ -34,6 +34,7 @@ class frmPrintIni : public QDialog {
     void Bouw();
     [[nodiscard]] QGroupBox* BouwKolommen();
     [[nodiscard]] QLayout* BouwRechts();
+    void KiesTelefoonlijst();
     void PasAan();
     void ToonBreedte();
     void Print();

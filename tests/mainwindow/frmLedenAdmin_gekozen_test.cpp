@@ -187,7 +187,8 @@ TEST_F(GekozenTest, HetMenuKomtBijDeRegelOnderDeMuisEnHoudtEenKeusWaarinDieZit)
             namen << actie->objectName();
     }
     EXPECT_EQ(
-        "actWijzigGekozen actVeldGekozen actVerplaatsGekozen actKopieerGekozen actPrintGekozen "
+        "actWijzigGekozen actVeldGekozen actVerplaatsGekozen actKopieerGekozen actPaarGekozen "
+        "actPrintGekozen "
         "actVerwijderGekozen actTekstGekozen actGeschiedenisGekozen",
         namen.join(u' ').toStdString());
     const auto vraagMenu = [&](int regel) {
@@ -450,6 +451,45 @@ TEST_F(GekozenTest, VerwijderenUitDeLijstOverGroepenHeen)
     EXPECT_EQ("niets gevonden", Label("lblZoek")->text().toStdString());
     VerwachtOngedaanIn(oud);
     EXPECT_EQ("2 gevonden", Label("lblZoek")->text().toStdString());
+}
+
+TEST_F(GekozenTest, TweeGekozenSpelersWordenSamenEenPaar)
+{
+    suite.Zet("Spelers/Parenmap/Gr01-A-LIJN.txt", "");
+    const Spelertabel& tabel = administratie.spelers.tabel;
+    const auto rijOp = [&](int regel) {
+        return dynamic_cast<Roostervlak&>(*Vlak()).Rijen()[static_cast<std::size_t>(regel) - 1];
+    };
+    int tweede = 2; // of the same subgroup as the first
+    while (tabel.Cel(rijOp(tweede), Kolom::NBBgr) != tabel.Cel(rijOp(1), Kolom::NBBgr))
+        ++tweede;
+    Klik(1, {});
+    Klik(tweede, Qt::ControlModifier);
+    Doe("actPaarGekozen", [&](QDialog& paren) {
+        const auto regel = [&](const char* lijst) {
+            return Lijstregels(
+                paren, lijst)[static_cast<std::size_t>(Vind<Regellijst>(paren, lijst)->Gekozen())];
+        };
+        EXPECT_EQ("frmParenOnderhoud", paren.objectName().toStdString());
+        EXPECT_TRUE(regel("L1").starts_with(tabel.Cel(rijOp(1), Kolom::Key)));
+        EXPECT_TRUE(regel("L2").starts_with(tabel.Cel(rijOp(tweede), Kolom::Key)));
+        EXPECT_TRUE(Vind<QPushButton>(paren, "cmdOKE")->hasFocus());
+        Druk(paren, "cmdOKE");
+        EXPECT_EQ(1, Vind<Regellijst>(paren, "L3")->Aantal());
+        Druk(paren, "cmdAnnu");
+    });
+    int anders = 1; // of another subgroup
+    while (tabel.Cel(rijOp(anders), Kolom::NBBgr) == tabel.Cel(rijOp(1), Kolom::NBBgr))
+        ++anders;
+    for (const int ander : {0, anders}) { // one player, two who do not belong together
+        Klik(1, {});
+        if (ander > 0)
+            Klik(ander, Qt::ControlModifier);
+        wachter.Verwacht({.tekst = u"Een paar bestaat uit twee spelers van dezelfde groep en "
+                                   "subgroep. Er is niets veranderd. Kies er twee met Ctrl en de "
+                                   "muis, of met Shift en de pijltjes."_s});
+        Doe("actPaarGekozen");
+    }
 }
 
 TEST_F(GekozenTest, PrintenIsVanDeGekozenSpelersAlleen)

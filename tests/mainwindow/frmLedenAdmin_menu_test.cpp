@@ -149,8 +149,6 @@ TEST_F(MenuTest, EenOpdrachtDieNietKanIsGrijsEnZegtWaarom)
     EXPECT_EQ("Kies eerst een regel", Reden(u"actWijzig"_s));
     EXPECT_EQ("Kies eerst een regel", Reden(u"actVerwijder"_s));
     EXPECT_EQ("Kies eerst een regel", Reden(u"actKopieer"_s));
-    EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actImporteer"_s));
-    EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actKoppel"_s));
     EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actSortlijst2"_s));
     EXPECT_EQ("Alleen in de importgroep Gr05-", Reden(u"actVolgorde_18"_s));
     EXPECT_EQ("", Reden(u"actParenOnderhoud"_s));
@@ -164,8 +162,31 @@ TEST_F(MenuTest, EenOpdrachtDieNietKanIsGrijsEnZegtWaarom)
     EXPECT_EQ("Deze groep heeft geen spelers", Reden(u"actWijzig"_s));
     EXPECT_EQ("Deze groep heeft geen spelers", Reden(u"actVerwijderVT"_s));
     KiesGroep(5);
-    EXPECT_EQ("", Reden(u"actImporteer"_s));
     EXPECT_EQ("", Reden(u"actSortlijst2"_s));
+}
+
+TEST_F(MenuTest, DeOpdrachtenVanDeImportgroepGaanErZelfHeen)
+{
+    for (const auto& [actie, dialoog] : {std::pair(u"actImporteer"_s, "frmImportNBB"),
+                                         std::pair(u"actKoppel"_s, "frmKoppelNBBnr")}) {
+        KiesGroep(1);
+        EXPECT_EQ("", Reden(actie));
+        wachter.Bedien([naam = dialoog](QDialog& open) {
+            EXPECT_EQ(naam, open.objectName().toStdString());
+            open.reject();
+        });
+        Actie(actie)->trigger();
+        wachter.Klaar();
+        EXPECT_EQ(5, GetoondeGroep());
+    }
+    KiesGroep(1);
+    administratie.mappen.ODKEYS = "ODNBB4SP";
+    KiesGroep(2);
+    EXPECT_EQ("Uitgezet in 'Mappen.ini'", Reden(u"actImporteer"_s));
+    administratie.mappen.ODKEYS.clear();
+    administratie.mappen.DFIMPG = "Gr5";
+    KiesGroep(1);
+    EXPECT_EQ("Uitgezet in 'Mappen.ini'", Reden(u"actKoppel"_s));
 }
 
 TEST_F(MenuTest, WieOpEenGrijzeRegelStaatLeestOnderaanWaarom)
@@ -186,13 +207,13 @@ TEST_F(MenuTest, WieOpEenGrijzeRegelStaatLeestOnderaanWaarom)
 
 TEST_F(MenuTest, OokDeMuisKrijgtTeLezenWaarom)
 {
-    const QAction* titel = Vind<QMenu>(*venster, "mnuGroep")->menuAction();
+    const QAction* titel = Vind<QMenu>(*venster, "mnuLijsten")->menuAction();
     QTest::mouseClick(venster->menuBar(), Qt::LeftButton, {},
                       venster->menuBar()->actionGeometry(const_cast<QAction*>(titel)).center());
-    auto* menu = Vind<QMenu>(*venster, "mnuGroep");
+    auto* menu = Vind<QMenu>(*venster, "mnuLijsten");
     ASSERT_TRUE(menu->isVisible());
-    QTest::mouseMove(menu, menu->actionGeometry(Actie(u"actKiesGroep"_s)).center());
-    QTest::mouseMove(menu, menu->actionGeometry(Actie(u"actKoppel"_s)).center());
+    QTest::mouseMove(menu, menu->actionGeometry(Actie(u"actSortlijst1"_s)).center());
+    QTest::mouseMove(menu, menu->actionGeometry(Actie(u"actSortlijst2"_s)).center());
     QApplication::processEvents();
     EXPECT_EQ("Alleen in de importgroep Gr05-", Status());
     menu->close();
@@ -200,7 +221,7 @@ TEST_F(MenuTest, OokDeMuisKrijgtTeLezenWaarom)
 
 TEST_F(MenuTest, DeToetsVanEenGrijzeOpdrachtZegtWaaromEnDoetNiets)
 {
-    Druk("Ctrl+L");
+    Druk("Ctrl+2");
     EXPECT_EQ("Alleen in de importgroep Gr05-", Status());
     KiesGroep(4);
     Druk("Ctrl+Del");
@@ -422,7 +443,7 @@ TEST_F(MenuTest, WatGedaanIsStaatOnderaanEnWordtGesproken)
     EXPECT_TRUE(gesproken.contains(u"4 gevonden"_s));
     Schrijf(*venster, "txtZoek", u"oudewortel qq"_s);
     EXPECT_EQ("niets gevonden", gesproken.last().toStdString());
-    Druk("Ctrl+L");
+    Druk("Ctrl+2");
     EXPECT_EQ("Alleen in de importgroep Gr05-", gesproken.last().toStdString());
 }
 

@@ -84,6 +84,29 @@ TEST_F(ZoekTest, EenMenuopdrachtGaatOverWieInDeLijstGekozenIs)
     wachter.Klaar();
 }
 
+TEST_F(ZoekTest, DeleteAchterDeLaatsteLetterVraagtOfWieGevondenIsWegMag)
+{
+    Zoek(u"theo oudewortel"_s);
+    auto* vak = Vind<QLineEdit>(*venster, "txtZoek");
+    vak->setFocus();
+    vak->setCursorPosition(3);
+    QTest::keyClick(vak, Qt::Key_Delete);
+    EXPECT_EQ("the oudewortel", vak->text().toStdString());
+    vak->setText(u"theo oudewortel"_s);
+    vak->selectAll();
+    QTest::keyClick(vak, Qt::Key_Delete);
+    EXPECT_EQ("", vak->text().toStdString());
+    QTest::keyClick(vak, Qt::Key_Delete); // nobody was looked for
+    vak->setText(u"theo oudewortel"_s);
+    vak->setCursorPosition(15);
+    wachter.Verwacht({.tekst = u"\t\tLET OP!"_s,
+                      .antwoord = u"Annuleren"_s,
+                      .titel = u"Verwijderen"_s,
+                      .alleenBegin = true});
+    QTest::keyClick(vak, Qt::Key_Delete);
+    wachter.Klaar();
+}
+
 TEST_F(ZoekTest, WieInDeLijstGekozenIsBlijftHetAlsErEenAnderVoorKomt)
 {
     Zoek(u"oudewortel"_s);

@@ -55,6 +55,7 @@ TEST_F(frmPrintIniTest, DeOpschriften)
                      {"Label7", "Deze groep is leeg"}},
                     {{"cmdSelAll", "Selecteer alles"},
                      {"cmdSelNone", "Selecteer niets"},
+                     {"cmdTelefoonlijst", "Telefoonlijst van iedereen"},
                      {"cmdOK", "Printen..."},
                      {"cmdAnnuleren", "Terug"}},
                     {{"Frame1", "Welke kolommen te printen"}});
@@ -63,8 +64,10 @@ TEST_F(frmPrintIniTest, DeOpschriften)
 TEST_F(frmPrintIniTest, DeTabtoetsVolgtHetOog)
 {
     Lijst("lstNBBgr")->setFocus();
-    EXPECT_EQ("cmbSchaal cmdPassend cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone lstNBBgr ",
-              MetTab(8));
+    EXPECT_EQ(
+        "cmbSchaal cmdPassend cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone cmdTelefoonlijst "
+        "lstNBBgr ",
+        MetTab(9));
 }
 
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
@@ -116,6 +119,16 @@ TEST_F(frmPrintIniTest, OpentMetDeEersteAchtKolommenGekozen)
     EXPECT_FALSE(Lijst("lstNBBgr")->IetsGekozen());
     EXPECT_TRUE(Knop("cmdOK")->isEnabled());
     EXPECT_FALSE(Deel<QLabel>("Label7")->isVisible());
+}
+
+TEST_F(frmPrintIniTest, DeTelefoonlijstIsEenKeusWaarnaEnterPrint)
+{
+    Klik(Knop("cmdTelefoonlijst"));
+    EXPECT_EQ((std::vector<int>{0, 1, 2, 3}), Lijst("lstKeus")->GekozenPlaatsen());
+    EXPECT_EQ((std::vector<int>{0, 1, 2}), Lijst("lstNBBgr")->GekozenPlaatsen());
+    EXPECT_TRUE(Knop("cmdOK")->hasFocus());
+    Open("Gr07-leeg");
+    EXPECT_FALSE(Knop("cmdTelefoonlijst")->isEnabled());
 }
 
 TEST_F(frmPrintIniTest, InDeImportgroepHeetDeLaatsteKolomNBBnr)
