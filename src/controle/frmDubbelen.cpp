@@ -133,6 +133,13 @@ bool frmDubbelen::IsGewild()
                  "daarna een met Paren-onderhoud."_s;
     const Rijvelden gekozen = Gekozen();
     for (const int rij : {Paar()->rij, Paar()->latere}) {
+        const Tekst groep(administratie_.spelers.tabel.Cel(rij, Kolom::Groep));
+        const int nummer = Groepnummer(groep);
+        if (groep != gekozen[Index(Kolom::Groep)])
+            tekst += u"\n\nLet op: wie blijft, staat dan niet meer in groep %1."_s.arg(
+                NaarQString(nummer > 0 ? administratie_.groepen.Toontekst(nummer) : groep));
+    }
+    for (const int rij : {Paar()->rij, Paar()->latere}) {
         const Tekst nummer(administratie_.spelers.tabel.Cel(rij, Kolom::NBBnr));
         if (IsBondslid(rij) && !nummer.empty() &&
             (gekozen[Index(Kolom::Groep)] != administratie_.mappen.DFIMPG ||

@@ -119,19 +119,23 @@ void frmLedenAdmin::BouwStatus()
         label->setSizePolicy(breed, QSizePolicy::Preferred);
         return label;
     };
-    lblSpeler = kort(u"lblSpeler"_s, QSizePolicy::Ignored);
+    // The player as wide as he is; two others share what is left.
+    lblSpeler = kort(u"lblSpeler"_s, QSizePolicy::Preferred);
+    lblSpeler->setMinimumWidth(1);
     lblOngedaan = kort(u"lblOngedaan"_s, QSizePolicy::Ignored);
+    lblOngedaan->setMinimumWidth(maten_.Twips(360));
     lblMelding = kort(u"lblMelding"_s, QSizePolicy::Ignored);
     lblMelding->hide();
     lblGekozen = MaakLabel(u"lblGekozen"_s, {}, this);
     lblOpgeslagen = MaakLabel(u"lblOpgeslagen"_s, {}, this);
-    lblAdministratie = kort(u"lblAdministratie"_s, QSizePolicy::Maximum);
-    lblAdministratie->setMaximumWidth(maten_.Twips(3600));
-    statusBar()->addWidget(lblSpeler, 3);
-    statusBar()->addWidget(lblOngedaan, 2);
-    statusBar()->addWidget(lblMelding, 7);
-    for (QLabel* label : {lblGekozen, lblOpgeslagen, static_cast<QLabel*>(lblAdministratie)})
+    lblAdministratie = kort(u"lblAdministratie"_s, QSizePolicy::Ignored);
+    lblAdministratie->setMinimumWidth(maten_.Twips(360));
+    statusBar()->addWidget(lblSpeler);
+    statusBar()->addWidget(lblOngedaan, 1);
+    statusBar()->addWidget(lblMelding);
+    for (QLabel* label : {lblGekozen, lblOpgeslagen})
         statusBar()->addPermanentWidget(label);
+    statusBar()->addPermanentWidget(lblAdministratie, 1);
     meldtijd_.setSingleShot(true);
     connect(&meldtijd_, &QTimer::timeout, lblMelding, &QWidget::hide);
     connect(picP0->Vlak(), &Tabelvlak::keuzeVeranderd, this, &frmLedenAdmin::ToonGekozene);
@@ -179,6 +183,8 @@ void frmLedenAdmin::ToonAdministratie()
 {
     const QFileInfo ini(Toonpad(administratie_.schijf, administratie_.mappen.bestand));
     lblAdministratie->setText(ini.absoluteDir().dirName());
+    lblAdministratie->setMaximumWidth(
+        std::min(lblAdministratie->sizeHint().width(), maten_.Twips(3600)));
     lblAdministratie->setToolTip(Wenk(QDir::toNativeSeparators(ini.absoluteFilePath())));
     lblAdministratie->setAccessibleName(u"Administratie: "_s + lblAdministratie->text());
 }
@@ -192,6 +198,7 @@ void frmLedenAdmin::ToonMelding(const QString& tekst)
     const QString gedaan = NaarQString(administratie_.geschiedenis.Bezig());
     statusBar()->clearMessage();
     lblMelding->Toon(!tekst.isEmpty() ? tekst : gedaan.isEmpty() ? u"Opgeslagen"_s : gedaan);
+    lblMelding->setMinimumWidth(std::min(lblMelding->sizeHint().width(), width() / 2));
     Spreek(lblMelding, lblMelding->text());
     lblMelding->show();
     meldtijd_.start(leestijd);

@@ -364,6 +364,7 @@ TEST_F(frmDubbelenTest, WatDeVolgendeImportWeerToevoegtWordtGezegd)
     const std::string bosje = "2,100003,Gr05-,J.,,Bos,,,,,,,M,,,,LAAR,1234567\r\n";
     const QString letOp = u"\n\nLet op: NBB-nummer 1234567 staat dan niet meer in groep Gr05-. Is "
                           "het nog lid, dan voegt de volgende import het als nieuwe speler toe."_s;
+    const QString groep = u"\n\nLet op: wie blijft, staat dan niet meer in groep %1."_s;
     for (const int veld : {-1, 0, 15}) {
         ZetSpelers("HKEY=100900\r\n1,100001,Gr01-,Jan,,Bos,,,,,,,M,,,,,\r\n" + bosje);
         Open();
@@ -371,7 +372,9 @@ TEST_F(frmDubbelenTest, WatDeVolgendeImportWeerToevoegtWordtGezegd)
         EXPECT_EQ("Groep|Gr01-|*Gr05-", Inhoud("lstVelden")[0]);
         if (veld >= 0)
             Vink("lstVelden", veld, 1);
-        VerwachtVraag(u"2 bestanden"_s, u"Annuleren"_s, veld < 0 ? QString() : letOp);
+        VerwachtVraag(u"2 bestanden"_s, u"Annuleren"_s,
+                      groep.arg(veld == 0 ? u"Gr05-"_s : u"Gr01-"_s) +
+                          (veld < 0 ? QString() : letOp));
         Opdracht("cmdSamenvoegen");
     }
 }

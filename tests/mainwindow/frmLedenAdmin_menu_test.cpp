@@ -381,6 +381,14 @@ TEST_F(MenuTest, OnderaanStaatDeSpelerEnWatCtrlZZouTerugdraaien)
     EXPECT_TRUE(Label("lblSpeler")->text().startsWith(u"Willem van der Horst, "_s))
         << Label("lblSpeler")->text().toStdString();
     EXPECT_EQ(Label("lblSpeler")->text(), Label("lblSpeler")->toolTip());
+    EXPECT_GE(Label("lblMelding")->width(), Label("lblMelding")->sizeHint().width());
+    Label("lblMelding")->hide();          // in time
+    for (const int breed : {1024, 910}) { // the second on a small screen at 150 %
+        venster->resize(breed, 480);
+        QApplication::processEvents();
+        EXPECT_EQ(breed, venster->width());
+        EXPECT_GE(Label("lblSpeler")->width(), Label("lblSpeler")->sizeHint().width());
+    }
     venster->setWindowModified(true);
     EXPECT_EQ("Niet opgeslagen", Label("lblOpgeslagen")->text().toStdString());
     venster->setWindowModified(false);
