@@ -113,13 +113,13 @@ Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand, T
     const auto gelezen = AlsErIs(schijf.LeesBestand(bestand));
     if (!gelezen)
         return {.gemaakt = Mislukt(gelezen)};
-    const Tekst oud = gelezen->value_or(Tekst());
+    const Tekstblik oud = *gelezen ? Tekstblik(**gelezen) : Tekstblik(); // not copied: it may be all
     if (!IsBlanco(EersteItem(oud)))
         return {};
     Aanmaak uit{.nieuw = std::move(nieuw)};
     if (!IsLeeg(oud)) {
-        uit.inhoud = oud;
-        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand, oud);
+        uit.inhoud = **gelezen;
+        const auto kopie = MaakReservekopie(schijf, spelersmap, bestand, uit.inhoud);
         if (!kopie) {
             uit.gemaakt = Mislukt(kopie);
             return uit;
