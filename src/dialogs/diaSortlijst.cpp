@@ -53,6 +53,15 @@ class Sorteervlak : public Tabelvlak {
         return titels[kolom];
     }
 
+    /// As if every column were bold: rather a tip too many.
+    [[nodiscard]] bool IsIngekort(int regel, int kolom) const override
+    {
+        QFont vet = font();
+        vet.setBold(true);
+        return QFontMetrics(vet).horizontalAdvance(Celtekst(regel, kolom) + u'A') >
+               Plek(regel, kolom).width();
+    }
+
     /// Of the whole list, in pixels.
     [[nodiscard]] QSize Vlakmaat() const
     {

@@ -123,13 +123,13 @@ void frmLedenAdmin::BouwStatus()
     lblSpeler = kort(u"lblSpeler"_s, QSizePolicy::Preferred);
     lblSpeler->setMinimumWidth(1);
     lblOngedaan = kort(u"lblOngedaan"_s, QSizePolicy::Ignored);
-    lblOngedaan->setMinimumWidth(maten_.Twips(360));
+    lblOngedaan->setMinimumWidth(1);
     lblMelding = kort(u"lblMelding"_s, QSizePolicy::Ignored);
     lblMelding->hide();
     lblGekozen = MaakLabel(u"lblGekozen"_s, {}, this);
     lblOpgeslagen = MaakLabel(u"lblOpgeslagen"_s, {}, this);
     lblAdministratie = kort(u"lblAdministratie"_s, QSizePolicy::Ignored);
-    lblAdministratie->setMinimumWidth(maten_.Twips(360));
+    lblAdministratie->setMinimumWidth(1);
     statusBar()->addWidget(lblSpeler);
     statusBar()->addWidget(lblOngedaan, 1);
     statusBar()->addWidget(lblMelding);

@@ -113,7 +113,8 @@ Aanmaak MaakBestand(Schijf& schijf, const Pad& spelersmap, const Pad& bestand, T
     const auto gelezen = AlsErIs(schijf.LeesBestand(bestand));
     if (!gelezen)
         return {.gemaakt = Mislukt(gelezen)};
-    const Tekstblik oud = *gelezen ? Tekstblik(**gelezen) : Tekstblik(); // not copied: it may be all
+    // Not copied: it may be the whole register.
+    const Tekstblik oud = *gelezen ? Tekstblik(**gelezen) : Tekstblik();
     if (!IsBlanco(EersteItem(oud)))
         return {};
     Aanmaak uit{.nieuw = std::move(nieuw)};

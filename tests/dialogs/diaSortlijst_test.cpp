@@ -50,6 +50,15 @@ class diaSortlijstTest : public Dialoogproef<diaSortlijst, Sorteerstand> {
             }});
     }
 
+    /// The tool tip of the first line at a place in widths of the letter A.
+    [[nodiscard]] std::string Wenk(double breedtenA) const
+    {
+        const QPoint plek(qRound(breedtenA * A()),
+                          qRound(1.5 * QFontMetrics(P1()->font()).height()) + 6);
+        QHelpEvent vraag(QEvent::ToolTip, plek, P1()->mapToGlobal(plek));
+        qApp->notify(P1(), &vraag);
+        return QToolTip::text().toStdString();
+    }
     [[nodiscard]] Tabelvlak* P1() const { return Deel<Tabelvlak>("P1"); }
     [[nodiscard]] QScrollBar* Balk() const { return Deel<QScrollBar>("VScroll1"); }
     [[nodiscard]] QScrollBar* Zijbalk() const { return Deel<QScrollBar>("HScroll1"); }
@@ -166,16 +175,24 @@ TEST_F(diaSortlijstTest, EenTeLangeTekstEindigtInPuntjesEnHeeftEenWenk)
         EXPECT_LE(begin + maten.horizontalAdvance(QString::fromStdString(kort)), rechts * A());
     }
 
-    const auto wenk = [this](double breedtenA) {
-        const QPoint plek(qRound(breedtenA * A()),
-                          qRound(1.5 * QFontMetrics(P1()->font()).height()) + 6);
-        QHelpEvent vraag(QEvent::ToolTip, plek, P1()->mapToGlobal(plek));
-        qApp->notify(P1(), &vraag);
-        return QToolTip::text().toStdString();
-    };
-    EXPECT_EQ("", wenk(36)); // "van" fits
-    EXPECT_EQ(lang, wenk(20));
-    EXPECT_EQ(nummer, wenk(95));
+    EXPECT_EQ("", Wenk(36)); // "van" fits
+    EXPECT_EQ(lang, Wenk(20));
+    EXPECT_EQ(nummer, Wenk(95));
+}
+
+TEST_F(diaSortlijstTest, OokEenVetteTekstDieNetTeLangIsHeeftEenWenk)
+{
+    int ingekort = 0;
+    for (std::size_t letters = 4; letters < 60; ++letters) {
+        const std::string groep(letters, 'k'); // wider when bold, unlike G
+        Open(opGroep, true, {"100001,An,,Bos," + groep + ",7"});
+        if (!Geschilderd().at(9).ends_with("...")) // nothing is drawn in the empty cell
+            continue;
+        ++ingekort;
+        const Sorteerranden randen = ZetKolommen(opGroep);
+        EXPECT_EQ(groep, Wenk(static_cast<double>(randen[4] + randen[5]) / 2)) << letters;
+    }
+    EXPECT_GT(ingekort, 5);
 }
 
 TEST_F(diaSortlijstTest, EenRegelMetTeWeinigOfLegeVelden)

@@ -64,6 +64,13 @@ class Huisstijl : public QProxyStyle {
             schilder->fillRect(optie->rect, Focuskleur(optie->palette));
             return;
         }
+#ifdef Q_OS_WIN
+        // There a chosen line is pale with dark text, whatever palette what stands in it goes by.
+        if (wat == CE_ItemViewItem) {
+            QCommonStyle::drawControl(wat, optie, schilder, widget);
+            return;
+        }
+#endif
         QProxyStyle::drawControl(wat, optie, schilder, widget);
         if (wat != CE_MenuItem || !optie->state.testFlag(State_Selected) ||
             optie->state.testFlag(State_Enabled))
@@ -75,6 +82,12 @@ class Huisstijl : public QProxyStyle {
     void drawPrimitive(PrimitiveElement wat, const QStyleOption* optie, QPainter* schilder,
                        const QWidget* widget) const override
     {
+#ifdef Q_OS_WIN
+        if (wat == PE_PanelItemViewItem && optie->state.testFlag(State_Selected)) {
+            schilder->fillRect(optie->rect, optie->palette.brush(QPalette::Highlight));
+            return;
+        }
+#endif
         QProxyStyle::drawPrimitive(wat, optie, schilder, widget);
         const QColor papier = optie->palette.color(QPalette::Base);
         constexpr int middengrijs = 128;
