@@ -124,7 +124,7 @@ void frmLedenAdmin::BouwStatus()
     lblSpeler->setMinimumWidth(1);
     lblOngedaan = kort(u"lblOngedaan"_s, QSizePolicy::Ignored);
     lblOngedaan->setMinimumWidth(1);
-    lblMelding = kort(u"lblMelding"_s, QSizePolicy::Ignored);
+    lblMelding = kort(u"lblMelding"_s, QSizePolicy::Preferred);
     lblMelding->hide();
     lblGekozen = MaakLabel(u"lblGekozen"_s, {}, this);
     lblOpgeslagen = MaakLabel(u"lblOpgeslagen"_s, {}, this);

@@ -46,6 +46,7 @@ void frmLedenAdmin::BouwGekozenmenu()
         else
             vlak->setFocus();
     });
+    connect(picZoek, &Zoekbalk::verlaten, this, &frmLedenAdmin::NaarRooster);
     terug_ = new QShortcut(Qt::Key_Escape, this);
     terug_->setEnabled(false);
     connect(terug_, &QShortcut::activated, this, [this] {

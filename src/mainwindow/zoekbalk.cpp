@@ -165,6 +165,12 @@ bool Zoekbalk::eventFilter(QObject* object, QEvent* gebeurtenis)
         txtZoek->setClearButtonEnabled(true);
         Noem(txtZoek->findChild<QToolButton*>(), u"btnZoek"_s, u"Zoektekst wissen"_s);
     }
+    // Ctrl+Z is for what was done to players, as the line at the foot says, not for what was typed.
+    if (object == txtZoek && gebeurtenis->type() == QEvent::ShortcutOverride) {
+        const auto& toets = static_cast<QKeyEvent&>(*gebeurtenis);
+        gebeurtenis->ignore();
+        return toets.matches(QKeySequence::Undo) || toets.matches(QKeySequence::Redo);
+    }
     return gebeurtenis->type() == QEvent::KeyPress &&
            Verwerk(object, static_cast<QKeyEvent&>(*gebeurtenis));
 }
@@ -191,6 +197,10 @@ bool Zoekbalk::Verwerk(const QObject* waar, QKeyEvent& toets)
         return true;
     }
     if (waar == txtZoek) {
+        if (toets.key() == Qt::Key_Escape && !IsOpen()) {
+            emit verlaten();
+            return true;
+        }
         if (toets.key() != Qt::Key_Down || lstZoek->Aantal() == 0)
             return false;
         lstZoek->setFocus();

@@ -38,6 +38,7 @@ class Zoekbalk : public QWidget {
     void aangeklikt(int rij);
     void gevraagd(int rij, bool wijzigen); ///< with Enter, or to change him
     void verwijderGevraagd();
+    void verlaten(); ///< by Escape, with nothing to search for
 
   protected:
     bool eventFilter(QObject* object, QEvent* gebeurtenis) override;

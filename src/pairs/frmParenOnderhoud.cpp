@@ -141,14 +141,14 @@ void frmParenOnderhoud::ZetKnoppen()
 
 void frmParenOnderhoud::MaakPaar()
 {
-    const bool vanafToetsen = L2->hasFocus();
+    const bool vanafToetsen = L2->hasFocus() || cmdOKE->hasFocus();
     const int paar = paren_.MaakPaar(L1->Gekozen(), L2->Gekozen());
     VulParenlijst(Regellijst::Plek::Behouden);
     ToonAantalParen();
     VulSpelerslijsten(Regellijst::Plek::Behouden);
     L3->ZetHuidige(paar);
     // The button went grey; the next pair begins with its first player.
-    if (vanafToetsen || cmdOKE->hasFocus() || focusWidget() == nullptr)
+    if (vanafToetsen || focusWidget() == nullptr)
         L1->setFocus();
 }
 

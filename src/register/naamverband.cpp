@@ -66,6 +66,11 @@ bool ZijnAnderen(const Wie& een, const Wie& ander)
             (een.afgekort || ander.afgekort || een.voor != ander.voor));
 }
 
+bool IsJunior(const Tekst& woorden)
+{
+    return woorden.find(" JR ") != Tekst::npos || woorden.find(" JUNIOR ") != Tekst::npos;
+}
+
 /// Kees is Cees.
 char Beginletter(const Wie& wie)
 {
@@ -83,7 +88,10 @@ Wie WieIs(const Spelertabel& tabel, int rij)
     uit.gespeld = VolleNaam(tabel, rij);
     const Tekst vol = KaleWoorden(uit.gespeld) + ' ';
     uit.vol = MerkVan(vol);
-    uit.junior = vol.find(" JR ") != Tekst::npos || vol.find(" JUNIOR ") != Tekst::npos;
+    uit.junior = IsJunior(vol);
+    for (const Kolom vrij : {Kolom::Div1, Kolom::Div2})
+        uit.junior =
+            uit.junior || (!cel(vrij).empty() && IsJunior(' ' + KaleWoorden(cel(vrij)) + ' '));
     uit.groep = MerkVan(tabel.Cel(rij, Kolom::Groep));
     uit.geslacht = Hoofdletters(cel(Kolom::MV));
     uit.voor = KaleWoorden(cel(Kolom::Voornaam));

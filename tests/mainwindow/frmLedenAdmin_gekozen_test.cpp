@@ -476,6 +476,7 @@ TEST_F(GekozenTest, TweeGekozenSpelersWordenSamenEenPaar)
         EXPECT_TRUE(Vind<QPushButton>(paren, "cmdOKE")->hasFocus());
         Druk(paren, "cmdOKE");
         EXPECT_EQ(1, Vind<Regellijst>(paren, "L3")->Aantal());
+        EXPECT_TRUE(Vind<Regellijst>(paren, "L1")->hasFocus());
         Druk(paren, "cmdAnnu");
     });
     int anders = 1; // of another subgroup

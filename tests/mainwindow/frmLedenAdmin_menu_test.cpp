@@ -376,7 +376,19 @@ TEST_F(MenuTest, OnderaanStaatDeSpelerEnWatCtrlZZouTerugdraaien)
     EXPECT_EQ("Opgeslagen", Label("lblOpgeslagen")->text().toStdString());
     VoegToe(u"Nieuweling"_s);
     EXPECT_EQ("Ctrl+Z: Nieuweling toegevoegd", Label("lblOngedaan")->text().toStdString());
+    const auto naastElkaar = [this] {
+        QApplication::processEvents();
+        int rechts = 0;
+        for (const char* deel : {"lblSpeler", "lblOngedaan", "lblMelding", "lblGekozen",
+                                 "lblOpgeslagen", "lblAdministratie"}) {
+            EXPECT_LE(rechts, Label(deel)->x()) << deel;
+            rechts = Label(deel)->geometry().right() + 1;
+        }
+        EXPECT_LE(rechts, venster->width());
+    };
+    naastElkaar();
     KiesRegel(1);
+    naastElkaar();
     EXPECT_EQ("1 gekozen", Label("lblGekozen")->text().toStdString());
     EXPECT_TRUE(Label("lblSpeler")->text().startsWith(u"Willem van der Horst, "_s))
         << Label("lblSpeler")->text().toStdString();

@@ -309,6 +309,28 @@ TEST_F(ZoekTest, NaOngedaanMakenEnWijzigingVanBuitenIsHetAntwoordBij)
     EXPECT_EQ("1 gevonden", Gevonden());
 }
 
+TEST_F(ZoekTest, CtrlZInHetVakGaatOverDeSpelersEnEscapeUitHetLegeVakNaarHetRooster)
+{
+    const std::string oud = suite.Spelers();
+    Zoek(u"theo oudewortel"_s);
+    Vak()->setFocus();
+    wachter.Verwacht({.tekst = u"\t\tLET OP!"_s, .titel = u"Verwijderen"_s, .alleenBegin = true});
+    InVak(Qt::Key_Delete);
+    wachter.Klaar();
+    ASSERT_NE(oud, suite.Spelers());
+    venster->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+    Vak()->setFocus();
+    QTest::keyClick(Vak(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(oud, suite.Spelers());
+    EXPECT_EQ("theo oudewortel", Vak()->text().toStdString());
+    QTest::keyClick(Vak(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_NE(oud, suite.Spelers());
+    Vak()->clear();
+    QTest::keyClick(Vak(), Qt::Key_Escape);
+    EXPECT_TRUE(Vlak()->hasFocus());
+}
+
 TEST_F(ZoekTest, WieInEenGroepStaatDieNietBestaatWordtGevondenMaarNietGetoond)
 {
     std::string tekst = suite.Spelers();

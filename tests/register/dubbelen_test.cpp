@@ -20,6 +20,7 @@ struct Speler {
     Tekst nbbnr{};
     Tekst groep = "Gr01-";
     Tekst geslacht = "M";
+    Tekst div2{};
 };
 
 /// With the keys 100001 and up.
@@ -31,7 +32,7 @@ Spelertabel Tabel(const std::vector<Speler>& spelers)
         const Tekst nr = std::to_string(++nummer);
         tekst += nr + "," + std::to_string(100000 + nummer) + "," + wie.groep + "," + wie.voornaam +
                  "," + wie.tusv + "," + wie.achternaam + "," + wie.telefoon + "," + wie.mail +
-                 ",,,,," + wie.geslacht + ",,,,," + wie.nbbnr + "\r\n";
+                 ",,,,," + wie.geslacht + ",," + wie.div2 + ",,," + wie.nbbnr + "\r\n";
     }
     return SpelersUit(tekst).tabel.value();
 }
@@ -168,6 +169,8 @@ TEST(Dubbelen, VaderEnZoonZijnGeenDubbel)
          {Speler{"Jan jr.", "", "Bos", "", mail}, Speler{"Jan", "", "Bos jr", "", mail},
           Speler{"J.", "", "Bos Junior", "", mail}})
         EXPECT_EQ("", Gevonden({{"Jan", "", "Bos", "", mail}, zoon})) << zoon.voornaam;
+    EXPECT_EQ("", Gevonden({{"Jan", "", "Bos", "", mail, "", "Gr01-", "M", "senior"},
+                            {"Jan", "", "Bos", "", mail, "", "Gr01-", "M", "is de junior."}}));
     EXPECT_EQ("1-2 nummer\n", Gevonden({{"Jan", "", "Bos", "", "", "1234567"},
                                         {"Jan jr.", "", "Bos", "", "", "1234567"}}));
     EXPECT_EQ("1-2 mail voorletter\n",
