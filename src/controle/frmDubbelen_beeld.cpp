@@ -175,6 +175,8 @@ void frmDubbelen::VulVelden()
             lstVelden, {NaarQString(subgroep ? Subgroepnaam : Kolomnamen[i]), een, ander});
         if (een == ander)
             continue;
+        veld->setData(KolomVeld, Qt::AccessibleTextRole,
+                      u"%1, links: %2, rechts: %3"_s.arg(veld->text(KolomVeld), een, ander));
         // The next import looks for a member in his group, by his number.
         const bool vanBond =
             kolom == Kolom::Groep || kolom == Kolom::NBBgr || kolom == Kolom::NBBnr;

@@ -204,12 +204,11 @@ void frmImportNBB::MeldUitkomst(const Tekst& naam, const Ledenlezing& lezing,
             << u"Aantal tekens dat het spelerbestand niet kent en dat is vervangen door een teken "
                "dat erop lijkt, of is weggelaten: %1\r\n"_s.arg(lezing.vervangenTekens);
     if (!delen.isEmpty())
-        MeldLijst(
-            this, QMessageBox::Information,
-            u"Niet alles uit '%1' is zo overgenomen als het er staat; de rest is geïmporteerd. "
-            "Verander het zo nodig in het rekenprogramma en importeer opnieuw.\r\n\r\n"_s.arg(
-                NaarQString(naam)) +
-                delen.join(u"\r\n"_s));
+        MeldLijst(this, QMessageBox::Information,
+                  u"Niet alles uit '%1' is zo overgenomen als het er staat; de rest wel. "
+                  "Verander het zo nodig in het rekenprogramma en importeer opnieuw.\r\n\r\n"_s.arg(
+                      NaarQString(naam)) +
+                      delen.join(u"\r\n"_s));
 }
 
 void frmImportNBB::MeldAfgebroken(const Tekst& naam, Samenvoegfout fout)

@@ -1,6 +1,7 @@
 #include "federation/frmVoorbeeld.h"
 
 #include <QHeaderView>
+#include <QShortcut>
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"
@@ -40,6 +41,15 @@ void frmVoorbeeld::Bouw()
     lstVoorbeeld->setUniformRowHeights(true);
     lstVoorbeeld->header()->setSortIndicator(-1, Qt::AscendingOrder);
     lstVoorbeeld->setSortingEnabled(true);
+    for (int kolom = 0; kolom < model_->columnCount({}); ++kolom)
+        connect(new QShortcut(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kolom), this),
+                &QShortcut::activated, this, [this, kolom] {
+                    const auto* kop = lstVoorbeeld->header();
+                    const bool weer = kop->sortIndicatorSection() == kolom &&
+                                      kop->sortIndicatorOrder() == Qt::AscendingOrder;
+                    lstVoorbeeld->sortByColumn(kolom,
+                                               weer ? Qt::DescendingOrder : Qt::AscendingOrder);
+                });
     lstVoorbeeld->setToolTip(
         u"Zonder vinkje gaat een regel of een gegeven niet mee; de spatiebalk zet het vinkje"_s);
     const Maten maten;

@@ -102,7 +102,7 @@ void frmEersteStart::Bouw(const QString& weg)
                    u"Plexoran werkt met een administratie: een map met de spelers van uw "
                    "club en een bestand 'Mappen.ini'. Hoe wilt u beginnen?"_s,
                    this);
-    optBestaand = MaakOptie(u"optBestaand"_s, u"Een bestaande administratie kiezen"_s, u'b', this);
+    optBestaand = MaakOptie(u"optBestaand"_s, u"Een bestaande suite kiezen"_s, u'b', this);
     lstSuites = new QListWidget(this);
     Noem(lstSuites, u"lstSuites"_s, u"Gevonden administraties"_s);
     LaatKopieren(lstSuites);

@@ -80,6 +80,8 @@ void frmLedenAdmin::ToonKnoppen(bool tonen)
     if (!tonen && knoppen_->isAncestorOf(focusWidget()))
         NaarRooster();
     knoppen_->setVisible(tonen || picZoek->IsOpen());
+    if (cmbGr->currentIndex() >= 0) // not while it is being built
+        WerkOpdrachtenBij();
     geheugen_.ZetAan(actKnoppen->objectName(), tonen);
 }
 

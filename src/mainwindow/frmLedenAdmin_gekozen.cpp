@@ -63,6 +63,7 @@ void frmLedenAdmin::OpenZoeken(bool open)
     onderblad_->setCurrentIndex(open ? 1 : 0);
     knoppen_->setVisible(open || actKnoppen->isChecked());
     terug_->setEnabled(open);
+    WerkOpdrachtenBij();
 }
 
 /// False when he is in a group that is none of the fifty, after saying so.

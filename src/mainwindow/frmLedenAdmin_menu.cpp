@@ -41,7 +41,6 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
     using Venster = frmLedenAdmin;
     static constexpr Eisen Geen{};
     static constexpr Eisen Wijzigt{.wijzigt = true};
-    static constexpr Eisen Regels{.wijzigt = true, .regels = true};
     static constexpr Eisen Regel{.wijzigt = true, .regels = true, .regel = true};
     static constexpr Eisen Bond{.wijzigt = true, .importgroep = true, .gaatErheen = true};
     static constexpr Eisen Keus{.wijzigt = true, .regel = true};
@@ -69,8 +68,11 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"actGroepsnamen", u"", "Ctrl+Shift+G", "cmdMaakGrNamen", Wijzigt},
         Opdracht{"actPrint", u"&Print deze groep...", "Ctrl+P", "cmdPrint"},
         Opdracht{},
-        Opdracht{"actVerwijderVT", u"Ver&wijder regels van/tot...", "Ctrl+Del", "cmdVerwijderVT",
-                 Regels},
+        Opdracht{"actVerwijderVT",
+                 u"Ver&wijder regels van/tot...",
+                 "Ctrl+Del",
+                 "cmdVerwijderVT",
+                 {.wijzigt = true, .regels = true, .keuzelijsten = true}},
         Opdracht{"actVerwGroep", u"", "Ctrl+Shift+Del", "cmdVerwGroep", Wijzigt},
         Opdracht{},
         Opdracht{"actImporteer", u"", "Ctrl+I", "cmdHaalNBBnamen", Bond},
@@ -250,7 +252,8 @@ void frmLedenAdmin::WerkOpdrachtenBij()
                         .regels = picP0->Vlak()->Regels(),
                         .gekozen = static_cast<int>(GekozenRijen().size()),
                         .importgroep = CodeUit(Groeptekst()) == importcode,
-                        .importcode = importcode};
+                        .importcode = importcode,
+                        .keuzelijsten = cmbVerwVan->isVisibleTo(this)};
     const auto zet = [&](QAction* actie, const Eisen& eisen) {
         const QString reden = NaarQString(WaaromNiet(eisen, stand));
         actie->setEnabled(reden.isEmpty());

@@ -235,7 +235,9 @@ void frmLedenAdmin::Print()
 {
     const Tekst groeptekst = Groeptekst();
     const Groepsbeeld beeld = BeeldVan(administratie_.mappen, CodeUit(groeptekst));
-    frmPrintIni(administratie_, groeptekst, beeld.kolomnamen, this).exec();
+    // In the order that is shown, where the list is not sorted by surname.
+    const auto rijen = volgorde_ ? std::optional(picP0->Vlak()->Rijen()) : std::nullopt;
+    frmPrintIni(administratie_, groeptekst, beeld.kolomnamen, this, Getalnotatie(), rijen).exec();
 }
 
 void frmLedenAdmin::StartGatenlijst()

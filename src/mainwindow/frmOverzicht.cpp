@@ -113,6 +113,7 @@ void frmOverzicht::Bouw()
     connect(lstOverzicht, &QTreeWidget::itemClicked, this, &frmOverzicht::Kies);
     // Not what the list calls activated: on some desktops that is a click too.
     auto* actToon = new QAction(u"&Tonen wie het zijn"_s, lstOverzicht);
+    actToon->setObjectName(u"actToonWie"_s);
     actToon->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
     actToon->setShortcutContext(Qt::WidgetShortcut);
     connect(actToon, &QAction::triggered, this, [this] { Kies(lstOverzicht->currentItem()); });

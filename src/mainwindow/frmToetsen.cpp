@@ -12,9 +12,10 @@ namespace {
 using Toets = std::array<QStringView, 3>; // where it works, what it is, what it does
 
 /// Those that are no command of a menu, by the place where they work.
-constexpr std::array<QStringView, 6> Plaatsen{u"In de spelers", u"Bij het zoeken",
-                                              u"In elke lijst", u"In elk venster",
-                                              u"Bij de paren",  u"In het afdrukvoorbeeld"};
+constexpr std::array<QStringView, 9> Plaatsen{
+    u"In de spelers",         u"Bij het zoeken",   u"In elke lijst",
+    u"In elk venster",        u"Bij de paren",     u"In het afdrukvoorbeeld",
+    u"Bij een import vooraf", u"In het overzicht", u"In de handleiding"};
 constexpr std::array Overige{
     Toets{Plaatsen[0], u"↑, ↓, Page Up, Page Down, Home, End", u"Naar een andere regel"},
     Toets{Plaatsen[0], u"←, →", u"De kolommen verschuiven"},
@@ -26,6 +27,7 @@ constexpr std::array Overige{
     Toets{Plaatsen[0], u"Ctrl+spatie", u"Deze speler erbij kiezen, of weer niet"},
     Toets{Plaatsen[0], u"Ctrl+A", u"Alle spelers kiezen"},
     Toets{Plaatsen[1], u"↓", u"Naar wie gevonden is"},
+    Toets{Plaatsen[1], u"Shift met ↑ of ↓, Ctrl+spatie, Ctrl+A", u"Meer gevonden spelers kiezen"},
     Toets{Plaatsen[1], u"Enter", u"Naar de gevonden speler"},
     Toets{Plaatsen[1], u"Ctrl+Enter of F2", u"De gevonden speler wijzigen"},
     Toets{Plaatsen[1], u"Delete", u"De gekozen gevonden spelers verwijderen, na een vraag"},
@@ -50,7 +52,12 @@ constexpr std::array Overige{
     Toets{Plaatsen[5], u"Page Up, Page Down", u"Het vorige of het volgende blad"},
     Toets{Plaatsen[5], u"Home, End", u"Het eerste of het laatste blad"},
     Toets{Plaatsen[5], u"↑, ↓, ←, →", u"Het blad verschuiven"},
-    Toets{Plaatsen[5], u"Ctrl++, Ctrl+-, Ctrl+0", u"Groter, kleiner, weer op 100 %"}};
+    Toets{Plaatsen[5], u"Ctrl++, Ctrl+-, Ctrl+0", u"Groter, kleiner, weer op 100 %"},
+    Toets{Plaatsen[6], u"Ctrl+1 tot en met Ctrl+4",
+          u"De regels sorteren op die kolom, of andersom"},
+    Toets{Plaatsen[7], u"Enter", u"Tonen om wie het gaat"},
+    Toets{Plaatsen[8], u"Ctrl+F", u"In de handleiding zoeken"},
+    Toets{Plaatsen[8], u"Ctrl++, Ctrl+-, Ctrl+0", u"Grotere of kleinere letters, weer gewone"}};
 
 /// Below the heading of where it works.
 void VoegToe(QTreeWidget& lijst, const QString& waar, const QString& toetsen, const QString& wat)

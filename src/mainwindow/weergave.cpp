@@ -184,6 +184,8 @@ Tekst WaaromNiet(const Eisen& eisen, const Opdrachtstand& stand)
                    : "Uitgezet in 'Mappen.ini'";
     if (eisen.regels && stand.regels == 0)
         return "Deze groep heeft geen spelers";
+    if (eisen.keuzelijsten && !stand.keuzelijsten)
+        return "De regels kiest u bij de knoppen: F9, of Escape bij het zoeken";
     return eisen.regel && stand.gekozen == 0 ? "Kies eerst een regel" : "";
 }
 

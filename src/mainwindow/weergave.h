@@ -95,8 +95,9 @@ struct Eisen {
     bool regels = false; ///< in the group
     bool regel = false;  ///< that is chosen
     bool importgroep = false;
-    bool gaatErheen = false; ///< to the import group, from any other
-    bool nooit = false;      ///< does nothing in this program
+    bool keuzelijsten = false; ///< in sight, of which lines it is about
+    bool gaatErheen = false;   ///< to the import group, from any other
+    bool nooit = false;        ///< does nothing in this program
 };
 struct Opdrachtstand {
     bool alleenKijken = false;
@@ -105,6 +106,7 @@ struct Opdrachtstand {
     bool importgroep = false;
     Tekstblik importcode{};
     bool knopVerborgen = false; ///< the button of the command
+    bool keuzelijsten = true;
 };
 
 /// Why a command cannot be used now; empty when it can.

@@ -59,6 +59,7 @@ class frmDubbelenTest : public Dialoogproef<frmDubbelen, Clubstand> {
         for (std::string& regel : uit) {
             const auto begin = regel.find(map.Weg().string());
             regel.erase(begin, map.Weg().string().size() + 1);
+            std::ranges::replace(regel, '\\', '/'); // as Windows writes it
         }
         return uit;
     }

@@ -159,9 +159,9 @@ TEST_F(frmVoorbeeldTest, ImporteertWatErStondMetDeVraagEnDeBerichtenVanDeImport)
     wachter.Waarschuwing(
         u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nGast,,Heer,,,,,,,M,\r\n"_s);
     VerwachtAantallen(3, 1);
-    wachter.Begin(u"Niet alles uit 'Maandag.csv' is zo overgenomen als het er staat; de rest is "
-                  "geïmporteerd."_s,
-                  QMessageBox::Information);
+    wachter.Begin(
+        u"Niet alles uit 'Maandag.csv' is zo overgenomen als het er staat; de rest wel."_s,
+        QMessageBox::Information);
     Importeer();
     const std::string bekeken = suite.Spelers();
     EXPECT_EQ("Gr05-,Eva,,Nieuwland,,,Pad 1,,Ede,,V,,,,MAANDAG,771", Speler("100172"));
@@ -315,7 +315,7 @@ TEST_F(frmVoorbeeldTest, OokAlsErNietsVerandertKomenDeGeweigerdeRegels)
     const QString zonderNummer =
         u"Niet verwerkte spelers ivm ontbrekend NBBnummer!\r\nGast,,Heer,,,,,,,M,\r\n"_s;
     const QString overgeslagen =
-        u"Niet alles uit 'Club.csv' is zo overgenomen als het er staat; de rest is geïmporteerd. "
+        u"Niet alles uit 'Club.csv' is zo overgenomen als het er staat; de rest wel. "
         "Verander het zo nodig in het rekenprogramma en importeer opnieuw.\r\n\r\n1 lid "
         "overgeslagen, omdat het NBB-nummer al voorkomt: eerder in dit bestand, of anders "
         "geschreven in groep 'Gr05-':\r\nEva,,Een,,,,,,,V,0771\r\n\r\n1 regel overgeslagen, omdat "

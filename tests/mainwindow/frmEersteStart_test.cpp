@@ -121,7 +121,7 @@ TEST_F(frmEersteStartTest, NoemtDeDrieManieren)
                     "een bestand 'Mappen.ini'. Hoe wilt u beginnen?"},
          {"lblOefenen",
           "Met verzonnen spelers, in de map 'Plexoran oefenclub' bij uw documenten."}},
-        {{"optBestaand", "Een bestaande administratie kiezen"},
+        {{"optBestaand", "Een bestaande suite kiezen"},
          {"cmdBladeren", "Bladeren..."},
          {"optNieuw", "Een nieuwe administratie maken"},
          {"cmdMap", "Andere map..."},

@@ -515,24 +515,27 @@ TEST_F(GekozenTest, PrintenHoudtDeVolgordeDieTeZienIs)
         moet << rooster->Celtekst(regel, 3);
     KiesRegel(1);
     Klik(4, Qt::ShiftModifier);
-    wachter.Bedien([](QDialog& keuze) {
-        Druk(keuze, "cmdSelNone"); // with the surname it would be by that
-        Vind<Regellijst>(keuze, "lstKeus")->Kies({0});
-        Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
-        Druk(keuze, "cmdOK");
-        keuze.reject();
-    });
-    QStringList geprint;
-    wachter.Bedien([&](QDialog& blad) {
-        const auto bestand = suite.Weg() / "blad.pdf";
-        for (const Pdfwoord& woord : BladInBeeld(*Vind<QWidget>(blad, "picP1"), bestand).woorden) {
-            if (const QString tekst = QString::fromStdString(woord.tekst); moet.contains(tekst))
-                geprint << tekst;
-        }
-        blad.reject();
-    });
-    Doe("actPrintGekozen");
-    EXPECT_EQ(moet.join(u' ').toStdString(), geprint.join(u' ').toStdString());
+    for (const char* actie : {"actPrintGekozen", "actPrint"}) {
+        wachter.Bedien([](QDialog& keuze) {
+            Druk(keuze, "cmdSelNone"); // with the surname it would be by that
+            Vind<Regellijst>(keuze, "lstKeus")->Kies({0});
+            Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
+            Druk(keuze, "cmdOK");
+            keuze.reject();
+        });
+        QStringList geprint;
+        wachter.Bedien([&](QDialog& blad) {
+            const auto bestand = suite.Weg() / "blad.pdf";
+            for (const Pdfwoord& woord :
+                 BladInBeeld(*Vind<QWidget>(blad, "picP1"), bestand).woorden) {
+                if (const QString tekst = QString::fromStdString(woord.tekst); moet.contains(tekst))
+                    geprint << tekst;
+            }
+            blad.reject();
+        });
+        Doe(actie);
+        EXPECT_EQ(moet.join(u' ').toStdString(), geprint.mid(0, 4).join(u' ').toStdString());
+    }
 }
 
 TEST_F(GekozenTest, CtrlCInDeLijstGeeftDeKolommenZoalsHetRooster)

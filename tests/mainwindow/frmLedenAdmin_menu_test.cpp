@@ -165,6 +165,18 @@ TEST_F(MenuTest, EenOpdrachtDieNietKanIsGrijsEnZegtWaarom)
     EXPECT_EQ("", Reden(u"actSortlijst2"_s));
 }
 
+TEST_F(MenuTest, RegelsVanTotKanAlleenAlsTeZienIsWelke)
+{
+    EXPECT_EQ("", Reden(u"actVerwijderVT"_s));
+    Druk("F9");
+    EXPECT_EQ("De regels kiest u bij de knoppen: F9, of Escape bij het zoeken",
+              Reden(u"actVerwijderVT"_s));
+    Druk("F9");
+    EXPECT_EQ("", Reden(u"actVerwijderVT"_s));
+    Schrijf(*venster, "txtZoek", u"jan"_s);
+    EXPECT_NE("", Reden(u"actVerwijderVT"_s));
+}
+
 TEST_F(MenuTest, DeOpdrachtenVanDeImportgroepGaanErZelfHeen)
 {
     for (const auto& [actie, dialoog] : {std::pair(u"actImporteer"_s, "frmImportNBB"),
@@ -302,7 +314,8 @@ TEST_F(MenuTest, DeToetsenlijstStaatVolEnIsVanDeActiesZelf)
                       "Menu Speler", "Menu Bewerken", "Menu Groep", "Menu Lijsten", "Menu Beeld",
                       "Menu Extra", "Menu Help", "Menu Gekozen spelers",
                       "Knoppen van het hoofdvenster", "In de spelers", "Bij het zoeken",
-                      "In elke lijst", "In elk venster", "Bij de paren", "In het afdrukvoorbeeld"}),
+                      "In elke lijst", "In elk venster", "Bij de paren", "In het afdrukvoorbeeld",
+                      "Bij een import vooraf", "In het overzicht", "In de handleiding"}),
                   plaatsen);
         EXPECT_EQ("Kolommen passend", regels["Menu Beeld: Ctrl+Alt+J"]);
         EXPECT_EQ("Nieuwe Speler toevoegen", regels["Menu Speler: Ctrl+N"]);

@@ -7,14 +7,19 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
 #include <io.h>
-#include <sys/locking.h>
+#include <windows.h>
 #else
 #include <sys/file.h>
 #include <unistd.h>
@@ -45,7 +50,8 @@ int Open(const std::filesystem::path& bestand)
 
 bool HoudtEenAnder(int greep)
 {
-    return ::_locking(greep, _LK_NBLCK, 1) == -1 && errno == EACCES;
+    return !::LockFile(reinterpret_cast<HANDLE>(::_get_osfhandle(greep)), 0, 0, 1, 0) &&
+           ::GetLastError() == ERROR_LOCK_VIOLATION;
 }
 
 void Sluit(int greep)
@@ -164,13 +170,17 @@ bool Exemplaarslot::Neem()
     return true;
 }
 
-/// The time of the file is the one thing of it that both can see without waiting.
+/// The time of the file is the one thing of it that both can see without waiting. Some systems keep
+/// whole seconds only.
 void Exemplaarslot::Roep() const
 {
+    using namespace std::filesystem;
     std::error_code fout;
-    if (greep_ == -1)
-        std::filesystem::last_write_time(bestand_, std::filesystem::file_time_type::clock::now(),
-                                         fout);
+    const auto vorige = last_write_time(bestand_, fout);
+    if (greep_ == -1 && !fout)
+        last_write_time(bestand_,
+                        std::max(vorige + std::chrono::seconds(1), file_time_type::clock::now()),
+                        fout);
 }
 
 bool Exemplaarslot::IsGeroepen()

@@ -1,5 +1,8 @@
 #include "platform/schijf/systeem.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include <cerrno>
 
 #ifdef _WIN32
@@ -9,8 +12,6 @@
 #include <io.h>
 #include <windows.h>
 #else
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -37,7 +38,13 @@ std::error_code Laatste()
 std::FILE* Open(const fs::path& pad, bool nieuw)
 {
 #ifdef _WIN32
-    return ::_wfopen(pad.c_str(), nieuw ? L"wbxN" : L"rbN");
+    if (!nieuw)
+        return ::_wfopen(pad.c_str(), L"rbN");
+    // Not "x", which the C library that every Windows has does not know: a file would be emptied.
+    const int greep =
+        ::_wopen(pad.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT,
+                 _S_IREAD | _S_IWRITE);
+    return greep == -1 ? nullptr : ::_fdopen(greep, "wb");
 #else
     return std::fopen(pad.c_str(), nieuw ? "wbxe" : "rbe");
 #endif
