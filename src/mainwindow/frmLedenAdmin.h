@@ -154,6 +154,9 @@ class frmLedenAdmin : public QMainWindow {
     void DoeGekozen(Gekozenwerk werk);
     template <Gekozenwerk werk> void DoeGekozen() { DoeGekozen(werk); }
     void PrintGekozen();
+    void Exporteer();
+    void ExporteerGekozen();
+    void OpenExport(std::vector<int> rijen);
     void MaakPaarGekozen();
     void VerwijderGekozen();
 

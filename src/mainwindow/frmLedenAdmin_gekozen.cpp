@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "exchange/frmExport.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
 #include "printing/frmPrintIni.h"
@@ -210,6 +211,25 @@ void frmLedenAdmin::PrintGekozen()
     const QString wie = Aantal(rijen.size(), u"gekozen speler"_s, u"gekozen spelers"_s);
     frmPrintIni(administratie_, NaarTekst(wie), NamenVan(rijen), this, Getalnotatie(), rijen)
         .exec();
+}
+
+void frmLedenAdmin::Exporteer()
+{
+    OpenExport({});
+}
+
+void frmLedenAdmin::ExporteerGekozen()
+{
+    if (std::vector<int> rijen = TeDoenRijen(); !rijen.empty())
+        OpenExport(std::move(rijen));
+}
+
+/// The players in these rows, or those of the group where there are none.
+void frmLedenAdmin::OpenExport(std::vector<int> rijen)
+{
+    frmExport venster(administratie_, CodeUit(Groeptekst()), this, std::move(rijen));
+    if (venster.exec() == QDialog::Accepted)
+        ToonMelding(venster.Gedaan());
 }
 
 } // namespace plexoran

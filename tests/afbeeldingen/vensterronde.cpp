@@ -20,6 +20,7 @@
 #include "dialogs/frmVeld.h"
 #include "dialogs/frmVergelijk.h"
 #include "dialogs/frmVerwSubgroep.h"
+#include "exchange/frmExport.h"
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
@@ -346,6 +347,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Neem(bezoek, diaKopieer(administratie, &hoofdvenster));
     Neem(bezoek, frmVerwSubgroep(administratie, &hoofdvenster));
     NeemPrinten(bezoek, hoofdvenster, administratie);
+    Neem(bezoek, frmExport(administratie, Groepscode(1), &hoofdvenster));
     NeemControle(bezoek, hoofdvenster, administratie);
     Neem(bezoek, diaToevoegen(administratie, &hoofdvenster));
     NeemKoppelvenster(bezoek, hoofdvenster, administratie);

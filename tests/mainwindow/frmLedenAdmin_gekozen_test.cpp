@@ -188,7 +188,7 @@ TEST_F(GekozenTest, HetMenuKomtBijDeRegelOnderDeMuisEnHoudtEenKeusWaarinDieZit)
     }
     EXPECT_EQ(
         "actWijzigGekozen actVeldGekozen actVerplaatsGekozen actKopieerGekozen actPaarGekozen "
-        "actPrintGekozen "
+        "actPrintGekozen actExporteerGekozen "
         "actVerwijderGekozen actTekstGekozen actGeschiedenisGekozen",
         namen.join(u' ').toStdString());
     const auto vraagMenu = [&](int regel) {
@@ -536,6 +536,31 @@ TEST_F(GekozenTest, PrintenHoudtDeVolgordeDieTeZienIs)
         Doe(actie);
         EXPECT_EQ(moet.join(u' ').toStdString(), geprint.mid(0, 4).join(u' ').toStdString());
     }
+}
+
+TEST_F(GekozenTest, ExporterenGaatOverDeGevondenSpelersOfDeGroep)
+{
+    const auto bestand = QString::fromStdString((suite.Weg() / "uit.csv").string());
+    Zoek(u"oudewortel"_s);
+    Lijst()->setFocus();
+    Lijst()->selectAll();
+    Doe("actExporteerGekozen", [&](QDialog& keuze) {
+        EXPECT_EQ("frmExport", keuze.objectName().toStdString());
+        EXPECT_EQ("4 gekozen spelers",
+                  Vind<QComboBox>(keuze, "cmbWie")->currentText().toStdString());
+        wachter.Bedien([&](QDialog& vraag) {
+            Vind<QLineEdit>(vraag, "fileNameEdit")->setText(bestand);
+            vraag.accept();
+        });
+        Druk(keuze, "cmdOK");
+    });
+    EXPECT_EQ("4 spelers geëxporteerd naar " + bestand.toStdString(), Melding());
+    EXPECT_EQ(5U, RegelsVan(suite.Inhoud("uit.csv")).size());
+    KiesGroep(5);
+    Doe("actExporteer", [](QDialog& keuze) {
+        EXPECT_EQ(5, Vind<QComboBox>(keuze, "cmbWie")->currentIndex());
+        keuze.reject();
+    });
 }
 
 TEST_F(GekozenTest, CtrlCInDeLijstGeeftDeKolommenZoalsHetRooster)
