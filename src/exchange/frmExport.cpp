@@ -34,6 +34,10 @@ constexpr auto Csvuitleg =
     "apostrof ervoor.";
 
 constexpr std::array Soorten{
+    Soort{u"xlsx", u"Rekenblad (XLSX)", u"Rekenbladen (*.xlsx)", u"xlsx",
+          u"Alles staat er als tekst in, dus telefoonnummers en nullen vooraan blijven zoals ze "
+          u"zijn.",
+          MaakXlsx},
     Soort{u"csv", u"CSV-bestand (UTF-8)", u"CSV-bestanden (*.csv)", u"csv", Csvuitleg,
           [](const Uitvoer& uitvoer, const Voortgang& voortgang) {
               return MaakCsv(uitvoer, Tekenset::Utf8, voortgang);
@@ -233,17 +237,28 @@ void frmExport::Exporteer()
     const auto opslag =
         bytes ? SchrijfHeel(administratie_.schijf, *pad, **bytes) : Uitkomst<void>(Mislukt(bytes));
     if (!StaatEr(this, opslag)) {
-        MeldFout(
-            this, QMessageBox::Warning,
-            u"Er is niets geëxporteerd. Een bestand dat er al stond, is nog heel. Kies een map "
-            "waarin u mag schrijven en waar nog ruimte is."_s,
-            opslag.error());
+        MeldMislukt(opslag.error());
         return;
     }
     Onthoud();
     gedaan_ =
         u"%1 geëxporteerd naar %2"_s.arg(lblAantal->text(), Toonpad(administratie_.schijf, *pad));
     accept();
+}
+
+void frmExport::MeldMislukt(const Fout& fout)
+{
+    if (fout.soort == Foutsoort::Beschadigd)
+        Meld(this, QMessageBox::Warning,
+             u"Er is geen rekenblad gemaakt: %1 heeft een tekst van meer dan 32.767 tekens, en die "
+             "past er niet in. Kies een CSV-bestand."_s.arg(
+                 NaarQString(VolleNaam(administratie_.spelers.tabel, fout.regel))));
+    else
+        MeldFout(
+            this, QMessageBox::Warning,
+            u"Er is niets geëxporteerd. Een bestand dat er al stond, is nog heel. Kies een map "
+            "waarin u mag schrijven en waar nog ruimte is."_s,
+            fout);
 }
 
 } // namespace plexoran

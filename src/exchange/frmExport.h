@@ -36,6 +36,7 @@ class frmExport : public QDialog {
     void Verzet(int stap);
     void VinkAlle(bool aan);
     void Exporteer();
+    void MeldMislukt(const Fout& fout);
     [[nodiscard]] std::vector<int> RijenVan(const std::vector<Tekst>& subgroepen) const;
     [[nodiscard]] std::vector<Kolom> GekozenKolommen() const;
     void Onthoud() const;

@@ -31,4 +31,7 @@ enum class Tekenset { Utf8, Windows1252 };
 [[nodiscard]] Uitvoerbytes MaakCsv(const Uitvoer& uitvoer, Tekenset tekenset,
                                    const Voortgang& voortgang = {});
 
+/// A sheet of texts. A text that is too long for a sheet is `Beschadigd`, and `regel` its row.
+[[nodiscard]] Uitvoerbytes MaakXlsx(const Uitvoer& uitvoer, const Voortgang& voortgang = {});
+
 } // namespace plexoran

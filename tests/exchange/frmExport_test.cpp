@@ -26,7 +26,7 @@ class frmExportTest : public Dialoogproef<frmExport, Mapstand> {
              Speler("100003", "Gr01-", "Cor", ""), Speler("100004", "Gr01-", "Dirk", "a-lijn")});
         administratie.groepen.ZetNaam(1, "Clubleden & co");
         administratie.vensterIni = Samen(map.AlsPad(), "venster.ini");
-        Open();
+        OpenCsv();
     }
     static Cellen Speler(const char* key, const char* groep, const char* naam, const char* subgroep)
     {
@@ -39,6 +39,11 @@ class frmExportTest : public Dialoogproef<frmExport, Mapstand> {
     {
         venster = std::make_unique<frmExport>(administratie, "Gr01-", &hoofd, std::move(gekozen));
         ToonHet();
+    }
+    void OpenCsv(std::vector<int> gekozen = {})
+    {
+        Open(std::move(gekozen));
+        KiesUit(Keus("cmbSoort"), 1);
     }
     [[nodiscard]] QComboBox* Keus(const char* naam) const { return Deel<QComboBox>(naam); }
     [[nodiscard]] QListWidget* Kolommen() const { return Deel<QListWidget>("lstKolommen"); }
@@ -119,7 +124,7 @@ TEST_F(frmExportTest, EenGroepEenSubgroepOfAlleGroepen)
     KiesUit(Keus("cmbSubgroep"), 2);
     EXPECT_EQ("1 speler", Label("lblAantal"));
     EXPECT_EQ("\xEF\xBB\xBFKey\r\n100003\r\n", Exporteer("uit.csv"));
-    Open();
+    OpenCsv();
     KiesUit(Keus("cmbWie"), 0);
     EXPECT_EQ("Alle groepen", Keus("cmbWie")->currentText().toStdString());
     EXPECT_EQ((Namen_t{"Alle subgroepen", "A-lijn", "DI", "GEEN", "a-lijn"}),
@@ -129,7 +134,7 @@ TEST_F(frmExportTest, EenGroepEenSubgroepOfAlleGroepen)
 
 TEST_F(frmExportTest, DeGekozenSpelersZoalsZeGekozenZijn)
 {
-    Open({4, 2});
+    OpenCsv({4, 2});
     EXPECT_EQ("2 gekozen spelers", Keus("cmbWie")->currentText().toStdString());
     EXPECT_EQ("2 spelers", Label("lblAantal"));
     KiesKolommen({u"Key"_s});
@@ -163,6 +168,35 @@ TEST_F(frmExportTest, DeVolgordeIsTeKiezenEnWordtOnthouden)
     Open();
     EXPECT_EQ("Achternaam Groep Key ", Gekozen());
     EXPECT_EQ("CSV-bestand (Windows-1252)", Keus("cmbSoort")->currentText().toStdString());
+}
+
+TEST_F(frmExportTest, ElkeSoortHeeftZijnUitlegEnZijnBestand)
+{
+    Open();
+    EXPECT_EQ((Namen_t{"Rekenblad (XLSX)", "CSV-bestand (UTF-8)", "CSV-bestand (Windows-1252)"}),
+              Keuzes(Keus("cmbSoort")));
+    EXPECT_EQ("Alles staat er als tekst in, dus telefoonnummers en nullen vooraan blijven zoals ze "
+              "zijn.",
+              Label("lblUitleg"));
+    EXPECT_EQ("PK", Exporteer("uit.xlsx").substr(0, 2));
+    OpenCsv();
+    EXPECT_EQ("Een tekst die een rekenblad voor een formule zou houden, zoals +31 6..., krijgt een "
+              "apostrof ervoor.",
+              Label("lblUitleg"));
+}
+
+TEST_F(frmExportTest, EenTeLangeTekstWordtGezegdMetDeNaam)
+{
+    administratie.spelers.tabel.ZetCel(3, Kolom::Adres, Tekst(40'000, 'x'));
+    Open();
+    wachter.Bedien([pad = map.Weg() / "uit.xlsx"](QDialog& dialoog) {
+        Vind<QLineEdit>(dialoog, "fileNameEdit")->setText(QString::fromStdString(pad.string()));
+        dialoog.accept();
+    });
+    wachter.Waarschuwing(u"Er is geen rekenblad gemaakt: Cor heeft een tekst van meer dan 32.767 "
+                         "tekens, en die past er niet in. Kies een CSV-bestand."_s);
+    Opdracht("cmdOK");
+    EXPECT_FALSE(std::filesystem::exists(map.Weg() / "uit.xlsx"));
 }
 
 TEST_F(frmExportTest, EenRegelIsTeVerslepen)
@@ -250,7 +284,7 @@ TEST_F(frmExportTest, WieStoptHeeftGeenBestand)
 {
     std::vector<Cellen> velen(100'000, Speler("100001", "Gr01-", "An", ""));
     administratie.spelers.tabel = MaakSpelers(velen);
-    Open();
+    OpenCsv();
     const Voortgangstopper stopper(2);
     EXPECT_EQ("", Exporteer("uit.csv"));
     EXPECT_GE(stopper.Stappen(), 2);

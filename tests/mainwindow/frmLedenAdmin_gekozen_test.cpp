@@ -548,6 +548,7 @@ TEST_F(GekozenTest, ExporterenGaatOverDeGevondenSpelersOfDeGroep)
         EXPECT_EQ("frmExport", keuze.objectName().toStdString());
         EXPECT_EQ("4 gekozen spelers",
                   Vind<QComboBox>(keuze, "cmbWie")->currentText().toStdString());
+        KiesUit(Vind<QComboBox>(keuze, "cmbSoort"), 1);
         wachter.Bedien([&](QDialog& vraag) {
             Vind<QLineEdit>(vraag, "fileNameEdit")->setText(bestand);
             vraag.accept();
