@@ -119,6 +119,11 @@ Tekst Naaste(std::u16string_view teken)
     return IsBlanco(uit) && !spatie ? Tekst() : uit;
 }
 
+bool IsAsciiteken(char teken)
+{
+    return static_cast<unsigned char>(teken) < 0x80;
+}
+
 } // namespace
 
 std::u16string NaarUtf16(Tekstblik tekst)
@@ -131,7 +136,22 @@ std::u16string NaarUtf16(Tekstblik tekst)
 
 std::string NaarUtf8(Tekstblik tekst)
 {
-    return AlsQString(NaarUtf16(tekst)).toStdString();
+    constexpr auto kort = 0x800; // from here on it takes three bytes
+    std::string uit;
+    uit.reserve(tekst.size());
+    for (;;) {
+        const auto ander = std::ranges::find_if_not(tekst, IsAsciiteken);
+        uit.append(tekst.begin(), ander);
+        if (ander == tekst.end())
+            return uit;
+        const unsigned teken = Teken(static_cast<unsigned char>(*ander));
+        if (teken >= kort)
+            uit += static_cast<char>(0xE0U | teken >> 12U);
+        uit +=
+            static_cast<char>(teken >= kort ? 0x80U | (teken >> 6U & 0x3FU) : 0xC0U | teken >> 6U);
+        uit += static_cast<char>(0x80U | (teken & 0x3FU));
+        tekst.remove_prefix(static_cast<std::size_t>(ander - tekst.begin()) + 1);
+    }
 }
 
 std::optional<Tekst> ExactNaarCodepagina(std::u16string_view tekst)
@@ -170,8 +190,7 @@ Omzetting NaarCodepagina(std::u16string_view tekst)
 
 static bool IsAscii(Tekstblik tekst)
 {
-    return std::all_of(tekst.begin(), tekst.end(),
-                       [](char teken) { return static_cast<unsigned char>(teken) < 0x80; });
+    return std::ranges::all_of(tekst, IsAsciiteken);
 }
 
 Omzetting Utf8NaarCodepagina(std::string_view tekst)
