@@ -59,8 +59,7 @@ template <class Maak> void SchrijfBytes(benchmark::State& meting, const Maak& ma
 {
     Proef& proef = Proeven().Geef(Grootte(meting));
     const Tekst bytes = maak(proef.uitvoer).value().value();
-    Meet(meting,
-         [&] { Eis(meting, SchrijfHeel(proef.schijf, proef.doel, bytes).has_value()); });
+    Meet(meting, [&] { Eis(meting, SchrijfHeel(proef.schijf, proef.doel, bytes).has_value()); });
 }
 
 Uitvoerbytes Csv(const Uitvoer& uitvoer)

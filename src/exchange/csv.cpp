@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 
 #include "exchange/uitvoer.h"
 #include "platform/tekst/codepagina.h"
@@ -12,19 +13,34 @@ constexpr std::size_t Blok = 64 * 1024; // bytes that are converted at once
 /// Apostrophes in front count with it: one more can always be taken off again.
 bool LijktFormule(Tekstblik tekst)
 {
-    constexpr Tekstblik tekens = "=+-@\t\r";
-    const auto plek = tekst.find_first_not_of('\'');
-    return plek != Tekstblik::npos && tekens.find(tekst[plek]) != Tekstblik::npos;
+    while (tekst.starts_with('\''))
+        tekst.remove_prefix(1);
+    switch (tekst.empty() ? '\0' : tekst.front()) {
+    case '=':
+    case '+':
+    case '-':
+    case '@':
+    case '\t':
+    case '\r':
+        return true;
+    default:
+        return false;
+    }
 }
 
-bool MoetAangehaald(char teken)
-{
-    return teken == Scheiding || teken == '"' || teken == '\r' || teken == '\n';
-}
+/// Which characters need quotes: all cells are looked at, and few hold one.
+constexpr auto Bijzonder = [] {
+    std::array<bool, 256> uit{};
+    for (const char teken : {Scheiding, '"', '\r', '\n'})
+        uit[static_cast<unsigned char>(teken)] = true;
+    return uit;
+}();
 
 void VoegCelToe(Tekst& uit, Tekstblik tekst)
 {
-    const bool aangehaald = std::ranges::any_of(tekst, MoetAangehaald);
+    bool aangehaald = false;
+    for (const char teken : tekst)
+        aangehaald |= Bijzonder[static_cast<unsigned char>(teken)];
     if (aangehaald)
         uit += '"';
     if (LijktFormule(tekst))
@@ -59,6 +75,7 @@ Uitvoerbytes MaakCsv(const Uitvoer& uitvoer, Tekenset tekenset, const Voortgang&
     const std::vector<int>& rijen = uitvoer.rijen;
     const bool utf8 = tekenset == Tekenset::Utf8;
     Tekst uit(utf8 ? "\xEF\xBB\xBF" : "");
+    uit.reserve(uitvoer.tabel.AantalBytes() * 9 / 8);
     Tekst blok;
     const auto leegBlok = [&] {
         uit += utf8 ? NaarUtf8(blok) : blok;

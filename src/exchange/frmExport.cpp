@@ -33,6 +33,10 @@ constexpr auto Csvuitleg =
     u"Een tekst die een rekenblad voor een formule zou houden, zoals +31 6..., krijgt een "
     "apostrof ervoor.";
 
+constexpr auto Kaartuitleg =
+    u"Voor het adresboek van een telefoon of mailprogramma. De naam staat er altijd op; de "
+    "volgorde van de kolommen telt niet.";
+
 constexpr std::array Soorten{
     Soort{u"xlsx", u"Rekenblad (XLSX)", u"Rekenbladen (*.xlsx)", u"xlsx",
           u"Alles staat er als tekst in, dus telefoonnummers en nullen vooraan blijven zoals ze "
@@ -45,6 +49,14 @@ constexpr std::array Soorten{
     Soort{u"csv1252", u"CSV-bestand (Windows-1252)", u"CSV-bestanden (*.csv)", u"csv", Csvuitleg,
           [](const Uitvoer& uitvoer, const Voortgang& voortgang) {
               return MaakCsv(uitvoer, Tekenset::Windows1252, voortgang);
+          }},
+    Soort{u"vcard4", u"Adreskaarten (vCard 4.0)", u"Adreskaarten (*.vcf)", u"vcf", Kaartuitleg,
+          [](const Uitvoer& uitvoer, const Voortgang& voortgang) {
+              return MaakVcards(uitvoer, Kaartversie::Vier, voortgang);
+          }},
+    Soort{u"vcard3", u"Adreskaarten (vCard 3.0)", u"Adreskaarten (*.vcf)", u"vcf", Kaartuitleg,
+          [](const Uitvoer& uitvoer, const Voortgang& voortgang) {
+              return MaakVcards(uitvoer, Kaartversie::Drie, voortgang);
           }},
 };
 

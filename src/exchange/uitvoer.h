@@ -34,4 +34,10 @@ enum class Tekenset { Utf8, Windows1252 };
 /// A sheet of texts. A text that is too long for a sheet is `Beschadigd`, and `regel` its row.
 [[nodiscard]] Uitvoerbytes MaakXlsx(const Uitvoer& uitvoer, const Voortgang& voortgang = {});
 
+enum class Kaartversie { Drie, Vier };
+/// A vCard for each player. The columns say what it may tell besides his name; their order does
+/// not count.
+[[nodiscard]] Uitvoerbytes MaakVcards(const Uitvoer& uitvoer, Kaartversie versie,
+                                      const Voortgang& voortgang = {});
+
 } // namespace plexoran

@@ -173,7 +173,8 @@ TEST_F(frmExportTest, DeVolgordeIsTeKiezenEnWordtOnthouden)
 TEST_F(frmExportTest, ElkeSoortHeeftZijnUitlegEnZijnBestand)
 {
     Open();
-    EXPECT_EQ((Namen_t{"Rekenblad (XLSX)", "CSV-bestand (UTF-8)", "CSV-bestand (Windows-1252)"}),
+    EXPECT_EQ((Namen_t{"Rekenblad (XLSX)", "CSV-bestand (UTF-8)", "CSV-bestand (Windows-1252)",
+                       "Adreskaarten (vCard 4.0)", "Adreskaarten (vCard 3.0)"}),
               Keuzes(Keus("cmbSoort")));
     EXPECT_EQ("Alles staat er als tekst in, dus telefoonnummers en nullen vooraan blijven zoals ze "
               "zijn.",
@@ -183,6 +184,15 @@ TEST_F(frmExportTest, ElkeSoortHeeftZijnUitlegEnZijnBestand)
     EXPECT_EQ("Een tekst die een rekenblad voor een formule zou houden, zoals +31 6..., krijgt een "
               "apostrof ervoor.",
               Label("lblUitleg"));
+    for (const int soort : {3, 4}) {
+        Open();
+        KiesUit(Keus("cmbSoort"), soort);
+        EXPECT_EQ("Voor het adresboek van een telefoon of mailprogramma. De naam staat er altijd "
+                  "op; de volgorde van de kolommen telt niet.",
+                  Label("lblUitleg"));
+        EXPECT_EQ(soort == 3 ? "BEGIN:VCARD\r\nVERSION:4.0" : "BEGIN:VCARD\r\nVERSION:3.0",
+                  Exporteer("uit.vcf").substr(0, 24));
+    }
 }
 
 TEST_F(frmExportTest, EenTeLangeTekstWordtGezegdMetDeNaam)
