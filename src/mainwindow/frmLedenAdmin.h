@@ -157,6 +157,8 @@ class frmLedenAdmin : public QMainWindow {
     void Exporteer();
     void ExporteerGekozen();
     void OpenExport(std::vector<int> rijen);
+    void Mail();
+    void MailGekozen();
     void MaakPaarGekozen();
     void VerwijderGekozen();
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "exchange/frmExport.h"
+#include "exchange/frmMail.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
 #include "printing/frmPrintIni.h"
@@ -230,6 +231,17 @@ void frmLedenAdmin::OpenExport(std::vector<int> rijen)
     frmExport venster(administratie_, CodeUit(Groeptekst()), this, std::move(rijen));
     if (venster.exec() == QDialog::Accepted)
         ToonMelding(venster.Gedaan());
+}
+
+void frmLedenAdmin::Mail()
+{
+    frmMail(administratie_, picP0->Vlak()->Rijen(), this).exec();
+}
+
+void frmLedenAdmin::MailGekozen()
+{
+    if (const std::vector<int> rijen = TeDoenRijen(); !rijen.empty())
+        frmMail(administratie_, rijen, this).exec();
 }
 
 } // namespace plexoran

@@ -68,6 +68,8 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
         Opdracht{"actGroepsnamen", u"", "Ctrl+Shift+G", "cmdMaakGrNamen", Wijzigt},
         Opdracht{"actPrint", u"&Print deze groep...", "Ctrl+P", "cmdPrint"},
         Opdracht{"actExporteer", u"E&xporteren...", "F7", "", Geen, &Venster::Exporteer},
+        Opdracht{
+            "actMail", u"E-&mail aan deze spelers...", "F8", "", {.regels = true}, &Venster::Mail},
         Opdracht{},
         Opdracht{"actVerwijderVT",
                  u"Ver&wijder regels van/tot...",
@@ -130,6 +132,8 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
                  &Venster::PrintGekozen},
         Opdracht{"actExporteerGekozen", u"E&xporteren...", "Shift+F7", "", LeesKeus,
                  &Venster::ExporteerGekozen},
+        Opdracht{"actMailGekozen", u"E-&mail aan deze spelers...", "Shift+F8", "", LeesKeus,
+                 &Venster::MailGekozen},
         Opdracht{"actVerwijderGekozen", u"&Verwijderen...", "Shift+Del", "", Keus,
                  &Venster::VerwijderGekozen},
         Opdracht{},

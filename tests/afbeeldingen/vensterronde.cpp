@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <numeric>
 
 #include "controle/frmControle.h"
 #include "controle/frmDubbelen.h"
@@ -21,6 +22,7 @@
 #include "dialogs/frmVergelijk.h"
 #include "dialogs/frmVerwSubgroep.h"
 #include "exchange/frmExport.h"
+#include "exchange/frmMail.h"
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
@@ -348,6 +350,9 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Neem(bezoek, frmVerwSubgroep(administratie, &hoofdvenster));
     NeemPrinten(bezoek, hoofdvenster, administratie);
     Neem(bezoek, frmExport(administratie, Groepscode(1), &hoofdvenster));
+    std::vector<int> rijen(static_cast<std::size_t>(administratie.spelers.tabel.Rijen()));
+    std::iota(rijen.begin(), rijen.end(), 1);
+    Neem(bezoek, frmMail(administratie, rijen, &hoofdvenster));
     NeemControle(bezoek, hoofdvenster, administratie);
     Neem(bezoek, diaToevoegen(administratie, &hoofdvenster));
     NeemKoppelvenster(bezoek, hoofdvenster, administratie);

@@ -188,7 +188,7 @@ TEST_F(GekozenTest, HetMenuKomtBijDeRegelOnderDeMuisEnHoudtEenKeusWaarinDieZit)
     }
     EXPECT_EQ(
         "actWijzigGekozen actVeldGekozen actVerplaatsGekozen actKopieerGekozen actPaarGekozen "
-        "actPrintGekozen actExporteerGekozen "
+        "actPrintGekozen actExporteerGekozen actMailGekozen "
         "actVerwijderGekozen actTekstGekozen actGeschiedenisGekozen",
         namen.join(u' ').toStdString());
     const auto vraagMenu = [&](int regel) {
@@ -561,6 +561,31 @@ TEST_F(GekozenTest, ExporterenGaatOverDeGevondenSpelersOfDeGroep)
     Doe("actExporteer", [](QDialog& keuze) {
         EXPECT_EQ(5, Vind<QComboBox>(keuze, "cmbWie")->currentIndex());
         keuze.reject();
+    });
+}
+
+TEST_F(GekozenTest, MailenGaatOverDeGevondenSpelersOfDeGroep)
+{
+    Zoek(u"oudewortel"_s);
+    Lijst()->setFocus();
+    Lijst()->selectAll();
+    const auto spelers = [](const QDialog& mail) {
+        EXPECT_EQ("frmMail", mail.objectName().toStdString());
+        return Vind<QLabel>(mail, "lblAantal")
+                   ->text()
+                   .section(u" van "_s, 1)
+                   .section(u' ', 0, 0)
+                   .toInt() +
+               Vind<QLabel>(mail, "lblZonder")->text().section(u": "_s, 1).toInt();
+    };
+    Doe("actMailGekozen", [&](QDialog& mail) {
+        EXPECT_EQ(4, spelers(mail));
+        mail.reject();
+    });
+    KiesGroep(5);
+    Doe("actMail", [&](QDialog& mail) {
+        EXPECT_EQ(static_cast<const Roostervlak*>(Vlak())->Regels(), spelers(mail));
+        mail.reject();
     });
 }
 
