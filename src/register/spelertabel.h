@@ -90,6 +90,12 @@ class Spelertabel {
         // The file may carry the group's name behind its code; only the code is the cell.
         return kolom == Kolom::Groep ? CodeUit(cel) : cel;
     }
+    /// These cells as they stand in a file, joined by commas. The view holds as that of `Cel`.
+    [[nodiscard]] Tekstblik Celreeks(int rij, Kolom van, Kolom tot) const
+    {
+        const Celgrenzen& grenzen = Grenzen(rij);
+        return Bytes(grenzen[Index(van)], grenzen[Index(tot) + 1]);
+    }
     /// The cells 2 to 18 as they stand in a file, joined by commas.
     void VoegCellenAan(Tekst& uit, int rij) const;
     /// The same: all that tells what a row says; its number is only its place.

@@ -90,6 +90,32 @@ TEST(Csv, DeApostrofIsErWeerAfTeHalen)
         EXPECT_EQ(tekst, ZonderApostrof(Cel(tekst))) << tekst;
 }
 
+/// A line is copied as it stands where that will do, and made cell by cell elsewhere.
+TEST(Csv, ElkeVolgordeVanKolommenGeeftDezelfdeCellen)
+{
+    std::vector<Cellen> spelers;
+    for (const Tekst tekst : {"Bos", "=1", "Ren\xE9", "a;b", "'t", "'=", ""}) {
+        spelers.emplace_back();
+        for (int kolom = 1; kolom <= AantalKolommen; ++kolom)
+            spelers.back().emplace_back(static_cast<Kolom>(kolom), "x");
+        spelers.back()[3].second = tekst;
+        spelers.back()[2].second = "Gr01-Clubleden";
+    }
+    const Tekst cellen[] = {"Bos", "'=1", "Ren\xC3\xA9", "\"a;b\"", "'t", "''=", ""};
+    Tekst verwacht = "\xEF\xBB\xBF"
+                     "Key;Groep;Voornaam;Tusv\r\n";
+    Tekst omgekeerd = "\xEF\xBB\xBF"
+                      "Tusv;Voornaam;Groep\r\n";
+    for (const Tekst& cel : cellen) {
+        verwacht += "x;Gr01-;" + cel + ";x\r\n";
+        omgekeerd += "x;" + cel + ";Gr01-\r\n";
+    }
+    EXPECT_EQ(verwacht, Csv(spelers, {Kolom::Key, Kolom::Groep, Kolom::Voornaam, Kolom::Tusv},
+                            Tekenset::Utf8));
+    EXPECT_EQ(omgekeerd,
+              Csv(spelers, {Kolom::Tusv, Kolom::Voornaam, Kolom::Groep}, Tekenset::Utf8));
+}
+
 TEST(Csv, VeelSpelersKomenHeelOver)
 {
     std::vector<Cellen> spelers(5000, {{Kolom::Achternaam, Tekst(40, '\xE9')}});
