@@ -42,8 +42,8 @@ void ZetMidden(QScrollBar& balk, double midden)
 
 // ---------------------------------------------------------------- the page
 
-Bladvlak::Bladvlak(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder)
-    : QWidget(ouder), lijst_(lijst), kast_(kast)
+Bladvlak::Bladvlak(const Bladreeks& reeks, const Letterkast& kast, QWidget* ouder)
+    : QWidget(ouder), reeks_(reeks), kast_(kast)
 {
     Noem(this, u"picP1"_s, u"Blad"_s);
     QPalette palet = palette();
@@ -56,13 +56,13 @@ Bladvlak::Bladvlak(const Printlijst& lijst, const Letterkast& kast, QWidget* oud
 void Bladvlak::Toon(int blad)
 {
     blad_ = blad;
-    setAccessibleDescription(u"Blad %1 van %2"_s.arg(blad).arg(lijst_.indeling.bladen));
+    setAccessibleDescription(u"Blad %1 van %2"_s.arg(blad).arg(reeks_.totaal));
     update();
 }
 
 void Bladvlak::ZetSchaal(double pixelsPerMm)
 {
-    const Papier& papier = lijst_.indeling.papier;
+    const Papier& papier = reeks_.papier;
     pixelsPerMm_ = pixelsPerMm;
     resize(qRound(papier.breed * pixelsPerMm), qRound(papier.hoog * pixelsPerMm));
     update();
@@ -72,16 +72,16 @@ void Bladvlak::paintEvent(QPaintEvent* /*gebeurtenis*/)
 {
     QPainter schilder(this);
     Schildervlak vlak(schilder, kast_, pixelsPerMm_, Schildervlak::Doel::Scherm);
-    TekenBlad(vlak, lijst_, blad_);
+    reeks_.teken(vlak, blad_);
     schilder.setPen(Qt::gray);
     schilder.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 // ---------------------------------------------------------------- its frame
 
-Bladbeeld::Bladbeeld(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder)
+Bladbeeld::Bladbeeld(const Bladreeks& reeks, const Letterkast& kast, QWidget* ouder)
     : Schuifkader(u"picP0"_s, Maten(), ouder), pixelsPerMm_(logicalDpiX() / MmPerInch),
-      P9(new QWidget(this)), picP1(new Bladvlak(lijst, kast, P9))
+      P9(new QWidget(this)), picP1(new Bladvlak(reeks, kast, P9))
 {
     QAccessible::installFactory(MaakSpreker); // which Qt does once
     setAccessibleName(u"Afdrukvoorbeeld"_s);

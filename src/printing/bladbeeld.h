@@ -3,16 +3,27 @@
 #pragma once
 
 #include "platform/scherm/maten.h"
+#include "platform/scherm/printer.h"
 #include "platform/scherm/schildervlak.h"
 #include "platform/scherm/schuifblad.h"
 #include "printing/printblad.h"
 
 namespace plexoran {
 
+/// Pages to show and to print, whoever draws them.
+struct Bladreeks {
+    QString titel{}; ///< of the print job
+    Papier papier{Papierstand::Staand};
+    QString reden{}; ///< why it lies on its side, to be shown; empty for none
+    int bladen = 1;  ///< that are shown and printed
+    int totaal = 1;  ///< that there are
+    Bladtekenaar teken{};
+};
+
 /// The page itself, `picP1`.
 class Bladvlak : public QWidget {
   public:
-    Bladvlak(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder);
+    Bladvlak(const Bladreeks& reeks, const Letterkast& kast, QWidget* ouder);
 
     void Toon(int blad);
     void ZetSchaal(double pixelsPerMm);
@@ -21,7 +32,7 @@ class Bladvlak : public QWidget {
     void paintEvent(QPaintEvent* gebeurtenis) override;
 
   private:
-    const Printlijst& lijst_;
+    const Bladreeks& reeks_;
     const Letterkast& kast_;
     int blad_ = 1;
     double pixelsPerMm_ = 1;
@@ -31,8 +42,8 @@ class Bladbeeld : public Schuifkader {
     Q_OBJECT
 
   public:
-    /// Borrows the list and the case of letters.
-    Bladbeeld(const Printlijst& lijst, const Letterkast& kast, QWidget* ouder);
+    /// Borrows the pages and the case of letters.
+    Bladbeeld(const Bladreeks& reeks, const Letterkast& kast, QWidget* ouder);
 
     void Toon(int blad) { picP1->Toon(blad); }
     void ZetZoom(int procent);

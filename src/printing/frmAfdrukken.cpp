@@ -39,26 +39,78 @@ class Bladnummers : public QIntValidator {
     const QScrollBar* bladen_;
 };
 
-Printlijst MaakLijst(const Administratie& administratie, Afdruk afdruk, const Lettermeter& meter)
+std::shared_ptr<const Printlijst> MaakLijst(const Administratie& administratie, Afdruk afdruk)
 {
-    Bladindeling indeling = BerekenKolommen(afdruk.tabel, afdruk.schaal, meter);
-    return {.tabel = std::move(afdruk.tabel),
-            .indeling = std::move(indeling),
-            .groeptekst = std::move(afdruk.groeptekst),
-            .subgroepkop = std::move(afdruk.subgroepkop),
-            .datum = Tijdtekst("dd-MM-yyyy"),
-            .programma = administratie.mappen.APPEXE};
+    Bladindeling indeling = BerekenKolommen(afdruk.tabel, afdruk.schaal, Letterkast());
+    return std::make_shared<const Printlijst>(
+        Printlijst{.tabel = std::move(afdruk.tabel),
+                   .indeling = std::move(indeling),
+                   .groeptekst = std::move(afdruk.groeptekst),
+                   .subgroepkop = std::move(afdruk.subgroepkop),
+                   .datum = Tijdtekst("dd-MM-yyyy"),
+                   .programma = administratie.mappen.APPEXE});
+}
+
+/// Why the sheet lies on its side, and what does not come out.
+QString Reden(const Printlijst& lijst)
+{
+    const Bladindeling& indeling = lijst.indeling;
+    if (!indeling.TeBreed())
+        return u"Liggend omdat de kolommen samen %1 mm breed zijn; staand is er 210 mm."_s.arg(
+            indeling.Millimeters());
+    QStringList ontbreken;
+    for (int kolom = indeling.kolommen; kolom <= lijst.tabel.Kolommen(); ++kolom) {
+        const QString titel = NaarQString(lijst.tabel.Titel(kolom));
+        ontbreken << (titel.isEmpty() ? u"(kolom %1)"_s.arg(AantalKolommen) : titel);
+    }
+    return u"De kolommen zijn samen %1 mm breed; liggend is er 297 mm. Niet op het blad: %2"_s
+        .arg(indeling.Millimeters())
+        .arg(ontbreken.join(u", "_s));
+}
+
+void WaarschuwVooraf(const Bladindeling& indeling, QWidget* ouder)
+{
+    if (indeling.TeBreed())
+        Meld(ouder, QMessageBox::Warning,
+             u"De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus kolommen!"_s);
+    if (indeling.bladen > Bladgrens)
+        Meld(ouder, QMessageBox::Warning,
+             u"\r\nEr worden niet meer dan %1 pagina's tegelijk geprint!\r\n"_s.arg(Bladgrens));
+}
+
+/// They share the list.
+Bladreeks BladenVan(const std::shared_ptr<const Printlijst>& lijst)
+{
+    const Bladindeling& indeling = lijst->indeling;
+    const Tekst& groep = lijst->groeptekst;
+    const Tekstblik code = CodeUit(groep);
+    return {.titel =
+                u"Ledenlijst "_s + NaarQString(Groepnummer(code) > 0 ? code.substr(0, 4) : groep),
+            .papier = indeling.papier,
+            .reden = indeling.papier.stand == Papierstand::Liggend ? Reden(*lijst) : QString(),
+            .bladen = indeling.ToonbareBladen(),
+            .totaal = indeling.bladen,
+            .teken = [lijst](Tekenvlak& vlak, int blad) { TekenBlad(vlak, *lijst, blad); }};
 }
 
 } // namespace
 
 frmAfdrukken::frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder)
-    : QDialog(ouder), administratie_(administratie),
-      lijst_(MaakLijst(administratie, std::move(afdruk), kast_)),
-      picP0(new Bladbeeld(lijst_, kast_, this))
+    : frmAfdrukken(administratie, MaakLijst(administratie, std::move(afdruk)), ouder)
+{}
+
+frmAfdrukken::frmAfdrukken(Administratie& administratie,
+                           const std::shared_ptr<const Printlijst>& lijst, QWidget* ouder)
+    : frmAfdrukken(administratie, BladenVan(lijst), ouder)
+{
+    WaarschuwVooraf(lijst->indeling, ouder);
+}
+
+frmAfdrukken::frmAfdrukken(Administratie& administratie, Bladreeks reeks, QWidget* ouder)
+    : QDialog(ouder), administratie_(administratie), reeks_(std::move(reeks)),
+      picP0(new Bladbeeld(reeks_, kast_, this))
 {
     Bouw();
-    WaarschuwVooraf();
     ToonBlad(1);
     picP0->setFocus();
 }
@@ -83,12 +135,12 @@ void frmAfdrukken::Bouw()
     connect(picP0, &Bladbeeld::zoomVeranderd, lblZoom,
             [lblZoom](int procent) { lblZoom->setText(u"%1 %"_s.arg(procent)); });
 
-    const bool staand = lijst_.indeling.papier.stand == Papierstand::Staand;
+    const bool staand = reeks_.papier.stand == Papierstand::Staand;
     QLabel* Label2 = MaakLabel(
         u"Label2"_s, staand ? u"Printformaat: A4-staand"_s : u"Printformaat: A4-liggend"_s, this);
-    QLabel* lblReden = MaakLabel(u"lblReden"_s, Reden(), this);
+    QLabel* lblReden = MaakLabel(u"lblReden"_s, reeks_.reden, this);
     lblReden->setWordWrap(true);
-    lblReden->setVisible(!staand);
+    lblReden->setVisible(!reeks_.reden.isEmpty());
     QLayout* bladkeuze = BouwBladkeuze(maten);
     auto* cmdPrinten = MaakKnop(u"cmdPrinten"_s, u"Printen..."_s, u'P', this, &frmAfdrukken::Print);
     cmdPrinten->setDefault(true);
@@ -109,7 +161,7 @@ QLayout* frmAfdrukken::BouwBladkeuze(const Maten& maten)
     Noem(Bladscroll, u"Bladscroll"_s, u"Blad kiezen"_s);
     Bladscroll->setFocusPolicy(Qt::StrongFocus);
     Bladscroll->setMinimumWidth(maten.Twips(1800));
-    Bladscroll->setRange(1, lijst_.indeling.ToonbareBladen());
+    Bladscroll->setRange(1, reeks_.bladen);
     Bladscroll->setPageStep(1);
     connect(Bladscroll, &QScrollBar::valueChanged, this, &frmAfdrukken::ToonBlad);
     txtBlad = new QLineEdit(this);
@@ -120,7 +172,7 @@ QLayout* frmAfdrukken::BouwBladkeuze(const Maten& maten)
     connect(txtBlad, &QLineEdit::editingFinished, this,
             [this] { Bladscroll->setValue(txtBlad->text().toInt()); });
     Label1->setBuddy(txtBlad);
-    auto* txtAantPages = new QLineEdit(u"(Totaal %1)"_s.arg(lijst_.indeling.bladen), this);
+    auto* txtAantPages = new QLineEdit(u"(Totaal %1)"_s.arg(reeks_.totaal), this);
     Noem(txtAantPages, u"txtAantPages"_s, u"Aantal bladen"_s);
     txtAantPages->setFixedWidth(maten.Twips(1700));
     txtAantPages->setReadOnly(true);
@@ -131,33 +183,6 @@ QLayout* frmAfdrukken::BouwBladkeuze(const Maten& maten)
     txtAantPages->setPalette(palet);
 
     return Naastelkaar({Label1, Bladscroll, txtBlad, txtAantPages});
-}
-
-/// Why the sheet lies on its side, and what does not come out.
-QString frmAfdrukken::Reden() const
-{
-    const Bladindeling& indeling = lijst_.indeling;
-    if (!indeling.TeBreed())
-        return u"Liggend omdat de kolommen samen %1 mm breed zijn; staand is er 210 mm."_s.arg(
-            indeling.Millimeters());
-    QStringList ontbreken;
-    for (int kolom = indeling.kolommen; kolom <= lijst_.tabel.Kolommen(); ++kolom) {
-        const QString titel = NaarQString(lijst_.tabel.Titel(kolom));
-        ontbreken << (titel.isEmpty() ? u"(kolom %1)"_s.arg(AantalKolommen) : titel);
-    }
-    return u"De kolommen zijn samen %1 mm breed; liggend is er 297 mm. Niet op het blad: %2"_s
-        .arg(indeling.Millimeters())
-        .arg(ontbreken.join(u", "_s));
-}
-
-void frmAfdrukken::WaarschuwVooraf()
-{
-    if (lijst_.indeling.TeBreed())
-        Meld(parentWidget(), QMessageBox::Warning,
-             u"De printbreedte is groter dan het liggende A4.\r\nRechts ontbreken dus kolommen!"_s);
-    if (lijst_.indeling.bladen > Bladgrens)
-        Meld(parentWidget(), QMessageBox::Warning,
-             u"\r\nEr worden niet meer dan %1 pagina's tegelijk geprint!\r\n"_s.arg(Bladgrens));
 }
 
 void frmAfdrukken::ToonBlad(int blad)
@@ -209,17 +234,13 @@ bool frmAfdrukken::Verwerk(const QKeyEvent& toets)
 
 void frmAfdrukken::Print()
 {
-    const Bladindeling& indeling = lijst_.indeling;
-    const Tekst& groep = lijst_.groeptekst;
-    const Tekstblik code = CodeUit(groep);
-    PrintBladen(
-        administratie_.schijf,
-        {.titel = u"Ledenlijst "_s + NaarQString(Groepnummer(code) > 0 ? code.substr(0, 4) : groep),
-         .stand = indeling.papier.stand,
-         .bezig = u"De bladen worden geprint"_s,
-         .bladen = indeling.ToonbareBladen(),
-         .bladInBeeld = [this] { return Bladscroll->value(); }},
-        [this](Tekenvlak& vlak, int blad) { TekenBlad(vlak, lijst_, blad); }, this);
+    PrintBladen(administratie_.schijf,
+                {.titel = reeks_.titel,
+                 .stand = reeks_.papier.stand,
+                 .bezig = u"De bladen worden geprint"_s,
+                 .bladen = reeks_.bladen,
+                 .bladInBeeld = [this] { return Bladscroll->value(); }},
+                reeks_.teken, this);
 }
 
 } // namespace plexoran

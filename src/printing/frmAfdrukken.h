@@ -1,9 +1,11 @@
-// The pages of a list as they will come out, one at a time, and printing them.
+// Pages as they will come out, one at a time, and printing them: of a list, or what else is drawn.
 #pragma once
 
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+
+#include <memory>
 
 #include "platform/scherm/maten.h"
 #include "printing/bladbeeld.h"
@@ -25,6 +27,8 @@ class frmAfdrukken : public QDialog {
   public:
     /// May warn, in boxes of `ouder`, of columns and pages that do not come out.
     frmAfdrukken(Administratie& administratie, Afdruk afdruk, QWidget* ouder);
+    /// Of other pages.
+    frmAfdrukken(Administratie& administratie, Bladreeks reeks, QWidget* ouder);
     ~frmAfdrukken() override;
     Q_DISABLE_COPY(frmAfdrukken)
 
@@ -32,17 +36,17 @@ class frmAfdrukken : public QDialog {
     void keyPressEvent(QKeyEvent* gebeurtenis) override;
 
   private:
+    frmAfdrukken(Administratie& administratie, const std::shared_ptr<const Printlijst>& lijst,
+                 QWidget* ouder);
     void Bouw();
     [[nodiscard]] QLayout* BouwBladkeuze(const Maten& maten);
-    [[nodiscard]] QString Reden() const;
-    void WaarschuwVooraf();
     void ToonBlad(int blad);
     [[nodiscard]] bool Verwerk(const QKeyEvent& toets);
     void Print();
 
     Administratie& administratie_;
     Letterkast kast_;
-    Printlijst lijst_;
+    Bladreeks reeks_;
 
     Bladbeeld* picP0;
     QScrollBar* Bladscroll = nullptr;
