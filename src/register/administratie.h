@@ -30,6 +30,7 @@ struct Administratie {
     Pad programmamap = Programmamap(); ///< where the running program stands
     Pad tweedeplaatsIni{};             ///< of this user; empty: no second place can be chosen
     Pad vensterIni{};                  ///< how this user wants his window; empty: not kept
+    Pad etikettenIni{};                ///< his own sheet of labels; empty: not kept
     /// None: the start without a "Mappen.ini" ends.
     std::optional<Startomgeving> eersteStart{};
     Mappen mappen{};
