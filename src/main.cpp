@@ -32,6 +32,7 @@ int main(int argc, char** argv)
         Administratie administratie{.schijf = schijf, .winkel = MaakInstellingenwinkel(schijf)};
         administratie.tweedeplaatsIni = Gebruikersbestand("reservekopie.ini");
         administratie.vensterIni = Gebruikersbestand("venster.ini");
+        administratie.etikettenIni = Gebruikersbestand("etiketten.ini");
         Pad mappenIni = VolledigPad(opdrachten->mappenIni);
         if (opdrachten->mappenIni.empty()) {
             administratie.eersteStart = HuidigeOmgeving();

@@ -36,6 +36,7 @@ class QStackedLayout;
 namespace plexoran {
 
 class Kortlabel;
+class frmPrintIni;
 
 class frmLedenAdmin : public QMainWindow {
     Q_OBJECT
@@ -159,6 +160,7 @@ class frmLedenAdmin : public QMainWindow {
     void OpenExport(std::vector<int> rijen);
     void Mail();
     void MailGekozen();
+    void EtikettenGekozen();
     void MaakPaarGekozen();
     void VerwijderGekozen();
 
@@ -197,6 +199,7 @@ class frmLedenAdmin : public QMainWindow {
     void ToonToelichting();
     void ToonHandleiding();
     void Print();
+    void OpenPrintkeuze(frmPrintIni& venster);
     void StartGatenlijst();
 
     Administratie& administratie_;

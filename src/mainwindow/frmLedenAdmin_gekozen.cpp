@@ -8,6 +8,7 @@
 
 #include "exchange/frmExport.h"
 #include "exchange/frmMail.h"
+#include "exchange/frmEtiketten.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
 #include "printing/frmPrintIni.h"
@@ -210,8 +211,15 @@ void frmLedenAdmin::PrintGekozen()
     if (rijen.empty())
         return;
     const QString wie = Aantal(rijen.size(), u"gekozen speler"_s, u"gekozen spelers"_s);
-    frmPrintIni(administratie_, NaarTekst(wie), NamenVan(rijen), this, Getalnotatie(), rijen)
-        .exec();
+    frmPrintIni venster(administratie_, NaarTekst(wie), NamenVan(rijen), this, Getalnotatie(),
+                        rijen);
+    OpenPrintkeuze(venster);
+}
+
+void frmLedenAdmin::EtikettenGekozen()
+{
+    if (const std::vector<int> rijen = TeDoenRijen(); !rijen.empty())
+        frmEtiketten(administratie_, rijen, this).exec();
 }
 
 void frmLedenAdmin::Exporteer()

@@ -134,6 +134,8 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
                  &Venster::ExporteerGekozen},
         Opdracht{"actMailGekozen", u"E-&mail aan deze spelers...", "Shift+F8", "", LeesKeus,
                  &Venster::MailGekozen},
+        Opdracht{"actEtikettenGekozen", u"Et&iketten...", "Ctrl+Shift+L", "", LeesKeus,
+                 &Venster::EtikettenGekozen},
         Opdracht{"actVerwijderGekozen", u"&Verwijderen...", "Shift+Del", "", Keus,
                  &Venster::VerwijderGekozen},
         Opdracht{},

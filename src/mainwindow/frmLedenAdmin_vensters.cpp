@@ -6,6 +6,7 @@
 #include "dialogs/diaSortlijst.h"
 #include "dialogs/diaToevoegen.h"
 #include "dialogs/frmTerugzetten.h"
+#include "exchange/frmEtiketten.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmLedenAdmin.h"
@@ -237,7 +238,16 @@ void frmLedenAdmin::Print()
     const Groepsbeeld beeld = BeeldVan(administratie_.mappen, CodeUit(groeptekst));
     // In the order that is shown, where the list is not sorted by surname.
     const auto rijen = volgorde_ ? std::optional(picP0->Vlak()->Rijen()) : std::nullopt;
-    frmPrintIni(administratie_, groeptekst, beeld.kolomnamen, this, Getalnotatie(), rijen).exec();
+    frmPrintIni venster(administratie_, groeptekst, beeld.kolomnamen, this, Getalnotatie(), rijen);
+    OpenPrintkeuze(venster);
+}
+
+void frmLedenAdmin::OpenPrintkeuze(frmPrintIni& venster)
+{
+    connect(&venster, &frmPrintIni::etikettenGevraagd, this, [&](const std::vector<int>& rijen) {
+        frmEtiketten(administratie_, rijen, &venster).exec();
+    });
+    venster.exec();
 }
 
 void frmLedenAdmin::StartGatenlijst()

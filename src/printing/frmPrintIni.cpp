@@ -52,11 +52,17 @@ void frmPrintIni::Bouw()
 
     auto* groep = Naastelkaar({MaakLabel(u"Label2"_s, u"Gekozen Groep:"_s, this), {Label3, 1}});
     auto* midden = Naastelkaar({{BouwKolommen(), 1}, Wit{maten_.Twips(200)}, {BouwRechts(), 1}});
+    auto* cmdEtiketten = MaakKnop(u"cmdEtiketten"_s, u"Etiketten..."_s, u'E', this, [this] {
+        if (IsSubgroepGekozen())
+            emit etikettenGevraagd(MaakPrinttabel(administratie_.spelers.tabel, Opdracht()).rijen);
+    });
+    cmdEtiketten->setEnabled(!subgroepen_.empty());
     cmdOK = MaakKnop(u"cmdOK"_s, u"Printen..."_s, u'P', this, &frmPrintIni::Print);
     cmdOK->setDefault(true);
     auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Terug"_s, u'T', this, &QDialog::reject);
     const Wit wit{maten_.Twips(100)};
-    Onderelkaar({groep, wit, {midden, 1}, wit, Knoppenrij({cmdOK, cmdAnnuleren})}, this);
+    Onderelkaar({groep, wit, {midden, 1}, wit, Knoppenrij({cmdEtiketten, cmdOK, cmdAnnuleren})},
+                this);
     ZetOpSchuifblad(this);
     PasInScherm(this, {maten_.Twips(9600), maten_.Twips(7200)});
 }
@@ -177,6 +183,15 @@ Printopdracht frmPrintIni::Opdracht() const
     return opdracht;
 }
 
+/// Says so when none is.
+bool frmPrintIni::IsSubgroepGekozen()
+{
+    const bool gekozen = lstNBBgr->Aantal() == 0 || lstNBBgr->IetsGekozen();
+    if (!gekozen)
+        Meld(this, QMessageBox::Warning, u"U moet nog een subgroep kiezen."_s);
+    return gekozen;
+}
+
 void frmPrintIni::Print()
 {
     if (!lstKeus->IetsGekozen()) {
@@ -184,10 +199,8 @@ void frmPrintIni::Print()
         Meld(this, QMessageBox::Warning, u"U moet minimaal de rubriek 'Achternaam' selecteren."_s);
         return;
     }
-    if (lstNBBgr->Aantal() > 0 && !lstNBBgr->IetsGekozen()) {
-        Meld(this, QMessageBox::Warning, u"U moet nog een subgroep kiezen."_s);
+    if (!IsSubgroepGekozen())
         return;
-    }
     const Printopdracht opdracht = Opdracht();
     frmAfdrukken venster(administratie_,
                          {.tabel = MaakPrinttabel(administratie_.spelers.tabel, opdracht),

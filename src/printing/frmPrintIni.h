@@ -30,6 +30,10 @@ class frmPrintIni : public QDialog {
                 const QLocale& getallen = Getalnotatie(),
                 std::optional<std::vector<int>> rijen = {});
 
+  signals:
+    /// Labels for the players that are chosen here.
+    void etikettenGevraagd(const std::vector<int>& rijen);
+
   private:
     void Bouw();
     [[nodiscard]] QGroupBox* BouwKolommen();
@@ -38,6 +42,7 @@ class frmPrintIni : public QDialog {
     void PasAan();
     void ToonBreedte();
     void Print();
+    [[nodiscard]] bool IsSubgroepGekozen();
     [[nodiscard]] Printopdracht Opdracht() const;
     [[nodiscard]] float Schaal(int plaats) const;
 

@@ -23,6 +23,7 @@
 #include "dialogs/frmVerwSubgroep.h"
 #include "exchange/frmExport.h"
 #include "exchange/frmMail.h"
+#include "exchange/frmEtiketten.h"
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
@@ -254,6 +255,18 @@ void NeemPrinten(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, Administrati
     bezoek(blad);
 }
 
+/// Of the first two sheets of players, on a sheet of one's own.
+void NeemEtiketten(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster, Administratie& administratie)
+{
+    std::vector<int> rijen;
+    for (int rij = 1; rij <= std::min(40, administratie.spelers.tabel.Rijen()); ++rij)
+        rijen.push_back(rij);
+    frmEtiketten venster(administratie, rijen, &hoofdvenster);
+    auto* cmbVel = venster.findChild<QComboBox*>(u"cmbVel"_s);
+    cmbVel->setCurrentIndex(cmbVel->count() - 1);
+    bezoek(venster);
+}
+
 /// A player deleted and another one changed, the latter open.
 void NeemGeschiedenis(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster,
                       Administratie& administratie)
@@ -353,6 +366,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     std::vector<int> rijen(static_cast<std::size_t>(administratie.spelers.tabel.Rijen()));
     std::iota(rijen.begin(), rijen.end(), 1);
     Neem(bezoek, frmMail(administratie, rijen, &hoofdvenster));
+    NeemEtiketten(bezoek, hoofdvenster, administratie);
     NeemControle(bezoek, hoofdvenster, administratie);
     Neem(bezoek, diaToevoegen(administratie, &hoofdvenster));
     NeemKoppelvenster(bezoek, hoofdvenster, administratie);

@@ -188,7 +188,7 @@ TEST_F(GekozenTest, HetMenuKomtBijDeRegelOnderDeMuisEnHoudtEenKeusWaarinDieZit)
     }
     EXPECT_EQ(
         "actWijzigGekozen actVeldGekozen actVerplaatsGekozen actKopieerGekozen actPaarGekozen "
-        "actPrintGekozen actExporteerGekozen actMailGekozen "
+        "actPrintGekozen actExporteerGekozen actMailGekozen actEtikettenGekozen "
         "actVerwijderGekozen actTekstGekozen actGeschiedenisGekozen",
         namen.join(u' ').toStdString());
     const auto vraagMenu = [&](int regel) {
@@ -504,6 +504,44 @@ TEST_F(GekozenTest, PrintenIsVanDeGekozenSpelersAlleen)
         EXPECT_EQ((Regels_t{"A-LIJN", "MAANDAG"}), Lijstregels(keuze, "lstNBBgr"));
         Druk(keuze, "cmdAnnuleren");
     });
+}
+
+TEST_F(GekozenTest, EtikettenVanDeGekozenEnVanDeGekozenSubgroepen)
+{
+    const auto aantal = [&](const char* tekst) {
+        wachter.Bedien([tekst](QDialog& etiketten) {
+            EXPECT_EQ("frmEtiketten", etiketten.objectName().toStdString());
+            const std::string staat =
+                Vind<QLabel>(etiketten, "lblAantal")->text().toStdString();
+            EXPECT_EQ(0U, staat.find(tekst)) << staat;
+            Druk(etiketten, "cmdAnnuleren");
+        });
+    };
+    Zoek(u"van der horst"_s); // two at one address
+    Lijst()->setFocus();
+    Lijst()->Kies({0, 1});
+    aantal("1 etiket op 1 vel.");
+    Doe("actEtikettenGekozen");
+
+    Lijst()->selectAll();
+    wachter.Bedien([](QDialog& keuze) {
+        Vind<Regellijst>(keuze, "lstNBBgr")->selectAll();
+        Druk(keuze, "cmdEtiketten");
+        EXPECT_TRUE(keuze.isVisible());
+        keuze.reject();
+    });
+    aantal("1 etiket op 1 vel.");
+    Doe("actPrintGekozen");
+
+    Zoek({});
+    KiesGroep(1);
+    wachter.Bedien([](QDialog& keuze) {
+        Vind<Regellijst>(keuze, "lstNBBgr")->Kies({0});
+        Druk(keuze, "cmdEtiketten");
+        keuze.reject();
+    });
+    aantal("16 etiketten op 2 vellen."); // of the A-LIJN, 19 players
+    Opdracht("cmdPrint");
 }
 
 TEST_F(GekozenTest, PrintenHoudtDeVolgordeDieTeZienIs)

@@ -56,6 +56,7 @@ TEST_F(frmPrintIniTest, DeOpschriften)
                     {{"cmdSelAll", "Selecteer alles"},
                      {"cmdSelNone", "Selecteer niets"},
                      {"cmdTelefoonlijst", "Telefoonlijst van iedereen"},
+                     {"cmdEtiketten", "Etiketten..."},
                      {"cmdOK", "Printen..."},
                      {"cmdAnnuleren", "Terug"}},
                     {{"Frame1", "Welke kolommen te printen"}});
@@ -65,9 +66,9 @@ TEST_F(frmPrintIniTest, DeTabtoetsVolgtHetOog)
 {
     Lijst("lstNBBgr")->setFocus();
     EXPECT_EQ(
-        "cmbSchaal cmdPassend cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone cmdTelefoonlijst "
-        "lstNBBgr ",
-        MetTab(9));
+        "cmbSchaal cmdPassend cmdEtiketten cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone "
+        "cmdTelefoonlijst lstNBBgr ",
+        MetTab(10));
 }
 
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
@@ -311,6 +312,24 @@ TEST_F(frmPrintIniTest, NaHetVoorbeeldBlijftHetVensterMetZijnKeuzes)
     EXPECT_TRUE(venster->isVisible());
     EXPECT_EQ(eersteAcht, Lijst("lstKeus")->GekozenPlaatsen());
     EXPECT_EQ("0,7", Schaal());
+}
+
+/// Whoever listens gets the players of the chosen subgroups, whatever the columns.
+TEST_F(frmPrintIniTest, EtikettenVanDeGekozenSubgroepen)
+{
+    std::vector<std::vector<int>> gevraagd;
+    QObject::connect(venster.get(), &frmPrintIni::etikettenGevraagd, venster.get(),
+                     [&](const std::vector<int>& rijen) { gevraagd.push_back(rijen); });
+    wachter.Waarschuwing(u"U moet nog een subgroep kiezen."_s);
+    Opdracht("cmdEtiketten");
+    EXPECT_TRUE(gevraagd.empty());
+    Klik(Knop("cmdSelNone"));
+    KlikRegel("lstNBBgr", 1);
+    KlikRegel("lstNBBgr", 2);
+    Opdracht("cmdEtiketten");
+    EXPECT_EQ((std::vector<std::vector<int>>{{3, 4}}), gevraagd);
+    Open("Gr07-leeg");
+    EXPECT_FALSE(Knop("cmdEtiketten")->isEnabled());
 }
 
 TEST_F(frmPrintIniTest, TerugEnEscapeSluiten)

@@ -49,7 +49,7 @@ class Rondgangproef : public testing::Test, protected Suitestand {
         voortgang.move(ouder.pos()); // else the window manager places it
         bezoek(voortgang);
         gezien_.removeDuplicates();
-        EXPECT_EQ(32, gezien_.size()) << gezien_.join(u' ').toStdString();
+        EXPECT_EQ(34, gezien_.size()) << gezien_.join(u' ').toStdString();
     }
 
   private:
