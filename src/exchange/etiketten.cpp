@@ -5,6 +5,8 @@
 #include <unordered_set>
 #include <utility>
 
+#include "platform/tekst/regels.h"
+
 namespace plexoran {
 namespace {
 
@@ -71,12 +73,9 @@ Tekst Familienaam(const Spelertabel& tabel, const std::vector<int>& rijen)
     for (const int rij : rijen) {
         const Tekstblik achternaam = tabel.Cel(rij, Kolom::Achternaam);
         const Tekst naam =
-            IsPartner(achternaam) ? "" : VolleNaam({}, tabel.Cel(rij, Kolom::Tusv), achternaam);
-        for (std::size_t begin = 0; begin < naam.size();) {
-            const auto eind = std::min(naam.find('-', begin), naam.size());
-            delen.emplace_back(ZonderSpaties(Tekstblik(naam).substr(begin, eind - begin)));
-            begin = eind + 1;
-        }
+            Vervang(VolleNaam({}, tabel.Cel(rij, Kolom::Tusv), achternaam), '-', ',');
+        for (const Tekstblik deel : Items(IsPartner(achternaam) ? Tekstblik() : naam))
+            delen.emplace_back(ZonderSpaties(deel));
     }
     const Tekst samen = Samen(delen, "-", "-");
     return samen.empty() ? samen : "Fam. " + samen;

@@ -30,32 +30,21 @@ constexpr Lettermaat Adresletter{{.punten = 11}, 7};
 constexpr std::array<Lettermaat, 3> Naamkaartletters{
     {{{.punten = 26, .vet = true}, 12}, {{.punten = 26, .vet = true}, 12}, {{.punten = 10}, 7}}};
 
-double Rechts(const Etiketmaat& maat)
-{
-    return maat.links + (maat.kolommen - 1) * maat.stapOpzij + maat.breed;
-}
-double Onder(const Etiketmaat& maat)
-{
-    return maat.boven + (maat.rijen - 1) * maat.stapOmlaag + maat.hoog;
-}
+/// What of a label may bear text, from its top left corner; the same of all, so that they look
+/// alike.
+struct Tekstvak {
+    explicit Tekstvak(const Etiketmaat& maat)
+        : x(Rand(maat.links)), y(Rand(maat.boven)),
+          breed(maat.breed - x - Rand(A4Breed - maat.Rechts())),
+          hoog(maat.hoog - y - Rand(A4Hoog - maat.Onder()))
+    {}
+    static double Rand(double totPapierrand) { return std::max(Wit, Printerrand - totPapierrand); }
 
-struct Vak {
     double x;
     double y;
     double breed;
     double hoog;
 };
-
-/// What of a label may bear text, from its top left corner; the same of all, so that they look
-/// alike.
-Vak Tekstvak(const Etiketmaat& maat)
-{
-    const auto wit = [](double totRand) { return std::max(Wit, Printerrand - totRand); };
-    const double links = wit(maat.links);
-    const double boven = wit(maat.boven);
-    return {links, boven, maat.breed - links - wit(A4Breed - Rechts(maat)),
-            maat.hoog - boven - wit(A4Hoog - Onder(maat))};
-}
 
 /// Written with a point or a comma; no measure of A4 is outside these.
 std::optional<double> Getal(Tekstblik tekst)
@@ -71,8 +60,8 @@ std::optional<double> Getal(Tekstblik tekst)
 
 bool Etiketmaat::IsGoed() const
 {
-    const Vak tekst = Tekstvak(*this);
-    return Rechts(*this) <= A4Breed + Afronding && Onder(*this) <= A4Hoog + Afronding &&
+    const Tekstvak tekst(*this);
+    return Rechts() <= A4Breed + Afronding && Onder() <= A4Hoog + Afronding &&
            (kolommen == 1 || stapOpzij >= breed - Afronding) &&
            (rijen == 1 || stapOmlaag >= hoog - Afronding) && tekst.breed >= MinsteBreedte &&
            tekst.hoog >= MinsteHoogte;
@@ -145,7 +134,7 @@ void TekenKader(Tekenvlak& vlak, double x, double y, const Etiketmaat& maat, Kle
 std::vector<Etiketregel> PasEtiket(const Etiketwerk& werk, const Etiket& etiket,
                                    const Lettermeter& meter)
 {
-    const Vak vak = Tekstvak(werk.maat);
+    const Tekstvak vak(werk.maat);
     const auto maat = [&](std::size_t i) {
         return werk.naamkaarten ? Naamkaartletters.at(i) : Adresletter;
     };

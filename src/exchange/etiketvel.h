@@ -2,6 +2,7 @@
 // which is kept in "etiketten.ini" (docs/bestanden.md); and where the texts stand on them.
 #pragma once
 
+#include <array>
 #include <optional>
 
 #include "exchange/etiketten.h"
@@ -22,6 +23,8 @@ struct Etiketmaat {
     bool operator==(const Etiketmaat&) const = default;
 
     [[nodiscard]] int PerVel() const { return static_cast<int>(kolommen * rijen); }
+    [[nodiscard]] double Rechts() const { return links + (kolommen - 1) * stapOpzij + breed; }
+    [[nodiscard]] double Onder() const { return boven + (rijen - 1) * stapOmlaag + hoog; }
     /// Whether the sheet is one: within A4, no label over another, with room for an address in the
     /// smallest letter.
     [[nodiscard]] bool IsGoed() const;

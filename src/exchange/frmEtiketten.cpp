@@ -1,6 +1,10 @@
 #include "exchange/frmEtiketten.h"
 
 #include <QFormLayout>
+#include <QGridLayout>
+#include <QSignalBlocker>
+
+#include <algorithm>
 
 #include "platform/scherm/berichten.h"
 #include "platform/scherm/bouwstenen.h"

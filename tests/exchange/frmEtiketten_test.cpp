@@ -83,9 +83,9 @@ TEST_F(frmEtikettenTest, DeOpschriftenEnDeTabvolgorde)
                                         "3 x 8 (70 x 37 mm)", "2 x 4 (99,1 x 67,7 mm)",
                                         "4 x 10 (48,5 x 25,4 mm)", "eigen maat"}),
               Keuzes(Deel<QComboBox>("cmbVel")));
-    EXPECT_EQ((std::vector<std::string>{"Een etiket per adres", "Een etiket per speler",
-                                        "Naamkaartjes"}),
-              Keuzes(Deel<QComboBox>("cmbSoort")));
+    EXPECT_EQ(
+        (std::vector<std::string>{"Een etiket per adres", "Een etiket per speler", "Naamkaartjes"}),
+        Keuzes(Deel<QComboBox>("cmbSoort")));
     Deel<QWidget>("cmbSoort")->setFocus();
     EXPECT_EQ("chkFamilie cmbVolgorde cmbVel spnEerste chkKader lstAandacht picP0 cmdOK "
               "cmdAnnuleren cmbSoort ",
@@ -209,8 +209,8 @@ TEST_F(frmEtikettenTest, AlleVellenKomenErUit)
 {
     std::vector<Bewoner> bewoners;
     for (int i = 1; i <= 250; ++i)
-        bewoners.push_back({"v" + std::to_string(i), "", "Bos", "Brink " + std::to_string(i),
-                            "0411 AB", "Ede"});
+        bewoners.push_back(
+            {"v" + std::to_string(i), "", "Bos", "Brink " + std::to_string(i), "0411 AB", "Ede"});
     administratie.spelers.tabel = MaakBewoners(bewoners);
     Open();
     Kies("cmbVel", 3);
@@ -236,10 +236,14 @@ TEST_F(frmEtikettenTest, HetEigenVelWordtBewaard)
 {
     Open();
     Kies("cmbVel", 5);
-    for (const auto& [vak, waarde] :
-         {std::pair<const char*, double>{"spnKolommen", 1}, {"spnRijen", 2}, {"spnBreedte", 100},
-          {"spnHoogte", 50}, {"spnLinkermarge", 10}, {"spnBovenmarge", 20}, {"spnStapopzij", 0},
-          {"spnStapomlaag", 60}})
+    for (const auto& [vak, waarde] : {std::pair<const char*, double>{"spnKolommen", 1},
+                                      {"spnRijen", 2},
+                                      {"spnBreedte", 100},
+                                      {"spnHoogte", 50},
+                                      {"spnLinkermarge", 10},
+                                      {"spnBovenmarge", 20},
+                                      {"spnStapopzij", 0},
+                                      {"spnStapomlaag", 60}})
         Getal(vak)->setValue(waarde);
     Klik(Knop("cmdAnnuleren"));
     EXPECT_EQ(eigenVel, Bestand());

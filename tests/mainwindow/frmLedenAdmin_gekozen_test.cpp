@@ -511,8 +511,7 @@ TEST_F(GekozenTest, EtikettenVanDeGekozenEnVanDeGekozenSubgroepen)
     const auto aantal = [&](const char* tekst) {
         wachter.Bedien([tekst](QDialog& etiketten) {
             EXPECT_EQ("frmEtiketten", etiketten.objectName().toStdString());
-            const std::string staat =
-                Vind<QLabel>(etiketten, "lblAantal")->text().toStdString();
+            const std::string staat = Vind<QLabel>(etiketten, "lblAantal")->text().toStdString();
             EXPECT_EQ(0U, staat.find(tekst)) << staat;
             Druk(etiketten, "cmdAnnuleren");
         });

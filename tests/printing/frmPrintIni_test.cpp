@@ -65,10 +65,9 @@ TEST_F(frmPrintIniTest, DeOpschriften)
 TEST_F(frmPrintIniTest, DeTabtoetsVolgtHetOog)
 {
     Lijst("lstNBBgr")->setFocus();
-    EXPECT_EQ(
-        "cmbSchaal cmdPassend cmdEtiketten cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone "
-        "cmdTelefoonlijst lstNBBgr ",
-        MetTab(10));
+    EXPECT_EQ("cmbSchaal cmdPassend cmdEtiketten cmdOK cmdAnnuleren lstKeus cmdSelAll cmdSelNone "
+              "cmdTelefoonlijst lstNBBgr ",
+              MetTab(10));
 }
 
 TEST_F(frmPrintIniTest, EenLangeGroepsnaamMaaktHetVensterNietGroter)
