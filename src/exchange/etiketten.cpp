@@ -1,8 +1,8 @@
 #include "exchange/etiketten.h"
 
 #include <algorithm>
+#include <set>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 #include "platform/tekst/regels.h"
@@ -34,16 +34,16 @@ std::vector<std::vector<int>> Bewoners(const Spelertabel& tabel, const std::vect
                                        Etiketsoort soort, std::vector<int>& zonderAdres)
 {
     std::vector<std::vector<int>> uit;
-    std::unordered_map<Tekst, std::size_t> plekken;
+    std::unordered_map<Tekst, std::size_t> plekken(rijen.size());
     for (const int rij : rijen) {
         Tekst sleutel = soort == Etiketsoort::Naamkaart ? " " : Adressleutel(tabel, rij);
         if (sleutel.empty()) {
             zonderAdres.push_back(rij);
             continue;
         }
-        if (soort != Etiketsoort::PerAdres)
-            sleutel = std::to_string(uit.size());
-        const auto plek = plekken.try_emplace(std::move(sleutel), uit.size()).first->second;
+        std::size_t plek = uit.size();
+        if (soort == Etiketsoort::PerAdres)
+            plek = plekken.try_emplace(std::move(sleutel), plek).first->second;
         if (plek == uit.size())
             uit.emplace_back();
         uit[plek].push_back(rij);
@@ -54,7 +54,7 @@ std::vector<std::vector<int>> Bewoners(const Spelertabel& tabel, const std::vect
 /// Each text once, capitals and accents apart.
 Tekst Samen(const std::vector<Tekst>& teksten, Tekstblik tussen, Tekstblik laatste)
 {
-    std::unordered_set<Tekst> gezien;
+    std::set<Tekst> gezien;
     std::vector<Tekstblik> enige;
     for (const Tekst& tekst : teksten) {
         if (!tekst.empty() && gezien.insert(Gewichten(tekst)).second)
@@ -93,7 +93,7 @@ Etiket MaakEtiket(const Spelertabel& tabel, const std::vector<int>& rijen,
     std::vector<Tekst> namen;
     for (const int rij : rijen)
         namen.push_back(VolleNaam(tabel, rij));
-    const Tekst voluit = Samen(namen, ", ", " en ");
+    const Tekst voluit = namen.size() == 1 ? namen.front() : Samen(namen, ", ", " en ");
     const bool samen = opdracht.alsFamilie && voluit != namen.front();
     const Tekst familie = samen ? Familienaam(tabel, rijen) : Tekst();
     const Tekst postcode = veld(Kolom::Postc);

@@ -113,7 +113,7 @@ QLayout* frmEtiketten::BouwKeuzes()
                     {u"Een etiket per adres"_s, u"Een etiket per speler"_s, u"Naamkaartjes"_s});
     chkFamilie = MaakVink(u"chkFamilie"_s, u"Als 'Fam. Bos-de Vries'"_s, u'F', this);
     vorm->addRow(QString(), chkFamilie);
-    auto* lblOnderschrift = MaakLabel(u"lblOnderschrift"_s, u"Kleine regel:"_s, this);
+    lblOnderschrift = MaakLabel(u"lblOnderschrift"_s, u"Kleine regel:"_s, this);
     txtOnderschrift = new Tekstvak(this);
     Noem(txtOnderschrift, u"txtOnderschrift"_s);
     txtOnderschrift->ZetTekst(Groepsnaam(administratie_, rijen_));
@@ -177,8 +177,9 @@ void frmEtiketten::MaakEtiketten()
 {
     const auto soort = static_cast<Etiketsoort>(cmbSoort->currentIndex());
     werk_.naamkaarten = soort == Etiketsoort::Naamkaart;
-    chkFamilie->setEnabled(soort == Etiketsoort::PerAdres);
-    txtOnderschrift->setEnabled(werk_.naamkaarten);
+    chkFamilie->setVisible(soort == Etiketsoort::PerAdres);
+    lblOnderschrift->setVisible(werk_.naamkaarten);
+    txtOnderschrift->setVisible(werk_.naamkaarten);
     auto reeks = plexoran::MaakEtiketten(administratie_.spelers.tabel, rijen_,
                                          {.soort = soort,
                                           .alsFamilie = chkFamilie->isChecked(),

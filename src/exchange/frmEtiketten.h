@@ -49,6 +49,7 @@ class frmEtiketten : public QDialog {
 
     QComboBox* cmbSoort = nullptr;
     QCheckBox* chkFamilie = nullptr;
+    QLabel* lblOnderschrift = nullptr;
     Tekstvak* txtOnderschrift = nullptr;
     QComboBox* cmbVolgorde = nullptr;
     QComboBox* cmbVel = nullptr;

@@ -101,7 +101,7 @@ TEST_F(frmEtikettenTest, HetVelInBeeldVolgtDeKeuzes)
     EXPECT_EQ("Bo Bok Fam. Zee-de Vries Brink2 Lindelaan3 0410ZZ Ede 0411AB Wielerdam",
               Voorbeeld());
     Kies("cmbSoort", 1);
-    EXPECT_FALSE(Deel<QCheckBox>("chkFamilie")->isEnabled());
+    EXPECT_FALSE(Deel<QCheckBox>("chkFamilie")->isVisible());
     Kies("cmbVolgorde", 1);
     EXPECT_EQ("Bo Bok Anna de Vries Brink2 Lindelaan3 0410ZZ Ede 0411AB Wielerdam Jan Zee "
               "Lindelaan3 0411AB Wielerdam",
@@ -113,10 +113,11 @@ TEST_F(frmEtikettenTest, HetVelInBeeldVolgtDeKeuzes)
 TEST_F(frmEtikettenTest, NaamkaartjesHebbenDeNaamVanDeGroep)
 {
     Open();
-    EXPECT_FALSE(Deel<QWidget>("txtOnderschrift")->isEnabled());
+    EXPECT_FALSE(Deel<QWidget>("txtOnderschrift")->isVisible());
     EXPECT_EQ("Clubleden", Vak("txtOnderschrift"));
     Kies("cmbSoort", 2);
     Kies("cmbVolgorde", 1);
+    EXPECT_TRUE(Deel<QWidget>("lblOnderschrift")->isVisible());
     EXPECT_EQ("4 etiketten op 1 vel. Zonder adres en dus niet erbij: 0. Ingekort: 0.",
               Label("lblAantal"));
     EXPECT_EQ("Bo Co Bok Cox Clubleden Clubleden Anna Jan de Vries Zee Clubleden Clubleden",
