@@ -2,9 +2,8 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
-#include "register/spelertabel.h"
+#include "register/veldregels.h"
 
 namespace plexoran {
 
@@ -31,15 +30,5 @@ inline constexpr int EersteIngaveveld = static_cast<int>(Kolom::Voornaam);
 /// A key typed into a field whose text has `lengte` characters: the character to insert, or none
 /// when the key is swallowed.
 [[nodiscard]] std::optional<char> TypTeken(Kolom veld, char teken, std::size_t lengte);
-
-enum class Reparatie { Komma, Partner };
-
-struct Veldverlaten {
-    Tekst tekst;
-    std::vector<Reparatie> reparaties; ///< to tell the user, in this order
-};
-
-/// What leaving a field makes of its text.
-[[nodiscard]] Veldverlaten VerlaatVeld(Kolom veld, Tekstblik tekst);
 
 } // namespace plexoran
