@@ -9,7 +9,7 @@
 
 namespace plexoran {
 
-frmVoorbeeld::frmVoorbeeld(Voorbeeld& voorbeeld, const QString& bestand, QWidget* ouder)
+frmVoorbeeld::frmVoorbeeld(Regelvoorbeeld& voorbeeld, const QString& bestand, QWidget* ouder)
     : QDialog(ouder), voorbeeld_(voorbeeld), model_(new Voorbeeldmodel(voorbeeld, this))
 {
     setObjectName(u"frmVoorbeeld"_s);
@@ -97,6 +97,8 @@ void frmVoorbeeld::VulSoorten()
     voegToe(u"Alles"_s, voorbeeld_.Regels().size(), Alles);
     for (int i = 0; i < static_cast<int>(AantalVoorbeeldsoorten); ++i) {
         const auto soort = static_cast<Voorbeeldsoort>(i);
+        if (soort == Voorbeeldsoort::Verdwenen && voorbeeld_.IsLijst())
+            continue; // a list says nothing of who is not in it
         voegToe(Soorttekst(soort), voorbeeld_.Aantal(soort), i);
     }
     voegToe(u"Twijfelachtig"_s, voorbeeld_.AantalTwijfelachtig(), Twijfelachtig);
@@ -123,10 +125,12 @@ void frmVoorbeeld::ToonTotalen()
                         aantal(Voorbeeldsoort::Nieuw), aantal(Voorbeeldsoort::Gewijzigd),
                         aantal(Voorbeeldsoort::Ongewijzigd), aantal(Voorbeeldsoort::Geweigerd),
                         QString::number(voorbeeld_.AantalTwijfelachtig()));
-    tekst += voorbeeld_.IsHeel()
-                 ? u" Niet meer in het ledenbestand: %1."_s.arg(aantal(Voorbeeldsoort::Verdwenen))
-                 : u" Wie niet meer in het ledenbestand staat, is niet te zeggen: het is niet heel "
-                   "gelezen."_s;
+    if (!voorbeeld_.IsLijst())
+        tekst +=
+            voorbeeld_.IsHeel()
+                ? u" Niet meer in het ledenbestand: %1."_s.arg(aantal(Voorbeeldsoort::Verdwenen))
+                : u" Wie niet meer in het ledenbestand staat, is niet te zeggen: het is niet heel "
+                  "gelezen."_s;
     const std::size_t regels = voorbeeld_.RegelsUit();
     const std::size_t velden = voorbeeld_.VeldenUit();
     if (regels + velden > 0)

@@ -1,4 +1,4 @@
-// What the import of one member file would do, to be looked at before it does it. Lines and fields
+// What the import of one file would do, to be looked at before it does it. Lines and fields
 // can be switched off in it; the window that opened it asks and imports.
 #pragma once
 
@@ -17,7 +17,7 @@ class frmVoorbeeld : public QDialog {
 
   public:
     /// The preview must outlive the window.
-    frmVoorbeeld(Voorbeeld& voorbeeld, const QString& bestand, QWidget* ouder);
+    frmVoorbeeld(Regelvoorbeeld& voorbeeld, const QString& bestand, QWidget* ouder);
 
     /// For when nothing is going to change.
     [[nodiscard]] static QString Nietstekst();
@@ -30,7 +30,7 @@ class frmVoorbeeld : public QDialog {
     void Toon();
     void ToonTotalen();
 
-    Voorbeeld& voorbeeld_;
+    Regelvoorbeeld& voorbeeld_;
     Voorbeeldmodel* model_;
     QLabel* lblTotalen;
     QComboBox* cmbSoort;

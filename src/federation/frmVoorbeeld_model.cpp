@@ -11,9 +11,10 @@ namespace {
 /// Of a line itself; its fields have the place of their line, from 1.
 constexpr quintptr IsRegel = 0;
 
-QString Naam(Kolom kolom)
+QString Naam(Kolom kolom, const Regelvoorbeeld& voorbeeld)
 {
-    return NaarQString(Kolomnamen[Index(kolom)]);
+    const bool subgroep = kolom == Kolom::NBBgr && voorbeeld.IsLijst();
+    return NaarQString(subgroep ? Subgroepnaam : Kolomnamen[Index(kolom)]);
 }
 
 } // namespace
@@ -26,7 +27,7 @@ QString Soorttekst(Voorbeeldsoort soort)
     return teksten.at(static_cast<std::size_t>(soort));
 }
 
-Voorbeeldmodel::Voorbeeldmodel(Voorbeeld& voorbeeld, QObject* ouder)
+Voorbeeldmodel::Voorbeeldmodel(Regelvoorbeeld& voorbeeld, QObject* ouder)
     : QAbstractItemModel(ouder), voorbeeld_(voorbeeld), volgorde_(voorbeeld.Regels().size())
 {
     std::iota(volgorde_.begin(), volgorde_.end(), std::size_t{0});
@@ -162,7 +163,8 @@ QVariant Voorbeeldmodel::data(const QModelIndex& plek, int rol) const
     if (rol == Qt::AccessibleTextRole && plek.column() == 0 && !isRegel) {
         const auto tekst = [](Tekstblik cel) { return cel.empty() ? u"leeg"_s : NaarQString(cel); };
         const Veldwijziging veld = Veld(plek);
-        return u"%1: %2 wordt %3"_s.arg(Naam(veld.kolom), tekst(veld.oud), tekst(veld.nieuw));
+        return u"%1: %2 wordt %3"_s.arg(Naam(veld.kolom, voorbeeld_), tekst(veld.oud),
+                                        tekst(veld.nieuw));
     }
     if (rol != Qt::DisplayRole && rol != Qt::ToolTipRole)
         return {};
@@ -190,7 +192,7 @@ QString Voorbeeldmodel::Veldtekst(const QModelIndex& plek) const
     const Veldwijziging veld = Veld(plek);
     switch (plek.column()) {
     case Soort:
-        return Naam(veld.kolom);
+        return Naam(veld.kolom, voorbeeld_);
     case Wie:
         return NaarQString(veld.oud);
     case Wat:
@@ -224,10 +226,8 @@ QString Voorbeeldmodel::Wijziging(std::size_t regel) const
         return u"komt erbij"_s;
     case Voorbeeldsoort::Gewijzigd: {
         QStringList velden;
-        for (const Kolom kolom : Importkolommen) {
-            if (wat.anders[Index(kolom)])
-                velden << Naam(kolom);
-        }
+        for (const Veldwijziging& veld : voorbeeld_.Velden(regel))
+            velden << Naam(veld.kolom, voorbeeld_);
         return velden.join(u", "_s);
     }
     case Voorbeeldsoort::Ongewijzigd:
@@ -237,33 +237,55 @@ QString Voorbeeldmodel::Wijziging(std::size_t regel) const
     case Voorbeeldsoort::Geweigerd:
         break;
     }
-    switch (wat.weigering) {
+    return voorbeeld_.IsLijst()
+               ? u"regel %1: "_s.arg(voorbeeld_.Bestandsregel(regel)) + Weigertekst(regel)
+               : Weigertekst(regel);
+}
+
+QString Voorbeeldmodel::Weigertekst(std::size_t regel) const
+{
+    switch (voorbeeld_.Regels()[regel].weigering) {
     case Weigering::ZonderNBBnr:
         return u"niet verwerkt: het NBB-nummer ontbreekt"_s;
     case Weigering::KomtVoor:
         return u"overgeslagen: het NBB-nummer komt al voor, eerder in dit bestand, of anders "
-               "geschreven in groep '%1'"_s.arg(NaarQString(voorbeeld_.Opdracht().importgroep));
+               "geschreven in groep '%1'"_s.arg(NaarQString(voorbeeld_.Groep()));
     case Weigering::MetIsTeken:
         return u"overgeslagen: er staat een '=' in, zoals in een kopregel"_s;
     case Weigering::TeKort:
         return u"heeft te weinig kolommen: deze regel en wat erachter staat, is niet gelezen"_s;
+    case Weigering::Cellen:
+        return u"overgeslagen: er staan niet evenveel gegevens op als op de eerste regel"_s;
+    case Weigering::GeenNaam:
+        return u"overgeslagen: de achternaam ontbreekt"_s;
+    case Weigering::Nummer:
+        return u"overgeslagen: het NBB-nummer is geen getal van ten hoogste 8 cijfers"_s;
     }
     return {};
+}
+
+/// Somebody else of that name is known.
+QString Voorbeeldmodel::Naamgenoot(int rij) const
+{
+    const auto cel = [&](Kolom kolom) { return voorbeeld_.Tabel().Cel(rij, kolom); };
+    const auto met = [&](const QString& wat, Kolom kolom) {
+        return IsBlanco(cel(kolom)) ? u"zonder "_s + wat
+                                    : u"met %1 %2"_s.arg(wat, NaarQString(cel(kolom)));
+    };
+    const QString nummer = u"deze naam staat er al "_s + met(u"NBB-nummer"_s, Kolom::NBBnr);
+    return voorbeeld_.IsLijst() ? nummer + u" en "_s + met(u"postcode"_s, Kolom::Postc) : nummer;
 }
 
 QString Voorbeeldmodel::Twijfel(const Voorbeeldregel& regel) const
 {
     QStringList redenen;
-    if (regel.naamgenoot > 0) {
-        const Tekstblik nummer = voorbeeld_.Tabel().Cel(regel.naamgenoot, Kolom::NBBnr);
-        redenen << u"deze naam staat er al "_s + (IsBlanco(nummer)
-                                                      ? u"zonder NBB-nummer"_s
-                                                      : u"met NBB-nummer "_s + NaarQString(nummer));
-    }
+    if (regel.naamgenoot > 0)
+        redenen << Naamgenoot(regel.naamgenoot);
     if (regel.andereNaam)
         redenen << u"bij dit nummer stond een heel andere naam"_s;
     if (regel.dubbel)
-        redenen << u"deze naam staat meer dan eens in het ledenbestand"_s;
+        redenen << (voorbeeld_.IsLijst() ? u"deze naam staat meer dan eens in de lijst"_s
+                                         : u"deze naam staat meer dan eens in het ledenbestand"_s);
     if (regel.zonderAchternaam)
         redenen << u"zonder achternaam wordt deze speler na het opslaan niet meer ingelezen"_s;
     return redenen.isEmpty() ? QString() : u" (let op: "_s + redenen.join(u"; "_s) + u')';

@@ -5,7 +5,7 @@
 
 #include <QAbstractItemModel>
 
-#include "federation/voorbeeld.h"
+#include "federation/regelvoorbeeld.h"
 #include "platform/scherm/tekstbrug.h"
 
 namespace plexoran {
@@ -18,7 +18,7 @@ class Voorbeeldmodel : public QAbstractItemModel {
   public:
     enum Kop { Soort, NBBnr, Wie, Wat, AantalKoppen };
 
-    Voorbeeldmodel(Voorbeeld& voorbeeld, QObject* ouder);
+    Voorbeeldmodel(Regelvoorbeeld& voorbeeld, QObject* ouder);
 
     /// Shows those lines only of this kind, or the doubtful ones, or all, in which `zoek` occurs.
     struct Zeef {
@@ -44,12 +44,14 @@ class Voorbeeldmodel : public QAbstractItemModel {
     [[nodiscard]] std::size_t Regel(const QModelIndex& plek) const;
     [[nodiscard]] QString Regeltekst(std::size_t regel, int kolom) const;
     [[nodiscard]] QString Wijziging(std::size_t regel) const;
+    [[nodiscard]] QString Weigertekst(std::size_t regel) const;
+    [[nodiscard]] QString Naamgenoot(int rij) const;
     [[nodiscard]] QString Twijfel(const Voorbeeldregel& regel) const;
     [[nodiscard]] Veldwijziging Veld(const QModelIndex& plek) const;
     [[nodiscard]] QString Veldtekst(const QModelIndex& plek) const;
     void Pas();
 
-    Voorbeeld& voorbeeld_;
+    Regelvoorbeeld& voorbeeld_;
     Zeef zeef_;
     std::vector<std::size_t> volgorde_; ///< of all lines
     std::vector<std::size_t> getoond_;

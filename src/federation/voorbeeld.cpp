@@ -6,13 +6,6 @@
 namespace plexoran {
 namespace {
 
-/// By which names are compared: without regard to case, accent and blanks.
-Tekst Naamsleutel(Tekst naam)
-{
-    std::erase(naam, ' ');
-    return Gewichten(naam);
-}
-
 Tekst Nummersleutel(Tekstblik nummer)
 {
     return OpgemaaktNBBnr(ZonderSpaties(nummer));
@@ -25,15 +18,6 @@ struct Naamdragers {
     int rij = 0;
     int ander = 0;
 };
-
-/// Neither first name nor surname is what it was.
-bool IsAndereNaam(const Rijblikken& oud, const Rijblikken& nieuw)
-{
-    return std::ranges::all_of(std::array{Kolom::Voornaam, Kolom::Achternaam}, [&](Kolom kolom) {
-        const Tekst was = Naamsleutel(Tekst(oud[Index(kolom)]));
-        return was.empty() || was != Naamsleutel(Tekst(nieuw[Index(kolom)]));
-    });
-}
 
 } // namespace
 
@@ -61,16 +45,15 @@ tl::expected<Voorbeeld, Samenvoegfout> Voorbeeld::Maak(const Spelertabel& tabel,
     uit.VoegOvergeslagenToe();
     if (uit.IsHeel() && !uit.ZoekVerdwenen(verder))
         return tl::unexpected(Samenvoegfout::Gestopt);
-    for (const Voorbeeldregel& regel : uit.regels_)
-        ++uit.aantallen_[static_cast<std::size_t>(regel.soort)];
+    uit.Tel();
     return uit;
 }
 
 Voorbeeld::Voorbeeld(const Spelertabel& tabel, Samenvoegopdracht opdracht,
                      const Ledenlezing& lezing, Besluiten besluiten)
-    : tabel_(tabel), opdracht_(std::move(opdracht)), lezing_(lezing),
-      NBBgr_(AlsVeld(Hoofdletters(opdracht_.subgroep))), besluiten_(std::move(besluiten)),
-      regels_(besluiten_.size()), eerdere_(besluiten_.size())
+    : Regelvoorbeeld(tabel, opdracht.importgroep, std::move(besluiten)),
+      opdracht_(std::move(opdracht)), lezing_(lezing),
+      NBBgr_(AlsVeld(Hoofdletters(opdracht_.subgroep)))
 {}
 
 void Voorbeeld::VoegOvergeslagenToe()
@@ -192,26 +175,10 @@ bool Voorbeeld::IsHeel() const
     return lezing_.teKorteRegel == 0 && !lezing_.nietGeladen && !lezing_.anderNummer;
 }
 
-std::size_t Voorbeeld::AantalTwijfelachtig() const
-{
-    return static_cast<std::size_t>(
-        std::ranges::count_if(regels_, &Voorbeeldregel::IsTwijfelachtig));
-}
-
 Rijblikken Voorbeeld::Cellen(std::size_t regel) const
 {
     return Importcellen(opdracht_.lstN1[regel],
                         regels_[regel].rij == 0 ? Regellot::Nieuw : Regellot::Ververst, NBBgr_);
-}
-
-/// What stands in a cell after what this line and those before it do to its player.
-Tekstblik Voorbeeld::Na(std::optional<std::size_t> regel, int rij, Kolom kolom) const
-{
-    while (regel && !(IsAan(*regel) && IsAan(*regel, kolom)))
-        regel = eerdere_[*regel];
-    if (regel)
-        return Cellen(*regel)[Index(kolom)];
-    return rij > 0 ? tabel_.Cel(rij, kolom) : Tekstblik();
 }
 
 Tekst Voorbeeld::Naam(std::size_t regel) const
@@ -235,77 +202,6 @@ Tekstblik Voorbeeld::Nummer(std::size_t regel) const
         return Cellen(regel)[Index(Kolom::NBBnr)];
     const int rij = regels_[regel].rij;
     return rij > 0 ? tabel_.Cel(rij, Kolom::NBBnr) : Tekstblik();
-}
-
-std::vector<Veldwijziging> Voorbeeld::Velden(std::size_t regel) const
-{
-    std::vector<Veldwijziging> uit;
-    for (const Kolom kolom : Importkolommen) {
-        if (regels_[regel].anders[Index(kolom)])
-            uit.push_back({kolom, Na(eerdere_[regel], regels_[regel].rij, kolom),
-                           Cellen(regel)[Index(kolom)]});
-    }
-    return uit;
-}
-
-bool Voorbeeld::IsAan(std::size_t regel) const
-{
-    return MagUit(regel) && besluiten_[regel].lot != Regellot::Uitgezet;
-}
-
-bool Voorbeeld::IsAan(std::size_t regel, Kolom kolom) const
-{
-    return besluiten_[regel].kolommen[Index(kolom)];
-}
-
-void Voorbeeld::Zet(std::size_t regel, bool aan)
-{
-    if (MagUit(regel))
-        besluiten_[regel].lot = !aan                      ? Regellot::Uitgezet
-                                : regels_[regel].rij == 0 ? Regellot::Nieuw
-                                                          : Regellot::Ververst;
-}
-
-void Voorbeeld::Zet(std::size_t regel, Kolom kolom, bool aan)
-{
-    if (regels_[regel].anders[Index(kolom)] && MagUit(regel, kolom))
-        besluiten_[regel].kolommen[Index(kolom)] = aan;
-}
-
-std::size_t Voorbeeld::RegelsUit() const
-{
-    return static_cast<std::size_t>(
-        std::ranges::count(besluiten_, Regellot::Uitgezet, &Regelbesluit::lot));
-}
-
-std::size_t Voorbeeld::VeldenUit() const
-{
-    std::size_t aantal = 0;
-    for (std::size_t i = 0; i < besluiten_.size(); ++i) {
-        if (IsAan(i))
-            aantal += regels_[i].anders.count() - besluiten_[i].kolommen.count();
-    }
-    return aantal;
-}
-
-/// Of two lines for one player the second can undo the first.
-bool Voorbeeld::VerandertIets() const
-{
-    std::vector<bool> isLaatste(besluiten_.size(), true);
-    for (std::size_t i = 0; i < besluiten_.size(); ++i) {
-        if (eerdere_[i])
-            isLaatste[*eerdere_[i]] = false;
-    }
-    for (std::size_t i = 0; i < besluiten_.size(); ++i) {
-        if (besluiten_[i].lot == Regellot::Nieuw)
-            return true;
-        const int rij = regels_[i].rij;
-        if (rij > 0 && isLaatste[i] && std::ranges::any_of(Importkolommen, [&](Kolom kolom) {
-                return Na(i, rij, kolom) != tabel_.Cel(rij, kolom);
-            }))
-            return true;
-    }
-    return false;
 }
 
 } // namespace plexoran
