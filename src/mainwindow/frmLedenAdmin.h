@@ -188,6 +188,7 @@ class frmLedenAdmin : public QMainWindow {
     void ToonDubbeleNamen();
     void HaalNBBnamen();
     void VoegSessiespelersToe();
+    void ImporteerLijst();
     void KoppelZwevenden();
     void OnderhoudParen();
     void OpenParen(const Tekst& groeptekst, const std::vector<int>& rijen);

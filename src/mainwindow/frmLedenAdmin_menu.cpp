@@ -104,6 +104,8 @@ std::span<const frmLedenAdmin::Opdracht> frmLedenAdmin::Opdrachten()
                  &Venster::Controleer},
         Opdracht{"actDubbelen", u"&Dubbele spelers...", "Ctrl+Shift+D", "", Wijzigt,
                  &Venster::ZoekDubbelen},
+        Opdracht{"actLijstImport", u"Spelers uit een &lijst...", "Ctrl+Shift+I", "", Wijzigt,
+                 &Venster::ImporteerLijst},
         Opdracht{"actTerugzetten", u"&Reservekopie terugzetten...", "Ctrl+Shift+R", "", Wijzigt,
                  &Venster::ZetTerug},
         Opdracht{"actOverzicht", u"&Overzicht...", "Ctrl+Shift+O", "", Geen,

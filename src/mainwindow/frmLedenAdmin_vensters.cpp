@@ -7,6 +7,7 @@
 #include "dialogs/diaToevoegen.h"
 #include "dialogs/frmTerugzetten.h"
 #include "exchange/frmEtiketten.h"
+#include "exchange/frmLijstImport.h"
 #include "help/frmToelichting.h"
 #include "mainwindow/frmEersteStart.h"
 #include "mainwindow/frmLedenAdmin.h"
@@ -113,6 +114,22 @@ void frmLedenAdmin::HaalNBBnamen()
         return;
     opslag_.Reserve().Maak("voor import");
     SlaOpEnToon();
+}
+
+/// The group that the players came to is shown, whichever it was.
+void frmLedenAdmin::ImporteerLijst()
+{
+    if (!MagWijzigen())
+        return;
+    const Noteer noteer(administratie_.geschiedenis, NaarTekst(u"Lijst geïmporteerd"_s));
+    frmLijstImport venster(administratie_, CodeUit(Groeptekst()), this);
+    const int antwoord = venster.exec();
+    activateWindow(); // as above
+    if (antwoord != QDialog::Accepted)
+        return;
+    opslag_.Reserve().Maak("voor import");
+    SlaOpEnToon();
+    KiesGroep(Groepnummer(venster.Groep()) - 1);
 }
 
 void frmLedenAdmin::VoegSessiespelersToe()

@@ -24,6 +24,7 @@
 #include "exchange/frmExport.h"
 #include "exchange/frmMail.h"
 #include "exchange/frmEtiketten.h"
+#include "exchange/frmLijstImport.h"
 #include "federation/diaControleNBB.h"
 #include "federation/diaRekProgkeus.h"
 #include "federation/frmImportNBB.h"
@@ -194,6 +195,22 @@ void NeemVoorbeeld(const Bezoek& bezoek, QWidget& hoofdvenster, const Administra
     bezoek(venster);
 }
 
+/// A list with a header, as a sheet saves it.
+void NeemLijst(const Bezoek& bezoek, QWidget& hoofdvenster, Administratie& administratie)
+{
+    const Pad bestand = Samen(administratie.mappen.ADMMAP, "leden 2026.csv");
+    if (!SchrijfHeel(administratie.schijf, bestand,
+                     "\xEF\xBB\xBFNaam;E-mail;Telefoon;Adres;Postcode;Woonplaats;Rol\r\n"
+                     "\"Berg, Jan van der\";jan@thuispost.example;06-00000771;Lindelaan 3;0411 AB;"
+                     "Wielerdam;lid\r\n"
+                     "Zo\xC3\xAB Zeldenrust;;06-00000772;Brink 12;0411 CD;Wielerdam;gast\r\n"
+                     "J. de Wit;wit@thuispost.example;;Pad 1;0437 VC;Oud-Merwolde;lid\r\n"))
+        return;
+    frmLijstImport venster(administratie, "Gr02-", &hoofdvenster);
+    venster.Open(bestand);
+    bezoek(venster);
+}
+
 /// With the floating players of the competition, and the first of them chosen.
 void NeemKoppelvenster(const Bezoek& bezoek, frmLedenAdmin& hoofdvenster,
                        Administratie& administratie)
@@ -358,6 +375,7 @@ void DoorloopVensters(frmLedenAdmin& hoofdvenster, Administratie& administratie,
     Neem(bezoek, frmImportNBB(administratie, importgeheugen, &hoofdvenster));
     administratie.rekenprogramma = zonder;
     NeemVoorbeeld(bezoek, hoofdvenster, administratie);
+    NeemLijst(bezoek, hoofdvenster, administratie);
     Neem(bezoek, diaVerplaats(administratie, &hoofdvenster));
     Neem(bezoek, diaKopieer(administratie, &hoofdvenster));
     Neem(bezoek, frmVerwSubgroep(administratie, &hoofdvenster));

@@ -1,0 +1,286 @@
+#include "exchange/lijstimport.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "register/veldregels.h"
+
+namespace plexoran {
+namespace {
+
+constexpr std::array Naamkolommen{Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam};
+constexpr std::size_t LengteKey = 6;
+constexpr std::size_t LengteNBBnr = 8;
+
+/// What the entry dialog keeps of a text: line ends and tabs become blanks, other control
+/// characters go.
+Tekst ZonderStuurtekens(Tekstblik cel)
+{
+    constexpr Tekstblik onbepaald = "\x7F\x81\x8D\x8F\x90\x9D";
+    Tekst uit;
+    for (const char teken : cel) {
+        if (teken == '\t' || teken == '\r' || teken == '\n')
+            uit += ' ';
+        else if (static_cast<unsigned char>(teken) >= ' ' &&
+                 onbepaald.find(teken) == Tekstblik::npos)
+            uit += teken;
+    }
+    return uit;
+}
+
+Tekst Geslacht(const Tekst& cel)
+{
+    const Tekst woord = " " + KaleWoorden(cel) + " ";
+    if (Tekstblik(" M MAN MALE DHR HEER ").find(woord) != Tekstblik::npos)
+        return "M";
+    return Tekstblik(" V VROUW F FEMALE MW MEVR MEVROUW ").find(woord) != Tekstblik::npos ? "V"
+                                                                                          : cel;
+}
+
+Tekst Schoon(Kolom kolom, Tekstblik cel)
+{
+    const Tekst tekst = ZonderStuurtekens(ZonderWacht(cel));
+    Tekst uit = VerlaatVeld(kolom, ZonderSpaties(tekst)).tekst;
+    return kolom == Kolom::MV && !uit.empty() ? Geslacht(uit) : uit;
+}
+
+bool IsNBBnr(Tekstblik tekst)
+{
+    return tekst.size() <= LengteNBBnr && std::ranges::all_of(tekst, IsCijfer);
+}
+
+/// Who bears one name: lines of the list, and the first player of the target group.
+struct Naamdragers {
+    std::size_t regels = 0;
+    int rij = 0;
+};
+
+/// Whether a text stands there already, be it as it would be kept or as it is in the list.
+bool StaatEr(Kolom kolom, Tekstblik oud, Tekstblik rauw, const Tekst& schoon)
+{
+    return oud == schoon || (!rauw.empty() && (oud == rauw || oud == ZonderWacht(rauw))) ||
+           (kolom == Kolom::Postc && Naamsleutel(Tekst(oud)) == Naamsleutel(schoon)) ||
+           (kolom == Kolom::NBBnr && OpgemaaktNBBnr(ZonderSpaties(oud)) == OpgemaaktNBBnr(schoon));
+}
+
+Rijblikken Blikken(const Rijvelden& velden)
+{
+    Rijblikken uit;
+    std::ranges::copy(velden, uit.begin());
+    return uit;
+}
+
+Tekst NaamIn(const Rijvelden& velden)
+{
+    return VolleNaam(velden[Index(Kolom::Voornaam)], velden[Index(Kolom::Tusv)],
+                     velden[Index(Kolom::Achternaam)]);
+}
+
+} // namespace
+
+Tekstblik ZonderWacht(Tekstblik cel)
+{
+    constexpr Tekstblik gevaarlijk = "=+-@\t\r";
+    const bool wacht =
+        cel.size() > 1 && cel.front() == '\'' && gevaarlijk.find(cel[1]) != Tekstblik::npos;
+    return cel.substr(wacht ? 1 : 0);
+}
+
+/// A row as it stands in the list, and as it may stand in the register.
+struct Lijstvoorbeeld::Rij {
+    Naamdelen naam;
+    bool inEen = false; ///< the name came from one column
+    Rijblikken rauw;
+    Rijvelden schoon;
+};
+
+Lijstvoorbeeld::Lijstvoorbeeld(const Spelertabel& tabel, const Spelerslijst& lijst,
+                               Lijstopdracht opdracht)
+    : Regelvoorbeeld(tabel, opdracht.groep,
+                     Besluiten(lijst.Rijen() - (opdracht.kop && lijst.Rijen() > 0 ? 1 : 0))),
+      lijst_(lijst), opdracht_(std::move(opdracht))
+{}
+
+Tekst Lijstvoorbeeld::Merk(const Rijblikken& cellen) const
+{
+    const auto cel = [&](Kolom kolom) { return ZonderSpaties(cellen[Index(kolom)]); };
+    switch (opdracht_.keuze.herkenning) {
+    case Herkenning::Key:
+        return AlsGetal(cel(Kolom::Key), LengteKey).value_or(Tekst(cel(Kolom::Key)));
+    case Herkenning::NBBnr:
+        return OpgemaaktNBBnr(cel(Kolom::NBBnr));
+    case Herkenning::Naam:
+        break;
+    }
+    const Tekst naam =
+        Naamsleutel(VolleNaam(cel(Kolom::Voornaam), cel(Kolom::Tusv), cel(Kolom::Achternaam)));
+    return naam.empty() ? naam : naam + '|' + Naamsleutel(Tekst(cel(Kolom::Postc)));
+}
+
+Lijstvoorbeeld::Rij Lijstvoorbeeld::LeesRij(std::size_t regel) const
+{
+    Rij rij;
+    const auto& velden = opdracht_.keuze.velden;
+    for (std::size_t kolom = 0; kolom < velden.size(); ++kolom) {
+        const Tekstblik cel = lijst_.Cel(regel + Eerste(), kolom);
+        if (velden[kolom] == HeleNaam && !IsBlanco(cel)) {
+            rij.naam = SplitsNaam(ZonderWacht(cel));
+            rij.inEen = true;
+        } else if (velden[kolom] >= Kolom::Key && velden[kolom] <= Kolom::NBBnr && !IsBlanco(cel))
+            rij.rauw[Index(velden[kolom])] = cel;
+    }
+    const std::array<Tekst*, 3> delen{&rij.naam.voornaam, &rij.naam.tusv, &rij.naam.achternaam};
+    for (std::size_t i = 0; i < rij.rauw.size(); ++i)
+        rij.schoon[i] = Schoon(static_cast<Kolom>(i + 1), rij.rauw[i]);
+    for (std::size_t i = 0; i < delen.size(); ++i) {
+        if (Tekst& deel = rij.schoon[Index(Naamkolommen[i])]; deel.empty())
+            deel = Schoon(Naamkolommen[i], *delen[i]);
+    }
+    return rij;
+}
+
+/// Of a player who is known `rij` is where he stands. Cells that stay become what they were.
+void Lijstvoorbeeld::Vergelijk(std::size_t plek, Rij& rij, int bekende)
+{
+    Voorbeeldregel& regel = regels_[plek];
+    Rijvelden oud;
+    for (std::size_t i = Index(Kolom::Voornaam); i < oud.size(); ++i)
+        oud[i] = Na(eerdere_[plek], bekende, static_cast<Kolom>(i + 1));
+    const bool zelfdeNaam = rij.inEen && NaamIn(rij.schoon) == NaamIn(oud);
+    const bool andereNaam =
+        rij.inEen && rij.schoon[Index(Kolom::Achternaam)] != oud[Index(Kolom::Achternaam)];
+    if (bekende == 0 && rij.schoon[Index(Kolom::NBBgr)].empty())
+        rij.schoon[Index(Kolom::NBBgr)] = AlsVeld(Hoofdletters(ZonderSpaties(opdracht_.subgroep)));
+    for (std::size_t i = Index(Kolom::Voornaam); i < oud.size(); ++i) {
+        const auto kolom = static_cast<Kolom>(i + 1);
+        Tekst& nieuw = rij.schoon[i];
+        const bool vult = !nieuw.empty() || (kolom == Kolom::Tusv && andereNaam);
+        const bool blijft = zelfdeNaam && kolom <= Kolom::Achternaam;
+        regel.anders[i] = vult && !blijft && !StaatEr(kolom, oud[i], rij.rauw[i], nieuw);
+        if (!regel.anders[i])
+            nieuw = oud[i];
+    }
+    regel.rij = bekende;
+    regel.andereNaam = bekende > 0 && IsAndereNaam(Blikken(oud), Blikken(rij.schoon));
+    regel.soort = bekende == 0         ? Voorbeeldsoort::Nieuw
+                  : regel.anders.any() ? Voorbeeldsoort::Gewijzigd
+                                       : Voorbeeldsoort::Ongewijzigd;
+}
+
+/// What is wrong with a line that was compared.
+std::optional<Weigering> Lijstvoorbeeld::Bezwaar(std::size_t plek, const Rij& rij) const
+{
+    const std::size_t lijstrij = plek + Eerste();
+    bool heel = lijst_.Cellen(lijstrij) >= lijst_.Kolommen();
+    for (std::size_t kolom = lijst_.Kolommen(); kolom < lijst_.Cellen(lijstrij); ++kolom)
+        heel = heel && IsBlanco(lijst_.Cel(lijstrij, kolom));
+    if (!heel)
+        return Weigering::Cellen;
+    if (rij.schoon[Index(Kolom::Achternaam)].empty())
+        return Weigering::GeenNaam;
+    if (regels_[plek].anders[Index(Kolom::NBBnr)] && !IsNBBnr(rij.schoon[Index(Kolom::NBBnr)]))
+        return Weigering::Nummer;
+    return std::nullopt;
+}
+
+std::optional<Lijstvoorbeeld> Lijstvoorbeeld::Maak(const Spelertabel& tabel,
+                                                   const Spelerslijst& lijst,
+                                                   Lijstopdracht opdracht,
+                                                   const Voortgang& voortgang)
+{
+    Lijstvoorbeeld uit(tabel, lijst, std::move(opdracht));
+    const std::size_t geheel = static_cast<std::size_t>(tabel.Rijen()) + uit.regels_.size();
+    std::size_t gedaan = 0;
+    const auto gestopt = [&] {
+        constexpr std::size_t elkeZoveel = 2048;
+        return ++gedaan % elkeZoveel == 0 && voortgang && !voortgang(gedaan, geheel);
+    };
+    std::unordered_map<Tekst, int> bekenden; // the first row with each mark
+    std::unordered_map<Tekst, Naamdragers> namen;
+    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
+        if (gestopt())
+            return std::nullopt;
+        const Rijblikken cellen = tabel.Cellen(rij);
+        const bool hier = cellen[Index(Kolom::Groep)] == uit.groep_;
+        if (Tekst merk = hier || uit.opdracht_.keuze.herkenning == Herkenning::Key
+                             ? uit.Merk(cellen)
+                             : Tekst();
+            !merk.empty())
+            bekenden.try_emplace(std::move(merk), rij);
+        if (hier)
+            namen.try_emplace(Naamsleutel(VolleNaam(tabel, rij)), Naamdragers{.rij = rij});
+    }
+    std::unordered_map<Tekst, std::size_t> nieuwen; // the first line with each mark
+    std::vector<std::optional<std::size_t>> laatste(static_cast<std::size_t>(tabel.Rijen()) + 1);
+    std::vector<const Naamdragers*> dragers;
+    for (std::size_t i = 0; i < uit.regels_.size(); ++i) {
+        if (gestopt())
+            return std::nullopt;
+        Rij rij = uit.LeesRij(i);
+        const Tekst merk = uit.Merk(Blikken(rij.schoon));
+        const auto bekende = bekenden.find(merk);
+        const int was = bekende == bekenden.end() ? 0 : bekende->second;
+        if (was > 0)
+            uit.eerdere_[i] = laatste[static_cast<std::size_t>(was)];
+        uit.Vergelijk(i, rij, was);
+        Voorbeeldregel& regel = uit.regels_[i];
+        Regelbesluit& besluit = uit.besluiten_[i];
+        Naamdragers& naam = namen[Naamsleutel(NaamIn(rij.schoon))];
+        dragers.push_back(&naam);
+        if (const auto bezwaar = uit.Bezwaar(i, rij)) {
+            regel = {.soort = Voorbeeldsoort::Geweigerd, .weigering = *bezwaar};
+            besluit = {.lot = Regellot::Overgeslagen, .kolommen = {}};
+        } else {
+            ++naam.regels;
+            besluit = {.lot = was > 0 ? Regellot::Ververst : Regellot::Nieuw,
+                       .rij = was,
+                       .kolommen = regel.anders};
+            // Who is new stands in the register once, whatever the list says.
+            regel.dubbel = was > 0 ? uit.eerdere_[i].has_value()
+                                   : !merk.empty() && !nieuwen.try_emplace(merk, i).second;
+            if (was > 0)
+                laatste[static_cast<std::size_t>(was)] = i;
+            else if (regel.dubbel)
+                besluit.lot = Regellot::Uitgezet;
+        }
+        uit.wens_.VoegToe(rij.schoon);
+    }
+    for (std::size_t i = 0; i < uit.regels_.size(); ++i) {
+        Voorbeeldregel& regel = uit.regels_[i];
+        if (regel.soort == Voorbeeldsoort::Nieuw)
+            regel.naamgenoot = dragers[i]->rij;
+        if (regel.soort <= Voorbeeldsoort::Gewijzigd)
+            regel.dubbel = regel.dubbel || dragers[i]->regels > 1;
+    }
+    uit.Tel();
+    return uit;
+}
+
+std::optional<Lijsttelling> Lijstvoorbeeld::VoerUit(Register& spelers) const
+{
+    const auto nieuw = std::ranges::count(besluiten_, Regellot::Nieuw, &Regelbesluit::lot);
+    if (!ZijnErSleutels(spelers, static_cast<std::size_t>(nieuw)))
+        return std::nullopt;
+    Lijsttelling uit;
+    for (std::size_t i = 0; i < besluiten_.size(); ++i) {
+        if (!IsAan(i) || besluiten_[i].kolommen.none())
+            continue;
+        Rijvelden nieuweRij;
+        std::vector<Celtekst> anders;
+        const Rijblikken cellen = Cellen(i);
+        for (std::size_t k = 0; k < cellen.size(); ++k) {
+            if (!besluiten_[i].kolommen[k])
+                continue;
+            nieuweRij[k] = cellen[k];
+            anders.push_back({static_cast<Kolom>(k + 1), cellen[k]});
+        }
+        if (besluiten_[i].lot == Regellot::Ververst) {
+            spelers.tabel.ZetCellen(besluiten_[i].rij, anders);
+            ++uit.gewijzigd;
+        } else if (VoegSpelerToe(spelers, groep_, nieuweRij))
+            ++uit.nieuw;
+    }
+    return uit;
+}
+
+} // namespace plexoran
