@@ -15,21 +15,31 @@
 namespace plexoran {
 namespace {
 
-constexpr std::size_t Proefrijen = 3; ///< of which a column shows its cells
+constexpr int Proefrijen = 3; ///< of which a column shows its cells
+// In the order in which they can be picked.
+constexpr Tekstblik Scheidingen = ";,\t|";
+constexpr Tekstblik Aanhalingen("\"'\0", 3);
+const std::vector<Tekst> Regeleinden{"", "\r\n", "\n", "\r"};
 
 QString Veldtekst(Kolom veld)
 {
     if (veld == GeenVeld)
         return u"(niet gebruiken)"_s;
     if (veld == HeleNaam)
-        return u"Naam (in een kolom)"_s;
+        return u"Naam (in één kolom)"_s;
     return NaarQString(veld == Kolom::NBBgr ? Subgroepnaam : Kolomnamen[Index(veld)]);
 }
 
-/// NUL for none.
-char Teken(const QComboBox& keus)
+/// A drop-down behind its label, at the end of that row.
+QComboBox* Keus(QBoxLayout* rij, const QString& naam, const QString& opschrift, char16_t letter,
+                const QStringList& teksten, QWidget* ouder)
 {
-    return keus.currentData().toString().leftJustified(1, QChar(0)).front().toLatin1();
+    auto* label = MaakLabel(u"lbl"_s + naam, MetSneltoets(opschrift, letter), ouder);
+    QComboBox* keus = MaakKeus(u"cmb"_s + naam, label, ouder);
+    keus->addItems(teksten);
+    rij->addWidget(label);
+    rij->addWidget(keus, 1);
+    return keus;
 }
 
 QString Fouttekst(const Lijstfout& fout)
@@ -80,6 +90,7 @@ frmLijstImport::frmLijstImport(Administratie& administratie, Tekstblik groep, QW
             QString::fromStdU16String(Systeempad(administratie.vensterIni).u16string()),
             QSettings::IniFormat);
     Bouw();
+    Verbind();
     for (const Tekst& tekst : administratie.groepen.Toonteksten()) {
         if (CodeUit(tekst) != administratie.mappen.DFIMPG)
             cmbGroep->addItem(NaarQString(tekst));
@@ -89,42 +100,6 @@ frmLijstImport::frmLijstImport(Administratie& administratie, Tekstblik groep, QW
     ToonMelding();
 }
 
-QLayout* frmLijstImport::BouwVorm()
-{
-    auto* rij = new QHBoxLayout;
-    const auto keus = [&](const QString& naam, const QString& opschrift,
-                          const QList<std::pair<QString, QVariant>>& teksten) {
-        auto* label =
-            MaakLabel(u"lbl"_s + naam, MetSneltoets(opschrift, opschrift.front().unicode()), this);
-        QComboBox* keuze = MaakKeus(u"cmb"_s + naam, label, this);
-        for (const auto& [tekst, waarde] : teksten)
-            keuze->addItem(tekst, waarde);
-        rij->addWidget(label);
-        rij->addWidget(keuze, 1);
-        return keuze;
-    };
-    cmbTekenset =
-        keus(u"Tekenset"_s, u"Tekenset:"_s, {{u"UTF-8"_s, 0}, {u"UTF-16"_s, 1}, {u"Windows"_s, 2}});
-    cmbScheiding = keus(u"Scheiding"_s, u"Scheiding:"_s,
-                        {{u"puntkomma"_s, u";"_s},
-                         {u"komma"_s, u","_s},
-                         {u"tab"_s, u"\t"_s},
-                         {u"streep |"_s, u"|"_s}});
-    cmbAanhaling =
-        keus(u"Aanhaling"_s, u"Aanhaling:"_s,
-             {{u"dubbel \""_s, u"\""_s}, {u"enkel '"_s, u"'"_s}, {u"geen"_s, QString()}});
-    cmbRegeleinde = keus(
-        u"Regeleinde"_s, u"Regeleinde:"_s,
-        {{u"alle"_s, QString()}, {u"CR LF"_s, u"\r\n"_s}, {u"LF"_s, u"\n"_s}, {u"CR"_s, u"\r"_s}});
-    connect(cmbTekenset, &QComboBox::activated, this, [this](int set) {
-        Decodeer(static_cast<Tekenset>(set));
-        Lees();
-    });
-    for (const QComboBox* anders : {cmbScheiding, cmbAanhaling, cmbRegeleinde})
-        connect(anders, &QComboBox::activated, this, &frmLijstImport::Lees);
-    return rij;
-}
-
 /// The controls are made in the order in which Tab goes through them.
 void frmLijstImport::Bouw()
 {
@@ -132,37 +107,64 @@ void frmLijstImport::Bouw()
         MaakKnop(u"cmdBestand"_s, u"Kies bestand..."_s, u'K', this, &frmLijstImport::KiesBestand);
     lblBestand = new Kortlabel(u"Kies een lijst, zoals een rekenblad die als CSV bewaart."_s, this);
     Noem(lblBestand, u"lblBestand"_s);
-    QLayout* vorm = BouwVorm();
+    auto* vorm = new QHBoxLayout;
+    cmbTekenset = Keus(vorm, u"Tekenset"_s, u"Tekenset:"_s, u'T',
+                       {u"UTF-8"_s, u"UTF-16"_s, u"Windows"_s}, this);
+    cmbScheiding = Keus(vorm, u"Scheiding"_s, u"Scheiding:"_s, u'S',
+                        {u"puntkomma"_s, u"komma"_s, u"tab"_s, u"streep |"_s}, this);
+    cmbAanhaling = Keus(vorm, u"Aanhaling"_s, u"Aanhaling:"_s, u'A',
+                        {u"dubbel \""_s, u"enkel '"_s, u"geen"_s}, this);
+    cmbRegeleinde = Keus(vorm, u"Regeleinde"_s, u"Regeleinde:"_s, u'R',
+                         {u"alle"_s, u"CR LF"_s, u"LF"_s, u"CR"_s}, this);
     chkKop = MaakVink(u"chkKop"_s, u"De eerste regel noemt de kolommen"_s, u'e', this);
     lstKolommen =
         MaakBoom(u"lstKolommen"_s, u"De kolommen van de lijst"_s,
                  {u"Kolom"_s, u"Veld"_s, u"Eerste speler"_s, u"Tweede"_s, u"Derde"_s}, this);
     lstKolommen->setRootIsDecorated(false);
-    auto* lblVeld =
-        MaakLabel(u"lblVeld"_s, MetSneltoets(u"Veld van de gekozen kolom:"_s, u'V'), this);
-    cmbVeld = MaakKeus(u"cmbVeld"_s, lblVeld, this);
+    auto* veldrij = new QHBoxLayout;
+    cmbVeld = Keus(veldrij, u"Veld"_s, u"Veld van de gekozen kolom:"_s, u'V', {}, this);
     for (int veld = 0; veld <= static_cast<int>(HeleNaam); ++veld) {
         const auto kolom = static_cast<Kolom>(veld);
         if (kolom != Kolom::Nr && kolom != Kolom::Groep)
             cmbVeld->addItem(Veldtekst(kolom), veld);
     }
-    auto* lblGroep =
-        MaakLabel(u"lblGroep"_s, MetSneltoets(u"Nieuwe spelers naar groep:"_s, u'g'), this);
-    cmbGroep = MaakKeus(u"cmbGroep"_s, lblGroep, this);
+    cmbHerken = Keus(veldrij, u"Herken"_s, u"Herken een speler aan:"_s, u'H',
+                     {u"zijn key, in alle groepen"_s, u"zijn NBB-nummer, in die groep"_s,
+                      u"zijn naam en postcode, in die groep"_s},
+                     this);
+    auto* groeprij = new QHBoxLayout;
+    cmbGroep = Keus(groeprij, u"Groep"_s, u"Nieuwe spelers naar groep:"_s, u'g', {}, this);
     auto* lblSubgroep = MaakLabel(u"lblSubgroep"_s, MetSneltoets(u"Subgroep:"_s, u'u'), this);
     txtSubgroep = new Tekstvak(this);
     Noem(txtSubgroep, u"txtSubgroep"_s);
     lblSubgroep->setBuddy(txtSubgroep);
-    auto* lblHerken =
-        MaakLabel(u"lblHerken"_s, MetSneltoets(u"Herken een speler aan:"_s, u'H'), this);
-    cmbHerken = MaakKeus(u"cmbHerken"_s, lblHerken, this);
-    cmbHerken->addItems({u"zijn key, in alle groepen"_s, u"zijn NBB-nummer, in die groep"_s,
-                         u"zijn naam en postcode, in die groep"_s});
+    groeprij->addWidget(lblSubgroep);
+    groeprij->addWidget(txtSubgroep, 1);
     lblMelding = MaakUitleg(u"lblMelding"_s, QString(), this);
+    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'n', this, &QDialog::reject);
     cmdBekijk =
         MaakKnop(u"cmdBekijk"_s, u"Bekijk vooraf..."_s, u'B', this, &frmLijstImport::Bekijk);
     cmdBekijk->setDefault(true);
-    auto* cmdAnnuleren = MaakKnop(u"cmdAnnuleren"_s, u"Annuleren"_s, u'n', this, &QDialog::reject);
+    Onderelkaar({Naastelkaar({cmdBestand, {lblBestand, 1}}),
+                 vorm,
+                 chkKop,
+                 {lstKolommen, 1},
+                 veldrij,
+                 groeprij,
+                 lblMelding,
+                 Knoppenrij({cmdAnnuleren, cmdBekijk})},
+                this);
+    ZetOpSchuifblad(this);
+    PasInScherm(this, Maten().Twips(12900, 7800));
+}
+
+/// What the user does; what the program picks itself tells nobody.
+void frmLijstImport::Verbind()
+{
+    connect(cmbTekenset, &QComboBox::activated, this,
+            [this](int set) { Decodeer(static_cast<Tekenset>(set)); });
+    for (const QComboBox* keus : {cmbScheiding, cmbAanhaling, cmbRegeleinde})
+        connect(keus, &QComboBox::activated, this, &frmLijstImport::Lees);
     connect(chkKop, &QCheckBox::clicked, this, &frmLijstImport::RaadKeuze);
     connect(lstKolommen, &QTreeWidget::currentItemChanged, this, &frmLijstImport::ToonVeld);
     connect(cmbVeld, &QComboBox::activated, this, &frmLijstImport::KiesVeld);
@@ -170,17 +172,6 @@ void frmLijstImport::Bouw()
         keuze_.herkenning = static_cast<Herkenning>(keus);
         ToonMelding();
     });
-    Onderelkaar({Naastelkaar({cmdBestand, {lblBestand, 1}}),
-                 vorm,
-                 chkKop,
-                 {lstKolommen, 1},
-                 Naastelkaar({lblVeld, {cmbVeld, 1}, lblHerken, {cmbHerken, 1}}),
-                 Naastelkaar({lblGroep, {cmbGroep, 1}, lblSubgroep, {txtSubgroep, 1}}),
-                 lblMelding,
-                 Knoppenrij({cmdAnnuleren, cmdBekijk})},
-                this);
-    ZetOpSchuifblad(this);
-    PasInScherm(this, Maten().Twips(12900, 7800));
 }
 
 void frmLijstImport::KiesBestand()
@@ -207,37 +198,38 @@ void frmLijstImport::Open(const Pad& bestand)
     naam_ = NaarQString(bestand.substr(bestand.rfind('\\') + 1));
     lblBestand->Toon(Toonpad(administratie_.schijf, bestand));
     Decodeer({});
-    if (tekst_) {
-        const Lijstvorm vorm = HerkenVorm(tekst_->tekst);
-        cmbScheiding->setCurrentIndex(
-            cmbScheiding->findData(QString(QChar::fromLatin1(vorm.scheiding))));
-        cmbAanhaling->setCurrentIndex(
-            cmbAanhaling->findData(QString(QChar::fromLatin1(vorm.aanhaling))));
-        cmbRegeleinde->setCurrentIndex(cmbRegeleinde->findData(NaarQString(vorm.regeleinde)));
-    }
-    Lees();
     lstKolommen->setFocus();
 }
 
+/// In another character set other signs may be separators and quotes.
 void frmLijstImport::Decodeer(std::optional<Tekenset> tekenset)
 {
     tekst_ = Lijsttekstvan(bytes_, tekenset);
-    if (tekst_)
-        cmbTekenset->setCurrentIndex(static_cast<int>(tekst_->tekenset));
+    if (tekst_ || tekst_.error().bezwaar == Lijstbezwaar::Tekenset)
+        cmbTekenset->setCurrentIndex(static_cast<int>(
+            tekst_ ? tekst_->tekenset : Tekenset::Utf8)); // no other refuses a line
+    if (tekst_) {
+        const Lijstvorm vorm = HerkenVorm(tekst_->tekst);
+        cmbScheiding->setCurrentIndex(static_cast<int>(Scheidingen.find(vorm.scheiding)));
+        cmbAanhaling->setCurrentIndex(static_cast<int>(Aanhalingen.find(vorm.aanhaling)));
+        cmbRegeleinde->setCurrentIndex(static_cast<int>(
+            std::ranges::find(Regeleinden, vorm.regeleinde) - Regeleinden.begin()));
+    }
+    Lees();
 }
 
 void frmLijstImport::Lees()
 {
-    if (!tekst_)
-        lijst_ = tl::unexpected(tekst_.error());
-    else
-        lijst_ = LeesSpelerslijst(
-            tekst_->tekst,
-            {.regeleinde = NaarTekst(cmbRegeleinde->currentData().toString()),
-             .scheiding = Teken(*cmbScheiding),
-             .aanhaling = Teken(*cmbAanhaling)},
-            frmVoortgang(u"'%1' wordt gelezen ..."_s.arg(naam_), u"&Stoppen"_s, this)
-                .AlsVoortgang());
+    const auto plek = [](const QComboBox* keus) {
+        return static_cast<std::size_t>(keus->currentIndex());
+    };
+    const Lijstvorm vorm{.regeleinde = Regeleinden.at(plek(cmbRegeleinde)),
+                         .scheiding = Scheidingen.at(plek(cmbScheiding)),
+                         .aanhaling = Aanhalingen.at(plek(cmbAanhaling))};
+    frmVoortgang voortgang(u"'%1' wordt gelezen ..."_s.arg(naam_), u"&Stoppen"_s, this);
+    lijst_ = tekst_.and_then([&](const Lijsttekst& tekst) {
+        return LeesSpelerslijst(tekst.tekst, vorm, voortgang.AlsVoortgang());
+    });
     chkKop->setChecked(lijst_ && HeeftKop(*lijst_));
     RaadKeuze();
 }
@@ -261,16 +253,18 @@ void frmLijstImport::ToonKolommen()
 {
     const QSignalBlocker stil(lstKolommen);
     lstKolommen->clear();
-    const std::size_t kop = chkKop->isChecked() ? 1 : 0;
+    const int kop = chkKop->isChecked() ? 1 : 0;
     for (std::size_t kolom = 0; kolom < keuze_.velden.size(); ++kolom) {
-        const auto cel = [&](std::size_t rij) {
-            return rij < lijst_->Rijen() ? NaarQString(lijst_->Cel(rij, kolom)).simplified()
-                                         : QString();
-        };
-        QStringList cellen{kop > 0 ? cel(0) : u"kolom %1"_s.arg(kolom + 1),
-                           Veldtekst(keuze_.velden[kolom])};
-        for (std::size_t rij = kop; rij < kop + Proefrijen; ++rij)
-            cellen << cel(rij);
+        QStringList cellen{u"kolom %1"_s.arg(kolom + 1), Veldtekst(keuze_.velden[kolom])};
+        for (int rij = 0; rij < std::min(kop + Proefrijen, static_cast<int>(lijst_->Rijen()));
+             ++rij) {
+            const QString cel =
+                NaarQString(lijst_->Cel(static_cast<std::size_t>(rij), kolom)).simplified();
+            if (rij < kop)
+                cellen.front() = cel;
+            else
+                cellen << cel;
+        }
         lstKolommen->addTopLevelItem(new Boomregel(cellen));
     }
     for (int kolom = 0; kolom < lstKolommen->columnCount(); ++kolom)

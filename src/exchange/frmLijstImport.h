@@ -31,7 +31,7 @@ class frmLijstImport : public QDialog {
 
   private:
     void Bouw();
-    [[nodiscard]] QLayout* BouwVorm();
+    void Verbind();
     void KiesBestand();
     void Decodeer(std::optional<Tekenset> tekenset);
     void Lees();

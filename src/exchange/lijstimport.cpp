@@ -8,7 +8,6 @@
 namespace plexoran {
 namespace {
 
-constexpr std::array Naamkolommen{Kolom::Voornaam, Kolom::Tusv, Kolom::Achternaam};
 constexpr std::size_t LengteKey = 6;
 constexpr std::size_t LengteNBBnr = 8;
 
@@ -70,7 +69,7 @@ Rijblikken Blikken(const Rijvelden& velden)
     return uit;
 }
 
-Tekst NaamIn(const Rijvelden& velden)
+template <class Rij> Tekst NaamIn(const Rij& velden)
 {
     return VolleNaam(velden[Index(Kolom::Voornaam)], velden[Index(Kolom::Tusv)],
                      velden[Index(Kolom::Achternaam)]);
@@ -88,7 +87,6 @@ Tekstblik ZonderWacht(Tekstblik cel)
 
 /// A row as it stands in the list, and as it may stand in the register.
 struct Lijstvoorbeeld::Rij {
-    Naamdelen naam;
     bool inEen = false; ///< the name came from one column
     Rijblikken rauw;
     Rijvelden schoon;
@@ -120,21 +118,21 @@ Tekst Lijstvoorbeeld::Merk(const Rijblikken& cellen) const
 Lijstvoorbeeld::Rij Lijstvoorbeeld::LeesRij(std::size_t regel) const
 {
     Rij rij;
+    std::array<Tekst, 3> naam;
     const auto& velden = opdracht_.keuze.velden;
     for (std::size_t kolom = 0; kolom < velden.size(); ++kolom) {
         const Tekstblik cel = lijst_.Cel(regel + Eerste(), kolom);
         if (velden[kolom] == HeleNaam && !IsBlanco(cel)) {
-            rij.naam = SplitsNaam(ZonderWacht(cel));
+            naam = SplitsNaam(ZonderWacht(cel));
             rij.inEen = true;
         } else if (velden[kolom] >= Kolom::Key && velden[kolom] <= Kolom::NBBnr && !IsBlanco(cel))
             rij.rauw[Index(velden[kolom])] = cel;
     }
-    const std::array<Tekst*, 3> delen{&rij.naam.voornaam, &rij.naam.tusv, &rij.naam.achternaam};
     for (std::size_t i = 0; i < rij.rauw.size(); ++i)
         rij.schoon[i] = Schoon(static_cast<Kolom>(i + 1), rij.rauw[i]);
-    for (std::size_t i = 0; i < delen.size(); ++i) {
-        if (Tekst& deel = rij.schoon[Index(Naamkolommen[i])]; deel.empty())
-            deel = Schoon(Naamkolommen[i], *delen[i]);
+    for (std::size_t i = 0; i < naam.size(); ++i) {
+        if (Tekst& deel = rij.schoon[Index(Kolom::Voornaam) + i]; deel.empty())
+            deel = Schoon(static_cast<Kolom>(Index(Kolom::Voornaam) + i + 1), naam[i]);
     }
     return rij;
 }
@@ -143,9 +141,9 @@ Lijstvoorbeeld::Rij Lijstvoorbeeld::LeesRij(std::size_t regel) const
 void Lijstvoorbeeld::Vergelijk(std::size_t plek, Rij& rij, int bekende)
 {
     Voorbeeldregel& regel = regels_[plek];
-    Rijvelden oud;
-    for (std::size_t i = Index(Kolom::Voornaam); i < oud.size(); ++i)
-        oud[i] = Na(eerdere_[plek], bekende, static_cast<Kolom>(i + 1));
+    Rijblikken oud; // what the line before it made of him
+    if (eerdere_[plek] || bekende > 0)
+        oud = eerdere_[plek] ? Cellen(*eerdere_[plek]) : tabel_.Cellen(bekende);
     const bool zelfdeNaam = rij.inEen && NaamIn(rij.schoon) == NaamIn(oud);
     const bool andereNaam =
         rij.inEen && rij.schoon[Index(Kolom::Achternaam)] != oud[Index(Kolom::Achternaam)];
@@ -161,7 +159,7 @@ void Lijstvoorbeeld::Vergelijk(std::size_t plek, Rij& rij, int bekende)
             nieuw = oud[i];
     }
     regel.rij = bekende;
-    regel.andereNaam = bekende > 0 && IsAndereNaam(Blikken(oud), Blikken(rij.schoon));
+    regel.andereNaam = bekende > 0 && IsAndereNaam(oud, Blikken(rij.schoon));
     regel.soort = bekende == 0         ? Voorbeeldsoort::Nieuw
                   : regel.anders.any() ? Voorbeeldsoort::Gewijzigd
                                        : Voorbeeldsoort::Ongewijzigd;

@@ -206,7 +206,7 @@ Lijstkeuze RaadVelden(const Spelerslijst& lijst, bool kop)
     return {std::move(velden), herkenning};
 }
 
-Naamdelen SplitsNaam(Tekstblik naam)
+std::array<Tekst, 3> SplitsNaam(Tekstblik naam)
 {
     const auto komma = naam.find(',');
     if (komma == Tekstblik::npos) {

@@ -28,13 +28,9 @@ struct Lijstkeuze {
 /// What a list offers to recognise players by.
 [[nodiscard]] Herkenning RaadHerkenning(const Veldkeuzes& velden);
 
-struct Naamdelen {
-    Tekst voornaam;
-    Tekst tusv;
-    Tekst achternaam;
-};
-/// Of "Jan van der Berg", "J. van der Berg" and "Berg, Jan van der".
-[[nodiscard]] Naamdelen SplitsNaam(Tekstblik naam);
+/// First name, particle and surname of "Jan van der Berg", "J. van der Berg" and "Berg, Jan van
+/// der".
+[[nodiscard]] std::array<Tekst, 3> SplitsNaam(Tekstblik naam);
 
 // What is remembered of a kind of list: by its heads, the choices as a text.
 [[nodiscard]] Tekst Lijstkoppen(const Spelerslijst& lijst, bool kop);

@@ -84,6 +84,8 @@ template <class Blik, class Zet> int ZetOm(Blik bron, Lijsttekst& uit, const Zet
 Lijstuitkomst<Lijsttekst> Lijsttekstvan(Tekstblik bytes, std::optional<Tekenset> tekenset)
 {
     Lijsttekst uit{.tekenset = tekenset.value_or(TekensetVan(bytes))};
+    if (bytes.starts_with(Utf8merk))
+        bytes.remove_prefix(Utf8merk.size());
     int fout = 0;
     if (uit.tekenset == Tekenset::Windows1252)
         uit.tekst = bytes;
@@ -92,11 +94,9 @@ Lijstuitkomst<Lijsttekst> Lijsttekstvan(Tekstblik bytes, std::optional<Tekenset>
             return std::optional(NaarCodepagina(regel));
         });
     else
-        fout = ZetOm(bytes.substr(bytes.starts_with(Utf8merk) ? Utf8merk.size() : 0), uit,
-                     [](Tekstblik regel) {
-                         return IsVanSet(regel) ? std::optional(Utf8NaarCodepagina(regel))
-                                                : std::nullopt;
-                     });
+        fout = ZetOm(bytes, uit, [](Tekstblik regel) {
+            return IsVanSet(regel) ? std::optional(Utf8NaarCodepagina(regel)) : std::nullopt;
+        });
     if (fout > 0)
         return tl::unexpected(Lijstfout{Lijstbezwaar::Tekenset, fout});
     if (uit.tekst.find('\0') != Tekst::npos)

@@ -226,8 +226,11 @@ QString Voorbeeldmodel::Wijziging(std::size_t regel) const
         return u"komt erbij"_s;
     case Voorbeeldsoort::Gewijzigd: {
         QStringList velden;
-        for (const Veldwijziging& veld : voorbeeld_.Velden(regel))
-            velden << Naam(veld.kolom, voorbeeld_);
+        for (int i = 1; i <= AantalKolommen; ++i) {
+            const auto kolom = static_cast<Kolom>(i);
+            if (wat.anders[Index(kolom)])
+                velden << Naam(kolom, voorbeeld_);
+        }
         return velden.join(u", "_s);
     }
     case Voorbeeldsoort::Ongewijzigd:

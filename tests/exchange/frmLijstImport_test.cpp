@@ -86,7 +86,7 @@ TEST_F(frmLijstImportTest, ImporteertWatErVoorafGetoondIs)
         dia.Open(Lijst(Leden));
         EXPECT_EQ("2 regels gelezen.", Melding(dia));
         EXPECT_EQ(
-            (std::vector<std::string>{"Naam|Naam (in een kolom)|Berg, Jan van der|Eva Zoekniet|",
+            (std::vector<std::string>{"Naam|Naam (in één kolom)|Berg, Jan van der|Eva Zoekniet|",
                                       "E-mail|Email|jan@club.example||", "Postcode|Postc|1234 AB||",
                                       "Bijzonderheden|(niet gebruiken)|=1||"}),
             Kolommen(dia));
@@ -191,6 +191,13 @@ TEST_F(frmLijstImportTest, ZegtWatErMisIs)
               "of kies bij Aanhaling: geen.");
         meldt(std::string(10'000, ';') + "x", "Regel 1 heeft meer dan 200 kolommen. Kies een ander "
                                               "scheidingsteken of een andere lijst.");
+        dia.Open(Lijst("Zo\xEB;x\n"));
+        EXPECT_EQ("Windows", Gekozen(dia, "cmbTekenset"));
+        dia.Open(Lijst("\xEF\xBB\xBFNaam;Plaats\nRen\xE9 Bos;Ede\n"));
+        EXPECT_EQ("UTF-8", Gekozen(dia, "cmbTekenset"));
+        Kies(dia, "cmbTekenset", u"Windows"_s);
+        EXPECT_EQ("puntkomma", Gekozen(dia, "cmbScheiding"));
+        EXPECT_EQ("1 regel gelezen.", Melding(dia));
         dia.Open(Lijst("Naam\nErd\xC5\x91s\n\xE6\x9D\x8E Bos\n"));
         EXPECT_EQ("2 regels gelezen. 2 tekens die het spelerbestand niet kent: op regel 2 staat in "
                   "plaats van 'ő' nu 'o'.",

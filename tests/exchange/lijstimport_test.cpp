@@ -1,5 +1,6 @@
 #include "exchange/lijstimport.h"
 
+#include <chrono>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -229,4 +230,17 @@ TEST_F(LijstimportTest, KanTussentijdsStoppen)
                                       [&](std::size_t, std::size_t) { return ++keren < 2; })
                      .has_value());
     EXPECT_EQ(2, keren);
+}
+
+/// A chain of lines for one player is followed by its last link only.
+TEST_F(LijstimportTest, HonderdduizendRegelsVoorEenSpelerDurenNietLang)
+{
+    Tekst tekst = "Key;Plaats\n";
+    for (int i = 0; i < 100'000; ++i)
+        tekst += i % 2 == 0 ? "100001;Goes\n" : "100001;\n";
+    const auto begin = std::chrono::steady_clock::now();
+    Bekijk(tekst);
+    EXPECT_TRUE(voorbeeld->VerandertIets());
+    EXPECT_EQ(1U, voorbeeld->VoerUit(spelers)->gewijzigd);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
 }
