@@ -29,11 +29,10 @@ Tekst ZonderStuurtekens(Tekstblik cel)
 
 Tekst Geslacht(const Tekst& cel)
 {
-    const Tekst woord = " " + KaleWoorden(cel) + " ";
-    if (Tekstblik(" M MAN MALE DHR HEER ").find(woord) != Tekstblik::npos)
-        return "M";
-    return Tekstblik(" V VROUW F FEMALE MW MEVR MEVROUW ").find(woord) != Tekstblik::npos ? "V"
-                                                                                          : cel;
+    const Tekst woord = KaleWoorden(cel);
+    return IsEenVan(woord, " M MAN MALE DHR HEER ")                ? "M"
+           : IsEenVan(woord, " V VROUW F FEMALE MW MEVR MEVROUW ") ? "V"
+                                                                   : cel;
 }
 
 Tekst Schoon(Kolom kolom, Tekstblik cel)

@@ -39,10 +39,9 @@ Tekst Kopsleutel(Tekstblik cel)
 /// With `best` only by its first names.
 Kolom VeldBij(Tekstblik cel, bool best)
 {
-    const Tekst sleutel = " " + Kopsleutel(cel) + " ";
+    const Tekst sleutel = Kopsleutel(cel);
     for (const auto& [veld, namen] : Kopnamen) {
-        if (sleutel.size() > 2 &&
-            namen.substr(0, best ? namen.find('|') : namen.npos).find(sleutel) != namen.npos)
+        if (IsEenVan(sleutel, namen.substr(0, best ? namen.find('|') : namen.npos)))
             return veld;
     }
     return GeenVeld;
@@ -78,8 +77,7 @@ bool IsTelefoon(Tekstblik tekst)
 
 bool IsGeslacht(Tekstblik tekst)
 {
-    const Tekst groot = Hoofdletters(tekst);
-    return groot == "M" || groot == "V" || groot == "MAN" || groot == "VROUW";
+    return IsEenVan(Hoofdletters(tekst), " M V MAN VROUW ");
 }
 
 /// What nearly all cells of a column look like.
@@ -115,16 +113,15 @@ bool IsTussenvoegsel(Tekstblik woord)
     const Tekst kaal = Kopsleutel(woord);
     const bool klein =
         Hoofdletter(woord.front()) != woord.front() || Letters(woord.front()).empty();
-    return !kaal.empty() && alle.find(" " + kaal + " ") != Tekstblik::npos &&
+    return IsEenVan(kaal, alle) &&
            (klein || (kaal.size() > 1 && woord.find('.') == Tekstblik::npos));
 }
 
 /// "Al" and "Di" begin a name as often as a surname, "Van" does not.
 bool IsVoornaam(Tekstblik woord)
 {
-    constexpr Tekstblik nooit = " VAN DE DEN DER TEN TER VON ";
     return !Letters(woord.front()).empty() && Hoofdletter(woord.front()) == woord.front() &&
-           nooit.find(" " + Kopsleutel(woord) + " ") == Tekstblik::npos;
+           !IsEenVan(Kopsleutel(woord), " VAN DE DEN DER TEN TER VON ");
 }
 
 using Woorden = std::vector<Tekstblik>;
@@ -157,6 +154,13 @@ Tekstblik Veldnaam(Kolom veld)
 }
 
 } // namespace
+
+bool IsEenVan(Tekstblik woord, Tekstblik woorden)
+{
+    Tekst tussen(1, ' ');
+    tussen.append(woord).append(1, ' ');
+    return !woord.empty() && woorden.find(tussen) != Tekstblik::npos;
+}
 
 bool HeeftKop(const Spelerslijst& lijst)
 {

@@ -21,6 +21,8 @@ struct Lijstkeuze {
     bool operator==(const Lijstkeuze&) const = default;
 };
 
+/// Whether it is one of these, of which each stands between two blanks.
+[[nodiscard]] bool IsEenVan(Tekstblik woord, Tekstblik woorden);
 /// Whether the first row names the columns.
 [[nodiscard]] bool HeeftKop(const Spelerslijst& lijst);
 /// The guess.

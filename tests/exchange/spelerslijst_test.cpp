@@ -67,6 +67,13 @@ TEST(Spelerslijst, KommasInNamenZijnGeenScheiding)
               RijenUit("Naam\nBos, Jan\nFuik, Eva\n"));
 }
 
+TEST(Spelerslijst, ScheidtOpHetTekenWaarOverDeRijenHetEensZijn)
+{
+    EXPECT_EQ(
+        (Rijen{{"Naam", "Adres, postcode, plaats"}, {"Jan Bos", "Ede"}, {"Eva Fuik", "Goes"}}),
+        RijenUit("Naam;Adres, postcode, plaats\nJan Bos;Ede\nEva Fuik;Goes\n"));
+}
+
 TEST(Spelerslijst, LeestElkRegeleindeEnDeLaatsteRegelZonder)
 {
     const Rijen verwacht{{"a", "b"}, {"c", "d"}};
@@ -133,6 +140,8 @@ TEST(Spelerslijst, NoemtDeRegelWaarEenAanhalingOpenBlijft)
               FoutVan(Lees("a;b\r\nc;d\r\ne;\"f\r\ng;h\r\n")));
     EXPECT_EQ(std::pair(Lijstbezwaar::Aanhaling, 4),
               FoutVan(Lees("a;b\r\n\"c\r\nc\";d\r\ne;\"f\r\ng;h\r\n")));
+    // On the second line of its row.
+    EXPECT_EQ(std::pair(Lijstbezwaar::Aanhaling, 3), FoutVan(Lees("a;b\r\n\"c\r\nc\";\"d\r\n")));
 }
 
 TEST(Spelerslijst, NoemtDeRegelsZoalsEenTekstprogrammaZeTelt)
