@@ -105,7 +105,7 @@ void frmLijstImport::Bouw()
 {
     auto* cmdBestand =
         MaakKnop(u"cmdBestand"_s, u"Kies bestand..."_s, u'K', this, &frmLijstImport::KiesBestand);
-    lblBestand = new Kortlabel(u"Kies een lijst, zoals een rekenblad die als CSV bewaart."_s, this);
+    lblBestand = new Kortlabel(u"Kies een lijst, zoals een rekenblad die als CSV opslaat."_s, this);
     Noem(lblBestand, u"lblBestand"_s);
     auto* vorm = new QHBoxLayout;
     cmbTekenset = Keus(vorm, u"Tekenset"_s, u"Tekenset:"_s, u'T',
@@ -129,7 +129,7 @@ void frmLijstImport::Bouw()
             cmbVeld->addItem(Veldtekst(kolom), veld);
     }
     cmbHerken = Keus(veldrij, u"Herken"_s, u"Herken een speler aan:"_s, u'H',
-                     {u"zijn key, in alle groepen"_s, u"zijn NBB-nummer, in die groep"_s,
+                     {u"zijn sleutel, in alle groepen"_s, u"zijn NBB-nummer, in die groep"_s,
                       u"zijn naam en postcode, in die groep"_s},
                      this);
     auto* groeprij = new QHBoxLayout;
@@ -307,7 +307,7 @@ QString frmLijstImport::Bezwaar() const
     if (!lijst_ || lijst_->Rijen() == (chkKop->isChecked() ? 1 : 0))
         return Fouttekst(lijst_ ? Lijstfout{Lijstbezwaar::Leeg} : lijst_.error());
     if (keuze_.herkenning == Herkenning::Key && !heeft(Kolom::Key))
-        return u"Kies eerst in welke kolom de key staat."_s;
+        return u"Kies eerst in welke kolom de sleutel (Key) staat."_s;
     if (keuze_.herkenning == Herkenning::NBBnr && !heeft(Kolom::NBBnr))
         return u"Kies eerst in welke kolom het NBB-nummer staat."_s;
     if (keuze_.herkenning == Herkenning::Naam && !heeft(HeleNaam) && !heeft(Kolom::Achternaam))
@@ -352,10 +352,8 @@ void frmLijstImport::Bekijk()
                        RegelVanHKEY(administratie_.schijf, administratie_.mappen));
         return;
     }
-    administratie_.geschiedenis.Noem(
-        NaarTekst(u"%1 geïmporteerd: %2 nieuw, %3 gewijzigd"_s.arg(naam_)
-                      .arg(telling->nieuw)
-                      .arg(telling->gewijzigd)));
+    administratie_.geschiedenis.Noem(NaarTekst(u"%1 geïmporteerd: %2 nieuw, %3 gewijzigd"_s.arg(
+        naam_, QString::number(telling->nieuw), QString::number(telling->gewijzigd))));
     accept();
 }
 

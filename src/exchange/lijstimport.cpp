@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "register/veldregels.h"
 
@@ -180,77 +181,86 @@ std::optional<Weigering> Lijstvoorbeeld::Bezwaar(std::size_t plek, const Rij& ri
     return std::nullopt;
 }
 
+/// Who is known, and what the lines so far did.
+struct Lijstvoorbeeld::Boek {
+    std::unordered_map<Tekst, int> bekenden; ///< the first row with each mark
+    std::unordered_map<Tekst, Naamdragers> namen;
+    std::unordered_set<Tekst> nieuwen;               ///< their marks
+    std::vector<std::optional<std::size_t>> laatste; ///< line per row of the table
+    std::vector<const Naamdragers*> dragers;         ///< per line
+};
+
 std::optional<Lijstvoorbeeld> Lijstvoorbeeld::Maak(const Spelertabel& tabel,
                                                    const Spelerslijst& lijst,
                                                    Lijstopdracht opdracht,
                                                    const Voortgang& voortgang)
 {
     Lijstvoorbeeld uit(tabel, lijst, std::move(opdracht));
-    const std::size_t geheel = static_cast<std::size_t>(tabel.Rijen()) + uit.regels_.size();
-    std::size_t gedaan = 0;
-    const auto gestopt = [&] {
+    const auto rijen = static_cast<std::size_t>(tabel.Rijen());
+    const std::size_t geheel = rijen + uit.regels_.size();
+    Boek boek;
+    boek.laatste.resize(rijen + 1);
+    for (std::size_t i = 0; i < geheel; ++i) {
         constexpr std::size_t elkeZoveel = 2048;
-        return ++gedaan % elkeZoveel == 0 && voortgang && !voortgang(gedaan, geheel);
-    };
-    std::unordered_map<Tekst, int> bekenden; // the first row with each mark
-    std::unordered_map<Tekst, Naamdragers> namen;
-    for (int rij = 1; rij <= tabel.Rijen(); ++rij) {
-        if (gestopt())
+        if (i % elkeZoveel == 0 && voortgang && !voortgang(i, geheel))
             return std::nullopt;
-        const Rijblikken cellen = tabel.Cellen(rij);
-        const bool hier = cellen[Index(Kolom::Groep)] == uit.groep_;
-        if (Tekst merk = hier || uit.opdracht_.keuze.herkenning == Herkenning::Key
-                             ? uit.Merk(cellen)
-                             : Tekst();
-            !merk.empty())
-            bekenden.try_emplace(std::move(merk), rij);
-        if (hier)
-            namen.try_emplace(Naamsleutel(VolleNaam(tabel, rij)), Naamdragers{.rij = rij});
-    }
-    std::unordered_map<Tekst, std::size_t> nieuwen; // the first line with each mark
-    std::vector<std::optional<std::size_t>> laatste(static_cast<std::size_t>(tabel.Rijen()) + 1);
-    std::vector<const Naamdragers*> dragers;
-    for (std::size_t i = 0; i < uit.regels_.size(); ++i) {
-        if (gestopt())
-            return std::nullopt;
-        Rij rij = uit.LeesRij(i);
-        const Tekst merk = uit.Merk(Blikken(rij.schoon));
-        const auto bekende = bekenden.find(merk);
-        const int was = bekende == bekenden.end() ? 0 : bekende->second;
-        if (was > 0)
-            uit.eerdere_[i] = laatste[static_cast<std::size_t>(was)];
-        uit.Vergelijk(i, rij, was);
-        Voorbeeldregel& regel = uit.regels_[i];
-        Regelbesluit& besluit = uit.besluiten_[i];
-        Naamdragers& naam = namen[Naamsleutel(NaamIn(rij.schoon))];
-        dragers.push_back(&naam);
-        if (const auto bezwaar = uit.Bezwaar(i, rij)) {
-            regel = {.soort = Voorbeeldsoort::Geweigerd, .weigering = *bezwaar};
-            besluit = {.lot = Regellot::Overgeslagen, .kolommen = {}};
-        } else {
-            ++naam.regels;
-            besluit = {.lot = was > 0 ? Regellot::Ververst : Regellot::Nieuw,
-                       .rij = was,
-                       .kolommen = regel.anders};
-            // Who is new stands in the register once, whatever the list says.
-            regel.dubbel = was > 0 ? uit.eerdere_[i].has_value()
-                                   : !merk.empty() && !nieuwen.try_emplace(merk, i).second;
-            if (was > 0)
-                laatste[static_cast<std::size_t>(was)] = i;
-            else if (regel.dubbel)
-                besluit.lot = Regellot::Uitgezet;
-        }
-        uit.wens_.VoegToe(rij.schoon);
+        if (i < rijen)
+            uit.NeemSpeler(boek, static_cast<int>(i) + 1);
+        else
+            uit.NeemRegel(boek, i - rijen);
     }
     for (std::size_t i = 0; i < uit.regels_.size(); ++i) {
         Voorbeeldregel& regel = uit.regels_[i];
         if (regel.soort == Voorbeeldsoort::Nieuw)
-            regel.naamgenoot = dragers[i]->rij;
+            regel.naamgenoot = boek.dragers[i]->rij;
         if (regel.soort <= Voorbeeldsoort::Gewijzigd)
-            regel.dubbel = regel.dubbel || dragers[i]->regels > 1;
+            regel.dubbel = regel.dubbel || boek.dragers[i]->regels > 1;
     }
     uit.Tel();
     return uit;
+}
+
+void Lijstvoorbeeld::NeemSpeler(Boek& boek, int rij) const
+{
+    const Rijblikken cellen = tabel_.Cellen(rij);
+    const bool hier = cellen[Index(Kolom::Groep)] == groep_;
+    if (hier)
+        boek.namen.try_emplace(Naamsleutel(NaamIn(cellen)), Naamdragers{.rij = rij});
+    if (Tekst merk = Merk(cellen);
+        !merk.empty() && (hier || opdracht_.keuze.herkenning == Herkenning::Key))
+        boek.bekenden.try_emplace(std::move(merk), rij);
+}
+
+/// Who is new is added once, whatever the list says: another line for him is off at first.
+void Lijstvoorbeeld::NeemRegel(Boek& boek, std::size_t plek)
+{
+    Rij rij = LeesRij(plek);
+    const Tekst merk = Merk(Blikken(rij.schoon));
+    const auto bekende = boek.bekenden.find(merk);
+    const int was = bekende == boek.bekenden.end() ? 0 : bekende->second;
+    std::optional<std::size_t>& laatste = boek.laatste[static_cast<std::size_t>(was)];
+    if (was > 0)
+        eerdere_[plek] = laatste;
+    Vergelijk(plek, rij, was);
+    Voorbeeldregel& regel = regels_[plek];
+    Naamdragers& naam = boek.namen[Naamsleutel(NaamIn(rij.schoon))];
+    boek.dragers.push_back(&naam);
+    if (const auto bezwaar = Bezwaar(plek, rij)) {
+        regel = {.soort = Voorbeeldsoort::Geweigerd, .weigering = *bezwaar};
+        besluiten_[plek] = {.lot = Regellot::Overgeslagen, .kolommen = {}};
+    } else {
+        ++naam.regels;
+        laatste = plek;
+        const bool isNieuw = was == 0;
+        regel.dubbel = isNieuw ? !merk.empty() && !boek.nieuwen.insert(merk).second
+                               : eerdere_[plek].has_value();
+        besluiten_[plek] = {.lot = !isNieuw       ? Regellot::Ververst
+                                   : regel.dubbel ? Regellot::Uitgezet
+                                                  : Regellot::Nieuw,
+                            .rij = was,
+                            .kolommen = regel.anders};
+    }
+    wens_.VoegToe(rij.schoon);
 }
 
 std::optional<Lijsttelling> Lijstvoorbeeld::VoerUit(Register& spelers) const

@@ -61,6 +61,9 @@ class Lijstvoorbeeld : public Regelvoorbeeld {
     [[nodiscard]] std::size_t Eerste() const { return opdracht_.kop ? 1 : 0; }
     /// By what a player is recognised; empty when he cannot be.
     [[nodiscard]] Tekst Merk(const Rijblikken& cellen) const;
+    struct Boek;
+    void NeemSpeler(Boek& boek, int rij) const;
+    void NeemRegel(Boek& boek, std::size_t regel);
     struct Rij;
     [[nodiscard]] Rij LeesRij(std::size_t regel) const;
     void Vergelijk(std::size_t regel, Rij& rij, int bekende);

@@ -174,14 +174,6 @@ bool HeeftKop(const Spelerslijst& lijst)
     return bekend;
 }
 
-Herkenning RaadHerkenning(const Veldkeuzes& velden)
-{
-    const auto heeft = [&](Kolom veld) { return std::ranges::find(velden, veld) != velden.end(); };
-    return heeft(Kolom::Key)     ? Herkenning::Key
-           : heeft(Kolom::NBBnr) ? Herkenning::NBBnr
-                                 : Herkenning::Naam;
-}
-
 Lijstkeuze RaadVelden(const Spelerslijst& lijst, bool kop)
 {
     Veldkeuzes velden(lijst.Kolommen(), GeenVeld);
@@ -206,7 +198,10 @@ Lijstkeuze RaadVelden(const Spelerslijst& lijst, bool kop)
         else if (plek(Kolom::Voornaam) != velden.end())
             *naam = Kolom::Achternaam;
     }
-    const Herkenning herkenning = RaadHerkenning(velden);
+    const auto heeft = [&](Kolom veld) { return plek(veld) != velden.end(); };
+    const Herkenning herkenning = heeft(Kolom::Key)     ? Herkenning::Key
+                                  : heeft(Kolom::NBBnr) ? Herkenning::NBBnr
+                                                        : Herkenning::Naam;
     return {std::move(velden), herkenning};
 }
 

@@ -27,8 +27,6 @@ struct Lijstkeuze {
 [[nodiscard]] bool HeeftKop(const Spelerslijst& lijst);
 /// The guess.
 [[nodiscard]] Lijstkeuze RaadVelden(const Spelerslijst& lijst, bool kop);
-/// What a list offers to recognise players by.
-[[nodiscard]] Herkenning RaadHerkenning(const Veldkeuzes& velden);
 
 /// First name, particle and surname of "Jan van der Berg", "J. van der Berg" and "Berg, Jan van
 /// der".

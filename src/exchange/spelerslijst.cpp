@@ -139,6 +139,9 @@ class Lijstontleder {
     bool LeesAangehaald();
     [[nodiscard]] std::size_t Einde() const
     {
+        const char teken = tekst_[plek_];
+        if (teken != '\r' && teken != '\n')
+            return 0; // as a rule
         if (vorm_.regeleinde.empty())
             return Eindelengte(tekst_, plek_);
         return tekst_.substr(plek_).starts_with(vorm_.regeleinde) ? vorm_.regeleinde.size() : 0;

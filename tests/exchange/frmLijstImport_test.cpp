@@ -137,6 +137,8 @@ TEST_F(frmLijstImportTest, OnthoudtDeVeldenPerKopregel)
     });
     InVoorbeeld([](QDialog& dia) { dia.reject(); });
     Open();
+    EXPECT_EQ("[Lijsten]\nNAAM-EMAIL-POSTCODE-BIJZONDERHEDEN=\"naam;Naam;;Postc;Email\"\n",
+              suite.Inhoud("venster.ini"));
     InVenster([&](frmLijstImport& dia) {
         dia.Open(Lijst(Leden));
         EXPECT_EQ("Bijzonderheden|Email|=1||", Kolommen(dia)[3]);
@@ -163,8 +165,8 @@ TEST_F(frmLijstImportTest, ToontWatErGevondenIsEnLaatHetAnders)
         EXPECT_EQ("kolom 1|(niet gebruiken)|RenÃ©,Bos|ZoÃ«,Fuik|", Kolommen(dia)[0]);
         Vind<QCheckBox>(dia, "chkKop")->click();
         EXPECT_EQ("RenÃ©,Bos|(niet gebruiken)|ZoÃ«,Fuik||", Kolommen(dia)[0]);
-        Kies(dia, "cmbHerken", u"zijn key, in alle groepen"_s);
-        EXPECT_EQ("Kies eerst in welke kolom de key staat.", Melding(dia));
+        Kies(dia, "cmbHerken", u"zijn sleutel, in alle groepen"_s);
+        EXPECT_EQ("Kies eerst in welke kolom de sleutel (Key) staat.", Melding(dia));
         Kies(dia, "cmbHerken", u"zijn NBB-nummer, in die groep"_s);
         EXPECT_EQ("Kies eerst in welke kolom het NBB-nummer staat.", Melding(dia));
     });
