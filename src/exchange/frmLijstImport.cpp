@@ -47,7 +47,7 @@ QString Fouttekst(const Lijstfout& fout)
     switch (fout.bezwaar) {
     case Lijstbezwaar::GeenTekst:
         return u"Dit is geen lijst: er staan tekens in die in geen tekst voorkomen."_s;
-    case Lijstbezwaar::Tekenset:
+    case Lijstbezwaar::Lijsttekenset:
         return u"Regel %1 is niet in deze tekenset geschreven. Kies een andere, of sla de lijst "
                "opnieuw op."_s.arg(fout.regel);
     case Lijstbezwaar::Aanhaling:
@@ -108,7 +108,7 @@ void frmLijstImport::Bouw()
     lblBestand = new Kortlabel(u"Kies een lijst, zoals een rekenblad die als CSV opslaat."_s, this);
     Noem(lblBestand, u"lblBestand"_s);
     auto* vorm = new QHBoxLayout;
-    cmbTekenset = Keus(vorm, u"Tekenset"_s, u"Tekenset:"_s, u'T',
+    cmbTekenset = Keus(vorm, u"Lijsttekenset"_s, u"Lijsttekenset:"_s, u'T',
                        {u"UTF-8"_s, u"UTF-16"_s, u"Windows"_s}, this);
     cmbScheiding = Keus(vorm, u"Scheiding"_s, u"Scheiding:"_s, u'S',
                         {u"puntkomma"_s, u"komma"_s, u"tab"_s, u"streep |"_s}, this);
@@ -162,7 +162,7 @@ void frmLijstImport::Bouw()
 void frmLijstImport::Verbind()
 {
     connect(cmbTekenset, &QComboBox::activated, this,
-            [this](int set) { Decodeer(static_cast<Tekenset>(set)); });
+            [this](int set) { Decodeer(static_cast<Lijsttekenset>(set)); });
     for (const QComboBox* keus : {cmbScheiding, cmbAanhaling, cmbRegeleinde})
         connect(keus, &QComboBox::activated, this, &frmLijstImport::Lees);
     connect(chkKop, &QCheckBox::clicked, this, &frmLijstImport::RaadKeuze);
@@ -202,12 +202,12 @@ void frmLijstImport::Open(const Pad& bestand)
 }
 
 /// In another character set other signs may be separators and quotes.
-void frmLijstImport::Decodeer(std::optional<Tekenset> tekenset)
+void frmLijstImport::Decodeer(std::optional<Lijsttekenset> tekenset)
 {
     tekst_ = Lijsttekstvan(bytes_, tekenset);
-    if (tekst_ || tekst_.error().bezwaar == Lijstbezwaar::Tekenset)
+    if (tekst_ || tekst_.error().bezwaar == Lijstbezwaar::Lijsttekenset)
         cmbTekenset->setCurrentIndex(static_cast<int>(
-            tekst_ ? tekst_->tekenset : Tekenset::Utf8)); // no other refuses a line
+            tekst_ ? tekst_->tekenset : Lijsttekenset::Utf8)); // no other refuses a line
     if (tekst_) {
         const Lijstvorm vorm = HerkenVorm(tekst_->tekst);
         cmbScheiding->setCurrentIndex(static_cast<int>(Scheidingen.find(vorm.scheiding)));

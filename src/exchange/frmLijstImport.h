@@ -33,7 +33,7 @@ class frmLijstImport : public QDialog {
     void Bouw();
     void Verbind();
     void KiesBestand();
-    void Decodeer(std::optional<Tekenset> tekenset);
+    void Decodeer(std::optional<Lijsttekenset> tekenset);
     void Lees();
     void RaadKeuze();
     void ToonKolommen();

@@ -16,16 +16,16 @@ bool IsVanSet(Tekstblik regel)
 }
 
 /// A text that is UTF-8 but for some lines is just that: by these it is refused.
-Tekenset TekensetVan(Tekstblik bytes)
+Lijsttekenset TekensetVan(Tekstblik bytes)
 {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
-        return Tekenset::Utf16;
+        return Lijsttekenset::Utf16;
     if (bytes.starts_with(Utf8merk))
-        return Tekenset::Utf8;
+        return Lijsttekenset::Utf8;
     std::ptrdiff_t meer = 0;
     for (const Tekstblik regel : Regels(bytes))
         meer += IsUtf8(regel) ? 1 : IsVanSet(regel) ? 0 : -1;
-    return meer > 0 ? Tekenset::Utf8 : Tekenset::Windows1252;
+    return meer > 0 ? Lijsttekenset::Utf8 : Lijsttekenset::Windows1252;
 }
 
 std::u16string Utf16Van(Tekstblik bytes)
@@ -81,15 +81,15 @@ template <class Blik, class Zet> int ZetOm(Blik bron, Lijsttekst& uit, const Zet
 
 } // namespace
 
-Lijstuitkomst<Lijsttekst> Lijsttekstvan(Tekstblik bytes, std::optional<Tekenset> tekenset)
+Lijstuitkomst<Lijsttekst> Lijsttekstvan(Tekstblik bytes, std::optional<Lijsttekenset> tekenset)
 {
     Lijsttekst uit{.tekenset = tekenset.value_or(TekensetVan(bytes))};
     if (bytes.starts_with(Utf8merk))
         bytes.remove_prefix(Utf8merk.size());
     int fout = 0;
-    if (uit.tekenset == Tekenset::Windows1252)
+    if (uit.tekenset == Lijsttekenset::Windows1252)
         uit.tekst = bytes;
-    else if (uit.tekenset == Tekenset::Utf16)
+    else if (uit.tekenset == Lijsttekenset::Utf16)
         fout = ZetOm(std::u16string_view(Utf16Van(bytes)), uit, [](std::u16string_view regel) {
             return std::optional(NaarCodepagina(regel));
         });
@@ -98,7 +98,7 @@ Lijstuitkomst<Lijsttekst> Lijsttekstvan(Tekstblik bytes, std::optional<Tekenset>
             return IsVanSet(regel) ? std::optional(Utf8NaarCodepagina(regel)) : std::nullopt;
         });
     if (fout > 0)
-        return tl::unexpected(Lijstfout{Lijstbezwaar::Tekenset, fout});
+        return tl::unexpected(Lijstfout{Lijstbezwaar::Lijsttekenset, fout});
     if (uit.tekst.find('\0') != Tekst::npos)
         return tl::unexpected(Lijstfout{Lijstbezwaar::GeenTekst});
     return uit;

@@ -11,7 +11,7 @@
 
 namespace plexoran {
 
-enum class Tekenset { Utf8, Utf16, Windows1252 };
+enum class Lijsttekenset { Utf8, Utf16, Windows1252 };
 
 /// How the rows are taken apart.
 struct Lijstvorm {
@@ -21,7 +21,7 @@ struct Lijstvorm {
     bool operator==(const Lijstvorm&) const = default;
 };
 
-enum class Lijstbezwaar { GeenTekst, Tekenset, Aanhaling, TeBreed, TeLang, Leeg, Gestopt };
+enum class Lijstbezwaar { GeenTekst, Lijsttekenset, Aanhaling, TeBreed, TeLang, Leeg, Gestopt };
 
 /// Why a list was not read, and on which line of the file, from 1: text that is none in the
 /// character set, a quote that is never closed, a row that is too wide.
@@ -37,7 +37,7 @@ inline constexpr std::size_t MeesteLijstrijen = 1'000'000;
 
 /// A file in the code page of the register.
 struct Lijsttekst {
-    Tekenset tekenset;
+    Lijsttekenset tekenset;
     Tekst tekst{};
     std::size_t vervangen = 0;          ///< characters that the code page lacks
     std::optional<Vervanging> eerste{}; ///< of them
@@ -46,7 +46,7 @@ struct Lijsttekst {
 
 /// Without a character set in the one that the bytes themselves show.
 [[nodiscard]] Lijstuitkomst<Lijsttekst> Lijsttekstvan(Tekstblik bytes,
-                                                      std::optional<Tekenset> tekenset = {});
+                                                      std::optional<Lijsttekenset> tekenset = {});
 
 /// The rows in which there is anything. Cells are without their quotes.
 class Spelerslijst {

@@ -6,9 +6,9 @@
 
 #include <algorithm>
 
+#include "exchange/frmEtiketten.h"
 #include "exchange/frmExport.h"
 #include "exchange/frmMail.h"
-#include "exchange/frmEtiketten.h"
 #include "mainwindow/frmLedenAdmin.h"
 #include "platform/scherm/berichten.h"
 #include "printing/frmPrintIni.h"

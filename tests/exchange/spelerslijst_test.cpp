@@ -105,10 +105,10 @@ TEST(Spelerslijst, KentDeTekensetten)
     EXPECT_EQ((Rijen{{"Zo\xEB", "x"}}), RijenUit("Zo\xEB;x"));
     EXPECT_EQ((Rijen{{"Zo\xEB", "x"}}), RijenUit(AlsUtf16("Zo\xEB;x", true)));
     EXPECT_EQ((Rijen{{"Zo\xEB", "x"}}), RijenUit(AlsUtf16("Zo\xEB;x", false)));
-    EXPECT_EQ(Tekenset::Utf8, Lijsttekstvan("Zo\xC3\xAB")->tekenset);
-    EXPECT_EQ(Tekenset::Utf16, Lijsttekstvan("\xFE\xFF")->tekenset);
-    EXPECT_EQ(Tekenset::Windows1252, Lijsttekstvan("Jan")->tekenset);
-    EXPECT_EQ("Zo\xC3\xAB", Lijsttekstvan("Zo\xC3\xAB", Tekenset::Windows1252)->tekst);
+    EXPECT_EQ(Lijsttekenset::Utf8, Lijsttekstvan("Zo\xC3\xAB")->tekenset);
+    EXPECT_EQ(Lijsttekenset::Utf16, Lijsttekstvan("\xFE\xFF")->tekenset);
+    EXPECT_EQ(Lijsttekenset::Windows1252, Lijsttekstvan("Jan")->tekenset);
+    EXPECT_EQ("Zo\xC3\xAB", Lijsttekstvan("Zo\xC3\xAB", Lijsttekenset::Windows1252)->tekst);
 }
 
 TEST(Spelerslijst, TeltWatHetSpelerbestandNietKent)
@@ -126,9 +126,10 @@ TEST(Spelerslijst, TeltWatHetSpelerbestandNietKent)
 TEST(Spelerslijst, NoemtDeRegelDieNietInDeTekensetIs)
 {
     const auto fout = [](Lijstbezwaar bezwaar, int regel) { return std::pair(bezwaar, regel); };
-    EXPECT_EQ(fout(Lijstbezwaar::Tekenset, 3), FoutVan(Lees("\xEF\xBB\xBF"
-                                                            "a\nb\nZo\xEB\n")));
-    EXPECT_EQ(fout(Lijstbezwaar::Tekenset, 2), FoutVan(Lees("Zo\xC3\xAB\nRen\xE9\nCh\xC3\xA9\n")));
+    EXPECT_EQ(fout(Lijstbezwaar::Lijsttekenset, 3), FoutVan(Lees("\xEF\xBB\xBF"
+                                                                 "a\nb\nZo\xEB\n")));
+    EXPECT_EQ(fout(Lijstbezwaar::Lijsttekenset, 2),
+              FoutVan(Lees("Zo\xC3\xAB\nRen\xE9\nCh\xC3\xA9\n")));
     EXPECT_EQ(fout(Lijstbezwaar::GeenTekst, 0), FoutVan(Lees(Tekst("GIF89a\0\0;x", 11))));
     EXPECT_EQ(fout(Lijstbezwaar::Leeg, 0), FoutVan(Lees("")));
     EXPECT_EQ(fout(Lijstbezwaar::Leeg, 0), FoutVan(Lees("\r\n ; \r\n")));
