@@ -255,7 +255,7 @@ void frmEtiketten::done(int uitslag)
         if (!StaatEr(this, bewaard))
             MeldFout(
                 this, QMessageBox::Warning,
-                u"Uw eigen etiketvel is niet bewaard. De spelers zijn niet veranderd. Stel het "
+                u"Uw eigen etiketvel is niet opgeslagen. De spelers zijn niet veranderd. Stel het "
                 "vel de volgende keer opnieuw in."_s,
                 bewaard.error());
     }

@@ -298,8 +298,9 @@ TEST_F(frmEtikettenTest, EenVolleSchijfWordtGezegd)
     Kies("cmbVel", 5);
     Getal("spnRijen")->setValue(7);
     schijf.FaalBij(1);
-    wachter.Begin(u"Uw eigen etiketvel is niet bewaard. De spelers zijn niet veranderd. Stel het "
-                  "vel de volgende keer opnieuw in."_s);
+    wachter.Begin(
+        u"Uw eigen etiketvel is niet opgeslagen. De spelers zijn niet veranderd. Stel het "
+        "vel de volgende keer opnieuw in."_s);
     Klik(Knop("cmdAnnuleren"));
     wachter.Klaar();
     EXPECT_FALSE(venster->isVisible());
