@@ -160,6 +160,9 @@ void Lijstvoorbeeld::Vergelijk(std::size_t plek, Rij& rij, int bekende)
     }
     regel.rij = bekende;
     regel.andereNaam = bekende > 0 && IsAndereNaam(oud, Blikken(rij.schoon));
+    // Under another number he may be somebody else of that name.
+    if (regel.anders[Index(Kolom::NBBnr)] && !IsBlanco(oud[Index(Kolom::NBBnr)]))
+        regel.naamgenoot = bekende;
     regel.soort = bekende == 0         ? Voorbeeldsoort::Nieuw
                   : regel.anders.any() ? Voorbeeldsoort::Gewijzigd
                                        : Voorbeeldsoort::Ongewijzigd;

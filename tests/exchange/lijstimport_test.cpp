@@ -160,6 +160,13 @@ TEST_F(LijstimportTest, NoemtWatTwijfelachtigIs)
     EXPECT_EQ(1U, voorbeeld->RegelsUit());
 }
 
+TEST_F(LijstimportTest, EenAnderNummerBijDezelfdeNaamIsTwijfelachtig)
+{
+    EXPECT_EQ((Teksten{"gewijzigd NBBnr:12345>777 naam1", "gewijzigd NBBnr:>778"}),
+              Regels(Bekijk("NBBnr;Naam;Postcode\n777;An de Bos;0101AA\n778;Eva Fuik;0202 BB\n",
+                            Herkenning::Naam)));
+}
+
 TEST_F(LijstimportTest, WieTweeKeerInDeLijstStaatWordtOpVolgordeGewijzigd)
 {
     EXPECT_EQ((Teksten{"gewijzigd Plaats:Ede>Goes dubbel", "gewijzigd Plaats:Goes>Ede dubbel",
