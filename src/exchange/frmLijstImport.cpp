@@ -108,7 +108,7 @@ void frmLijstImport::Bouw()
     lblBestand = new Kortlabel(u"Kies een lijst, zoals een rekenblad die als CSV opslaat."_s, this);
     Noem(lblBestand, u"lblBestand"_s);
     auto* vorm = new QHBoxLayout;
-    cmbTekenset = Keus(vorm, u"Lijsttekenset"_s, u"Lijsttekenset:"_s, u'T',
+    cmbTekenset = Keus(vorm, u"Tekenset"_s, u"Tekenset:"_s, u'T',
                        {u"UTF-8"_s, u"UTF-16"_s, u"Windows"_s}, this);
     cmbScheiding = Keus(vorm, u"Scheiding"_s, u"Scheiding:"_s, u'S',
                         {u"puntkomma"_s, u"komma"_s, u"tab"_s, u"streep |"_s}, this);
