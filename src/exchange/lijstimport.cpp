@@ -80,8 +80,9 @@ template <class Rij> Tekst NaamIn(const Rij& velden)
 Tekstblik ZonderWacht(Tekstblik cel)
 {
     constexpr Tekstblik gevaarlijk = "=+-@\t\r";
+    const auto plek = cel.find_first_not_of('\'');
     const bool wacht =
-        cel.size() > 1 && cel.front() == '\'' && gevaarlijk.find(cel[1]) != Tekstblik::npos;
+        plek > 0 && plek != Tekstblik::npos && gevaarlijk.find(cel[plek]) != Tekstblik::npos;
     return cel.substr(wacht ? 1 : 0);
 }
 
