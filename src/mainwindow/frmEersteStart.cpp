@@ -239,7 +239,8 @@ std::optional<Pad> frmEersteStart::KiesBestaande()
     if (lstSuites->currentRow() >= 0)
         return Gelezen(suites_[static_cast<std::size_t>(lstSuites->currentRow())]);
     Meld(this, QMessageBox::Information,
-         u"Kies een administratie uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'."_s);
+         u"Kies een administratie uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'. "
+         "Er is nog niets veranderd."_s);
     return std::nullopt;
 }
 
@@ -248,7 +249,8 @@ std::optional<Pad> frmEersteStart::MaakNieuwe()
     const Tekst club(ZonderSpaties(txtClub->GeefTekst()));
     const Pad map = NieuweMap();
     if (const std::string bezwaar = Naambezwaar(club, map); !bezwaar.empty()) {
-        Meld(this, QMessageBox::Warning, QString::fromStdString(bezwaar));
+        Meld(this, QMessageBox::Warning,
+             QString::fromStdString(bezwaar) + u" Er is nog niets gemaakt."_s);
         txtClub->setFocus();
         return std::nullopt;
     }

@@ -161,9 +161,10 @@ void frmLedenAdmin::ToonSpeler()
     const QString naam = NaarQString(VolleNaam(tabel, GekozenRij()));
     const Tekst key = GekozenKey();
     if (key.empty())
-        Meld(this, QMessageBox::Information,
-             u"%1 heeft geen sleutel. Daarom is niet te zeggen wat er van deze speler is "
-             "gewijzigd."_s.arg(naam));
+        Meld(
+            this, QMessageBox::Information,
+            u"%1 heeft geen sleutel. Daarom is niet te zeggen wat er van deze speler is "
+            "gewijzigd. Er is niets veranderd. Kijk in de hele geschiedenis (Ctrl+H)."_s.arg(naam));
     else
         ToonGeschiedenis(key, u" van "_s + naam);
 }

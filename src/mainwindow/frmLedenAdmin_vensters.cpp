@@ -201,7 +201,8 @@ void frmLedenAdmin::KiesAdministratie()
     if (!MagKiezen(administratie_)) {
         Meld(this, QMessageBox::Information,
              u"U kunt hier geen andere administratie kiezen: er staat een 'Mappen.ini' bij het "
-             "programma, of Plexoran is gestart met --mappen."_s);
+             "programma, of Plexoran is gestart met --mappen. Er is niets veranderd. Wilt u kunnen "
+             "kiezen, haal dat bestand dan weg of start Plexoran zonder --mappen."_s);
         return;
     }
     frmEersteStart keus(administratie_.schijf, *administratie_.eersteStart, this,

@@ -159,7 +159,7 @@ std::string Naambezwaar(Tekstblik club, const Pad& map)
         return "In de naam van uw club kan dit niet staan, want die krijgt ook de map: " +
                NaarUtf8(tekens) + "\n\nKies een andere naam.";
     if (club.ends_with('.'))
-        return "De naam van een map kan niet eindigen op een punt.";
+        return "De naam van een map kan niet eindigen op een punt. Kies een andere naam.";
     if (map.size() > langste)
         return "De naam van de map is te lang: met alle mappen erboven heeft hij " +
                std::to_string(map.size()) + " tekens, en er kunnen er " + std::to_string(langste) +

@@ -171,7 +171,7 @@ TEST_F(frmEersteStartTest, EenSuiteDieErgensAndersStaatWordtAangewezen)
     Open();
     Kies("optBestaand");
     wachter.Informatie(
-        u"Kies een administratie uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'."_s);
+        u"Kies een administratie uit de lijst, of zoek met Bladeren het bestand 'Mappen.ini'. Er is nog niets veranderd."_s);
     Klik(Knop("cmdVerder"));
     VerwachtBestandskeus(map.Weg() / "Mappen.ini",
                          u"Kies het bestand 'Mappen.ini' van de administratie"_s);
@@ -299,7 +299,7 @@ TEST_F(frmEersteStartTest, EenNaamDieNietKanWordtGezegd)
     wachter.Begin(u"Vul de naam van uw club in."_s);
     Klik(Knop("cmdVerder"));
     EXPECT_EQ("txtClub", venster->focusWidget()->objectName().toStdString());
-    weigert({}, u"Vul de naam van uw club in."_s);
+    weigert({}, u"Vul de naam van uw club in. Er is nog niets gemaakt."_s);
     weigert(u"  "_s, u"Vul de naam van uw club in."_s);
     weigert(u"Zuid/Oost"_s,
             u"In de naam van uw club kan dit niet staan, want die krijgt ook de map: /\n\nKies een "
@@ -479,7 +479,7 @@ class Begin : public testing::Test, protected Thuis {
     {
         wachter.Informatie(
             u"U kunt hier geen andere administratie kiezen: er staat een "
-            "'Mappen.ini' bij het programma, of Plexoran is gestart met --mappen."_s);
+            "'Mappen.ini' bij het programma, of Plexoran is gestart met --mappen. Er is niets veranderd. Wilt u kunnen kiezen, haal dat bestand dan weg of start Plexoran zonder --mappen."_s);
         venster->findChild<QAction*>(u"actAdministratie"_s)->trigger();
         wachter.Klaar();
     }

@@ -228,7 +228,8 @@ TEST_F(GeschiedenisTest, VanWieGeenSleutelHeeftIsErGeenGeschiedenis)
     HerstartMet(spelers.replace(spelers.find("1,100001,"), 9, "1,,"));
     KiesRegel(1);
     wachter.Informatie(u"Willem van der Horst heeft geen sleutel. Daarom is niet te zeggen wat er "
-                       "van deze speler is gewijzigd."_s);
+                       "van deze speler is gewijzigd. Er is niets veranderd. Kijk in de hele "
+                       "geschiedenis (Ctrl+H)."_s);
     venster->findChild<QAction*>(u"actGeschiedenisGekozen"_s)->trigger();
     wachter.Klaar();
 }

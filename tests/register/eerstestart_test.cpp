@@ -227,7 +227,8 @@ TEST(Naambezwaar, ZegtWatErAanDeNaamMankeert)
         "In de naam van uw club kan dit niet staan, want die krijgt ook de map: /?\n\nKies een "
         "andere naam.",
         Naambezwaar("A/B?/", club));
-    EXPECT_EQ("De naam van een map kan niet eindigen op een punt.", Naambezwaar("..", club));
+    EXPECT_EQ("De naam van een map kan niet eindigen op een punt. Kies een andere naam.",
+              Naambezwaar("..", club));
     EXPECT_EQ("", Naambezwaar("Club", Pad(150, 'x')));
     EXPECT_TRUE(
         Naambezwaar("Club", Pad(151, 'x'))
