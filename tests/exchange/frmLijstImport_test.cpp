@@ -137,8 +137,10 @@ TEST_F(frmLijstImportTest, OnthoudtDeVeldenPerKopregel)
     });
     InVoorbeeld([](QDialog& dia) { dia.reject(); });
     Open();
+    std::string onthouden = suite.Inhoud("venster.ini");
+    std::erase(onthouden, '\r'); // of Windows
     EXPECT_EQ("[Lijsten]\nNAAM-EMAIL-POSTCODE-BIJZONDERHEDEN=\"naam;Naam;;Postc;Email\"\n",
-              suite.Inhoud("venster.ini"));
+              onthouden);
     InVenster([&](frmLijstImport& dia) {
         dia.Open(Lijst(Leden));
         EXPECT_EQ("Bijzonderheden|Email|=1||", Kolommen(dia)[3]);
