@@ -22,13 +22,6 @@ constexpr bool IsFormuleteken(char teken)
            teken == '\r';
 }
 
-/// Apostrophes in front count with it: one more can always be taken off again.
-bool LijktFormule(Tekstblik tekst)
-{
-    const auto plek = tekst.find_first_not_of('\'');
-    return plek != Tekstblik::npos && IsFormuleteken(tekst[plek]);
-}
-
 void VoegCelToe(Tekst& uit, Tekstblik tekst)
 {
     const bool aangehaald = std::ranges::any_of(tekst, MoetAangehaald);
@@ -102,6 +95,12 @@ bool VoegGewoneToe(Tekst& uit, const Uitvoer& uitvoer, int rij, const Reeksen& r
 }
 
 } // namespace
+
+bool LijktFormule(Tekstblik tekst)
+{
+    const auto plek = tekst.find_first_not_of('\'');
+    return plek != Tekstblik::npos && IsFormuleteken(tekst[plek]);
+}
 
 Uitvoerbytes MaakCsv(const Uitvoer& uitvoer, Tekenset tekenset, const Voortgang& voortgang)
 {

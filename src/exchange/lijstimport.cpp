@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "exchange/uitvoer.h"
 #include "register/veldregels.h"
 
 namespace plexoran {
@@ -79,10 +80,7 @@ template <class Rij> Tekst NaamIn(const Rij& velden)
 
 Tekstblik ZonderWacht(Tekstblik cel)
 {
-    constexpr Tekstblik gevaarlijk = "=+-@\t\r";
-    const auto plek = cel.find_first_not_of('\'');
-    const bool wacht =
-        plek > 0 && plek != Tekstblik::npos && gevaarlijk.find(cel[plek]) != Tekstblik::npos;
+    const bool wacht = cel.starts_with('\'') && LijktFormule(cel);
     return cel.substr(wacht ? 1 : 0);
 }
 

@@ -26,6 +26,10 @@ using Uitvoerbytes = Uitkomst<std::optional<Tekst>>;
     return !voortgang || rij % stap != 0 || voortgang(rij, rijen);
 }
 
+/// Whether a sheet would calculate the text. Apostrophes in front of it do not count: one more put
+/// there as a guard can always be taken off again.
+[[nodiscard]] bool LijktFormule(Tekstblik tekst);
+
 enum class Tekenset { Utf8, Windows1252 };
 /// A text that a sheet would take for a formula gets an apostrophe in front.
 [[nodiscard]] Uitvoerbytes MaakCsv(const Uitvoer& uitvoer, Tekenset tekenset,

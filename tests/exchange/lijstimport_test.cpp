@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "exchange/uitvoer.h"
+#include "hulp/tabelmaker.h"
 
 using namespace plexoran;
 
@@ -20,15 +21,6 @@ const Tekst Spelers =
     "2,100002,Gr02-,Eva,,Fuik,,,,0202 BB,,,,,,,B,\r\n"
     "3,100003,Gr05-,Cor,,Dam,,,,,,,,,,,CLUB,00000222\r\n"
     "4,100004,Gr07-,Els,,Gaal,,,,,,,,,,,,333\r\n";
-
-Register Lees(const Tekst& inhoud)
-{
-    Spelerlezing lezing = SpelersUit(inhoud);
-    Register spelers;
-    spelers.tabel = std::move(*lezing.tabel);
-    spelers.HKEY = lezing.HKEY.value_or(0);
-    return spelers;
-}
 
 class LijstimportTest : public testing::Test {
   protected:

@@ -13,15 +13,6 @@ using Teksten = std::vector<Tekst>;
 
 constexpr auto Kop = "HKEY=100042\r\n";
 
-Register Lees(const Tekst& inhoud)
-{
-    Spelerlezing lezing = SpelersUit(inhoud);
-    Register spelers;
-    spelers.tabel = std::move(*lezing.tabel);
-    spelers.HKEY = lezing.HKEY.value_or(0);
-    return spelers;
-}
-
 /// Two members and a namesake of the first in another group.
 Register DrieSpelers()
 {

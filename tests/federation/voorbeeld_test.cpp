@@ -26,15 +26,6 @@ const Tekst Spelers =
     "3,100003,Gr05-,Cor,,Dam,,,,,,,,,,,CLUB,222\r\n"
     "4,100004,Gr05-,Els,,Gaal,,,,,,,,,,,CURSUS,333\r\n";
 
-Register Lees(const Tekst& inhoud)
-{
-    Spelerlezing lezing = SpelersUit(inhoud);
-    Register spelers;
-    spelers.tabel = std::move(*lezing.tabel);
-    spelers.HKEY = lezing.HKEY.value_or(0);
-    return spelers;
-}
-
 class VoorbeeldTest : public testing::Test {
   protected:
     Voorbeeld Bekijk(Teksten regels, const Tekst& subgroep = "Club")

@@ -38,6 +38,16 @@ inline Spelertabel MaakTabel(const std::vector<Proefspeler>& spelers)
     return tabel;
 }
 
+/// As a start reads it.
+inline Register Lees(const Tekst& inhoud)
+{
+    Spelerlezing lezing = SpelersUit(inhoud);
+    Register spelers;
+    spelers.tabel = std::move(*lezing.tabel);
+    spelers.HKEY = lezing.HKEY.value_or(0);
+    return spelers;
+}
+
 /// Every row with all its cells, so that a change anywhere shows.
 inline std::vector<Rijvelden> AlleRijen(const Spelertabel& tabel)
 {
